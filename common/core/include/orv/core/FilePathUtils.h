@@ -1,0 +1,20 @@
+#pragma once
+
+#include <orv/core/Export.h>
+
+#include <QString>
+
+/// The long-path rules of Windows, applied on every system: workflows travel, and a path that one machine
+/// writes has to open on the other.
+namespace orv::FilePathUtils {
+
+/// MAX_PATH of the Windows API, which counts the terminating zero: 260 characters.
+[[nodiscard]] ORV_WORKFLOW_EXPORT int winMaxPathLength();
+
+/// Whether \a path has winMaxPathLength() characters or more, so that it needs the long-path prefix.
+[[nodiscard]] ORV_WORKFLOW_EXPORT bool isWinLongPath(const QString &path);
+
+/// Whether \a path begins with "\\?\" (or with "//?/", its form with slashes).
+[[nodiscard]] ORV_WORKFLOW_EXPORT bool hasWinLongPathPrefix(const QString &path);
+
+} // namespace orv::FilePathUtils

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <orv/core/Export.h>
+#include <orv/core/Result.h>
+
+#include <QByteArray>
+#include <QFileDevice>
+#include <QString>
+
+/// Whole files in and out, safely.
+namespace orv::FileUtils {
+
+/// The largest file that readFile takes unless it is told otherwise: 128 MiB. A document of 10,000 samples
+/// has about a tenth of that; what is larger is no workflow, and would fill the memory of a cluster node.
+inline constexpr qint64 kMaxFileSize = qint64(128) * 1024 * 1024;
+
+/// All bytes of a regular file. Fails with CannotOpenFile and the message "Could not open the file: %1" for
+/// what is missing, unreadable, a folder or no regular file (a pipe would block for ever), and with
+/// InvalidContent for a file larger than \a maxSize. Details name the reason and the remedy.
+[[nodiscard]] ORV_WORKFLOW_EXPORT Result<QByteArray> readFile(const QString &path, qint64 maxSize = kMaxFileSize);
+
+/// Replaces the file at \a path by \a bytes, whole or not at all: the bytes go to a file beside it, which is
+/// flushed and then renamed, so that an interrupted or failed write leaves the old file as it was. Answers
+/// QFileDevice::NoError (0) on success; otherwise \a errorText, when not null, receives the device's words.
+ORV_WORKFLOW_EXPORT QFileDevice::FileError writeToFile(const QString &path, const QByteArray &bytes,
+                                                       QString *errorText = nullptr);
+
+} // namespace orv::FileUtils

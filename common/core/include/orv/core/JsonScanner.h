@@ -1,0 +1,24 @@
+#pragma once
+
+#include <orv/core/Export.h>
+
+#include <QByteArrayView>
+#include <QString>
+
+#include <optional>
+
+namespace orv {
+
+/// A key that stands twice in one object of a JSON text.
+struct DuplicateKey
+{
+    QString key;
+    qsizetype offset = 0; ///< byte offset of the second occurrence
+};
+
+/// Finds the first key that stands twice in one object of \a json, which must be well-formed JSON. Parsers
+/// silently keep one of the two, so a document would lose the other. Linear in time; memory grows with the
+/// keys of the objects that are open at one place.
+[[nodiscard]] ORV_WORKFLOW_EXPORT std::optional<DuplicateKey> findDuplicateKey(QByteArrayView json);
+
+} // namespace orv

@@ -1,0 +1,147 @@
+#include <orv/core/JsonUtils.h>
+
+#include <orv/core/JsonScanner.h>
+
+#include <QCoreApplication>
+
+namespace orv::JsonUtils {
+
+namespace {
+
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(JsonUtils)
+};
+
+QString placeText(QByteArrayView json, qsizetype offset)
+{
+    const TextPosition position = positionOfOffset(json, offset);
+    return Tr::tr("Line %1, column %2.").arg(position.line).arg(position.column);
+}
+
+bool looksLikeUtf16(const QByteArray &json)
+{
+    return json.startsWith("\xFF\xFE") || json.startsWith("\xFE\xFF")
+           || (json.size() >= 4 && (json[0] == '\0' || json[1] == '\0'));
+}
+
+QString remedyFor(QJsonParseError::ParseError error, const QByteArray &json)
+{
+    if (json.isEmpty())
+        return Tr::tr("The text is empty.");
+    if (looksLikeUtf16(json))
+        return Tr::tr("The text looks like UTF-16; save it as UTF-8.");
+    switch (error) {
+    case QJsonParseError::IllegalUTF8String:
+        return Tr::tr("The text is not valid UTF-8 from there on; save it as UTF-8.");
+    case QJsonParseError::DeepNesting:
+        return Tr::tr("Arrays and objects are nested too deeply; at most 1024 levels are read.");
+    case QJsonParseError::IllegalNumber:
+        return Tr::tr("The number can't be stored as a double.");
+    case QJsonParseError::GarbageAtEnd:
+        return Tr::tr("Text follows behind the document; remove it.");
+    case QJsonParseError::DocumentTooLarge:
+        return Tr::tr("The document is too large for one JSON document.");
+    default:
+        return Tr::tr("Mend the text at that place, or restore the file from a copy.");
+    }
+}
+
+template<typename T>
+Result<T> typedValue(const QJsonObject &object, const QString &key, QJsonValue::Type type,
+                     T (*convert)(const QJsonValue &))
+{
+    const QJsonValue value = object.value(key);
+    if (value.type() == type)
+        return convert(value);
+    return Error(ErrorCode::InvalidContent, Tr::tr("\"%1\" must be %2, but there is %3.")
+                                                .arg(key, typeDescription(type), typeDescription(value.type())));
+}
+
+} // namespace
+
+TextPosition positionOfOffset(QByteArrayView json, qsizetype offset)
+{
+    const QByteArrayView before = json.first(std::clamp<qsizetype>(offset, 0, json.size()));
+    const qsizetype lineStart = before.lastIndexOf('\n') + 1;
+    TextPosition position;
+    position.line += std::count(before.begin(), before.end(), '\n');
+    position.column += QString::fromUtf8(before.sliced(lineStart)).size();
+    return position;
+}
+
+Result<QJsonDocument> documentFromJson(const QByteArray &json)
+{
+    QJsonParseError parseError;
+    QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
+    if (parseError.error != QJsonParseError::NoError || document.isNull()) {
+        Error error(ErrorCode::InvalidContent, parseError.errorString());
+        error.addDetail(placeText(json, parseError.offset));
+        error.addDetail(remedyFor(parseError.error, json));
+        return error;
+    }
+    if (const std::optional<DuplicateKey> duplicate = findDuplicateKey(json)) {
+        Error error(ErrorCode::InvalidContent,
+                    Tr::tr("the key \"%1\" stands twice in one object").arg(duplicate->key));
+        error.addDetail(placeText(json, duplicate->offset));
+        error.addDetail(Tr::tr("Only one of the two values could be kept; remove the wrong one."));
+        return error;
+    }
+    return document;
+}
+
+Result<QJsonObject> objectFromJson(const QByteArray &json)
+{
+    Result<QJsonDocument> document = documentFromJson(json);
+    if (document.hasError())
+        return document.ecatch();
+    if (!document->isObject())
+        return Error(ErrorCode::InvalidContent, Tr::tr("The JSON document is not an object."));
+    return document->object();
+}
+
+Result<QJsonObject> objectValue(const QJsonObject &object, const QString &key)
+{
+    return typedValue<QJsonObject>(object, key, QJsonValue::Object,
+                                   [](const QJsonValue &value) { return value.toObject(); });
+}
+
+Result<QJsonArray> arrayValue(const QJsonObject &object, const QString &key)
+{
+    return typedValue<QJsonArray>(object, key, QJsonValue::Array,
+                                  [](const QJsonValue &value) { return value.toArray(); });
+}
+
+Result<QString> stringValue(const QJsonObject &object, const QString &key)
+{
+    return typedValue<QString>(object, key, QJsonValue::String,
+                               [](const QJsonValue &value) { return value.toString(); });
+}
+
+QByteArray toCompactJson(const QJsonObject &object)
+{
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+QString typeDescription(QJsonValue::Type type)
+{
+    switch (type) {
+    case QJsonValue::Null:
+        return Tr::tr("null");
+    case QJsonValue::Bool:
+        return Tr::tr("a bool");
+    case QJsonValue::Double:
+        return Tr::tr("a number");
+    case QJsonValue::String:
+        return Tr::tr("a string");
+    case QJsonValue::Array:
+        return Tr::tr("an array");
+    case QJsonValue::Object:
+        return Tr::tr("an object");
+    case QJsonValue::Undefined:
+        break;
+    }
+    return Tr::tr("nothing");
+}
+
+} // namespace orv::JsonUtils

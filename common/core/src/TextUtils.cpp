@@ -1,0 +1,46 @@
+#include <orv/core/TextUtils.h>
+
+#include <QCoreApplication>
+
+namespace orv::TextUtils {
+
+namespace {
+
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(TextUtils)
+};
+
+QString headed(const QString &heading, const QStringList &texts)
+{
+    if (texts.isEmpty())
+        return {};
+    return QStringLiteral("<b>%1</b>").arg(heading.toHtmlEscaped()) + stringListToHtmlList(texts);
+}
+
+} // namespace
+
+QString stringListToHtmlList(const QStringList &texts)
+{
+    if (texts.isEmpty())
+        return {};
+    QString html = QStringLiteral("<ul>");
+    for (const QString &text : texts) {
+        QString item = text.toHtmlEscaped();
+        item.replace(QLatin1Char('\n'), QLatin1String("<br>"));
+        html += QLatin1String("<li>") + item + QLatin1String("</li>");
+    }
+    return html + QLatin1String("</ul>");
+}
+
+QString errorsListToHtmlList(const QStringList &errors)
+{
+    return headed(Tr::tr("%n error(s)", nullptr, int(errors.size())), errors);
+}
+
+QString warningsListToHtmlList(const QStringList &warnings)
+{
+    return headed(Tr::tr("%n warning(s)", nullptr, int(warnings.size())), warnings);
+}
+
+} // namespace orv::TextUtils

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <orv/core/Export.h>
+#include <orv/core/Result.h>
+#include <orv/samples/MetadataMapping.h>
+
+#include <QHash>
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+
+namespace orv {
+
+/// What a document remembers of the server's sample metadata: a cache of values by resource, so that the
+/// document can be shown without the server, and the connections that say where the values go.
+///
+/// JSON form: {"metadataCache": [{"reference": text, "values": [{"attribute", "value"}]}],
+/// "metadataMappingConnections": [{"attribute", "target": number}]}. Cache entries are written in the order
+/// of their references. Members that this version doesn't know are kept and written back, at every level.
+/// A plain value.
+class ORV_WORKFLOW_EXPORT ExtendedMetadataInfo
+{
+public:
+    /// By the text form of a resource reference.
+    using MetadataCache = QHash<QString, QList<TalvaneExtendedMetaDataValue>>;
+
+    /// Missing members read as empty. A member of the wrong type fails with InvalidContent, naming it.
+    [[nodiscard]] static Result<ExtendedMetadataInfo> fromJson(const QJsonObject &json);
+    [[nodiscard]] QJsonObject toJson() const;
+
+    [[nodiscard]] MetadataCache metadataCache() const { return m_cache; }
+    void setMetadataCache(const MetadataCache &cache) { m_cache = cache; }
+
+    [[nodiscard]] QList<TalvaneMetadataMappingConnection> metadataMappingConnections() const
+    {
+        return m_connections;
+    }
+    void setMetadataMappingConnections(const QList<TalvaneMetadataMappingConnection> &connections)
+    {
+        m_connections = connections;
+    }
+
+    bool operator==(const ExtendedMetadataInfo &) const = default;
+
+private:
+    MetadataCache m_cache;
+    QList<TalvaneMetadataMappingConnection> m_connections;
+    QJsonObject m_unknown;
+    QHash<QString, QJsonObject> m_unknownOfCacheEntries;
+};
+
+} // namespace orv

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QList>
+#include <QString>
+
+namespace orv {
+
+/// Which table receives a value of the server's sample metadata. Stored in files, never renumber.
+enum class MappingTarget {
+    None = 0,
+    Samples = 1,
+    IntactProteins = 2,
+};
+
+/// One attribute of a server resource and its value, such as "Column temperature" and 60.
+struct TalvaneExtendedMetaDataValue
+{
+    QString attribute;
+    QJsonValue value;
+    QJsonObject unknownMembers; ///< read from a file of a newer version, written back as they stand
+
+    bool operator==(const TalvaneExtendedMetaDataValue &) const = default;
+};
+
+/// The user's wish that values of an attribute go to a table.
+struct TalvaneMetadataMappingConnection
+{
+    QString attribute;
+    MappingTarget target = MappingTarget::None; ///< a number that this version doesn't know is kept
+    QJsonObject unknownMembers;
+
+    bool operator==(const TalvaneMetadataMappingConnection &) const = default;
+};
+
+/// A value on its way into a table: for which samples, what, and where to.
+struct MetadataMapping
+{
+    QList<int> sampleIds;
+    TalvaneExtendedMetaDataValue value;
+    MappingTarget target = MappingTarget::None;
+
+    bool operator==(const MetadataMapping &) const = default;
+};
+
+} // namespace orv

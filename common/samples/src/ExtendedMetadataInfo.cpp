@@ -1,0 +1,159 @@
+#include <orv/samples/ExtendedMetadataInfo.h>
+
+#include <orv/core/JsonUtils.h>
+
+#include <QCoreApplication>
+#include <QJsonArray>
+
+#include <algorithm>
+
+namespace orv {
+
+namespace {
+
+constexpr QLatin1String kCacheKey("metadataCache");
+constexpr QLatin1String kConnectionsKey("metadataMappingConnections");
+constexpr QLatin1String kReferenceKey("reference");
+constexpr QLatin1String kValuesKey("values");
+constexpr QLatin1String kAttributeKey("attribute");
+constexpr QLatin1String kValueKey("value");
+constexpr QLatin1String kTargetKey("target");
+
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(ExtendedMetadataInfo)
+};
+
+QJsonObject without(QJsonObject object, std::initializer_list<QLatin1String> keys)
+{
+    for (QLatin1String key : keys)
+        object.remove(key);
+    return object;
+}
+
+/// Reads the elements of the array \a key of \a object, which may be absent, with \a read.
+template<typename T>
+Result<QList<T>> readList(const QJsonObject &object, QLatin1String key, Result<T> (*read)(const QJsonObject &))
+{
+    if (!object.contains(key))
+        return QList<T>();
+    Result<QJsonArray> array = JsonUtils::arrayValue(object, key);
+    if (array.hasError())
+        return array.ecatch();
+    QList<T> list;
+    list.reserve(array->size());
+    for (const QJsonValue &element : *array) {
+        Result<T> item = read(element.toObject());
+        if (item.hasError()) {
+            return item.ecatch().addDetail(
+                Tr::tr("It is element %1 of \"%2\" in the extended metadata.").arg(list.size()).arg(key));
+        }
+        list.append(std::move(item).value());
+    }
+    return list;
+}
+
+template<typename T>
+QJsonArray writeList(const QList<T> &list, QJsonObject (*write)(const T &))
+{
+    QJsonArray array;
+    for (const T &item : list)
+        array.append(write(item));
+    return array;
+}
+
+Result<TalvaneExtendedMetaDataValue> readValue(const QJsonObject &object)
+{
+    Result<QString> attribute = JsonUtils::stringValue(object, kAttributeKey);
+    if (attribute.hasError())
+        return attribute.ecatch();
+    return TalvaneExtendedMetaDataValue{*attribute, object.value(kValueKey),
+                                        without(object, {kAttributeKey, kValueKey})};
+}
+
+QJsonObject writeValue(const TalvaneExtendedMetaDataValue &value)
+{
+    QJsonObject object = value.unknownMembers;
+    object.insert(kAttributeKey, value.attribute);
+    if (!value.value.isUndefined())
+        object.insert(kValueKey, value.value);
+    return object;
+}
+
+Result<TalvaneMetadataMappingConnection> readConnection(const QJsonObject &object)
+{
+    Result<QString> attribute = JsonUtils::stringValue(object, kAttributeKey);
+    if (attribute.hasError())
+        return attribute.ecatch();
+    if (!object.value(kTargetKey).isDouble())
+        return Error(ErrorCode::InvalidContent, Tr::tr("\"%1\" must be a number.").arg(kTargetKey));
+    return TalvaneMetadataMappingConnection{*attribute, MappingTarget(object.value(kTargetKey).toInt()),
+                                            without(object, {kAttributeKey, kTargetKey})};
+}
+
+QJsonObject writeConnection(const TalvaneMetadataMappingConnection &connection)
+{
+    QJsonObject object = connection.unknownMembers;
+    object.insert(kAttributeKey, connection.attribute);
+    object.insert(kTargetKey, int(connection.target));
+    return object;
+}
+
+struct CacheEntry
+{
+    QString reference;
+    QList<TalvaneExtendedMetaDataValue> values;
+    QJsonObject unknownMembers;
+};
+
+Result<CacheEntry> readCacheEntry(const QJsonObject &object)
+{
+    Result<QString> reference = JsonUtils::stringValue(object, kReferenceKey);
+    if (reference.hasError())
+        return reference.ecatch();
+    Result<QList<TalvaneExtendedMetaDataValue>> values = readList(object, kValuesKey, readValue);
+    if (values.hasError())
+        return values.ecatch();
+    return CacheEntry{*reference, *values, without(object, {kReferenceKey, kValuesKey})};
+}
+
+} // namespace
+
+Result<ExtendedMetadataInfo> ExtendedMetadataInfo::fromJson(const QJsonObject &json)
+{
+    Result<QList<CacheEntry>> entries = readList(json, kCacheKey, readCacheEntry);
+    if (entries.hasError())
+        return entries.ecatch();
+    Result<QList<TalvaneMetadataMappingConnection>> connections = readList(json, kConnectionsKey, readConnection);
+    if (connections.hasError())
+        return connections.ecatch();
+
+    ExtendedMetadataInfo info;
+    info.m_connections = *connections;
+    info.m_unknown = without(json, {kCacheKey, kConnectionsKey});
+    for (const CacheEntry &entry : *entries) {
+        info.m_cache[entry.reference] += entry.values;
+        if (!entry.unknownMembers.isEmpty())
+            info.m_unknownOfCacheEntries.insert(entry.reference, entry.unknownMembers);
+    }
+    return info;
+}
+
+QJsonObject ExtendedMetadataInfo::toJson() const
+{
+    QStringList references = m_cache.keys();
+    std::sort(references.begin(), references.end());
+    QJsonArray cache;
+    for (const QString &reference : references) {
+        QJsonObject entry = m_unknownOfCacheEntries.value(reference);
+        entry.insert(kReferenceKey, reference);
+        entry.insert(kValuesKey, writeList(m_cache.value(reference), writeValue));
+        cache.append(entry);
+    }
+    QJsonObject json = m_unknown;
+    json.insert(kCacheKey, cache);
+    json.insert(kConnectionsKey, writeList(m_connections, writeConnection));
+    return json;
+}
+
+} // namespace orv

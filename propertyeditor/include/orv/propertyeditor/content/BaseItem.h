@@ -1,0 +1,72 @@
+#pragma once
+
+#include <orv/core/Export.h>
+#include <orv/core/Error.h>
+#include <orv/propertyeditor/content/BaseItemType.h>
+#include <orv/propertyeditor/content/ContentOptions.h>
+#include <orv/propertyeditor/content/LoadContext.h>
+
+#include <QJsonObject>
+#include <QMap>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+namespace orv::PropertyEditor {
+
+/// One cell of a document: the common fields, and the interface of all kinds of cells. Owned by its
+/// ItemSubGroup. Lives on the thread that made it.
+class ORV_WORKFLOW_EXPORT BaseItem : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(orv::ORV_QEnumsBaseItemType::BaseItemType type READ type)
+
+public:
+    explicit BaseItem(BaseItemType type);
+    ~BaseItem() override;
+
+    /// The JSON object of the cell. The body here writes the common keys.
+    Q_INVOKABLE virtual QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const = 0;
+
+    /// Replaces the item by what \a json holds. The body here reads the common keys, and never fails.
+    virtual Error assignFromJson(const QJsonObject &json, ValidationOptions options) = 0;
+
+    /// The URL against which relative file references of the item are resolved.
+    virtual void setBaseUrl(const QUrl &url);
+
+    Q_INVOKABLE virtual void clear() = 0;
+
+    [[nodiscard]] BaseItemType type() const { return m_type; }
+    [[nodiscard]] QString typeString() const { return typeToString(m_type); }
+    [[nodiscard]] QString name() const { return m_name; }
+    [[nodiscard]] QString title() const { return m_title; }
+    /// Compact JSON text of the cell's stamp, as read.
+    [[nodiscard]] QString metadata() const { return m_metadata; }
+
+    /// Unknown for an empty text, and, with a warning, for a text that is no type.
+    [[nodiscard]] static BaseItemType typeFromString(const QString &text);
+    [[nodiscard]] static QString typeToString(BaseItemType type);
+    [[nodiscard]] static QMap<BaseItemType, QString> typeNameMap();
+    /// In ascending order of the types' numbers.
+    [[nodiscard]] static QStringList typeNames();
+
+    /// Where the next load stands in its document; set by the owner before assignFromJson.
+    void setLoadContext(const LoadContext &context) { m_loadContext = context; }
+
+Q_SIGNALS:
+    /// The item was loaded anew.
+    void reset();
+
+protected:
+    [[nodiscard]] const LoadContext &loadContext() const { return m_loadContext; }
+
+private:
+    BaseItemType m_type;
+    QString m_name;
+    QString m_metadata;
+    QString m_title;
+    LoadContext m_loadContext;
+};
+
+} // namespace orv::PropertyEditor

@@ -1,0 +1,142 @@
+#pragma once
+
+#include <orv/core/Export.h>
+#include <orv/core/Result.h>
+#include <orv/propertyeditor/content/BaseItemType.h>
+#include <orv/propertyeditor/content/ContentOptions.h>
+#include <orv/propertyeditor/content/PropertyEditorContent.h>
+#include <orv/propertyeditor/workflow/WorkflowType.h>
+#include <orv/samples/ExtendedMetadataInfo.h>
+
+#include <QByteArray>
+#include <QExplicitlySharedDataPointer>
+#include <QJsonObject>
+#include <QList>
+#include <QObject>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+#include <memory>
+
+namespace orv {
+class LossObserver;
+}
+
+namespace orv::PropertyEditor {
+
+class BaseItem;
+class ExtendedMetadataSink;
+class ItemGroup;
+
+/// The object form of a workflow document: the tree of tabs (ItemGroup), columns (ItemSubGroup) and cells
+/// (BaseItem), with signals as it changes.
+///
+/// Copies share one tree; each emits signals for the changes made through it. The tree lives on the thread
+/// that loaded it, and is not guarded.
+/// \code
+///     Content content;
+///     if (Error error = content.assignFromFile(path))
+///         return error.ecatch();
+///     content.setWorkflowName(name);
+///     if (!content.save(path)) ...
+/// \endcode
+class ORV_WORKFLOW_EXPORT Content : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QStringList groupNames READ groupNames)
+    Q_PROPERTY(int size READ count)
+
+public:
+    Content();
+    Content(const Content &other);
+    Content &operator=(const Content &other);
+    ~Content() override;
+
+    /// Loads a file. The tree is untouched when the file can't be read (CannotOpenFile) or holds no JSON
+    /// object (InvalidContent); after a later failure it holds the tabs read so far, and the object should be
+    /// discarded. The base URL becomes the URL of the file itself.
+    Error assignFromFile(const QString &fileName, ValidationOptions options = {});
+    Error assignFromJson(const QJsonObject &json, ValidationOptions options = {});
+
+    /// Load the metadata document alone; the tree stays. A file that can't be read leaves empty metadata.
+    void assignMetaDataFromFile(const QString &fileName);
+    void assignMetaDataFromJsonObject(const QJsonObject &json);
+
+    /// Hears of everything that later loads drop by their rules; null for nobody. Not owned.
+    void setLossObserver(LossObserver *observer);
+
+    /// The indented text of the document. No stamp is applied: version, user and time stay as loaded.
+    [[nodiscard]] QByteArray toJson(PropertyConversionFlag flag) const;
+    /// Writes toJson(KeepPaths), whole or not at all; false, with a warning, when the file can't be written.
+    Q_INVOKABLE bool save(const QString &fileName) const;
+
+    /// Deletes every tab and forgets the base URL; the metadata stay. Emits nothing.
+    Q_INVOKABLE void clear();
+
+    [[nodiscard]] bool isEmpty() const { return count() == 0; }
+    [[nodiscard]] int count() const;
+    /// Null, with a warning, outside the range.
+    [[nodiscard]] ItemGroup *group(int index) const;
+    /// The first of exactly that name, null for none.
+    [[nodiscard]] ItemGroup *group(const QString &name) const;
+    [[nodiscard]] QList<ItemGroup *> groups() const;
+    [[nodiscard]] QStringList groupNames() const;
+    Q_INVOKABLE [[nodiscard]] bool contains(const QString &name) const;
+    /// False, with a warning, for an empty name or one that exists.
+    Q_INVOKABLE bool addGroup(const QString &name);
+    Q_INVOKABLE bool removeGroup(int index);
+    Q_INVOKABLE bool removeGroup(const QString &name);
+    bool removeGroup(ItemGroup *group);
+
+    [[nodiscard]] QString fileName() const;
+    [[nodiscard]] QUrl baseUrl() const;
+    /// Passed down to every item, which resolves its relative file references against it.
+    void setBaseUrl(const QUrl &url);
+
+    [[nodiscard]] QJsonObject metadata() const;
+    [[nodiscard]] QString name() const;
+    [[nodiscard]] QString description() const;
+    [[nodiscard]] QString iconName() const;
+    [[nodiscard]] QString version() const;
+    [[nodiscard]] WorkflowType workflowType() const;
+    void setWorkflowName(const QString &name);
+    void setWorkflowType(WorkflowType type);
+    [[nodiscard]] PropertyEditorContent::ContentMode contentMode() const;
+    void setDesktopContentMode();
+    void setTalvaneContentMode();
+
+    [[nodiscard]] ExtendedMetadataInfo extendedMetadataInfo() const;
+
+    /// Types of all items in the tree.
+    [[nodiscard]] QSet<BaseItemType> allItems() const;
+    /// Items whose own type is among \a types, in tree order.
+    [[nodiscard]] QList<BaseItem *> findAllItems(const QSet<BaseItemType> &types) const;
+    [[nodiscard]] QList<BaseItem *> findAllItems(BaseItemType type) const;
+
+    /// Writes \a text to the info log.
+    Q_INVOKABLE void log(const QString &text) const;
+
+Q_SIGNALS:
+    void groupAdded(orv::PropertyEditor::ItemGroup *group);
+    /// The group is out of the list and will be deleted when the signals are through.
+    void groupRemoved(int index);
+    void groupRemoved(const QString &groupName);
+    void groupRemoved(orv::PropertyEditor::ItemGroup *group);
+    void groupCountChanged(int count);
+    void reset();
+
+private:
+    class ContentData;
+
+    Error loadExtendedMetadata(const QJsonObject &json);
+    Error loadTabs(const QJsonObject &json, ValidationOptions options);
+    void rebuildSinks();
+    void adoptNewGroup(std::unique_ptr<ItemGroup> group);
+    [[nodiscard]] int indexOf(const QString &name) const;
+
+    QExplicitlySharedDataPointer<ContentData> d;
+};
+
+} // namespace orv::PropertyEditor

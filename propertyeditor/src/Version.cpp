@@ -1,0 +1,10 @@
+#include <orv/propertyeditor/Version.h>
+
+namespace orv {
+
+QString libraryVersion()
+{
+    return QStringLiteral(ORV_VERSION);
+}
+
+} // namespace orv

@@ -1,0 +1,100 @@
+#include <orv/propertyeditor/content/BaseItem.h>
+
+#include <orv/core/Logging.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+
+#include <QMetaEnum>
+
+namespace orv::PropertyEditor {
+
+using namespace PropertyEditorStringConstants;
+
+namespace {
+
+void insertUnlessEmpty(QJsonObject &json, QLatin1String key, const QString &text)
+{
+    if (!text.isEmpty())
+        json.insert(key, text);
+}
+
+QMap<BaseItemType, QString> buildTypeNameMap()
+{
+    QMap<BaseItemType, QString> names;
+    const QMetaEnum metaEnum = QMetaEnum::fromType<BaseItemType>();
+    for (int i = 0; i < metaEnum.keyCount(); ++i) {
+        const char *key = metaEnum.key(i);
+        bool ok = false;
+        const int value = metaEnum.keyToValue(key, &ok);
+        if (ok)
+            names.insert(BaseItemType(value), QString::fromLatin1(key));
+        else
+            qCWarning(propertyEditorLog) << "Cannot retrieve enum value for a key" << key;
+    }
+    return names;
+}
+
+} // namespace
+
+BaseItem::BaseItem(BaseItemType type)
+    : m_type(type)
+{
+}
+
+BaseItem::~BaseItem() = default;
+
+QJsonObject BaseItem::toJson(PropertyConversionFlag flag) const
+{
+    Q_UNUSED(flag)
+    QJsonObject json;
+    insertUnlessEmpty(json, META_IN_JSON_KEY, m_metadata);
+    json.insert(TYPE_KEY, typeString());
+    insertUnlessEmpty(json, NAME_KEY, m_name);
+    insertUnlessEmpty(json, TITLE_KEY, m_title);
+    return json;
+}
+
+Error BaseItem::assignFromJson(const QJsonObject &json, ValidationOptions options)
+{
+    Q_UNUSED(options)
+    m_metadata = json.value(META_IN_JSON_KEY).toString();
+    m_type = typeFromString(json.value(TYPE_KEY).toString());
+    m_name = json.value(NAME_KEY).toString();
+    m_title = json.value(TITLE_KEY).toString();
+    return Error::NoError;
+}
+
+void BaseItem::setBaseUrl(const QUrl &url)
+{
+    Q_UNUSED(url)
+}
+
+BaseItemType BaseItem::typeFromString(const QString &text)
+{
+    if (text.isEmpty())
+        return BaseItemType::Unknown;
+    bool ok = false;
+    const int value = QMetaEnum::fromType<BaseItemType>().keyToValue(text.toUtf8().constData(), &ok);
+    if (ok)
+        return BaseItemType(value);
+    qCWarning(propertyEditorLog) << "Can't find type" << text;
+    return BaseItemType::Unknown;
+}
+
+QString BaseItem::typeToString(BaseItemType type)
+{
+    return QString::fromLatin1(QMetaEnum::fromType<BaseItemType>().valueToKey(type));
+}
+
+QMap<BaseItemType, QString> BaseItem::typeNameMap()
+{
+    static const QMap<BaseItemType, QString> names = buildTypeNameMap();
+    return names;
+}
+
+QStringList BaseItem::typeNames()
+{
+    static const QStringList names = typeNameMap().values();
+    return names;
+}
+
+} // namespace orv::PropertyEditor

@@ -1,0 +1,7 @@
+#include <orv/propertyeditor/content/ExtendedMetadataSink.h>
+
+namespace orv::PropertyEditor {
+
+ExtendedMetadataSink::~ExtendedMetadataSink() = default;
+
+} // namespace orv::PropertyEditor

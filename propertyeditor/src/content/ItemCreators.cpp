@@ -1,0 +1,71 @@
+#include "ItemCreators.h"
+
+#include <orv/propertyeditor/content/UnsupportedItem.h>
+
+#include <array>
+
+namespace orv::PropertyEditor {
+
+namespace {
+
+template<typename Item>
+std::unique_ptr<BaseItem> create(BaseItemType type)
+{
+    return std::make_unique<Item>(type);
+}
+
+struct Row
+{
+    BaseItemType type;
+    std::unique_ptr<BaseItem> (*create)(BaseItemType type);
+};
+
+// Cells are held whole until a class understands them, so that no document loses one.
+constexpr std::array kRows = {
+    Row{BaseItemType::Unknown, create<UnsupportedItem>},
+    Row{BaseItemType::Senthia, create<UnsupportedItem>},
+    Row{BaseItemType::Dravik, create<UnsupportedItem>},
+    Row{BaseItemType::Karvon, create<UnsupportedItem>},
+    Row{BaseItemType::Database, create<UnsupportedItem>},
+    Row{BaseItemType::DetachedGlycans, create<UnsupportedItem>},
+    Row{BaseItemType::Disulfide, create<UnsupportedItem>},
+    Row{BaseItemType::GlycanOptions, create<UnsupportedItem>},
+    Row{BaseItemType::Intact, create<UnsupportedItem>},
+    Row{BaseItemType::IntactOptions, create<UnsupportedItem>},
+    Row{BaseItemType::Oligo, create<UnsupportedItem>},
+    Row{BaseItemType::OligoOptions, create<UnsupportedItem>},
+    Row{BaseItemType::OligoMasses, create<UnsupportedItem>},
+    Row{BaseItemType::Isotope, create<UnsupportedItem>},
+    Row{BaseItemType::Masses, create<UnsupportedItem>},
+    Row{BaseItemType::MultiDocReport, create<UnsupportedItem>},
+    Row{BaseItemType::Proteins, create<UnsupportedItem>},
+    Row{BaseItemType::Preview, create<UnsupportedItem>},
+    Row{BaseItemType::IntactProteins, create<UnsupportedItem>},
+    Row{BaseItemType::OligoMolecules, create<UnsupportedItem>},
+    Row{BaseItemType::Ostrale, create<UnsupportedItem>},
+    Row{BaseItemType::Samples, create<UnsupportedItem>},
+    Row{BaseItemType::SamplesProteins, create<UnsupportedItem>},
+    Row{BaseItemType::Trenq, create<UnsupportedItem>},
+    Row{BaseItemType::TrenqPreview, create<UnsupportedItem>},
+    Row{BaseItemType::CaldrinDIA, create<UnsupportedItem>},
+};
+
+constexpr bool rowsFollowTheNumbers()
+{
+    for (size_t i = 0; i < kRows.size(); ++i) {
+        if (size_t(kRows[i].type) != i)
+            return false;
+    }
+    return true;
+}
+static_assert(rowsFollowTheNumbers(), "the table is read by index");
+
+} // namespace
+
+std::unique_ptr<BaseItem> createItem(BaseItemType type)
+{
+    const auto index = size_t(type);
+    return index < kRows.size() ? kRows[index].create(type) : nullptr;
+}
+
+} // namespace orv::PropertyEditor

@@ -1,0 +1,315 @@
+#include <orv/propertyeditor/content/ItemGroup.h>
+
+#include <orv/core/Logging.h>
+#include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/content/ItemSubGroup.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QMetaEnum>
+
+#include <array>
+#include <new>
+#include <vector>
+
+namespace orv::PropertyEditor {
+
+using namespace PropertyEditorStringConstants;
+
+class ItemGroup::Private : public QSharedData
+{
+public:
+    std::vector<std::unique_ptr<ItemSubGroup>> subGroups;
+    QString name;
+
+    [[nodiscard]] bool hasIndex(int index) const { return index >= 0 && index < int(subGroups.size()); }
+};
+
+namespace {
+
+/// The cells of one column on their way from the file's rows.
+struct ColumnCells
+{
+    QJsonArray cells;
+    BaseItemType type = BaseItemType::Unknown;
+};
+
+std::vector<ColumnCells> splitIntoColumns(const QJsonArray &cells, qsizetype columnCount)
+{
+    std::vector<ColumnCells> columns(static_cast<size_t>(columnCount));
+    for (qsizetype i = 0; i < cells.size(); ++i) {
+        const QJsonValue cell = cells.at(i);
+        ColumnCells &column = columns[size_t(i % columnCount)];
+        column.type = BaseItem::typeFromString(cell.toObject().value(TYPE_KEY).toString());
+        column.cells.append(cell);
+    }
+    return columns;
+}
+
+void reportUnknownMembers(const QJsonObject &json, const LoadContext &context)
+{
+    if (!context.isObserved())
+        return;
+    constexpr std::array known = {COLUMNS_KEY, CELLS_KEY, NAME_KEY};
+    for (auto it = json.begin(); it != json.end(); ++it) {
+        if (std::find(known.begin(), known.end(), it.key()) == known.end()) {
+            context.lost(it.key(), ItemGroup::tr("member \"%1\" of a tab").arg(it.key()),
+                         ItemGroup::tr("the format has no such member"));
+        }
+    }
+    const QJsonArray columns = json.value(COLUMNS_KEY).toArray();
+    for (qsizetype i = 0; i < columns.size(); ++i) {
+        if (!columns.at(i).isString()) {
+            context.member(COLUMNS_KEY)
+                .lost(QString::number(i), ItemGroup::tr("column name that is no text"),
+                      ItemGroup::tr("it reads as an empty name"));
+        }
+    }
+}
+
+} // namespace
+
+ItemGroup::ItemGroup()
+    : d(new Private)
+{
+}
+
+// A copy is another view of the same columns; QObject's own part is never shared.
+ItemGroup::ItemGroup(const ItemGroup &other)
+    : QObject()
+    , d(other.d)
+{
+}
+
+ItemGroup &ItemGroup::operator=(const ItemGroup &other)
+{
+    d = other.d;
+    return *this;
+}
+
+ItemGroup::~ItemGroup() = default;
+
+Error ItemGroup::assignFromJson(const QJsonObject &json, ValidationOptions options, const LoadContext &context)
+{
+    const QJsonValue columnsValue = json.value(COLUMNS_KEY);
+    const QJsonValue nameValue = json.value(NAME_KEY);
+    const QJsonValue cellsValue = json.value(CELLS_KEY);
+    const QJsonArray columnNames = columnsValue.toArray();
+    const QJsonArray cells = cellsValue.toArray();
+    const bool cellsWithoutColumns = columnNames.isEmpty() && !cells.isEmpty();
+    if (!columnsValue.isArray() || !nameValue.isString() || !cellsValue.isArray() || cellsWithoutColumns) {
+        return Error(ErrorCode::MalformedStructure,
+                     QStringLiteral("JSON format is incorrect: columns || name || cells"));
+    }
+
+    clear();
+    d->name = nameValue.toString();
+    reportUnknownMembers(json, context);
+    if (columnNames.isEmpty()) {
+        Q_EMIT reset();
+        return Error::NoError;
+    }
+
+    const std::vector<ColumnCells> columns = splitIntoColumns(cells, columnNames.size());
+    d->subGroups.reserve(columns.size());
+    for (size_t c = 0; c < columns.size(); ++c) {
+        std::unique_ptr<ItemSubGroup> subGroup(new (std::nothrow) ItemSubGroup);
+        if (!subGroup)
+            return Error(ErrorCode::MalformedStructure, QStringLiteral("Cannot allocate a new SubGroup"));
+        const QString columnName = columnNames.at(qsizetype(c)).toString();
+        Error error = subGroup->assignFromJson(columns[c].cells, columnName, options,
+                                               context.column(qsizetype(c), columnNames.size()));
+        if (error.hasError()) {
+            const auto row = subGroup->count() + 1;
+            return error.addDetail(tr("Column %1 (\"%2\"), row %3.").arg(c + 1).arg(columnName).arg(row)).ecatch();
+        }
+        adoptNewSubGroup(std::move(subGroup), columns[c].type);
+    }
+    Q_EMIT reset();
+    return Error::NoError;
+}
+
+QJsonObject ItemGroup::toJson(PropertyConversionFlag flag) const
+{
+    QJsonArray names;
+    std::vector<QJsonArray> columns;
+    columns.reserve(d->subGroups.size());
+    for (const auto &subGroup : d->subGroups) {
+        names.append(subGroup->name());
+        columns.push_back(subGroup->toJson(flag));
+    }
+
+    QJsonArray cells;
+    const qsizetype rows = columns.empty() ? 0 : columns.front().size();
+    for (qsizetype j = 0; j < rows; ++j) {
+        for (const QJsonArray &column : columns) {
+            if (j >= column.size()) {
+                qCWarning(propertyEditorLog) << "j is out of bounds";
+                return {};
+            }
+            cells.append(column.at(j));
+        }
+    }
+
+    QJsonObject json;
+    json.insert(COLUMNS_KEY, names);
+    json.insert(CELLS_KEY, cells);
+    json.insert(NAME_KEY, d->name);
+    return json;
+}
+
+void ItemGroup::setBaseUrl(const QUrl &url)
+{
+    for (const auto &subGroup : d->subGroups)
+        subGroup->setBaseUrl(url);
+}
+
+QString ItemGroup::name() const
+{
+    return d->name;
+}
+
+bool ItemGroup::setName(const QString &name)
+{
+    if (name.isEmpty()) {
+        qCWarning(propertyEditorLog) << "Cannot assign an empty group name";
+        return false;
+    }
+    d->name = name;
+    return true;
+}
+
+int ItemGroup::count() const
+{
+    return int(d->subGroups.size());
+}
+
+ItemSubGroup *ItemGroup::subGroup(int index) const
+{
+    if (!d->hasIndex(index)) {
+        qCWarning(propertyEditorLog) << "SubGroup index is out of bounds";
+        return nullptr;
+    }
+    return d->subGroups[size_t(index)].get();
+}
+
+QList<ItemSubGroup *> ItemGroup::subGroups() const
+{
+    QList<ItemSubGroup *> subGroups;
+    subGroups.reserve(count());
+    for (const auto &subGroup : d->subGroups)
+        subGroups.append(subGroup.get());
+    return subGroups;
+}
+
+QList<ItemSubGroup *> ItemGroup::subGroups(BaseItemType type) const
+{
+    QList<ItemSubGroup *> found;
+    for (const auto &subGroup : d->subGroups) {
+        if (subGroup && subGroup->type() == type)
+            found.append(subGroup.get());
+    }
+    return found;
+}
+
+QStringList ItemGroup::subGroupNames() const
+{
+    QStringList names;
+    names.reserve(count());
+    for (const auto &subGroup : d->subGroups)
+        names.append(subGroup->name());
+    return names;
+}
+
+QVariantList ItemGroup::findSubGroups(const QString &typeName) const
+{
+    if (typeName.isEmpty())
+        return {};
+    bool ok = false;
+    const int type = QMetaEnum::fromType<BaseItemType>().keyToValue(typeName.toUtf8().constData(), &ok);
+    if (!ok)
+        return {};
+    QVariantList found;
+    for (ItemSubGroup *subGroup : subGroups(BaseItemType(type)))
+        found.append(QVariant::fromValue(subGroup));
+    return found;
+}
+
+bool ItemGroup::contains(const QString &name) const
+{
+    return indexOf(name) >= 0;
+}
+
+bool ItemGroup::addSubGroup(const QString &name, BaseItemType type)
+{
+    if (name.isEmpty()) {
+        qCWarning(propertyEditorLog) << "Cannot add a new subgroup with an empty name";
+        return false;
+    }
+    std::unique_ptr<ItemSubGroup> subGroup(new (std::nothrow) ItemSubGroup);
+    if (!subGroup) {
+        qCWarning(propertyEditorLog) << "Cannot allocate a new SubGroup";
+        return false;
+    }
+    subGroup->setName(name);
+    adoptNewSubGroup(std::move(subGroup), type);
+    return true;
+}
+
+bool ItemGroup::removeSubGroup(int index)
+{
+    if (!d->hasIndex(index)) {
+        qCWarning(propertyEditorLog) << "SubGroup index is out of bounds";
+        return false;
+    }
+    const std::unique_ptr<ItemSubGroup> removed = std::move(d->subGroups[size_t(index)]);
+    d->subGroups.erase(d->subGroups.begin() + index);
+    if (!removed) {
+        qCWarning(propertyEditorLog) << "The subgroup for deletion is null";
+        return false;
+    }
+    Q_EMIT subGroupRemoved(index);
+    Q_EMIT subGroupRemoved(removed->name());
+    Q_EMIT subGroupRemoved(removed.get());
+    Q_EMIT subGroupCountChanged(count());
+    return true;
+}
+
+bool ItemGroup::removeSubGroup(const QString &name)
+{
+    const int index = indexOf(name);
+    return index >= 0 && removeSubGroup(index);
+}
+
+bool ItemGroup::removeSubGroup(ItemSubGroup *subGroup)
+{
+    const auto found = std::find_if(d->subGroups.begin(), d->subGroups.end(),
+                                    [subGroup](const auto &candidate) { return candidate.get() == subGroup; });
+    return found != d->subGroups.end() && removeSubGroup(int(found - d->subGroups.begin()));
+}
+
+void ItemGroup::clear()
+{
+    d->subGroups.clear();
+}
+
+int ItemGroup::indexOf(const QString &name) const
+{
+    for (size_t i = 0; i < d->subGroups.size(); ++i) {
+        if (d->subGroups[i] && d->subGroups[i]->name() == name)
+            return int(i);
+    }
+    return -1;
+}
+
+void ItemGroup::adoptNewSubGroup(std::unique_ptr<ItemSubGroup> subGroup, BaseItemType type)
+{
+    ItemSubGroup *const adopted = subGroup.get();
+    adopted->setType(type);
+    d->subGroups.push_back(std::move(subGroup));
+    Q_EMIT subGroupAdded(adopted);
+    Q_EMIT subGroupCountChanged(count());
+}
+
+} // namespace orv::PropertyEditor

@@ -1,0 +1,210 @@
+#include <orv/propertyeditor/content/ItemSubGroup.h>
+
+#include "ItemCreators.h"
+
+#include <orv/core/Logging.h>
+#include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+
+#include <QCoreApplication>
+#include <QJsonObject>
+
+#include <vector>
+
+namespace orv::PropertyEditor {
+
+using namespace PropertyEditorStringConstants;
+
+class ItemSubGroup::Private : public QSharedData
+{
+public:
+    std::vector<std::unique_ptr<BaseItem>> items;
+    QString name;
+    BaseItemType type = BaseItemType::Unknown;
+
+    [[nodiscard]] bool hasIndex(int index) const { return index >= 0 && index < int(items.size()); }
+};
+
+ItemSubGroup::ItemSubGroup()
+    : d(new Private)
+{
+}
+
+// A copy is another view of the same items; QObject's own part is never shared.
+ItemSubGroup::ItemSubGroup(const ItemSubGroup &other)
+    : QObject()
+    , d(other.d)
+{
+}
+
+ItemSubGroup &ItemSubGroup::operator=(const ItemSubGroup &other)
+{
+    d = other.d;
+    return *this;
+}
+
+ItemSubGroup::~ItemSubGroup() = default;
+
+Error ItemSubGroup::assignFromJson(const QJsonArray &cells, const QString &name, ValidationOptions options,
+                                   const LoadContext &context)
+{
+    clear();
+    d->name = name;
+    d->items.reserve(size_t(cells.size()));
+    for (qsizetype i = 0; i < cells.size(); ++i) {
+        const QJsonObject cell = cells.at(i).toObject();
+        if (cell.isEmpty())
+            return Error(ErrorCode::MalformedStructure);
+        Result<BaseItem *> item = createItemFromJson(cell, options, context.element(i));
+        if (item.hasError())
+            return item.ecatch();
+    }
+    Q_EMIT reset();
+    return Error::NoError;
+}
+
+QJsonArray ItemSubGroup::toJson(PropertyConversionFlag flag) const
+{
+    QJsonArray cells;
+    for (const auto &item : d->items)
+        cells.append(item->toJson(flag));
+    return cells;
+}
+
+void ItemSubGroup::setBaseUrl(const QUrl &url)
+{
+    for (const auto &item : d->items)
+        item->setBaseUrl(url);
+}
+
+QString ItemSubGroup::name() const
+{
+    return d->name;
+}
+
+bool ItemSubGroup::setName(const QString &name)
+{
+    if (name.isEmpty()) {
+        qCWarning(propertyEditorLog) << "Cannot assign an empty group name";
+        return false;
+    }
+    d->name = name;
+    return true;
+}
+
+BaseItemType ItemSubGroup::type() const
+{
+    return d->type;
+}
+
+void ItemSubGroup::setType(BaseItemType type)
+{
+    d->type = type;
+}
+
+int ItemSubGroup::count() const
+{
+    return int(d->items.size());
+}
+
+QList<BaseItem *> ItemSubGroup::items() const
+{
+    QList<BaseItem *> items;
+    items.reserve(count());
+    for (const auto &item : d->items)
+        items.append(item.get());
+    return items;
+}
+
+BaseItem *ItemSubGroup::item(int index) const
+{
+    if (!d->hasIndex(index)) {
+        qCWarning(propertyEditorLog) << "Index is out of bounds";
+        return nullptr;
+    }
+    return d->items[size_t(index)].get();
+}
+
+QList<BaseItem *> ItemSubGroup::findItems(BaseItemType type) const
+{
+    QList<BaseItem *> found;
+    for (const auto &item : d->items) {
+        if (item && item->type() == type)
+            found.append(item.get());
+    }
+    return found;
+}
+
+bool ItemSubGroup::addItem(BaseItemType type)
+{
+    std::unique_ptr<BaseItem> item = allocateNewItem(type);
+    if (!item)
+        return false;
+    adoptNewItem(std::move(item));
+    return true;
+}
+
+bool ItemSubGroup::removeItem(int index)
+{
+    if (!d->hasIndex(index)) {
+        qCWarning(propertyEditorLog) << "Index is out of bounds";
+        return false;
+    }
+    const std::unique_ptr<BaseItem> removed = std::move(d->items[size_t(index)]);
+    d->items.erase(d->items.begin() + index);
+    if (!removed) {
+        qCWarning(propertyEditorLog) << "The item for deletion is null";
+        return false;
+    }
+    Q_EMIT itemRemoved(index);
+    Q_EMIT itemRemoved(removed.get());
+    return true;
+}
+
+bool ItemSubGroup::removeItem(BaseItem *item)
+{
+    const auto found = std::find_if(d->items.begin(), d->items.end(),
+                                    [item](const auto &candidate) { return candidate.get() == item; });
+    return found != d->items.end() && removeItem(int(found - d->items.begin()));
+}
+
+void ItemSubGroup::clear()
+{
+    d->items.clear();
+}
+
+std::unique_ptr<BaseItem> ItemSubGroup::allocateNewItem(BaseItemType type)
+{
+    std::unique_ptr<BaseItem> item = createItem(type);
+    if (!item)
+        qCWarning(propertyEditorLog) << "Failed to create a new item of type" << BaseItem::typeToString(type);
+    return item;
+}
+
+void ItemSubGroup::adoptNewItem(std::unique_ptr<BaseItem> item)
+{
+    BaseItem *const adopted = item.get();
+    d->items.push_back(std::move(item));
+    Q_EMIT itemAdded(adopted);
+}
+
+Result<BaseItem *> ItemSubGroup::createItemFromJson(const QJsonObject &json, ValidationOptions options,
+                                                    const LoadContext &context)
+{
+    const QString typeText = json.value(TYPE_KEY).toString();
+    const BaseItemType type = BaseItem::typeFromString(typeText);
+    if (type == BaseItemType::Unknown && !options.testFlag(ValidationOption::SkipTypeValidation))
+        return Error(ErrorCode::InvalidContent, tr("Type \"%1\" is not supported.").arg(typeText));
+
+    std::unique_ptr<BaseItem> item = allocateNewItem(type);
+    if (!item)
+        return Error(ErrorCode::InvalidContent, tr("Can't create item for \"%1\" type.").arg(typeText));
+
+    item->setLoadContext(context);
+    ORV_RETURN_IF_ERROR(item->assignFromJson(json, options));
+    BaseItem *const adopted = item.get();
+    adoptNewItem(std::move(item));
+    return adopted;
+}
+
+} // namespace orv::PropertyEditor

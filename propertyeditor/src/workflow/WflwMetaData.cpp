@@ -1,0 +1,142 @@
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
+
+#include <orv/core/AppUtils.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+
+#include <QDateTime>
+#include <QMetaEnum>
+
+namespace orv {
+
+using namespace PropertyEditorStringConstants;
+
+QString workflowAppTypeToString(WorkflowAppType type)
+{
+    if (type == WorkflowAppType::Talvane)
+        return QStringLiteral("Mirel for Talvane");
+    return QString::fromLatin1(QMetaEnum::fromType<WorkflowAppType>().valueToKey(type));
+}
+
+QVersionNumber WflwMetaData::currentWorkflowVersion()
+{
+    return {WORKFLOW_JSON_VERSION_MAJOR, WORKFLOW_JSON_VERSION_MINOR, WORKFLOW_JSON_VERSION_PATCH};
+}
+
+QList<QVersionNumber> WflwMetaData::specialVersions()
+{
+    static const QList<QVersionNumber> versions = {QVersionNumber(3)};
+    return versions;
+}
+
+QList<QVersionNumber> WflwMetaData::unsupportedVersions()
+{
+    return {};
+}
+
+WflwMetaData::WflwState WflwMetaData::checkWorkflowVersion(const QVersionNumber &version,
+                                                           const PropertyEditorContent *content,
+                                                           QStringList *messages)
+{
+    if (specialVersions().contains(version))
+        return WflwState::NeedsUpgrade;
+    if (!isSupportedVersion(version, contentMode(content->metadata()))) {
+        messages->append(
+            tr("The version of the specified workflow (%1) is deprecated and not supported").arg(version.toString()));
+        return WflwState::NotSupported;
+    }
+    if (version.segmentCount() > 0 && version.majorVersion() > WORKFLOW_JSON_VERSION_MAJOR) {
+        messages->append(tr("The workflow's version is %1, but the current software supports only workflow "
+                            "versions up to %2.x.x")
+                             .arg(version.toString())
+                             .arg(WORKFLOW_JSON_VERSION_MAJOR));
+        return WflwState::NotSupported;
+    }
+    return version < currentWorkflowVersion() ? WflwState::NeedsUpgrade : WflwState::UpToDate;
+}
+
+bool WflwMetaData::isSupportedVersion(const QVersionNumber &version, PropertyEditorContent::ContentMode mode)
+{
+    if (unsupportedVersions().contains(version))
+        return false;
+    return mode != PropertyEditorContent::ContentMode::TalvaneMode || version >= QVersionNumber(5, 9, 1);
+}
+
+QJsonObject WflwMetaData::metaDataObject(const QString &user)
+{
+    return {{USER_KEY, user.isEmpty() ? AppUtils::currentUserName() : user},
+            {CREATED_KEY, QDateTime::currentDateTime().toString(Qt::ISODate)},
+            {VERSION_KEY, currentWorkflowVersion().toString()}};
+}
+
+QJsonObject WflwMetaData::stamped(const QJsonObject &object, const QString &user)
+{
+    QJsonObject result = object;
+    const QJsonObject stamp = metaDataObject(user);
+    for (auto it = stamp.begin(); it != stamp.end(); ++it)
+        result.insert(it.key(), it.value());
+    return result;
+}
+
+QString WflwMetaData::nameFromMetaDataObject(const QJsonObject &object)
+{
+    return object.value(NAME_KEY).toString();
+}
+
+void WflwMetaData::setNameInMetaDataObject(QJsonObject *object, const QString &name)
+{
+    object->insert(NAME_KEY, name);
+}
+
+QString WflwMetaData::descriptionFromMetaDataObject(const QJsonObject &object)
+{
+    return object.value(DESCRIPTION_KEY).toString();
+}
+
+void WflwMetaData::setDescriptionInMetaDataObject(QJsonObject *object, const QString &text)
+{
+    object->insert(DESCRIPTION_KEY, text);
+}
+
+QString WflwMetaData::iconNameFromMetaDataObject(const QJsonObject &object)
+{
+    return object.value(ICON_KEY).toString();
+}
+
+void WflwMetaData::setIconNameInMetaDataObject(QJsonObject *object, const QString &name)
+{
+    object->insert(ICON_KEY, name);
+}
+
+QString WflwMetaData::versionFromMetaDataObject(const QJsonObject &object)
+{
+    const QJsonValue version = object.value(VERSION_KEY);
+    return version.isString() ? version.toString() : QString::number(version.toInt());
+}
+
+QVersionNumber WflwMetaData::versionNumberFromMetaDataObject(const QJsonObject &object)
+{
+    return QVersionNumber::fromString(versionFromMetaDataObject(object));
+}
+
+PropertyEditorContent::ContentMode WflwMetaData::contentMode(const QJsonObject &object)
+{
+    return PropertyEditorContent::ContentMode(object.value(CONTENT_MODE_KEY).toInt());
+}
+
+void WflwMetaData::setContentMode(QJsonObject *object, PropertyEditorContent::ContentMode mode)
+{
+    object->insert(CONTENT_MODE_KEY, int(mode));
+}
+
+WorkflowType WflwMetaData::workflowType(const QJsonObject &object)
+{
+    const QJsonValue type = object.value(WORKFLOW_TYPE_KEY);
+    return type.isString() ? workflowTypeFromString(type.toString()) : WorkflowType::Unknown;
+}
+
+void WflwMetaData::setWorkflowType(WorkflowType type, QJsonObject *object)
+{
+    object->insert(WORKFLOW_TYPE_KEY, workflowTypeToString(type));
+}
+
+} // namespace orv
