@@ -1,0 +1,58 @@
+#include "Console.h"
+
+#include <cstdio>
+#include <unistd.h>
+
+namespace orv::cli {
+
+namespace {
+
+bool coloursWanted()
+{
+    static const bool wanted = standardOutputIsTerminal() && qEnvironmentVariableIsEmpty("NO_COLOR");
+    return wanted;
+}
+
+const char *escapeOf(Style style)
+{
+    switch (style) {
+    case Style::Heading:
+        return "\x1b[1m";
+    case Style::Good:
+        return "\x1b[32m";
+    case Style::Caution:
+        return "\x1b[33m";
+    case Style::Bad:
+        return "\x1b[31m";
+    case Style::Faint:
+        return "\x1b[2m";
+    }
+    return "";
+}
+
+} // namespace
+
+bool writeStandardOutput(const QByteArray &bytes)
+{
+    const auto size = static_cast<size_t>(bytes.size());
+    return std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+}
+
+bool standardOutputIsTerminal()
+{
+    return isatty(STDOUT_FILENO) == 1;
+}
+
+bool standardErrorIsTerminal()
+{
+    return isatty(STDERR_FILENO) == 1;
+}
+
+QString styled(const QString &text, Style style)
+{
+    if (!coloursWanted())
+        return text;
+    return QLatin1String(escapeOf(style)) + text + QLatin1String("\x1b[0m");
+}
+
+} // namespace orv::cli

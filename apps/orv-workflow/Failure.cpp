@@ -1,0 +1,44 @@
+#include "Failure.h"
+
+#include <QStringList>
+
+#include <cstdio>
+
+namespace orv::cli {
+
+namespace {
+
+QString oneLine(const QString &text)
+{
+    return text.simplified();
+}
+
+} // namespace
+
+Failure failureFrom(const Error &error, ExitCode exitCode)
+{
+    QStringList parts = error.errorMessages();
+    parts.removeAll(QString());
+    if (parts.isEmpty())
+        parts.append(QStringLiteral("The structure of the document is broken."));
+    parts += error.details();
+    return {exitCode, int(error.code()), oneLine(parts.join(QLatin1Char(' ')))};
+}
+
+QJsonObject toJson(const Failure &failure)
+{
+    return {{QStringLiteral("code"), failure.errorCode}, {QStringLiteral("message"), failure.message}};
+}
+
+void printRemark(const QString &file, const QString &text)
+{
+    const QString line = QStringLiteral("orv-workflow: %1: %2\n").arg(file, oneLine(text));
+    std::fputs(line.toLocal8Bit().constData(), stderr);
+}
+
+void printFailure(const QString &file, const Failure &failure)
+{
+    printRemark(file, failure.message);
+}
+
+} // namespace orv::cli

@@ -1,0 +1,102 @@
+#include "Inputs.h"
+
+#include <orv/core/FileExtensionsNameFilter.h>
+#include <orv/core/FileUtils.h>
+#include <orv/core/JsonUtils.h>
+#include <orv/core/PathUtils.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cstdio>
+
+namespace orv::cli {
+
+namespace {
+
+bool isPortableFolder(const QString &path)
+{
+    return PathUtils::isDirectory(path) && FileTypes::isType(path, MirelFileTypes::WFLWP);
+}
+
+Result<QByteArray> readStandardInput()
+{
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly))
+        return Error(ErrorCode::CannotOpenFile, QStringLiteral("Could not read the standard input."));
+    QByteArray bytes;
+    while (bytes.size() <= FileUtils::kMaxFileSize) {
+        const QByteArray chunk = input.read(1 << 20);
+        if (chunk.isEmpty())
+            return bytes;
+        bytes += chunk;
+    }
+    return Error(ErrorCode::InvalidContent,
+                 QStringLiteral("The standard input is too large; at most 128 MiB are read."));
+}
+
+Result<QByteArray> readBytes(const QString &argument)
+{
+    return argument == kStandardInput ? readStandardInput() : FileUtils::readFile(workflowFileOf(argument));
+}
+
+QStringList workflowsBelow(const QString &folder)
+{
+    const QStringList masks = FileExtensionsNameFilter{MirelFileTypes::WFLW}.fileMasks();
+    QDirIterator it(folder, masks, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    QStringList files;
+    while (it.hasNext())
+        files.append(it.next());
+    files.sort();
+    return files;
+}
+
+} // namespace
+
+QString workflowFileOf(const QString &argument)
+{
+    if (!isPortableFolder(argument))
+        return argument;
+    const QString folderName = QFileInfo(QDir(argument).absolutePath()).fileName();
+    return QDir(argument).filePath(folderName.chopped(1));
+}
+
+DocumentOrFailure readDocument(const QString &argument)
+{
+    const Result<QByteArray> bytes = readBytes(argument);
+    if (bytes.hasError())
+        return failureFrom(bytes.error(), BadInput);
+    Result<QJsonObject> document = JsonUtils::objectFromJson(*bytes);
+    if (document.hasError()) {
+        Error error(document.error().code(), QStringLiteral("The file is no workflow:"));
+        error.addDetail(document.error().errorMessage());
+        for (const QString &detail : document.error().details())
+            error.addDetail(detail);
+        return failureFrom(error, BadInput);
+    }
+    return *document;
+}
+
+QList<BatchInput> batchInputs(const QStringList &arguments)
+{
+    QList<BatchInput> inputs;
+    for (const QString &argument : arguments) {
+        if (argument == kStandardInput || !PathUtils::isDirectory(argument) || isPortableFolder(argument)) {
+            inputs.append({argument, {}});
+            continue;
+        }
+        const QStringList files = workflowsBelow(argument);
+        for (const QString &file : files)
+            inputs.append({file, {}});
+        if (files.isEmpty()) {
+            inputs.append({argument, Failure{BadInput, 0,
+                                             QStringLiteral("The folder holds no *.wflw file; name a file or a "
+                                                            "folder that has one.")}});
+        }
+    }
+    return inputs;
+}
+
+} // namespace orv::cli

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Failure.h"
+
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+
+#include <variant>
+
+namespace orv::cli {
+
+/// A document that was read and parsed, or why it could not be.
+using DocumentOrFailure = std::variant<QJsonObject, Failure>;
+
+/// The path of standard input.
+inline constexpr QLatin1String kStandardInput("-");
+
+/// The file that a FILE argument means: the inner file of a portable workflow folder, else the argument.
+[[nodiscard]] QString workflowFileOf(const QString &argument);
+
+/// The JSON object of a workflow: from a file, a portable folder or standard input.
+[[nodiscard]] DocumentOrFailure readDocument(const QString &argument);
+
+/// One input of a batch, or an argument that names none.
+struct BatchInput
+{
+    QString file;
+    std::optional<Failure> failure;
+};
+
+/// The workflows that the arguments of a batch mean, in order: files and portable folders as they are, other
+/// folders by all their *.wflw files, sorted by path, links not followed.
+[[nodiscard]] QList<BatchInput> batchInputs(const QStringList &arguments);
+
+} // namespace orv::cli

@@ -1,0 +1,66 @@
+#include "Command.h"
+
+#include "Console.h"
+#include "ExitCode.h"
+#include "Failure.h"
+
+#include <QFile>
+#include <QJsonDocument>
+
+namespace orv::cli {
+
+namespace {
+
+int print(const QByteArray &bytes)
+{
+    if (writeStandardOutput(bytes))
+        return Done;
+    printFailure(QStringLiteral("-"), {BadOutput, 0, QStringLiteral("The standard output can't be written.")});
+    return BadOutput;
+}
+
+} // namespace
+
+Command::~Command() = default;
+
+const std::vector<CommandRow> &commandRows()
+{
+    static const std::vector<CommandRow> rows = {
+        {"info", "Show version, state, tabs, columns, cells and samples of workflows",
+         "orv-workflow info examples/workflows", createInfoCommand},
+        {"convert", "Load a workflow into objects and write it again",
+         "orv-workflow convert old.wflw -o new.wflw --stamp", createConvertCommand},
+        {"types", "List the workflow types and the cell types", "orv-workflow types --json", createTypesCommand},
+    };
+    return rows;
+}
+
+QString decoded(const std::string &argument)
+{
+    return QFile::decodeName(argument.c_str());
+}
+
+QStringList decoded(const std::vector<std::string> &arguments)
+{
+    QStringList list;
+    for (const std::string &argument : arguments)
+        list.append(decoded(argument));
+    return list;
+}
+
+int printJson(const QJsonObject &object)
+{
+    return print(QJsonDocument(object).toJson());
+}
+
+int printJson(const QJsonArray &array)
+{
+    return print(QJsonDocument(array).toJson());
+}
+
+int printText(const QString &text)
+{
+    return print(text.toLocal8Bit());
+}
+
+} // namespace orv::cli

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace CLI {
+class App;
+}
+
+namespace orv::cli {
+
+/// The options that every subcommand has.
+struct GlobalOptions
+{
+    bool json = false;
+    bool progress = false;
+    int verbosity = 0;
+    std::string logFile;
+};
+
+/// A subcommand: declares its arguments, then runs.
+class Command
+{
+public:
+    Command() = default;
+    virtual ~Command();
+    Command(const Command &) = delete;
+    Command &operator=(const Command &) = delete;
+
+    virtual void declare(CLI::App &app) = 0;
+    /// The exit code.
+    virtual int run(const GlobalOptions &options) = 0;
+};
+
+/// One row per subcommand.
+struct CommandRow
+{
+    const char *name;
+    const char *description;
+    const char *example;
+    std::unique_ptr<Command> (*create)();
+};
+
+[[nodiscard]] const std::vector<CommandRow> &commandRows();
+
+std::unique_ptr<Command> createInfoCommand();
+std::unique_ptr<Command> createConvertCommand();
+std::unique_ptr<Command> createTypesCommand();
+
+/// Arguments as the system gives them, decoded.
+[[nodiscard]] QString decoded(const std::string &argument);
+[[nodiscard]] QStringList decoded(const std::vector<std::string> &arguments);
+
+/// Prints a JSON document; Done, or BadOutput when standard output fails.
+[[nodiscard]] int printJson(const QJsonObject &object);
+[[nodiscard]] int printJson(const QJsonArray &array);
+[[nodiscard]] int printText(const QString &text);
+
+} // namespace orv::cli

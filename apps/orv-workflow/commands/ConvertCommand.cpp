@@ -1,0 +1,203 @@
+#include "Command.h"
+
+#include "../Inputs.h"
+
+#include <orv/core/FileUtils.h>
+#include <orv/core/LossObserver.h>
+#include <orv/propertyeditor/content/Content.h>
+#include <orv/propertyeditor/content/ItemGroup.h>
+#include <orv/propertyeditor/content/ItemSubGroup.h>
+#include <orv/propertyeditor/content/PropertyEditorContent.h>
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
+
+#include "../Console.h"
+
+#include <CLI/CLI.hpp>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+
+namespace orv::cli {
+
+namespace {
+
+using PropertyEditor::Content;
+
+struct Outcome
+{
+    QList<Loss> lost;
+    std::optional<Failure> failure;
+};
+
+/// The folder against which relative references of an input are resolved; its URL ends with a slash, so that
+/// a relative path is taken from inside the folder.
+QUrl folderUrlOf(const QString &input)
+{
+    const QString folder
+        = input == kStandardInput ? QDir::currentPath() : QFileInfo(workflowFileOf(input)).absolutePath();
+    return QUrl::fromLocalFile(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'));
+}
+
+/// The name of the first tab that would be written empty, as one of its columns is shorter than its first.
+std::optional<QString> unevenTab(const Content &content)
+{
+    for (const PropertyEditor::ItemGroup *group : content.groups()) {
+        const QList<PropertyEditor::ItemSubGroup *> columns = group->subGroups();
+        for (const PropertyEditor::ItemSubGroup *column : columns) {
+            if (column->count() < columns.first()->count())
+                return group->name();
+        }
+    }
+    return {};
+}
+
+bool isSameFile(const QString &a, const QString &b)
+{
+    const QString canonical = QFileInfo(a).canonicalFilePath();
+    return !canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath();
+}
+
+class ConvertCommand : public Command
+{
+public:
+    void declare(CLI::App &app) override
+    {
+        app.add_option("FILE", m_file, "Workflow file, portable workflow folder, or - for standard input")->required();
+        app.add_option("-o,--output", m_output, "Where to write; - for standard output")->required();
+        app.add_flag("--absolute-paths", m_absolutePaths, "Write relative file references as absolute ones");
+        app.add_flag("--skip-type-validation", m_skipTypeValidation, "Accept cells of unknown types");
+        app.add_flag("--stamp", m_stamp, "Renew user, time and version");
+        app.add_option("--user", m_user, "The name to stamp with (default: the current user)");
+    }
+
+    int run(const GlobalOptions &options) override
+    {
+        if (!m_user.empty() && !m_stamp) {
+            printRemark(QStringLiteral("--user"), QStringLiteral("The option needs --stamp."));
+            return WrongUsage;
+        }
+        const QString file = decoded(m_file);
+        const QString output = decoded(m_output);
+        const Outcome outcome = convert(file, output);
+        int exitCode = outcome.failure ? outcome.failure->exitCode : Done;
+        if (options.json && output != kStandardInput)
+            exitCode = std::max(exitCode, printJson(toJson(file, output, outcome)));
+        else
+            printLosses(file, outcome.lost);
+        if (outcome.failure)
+            printFailure(outcome.failure->exitCode == BadOutput ? output : file, *outcome.failure);
+        return exitCode;
+    }
+
+private:
+    Outcome convert(const QString &file, const QString &output) const
+    {
+        DocumentOrFailure document = readDocument(file);
+        if (const auto *failure = std::get_if<Failure>(&document))
+            return {{}, *failure};
+        QJsonObject json = std::get<QJsonObject>(document);
+        if (const std::optional<Failure> refusal = refuseToOverwriteNewer(json, file, output))
+            return {{}, refusal};
+        if (m_stamp)
+            json = stamped(json);
+
+        LossCollector lost;
+        Content content;
+        content.setLossObserver(&lost);
+        PropertyEditor::ValidationOptions validation;
+        validation.setFlag(PropertyEditor::ValidationOption::SkipTypeValidation, m_skipTypeValidation);
+        const Error error = content.assignFromJson(json, validation);
+        if (error.hasError())
+            return {lost.losses(), failureFrom(error, BadInput)};
+        if (const std::optional<QString> tab = unevenTab(content))
+            return {lost.losses(), unevenFailure(*tab)};
+        return {lost.losses(), write(content, file, output)};
+    }
+
+    /// A document of a newer format may hold what this version doesn't know.
+    static std::optional<Failure> refuseToOverwriteNewer(const QJsonObject &json, const QString &file,
+                                                         const QString &output)
+    {
+        const PropertyEditorContent content(json);
+        const QVersionNumber version = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());
+        if (version.majorVersion() <= WflwMetaData::WORKFLOW_JSON_VERSION_MAJOR || !isSameFile(file, output))
+            return {};
+        return Failure{Negative, 0,
+                       QStringLiteral("The document has the newer version %1 and is not written over; name "
+                                      "another output.")
+                           .arg(version.toString())};
+    }
+
+    QJsonObject stamped(const QJsonObject &json) const
+    {
+        PropertyEditorContent content(json);
+        content.setCustomUser(decoded(m_user));
+        return QJsonDocument::fromJson(content.toJson()).object();
+    }
+
+    static Failure unevenFailure(const QString &tab)
+    {
+        return {Negative, int(ErrorCode::MalformedStructure),
+                QStringLiteral("The columns of the tab \"%1\" differ in height, and a tab is written as a "
+                               "rectangle: nothing was written. Add the missing cells or remove the others.")
+                    .arg(tab)};
+    }
+
+    std::optional<Failure> write(Content &content, const QString &file, const QString &output) const
+    {
+        auto flag = PropertyEditor::PropertyConversionFlag::KeepPaths;
+        if (m_absolutePaths) {
+            content.setBaseUrl(folderUrlOf(file));
+            flag = PropertyEditor::PropertyConversionFlag::AbsolutePaths;
+        }
+        const QByteArray bytes = content.toJson(flag);
+        if (output == kStandardInput) {
+            if (writeStandardOutput(bytes))
+                return {};
+            return Failure{BadOutput, 0, QStringLiteral("The standard output can't be written.")};
+        }
+        QString deviceError;
+        if (FileUtils::writeToFile(output, bytes, &deviceError) == QFileDevice::NoError)
+            return {};
+        return Failure{BadOutput, int(ErrorCode::CannotOpenFile),
+                       QStringLiteral("The file can't be written: %1").arg(deviceError)};
+    }
+
+    static QJsonObject toJson(const QString &file, const QString &output, const Outcome &outcome)
+    {
+        QJsonArray lost;
+        for (const Loss &loss : outcome.lost) {
+            lost.append(QJsonObject{{QStringLiteral("path"), loss.path},
+                                    {QStringLiteral("what"), loss.what},
+                                    {QStringLiteral("why"), loss.why}});
+        }
+        return {{QStringLiteral("file"), file},
+                {QStringLiteral("output"), outcome.failure ? QJsonValue() : QJsonValue(output)},
+                {QStringLiteral("lost"), lost},
+                {QStringLiteral("error"),
+                 outcome.failure ? QJsonValue(orv::cli::toJson(*outcome.failure)) : QJsonValue()}};
+    }
+
+    static void printLosses(const QString &file, const QList<Loss> &lost)
+    {
+        for (const Loss &loss : lost)
+            printRemark(file, QStringLiteral("lost: %1: %2: %3").arg(loss.path, loss.what, loss.why));
+    }
+
+    std::string m_file;
+    std::string m_output;
+    std::string m_user;
+    bool m_absolutePaths = false;
+    bool m_skipTypeValidation = false;
+    bool m_stamp = false;
+};
+
+} // namespace
+
+std::unique_ptr<Command> createConvertCommand()
+{
+    return std::make_unique<ConvertCommand>();
+}
+
+} // namespace orv::cli

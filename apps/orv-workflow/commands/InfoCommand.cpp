@@ -1,0 +1,103 @@
+#include "Command.h"
+
+#include "../Batch.h"
+#include "../Console.h"
+#include "../Inputs.h"
+#include "../Progress.h"
+#include "InfoText.h"
+
+#include <orv/core/SysUtils.h>
+#include <orv/propertyeditor/workflow/WorkflowSummary.h>
+
+#include <CLI/CLI.hpp>
+
+namespace orv::cli {
+
+namespace {
+
+struct Answer
+{
+    QString file;
+    std::optional<WorkflowSummary> summary;
+    std::optional<Failure> failure;
+};
+
+Answer answerFor(const BatchInput &input)
+{
+    if (input.failure)
+        return {input.file, {}, input.failure};
+    const DocumentOrFailure document = readDocument(input.file);
+    if (const auto *failure = std::get_if<Failure>(&document))
+        return {input.file, {}, *failure};
+    return {input.file, WorkflowSummary::of(PropertyEditorContent(std::get<QJsonObject>(document))), {}};
+}
+
+QJsonObject toJson(const Answer &answer)
+{
+    QJsonObject json = answer.summary ? summaryToJson(*answer.summary) : emptySummaryJson();
+    json.insert(QStringLiteral("file"), answer.file);
+    json.insert(QStringLiteral("error"), answer.failure ? QJsonValue(toJson(*answer.failure)) : QJsonValue());
+    return json;
+}
+
+class InfoCommand : public Command
+{
+public:
+    void declare(CLI::App &app) override
+    {
+        app.add_option("FILE", m_files, "Workflow files, portable workflow folders, folders, or - for standard input")
+            ->required();
+        app.add_option("--jobs", m_jobs, "Threads (default: all cores)")->check(CLI::PositiveNumber);
+    }
+
+    int run(const GlobalOptions &options) override
+    {
+        const QList<BatchInput> inputs = batchInputs(decoded(m_files));
+        std::vector<Answer> answers(size_t(inputs.size()));
+        {
+            Progress progress(options.progress || standardErrorIsTerminal(), inputs.size());
+            runBatch(inputs.size(), m_jobs, progress,
+                     [&](qsizetype i) { answers[size_t(i)] = answerFor(inputs.at(i)); });
+        }
+        const int printed = options.json ? printAnswersAsJson(answers) : printAnswersAsText(answers);
+        int exitCode = printed;
+        for (const Answer &answer : answers) {
+            if (!answer.failure)
+                continue;
+            printFailure(answer.file, *answer.failure);
+            exitCode = std::max<int>(exitCode, answer.failure->exitCode);
+        }
+        return exitCode;
+    }
+
+private:
+    static int printAnswersAsJson(const std::vector<Answer> &answers)
+    {
+        QJsonArray array;
+        for (const Answer &answer : answers)
+            array.append(toJson(answer));
+        return printJson(array);
+    }
+
+    static int printAnswersAsText(const std::vector<Answer> &answers)
+    {
+        QStringList texts;
+        for (const Answer &answer : answers) {
+            if (answer.summary)
+                texts.append(summaryToText(answer.file, *answer.summary));
+        }
+        return printText(texts.join(QLatin1Char('\n')));
+    }
+
+    std::vector<std::string> m_files;
+    int m_jobs = SysUtils::cpuCoresNumber();
+};
+
+} // namespace
+
+std::unique_ptr<Command> createInfoCommand()
+{
+    return std::make_unique<InfoCommand>();
+}
+
+} // namespace orv::cli

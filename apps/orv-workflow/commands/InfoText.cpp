@@ -1,0 +1,185 @@
+#include "InfoText.h"
+
+#include "../Console.h"
+
+#include <orv/propertyeditor/workflow/WorkflowSummary.h>
+
+#include <QJsonArray>
+
+namespace orv::cli {
+
+namespace {
+
+QString stateName(WflwMetaData::WflwState state)
+{
+    switch (state) {
+    case WflwMetaData::WflwState::UpToDate:
+        return QStringLiteral("UpToDate");
+    case WflwMetaData::WflwState::NeedsUpgrade:
+        return QStringLiteral("NeedsUpgrade");
+    case WflwMetaData::WflwState::NotSupported:
+        return QStringLiteral("NotSupported");
+    }
+    return {};
+}
+
+QString stateForPeople(WflwMetaData::WflwState state)
+{
+    switch (state) {
+    case WflwMetaData::WflwState::UpToDate:
+        return styled(QStringLiteral("up to date"), Style::Good);
+    case WflwMetaData::WflwState::NeedsUpgrade:
+        return styled(QStringLiteral("needs an upgrade"), Style::Caution);
+    case WflwMetaData::WflwState::NotSupported:
+        return styled(QStringLiteral("not supported"), Style::Bad);
+    }
+    return {};
+}
+
+QJsonValue countToJson(const std::optional<qsizetype> &count)
+{
+    return count ? QJsonValue(*count) : QJsonValue(QJsonValue::Null);
+}
+
+QJsonObject cellToJson(const WorkflowSummary::Cell &cell)
+{
+    return {{QStringLiteral("type"), cell.type},
+            {QStringLiteral("name"), cell.name},
+            {QStringLiteral("title"), cell.title},
+            {QStringLiteral("properties"), countToJson(cell.properties)},
+            {QStringLiteral("rows"), countToJson(cell.rows)}};
+}
+
+QJsonObject tabToJson(const WorkflowSummary::Tab &tab)
+{
+    QJsonArray columns;
+    for (const WorkflowSummary::Column &column : tab.columns) {
+        QJsonArray cells;
+        for (const WorkflowSummary::Cell &cell : column.cells)
+            cells.append(cellToJson(cell));
+        columns.append(QJsonObject{{QStringLiteral("name"), column.name},
+                                   {QStringLiteral("type"), column.type},
+                                   {QStringLiteral("cells"), cells}});
+    }
+    return {{QStringLiteral("name"), tab.name}, {QStringLiteral("columns"), columns}};
+}
+
+QString counted(qsizetype count, const QString &one, const QString &many)
+{
+    return QStringLiteral("%1 %2").arg(QString::number(count), count == 1 ? one : many);
+}
+
+QString cellContents(const WorkflowSummary::Cell &cell)
+{
+    if (cell.properties)
+        return counted(*cell.properties, QStringLiteral("setting"), QStringLiteral("settings"));
+    if (cell.rows)
+        return counted(*cell.rows, QStringLiteral("row"), QStringLiteral("rows"));
+    return styled(QStringLiteral("not understood"), Style::Faint);
+}
+
+/// Names for a line: a workflow can have thousands of samples.
+QString shortList(const QStringList &names)
+{
+    constexpr qsizetype shown = 4;
+    if (names.size() <= shown + 1)
+        return names.join(QLatin1String(", "));
+    return QStringLiteral("%1, ... %2").arg(names.mid(0, shown).join(QLatin1String(", ")), names.last());
+}
+
+QString fact(const QString &label, const QString &value)
+{
+    return value.isEmpty() ? QString() : QStringLiteral("  %1%2\n").arg(label.leftJustified(13), value);
+}
+
+struct Widths
+{
+    qsizetype column = 0;
+    qsizetype type = 0;
+};
+
+Widths widthsOf(const WorkflowSummary &summary)
+{
+    Widths widths;
+    for (const WorkflowSummary::Tab &tab : summary.tabs) {
+        for (const WorkflowSummary::Column &column : tab.columns) {
+            widths.column = std::max(widths.column, column.name.size());
+            for (const WorkflowSummary::Cell &cell : column.cells)
+                widths.type = std::max(widths.type, cell.type.size());
+        }
+    }
+    return widths;
+}
+
+QString tabToText(const WorkflowSummary::Tab &tab, const Widths &widths)
+{
+    QString text = QStringLiteral("  %1\n").arg(styled(tab.name, Style::Heading));
+    for (const WorkflowSummary::Column &column : tab.columns) {
+        QString name = column.name;
+        for (const WorkflowSummary::Cell &cell : column.cells) {
+            text += QStringLiteral("    %1  %2  %3\n")
+                        .arg(name.leftJustified(widths.column), cell.type.leftJustified(widths.type),
+                             cellContents(cell));
+            name.clear();
+        }
+        if (column.cells.isEmpty())
+            text += QStringLiteral("    %1\n").arg(name);
+    }
+    return text;
+}
+
+} // namespace
+
+QJsonObject summaryToJson(const WorkflowSummary &summary)
+{
+    QJsonArray tabs;
+    for (const WorkflowSummary::Tab &tab : summary.tabs)
+        tabs.append(tabToJson(tab));
+    return {{QStringLiteral("version"), summary.version},
+            {QStringLiteral("state"), stateName(summary.state)},
+            {QStringLiteral("messages"), QJsonArray::fromStringList(summary.messages)},
+            {QStringLiteral("name"), summary.name},
+            {QStringLiteral("description"), summary.description},
+            {QStringLiteral("icon"), summary.iconName},
+            {QStringLiteral("workflowType"), int(summary.workflowType)},
+            {QStringLiteral("contentMode"), summary.contentMode},
+            {QStringLiteral("documents"), QJsonArray::fromStringList(summary.documents)},
+            {QStringLiteral("samples"), QJsonArray::fromStringList(summary.samples)},
+            {QStringLiteral("tabs"), tabs}};
+}
+
+QJsonObject emptySummaryJson()
+{
+    QJsonObject json = summaryToJson({});
+    for (QLatin1String key : {QLatin1String("version"), QLatin1String("state"), QLatin1String("name"),
+                              QLatin1String("description"), QLatin1String("icon"), QLatin1String("workflowType"),
+                              QLatin1String("contentMode")})
+        json.insert(key, QJsonValue::Null);
+    return json;
+}
+
+QString summaryToText(const QString &file, const WorkflowSummary &summary)
+{
+    QString text = styled(file, Style::Heading) + QLatin1Char('\n');
+    text += fact(QStringLiteral("Name"), summary.name);
+    text += fact(QStringLiteral("Description"), summary.description.simplified());
+    text += fact(QStringLiteral("Version"),
+                 QStringLiteral("%1, %2").arg(summary.version, stateForPeople(summary.state)));
+    for (const QString &message : summary.messages)
+        text += fact(QString(), message);
+    text += fact(QStringLiteral("Type"), workflowTypeToString(summary.workflowType));
+    text += fact(QStringLiteral("Made for"), summary.contentMode == 0   ? QStringLiteral("desktop")
+                                             : summary.contentMode == 1 ? QStringLiteral("Talvane server")
+                                                                        : QString::number(summary.contentMode));
+    text += fact(QStringLiteral("Documents"), summary.documents.join(QLatin1String(", ")));
+    if (!summary.samples.isEmpty()) {
+        text += fact(QStringLiteral("Samples"),
+                     QStringLiteral("%1: %2").arg(summary.samples.size()).arg(shortList(summary.samples)));
+    }
+    const Widths widths = widthsOf(summary);
+    for (const WorkflowSummary::Tab &tab : summary.tabs)
+        text += tabToText(tab, widths);
+    return text;
+}
+
+} // namespace orv::cli

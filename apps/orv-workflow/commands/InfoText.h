@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QString>
+
+namespace orv {
+struct WorkflowSummary;
+}
+
+namespace orv::cli {
+
+/// The members of the contract but "file" and "error".
+[[nodiscard]] QJsonObject summaryToJson(const WorkflowSummary &summary);
+/// The same members for a file that could not be read.
+[[nodiscard]] QJsonObject emptySummaryJson();
+
+/// The summary for people: a heading, facts, and the tabs as a tree.
+[[nodiscard]] QString summaryToText(const QString &file, const WorkflowSummary &summary);
+
+} // namespace orv::cli

@@ -1,0 +1,158 @@
+#include <orv/propertyeditor/workflow/WorkflowSummary.h>
+
+#include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+#include <orv/propertyeditor/content/RawCell.h>
+
+#include <QJsonArray>
+#include <QMetaEnum>
+
+#include <array>
+
+namespace orv {
+
+using namespace PropertyEditorStringConstants;
+
+namespace {
+
+constexpr QLatin1String kSamplesArray("Samples");
+constexpr QLatin1String kSampleName("SampleName");
+constexpr QLatin1String kSequencesArray("sequences");
+
+/// How a cell of a type is counted, and whether its column is a document.
+struct TypeRow
+{
+    BaseItemType type;
+    bool isPropertyCell;
+    bool isDocument;
+};
+
+constexpr std::array kPropertyCellTypes = {
+    TypeRow{BaseItemType::Senthia, true, true},        TypeRow{BaseItemType::Dravik, true, true},
+    TypeRow{BaseItemType::Karvon, true, true},         TypeRow{BaseItemType::Intact, true, true},
+    TypeRow{BaseItemType::Oligo, true, true},          TypeRow{BaseItemType::MultiDocReport, true, true},
+    TypeRow{BaseItemType::Preview, true, true},        TypeRow{BaseItemType::Ostrale, true, true},
+    TypeRow{BaseItemType::Trenq, true, true},          TypeRow{BaseItemType::TrenqPreview, true, true},
+    TypeRow{BaseItemType::CaldrinDIA, true, false},
+};
+
+/// A type by its exact name, without a word about others: foreign documents are shown too.
+std::optional<BaseItemType> knownType(const QString &text)
+{
+    bool ok = false;
+    const int value = QMetaEnum::fromType<BaseItemType>().keyToValue(text.toUtf8().constData(), &ok);
+    return ok ? std::optional(BaseItemType(value)) : std::nullopt;
+}
+
+const TypeRow *propertyCellRow(const QString &type)
+{
+    const std::optional<BaseItemType> known = knownType(type);
+    const auto *const row = std::find_if(kPropertyCellTypes.begin(), kPropertyCellTypes.end(),
+                                         [&known](const TypeRow &r) { return known == r.type; });
+    return row == kPropertyCellTypes.end() ? nullptr : row;
+}
+
+bool isTableType(const QString &type)
+{
+    const std::optional<BaseItemType> known = knownType(type);
+    return known && *known != BaseItemType::Unknown && !propertyCellRow(type);
+}
+
+qsizetype visibleProperties(const QJsonArray &properties)
+{
+    return std::count_if(properties.begin(), properties.end(), [](const QJsonValue &entry) {
+        return !entry.toObject().value(NAME_KEY).toString().startsWith(QLatin1Char(':'));
+    });
+}
+
+QJsonObject tableValue(const QJsonObject &cell)
+{
+    return cell.value(PROPERTIES_KEY).toArray().at(0).toObject().value(VALUE_KEY).toObject();
+}
+
+std::optional<qsizetype> tableRows(const QJsonObject &cell)
+{
+    const QJsonObject value = tableValue(cell);
+    for (QLatin1String key : {CHILDREN, kSamplesArray, kSequencesArray}) {
+        if (value.value(key).isArray())
+            return value.value(key).toArray().size();
+    }
+    return {};
+}
+
+/// Names in the present form, an array of samples, or in the old one, a tree of rows under column names.
+QStringList sampleNames(const QJsonObject &cell)
+{
+    const QJsonObject value = tableValue(cell);
+    QStringList names;
+    for (const QJsonValue &sample : value.value(kSamplesArray).toArray())
+        names.append(sample.toObject().value(kSampleName).toString());
+    if (value.contains(kSamplesArray))
+        return names;
+    const QJsonArray columns = value.value(DATA).toArray();
+    const auto column = std::find(columns.begin(), columns.end(), QJsonValue(kSampleName));
+    if (column == columns.end())
+        return names;
+    for (const QJsonValue &row : value.value(CHILDREN).toArray())
+        names.append(row.toObject().value(DATA).toArray().at(column - columns.begin()).toString());
+    return names;
+}
+
+WorkflowSummary::Cell summarizeCell(const QJsonObject &cell)
+{
+    WorkflowSummary::Cell summary;
+    summary.type = cell.value(TYPE_KEY).toString();
+    summary.name = cell.value(NAME_KEY).toString();
+    summary.title = cell.value(TITLE_KEY).toString();
+    if (isTableType(summary.type))
+        summary.rows = tableRows(cell);
+    else if (cell.value(PROPERTIES_KEY).isArray())
+        summary.properties = visibleProperties(cell.value(PROPERTIES_KEY).toArray());
+    return summary;
+}
+
+WorkflowSummary::Tab summarizeTab(const PropertyEditorContent::Tab &tab, WorkflowSummary &summary)
+{
+    WorkflowSummary::Tab result{tab.first, {}};
+    for (const QString &name : tab.second.first)
+        result.columns.append({name, {}, {}});
+    const qsizetype columnCount = result.columns.size();
+    const VariantItems &cells = tab.second.second;
+    // Cells without a column are malformed; there is nowhere to show them.
+    for (qsizetype i = 0; columnCount > 0 && i < cells.size(); ++i) {
+        const QJsonObject cell = RawCell::objectOf(cells.at(i));
+        WorkflowSummary::Column &column = result.columns[i % columnCount];
+        column.cells.append(summarizeCell(cell));
+        column.type = column.cells.constLast().type;
+        if (column.type == PropertyEditor::BaseItem::typeToString(BaseItemType::Samples) && summary.samples.isEmpty())
+            summary.samples = sampleNames(cell);
+    }
+    return result;
+}
+
+} // namespace
+
+WorkflowSummary WorkflowSummary::of(const PropertyEditorContent &content)
+{
+    const QJsonObject metadata = content.metadata();
+    WorkflowSummary summary;
+    summary.version = WflwMetaData::versionFromMetaDataObject(metadata);
+    summary.state = WflwMetaData::checkWorkflowVersion(WflwMetaData::versionNumberFromMetaDataObject(metadata),
+                                                       &content, &summary.messages);
+    summary.name = WflwMetaData::nameFromMetaDataObject(metadata);
+    summary.description = WflwMetaData::descriptionFromMetaDataObject(metadata);
+    summary.iconName = WflwMetaData::iconNameFromMetaDataObject(metadata);
+    summary.workflowType = WflwMetaData::workflowType(metadata);
+    summary.contentMode = int(WflwMetaData::contentMode(metadata));
+    for (const PropertyEditorContent::Tab &tab : content.tabsAndContent()) {
+        summary.tabs.append(summarizeTab(tab, summary));
+        for (const Column &column : summary.tabs.constLast().columns) {
+            const TypeRow *row = propertyCellRow(column.type);
+            if (row && row->isDocument)
+                summary.documents.append(column.type);
+        }
+    }
+    return summary;
+}
+
+} // namespace orv
