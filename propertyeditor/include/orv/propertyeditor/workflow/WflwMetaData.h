@@ -22,7 +22,7 @@ class ORV_WORKFLOW_EXPORT ORV_QEnumsWorkflowAppType
 
 public:
     /// The application for which a workflow is made.
-    enum WorkflowAppType {
+    enum WorkflowAppType : int {
         Mirel = 0,
         Talvane = 1,
     };
