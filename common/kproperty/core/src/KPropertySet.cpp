@@ -1,0 +1,238 @@
+#include "KPropertySet.h"
+
+#include "KPropertySet_p.h"
+#include "internal/Logging.h"
+
+#include <algorithm>
+#include <utility>
+
+KPropertySet::KPropertySet(QObject *parent)
+    : QObject(parent)
+    , d(std::make_unique<KPropertySetPrivate>(this, true))
+{}
+
+KPropertySet::KPropertySet(const KPropertySet &set)
+    : QObject(nullptr)
+    , d(std::make_unique<KPropertySetPrivate>(this, true))
+{
+    d->copyFrom(*set.d);
+}
+
+KPropertySet::KPropertySet(bool propertyOwner)
+    : d(std::make_unique<KPropertySetPrivate>(this, propertyOwner))
+{}
+
+KPropertySet::~KPropertySet()
+{
+    Q_EMIT aboutToBeCleared();
+    Q_EMIT aboutToBeDeleted();
+    d->clear();
+}
+
+int KPropertySet::count() const
+{
+    return static_cast<int>(d->properties.size());
+}
+
+int KPropertySet::count(const KPropertySelector &selector) const
+{
+    return static_cast<int>(
+        std::count_if(d->properties.cbegin(), d->properties.cend(),
+                      [&selector](const KProperty *property) { return selector(*property); }));
+}
+
+bool KPropertySet::isEmpty() const
+{
+    return d->properties.isEmpty();
+}
+
+bool KPropertySet::hasVisibleProperties() const
+{
+    return std::any_of(d->properties.cbegin(), d->properties.cend(),
+                       [](const KProperty *property) { return property->isVisible(); });
+}
+
+bool KPropertySet::hasProperties(const KPropertySelector &selector) const
+{
+    return std::any_of(d->properties.cbegin(), d->properties.cend(),
+                       [&selector](const KProperty *property) { return selector(*property); });
+}
+
+bool KPropertySet::isReadOnly() const
+{
+    return d->readOnly;
+}
+
+bool KPropertySet::contains(const QByteArray &name) const
+{
+    return d->find(name) != nullptr;
+}
+
+KProperty &KPropertySet::property(const QByteArray &name) const
+{
+    if (KProperty *found = d->find(name)) {
+        return *found;
+    }
+    qCDebug(kpropertyLog) << "There is no property" << name;
+    return d->nullProperty();
+}
+
+KProperty &KPropertySet::operator[](const QByteArray &name) const
+{
+    return property(name);
+}
+
+QVariant KPropertySet::propertyValue(const QByteArray &name, const QVariant &defaultValue) const
+{
+    const KProperty *found = d->find(name);
+    return found ? found->value() : defaultValue;
+}
+
+KPropertySet &KPropertySet::operator=(const KPropertySet &set)
+{
+    if (&set != this) {
+        d->clear();
+        d->copyFrom(*set.d);
+    }
+    return *this;
+}
+
+QString KPropertySet::groupCaption(const QByteArray &group) const
+{
+    return d->groupCaption(group);
+}
+
+QString KPropertySet::groupIconName(const QByteArray &group) const
+{
+    return d->groupIconNames.value(group.toLower());
+}
+
+QByteArray KPropertySet::groupNameForProperty(const QByteArray &propertyName) const
+{
+    return d->groupNameOf(d->find(propertyName));
+}
+
+QByteArray KPropertySet::groupNameForProperty(const KProperty &property) const
+{
+    return d->groupNameOf(&property);
+}
+
+QList<QByteArray> KPropertySet::groupNames() const
+{
+    QList<QByteArray> names;
+    names.reserve(d->groups.size());
+    for (const KPropertySetPrivate::Group &group : std::as_const(d->groups)) {
+        names.append(group.name);
+    }
+    return names;
+}
+
+QList<QByteArray> KPropertySet::propertyNamesForGroup(const QByteArray &group) const
+{
+    const auto sequence = d->groupByName.constFind(group);
+    return sequence == d->groupByName.cend() ? QList<QByteArray>()
+                                             : d->groups.value(*sequence).propertyNames.values();
+}
+
+QByteArray KPropertySet::previousSelection() const
+{
+    return d->previousSelection;
+}
+
+void KPropertySet::debug() const
+{
+    qCDebug(kpropertyLog) << *this;
+}
+
+QMap<QByteArray, QVariant> KPropertySet::propertyValues() const
+{
+    QMap<QByteArray, QVariant> values;
+    for (const KProperty *property : std::as_const(d->properties)) {
+        values.insert(property->name(), property->value());
+    }
+    return values;
+}
+
+void KPropertySet::clearModifiedFlags()
+{
+    for (KProperty *property : std::as_const(d->properties)) {
+        property->clearModifiedFlag();
+    }
+}
+
+bool KPropertySet::isModified() const
+{
+    return std::any_of(d->properties.cbegin(), d->properties.cend(),
+                       [](const KProperty *property) { return property->isModified(); });
+}
+
+void KPropertySet::addProperty(KProperty *property, const QByteArray &group)
+{
+    d->addProperty(property, group);
+}
+
+void KPropertySet::removeProperty(KProperty *property)
+{
+    d->removeProperty(property);
+}
+
+void KPropertySet::removeProperty(const QByteArray &name)
+{
+    d->removeProperty(d->find(name));
+}
+
+void KPropertySet::clear()
+{
+    d->clear();
+}
+
+void KPropertySet::changeProperty(const QByteArray &property, const QVariant &value)
+{
+    KProperty *found = d->find(property);
+    if (!found) {
+        qCWarning(kpropertyLog) << "There is no property" << property << "to change";
+        return;
+    }
+    found->setValue(value);
+}
+
+void KPropertySet::changePropertyIfExists(const QByteArray &property, const QVariant &value)
+{
+    if (KProperty *found = d->find(property)) {
+        found->setValue(value);
+    }
+}
+
+void KPropertySet::setGroupCaption(const QByteArray &group, const QString &caption)
+{
+    d->groupCaptions.insert(group.toLower(), caption);
+}
+
+void KPropertySet::setGroupIconName(const QByteArray &group, const QString &iconName)
+{
+    d->groupIconNames.insert(group.toLower(), iconName);
+}
+
+void KPropertySet::setPreviousSelection(const QByteArray &prevSelection)
+{
+    d->previousSelection = prevSelection;
+}
+
+void KPropertySet::setReadOnly(bool readOnly)
+{
+    if (d->readOnly != readOnly) {
+        d->readOnly = readOnly;
+        Q_EMIT readOnlyFlagChanged();
+    }
+}
+
+QDebug operator<<(QDebug dbg, const KPropertySet &set)
+{
+    const QDebugStateSaver saver(dbg);
+    dbg.nospace() << "KPropertySet( PROPERTIES(" << set.count() << "):";
+    for (KPropertySetIterator it(set); it.current(); ++it) {
+        dbg.nospace() << '\n' << *it.current();
+    }
+    dbg.nospace() << "\n)";
+    return dbg;
+}
