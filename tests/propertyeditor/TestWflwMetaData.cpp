@@ -4,7 +4,11 @@
 #include <orv/core/AppUtils.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 
+#include <KProperty>
+#include <KPropertySet>
+
 #include <QDateTime>
+#include <QJsonDocument>
 
 using namespace orv;
 using WflwState = WflwMetaData::WflwState;
@@ -27,6 +31,11 @@ private Q_SLOTS:
     void theStampHoldsUserTimeAndVersion();
     void anEmptyUserIsTheSystemsUser();
     void stampingKeepsOtherKeys();
+    void aNullPropertyGivesAFreshStamp();
+    void theStampOfAPropertyKeepsOtherKeys();
+    void aPropertyThatIsNoObjectGivesAFreshStamp();
+    void aSetWithoutMetadataGetsThem();
+    void metadataInASetAreRestamped();
     void versionsReadAsText_data();
     void versionsReadAsText();
     void textsAreReadAndWritten();
@@ -170,6 +179,59 @@ void TestWflwMetaData::stampingKeepsOtherKeys()
     QCOMPARE(stamped.value(QStringLiteral("version")).toString(), QStringLiteral("5.47.0"));
     QCOMPARE(stamped.value(QStringLiteral("user")).toString(), QStringLiteral("ada"));
     QCOMPARE(stamped.value(QStringLiteral("colour")).toString(), QStringLiteral("red"));
+}
+
+void TestWflwMetaData::aNullPropertyGivesAFreshStamp()
+{
+    const QByteArray text = WflwMetaData::metaDataString(KProperty());
+    QVERIFY(!text.contains('\n'));
+    const QJsonObject stamp = QJsonDocument::fromJson(text).object();
+    QCOMPARE(stamp.keys(),
+             QStringList({QStringLiteral("created"), QStringLiteral("user"), QStringLiteral("version")}));
+    QCOMPARE(stamp.value(QStringLiteral("user")).toString(), AppUtils::currentUserName());
+}
+
+void TestWflwMetaData::theStampOfAPropertyKeepsOtherKeys()
+{
+    const KProperty property("x", QByteArray(R"({"version":"1.0.0","colour":"red"})"));
+    const QJsonObject stamp = QJsonDocument::fromJson(WflwMetaData::metaDataString(property)).object();
+    QCOMPARE(stamp.value(QStringLiteral("version")).toString(), QStringLiteral("5.47.0"));
+    QCOMPARE(stamp.value(QStringLiteral("colour")).toString(), QStringLiteral("red"));
+}
+
+void TestWflwMetaData::aPropertyThatIsNoObjectGivesAFreshStamp()
+{
+    for (const QByteArray &value : {QByteArray("[1]"), QByteArray("no json"), QByteArray()}) {
+        const QJsonObject stamp
+            = QJsonDocument::fromJson(WflwMetaData::metaDataString(KProperty("x", value))).object();
+        QCOMPARE(stamp.size(), 3);
+    }
+}
+
+void TestWflwMetaData::aSetWithoutMetadataGetsThem()
+{
+    KPropertySet set;
+    WflwMetaData::setPresetMetaData(&set);
+    QVERIFY(set.contains(":metadata"));
+    const KProperty &property = set.property(":metadata");
+    QCOMPARE(property.type(), int(KProperty::ByteArray));
+    QVERIFY(!property.isVisible());
+    QCOMPARE(property.caption(), QString());
+    QCOMPARE(property.description(), QString());
+    QCOMPARE(set.groupNameForProperty(property), QByteArray("common"));
+    QCOMPARE(QJsonDocument::fromJson(property.value().toByteArray()).object().value(QStringLiteral("version")),
+             QJsonValue(QStringLiteral("5.47.0")));
+}
+
+void TestWflwMetaData::metadataInASetAreRestamped()
+{
+    KPropertySet set;
+    set.addProperty(new KProperty(":metadata", QByteArray(R"({"version":"1.0.0","colour":"red"})")), "other");
+    WflwMetaData::setPresetMetaData(&set);
+    QCOMPARE(set.count(), 1);
+    const QJsonObject stamp = QJsonDocument::fromJson(set.property(":metadata").value().toByteArray()).object();
+    QCOMPARE(stamp.value(QStringLiteral("version")).toString(), QStringLiteral("5.47.0"));
+    QCOMPARE(stamp.value(QStringLiteral("colour")).toString(), QStringLiteral("red"));
 }
 
 void TestWflwMetaData::versionsReadAsText_data()

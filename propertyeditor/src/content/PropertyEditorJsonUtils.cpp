@@ -2,10 +2,11 @@
 
 #include "StampedCells.h"
 
-#include <orv/core/JsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/content/RawCell.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
+
+#include <KProperty>
 
 namespace orv {
 
@@ -35,7 +36,7 @@ VariantItems jsonArrayToVariantItems(const QJsonArray &array)
 
 QJsonArray variantItemsToJsonArray(const VariantItems &items)
 {
-    return stampedCells(items, QString::fromUtf8(JsonUtils::toCompactJson(WflwMetaData::metaDataObject({}))));
+    return stampedCells(items, QString::fromUtf8(WflwMetaData::metaDataString(KProperty())));
 }
 
 QStringList jsonArrayToStringList(const QJsonArray &array)

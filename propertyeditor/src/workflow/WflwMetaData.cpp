@@ -1,9 +1,14 @@
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 
 #include <orv/core/AppUtils.h>
+#include <orv/core/JsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
+#include <KProperty>
+#include <KPropertySet>
+
 #include <QDateTime>
+#include <QJsonDocument>
 #include <QMetaEnum>
 
 namespace orv {
@@ -75,6 +80,26 @@ QJsonObject WflwMetaData::stamped(const QJsonObject &object, const QString &user
     for (auto it = stamp.begin(); it != stamp.end(); ++it)
         result.insert(it.key(), it.value());
     return result;
+}
+
+QByteArray WflwMetaData::metaDataString(const KProperty &property)
+{
+    QJsonObject object;
+    if (!property.isNull())
+        object = QJsonDocument::fromJson(property.value().toByteArray()).object();
+    return JsonUtils::toCompactJson(stamped(object, {}));
+}
+
+void WflwMetaData::setPresetMetaData(KPropertySet *set)
+{
+    const QByteArray name(META_KEY.data(), META_KEY.size());
+    if (!set->contains(name)) {
+        auto *property = new KProperty(name, QVariant(), QString(), QString(), KProperty::ByteArray);
+        property->setVisible(false);
+        set->addProperty(property);
+    }
+    KProperty &property = set->property(name);
+    property.setValue(metaDataString(property));
 }
 
 QString WflwMetaData::nameFromMetaDataObject(const QJsonObject &object)

@@ -13,6 +13,9 @@
 #include <QStringList>
 #include <QVersionNumber>
 
+class KProperty;
+class KPropertySet;
+
 namespace orv {
 
 /// Holder that makes the enumeration known to the meta-object system.
@@ -74,6 +77,14 @@ public:
 
     /// \a object with every key of a fresh stamp overwritten; all other keys stay.
     [[nodiscard]] static QJsonObject stamped(const QJsonObject &object, const QString &user);
+
+    /// The stamp of the object in a property's value, as compact JSON; other keys stay. A null property, or a
+    /// value that is no JSON object, gives a fresh stamp. The stamp is that of the current user.
+    [[nodiscard]] static QByteArray metaDataString(const KProperty &property);
+
+    /// Makes sure that \a set has its ":metadata" property, invisible and in the group "common", and restamps
+    /// it. \a set must not be null and owns the property.
+    static void setPresetMetaData(KPropertySet *set);
 
     [[nodiscard]] static QString nameFromMetaDataObject(const QJsonObject &object);
     static void setNameInMetaDataObject(QJsonObject *object, const QString &name);
