@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace Lifelike {
+
+/// The JSON text of a workflow with \a samples samples, a protein table and \a steps property cells of 79
+/// settings each, as an application writes it.
+[[nodiscard]] QByteArray document(int samples, int steps);
+
+} // namespace Lifelike

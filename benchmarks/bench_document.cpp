@@ -1,0 +1,86 @@
+// Loading and writing both forms of a document against the bare JSON parse and write of the same bytes.
+
+#include "LifelikeDocument.h"
+#include "RatioReporter.h"
+
+#include <orv/core/JsonUtils.h>
+#include <orv/propertyeditor/content/Content.h>
+#include <orv/propertyeditor/content/PropertyEditorContent.h>
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QTemporaryDir>
+
+#include <functional>
+
+using namespace orv;
+using PropertyEditor::Content;
+using PropertyEditor::PropertyConversionFlag;
+
+namespace {
+
+void add(const std::string &name, const std::function<void()> &work)
+{
+    benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State &state) {
+        for ([[maybe_unused]] auto iteration : state)
+            work();
+    })->Unit(benchmark::kMicrosecond);
+}
+
+void addDocument(const std::string &label, const QByteArray &bytes, const QString &file)
+{
+    const auto keep = [](auto &&value) { benchmark::DoNotOptimize(value); };
+    const auto parsed = std::make_shared<QJsonDocument>(QJsonDocument::fromJson(bytes));
+    const auto value = std::make_shared<PropertyEditorContent>(bytes);
+    const auto tree = std::make_shared<Content>();
+    if (tree->assignFromJson(parsed->object()).hasError())
+        qFatal("The benchmark's document can't be loaded");
+
+    add("load " + label + "/baseline", [=] { keep(QJsonDocument::fromJson(bytes)); });
+    add("load " + label + "/value form", [=] { keep(PropertyEditorContent(bytes)); });
+    add("load " + label + "/object form", [=] {
+        Content content;
+        keep(content.assignFromJson(QJsonDocument::fromJson(bytes).object()).hasError());
+    });
+    add("load file " + label + "/baseline", [=] {
+        QFile device(file);
+        if (device.open(QIODevice::ReadOnly))
+            keep(QJsonDocument::fromJson(device.readAll()));
+    });
+    add("load file " + label + "/object form", [=] {
+        Content content;
+        keep(content.assignFromFile(file).hasError());
+    });
+    add("write " + label + "/baseline", [=] { keep(parsed->toJson()); });
+    add("write " + label + "/value form", [=] { keep(value->toJson()); });
+    add("write " + label + "/object form", [=] { keep(tree->toJson(PropertyConversionFlag::KeepPaths)); });
+    add("round trip " + label + "/baseline", [=] { keep(QJsonDocument::fromJson(bytes).toJson()); });
+    add("round trip " + label + "/value form", [=] { keep(PropertyEditorContent(bytes).toJson()); });
+    add("round trip " + label + "/object form", [=] {
+        Content content;
+        if (!content.assignFromJson(QJsonDocument::fromJson(bytes).object()).hasError())
+            keep(content.toJson(PropertyConversionFlag::KeepPaths));
+    });
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QTemporaryDir folder;
+    struct Size
+    {
+        const char *label;
+        int samples;
+        int steps;
+    };
+    for (const Size &size : {Size{"35 kB", 6, 2}, Size{"1 MB", 96, 50}, Size{"10,000 samples", 10000, 4}}) {
+        const QByteArray bytes = Lifelike::document(size.samples, size.steps);
+        const QString path = folder.filePath(QStringLiteral("%1.wflw").arg(size.samples));
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("The benchmark's file can't be written");
+        addDocument(size.label, bytes, path);
+    }
+    return runRatioBenchmarks(argc, argv);
+}
