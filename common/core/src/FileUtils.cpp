@@ -15,6 +15,16 @@ struct Tr
     Q_DECLARE_TR_FUNCTIONS(FileUtils)
 };
 
+QString notRegular()
+{
+    return Tr::tr("It is a pipe or a device; name a regular file.");
+}
+
+QString emptyName()
+{
+    return Tr::tr("The name is empty; name a file.");
+}
+
 Error cannotOpen(const QString &path, const QString &detail)
 {
     return Error(ErrorCode::CannotOpenFile, Tr::tr("Could not open the file: %1").arg(path)).addDetail(detail);
@@ -28,6 +38,25 @@ Error tooLarge(const QString &path, qint64 size, qint64 maxSize)
                      .arg(path, locale.formattedDataSize(size), locale.formattedDataSize(maxSize)));
 }
 
+/// Reads \a file to its end, but never much beyond \a maxSize. The buffer has the size that the file tells:
+/// the limit is far above what files have, and reserving it would cost each of them.
+QByteArray readUpTo(QFile &file, qint64 maxSize)
+{
+    constexpr qint64 kChunk = 64 * 1024;
+    const qint64 size = file.size();
+    QByteArray bytes = file.read(size + 1);
+    if (bytes.size() <= size)
+        return bytes;
+    // It tells no size, as files of the system do, or grows while it is read.
+    while (bytes.size() <= maxSize) {
+        const QByteArray more = file.read(kChunk);
+        if (more.isEmpty())
+            break;
+        bytes += more;
+    }
+    return bytes;
+}
+
 } // namespace
 
 Result<QByteArray> readFile(const QString &path, qint64 maxSize)
@@ -36,7 +65,9 @@ Result<QByteArray> readFile(const QString &path, qint64 maxSize)
     if (info.isDir())
         return cannotOpen(path, Tr::tr("It is a folder; name a file."));
     if (info.exists() && !info.isFile())
-        return cannotOpen(path, Tr::tr("It is a pipe or a device; name a regular file."));
+        return cannotOpen(path, notRegular());
+    if (path.isEmpty())
+        return cannotOpen(path, emptyName());
 
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -44,8 +75,7 @@ Result<QByteArray> readFile(const QString &path, qint64 maxSize)
     if (file.size() > maxSize)
         return tooLarge(path, file.size(), maxSize);
 
-    // The size is asked for before: a file that grows while it is read must not grow the buffer.
-    QByteArray bytes = file.read(maxSize + 1);
+    QByteArray bytes = readUpTo(file, maxSize);
     if (file.error() != QFileDevice::NoError)
         return cannotOpen(path, file.errorString());
     if (bytes.size() > maxSize)
@@ -55,8 +85,18 @@ Result<QByteArray> readFile(const QString &path, qint64 maxSize)
 
 QFileDevice::FileError writeToFile(const QString &path, const QByteArray &bytes, QString *errorText)
 {
+    const QFileInfo target(path);
+    if (path.isEmpty() || (target.exists() && !target.isFile() && !target.isDir())) {
+        // A rename would put a file in the place of the pipe or device, /dev/null for one.
+        if (errorText)
+            *errorText = path.isEmpty() ? emptyName() : notRegular();
+        return QFileDevice::OpenError;
+    }
     QSaveFile file(path);
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    // Without the flush a disk that is full shows only inside commit(), which renames the cut file all the
+    // same.
+    const bool written =
+        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
     if (written)
         return QFileDevice::NoError;
     if (errorText)

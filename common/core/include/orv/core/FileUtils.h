@@ -20,8 +20,9 @@ inline constexpr qint64 kMaxFileSize = qint64(128) * 1024 * 1024;
 [[nodiscard]] ORV_WORKFLOW_EXPORT Result<QByteArray> readFile(const QString &path, qint64 maxSize = kMaxFileSize);
 
 /// Replaces the file at \a path by \a bytes, whole or not at all: the bytes go to a file beside it, which is
-/// flushed and then renamed, so that an interrupted or failed write leaves the old file as it was. Answers
-/// QFileDevice::NoError (0) on success; otherwise \a errorText, when not null, receives the device's words.
+/// flushed and then renamed, so that an interrupted or failed write leaves the old file as it was. A link
+/// stays a link; a folder, pipe or device is refused. Answers QFileDevice::NoError (0) on success; otherwise
+/// \a errorText, when not null, receives the device's words.
 ORV_WORKFLOW_EXPORT QFileDevice::FileError writeToFile(const QString &path, const QByteArray &bytes,
                                                        QString *errorText = nullptr);
 
