@@ -18,14 +18,15 @@ bool isTaken(const QString &path)
 
 QString generateUniqueDestination(const QString &source, const QString &folder)
 {
-    const QFileInfo info(source);
+    // Samples may be folders, whose paths may end with a separator.
+    const QString name = QFileInfo(QDir::cleanPath(source)).fileName();
+    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
+    const qsizetype baseSize = dot > 0 ? dot : name.size(); // the dot of a hidden file begins no extension
     const QDir dir(folder);
-    QString destination = dir.filePath(info.fileName());
-    const QString suffix = info.suffix();
-    const QString dotSuffix = suffix.isEmpty() ? QString() : QLatin1Char('.') + suffix;
+    QString destination = dir.filePath(name);
     for (int number = 2; isTaken(destination); ++number) {
-        destination = dir.filePath(
-            QStringLiteral("%1 (%2)%3").arg(info.completeBaseName(), QString::number(number), dotSuffix));
+        destination =
+            dir.filePath(name.first(baseSize) + QStringLiteral(" (%1)").arg(number) + name.sliced(baseSize));
     }
     return destination;
 }
