@@ -1,8 +1,9 @@
+#include <orv/core/JsonScanner.h>
 #include <orv/core/JsonUtils.h>
 
-#include <orv/core/JsonScanner.h>
-
 #include <QCoreApplication>
+
+#include <algorithm>
 
 namespace orv::JsonUtils {
 
@@ -37,7 +38,7 @@ QString remedyFor(QJsonParseError::ParseError error, const QByteArray &json)
     case QJsonParseError::DeepNesting:
         return Tr::tr("Arrays and objects are nested too deeply; at most 1024 levels are read.");
     case QJsonParseError::IllegalNumber:
-        return Tr::tr("The number can't be stored as a double.");
+        return Tr::tr("There is no number that a double can store.");
     case QJsonParseError::GarbageAtEnd:
         return Tr::tr("Text follows behind the document; remove it.");
     case QJsonParseError::DocumentTooLarge:
@@ -63,10 +64,13 @@ Result<T> typedValue(const QJsonObject &object, const QString &key, QJsonValue::
 TextPosition positionOfOffset(QByteArrayView json, qsizetype offset)
 {
     const QByteArrayView before = json.first(std::clamp<qsizetype>(offset, 0, json.size()));
-    const qsizetype lineStart = before.lastIndexOf('\n') + 1;
+    QByteArrayView line = before.sliced(before.lastIndexOf('\n') + 1);
+    if (line.size() == before.size() && line.startsWith("\xEF\xBB\xBF"))
+        line = line.sliced(3);
+    const auto beginsCharacter = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; };
     TextPosition position;
     position.line += std::count(before.begin(), before.end(), '\n');
-    position.column += QString::fromUtf8(before.sliced(lineStart)).size();
+    position.column += std::count_if(line.begin(), line.end(), beginsCharacter);
     return position;
 }
 

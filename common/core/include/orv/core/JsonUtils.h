@@ -12,7 +12,7 @@
 /// JSON with errors that name the place.
 namespace orv::JsonUtils {
 
-/// A place in a text: line and column count from 1, columns in characters.
+/// A place in a text: line and column count from 1, columns in characters; a byte order mark is none.
 struct TextPosition
 {
     qsizetype line = 1;
