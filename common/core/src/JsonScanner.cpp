@@ -161,11 +161,20 @@ private:
         return QJsonDocument::fromJson(array).array().at(0).toString();
     }
 
+    /// UTF-8, which half a surrogate pair has not: all such would become the same replacement character. They
+    /// stay UTF-16, behind a byte that no UTF-8 text holds.
+    static QByteArray comparable(const QString &key)
+    {
+        if (key.isValidUtf16())
+            return key.toUtf8();
+        return '\xFF' + QByteArray(reinterpret_cast<const char *>(key.utf16()), key.size() * 2);
+    }
+
     bool insertKey(const char *start, const char *end, bool escaped)
     {
         Key key{start, end - start, 0, {}};
         if (escaped)
-            key.unescaped = keyText(start, end, true).toUtf8();
+            key.unescaped = comparable(keyText(start, end, true));
         key.hash = qHash(key.text(), 0);
         return m_levels[m_depth - 1].keys.insert(std::move(key));
     }
