@@ -57,17 +57,25 @@ QVariant foundValue(const QString &key)
     return QSettings().value(key);
 }
 
+/// QVariant cuts a number that is too large for an int without a word.
+bool fits(const QVariant &found, const QVariant &converted)
+{
+    return converted.typeId() != QMetaType::Int || found.toLongLong() == converted.toInt();
+}
+
 } // namespace
 
 QVariant value(const QString &key, const QVariant &defaultValue)
 {
-    QVariant found = foundValue(key);
+    const QVariant found = foundValue(key);
     if (!found.isValid())
         return defaultValue;
-    if (defaultValue.isValid() && found.metaType() != defaultValue.metaType()
-        && !found.convert(defaultValue.metaType()))
+    if (!defaultValue.isValid() || found.metaType() == defaultValue.metaType())
+        return found;
+    QVariant converted = found;
+    if (!converted.convert(defaultValue.metaType()) || !fits(found, converted))
         return defaultValue;
-    return found;
+    return converted;
 }
 
 void setValue(const QString &key, const QVariant &value)
