@@ -1,9 +1,9 @@
 #include <orv/core/FileTypes.h>
-
 #include <orv/core/PathUtils.h>
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
 
 namespace orv::FileTypes {
@@ -97,9 +97,12 @@ bool isType(const QString &path, FileType type)
 QStringList fileSuffixesFromExtensionTypes(const QStringList &names)
 {
     QStringList result;
-    for (const QString &name : names) {
-        const FileType type = fromName(name.trimmed());
-        result += type == Invalid ? QStringList(name.trimmed()) : suffixes(type);
+    for (const QString &untrimmed : names) {
+        const QString name = untrimmed.trimmed();
+        if (name.isEmpty())
+            continue;
+        const FileType type = fromName(name);
+        result += type == Invalid ? QStringList(name) : suffixes(type);
     }
     result.removeDuplicates();
     return result;
