@@ -1,0 +1,130 @@
+#include "OrvTest.h"
+
+#include <orv/core/JsonScanner.h>
+
+using namespace orv;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// An object of \a count different keys and then \a last.
+QByteArray objectWithKeys(int count, const QByteArray &last)
+{
+    QByteArray json = "{";
+    for (int i = 0; i < count; ++i)
+        json += "\"key" + QByteArray::number(i) + "\":" + QByteArray::number(i) + ",";
+    return json + "\"" + last + "\":0}";
+}
+
+} // namespace
+
+class TestJsonScanner : public OrvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keysThatDifferPass_data();
+    void keysThatDifferPass();
+    void aRepeatedKeyIsFoundWhereItStandsAgain_data();
+    void aRepeatedKeyIsFoundWhereItStandsAgain();
+    void anyTextIsSurvived_data();
+    void anyTextIsSurvived();
+    void manyKeysTakeNoLongerThanTheirNumber();
+};
+
+void TestJsonScanner::keysThatDifferPass_data()
+{
+    QTest::addColumn<QByteArray>("json");
+
+    QTest::newRow("empty") << ""_ba;
+    QTest::newRow("empty object") << "{}"_ba;
+    QTest::newRow("two keys") << R"({"a":1,"b":2})"_ba;
+    QTest::newRow("another case") << R"({"a":1,"A":2})"_ba;
+    QTest::newRow("prefix") << R"({"a":1,"aa":2})"_ba;
+    QTest::newRow("the key as a value") << R"({"a":"a","b":"a"})"_ba;
+    QTest::newRow("the key as an element") << R"({"a":["a","a",{"a":"a"}]})"_ba;
+    QTest::newRow("the key inside and outside") << R"({"a":{"a":{"a":{}}}})"_ba;
+    QTest::newRow("siblings") << R"([{"a":1},{"a":2}])"_ba;
+    QTest::newRow("siblings behind a level") << R"({"x":{"a":1},"y":{"a":2},"a":3})"_ba;
+    QTest::newRow("quotes and braces in texts") << R"({"a":"{\"a\":1,","b":"}","c":"\\"})"_ba;
+    QTest::newRow("escaped keys that differ") << R"({"\u0061":1,"\u0062":2,"\\u0061":3})"_ba;
+    QTest::newRow("composed and decomposed characters") << "{\"\xC3\xA4\":1,\"a\xCC\x88\":2}"_ba;
+    QTest::newRow("lone surrogates that differ") << R"({"\ud800":1,"\ud801":2})"_ba;
+    QTest::newRow("32 keys") << objectWithKeys(31, "last");
+    QTest::newRow("33 keys") << objectWithKeys(32, "last");
+    QTest::newRow("1000 keys, twice")
+        << "[" + objectWithKeys(1000, "last") + "," + objectWithKeys(1000, "last") + "]";
+}
+
+void TestJsonScanner::keysThatDifferPass()
+{
+    QFETCH(QByteArray, json);
+    const std::optional<DuplicateKey> duplicate = findDuplicateKey(json);
+    QVERIFY2(!duplicate, duplicate ? qPrintable(duplicate->key) : "");
+}
+
+void TestJsonScanner::aRepeatedKeyIsFoundWhereItStandsAgain_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("key");
+
+    QTest::newRow("two keys") << R"({"a":1,"a":2})"_ba << u"a"_s;
+    QTest::newRow("equal values too") << R"({"a":1,"a":1})"_ba << u"a"_s;
+    QTest::newRow("empty key") << R"({"":1,"":2})"_ba << QString();
+    QTest::newRow("behind a nested object") << R"({"a":{"b":[{"c":1}]},"b":2,"a":3})"_ba << u"a"_s;
+    QTest::newRow("in an array of objects") << R"([{"a":1},{"b":1,"b":2}])"_ba << u"b"_s;
+    QTest::newRow("deep") << R"({"x":[[{"y":{"z":1,"z":2}}]]})"_ba << u"z"_s;
+    QTest::newRow("escaped second") << R"({"type":1,"t\u0079pe":2})"_ba << u"type"_s;
+    QTest::newRow("escaped first") << R"({"t\u0079pe":1,"type":2})"_ba << u"type"_s;
+    QTest::newRow("escaped in two ways") << R"({"\u00E4":1,"\u00e4":2})"_ba << u"\u00e4"_s;
+    QTest::newRow("surrogate pair and UTF-8")
+        << "{\"\\ud83e\\uddea\":1,\"\xF0\x9F\xA7\xAA\":2}"_ba << u"\U0001F9EA"_s;
+    QTest::newRow("escaped quote") << R"({"a\"b":1,"a\u0022b":2})"_ba << u"a\"b"_s;
+    QTest::newRow("escaped solidus") << R"({"a/b":1,"a\/b":2})"_ba << u"a/b"_s;
+    QTest::newRow("blanks before the colon") << "{\"a\" :1 ,\n\t\"a\" :2}"_ba << u"a"_s;
+    QTest::newRow("32 keys, the first again") << objectWithKeys(31, "key0") << u"key0"_s;
+    QTest::newRow("33 keys, the first again") << objectWithKeys(32, "key0") << u"key0"_s;
+    QTest::newRow("34 keys, the 33rd again") << objectWithKeys(33, "key32") << u"key32"_s;
+    QTest::newRow("500 keys, escaped") << objectWithKeys(500, "k\\u0065y499") << u"key499"_s;
+}
+
+void TestJsonScanner::aRepeatedKeyIsFoundWhereItStandsAgain()
+{
+    QFETCH(QByteArray, json);
+    const std::optional<DuplicateKey> duplicate = findDuplicateKey(json);
+    QVERIFY(duplicate.has_value());
+    QTEST(duplicate->key, "key");
+    QCOMPARE(json.at(duplicate->offset), '"');
+    QVERIFY(!findDuplicateKey(json.left(duplicate->offset)));
+}
+
+void TestJsonScanner::anyTextIsSurvived_data()
+{
+    QTest::addColumn<QByteArray>("json");
+
+    QTest::newRow("closing only") << "]]}}"_ba;
+    QTest::newRow("crossed") << "{[}]"_ba;
+    QTest::newRow("open text") << "{\"a"_ba;
+    QTest::newRow("open text behind a backslash") << "{\"a\\"_ba;
+    QTest::newRow("broken escape in a key") << "{\"\\u00\":1,\"\\u00\":2"_ba;
+    QTest::newRow("invalid UTF-8 in a key") << "{\"\xFF\":1,\"\\u0061\xFF\":2}"_ba;
+    QTest::newRow("null bytes") << QByteArray(64, '\0');
+    QTest::newRow("100,000 levels") << "{\"a\":["_ba.repeated(50000);
+}
+
+void TestJsonScanner::anyTextIsSurvived()
+{
+    QFETCH(QByteArray, json);
+    const std::optional<DuplicateKey> duplicate = findDuplicateKey(json);
+    QVERIFY(!duplicate || duplicate->offset < json.size());
+}
+
+void TestJsonScanner::manyKeysTakeNoLongerThanTheirNumber()
+{
+    // Compared by pairs, this would be 20,000,000,000 comparisons, and run into the time limit of the test.
+    QVERIFY(!findDuplicateKey(objectWithKeys(200000, "last")));
+}
+
+ORV_REGISTER_TEST(TestJsonScanner)
+
+#include "TestJsonScanner.moc"

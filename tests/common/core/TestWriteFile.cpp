@@ -1,0 +1,196 @@
+#include "OrvTest.h"
+#include "TestFiles.h"
+
+#include <orv/core/FileUtils.h>
+
+#include <QFileInfo>
+
+using namespace orv;
+using namespace TestFiles;
+using namespace Qt::StringLiterals;
+
+class TestWriteFile : public OrvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void aNewFileIsWritten_data();
+    void aNewFileIsWritten();
+    void anOldFileIsReplacedWhole();
+    void permissionsOfTheOldFileStay();
+    void aLinkStaysALink();
+    void unwritableTargetsAreRefused_data();
+    void unwritableTargetsAreRefused();
+    void anEmptyNameIsRefused();
+    void aPipeIsNotReplaced();
+    void aFolderWithoutPermissionIsRefused();
+    void aFullDiskLeavesTheOldFile_data();
+    void aFullDiskLeavesTheOldFile();
+
+private:
+    [[nodiscard]] QString at(const QString &name) const { return m_dir->filePath(name); }
+    [[nodiscard]] QStringList names() const { return namesIn(m_dir->path()); }
+
+    std::unique_ptr<QTemporaryDir> m_dir = std::make_unique<QTemporaryDir>();
+};
+
+void TestWriteFile::cleanup()
+{
+    m_dir = std::make_unique<QTemporaryDir>();
+}
+
+void TestWriteFile::aNewFileIsWritten_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("bytes");
+
+    QTest::newRow("empty") << u"a.wflw"_s << ""_ba;
+    QTest::newRow("small") << u"a.wflw"_s << "{}"_ba;
+    QTest::newRow("large") << u"a.wflw"_s << QByteArray(1000000, 'x');
+    QTest::newRow("odd name") << u"a #%20\u00e4?.wflw"_s << "{}"_ba;
+}
+
+void TestWriteFile::aNewFileIsWritten()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, bytes);
+    QString errorText = u"untouched"_s;
+    QCOMPARE(FileUtils::writeToFile(at(name), bytes, &errorText), QFileDevice::NoError);
+    QCOMPARE(errorText, u"untouched"_s);
+    QCOMPARE(bytesOf(at(name)), bytes);
+    QCOMPARE(names(), QStringList(name));
+}
+
+void TestWriteFile::anOldFileIsReplacedWhole()
+{
+    makeFile(at(u"a.wflw"_s), "much longer than the new text");
+    QCOMPARE(FileUtils::writeToFile(at(u"a.wflw"_s), "new"), QFileDevice::NoError);
+    QCOMPARE(bytesOf(at(u"a.wflw"_s)), "new"_ba);
+    QCOMPARE(names(), QStringList(u"a.wflw"_s));
+}
+
+void TestWriteFile::permissionsOfTheOldFileStay()
+{
+    makeFile(at(u"a.wflw"_s), "old");
+    const QFile::Permissions shared =
+        QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup;
+    QVERIFY(QFile::setPermissions(at(u"a.wflw"_s), shared));
+    QCOMPARE(FileUtils::writeToFile(at(u"a.wflw"_s), "new"), QFileDevice::NoError);
+    QCOMPARE(QFile::permissions(at(u"a.wflw"_s)) & ~QFile::Permissions(QFile::ReadUser | QFile::WriteUser),
+             shared);
+}
+
+void TestWriteFile::aLinkStaysALink()
+{
+    QVERIFY(QDir(m_dir->path()).mkdir(u"folder"_s));
+    makeFile(at(u"folder/target.wflw"_s), "old");
+    QVERIFY(QFile::link(u"folder/target.wflw"_s, at(u"link.wflw"_s)));
+    QCOMPARE(FileUtils::writeToFile(at(u"link.wflw"_s), "new"), QFileDevice::NoError);
+    QVERIFY(QFileInfo(at(u"link.wflw"_s)).isSymLink());
+    QCOMPARE(bytesOf(at(u"folder/target.wflw"_s)), "new"_ba);
+}
+
+void TestWriteFile::unwritableTargetsAreRefused_data()
+{
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("missing folder") << u"missing/a.wflw"_s;
+    QTest::newRow("a file as a folder") << u"file/a.wflw"_s;
+    QTest::newRow("folder") << u"folder"_s;
+    QTest::newRow("link to a folder") << u"folder-link"_s;
+    QTest::newRow("overlong name") << QString(300, u'x');
+}
+
+void TestWriteFile::unwritableTargetsAreRefused()
+{
+    makeFile(at(u"file"_s), "old");
+    QVERIFY(QDir(m_dir->path()).mkdir(u"folder"_s));
+    QVERIFY(QFile::link(at(u"folder"_s), at(u"folder-link"_s)));
+    const QStringList before = names();
+
+    QFETCH(QString, name);
+    QString errorText;
+    QVERIFY(FileUtils::writeToFile(at(name), "new", &errorText) != QFileDevice::NoError);
+    QVERIFY(!errorText.isEmpty());
+    QVERIFY(FileUtils::writeToFile(at(name), "new", nullptr) != QFileDevice::NoError);
+    QCOMPARE(names(), before);
+    QCOMPARE(bytesOf(at(u"file"_s)), "old"_ba);
+}
+
+void TestWriteFile::anEmptyNameIsRefused()
+{
+    QString errorText;
+    QVERIFY(FileUtils::writeToFile(QString(), "new", &errorText) != QFileDevice::NoError);
+    QVERIFY(!errorText.isEmpty());
+}
+
+void TestWriteFile::aPipeIsNotReplaced()
+{
+    if (!makeFifo(at(u"pipe"_s)))
+        QSKIP("The file system has no pipes");
+    QString errorText;
+    QVERIFY(FileUtils::writeToFile(at(u"pipe"_s), "new", &errorText) != QFileDevice::NoError);
+    QVERIFY2(errorText.contains(u"pipe"_s), qPrintable(errorText));
+    QVERIFY(QFileInfo::exists(at(u"pipe"_s)));
+    QVERIFY(!QFileInfo(at(u"pipe"_s)).isFile());
+}
+
+void TestWriteFile::aFolderWithoutPermissionIsRefused()
+{
+    makeFile(at(u"a.wflw"_s), "old");
+    QVERIFY(QFile::setPermissions(at(u"a.wflw"_s), QFile::Permissions(0x6644)));
+    QVERIFY(QFile::setPermissions(m_dir->path(), QFile::Permissions(0x5555)));
+    const QString path = at(u"a.wflw"_s);
+    const int outcome = inChildProcess([&path] {
+        if (!becomeNobody())
+            return Undone;
+        QString errorText;
+        if (FileUtils::writeToFile(path, "new", &errorText) == QFileDevice::NoError)
+            return Succeeded;
+        return errorText.isEmpty() ? WrongError : Refused;
+    });
+    QVERIFY(QFile::setPermissions(m_dir->path(), QFile::Permissions(0x7755)));
+    if (outcome == kChildNotSupported || outcome == Undone)
+        QSKIP("Permissions don't bind this user, and no other user can be taken");
+    QCOMPARE(outcome, int(Refused));
+    QCOMPARE(bytesOf(path), "old"_ba);
+}
+
+void TestWriteFile::aFullDiskLeavesTheOldFile_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<bool>("isWritten");
+
+    QTest::newRow("fits") << 4096 << true;
+    QTest::newRow("one byte too many") << 4097 << false;
+    QTest::newRow("within one buffer") << 8000 << false;
+    QTest::newRow("more than a buffer") << 1000000 << false;
+}
+
+void TestWriteFile::aFullDiskLeavesTheOldFile()
+{
+    makeFile(at(u"a.wflw"_s), "old");
+    QFETCH(int, size);
+    const QString path = at(u"a.wflw"_s);
+    const QByteArray bytes(size, 'x');
+    const int outcome = inChildProcess([&path, &bytes] {
+        if (!limitFileSize(4096))
+            return Undone;
+        QString errorText;
+        if (FileUtils::writeToFile(path, bytes, &errorText) == QFileDevice::NoError)
+            return Succeeded;
+        return errorText.isEmpty() ? WrongError : Refused;
+    });
+    if (outcome == kChildNotSupported || outcome == Undone)
+        QSKIP("The system has no limit of file sizes");
+    QFETCH(bool, isWritten);
+    QCOMPARE(outcome, int(isWritten ? Succeeded : Refused));
+    QCOMPARE(bytesOf(path), isWritten ? bytes : "old"_ba);
+    QCOMPARE(names(), QStringList(u"a.wflw"_s));
+}
+
+ORV_REGISTER_TEST(TestWriteFile)
+
+#include "TestWriteFile.moc"
