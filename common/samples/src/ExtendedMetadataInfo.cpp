@@ -31,6 +31,12 @@ QJsonObject without(QJsonObject object, std::initializer_list<QLatin1String> key
     return object;
 }
 
+Error notAnObject(const QJsonValue &element)
+{
+    return Error(ErrorCode::InvalidContent, Tr::tr("An element must be an object, but there is %1.")
+                                                .arg(JsonUtils::typeDescription(element.type())));
+}
+
 /// Reads the elements of the array \a key of \a object, which may be absent, with \a read.
 template<typename T>
 Result<QList<T>> readList(const QJsonObject &object, QLatin1String key, Result<T> (*read)(const QJsonObject &))
@@ -43,7 +49,7 @@ Result<QList<T>> readList(const QJsonObject &object, QLatin1String key, Result<T
     QList<T> list;
     list.reserve(array->size());
     for (const QJsonValue &element : *array) {
-        Result<T> item = read(element.toObject());
+        Result<T> item = element.isObject() ? read(element.toObject()) : notAnObject(element);
         if (item.hasError()) {
             return item.ecatch().addDetail(
                 Tr::tr("It is element %1 of \"%2\" in the extended metadata.").arg(list.size()).arg(key));
@@ -85,9 +91,10 @@ Result<TalvaneMetadataMappingConnection> readConnection(const QJsonObject &objec
     Result<QString> attribute = JsonUtils::stringValue(object, kAttributeKey);
     if (attribute.hasError())
         return attribute.ecatch();
-    if (!object.value(kTargetKey).isDouble())
-        return Error(ErrorCode::InvalidContent, Tr::tr("\"%1\" must be a number.").arg(kTargetKey));
-    return TalvaneMetadataMappingConnection{*attribute, MappingTarget(object.value(kTargetKey).toInt()),
+    const QJsonValue target = object.value(kTargetKey);
+    if (!target.isDouble() || double(target.toInt()) != target.toDouble())
+        return Error(ErrorCode::InvalidContent, Tr::tr("\"%1\" must be a whole number.").arg(kTargetKey));
+    return TalvaneMetadataMappingConnection{*attribute, MappingTarget(target.toInt()),
                                             without(object, {kAttributeKey, kTargetKey})};
 }
 
@@ -117,6 +124,18 @@ Result<CacheEntry> readCacheEntry(const QJsonObject &object)
     return CacheEntry{*reference, *values, without(object, {kReferenceKey, kValuesKey})};
 }
 
+/// Adds \a members to those of an entry of the same reference; false when both have one with different
+/// values.
+bool unite(QJsonObject *known, const QJsonObject &members)
+{
+    for (auto it = members.begin(); it != members.end(); ++it) {
+        if (known->contains(it.key()) && known->value(it.key()) != it.value())
+            return false;
+        known->insert(it.key(), it.value());
+    }
+    return true;
+}
+
 } // namespace
 
 Result<ExtendedMetadataInfo> ExtendedMetadataInfo::fromJson(const QJsonObject &json)
@@ -133,10 +152,21 @@ Result<ExtendedMetadataInfo> ExtendedMetadataInfo::fromJson(const QJsonObject &j
     info.m_unknown = without(json, {kCacheKey, kConnectionsKey});
     for (const CacheEntry &entry : *entries) {
         info.m_cache[entry.reference] += entry.values;
-        if (!entry.unknownMembers.isEmpty())
-            info.m_unknownOfCacheEntries.insert(entry.reference, entry.unknownMembers);
+        if (entry.unknownMembers.isEmpty())
+            continue;
+        if (!unite(&info.m_unknownOfCacheEntries[entry.reference], entry.unknownMembers)) {
+            return Error(ErrorCode::InvalidContent,
+                         Tr::tr("Two entries of the reference \"%1\" differ in \"%2\".")
+                             .arg(entry.reference, kCacheKey));
+        }
     }
     return info;
+}
+
+void ExtendedMetadataInfo::setMetadataCache(const MetadataCache &cache)
+{
+    m_cache = cache;
+    m_unknownOfCacheEntries.removeIf([&cache](auto entry) { return !cache.contains(entry.key()); });
 }
 
 QJsonObject ExtendedMetadataInfo::toJson() const

@@ -25,11 +25,13 @@ public:
     using MetadataCache = QHash<QString, QList<TalvaneExtendedMetaDataValue>>;
 
     /// Missing members read as empty. A member of the wrong type fails with InvalidContent, naming it.
+    /// Entries of one reference are joined.
     [[nodiscard]] static Result<ExtendedMetadataInfo> fromJson(const QJsonObject &json);
     [[nodiscard]] QJsonObject toJson() const;
 
     [[nodiscard]] MetadataCache metadataCache() const { return m_cache; }
-    void setMetadataCache(const MetadataCache &cache) { m_cache = cache; }
+    /// Members of an entry that this version doesn't know stay with its reference, and go with it.
+    void setMetadataCache(const MetadataCache &cache);
 
     [[nodiscard]] QList<TalvaneMetadataMappingConnection> metadataMappingConnections() const
     {
