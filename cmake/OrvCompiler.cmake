@@ -45,4 +45,5 @@ if(ORV_SANITIZE)
 endif()
 if(ORV_BUILD_FUZZERS)
   add_compile_options(-fsanitize=fuzzer-no-link)
+  add_compile_definitions(QT_FORCE_ASSERTS) # what the fuzzers find is worth little without them
 endif()

@@ -90,7 +90,7 @@ Error &Error::ecatch(const char *function, const char *file, int line)
     return *this;
 }
 
-Error &Error::ecatch(std::source_location place)
+Error &Error::ecatch(SourceLocation place)
 {
     return ecatch(place.function_name(), place.file_name(), static_cast<int>(place.line()));
 }

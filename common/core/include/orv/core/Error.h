@@ -1,13 +1,12 @@
 #pragma once
 
 #include <orv/core/Export.h>
+#include <orv/core/SourceLocation.h>
 
 #include <QList>
 #include <QSharedDataPointer>
 #include <QString>
 #include <QStringList>
-
-#include <source_location>
 
 namespace orv {
 
@@ -69,7 +68,7 @@ public:
     /// Records and logs (level info) the place that passes this failure on, and returns it unchanged
     /// otherwise. On a success it does nothing.
     Error &ecatch(const char *function, const char *file, int line);
-    Error &ecatch(std::source_location place = std::source_location::current());
+    Error &ecatch(SourceLocation place = SourceLocation::current());
 
     /// The places that passed this failure on, the innermost first.
     [[nodiscard]] QList<ErrorPlace> trail() const;

@@ -56,10 +56,7 @@ public:
     void addWarning(const QString &warning) { m_warnings.append(warning); }
 
     /// As Error::ecatch; returns the error to pass on.
-    Error &ecatch(std::source_location place = std::source_location::current())
-    {
-        return m_error.ecatch(place);
-    }
+    Error &ecatch(SourceLocation place = SourceLocation::current()) { return m_error.ecatch(place); }
     Error &ecatch(const char *function, const char *file, int line)
     {
         return m_error.ecatch(function, file, line);
@@ -95,10 +92,7 @@ public:
     [[nodiscard]] const Warnings &warnings() const { return m_warnings; }
     void addWarning(const QString &warning) { m_warnings.append(warning); }
 
-    Error &ecatch(std::source_location place = std::source_location::current())
-    {
-        return m_error.ecatch(place);
-    }
+    Error &ecatch(SourceLocation place = SourceLocation::current()) { return m_error.ecatch(place); }
     Error &ecatch(const char *function, const char *file, int line)
     {
         return m_error.ecatch(function, file, line);
