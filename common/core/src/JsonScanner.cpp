@@ -30,6 +30,8 @@ struct Key
 /// Objects of documents have few keys: comparing hashes in a row beats a table up to this many.
 constexpr size_t kLinearKeys = 32;
 
+constexpr qsizetype kMarkSize = 3;
+
 /// The keys seen in one open object.
 class KeySet
 {
@@ -163,8 +165,10 @@ private:
 
     /// UTF-8, which half a surrogate pair has not: all such would become the same replacement character. They
     /// stay UTF-16, behind a byte that no UTF-8 text holds.
-    static QByteArray comparable(const QString &key)
+    static QByteArray comparable(QString key)
     {
+        while (key.startsWith(QChar::ByteOrderMark))
+            key.remove(0, 1);
         if (key.isValidUtf16())
             return key.toUtf8();
         return '\xFF' + QByteArray(reinterpret_cast<const char *>(key.utf16()), key.size() * 2);
@@ -172,6 +176,11 @@ private:
 
     bool insertKey(const char *start, const char *end, bool escaped)
     {
+        // QJsonDocument drops a byte order mark that begins a text, so keys that differ by it become the
+        // same.
+        while (!escaped && end - start >= kMarkSize &&
+               std::memcmp(start, "\xEF\xBB\xBF", size_t(kMarkSize)) == 0)
+            start += kMarkSize;
         Key key{start, end - start, 0, {}};
         if (escaped)
             key.unescaped = comparable(keyText(start, end, true));

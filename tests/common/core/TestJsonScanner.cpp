@@ -80,6 +80,10 @@ void TestJsonScanner::aRepeatedKeyIsFoundWhereItStandsAgain_data()
     QTest::newRow("surrogate pair and UTF-8")
         << "{\"\\ud83e\\uddea\":1,\"\xF0\x9F\xA7\xAA\":2}"_ba << u"\U0001F9EA"_s;
     QTest::newRow("escaped quote") << R"({"a\"b":1,"a\u0022b":2})"_ba << u"a\"b"_s;
+    QTest::newRow("byte order mark before the second") << "{\"a\":1,\"\xEF\xBB\xBF"
+                                                          "a\":2}"_ba
+                                                       << u"a"_s;
+    QTest::newRow("escaped byte order mark") << R"({"\ufeffa":1,"a":2})"_ba << u"a"_s;
     QTest::newRow("escaped solidus") << R"({"a/b":1,"a\/b":2})"_ba << u"a/b"_s;
     QTest::newRow("blanks before the colon") << "{\"a\" :1 ,\n\t\"a\" :2}"_ba << u"a"_s;
     QTest::newRow("32 keys, the first again") << objectWithKeys(31, "key0") << u"key0"_s;

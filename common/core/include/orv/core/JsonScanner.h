@@ -18,7 +18,8 @@ struct DuplicateKey
 
 /// Finds the first key that stands twice in one object of \a json, which must be well-formed JSON. Parsers
 /// silently keep one of the two, so a document would lose the other. Linear in time; memory grows with the
-/// keys of the objects that are open at one place.
+/// keys of the objects that are open at one place. Byte order marks at the beginning of a key don't count, as
+/// QJsonDocument drops them.
 [[nodiscard]] ORV_WORKFLOW_EXPORT std::optional<DuplicateKey> findDuplicateKey(QByteArrayView json);
 
 } // namespace orv
