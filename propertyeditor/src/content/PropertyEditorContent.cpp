@@ -1,9 +1,8 @@
-#include <orv/propertyeditor/content/PropertyEditorContent.h>
-
 #include "StampedCells.h"
 
 #include <orv/core/JsonUtils.h>
 #include <orv/core/Logging.h>
+#include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
@@ -11,6 +10,8 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+
+#include <optional>
 
 namespace orv {
 
@@ -43,7 +44,7 @@ QByteArray beginningOf(const QByteArray &json)
     return json.size() <= kLoggedBytes ? json : json.left(kLoggedBytes) + "...";
 }
 
-QJsonObject parseDocument(const QByteArray &json)
+std::optional<QJsonObject> parseDocument(const QByteArray &json)
 {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
@@ -51,8 +52,10 @@ QJsonObject parseDocument(const QByteArray &json)
         qCWarning(propertyEditorLog) << "Parse error in JSON" << beginningOf(json) << "at offset" << error.offset;
         return {};
     }
-    if (!document.isObject())
+    if (!document.isObject()) {
         qCWarning(propertyEditorLog) << "JSON document is not an object";
+        return {};
+    }
     return document.object();
 }
 
@@ -87,9 +90,8 @@ PropertyEditorContent::PropertyEditorContent(const Tabs &tabs, const QJsonObject
 PropertyEditorContent::PropertyEditorContent(const QByteArray &json)
     : PropertyEditorContent()
 {
-    const QJsonObject document = parseDocument(json);
-    if (!document.isEmpty())
-        assignDocument(document);
+    if (const std::optional<QJsonObject> document = parseDocument(json))
+        assignDocument(*document);
 }
 
 PropertyEditorContent::PropertyEditorContent(const QJsonObject &document)
