@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// What must hold for any bytes whatever, shared by the fuzzers and the tests that run their corpus. Each
+/// check answers an empty text when all is well, and otherwise what is wrong.
+namespace FormChecks {
+
+/// JSON text is either refused with a place and a remedy, or kept whole.
+[[nodiscard]] QString checkJson(const QByteArray &bytes);
+
+/// The value form reads back what it writes, apart from the stamps.
+[[nodiscard]] QString checkValueForm(const QByteArray &bytes);
+
+/// The object form refuses a document or reads back what it writes, and tells of all that it drops.
+[[nodiscard]] QString checkObjectForm(const QByteArray &bytes);
+
+} // namespace FormChecks

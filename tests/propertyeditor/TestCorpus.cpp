@@ -1,0 +1,72 @@
+#include "FormChecks.h"
+#include "LogCapture.h"
+#include "OrvTest.h"
+#include "TestData.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString corpusPath()
+{
+    return QDir::cleanPath(TestData::path(u"../corpus"_s));
+}
+
+} // namespace
+
+/// Runs what the fuzzers start from, and what they once found, through all their checks.
+class TestCorpus : public OrvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyFuzzerHasSeeds_data();
+    void everyFuzzerHasSeeds();
+    void jsonTextIsRefusedOrKeptWhole_data() { addFiles(); }
+    void jsonTextIsRefusedOrKeptWhole() { run(FormChecks::checkJson); }
+    void theValueFormReadsBackWhatItWrites_data() { addFiles(); }
+    void theValueFormReadsBackWhatItWrites() { run(FormChecks::checkValueForm); }
+    void theObjectFormReadsBackWhatItWrites_data() { addFiles(); }
+    void theObjectFormReadsBackWhatItWrites() { run(FormChecks::checkObjectForm); }
+
+private:
+    static void addFiles();
+    static void run(QString (*check)(const QByteArray &));
+};
+
+void TestCorpus::addFiles()
+{
+    QTest::addColumn<QString>("path");
+    const QDir corpus(corpusPath());
+    for (const QString &folder : corpus.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        for (const QFileInfo &file : QDir(corpus.filePath(folder)).entryInfoList(QDir::Files))
+            QTest::addRow("%s/%s", qPrintable(folder), qPrintable(file.fileName())) << file.filePath();
+    }
+}
+
+void TestCorpus::run(QString (*check)(const QByteArray &))
+{
+    QFETCH(QString, path);
+    const LogCapture log;
+    const QString wrong = check(TestData::read(path));
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+}
+
+void TestCorpus::everyFuzzerHasSeeds_data()
+{
+    QTest::addColumn<QString>("folder");
+    for (const char *folder : {"json", "object_form", "value_form"})
+        QTest::newRow(folder) << QString::fromLatin1(folder);
+}
+
+void TestCorpus::everyFuzzerHasSeeds()
+{
+    QFETCH(QString, folder);
+    QVERIFY(QDir(corpusPath() + u'/' + folder).entryList(QDir::Files).size() >= 10);
+}
+
+ORV_REGISTER_TEST(TestCorpus)
+
+#include "TestCorpus.moc"
