@@ -263,18 +263,19 @@ class Checker:
 
     @staticmethod
     def passes(row, value):
-        """As the program compares: a text never orders against a number, and a null reference passes."""
+        """As the program compares: a text that is a number orders as one, others do not; a null reference passes."""
         keyword, parameter = row["verificationFunction"].strip().lower(), row["verificationParameters"]
-        is_number = isinstance(value, (int, float)) and not isinstance(value, bool)
+        number = to_number(value)
         if keyword == "range":
             match = RANGE.fullmatch(parameter)
-            if not match or not is_number:
+            if not match or number is None:
                 return False
             low, high = float(match[2]), float(match[3])
-            return (low <= value if match[1] == "[" else low < value) \
-                and (value <= high if match[4] == "]" else value < high)
+            return (low <= number if match[1] == "[" else low < number) \
+                and (number <= high if match[4] == "]" else number < high)
         if keyword in ORDERINGS:
-            return is_number and to_number(parameter) is not None and ORDERINGS[keyword](value, to_number(parameter))
+            limit = to_number(parameter)
+            return number is not None and limit is not None and ORDERINGS[keyword](number, limit)
         if keyword in TEXT_RULES:
             return TEXT_RULES[keyword]("" if value is None else str(value), parameter)
         if keyword == "list-not-empty":
