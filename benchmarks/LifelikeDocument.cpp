@@ -56,7 +56,8 @@ QJsonObject samplesCell(int samples)
     for (int i = 0; i < samples; ++i) {
         entries.append(QJsonObject{
             {QStringLiteral("SamplesId"), i + 1},
-            {QStringLiteral("SampleName"), QStringLiteral("antibody_digest_%1").arg(i, 5, 10, QLatin1Char('0'))},
+            {QStringLiteral("SampleName"),
+             QStringLiteral("antibody_digest_%1").arg(i, 5, 10, QLatin1Char('0'))},
             {QStringLiteral("FilePath"),
              QStringLiteral("/data/2023/antibody/antibody_digest_%1.mzML").arg(i, 5, 10, QLatin1Char('0'))},
             {QStringLiteral("Protease"), QStringLiteral("Trypsin")},
@@ -64,8 +65,9 @@ QJsonObject samplesCell(int samples)
             {QStringLiteral("Metadata"), QJsonObject{{QStringLiteral("type"), 0}}}});
     }
     const QJsonObject value{{QStringLiteral("Samples"), entries}};
-    return cell(QStringLiteral("Samples"), QStringLiteral("Sample Input"),
-                {QJsonObject{{QStringLiteral("name"), QStringLiteral("Samples")}, {QStringLiteral("value"), value}}});
+    return cell(
+        QStringLiteral("Samples"), QStringLiteral("Sample Input"),
+        {QJsonObject{{QStringLiteral("name"), QStringLiteral("Samples")}, {QStringLiteral("value"), value}}});
 }
 
 } // namespace
@@ -78,13 +80,12 @@ QByteArray document(int samples, int steps)
         columns.append(QStringLiteral("Step %1").arg(i));
         cells.append(propertyCell(i));
     }
-    const QJsonArray tabs{
-        QJsonObject{{QStringLiteral("name"), QStringLiteral("Samples")},
-                    {QStringLiteral("columns"), QJsonArray{QStringLiteral("Sample Input")}},
-                    {QStringLiteral("cells"), QJsonArray{samplesCell(samples)}}},
-        QJsonObject{{QStringLiteral("name"), QStringLiteral("Processing")},
-                    {QStringLiteral("columns"), columns},
-                    {QStringLiteral("cells"), cells}}};
+    const QJsonArray tabs{QJsonObject{{QStringLiteral("name"), QStringLiteral("Samples")},
+                                      {QStringLiteral("columns"), QJsonArray{QStringLiteral("Sample Input")}},
+                                      {QStringLiteral("cells"), QJsonArray{samplesCell(samples)}}},
+                          QJsonObject{{QStringLiteral("name"), QStringLiteral("Processing")},
+                                      {QStringLiteral("columns"), columns},
+                                      {QStringLiteral("cells"), cells}}};
     const QJsonObject document{{QStringLiteral("tabs"), tabs},
                                {QStringLiteral("metadata"), stamp()},
                                {QStringLiteral("extendedMetadata"), QJsonObject()}};

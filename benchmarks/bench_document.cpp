@@ -9,6 +9,7 @@
 
 #include <QFile>
 #include <QJsonDocument>
+#include <QLoggingCategory>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -67,6 +68,7 @@ void addDocument(const std::string &label, const QByteArray &bytes, const QStrin
 
 int main(int argc, char *argv[])
 {
+    QLoggingCategory::setFilterRules(QStringLiteral("orv.*.debug=false"));
     const QTemporaryDir folder;
     struct Size
     {

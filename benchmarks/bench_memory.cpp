@@ -1,81 +1,105 @@
-// Memory at its peak while a document is loaded, against that of the bare parse, each in a process of its own.
+// Memory at its peak while a document is loaded, against that of the bare parse, each in a process of its
+// own.
 
 #include "LifelikeDocument.h"
 
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 
+#include <QCoreApplication>
+#include <QFile>
 #include <QJsonDocument>
+#include <QProcess>
+#include <QTemporaryDir>
 
 #include <cstdio>
-#include <functional>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace orv;
 
 namespace {
 
+/// The high-water mark of this program's own memory; getrusage would tell that of the parent from before
+/// exec.
 long peakKilobytes()
 {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return usage.ru_maxrss;
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return -1;
+    for (const QByteArray &line : status.readAll().split('\n')) {
+        if (line.startsWith("VmHWM:"))
+            return line.mid(6).chopped(2).trimmed().toLong();
+    }
+    return -1;
 }
 
-/// What \a work adds to the peak of a fresh process, in kB.
-long peakOf(const std::function<void()> &work)
+bool loadValueForm(const QByteArray &bytes)
 {
-    int ends[2] = {};
-    if (pipe(ends) != 0)
-        return -1;
-    const pid_t child = fork();
-    if (child == 0) {
-        const long before = peakKilobytes();
-        work();
-        const long added = peakKilobytes() - before;
-        const bool written = write(ends[1], &added, sizeof added) == sizeof added;
-        _exit(written ? 0 : 1);
-    }
-    long added = -1;
-    const bool got = read(ends[0], &added, sizeof added) == sizeof added;
-    waitpid(child, nullptr, 0);
-    close(ends[0]);
-    close(ends[1]);
-    return got ? added : -1;
+    return !PropertyEditorContent(bytes).tabsAndContent().isEmpty();
+}
+
+bool loadObjectForm(const QByteArray &bytes)
+{
+    PropertyEditor::Content content;
+    return !content.assignFromJson(QJsonDocument::fromJson(bytes).object()).hasError();
+}
+
+struct Case
+{
+    const char *name;
+    bool (*work)(const QByteArray &bytes);
+};
+
+const Case kCases[] = {
+    {"text alone", [](const QByteArray &bytes) { return !bytes.isEmpty(); }},
+    {"bare parse", [](const QByteArray &bytes) { return !QJsonDocument::fromJson(bytes).isNull(); }},
+    {"value form", loadValueForm},
+    {"object form", loadObjectForm},
+    {"bare parse and write",
+     [](const QByteArray &bytes) { return !QJsonDocument::fromJson(bytes).toJson().isEmpty(); }},
+    {"value form, loaded and written",
+     [](const QByteArray &bytes) { return !PropertyEditorContent(bytes).toJson().isEmpty(); }},
+};
+
+/// The child: reads the file, does one case, and prints its peak.
+int runCase(int index, const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || !kCases[index].work(file.readAll()))
+        return 1;
+    std::printf("%ld\n", peakKilobytes());
+    return 0;
+}
+
+long peakOfCase(int index, const QString &path)
+{
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(), {QString::number(index), path});
+    if (!child.waitForFinished(120000) || child.exitCode() != 0)
+        qFatal("A case failed");
+    return child.readAllStandardOutput().trimmed().toLong();
 }
 
 } // namespace
 
-int main()
+int main(int argc, char *argv[])
 {
+    const QCoreApplication application(argc, argv);
+    if (argc == 3)
+        return runCase(QByteArray(argv[1]).toInt(), QFile::decodeName(argv[2]));
+
+    const QTemporaryDir folder;
     const QByteArray bytes = Lifelike::document(100000, 40);
-    const long bare = peakOf([&] {
-        const QJsonDocument document = QJsonDocument::fromJson(bytes);
-        std::printf("%s", document.isNull() ? "broken\n" : "");
-    });
-    const long value = peakOf([&] {
-        const PropertyEditorContent content(bytes);
-        std::printf("%s", content.tabsAndContent().isEmpty() ? "broken\n" : "");
-    });
-    const long valueRoundTrip = peakOf([&] {
-        const PropertyEditorContent content(bytes);
-        std::printf("%s", content.toJson().isEmpty() ? "broken\n" : "");
-    });
-    const long object = peakOf([&] {
-        PropertyEditor::Content content;
-        if (content.assignFromJson(QJsonDocument::fromJson(bytes).object()).hasError())
-            std::printf("broken\n");
-    });
-    std::printf("peak of a document of %.1f MB, added to the text itself\n", double(bytes.size()) / 1e6);
-    std::printf("%-36s %10s %8s\n", "", "kB", "ratio");
-    const auto row = [bare](const char *name, long kilobytes) {
-        std::printf("%-36s %10ld %8.2f\n", name, kilobytes, double(kilobytes) / double(bare));
-    };
-    row("bare parse", bare);
-    row("value form", value);
-    row("object form", object);
-    row("value form, loaded and written", valueRoundTrip);
+    QFile file(folder.filePath(QStringLiteral("large.wflw")));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("The benchmark's file can't be written");
+    file.close();
+
+    std::printf("peak memory for a document of %.1f MB, in kB; the ratio is to the bare parse\n",
+                double(bytes.size()) / 1e6);
+    const long bare = peakOfCase(1, file.fileName());
+    for (int i = 0; i < int(std::size(kCases)); ++i) {
+        const long peak = peakOfCase(i, file.fileName());
+        std::printf("%-36s %10ld %8.2f\n", kCases[i].name, peak, double(peak) / double(bare));
+    }
     return 0;
 }

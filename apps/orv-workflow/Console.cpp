@@ -1,7 +1,8 @@
 #include "Console.h"
 
-#include <cstdio>
 #include <unistd.h>
+
+#include <cstdio>
 
 namespace orv::cli {
 

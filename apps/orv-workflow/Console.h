@@ -12,7 +12,8 @@ namespace orv::cli {
 [[nodiscard]] bool standardOutputIsTerminal();
 [[nodiscard]] bool standardErrorIsTerminal();
 
-enum class Style {
+enum class Style
+{
     Heading,
     Good,
     Caution,

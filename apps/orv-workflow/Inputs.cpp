@@ -91,9 +91,10 @@ QList<BatchInput> batchInputs(const QStringList &arguments)
         for (const QString &file : files)
             inputs.append({file, {}});
         if (files.isEmpty()) {
-            inputs.append({argument, Failure{BadInput, 0,
-                                             QStringLiteral("The folder holds no *.wflw file; name a file or a "
-                                                            "folder that has one.")}});
+            inputs.append(
+                {argument, Failure{BadInput, 0,
+                                   QStringLiteral("The folder holds no *.wflw file; name a file or a "
+                                                  "folder that has one.")}});
         }
     }
     return inputs;

@@ -6,9 +6,9 @@
 #include <orv/propertyeditor/Version.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 
-#include <CLI/CLI.hpp>
-
 #include <QCoreApplication>
+
+#include <CLI/CLI.hpp>
 
 #include <csignal>
 

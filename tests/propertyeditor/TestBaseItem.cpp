@@ -49,12 +49,12 @@ private Q_SLOTS:
 void TestBaseItem::typesHaveTheirNumbersAndNames_data()
 {
     QTest::addColumn<int>("number");
-    const char *const names[] = {"Unknown",    "Senthia",       "Dravik",         "Karvon",         "Database",
-                                 "DetachedGlycans", "Disulfide", "GlycanOptions", "Intact",         "IntactOptions",
-                                 "Oligo",      "OligoOptions",  "OligoMasses",    "Isotope",        "Masses",
-                                 "MultiDocReport", "Proteins",  "Preview",        "IntactProteins", "OligoMolecules",
-                                 "Ostrale",    "Samples",       "SamplesProteins", "Trenq",         "TrenqPreview",
-                                 "CaldrinDIA"};
+    const char *const names[] = {
+        "Unknown",        "Senthia",        "Dravik",  "Karvon",         "Database",        "DetachedGlycans",
+        "Disulfide",      "GlycanOptions",  "Intact",  "IntactOptions",  "Oligo",           "OligoOptions",
+        "OligoMasses",    "Isotope",        "Masses",  "MultiDocReport", "Proteins",        "Preview",
+        "IntactProteins", "OligoMolecules", "Ostrale", "Samples",        "SamplesProteins", "Trenq",
+        "TrenqPreview",   "CaldrinDIA"};
     int number = 0;
     for (const char *name : names)
         QTest::newRow(name) << number++;
@@ -108,8 +108,8 @@ void TestBaseItem::typeTextsAreCaseSensitive()
 void TestBaseItem::commonFieldsAreReadAndWritten()
 {
     PlainItem item(BaseItemType::Samples);
-    const QJsonObject json = Documents::parse(
-        R"({"metadata":"{}","type":"Samples","name":"n","title":"t","other":1})");
+    const QJsonObject json =
+        Documents::parse(R"({"metadata":"{}","type":"Samples","name":"n","title":"t","other":1})");
     ORV_VERIFY_OK(item.assignFromJson(json, {}));
     QCOMPARE(item.name(), QStringLiteral("n"));
     QCOMPARE(item.title(), QStringLiteral("t"));
@@ -149,7 +149,8 @@ void TestBaseItem::anUnsupportedItemKeepsItsJson_data()
 void TestBaseItem::anUnsupportedItemKeepsItsJson()
 {
     QFETCH(int, flag);
-    const QJsonObject json = Documents::parse(R"({"type":"Disulfide","properties":[{"name":"x","value":{"a":[1.5]}}],
+    const QJsonObject json =
+        Documents::parse(R"({"type":"Disulfide","properties":[{"name":"x","value":{"a":[1.5]}}],
         "metadata":"{\"user\":\"u\"}","strange":{"deep":[null,true]},"path":"../relative"})");
     UnsupportedItem item(BaseItemType::Disulfide);
     ORV_VERIFY_OK(item.assignFromJson(json, {}));

@@ -66,9 +66,11 @@ QJsonObject threeCells()
     return Documents::document(
         {Documents::tab(QStringLiteral("First"), {QStringLiteral("A")},
                         {Documents::cell(QStringLiteral("Samples"))}),
-         Documents::tab(QStringLiteral("Second"), {QStringLiteral("B"), QStringLiteral("C")},
-                        {Documents::cell(QStringLiteral("Karvon")), Documents::cell(QStringLiteral("Samples"))})},
-        {{QStringLiteral("version"), QStringLiteral("5.20.0")}, {QStringLiteral("user"), QStringLiteral("ada")}});
+         Documents::tab(
+             QStringLiteral("Second"), {QStringLiteral("B"), QStringLiteral("C")},
+             {Documents::cell(QStringLiteral("Karvon")), Documents::cell(QStringLiteral("Samples"))})},
+        {{QStringLiteral("version"), QStringLiteral("5.20.0")},
+         {QStringLiteral("user"), QStringLiteral("ada")}});
 }
 
 QString writeFile(const QTemporaryDir &folder, const QByteArray &bytes)
@@ -220,7 +222,8 @@ void TestContent::metadataThatIsNoJsonReadsAsEmpty_data()
     QTest::newRow("no JSON") << QJsonValue(QStringLiteral("not json"));
     QTest::newRow("array") << QJsonValue(QStringLiteral("[1]"));
     QTest::newRow("empty") << QJsonValue(QString());
-    QTest::newRow("no string") << QJsonValue(QJsonObject{{QStringLiteral("version"), QStringLiteral("5.0.0")}});
+    QTest::newRow("no string") << QJsonValue(
+        QJsonObject{{QStringLiteral("version"), QStringLiteral("5.0.0")}});
 }
 
 void TestContent::metadataThatIsNoJsonReadsAsEmpty()
@@ -343,8 +346,8 @@ void TestContent::metadataAloneCanBeLoaded()
     Content content;
     ORV_VERIFY_OK(content.assignFromJson(threeCells()));
     QSignalSpy reset(&content, &Content::reset);
-    const QString path = writeFile(
-        folder, Documents::toBytes(Documents::document({}, {{QStringLiteral("name"), QStringLiteral("other")}})));
+    const QString path = writeFile(folder, Documents::toBytes(Documents::document(
+                                               {}, {{QStringLiteral("name"), QStringLiteral("other")}})));
     content.assignMetaDataFromFile(path);
     QCOMPARE(content.name(), QStringLiteral("other"));
     QCOMPARE(content.count(), 2);
@@ -416,8 +419,8 @@ void TestContent::removesByIndexWithFourSignals()
     connect(&content, &Content::groupCountChanged, this,
             [&](int count) { events.append(QStringLiteral("count %1").arg(count)); });
     QVERIFY(content.removeGroup(0));
-    QCOMPARE(events, QStringList({QStringLiteral("0"), QStringLiteral("First"), QStringLiteral("pointer First"),
-                                  QStringLiteral("count 1")}));
+    QCOMPARE(events, QStringList({QStringLiteral("0"), QStringLiteral("First"),
+                                  QStringLiteral("pointer First"), QStringLiteral("count 1")}));
     QCOMPARE(content.groupNames(), QStringList(QStringLiteral("Second")));
 }
 
@@ -480,8 +483,9 @@ void TestContent::metadataAreReadAndWritten()
     QCOMPARE(content.contentMode(), PropertyEditorContent::ContentMode::TalvaneMode);
     content.setDesktopContentMode();
     QCOMPARE(content.contentMode(), PropertyEditorContent::ContentMode::DesktopMode);
-    content.assignMetaDataFromJsonObject(Documents::document(
-        {}, {{QStringLiteral("icon"), QStringLiteral("i")}, {QStringLiteral("description"), QStringLiteral("d")}}));
+    content.assignMetaDataFromJsonObject(
+        Documents::document({}, {{QStringLiteral("icon"), QStringLiteral("i")},
+                                 {QStringLiteral("description"), QStringLiteral("d")}}));
     QCOMPARE(content.iconName(), QStringLiteral("i"));
     QCOMPARE(content.description(), QStringLiteral("d"));
 }

@@ -74,8 +74,8 @@ QStringList cellNames(const QJsonArray &cells)
 
 void TestItemGroup::splitsCellsIntoColumnsAndBack()
 {
-    const QJsonObject json = tab(kTwoColumns, {cell("Karvon", "0"), cell("Karvon", "1"), cell("Karvon", "2"),
-                                               cell("Karvon", "3")});
+    const QJsonObject json = tab(
+        kTwoColumns, {cell("Karvon", "0"), cell("Karvon", "1"), cell("Karvon", "2"), cell("Karvon", "3")});
     ItemGroup group;
     ORV_VERIFY_OK(group.assignFromJson(json, {}));
     QCOMPARE(cellNames(group.subGroup(0)->toJson(PropertyConversionFlag::KeepPaths)),
@@ -89,7 +89,8 @@ void TestItemGroup::unevenColumnsLoadButSaveAsAnEmptyObject()
 {
     const LogCapture log;
     ItemGroup group;
-    ORV_VERIFY_OK(group.assignFromJson(tab(kTwoColumns, {cell("Karvon"), cell("Karvon"), cell("Karvon")}), {}));
+    ORV_VERIFY_OK(
+        group.assignFromJson(tab(kTwoColumns, {cell("Karvon"), cell("Karvon"), cell("Karvon")}), {}));
     QCOMPARE(group.subGroup(0)->count(), 2);
     QCOMPARE(group.subGroup(1)->count(), 1);
     const QJsonObject json = group.toJson(PropertyConversionFlag::KeepPaths);
@@ -203,8 +204,9 @@ void TestItemGroup::announcesEveryColumnAndThenTheReset()
             [&](int count) { events.append(QStringLiteral("count %1").arg(count)); });
     connect(&group, &ItemGroup::reset, this, [&] { events.append(QStringLiteral("reset")); });
     ORV_VERIFY_OK(group.assignFromJson(tab(kTwoColumns, {}), {}));
-    QCOMPARE(events, QStringList({QStringLiteral("added A"), QStringLiteral("count 1"), QStringLiteral("added B"),
-                                  QStringLiteral("count 2"), QStringLiteral("reset")}));
+    QCOMPARE(events,
+             QStringList({QStringLiteral("added A"), QStringLiteral("count 1"), QStringLiteral("added B"),
+                          QStringLiteral("count 2"), QStringLiteral("reset")}));
 }
 
 void TestItemGroup::emptyNamesAreTakenFromAFile()

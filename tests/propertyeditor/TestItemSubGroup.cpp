@@ -81,7 +81,8 @@ void TestItemSubGroup::announcesEveryItemAndThenTheReset()
     connect(&column, &ItemSubGroup::itemAdded, this,
             [&](BaseItem *item) { events.append(QStringLiteral("added ") + item->typeString()); });
     connect(&column, &ItemSubGroup::reset, this, [&] { events.append(QStringLiteral("reset")); });
-    ORV_VERIFY_OK(column.assignFromJson(cells({QStringLiteral("Samples"), QStringLiteral("Karvon")}), {}, {}));
+    ORV_VERIFY_OK(
+        column.assignFromJson(cells({QStringLiteral("Samples"), QStringLiteral("Karvon")}), {}, {}));
     QCOMPARE(events, QStringList({QStringLiteral("added Samples"), QStringLiteral("added Karvon"),
                                   QStringLiteral("reset")}));
 }
@@ -162,8 +163,7 @@ void TestItemSubGroup::findsItemsByTheirOwnType()
     QVERIFY(column.addItem(BaseItemType::Samples));
     QVERIFY(column.addItem(BaseItemType::Masses));
     QVERIFY(column.addItem(BaseItemType::Samples));
-    QCOMPARE(column.findItems(BaseItemType::Samples),
-             QList<BaseItem *>({column.item(0), column.item(2)}));
+    QCOMPARE(column.findItems(BaseItemType::Samples), QList<BaseItem *>({column.item(0), column.item(2)}));
     QVERIFY(column.findItems(BaseItemType::Karvon).isEmpty());
 }
 

@@ -59,7 +59,12 @@ QJsonObject metadataOf(const QJsonValue &holder)
 
 QJsonArray cellsOf(const QJsonObject &document, int tab)
 {
-    return document.value(QStringLiteral("tabs")).toArray().at(tab).toObject().value(QStringLiteral("cells")).toArray();
+    return document.value(QStringLiteral("tabs"))
+        .toArray()
+        .at(tab)
+        .toObject()
+        .value(QStringLiteral("cells"))
+        .toArray();
 }
 
 } // namespace
@@ -171,7 +176,8 @@ void TestPropertyEditorContent::absentAndEmptyExtendedMetadataBecomeTheDefault()
 
 void TestPropertyEditorContent::extendedMetadataAreKeptAsTheyStand()
 {
-    const PropertyEditorContent content(QByteArray(R"({"tabs":[],"extendedMetadata":{"odd":[1,{"x":null}]}})"));
+    const PropertyEditorContent content(
+        QByteArray(R"({"tabs":[],"extendedMetadata":{"odd":[1,{"x":null}]}})"));
     QCOMPARE(content.extendedMetadataInfo(), Documents::parse(R"({"odd":[1,{"x":null}]})"));
     QCOMPARE(Documents::parse(content.toJson()).value(QStringLiteral("extendedMetadata")).toObject(),
              content.extendedMetadataInfo());
@@ -182,9 +188,11 @@ void TestPropertyEditorContent::theLegacyModeMovesIntoTheMetadata_data()
     QTest::addColumn<QByteArray>("json");
     QTest::addColumn<QJsonValue>("mode");
     QTest::newRow("moves") << QByteArray(R"({"tabs":[],"projectCreationMode":1})") << QJsonValue(1);
-    QTest::newRow("no integer reads as 0") << QByteArray(R"({"tabs":[],"projectCreationMode":"1"})") << QJsonValue(0);
+    QTest::newRow("no integer reads as 0")
+        << QByteArray(R"({"tabs":[],"projectCreationMode":"1"})") << QJsonValue(0);
     QTest::newRow("the metadata's own wins")
-        << QByteArray(R"({"tabs":[],"projectCreationMode":1,"metadata":"{\"contentMode\":0}"})") << QJsonValue(0);
+        << QByteArray(R"({"tabs":[],"projectCreationMode":1,"metadata":"{\"contentMode\":0}"})")
+        << QJsonValue(0);
     QTest::newRow("absent") << QByteArray(R"({"tabs":[]})") << QJsonValue(QJsonValue::Undefined);
 }
 
@@ -215,8 +223,8 @@ void TestPropertyEditorContent::writingStampsDocumentAndCells()
     for (const QJsonObject &stamp : stamps) {
         QCOMPARE(stamp.value(QStringLiteral("user")).toString(), QStringLiteral("grace"));
         QCOMPARE(stamp.value(QStringLiteral("version")).toString(), QStringLiteral("5.47.0"));
-        const QDateTime created
-            = QDateTime::fromString(stamp.value(QStringLiteral("created")).toString(), Qt::ISODate);
+        const QDateTime created =
+            QDateTime::fromString(stamp.value(QStringLiteral("created")).toString(), Qt::ISODate);
         QVERIFY(qAbs(created.secsTo(QDateTime::currentDateTime())) < 3600);
     }
     QCOMPARE(content.metadata().value(QStringLiteral("version")).toString(), QStringLiteral("5.5.0"));
@@ -304,17 +312,18 @@ void TestPropertyEditorContent::cellsThatAreNoJsonAreWrittenAsStampsAlone()
 
 void TestPropertyEditorContent::everyCellLeavesTheListFunctionsStamped()
 {
-    const QJsonArray cells = Documents::parse(R"({"c":[{"type":"Karvon","metadata":"old"},{"type":"Samples"},5]})")
-                                 .value(QStringLiteral("c"))
-                                 .toArray();
+    const QJsonArray cells =
+        Documents::parse(R"({"c":[{"type":"Karvon","metadata":"old"},{"type":"Samples"},5]})")
+            .value(QStringLiteral("c"))
+            .toArray();
     const VariantItems items = PropertyEditorJsonUtils::jsonArrayToVariantItems(cells);
     QCOMPARE(items.size(), 3);
     const QJsonArray back = PropertyEditorJsonUtils::variantItemsToJsonArray(items);
     QCOMPARE(back.size(), 3);
     for (const QJsonValue &cell : back) {
         const QJsonObject stamp = metadataOf(cell);
-        QCOMPARE(stamp.keys(), QStringList({QStringLiteral("created"), QStringLiteral("user"),
-                                            QStringLiteral("version")}));
+        QCOMPARE(stamp.keys(),
+                 QStringList({QStringLiteral("created"), QStringLiteral("user"), QStringLiteral("version")}));
         QCOMPARE(stamp.value(QStringLiteral("user")).toString(), AppUtils::currentUserName());
     }
     QCOMPARE(back.at(0).toObject().value(QStringLiteral("type")).toString(), QStringLiteral("Karvon"));
@@ -323,8 +332,9 @@ void TestPropertyEditorContent::everyCellLeavesTheListFunctionsStamped()
 void TestPropertyEditorContent::stringListsGoBothWays()
 {
     const QStringList list = {QStringLiteral("b"), QString(), QStringLiteral("a")};
-    QCOMPARE(PropertyEditorJsonUtils::jsonArrayToStringList(PropertyEditorJsonUtils::stringListToJsonArray(list)),
-             list);
+    QCOMPARE(
+        PropertyEditorJsonUtils::jsonArrayToStringList(PropertyEditorJsonUtils::stringListToJsonArray(list)),
+        list);
     QCOMPARE(PropertyEditorJsonUtils::jsonArrayToStringList({1, QStringLiteral("x"), QJsonObject()}),
              QStringList({QString(), QStringLiteral("x"), QString()}));
 }

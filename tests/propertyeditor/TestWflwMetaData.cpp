@@ -1,11 +1,10 @@
 #include "LogCapture.h"
 #include "OrvTest.h"
 
-#include <orv/core/AppUtils.h>
-#include <orv/propertyeditor/workflow/WflwMetaData.h>
-
 #include <KProperty>
 #include <KPropertySet>
+#include <orv/core/AppUtils.h>
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
 
 #include <QDateTime>
 #include <QJsonDocument>
@@ -81,7 +80,8 @@ void TestWflwMetaData::versionsAreJudged_data()
     const int needsUpgrade = int(WflwState::NeedsUpgrade);
     const int notSupported = int(WflwState::NotSupported);
     QTest::newRow("current") << QStringLiteral("5.47.0") << upToDate << upToDate;
-    QTest::newRow("two segments compare below three") << QStringLiteral("5.47") << needsUpgrade << needsUpgrade;
+    QTest::newRow("two segments compare below three")
+        << QStringLiteral("5.47") << needsUpgrade << needsUpgrade;
     QTest::newRow("newer patch") << QStringLiteral("5.47.1") << upToDate << upToDate;
     QTest::newRow("newer minor") << QStringLiteral("5.99.0") << upToDate << upToDate;
     QTest::newRow("newer major") << QStringLiteral("6.0.0") << notSupported << notSupported;
@@ -111,7 +111,8 @@ void TestWflwMetaData::versionsAreJudged()
 void TestWflwMetaData::theSpecialVersionLooksAtNothingElse()
 {
     QStringList messages;
-    QCOMPARE(WflwMetaData::checkWorkflowVersion(QVersionNumber(3), nullptr, &messages), WflwState::NeedsUpgrade);
+    QCOMPARE(WflwMetaData::checkWorkflowVersion(QVersionNumber(3), nullptr, &messages),
+             WflwState::NeedsUpgrade);
     QVERIFY(messages.isEmpty());
 }
 
@@ -127,9 +128,9 @@ void TestWflwMetaData::aNewerMajorVersionIsExplained()
 {
     QStringList messages;
     judge(QStringLiteral("6.0.0"), ContentMode::DesktopMode, &messages);
-    QCOMPARE(messages,
-             QStringList(QStringLiteral("The workflow's version is 6.0.0, but the current software supports only "
-                                        "workflow versions up to 5.x.x")));
+    QCOMPARE(messages, QStringList(QStringLiteral(
+                           "The workflow's version is 6.0.0, but the current software supports only "
+                           "workflow versions up to 5.x.x")));
 }
 
 void TestWflwMetaData::aServerTakesVersionsFromAFloorOn_data()
@@ -160,7 +161,8 @@ void TestWflwMetaData::theStampHoldsUserTimeAndVersion()
              QStringList({QStringLiteral("created"), QStringLiteral("user"), QStringLiteral("version")}));
     QCOMPARE(stamp.value(QStringLiteral("user")).toString(), QStringLiteral("ada"));
     QCOMPARE(stamp.value(QStringLiteral("version")).toString(), QStringLiteral("5.47.0"));
-    const QDateTime created = QDateTime::fromString(stamp.value(QStringLiteral("created")).toString(), Qt::ISODate);
+    const QDateTime created =
+        QDateTime::fromString(stamp.value(QStringLiteral("created")).toString(), Qt::ISODate);
     QVERIFY(created.isValid());
     QVERIFY(created >= before && created <= QDateTime::currentDateTime());
 }
@@ -175,7 +177,8 @@ void TestWflwMetaData::anEmptyUserIsTheSystemsUser()
 void TestWflwMetaData::stampingKeepsOtherKeys()
 {
     const QJsonObject stamped = WflwMetaData::stamped(
-        {{QStringLiteral("version"), 1}, {QStringLiteral("colour"), QStringLiteral("red")}}, QStringLiteral("ada"));
+        {{QStringLiteral("version"), 1}, {QStringLiteral("colour"), QStringLiteral("red")}},
+        QStringLiteral("ada"));
     QCOMPARE(stamped.value(QStringLiteral("version")).toString(), QStringLiteral("5.47.0"));
     QCOMPARE(stamped.value(QStringLiteral("user")).toString(), QStringLiteral("ada"));
     QCOMPARE(stamped.value(QStringLiteral("colour")).toString(), QStringLiteral("red"));
@@ -202,8 +205,8 @@ void TestWflwMetaData::theStampOfAPropertyKeepsOtherKeys()
 void TestWflwMetaData::aPropertyThatIsNoObjectGivesAFreshStamp()
 {
     for (const QByteArray &value : {QByteArray("[1]"), QByteArray("no json"), QByteArray()}) {
-        const QJsonObject stamp
-            = QJsonDocument::fromJson(WflwMetaData::metaDataString(KProperty("x", value))).object();
+        const QJsonObject stamp =
+            QJsonDocument::fromJson(WflwMetaData::metaDataString(KProperty("x", value))).object();
         QCOMPARE(stamp.size(), 3);
     }
 }
@@ -219,8 +222,9 @@ void TestWflwMetaData::aSetWithoutMetadataGetsThem()
     QCOMPARE(property.caption(), QString());
     QCOMPARE(property.description(), QString());
     QCOMPARE(set.groupNameForProperty(property), QByteArray("common"));
-    QCOMPARE(QJsonDocument::fromJson(property.value().toByteArray()).object().value(QStringLiteral("version")),
-             QJsonValue(QStringLiteral("5.47.0")));
+    QCOMPARE(
+        QJsonDocument::fromJson(property.value().toByteArray()).object().value(QStringLiteral("version")),
+        QJsonValue(QStringLiteral("5.47.0")));
 }
 
 void TestWflwMetaData::metadataInASetAreRestamped()
@@ -229,7 +233,8 @@ void TestWflwMetaData::metadataInASetAreRestamped()
     set.addProperty(new KProperty(":metadata", QByteArray(R"({"version":"1.0.0","colour":"red"})")), "other");
     WflwMetaData::setPresetMetaData(&set);
     QCOMPARE(set.count(), 1);
-    const QJsonObject stamp = QJsonDocument::fromJson(set.property(":metadata").value().toByteArray()).object();
+    const QJsonObject stamp =
+        QJsonDocument::fromJson(set.property(":metadata").value().toByteArray()).object();
     QCOMPARE(stamp.value(QStringLiteral("version")).toString(), QStringLiteral("5.47.0"));
     QCOMPARE(stamp.value(QStringLiteral("colour")).toString(), QStringLiteral("red"));
 }

@@ -15,7 +15,8 @@ int print(const QByteArray &bytes)
 {
     if (writeStandardOutput(bytes))
         return Done;
-    printFailure(QStringLiteral("-"), {BadOutput, 0, QStringLiteral("The standard output can't be written.")});
+    printFailure(QStringLiteral("-"),
+                 {BadOutput, 0, QStringLiteral("The standard output can't be written.")});
     return BadOutput;
 }
 
@@ -30,7 +31,8 @@ const std::vector<CommandRow> &commandRows()
          "orv-workflow info examples/workflows", createInfoCommand},
         {"convert", "Load a workflow into objects and write it again",
          "orv-workflow convert old.wflw -o new.wflw --stamp", createConvertCommand},
-        {"types", "List the workflow types and the cell types", "orv-workflow types --json", createTypesCommand},
+        {"types", "List the workflow types and the cell types", "orv-workflow types --json",
+         createTypesCommand},
     };
     return rows;
 }

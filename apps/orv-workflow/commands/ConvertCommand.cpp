@@ -1,6 +1,6 @@
-#include "Command.h"
-
+#include "../Console.h"
 #include "../Inputs.h"
+#include "Command.h"
 
 #include <orv/core/FileUtils.h>
 #include <orv/core/LossObserver.h>
@@ -10,13 +10,11 @@
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 
-#include "../Console.h"
-
-#include <CLI/CLI.hpp>
-
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
+
+#include <CLI/CLI.hpp>
 
 namespace orv::cli {
 
@@ -34,8 +32,8 @@ struct Outcome
 /// a relative path is taken from inside the folder.
 QUrl folderUrlOf(const QString &input)
 {
-    const QString folder
-        = input == kStandardInput ? QDir::currentPath() : QFileInfo(workflowFileOf(input)).absolutePath();
+    const QString folder =
+        input == kStandardInput ? QDir::currentPath() : QFileInfo(workflowFileOf(input)).absolutePath();
     return QUrl::fromLocalFile(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'));
 }
 
@@ -63,7 +61,8 @@ class ConvertCommand : public Command
 public:
     void declare(CLI::App &app) override
     {
-        app.add_option("FILE", m_file, "Workflow file, portable workflow folder, or - for standard input")->required();
+        app.add_option("FILE", m_file, "Workflow file, portable workflow folder, or - for standard input")
+            ->required();
         app.add_option("-o,--output", m_output, "Where to write; - for standard output")->required();
         app.add_flag("--absolute-paths", m_absolutePaths, "Write relative file references as absolute ones");
         app.add_flag("--skip-type-validation", m_skipTypeValidation, "Accept cells of unknown types");

@@ -1,9 +1,8 @@
-#include "Command.h"
-
 #include "../Batch.h"
 #include "../Console.h"
 #include "../Inputs.h"
 #include "../Progress.h"
+#include "Command.h"
 #include "InfoText.h"
 
 #include <orv/core/SysUtils.h>
@@ -45,7 +44,8 @@ class InfoCommand : public Command
 public:
     void declare(CLI::App &app) override
     {
-        app.add_option("FILE", m_files, "Workflow files, portable workflow folders, folders, or - for standard input")
+        app.add_option("FILE", m_files,
+                       "Workflow files, portable workflow folders, folders, or - for standard input")
             ->required();
         app.add_option("--jobs", m_jobs, "Threads (default: all cores)")->check(CLI::PositiveNumber);
     }

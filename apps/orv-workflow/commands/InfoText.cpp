@@ -152,8 +152,8 @@ QJsonObject emptySummaryJson()
 {
     QJsonObject json = summaryToJson({});
     for (QLatin1String key : {QLatin1String("version"), QLatin1String("state"), QLatin1String("name"),
-                              QLatin1String("description"), QLatin1String("icon"), QLatin1String("workflowType"),
-                              QLatin1String("contentMode")})
+                              QLatin1String("description"), QLatin1String("icon"),
+                              QLatin1String("workflowType"), QLatin1String("contentMode")})
         json.insert(key, QJsonValue::Null);
     return json;
 }
@@ -168,9 +168,10 @@ QString summaryToText(const QString &file, const WorkflowSummary &summary)
     for (const QString &message : summary.messages)
         text += fact(QString(), message);
     text += fact(QStringLiteral("Type"), workflowTypeToString(summary.workflowType));
-    text += fact(QStringLiteral("Made for"), summary.contentMode == 0   ? QStringLiteral("desktop")
-                                             : summary.contentMode == 1 ? QStringLiteral("Talvane server")
-                                                                        : QString::number(summary.contentMode));
+    text +=
+        fact(QStringLiteral("Made for"), summary.contentMode == 0   ? QStringLiteral("desktop")
+                                         : summary.contentMode == 1 ? QStringLiteral("Talvane server")
+                                                                    : QString::number(summary.contentMode));
     text += fact(QStringLiteral("Documents"), summary.documents.join(QLatin1String(", ")));
     if (!summary.samples.isEmpty()) {
         text += fact(QStringLiteral("Samples"),

@@ -34,7 +34,8 @@ QJsonArray toJson(const QList<NumberedName> &list)
 {
     QJsonArray array;
     for (const NumberedName &entry : list)
-        array.append(QJsonObject{{QStringLiteral("number"), entry.number}, {QStringLiteral("name"), entry.name}});
+        array.append(
+            QJsonObject{{QStringLiteral("number"), entry.number}, {QStringLiteral("name"), entry.name}});
     return array;
 }
 
@@ -57,8 +58,8 @@ public:
             return printJson(QJsonObject{{QStringLiteral("workflowTypes"), toJson(workflowTypes())},
                                          {QStringLiteral("cellTypes"), toJson(cellTypes())}});
         }
-        return printText(toText(QStringLiteral("Workflow types"), workflowTypes()) + QLatin1Char('\n')
-                         + toText(QStringLiteral("Cell types"), cellTypes()));
+        return printText(toText(QStringLiteral("Workflow types"), workflowTypes()) + QLatin1Char('\n') +
+                         toText(QStringLiteral("Cell types"), cellTypes()));
     }
 };
 

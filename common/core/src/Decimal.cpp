@@ -8,8 +8,8 @@ namespace orv {
 
 namespace {
 
-constexpr std::array<qint64, Decimal::kMaxDecimals + 1> kPowersOfTen
-    = {1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000, 1000000000};
+constexpr std::array<qint64, Decimal::kMaxDecimals + 1> kPowersOfTen = {
+    1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000, 1000000000};
 
 constexpr double kLargestScaled = 9.0e18;
 
@@ -64,8 +64,8 @@ QString Decimal::toString() const
     QString text = m_scaled < 0 ? QStringLiteral("-") : QString();
     text += QString::number(magnitude / scale);
     if (m_decimals > 0) {
-        text += QLatin1Char('.')
-                + QString::number(magnitude % scale).rightJustified(m_decimals, QLatin1Char('0'));
+        text += QLatin1Char('.') +
+                QString::number(magnitude % scale).rightJustified(m_decimals, QLatin1Char('0'));
     }
     return text;
 }

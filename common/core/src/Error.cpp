@@ -1,5 +1,4 @@
 #include <orv/core/Error.h>
-
 #include <orv/core/Logging.h>
 
 #include <QSharedData>
@@ -24,13 +23,11 @@ Error::~Error() = default;
 
 Error::Error(ErrorCode code)
     : Error(code, QStringList())
-{
-}
+{}
 
 Error::Error(ErrorCode code, const QString &message)
     : Error(code, QStringList(message))
-{
-}
+{}
 
 Error::Error(ErrorCode code, const QStringList &messages)
 {

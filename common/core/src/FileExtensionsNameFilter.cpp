@@ -25,8 +25,7 @@ QString filterLine(const QString &description, const QStringList &masks)
 
 FileExtensionsNameFilter::FileExtensionsNameFilter(std::initializer_list<FileType> types)
     : FileExtensionsNameFilter(QList<FileType>(types))
-{
-}
+{}
 
 FileExtensionsNameFilter::FileExtensionsNameFilter(const QList<FileType> &types)
 {

@@ -45,7 +45,8 @@ constexpr std::array kRows = {
 
 const Row *rowOf(FileType type)
 {
-    const auto *const row = std::find_if(kRows.begin(), kRows.end(), [type](const Row &r) { return r.type == type; });
+    const auto *const row =
+        std::find_if(kRows.begin(), kRows.end(), [type](const Row &r) { return r.type == type; });
     return row == kRows.end() ? nullptr : row;
 }
 

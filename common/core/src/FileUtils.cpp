@@ -27,7 +27,8 @@ QString emptyName()
 
 Error cannotOpen(const QString &path, const QString &detail)
 {
-    return Error(ErrorCode::CannotOpenFile, Tr::tr("Could not open the file: %1").arg(path)).addDetail(detail);
+    return Error(ErrorCode::CannotOpenFile, Tr::tr("Could not open the file: %1").arg(path))
+        .addDetail(detail);
 }
 
 Error tooLarge(const QString &path, qint64 size, qint64 maxSize)

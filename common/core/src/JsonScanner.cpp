@@ -1,75 +1,63 @@
 #include <orv/core/JsonScanner.h>
 
-#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QSet>
 
+#include <algorithm>
+#include <array>
 #include <cstring>
-#include <unordered_map>
+#include <deque>
+#include <memory>
 #include <vector>
 
 namespace orv {
 
 namespace {
 
-/// A key as it stands in the text, without its quotes. Escapes are kept: they are undone only where a key
-/// holds one, which no writer of ours produces.
+/// A key of an open object: its bytes, and a fingerprint that tells most keys apart at one glance.
 struct Key
 {
     const char *begin;
-    qsizetype size;
-    size_t hash;
-    QByteArray unescaped; ///< used in place of the text when not null
+    size_t size;
+    quint64 fingerprint;
 
-    [[nodiscard]] QByteArrayView text() const
+    Key(const char *text, size_t length)
+        : begin(text)
+        , size(length)
+        , fingerprint(length)
     {
-        return unescaped.isNull() ? QByteArrayView(begin, size) : QByteArrayView(unescaped);
+        quint64 head = 0;
+        quint64 tail = 0;
+        std::memcpy(&head, text, std::min(length, sizeof head));
+        std::memcpy(&tail, text + length - std::min(length, sizeof tail), std::min(length, sizeof tail));
+        fingerprint ^= head ^ (tail << 7U) ^ (tail >> 57U);
+    }
+
+    [[nodiscard]] QByteArrayView text() const { return {begin, qsizetype(size)}; }
+
+    bool operator==(const Key &other) const
+    {
+        return fingerprint == other.fingerprint && size == other.size &&
+               std::memcmp(begin, other.begin, size) == 0;
     }
 };
 
-/// Objects of documents have few keys: comparing hashes in a row beats a table up to this many.
+/// Objects of documents have few keys: looking at them in a row beats a table up to this many.
 constexpr size_t kLinearKeys = 32;
 
 constexpr qsizetype kMarkSize = 3;
 
-/// The keys seen in one open object.
-class KeySet
+constexpr std::array<bool, 256> structuralBytes()
 {
-public:
-    void clear()
-    {
-        m_keys.clear();
-        m_index.clear();
-    }
+    std::array<bool, 256> table{};
+    for (const char c : {'{', '}', '[', ']', ',', '"'})
+        table[static_cast<unsigned char>(c)] = true;
+    return table;
+}
 
-    bool insert(Key key)
-    {
-        if (m_keys.size() < kLinearKeys) {
-            for (const Key &seen : m_keys) {
-                if (seen.hash == key.hash && seen.text() == key.text())
-                    return false;
-            }
-            m_keys.push_back(std::move(key));
-            return true;
-        }
-        if (m_index.empty()) {
-            for (size_t i = 0; i < m_keys.size(); ++i)
-                m_index.emplace(m_keys[i].hash, i);
-        }
-        const auto [first, last] = m_index.equal_range(key.hash);
-        for (auto it = first; it != last; ++it) {
-            if (m_keys[it->second].text() == key.text())
-                return false;
-        }
-        m_index.emplace(key.hash, m_keys.size());
-        m_keys.push_back(std::move(key));
-        return true;
-    }
-
-private:
-    std::vector<Key> m_keys;
-    std::unordered_multimap<size_t, size_t> m_index;
-};
+/// Most of a written document is white space, colons and numbers, none of which matters here.
+constexpr std::array<bool, 256> kStructural = structuralBytes();
 
 class Scanner
 {
@@ -77,81 +65,70 @@ public:
     explicit Scanner(QByteArrayView json)
         : m_begin(json.data())
         , m_end(json.data() + json.size())
-    {
-    }
+    {}
 
     std::optional<DuplicateKey> run()
     {
-        for (const char *p = m_begin; p != m_end;) {
-            switch (*p) {
-            case '{':
-                open(true);
+        const char *p = m_begin;
+        while (true) {
+            while (p != m_end && !kStructural[static_cast<unsigned char>(*p)])
                 ++p;
-                break;
-            case '[':
-                open(false);
-                ++p;
-                break;
-            case '}':
-            case ']':
-                if (m_depth > 0)
-                    --m_depth;
-                m_keyExpected = false;
-                ++p;
-                break;
-            case ',':
-                m_keyExpected = m_depth > 0 && m_levels[m_depth - 1].isObject;
-                ++p;
-                break;
-            case '"': {
-                const char *const start = p + 1;
+            if (p == m_end)
+                return {};
+            const char c = *p++;
+            if (c == '"') {
+                const char *const start = p;
                 bool escaped = false;
                 p = endOfString(start, &escaped);
                 if (m_keyExpected && !insertKey(start, p, escaped))
                     return DuplicateKey{keyText(start, p, escaped), start - 1 - m_begin};
                 m_keyExpected = false;
                 p += p != m_end;
-                break;
-            }
-            default:
-                ++p;
+            } else {
+                handle(c);
             }
         }
-        return {};
     }
 
 private:
+    /// An open array or object; the keys of an object stand from firstKey on in the common list.
     struct Level
     {
-        bool isObject = false;
-        KeySet keys;
+        bool isObject;
+        size_t firstKey;
+        std::unique_ptr<QSet<QByteArrayView>> index = {}; ///< only for objects of many keys
     };
 
-    void open(bool isObject)
+    void handle(char c)
     {
-        if (m_depth == m_levels.size())
-            m_levels.emplace_back();
-        Level &level = m_levels[m_depth++];
-        level.isObject = isObject;
-        level.keys.clear();
-        m_keyExpected = isObject;
+        m_keyExpected = false;
+        switch (c) {
+        case '{':
+        case '[':
+            m_keyExpected = c == '{';
+            m_levels.push_back({m_keyExpected, m_keys.size()});
+            break;
+        case ',':
+            m_keyExpected = !m_levels.empty() && m_levels.back().isObject;
+            break;
+        default:
+            if (!m_levels.empty()) {
+                m_keys.erase(m_keys.begin() + qsizetype(m_levels.back().firstKey), m_keys.end());
+                m_levels.pop_back();
+            }
+        }
     }
 
     const char *endOfString(const char *p, bool *escaped) const
     {
-        while (p != m_end) {
-            const auto *quote = static_cast<const char *>(std::memchr(p, '"', size_t(m_end - p)));
-            if (!quote)
-                return m_end;
-            const auto *slash = static_cast<const char *>(std::memchr(p, '\\', size_t(quote - p)));
-            if (!slash)
-                return quote;
-            *escaped = true;
-            if (m_end - slash < 2)
-                return m_end;
-            p = slash + 2;
+        for (; p != m_end && *p != '"'; ++p) {
+            if (*p == '\\') {
+                *escaped = true;
+                if (++p == m_end)
+                    return m_end;
+            }
         }
-        return m_end;
+        return p;
     }
 
     static QString keyText(const char *start, const char *end, bool escaped)
@@ -181,17 +158,40 @@ private:
         while (!escaped && end - start >= kMarkSize &&
                std::memcmp(start, "\xEF\xBB\xBF", size_t(kMarkSize)) == 0)
             start += kMarkSize;
-        Key key{start, end - start, 0, {}};
-        if (escaped)
-            key.unescaped = comparable(keyText(start, end, true));
-        key.hash = qHash(key.text(), 0);
-        return m_levels[m_depth - 1].keys.insert(std::move(key));
+        if (escaped) {
+            const QByteArray &kept = m_unescaped.emplace_back(comparable(keyText(start, end, true)));
+            return insert(Key(kept.constData(), size_t(kept.size())));
+        }
+        return insert(Key(start, size_t(end - start)));
+    }
+
+    bool insert(const Key &key)
+    {
+        Level &level = m_levels.back();
+        const auto first = m_keys.begin() + qsizetype(level.firstKey);
+        if (m_keys.size() - level.firstKey < kLinearKeys) {
+            if (std::find(first, m_keys.end(), key) != m_keys.end())
+                return false;
+        } else {
+            if (!level.index) {
+                level.index = std::make_unique<QSet<QByteArrayView>>();
+                for (auto it = first; it != m_keys.end(); ++it)
+                    level.index->insert(it->text());
+            }
+            const qsizetype before = level.index->size();
+            level.index->insert(key.text());
+            if (level.index->size() == before)
+                return false;
+        }
+        m_keys.push_back(key);
+        return true;
     }
 
     const char *m_begin;
     const char *m_end;
     std::vector<Level> m_levels;
-    size_t m_depth = 0;
+    std::vector<Key> m_keys;
+    std::deque<QByteArray> m_unescaped; ///< keys with escapes, in the form in which they are compared
     bool m_keyExpected = false;
 };
 

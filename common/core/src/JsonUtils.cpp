@@ -22,8 +22,8 @@ QString placeText(QByteArrayView json, qsizetype offset)
 
 bool looksLikeUtf16(const QByteArray &json)
 {
-    return json.startsWith("\xFF\xFE") || json.startsWith("\xFE\xFF")
-           || (json.size() >= 4 && (json[0] == '\0' || json[1] == '\0'));
+    return json.startsWith("\xFF\xFE") || json.startsWith("\xFE\xFF") ||
+           (json.size() >= 4 && (json[0] == '\0' || json[1] == '\0'));
 }
 
 QString remedyFor(QJsonParseError::ParseError error, const QByteArray &json)
@@ -55,8 +55,9 @@ Result<T> typedValue(const QJsonObject &object, const QString &key, QJsonValue::
     const QJsonValue value = object.value(key);
     if (value.type() == type)
         return convert(value);
-    return Error(ErrorCode::InvalidContent, Tr::tr("\"%1\" must be %2, but there is %3.")
-                                                .arg(key, typeDescription(type), typeDescription(value.type())));
+    return Error(ErrorCode::InvalidContent,
+                 Tr::tr("\"%1\" must be %2, but there is %3.")
+                     .arg(key, typeDescription(type), typeDescription(value.type())));
 }
 
 } // namespace

@@ -19,8 +19,8 @@ bool hasExtension(const QString &path, const QString &extension)
 {
     const QStringView trimmed = withoutTrailingSeparators(path);
     const qsizetype dot = trimmed.size() - extension.size() - 1;
-    return !extension.isEmpty() && dot >= 0 && trimmed[dot] == QLatin1Char('.')
-           && trimmed.endsWith(extension, Qt::CaseInsensitive);
+    return !extension.isEmpty() && dot >= 0 && trimmed[dot] == QLatin1Char('.') &&
+           trimmed.endsWith(extension, Qt::CaseInsensitive);
 }
 
 bool isDirectory(const QString &path)

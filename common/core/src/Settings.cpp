@@ -86,8 +86,7 @@ void setValue(const QString &key, const QVariant &value)
 ScopedOverride::ScopedOverride(const QString &key, const QVariant &value)
     : m_key(key)
     , m_previous(Overrides::instance().exchange(key, value))
-{
-}
+{}
 
 ScopedOverride::~ScopedOverride()
 {

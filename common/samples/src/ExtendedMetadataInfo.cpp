@@ -1,6 +1,5 @@
-#include <orv/samples/ExtendedMetadataInfo.h>
-
 #include <orv/core/JsonUtils.h>
+#include <orv/samples/ExtendedMetadataInfo.h>
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -39,7 +38,8 @@ Error notAnObject(const QJsonValue &element)
 
 /// Reads the elements of the array \a key of \a object, which may be absent, with \a read.
 template<typename T>
-Result<QList<T>> readList(const QJsonObject &object, QLatin1String key, Result<T> (*read)(const QJsonObject &))
+Result<QList<T>> readList(const QJsonObject &object, QLatin1String key,
+                          Result<T> (*read)(const QJsonObject &))
 {
     if (!object.contains(key))
         return QList<T>();
@@ -143,7 +143,8 @@ Result<ExtendedMetadataInfo> ExtendedMetadataInfo::fromJson(const QJsonObject &j
     Result<QList<CacheEntry>> entries = readList(json, kCacheKey, readCacheEntry);
     if (entries.hasError())
         return entries.ecatch();
-    Result<QList<TalvaneMetadataMappingConnection>> connections = readList(json, kConnectionsKey, readConnection);
+    Result<QList<TalvaneMetadataMappingConnection>> connections =
+        readList(json, kConnectionsKey, readConnection);
     if (connections.hasError())
         return connections.ecatch();
 

@@ -1,6 +1,5 @@
-#include <orv/propertyeditor/content/BaseItem.h>
-
 #include <orv/core/Logging.h>
+#include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
 #include <QMetaEnum>
@@ -37,8 +36,7 @@ QMap<BaseItemType, QString> buildTypeNameMap()
 
 BaseItem::BaseItem(BaseItemType type)
     : m_type(type)
-{
-}
+{}
 
 BaseItem::~BaseItem() = default;
 

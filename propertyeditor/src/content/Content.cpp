@@ -1,10 +1,9 @@
-#include <orv/propertyeditor/content/Content.h>
-
 #include <orv/core/FileUtils.h>
 #include <orv/core/JsonUtils.h>
 #include <orv/core/Logging.h>
 #include <orv/core/LossObserver.h>
 #include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/ExtendedMetadataSink.h>
 #include <orv/propertyeditor/content/ItemGroup.h>
 #include <orv/propertyeditor/content/ItemSubGroup.h>
@@ -88,15 +87,13 @@ void reportMalformedMetadata(const QJsonObject &json, const LoadContext &context
 
 Content::Content()
     : d(new ContentData)
-{
-}
+{}
 
 // A copy is another view of the same tree; QObject's own part is never shared.
 Content::Content(const Content &other)
     : QObject()
     , d(other.d)
-{
-}
+{}
 
 Content &Content::operator=(const Content &other)
 {
@@ -167,7 +164,8 @@ Error Content::loadTabs(const QJsonObject &json, ValidationOptions options)
         const QJsonObject tab = tabs.at(i).toObject();
         Error error = group->assignFromJson(tab, options, context.element(i));
         if (error.hasError())
-            return error.addDetail(tr("Tab %1 (\"%2\").").arg(i + 1).arg(tab.value(NAME_KEY).toString())).ecatch();
+            return error.addDetail(tr("Tab %1 (\"%2\").").arg(i + 1).arg(tab.value(NAME_KEY).toString()))
+                .ecatch();
         adoptNewGroup(std::move(group));
     }
     return Error::NoError;

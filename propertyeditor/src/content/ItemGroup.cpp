@@ -1,7 +1,6 @@
-#include <orv/propertyeditor/content/ItemGroup.h>
-
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/content/ItemGroup.h>
 #include <orv/propertyeditor/content/ItemSubGroup.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
@@ -72,15 +71,13 @@ void reportUnknownMembers(const QJsonObject &json, const LoadContext &context)
 
 ItemGroup::ItemGroup()
     : d(new Private)
-{
-}
+{}
 
 // A copy is another view of the same columns; QObject's own part is never shared.
 ItemGroup::ItemGroup(const ItemGroup &other)
     : QObject()
     , d(other.d)
-{
-}
+{}
 
 ItemGroup &ItemGroup::operator=(const ItemGroup &other)
 {
@@ -90,7 +87,8 @@ ItemGroup &ItemGroup::operator=(const ItemGroup &other)
 
 ItemGroup::~ItemGroup() = default;
 
-Error ItemGroup::assignFromJson(const QJsonObject &json, ValidationOptions options, const LoadContext &context)
+Error ItemGroup::assignFromJson(const QJsonObject &json, ValidationOptions options,
+                                const LoadContext &context)
 {
     const QJsonValue columnsValue = json.value(COLUMNS_KEY);
     const QJsonValue nameValue = json.value(NAME_KEY);
@@ -122,7 +120,8 @@ Error ItemGroup::assignFromJson(const QJsonObject &json, ValidationOptions optio
                                                context.column(qsizetype(c), columnNames.size()));
         if (error.hasError()) {
             const auto row = subGroup->count() + 1;
-            return error.addDetail(tr("Column %1 (\"%2\"), row %3.").arg(c + 1).arg(columnName).arg(row)).ecatch();
+            return error.addDetail(tr("Column %1 (\"%2\"), row %3.").arg(c + 1).arg(columnName).arg(row))
+                .ecatch();
         }
         adoptNewSubGroup(std::move(subGroup), columns[c].type);
     }
@@ -284,8 +283,9 @@ bool ItemGroup::removeSubGroup(const QString &name)
 
 bool ItemGroup::removeSubGroup(ItemSubGroup *subGroup)
 {
-    const auto found = std::find_if(d->subGroups.begin(), d->subGroups.end(),
-                                    [subGroup](const auto &candidate) { return candidate.get() == subGroup; });
+    const auto found =
+        std::find_if(d->subGroups.begin(), d->subGroups.end(),
+                     [subGroup](const auto &candidate) { return candidate.get() == subGroup; });
     return found != d->subGroups.end() && removeSubGroup(int(found - d->subGroups.begin()));
 }
 

@@ -1,9 +1,8 @@
-#include <orv/propertyeditor/content/ItemSubGroup.h>
-
 #include "ItemCreators.h"
 
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/content/ItemSubGroup.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
 #include <QCoreApplication>
@@ -27,15 +26,13 @@ public:
 
 ItemSubGroup::ItemSubGroup()
     : d(new Private)
-{
-}
+{}
 
 // A copy is another view of the same items; QObject's own part is never shared.
 ItemSubGroup::ItemSubGroup(const ItemSubGroup &other)
     : QObject()
     , d(other.d)
-{
-}
+{}
 
 ItemSubGroup &ItemSubGroup::operator=(const ItemSubGroup &other)
 {

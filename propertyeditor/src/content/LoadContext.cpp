@@ -1,6 +1,5 @@
-#include <orv/propertyeditor/content/LoadContext.h>
-
 #include <orv/core/LossObserver.h>
+#include <orv/propertyeditor/content/LoadContext.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
 namespace orv::PropertyEditor {
@@ -16,7 +15,8 @@ LoadContext LoadContext::element(qsizetype index) const
 {
     if (!m_observer)
         return {};
-    return LoadContext(m_observer, m_pointer + QLatin1Char('/') + QString::number(m_offset + index * m_stride));
+    return LoadContext(m_observer,
+                       m_pointer + QLatin1Char('/') + QString::number(m_offset + index * m_stride));
 }
 
 LoadContext LoadContext::column(qsizetype column, qsizetype columnCount) const

@@ -49,7 +49,8 @@ std::optional<QJsonObject> parseDocument(const QByteArray &json)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError) {
-        qCWarning(propertyEditorLog) << "Parse error in JSON" << beginningOf(json) << "at offset" << error.offset;
+        qCWarning(propertyEditorLog) << "Parse error in JSON" << beginningOf(json) << "at offset"
+                                     << error.offset;
         return {};
     }
     if (!document.isObject()) {
@@ -70,8 +71,7 @@ PropertyEditorContent::Tab readTab(const QJsonObject &tab)
 
 PropertyEditorContent::PropertyEditorContent()
     : d(std::make_unique<Private>())
-{
-}
+{}
 
 PropertyEditorContent::PropertyEditorContent(const Tabs &tabs)
     : PropertyEditorContent()
@@ -117,8 +117,7 @@ PropertyEditorContent::~PropertyEditorContent() = default;
 
 void PropertyEditorContent::assignDocument(const QJsonObject &document)
 {
-    d->metadata
-        = QJsonDocument::fromJson(document.value(META_IN_JSON_KEY).toString().toUtf8()).object();
+    d->metadata = QJsonDocument::fromJson(document.value(META_IN_JSON_KEY).toString().toUtf8()).object();
     d->extendedMetadataInfo = document.value(EXTENDED_METADATA_IN_JSON_KEY).toObject();
     if (d->extendedMetadataInfo.isEmpty())
         d->extendedMetadataInfo = ExtendedMetadataInfo().toJson();
@@ -158,13 +157,14 @@ void PropertyEditorContent::setCustomUser(const QString &name)
 
 QByteArray PropertyEditorContent::toJson() const
 {
-    const QString cellStamp
-        = QString::fromUtf8(JsonUtils::toCompactJson(WflwMetaData::metaDataObject(d->customUser)));
+    const QString cellStamp =
+        QString::fromUtf8(JsonUtils::toCompactJson(WflwMetaData::metaDataObject(d->customUser)));
     QJsonArray tabs;
     for (const Tab &tab : d->tabs) {
-        tabs.append(QJsonObject{{NAME_KEY, tab.first},
-                                {COLUMNS_KEY, PropertyEditorJsonUtils::stringListToJsonArray(tab.second.first)},
-                                {CELLS_KEY, stampedCells(tab.second.second, cellStamp)}});
+        tabs.append(
+            QJsonObject{{NAME_KEY, tab.first},
+                        {COLUMNS_KEY, PropertyEditorJsonUtils::stringListToJsonArray(tab.second.first)},
+                        {CELLS_KEY, stampedCells(tab.second.second, cellStamp)}});
     }
     const QJsonObject metadata = WflwMetaData::stamped(d->metadata, d->customUser);
     const QJsonObject document{{META_IN_JSON_KEY, QString::fromUtf8(JsonUtils::toCompactJson(metadata))},

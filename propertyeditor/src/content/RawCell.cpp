@@ -1,6 +1,5 @@
-#include <orv/propertyeditor/content/RawCell.h>
-
 #include <orv/core/Logging.h>
+#include <orv/propertyeditor/content/RawCell.h>
 
 #include <QJsonDocument>
 
@@ -13,7 +12,8 @@ QByteArray RawCell::toJson() const
 
 QVariant RawCell::toVariant() const
 {
-    static const bool converterRegistered = QMetaType::registerConverter<RawCell, QByteArray>(&RawCell::toJson);
+    static const bool converterRegistered =
+        QMetaType::registerConverter<RawCell, QByteArray>(&RawCell::toJson);
     Q_UNUSED(converterRegistered)
     return QVariant::fromValue(*this);
 }

@@ -1,11 +1,9 @@
-#include <orv/propertyeditor/workflow/WflwMetaData.h>
-
+#include <KProperty>
+#include <KPropertySet>
 #include <orv/core/AppUtils.h>
 #include <orv/core/JsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
-
-#include <KProperty>
-#include <KPropertySet>
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
 
 #include <QDateTime>
 #include <QJsonDocument>
@@ -45,8 +43,8 @@ WflwMetaData::WflwState WflwMetaData::checkWorkflowVersion(const QVersionNumber 
     if (specialVersions().contains(version))
         return WflwState::NeedsUpgrade;
     if (!isSupportedVersion(version, contentMode(content->metadata()))) {
-        messages->append(
-            tr("The version of the specified workflow (%1) is deprecated and not supported").arg(version.toString()));
+        messages->append(tr("The version of the specified workflow (%1) is deprecated and not supported")
+                             .arg(version.toString()));
         return WflwState::NotSupported;
     }
     if (version.segmentCount() > 0 && version.majorVersion() > WORKFLOW_JSON_VERSION_MAJOR) {

@@ -1,8 +1,7 @@
-#include <orv/propertyeditor/workflow/WorkflowSummary.h>
-
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/content/RawCell.h>
+#include <orv/propertyeditor/workflow/WorkflowSummary.h>
 
 #include <QJsonArray>
 #include <QMetaEnum>
@@ -28,11 +27,11 @@ struct TypeRow
 };
 
 constexpr std::array kPropertyCellTypes = {
-    TypeRow{BaseItemType::Senthia, true, true},        TypeRow{BaseItemType::Dravik, true, true},
-    TypeRow{BaseItemType::Karvon, true, true},         TypeRow{BaseItemType::Intact, true, true},
-    TypeRow{BaseItemType::Oligo, true, true},          TypeRow{BaseItemType::MultiDocReport, true, true},
-    TypeRow{BaseItemType::Preview, true, true},        TypeRow{BaseItemType::Ostrale, true, true},
-    TypeRow{BaseItemType::Trenq, true, true},          TypeRow{BaseItemType::TrenqPreview, true, true},
+    TypeRow{BaseItemType::Senthia, true, true},     TypeRow{BaseItemType::Dravik, true, true},
+    TypeRow{BaseItemType::Karvon, true, true},      TypeRow{BaseItemType::Intact, true, true},
+    TypeRow{BaseItemType::Oligo, true, true},       TypeRow{BaseItemType::MultiDocReport, true, true},
+    TypeRow{BaseItemType::Preview, true, true},     TypeRow{BaseItemType::Ostrale, true, true},
+    TypeRow{BaseItemType::Trenq, true, true},       TypeRow{BaseItemType::TrenqPreview, true, true},
     TypeRow{BaseItemType::CaldrinDIA, true, false},
 };
 
@@ -124,7 +123,8 @@ WorkflowSummary::Tab summarizeTab(const PropertyEditorContent::Tab &tab, Workflo
         WorkflowSummary::Column &column = result.columns[i % columnCount];
         column.cells.append(summarizeCell(cell));
         column.type = column.cells.constLast().type;
-        if (column.type == PropertyEditor::BaseItem::typeToString(BaseItemType::Samples) && summary.samples.isEmpty())
+        if (column.type == PropertyEditor::BaseItem::typeToString(BaseItemType::Samples) &&
+            summary.samples.isEmpty())
             summary.samples = sampleNames(cell);
     }
     return result;
@@ -137,8 +137,8 @@ WorkflowSummary WorkflowSummary::of(const PropertyEditorContent &content)
     const QJsonObject metadata = content.metadata();
     WorkflowSummary summary;
     summary.version = WflwMetaData::versionFromMetaDataObject(metadata);
-    summary.state = WflwMetaData::checkWorkflowVersion(WflwMetaData::versionNumberFromMetaDataObject(metadata),
-                                                       &content, &summary.messages);
+    summary.state = WflwMetaData::checkWorkflowVersion(
+        WflwMetaData::versionNumberFromMetaDataObject(metadata), &content, &summary.messages);
     summary.name = WflwMetaData::nameFromMetaDataObject(metadata);
     summary.description = WflwMetaData::descriptionFromMetaDataObject(metadata);
     summary.iconName = WflwMetaData::iconNameFromMetaDataObject(metadata);

@@ -11,7 +11,8 @@
 namespace orv {
 
 /// What kind of failure an Error reports. The numbers are part of the command line's JSON: never renumber.
-enum class ErrorCode {
+enum class ErrorCode
+{
     NoError = 0,
     MalformedStructure = 1, ///< the structure of a document is broken, or an upgrade step can't be done
     InvalidContent = 2,     ///< the structure holds, the content is not allowed

@@ -10,7 +10,8 @@ namespace orv {
 
 /// A kind of file or folder that the system reads or writes. A new kind is one enumerator here and one row
 /// in FileTypes.cpp.
-enum class FileType {
+enum class FileType
+{
     Invalid,
     Wflw,
     Wflwp,
@@ -88,8 +89,7 @@ inline constexpr FileType TRENQ = FileType::TrenqProject;
 inline constexpr FileType MULTIDOCREPORT = FileType::MultiDocReport;
 
 /// The project files that a report over several documents may be made of.
-inline constexpr FileType MULTIDOCALLOWEDFILES[]
-    = {SENTHIA, DRAVIK, KARVON, INTACT, OLIGO, OSTRALE, TRENQ};
+inline constexpr FileType MULTIDOCALLOWEDFILES[] = {SENTHIA, DRAVIK, KARVON, INTACT, OLIGO, OSTRALE, TRENQ};
 
 } // namespace MirelFileTypes
 

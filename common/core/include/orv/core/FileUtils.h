@@ -17,7 +17,8 @@ inline constexpr qint64 kMaxFileSize = qint64(128) * 1024 * 1024;
 /// All bytes of a regular file. Fails with CannotOpenFile and the message "Could not open the file: %1" for
 /// what is missing, unreadable, a folder or no regular file (a pipe would block for ever), and with
 /// InvalidContent for a file larger than \a maxSize. Details name the reason and the remedy.
-[[nodiscard]] ORV_WORKFLOW_EXPORT Result<QByteArray> readFile(const QString &path, qint64 maxSize = kMaxFileSize);
+[[nodiscard]] ORV_WORKFLOW_EXPORT Result<QByteArray> readFile(const QString &path,
+                                                              qint64 maxSize = kMaxFileSize);
 
 /// Replaces the file at \a path by \a bytes, whole or not at all: the bytes go to a file beside it, which is
 /// flushed and then renamed, so that an interrupted or failed write leaves the old file as it was. A link

@@ -33,8 +33,10 @@ struct TextPosition
 
 /// The member \a key of \a object when it has the wanted type; otherwise an InvalidContent error whose
 /// message names the key, and which type stands there instead.
-[[nodiscard]] ORV_WORKFLOW_EXPORT Result<QJsonObject> objectValue(const QJsonObject &object, const QString &key);
-[[nodiscard]] ORV_WORKFLOW_EXPORT Result<QJsonArray> arrayValue(const QJsonObject &object, const QString &key);
+[[nodiscard]] ORV_WORKFLOW_EXPORT Result<QJsonObject> objectValue(const QJsonObject &object,
+                                                                  const QString &key);
+[[nodiscard]] ORV_WORKFLOW_EXPORT Result<QJsonArray> arrayValue(const QJsonObject &object,
+                                                                const QString &key);
 [[nodiscard]] ORV_WORKFLOW_EXPORT Result<QString> stringValue(const QJsonObject &object, const QString &key);
 
 /// Compact UTF-8 text of an object.

@@ -26,8 +26,7 @@ public:
     Result(T value, Warnings warnings = {}) // NOLINT(google-explicit-constructor): `return value;`
         : m_value(std::move(value))
         , m_warnings(std::move(warnings))
-    {
-    }
+    {}
 
     /// \a error must be a failure: a success carries no value.
     Result(Error error, Warnings warnings = {}) // NOLINT(google-explicit-constructor): `return error;`
@@ -83,8 +82,7 @@ public:
     Result(Error error, Warnings warnings = {}) // NOLINT(google-explicit-constructor): `return error;`
         : m_error(std::move(error))
         , m_warnings(std::move(warnings))
-    {
-    }
+    {}
 
     [[nodiscard]] bool hasError() const { return m_error.hasError(); }
     explicit operator bool() const { return !hasError(); }

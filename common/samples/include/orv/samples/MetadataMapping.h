@@ -8,7 +8,8 @@
 namespace orv {
 
 /// Which table receives a value of the server's sample metadata. Stored in files, never renumber.
-enum class MappingTarget {
+enum class MappingTarget
+{
     None = 0,
     Samples = 1,
     IntactProteins = 2,

@@ -19,12 +19,10 @@ public:
     VariantItems() = default;
     VariantItems(std::initializer_list<QVariant> items)
         : m_items(items)
-    {
-    }
+    {}
     explicit VariantItems(QList<QVariant> items)
         : m_items(std::move(items))
-    {
-    }
+    {}
 
     [[nodiscard]] qsizetype size() const { return m_items.size(); }
     [[nodiscard]] bool isEmpty() const { return m_items.isEmpty(); }

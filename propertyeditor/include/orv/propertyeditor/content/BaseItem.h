@@ -1,7 +1,7 @@
 #pragma once
 
-#include <orv/core/Export.h>
 #include <orv/core/Error.h>
+#include <orv/core/Export.h>
 #include <orv/propertyeditor/content/BaseItemType.h>
 #include <orv/propertyeditor/content/ContentOptions.h>
 #include <orv/propertyeditor/content/LoadContext.h>

@@ -13,7 +13,8 @@ class ORV_WORKFLOW_EXPORT ORV_QEnumsBaseItemType
 
 public:
     /// The kind of a cell. The enumerator's name is the cell's "type" in files: never rename or renumber.
-    enum BaseItemType : int {
+    enum BaseItemType : int
+    {
         Unknown = 0,
         Senthia = 1,
         Dravik = 2,

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <orv/core/Export.h>
 #include <orv/core/Error.h>
+#include <orv/core/Export.h>
 #include <orv/propertyeditor/content/BaseItemType.h>
 #include <orv/propertyeditor/content/ContentOptions.h>
 #include <orv/propertyeditor/content/LoadContext.h>
@@ -25,11 +25,12 @@ class ItemSubGroup;
 /// until the subgroup is removed, or the tab is cleared or loaded. Copies share the subgroups, and each copy
 /// emits signals for the changes made through it. Not thread safe.
 ///
-/// In a file the cells of a tab stand row by row: cell number i lies in column i modulo the number of columns.
+/// In a file the cells of a tab stand row by row: cell number i lies in column i modulo the number of
+/// columns.
 class ORV_WORKFLOW_EXPORT ItemGroup : public QObject
 {
     Q_OBJECT
-    Q_MOC_INCLUDE(<orv/propertyeditor/content/ItemSubGroup.h>)
+    Q_MOC_INCLUDE(<orv / propertyeditor / content / ItemSubGroup.h>)
     Q_PROPERTY(QString name READ name)
     Q_PROPERTY(QStringList subGroupNames READ subGroupNames)
     Q_PROPERTY(int size READ count)

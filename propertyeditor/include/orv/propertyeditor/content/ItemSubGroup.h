@@ -25,7 +25,7 @@ class BaseItem;
 class ORV_WORKFLOW_EXPORT ItemSubGroup : public QObject
 {
     Q_OBJECT
-    Q_MOC_INCLUDE(<orv/propertyeditor/content/BaseItem.h>)
+    Q_MOC_INCLUDE(<orv / propertyeditor / content / BaseItem.h>)
     Q_PROPERTY(QString name READ name)
     Q_PROPERTY(int count READ count)
     Q_PROPERTY(int size READ count)

@@ -19,8 +19,7 @@ public:
     explicit LoadContext(LossObserver *observer, QString pointer = {})
         : m_observer(observer)
         , m_pointer(std::move(pointer))
-    {
-    }
+    {}
 
     /// The context of a member or an element of the value at this place.
     [[nodiscard]] LoadContext member(const QString &key) const;

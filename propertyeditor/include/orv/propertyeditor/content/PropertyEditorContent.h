@@ -21,7 +21,8 @@ class ORV_WORKFLOW_EXPORT PropertyEditorContent
 {
 public:
     /// Where a workflow is at home. Stored in files, never renumber.
-    enum class ContentMode {
+    enum class ContentMode
+    {
         DesktopMode = 0,
         TalvaneMode = 1,
     };
@@ -32,7 +33,8 @@ public:
 
     PropertyEditorContent();
     explicit PropertyEditorContent(const Tabs &tabs);
-    PropertyEditorContent(const Tabs &tabs, const QJsonObject &metadata, const QJsonObject &extendedMetadataInfo);
+    PropertyEditorContent(const Tabs &tabs, const QJsonObject &metadata,
+                          const QJsonObject &extendedMetadataInfo);
     /// From the UTF-8 JSON text of a document.
     explicit PropertyEditorContent(const QByteArray &json);
     /// From the object of a document that is already parsed.

@@ -18,8 +18,7 @@ public:
     RawCell() = default;
     explicit RawCell(QJsonObject object)
         : m_object(std::move(object))
-    {
-    }
+    {}
 
     [[nodiscard]] const QJsonObject &object() const { return m_object; }
     [[nodiscard]] QByteArray toJson() const;

@@ -25,7 +25,8 @@ class ORV_WORKFLOW_EXPORT ORV_QEnumsWorkflowAppType
 
 public:
     /// The application for which a workflow is made.
-    enum WorkflowAppType : int {
+    enum WorkflowAppType : int
+    {
         Mirel = 0,
         Talvane = 1,
     };
@@ -49,7 +50,8 @@ public:
     static constexpr int WORKFLOW_JSON_VERSION_MINOR = 47;
     static constexpr int WORKFLOW_JSON_VERSION_PATCH = 0;
 
-    enum class WflwState {
+    enum class WflwState
+    {
         UpToDate = 0,
         NeedsUpgrade = 1,
         NotSupported = 2,

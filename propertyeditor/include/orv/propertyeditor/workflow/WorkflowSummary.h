@@ -46,7 +46,7 @@ struct ORV_WORKFLOW_EXPORT WorkflowSummary
     QString description;
     QString iconName;
     WorkflowType workflowType = WorkflowType::Unknown;
-    int contentMode = 0; ///< as stored, known or not
+    int contentMode = 0;   ///< as stored, known or not
     QStringList documents; ///< types of the columns that yield a result, in tree order, with repeats
     QStringList samples;   ///< names
     QList<Tab> tabs;

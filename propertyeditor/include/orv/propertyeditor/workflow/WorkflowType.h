@@ -9,7 +9,8 @@ namespace orv {
 
 /// What kind of analysis a workflow is. The text form stands in files, and the numbers are those by which
 /// upgrade steps and applications tell workflows apart: never rename, never renumber.
-enum class WorkflowType {
+enum class WorkflowType
+{
     Unknown = 0,
     IntactMass = 1,
     ProteinSearch = 2,
