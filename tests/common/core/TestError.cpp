@@ -1,8 +1,8 @@
-#include <orv/core/Error.h>
-#include <orv/core/Result.h>
-
 #include "LogCapture.h"
 #include "OrvTest.h"
+
+#include <orv/core/Error.h>
+#include <orv/core/Result.h>
 
 #include <memory>
 
