@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QMap>
+#include <QPair>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+/// The rules of the source tree that no compiler checks. Each rule answers what breaks it, one text for each
+/// place; the root is the project's folder, or an invented one in the tests of the rules.
+class HouseRules
+{
+public:
+    explicit HouseRules(const QString &root);
+
+    /// Includes that lead from a floor to one above, two modules of one floor that include each other, and
+    /// files that stand on no floor.
+    [[nodiscard]] QStringList upwardIncludes() const;
+
+    [[nodiscard]] QStringList headersWithoutPragmaOnce() const;
+
+    /// Sources and public headers that no CMakeLists.txt names, and private headers that nobody includes.
+    [[nodiscard]] QStringList filesThatAreNotBuilt() const;
+
+    /// Sources of more than 600 lines, but for those that have a reason, and reasons that aren't needed.
+    [[nodiscard]] QStringList filesThatAreTooLong() const;
+
+    static constexpr int kMaxLines = 600;
+
+private:
+    struct Include
+    {
+        QString file;   ///< path below the root
+        QString target; ///< path below the root
+        int line = 0;
+    };
+
+    void indexPublicHeaders();
+    [[nodiscard]] QString resolved(const QString &file, const QString &included) const;
+    [[nodiscard]] QList<Include> includes() const;
+    [[nodiscard]] bool isNamedInCMake(const QString &file) const;
+    [[nodiscard]] QString read(const QString &file) const;
+
+    QString m_root;
+    QStringList m_files;                     ///< sources and headers below the root, without the tests
+    QStringList m_testFiles;                 ///< those of the tests
+    QHash<QString, QString> m_publicHeaders; ///< by the path with which they are included
+};

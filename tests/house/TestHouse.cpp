@@ -1,0 +1,193 @@
+#include "HouseRules.h"
+#include "OrvTest.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Files = QList<QPair<QString, QByteArray>>;
+
+constexpr QLatin1StringView kCore("common/core/include/orv/core/Low.h");
+constexpr QLatin1StringView kSamples("common/samples/include/orv/samples/High.h");
+
+void plant(const QTemporaryDir &root, const Files &files)
+{
+    for (const auto &[path, text] : files) {
+        QFile file(root.filePath(path));
+        if (!QDir(root.path()).mkpath(QFileInfo(path).path()) || !file.open(QIODevice::WriteOnly) ||
+            file.write(text) != text.size())
+            qFatal("Cannot write %s", qPrintable(path));
+    }
+}
+
+} // namespace
+
+class TestHouse : public OrvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void arrowsPointDownwards() { verifyNone(ofTheProject().upwardIncludes()); }
+    void headersAreIncludedOnce() { verifyNone(ofTheProject().headersWithoutPragmaOnce()); }
+    void allSourcesAreBuilt() { verifyNone(ofTheProject().filesThatAreNotBuilt()); }
+    void filesAreShort() { verifyNone(ofTheProject().filesThatAreTooLong()); }
+
+    void anInventedTreeThatIsInOrderPasses();
+    void wrongIncludesAreFound_data();
+    void wrongIncludesAreFound();
+    void allowedIncludesPass_data();
+    void allowedIncludesPass();
+    void aModuleWithoutAFloorIsFound();
+    void aHeaderWithoutPragmaIsFound();
+    void whatIsNotBuiltIsFound();
+    void aLongFileIsFound();
+
+private:
+    static HouseRules ofTheProject() { return HouseRules(QStringLiteral(ORV_SOURCE_DIR)); }
+    static void verifyNone(const QStringList &violations)
+    {
+        QVERIFY2(violations.isEmpty(), qPrintable(u'\n' + violations.join(u'\n')));
+    }
+};
+
+void TestHouse::anInventedTreeThatIsInOrderPasses()
+{
+    const QTemporaryDir root;
+    plant(root, {{kCore, "#pragma once\n"},
+                 {kSamples, "#pragma once\n#include <orv/core/Low.h>\n"},
+                 {u"common/core/CMakeLists.txt"_s, "f(include/orv/core/Low.h)"},
+                 {u"common/samples/CMakeLists.txt"_s, "f(HEADERS include/orv/samples/High.h)"}});
+    const HouseRules rules(root.path());
+    verifyNone(rules.upwardIncludes() + rules.headersWithoutPragmaOnce() + rules.filesThatAreNotBuilt());
+}
+
+void TestHouse::wrongIncludesAreFound_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("violation");
+
+    const QString content = u"propertyeditor/src/content/A.cpp"_s;
+    const auto row = [](const char *name, const QString &file, const QByteArray &text,
+                        const QString &violation) { QTest::newRow(name) << file << text << violation; };
+    row("core takes samples", u"common/core/src/A.cpp"_s, "\n#include <orv/samples/High.h>\n",
+        u"common/core/src/A.cpp:2 (core) includes common/samples/include/orv/samples/High.h, which lies "
+        u"above it "
+        "(samples)"_s);
+    row("by a path", u"common/core/src/A.cpp"_s, "#include \"../../samples/include/orv/samples/High.h\"",
+        u"(samples)"_s);
+    row("with blanks", u"common/core/src/A.cpp"_s, "  #  include  \"orv/samples/High.h\" // why",
+        u"(samples)"_s);
+    row("content takes the chain", content, "#include <orv/propertyeditor/workflow/Chain.h>",
+        u"(workflow)"_s);
+    row("content takes a validator", content, "#include <orv/propertyeditor/validators/V.h>",
+        u"(validators)"_s);
+    row("the catalogue takes content", u"propertyeditor/src/A.cpp"_s,
+        "#include <orv/propertyeditor/content/C.h>", u"(content)"_s);
+    row("a validator takes the grid", u"propertyeditor/src/validators/A.cpp"_s, "#include \"../grid/G.h\"",
+        u"(grid)"_s);
+    row("the grid takes a window", u"propertyeditor/src/grid/A.cpp"_s,
+        "#include \"../PropertyEditorWindow.h\"", u"(windows)"_s);
+    row("a module takes the tool", u"propertyeditor/src/A.cpp"_s, "#include \"../../apps/tool/T.h\"",
+        u"(apps)"_s);
+    row("a circle of one floor", u"common/table/include/orv/table/T.h"_s, "#include <orv/resources/R.h>",
+        u"include each other"_s);
+}
+
+void TestHouse::wrongIncludesAreFound()
+{
+    const QTemporaryDir root;
+    QFETCH(QString, file);
+    QFETCH(QByteArray, text);
+    QFETCH(QString, violation);
+    plant(root, {{kSamples, ""},
+                 {u"common/resources/include/orv/resources/R.h"_s, "#include <orv/table/T.h>"},
+                 {u"propertyeditor/include/orv/propertyeditor/workflow/Chain.h"_s, ""},
+                 {u"propertyeditor/include/orv/propertyeditor/validators/V.h"_s, ""},
+                 {u"propertyeditor/include/orv/propertyeditor/content/C.h"_s, ""},
+                 {u"propertyeditor/src/grid/G.h"_s, ""},
+                 {u"propertyeditor/src/PropertyEditorWindow.h"_s, ""},
+                 {u"apps/tool/T.h"_s, ""},
+                 {file, text}});
+    const QStringList violations = HouseRules(root.path()).upwardIncludes();
+    QCOMPARE(violations.size(), 1);
+    QVERIFY2(violations.first().contains(violation), qPrintable(violations.first()));
+}
+
+void TestHouse::allowedIncludesPass_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("text");
+
+    QTest::newRow("downwards") << u"apps/tool/A.cpp"_s << "#include <orv/core/Low.h>"_ba;
+    QTest::newRow("the own module") << u"common/samples/src/A.cpp"_s << "#include <orv/samples/High.h>"_ba;
+    QTest::newRow("beside, one way") << u"common/chemistry/src/A.cpp"_s << "#include <orv/samples/High.h>"_ba;
+    QTest::newRow("content takes the version") << u"propertyeditor/src/content/A.cpp"_s
+                                               << "#include <orv/propertyeditor/workflow/WflwMetaData.h>"_ba;
+    QTest::newRow("others") << u"common/core/src/A.cpp"_s
+                            << "#include <QString>\n#include <vector>\n#include \"A.moc\""_ba;
+    QTest::newRow("text that is no include")
+        << u"common/core/src/A.cpp"_s << "// #include <orv/samples/High.h>"_ba;
+}
+
+void TestHouse::allowedIncludesPass()
+{
+    const QTemporaryDir root;
+    QFETCH(QString, file);
+    QFETCH(QByteArray, text);
+    plant(root, {{kCore, ""},
+                 {kSamples, ""},
+                 {u"propertyeditor/include/orv/propertyeditor/workflow/WflwMetaData.h"_s, ""},
+                 {file, text}});
+    verifyNone(HouseRules(root.path()).upwardIncludes());
+}
+
+void TestHouse::aModuleWithoutAFloorIsFound()
+{
+    const QTemporaryDir root;
+    plant(root, {{u"common/attic/src/A.cpp"_s, ""}});
+    QCOMPARE(HouseRules(root.path()).upwardIncludes(),
+             QStringList(u"common/attic/src/A.cpp stands on no floor; give its module a row"_s));
+}
+
+void TestHouse::aHeaderWithoutPragmaIsFound()
+{
+    const QTemporaryDir root;
+    plant(root, {{kCore, "// #pragma once\n"}, {kSamples, "// words\n#pragma once\n"}});
+    QCOMPARE(HouseRules(root.path()).headersWithoutPragmaOnce(),
+             QStringList(QString(kCore) + u" has no #pragma once"_s));
+}
+
+void TestHouse::whatIsNotBuiltIsFound()
+{
+    const QTemporaryDir root;
+    plant(root, {{kCore, ""},
+                 {u"common/core/src/Built.cpp"_s, "#include \"Used.h\""},
+                 {u"common/core/src/Used.h"_s, ""},
+                 {u"common/core/src/Forgotten.cpp"_s, ""},
+                 {u"common/core/src/Unused.h"_s, ""},
+                 {u"tests/common/core/TestLow.cpp"_s, ""},
+                 {u"common/core/CMakeLists.txt"_s, "f(src/Built.cpp src/ForgottenNot.cpp)"}});
+    QCOMPARE(HouseRules(root.path()).filesThatAreNotBuilt(),
+             QStringList({QString(kCore) + u" is named in no CMakeLists.txt"_s,
+                          u"common/core/src/Forgotten.cpp is named in no CMakeLists.txt"_s,
+                          u"common/core/src/Unused.h is included by nobody"_s,
+                          u"tests/common/core/TestLow.cpp is named in no CMakeLists.txt"_s}));
+}
+
+void TestHouse::aLongFileIsFound()
+{
+    const QTemporaryDir root;
+    plant(root, {{u"common/core/src/Allowed.cpp"_s, QByteArray(HouseRules::kMaxLines, '\n')},
+                 {u"common/core/src/Long.cpp"_s, QByteArray(HouseRules::kMaxLines + 1, '\n')}});
+    const QStringList violations = HouseRules(root.path()).filesThatAreTooLong();
+    QCOMPARE(violations.first(), u"common/core/src/Long.cpp has 601 lines, at most 600 are allowed"_s);
+    // The files that have a reason are missing in this tree, which is told too.
+    QVERIFY(violations.size() > 1 && violations[1].contains(u"needs no reason"_s));
+}
+
+ORV_REGISTER_TEST(TestHouse)
+
+#include "TestHouse.moc"
