@@ -1,0 +1,44 @@
+# Installs the library, moves the installed tree, and builds and runs a project against it as a user would.
+
+function(run)
+  execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE output ERROR_VARIABLE errors RESULT_VARIABLE result)
+  if(NOT result EQUAL 0)
+    list(JOIN ARGN " " command)
+    message(FATAL_ERROR "${command}\nended with ${result}\n${output}${errors}")
+  endif()
+  set(output "${output}" PARENT_SCOPE)
+endfunction()
+
+file(REMOVE_RECURSE "${WORK_DIR}")
+run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${WORK_DIR}/installed")
+file(RENAME "${WORK_DIR}/installed" "${WORK_DIR}/moved")
+
+file(GLOB_RECURSE licence "${WORK_DIR}/moved/LICENSE")
+if(NOT licence)
+  message(FATAL_ERROR "The licence is not installed")
+endif()
+
+run("${CMAKE_COMMAND}" -S "${CONSUMER_DIR}" -B "${WORK_DIR}/build" -G "${GENERATOR}"
+  "-DCMAKE_PREFIX_PATH=${WORK_DIR}/moved" "-DCMAKE_CXX_COMPILER=${COMPILER}"
+  "-DCMAKE_BUILD_TYPE=${BUILD_TYPE}" "-DCMAKE_CXX_FLAGS=${FLAGS}")
+run("${CMAKE_COMMAND}" --build "${WORK_DIR}/build")
+run("${WORK_DIR}/build/list-tabs" "${WORKFLOW}")
+
+set(expected [[
+Format version 5.47.0
+Input: 2 cell(s)
+Search: 1 cell(s)
+Workflow "Peptide map"
+Input / Samples: 1 item(s)
+Input / Proteins: 1 item(s)
+Search / Karvon: 1 item(s)
+]])
+if(NOT output STREQUAL expected)
+  message(FATAL_ERROR "The consumer printed\n${output}\nbut should print\n${expected}")
+endif()
+
+execute_process(COMMAND "${WORK_DIR}/build/list-tabs" "${WORK_DIR}/missing.wflw"
+  OUTPUT_QUIET ERROR_VARIABLE errors RESULT_VARIABLE result)
+if(NOT result EQUAL 1 OR NOT errors MATCHES "Could not open the file: .*missing.wflw")
+  message(FATAL_ERROR "A missing workflow gave ${result}: ${errors}")
+endif()
