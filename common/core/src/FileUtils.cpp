@@ -43,7 +43,7 @@ Error tooLarge(const QString &path, qint64 size, qint64 maxSize)
 /// the limit is far above what files have, and reserving it would cost each of them.
 QByteArray readUpTo(QFile &file, qint64 maxSize)
 {
-    constexpr qint64 kChunk = 64 * 1024;
+    constexpr qint64 kChunk = qint64(64) * 1024;
     const qint64 size = file.size();
     QByteArray bytes = file.read(size + 1);
     if (bytes.size() <= size)

@@ -29,7 +29,7 @@ struct Overrides
     QVariant exchange(const QString &key, const QVariant &value)
     {
         const QMutexLocker lock(&mutex);
-        const QVariant previous = values.take(key);
+        QVariant previous = values.take(key);
         if (value.isValid())
             values.insert(key, value);
         return previous;
@@ -49,7 +49,7 @@ QByteArray environmentName(const QString &key)
 
 QVariant foundValue(const QString &key)
 {
-    if (const QVariant overridden = Overrides::instance().get(key); overridden.isValid())
+    if (QVariant overridden = Overrides::instance().get(key); overridden.isValid())
         return overridden;
     const QByteArray variable = environmentName(key);
     if (qEnvironmentVariableIsSet(variable.constData()))
@@ -67,7 +67,7 @@ bool fits(const QVariant &found, const QVariant &converted)
 
 QVariant value(const QString &key, const QVariant &defaultValue)
 {
-    const QVariant found = foundValue(key);
+    QVariant found = foundValue(key);
     if (!found.isValid())
         return defaultValue;
     if (!defaultValue.isValid() || found.metaType() == defaultValue.metaType())

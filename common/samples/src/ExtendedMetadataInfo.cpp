@@ -48,7 +48,7 @@ Result<QList<T>> readList(const QJsonObject &object, QLatin1String key,
         return array.ecatch();
     QList<T> list;
     list.reserve(array->size());
-    for (const QJsonValue &element : *array) {
+    for (const QJsonValue element : *array) {
         Result<T> item = element.isObject() ? read(element.toObject()) : notAnObject(element);
         if (item.hasError()) {
             return item.ecatch().addDetail(
