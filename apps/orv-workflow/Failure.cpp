@@ -13,6 +13,13 @@ QString oneLine(const QString &text)
     return text.simplified();
 }
 
+/// Messages and details are sentences or parts of one; joined, each ends.
+QString asSentence(const QString &text)
+{
+    static const QString ends = QStringLiteral(".:!?");
+    return text.isEmpty() || ends.contains(text.back()) ? text : text + QLatin1Char('.');
+}
+
 } // namespace
 
 Failure failureFrom(const Error &error, ExitCode exitCode)
@@ -22,6 +29,8 @@ Failure failureFrom(const Error &error, ExitCode exitCode)
     if (parts.isEmpty())
         parts.append(QStringLiteral("The structure of the document is broken."));
     parts += error.details();
+    for (QString &part : parts)
+        part = asSentence(part);
     return {exitCode, int(error.code()), oneLine(parts.join(QLatin1Char(' ')))};
 }
 

@@ -1,5 +1,6 @@
 #include "Progress.h"
 
+#include <cmath>
 #include <cstdio>
 
 namespace orv::cli {
@@ -12,7 +13,7 @@ constexpr int kBarWidth = 30;
 
 QString timeText(double seconds)
 {
-    const auto whole = qint64(seconds + 0.5);
+    const auto whole = std::llround(seconds);
     return QStringLiteral("%1:%2").arg(whole / 60).arg(whole % 60, 2, 10, QLatin1Char('0'));
 }
 

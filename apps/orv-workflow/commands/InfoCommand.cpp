@@ -47,7 +47,7 @@ public:
         app.add_option("FILE", m_files,
                        "Workflow files, portable workflow folders, folders, or - for standard input")
             ->required();
-        app.add_option("--jobs", m_jobs, "Threads (default: all cores)")->check(CLI::PositiveNumber);
+        app.add_option("--jobs", m_jobs, "Threads (default: all cores)")->check(CLI::Range(1, 1024));
     }
 
     int run(const GlobalOptions &options) override

@@ -113,7 +113,8 @@ Widths widthsOf(const WorkflowSummary &summary)
 
 QString tabToText(const WorkflowSummary::Tab &tab, const Widths &widths)
 {
-    QString text = QStringLiteral("  %1\n").arg(styled(tab.name, Style::Heading));
+    const QString tabName = tab.name.isEmpty() ? QStringLiteral("(tab without a name)") : tab.name;
+    QString text = QStringLiteral("  %1\n").arg(styled(tabName, Style::Heading));
     for (const WorkflowSummary::Column &column : tab.columns) {
         QString name = column.name;
         for (const WorkflowSummary::Cell &cell : column.cells) {

@@ -28,7 +28,7 @@ QString nameFromSystem()
 QString nameFromEnvironment()
 {
     for (const char *variable : {"USER", "LOGNAME", "USERNAME"}) {
-        const QString name = qEnvironmentVariable(variable);
+        QString name = qEnvironmentVariable(variable);
         if (!name.isEmpty())
             return name;
     }

@@ -6,6 +6,8 @@
 #include <QLocale>
 #include <QSaveFile>
 
+#include <cerrno>
+
 namespace orv::FileUtils {
 
 namespace {
@@ -94,15 +96,19 @@ QFileDevice::FileError writeToFile(const QString &path, const QByteArray &bytes,
         return QFileDevice::OpenError;
     }
     QSaveFile file(path);
+    errno = 0;
     // Without the flush a disk that is full shows only inside commit(), which renames the cut file all the
     // same.
     const bool written =
         file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
     if (written)
         return QFileDevice::NoError;
-    if (errorText)
-        *errorText = file.errorString();
+    const int systemError = errno;
     const QFileDevice::FileError error = file.error();
+    // A flush that fails leaves the reason with the system alone.
+    const bool reasonKnown = error != QFileDevice::NoError && error != QFileDevice::WriteError;
+    if (errorText)
+        *errorText = reasonKnown || systemError == 0 ? file.errorString() : qt_error_string(systemError);
     return error == QFileDevice::NoError ? QFileDevice::WriteError : error;
 }
 

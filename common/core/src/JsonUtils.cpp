@@ -22,8 +22,9 @@ QString placeText(QByteArrayView json, qsizetype offset)
 
 bool looksLikeUtf16(const QByteArray &json)
 {
+    // Without a mark: of the two bytes of a bracket or a blank, one is zero.
     return json.startsWith("\xFF\xFE") || json.startsWith("\xFE\xFF") ||
-           (json.size() >= 4 && (json[0] == '\0' || json[1] == '\0'));
+           (json.size() >= 4 && (json[0] == '\0') != (json[1] == '\0'));
 }
 
 QString remedyFor(QJsonParseError::ParseError error, const QByteArray &json)
@@ -32,6 +33,8 @@ QString remedyFor(QJsonParseError::ParseError error, const QByteArray &json)
         return Tr::tr("The text is empty.");
     if (looksLikeUtf16(json))
         return Tr::tr("The text looks like UTF-16; save it as UTF-8.");
+    if (json.contains('\0'))
+        return Tr::tr("The file is binary, no text; name another file.");
     switch (error) {
     case QJsonParseError::IllegalUTF8String:
         return Tr::tr("The text is not valid UTF-8 from there on; save it as UTF-8.");

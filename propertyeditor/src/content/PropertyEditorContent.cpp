@@ -126,7 +126,7 @@ void PropertyEditorContent::assignDocument(const QJsonObject &document)
 
     const QJsonArray tabs = document.value(TABS_KEY).toArray();
     d->tabs.reserve(tabs.size());
-    for (const QJsonValue &tab : tabs)
+    for (const auto tab : tabs)
         d->tabs.append(readTab(tab.toObject()));
 }
 

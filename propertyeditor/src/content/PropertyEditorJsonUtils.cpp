@@ -27,7 +27,7 @@ VariantItems jsonArrayToVariantItems(const QJsonArray &array)
 {
     VariantItems items;
     items.reserve(array.size());
-    for (const QJsonValue &element : array)
+    for (const auto element : array)
         items.append(RawCell(element.toObject()).toVariant());
     return items;
 }
@@ -41,7 +41,7 @@ QStringList jsonArrayToStringList(const QJsonArray &array)
 {
     QStringList list;
     list.reserve(array.size());
-    for (const QJsonValue &element : array)
+    for (const auto element : array)
         list.append(element.toString());
     return list;
 }

@@ -84,7 +84,7 @@ QStringList sampleNames(const QJsonObject &cell)
 {
     const QJsonObject value = tableValue(cell);
     QStringList names;
-    for (const QJsonValue &sample : value.value(kSamplesArray).toArray())
+    for (const auto sample : value.value(kSamplesArray).toArray())
         names.append(sample.toObject().value(kSampleName).toString());
     if (value.contains(kSamplesArray))
         return names;
@@ -92,7 +92,7 @@ QStringList sampleNames(const QJsonObject &cell)
     const auto column = std::find(columns.begin(), columns.end(), QJsonValue(kSampleName));
     if (column == columns.end())
         return names;
-    for (const QJsonValue &row : value.value(CHILDREN).toArray())
+    for (const auto row : value.value(CHILDREN).toArray())
         names.append(row.toObject().value(DATA).toArray().at(column - columns.begin()).toString());
     return names;
 }

@@ -1,0 +1,346 @@
+#!/usr/bin/env python3
+"""Writes the example workflows and the fixtures of old format versions.
+
+usage: tools/make_examples.py [--check]
+
+Names, types and lists of settings come from the catalogue in propertyeditor/resources, so the documents follow it
+when it changes: run this again and read the difference. --check writes nothing and fails when a file would change.
+"""
+import csv
+import json
+import sys
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+import catalogue_facts as facts
+from check_catalogue import read_table, value_of
+
+ROOT = Path(__file__).resolve().parent.parent
+RESOURCES = ROOT / "propertyeditor" / "resources"
+EXAMPLES = ROOT / "examples" / "workflows"
+VERSIONS = ROOT / "tests" / "data" / "versions"
+
+HEAVY_CHAIN = "EVQLVESGGGLVQPGGSLRLSCAASGFNIKDTYIHWVRQAPGKGLEWVARIYPTNGYTRYADSVKGRFTISADTSKNTAYLQMNSLRAEDTAVYYC"
+LIGHT_CHAIN = "DIQMTQSPSSLSASVGDRVTITCRASQDVNTAVAWYQQKPGKAPKLLIYSASFLYSGVPSRFSGSRSGTDFTLTISSLQPEDFATYYCQQHYTTPPT"
+
+# Which settings a property cell shows, in order, under the caption of their group.
+SEARCH = [("Instrument Parameters", [55, 56, 80, 27, 28, 29, 68]), ("Digestion", [43, 44, 62]),
+          ("modifications", [67]), ("protein database options", [112, 111]), ("glycans", [58, 70]),
+          ("peptide output options", [83, 33, 36]), ("protein output options", [84, 85]),
+          ("Report", [136, 264]), ("Advanced", [0, 25, 26, 49, 266])]
+GLYCO_SEARCH = SEARCH[:-1] + [("Inclusion", [59]), SEARCH[-1]]
+PEPTIDE_MAP = [("Digestion", [130, 132]), ("modifications", [219]), ("Feature Finder", [142, 145, 152, 153, 201]),
+               ("XIC", [306, 137, 138, 139]), ("In-silico options (Theoretical Digest)", [167, 271]),
+               ("In-silico options (CSV import)", [169, 1, 285, 2]), ("Report", [264, 227, 289, 119, 290, 291]),
+               ("Advanced", [220, 266, 0])]
+LABEL_FREE = [("Digestion", [130, 132]), ("modifications", [219]), ("Feature Finder", [142, 145, 152, 153]),
+              ("Match between runs", [209, 261]), ("Reported peptide filtering", [258, 257, 254, 255]),
+              ("In-silico options (CSV import)", [169, 1, 285, 2]), ("Report", [264, 227]), ("Advanced", [3, 220, 0])]
+RELEASED_GLYCANS = [("Trace peaks", list(range(272, 285))), ("Feature Finder", [142, 145, 152, 153, 201]),
+                    ("In-silico options (file import)", [169, 168]), ("Report", [264]), ("Advanced", [220, 0])]
+INTACT = [("Deconvolution", [5, 106, 107, 108, 205, 206, 208, 212, 213, 214, 216, 217]),
+          ("Masses", [4, 204, 228, 229]), ("Trace peaks", list(range(6, 19))), ("Report", [264, 289, 119]),
+          ("Advanced", [220, 0])]
+OLIGO = [("Deconvolution", [5, 106, 107, 108, 205, 206, 208, 212, 213, 214]), ("Masses", [4, 204]),
+         ("Report", [264, 290]), ("Advanced", [220, 0])]
+DE_NOVO = [("Digestion", [43, 44]), ("Instrument Parameters", [55, 80]), ("Assembly", [121, 122, 123, 124, 125, 126, 127]),
+           ("Advanced", [220, 0])]
+DIA = [("Instrument Parameters", [182, 180, 183]), ("Digestion", [181]), ("Glycans", [58]), ("modifications", [67]),
+       ("Search", [185, 186, 187, 188, 189]), ("Output Options", [196]), ("Advanced", [220, 0])]
+PREVIEW = [("Search", [241, 242, 243, 244, 245]), ("Output", [246, 247, 248, 251, 252]), ("Advanced", [220, 0])]
+REPORT = [("Report", [264])]
+
+OBJECTS = {
+    55: {"unit": "ppm", "value": 10.0}, 56: {"unit": "ppm", "value": 20.0}, 80: {"unit": "ppm", "value": 10.0},
+    228: {"unit": "ppm", "value": 9000}, 229: {"unit": "ppm", "value": 300},
+    58: {"glycans": "% Custom glycan text below\nHexNAc(2)Hex(5) @ NGlycan | rare1\n"},
+    59: {"inclusion": ""},
+    67: {"modifications": "Carbamidomethyl / +57.021464 @ C | fixed\nOxidation / +15.994915 @ M | common1\n"
+                          "% Custom modification text below\n"},
+    219: {"modifications": "Carbamidomethyl / +57.021464 @ C | fixed\nDeamidated / +0.984016 @ N | common1\n"},
+    271: {}, 289: {"tracePlot": ""}, 119: {"dmsPlot": ""}, 204: {"data": [], "children": []},
+}
+
+
+def catalogue():
+    with open(RESOURCES / "properties.csv", encoding="utf-8", newline="") as file:
+        return {int(row["id"]): row for row in csv.DictReader(file)}
+
+
+def lists():
+    table = {}
+    for entry in json.loads((RESOURCES / "lists.json").read_text("utf-8"))["lists"]:
+        for number in entry["ids"]:
+            table[number] = entry
+    return table
+
+
+class Writer:
+    """Builds cells as the application writes them, for one stamp."""
+
+    def __init__(self, version, user="maria.keller", created="2023-05-04T09:12:44"):
+        self.stamp = {"user": user, "created": created, "version": version}
+        self.rows = catalogue()
+        self.lists = lists()
+        self.readers = read_table(facts.READERS)
+
+    def name(self, number):
+        return self.rows[number]["internalNameV2"]
+
+    def list_text(self, number, default):
+        entry = self.lists[number]
+        if isinstance(default, str):
+            return default
+        for index, item in enumerate(entry["entries"]):
+            if item.get("value", index) == default:
+                return default if not entry["stringSerialized"] else item["text"]
+        return default
+
+    def value(self, number):
+        reader, text = self.readers[number]
+        default = value_of(number, text)
+        if reader == "O":
+            return OBJECTS.get(number, {})
+        if reader == "R":
+            return ""
+        if reader == "B":
+            return "true" if default else "false"
+        if reader in "DP":
+            factor = 100.0 if reader == "P" else 1.0
+            return f"{float(default) * factor:g}"
+        if reader == "Q":
+            return round(float(default) * 100)
+        if reader in "IN":
+            return int(float(default))
+        if reader in "LT":
+            return self.list_text(number, default)
+        return default
+
+    def cell(self, kind, name, properties):
+        return {"type": kind, "name": name, "title": name, "metadata": json.dumps(self.stamp, separators=(",", ":"), sort_keys=True),
+                "properties": properties}
+
+    def step(self, kind, name, groups, **changes):
+        changed = {int(key[1:]): value for key, value in changes.items()}
+        entries = []
+        for group, numbers in groups:
+            for position, number in enumerate(numbers):
+                value = changed.get(number, self.value(number))
+                entries.append({"name": self.name(number), "value": value, "priority": 1 if position < 3 else 2,
+                                "group": group})
+        return self.cell(kind, name, entries)
+
+    def table(self, kind, name, number, value):
+        return self.cell(kind, name, [{"name": self.name(number), "value": value}])
+
+    def samples(self, entries):
+        return self.table("Samples", "Sample Input", 265, {"Samples": entries, "TraceImportAndProcessingOptions": {}})
+
+    def document(self, tabs, **metadata):
+        stamp = dict(self.stamp)
+        stamp.update(metadata)
+        return {"tabs": tabs, "metadata": json.dumps(stamp, separators=(",", ":"), sort_keys=True, ensure_ascii=False),
+                "extendedMetadata": {"metadataCache": [], "metadataMappingConnections": []}}
+
+
+def rows(columns, *lines):
+    return {"data": list(columns), "children": [{"data": list(line), "children": []} for line in lines]}
+
+
+def tab(name, *cells):
+    return {"name": name, "columns": [cell["name"] for cell in cells], "cells": list(cells)}
+
+
+def sample(number, name, path, **more):
+    entry = {"SamplesId": number, "SampleName": name, "FilePath": path, "Reference": number == 1,
+             "Metadata": {"type": 0}}
+    entry.update(more)
+    return entry
+
+
+def proteins(writer):
+    value = rows(["Name", "Sequence"], ["Heavy chain", HEAVY_CHAIN], ["Light chain", LIGHT_CHAIN])
+    value["proteinAnnotations"] = []
+    return writer.table("Proteins", "Protein Input", 253, value)
+
+
+def database(writer, path):
+    return writer.table("Database", "Databases", 268, {"sequences": [{"id": 1, "fasta": path, "species": ""}]})
+
+
+def antibody_peptide_map():
+    w = Writer("5.47.0")
+    samples = [sample(1, "mAb reference", "../data/mab_reference.mzML"),
+               sample(2, "mAb 4 weeks 40 °C", "../data/mab_stressed.mzML")]
+    return w.document([tab("Samples", w.samples(samples)), tab("Sequences", proteins(w)),
+                       tab("Peptide map", w.step("Karvon", "MS/MS search", SEARCH),
+                           w.step("Senthia", "Peptide map", PEPTIDE_MAP))],
+                      name="Antibody peptide map", workflowType="PeptideMap", icon="peptide-map", contentMode=0,
+                      description="Tryptic map of a monoclonal antibody: identity, modifications and their "
+                                  "relative amounts, stressed against reference.")
+
+
+def intact_mass_check():
+    w = Writer("5.47.0", user="j.okafor", created="2024-01-17T15:02:31")
+    chains = rows(["Name", "Sequence", "isCustom"], ["HC", HEAVY_CHAIN, 1], ["LC", LIGHT_CHAIN, 1])
+    masses = rows(["Name", "Mass"], ["G0F/G0F", "148055.9"], ["G0F/G1F", "148218.0"], ["G1F/G1F", "148380.2"])
+    masses_cell = w.cell("Masses", "Delta masses", [
+        {"name": w.name(207), "value": masses},
+        {"name": w.name(210), "value": rows(["Value", "Unit"], [30.0, "ppm"])}])
+    return w.document([tab("Samples", w.samples([sample(1, "Lot 0423", "lot0423.mzML")])),
+                       tab("Proteins", w.table("IntactProteins", "Intact proteins", 171, chains), masses_cell),
+                       tab("Intact mass", w.step("Intact", "Intact mass", INTACT),
+                           w.table("IntactOptions", "Options", 170, rows(["Name", "Value"], ["Mode", "Denatured"])))],
+                      name="Intact mass check", workflowType="DenaturedIntactMass", icon="denatured-intact-mass",
+                      contentMode=0, description="Release check: intact mass of one lot against the expected glycoforms.")
+
+
+def oligonucleotide_map():
+    w = Writer("5.47.0")
+    return w.document([tab("Samples", w.samples([sample(1, "sgRNA RNase T1", "sgrna_t1.mzML"),
+                                                 sample(2, "sgRNA cusativin", "sgrna_cusativin.mzML")])),
+                       tab("Sequences", w.cell("Proteins", "Oligonucleotides (drag and drop FASTA files)", [
+                           {"name": w.name(253), "value": rows(["Name", "Sequence"], ["sgRNA", "GGAAUCUGACUUCAGGCAUU"])}])),
+                       tab("Oligonucleotide map", w.step("Karvon", "Oligo search", SEARCH[:1] + SEARCH[5:7] + SEARCH[-1:], p83=2),
+                           w.step("Senthia", "Oligo map", PEPTIDE_MAP[2:4] + PEPTIDE_MAP[6:],
+                                  p291="../UI_layouts/Digested_Oligo.ini"))],
+                      name="Guide RNA map", workflowType="DigestedOligo", icon="digested-oligo", contentMode=0,
+                      description="Two RNases, one map: sequence coverage of a guide RNA.")
+
+
+def intact_oligonucleotide():
+    w = Writer("5.46.0")
+    return w.document([tab("Samples", w.samples([sample(1, "ASO lot A", "aso_a.mzML")])),
+                       tab("Molecules", w.table("OligoMolecules", "Molecules", 226, rows(["Name", "Sequence"], ["ASO", "GCATTGGTATTC"])),
+                           w.cell("OligoMasses", "Impurities", [
+                               {"name": w.name(207), "value": rows(["Name", "Mass"], ["PO for PS", "-15.977"])},
+                               {"name": w.name(286), "value": {}}, {"name": w.name(224), "value": {}}])),
+                       tab("Intact oligo", w.step("Oligo", "Deconvolution", OLIGO),
+                           w.table("OligoOptions", "Options", 225, rows(["Name", "Value"], ["Mode", "IsoResolved"])))],
+                      name="Antisense oligonucleotide impurities", workflowType="IntactOligo", icon="intact-oligo",
+                      contentMode=0, description="")
+
+
+def glycoproteomics_search():
+    w = Writer("5.44.0", user="s.lindqvist", created="2022-11-08T11:45:00")
+    samples = [sample(i, f"plasma {i:02d}", f"\\\\store\\glyco\\plasma_{i:02d}.raw") for i in range(1, 13)]
+    return w.document([tab("Samples", w.samples(samples), database(w, "human_reviewed.fasta")),
+                       tab("Search", w.step("Karvon", "N-glycans", GLYCO_SEARCH, p264=""),
+                           w.step("Karvon", "O-glycans", GLYCO_SEARCH))],
+                      name="Plasma glycoproteomics", workflowType="GlycoproteinSearch", icon="glycoprotein-search",
+                      contentMode=0, description="N- and O-glycopeptides of twelve plasma samples, searched separately.")
+
+
+def released_glycans():
+    w = Writer("5.12.0", created="2021-03-30T16:20:10")
+    glycans = rows(["Name", "Composition", "Mass"], ["G0F", "HexNAc(4)Hex(3)Fuc(1)", "1462.544"],
+                   ["G1F", "HexNAc(4)Hex(4)Fuc(1)", "1624.597"], ["Man5", "HexNAc(2)Hex(5)", "1234.433"])
+    return w.document([tab("Samples", w.samples([sample(1, "released, 2-AB", "glycans_2ab.mzML")])),
+                       tab("Glycans", w.table("DetachedGlycans", "Glycans", 129, glycans),
+                           w.table("GlycanOptions", "Options", 164, rows(["Name", "Value"], ["Label", "2-AB"])),
+                           w.table("Isotope", "Isotopes", 202, rows(["Name", "Mass"], ["C13", "1.00335"]))),
+                       tab("Profile", w.step("Dravik", "Glycan profile", RELEASED_GLYCANS))],
+                      name="Released N-glycans, 2-AB", workflowType="ReleasedGlycans", icon="released-glycans",
+                      contentMode=0, description="Fluorescence-labelled N-glycans.")
+
+
+def label_free_study():
+    w = Writer("5.33.0", user="proteomics-core", created="2022-06-14T08:30:00")
+    samples = []
+    for number in range(1, 97):
+        group = "treated" if number % 2 else "control"
+        plate = f"{'ABCDEFGH'[(number - 1) // 12]}{(number - 1) % 12 + 1:02d}"
+        samples.append(sample(number, f"{group}_{plate}", f"/mnt/runs/2022-06/{plate}.d", Condition=group, Plate=plate))
+    return w.document([tab("Samples", w.samples(samples), database(w, "/mnt/databases/human_reviewed.fasta")),
+                       tab("Quantification", w.step("Karvon", "Search", SEARCH), w.step("Trenq", "Label-free", LABEL_FREE)),
+                       tab("Reports", w.step("MultiDocReport", "Study report", REPORT))],
+                      name="Label-free study, 96 samples", workflowType="LabelFreeQuantification",
+                      icon="label-free-quantification", contentMode=0,
+                      description="One plate, treated against control.")
+
+
+def de_novo_antibody():
+    w = Writer("5.47.0")
+    return w.document([tab("Samples", w.samples([sample(1, "trypsin", "trypsin.mgf"), sample(2, "pepsin", "pepsin.mgf")])),
+                       tab("De novo", w.step("Ostrale", "Sequencing", DE_NOVO))],
+                      name="Antibody de novo", workflowType="DeNovoSequencing", icon="de-novo-sequencing", contentMode=0,
+                      description="Sequence of an unknown antibody from two digests.")
+
+
+def dia_glycopeptides():
+    w = Writer("5.43.0", created="2022-10-02T13:37:00")
+    return w.document([tab("Samples", w.samples([sample(i, f"run {i}", f"dia_{i}.mzML") for i in range(1, 7)]),
+                           database(w, "human_reviewed.fasta")),
+                       tab("DIA", w.step("CaldrinDIA", "DIA search", DIA))],
+                      name="DIA glycopeptides", workflowType="DataIndependentAcquisition",
+                      icon="data-independent-acquisition", contentMode=0, description="")
+
+
+def server_preview():
+    w = Writer("5.30.0", user="svc-talvane", created="2022-04-01T00:00:00")
+    return w.document([tab("Samples", w.samples([sample(1, "QC injection", "talvane:/projects/17/qc.tolq")]), database(w, "")),
+                       tab("Preview", w.step("Preview", "Preview", PREVIEW), w.step("TrenqPreview", "Preview, label-free", PREVIEW))],
+                      name="Preview on the server", workflowType="ProteinSearch", icon="protein-search", contentMode=1,
+                      description="A quick look at mass errors and modifications before the search.")
+
+
+EXAMPLE_FILES = {
+    "antibody_peptide_map": antibody_peptide_map, "intact_mass_check": intact_mass_check,
+    "oligonucleotide_map": oligonucleotide_map, "intact_oligonucleotide": intact_oligonucleotide,
+    "glycoproteomics_search": glycoproteomics_search, "released_glycans": released_glycans,
+    "label_free_study": label_free_study, "de_novo_antibody": de_novo_antibody,
+    "dia_glycopeptides": dia_glycopeptides, "server_preview": server_preview,
+}
+
+OLD_SAMPLES = rows(["SampleName", "FileName", "Metadata"], ["digest A", "a.raw", ""], ["digest B", "b.raw", ""])
+
+
+def old_document(version, mode=None):
+    """The smallest document that looks like its age: samples as a tree of rows, and a retired cell."""
+    w = Writer(version if version is not None else "0", user="old.hand", created="2019-02-11T10:00:00")
+    samples = w.cell("Samples", "Sample Input", [{"name": "Samples", "value": OLD_SAMPLES}])
+    disulfide = w.cell("Disulfide", "Disulfides", [{"name": "Disulfide", "value": rows(["From", "To"], ["C22", "C96"])}])
+    step = w.cell("Senthia", "Peptide map", [{"name": w.name(0), "value": "", "group": "Advanced"},
+                                           {"name": w.name(130), "value": "Trypsin @ R,K | C-term"}])
+    document = w.document([tab("Samples", samples), tab("Sequences", disulfide), tab("Peptide map", step)],
+                          name="Old peptide map", icon="peptide-map")
+    metadata = json.loads(document["metadata"])
+    if version is None:
+        del metadata["version"]
+    if mode == "legacy":
+        document["projectCreationMode"] = 1
+        del document["extendedMetadata"]
+    elif mode is not None:
+        metadata["contentMode"] = mode
+    document["metadata"] = json.dumps(metadata, separators=(",", ":"), sort_keys=True)
+    return document
+
+
+VERSION_FILES = {
+    "v3": ("3",), "v3.0": ("3.0",), "v5.5.0": ("5.5.0",), "v5.9.0": ("5.9.0",), "v5.9.1_server": ("5.9.1", 1),
+    "v5.9.0_server": ("5.9.0", 1), "v5.20.0": ("5.20.0",), "v5.46.0": ("5.46.0",), "v5.47": ("5.47",),
+    "v5.47.0": ("5.47.0",), "v5.47.0_server": ("5.47.0", 1), "v5.47.1": ("5.47.1",), "v5.99.0": ("5.99.0",),
+    "v6.0.0": ("6.0.0",), "no_version": (None,), "v5.5.0_legacy_server": ("5.5.0", "legacy"),
+}
+
+
+def main(arguments):
+    check = "--check" in arguments
+    files = {EXAMPLES / f"{name}.wflw": make() for name, make in EXAMPLE_FILES.items()}
+    files.update({VERSIONS / f"{name}.wflw": old_document(*args) for name, args in VERSION_FILES.items()})
+    stale = []
+    for path, document in files.items():
+        text = json.dumps(document, indent=4, sort_keys=True, ensure_ascii=False) + "\n"
+        if check:
+            if not path.exists() or path.read_text("utf-8") != text:
+                stale.append(path)
+            continue
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text, "utf-8")
+    for path in stale:
+        print(f"{path.relative_to(ROOT)}: differs from what tools/make_examples.py writes", file=sys.stderr)
+    return 1 if stale else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
