@@ -1,0 +1,356 @@
+#include "KPropertyEditorView.h"
+
+#include "KProperty.h"
+#include "KPropertyEditorView_p.h"
+#include "KPropertySet.h"
+#include "internal/Painting.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+
+#include <algorithm>
+
+using Internal::EditorDataModel;
+using Internal::ItemDelegate;
+
+namespace {
+
+/// A selection is remembered by name, and only the set's own properties have names that are unique.
+QByteArray nameToRemember(const KProperty *property)
+{
+    while (property && property->parent()) {
+        property = property->parent();
+    }
+    return property ? property->name() : QByteArray();
+}
+
+} // namespace
+
+KPropertyEditorView::KPropertyEditorView(QWidget *parent)
+    : QTreeView(parent)
+    , d(std::make_unique<Private>())
+{
+    setObjectName(QStringLiteral("KPropertyEditorView"));
+    d->model = new EditorDataModel(this);
+    setModel(d->model);
+    d->delegate = new ItemDelegate(this, d->model);
+    setItemDelegate(d->delegate);
+    setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed |
+                    QAbstractItemView::DoubleClicked);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setAllColumnsShowFocus(true);
+    setRootIsDecorated(false);
+    setIndentation(16);
+    setAnimated(false);
+    setAlternatingRowColors(false);
+    setExpandsOnDoubleClick(false);
+    setTabKeyNavigation(false);
+    setAccessibleName(tr("Properties"));
+    header()->setSectionsMovable(false);
+    header()->setStretchLastSection(true);
+    header()->setMinimumSectionSize(48);
+}
+
+KPropertyEditorView::~KPropertyEditorView()
+{
+    // A set that outlives the view must not reach the half destroyed one.
+    if (d->set) {
+        d->set->disconnect(this);
+    }
+}
+
+QColor KPropertyEditorView::gridLineColor() const
+{
+    return d->gridLineColor;
+}
+
+void KPropertyEditorView::setGridLineColor(const QColor &color)
+{
+    d->gridLineColor = color;
+    viewport()->update();
+}
+
+QSize KPropertyEditorView::sizeHint() const
+{
+    constexpr int kMaxRows = 24;
+    int rows = 0;
+    for (QModelIndex index = d->model->index(0, 0); index.isValid() && rows < kMaxRows;
+         index = indexBelow(index)) {
+        ++rows;
+    }
+    const int rowHeight = fontMetrics().lineSpacing() + 2 * Internal::Painting::verticalPadding();
+    const int headerHeight = header()->isHidden() ? 0 : header()->sizeHint().height();
+    return QSize(fontMetrics().averageCharWidth() * 56,
+                 headerHeight + std::max(rows, 4) * rowHeight + 2 * frameWidth());
+}
+
+KPropertySet *KPropertyEditorView::propertySet() const
+{
+    return d->set;
+}
+
+bool KPropertyEditorView::childPropertyItemsExpanded() const
+{
+    return d->childItemsExpanded;
+}
+
+void KPropertyEditorView::setChildPropertyItemsExpanded(bool set)
+{
+    d->childItemsExpanded = set;
+}
+
+bool KPropertyEditorView::isValueSyncEnabled() const
+{
+    return d->valueSync;
+}
+
+void KPropertyEditorView::setValueSyncEnabled(bool set)
+{
+    d->valueSync = set;
+}
+
+bool KPropertyEditorView::groupsVisible() const
+{
+    return d->groupsVisible;
+}
+
+void KPropertyEditorView::setGroupsVisible(bool set)
+{
+    d->groupsVisible = set;
+}
+
+bool KPropertyEditorView::groupItemsExpanded() const
+{
+    return d->groupItemsExpanded;
+}
+
+void KPropertyEditorView::setGroupItemsExpanded(bool set)
+{
+    d->groupItemsExpanded = set;
+}
+
+bool KPropertyEditorView::toolTipsVisible() const
+{
+    return d->toolTipsVisible;
+}
+
+void KPropertyEditorView::setToolTipsVisible(bool set)
+{
+    d->toolTipsVisible = set;
+    d->model->setToolTipsVisible(set);
+}
+
+void KPropertyEditorView::changeSet(KPropertySet *set, SetOptions options)
+{
+    const bool preserve = set && options.testFlag(SetOption::PreservePreviousSelection);
+    changeSetInternal(set, options, preserve ? set->previousSelection() : QByteArray());
+}
+
+void KPropertyEditorView::changeSet(KPropertySet *set, const QByteArray &propertyToSelect, SetOptions options)
+{
+    changeSetInternal(set, options, propertyToSelect);
+}
+
+void KPropertyEditorView::changeSetInternal(KPropertySet *set, SetOptions options,
+                                            const QByteArray &propertyToSelect)
+{
+    if (d->set) {
+        acceptInput();
+    }
+    if (d->set) {
+        d->set->disconnect(this);
+    }
+    d->set = set;
+    d->model->setSet(set, {options.testFlag(SetOption::AlphabeticalOrder), d->groupsVisible});
+    if (set) {
+        connectSet(set);
+        expandItems();
+        const QModelIndex selected =
+            d->model->indexForProperty(&set->property(propertyToSelect), EditorDataModel::NameColumn);
+        if (selected.isValid()) {
+            setCurrentIndex(selected);
+            scrollTo(selected);
+        }
+    }
+    Q_EMIT propertySetChanged(set);
+}
+
+void KPropertyEditorView::connectSet(KPropertySet *set)
+{
+    connect(set, &KPropertySet::propertyChangedInternal, this, &KPropertyEditorView::slotPropertyChanged);
+    connect(set, &KPropertySet::propertyReset, this, &KPropertyEditorView::slotPropertyReset);
+    connect(set, &KPropertySet::aboutToBeCleared, this, &KPropertyEditorView::slotSetWillBeCleared);
+    connect(set, &KPropertySet::aboutToBeDeleted, this, &KPropertyEditorView::slotSetWillBeDeleted);
+    connect(set, &KPropertySet::readOnlyFlagChanged, this, &KPropertyEditorView::slotReadOnlyFlagChanged);
+    connect(set, &KPropertySet::aboutToDeleteProperty, this, [this](KPropertySet &, KProperty &property) {
+        if (d->property(d->delegate->editedIndex()) == &property && d->delegate->editor()) {
+            closeEditor(d->delegate->editor(), QAbstractItemDelegate::NoHint);
+        }
+        d->model->removeProperty(&property);
+    });
+}
+
+void KPropertyEditorView::expandItems()
+{
+    if (d->groupItemsExpanded && d->childItemsExpanded) {
+        expandAll();
+        return;
+    }
+    if (!d->groupItemsExpanded && !d->childItemsExpanded) {
+        return;
+    }
+    for (int row = 0; row < d->model->rowCount(); ++row) {
+        const QModelIndex index = d->model->index(row, 0);
+        if (!d->model->isGroup(index)) {
+            setExpanded(index, d->childItemsExpanded);
+            continue;
+        }
+        setExpanded(index, d->groupItemsExpanded);
+        for (int child = 0; d->childItemsExpanded && child < d->model->rowCount(index); ++child) {
+            const QModelIndex property = d->model->index(child, 0, index);
+            if (d->model->rowCount(property) > 0) {
+                setExpanded(property, true);
+            }
+        }
+    }
+}
+
+void KPropertyEditorView::acceptInput()
+{
+    QWidget *const editor = d->delegate->editor();
+    if (!editor || d->closing) {
+        return;
+    }
+    d->closing = true;
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+    d->closing = false;
+}
+
+void KPropertyEditorView::slotSetWillBeCleared()
+{
+    letGoOfSet();
+}
+
+void KPropertyEditorView::slotSetWillBeDeleted()
+{
+    letGoOfSet();
+}
+
+void KPropertyEditorView::letGoOfSet()
+{
+    if (QWidget *const editor = d->delegate->editor()) {
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
+    changeSetInternal(nullptr, SetOption::None, QByteArray());
+}
+
+void KPropertyEditorView::slotReadOnlyFlagChanged()
+{
+    acceptInput();
+    d->model->refreshAll();
+    viewport()->update();
+}
+
+void KPropertyEditorView::slotPropertyChanged(KPropertySet &, KProperty &property)
+{
+    d->model->refresh(&property);
+}
+
+void KPropertyEditorView::slotPropertyReset(KPropertySet &, KProperty &property)
+{
+    d->model->refresh(&property);
+    updateEditorGeometries();
+}
+
+void KPropertyEditorView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTreeView::currentChanged(current, previous);
+    const QByteArray name = nameToRemember(d->property(current));
+    if (d->set && !name.isEmpty()) {
+        d->set->setPreviousSelection(name);
+    }
+}
+
+void KPropertyEditorView::commitData(QWidget *editor)
+{
+    if (editor && d->property(d->delegate->editedIndex())) {
+        QTreeView::commitData(editor);
+        // The revert button comes and goes with the value.
+        updateEditorGeometries();
+    }
+}
+
+void KPropertyEditorView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    const bool hadFocus = editor && (editor->hasFocus() || editor->isAncestorOf(focusWidget()));
+    QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    if (hadFocus) {
+        setFocus();
+    }
+    if (hint == QAbstractItemDelegate::EditNextItem || hint == QAbstractItemDelegate::EditPreviousItem) {
+        editNext(hint);
+    }
+}
+
+void KPropertyEditorView::editNext(QAbstractItemDelegate::EndEditHint hint)
+{
+    const bool forward = hint == QAbstractItemDelegate::EditNextItem;
+    QModelIndex index = currentIndex();
+    do {
+        index = forward ? indexBelow(index) : indexAbove(index);
+    } while (index.isValid() && !d->editableCell(index).isValid());
+    if (index.isValid()) {
+        setCurrentIndex(index.siblingAtColumn(EditorDataModel::NameColumn));
+        edit(d->editableCell(index), QAbstractItemView::AllEditTriggers, nullptr);
+    }
+}
+
+bool KPropertyEditorView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
+{
+    const QModelIndex cell = d->editableCell(index);
+    if (trigger == QAbstractItemView::NoEditTriggers || !cell.isValid()) {
+        return QTreeView::edit(index, trigger, event);
+    }
+    if (d->delegate->editor() && d->delegate->editedIndex() != cell) {
+        acceptInput();
+    }
+    return QTreeView::edit(cell, trigger, event);
+}
+
+void KPropertyEditorView::undo()
+{
+    KProperty *const property = d->property(currentIndex());
+    if (!property || !property->isModified() || d->model->isReadOnly(*property)) {
+        return;
+    }
+    if (QWidget *const editor = d->delegate->editor()) {
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
+    // A child of a composed property has no set of its own: its parent tells of the change.
+    if (property->parent() && property->parent()->composedProperty()) {
+        property->setValue(property->oldValue());
+        property->clearModifiedFlag();
+    } else {
+        property->resetValue();
+    }
+    d->model->refresh(property);
+    viewport()->update();
+}
+
+void KPropertyEditorView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Undo)) {
+        undo();
+        event->accept();
+        return;
+    }
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && state() != QAbstractItemView::EditingState && d->editableCell(currentIndex()).isValid()) {
+        edit(currentIndex(), QAbstractItemView::EditKeyPressed, event);
+        event->accept();
+        return;
+    }
+    QTreeView::keyPressEvent(event);
+}

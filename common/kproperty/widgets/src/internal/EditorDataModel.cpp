@@ -1,0 +1,327 @@
+#include "EditorDataModel.h"
+
+#include "KProperty.h"
+#include "KPropertyFactory.h"
+#include "KPropertySet.h"
+
+#include <QFont>
+#include <QIcon>
+
+#include <algorithm>
+
+namespace Internal {
+
+namespace {
+
+const char kCommonGroup[] = "common";
+
+bool hasGroupRows(const KPropertySet &set, bool groupsVisible)
+{
+    const QList<QByteArray> groups = set.groupNames();
+    return groupsVisible && !(groups.size() == 1 && groups.first() == kCommonGroup);
+}
+
+QString caption(const KProperty &property)
+{
+    const QString text = property.captionForDisplaying();
+    return text.isEmpty() ? QString::fromLatin1(property.name()) : text;
+}
+
+QVariant iconData(const QString &name)
+{
+    return name.isEmpty() ? QVariant() : QVariant(QIcon::fromTheme(name));
+}
+
+} // namespace
+
+EditorDataModel::EditorDataModel(QObject *parent)
+    : QAbstractItemModel(parent)
+    , m_root(std::make_unique<Node>())
+{}
+
+EditorDataModel::~EditorDataModel() = default;
+
+void EditorDataModel::setSet(KPropertySet *set, Options options)
+{
+    beginResetModel();
+    m_set = set;
+    m_nodes.clear();
+    m_root = std::make_unique<Node>();
+    if (m_set) {
+        build(options);
+    }
+    endResetModel();
+}
+
+void EditorDataModel::build(Options options)
+{
+    const bool withGroups = hasGroupRows(*m_set, options.groupsVisible);
+    QHash<QByteArray, Node *> groups;
+    // Groups keep their own order; a group without a visible property has no row.
+    QHash<QByteArray, std::vector<KProperty *>> members;
+    KPropertySetIterator it(*m_set);
+    if (options.alphabetical) {
+        it.setOrder(KPropertySetIterator::Order::Alphabetical);
+    }
+    for (; it.current(); ++it) {
+        if (it.current()->isVisible()) {
+            members[withGroups ? m_set->groupNameForProperty(*it.current()) : QByteArray()].push_back(
+                it.current());
+        }
+    }
+    const QList<QByteArray> names = withGroups ? m_set->groupNames() : QList<QByteArray>{QByteArray()};
+    for (const QByteArray &name : names) {
+        const auto found = members.constFind(name);
+        if (found == members.cend()) {
+            continue;
+        }
+        Node *parent = m_root.get();
+        if (withGroups) {
+            parent = addNode(m_root.get(), nullptr);
+            parent->group = name;
+        }
+        for (KProperty *property : *found) {
+            addNode(parent, property);
+        }
+    }
+}
+
+EditorDataModel::Node *EditorDataModel::addNode(Node *parent, KProperty *property)
+{
+    auto owned = std::make_unique<Node>();
+    Node *const node = owned.get();
+    node->parent = parent;
+    node->property = property;
+    node->row = static_cast<int>(parent->children.size());
+    parent->children.push_back(std::move(owned));
+    if (property) {
+        m_nodes.insert(property, node);
+        if (const QList<KProperty *> *children = property->children()) {
+            for (KProperty *child : *children) {
+                if (child->isVisible()) {
+                    addNode(node, child);
+                }
+            }
+        }
+    }
+    return node;
+}
+
+void EditorDataModel::setToolTipsVisible(bool visible)
+{
+    m_toolTipsVisible = visible;
+}
+
+void EditorDataModel::forget(const Node &node)
+{
+    m_nodes.remove(node.property);
+    for (const std::unique_ptr<Node> &child : node.children) {
+        forget(*child);
+    }
+}
+
+void EditorDataModel::removeNode(Node *node)
+{
+    Node *const parent = node->parent;
+    const int row = node->row;
+    beginRemoveRows(indexOf(parent, NameColumn), row, row);
+    forget(*node);
+    parent->children.erase(parent->children.begin() + row);
+    for (std::size_t i = static_cast<std::size_t>(row); i < parent->children.size(); ++i) {
+        parent->children[i]->row = static_cast<int>(i);
+    }
+    endRemoveRows();
+}
+
+void EditorDataModel::removeProperty(const KProperty *property)
+{
+    Node *const node = m_nodes.value(property);
+    if (!node) {
+        return;
+    }
+    Node *const group = node->parent;
+    const bool isLast = group != m_root.get() && !group->property && group->children.size() == 1;
+    removeNode(isLast ? group : node);
+}
+
+void EditorDataModel::refresh(const KProperty *property)
+{
+    const QModelIndex name = indexForProperty(property, NameColumn);
+    if (!name.isValid()) {
+        return;
+    }
+    // Both cells: a name is bold while its value is modified. One cell at a time, since a view updates an
+    // open editor only for a change of a single cell.
+    Q_EMIT dataChanged(name, name);
+    Q_EMIT dataChanged(name.siblingAtColumn(ValueColumn), name.siblingAtColumn(ValueColumn));
+    for (int row = 0; row < rowCount(name); ++row) {
+        refresh(this->property(index(row, NameColumn, name)));
+    }
+}
+
+void EditorDataModel::refreshAll()
+{
+    if (rowCount() > 0) {
+        Q_EMIT dataChanged(index(0, NameColumn), index(rowCount() - 1, ValueColumn));
+    }
+}
+
+EditorDataModel::Node *EditorDataModel::nodeOf(const QModelIndex &index) const
+{
+    return index.isValid() ? static_cast<Node *>(index.internalPointer()) : m_root.get();
+}
+
+QModelIndex EditorDataModel::indexOf(const Node *node, int column) const
+{
+    return node == m_root.get() ? QModelIndex() : createIndex(node->row, column, node);
+}
+
+KProperty *EditorDataModel::property(const QModelIndex &index) const
+{
+    return index.isValid() ? nodeOf(index)->property : nullptr;
+}
+
+bool EditorDataModel::isGroup(const QModelIndex &index) const
+{
+    return index.isValid() && !nodeOf(index)->property;
+}
+
+QModelIndex EditorDataModel::indexForProperty(const KProperty *property, Column column) const
+{
+    const Node *const node = m_nodes.value(property);
+    return node ? indexOf(node, column) : QModelIndex();
+}
+
+bool EditorDataModel::isReadOnly(const KProperty &property) const
+{
+    if (m_set && m_set->isReadOnly()) {
+        return true;
+    }
+    for (const KProperty *each = &property; each; each = each->parent()) {
+        if (each->isReadOnly()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+QModelIndex EditorDataModel::index(int row, int column, const QModelIndex &parent) const
+{
+    const Node *const node = nodeOf(parent);
+    if (row < 0 || column < 0 || column >= ColumnCount || parent.column() > 0 ||
+        static_cast<std::size_t>(row) >= node->children.size()) {
+        return QModelIndex();
+    }
+    return createIndex(row, column, node->children[static_cast<std::size_t>(row)].get());
+}
+
+QModelIndex EditorDataModel::parent(const QModelIndex &child) const
+{
+    return child.isValid() ? indexOf(nodeOf(child)->parent, NameColumn) : QModelIndex();
+}
+
+int EditorDataModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.column() > 0 ? 0 : static_cast<int>(nodeOf(parent)->children.size());
+}
+
+int EditorDataModel::columnCount(const QModelIndex &) const
+{
+    return ColumnCount;
+}
+
+QVariant EditorDataModel::groupData(const Node &node, int column, int role) const
+{
+    if (column == ValueColumn) {
+        return role == Qt::DisplayRole ? QVariant(QString()) : QVariant();
+    }
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::AccessibleTextRole:
+        return m_set->groupCaption(node.group);
+    case Qt::AccessibleDescriptionRole:
+        return tr("Group of properties");
+    case Qt::DecorationRole:
+        return iconData(m_set->groupIconName(node.group));
+    default:
+        return QVariant();
+    }
+}
+
+QVariant EditorDataModel::nameData(const KProperty &property, int role) const
+{
+    switch (role) {
+    case Qt::DisplayRole:
+        return caption(property);
+    case Qt::AccessibleTextRole:
+        return property.captionOrName();
+    case Qt::DecorationRole:
+        return iconData(property.iconName());
+    default:
+        return QVariant();
+    }
+}
+
+QVariant EditorDataModel::valueData(const KProperty &property, int role) const
+{
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::AccessibleTextRole:
+        return KPropertyFactoryManager::self()->propertyValueToLocalizedString(&property);
+    case Qt::EditRole:
+        return property.value();
+    default:
+        return QVariant();
+    }
+}
+
+QVariant EditorDataModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid()) {
+        return QVariant();
+    }
+    const Node &node = *nodeOf(index);
+    if (!node.property) {
+        return groupData(node, index.column(), role);
+    }
+    if (role == Qt::AccessibleDescriptionRole || (role == Qt::ToolTipRole && m_toolTipsVisible)) {
+        const QString description = node.property->description();
+        return description.isEmpty() ? QVariant() : QVariant(description);
+    }
+    return index.column() == NameColumn ? nameData(*node.property, role) : valueData(*node.property, role);
+}
+
+bool EditorDataModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable)) {
+        return false;
+    }
+    property(index)->setValue(value);
+    return true;
+}
+
+Qt::ItemFlags EditorDataModel::flags(const QModelIndex &index) const
+{
+    if (!index.isValid()) {
+        return Qt::NoItemFlags;
+    }
+    const KProperty *const shown = property(index);
+    if (!shown) {
+        return Qt::ItemIsEnabled;
+    }
+    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    if (index.column() == ValueColumn && !isReadOnly(*shown)) {
+        flags |= Qt::ItemIsEditable;
+    }
+    return flags;
+}
+
+QVariant EditorDataModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+        return QVariant();
+    }
+    return section == NameColumn ? tr("Name") : tr("Value");
+}
+
+} // namespace Internal
