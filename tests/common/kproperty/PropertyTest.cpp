@@ -62,6 +62,7 @@ private Q_SLOTS:
     void aNullPropertyTakesNoValue();
     void typeComesFromTheValueUnlessGiven_data();
     void typeComesFromTheValueUnlessGiven();
+    void zeroIsANumberAndNoListData();
     void builtInTypesAreQt6MetaTypes_data();
     void builtInTypesAreQt6MetaTypes();
     void captionIsOneLineAndKeepsItsFormForDisplaying();
@@ -137,6 +138,13 @@ void PropertyTest::typeComesFromTheValueUnlessGiven()
     QCOMPARE(property.value(), value);
     QVERIFY(!property.isModified());
     QVERIFY(!property.oldValue().isValid());
+}
+
+void PropertyTest::zeroIsANumberAndNoListData()
+{
+    QCOMPARE(KProperty("p", 0).type(), int(KProperty::Int));
+    QCOMPARE(KProperty("p", false).type(), int(KProperty::Bool));
+    QCOMPARE(KProperty("p", nullptr).type(), int(KProperty::ValueFromList));
 }
 
 void PropertyTest::builtInTypesAreQt6MetaTypes_data()

@@ -13,6 +13,7 @@
 #include <cmath>
 #include <limits>
 #include <memory>
+#include <type_traits>
 
 class KComposedPropertyInterface;
 class KPropertyListData;
@@ -110,6 +111,14 @@ public:
     explicit KProperty(const QByteArray &name, const QVariant &value = QVariant(),
                        const QString &caption = QString(), const QString &description = QString(),
                        int type = Auto, KProperty *parent = nullptr);
+
+    /// Without this the number 0 would be taken for a null pointer to list data.
+    template<typename Number>
+    requires std::is_same_v<Number, int>
+    explicit KProperty(const QByteArray &name, Number value, const QString &caption = QString(),
+                       const QString &description = QString(), int type = Auto, KProperty *parent = nullptr)
+        : KProperty(name, QVariant(value), caption, description, type, parent)
+    {}
 
     /// A property whose value is a key of \a listData, which it owns. A \a parent takes ownership.
     KProperty(const QByteArray &name, KPropertyListData *listData, const QVariant &value = QVariant(),

@@ -1,28 +1,48 @@
 #include "KPropertyFactory.h"
 
 #include <QGlobalStatic>
-#include <QMutex>
 #include <QReadWriteLock>
 #include <QSet>
 
 #include <atomic>
-#include <utility>
+#include <mutex>
 
 namespace {
 
 /// Functions that wait for the manager to be asked for. Nothing is constructed before the first one comes.
-struct PendingInits
+class PendingInits
 {
-    QMutex mutex;
-    QList<void (*)()> functions;
-    std::atomic<bool> any = false;
-
-    QList<void (*)()> take()
+public:
+    void add(void (*function)())
     {
-        const QMutexLocker locker(&mutex);
-        any = false;
-        return std::exchange(functions, {});
+        const std::lock_guard locker(m_mutex);
+        m_functions.append(function);
+        m_any = true;
     }
+
+    /// Other threads wait until all have run; a function that asks for the manager itself goes on at once.
+    void run()
+    {
+        if (!m_any) {
+            return;
+        }
+        const std::lock_guard locker(m_mutex);
+        if (m_running) {
+            return;
+        }
+        m_running = true;
+        while (!m_functions.isEmpty()) {
+            m_functions.takeFirst()();
+        }
+        m_running = false;
+        m_any = false;
+    }
+
+private:
+    std::recursive_mutex m_mutex;
+    QList<void (*)()> m_functions;
+    std::atomic<bool> m_any = false;
+    bool m_running = false;
 };
 
 PendingInits &pendingInits()
@@ -70,21 +90,13 @@ KPropertyFactoryManager::~KPropertyFactoryManager()
 KPropertyFactoryManager *KPropertyFactoryManager::self()
 {
     KPropertyFactoryManager *const manager = s_manager();
-    if (pendingInits().any) {
-        const QList<void (*)()> functions = pendingInits().take();
-        for (void (*function)() : functions) {
-            function();
-        }
-    }
+    pendingInits().run();
     return manager;
 }
 
 void KPropertyFactoryManager::addInitFunction(void (*initFunction)())
 {
-    PendingInits &pending = pendingInits();
-    const QMutexLocker locker(&pending.mutex);
-    pending.functions.append(initFunction);
-    pending.any = true;
+    pendingInits().add(initFunction);
 }
 
 KComposedPropertyInterface *KPropertyFactoryManager::createComposedProperty(KProperty *parent)

@@ -73,7 +73,6 @@ KProperty &KPropertySet::property(const QByteArray &name) const
     if (KProperty *found = d->find(name)) {
         return *found;
     }
-    qCDebug(kpropertyLog) << "There is no property" << name;
     return d->nullProperty();
 }
 

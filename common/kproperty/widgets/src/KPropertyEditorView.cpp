@@ -5,6 +5,7 @@
 #include "KPropertySet.h"
 #include "internal/Painting.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 
@@ -275,7 +276,7 @@ void KPropertyEditorView::currentChanged(const QModelIndex &current, const QMode
 
 void KPropertyEditorView::commitData(QWidget *editor)
 {
-    if (editor && d->property(d->delegate->editedIndex())) {
+    if (editor && editor == d->delegate->editor() && d->property(d->delegate->editedIndex())) {
         QTreeView::commitData(editor);
         // The revert button comes and goes with the value.
         updateEditorGeometries();
@@ -284,7 +285,13 @@ void KPropertyEditorView::commitData(QWidget *editor)
 
 void KPropertyEditorView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
-    const bool hadFocus = editor && (editor->hasFocus() || editor->isAncestorOf(focusWidget()));
+    // Losing the focus closes once more what Enter has closed already.
+    if (!editor || editor != d->delegate->editor()) {
+        return;
+    }
+    const QWidget *const focus = QApplication::focusWidget();
+    const bool hadFocus = focus && (focus == editor || editor->isAncestorOf(focus));
+    d->delegate->releaseEditor();
     QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
     if (hadFocus) {
         setFocus();

@@ -16,7 +16,7 @@ namespace {
 // Composed values have children wherever this library is loaded, also in sets that are made before a view.
 void announceBuiltinFactory()
 {
-    KPropertyFactoryManager::addInitFunction([] { KPropertyWidgetsPluginManager::self(); });
+    KPropertyFactoryManager::addInitFunction([] { (void)s_manager(); });
 }
 
 void removeFrame(QWidget *editor)
@@ -52,6 +52,9 @@ KPropertyWidgetsPluginManager::~KPropertyWidgetsPluginManager() = default;
 
 KPropertyWidgetsPluginManager *KPropertyWidgetsPluginManager::self()
 {
+    // Runs the function above, if this is the first call of all: the manager registers its factory there, and
+    // must not be asked for while it is made.
+    KPropertyFactoryManager::self();
     return s_manager();
 }
 

@@ -119,7 +119,7 @@ void KPropertyColorComboDelegate::paint(QPainter *painter, const QStyleOptionVie
     painter->drawRect(box);
     painter->restore();
     QStyleOptionViewItem text(option);
-    text.rect.setLeft(box.right());
+    text.rect.setLeft(box.right() + margin);
     Internal::Painting::drawText(painter, text,
                                  color.isValid() ? valueToString(color, QLocale()) : QString());
 }

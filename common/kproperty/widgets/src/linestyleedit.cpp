@@ -103,7 +103,7 @@ void KPropertyLineStyleComboDelegate::paint(QPainter *painter, const QStyleOptio
                            option.rect.height());
         drawSample(painter, sample, style,
                    option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
-        text.rect.setLeft(sample.right());
+        text.rect.setLeft(sample.right() + margin);
     }
     Internal::Painting::drawText(painter, text, valueToString(index.data(Qt::EditRole), QLocale()));
 }

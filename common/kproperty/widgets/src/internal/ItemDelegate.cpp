@@ -13,6 +13,7 @@
 #include <QKeyEvent>
 #include <QMetaProperty>
 #include <QPainter>
+#include <QPixmap>
 #include <QPlainTextEdit>
 
 namespace Internal {
@@ -33,6 +34,13 @@ bool belongsToTextEdit(const QObject *object, const QEvent *event)
     const auto *const key = static_cast<const QKeyEvent *>(event);
     return (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) &&
            !key->modifiers().testFlag(Qt::ControlModifier);
+}
+
+/// Pictures have no equality, so that each would be a change when an editor is left.
+bool isSamePixmap(const QVariant &first, const QVariant &second)
+{
+    return first.typeId() == QMetaType::QPixmap && second.typeId() == QMetaType::QPixmap &&
+           first.value<QPixmap>().cacheKey() == second.value<QPixmap>().cacheKey();
 }
 
 template<typename Editor>
@@ -64,6 +72,12 @@ ItemDelegate::~ItemDelegate() = default;
 QWidget *ItemDelegate::editor() const
 {
     return m_editor;
+}
+
+void ItemDelegate::releaseEditor()
+{
+    m_editor = nullptr;
+    m_index = QPersistentModelIndex();
 }
 
 void ItemDelegate::restoreValue()
@@ -100,9 +114,9 @@ void ItemDelegate::paintValue(QPainter *painter, const QStyleOptionViewItem &opt
     }
     if (m_model->isReadOnly(property)) {
         valueOption.state &= ~QStyle::State_Enabled;
-        for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText}) {
-            valueOption.palette.setColor(role, valueOption.palette.color(QPalette::Disabled, QPalette::Text));
-        }
+        // Greyed, yet legible: one reads these values as often as the others.
+        const QColor grey = valueOption.palette.color(QPalette::Active, QPalette::PlaceholderText);
+        valueOption.palette.setColor(QPalette::Disabled, QPalette::Text, grey);
     }
     valueOption.rect.adjust(0, 0, property.isModified() ? -Painting::revertButtonWidth(option) : 0, 0);
     painter->save();
@@ -215,8 +229,12 @@ void ItemDelegate::setEditorData(QWidget *editor, const QModelIndex &index) cons
 void ItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
     const QByteArray name = userPropertyName(editor);
-    if (!name.isEmpty()) {
-        model->setData(index, editor->property(name.constData()), Qt::EditRole);
+    if (name.isEmpty()) {
+        return;
+    }
+    const QVariant value = editor->property(name.constData());
+    if (!isSamePixmap(value, index.data(Qt::EditRole))) {
+        model->setData(index, value, Qt::EditRole);
     }
 }
 

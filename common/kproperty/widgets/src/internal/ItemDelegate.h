@@ -24,6 +24,8 @@ public:
 
     [[nodiscard]] QWidget *editor() const;
     [[nodiscard]] QModelIndex editedIndex() const { return m_index; }
+    /// The editor is closed; Qt deletes it later.
+    void releaseEditor();
     /// Takes back what the open editor wrote since it was opened.
     void restoreValue();
 
