@@ -42,3 +42,8 @@ execute_process(COMMAND "${WORK_DIR}/build/list-tabs" "${WORK_DIR}/missing.wflw"
 if(NOT result EQUAL 1 OR NOT errors MATCHES "Could not open the file: .*missing.wflw")
   message(FATAL_ERROR "A missing workflow gave ${result}: ${errors}")
 endif()
+
+run("${WORK_DIR}/build/choose-types" --list)
+if(NOT output STREQUAL "26 types, checked: Karvon Samples\n")
+  message(FATAL_ERROR "The editors' example printed\n${output}")
+endif()

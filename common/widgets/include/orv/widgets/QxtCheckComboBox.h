@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orv/widgets/Export.h>
+
 #include <QComboBox>
 #include <QStringList>
 
@@ -17,7 +19,7 @@
     Keyboard: Space, Enter or F4 opens the list, Up and Down move, Space checks, Enter and Escape close. The
    list stays open while rows are clicked. Rows have the data of Qt::CheckStateRole, so that a model may be
    set that has checkable rows of its own. Use it in the GUI thread. */
-class QxtCheckComboBox : public QComboBox
+class ORV_PROPERTY_EDITOR_EXPORT QxtCheckComboBox : public QComboBox
 {
     Q_OBJECT
     Q_PROPERTY(QString defaultText READ defaultText WRITE setDefaultText)
