@@ -129,7 +129,7 @@ QString KPropertyComboBoxDelegate::propertyValueToString(const KProperty *proper
 {
     Q_UNUSED(locale)
     const KPropertyListData *const data = property->listData();
-    const QString value = property->value().toString();
+    QString value = property->value().toString();
     if (!data) {
         return value;
     }

@@ -94,14 +94,16 @@ EditorDataModel::Node *EditorDataModel::addNode(Node *parent, KProperty *propert
     node->property = property;
     node->row = static_cast<int>(parent->children.size());
     parent->children.push_back(std::move(owned));
-    if (property) {
-        m_nodes.insert(property, node);
-        if (const QList<KProperty *> *children = property->children()) {
-            for (KProperty *child : *children) {
-                if (child->isVisible()) {
-                    addNode(node, child);
-                }
-            }
+    if (!property) {
+        return node;
+    }
+    m_nodes.insert(property, node);
+    if (!property->children()) {
+        return node;
+    }
+    for (KProperty *child : *property->children()) {
+        if (child->isVisible()) {
+            addNode(node, child);
         }
     }
     return node;
