@@ -102,6 +102,10 @@ void PictureTest::pictureLooksLikeAPropertyTree()
 void PictureTest::unwritablePictureIsAnError()
 {
     QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
+    process.setProcessEnvironment(environment);
     process.start(QStringLiteral(ORV_PROPERTY_VIEW),
                   {QStringLiteral("--picture"), QStringLiteral("/no/such/folder.png")});
     QVERIFY(process.waitForFinished(60000));

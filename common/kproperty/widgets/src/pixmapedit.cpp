@@ -85,8 +85,7 @@ void KPropertyPixmapEditor::setValue(const QVariant &value)
 
 QString KPropertyPixmapEditor::selectPixmapFileName()
 {
-    const QString name =
-        QFileDialog::getOpenFileName(this, tr("Choose a picture"), lastFolder(), imageFilter());
+    QString name = QFileDialog::getOpenFileName(this, tr("Choose a picture"), lastFolder(), imageFilter());
     if (!name.isEmpty()) {
         lastFolder() = QFileInfo(name).absolutePath();
     }
