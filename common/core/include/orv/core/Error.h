@@ -41,7 +41,7 @@ public:
     static constexpr ErrorCode NoError = ErrorCode::NoError;
 
     Error();
-    Error(ErrorCode code); // NOLINT(google-explicit-constructor): `return Error::NoError;` reads as it should
+    Error(ErrorCode code); // implicit: `return Error::NoError;`
     Error(ErrorCode code, const QString &message);
     Error(ErrorCode code, const QStringList &messages);
     Error(const Error &other);

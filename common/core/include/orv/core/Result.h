@@ -23,13 +23,13 @@ class [[nodiscard]] Result
 public:
     using ValueType = T;
 
-    Result(T value, Warnings warnings = {}) // NOLINT(google-explicit-constructor): `return value;`
+    Result(T value, Warnings warnings = {}) // implicit: `return value;`
         : m_value(std::move(value))
         , m_warnings(std::move(warnings))
     {}
 
     /// \a error must be a failure: a success carries no value.
-    Result(Error error, Warnings warnings = {}) // NOLINT(google-explicit-constructor): `return error;`
+    Result(Error error, Warnings warnings = {}) // implicit: `return error;`
         : m_error(std::move(error))
         , m_warnings(std::move(warnings))
     {
@@ -79,7 +79,7 @@ class [[nodiscard]] Result<void>
 {
 public:
     Result() = default;
-    Result(Error error, Warnings warnings = {}) // NOLINT(google-explicit-constructor): `return error;`
+    Result(Error error, Warnings warnings = {}) // implicit: `return error;`
         : m_error(std::move(error))
         , m_warnings(std::move(warnings))
     {}
