@@ -37,6 +37,8 @@ private Q_SLOTS:
     void multiLineTakesEnterAndCommitsOnCtrlEnter();
     void selectButtonSendsTheEditEvent();
     void unansweredEditEventChangesNothing();
+    void changeSetWithinAChangeIsSafe();
+    void changeSetWithinAnEditEventIsSafe();
     void readOnlyInternalEditorTakesNoTyping();
 };
 
@@ -288,6 +290,33 @@ void ViewInputTest::unansweredEditEventChangesNothing()
     fixture.press(Qt::Key_F4);
     QCOMPARE(events, 1);
     QVERIFY(!fixture.set["text"].isModified());
+}
+
+void ViewInputTest::changeSetWithinAChangeIsSafe()
+{
+    Fixture fixture;
+    connect(&fixture.set, &KPropertySet::propertyChanged, &fixture.view,
+            [&fixture] { fixture.view.changeSet(&fixture.set); });
+    fixture.open("text");
+    fixture.type("x");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(fixture.set.propertyValue("text"), QVariant(text("x")));
+    QVERIFY(!isEditing(fixture));
+}
+
+void ViewInputTest::changeSetWithinAnEditEventIsSafe()
+{
+    Fixture fixture;
+    fixture.set["text"].setOption("selectButton", true);
+    fixture.open("text");
+    connect(&fixture.view, &KPropertyEditorView::handlePropertyEditorItemEvent, this,
+            [&fixture](KPropertyEditorItemEvent *event) {
+                event->setResult(text("too late"));
+                fixture.view.changeSet(nullptr);
+            });
+    fixture.press(Qt::Key_F4);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(fixture.set.propertyValue("text"), QVariant(text("abc")));
 }
 
 void ViewInputTest::readOnlyInternalEditorTakesNoTyping()
