@@ -18,6 +18,9 @@ private Q_SLOTS:
     void namesAreFoundByTheirWholeText();
     void otherNamesAreNotFound_data();
     void otherNamesAreNotFound();
+    void theLastOfTwoItemsIsFound();
+    void itemsAreInsertedAndRemoved();
+    void whereThereIsNoItemReadsInvalid();
     void textsAreThoseOfTheItems();
     void equalItemsInAnotherOrderDiffer();
 };
@@ -118,6 +121,33 @@ void TestVariantItems::otherNamesAreNotFound()
     QVERIFY(!mixed().contains(name));
     QCOMPARE(mixed().indexOf(name), qsizetype(-1));
     QVERIFY(!VariantItems().contains(name));
+}
+
+void TestVariantItems::theLastOfTwoItemsIsFound()
+{
+    QCOMPARE(mixed().lastIndexOf(u"Name"_s), qsizetype(4));
+    QCOMPARE(mixed().lastIndexOf(u"7"_s), qsizetype(1));
+    QCOMPARE(mixed().lastIndexOf(u"NAME"_s), qsizetype(-1));
+    QCOMPARE(VariantItems().lastIndexOf(QString()), qsizetype(-1));
+}
+
+void TestVariantItems::itemsAreInsertedAndRemoved()
+{
+    VariantItems items{1, 3};
+    items.insert(1, 2);
+    items.insert(3, 4);
+    QCOMPARE(items, VariantItems({1, 2, 3, 4}));
+    items.removeAt(0);
+    QCOMPARE(items, VariantItems({2, 3, 4}));
+    items.append(items);
+    QCOMPARE(items, VariantItems({2, 3, 4, 2, 3, 4}));
+}
+
+void TestVariantItems::whereThereIsNoItemReadsInvalid()
+{
+    QCOMPARE(mixed().value(1), QVariant(7));
+    QVERIFY(!mixed().value(-1).isValid());
+    QVERIFY(!mixed().value(7).isValid());
 }
 
 void TestVariantItems::textsAreThoseOfTheItems()
