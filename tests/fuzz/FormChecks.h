@@ -16,4 +16,7 @@ namespace FormChecks {
 /// The object form refuses a document or reads back what it writes, and tells of all that it drops.
 [[nodiscard]] QString checkObjectForm(const QByteArray &bytes);
 
+/// A table is refused whole or reads back what it writes, as text and as parsed document.
+[[nodiscard]] QString checkRowNode(const QByteArray &bytes);
+
 } // namespace FormChecks

@@ -30,6 +30,8 @@ private Q_SLOTS:
     void theValueFormReadsBackWhatItWrites() { run(FormChecks::checkValueForm); }
     void theObjectFormReadsBackWhatItWrites_data() { addFiles(); }
     void theObjectFormReadsBackWhatItWrites() { run(FormChecks::checkObjectForm); }
+    void tablesAreRefusedOrReadBackEqual_data() { addFiles(); }
+    void tablesAreRefusedOrReadBackEqual() { run(FormChecks::checkRowNode); }
 
 private:
     static void addFiles();
@@ -57,7 +59,7 @@ void TestCorpus::run(QString (*check)(const QByteArray &))
 void TestCorpus::everyFuzzerHasSeeds_data()
 {
     QTest::addColumn<QString>("folder");
-    for (const char *folder : {"json", "object_form", "value_form"})
+    for (const char *folder : {"json", "object_form", "row_node", "value_form"})
         QTest::newRow(folder) << QString::fromLatin1(folder);
 }
 
