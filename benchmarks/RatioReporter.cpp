@@ -28,6 +28,7 @@ void RatioReporter::Finalize()
         std::sort(times.begin(), times.end());
         return times[times.size() / 2];
     };
+    std::sort(m_order.begin(), m_order.end()); // interleaved runs come in any order
     std::printf("%-60s %12s %8s\n", "benchmark", "median ms", "ratio");
     for (const std::string &name : m_order) {
         const std::string baseline = name.substr(0, name.rfind('/')) + "/baseline";
