@@ -37,6 +37,15 @@ QUrl folderUrlOf(const QString &input)
     return QUrl::fromLocalFile(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'));
 }
 
+/// Whether \a output is the very file that \a input means; standard input and output are none.
+bool isSameFile(const QString &input, const QString &output)
+{
+    if (input == kStandardInput || output == kStandardInput)
+        return false;
+    const QString canonical = QFileInfo(workflowFileOf(input)).canonicalFilePath();
+    return !canonical.isEmpty() && canonical == QFileInfo(output).canonicalFilePath();
+}
+
 /// The name of the first tab that would be written empty, as one of its columns is shorter than its first.
 std::optional<QString> unevenTab(const Content &content)
 {
@@ -48,12 +57,6 @@ std::optional<QString> unevenTab(const Content &content)
         }
     }
     return {};
-}
-
-bool isSameFile(const QString &a, const QString &b)
-{
-    const QString canonical = QFileInfo(a).canonicalFilePath();
-    return !canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath();
 }
 
 class ConvertCommand : public Command
