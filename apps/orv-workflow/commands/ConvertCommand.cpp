@@ -8,6 +8,7 @@
 #include <orv/propertyeditor/content/ItemGroup.h>
 #include <orv/propertyeditor/content/ItemSubGroup.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 
 #include <QDir>
@@ -21,6 +22,9 @@ namespace orv::cli {
 namespace {
 
 using PropertyEditor::Content;
+
+/// The content mode of old documents, which the object form passes over and the value form takes up.
+constexpr QLatin1String kLegacyModePath("/projectCreationMode");
 
 struct Outcome
 {
@@ -98,23 +102,36 @@ private:
         DocumentOrFailure document = readDocument(file);
         if (const auto *failure = std::get_if<Failure>(&document))
             return {{}, *failure};
-        QJsonObject json = std::get<QJsonObject>(document);
+        const QJsonObject &json = std::get<QJsonObject>(document);
         if (const std::optional<Failure> refusal = refuseToOverwriteNewer(json, file, output))
             return {{}, refusal};
-        if (m_stamp)
-            json = stamped(json);
 
-        LossCollector lost;
         Content content;
-        content.setLossObserver(&lost);
+        QList<Loss> lost;
+        const Error error = load(json, content, lost);
+        if (error.hasError())
+            return {lost, failureFrom(error, BadInput)};
+        if (const std::optional<QString> tab = unevenTab(content))
+            return {lost, unevenFailure(*tab)};
+        return {lost, write(content, file, output)};
+    }
+
+    Error load(const QJsonObject &json, Content &content, QList<Loss> &lost) const
+    {
         PropertyEditor::ValidationOptions validation;
         validation.setFlag(PropertyEditor::ValidationOption::SkipTypeValidation, m_skipTypeValidation);
-        const Error error = content.assignFromJson(json, validation);
-        if (error.hasError())
-            return {lost.losses(), failureFrom(error, BadInput)};
-        if (const std::optional<QString> tab = unevenTab(content))
-            return {lost.losses(), unevenFailure(*tab)};
-        return {lost.losses(), write(content, file, output)};
+        LossCollector collector;
+        content.setLossObserver(&collector);
+        Error error = content.assignFromJson(json, validation);
+        content.setLossObserver(nullptr);
+        lost = collector.losses();
+        if (error.hasError() || !m_stamp)
+            return error;
+
+        // The value form mends and drops without a word: only the load above tells what the document loses.
+        if (!content.metadata().contains(PropertyEditorStringConstants::CONTENT_MODE_KEY))
+            lost.removeIf([](const Loss &loss) { return loss.path == kLegacyModePath; });
+        return content.assignFromJson(stamped(json), validation);
     }
 
     /// A document of a newer format may hold what this version doesn't know.
