@@ -87,7 +87,10 @@ public:
         const QString output = decoded(m_output);
         const Outcome outcome = convert(file, output);
         int exitCode = outcome.failure ? outcome.failure->exitCode : Done;
-        if (options.json && output != kStandardInput)
+        // Standard output holds one document: the workflow or, where none was written, the report.
+        const bool workflowIsPrinted =
+            output == kStandardInput && exitCode != BadInput && exitCode != Negative;
+        if (options.json && !workflowIsPrinted)
             exitCode = std::max(exitCode, printJson(toJson(file, output, outcome)));
         else
             printLosses(file, outcome.lost);
