@@ -49,6 +49,15 @@ bool standardErrorIsTerminal()
     return isatty(STDERR_FILENO) == 1;
 }
 
+QString withoutControls(QString text)
+{
+    for (QChar &c : text) {
+        if (c.category() == QChar::Other_Control)
+            c = QLatin1Char(' ');
+    }
+    return text;
+}
+
 QString styled(const QString &text, Style style)
 {
     if (!coloursWanted())

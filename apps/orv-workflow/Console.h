@@ -12,6 +12,10 @@ namespace orv::cli {
 [[nodiscard]] bool standardOutputIsTerminal();
 [[nodiscard]] bool standardErrorIsTerminal();
 
+/// \a text from a document or a path as a line for people may hold it: a control character could break the
+/// line or steer the terminal, so each becomes a blank.
+[[nodiscard]] QString withoutControls(QString text);
+
 enum class Style
 {
     Heading,

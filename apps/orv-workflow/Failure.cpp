@@ -1,5 +1,7 @@
 #include "Failure.h"
 
+#include "Console.h"
+
 #include <QStringList>
 
 #include <cstdio>
@@ -41,7 +43,8 @@ QJsonObject toJson(const Failure &failure)
 
 void printRemark(const QString &file, const QString &text)
 {
-    const QString line = QStringLiteral("orv-workflow: %1: %2\n").arg(file, oneLine(text));
+    const QString line =
+        QStringLiteral("orv-workflow: %1: %2\n").arg(withoutControls(file), withoutControls(oneLine(text)));
     std::fputs(line.toLocal8Bit().constData(), stderr);
 }
 

@@ -113,14 +113,15 @@ Widths widthsOf(const WorkflowSummary &summary)
 
 QString tabToText(const WorkflowSummary::Tab &tab, const Widths &widths)
 {
-    const QString tabName = tab.name.isEmpty() ? QStringLiteral("(tab without a name)") : tab.name;
+    const QString tabName =
+        tab.name.isEmpty() ? QStringLiteral("(tab without a name)") : withoutControls(tab.name);
     QString text = QStringLiteral("  %1\n").arg(styled(tabName, Style::Heading));
     for (const WorkflowSummary::Column &column : tab.columns) {
-        QString name = column.name;
+        QString name = withoutControls(column.name);
         for (const WorkflowSummary::Cell &cell : column.cells) {
             text += QStringLiteral("    %1  %2  %3\n")
-                        .arg(name.leftJustified(widths.column), cell.type.leftJustified(widths.type),
-                             cellContents(cell));
+                        .arg(name.leftJustified(widths.column),
+                             withoutControls(cell.type).leftJustified(widths.type), cellContents(cell));
             name.clear();
         }
         if (column.cells.isEmpty())
@@ -161,13 +162,13 @@ QJsonObject emptySummaryJson()
 
 QString summaryToText(const QString &file, const WorkflowSummary &summary)
 {
-    QString text = styled(file, Style::Heading) + QLatin1Char('\n');
-    text += fact(QStringLiteral("Name"), summary.name);
-    text += fact(QStringLiteral("Description"), summary.description.simplified());
-    text += fact(QStringLiteral("Version"),
-                 QStringLiteral("%1, %2").arg(summary.version, stateForPeople(summary.state)));
+    QString text = styled(withoutControls(file), Style::Heading) + QLatin1Char('\n');
+    text += fact(QStringLiteral("Name"), withoutControls(summary.name));
+    text += fact(QStringLiteral("Description"), withoutControls(summary.description.simplified()));
+    text += fact(QStringLiteral("Version"), QStringLiteral("%1, %2").arg(withoutControls(summary.version),
+                                                                         stateForPeople(summary.state)));
     for (const QString &message : summary.messages)
-        text += fact(QString(), message);
+        text += fact(QString(), withoutControls(message));
     text += fact(QStringLiteral("Type"), workflowTypeToString(summary.workflowType));
     text +=
         fact(QStringLiteral("Made for"), summary.contentMode == 0   ? QStringLiteral("desktop")
@@ -175,8 +176,9 @@ QString summaryToText(const QString &file, const WorkflowSummary &summary)
                                                                     : QString::number(summary.contentMode));
     text += fact(QStringLiteral("Documents"), summary.documents.join(QLatin1String(", ")));
     if (!summary.samples.isEmpty()) {
-        text += fact(QStringLiteral("Samples"),
-                     QStringLiteral("%1: %2").arg(summary.samples.size()).arg(shortList(summary.samples)));
+        text += fact(QStringLiteral("Samples"), QStringLiteral("%1: %2")
+                                                    .arg(summary.samples.size())
+                                                    .arg(withoutControls(shortList(summary.samples))));
     }
     const Widths widths = widthsOf(summary);
     for (const WorkflowSummary::Tab &tab : summary.tabs)
