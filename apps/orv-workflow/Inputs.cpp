@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace orv::cli {
@@ -83,6 +84,14 @@ QList<BatchInput> batchInputs(const QStringList &arguments)
 {
     QList<BatchInput> inputs;
     for (const QString &argument : arguments) {
+        const auto isSame = [&argument](const BatchInput &input) { return input.file == argument; };
+        if (argument == kStandardInput && std::any_of(inputs.begin(), inputs.end(), isSame)) {
+            // Two threads would tear its bytes apart.
+            inputs.append({argument, Failure{BadInput, 0,
+                                             QStringLiteral("The standard input is named twice, and can "
+                                                            "be read once.")}});
+            continue;
+        }
         if (argument == kStandardInput || !PathUtils::isDirectory(argument) || isPortableFolder(argument)) {
             inputs.append({argument, {}});
             continue;
