@@ -90,7 +90,11 @@ int main(int argc, char *argv[])
     if (generationIsAskedFor(argc, argv))
         return cli::printText(cli::generateShellSupport(cli::decoded(argv[2]), program.app));
     try {
-        program.app.parse(argc, argv);
+        // The parser takes them from the back.
+        std::vector<std::string> arguments;
+        for (int i = argc - 1; i > 0; --i)
+            arguments.push_back(cli::shielded(argv[i]));
+        program.app.parse(std::move(arguments));
     } catch (const CLI::ParseError &error) {
         return program.app.exit(error) == 0 ? cli::Done : cli::WrongUsage;
     }

@@ -11,6 +11,8 @@ namespace orv::cli {
 
 namespace {
 
+constexpr char kShield = '\x1F'; // a separator that nobody types
+
 int print(const QByteArray &bytes)
 {
     if (writeStandardOutput(bytes))
@@ -37,9 +39,14 @@ const std::vector<CommandRow> &commandRows()
     return rows;
 }
 
+std::string shielded(const std::string &argument)
+{
+    return argument.starts_with('[') ? kShield + argument : argument;
+}
+
 QString decoded(const std::string &argument)
 {
-    return QFile::decodeName(argument.c_str());
+    return QFile::decodeName(argument.c_str() + (argument.starts_with(kShield) ? 1 : 0));
 }
 
 QStringList decoded(const std::vector<std::string> &arguments)

@@ -53,6 +53,10 @@ std::unique_ptr<Command> createInfoCommand();
 std::unique_ptr<Command> createConvertCommand();
 std::unique_ptr<Command> createTypesCommand();
 
+/// The argument as it may be given to the parser, which takes "[a,b]" apart as a list: such a path gets a
+/// mark in front, and decoded() takes it away.
+[[nodiscard]] std::string shielded(const std::string &argument);
+
 /// Arguments as the system gives them, decoded.
 [[nodiscard]] QString decoded(const std::string &argument);
 [[nodiscard]] QStringList decoded(const std::vector<std::string> &arguments);
