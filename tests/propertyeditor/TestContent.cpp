@@ -14,6 +14,7 @@
 
 using namespace orv;
 using namespace orv::PropertyEditor;
+using namespace Qt::StringLiterals;
 
 class TestContent : public OrvTest
 {
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void aLoadedFileSetsNameAndBaseUrl();
     void loadingFromJsonForgetsFileNameAndBaseUrl();
     void aFailureInTheSecondTabLeavesTheFirst();
+    void everyLevelPassesAFailureOn();
     void metadataThatIsNoJsonReadsAsEmpty_data();
     void metadataThatIsNoJsonReadsAsEmpty();
     void theModeKeyOfOldDocumentsIsIgnored();
@@ -179,8 +181,10 @@ void TestContent::aLoadedFileSetsNameAndBaseUrl()
 {
     const QTemporaryDir folder;
     const QString path = writeFile(folder, Documents::toBytes(threeCells()));
+    const LogCapture log;
     Content content;
     ORV_VERIFY_OK(content.assignFromFile(path));
+    QCOMPARE(log.texts(QtDebugMsg), QStringList(QStringLiteral("Assigning PEC from file \"%1\"").arg(path)));
     QCOMPARE(content.fileName(), path);
     // The URL of the file itself: resolving a relative path against it replaces the file's name.
     QCOMPARE(content.baseUrl(), QUrl(path, QUrl::TolerantMode));
@@ -214,6 +218,22 @@ void TestContent::aFailureInTheSecondTabLeavesTheFirst()
     QCOMPARE(content.groupNames(), QStringList(QStringLiteral("First")));
     QCOMPARE(content.fileName(), QString());
     QCOMPARE(reset.count(), 0);
+}
+
+void TestContent::everyLevelPassesAFailureOn()
+{
+    const LogCapture log;
+    const QTemporaryDir folder;
+    const QJsonObject tab = Documents::tab(QStringLiteral("T"), {QStringLiteral("C")},
+                                           {Documents::cell(QStringLiteral("Nonsense"))});
+    const QString path = writeFile(folder, Documents::toBytes(Documents::document({tab})));
+    const Error error = Content().assignFromFile(path);
+    QStringList functions;
+    for (const ErrorPlace &place : error.trail())
+        functions.append(place.function.section(u'(', 0, 0).section("::"_L1, -2));
+    QCOMPARE(functions, QStringList({u"ItemSubGroup::assignFromJson"_s, u"ItemGroup::assignFromJson"_s,
+                                     u"Content::loadTabs"_s, u"Content::assignFromJson"_s,
+                                     u"Content::assignFromFile"_s}));
 }
 
 void TestContent::metadataThatIsNoJsonReadsAsEmpty_data()
