@@ -114,8 +114,11 @@ void TestItemGroup::aLongerColumnLosesItsLastCells()
 void TestItemGroup::theLastCellGivesAColumnItsType()
 {
     ItemGroup group;
+    BaseItemType announced = BaseItemType::Unknown;
+    connect(&group, &ItemGroup::subGroupAdded, this, [&](ItemSubGroup *added) { announced = added->type(); });
     ORV_VERIFY_OK(group.assignFromJson(tab({QStringLiteral("A")}, {cell("Samples"), cell("Masses")}), {}));
     QCOMPARE(group.subGroup(0)->type(), BaseItemType::Masses);
+    QCOMPARE(announced, BaseItemType::Masses);
 }
 
 void TestItemGroup::aColumnWithoutCellsIsOfUnknownType()
