@@ -2,8 +2,11 @@
 
 #include "Progress.h"
 
+#include <orv/core/Logging.h>
+
 #include <algorithm>
 #include <atomic>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -20,8 +23,13 @@ void runBatch(qsizetype count, int jobs, Progress &progress, const std::function
     };
     std::vector<std::jthread> threads;
     const auto threadCount = std::min<qsizetype>(std::max(1, jobs), count);
-    for (qsizetype i = 1; i < threadCount; ++i)
-        threads.emplace_back(worker);
+    try {
+        for (qsizetype i = 1; i < threadCount; ++i)
+            threads.emplace_back(worker);
+    } catch (const std::system_error &error) {
+        // The system allows no more threads; those that there are do the work.
+        qCInfo(genericLog) << "Working on" << threads.size() + 1 << "threads:" << error.what();
+    }
     worker();
 }
 

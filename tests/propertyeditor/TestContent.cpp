@@ -241,7 +241,6 @@ void TestContent::metadataThatIsNoJsonReadsAsEmpty_data()
     QTest::addColumn<QJsonValue>("metadata");
     QTest::newRow("no JSON") << QJsonValue(QStringLiteral("not json"));
     QTest::newRow("array") << QJsonValue(QStringLiteral("[1]"));
-    QTest::newRow("empty") << QJsonValue(QString());
     QTest::newRow("no string") << QJsonValue(
         QJsonObject{{QStringLiteral("version"), QStringLiteral("5.0.0")}});
 }

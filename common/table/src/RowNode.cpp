@@ -61,6 +61,7 @@ RowNode::RowNode(RowNode &&other) noexcept
         m_rows->owner = this;
 }
 
+// NOLINTNEXTLINE(performance-noexcept-move-constructor): it copies where the other lies above
 RowNode &RowNode::operator=(RowNode &&other)
 {
     if (this == &other)
@@ -201,7 +202,8 @@ void RowNode::addData(const QStringList &texts, bool skipExisting)
 
 void RowNode::addDataToRootAndResizeChildren(const QString &name, const QVariant &value, bool alignRows)
 {
-    const QVariant entry = value; // which may stand in a row that is about to grow
+    // The value may stand in a row that is about to grow.
+    const QVariant entry = value; // NOLINT(performance-unnecessary-copy-initialization): see above
     RowNode *top = root();
     const qsizetype column = top->data.size();
     top->data.append(name);

@@ -75,7 +75,7 @@ void reportUnknownMembers(const QJsonObject &json, const LoadContext &context)
 void reportMalformedMetadata(const QJsonObject &json, const LoadContext &context)
 {
     const QJsonValue metadata = json.value(META_IN_JSON_KEY);
-    if (!context.isObserved() || metadata.isUndefined())
+    if (!context.isObserved() || metadata.isUndefined() || metadata == QJsonValue(QString()))
         return;
     if (!metadata.isString() || !QJsonDocument::fromJson(metadata.toString().toUtf8()).isObject()) {
         context.lost(META_IN_JSON_KEY, Content::tr("the metadata of the document"),

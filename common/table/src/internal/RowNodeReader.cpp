@@ -113,7 +113,7 @@ bool RowNodeReader::readCell()
         return readText();
     case '[': {
         QVariantList list;
-        return readCells(&list) && push(QVariant(std::move(list)));
+        return readCells(&list) && push(QVariant(list));
     }
     case '{':
         return readObject();
@@ -165,7 +165,7 @@ bool RowNodeReader::readObject()
             QString key;
             if (!readKey(&key) || map.contains(key) || !readCell())
                 return false;
-            map.insert(key, std::move(m_stack.back()));
+            map.insert(key, m_stack.back());
             m_stack.pop_back();
         } while (m_cursor.take(','));
         if (!m_cursor.take('}'))
@@ -173,7 +173,7 @@ bool RowNodeReader::readObject()
     }
     leave();
     if (map.size() != 1 || !isTypeName(map.firstKey()))
-        return push(std::move(map));
+        return push(map);
     QVariant value;
     const CellType *type = cellTypeNamed(map.firstKey());
     return type && type->fromPayload(map.first(), &value) && push(std::move(value));

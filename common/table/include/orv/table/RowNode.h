@@ -46,7 +46,9 @@ public:
     RowNode &operator=(const RowNode &other);
     /// Constant in time, however many rows there are. The moved-from node is empty.
     RowNode(RowNode &&other) noexcept;
-    /// Any node may be assigned to any other, also from above or below it in the same tree.
+    /// Any node may be assigned to any other, also from above or below it in the same tree; from above it
+    /// copies.
+    // NOLINTNEXTLINE(performance-noexcept-move-constructor): the copy may run out of memory
     RowNode &operator=(RowNode &&other);
     ~RowNode();
 
