@@ -159,6 +159,8 @@ Q_SIGNALS:
     void propertyChangedInternal(KPropertySet &set, KProperty &property);
     void propertyReset(KPropertySet &set, KProperty &property);
     void aboutToDeleteProperty(KPropertySet &set, KProperty &property);
+    /// A child goes while its parent stays, as when the parent is assigned to: an editor drops its row.
+    void aboutToDeleteChildInternal(KProperty &child);
     void aboutToBeCleared();
     void aboutToBeDeleted();
     void readOnlyFlagChanged();

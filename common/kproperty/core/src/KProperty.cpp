@@ -61,8 +61,20 @@ void KProperty::Private::deleteChildren()
         return;
     }
     for (KProperty *child : std::as_const(*doomed)) {
+        announceEndOf(child);
         child->d->parent = nullptr;
         delete child;
+    }
+}
+
+void KProperty::Private::announceEndOf(KProperty *child) const
+{
+    const Private *root = this;
+    while (root->parent) {
+        root = root->parent->d.get();
+    }
+    if (root->set) {
+        KPropertySetPrivate::emitAboutToDeleteChild(root->set, child);
     }
 }
 
@@ -112,6 +124,7 @@ KProperty::~KProperty()
         KPropertySetPrivate::forget(d->set, this);
     }
     if (d->parent && d->parent->d->children) {
+        d->parent->d->announceEndOf(this);
         d->parent->d->children->removeOne(this);
     }
     d->composed.reset();
@@ -203,8 +216,12 @@ bool KProperty::setValue(const QVariant &value, ValueOptions options)
     // The parent asks its own copy of this property for the other children and writes them back, this one
     // included; so it must hear of the new value before it is stored here.
     if (d->parent && d->parent->d->composed) {
+        const Private::Watch watch(d.get());
         d->parent->d->composed->childValueChangedInternal(this, value,
                                                           options | ValueOption::IgnoreComposedProperty);
+        if (!watch.isAlive()) {
+            return true;
+        }
     }
     if (options & ValueOption::IgnoreOld) {
         d->oldValue = QVariant();
@@ -239,8 +256,9 @@ void KProperty::resetValue()
     }
     d->modified = false;
     const QVariant oldValue = d->oldValue;
+    const Private::Watch watch(d.get());
     setValue(oldValue, ValueOption::IgnoreOld);
-    if (d->set) {
+    if (watch.isAlive() && d->set) {
         KPropertySetPrivate::emitPropertyReset(d->set, this);
     }
 }

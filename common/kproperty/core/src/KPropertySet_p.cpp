@@ -3,6 +3,8 @@
 #include "KProperty_p.h"
 #include "internal/Logging.h"
 
+#include <QPointer>
+
 #include <utility>
 
 namespace {
@@ -158,8 +160,16 @@ void KPropertySetPrivate::copyFrom(const KPropertySetPrivate &other)
 
 void KPropertySetPrivate::emitPropertyChanged(KPropertySet *set, KProperty *property)
 {
+    const QPointer<KPropertySet> guard(set);
     Q_EMIT set->propertyChangedInternal(*set, *property);
-    Q_EMIT set->propertyChanged(*set, *property);
+    if (guard && set->d->entries.contains(property)) {
+        Q_EMIT set->propertyChanged(*set, *property);
+    }
+}
+
+void KPropertySetPrivate::emitAboutToDeleteChild(KPropertySet *set, KProperty *child)
+{
+    Q_EMIT set->aboutToDeleteChildInternal(*child);
 }
 
 void KPropertySetPrivate::emitPropertyReset(KPropertySet *set, KProperty *property)

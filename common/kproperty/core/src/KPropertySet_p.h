@@ -46,6 +46,7 @@ public:
     // Called by a property; here because a property must not know how a set is built.
     static void emitPropertyChanged(KPropertySet *set, KProperty *property);
     static void emitPropertyReset(KPropertySet *set, KProperty *property);
+    static void emitAboutToDeleteChild(KPropertySet *set, KProperty *child);
     static void forget(KPropertySet *set, KProperty *property);
 
     KPropertySet *const q;

@@ -9,6 +9,42 @@
 class KProperty::Private
 {
 public:
+    /// Tells whether the property outlived the signals that went out meanwhile: those who hear of a change
+    /// may clear the set.
+    class Watch
+    {
+    public:
+        explicit Watch(Private *watched)
+            : m_watched(watched)
+            , m_outer(watched->watch)
+        {
+            watched->watch = this;
+        }
+        ~Watch()
+        {
+            if (m_watched) {
+                m_watched->watch = m_outer;
+            }
+        }
+        Q_DISABLE_COPY_MOVE(Watch)
+
+        [[nodiscard]] bool isAlive() const { return m_watched; }
+
+    private:
+        Private *m_watched;
+        Watch *const m_outer;
+        friend Private;
+    };
+
+    Private() = default;
+    ~Private()
+    {
+        for (Watch *each = watch; each; each = each->m_outer) {
+            each->m_watched = nullptr;
+        }
+    }
+    Q_DISABLE_COPY_MOVE(Private)
+
     QByteArray name;
     QString caption;
     QString captionForDisplaying;
@@ -24,6 +60,7 @@ public:
     KProperty *parent = nullptr;
     /// The set that hears of changes: the one that the property was added to last.
     KPropertySet *set = nullptr;
+    Watch *watch = nullptr;
     int type = KProperty::Auto;
     KProperty::ValueSyncPolicy syncPolicy = KProperty::ValueSyncPolicy::Editor;
     bool modified = false;
@@ -33,5 +70,7 @@ public:
 
     void addChild(KProperty *self, KProperty *child);
     void deleteChildren();
+    /// Rows of children must go before the children do.
+    void announceEndOf(KProperty *child) const;
     void createComposed(KProperty *self);
 };

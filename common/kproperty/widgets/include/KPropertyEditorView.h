@@ -109,6 +109,7 @@ private:
     void changeSetInternal(KPropertySet *set, SetOptions options, const QByteArray &propertyToSelect);
     void connectSet(KPropertySet *set);
     void letGoOfSet();
+    void dropRow(const KProperty &property);
     void expandItems();
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
     void editNext(QAbstractItemDelegate::EndEditHint hint);

@@ -184,12 +184,21 @@ void KPropertyEditorView::connectSet(KPropertySet *set)
     connect(set, &KPropertySet::aboutToBeCleared, this, &KPropertyEditorView::slotSetWillBeCleared);
     connect(set, &KPropertySet::aboutToBeDeleted, this, &KPropertyEditorView::slotSetWillBeDeleted);
     connect(set, &KPropertySet::readOnlyFlagChanged, this, &KPropertyEditorView::slotReadOnlyFlagChanged);
-    connect(set, &KPropertySet::aboutToDeleteProperty, this, [this](KPropertySet &, KProperty &property) {
-        if (d->property(d->delegate->editedIndex()) == &property && d->delegate->editor()) {
-            closeEditor(d->delegate->editor(), QAbstractItemDelegate::NoHint);
-        }
-        d->model->removeProperty(&property);
-    });
+    connect(set, &KPropertySet::aboutToDeleteProperty, this,
+            [this](KPropertySet &, KProperty &property) { dropRow(property); });
+    connect(set, &KPropertySet::aboutToDeleteChildInternal, this, &KPropertyEditorView::dropRow);
+}
+
+void KPropertyEditorView::dropRow(const KProperty &property)
+{
+    const KProperty *edited = d->property(d->delegate->editedIndex());
+    while (edited && edited != &property) {
+        edited = edited->parent();
+    }
+    if (edited && d->delegate->editor()) {
+        closeEditor(d->delegate->editor(), QAbstractItemDelegate::NoHint);
+    }
+    d->model->removeProperty(&property);
 }
 
 void KPropertyEditorView::expandItems()
@@ -289,6 +298,11 @@ void KPropertyEditorView::closeEditor(QWidget *editor, QAbstractItemDelegate::En
     if (!editor || editor != d->delegate->editor()) {
         return;
     }
+    // Rows that were rebuilt meanwhile took the editor with them.
+    if (!d->delegate->editedIndex().isValid()) {
+        d->delegate->releaseEditor();
+        return;
+    }
     const QWidget *const focus = QApplication::focusWidget();
     const bool hadFocus = focus && (focus == editor || editor->isAncestorOf(focus));
     d->delegate->releaseEditor();
@@ -316,14 +330,15 @@ void KPropertyEditorView::editNext(QAbstractItemDelegate::EndEditHint hint)
 
 bool KPropertyEditorView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
 {
-    const QModelIndex cell = d->editableCell(index);
+    // Committing tells others, who may rebuild the rows.
+    const QPersistentModelIndex cell = d->editableCell(index);
     if (trigger == QAbstractItemView::NoEditTriggers || !cell.isValid()) {
         return QTreeView::edit(index, trigger, event);
     }
     if (d->delegate->editor() && d->delegate->editedIndex() != cell) {
         acceptInput();
     }
-    return QTreeView::edit(cell, trigger, event);
+    return cell.isValid() && QTreeView::edit(cell, trigger, event);
 }
 
 void KPropertyEditorView::undo()
@@ -338,7 +353,10 @@ void KPropertyEditorView::undo()
     // A child of a composed property has no set of its own: its parent tells of the change.
     if (property->parent() && property->parent()->composedProperty()) {
         property->setValue(property->oldValue());
-        property->clearModifiedFlag();
+        // Who hears of the change may have cleared the set.
+        if (d->model->indexForProperty(property, EditorDataModel::NameColumn).isValid()) {
+            property->clearModifiedFlag();
+        }
     } else {
         property->resetValue();
     }

@@ -47,14 +47,16 @@ bool KPropertyEditorView::viewportEvent(QEvent *event)
 void KPropertyEditorView::mousePressEvent(QMouseEvent *event)
 {
     d->pressed = QModelIndex();
-    const QModelIndex index = indexAt(event->position().toPoint());
+    // The press commits an open editor, and who hears of that may rebuild the rows.
+    const QPersistentModelIndex index = indexAt(event->position().toPoint());
     if (event->button() != Qt::LeftButton || !index.isValid()) {
         QTreeView::mousePressEvent(event);
         return;
     }
     if (d->model->isGroup(index)) {
         acceptInput();
-        setExpanded(index.siblingAtColumn(0), !isExpanded(index.siblingAtColumn(0)));
+        const QModelIndex group = QModelIndex(index).siblingAtColumn(0);
+        setExpanded(group, !isExpanded(group));
         return;
     }
     QTreeView::mousePressEvent(event);
