@@ -103,6 +103,7 @@ private Q_SLOTS:
     void everyExamplePropertyShowsAndOpens();
     void openingAndLeavingChangesNothing_data();
     void openingAndLeavingChangesNothing();
+    void whatAnEditorCannotShowSurvives();
     void numbersAreTypedWithinTheirBounds_data();
     void numbersAreTypedWithinTheirBounds();
     void valueOutsideTheBoundsSurvivesItsEditor();
@@ -194,6 +195,19 @@ void EditorsTest::openingAndLeavingChangesNothing()
     QVERIFY(editor.widget());
     editor.view().acceptInput();
     QCOMPARE(editor.value(), value);
+    QVERIFY(!editor.property().isModified());
+}
+
+void EditorsTest::whatAnEditorCannotShowSurvives()
+{
+    // A text edit has a plain space for one that doesn't break, and one kind of line break.
+    const QString before = QStringLiteral("5\u00a0ppm\r\nb");
+    auto *const property = new KProperty("p", before);
+    property->setOption("multiLine", true);
+    OpenEditor editor(property);
+    QVERIFY(editor.widget());
+    editor.view().acceptInput();
+    QCOMPARE(editor.value().toString(), before);
     QVERIFY(!editor.property().isModified());
 }
 

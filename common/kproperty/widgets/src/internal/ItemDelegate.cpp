@@ -184,6 +184,7 @@ QWidget *ItemDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
     m_index = index;
     m_valueBefore = property->value();
     m_modifiedBefore = property->isModified();
+    m_exchanged = QVariant();
     prepareEditor(editor, *property);
     return editor;
 }
@@ -219,11 +220,13 @@ void ItemDelegate::setEditorData(QWidget *editor, const QModelIndex &index) cons
     // The value often comes from this editor; writing it back would move the cursor under the user's hands.
     const QVariant shown = editor->property(name.constData());
     if (editor->property("kpropertyFilled").toBool() && property->valueEqualsTo(shown)) {
+        m_exchanged = shown;
         return;
     }
     const QSignalBlocker blocker(editor);
     editor->setProperty(name.constData(), property->value());
     editor->setProperty("kpropertyFilled", true);
+    m_exchanged = editor->property(name.constData());
 }
 
 void ItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
@@ -233,9 +236,12 @@ void ItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, cons
         return;
     }
     const QVariant value = editor->property(name.constData());
-    if (!isSamePixmap(value, index.data(Qt::EditRole))) {
-        model->setData(index, value, Qt::EditRole);
+    // What an editor cannot show in full must survive that it is opened and left.
+    if (value == m_exchanged || isSamePixmap(value, index.data(Qt::EditRole))) {
+        return;
     }
+    m_exchanged = value;
+    model->setData(index, value, Qt::EditRole);
 }
 
 void ItemDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,

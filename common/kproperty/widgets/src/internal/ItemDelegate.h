@@ -59,6 +59,8 @@ private:
     mutable QPointer<QWidget> m_editor;
     mutable QPersistentModelIndex m_index;
     mutable QVariant m_valueBefore;
+    /// What the open editor showed when a value last went to it or came from it.
+    mutable QVariant m_exchanged;
     mutable bool m_modifiedBefore = false;
 };
 
