@@ -17,6 +17,7 @@
 #include <QDateTime>
 #include <QLineEdit>
 #include <QMetaProperty>
+#include <QPixmap>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
@@ -121,6 +122,8 @@ private Q_SLOTS:
     void urlTextCommitsOnEnter_data();
     void urlTextCommitsOnEnter();
     void urlDialogIsTheApplicationsToAnswer();
+    void f4IsTheSelectButton();
+    void f4ChoosesAPicture();
     void composedUrlTakesRelativePaths();
     void colorIsChosenFromTheList();
     void unknownTypeHasNoEditor();
@@ -415,6 +418,35 @@ void EditorsTest::urlDialogIsTheApplicationsToAnswer()
     answer = QUrl(text("file:///new"));
     QTest::mouseClick(editor.as<QPushButton>(), Qt::LeftButton);
     QCOMPARE(editor.value().toUrl(), QUrl(text("file:///new")));
+}
+
+void EditorsTest::f4IsTheSelectButton()
+{
+    OpenEditor editor(new KProperty("p", QUrl(text("file:///old"))));
+    int events = 0;
+    connect(&editor.view(), &KPropertyEditorView::handlePropertyEditorItemEvent, this,
+            [&events](KPropertyEditorItemEvent *event) {
+                ++events;
+                event->setResult(QUrl());
+            });
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4);
+    QCOMPARE(events, 1);
+    editor.as<KPropertyUrlEditor>()->setSelectionButtonVisible(false);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4);
+    QCOMPARE(events, 1);
+}
+
+void EditorsTest::f4ChoosesAPicture()
+{
+    OpenEditor editor(new KProperty("p", QPixmap(4, 4)));
+    auto *const button = editor.as<QPushButton>();
+    QVERIFY(button);
+    int clicks = 0;
+    // In place of the dialog, which would wait for an answer.
+    button->disconnect(editor.widget());
+    connect(button, &QPushButton::clicked, this, [&clicks] { ++clicks; });
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4);
+    QCOMPARE(clicks, 1);
 }
 
 void EditorsTest::composedUrlTakesRelativePaths()

@@ -4,6 +4,7 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QShortcut>
 
 class KPropertyGenericSelectionEditor::Private
 {
@@ -23,6 +24,14 @@ KPropertyGenericSelectionEditor::KPropertyGenericSelectionEditor(QWidget *parent
     d->button = new QPushButton(this);
     KPropertyUtils::setupDotDotDotButton(d->button, tr("Choose"));
     d->layout->addWidget(d->button);
+    // The button takes no focus, so this is the way to it for those who don't use a mouse.
+    auto *const shortcut = new QShortcut(Qt::Key_F4, this);
+    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, this, [this] {
+        if (d->button->isVisibleTo(this)) {
+            d->button->click();
+        }
+    });
     // Through a lambda, so that the function of a subclass is called.
     connect(d->button, &QPushButton::clicked, this, [this] { selectButtonClicked(); });
 }

@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPointer>
 
 namespace {
 
@@ -125,8 +126,10 @@ void KPropertyUrlEditor::setValue(const QUrl &value)
 
 void KPropertyUrlEditor::selectButtonClicked()
 {
+    const QPointer<KPropertyUrlEditor> self(this);
     const QUrl chosen = d->askForUrl(value());
-    if (!chosen.isEmpty()) {
+    // A dialog ran meanwhile: the editor may be gone.
+    if (self && !chosen.isEmpty()) {
         setValue(chosen);
         Q_EMIT commitData(this);
     }
@@ -174,8 +177,10 @@ void KPropertyComposedUrlEditor::setValue(const KPropertyComposedUrl &value)
 
 void KPropertyComposedUrlEditor::selectButtonClicked()
 {
+    const QPointer<KPropertyComposedUrlEditor> self(this);
     const QUrl chosen = d->askForUrl(d->composedUrl.value());
-    if (!chosen.isEmpty()) {
+    // A dialog ran meanwhile: the editor may be gone.
+    if (self && !chosen.isEmpty()) {
         KPropertyComposedUrl composed = d->composedUrl;
         composed.setAbsoluteUrl(chosen);
         setValue(composed);

@@ -9,7 +9,9 @@
 #include <QImageReader>
 #include <QLabel>
 #include <QPainter>
+#include <QPointer>
 #include <QPushButton>
+#include <QShortcut>
 #include <QToolButton>
 
 namespace {
@@ -66,6 +68,9 @@ KPropertyPixmapEditor::KPropertyPixmapEditor(KProperty *prop, QWidget *parent)
     KPropertyUtils::setupDotDotDotButton(select, tr("Choose a picture"));
     layout->addWidget(select);
     connect(select, &QPushButton::clicked, this, [this] { selectPixmap(); });
+    auto *const shortcut = new QShortcut(Qt::Key_F4, this);
+    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, select, &QPushButton::click);
 }
 
 KPropertyPixmapEditor::~KPropertyPixmapEditor() = default;
@@ -94,10 +99,12 @@ QString KPropertyPixmapEditor::selectPixmapFileName()
 
 void KPropertyPixmapEditor::selectPixmap()
 {
+    const QPointer<KPropertyPixmapEditor> self(this);
     const QString name = selectPixmapFileName();
     QPixmap pixmap;
-    // A file that holds no picture leaves the value as it was.
-    if (!name.isEmpty() && pixmap.load(name)) {
+    // A file that holds no picture leaves the value as it was; the editor may be gone since the dialog
+    // opened.
+    if (self && !name.isEmpty() && pixmap.load(name)) {
         setValue(pixmap);
         Q_EMIT commitData(this);
     }
