@@ -28,6 +28,7 @@ private Q_SLOTS:
     void viewForEditorFindsTheView();
     void screenReaderFindsNamesAndValues();
     void openEditorHasAnAccessibleName();
+    void readOnlyBoolLooksReadOnly();
     void gridLineColorMayBeInvalid();
 };
 
@@ -251,6 +252,15 @@ void ViewTest::openEditorHasAnAccessibleName()
     QVERIFY(editor);
     QCOMPARE(editor->text(QAccessible::Name), text("Number"));
     QCOMPARE(fixture.editor()->accessibleDescription(), text("A number."));
+}
+
+void ViewTest::readOnlyBoolLooksReadOnly()
+{
+    Fixture fixture;
+    const QRect cell = fixture.view.visualRect(fixture.index("flag"));
+    const QImage writable = fixture.view.viewport()->grab(cell).toImage();
+    fixture.set["flag"].setReadOnly(true);
+    QVERIFY(fixture.view.viewport()->grab(cell).toImage() != writable);
 }
 
 void ViewTest::gridLineColorMayBeInvalid()

@@ -179,6 +179,9 @@ void KPropertyBoolDelegate::paint(QPainter *painter, const QStyleOptionViewItem 
     }
     painter->save();
     const bool selected = option.state.testFlag(QStyle::State_Selected);
+    if (!option.state.testFlag(QStyle::State_Enabled)) {
+        painter->setOpacity(0.5); // styles differ in how, and whether, a disabled box is greyed
+    }
     painter->setPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
     KPropertyBoolEditor::draw(painter, option.rect, property->value(),
                               propertyValueToString(property, QLocale()), isThreeState(property));
