@@ -1,6 +1,7 @@
 #include <orv/widgets/QxtCheckComboBox.h>
 
 #include <QAbstractItemView>
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSet>
@@ -31,6 +32,65 @@ public:
     }
 };
 
+QString shownText(const QxtCheckComboBox &box)
+{
+    const QStringList checked = box.checkedItems();
+    return checked.isEmpty() ? box.defaultText() : checked.join(box.separator());
+}
+
+/// The value that Qt reports for a combo box is the text of its current row, which has no meaning here.
+class AccessibleCheckComboBox : public QAccessibleWidget
+{
+public:
+    explicit AccessibleCheckComboBox(QxtCheckComboBox *box)
+        : QAccessibleWidget(box, QAccessible::ComboBox)
+    {}
+
+    [[nodiscard]] QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? shownText(*box()) : QAccessibleWidget::text(kind);
+    }
+    [[nodiscard]] QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.expandable = true;
+        state.hasPopup = true;
+        state.expanded = box()->view()->isVisible();
+        return state;
+    }
+    [[nodiscard]] int childCount() const override { return 1; }
+    [[nodiscard]] QAccessibleInterface *child(int index) const override
+    {
+        return index == 0 ? QAccessible::queryAccessibleInterface(box()->view()) : nullptr;
+    }
+    [[nodiscard]] int indexOfChild(const QAccessibleInterface *child) const override
+    {
+        return child && child->object() == box()->view() ? 0 : -1;
+    }
+    [[nodiscard]] QStringList actionNames() const override { return {showMenuAction(), pressAction()}; }
+    void doAction(const QString &name) override
+    {
+        if (name != showMenuAction() && name != pressAction()) {
+            QAccessibleWidget::doAction(name);
+        } else if (box()->view()->isVisible()) {
+            box()->hidePopup();
+        } else {
+            box()->showPopup();
+        }
+    }
+
+private:
+    [[nodiscard]] QxtCheckComboBox *box() const { return static_cast<QxtCheckComboBox *>(widget()); }
+};
+
+QAccessibleInterface *makeAccessible(const QString &className, QObject *object)
+{
+    auto *const box = className == QLatin1String(QxtCheckComboBox::staticMetaObject.className())
+                          ? qobject_cast<QxtCheckComboBox *>(object)
+                          : nullptr;
+    return box ? new AccessibleCheckComboBox(box) : nullptr;
+}
+
 } // namespace
 
 class QxtCheckComboBox::Private
@@ -39,7 +99,7 @@ public:
     QString defaultText;
     QString separator = QStringLiteral(", ");
     QStringList lastChecked;
-    QMetaObject::Connection connections[3];
+    QMetaObject::Connection connections[4];
     QPersistentModelIndex pressed;
     bool changing = false;
 };
@@ -48,6 +108,7 @@ QxtCheckComboBox::QxtCheckComboBox(QWidget *parent)
     : QComboBox(parent)
     , d(std::make_unique<Private>())
 {
+    QAccessible::installFactory(makeAccessible); // Qt keeps one of each
     QComboBox::setModel(new CheckModel(this));
     followModel();
     view()->installEventFilter(this);
@@ -66,6 +127,8 @@ void QxtCheckComboBox::followModel()
     d->connections[0] = connect(model(), &QAbstractItemModel::dataChanged, this, changed);
     d->connections[1] = connect(model(), &QAbstractItemModel::rowsRemoved, this, changed);
     d->connections[2] = connect(model(), &QAbstractItemModel::modelReset, this, changed);
+    // Rows of a model that is set from outside may come with their check marks.
+    d->connections[3] = connect(model(), &QAbstractItemModel::rowsInserted, this, changed);
 }
 
 void QxtCheckComboBox::checkStatesChanged()
@@ -77,6 +140,8 @@ void QxtCheckComboBox::checkStatesChanged()
     update();
     if (checked != d->lastChecked) {
         d->lastChecked = checked;
+        QAccessibleValueChangeEvent event(this, shownText(*this));
+        QAccessible::updateAccessibility(&event);
         Q_EMIT checkedItemsChanged(checked);
     }
 }
@@ -220,13 +285,11 @@ void QxtCheckComboBox::paintEvent(QPaintEvent *event)
     QStylePainter painter(this);
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    const QStringList checked = checkedItems();
-    const QString shown = checked.isEmpty() ? d->defaultText : checked.join(d->separator);
     const QRect room =
         style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-    option.currentText = fontMetrics().elidedText(shown, Qt::ElideRight, room.width() - 4);
+    option.currentText = fontMetrics().elidedText(shownText(*this), Qt::ElideRight, room.width() - 4);
     option.currentIcon = QIcon();
-    if (checked.isEmpty()) {
+    if (checkedItems().isEmpty()) {
         option.palette.setColor(QPalette::ButtonText, option.palette.color(QPalette::PlaceholderText));
     }
     painter.drawComplexControl(QStyle::CC_ComboBox, option);

@@ -1,6 +1,7 @@
 #include <orv/widgets/QxtCheckComboBox.h>
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QStandardItemModel>
@@ -60,6 +61,8 @@ private Q_SLOTS:
     void disabledRowStaysAsItIs();
     void removedRowsAreNoLongerChecked();
     void ownModelIsFollowed();
+    void checkedRowsOfAModelMayComeLater();
+    void screenReaderHearsTheCheckedTexts();
     void typingAndWheelChangeNothing();
     void textFollowsSeparatorAndDefault();
 };
@@ -207,6 +210,39 @@ void CheckComboBoxTest::ownModelIsFollowed()
     item->setCheckState(Qt::Checked);
     QCOMPARE(spy.count(), 1);
     QCOMPARE(box.checkedItems(), texts({"x"}));
+}
+
+void CheckComboBoxTest::checkedRowsOfAModelMayComeLater()
+{
+    QStandardItemModel model;
+    Box box;
+    box.setModel(&model);
+    const QSignalSpy spy(&box, &QxtCheckComboBox::checkedItemsChanged);
+    auto *const item = new QStandardItem(text("x"));
+    item->setCheckable(true);
+    item->setCheckState(Qt::Checked);
+    model.appendRow(item);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(box.checkedItems(), texts({"x"}));
+}
+
+void CheckComboBoxTest::screenReaderHearsTheCheckedTexts()
+{
+    Box box;
+    box.setDefaultText(text("nothing checked"));
+    QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(&box);
+    QVERIFY(accessible);
+    QCOMPARE(accessible->role(), QAccessible::ComboBox);
+    QCOMPARE(accessible->text(QAccessible::Value), text("nothing checked"));
+    box.setCheckedItems(texts({"a", "c"}));
+    QCOMPARE(accessible->text(QAccessible::Value), text("a, c"));
+    QCOMPARE(accessible->childCount(), 1);
+    QCOMPARE(accessible->indexOfChild(accessible->child(0)), 0);
+    accessible->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+    QVERIFY(box.view()->isVisible());
+    QVERIFY(accessible->state().expanded);
+    accessible->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+    QVERIFY(!box.view()->isVisible());
 }
 
 void CheckComboBoxTest::typingAndWheelChangeNothing()
