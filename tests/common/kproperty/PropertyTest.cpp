@@ -2,6 +2,7 @@
 #include <KPropertyFactory>
 #include <KPropertyListData>
 #include <KPropertySet>
+#include <kproperty_version.h>
 
 #include <QDate>
 #include <QPoint>
@@ -9,6 +10,9 @@
 #include <QSize>
 #include <QTest>
 #include <QUrl>
+
+// Code that was written for the Qt 5 library tests either name.
+static_assert(KPROPERTYWIDGETS_VERSION == KPROPERTY_VERSION && KPROPERTYWIDGETS_VERSION >= 0x030200);
 
 namespace {
 
