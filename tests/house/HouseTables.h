@@ -24,6 +24,8 @@ inline constexpr std::array kFloors = {
     // The catalogue and its helpers lie at the top of the product's folders; content is made of them.
     Floor{"propertyeditor/include/orv/propertyeditor/", 31, "catalogue"},
     Floor{"propertyeditor/src/", 31, "catalogue"},
+    // Types of cells are numbers alone, and the catalogue says which properties a type may hold.
+    Floor{"propertyeditor/include/orv/propertyeditor/content/BaseItemType.h", 31, "catalogue"},
     Floor{"propertyeditor/include/orv/propertyeditor/content/", 32, "content"},
     Floor{"propertyeditor/src/content/", 32, "content"},
     // Every document carries its version and type, and the rules of versions look into a document: these two
