@@ -19,4 +19,7 @@ namespace FormChecks {
 /// A table is refused whole or reads back what it writes, as text and as parsed document.
 [[nodiscard]] QString checkRowNode(const QByteArray &bytes);
 
+/// Comma-separated text reads the same in pieces of any size, and its rows read back from what is written.
+[[nodiscard]] QString checkCsv(const QByteArray &bytes);
+
 } // namespace FormChecks

@@ -32,6 +32,8 @@ private Q_SLOTS:
     void theObjectFormReadsBackWhatItWrites() { run(FormChecks::checkObjectForm); }
     void tablesAreRefusedOrReadBackEqual_data() { addFiles(); }
     void tablesAreRefusedOrReadBackEqual() { run(FormChecks::checkRowNode); }
+    void commaSeparatedTextReadsTheSameInPieces_data() { addFiles(); }
+    void commaSeparatedTextReadsTheSameInPieces() { run(FormChecks::checkCsv); }
 
 private:
     static void addFiles();
@@ -59,7 +61,7 @@ void TestCorpus::run(QString (*check)(const QByteArray &))
 void TestCorpus::everyFuzzerHasSeeds_data()
 {
     QTest::addColumn<QString>("folder");
-    for (const char *folder : {"json", "object_form", "row_node", "value_form"})
+    for (const char *folder : {"csv", "json", "object_form", "row_node", "value_form"})
         QTest::newRow(folder) << QString::fromLatin1(folder);
 }
 

@@ -110,15 +110,21 @@ void CsvReader::Private::advance()
 bool CsvReader::Private::fill()
 {
     chunk.resize(kChunkBytes);
-    const qint64 read = device->read(chunk.data(), chunk.size());
-    if (read < 0) {
-        chunk.clear();
+    // A slow device may give less than a byte order mark at first.
+    const qsizetype atLeast = isFirstChunk ? kByteOrderMark.size() : 1;
+    qint64 size = 0;
+    qint64 added = 0;
+    do {
+        added = device->read(chunk.data() + size, chunk.size() - size);
+        size += std::max<qint64>(added, 0);
+    } while (added > 0 && size < atLeast);
+    chunk.resize(size);
+    at = 0;
+    if (added < 0) {
         error = Error(ErrorCode::CannotOpenFile, Tr::tr("The table cannot be read."));
         error.addDetail(device->errorString());
         return false;
     }
-    chunk.resize(read);
-    at = 0;
     if (isFirstChunk && chunk.startsWith(kByteOrderMark))
         at = kByteOrderMark.size();
     isFirstChunk = false;
@@ -148,12 +154,14 @@ void CsvReader::Private::parse(QByteArrayView piece)
         row.line = line;
     }
     const size_t parsed = csv_parse(&parser, piece.data(), size_t(piece.size()), fieldEnds, rowEnds, this);
+    // The last byte may be the quote that ends the field. Sizes go first: the fault that is told must not
+    // depend on how the device cuts the text into pieces.
+    if (!isRowComplete)
+        checkSizes(std::max<qsizetype>(qsizetype(parser.entry_pos) - 1, 0));
     if (parsed < size_t(piece.size()) && !error.hasError()) {
         fail(Tr::tr("A quote stands where it may not."),
              Tr::tr("Quote the whole field, and write each quote inside it twice."), line);
     }
-    if (!isRowComplete)
-        checkSizes(qsizetype(parser.entry_pos));
     if (last == '\r' || (last == '\n' && !isSecondByteOfLineEnd))
         ++line;
     lastByte = last;
