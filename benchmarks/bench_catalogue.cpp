@@ -37,7 +37,7 @@ void add(const std::string &name, const std::function<void()> &work)
     benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State &state) {
         for ([[maybe_unused]] auto iteration : state)
             work();
-    });
+    })->Unit(benchmark::kMicrosecond);
 }
 
 void addForEachId(const std::string &name, const std::function<void(PropertyId)> &work)
