@@ -181,9 +181,9 @@ void CsvReader::Private::addField(QByteArrayView bytes)
     if (error.hasError())
         return;
     checkSizes(bytes.size());
-    if (row.fields.size() == limits.rowFields)
+    if (!error.hasError() && row.fields.size() == limits.rowFields)
         failForSize(Tr::tr("A row has more than %1 fields.").arg(limits.rowFields));
-    if (!bytes.isValidUtf8())
+    if (!error.hasError() && !bytes.isValidUtf8())
         fail(Tr::tr("The table is not UTF-8."), Tr::tr("Save it with the encoding UTF-8."), line);
     if (error.hasError())
         return;
