@@ -96,7 +96,7 @@ Error PropertiesCsvReader::load(QIODevice *device)
         return header.ecatch();
     if (header->fields != columns())
         return fault(Tr::tr("The columns are not %1.").arg(columns().join(u", ")));
-    m_idsByName.reserve(2 * kPropertyCount);
+    m_idsByName.reserve(qsizetype(2) * kPropertyCount);
     for (int number = 0; number < kPropertyCount; ++number) {
         Result<CsvRow> row = nextRow(reader);
         if (row.hasError())

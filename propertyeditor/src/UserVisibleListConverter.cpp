@@ -132,7 +132,7 @@ QVariant UserVisibleListConverter::realListValue(PropertyId id, const QVariant &
 {
     const PropertyLists &all = lists();
     const auto formerSwitch = all.numberOfFormerSwitch.constFind(id);
-    const QVariant present = formerSwitch == all.numberOfFormerSwitch.cend() ? value : (*formerSwitch)(value);
+    QVariant present = formerSwitch == all.numberOfFormerSwitch.cend() ? value : (*formerSwitch)(value);
     if (const auto plain = all.plain.constFind(id); plain != all.plain.cend()) {
         return isStringSerializableList(id) ? realText(*plain, present) : realPosition(*plain, present);
     }
