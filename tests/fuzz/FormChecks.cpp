@@ -35,7 +35,7 @@ qsizetype countMembersInText(const QByteArray &json)
     return count;
 }
 
-qsizetype countMembers(const QJsonValue &value) // NOLINT(misc-no-recursion): the parser bounds the depth
+qsizetype countMembers(const QJsonValue &value) // the parser bounds the depth
 {
     qsizetype count = 0;
     if (value.isObject()) {

@@ -65,7 +65,7 @@ public:
         }
     }
 
-    QVariant cell(int depth) // NOLINT(misc-no-recursion): the depth counts down
+    QVariant cell(int depth) // the depth counts down
     {
         switch (below(depth > 0 ? 16 : 12)) {
         case 0:
@@ -102,7 +102,7 @@ public:
         }
     }
 
-    QVariantList list(int depth) // NOLINT(misc-no-recursion): the depth counts down
+    QVariantList list(int depth) // the depth counts down
     {
         QVariantList cells;
         for (int i = below(5); i > 0; --i)
@@ -110,7 +110,7 @@ public:
         return cells;
     }
 
-    RowNode node(int depth) // NOLINT(misc-no-recursion): the depth counts down
+    RowNode node(int depth) // the depth counts down
     {
         RowNode made(VariantItems(list(3)));
         for (int i = depth > 0 ? below(5) : 0; i > 0; --i)

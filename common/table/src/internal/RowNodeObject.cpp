@@ -12,7 +12,6 @@ namespace orv::Internal {
 namespace {
 
 // These call each other as deep as the data nest; every level counts down what is left to go.
-// NOLINTBEGIN(misc-no-recursion)
 
 bool cellFromJson(const QJsonValue &json, int levels, QVariant *cell);
 
@@ -183,8 +182,6 @@ bool nodeToJson(const RowNode &node, int levels, QJsonObject *object)
     *object = {{kDataKey, data}, {kChildrenKey, children}};
     return true;
 }
-
-// NOLINTEND(misc-no-recursion)
 
 } // namespace
 

@@ -8,7 +8,6 @@
 namespace orv::Internal {
 
 // The functions below call each other as deep as the text nests; enter() bounds that.
-// NOLINTBEGIN(misc-no-recursion)
 
 RowNodeReader::RowNodeReader(QByteArrayView json)
     : m_cursor(json)
@@ -211,7 +210,5 @@ bool RowNodeReader::skipContainer(bool isObject)
     leave();
     return true;
 }
-
-// NOLINTEND(misc-no-recursion)
 
 } // namespace orv::Internal

@@ -11,7 +11,6 @@
 namespace orv::Internal {
 
 // The functions below call each other as deep as the node nests; open() bounds that.
-// NOLINTBEGIN(misc-no-recursion)
 
 bool RowNodeWriter::open(char bracket)
 {
@@ -123,8 +122,6 @@ bool RowNodeWriter::writeTyped(const QVariant &value)
     close('}');
     return true;
 }
-
-// NOLINTEND(misc-no-recursion)
 
 template<typename Number>
 void RowNodeWriter::writeNumber(Number number)
