@@ -1,0 +1,45 @@
+#include "internal/GlycanColumns.h"
+#include "internal/Tables.h"
+
+#include <orv/chemistry/DetachedGlycanUtils.h>
+
+#include <array>
+
+namespace orv::DetachedGlycanUtils {
+
+namespace {
+
+using namespace Internal::GlycanColumns;
+
+struct OptionRow
+{
+    QLatin1String kind;
+    QLatin1String name;
+    QLatin1String formula; ///< of the residue, which is the sugar without water; of an adduct, what it adds
+};
+
+constexpr std::array kDefaultOptions = {
+    OptionRow{kMoiety, QLatin1String("Hex"), QLatin1String("C6H10O5")},
+    OptionRow{kMoiety, QLatin1String("HexNAc"), QLatin1String("C8H13NO5")},
+    OptionRow{kMoiety, QLatin1String("Fuc"), QLatin1String("C6H10O4")},
+    OptionRow{kMoiety, QLatin1String("NeuAc"), QLatin1String("C11H17NO8")},
+    OptionRow{kMoiety, QLatin1String("NeuGc"), QLatin1String("C11H17NO9")},
+    OptionRow{kAdduct, QLatin1String("H"), QLatin1String("H")},
+};
+
+} // namespace
+
+RowNode defaultTableRowNode()
+{
+    return Internal::tableOf({kName, kComposition, kMass, kLabel, kRetentionTime});
+}
+
+RowNode defaultOptionsRowNode()
+{
+    RowNode table = Internal::tableOf({kKind, kName, kFormula, kComplete});
+    for (const OptionRow &row : kDefaultOptions)
+        table.addNewChild({QString(row.kind), QString(row.name), QString(row.formula), true});
+    return table;
+}
+
+} // namespace orv::DetachedGlycanUtils
