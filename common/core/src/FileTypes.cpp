@@ -32,9 +32,13 @@ constexpr std::array kRows = {
     Row{FileType::Ulvar2, "ULVAR2", QT_TRANSLATE_NOOP("FileTypes", "Processed MS data"), "ulvar2"},
     Row{FileType::Zip, "ZIP", QT_TRANSLATE_NOOP("FileTypes", "Archive"), "zip"},
     Row{FileType::Csv, "CSV", QT_TRANSLATE_NOOP("FileTypes", "Comma-separated values"), "csv"},
+    Row{FileType::Text, "TXT", QT_TRANSLATE_NOOP("FileTypes", "Text"), "txt tsv"},
+    Row{FileType::Electropherogram, "PI", QT_TRANSLATE_NOOP("FileTypes", "Electropherogram"), "pi"},
+    Row{FileType::IcIef, "ITB", QT_TRANSLATE_NOOP("FileTypes", "icIEF traces"), "itb"},
     Row{FileType::SenthiaProject, "SENTHIA", QT_TRANSLATE_NOOP("FileTypes", "Senthia project"), "senthia"},
     Row{FileType::DravikProject, "DRAVIK", QT_TRANSLATE_NOOP("FileTypes", "Dravik project"), "dravik"},
     Row{FileType::KarvonProject, "KARVON", QT_TRANSLATE_NOOP("FileTypes", "Karvon project"), "karvon"},
+    Row{FileType::KarvonResult, "KARVRSLT", QT_TRANSLATE_NOOP("FileTypes", "Karvon search result"), "karvrslt"},
     Row{FileType::IntactProject, "INTACT", QT_TRANSLATE_NOOP("FileTypes", "Intact project"), "intact"},
     Row{FileType::OligoProject, "OLIGO", QT_TRANSLATE_NOOP("FileTypes", "Oligo project"), "oligo"},
     Row{FileType::OstraleProject, "OSTRALE", QT_TRANSLATE_NOOP("FileTypes", "Ostrale project"), "ostrale"},
@@ -93,6 +97,21 @@ bool isType(const QString &path, FileType type)
     const QStringList candidates = suffixes(type);
     return std::any_of(candidates.begin(), candidates.end(),
                        [&path](const QString &suffix) { return PathUtils::hasExtension(path, suffix); });
+}
+
+FileType typeOfPath(const QString &path)
+{
+    const auto *const row =
+        std::find_if(kRows.begin(), kRows.end(), [&path](const Row &r) { return isType(path, r.type); });
+    return row == kRows.end() ? Invalid : row->type;
+}
+
+QStringList msDataSuffixes()
+{
+    static const QStringList suffixes =
+        QStringLiteral("d raw wiff wiff2 lcd mbi mzml mzxml mgf tolq ulvar2 csv2d data.cut msfaux msfaux2")
+            .split(QLatin1Char(' '));
+    return suffixes;
 }
 
 QStringList fileSuffixesFromExtensionTypes(const QStringList &names)

@@ -22,6 +22,8 @@ private Q_SLOTS:
     void unknownNamesAreInvalid();
     void typesAreToldByTheSuffix_data();
     void typesAreToldByTheSuffix();
+    void theTypeOfAPathIsThatOfItsSuffix();
+    void suffixesOfSpectraAreUnique();
     void optionsNameTypesOrSuffixes_data();
     void optionsNameTypesOrSuffixes();
     void reportsAreMadeOfProjects();
@@ -114,6 +116,28 @@ void TestFileTypes::typesAreToldByTheSuffix()
     QFETCH(QString, path);
     QFETCH(FileType, type);
     QTEST(FileTypes::isType(path, type), "is");
+}
+
+void TestFileTypes::theTypeOfAPathIsThatOfItsSuffix()
+{
+    for (FileType type : FileTypes::all()) {
+        for (const QString &suffix : FileTypes::suffixes(type)) {
+            QCOMPARE(FileTypes::typeOfPath(u"/a.csv/b."_s + suffix), type);
+            QCOMPARE(FileTypes::typeOfPath(u"C:\\b."_s + suffix.toUpper() + u"\\"_s), type);
+        }
+    }
+    for (const QString &path : {QString(), u"csv"_s, u"a.csv/b"_s, u"a.raw"_s})
+        QCOMPARE(FileTypes::typeOfPath(path), FileTypes::Invalid);
+}
+
+void TestFileTypes::suffixesOfSpectraAreUnique()
+{
+    const QStringList suffixes = FileTypes::msDataSuffixes();
+    QCOMPARE(QSet<QString>(suffixes.begin(), suffixes.end()).size(), suffixes.size());
+    for (const QString &suffix : suffixes)
+        QVERIFY(!suffix.isEmpty() && suffix == suffix.toLower() && !suffix.startsWith(u'.'));
+    QVERIFY(suffixes.contains(FileTypes::suffixes(FileTypes::TOLQ).first()));
+    QVERIFY(suffixes.contains(FileTypes::suffixes(FileTypes::ULVAR2).first()));
 }
 
 void TestFileTypes::optionsNameTypesOrSuffixes_data()

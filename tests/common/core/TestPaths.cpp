@@ -23,6 +23,8 @@ private Q_SLOTS:
     void numbersThatAreTakenTooAreSkipped();
     void theLongPathRulesOfWindowsHoldEverywhere_data();
     void theLongPathRulesOfWindowsHoldEverywhere();
+    void windowsPathsAreTold_data();
+    void windowsPathsAreTold();
 };
 
 void TestPaths::extensionsAreThoseOfTheLastName_data()
@@ -187,6 +189,49 @@ void TestPaths::theLongPathRulesOfWindowsHoldEverywhere()
     QTEST(FilePathUtils::isWinLongPath(path), "isLong");
     QTEST(FilePathUtils::hasWinLongPathPrefix(path), "hasPrefix");
     QCOMPARE(FilePathUtils::winMaxPathLength(), 260);
+}
+
+void TestPaths::windowsPathsAreTold_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("withoutPrefix");
+    QTest::addColumn<bool>("hasDriveLetter");
+    QTest::addColumn<bool>("isUnc");
+
+    const auto row = [](const QString &path, const QString &withoutPrefix, bool hasDriveLetter, bool isUnc) {
+        QTest::newRow(qPrintable(path)) << path << withoutPrefix << hasDriveLetter << isUnc;
+    };
+    row(u"C:\\a"_s, u"C:\\a"_s, true, false);
+    row(u"c:/a"_s, u"c:/a"_s, true, false);
+    row(u"C:"_s, u"C:"_s, true, false);
+    row(u"C:a"_s, u"C:a"_s, false, false);
+    row(u"1:/a"_s, u"1:/a"_s, false, false);
+    row(u"\u00e4:/a"_s, u"\u00e4:/a"_s, false, false);
+    row(u"/a"_s, u"/a"_s, false, false);
+    row(u"a"_s, u"a"_s, false, false);
+    row(QString(), QString(), false, false);
+    row(u"\\\\server\\share"_s, u"\\\\server\\share"_s, false, true);
+    row(u"//server/share"_s, u"//server/share"_s, false, true);
+    row(u"\\\\server"_s, u"\\\\server"_s, false, true);
+    row(u"///a"_s, u"///a"_s, false, false);
+    row(u"/\\a"_s, u"/\\a"_s, false, false);
+    row(u"//"_s, u"//"_s, false, false);
+    row(u"\\\\.\\pipe\\a"_s, u"\\\\.\\pipe\\a"_s, false, false);
+    row(u"\\\\.server\\a"_s, u"\\\\.server\\a"_s, false, true);
+    row(u"\\\\?\\C:\\a"_s, u"C:\\a"_s, true, false);
+    row(u"//?/C:/a"_s, u"C:/a"_s, true, false);
+    row(u"\\\\?\\UNC\\server\\a"_s, u"\\\\server\\a"_s, false, true);
+    row(u"//?/unc/server/a"_s, u"//server/a"_s, false, true);
+    row(u"\\\\?\\UNCLE\\a"_s, u"UNCLE\\a"_s, false, false);
+    row(u"\\\\?\\"_s, QString(), false, false);
+}
+
+void TestPaths::windowsPathsAreTold()
+{
+    QFETCH(QString, path);
+    QTEST(FilePathUtils::withoutWinLongPathPrefix(path), "withoutPrefix");
+    QTEST(FilePathUtils::hasDriveLetter(path), "hasDriveLetter");
+    QTEST(FilePathUtils::isUncPath(path), "isUnc");
 }
 
 ORV_REGISTER_TEST(TestPaths)

@@ -25,9 +25,13 @@ enum class FileType
     Ulvar2,
     Zip,
     Csv,
+    Text,
+    Electropherogram,
+    IcIef,
     SenthiaProject,
     DravikProject,
     KarvonProject,
+    KarvonResult,
     IntactProject,
     OligoProject,
     OstraleProject,
@@ -45,6 +49,7 @@ inline constexpr FileType ULVAR2 = FileType::Ulvar2;
 inline constexpr FileType PRV = FileType::Prv;
 inline constexpr FileType ZIP = FileType::Zip;
 inline constexpr FileType CSV = FileType::Csv;
+inline constexpr FileType TXT = FileType::Text;
 
 /// All types but Invalid, in enumerator order.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QList<FileType> all();
@@ -64,6 +69,13 @@ inline constexpr FileType CSV = FileType::Csv;
 /// Whether the last name of \a path carries a suffix of \a type, ignoring case. Doesn't touch the disk.
 [[nodiscard]] ORV_WORKFLOW_EXPORT bool isType(const QString &path, FileType type);
 
+/// The first type whose suffix the last name of \a path carries, Invalid for none. Doesn't touch the disk.
+[[nodiscard]] ORV_WORKFLOW_EXPORT FileType typeOfPath(const QString &path);
+
+/// The suffixes without dots of files and folders that hold mass spectra, of every vendor that the system
+/// recognises. One may hold a dot ("data.cut").
+[[nodiscard]] ORV_WORKFLOW_EXPORT QStringList msDataSuffixes();
+
 /// The suffixes of all named types, without repeats, in order; a name that is no type stands for itself, so
 /// that an option may name plain suffixes too.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QStringList fileSuffixesFromExtensionTypes(const QStringList &names);
@@ -82,11 +94,14 @@ inline constexpr FileType XENOSET = FileType::Xenoset;
 inline constexpr FileType SENTHIA = FileType::SenthiaProject;
 inline constexpr FileType DRAVIK = FileType::DravikProject;
 inline constexpr FileType KARVON = FileType::KarvonProject;
+inline constexpr FileType KARVRSLT = FileType::KarvonResult;
 inline constexpr FileType INTACT = FileType::IntactProject;
 inline constexpr FileType OLIGO = FileType::OligoProject;
 inline constexpr FileType OSTRALE = FileType::OstraleProject;
 inline constexpr FileType TRENQ = FileType::TrenqProject;
 inline constexpr FileType MULTIDOCREPORT = FileType::MultiDocReport;
+inline constexpr FileType PI = FileType::Electropherogram;
+inline constexpr FileType ITB = FileType::IcIef;
 
 /// The project files that a report over several documents may be made of.
 inline constexpr FileType MULTIDOCALLOWEDFILES[] = {SENTHIA, DRAVIK, KARVON, INTACT, OLIGO, OSTRALE, TRENQ};

@@ -1,0 +1,135 @@
+#include "internal/LocalPath.h"
+#include "internal/SchemeText.h"
+
+#include <orv/resources/ResourceReference.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QRegularExpression>
+
+namespace orv {
+
+namespace {
+
+using Scheme = ResourceReference::Scheme;
+using Parts = ResourceReference::Parts;
+
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(ResourceReference)
+};
+
+Error notAReference(const QString &text, const QString &reason)
+{
+    return Error(ErrorCode::InvalidContent, Tr::tr("\"%1\" is not a reference to a file.").arg(text))
+        .addDetail(reason);
+}
+
+QString withWord(const SchemeText::Row &row, const QString &rest)
+{
+    return row.word + QLatin1String(":/") + rest;
+}
+
+bool isFileUrl(const QString &text)
+{
+    return text.startsWith(QLatin1String("file:"), Qt::CaseInsensitive);
+}
+
+/// One letter in front of "://" is a drive.
+bool isUrlOfUnknownScheme(const QString &text)
+{
+    static const QRegularExpression pattern(QStringLiteral("^[a-z][a-z0-9+.-]+://"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    return pattern.match(text).hasMatch();
+}
+
+/// A name taken out of a file URL may look like another form, which a folder in front prevents.
+QString asPath(const QString &path)
+{
+    const bool looksOtherwise = isFileUrl(path) || SchemeText::rowOfText(path) || isUrlOfUnknownScheme(path);
+    return looksOtherwise ? QLatin1String("./") + path : path;
+}
+
+/// Paths hold no zero character, so that no path has the key of another scheme.
+QString keyOf(const SchemeText::Row &row, Parts parts)
+{
+    if (row.scheme == Scheme::UNIFI)
+        parts.server = parts.server.toCaseFolded();
+    else if (row.scheme != Scheme::ManagedResource)
+        parts.folder = QDir::cleanPath(parts.folder);
+    return QChar::Null + withWord(row, row.write(parts));
+}
+
+} // namespace
+
+ResourceReference::ResourceReference(Scheme scheme, QString text, Parts parts, QString key)
+    : m_scheme(scheme)
+    , m_text(std::move(text))
+    , m_parts(std::move(parts))
+    , m_key(std::move(key))
+{}
+
+Result<ResourceReferenceSPtr> ResourceReference::fromString(const QString &text)
+{
+    if (text.contains(QChar::Null))
+        return notAReference(text, Tr::tr("It holds a zero character; take that out."));
+    if (const SchemeText::Row *row = SchemeText::rowOfText(text)) {
+        const QString rest = text.mid(row->word.size() + 1);
+        if (!rest.startsWith(QLatin1Char('/')))
+            return notAReference(text,
+                                 Tr::tr("Put a slash behind the colon, or \"./\" in front of a file name."));
+        Result<Parts> parts = row->read(rest.mid(1));
+        if (parts.hasError())
+            return parts.ecatch();
+        if (const QString fault = row->fault(*parts); !fault.isEmpty())
+            return notAReference(text, Tr::tr("It has no %1.").arg(fault));
+        return ResourceReferenceSPtr(
+            new ResourceReference(row->scheme, withWord(*row, rest.mid(1)), *parts, keyOf(*row, *parts)));
+    }
+    if (isFileUrl(text)) {
+        const std::optional<QString> path = LocalPath::fromFileUrl(text);
+        if (!path || path->contains(QChar::Null))
+            return notAReference(text, Tr::tr("Its percent codes are no UTF-8; name the file by its path."));
+        const QString plain = asPath(*path);
+        return ResourceReferenceSPtr(
+            new ResourceReference(Scheme::LocalFile, plain, {}, LocalPath::key(plain)));
+    }
+    if (isUrlOfUnknownScheme(text))
+        return notAReference(text, Tr::tr("It is the address of a service that isn't known here."));
+    return ResourceReferenceSPtr(new ResourceReference(Scheme::LocalFile, text, {}, LocalPath::key(text)));
+}
+
+Result<ResourceReferenceSPtr> ResourceReference::create(Scheme scheme, const Parts &parts)
+{
+    const SchemeText::Row *row = SchemeText::rowOf(scheme);
+    if (!row)
+        return Error(ErrorCode::InvalidContent,
+                     Tr::tr("A reference of scheme %1 has no parts.").arg(int(scheme)));
+    if (const QString fault = row->fault(parts); !fault.isEmpty()) {
+        return Error(ErrorCode::InvalidContent, Tr::tr("A reference needs its %1.").arg(fault))
+            .addDetail(
+                Tr::tr("It is to be of the form \"%1\".").arg(withWord(*row, row->writeReadable(parts))));
+    }
+    // Read back, so that a part which the form can't hold is refused rather than changed.
+    Result<ResourceReferenceSPtr> reference = fromString(withWord(*row, row->write(parts)));
+    if (reference.hasError())
+        return reference.ecatch();
+    if ((*reference)->parts() != parts)
+        return notAReference((*reference)->text(), Tr::tr("A part holds what separates parts."));
+    return reference;
+}
+
+QString ResourceReference::readableText() const
+{
+    const SchemeText::Row *row = SchemeText::rowOf(m_scheme);
+    return row ? withWord(*row, row->writeReadable(m_parts)) : QDir::toNativeSeparators(m_text);
+}
+
+QString ResourceReference::name() const
+{
+    if (m_scheme == Scheme::LocalFile)
+        return LocalPath::lastName(m_text);
+    return m_parts.name.isEmpty() ? m_parts.id : m_parts.name;
+}
+
+} // namespace orv

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <orv/resources/ResourceHandler.h>
+
+namespace orv {
+
+/// Files and folders of this machine. A relative path is taken from the current folder; links are followed.
+class LocalResourceHandler final : public ResourceHandler
+{
+public:
+    using ResourceHandler::ResourceHandler;
+
+    [[nodiscard]] bool isAvailableLocally() const override;
+    [[nodiscard]] Result<bool> exists() override;
+    [[nodiscard]] Result<QString> grab() override;
+    /// "name", "path", "modified" (UTC, ISO 8601) and, for a file, "size".
+    [[nodiscard]] Result<QJsonObject> metadata() override;
+};
+
+} // namespace orv
