@@ -64,5 +64,5 @@ function(orv_add_test name)
     set(arg_TIMEOUT 300)
   endif()
   set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT} LABELS "${arg_LABELS}"
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=1;${arg_ENVIRONMENT}")
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=1;QTEST_DISABLE_STACK_DUMP=1;${arg_ENVIRONMENT}")
 endfunction()

@@ -1,12 +1,36 @@
+#include "PropertyValueForms.h"
+
+#include <KProperty>
+#include <KPropertySet>
+#include <orv/core/Logging.h>
+#include <orv/propertyeditor/AllowedProperties.h>
+#include <orv/propertyeditor/KPropertySetUtils.h>
+#include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/PropertiesTraits.h>
 #include <orv/propertyeditor/PropertySetCreator.h>
 #include <orv/propertyeditor/UserVisibleListConverter.h>
+#include <orv/propertyeditor/WflwAdvancedSettings.h>
+#include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
 
 #include <algorithm>
 #include <array>
+#include <memory>
 
 namespace orv {
 
+using namespace PropertyEditorStringConstants;
+using PropertyEditor::LoadContext;
+using PropertyEditor::PropertyConversionFlag;
+
 namespace {
+
+constexpr QLatin1Char kHiddenPrefix(':');
+constexpr const char *kCommonGroup = "common";
 
 using Editor = PropertySetCreator::Editor;
 
@@ -42,7 +66,292 @@ constexpr std::array kEditors = {
     EditorRow{PropertyId::TracePlot, Editor::TracePlot},
 };
 
+bool isHidden(const KProperty &property)
+{
+    return property.name().startsWith(kHiddenPrefix.toLatin1());
+}
+
+/// The type of a hidden property; Invalid for what can't be one.
+int hiddenType(const QJsonValue &value)
+{
+    switch (value.type()) {
+    case QJsonValue::Bool:
+        return KProperty::Bool;
+    case QJsonValue::Double:
+        return KProperty::Double;
+    case QJsonValue::String:
+        return KProperty::String;
+    default:
+        return KProperty::Invalid;
+    }
+}
+
+void setTexts(PropertyId id, const QString &name, KProperty *property)
+{
+    property->setName(name.toUtf8());
+    property->setCaption(PropertiesNames::displayNameForType(id));
+    property->setDescription(PropertiesNames::tooltipForType(id));
+}
+
+int priorityOf(const KProperty &property)
+{
+    return property.option(kPriorityOption, int(PropertySetCreator::Priority::Unset)).toInt();
+}
+
+/// Fills a set from the JSON of a cell.
+class SetFiller
+{
+    Q_DECLARE_TR_FUNCTIONS(PropertySetCreator)
+
+public:
+    SetFiller(const std::optional<BaseItemType> &expected, const LoadContext &context, KPropertySet *set)
+        : m_expected(expected)
+        , m_context(context)
+        , m_set(set)
+    {}
+
+    Error fill(const QJsonObject &cell)
+    {
+        m_itemType = baseItemTypeFromString(cell.value(TYPE_KEY).toString());
+        for (auto it = cell.begin(); it != cell.end(); ++it) {
+            if (it.key() != PROPERTIES_KEY || !it->isArray())
+                addHidden(it.key(), it.value());
+        }
+        const QJsonArray entries = cell.value(PROPERTIES_KEY).toArray();
+        const LoadContext context = m_context.member(PROPERTIES_KEY);
+        for (qsizetype i = 0; i < entries.size(); ++i)
+            ORV_RETURN_IF_ERROR(addEntry(entries.at(i), i, context));
+        return Error::NoError;
+    }
+
+private:
+    void addHidden(const QString &key, const QJsonValue &value)
+    {
+        const QByteArray name = (kHiddenPrefix + key).toUtf8();
+        const int type = hiddenType(value);
+        if (type == KProperty::Invalid || m_set->contains(name)) {
+            m_context.lost(key, tr("member \"%1\" of a cell").arg(key),
+                           type == KProperty::Invalid
+                               ? tr("a cell of settings holds texts, numbers and switches only")
+                               : tr("names that differ in case alone are one name"));
+            return;
+        }
+        auto *property = new KProperty(name, value.toVariant(), {}, {}, type);
+        property->setVisible(false);
+        m_set->addProperty(property, kCommonGroup);
+    }
+
+    Error addEntry(const QJsonValue &value, qsizetype index, const LoadContext &context)
+    {
+        const QJsonObject entry = value.toObject();
+        const QString name = entry.value(NAME_KEY).toString();
+        const PropertyId id = PropertyEditorJsonUtils::findPropertyBackCompat(entry, m_itemType);
+        if (!isAllowed(id)) {
+            return Error(ErrorCode::InvalidContent, tr("Property \"%1\" is not supported.").arg(name));
+        }
+        QStringList errors;
+        auto property = std::make_unique<KProperty>();
+        const QJsonValue priority = entry.value(QLatin1String(kPriorityOption));
+        const auto stored =
+            PropertySetCreator::Priority(priority.toInt(int(PropertySetCreator::Priority::High)));
+        if (!PropertySetCreator::modifyKProperty(id, stored, entry.value(VALUE_KEY), property.get(),
+                                                 &errors)) {
+            for (const QString &error : std::as_const(errors))
+                qCWarning(propertyEditorLog).noquote() << error;
+            drop(index, name, errors.join(QLatin1Char(' ')), context);
+        } else if (m_set->contains(property->name())) {
+            drop(index, name, tr("a setting of this name stands before it"), context);
+        } else {
+            KPropertySetUtils::insertInKPropertySet(entry.value(GROUP_KEY).toString(), property.release(),
+                                                    m_set, -1);
+        }
+        return Error::NoError;
+    }
+
+    [[nodiscard]] bool isAllowed(PropertyId id) const
+    {
+        return !m_expected || (id != PropertyId::NoProperty && allowedProperties(*m_expected).contains(id)) ||
+               !WflwAdvancedSettings::isWorkflowVerificationEnabled();
+    }
+
+    static void drop(qsizetype index, const QString &name, const QString &why, const LoadContext &context)
+    {
+        if (context.isObserved())
+            context.lost(QString::number(index), tr("property \"%1\"").arg(name), why);
+    }
+
+    const std::optional<BaseItemType> &m_expected;
+    const LoadContext &m_context;
+    KPropertySet *m_set;
+    BaseItemType m_itemType = BaseItemType::Unknown;
+};
+
+QString groupCaptionOf(const KProperty &property, const KPropertySet &set)
+{
+    const QString caption = set.groupCaption(set.groupNameForProperty(property));
+    return caption == set.groupCaption(kCommonGroup) ? QString() : caption;
+}
+
+/// The entry of "properties"; undefined if the value can't be stored.
+QJsonValue entryOf(const KProperty &property, const KPropertySet &set, PropertyConversionFlag flag)
+{
+    const QJsonValue value = PropertySetCreator::valueToJson(property, flag);
+    const int priority = priorityOf(property);
+    const bool hasPriority = priority != int(PropertySetCreator::Priority::Unset);
+    if (value.isUndefined() || (!property.isVisible() && !hasPriority))
+        return value;
+    QJsonObject entry{{NAME_KEY, QString::fromUtf8(property.name())}, {VALUE_KEY, value}};
+    if (hasPriority)
+        entry.insert(QLatin1String(kPriorityOption), priority);
+    if (const QString group = groupCaptionOf(property, set); !group.isEmpty())
+        entry.insert(GROUP_KEY, group);
+    return entry;
+}
+
 } // namespace
+
+Result<KPropertySet *> PropertySetCreator::jsonToPropertySet(const QByteArray &json,
+                                                             const std::optional<BaseItemType> &type,
+                                                             const LoadContext &context)
+{
+    QJsonParseError parseError;
+    const QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
+    if (parseError.error != QJsonParseError::NoError) {
+        qCWarning(propertyEditorLog) << "Parse error in JSON at offset" << parseError.offset
+                                     << "message:" << parseError.errorString();
+        qCWarning(propertyEditorLog) << "Entire JSON:" << json;
+        return Error(ErrorCode::MalformedStructure, tr("Failed to parse json."));
+    }
+    return objectToPropertySet(document.object(), type, context);
+}
+
+Result<KPropertySet *> PropertySetCreator::objectToPropertySet(const QJsonObject &cell,
+                                                               const std::optional<BaseItemType> &type,
+                                                               const LoadContext &context)
+{
+    if (cell.isEmpty()) {
+        qCWarning(propertyEditorLog) << "Entire JSON:" << QJsonDocument(cell).toJson(QJsonDocument::Compact);
+        return Error(ErrorCode::MalformedStructure, tr("Invalid JSON object."));
+    }
+    auto set = std::make_unique<KPropertySet>();
+    if (Error error = SetFiller(type, context, set.get()).fill(cell); error.hasError())
+        return error;
+    WflwMetaData::setPresetMetaData(set.get());
+    return set.release();
+}
+
+bool PropertySetCreator::propertySetToJson(const KPropertySet &set, QByteArray *json,
+                                           PropertyConversionFlag flag)
+{
+    const std::optional<QJsonObject> cell = propertySetToObject(set, flag);
+    if (cell)
+        *json = QJsonDocument(*cell).toJson(QJsonDocument::Indented);
+    return cell.has_value();
+}
+
+std::optional<QJsonObject> PropertySetCreator::propertySetToObject(const KPropertySet &set,
+                                                                   PropertyConversionFlag flag)
+{
+    QJsonObject cell;
+    QJsonArray entries;
+    for (KPropertySetIterator it(set); it.current(); ++it) {
+        const KProperty &property = *it.current();
+        if (isHidden(property)) {
+            cell.insert(QString::fromUtf8(property.name().mid(1)), property.value().toString());
+            continue;
+        }
+        const QJsonValue entry = entryOf(property, set, flag);
+        if (entry.isUndefined()) {
+            qCWarning(propertyEditorLog) << "Cannot store the value of" << property.name();
+            return {};
+        }
+        entries.append(entry);
+    }
+    cell.insert(PROPERTIES_KEY, entries);
+    return cell;
+}
+
+KProperty *PropertySetCreator::createDefaultProperty(PropertyId id, Priority priority)
+{
+    auto property = std::make_unique<KProperty>();
+    if (!setKPropertyType(id, property.get())) {
+        qCWarning(propertyEditorLog) << "Can't set type for property" << id;
+        return nullptr;
+    }
+    setTexts(id, PropertiesNames::internalNameForType(id), property.get());
+    QVariant value = PropertiesNames::defaultValueForType(id);
+    if (property->type() == KProperty::ValueFromList) {
+        fillListData(id, property.get());
+        bool ok = false;
+        value = listText(id, value, &ok);
+        if (!ok) {
+            qCWarning(propertyEditorLog)
+                << "Problems with finding list value for property" << property->name();
+            value = {};
+        }
+    } else if (property->type() == PropertiesTraits::CheckableListType) {
+        property->setOption(OPTION_AVAILABLE_ITEMS.data(),
+                            UserVisibleListConverter::valuesForCheckableList(id));
+    }
+    property->setValue(value, KProperty::ValueOption::IgnoreOld);
+    applyEditor(editorForProperty(id), property.get());
+    property->setOption(kPriorityOption, int(priority));
+    return property.release();
+}
+
+bool PropertySetCreator::modifyKProperty(PropertyId id, Priority priority, const QJsonValue &value,
+                                         KProperty *property, QList<QString> *errors)
+{
+    const QString name = PropertiesNames::internalNameForType(id);
+    if (name.isEmpty()) {
+        errors->append(tr("Cannot find an internal name of the property #%1").arg(id));
+        return false;
+    }
+    setTexts(id, name, property);
+    if (!setKPropertyType(id, property)) {
+        errors->append(tr("Cannot apply the type of %1").arg(name));
+        return false;
+    }
+    property->setOption(kPriorityOption, int(priority));
+    if (!setValueFromJson(id, value, property)) {
+        errors->append(tr("Cannot convert the value of %1").arg(name));
+        return false;
+    }
+    return true;
+}
+
+bool PropertySetCreator::modifyKProperty(PropertyId id, Priority priority, KProperty *property,
+                                         QList<QString> *errors)
+{
+    const bool isPlain = editorForProperty(id) == Editor::Unset;
+    const QJsonValue value = isPlain ? QJsonValue() : QJsonValue(QJsonObject{{DATA, QString()}});
+    return modifyKProperty(id, priority, value, property, errors);
+}
+
+bool PropertySetCreator::setKPropertyType(PropertyId id, KProperty *property)
+{
+    const QString typeName = PropertiesNames::valueTypeNameOfPropertyType(id);
+    if (!setKPropertyTypeFromString(typeName.toUtf8(), property))
+        return false;
+    const QMap<QByteArray, QString> options = PropertiesNames::typeOptionsOfPropertyType(id);
+    for (auto it = options.begin(); it != options.end(); ++it)
+        property->setOption(it.key().constData(), it.value());
+    return true;
+}
+
+bool PropertySetCreator::setKPropertyTypeFromString(const QByteArray &typeName, KProperty *property)
+{
+    if (typeName.isEmpty()) {
+        qCWarning(propertyEditorLog) << "Type name is empty for property" << property->name();
+        return false;
+    }
+    const PropertiesTraits::TypeFeatures features =
+        PropertiesTraits::typeFeatures(QString::fromUtf8(typeName));
+    property->setType(features.type);
+    for (auto it = features.options.begin(); it != features.options.end(); ++it)
+        property->setOption(it.key().constData(), it.value());
+    return true;
+}
 
 PropertySetCreator::Editor PropertySetCreator::editorForProperty(PropertyId id)
 {

@@ -24,16 +24,27 @@ inline constexpr std::array kFloors = {
     // The catalogue and its helpers lie at the top of the product's folders; content is made of them.
     Floor{"propertyeditor/include/orv/propertyeditor/", 31, "catalogue"},
     Floor{"propertyeditor/src/", 31, "catalogue"},
-    // Types of cells are numbers alone, and the catalogue says which properties a type may hold.
-    Floor{"propertyeditor/include/orv/propertyeditor/content/BaseItemType.h", 31, "catalogue"},
+    // The value form of a document, the functions on raw cells and the stamp stand beside the catalogue: rules
+    // and readers ask them, and they ask the catalogue what a name means.
+    Floor{"propertyeditor/include/orv/propertyeditor/content/BaseItemType", 31, "catalogue"},
+    Floor{"propertyeditor/src/content/BaseItemType", 31, "catalogue"},
+    Floor{"propertyeditor/include/orv/propertyeditor/content/ContentOptions.h", 31, "catalogue"},
+    Floor{"propertyeditor/include/orv/propertyeditor/content/LoadContext", 31, "catalogue"},
+    Floor{"propertyeditor/src/content/LoadContext", 31, "catalogue"},
+    Floor{"propertyeditor/include/orv/propertyeditor/content/PropertyEditorContent", 31, "catalogue"},
+    Floor{"propertyeditor/src/content/PropertyEditorContent", 31, "catalogue"},
+    Floor{"propertyeditor/include/orv/propertyeditor/content/PropertyEditorJsonUtils", 31, "catalogue"},
+    Floor{"propertyeditor/src/content/PropertyEditorJsonUtils", 31, "catalogue"},
+    Floor{"propertyeditor/include/orv/propertyeditor/content/PropertyEditorStringConstants", 31, "catalogue"},
+    Floor{"propertyeditor/include/orv/propertyeditor/content/RawCell", 31, "catalogue"},
+    Floor{"propertyeditor/src/content/RawCell", 31, "catalogue"},
+    Floor{"propertyeditor/src/content/StampedCells", 31, "catalogue"},
+    Floor{"propertyeditor/include/orv/propertyeditor/workflow/WflwMetaData", 31, "catalogue"},
+    Floor{"propertyeditor/src/workflow/WflwMetaData", 31, "catalogue"},
+    Floor{"propertyeditor/include/orv/propertyeditor/workflow/WorkflowType", 31, "catalogue"},
+    Floor{"propertyeditor/src/workflow/WorkflowType", 31, "catalogue"},
     Floor{"propertyeditor/include/orv/propertyeditor/content/", 32, "content"},
     Floor{"propertyeditor/src/content/", 32, "content"},
-    // Every document carries its version and type, and the rules of versions look into a document: these two
-    // belong to content, though their names put them beside the upgrade chain.
-    Floor{"propertyeditor/include/orv/propertyeditor/workflow/WflwMetaData", 32, "content"},
-    Floor{"propertyeditor/src/workflow/WflwMetaData", 32, "content"},
-    Floor{"propertyeditor/include/orv/propertyeditor/workflow/WorkflowType", 32, "content"},
-    Floor{"propertyeditor/src/workflow/WorkflowType", 32, "content"},
     Floor{"propertyeditor/include/orv/propertyeditor/validators/", 33, "validators"},
     Floor{"propertyeditor/src/validators/", 33, "validators"},
     Floor{"propertyeditor/include/orv/propertyeditor/workflow/", 33, "workflow"},

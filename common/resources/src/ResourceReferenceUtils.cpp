@@ -83,11 +83,15 @@ QList<ResourceReferenceSPtr> unsupportedReferences(const QList<ResourceReference
     return unsupported;
 }
 
+bool isRelative(const ResourceReferenceSPtr &reference)
+{
+    return reference && reference->isScheme(ResourceReference::Scheme::LocalFile) && !reference->isEmpty() &&
+           !LocalPath::isAbsolute(reference->text());
+}
+
 ResourceReferenceSPtr resolved(const ResourceReferenceSPtr &reference, const QUrl &baseUrl)
 {
-    const bool isRelative = reference && reference->isScheme(ResourceReference::Scheme::LocalFile) &&
-                            !reference->isEmpty() && !LocalPath::isAbsolute(reference->text());
-    if (!isRelative || !baseUrl.isLocalFile())
+    if (!isRelative(reference) || !baseUrl.isLocalFile())
         return reference;
     const QString base = baseUrl.toLocalFile();
     const QString folder = base.left(base.lastIndexOf(QLatin1Char('/')) + 1);

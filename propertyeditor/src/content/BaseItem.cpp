@@ -68,19 +68,12 @@ void BaseItem::setBaseUrl(const QUrl &url)
 
 BaseItemType BaseItem::typeFromString(const QString &text)
 {
-    if (text.isEmpty())
-        return BaseItemType::Unknown;
-    bool ok = false;
-    const int value = QMetaEnum::fromType<BaseItemType>().keyToValue(text.toUtf8().constData(), &ok);
-    if (ok)
-        return BaseItemType(value);
-    qCWarning(propertyEditorLog) << "Can't find type" << text;
-    return BaseItemType::Unknown;
+    return baseItemTypeFromString(text);
 }
 
 QString BaseItem::typeToString(BaseItemType type)
 {
-    return QString::fromLatin1(QMetaEnum::fromType<BaseItemType>().valueToKey(type));
+    return baseItemTypeToString(type);
 }
 
 QMap<BaseItemType, QString> BaseItem::typeNameMap()

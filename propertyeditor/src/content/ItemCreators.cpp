@@ -1,5 +1,6 @@
 #include "ItemCreators.h"
 
+#include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/UnsupportedItem.h>
 
 #include <array>
@@ -22,32 +23,32 @@ struct Row
 
 // Cells are held whole until a class understands them, so that no document loses one.
 constexpr std::array kRows = {
-    Row{BaseItemType::Unknown, create<UnsupportedItem>},
-    Row{BaseItemType::Senthia, create<UnsupportedItem>},
-    Row{BaseItemType::Dravik, create<UnsupportedItem>},
-    Row{BaseItemType::Karvon, create<UnsupportedItem>},
+    Row{BaseItemType::Unknown, create<KeyValueItem>},
+    Row{BaseItemType::Senthia, create<KeyValueItem>},
+    Row{BaseItemType::Dravik, create<KeyValueItem>},
+    Row{BaseItemType::Karvon, create<KeyValueItem>},
     Row{BaseItemType::Database, create<UnsupportedItem>},
     Row{BaseItemType::DetachedGlycans, create<UnsupportedItem>},
     Row{BaseItemType::Disulfide, create<UnsupportedItem>},
     Row{BaseItemType::GlycanOptions, create<UnsupportedItem>},
-    Row{BaseItemType::Intact, create<UnsupportedItem>},
+    Row{BaseItemType::Intact, create<KeyValueItem>},
     Row{BaseItemType::IntactOptions, create<UnsupportedItem>},
-    Row{BaseItemType::Oligo, create<UnsupportedItem>},
+    Row{BaseItemType::Oligo, create<KeyValueItem>},
     Row{BaseItemType::OligoOptions, create<UnsupportedItem>},
     Row{BaseItemType::OligoMasses, create<UnsupportedItem>},
     Row{BaseItemType::Isotope, create<UnsupportedItem>},
     Row{BaseItemType::Masses, create<UnsupportedItem>},
-    Row{BaseItemType::MultiDocReport, create<UnsupportedItem>},
+    Row{BaseItemType::MultiDocReport, create<KeyValueItem>},
     Row{BaseItemType::Proteins, create<UnsupportedItem>},
-    Row{BaseItemType::Preview, create<UnsupportedItem>},
+    Row{BaseItemType::Preview, create<KeyValueItem>},
     Row{BaseItemType::IntactProteins, create<UnsupportedItem>},
     Row{BaseItemType::OligoMolecules, create<UnsupportedItem>},
-    Row{BaseItemType::Ostrale, create<UnsupportedItem>},
+    Row{BaseItemType::Ostrale, create<KeyValueItem>},
     Row{BaseItemType::Samples, create<UnsupportedItem>},
     Row{BaseItemType::SamplesProteins, create<UnsupportedItem>},
-    Row{BaseItemType::Trenq, create<UnsupportedItem>},
-    Row{BaseItemType::TrenqPreview, create<UnsupportedItem>},
-    Row{BaseItemType::CaldrinDIA, create<UnsupportedItem>},
+    Row{BaseItemType::Trenq, create<KeyValueItem>},
+    Row{BaseItemType::TrenqPreview, create<KeyValueItem>},
+    Row{BaseItemType::CaldrinDIA, create<KeyValueItem>},
 };
 
 constexpr bool rowsFollowTheNumbers()

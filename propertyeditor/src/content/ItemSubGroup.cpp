@@ -3,6 +3,7 @@
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/content/ItemSubGroup.h>
+#include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
 #include <QCoreApplication>
@@ -130,6 +131,15 @@ QList<BaseItem *> ItemSubGroup::findItems(BaseItemType type) const
             found.append(item.get());
     }
     return found;
+}
+
+QVariant ItemSubGroup::firstValueOf(const QString &key) const
+{
+    for (const auto &item : d->items) {
+        if (const auto *settings = qobject_cast<const KeyValueItem *>(item.get()))
+            return settings->value(key);
+    }
+    return {};
 }
 
 bool ItemSubGroup::addItem(BaseItemType type)

@@ -1,19 +1,36 @@
 #pragma once
 
 #include <orv/core/Export.h>
+#include <orv/core/Result.h>
 #include <orv/propertyeditor/PropertyId.h>
+#include <orv/propertyeditor/content/BaseItemType.h>
+#include <orv/propertyeditor/content/ContentOptions.h>
+#include <orv/propertyeditor/content/LoadContext.h>
 
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QList>
 #include <QMap>
 #include <QObject>
+#include <QString>
 #include <QStringList>
+
+#include <optional>
+
+class KProperty;
+class KPropertySet;
 
 namespace orv {
 
-/// What a property set needs to know of a property to show it. All functions are static and safe on any
-/// thread.
+/// Turns the stored form of a cell's properties into a property set and back, and makes properties with their
+/// type, texts, options and editor. All functions are static and safe on any thread that owns the properties
+/// and sets which it passes.
 class ORV_WORKFLOW_EXPORT PropertySetCreator
 {
     Q_GADGET
+    Q_DECLARE_TR_FUNCTIONS(PropertySetCreator)
 
 public:
     /// How prominently a property is shown. Stored in files, never renumber.
@@ -49,6 +66,52 @@ public:
         TheoreticalTable = 16,
     };
     Q_ENUM(Editor)
+
+    /// The set of the cell whose JSON text this is; the caller owns it. Each top-level member but
+    /// "properties" is an invisible property named ":" and the key, in the group "common". With \a type,
+    /// properties which that type of cell may not hold fail the load, unless the setting for verification is
+    /// off. An entry that can't be read is logged and dropped; \a context hears of all that is dropped. Fails
+    /// with MalformedStructure for what is no cell, and with InvalidContent for such a property.
+    static Result<KPropertySet *> jsonToPropertySet(const QByteArray &json,
+                                                    const std::optional<BaseItemType> &type,
+                                                    const PropertyEditor::LoadContext &context = {});
+    /// The same of a cell that is parsed already.
+    static Result<KPropertySet *> objectToPropertySet(const QJsonObject &cell,
+                                                      const std::optional<BaseItemType> &type,
+                                                      const PropertyEditor::LoadContext &context = {});
+
+    /// Indented JSON text of a cell with the properties of \a set in their order. False if a value can't be
+    /// stored, with \a json as it was.
+    static bool propertySetToJson(const KPropertySet &set, QByteArray *json,
+                                  PropertyEditor::PropertyConversionFlag flag);
+    /// The same without the text.
+    [[nodiscard]] static std::optional<QJsonObject>
+    propertySetToObject(const KPropertySet &set, PropertyEditor::PropertyConversionFlag flag);
+
+    /// A property with its default, owned by the caller; null, with a log line, for an id that has no type.
+    [[nodiscard]] static KProperty *createDefaultProperty(PropertyId id, Priority priority);
+
+    /// Makes \a property the property \a id with the stored \a value; reasons for false are appended to
+    /// \a errors.
+    static bool modifyKProperty(PropertyId id, Priority priority, const QJsonValue &value,
+                                KProperty *property, QList<QString> *errors);
+    /// The same with nothing stored.
+    static bool modifyKProperty(PropertyId id, Priority priority, KProperty *property,
+                                QList<QString> *errors);
+
+    /// Gives \a property the type of \a id with its options, those of the catalogue above those of the type.
+    static bool setKPropertyType(PropertyId id, KProperty *property);
+    /// The same for a type name, such as "multiLine". False, with a log line, for an empty name.
+    static bool setKPropertyTypeFromString(const QByteArray &typeName, KProperty *property);
+
+    /// Reads a stored value by the type that \a property has, and marks it as unchanged. \a id says which
+    /// list and which editor go with it. False, with the property's value as it was, if the value doesn't
+    /// fit.
+    static bool setValueFromJson(PropertyId id, const QJsonValue &value, KProperty *property);
+
+    /// The stored form of a property's value by its type; undefined if it has none.
+    [[nodiscard]] static QJsonValue valueToJson(const KProperty &property,
+                                                PropertyEditor::PropertyConversionFlag flag);
 
     [[nodiscard]] static Editor editorForProperty(PropertyId id);
 

@@ -42,6 +42,9 @@ namespace orv::ResourceReferenceUtils {
 unsupportedReferences(const QList<ResourceReferenceSPtr> &references,
                       const QList<ResourceReference::Scheme> &supported);
 
+/// Whether the reference is a local path that counts from some folder; an empty one isn't.
+[[nodiscard]] ORV_WORKFLOW_EXPORT bool isRelative(const ResourceReferenceSPtr &reference);
+
 /// \a reference with a relative local path taken from \a baseUrl, whose path counts up to its last slash.
 /// The path is joined as a path: "#", "?", "%" and blanks in names survive. Any other reference, and any with
 /// a base that is no file URL, is returned unchanged.

@@ -3,6 +3,7 @@
 #include <orv/core/Export.h>
 
 #include <QObject>
+#include <QString>
 
 namespace orv {
 
@@ -46,5 +47,9 @@ public:
 };
 
 using BaseItemType = ORV_QEnumsBaseItemType::BaseItemType;
+
+/// Unknown for an empty text, and, with a warning, for a text that is no type.
+[[nodiscard]] ORV_WORKFLOW_EXPORT BaseItemType baseItemTypeFromString(const QString &text);
+[[nodiscard]] ORV_WORKFLOW_EXPORT QString baseItemTypeToString(BaseItemType type);
 
 } // namespace orv

@@ -45,7 +45,7 @@ class ItemGroup;
 class ORV_WORKFLOW_EXPORT Content : public QObject
 {
     Q_OBJECT
-    Q_MOC_INCLUDE(<orv / propertyeditor / content / ItemGroup.h>)
+    Q_MOC_INCLUDE("orv/propertyeditor/content/ItemGroup.h")
     Q_PROPERTY(QStringList groupNames READ groupNames)
     Q_PROPERTY(int size READ count)
 

@@ -30,7 +30,7 @@ class ItemSubGroup;
 class ORV_WORKFLOW_EXPORT ItemGroup : public QObject
 {
     Q_OBJECT
-    Q_MOC_INCLUDE(<orv / propertyeditor / content / ItemSubGroup.h>)
+    Q_MOC_INCLUDE("orv/propertyeditor/content/ItemSubGroup.h")
     Q_PROPERTY(QString name READ name)
     Q_PROPERTY(QStringList subGroupNames READ subGroupNames)
     Q_PROPERTY(int size READ count)

@@ -12,6 +12,7 @@
 #include <QObject>
 #include <QString>
 #include <QUrl>
+#include <QVariant>
 
 #include <memory>
 
@@ -25,7 +26,7 @@ class BaseItem;
 class ORV_WORKFLOW_EXPORT ItemSubGroup : public QObject
 {
     Q_OBJECT
-    Q_MOC_INCLUDE(<orv / propertyeditor / content / BaseItem.h>)
+    Q_MOC_INCLUDE("orv/propertyeditor/content/BaseItem.h")
     Q_PROPERTY(QString name READ name)
     Q_PROPERTY(int count READ count)
     Q_PROPERTY(int size READ count)
@@ -56,6 +57,9 @@ public:
     [[nodiscard]] BaseItem *item(int index) const;
     /// By each item's own type.
     [[nodiscard]] QList<BaseItem *> findItems(BaseItemType type) const;
+    /// The value of \a key in the first cell of settings, whether or not it has that key; null without such a
+    /// cell.
+    [[nodiscard]] QVariant firstValueOf(const QString &key) const;
 
     bool addItem(BaseItemType type);
     Q_INVOKABLE bool removeItem(int index);

@@ -24,6 +24,9 @@ inline constexpr QLatin1String VALUE_KEY("value");
 inline constexpr QLatin1String GROUP_KEY("group");
 inline constexpr QLatin1String CUSTOM_COLUMNS_KEY("CustomColumns");
 
+/// Name under which old documents hold the samples, whether the table or the choice of a step.
+inline constexpr QLatin1String kSamples("Samples");
+
 /// Name of the metadata property inside a property set; its first character keeps it apart from settings.
 inline constexpr QLatin1String META_KEY(":metadata");
 
@@ -43,6 +46,7 @@ inline constexpr QLatin1String WFLW_DEFAULT_NAME("property_table.wflw");
 inline constexpr char16_t SAMPLES_PATTERN_SEPARATOR = u';';
 
 // Options of properties.
+inline constexpr char kbaseUrl[] = "baseUrl"; ///< the URL against which relative files are resolved
 inline constexpr QLatin1String OPTION_AVAILABLE_ITEMS("availableItems");
 inline constexpr QLatin1String OPTION_DISPLAY_SEPARATOR("displaySeparator");
 inline constexpr QLatin1String OPTION_EDITOR("editor");

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <orv/core/Export.h>
+
+#include <QByteArray>
+#include <QString>
+
+class KProperty;
+class KPropertySet;
+
+/// Places within the groups of a property set. A set belongs to the thread that uses it.
+namespace orv::KPropertySetUtils {
+
+/// The name under which a set knows the group that users see as \a group: that text in lower case, and
+/// "common" for an empty one.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QByteArray groupName(const QString &group);
+
+/// The position of the property \a key among those of \a group, or -1 if it isn't there.
+[[nodiscard]] ORV_WORKFLOW_EXPORT int propertyIndex(const QString &key, const QString &group,
+                                                    const KPropertySet &set);
+
+/// Adds \a property, which \a set owns from here, to \a group at \a position among its properties, and right
+/// there in the order of the set; -1 and positions behind the last mean the end. A group that comes to be has
+/// \a group as its caption. A set can only append, so properties behind a position within the set are
+/// replaced by copies: pointers to them become invalid.
+ORV_WORKFLOW_EXPORT void insertInKPropertySet(const QString &group, KProperty *property, KPropertySet *set,
+                                              int position);
+
+} // namespace orv::KPropertySetUtils

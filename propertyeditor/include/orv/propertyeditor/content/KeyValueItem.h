@@ -1,0 +1,116 @@
+#pragma once
+
+#include <KProperty>
+#include <orv/propertyeditor/PropertyId.h>
+#include <orv/propertyeditor/content/BaseItem.h>
+
+#include <QByteArray>
+#include <QList>
+#include <QMultiMap>
+#include <QVariant>
+
+#include <memory>
+
+class KPropertySet;
+
+namespace orv::PropertyEditor {
+
+/// A cell of settings: the typed properties of a search, analysis or report step. Keys are the internal names
+/// of the catalogue. A new item has no properties until a load has run. Mutators answer whether they did it
+/// and log why not.
+class ORV_WORKFLOW_EXPORT KeyValueItem : public BaseItem
+{
+    Q_OBJECT
+    Q_PROPERTY(QStringList keys READ keys)
+    Q_PROPERTY(int size READ count NOTIFY countChanged)
+
+public:
+    explicit KeyValueItem(BaseItemType type);
+    ~KeyValueItem() override;
+
+    [[nodiscard]] QJsonObject toJson(PropertyConversionFlag flag) const override;
+    /// After a failure the item has no properties and is of no use.
+    Error assignFromJson(const QJsonObject &json, ValidationOptions options) override;
+    void setBaseUrl(const QUrl &url) override;
+    void clear() override;
+
+    [[nodiscard]] int count() const;
+    /// In the order of the file.
+    [[nodiscard]] QStringList keys() const;
+    Q_INVOKABLE bool contains(const QString &key) const;
+    [[nodiscard]] bool contains(PropertyId id) const;
+    /// Null for a key that isn't there.
+    [[nodiscard]] QVariant value(const QString &key) const;
+    [[nodiscard]] QVariant value(PropertyId id) const;
+    /// The KProperty type; 0 for a key that isn't there.
+    [[nodiscard]] int type(const QString &key) const;
+    using BaseItem::type;
+
+    /// Adds a property right behind \a keyBefore, which must stand in \a group, or at the end of the group.
+    /// \a value is converted to \a type if that is a built-in one. An empty group is that of general
+    /// settings. False without a log line for a key that is there.
+    Q_INVOKABLE bool insert(const QString &key, const QString &group, const QVariant &value, int type,
+                            const QString &keyBefore = {});
+    Q_INVOKABLE bool insert(const QString &key, const QVariant &value, int type);
+    /// Makes the property another one, without options, caption and a signal. It keeps its place, and the set
+    /// goes on finding it under \a key.
+    bool replace(const QString &key, const QString &newKey, const QVariant &value, int type);
+    Q_INVOKABLE bool remove(const QString &key);
+    /// Stops at the first key that isn't there; what was removed stays removed.
+    bool remove(const QStringList &keys);
+    /// A plain property takes on the type of what it is given. A property with a list takes one of its texts,
+    /// a position or number, and any text if the list is editable.
+    Q_INVOKABLE bool setValue(const QString &key, const QVariant &value);
+    bool setValue(PropertyId id, const QVariant &value);
+
+    [[nodiscard]] QVariant option(const QString &key, const QByteArray &name) const;
+    bool setOption(const QString &key, const QByteArray &name, const QVariant &value);
+
+    /// The name of the property's group, its caption in lower case.
+    [[nodiscard]] QString group(const QString &key) const;
+    [[nodiscard]] QString group(PropertyId id) const;
+    [[nodiscard]] QString groupCaption(const QString &key) const;
+    [[nodiscard]] QString groupCaption(PropertyId id) const;
+    [[nodiscard]] QList<QByteArray> groupNames() const;
+    [[nodiscard]] bool hasGroup(const QString &name) const;
+    [[nodiscard]] QList<QByteArray> properties(const QByteArray &groupName) const;
+    /// Moves the property to the end of \a group: it is removed and added anew.
+    Q_INVOKABLE bool setGroup(const QString &key, const QString &group);
+    bool setGroupCaption(const QString &groupName, const QString &caption);
+    bool removeGroup(const QString &name);
+    /// Puts the group with the caption \a group right behind the group named \a afterGroup; to the front if
+    /// there is no such group.
+    void moveGroup(const QString &group, const QString &afterGroup);
+
+    /// Values by property; those of keys that are no property stand under NoProperty with a null value.
+    [[nodiscard]] QMultiMap<PropertyId, QVariant> propertiesMap() const;
+
+    /// Types that callers from scripts give to insert.
+    Q_INVOKABLE int stringType() const { return QMetaType::QString; }
+    Q_INVOKABLE int intType() const { return QMetaType::Int; }
+    Q_INVOKABLE int doubleType() const { return QMetaType::Double; }
+
+    /// Null until a load has run. Owned by the item.
+    [[nodiscard]] const KPropertySet *propertySet() const { return m_set.get(); }
+
+Q_SIGNALS:
+    void inserted(const QString &key, const QVariant &value);
+    void inserted(const QString &key, const QString &group, const QVariant &value);
+    void removed(const QString &key);
+    void valueChanged(const QString &key, const QVariant &newValue, const QVariant &oldValue);
+    void groupChanged(const QString &key, const QString &newGroup, const QString &oldGroup);
+    void countChanged(int count);
+
+private:
+    [[nodiscard]] bool hasGlycanDatabase() const;
+    [[nodiscard]] QJsonObject toJsonWithAbsoluteGlycans() const;
+    [[nodiscard]] bool has(const QByteArray &name) const;
+    [[nodiscard]] bool warnUnless(bool exists, const QString &key) const;
+    bool setListValue(const QString &key, KProperty *property, const QVariant &value);
+    void setPlainValue(KProperty *property, const QVariant &value);
+
+    std::unique_ptr<KPropertySet> m_set;
+    QUrl m_baseUrl;
+};
+
+} // namespace orv::PropertyEditor

@@ -1,0 +1,84 @@
+#include <KProperty>
+#include <KPropertySet>
+#include <orv/propertyeditor/KPropertySetUtils.h>
+
+#include <memory>
+#include <vector>
+
+namespace orv::KPropertySetUtils {
+
+namespace {
+
+constexpr const char *kCommonGroup = "common";
+
+struct Moved
+{
+    QByteArray group;
+    std::unique_ptr<KProperty> property;
+};
+
+/// Takes all properties that stand behind \a last out of the set, in their order.
+std::vector<Moved> takeBehind(const KProperty *last, KPropertySet *set)
+{
+    std::vector<KProperty *> tail;
+    bool behind = !last;
+    for (KPropertySetIterator it(*set); it.current(); ++it) {
+        if (behind)
+            tail.push_back(it.current());
+        behind = behind || it.current() == last;
+    }
+    std::vector<Moved> taken;
+    taken.reserve(tail.size());
+    for (KProperty *property : tail) {
+        taken.push_back({set->groupNameForProperty(*property), std::make_unique<KProperty>(*property)});
+        set->removeProperty(property);
+    }
+    return taken;
+}
+
+void addWithCaption(const QString &group, KProperty *property, KPropertySet *set)
+{
+    const QByteArray name = groupName(group);
+    const bool isNew = set->propertyNamesForGroup(name).isEmpty();
+    set->addProperty(property, name);
+    if (isNew && !group.isEmpty() && name != kCommonGroup)
+        set->setGroupCaption(name, group);
+}
+
+/// The property behind which position \a position of the group lies; null for the front of the set.
+const KProperty *propertyBefore(const QList<QByteArray> &names, int position, const KPropertySet &set)
+{
+    if (position > 0)
+        return &set.property(names.at(position - 1));
+    const KProperty *before = nullptr;
+    for (KPropertySetIterator it(set); it.current() && it.current()->name() != names.constFirst(); ++it)
+        before = it.current();
+    return before;
+}
+
+} // namespace
+
+QByteArray groupName(const QString &group)
+{
+    return group.isEmpty() ? QByteArray(kCommonGroup) : group.toLower().toUtf8();
+}
+
+int propertyIndex(const QString &key, const QString &group, const KPropertySet &set)
+{
+    return int(set.propertyNamesForGroup(groupName(group)).indexOf(key.toUtf8()));
+}
+
+void insertInKPropertySet(const QString &group, KProperty *property, KPropertySet *set, int position)
+{
+    const QList<QByteArray> names = set->propertyNamesForGroup(groupName(group));
+    if (position < 0 || names.isEmpty() || position > names.size()) {
+        addWithCaption(group, property, set);
+        return;
+    }
+    std::vector<Moved> behind = takeBehind(propertyBefore(names, position, *set), set);
+    addWithCaption(group, property, set);
+    for (Moved &moved : behind)
+        set->addProperty(moved.property.release(), moved.group);
+}
+
+} // namespace orv::KPropertySetUtils

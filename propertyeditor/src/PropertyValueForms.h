@@ -1,0 +1,34 @@
+// What reading and writing of property values share.
+#pragma once
+
+#include <orv/propertyeditor/PropertySetCreator.h>
+
+#include <QLatin1String>
+#include <QString>
+#include <QVariant>
+
+namespace orv {
+
+inline constexpr const char *kThreeStateOption = "3State";
+inline constexpr const char *kExtraValueOption = "extraValueAllowed";
+inline constexpr const char *kPriorityOption = "priority";
+
+inline constexpr QLatin1String kFontFamily("family");
+inline constexpr QLatin1String kFontBold("bold");
+inline constexpr QLatin1String kFontItalic("italic");
+inline constexpr QLatin1String kFontStrikeOut("strikeout");
+inline constexpr QLatin1String kFontUnderline("underline");
+inline constexpr QLatin1String kFontSize("size");
+inline constexpr QLatin1String kPixelSuffix("px");
+inline constexpr QLatin1String kPointSuffix("pt");
+
+/// Options of the property that make the grid show that editor.
+void applyEditor(PropertySetCreator::Editor editor, KProperty *property);
+
+/// Keys and texts of the list of \a id, and whether others may be typed.
+void fillListData(PropertyId id, KProperty *property);
+
+/// What a property with a list holds for \a value, which may be a text, a position or a number.
+[[nodiscard]] QString listText(PropertyId id, const QVariant &value, bool *ok);
+
+} // namespace orv

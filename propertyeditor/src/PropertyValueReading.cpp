@@ -1,0 +1,335 @@
+#include "PropertyValueForms.h"
+
+#include <KProperty>
+#include <orv/core/Logging.h>
+#include <orv/propertyeditor/PropertiesTraits.h>
+#include <orv/propertyeditor/PropertySetCreator.h>
+#include <orv/propertyeditor/UserVisibleListConverter.h>
+#include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+#include <orv/resources/ResourceReferenceUtils.h>
+
+#include <QColor>
+#include <QCursor>
+#include <QFont>
+#include <QGuiApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QPixmap>
+#include <QPoint>
+#include <QRect>
+#include <QSize>
+#include <QUrl>
+
+#include <array>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+namespace orv {
+
+using namespace PropertyEditorStringConstants;
+
+namespace {
+
+// A null value is legal in files: the outer optional tells whether the stored value could be read.
+using ReadValue = std::optional<QVariant>;
+
+template<typename Number>
+bool fits(double value)
+{
+    constexpr double kRelativeTolerance = 1e-12;
+    constexpr auto kLowest = double(std::numeric_limits<Number>::lowest());
+    constexpr auto kHighest = double(std::numeric_limits<Number>::max());
+    return value >= kLowest - std::abs(kLowest) * kRelativeTolerance &&
+           value <= kHighest + kHighest * kRelativeTolerance;
+}
+
+/// Without undefined behaviour for what a file may hold: the nearest number that the type has.
+template<typename Integer>
+Integer castTo(double value)
+{
+    constexpr auto kLowest = std::numeric_limits<Integer>::lowest();
+    constexpr auto kHighest = std::numeric_limits<Integer>::max();
+    if (!(value > double(kLowest)))
+        return kLowest;
+    return value >= double(kHighest) ? kHighest : Integer(value);
+}
+
+std::optional<double> readDouble(const QJsonValue &value)
+{
+    if (value.isNull() || value.isUndefined())
+        return 0.0;
+    if (value.isDouble())
+        return fits<double>(value.toDouble()) ? std::optional(value.toDouble()) : std::nullopt;
+    bool ok = false;
+    const double number = value.toString().toDouble(&ok);
+    return ok ? std::optional(number) : std::nullopt;
+}
+
+std::optional<int> readInt(const QJsonValue &value)
+{
+    if (value.isNull() || value.isUndefined())
+        return 0;
+    if (value.isDouble())
+        return fits<int>(value.toDouble()) ? std::optional(castTo<int>(value.toDouble())) : std::nullopt;
+    bool ok = false;
+    const int number = value.toString().toInt(&ok);
+    return ok ? std::optional(number) : std::nullopt;
+}
+
+bool readBool(const QJsonValue &value)
+{
+    if (value.isDouble())
+        return value.toDouble() != 0.0;
+    if (!value.isString())
+        return value.toBool();
+    const QString text = value.toString().toLower();
+    if (text == QLatin1String("true") || text == QLatin1String("yes") || text == QLatin1String("ok"))
+        return true;
+    return text.toInt() != 0;
+}
+
+ReadValue readSwitch(const QJsonValue &value, const KProperty &property)
+{
+    if (!property.option(kThreeStateOption).toBool())
+        return readBool(value);
+    const QString text = value.toString().toLower();
+    if (text.isEmpty() || text == QLatin1String("none"))
+        return QVariant();
+    return text == QLatin1String("true") || text == QLatin1String("1");
+}
+
+template<typename Integer>
+ReadValue readInteger(const QJsonValue &value)
+{
+    return QVariant::fromValue(castTo<Integer>(value.toDouble()));
+}
+
+template<typename Number>
+std::optional<Number> readNumber(const QJsonValue &value)
+{
+    if constexpr (std::is_same_v<Number, int>)
+        return readInt(value);
+    else
+        return readDouble(value);
+}
+
+/// An array of exactly as many numbers as the value type is made of.
+template<typename Value, typename Number, size_t... Index>
+ReadValue readNumbers(const QJsonValue &value, std::index_sequence<Index...>)
+{
+    const QJsonArray array = value.toArray();
+    if (array.size() != sizeof...(Index))
+        return {};
+    const std::array numbers = {readNumber<Number>(array.at(Index))...};
+    if (!(numbers[Index] && ...))
+        return {};
+    return QVariant::fromValue(Value(*numbers[Index]...));
+}
+
+template<typename Value, typename Number, size_t Count>
+ReadValue readNumbers(const QJsonValue &value)
+{
+    return readNumbers<Value, Number>(value, std::make_index_sequence<Count>());
+}
+
+ReadValue readText(const QJsonValue &value)
+{
+    return value.toString();
+}
+
+ReadValue readTextOrNull(const QJsonValue &value)
+{
+    const QString text = value.toString();
+    return text.isEmpty() ? QVariant() : text;
+}
+
+ReadValue readUrl(const QJsonValue &value)
+{
+    const QString path = value.toString();
+    return path.isEmpty() ? QUrl() : QUrl::fromLocalFile(path);
+}
+
+ReadValue readEnumerator(const QJsonValue &value, int highest)
+{
+    const std::optional<int> number = readInt(value);
+    return number && *number >= 0 && *number <= highest ? ReadValue(*number) : std::nullopt;
+}
+
+ReadValue readLineStyle(const QJsonValue &value)
+{
+    return readEnumerator(value, Qt::CustomDashLine);
+}
+
+bool readFontSize(const QString &text, QFont *font)
+{
+    const bool inPixels = text.endsWith(kPixelSuffix);
+    const bool hasSuffix = inPixels || text.endsWith(kPointSuffix);
+    bool ok = false;
+    const double size = QStringView(text).chopped(hasSuffix ? kPixelSuffix.size() : 0).toDouble(&ok);
+    if (!ok || !(size > 0) || !fits<int>(size))
+        return false;
+    if (inPixels)
+        font->setPixelSize(std::max(1, int(size)));
+    else
+        font->setPointSizeF(size);
+    return true;
+}
+
+ReadValue readFont(const QJsonValue &value)
+{
+    if (!value.isObject())
+        return {};
+    const QJsonObject object = value.toObject();
+    QFont font;
+    if (!readFontSize(object.value(kFontSize).toVariant().toString(), &font))
+        return {};
+    font.setFamily(object.value(kFontFamily).toString());
+    font.setBold(readBool(object.value(kFontBold)));
+    font.setItalic(readBool(object.value(kFontItalic)));
+    font.setStrikeOut(readBool(object.value(kFontStrikeOut)));
+    font.setUnderline(readBool(object.value(kFontUnderline)));
+    return font;
+}
+
+/// Pictures and cursors belong to a screen; a program without one can't hold them.
+bool hasScreen()
+{
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance());
+}
+
+ReadValue readPixmap(const QJsonValue &value)
+{
+    const QByteArray bytes = QByteArray::fromBase64(value.toString().toLatin1());
+    if (!hasScreen())
+        return {};
+    QPixmap pixmap;
+    return pixmap.loadFromData(bytes) ? ReadValue(pixmap) : std::nullopt;
+}
+
+ReadValue readColor(const QJsonValue &value)
+{
+    const QString name = value.toString();
+    if (name.isEmpty())
+        return QVariant();
+    const QColor color(name);
+    return color.isValid() ? ReadValue(color) : std::nullopt;
+}
+
+ReadValue readCursor(const QJsonValue &value)
+{
+    constexpr int kHighestShape = 25;
+    const ReadValue shape = hasScreen() ? readEnumerator(value, kHighestShape) : std::nullopt;
+    return shape ? ReadValue(QCursor(Qt::CursorShape(shape->toInt()))) : std::nullopt;
+}
+
+ReadValue readAny(const QJsonValue &value)
+{
+    return value.toVariant();
+}
+
+QJsonObject payloadOf(const QJsonValue &value)
+{
+    // Some documents hold the object as its text.
+    return value.isString() ? QJsonDocument::fromJson(value.toString().toUtf8()).object() : value.toObject();
+}
+
+ReadValue readObject(PropertyId id, const QJsonValue &value, KProperty *property)
+{
+    const QJsonObject object = payloadOf(value);
+    const PropertySetCreator::Editor editor = PropertySetCreator::editorForProperty(id);
+    if (editor == PropertySetCreator::Editor::Unset) {
+        if (object.isEmpty())
+            return value.toString();
+        return QJsonDocument(object).toJson(QJsonDocument::Indented);
+    }
+    applyEditor(editor, property);
+    const QJsonValue inner = object.value(DATA);
+    return QJsonDocument(inner.isObject() ? inner.toObject() : object).toJson(QJsonDocument::Indented);
+}
+
+ReadValue readReference(const QJsonValue &value)
+{
+    const ResourceReferenceSPtr reference = ResourceReferenceUtils::fromString(value.toString());
+    return reference ? QVariant::fromValue(reference) : QVariant();
+}
+
+ReadValue readListValue(PropertyId id, const QJsonValue &value, KProperty *property)
+{
+    fillListData(id, property);
+    bool ok = false;
+    const QString text = listText(id, value.toVariant(), &ok);
+    return ok ? ReadValue(text) : std::nullopt;
+}
+
+ReadValue readCheckedTexts(PropertyId id, const QJsonValue &value, KProperty *property)
+{
+    property->setOption(OPTION_AVAILABLE_ITEMS.data(), UserVisibleListConverter::valuesForCheckableList(id));
+    return PropertyEditorJsonUtils::jsonArrayToStringList(value.toArray());
+}
+
+struct TypeReader
+{
+    int type;
+    ReadValue (*read)(const QJsonValue &value);
+};
+
+constexpr std::array kReaders = {
+    TypeReader{KProperty::Int, &readInteger<int>},
+    TypeReader{KProperty::UInt, &readInteger<uint>},
+    TypeReader{KProperty::LongLong, &readInteger<qlonglong>},
+    TypeReader{KProperty::ULongLong, &readInteger<qulonglong>},
+    TypeReader{KProperty::Double,
+               [](const QJsonValue &value) {
+                   const std::optional<double> number = readDouble(value);
+                   return number ? ReadValue(*number) : std::nullopt;
+               }},
+    TypeReader{KProperty::Map, &readTextOrNull},
+    TypeReader{KProperty::String, &readText},
+    TypeReader{KProperty::Url, &readUrl},
+    TypeReader{KProperty::Rect, &readNumbers<QRect, int, 4>},
+    TypeReader{KProperty::RectF, &readNumbers<QRectF, double, 4>},
+    TypeReader{KProperty::Size, &readNumbers<QSize, int, 2>},
+    TypeReader{KProperty::SizeF, &readNumbers<QSizeF, double, 2>},
+    TypeReader{KProperty::Point, &readNumbers<QPoint, int, 2>},
+    TypeReader{KProperty::PointF, &readNumbers<QPointF, double, 2>},
+    TypeReader{KProperty::LineStyle, &readLineStyle},
+    TypeReader{PropertiesTraits::ResourceReferenceType, &readReference},
+    TypeReader{KProperty::Font, &readFont},
+    TypeReader{KProperty::Pixmap, &readPixmap},
+    TypeReader{KProperty::Color, &readColor},
+    TypeReader{KProperty::Cursor, &readCursor},
+};
+
+ReadValue readValue(PropertyId id, const QJsonValue &value, KProperty *property)
+{
+    switch (property->type()) {
+    case KProperty::Bool:
+        return readSwitch(value, *property);
+    case KProperty::ValueFromList:
+        return readListValue(id, value, property);
+    case PropertiesTraits::ObjectType:
+        return readObject(id, value, property);
+    case PropertiesTraits::CheckableListType:
+        return readCheckedTexts(id, value, property);
+    default:
+        break;
+    }
+    const auto *const reader = std::ranges::find(kReaders, property->type(), &TypeReader::type);
+    return reader == kReaders.end() ? readAny(value) : reader->read(value);
+}
+
+} // namespace
+
+bool PropertySetCreator::setValueFromJson(PropertyId id, const QJsonValue &value, KProperty *property)
+{
+    if (value.isUndefined())
+        return false;
+    const ReadValue read = readValue(id, value, property);
+    if (read)
+        property->setValue(*read, KProperty::ValueOption::IgnoreOld);
+    return read.has_value();
+}
+
+} // namespace orv

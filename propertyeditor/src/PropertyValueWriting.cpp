@@ -1,0 +1,207 @@
+#include "PropertyValueForms.h"
+
+#include <KProperty>
+#include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/PropertiesTraits.h>
+#include <orv/propertyeditor/UserVisibleListConverter.h>
+#include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+#include <orv/resources/ResourceReferenceUtils.h>
+
+#include <QBuffer>
+#include <QDir>
+#include <QFont>
+#include <QJsonArray>
+#include <QPixmap>
+#include <QPoint>
+#include <QRect>
+#include <QSize>
+#include <QUrl>
+
+#include <array>
+
+namespace orv {
+
+using namespace PropertyEditorStringConstants;
+
+namespace {
+
+QJsonValue writeBool(const QVariant &value)
+{
+    return value.isNull() ? QString() : value.toString();
+}
+
+QJsonValue writeInt(const QVariant &value)
+{
+    return value.toInt();
+}
+
+QJsonValue writeLongLong(const QVariant &value)
+{
+    return value.toLongLong();
+}
+
+QJsonValue writeDouble(const QVariant &value)
+{
+    constexpr int kSignificantDigits = 6;
+    return QString::number(value.toDouble(), 'g', kSignificantDigits);
+}
+
+QJsonValue writeMap(const QVariant &value)
+{
+    if (value.typeId() == QMetaType::QString)
+        return value.toString();
+    return QJsonObject::fromVariantMap(value.toMap());
+}
+
+// A value that no text stands for would come back as nothing.
+QJsonValue writeText(const QVariant &value)
+{
+    if (value.isValid() && !value.canConvert<QString>())
+        return QJsonValue::Undefined;
+    return value.toString();
+}
+
+QJsonValue writeObject(const QVariant &value)
+{
+    return PropertyEditorJsonUtils::variantToObject(value);
+}
+
+QJsonValue writeCheckedTexts(const QVariant &value)
+{
+    return PropertyEditorJsonUtils::stringListToJsonArray(value.toStringList());
+}
+
+QJsonValue writeRect(const QVariant &value)
+{
+    const QRect rect = value.toRect();
+    return QJsonArray{rect.x(), rect.y(), rect.width(), rect.height()};
+}
+
+QJsonValue writeRectF(const QVariant &value)
+{
+    const QRectF rect = value.toRectF();
+    return QJsonArray{rect.x(), rect.y(), rect.width(), rect.height()};
+}
+
+QJsonValue writeSize(const QVariant &value)
+{
+    const QSize size = value.toSize();
+    return QJsonArray{size.width(), size.height()};
+}
+
+QJsonValue writeSizeF(const QVariant &value)
+{
+    const QSizeF size = value.toSizeF();
+    return QJsonArray{size.width(), size.height()};
+}
+
+QJsonValue writePoint(const QVariant &value)
+{
+    const QPoint point = value.toPoint();
+    return QJsonArray{point.x(), point.y()};
+}
+
+QJsonValue writePointF(const QVariant &value)
+{
+    const QPointF point = value.toPointF();
+    return QJsonArray{point.x(), point.y()};
+}
+
+QJsonValue writeFont(const QVariant &value)
+{
+    const auto font = value.value<QFont>();
+    const bool inPixels = font.pixelSize() > 0;
+    const QString size = inPixels ? QString::number(font.pixelSize()) + kPixelSuffix
+                                  : QString::number(font.pointSizeF()) + kPointSuffix;
+    return QJsonObject{{kFontFamily, font.family()},       {kFontBold, font.bold()},
+                       {kFontItalic, font.italic()},       {kFontStrikeOut, font.strikeOut()},
+                       {kFontUnderline, font.underline()}, {kFontSize, size}};
+}
+
+QJsonValue writePixmap(const QVariant &value)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!buffer.open(QIODevice::WriteOnly) || !value.value<QPixmap>().save(&buffer, "PNG"))
+        return QJsonValue::Undefined;
+    return QString::fromLatin1(bytes.toBase64());
+}
+
+struct TypeWriter
+{
+    int type;
+    QJsonValue (*write)(const QVariant &value);
+};
+
+constexpr std::array kWriters = {
+    TypeWriter{KProperty::Bool, &writeBool},
+    TypeWriter{KProperty::Int, &writeInt},
+    TypeWriter{KProperty::LongLong, &writeLongLong},
+    TypeWriter{KProperty::Double, &writeDouble},
+    TypeWriter{KProperty::Map, &writeMap},
+    TypeWriter{KProperty::String, &writeText},
+    TypeWriter{KProperty::Rect, &writeRect},
+    TypeWriter{KProperty::RectF, &writeRectF},
+    TypeWriter{KProperty::Size, &writeSize},
+    TypeWriter{KProperty::SizeF, &writeSizeF},
+    TypeWriter{KProperty::Point, &writePoint},
+    TypeWriter{KProperty::PointF, &writePointF},
+    TypeWriter{KProperty::LineStyle, &writeInt},
+    TypeWriter{PropertiesTraits::ObjectType, &writeObject},
+    TypeWriter{PropertiesTraits::CheckableListType, &writeCheckedTexts},
+    TypeWriter{KProperty::Font, &writeFont},
+    TypeWriter{KProperty::Pixmap, &writePixmap},
+};
+
+QJsonValue writeListValue(const KProperty &property)
+{
+    using Lists = UserVisibleListConverter;
+    const QString text = property.value().toString();
+    const PropertyId id = PropertiesNames::findPropertyForName(QString::fromUtf8(property.name()));
+    if (PropertySetCreator::isStringSerializableList(id))
+        return text;
+    if (const auto texts = Lists::listItemsMap().constFind(id); texts != Lists::listItemsMap().cend())
+        return texts->indexOf(text);
+    if (Lists::associativeListItemsMap().contains(id))
+        return text.toInt();
+    return text;
+}
+
+QString absolutePath(const QString &path, const QUrl &baseUrl)
+{
+    return QDir::cleanPath(QStringLiteral("%1/%2").arg(baseUrl.toLocalFile(), path));
+}
+
+// Upgraded documents may hold the text of a reference.
+ResourceReferenceSPtr referenceOf(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QString ? ResourceReferenceUtils::fromString(value.toString())
+                                                : value.value<ResourceReferenceSPtr>();
+}
+
+QJsonValue writeReference(const KProperty &property, PropertyEditor::PropertyConversionFlag flag)
+{
+    const ResourceReferenceSPtr reference = referenceOf(property.value());
+    if (!reference)
+        return property.value().toString();
+    const QUrl baseUrl = property.option(kbaseUrl).toUrl();
+    const bool resolves = flag == PropertyEditor::PropertyConversionFlag::AbsolutePaths &&
+                          baseUrl.isValid() && ResourceReferenceUtils::isRelative(reference);
+    return resolves ? absolutePath(reference->text(), baseUrl) : reference->text();
+}
+
+} // namespace
+
+QJsonValue PropertySetCreator::valueToJson(const KProperty &property,
+                                           PropertyEditor::PropertyConversionFlag flag)
+{
+    if (property.type() == KProperty::ValueFromList)
+        return writeListValue(property);
+    if (property.type() == PropertiesTraits::ResourceReferenceType)
+        return writeReference(property, flag);
+    const auto *const writer = std::ranges::find(kWriters, property.type(), &TypeWriter::type);
+    return writer == kWriters.end() ? writeText(property.value()) : writer->write(property.value());
+}
+
+} // namespace orv

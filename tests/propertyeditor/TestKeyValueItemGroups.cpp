@@ -1,0 +1,159 @@
+#include "LogCapture.h"
+#include "OrvTest.h"
+
+#include <orv/propertyeditor/content/KeyValueItem.h>
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QSignalSpy>
+
+using namespace orv;
+using namespace orv::PropertyEditor;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// An item with the properties a to f, in the groups of these captions.
+std::unique_ptr<KeyValueItem> grouped(const QStringList &captions)
+{
+    auto item = std::make_unique<KeyValueItem>(BaseItemType::Karvon);
+    const Error error = item->assignFromJson({{u"type"_s, u"Karvon"_s}, {u"properties"_s, QJsonArray()}}, {});
+    if (error.hasError())
+        qFatal("an empty cell doesn't load");
+    item->remove(QStringList({u":type"_s, u":metadata"_s}));
+    for (int i = 0; i < captions.size(); ++i)
+        item->insert(QString(QChar(u'a' + i)), captions.at(i), i, item->intType());
+    return item;
+}
+
+QString order(const KeyValueItem &item)
+{
+    QStringList entries;
+    for (const QString &key : item.keys())
+        entries.append(key + u'@' + item.group(key));
+    return entries.join(u' ');
+}
+
+} // namespace
+
+class TestKeyValueItemGroups : public OrvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void groupsHaveNameAndCaption();
+    void captionsChange();
+    void aPropertyMovesToTheEndOfAnotherGroup();
+    void movesThatMakeNoSenseAreRefused_data();
+    void movesThatMakeNoSenseAreRefused();
+    void aGroupGoesWithItsProperties();
+    void groupsMove_data();
+    void groupsMove();
+};
+
+void TestKeyValueItemGroups::groupsHaveNameAndCaption()
+{
+    const auto item = grouped({u"Instrument Parameters"_s, u"Other"_s, u"instrument parameters"_s});
+    QCOMPARE(item->group(u"a"_s), u"instrument parameters"_s);
+    QCOMPARE(item->groupCaption(u"c"_s), u"Instrument Parameters"_s);
+    QCOMPARE(item->groupNames(),
+             (QList<QByteArray>{QByteArray("instrument parameters"), QByteArray("other")}));
+    QVERIFY(item->hasGroup(u"other"_s));
+    QVERIFY(!item->hasGroup(u"Other"_s));
+    QCOMPARE(item->properties("instrument parameters"),
+             (QList<QByteArray>{QByteArray("a"), QByteArray("c")}));
+    QCOMPARE(item->properties("missing"), QList<QByteArray>());
+}
+
+void TestKeyValueItemGroups::captionsChange()
+{
+    const auto item = grouped({u"One"_s});
+    QVERIFY(item->setGroupCaption(u"one"_s, u"Uno"_s));
+    QCOMPARE(item->groupCaption(u"a"_s), u"Uno"_s);
+    KeyValueItem empty(BaseItemType::Karvon);
+    QVERIFY(!empty.setGroupCaption(u"one"_s, u"Uno"_s));
+}
+
+void TestKeyValueItemGroups::aPropertyMovesToTheEndOfAnotherGroup()
+{
+    const auto item = grouped({u"One"_s, u"One"_s, u"Two"_s});
+    QVERIFY(item->setOption(u"a"_s, "priority", 2));
+    QSignalSpy removed(item.get(), &KeyValueItem::removed);
+    QSignalSpy counts(item.get(), &KeyValueItem::countChanged);
+    QSignalSpy moved(item.get(), &KeyValueItem::groupChanged);
+    QVERIFY(item->setGroup(u"a"_s, u"Two"_s));
+    QCOMPARE(order(*item), u"b@one c@two a@two"_s);
+    QCOMPARE(item->option(u"a"_s, "priority"), QVariant(2));
+    QCOMPARE(removed.count(), 1);
+    QCOMPARE(counts.count(), 1);
+    QCOMPARE(moved.count(), 1);
+    QCOMPARE(moved.constFirst(), (QVariantList{u"a"_s, u"Two"_s, u"one"_s}));
+}
+
+void TestKeyValueItemGroups::movesThatMakeNoSenseAreRefused_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<QString>("warning");
+    QTest::newRow("missing key") << u"x"_s << u"Two"_s << u"Cannot update the non-existing key \"x\""_s;
+    QTest::newRow("empty group") << u"a"_s << u""_s << u"Cannot move the property \"a\" to an empty group"_s;
+    QTest::newRow("same group") << u"a"_s << u"one"_s
+                                << u"Cannot move the property \"a\" to the same group"_s;
+    QTest::newRow("same group by caption")
+        << u"a"_s << u"One"_s << u"Cannot move the property \"a\" to the same group"_s;
+}
+
+void TestKeyValueItemGroups::movesThatMakeNoSenseAreRefused()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, group);
+    QFETCH(QString, warning);
+    const auto item = grouped({u"One"_s, u"Two"_s});
+    QSignalSpy removed(item.get(), &KeyValueItem::removed);
+    const LogCapture log;
+    QVERIFY(!item->setGroup(key, group));
+    QCOMPARE(log.warnings(), QStringList(warning));
+    QCOMPARE(removed.count(), 0);
+    QCOMPARE(order(*item), u"a@one b@two"_s);
+}
+
+void TestKeyValueItemGroups::aGroupGoesWithItsProperties()
+{
+    const auto item = grouped({u"One"_s, u"Two"_s, u"One"_s});
+    QSignalSpy removed(item.get(), &KeyValueItem::removed);
+    QVERIFY(item->removeGroup(u"one"_s));
+    QCOMPARE(removed.count(), 2);
+    QCOMPARE(order(*item), u"b@two"_s);
+    QVERIFY(item->removeGroup(u"missing"_s));
+    QCOMPARE(removed.count(), 2);
+}
+
+void TestKeyValueItemGroups::groupsMove_data()
+{
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("last behind first") << u"Three"_s << u"one"_s << u"a@one c@three b@two"_s;
+    QTest::newRow("unknown place means the front") << u"Three"_s << u"missing"_s << u"c@three a@one b@two"_s;
+    QTest::newRow("already there") << u"Two"_s << u"one"_s << u"a@one b@two c@three"_s;
+    QTest::newRow("unknown group") << u"Four"_s << u"one"_s << u"a@one b@two c@three"_s;
+    QTest::newRow("behind the last, which stands before")
+        << u"One"_s << u"three"_s << u"a@one b@two c@three"_s;
+}
+
+void TestKeyValueItemGroups::groupsMove()
+{
+    QFETCH(QString, group);
+    QFETCH(QString, after);
+    QFETCH(QString, expected);
+    const auto item = grouped({u"One"_s, u"Two"_s, u"Three"_s});
+    QSignalSpy removed(item.get(), &KeyValueItem::removed);
+    QSignalSpy counts(item.get(), &KeyValueItem::countChanged);
+    item->moveGroup(group, after);
+    QCOMPARE(order(*item), expected);
+    QCOMPARE(removed.count() + counts.count(), 0);
+    QCOMPARE(item->groupCaption(u"b"_s), u"Two"_s);
+}
+
+ORV_REGISTER_TEST(TestKeyValueItemGroups)
+#include "TestKeyValueItemGroups.moc"
