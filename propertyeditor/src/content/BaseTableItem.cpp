@@ -1,0 +1,255 @@
+#include "TableLosses.h"
+
+#include <orv/core/JsonUtils.h>
+#include <orv/core/Logging.h>
+#include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/content/BaseTableItem.h>
+#include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+
+namespace orv::PropertyEditor {
+
+using namespace PropertyEditorStringConstants;
+
+BaseTableItem::BaseTableItem(BaseItemType type)
+    : BaseTableItem(type, FurtherContent{})
+{}
+
+BaseTableItem::BaseTableItem(BaseItemType type, FurtherContent further)
+    : BaseItem(type)
+    , m_further(std::move(further))
+{}
+
+BaseTableItem::~BaseTableItem() = default;
+
+QString BaseTableItem::propertyName() const
+{
+    return PropertiesNames::internalNameForType(propertyId());
+}
+
+int BaseTableItem::columnIndex(const QString &name) const
+{
+    return int(m_root.data.indexOf(name));
+}
+
+QString BaseTableItem::columnName(int index) const
+{
+    if (!isColumn(index)) {
+        qCWarning(propertyEditorLog) << "Column" << index << "is out of bounds in" << propertyName();
+        return {};
+    }
+    return m_root.getNameFromColumnIndex(index);
+}
+
+bool BaseTableItem::addColumn(const QString &name)
+{
+    if (m_root.data.contains(name))
+        return false;
+    m_root.addDataToRootAndResizeChildren(name, QString(), true);
+    Q_EMIT columnAdded(columnCount() - 1);
+    Q_EMIT columnCountChanged(columnCount());
+    return true;
+}
+
+bool BaseTableItem::removeColumn(const QString &name)
+{
+    const int index = int(m_root.data.lastIndexOf(name));
+    if (index < 0) {
+        qCWarning(propertyEditorLog) << "Column" << name << "is not found in" << propertyName();
+        return false;
+    }
+    if (!m_root.removeColumn(name))
+        return false;
+    // Listeners ask for the count; unlike addColumn, this doesn't announce it.
+    Q_EMIT columnRemoved(index);
+    Q_EMIT columnRemoved(name);
+    return true;
+}
+
+bool BaseTableItem::removeColumn(int index)
+{
+    if (!isColumn(index)) {
+        qCDebug(propertyEditorLog) << "Column" << index << "is out of bounds in" << propertyName();
+        return false;
+    }
+    return removeColumn(m_root.getNameFromColumnIndex(index));
+}
+
+bool BaseTableItem::setColumnName(int index, const QString &name)
+{
+    if (!isColumn(index)) {
+        qCWarning(propertyEditorLog) << "Column" << index << "is out of bounds in" << propertyName();
+        return false;
+    }
+    if (name.isEmpty()) {
+        qCWarning(propertyEditorLog) << "Column name is empty for column" << index << "in" << propertyName();
+        return false;
+    }
+    m_root.getDataAt(index) = name;
+    return true;
+}
+
+bool BaseTableItem::addRow(const QVariantList &values)
+{
+    if (!m_root.addNewChildMatchRootDataSize()) {
+        qCWarning(propertyEditorLog) << "Failed to create a new RowNode in" << propertyName();
+        return false;
+    }
+    const int last = rowCount() - 1;
+    if (!values.isEmpty() && !setRowValues(last, values))
+        qCWarning(propertyEditorLog) << "Failed to set row values in" << propertyName() << "(not fatal)";
+    Q_EMIT rowAdded(last);
+    Q_EMIT rowCountChanged(rowCount());
+    return true;
+}
+
+bool BaseTableItem::removeRow(int index)
+{
+    if (index < 0 || index >= rowCount()) {
+        qCDebug(propertyEditorLog) << "Row" << index << "is out of bounds in" << propertyName();
+        return false;
+    }
+    m_root.deleteChild(index);
+    Q_EMIT rowRemoved(index);
+    Q_EMIT rowCountChanged(rowCount());
+    return true;
+}
+
+bool BaseTableItem::setRowValues(int index, const QVariantList &values)
+{
+    RowNode *row = m_root.getChild(index);
+    if (!row)
+        return false;
+    if (values.size() != columnCount()) {
+        qCWarning(propertyEditorLog) << "Record columns count mismatch in" << propertyName();
+        return false;
+    }
+    row->setRowData(VariantItems(values));
+    Q_EMIT rowChanged(index, row->data);
+    return true;
+}
+
+const RowNode *BaseTableItem::rowOfCell(int row, int column) const
+{
+    if (row < 0 || row >= rowCount()) {
+        qCWarning(propertyEditorLog) << "Row" << row << "is out of bounds in" << propertyName();
+        return nullptr;
+    }
+    if (!isColumn(column)) {
+        qCWarning(propertyEditorLog) << "Column" << column << "is out of bounds in" << propertyName();
+        return nullptr;
+    }
+    const RowNode *node = m_root.getChild(row);
+    if (!node) {
+        qCWarning(propertyEditorLog) << "Item is null at row" << row << "column" << column << "in"
+                                     << propertyName();
+    }
+    return node;
+}
+
+QVariant BaseTableItem::value(int row, int column) const
+{
+    const RowNode *node = rowOfCell(row, column);
+    return node ? node->getDataAt(column) : QVariant();
+}
+
+bool BaseTableItem::setValue(int row, int column, const QVariant &value)
+{
+    if (!rowOfCell(row, column))
+        return false;
+    RowNode *node = m_root.getChild(row);
+    // A row of a file may be shorter than the header.
+    if (node->data.size() <= column)
+        node->data.resize(columnCount());
+    node->getDataAt(column) = value;
+    Q_EMIT valueChanged(row, column, value);
+    return true;
+}
+
+void BaseTableItem::resizeChildrenToMatchRoot(RowNode *node)
+{
+    if (!node) {
+        qCWarning(propertyEditorLog) << "Cannot resize a null RowNode";
+        return;
+    }
+    for (int i = 0; i < node->getChildListSize(); ++i) {
+        VariantItems &cells = node->getChild(i)->data;
+        if (cells.size() < node->data.size())
+            cells.resize(node->data.size());
+    }
+}
+
+void BaseTableItem::appendProperty(QJsonObject *json, PropertyId id, const QJsonObject &value)
+{
+    QJsonArray entries = json->value(PROPERTIES_KEY).toArray();
+    entries.append(QJsonObject{{NAME_KEY, PropertiesNames::internalNameForType(id)}, {VALUE_KEY, value}});
+    json->insert(PROPERTIES_KEY, entries);
+}
+
+QJsonObject BaseTableItem::cellWithValue(PropertyConversionFlag flag, const QJsonObject &value) const
+{
+    QJsonObject json = BaseItem::toJson(flag);
+    appendProperty(&json, propertyId(), value);
+    return json;
+}
+
+QJsonObject BaseTableItem::toJson(PropertyConversionFlag flag) const
+{
+    QJsonObject json = cellWithValue(flag, PropertyEditorJsonUtils::rowNodeToObject(m_root));
+    if (propertyId() == PropertyId::Samples) {
+        appendProperty(&json, PropertyId::CustomColumns,
+                       PropertyEditorJsonUtils::rowNodeToObject(m_customColumnsMetaData));
+    }
+    return json;
+}
+
+Result<QJsonObject> BaseTableItem::mainEntry(const QJsonObject &json) const
+{
+    QJsonObject entry = PropertyEditorJsonUtils::getPropertyWithType(json, propertyId());
+    if (!entry.isEmpty())
+        return entry;
+    return Error(ErrorCode::MalformedStructure,
+                 tr("Could not parse JSON. Subobject \"%1\" is empty.").arg(propertyName()))
+        .addDetail(tr("The cell \"%1\" needs an entry of that name in its \"properties\".").arg(name()));
+}
+
+Error BaseTableItem::assignFromJson(const QJsonObject &json, ValidationOptions options)
+{
+    m_root.clear();
+    m_customColumnsMetaData.clear();
+    const QJsonValue properties = json.value(PROPERTIES_KEY);
+    if (!properties.isArray()) {
+        return Error(ErrorCode::MalformedStructure,
+                     tr("Could not parse JSON. \"%1\" has unsupported format in \"%2\".")
+                         .arg(PROPERTIES_KEY, propertyName()))
+            .addDetail(
+                tr("It has to be an array, and is %1.").arg(JsonUtils::typeDescription(properties.type())));
+    }
+    ORV_RETURN_IF_ERROR(BaseItem::assignFromJson(json, options));
+    Result<QJsonObject> entry = mainEntry(json);
+    if (entry.hasError())
+        return entry.ecatch();
+
+    m_root = PropertyEditorJsonUtils::propValueToRowNode(*entry);
+    const QJsonObject columns = PropertyEditorJsonUtils::getPropertyWithType(json, PropertyId::CustomColumns);
+    if (!columns.isEmpty())
+        m_customColumnsMetaData = PropertyEditorJsonUtils::propValueToRowNode(columns);
+
+    if (loadContext().isObserved()) {
+        QList<PropertyId> tables = m_further.tables;
+        if (propertyId() == PropertyId::Samples)
+            tables.append(PropertyId::CustomColumns);
+        reportTableLosses(loadContext(), json,
+                          {propertyId(), tables, m_further.objects, m_further.valueMembers});
+    }
+    Q_EMIT reset();
+    return Error::NoError;
+}
+
+void BaseTableItem::clear()
+{
+    m_root.clear();
+    m_customColumnsMetaData.clear();
+}
+
+} // namespace orv::PropertyEditor
