@@ -26,12 +26,14 @@ run("${WORK_DIR}/build/list-tabs" "${WORKFLOW}")
 
 set(expected [[
 Format version 5.47.0
-Input: 2 cell(s)
-Search: 1 cell(s)
-Workflow "Peptide map"
-Input / Samples: 1 item(s)
-Input / Proteins: 1 item(s)
-Search / Karvon: 1 item(s)
+Samples: 1 cell(s)
+Sequences: 1 cell(s)
+Peptide map: 2 cell(s)
+Workflow "Antibody peptide map"
+Samples / Sample Input: 1 item(s)
+Sequences / Protein Input: 1 item(s)
+Peptide map / MS/MS search: 1 item(s)
+Peptide map / Peptide map: 1 item(s)
 ]])
 if(NOT output STREQUAL expected)
   message(FATAL_ERROR "The consumer printed\n${output}\nbut should print\n${expected}")

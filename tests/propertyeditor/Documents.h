@@ -40,6 +40,25 @@ inline QJsonObject document(const QJsonArray &tabs, const QJsonObject &metadata 
     return {{QStringLiteral("tabs"), tabs}, {QStringLiteral("metadata"), QString::fromUtf8(text)}};
 }
 
+/// The JSON of a column, tab or document without the stamps of its cells, which every load of settings renews.
+inline QJsonValue withoutStamps(const QJsonValue &json)
+{
+    if (json.isArray()) {
+        QJsonArray array;
+        for (const auto element : json.toArray())
+            array.append(withoutStamps(element));
+        return array;
+    }
+    QJsonObject object = json.toObject();
+    for (const QString &key : {QStringLiteral("tabs"), QStringLiteral("cells")}) {
+        if (object.contains(key))
+            object.insert(key, withoutStamps(object.value(key)));
+    }
+    if (object.contains(QStringLiteral("type")))
+        object.remove(QStringLiteral("metadata"));
+    return object;
+}
+
 inline QByteArray toBytes(const QJsonObject &object)
 {
     return QJsonDocument(object).toJson();

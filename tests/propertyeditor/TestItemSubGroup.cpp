@@ -115,7 +115,7 @@ void TestItemSubGroup::anUnknownTypeIsKeptWithoutTypeValidation()
     const QJsonArray json = cells({QStringLiteral("Nonsense")});
     ORV_VERIFY_OK(column.assignFromJson(json, {}, ValidationOption::SkipTypeValidation));
     QCOMPARE(column.item(0)->type(), BaseItemType::Unknown);
-    QCOMPARE(column.toJson(PropertyConversionFlag::KeepPaths), json);
+    QCOMPARE(Documents::withoutStamps(column.toJson(PropertyConversionFlag::KeepPaths)), QJsonValue(json));
 }
 
 void TestItemSubGroup::anEmptyObjectStopsTheLoadWithoutAMessage_data()
