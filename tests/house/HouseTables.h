@@ -28,6 +28,8 @@ inline constexpr std::array kFloors = {
     // and readers ask them, and they ask the catalogue what a name means.
     Floor{"propertyeditor/include/orv/propertyeditor/content/BaseItemType", 31, "catalogue"},
     Floor{"propertyeditor/src/content/BaseItemType", 31, "catalogue"},
+    Floor{"propertyeditor/include/orv/propertyeditor/content/CellPlace", 31, "catalogue"},
+    Floor{"propertyeditor/src/content/CellPlace", 31, "catalogue"},
     Floor{"propertyeditor/include/orv/propertyeditor/content/ContentOptions.h", 31, "catalogue"},
     Floor{"propertyeditor/include/orv/propertyeditor/content/LoadContext", 31, "catalogue"},
     Floor{"propertyeditor/src/content/LoadContext", 31, "catalogue"},

@@ -33,6 +33,15 @@ const std::vector<CommandRow> &commandRows()
          "orv-workflow info examples/workflows", createInfoCommand},
         {"convert", "Load a workflow into objects and write it again",
          "orv-workflow convert old.wflw -o new.wflw --stamp", createConvertCommand},
+        {"get", "Show the settings in a cell", "orv-workflow get study.wflw --tab Search --column 0 --row 0",
+         createGetCommand},
+        {"set", "Change settings in a cell",
+         "orv-workflow set study.wflw --tab Search --column 0 KarvonMinPeaks=5 -o new.wflw",
+         createSetCommand},
+        {"table", "Show the table in a cell",
+         "orv-workflow table study.wflw --tab Sequences --column 0 --csv", createTableCommand},
+        {"properties", "Explain the settings that cells may hold", "orv-workflow properties 55",
+         createPropertiesCommand},
         {"types", "List the workflow types and the cell types", "orv-workflow types --json",
          createTypesCommand},
     };
@@ -70,6 +79,11 @@ int printJson(const QJsonArray &array)
 int printText(const QString &text)
 {
     return print(text.toLocal8Bit());
+}
+
+int printBytes(const QByteArray &bytes)
+{
+    return print(bytes);
 }
 
 } // namespace orv::cli

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
@@ -51,6 +52,10 @@ struct CommandRow
 
 std::unique_ptr<Command> createInfoCommand();
 std::unique_ptr<Command> createConvertCommand();
+std::unique_ptr<Command> createGetCommand();
+std::unique_ptr<Command> createPropertiesCommand();
+std::unique_ptr<Command> createSetCommand();
+std::unique_ptr<Command> createTableCommand();
 std::unique_ptr<Command> createTypesCommand();
 
 /// The argument as it may be given to the parser, which takes "[a,b]" apart as a list: such a path gets a
@@ -65,5 +70,7 @@ std::unique_ptr<Command> createTypesCommand();
 [[nodiscard]] int printJson(const QJsonObject &object);
 [[nodiscard]] int printJson(const QJsonArray &array);
 [[nodiscard]] int printText(const QString &text);
+/// Bytes as they stand, such as those of a file format.
+[[nodiscard]] int printBytes(const QByteArray &bytes);
 
 } // namespace orv::cli

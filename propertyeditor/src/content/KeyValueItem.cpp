@@ -1,3 +1,5 @@
+#include "ItemCreators.h"
+
 #include <KPropertyListData>
 #include <KPropertySet>
 #include <orv/core/Logging.h>
@@ -34,6 +36,11 @@ QString textOf(const KProperty &property)
 }
 
 } // namespace
+
+bool KeyValueItem::holds(BaseItemType type)
+{
+    return qobject_cast<KeyValueItem *>(createItem(type).get());
+}
 
 KeyValueItem::KeyValueItem(BaseItemType type)
     : BaseItem(type)

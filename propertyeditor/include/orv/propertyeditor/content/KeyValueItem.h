@@ -25,6 +25,9 @@ class ORV_WORKFLOW_EXPORT KeyValueItem : public BaseItem
     Q_PROPERTY(int size READ count NOTIFY countChanged)
 
 public:
+    /// Whether cells of that type are cells of settings.
+    [[nodiscard]] static bool holds(BaseItemType type);
+
     explicit KeyValueItem(BaseItemType type);
     ~KeyValueItem() override;
 

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Failure.h"
+
+#include <orv/propertyeditor/content/CellPlace.h>
+
+#include <QJsonObject>
+
+#include <string>
+#include <variant>
+
+namespace CLI {
+class App;
+}
+
+namespace orv::cli {
+
+/// A cell in a document that was read.
+struct FoundCell
+{
+    QJsonObject document;
+    CellPlace place;
+    QJsonObject cell;
+};
+
+/// FILE and the options that name one of its cells.
+class CellArgument
+{
+public:
+    void declare(CLI::App &app);
+    [[nodiscard]] QString file() const;
+    /// The cell, or why there is none: an unreadable file, or wrong usage.
+    [[nodiscard]] std::variant<FoundCell, Failure> find() const;
+
+private:
+    std::string m_file;
+    std::string m_tab;
+    std::string m_column;
+    int m_row = 0;
+};
+
+} // namespace orv::cli

@@ -1,0 +1,32 @@
+#include "SettingsCell.h"
+
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+
+namespace orv::cli {
+
+using namespace PropertyEditorStringConstants;
+using PropertyEditor::KeyValueItem;
+using PropertyEditor::LoadContext;
+
+std::variant<SettingsCell, Failure> settingsOf(const FoundCell &found)
+{
+    const BaseItemType type = baseItemTypeFromString(found.cell.value(TYPE_KEY).toString());
+    if (type == BaseItemType::Unknown || !KeyValueItem::holds(type)) {
+        return Failure{
+            Negative, 0,
+            QStringLiteral("The cell of type \"%1\" holds no settings; orv-workflow info shows which "
+                           "cells there are.")
+                .arg(found.cell.value(TYPE_KEY).toString())};
+    }
+    LossCollector losses;
+    SettingsCell settings{std::make_unique<KeyValueItem>(type), {}};
+    settings.item->setLoadContext(
+        LoadContext(&losses, QStringLiteral("/tabs/%1/cells/%2").arg(found.place.tab).arg(found.place.cell)));
+    if (const Error error = settings.item->assignFromJson(found.cell, {}); error.hasError())
+        return failureFrom(error, BadInput);
+    settings.item->setLoadContext({});
+    settings.lost = losses.losses();
+    return settings;
+}
+
+} // namespace orv::cli

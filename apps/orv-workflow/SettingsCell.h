@@ -1,0 +1,23 @@
+#pragma once
+
+#include "CellArgument.h"
+
+#include <orv/core/LossObserver.h>
+#include <orv/propertyeditor/content/KeyValueItem.h>
+
+#include <memory>
+#include <variant>
+
+namespace orv::cli {
+
+/// A cell of settings, and what its load dropped.
+struct SettingsCell
+{
+    std::unique_ptr<PropertyEditor::KeyValueItem> item;
+    QList<Loss> lost;
+};
+
+/// The found cell as settings; a cell of another kind is a negative answer.
+[[nodiscard]] std::variant<SettingsCell, Failure> settingsOf(const FoundCell &found);
+
+} // namespace orv::cli

@@ -1,0 +1,136 @@
+#include "../Console.h"
+#include "../SettingsCell.h"
+#include "Command.h"
+
+#include <KPropertySet>
+#include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/PropertySetCreator.h>
+
+#include <QJsonDocument>
+
+#include <CLI/CLI.hpp>
+
+namespace orv::cli {
+
+namespace {
+
+using PropertyEditor::PropertyConversionFlag;
+
+QJsonObject entryOf(const KProperty &property, const KPropertySet &set)
+{
+    const QString name = QString::fromUtf8(property.name());
+    const QByteArray group = set.groupNameForProperty(property);
+    return {
+        {QStringLiteral("name"), name},
+        {QStringLiteral("id"), int(PropertiesNames::findPropertyForName(name))},
+        {QStringLiteral("type"), property.type()},
+        {QStringLiteral("group"), QString::fromUtf8(group)},
+        {QStringLiteral("groupCaption"), set.groupCaption(group)},
+        {QStringLiteral("priority"), property.option("priority", -1).toInt()},
+        {QStringLiteral("value"),
+         PropertySetCreator::valueToJson(property, PropertyConversionFlag::KeepPaths)},
+    };
+}
+
+QString line(const KProperty &property)
+{
+    const QJsonValue value = PropertySetCreator::valueToJson(property, PropertyConversionFlag::KeepPaths);
+    const QVariant shown = property.type() == KProperty::ValueFromList ? property.value() : value.toVariant();
+    const QString text = value.isObject() || value.isArray()
+                             ? QString::fromUtf8((value.isObject() ? QJsonDocument(value.toObject())
+                                                                   : QJsonDocument(value.toArray()))
+                                                     .toJson(QJsonDocument::Compact))
+                             : shown.toString();
+    return QStringLiteral("  %1 %2\n").arg(property.captionOrName(), -44).arg(withoutControls(text));
+}
+
+class GetCommand : public Command
+{
+public:
+    void declare(CLI::App &app) override
+    {
+        m_cell.declare(app);
+        app.add_option("NAME", m_names, "Names of properties (default: all)");
+    }
+
+    int run(const GlobalOptions &options) override
+    {
+        const auto found = m_cell.find();
+        if (const auto *failure = std::get_if<Failure>(&found))
+            return fail(*failure, options);
+        const auto settings = settingsOf(std::get<FoundCell>(found));
+        if (const auto *failure = std::get_if<Failure>(&settings))
+            return fail(*failure, options);
+        const auto &[item, lost] = std::get<SettingsCell>(settings);
+        for (const Loss &loss : lost)
+            printRemark(m_cell.file(),
+                        QStringLiteral("lost: %1: %2: %3").arg(loss.path, loss.what, loss.why));
+        for (const QString &name : decoded(m_names)) {
+            if (!item->contains(name))
+                return fail({WrongUsage, 0, QStringLiteral("The cell has no property \"%1\".").arg(name)},
+                            options);
+        }
+        return options.json ? printJson(toJson(*item)) : printText(toText(*item));
+    }
+
+private:
+    int fail(const Failure &failure, const GlobalOptions &options) const
+    {
+        printFailure(m_cell.file(), failure);
+        const int printed = options.json
+                                ? printJson(QJsonObject{{QStringLiteral("error"), orv::cli::toJson(failure)}})
+                                : Done;
+        return std::max<int>(failure.exitCode, printed);
+    }
+
+    [[nodiscard]] bool isWanted(const KProperty &property) const
+    {
+        const QStringList names = decoded(m_names);
+        return names.isEmpty() ? !property.name().startsWith(':')
+                               : names.contains(QString::fromUtf8(property.name()));
+    }
+
+    [[nodiscard]] QJsonObject toJson(const PropertyEditor::KeyValueItem &item) const
+    {
+        QJsonArray properties;
+        for (KPropertySetIterator it(*item.propertySet()); it.current(); ++it) {
+            if (isWanted(*it.current()))
+                properties.append(entryOf(*it.current(), *item.propertySet()));
+        }
+        return {{QStringLiteral("type"), item.typeString()},
+                {QStringLiteral("name"), item.name()},
+                {QStringLiteral("title"), item.title()},
+                {QStringLiteral("properties"), properties},
+                {QStringLiteral("error"), QJsonValue()}};
+    }
+
+    [[nodiscard]] QString toText(const PropertyEditor::KeyValueItem &item) const
+    {
+        const KPropertySet &set = *item.propertySet();
+        QString text;
+        for (const QByteArray &group : set.groupNames()) {
+            QString lines;
+            for (const QByteArray &name : set.propertyNamesForGroup(group)) {
+                const KProperty &property = set.property(name);
+                if (isWanted(property))
+                    lines += line(property);
+            }
+            if (!lines.isEmpty())
+                text += styled(withoutControls(set.groupCaption(group)), Style::Heading) + QLatin1Char('\n') +
+                        lines;
+        }
+        return text;
+    }
+
+    CellArgument m_cell;
+    std::vector<std::string> m_names;
+};
+
+} // namespace
+
+std::unique_ptr<Command> createGetCommand()
+{
+    return std::make_unique<GetCommand>();
+}
+
+} // namespace orv::cli

@@ -1,0 +1,154 @@
+#include "../Console.h"
+#include "../Inputs.h"
+#include "../SettingsCell.h"
+#include "Command.h"
+
+#include <KPropertySet>
+#include <orv/core/FileUtils.h>
+#include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/PropertyText.h>
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
+
+#include <QFileInfo>
+#include <QJsonDocument>
+
+#include <CLI/CLI.hpp>
+
+namespace orv::cli {
+
+namespace {
+
+using PropertyEditor::KeyValueItem;
+using PropertyEditor::PropertyConversionFlag;
+
+struct Assignment
+{
+    QString name;
+    QString text;
+};
+
+class SetCommand : public Command
+{
+public:
+    void declare(CLI::App &app) override
+    {
+        m_cell.declare(app);
+        app.add_option("NAME=VALUE", m_assignments, "Properties with their new values")->required();
+        app.add_option("-o,--output", m_output, "Where to write; - for standard output")->required();
+    }
+
+    int run(const GlobalOptions &options) override
+    {
+        const std::optional<Failure> failure = change();
+        if (failure)
+            printFailure(failure->exitCode == BadOutput ? decoded(m_output) : m_cell.file(), *failure);
+        int exitCode = failure ? failure->exitCode : Done;
+        const bool workflowIsPrinted = !failure && decoded(m_output) == kStandardInput;
+        if (options.json && !workflowIsPrinted)
+            exitCode = std::max(exitCode, printJson(report(failure)));
+        return exitCode;
+    }
+
+private:
+    std::optional<Failure> change()
+    {
+        const auto found = m_cell.find();
+        if (const auto *failure = std::get_if<Failure>(&found))
+            return *failure;
+        const auto &cell = std::get<FoundCell>(found);
+        if (const std::optional<Failure> refusal = refuseNewer(cell.document))
+            return refusal;
+        const auto settings = settingsOf(cell);
+        if (const auto *failure = std::get_if<Failure>(&settings))
+            return *failure;
+        const auto &[item, lost] = std::get<SettingsCell>(settings);
+        for (const Loss &loss : lost)
+            printRemark(m_cell.file(),
+                        QStringLiteral("lost: %1: %2: %3").arg(loss.path, loss.what, loss.why));
+        if (const std::optional<Failure> failure = assignAll(cell.document, item.get()))
+            return failure;
+        return write(cell.place.replacedIn(cell.document, item->toJson(PropertyConversionFlag::KeepPaths)));
+    }
+
+    /// A document of a newer format may hold in this cell what this version doesn't know.
+    static std::optional<Failure> refuseNewer(const QJsonObject &document)
+    {
+        const PropertyEditorContent content(document);
+        const QVersionNumber version = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());
+        if (version.majorVersion() <= WflwMetaData::WORKFLOW_JSON_VERSION_MAJOR)
+            return {};
+        return Failure{Negative, 0,
+                       QStringLiteral("The document has the newer version %1 and is not changed; use the "
+                                      "software that wrote it.")
+                           .arg(version.toString())};
+    }
+
+    std::optional<Failure> assignAll(const QJsonObject &document, KeyValueItem *item)
+    {
+        const auto mode = WflwMetaData::contentMode(PropertyEditorContent(document).metadata());
+        for (const QString &argument : decoded(m_assignments)) {
+            const qsizetype end = argument.indexOf(QLatin1Char('='));
+            if (end <= 0)
+                return Failure{WrongUsage, 0,
+                               QStringLiteral("\"%1\" is not of the form NAME=VALUE.").arg(argument)};
+            if (const auto failure = assign({argument.left(end), argument.mid(end + 1)}, mode, item))
+                return failure;
+        }
+        return {};
+    }
+
+    std::optional<Failure> assign(const Assignment &assignment, PropertyEditorContent::ContentMode mode,
+                                  KeyValueItem *item)
+    {
+        const PropertyId id = PropertiesNames::findPropertyForName(assignment.name);
+        const QString key = PropertiesNames::internalNameForType(id);
+        if (id == PropertyId::NoProperty || !item->contains(key))
+            return Failure{WrongUsage, 0,
+                           QStringLiteral("The cell has no property \"%1\".").arg(assignment.name)};
+        const KProperty &property = item->propertySet()->property(key.toUtf8());
+        const Result<QVariant> value = PropertyText::toValue(id, assignment.text, property, mode);
+        if (value.hasError())
+            return failureFrom(value.error(), Negative);
+        if (!item->setValue(key, *value))
+            return Failure{Negative, 0, QStringLiteral("The value of \"%1\" can't be changed.").arg(key)};
+        m_changed.append(key);
+        return {};
+    }
+
+    [[nodiscard]] std::optional<Failure> write(const QJsonObject &document) const
+    {
+        const QByteArray bytes = QJsonDocument(document).toJson();
+        const QString output = decoded(m_output);
+        if (output == kStandardInput) {
+            if (writeStandardOutput(bytes))
+                return {};
+            return Failure{BadOutput, 0, QStringLiteral("The standard output can't be written.")};
+        }
+        QString deviceError;
+        if (FileUtils::writeToFile(output, bytes, &deviceError) == QFileDevice::NoError)
+            return {};
+        return Failure{BadOutput, int(ErrorCode::CannotOpenFile),
+                       QStringLiteral("The file can't be written: %1").arg(deviceError)};
+    }
+
+    [[nodiscard]] QJsonObject report(const std::optional<Failure> &failure) const
+    {
+        return {{QStringLiteral("output"), failure ? QJsonValue() : QJsonValue(decoded(m_output))},
+                {QStringLiteral("changed"), failure ? QJsonArray() : QJsonArray::fromStringList(m_changed)},
+                {QStringLiteral("error"), failure ? QJsonValue(orv::cli::toJson(*failure)) : QJsonValue()}};
+    }
+
+    CellArgument m_cell;
+    std::vector<std::string> m_assignments;
+    std::string m_output;
+    QStringList m_changed;
+};
+
+} // namespace
+
+std::unique_ptr<Command> createSetCommand()
+{
+    return std::make_unique<SetCommand>();
+}
+
+} // namespace orv::cli

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <orv/core/Export.h>
+#include <orv/core/Result.h>
+#include <orv/propertyeditor/PropertyId.h>
+#include <orv/propertyeditor/content/PropertyEditorContent.h>
+
+#include <QString>
+#include <QVariant>
+
+class KProperty;
+
+/// Values of settings as people type them.
+namespace orv::PropertyText {
+
+/// What \a property takes, for people: "a whole number in [0;100]", "one of: A, B". Ends without a full stop.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QString legalValues(PropertyId id, const KProperty &property);
+
+/// The value that \a text means for \a property, in the form that a property set holds: numbers as such, true
+/// and false in any of the words that files know, a list's text, key or position, JSON for tables and other
+/// objects, texts of a checkable list separated by commas. InvalidContent, with the legal values as detail,
+/// for a text that means none and for a value that breaks the property's rule. Rules that ask the disk are
+/// left to the check of the whole workflow, for paths may count from the workflow's folder.
+[[nodiscard]] ORV_WORKFLOW_EXPORT Result<QVariant> toValue(PropertyId id, const QString &text,
+                                                           const KProperty &property,
+                                                           PropertyEditorContent::ContentMode mode);
+
+} // namespace orv::PropertyText

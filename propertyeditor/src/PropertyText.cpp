@@ -1,0 +1,203 @@
+#include "PropertyValueForms.h"
+
+#include <KProperty>
+#include <orv/core/JsonUtils.h>
+#include <orv/propertyeditor/PropertiesCsvReader.h>
+#include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/PropertiesTraits.h>
+#include <orv/propertyeditor/PropertyText.h>
+#include <orv/propertyeditor/UserVisibleListConverter.h>
+#include <orv/resources/ResourceReference.h>
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+
+#include <array>
+#include <cmath>
+
+namespace orv::PropertyText {
+
+namespace {
+
+using Read = std::optional<QVariant>;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("PropertyText", text);
+}
+
+Read toSwitch(const QString &text)
+{
+    static constexpr std::array kTrue = {"true", "yes", "ok", "on", "1"};
+    static constexpr std::array kFalse = {"false", "no", "off", "0"};
+    const auto isOneOf = [word = text.trimmed().toLower()](const auto &words) {
+        return std::ranges::any_of(words, [&word](const char *each) { return word == QLatin1String(each); });
+    };
+    if (isOneOf(kTrue))
+        return true;
+    return isOneOf(kFalse) ? Read(false) : std::nullopt;
+}
+
+Read toInteger(const QString &text)
+{
+    bool ok = false;
+    const int number = text.trimmed().toInt(&ok);
+    return ok ? Read(number) : std::nullopt;
+}
+
+Read toNumber(const QString &text)
+{
+    bool ok = false;
+    const double number = text.trimmed().toDouble(&ok);
+    return ok && std::isfinite(number) ? Read(number) : std::nullopt;
+}
+
+Read toReference(const QString &text)
+{
+    if (text.isEmpty())
+        return QVariant::fromValue(ResourceReferenceSPtr());
+    const auto reference = ResourceReference::fromString(text);
+    return reference ? Read(QVariant::fromValue(*reference)) : std::nullopt;
+}
+
+Read toObject(const QString &text)
+{
+    const auto object = JsonUtils::objectFromJson(text.toUtf8());
+    return object ? Read(QJsonDocument(*object).toJson(QJsonDocument::Indented)) : std::nullopt;
+}
+
+Read toCheckedTexts(PropertyId id, const QString &text)
+{
+    const QStringList available = UserVisibleListConverter::valuesForCheckableList(id);
+    QStringList chosen;
+    for (const QString &part : text.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        if (!available.contains(part.trimmed()))
+            return {};
+        chosen.append(part.trimmed());
+    }
+    return chosen;
+}
+
+/// A text or key that users see or files hold, or a position in the list.
+Read toListValue(PropertyId id, const QString &text)
+{
+    QStringList keys;
+    QStringList texts;
+    UserVisibleListConverter::keysAndValuesForList(id, &keys, &texts);
+    if (keys.contains(text))
+        return text;
+    if (const qsizetype position = texts.indexOf(text); position >= 0)
+        return keys.at(position);
+    if (UserVisibleListConverter::isEditableList(id))
+        return text;
+    bool isNumber = false;
+    const int position = text.toInt(&isNumber);
+    const bool byPosition = isNumber && UserVisibleListConverter::listItemsMap().contains(id);
+    return byPosition && position >= 0 && position < keys.size() ? Read(keys.at(position)) : std::nullopt;
+}
+
+Read readText(PropertyId id, const QString &text, const KProperty &property)
+{
+    switch (property.type()) {
+    case KProperty::Bool:
+        return toSwitch(text);
+    case KProperty::Int:
+        return toInteger(text);
+    case KProperty::Double:
+        return toNumber(text);
+    case KProperty::ValueFromList:
+        return toListValue(id, text);
+    case PropertiesTraits::ResourceReferenceType:
+        return toReference(text);
+    case PropertiesTraits::ObjectType:
+        return toObject(text);
+    case PropertiesTraits::CheckableListType:
+        return toCheckedTexts(id, text);
+    default:
+        return text;
+    }
+}
+
+QString rangeOf(PropertyId id)
+{
+    const PropertiesCsvReader &catalogue = PropertiesCsvReader::instance();
+    return catalogue.verificationFunction(id) == QLatin1String("range")
+               ? tr(" in %1").arg(catalogue.verificationParameters(id).trimmed())
+               : QString();
+}
+
+QString legalListValues(PropertyId id)
+{
+    QStringList keys;
+    QStringList texts;
+    UserVisibleListConverter::keysAndValuesForList(id, &keys, &texts);
+    QStringList entries;
+    for (qsizetype i = 0; i < keys.size(); ++i) {
+        entries.append(keys.at(i) == texts.at(i) ? QStringLiteral("\"%1\"").arg(texts.at(i))
+                                                 : tr("%1 for \"%2\"").arg(keys.at(i), texts.at(i)));
+    }
+    const QString list = entries.join(QLatin1String(", "));
+    return UserVisibleListConverter::isEditableList(id) ? tr("any text, such as %1").arg(list)
+                                                        : tr("one of: %1").arg(list);
+}
+
+bool asksTheDisk(PropertyId id)
+{
+    static constexpr std::array kKeywords = {"local-url", "local-or-talvane-url", "glycans"};
+    const QString keyword = PropertiesCsvReader::instance().verificationFunction(id);
+    return std::ranges::any_of(kKeywords, [&](const char *each) { return keyword == QLatin1String(each); });
+}
+
+/// What the property's rule says against \a value; nothing if it passes.
+std::optional<QStringList> objectionsTo(PropertyId id, const QVariant &value,
+                                        PropertyEditorContent::ContentMode mode)
+{
+    const VerificationFunction rule = PropertiesNames::names()->value(id).verification;
+    QStringList errors;
+    QStringList warnings;
+    if (!rule || asksTheDisk(id) || rule(id, value, mode, &errors, &warnings))
+        return {};
+    return errors;
+}
+
+} // namespace
+
+QString legalValues(PropertyId id, const KProperty &property)
+{
+    switch (property.type()) {
+    case KProperty::Bool:
+        return tr("true or false");
+    case KProperty::Int:
+        return tr("a whole number") + rangeOf(id);
+    case KProperty::Double:
+        return tr("a number") + rangeOf(id);
+    case KProperty::ValueFromList:
+        return legalListValues(id);
+    case PropertiesTraits::ResourceReferenceType:
+        return tr("a path or the text of a reference");
+    case PropertiesTraits::ObjectType:
+        return tr("a JSON object");
+    case PropertiesTraits::CheckableListType:
+        return tr("any of these, separated by commas: %1")
+            .arg(UserVisibleListConverter::valuesForCheckableList(id).join(QLatin1String(", ")));
+    default:
+        return tr("a text");
+    }
+}
+
+Result<QVariant> toValue(PropertyId id, const QString &text, const KProperty &property,
+                         PropertyEditorContent::ContentMode mode)
+{
+    const Read value = readText(id, text, property);
+    const std::optional<QStringList> objections = value ? objectionsTo(id, *value, mode) : QStringList();
+    if (!objections)
+        return *value;
+    Error error(ErrorCode::InvalidContent,
+                tr("The value \"%1\" is not allowed for %2.").arg(text, QString::fromUtf8(property.name())));
+    for (const QString &objection : *objections)
+        error.addDetail(objection);
+    error.addDetail(tr("Allowed: %1.").arg(legalValues(id, property)));
+    return error;
+}
+
+} // namespace orv::PropertyText
