@@ -108,20 +108,28 @@ QJsonObject writeConnection(const TalvaneMetadataMappingConnection &connection)
 
 struct CacheEntry
 {
-    QString reference;
+    QString text;
     QList<TalvaneExtendedMetaDataValue> values;
     QJsonObject unknownMembers;
 };
 
 Result<CacheEntry> readCacheEntry(const QJsonObject &object)
 {
-    Result<QString> reference = JsonUtils::stringValue(object, kReferenceKey);
-    if (reference.hasError())
-        return reference.ecatch();
+    Result<QString> text = JsonUtils::stringValue(object, kReferenceKey);
+    if (text.hasError())
+        return text.ecatch();
     Result<QList<TalvaneExtendedMetaDataValue>> values = readList(object, kValuesKey, readValue);
     if (values.hasError())
         return values.ecatch();
-    return CacheEntry{*reference, *values, without(object, {kReferenceKey, kValuesKey})};
+    return CacheEntry{*text, *values, without(object, {kReferenceKey, kValuesKey})};
+}
+
+QJsonObject writeCacheEntry(const CacheEntry &entry)
+{
+    QJsonObject object = entry.unknownMembers;
+    object.insert(kReferenceKey, entry.text);
+    object.insert(kValuesKey, writeList(entry.values, writeValue));
+    return object;
 }
 
 /// Adds \a members to those of an entry of the same reference; false when both have one with different
@@ -152,13 +160,18 @@ Result<ExtendedMetadataInfo> ExtendedMetadataInfo::fromJson(const QJsonObject &j
     info.m_connections = *connections;
     info.m_unknown = without(json, {kCacheKey, kConnectionsKey});
     for (const CacheEntry &entry : *entries) {
-        info.m_cache[entry.reference] += entry.values;
+        const Result<ResourceReferenceSPtr> reference = ResourceReference::fromString(entry.text);
+        if (reference.hasError()) {
+            info.m_entriesWithoutReference.append(writeCacheEntry(entry));
+            continue;
+        }
+        info.m_cache[*reference] += entry.values;
         if (entry.unknownMembers.isEmpty())
             continue;
-        if (!unite(&info.m_unknownOfCacheEntries[entry.reference], entry.unknownMembers)) {
-            return Error(ErrorCode::InvalidContent,
-                         Tr::tr("Two entries of the reference \"%1\" differ in \"%2\".")
-                             .arg(entry.reference, kCacheKey));
+        if (!unite(&info.m_unknownOfCacheEntries[*reference], entry.unknownMembers)) {
+            return Error(
+                ErrorCode::InvalidContent,
+                Tr::tr("Two entries of the reference \"%1\" differ in \"%2\".").arg(entry.text, kCacheKey));
         }
     }
     return info;
@@ -172,15 +185,17 @@ void ExtendedMetadataInfo::setMetadataCache(const MetadataCache &cache)
 
 QJsonObject ExtendedMetadataInfo::toJson() const
 {
-    QStringList references = m_cache.keys();
-    std::sort(references.begin(), references.end());
-    QJsonArray cache;
-    for (const QString &reference : references) {
-        QJsonObject entry = m_unknownOfCacheEntries.value(reference);
-        entry.insert(kReferenceKey, reference);
-        entry.insert(kValuesKey, writeList(m_cache.value(reference), writeValue));
-        cache.append(entry);
+    QList<QJsonObject> entries = m_entriesWithoutReference;
+    for (auto it = m_cache.begin(); it != m_cache.end(); ++it) {
+        const QString text = ResourceReferenceUtils::toString(it.key().reference());
+        entries.append(writeCacheEntry({text, it.value(), m_unknownOfCacheEntries.value(it.key())}));
     }
+    std::stable_sort(entries.begin(), entries.end(), [](const QJsonObject &a, const QJsonObject &b) {
+        return a.value(kReferenceKey).toString() < b.value(kReferenceKey).toString();
+    });
+    QJsonArray cache;
+    for (const QJsonObject &entry : std::as_const(entries))
+        cache.append(entry);
     QJsonObject json = m_unknown;
     json.insert(kCacheKey, cache);
     json.insert(kConnectionsKey, writeList(m_connections, writeConnection));

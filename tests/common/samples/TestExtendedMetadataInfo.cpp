@@ -17,6 +17,11 @@ QJsonObject parsed(const QByteArray &json)
     return document.object();
 }
 
+ResourceReferenceSPtr reference(const QString &text)
+{
+    return ResourceReference::fromString(text).valueOr({});
+}
+
 } // namespace
 
 class TestExtendedMetadataInfo : public OrvTest
@@ -32,6 +37,8 @@ private Q_SLOTS:
     void whatIsReadIsWritten();
     void cacheEntriesAreWrittenInTheOrderOfTheirReferences();
     void entriesOfOneReferenceAreJoined();
+    void referencesAreToldByWhatTheyName();
+    void entriesWhoseTextIsNoReferenceAreKept();
     void malformedMembersAreRefused_data();
     void malformedMembersAreRefused();
     void settersReplaceAndUnknownMembersStay();
@@ -67,19 +74,19 @@ void TestExtendedMetadataInfo::missingMembersReadAsEmpty()
 void TestExtendedMetadataInfo::membersAreRead()
 {
     const Result<ExtendedMetadataInfo> info = ExtendedMetadataInfo::fromJson(parsed(R"({
-        "metadataCache": [{"reference": "unifi:1", "values": [{"attribute": "Column temperature", "value": 60},
+        "metadataCache": [{"reference": "unifi:/h/1", "values": [{"attribute": "Column temperature", "value": 60},
                                                               {"attribute": "Operator", "value": "Ada"}]},
-                          {"reference": "unifi:2"}],
+                          {"reference": "unifi:/h/2"}],
         "metadataMappingConnections": [{"attribute": "Operator", "target": 1}, {"attribute": "pI", "target": 2}]})"));
     ORV_VERIFY_OK(info);
     const ExtendedMetadataInfo::MetadataCache cache = info->metadataCache();
     QCOMPARE(cache.size(), 2);
-    const QList<TalvaneExtendedMetaDataValue> values = cache.value(u"unifi:1"_s);
+    const QList<TalvaneExtendedMetaDataValue> values = cache.value(reference(u"unifi:/h/1"_s));
     QCOMPARE(values.size(), 2);
     QCOMPARE(values[0].attribute, u"Column temperature"_s);
     QCOMPARE(values[0].value, QJsonValue(60));
     QCOMPARE(values[1].value, QJsonValue(u"Ada"_s));
-    QVERIFY(cache.value(u"unifi:2"_s).isEmpty());
+    QVERIFY(cache.value(reference(u"unifi:/h/2"_s)).isEmpty());
     const QList<TalvaneMetadataMappingConnection> connections = info->metadataMappingConnections();
     QCOMPARE(connections.size(), 2);
     QCOMPARE(connections[0].target, MappingTarget::Samples);
@@ -150,6 +157,35 @@ void TestExtendedMetadataInfo::entriesOfOneReferenceAreJoined()
         "values":[{"attribute":"a","value":1},{"attribute":"b","value":2}],"first":1,"second":2,"both":3})")}));
 }
 
+void TestExtendedMetadataInfo::referencesAreToldByWhatTheyName()
+{
+    const Result<ExtendedMetadataInfo> info = ExtendedMetadataInfo::fromJson(parsed(R"({"metadataCache":[
+        {"reference":"C:\\data\\a.raw","values":[{"attribute":"a","value":1}]},
+        {"reference":"c:/DATA/a.raw","values":[{"attribute":"b","value":2}]}]})"));
+    ORV_VERIFY_OK(info);
+    QCOMPARE(info->metadataCache().size(), 1);
+    QCOMPARE(info->metadataCache().value(reference(u"C:/data/a.raw"_s)).size(), 2);
+    QVERIFY(!info->metadataCache().contains(reference(u"C:/data/b.raw"_s)));
+    const QJsonObject entry = info->toJson().value(u"metadataCache"_s).toArray().at(0).toObject();
+    QCOMPARE(entry.value(u"reference"_s).toString(), u"C:\\data\\a.raw"_s);
+}
+
+void TestExtendedMetadataInfo::entriesWhoseTextIsNoReferenceAreKept()
+{
+    const LogCapture log;
+    const QJsonObject json = parsed(R"({"metadataCache":[
+        {"reference":"a.raw","values":[]},
+        {"reference":"https://example.org/a","values":[{"attribute":"a","value":1,"x":2}],"y":3},
+        {"reference":"unifi:broken","values":[]},{"reference":"z.raw","values":[]}],
+        "metadataMappingConnections":[]})");
+    Result<ExtendedMetadataInfo> info = ExtendedMetadataInfo::fromJson(json);
+    ORV_VERIFY_OK(info);
+    QCOMPARE(info->metadataCache().size(), 2);
+    QCOMPARE(info->toJson(), json);
+    info->setMetadataCache({});
+    QCOMPARE(info->toJson().value(u"metadataCache"_s).toArray().size(), 2);
+}
+
 void TestExtendedMetadataInfo::malformedMembersAreRefused_data()
 {
     QTest::addColumn<QByteArray>("json");
@@ -211,7 +247,7 @@ void TestExtendedMetadataInfo::settersReplaceAndUnknownMembersStay()
     Result<ExtendedMetadataInfo> info = ExtendedMetadataInfo::fromJson(
         parsed(R"({"metadataCache":[{"reference":"r","values":[],"x":1}],"server":"s"})"));
     ORV_VERIFY_OK(info);
-    info->setMetadataCache({{u"r"_s, {{u"a"_s, 1, {}}}}});
+    info->setMetadataCache({{reference(u"r"_s), {{u"a"_s, 1, {}}}}});
     info->setMetadataMappingConnections({{u"a"_s, MappingTarget::Samples, {}}});
     QCOMPARE(info->toJson(),
              parsed(R"({"metadataCache":[{"reference":"r","values":[{"attribute":"a","value":1}],
@@ -225,7 +261,7 @@ void TestExtendedMetadataInfo::membersOfARemovedReferenceDoNotComeBack()
     ORV_VERIFY_OK(info);
     info->setMetadataCache({});
     QVERIFY(*info == ExtendedMetadataInfo());
-    info->setMetadataCache({{u"r"_s, {}}});
+    info->setMetadataCache({{reference(u"r"_s), {}}});
     QCOMPARE(info->toJson().value(u"metadataCache"_s).toArray(),
              QJsonArray({parsed(R"({"reference":"r","values":[]})")}));
 }

@@ -2,6 +2,7 @@
 
 #include <orv/core/Export.h>
 #include <orv/core/Result.h>
+#include <orv/resources/ResourceReferenceKey.h>
 #include <orv/samples/MetadataMapping.h>
 
 #include <QHash>
@@ -16,21 +17,23 @@ namespace orv {
 ///
 /// JSON form: {"metadataCache": [{"reference": text, "values": [{"attribute", "value"}]}],
 /// "metadataMappingConnections": [{"attribute", "target": number}]}. Cache entries are written in the order
-/// of their references. Members that this version doesn't know are kept and written back, at every level.
+/// of their texts. Members that this version doesn't know are kept and written back, at every level.
 /// A plain value.
 class ORV_WORKFLOW_EXPORT ExtendedMetadataInfo
 {
 public:
-    /// By the text form of a resource reference.
-    using MetadataCache = QHash<QString, QList<TalvaneExtendedMetaDataValue>>;
+    /// By what a reference names, so that any ResourceReferenceSPtr finds the values of its resource.
+    using MetadataCache = QHash<ResourceReferenceKey, QList<TalvaneExtendedMetaDataValue>>;
 
     /// Missing members read as empty. A member of the wrong type fails with InvalidContent, naming it.
-    /// Entries of one reference are joined.
+    /// Entries of one reference are joined, under the text of the first. An entry whose text is no reference
+    /// can't be looked up, and is kept for toJson.
     [[nodiscard]] static Result<ExtendedMetadataInfo> fromJson(const QJsonObject &json);
     [[nodiscard]] QJsonObject toJson() const;
 
     [[nodiscard]] MetadataCache metadataCache() const { return m_cache; }
-    /// Members of an entry that this version doesn't know stay with its reference, and go with it.
+    /// Members of an entry that this version doesn't know stay with its reference, and go with it. Entries
+    /// whose text is no reference stay.
     void setMetadataCache(const MetadataCache &cache);
 
     [[nodiscard]] QList<TalvaneMetadataMappingConnection> metadataMappingConnections() const
@@ -48,7 +51,8 @@ private:
     MetadataCache m_cache;
     QList<TalvaneMetadataMappingConnection> m_connections;
     QJsonObject m_unknown;
-    QHash<QString, QJsonObject> m_unknownOfCacheEntries;
+    QHash<ResourceReferenceKey, QJsonObject> m_unknownOfCacheEntries;
+    QList<QJsonObject> m_entriesWithoutReference;
 };
 
 } // namespace orv
