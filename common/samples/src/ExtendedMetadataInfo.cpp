@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QJsonArray>
+#include <QSet>
 
 #include <algorithm>
 
@@ -17,6 +18,7 @@ constexpr QLatin1String kValuesKey("values");
 constexpr QLatin1String kAttributeKey("attribute");
 constexpr QLatin1String kValueKey("value");
 constexpr QLatin1String kTargetKey("target");
+constexpr QLatin1String kAliasKey("alias");
 
 struct Tr
 {
@@ -94,8 +96,12 @@ Result<TalvaneMetadataMappingConnection> readConnection(const QJsonObject &objec
     const QJsonValue target = object.value(kTargetKey);
     if (!target.isDouble() || double(target.toInt()) != target.toDouble())
         return Error(ErrorCode::InvalidContent, Tr::tr("\"%1\" must be a whole number.").arg(kTargetKey));
+    const QJsonValue alias = object.value(kAliasKey);
+    if (!alias.isString() && !alias.isUndefined())
+        return Error(ErrorCode::InvalidContent, Tr::tr("\"%1\" must be a text.").arg(kAliasKey));
     return TalvaneMetadataMappingConnection{*attribute, MappingTarget(target.toInt()),
-                                            without(object, {kAttributeKey, kTargetKey})};
+                                            without(object, {kAttributeKey, kTargetKey, kAliasKey}),
+                                            alias.toString()};
 }
 
 QJsonObject writeConnection(const TalvaneMetadataMappingConnection &connection)
@@ -103,6 +109,8 @@ QJsonObject writeConnection(const TalvaneMetadataMappingConnection &connection)
     QJsonObject object = connection.unknownMembers;
     object.insert(kAttributeKey, connection.attribute);
     object.insert(kTargetKey, int(connection.target));
+    if (!connection.alias.isEmpty())
+        object.insert(kAliasKey, connection.alias);
     return object;
 }
 
@@ -181,6 +189,18 @@ void ExtendedMetadataInfo::setMetadataCache(const MetadataCache &cache)
 {
     m_cache = cache;
     m_unknownOfCacheEntries.removeIf([&cache](auto entry) { return !cache.contains(entry.key()); });
+}
+
+QStringList ExtendedMetadataInfo::columnNames() const
+{
+    QStringList names;
+    QSet<QString> attributes;
+    for (const TalvaneMetadataMappingConnection &connection : m_connections) {
+        if (!attributes.contains(connection.attribute))
+            names.append(connection.columnName());
+        attributes.insert(connection.attribute);
+    }
+    return names;
 }
 
 QJsonObject ExtendedMetadataInfo::toJson() const

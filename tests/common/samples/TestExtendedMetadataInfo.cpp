@@ -1,28 +1,14 @@
 #include "LogCapture.h"
 #include "OrvTest.h"
+#include "SampleJson.h"
 
 #include <orv/samples/ExtendedMetadataInfo.h>
 
 using namespace orv;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QJsonObject parsed(const QByteArray &json)
-{
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
-    if (error.error != QJsonParseError::NoError)
-        qFatal("The test's JSON is broken: %s", json.constData());
-    return document.object();
-}
-
-ResourceReferenceSPtr reference(const QString &text)
-{
-    return ResourceReference::fromString(text).valueOr({});
-}
-
-} // namespace
+using SampleJson::parsed;
+using SampleJson::reference;
 
 class TestExtendedMetadataInfo : public OrvTest
 {
@@ -39,6 +25,7 @@ private Q_SLOTS:
     void entriesOfOneReferenceAreJoined();
     void referencesAreToldByWhatTheyName();
     void entriesWhoseTextIsNoReferenceAreKept();
+    void everyAttributeHasOneName();
     void malformedMembersAreRefused_data();
     void malformedMembersAreRefused();
     void settersReplaceAndUnknownMembersStay();
@@ -113,6 +100,7 @@ void TestExtendedMetadataInfo::whatIsReadIsWritten_data()
         "[]");
     row("empty texts", R"([{"reference":"","values":[{"attribute":"","value":""}]}])",
         R"([{"attribute":"","target":0}])");
+    row("aliases", "[]", R"([{"attribute":"a","target":1,"alias":"Temperature"}])");
     row("connections in their order", "[]", R"([{"attribute":"b","target":2},{"attribute":"a","target":1},
         {"attribute":"b","target":1}])");
     row("targets of a newer version", "[]",
@@ -186,6 +174,17 @@ void TestExtendedMetadataInfo::entriesWhoseTextIsNoReferenceAreKept()
     QCOMPARE(info->toJson().value(u"metadataCache"_s).toArray().size(), 2);
 }
 
+void TestExtendedMetadataInfo::everyAttributeHasOneName()
+{
+    ExtendedMetadataInfo info;
+    QVERIFY(info.columnNames().isEmpty());
+    info.setMetadataMappingConnections({{u"a"_s, MappingTarget::Samples, {}, u"Alias"_s},
+                                        {u"b"_s, MappingTarget::Samples, {}},
+                                        {u"a"_s, MappingTarget::IntactProteins, {}},
+                                        {u"c"_s, MappingTarget::Samples, {}, u"b"_s}});
+    QCOMPARE(info.columnNames(), QStringList({u"Alias"_s, u"b"_s, u"b"_s}));
+}
+
 void TestExtendedMetadataInfo::malformedMembersAreRefused_data()
 {
     QTest::addColumn<QByteArray>("json");
@@ -220,6 +219,8 @@ void TestExtendedMetadataInfo::malformedMembersAreRefused_data()
         u"\"attribute\""_s, connection);
     row("connection without a target", R"({"metadataMappingConnections":[{"attribute":"a"}]})",
         u"\"target\""_s, connection);
+    row("alias is a number", R"({"metadataMappingConnections":[{"attribute":"a","target":1,"alias":2}]})",
+        u"\"alias\""_s, connection);
     row("target is a text", R"({"metadataMappingConnections":[{"attribute":"a","target":"1"}]})",
         u"\"target\""_s, connection);
     row("target is a fraction", R"({"metadataMappingConnections":[{"attribute":"a","target":1.5}]})",

@@ -9,6 +9,7 @@
 #include <QJsonObject>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace orv {
 
@@ -16,9 +17,9 @@ namespace orv {
 /// document can be shown without the server, and the connections that say where the values go.
 ///
 /// JSON form: {"metadataCache": [{"reference": text, "values": [{"attribute", "value"}]}],
-/// "metadataMappingConnections": [{"attribute", "target": number}]}. Cache entries are written in the order
-/// of their texts. Members that this version doesn't know are kept and written back, at every level.
-/// A plain value.
+/// "metadataMappingConnections": [{"attribute", "alias", "target": number}]}, no alias being the same as an
+/// empty one. Cache entries are written in the order of their texts. Members that this version doesn't know
+/// are kept and written back, at every level. A plain value.
 class ORV_WORKFLOW_EXPORT ExtendedMetadataInfo
 {
 public:
@@ -44,6 +45,10 @@ public:
     {
         m_connections = connections;
     }
+
+    /// The names under which tables show the connected attributes, one for each attribute, in the order of
+    /// the connections. Two attributes may have one name.
+    [[nodiscard]] QStringList columnNames() const;
 
     bool operator==(const ExtendedMetadataInfo &) const = default;
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orv/resources/ResourceReference.h>
+
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QList>
@@ -31,6 +33,10 @@ struct TalvaneMetadataMappingConnection
     QString attribute;
     MappingTarget target = MappingTarget::None; ///< a number that this version doesn't know is kept
     QJsonObject unknownMembers;
+    QString alias = {}; ///< the user's name for the attribute, empty for none
+
+    /// The name under which tables show the attribute.
+    [[nodiscard]] const QString &columnName() const { return alias.isEmpty() ? attribute : alias; }
 
     bool operator==(const TalvaneMetadataMappingConnection &) const = default;
 };
@@ -43,6 +49,13 @@ struct MetadataMapping
     MappingTarget target = MappingTarget::None;
 
     bool operator==(const MetadataMapping &) const = default;
+};
+
+/// That a file has moved: whoever refers to the old one is to refer to the new one.
+struct ReferenceMapping
+{
+    ResourceReferenceSPtr oldReference;
+    ResourceReferenceSPtr newReference;
 };
 
 } // namespace orv

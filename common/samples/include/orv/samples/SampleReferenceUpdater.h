@@ -1,0 +1,49 @@
+#pragma once
+
+#include <orv/core/Export.h>
+#include <orv/resources/ResourceReferenceKey.h>
+#include <orv/samples/SamplesInput.h>
+
+#include <QHash>
+
+#include <compare>
+#include <set>
+
+namespace orv {
+
+/// Swaps references of many samples when files move. It is made in time linear in the count of samples and
+/// their companions, and each swap takes logarithmic time; it knows of its own changes. The list must
+/// outlive it and not be changed by others meanwhile.
+class ORV_WORKFLOW_EXPORT SampleReferenceUpdater
+{
+public:
+    explicit SampleReferenceUpdater(QList<SamplesInput::SampleWithCustomColumns> *samples);
+
+    /// Gives the first sample with the MS file \a oldFile the file \a newFile. False when there is none.
+    bool replaceFile(const ResourceReferenceSPtr &oldFile, const ResourceReferenceSPtr &newFile);
+
+    /// The same for the first companion, in the order of samples and of Entry::companions. A null reference
+    /// is no companion.
+    bool replaceCompanion(const ResourceReferenceSPtr &oldFile, const ResourceReferenceSPtr &newFile);
+
+    /// Moves what samples know of a file from the old text to the new one, in all samples that know it.
+    void moveFileMetadata(const QString &oldText, const QString &newText);
+
+private:
+    /// Place of a sample, and of the reference among its companions.
+    struct Companion
+    {
+        qsizetype sample;
+        qsizetype companion;
+        auto operator<=>(const Companion &) const = default;
+    };
+
+    [[nodiscard]] ResourceReferenceSPtr &at(const Companion &place);
+
+    QList<SamplesInput::SampleWithCustomColumns> *m_samples;
+    QHash<ResourceReferenceKey, std::set<qsizetype>> m_files;
+    QHash<ResourceReferenceKey, std::set<Companion>> m_companions;
+    QHash<QString, std::set<qsizetype>> m_metadata;
+};
+
+} // namespace orv

@@ -1,0 +1,117 @@
+#include "internal/EntryMembers.h"
+#include "internal/MemberReader.h"
+
+#include <orv/samples/CustomColumns.h>
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace orv::SamplesInput {
+
+namespace {
+
+constexpr QLatin1String kName("name");
+constexpr QLatin1String kType("type");
+constexpr QLatin1String kAttribute("attribute");
+
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(CustomColumns)
+};
+
+Result<CustomColumn> readColumn(const QJsonObject &json)
+{
+    MemberReader reader(json);
+    CustomColumn column{reader.text(kName), reader.text(kType), reader.text(kAttribute), json};
+    ORV_RETURN_IF_ERROR(reader.error());
+    for (QLatin1String key : {kName, kType, kAttribute})
+        column.unknownMembers.remove(key);
+    return column;
+}
+
+QJsonObject writeColumn(const CustomColumn &column)
+{
+    QJsonObject json = column.unknownMembers;
+    json.insert(kName, column.name);
+    json.insert(kType, column.type);
+    if (column.isFromMetadata())
+        json.insert(kAttribute, column.attribute);
+    return json;
+}
+
+auto findColumn(const QList<CustomColumn> &columns, const QString &name)
+{
+    return std::find_if(columns.begin(), columns.end(),
+                        [&name](const CustomColumn &column) { return column.name == name; });
+}
+
+} // namespace
+
+Result<CustomColumns> CustomColumns::fromJson(const QJsonArray &json)
+{
+    const QLatin1String key("CustomColumns");
+    const QJsonObject holder{{key, json}};
+    MemberReader reader(holder);
+    CustomColumns columns;
+    reader.forEachObject(key, [&columns](const QJsonObject &element) -> Error {
+        Result<CustomColumn> column = readColumn(element);
+        if (column.hasError())
+            return column.ecatch();
+        if (columns.addCustomColumn(*column))
+            return Error::NoError;
+        return Error(ErrorCode::InvalidContent,
+                     Tr::tr("\"%1\" can't be the name of a column.").arg(column->name))
+            .addDetail(
+                Tr::tr("It is empty, taken, or the name of another member of a sample. Choose another."));
+    });
+    ORV_RETURN_IF_ERROR(reader.error());
+    return columns;
+}
+
+QJsonArray CustomColumns::toJson() const
+{
+    QJsonArray json;
+    for (const CustomColumn &column : m_columns)
+        json.append(writeColumn(column));
+    return json;
+}
+
+QStringList CustomColumns::customColumnNames() const
+{
+    QStringList names;
+    names.reserve(m_columns.size());
+    for (const CustomColumn &column : m_columns)
+        names.append(column.name);
+    return names;
+}
+
+bool CustomColumns::contains(const QString &name) const
+{
+    return findColumn(m_columns, name) != m_columns.end();
+}
+
+bool CustomColumns::addCustomColumn(const CustomColumn &column)
+{
+    if (column.name.isEmpty() || contains(column.name) || isReservedName(column.name))
+        return false;
+    m_columns.append(column);
+    return true;
+}
+
+bool CustomColumns::addCustomColumn(const QString &name, const QString &type)
+{
+    return addCustomColumn(CustomColumn{name, type, {}, {}});
+}
+
+bool CustomColumns::removeCustomColumn(const QString &name)
+{
+    return m_columns.removeIf([&name](const CustomColumn &column) { return column.name == name; }) > 0;
+}
+
+bool CustomColumns::isReservedName(const QString &name)
+{
+    return std::find(Members::kReserved.begin(), Members::kReserved.end(), name) != Members::kReserved.end();
+}
+
+} // namespace orv::SamplesInput

@@ -1,0 +1,74 @@
+#include <orv/samples/SampleReferenceUpdater.h>
+
+namespace orv {
+
+namespace {
+
+/// Takes the first place of \a old and puts it to those of \a now; nothing when there is none.
+template<typename Key, typename Place>
+std::optional<Place> moveFirst(QHash<Key, std::set<Place>> *places, const Key &old, const Key &now)
+{
+    const auto found = places->find(old);
+    if (found == places->end() || found->empty())
+        return std::nullopt;
+    const Place place = *found->begin();
+    found->erase(found->begin());
+    (*places)[now].insert(place);
+    return place;
+}
+
+} // namespace
+
+SampleReferenceUpdater::SampleReferenceUpdater(QList<SamplesInput::SampleWithCustomColumns> *samples)
+    : m_samples(samples)
+{
+    for (qsizetype i = 0; i < samples->size(); ++i) {
+        const SamplesInput::Entry &sample = samples->at(i);
+        m_files[sample.msFile].insert(i);
+        const QList<ResourceReferenceSPtr> companions = sample.companions();
+        for (qsizetype n = 0; n < companions.size(); ++n)
+            m_companions[companions.at(n)].insert({i, n});
+        for (auto it = sample.fileMetadata.begin(); it != sample.fileMetadata.end(); ++it)
+            m_metadata[it.key()].insert(i);
+    }
+}
+
+ResourceReferenceSPtr &SampleReferenceUpdater::at(const Companion &place)
+{
+    SamplesInput::Entry &sample = (*m_samples)[place.sample];
+    const qsizetype behindTraces = place.companion - sample.traces.size();
+    return behindTraces < 0 ? sample.traces[place.companion] : sample.extraReferences[behindTraces];
+}
+
+bool SampleReferenceUpdater::replaceFile(const ResourceReferenceSPtr &oldFile,
+                                         const ResourceReferenceSPtr &newFile)
+{
+    const auto place = moveFirst<ResourceReferenceKey>(&m_files, oldFile, newFile);
+    if (place)
+        (*m_samples)[*place].msFile = newFile;
+    return place.has_value();
+}
+
+bool SampleReferenceUpdater::replaceCompanion(const ResourceReferenceSPtr &oldFile,
+                                              const ResourceReferenceSPtr &newFile)
+{
+    if (!oldFile || !newFile)
+        return false;
+    const auto place = moveFirst<ResourceReferenceKey>(&m_companions, oldFile, newFile);
+    if (place)
+        at(*place) = newFile;
+    return place.has_value();
+}
+
+void SampleReferenceUpdater::moveFileMetadata(const QString &oldText, const QString &newText)
+{
+    if (oldText == newText)
+        return;
+    const std::set<qsizetype> places = m_metadata.take(oldText);
+    for (qsizetype place : places)
+        (*m_samples)[place].moveFileMetadata(oldText, newText);
+    if (!places.empty())
+        m_metadata[newText].insert(places.begin(), places.end());
+}
+
+} // namespace orv

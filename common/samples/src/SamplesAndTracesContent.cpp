@@ -1,0 +1,215 @@
+#include "internal/EntryMembers.h"
+#include "internal/MemberReader.h"
+#include "internal/SampleRows.h"
+
+#include <orv/samples/SamplesAndTracesContent.h>
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace orv {
+
+namespace {
+
+using SamplesInput::CustomColumn;
+using SamplesInput::CustomColumns;
+using SamplesInput::SamplesArrayWithCustomColumns;
+using SamplesInput::SampleWithCustomColumns;
+
+constexpr QLatin1String kSamples("Samples");
+constexpr QLatin1String kCustomColumns("CustomColumns");
+constexpr QLatin1String kOptions("TraceImportAndProcessingOptions");
+
+/// The type of column that \a value fits into; empty for what no cell holds.
+QString cellType(const QJsonValue &value)
+{
+    switch (value.type()) {
+    case QJsonValue::String:
+        return QStringLiteral("text");
+    case QJsonValue::Double:
+        return QStringLiteral("number");
+    case QJsonValue::Bool:
+        return QStringLiteral("bool");
+    default:
+        return {};
+    }
+}
+
+/// Documents that don't list their custom columns show what they have by the members of their samples.
+QList<CustomColumn> impliedColumns(const QJsonArray &samples)
+{
+    QList<CustomColumn> columns;
+    QHash<QString, qsizetype> places;
+    for (const auto sample : samples) {
+        const QJsonObject object = sample.toObject();
+        for (auto it = object.begin(); it != object.end(); ++it) {
+            const QString type = cellType(it.value());
+            if (type.isEmpty() || it.key().isEmpty() || CustomColumns::isReservedName(it.key()))
+                continue;
+            const auto place = places.constFind(it.key());
+            if (place == places.constEnd()) {
+                places.insert(it.key(), columns.size());
+                columns.append(CustomColumn{it.key(), type, {}, {}});
+            } else if (columns[*place].type != type) {
+                columns[*place].type = cellType(QString());
+            }
+        }
+    }
+    return columns;
+}
+
+Result<CustomColumns> readColumns(const QJsonObject &json, const QJsonArray &samples)
+{
+    if (MemberReader(json).has(kCustomColumns)) {
+        Result<QJsonArray> array = JsonUtils::arrayValue(json, kCustomColumns);
+        if (array.hasError())
+            return array.ecatch();
+        Result<CustomColumns> columns = CustomColumns::fromJson(*array);
+        if (columns.hasError())
+            return columns.ecatch();
+        return columns;
+    }
+    CustomColumns columns;
+    for (const CustomColumn &column : impliedColumns(samples))
+        columns.addCustomColumn(column);
+    return columns;
+}
+
+/// Moves the values of custom columns from the stored object to where they are used.
+void takeCustomValues(SampleWithCustomColumns *sample, const CustomColumns &columns)
+{
+    for (const CustomColumn &column : columns.columns()) {
+        const QJsonValue value = sample->stored.value(column.name);
+        if (cellType(value).isEmpty())
+            continue;
+        sample->customValues.insert(column.name, value.toVariant());
+        sample->stored.remove(column.name);
+    }
+}
+
+QJsonObject writeSample(const SampleWithCustomColumns &sample)
+{
+    QJsonObject json = sample.toJson();
+    for (auto it = sample.customValues.begin(); it != sample.customValues.end(); ++it) {
+        if (!CustomColumns::isReservedName(it.key()))
+            json.insert(it.key(), QJsonValue::fromVariant(it.value()));
+    }
+    return json;
+}
+
+/// Old documents number their samples, but a hand may have left a number out.
+void numberSamplesWithoutId(QList<SampleWithCustomColumns> *samples)
+{
+    QSet<int> taken;
+    for (const SampleWithCustomColumns &sample : std::as_const(*samples))
+        taken.insert(sample.id);
+    int next = 1;
+    for (SampleWithCustomColumns &sample : *samples) {
+        if (sample.stored.value(SamplesInput::Members::kId).isDouble())
+            continue;
+        while (taken.contains(next))
+            ++next;
+        sample.id = next++;
+    }
+}
+
+Result<SamplesArrayWithCustomColumns> readSamples(const QJsonArray &array, const CustomColumns &columns)
+{
+    SamplesArrayWithCustomColumns result;
+    result.columns = columns;
+    result.samples.reserve(array.size());
+    const QJsonObject holder{{kSamples, array}};
+    MemberReader reader(holder);
+    reader.forEachObject(kSamples, [&result](const QJsonObject &element) -> Error {
+        Result<SamplesInput::Entry> entry = SamplesInput::Entry::fromJson(element);
+        if (entry.hasError())
+            return entry.ecatch();
+        SampleWithCustomColumns sample(std::move(entry).value());
+        takeCustomValues(&sample, result.columns);
+        result.samples.append(sample);
+        return Error::NoError;
+    });
+    ORV_RETURN_IF_ERROR(reader.error());
+    numberSamplesWithoutId(&result.samples);
+    return result;
+}
+
+Result<QJsonArray> samplesArray(const QJsonObject &json)
+{
+    if (SampleRows::isTree(json))
+        return SampleRows::toSamples(json);
+    return MemberReader(json).has(kSamples) ? JsonUtils::arrayValue(json, kSamples) : QJsonArray();
+}
+
+} // namespace
+
+Result<SamplesAndTracesContent> SamplesAndTracesContent::fromJson(const QJsonObject &json)
+{
+    Result<QJsonArray> array = samplesArray(json);
+    if (array.hasError())
+        return array.ecatch();
+    Result<CustomColumns> columns = readColumns(json, *array);
+    if (columns.hasError())
+        return columns.ecatch();
+    Result<SamplesArrayWithCustomColumns> samples = readSamples(*array, *columns);
+    if (samples.hasError())
+        return samples.ecatch();
+    MemberReader reader(json);
+    Result<TraceImportAndProcessingOptions> options =
+        TraceImportAndProcessingOptions::fromJson(reader.object(kOptions));
+    ORV_RETURN_IF_ERROR(reader.error());
+    if (options.hasError())
+        return options.ecatch();
+
+    SamplesAndTracesContent content;
+    content.samples = std::move(samples).value();
+    content.options = std::move(options).value();
+    content.m_stored = json;
+    return content;
+}
+
+QJsonObject SamplesAndTracesContent::presentForm() const
+{
+    QJsonObject json = m_stored;
+    if (SampleRows::isTree(m_stored)) {
+        json.remove(QLatin1String("data"));
+        json.remove(QLatin1String("children"));
+    }
+    QJsonArray array;
+    for (const SampleWithCustomColumns &sample : samples.samples)
+        array.append(writeSample(sample));
+    json.insert(kSamples, array);
+    const bool isListed = MemberReader(m_stored).has(kCustomColumns);
+    if (isListed || samples.columns.columns() != impliedColumns(array))
+        json.insert(kCustomColumns, samples.columns.toJson());
+    const QJsonObject optionsJson = options.toJson();
+    if (m_stored.contains(kOptions) ? m_stored.value(kOptions).toObject() != optionsJson
+                                    : !optionsJson.isEmpty())
+        json.insert(kOptions, optionsJson);
+    return json;
+}
+
+QJsonObject SamplesAndTracesContent::toJson() const
+{
+    const QJsonObject json = presentForm();
+    if (!SampleRows::isTree(m_stored))
+        return json;
+    const Result<SamplesAndTracesContent> before = fromJson(m_stored);
+    return !before.hasError() && before->presentForm() == json ? m_stored : json;
+}
+
+QList<ResourceReferenceSPtr> SamplesAndTracesContent::references() const
+{
+    QList<ResourceReferenceSPtr> references;
+    references.reserve(samples.samples.size());
+    for (const SampleWithCustomColumns &sample : samples.samples) {
+        if (sample.msFile)
+            references.append(sample.msFile);
+        references += sample.companions();
+    }
+    references.removeAll(nullptr);
+    return references;
+}
+
+} // namespace orv
