@@ -74,7 +74,7 @@ bool isIn(const QString &path, const QString &folder)
 /// The real place of the nearest part of \a path that exists, with the rest behind it.
 QString withoutLinks(const QString &path)
 {
-    const QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     for (QString existing = absolute; existing.contains(QLatin1Char('/'));
          existing.truncate(existing.lastIndexOf(QLatin1Char('/')))) {
         const QString canonical = QFileInfo(existing).canonicalFilePath();

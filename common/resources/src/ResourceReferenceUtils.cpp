@@ -95,7 +95,7 @@ ResourceReferenceSPtr resolved(const ResourceReferenceSPtr &reference, const QUr
         return reference;
     const QString base = baseUrl.toLocalFile();
     const QString folder = base.left(base.lastIndexOf(QLatin1Char('/')) + 1);
-    return fromString(QDir::cleanPath(folder + reference->text()));
+    return fromString(QDir::cleanPath(folder + LocalPath::withSlashes(reference->text())));
 }
 
 } // namespace orv::ResourceReferenceUtils

@@ -192,7 +192,7 @@ QJsonObject SamplesAndTracesContent::presentForm() const
 
 QJsonObject SamplesAndTracesContent::toJson() const
 {
-    const QJsonObject json = presentForm();
+    QJsonObject json = presentForm();
     if (!SampleRows::isTree(m_stored))
         return json;
     const Result<SamplesAndTracesContent> before = fromJson(m_stored);

@@ -165,12 +165,8 @@ QList<ResourceReferenceSPtr> Entry::companions() const
 
 void Entry::moveFileMetadata(const QString &oldText, const QString &newText)
 {
-    const auto known = fileMetadata.constFind(oldText);
-    if (known == fileMetadata.constEnd() || oldText == newText)
-        return;
-    const QJsonObject value = *known;
-    fileMetadata.remove(oldText);
-    fileMetadata.insert(newText, value);
+    if (oldText != newText && fileMetadata.contains(oldText))
+        fileMetadata.insert(newText, fileMetadata.take(oldText));
 }
 
 QList<Entry> SamplesArrayWithCustomColumns::entries() const

@@ -283,6 +283,7 @@ void TestLocalReferences::relativePathsAreTakenFromTheBase_data()
     row("name", u"a.raw"_s, folder, u"/work/my flows/a.raw"_s);
     row("above", u"../data/a.raw"_s, folder, u"/work/data/a.raw"_s);
     row("marks in a name", u"a#b?c%20d e.raw"_s, folder, u"/work/my flows/a#b?c%20d e.raw"_s);
+    row("backslashes", u"..\\data\\a b.raw"_s, folder, u"/work/data/a b.raw"_s);
     row("the base is the document", u"a.raw"_s, QUrl::fromLocalFile(u"/work/flow.wflw"_s), u"/work/a.raw"_s);
     row("marks in the base", u"a.raw"_s, QUrl::fromLocalFile(u"/work/#1?%20/"_s), u"/work/#1?%20/a.raw"_s);
     row("absolute", u"/data/./a.raw"_s, folder, u"/data/./a.raw"_s);

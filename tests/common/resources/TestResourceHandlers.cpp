@@ -55,6 +55,7 @@ private Q_SLOTS:
     void localFilesAndFoldersExist_data();
     void localFilesAndFoldersExist();
     void relativePathsAreTakenFromTheCurrentFolder();
+    void relativePathsOfAnotherSystemAreFound();
     void pathsOfAnotherSystemDoNotExist();
     void grabGivesThePathOfALocalFile();
     void grabbingWhatIsMissingFails();
@@ -137,6 +138,17 @@ void TestResourceHandlers::relativePathsAreTakenFromTheCurrentFolder()
     const bool isMissing = ResourceHandlerUtils::checkExists(read(u"../a.raw"_s));
     QVERIFY(QDir::setCurrent(before));
     QVERIFY(isThere && isAbove && !isMissing);
+}
+
+void TestResourceHandlers::relativePathsOfAnotherSystemAreFound()
+{
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(m_folder->path()));
+    const QString grabbed = ResourceManager::retrieve(read(u"b.d\\..\\a.raw"_s)).value()->grab().valueOr({});
+    const bool isMissing = ResourceHandlerUtils::checkExists(read(u"b.d\\a.raw"_s));
+    QVERIFY(QDir::setCurrent(before));
+    QVERIFY(QFileInfo(m_folder->filePath(grabbed)) == QFileInfo(path(u"a.raw"_s)));
+    QVERIFY(!isMissing);
 }
 
 void TestResourceHandlers::pathsOfAnotherSystemDoNotExist()

@@ -1,14 +1,23 @@
 #include "LocalResourceHandler.h"
 
+#include "LocalPath.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
 
 namespace orv {
 
+QString LocalResourceHandler::path() const
+{
+    QString text = reference()->text();
+    const QString slashed = LocalPath::withSlashes(text);
+    return QFileInfo::exists(text) || !QFileInfo::exists(slashed) ? text : slashed;
+}
+
 bool LocalResourceHandler::isAvailableLocally() const
 {
-    return QFileInfo::exists(reference()->text());
+    return QFileInfo::exists(path());
 }
 
 Result<bool> LocalResourceHandler::exists()
@@ -18,8 +27,9 @@ Result<bool> LocalResourceHandler::exists()
 
 Result<QString> LocalResourceHandler::grab()
 {
-    if (isAvailableLocally())
-        return reference()->text();
+    QString found = path();
+    if (QFileInfo::exists(found))
+        return found;
     const auto tr = [](const char *text) { return QCoreApplication::translate("ResourceHandler", text); };
     return Error(ErrorCode::CannotOpenFile,
                  tr(QT_TRANSLATE_NOOP("ResourceHandler", "The file \"%1\" does not exist."))

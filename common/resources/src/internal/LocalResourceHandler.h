@@ -4,7 +4,8 @@
 
 namespace orv {
 
-/// Files and folders of this machine. A relative path is taken from the current folder; links are followed.
+/// Files and folders of this machine. A relative path is taken from the current folder; links are followed. A
+/// path whose backslashes lead nowhere here is tried with slashes, as documents travel between systems.
 class LocalResourceHandler final : public ResourceHandler
 {
 public:
@@ -15,6 +16,10 @@ public:
     [[nodiscard]] Result<QString> grab() override;
     /// "name", "path", "modified" (UTC, ISO 8601) and, for a file, "size".
     [[nodiscard]] Result<QJsonObject> metadata() override;
+
+private:
+    /// The spelling of the path that exists, or else the reference's text.
+    [[nodiscard]] QString path() const;
 };
 
 } // namespace orv

@@ -28,7 +28,7 @@ bool MemberReader::has(QLatin1String key) const
 
 QJsonValue MemberReader::value(QLatin1String key, QJsonValue::Type type)
 {
-    const QJsonValue found = m_object.value(key);
+    QJsonValue found = m_object.value(key);
     if (!has(key))
         return QJsonValue::Undefined;
     if (found.type() == type)

@@ -46,7 +46,8 @@ unsupportedReferences(const QList<ResourceReferenceSPtr> &references,
 [[nodiscard]] ORV_WORKFLOW_EXPORT bool isRelative(const ResourceReferenceSPtr &reference);
 
 /// \a reference with a relative local path taken from \a baseUrl, whose path counts up to its last slash.
-/// The path is joined as a path: "#", "?", "%" and blanks in names survive. Any other reference, and any with
+/// The path is joined as a path: "#", "?", "%" and blanks in names survive; backslashes that separate names
+/// become slashes. Any other reference, and any with
 /// a base that is no file URL, is returned unchanged.
 [[nodiscard]] ORV_WORKFLOW_EXPORT ResourceReferenceSPtr resolved(const ResourceReferenceSPtr &reference,
                                                                  const QUrl &baseUrl);

@@ -6,8 +6,8 @@
 
 #include <QHash>
 
-#include <compare>
 #include <set>
+#include <tuple>
 
 namespace orv {
 
@@ -35,7 +35,11 @@ private:
     {
         qsizetype sample;
         qsizetype companion;
-        auto operator<=>(const Companion &) const = default;
+
+        friend bool operator<(const Companion &a, const Companion &b)
+        {
+            return std::tie(a.sample, a.companion) < std::tie(b.sample, b.companion);
+        }
     };
 
     [[nodiscard]] ResourceReferenceSPtr &at(const Companion &place);
