@@ -34,6 +34,10 @@ private Q_SLOTS:
     void tablesAreRefusedOrReadBackEqual() { run(FormChecks::checkRowNode); }
     void commaSeparatedTextReadsTheSameInPieces_data() { addFiles(); }
     void commaSeparatedTextReadsTheSameInPieces() { run(FormChecks::checkCsv); }
+    void samplesAreRefusedOrReadBackEqual_data() { addFiles(); }
+    void samplesAreRefusedOrReadBackEqual() { run(FormChecks::checkSamples); }
+    void referencesAreRefusedOrSurviveTheirText_data() { addFiles(); }
+    void referencesAreRefusedOrSurviveTheirText() { run(FormChecks::checkReference); }
 
 private:
     static void addFiles();
@@ -61,7 +65,8 @@ void TestCorpus::run(QString (*check)(const QByteArray &))
 void TestCorpus::everyFuzzerHasSeeds_data()
 {
     QTest::addColumn<QString>("folder");
-    for (const char *folder : {"csv", "json", "object_form", "row_node", "value_form"})
+    for (const char *folder :
+         {"csv", "json", "object_form", "reference", "row_node", "samples", "value_form"})
         QTest::newRow(folder) << QString::fromLatin1(folder);
 }
 
