@@ -40,12 +40,6 @@ QJsonObject writeColumn(const CustomColumn &column)
     return json;
 }
 
-auto findColumn(const QList<CustomColumn> &columns, const QString &name)
-{
-    return std::find_if(columns.begin(), columns.end(),
-                        [&name](const CustomColumn &column) { return column.name == name; });
-}
-
 } // namespace
 
 Result<CustomColumns> CustomColumns::fromJson(const QJsonArray &json)
@@ -86,16 +80,12 @@ QStringList CustomColumns::customColumnNames() const
     return names;
 }
 
-bool CustomColumns::contains(const QString &name) const
-{
-    return findColumn(m_columns, name) != m_columns.end();
-}
-
 bool CustomColumns::addCustomColumn(const CustomColumn &column)
 {
     if (column.name.isEmpty() || contains(column.name) || isReservedName(column.name))
         return false;
     m_columns.append(column);
+    m_names.insert(column.name);
     return true;
 }
 
@@ -106,7 +96,20 @@ bool CustomColumns::addCustomColumn(const QString &name, const QString &type)
 
 bool CustomColumns::removeCustomColumn(const QString &name)
 {
-    return m_columns.removeIf([&name](const CustomColumn &column) { return column.name == name; }) > 0;
+    m_columns.removeIf([&name](const CustomColumn &column) { return column.name == name; });
+    return m_names.remove(name);
+}
+
+QSet<QString> CustomColumns::removeColumnsFromMetadata()
+{
+    QSet<QString> removed;
+    for (const CustomColumn &column : std::as_const(m_columns)) {
+        if (column.isFromMetadata())
+            removed.insert(column.name);
+    }
+    m_columns.removeIf([](const CustomColumn &column) { return column.isFromMetadata(); });
+    m_names.subtract(removed);
+    return removed;
 }
 
 bool CustomColumns::isReservedName(const QString &name)

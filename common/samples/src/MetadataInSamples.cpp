@@ -2,6 +2,7 @@
 #include <orv/samples/MetadataInSamples.h>
 
 #include <QHash>
+#include <QSet>
 
 namespace orv {
 
@@ -12,11 +13,11 @@ using SamplesInput::SamplesArrayWithCustomColumns;
 
 void removeColumnsFromMetadata(SamplesArrayWithCustomColumns *samples)
 {
-    const QList<CustomColumn> columns = samples->columns.columns();
-    for (const CustomColumn &column : columns) {
-        if (column.isFromMetadata())
-            samples->removeCustomColumn(column.name);
-    }
+    const QSet<QString> stale = samples->columns.removeColumnsFromMetadata();
+    if (stale.isEmpty())
+        return;
+    for (SamplesInput::SampleWithCustomColumns &sample : samples->samples)
+        sample.customValues.removeIf([&stale](auto value) { return stale.contains(value.key()); });
 }
 
 /// The names of the new columns, by attribute.
@@ -47,6 +48,20 @@ QVariant cellOf(const QJsonValue &value)
     return value.isNull() ? QVariant() : value.toVariant();
 }
 
+/// By sample id and attribute; of several values the last.
+QHash<int, QHash<QString, QVariant>> cellsOf(const QList<MetadataMapping> &mappings)
+{
+    QHash<int, QHash<QString, QVariant>> cells;
+    for (const MetadataMapping &mapping : mappings) {
+        const QVariant cell = cellOf(mapping.value.value);
+        if (!cell.isValid())
+            continue;
+        for (int id : mapping.sampleIds)
+            cells[id].insert(mapping.value.attribute, cell);
+    }
+    return cells;
+}
+
 } // namespace
 
 void rebuildMetadataInSamples(const QList<TalvaneMetadataMappingConnection> &connections,
@@ -54,18 +69,12 @@ void rebuildMetadataInSamples(const QList<TalvaneMetadataMappingConnection> &con
 {
     removeColumnsFromMetadata(samples);
     const QHash<QString, QStringList> names = addColumns(connections, samples);
-    QMultiHash<int, qsizetype> placesById;
-    for (qsizetype i = 0; i < samples->samples.size(); ++i)
-        placesById.insert(samples->samples.at(i).id, i);
-    for (const MetadataMapping &mapping : mappings) {
-        const QVariant cell = cellOf(mapping.value.value);
-        if (!cell.isValid())
-            continue;
-        for (int id : mapping.sampleIds) {
-            for (qsizetype place : placesById.values(id)) {
-                for (const QString &name : names.value(mapping.value.attribute))
-                    samples->samples[place].customValues.insert(name, cell);
-            }
+    const QHash<int, QHash<QString, QVariant>> cells = cellsOf(mappings);
+    for (SamplesInput::SampleWithCustomColumns &sample : samples->samples) {
+        const QHash<QString, QVariant> ofSample = cells.value(sample.id);
+        for (auto it = ofSample.begin(); it != ofSample.end(); ++it) {
+            for (const QString &name : names.value(it.key()))
+                sample.customValues.insert(name, it.value());
         }
     }
 }

@@ -79,12 +79,12 @@ Result<CustomColumns> readColumns(const QJsonObject &json, const QJsonArray &sam
 /// Moves the values of custom columns from the stored object to where they are used.
 void takeCustomValues(SampleWithCustomColumns *sample, const CustomColumns &columns)
 {
-    for (const CustomColumn &column : columns.columns()) {
-        const QJsonValue value = sample->stored.value(column.name);
-        if (cellType(value).isEmpty())
+    const QJsonObject stored = sample->stored;
+    for (auto it = stored.begin(); it != stored.end(); ++it) {
+        if (cellType(it.value()).isEmpty() || !columns.contains(it.key()))
             continue;
-        sample->customValues.insert(column.name, value.toVariant());
-        sample->stored.remove(column.name);
+        sample->customValues.insert(it.key(), it.value().toVariant());
+        sample->stored.remove(it.key());
     }
 }
 

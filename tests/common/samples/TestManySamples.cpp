@@ -65,6 +65,8 @@ private Q_SLOTS:
     void unknownFilesChangeNothing();
     void metadataMoveInAllSamples();
     void metadataOfManySamplesAreRebuilt();
+    void everySampleMayHaveAColumnOfItsOwn();
+    void manyColumnsFromMetadataAreReplaced();
 };
 
 void TestManySamples::manySamplesAreLoadedAndSaved()
@@ -196,6 +198,34 @@ void TestManySamples::metadataOfManySamplesAreRebuilt()
     rebuildMetadataInSamples({{u"pH"_s, MappingTarget::Samples, {}}}, mappings, &content.samples);
     for (int i = 1; i <= kMany; ++i)
         QCOMPARE(content.samples.samples[i - 1].customValues.value(u"pH"_s).toInt(), i);
+}
+
+void TestManySamples::everySampleMayHaveAColumnOfItsOwn()
+{
+    QJsonArray samples;
+    for (int i = 1; i <= kMany; ++i)
+        samples.append(QJsonObject{{u"SamplesId"_s, i}, {u"SampleName"_s, u"A"_s}, {u"only %1"_s.arg(i), i}});
+    const QJsonObject json{{u"Samples"_s, samples}};
+    const SamplesAndTracesContent content = read(json);
+    QCOMPARE(content.samples.columns.columns().size(), kMany);
+    QCOMPARE(content.toJson(), json);
+}
+
+void TestManySamples::manyColumnsFromMetadataAreReplaced()
+{
+    SamplesAndTracesContent content = read(manySamples());
+    QList<TalvaneMetadataMappingConnection> connections;
+    QList<MetadataMapping> mappings;
+    for (int i = 1; i <= kMany; ++i) {
+        connections.append({u"attribute %1"_s.arg(i), MappingTarget::Samples, {}});
+        mappings.append({{i, 1}, {u"attribute %1"_s.arg(i), i, {}}, MappingTarget::Samples});
+    }
+    rebuildMetadataInSamples(connections, mappings, &content.samples);
+    QCOMPARE(content.samples.columns.columns().size(), kMany + 1);
+    QCOMPARE(content.samples.samples[0].customValues.size(), kMany + 1);
+    QCOMPARE(content.samples.samples[1].customValues.size(), 2);
+    rebuildMetadataInSamples({}, {}, &content.samples);
+    QCOMPARE(content.toJson(), manySamples());
 }
 
 ORV_REGISTER_TEST(TestManySamples)

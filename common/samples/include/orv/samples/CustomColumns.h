@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QList>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -37,13 +38,16 @@ public:
     [[nodiscard]] const QList<CustomColumn> &columns() const { return m_columns; }
     [[nodiscard]] bool isEmpty() const { return m_columns.isEmpty(); }
     [[nodiscard]] QStringList customColumnNames() const;
-    [[nodiscard]] bool contains(const QString &name) const;
+    /// Constant in time, however many columns a file claims.
+    [[nodiscard]] bool contains(const QString &name) const { return m_names.contains(name); }
 
     /// Appends a column. False, and nothing changed, for an empty name, one that is taken, and one that a
     /// sample's JSON object uses itself (see isReservedName).
     bool addCustomColumn(const CustomColumn &column);
     bool addCustomColumn(const QString &name, const QString &type = QStringLiteral("text"));
     bool removeCustomColumn(const QString &name);
+    /// Removes all columns from metadata at once, and answers their names.
+    QSet<QString> removeColumnsFromMetadata();
 
     /// Names that the JSON object of a sample has members of, such as "SampleName".
     [[nodiscard]] static bool isReservedName(const QString &name);
@@ -52,6 +56,7 @@ public:
 
 private:
     QList<CustomColumn> m_columns;
+    QSet<QString> m_names;
 };
 
 } // namespace orv::SamplesInput

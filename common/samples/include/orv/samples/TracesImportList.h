@@ -7,6 +7,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QList>
+#include <QSet>
 #include <QString>
 
 namespace orv {
@@ -17,21 +18,23 @@ class ORV_WORKFLOW_EXPORT TraceSampleIds
 public:
     /// All samples.
     TraceSampleIds() = default;
-    explicit TraceSampleIds(QList<int> ids)
+    explicit TraceSampleIds(const QList<int> &ids)
         : m_isAll(false)
-        , m_ids(std::move(ids))
+        , m_ids(ids)
+        , m_set(ids.begin(), ids.end())
     {}
 
     [[nodiscard]] bool isAll() const { return m_isAll; }
     /// Empty when it is all.
     [[nodiscard]] const QList<int> &ids() const { return m_ids; }
-    [[nodiscard]] bool contains(int sampleId) const { return m_isAll || m_ids.contains(sampleId); }
+    [[nodiscard]] bool contains(int sampleId) const { return m_isAll || m_set.contains(sampleId); }
 
     bool operator==(const TraceSampleIds &) const = default;
 
 private:
     bool m_isAll = true;
     QList<int> m_ids;
+    QSet<int> m_set;
 };
 
 /// The traces that a workflow may use, and which of them it imports. A plain value.
