@@ -5,7 +5,8 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QRegularExpression>
+
+#include <algorithm>
 
 namespace orv {
 
@@ -38,9 +39,13 @@ bool isFileUrl(const QString &text)
 /// One letter in front of "://" is a drive.
 bool isUrlOfUnknownScheme(const QString &text)
 {
-    static const QRegularExpression pattern(QStringLiteral("^[a-z][a-z0-9+.-]+://"),
-                                            QRegularExpression::CaseInsensitiveOption);
-    return pattern.match(text).hasMatch();
+    const QStringView word =
+        QStringView(text).left(std::max<qsizetype>(text.indexOf(QLatin1String("://")), 0));
+    const auto isLetter = [](QChar c) { return c.unicode() < 128 && c.isLetter(); };
+    const auto isOfAWord = [&isLetter](QChar c) {
+        return isLetter(c) || (c.unicode() < 128 && c.isDigit()) || QStringView(u"+.-").contains(c);
+    };
+    return word.size() >= 2 && isLetter(word.front()) && std::all_of(word.begin(), word.end(), isOfAWord);
 }
 
 /// A name taken out of a file URL may look like another form, which a folder in front prevents.

@@ -75,6 +75,10 @@ void TestResourceReference::theTextTellsTheScheme_data()
     QTest::newRow("drive before two slashes") << u"C://data/a.raw"_s << Scheme::LocalFile;
     QTest::newRow("file URL") << u"file:///data/a.raw"_s << Scheme::LocalFile;
     QTest::newRow("name") << u"a.raw"_s << Scheme::LocalFile;
+    QTest::newRow("no word before the slashes") << u"a b://c"_s << Scheme::LocalFile;
+    QTest::newRow("nothing before the slashes") << u"://c"_s << Scheme::LocalFile;
+    QTest::newRow("digit before the slashes") << u"1a://c"_s << Scheme::LocalFile;
+    QTest::newRow("slashes further on") << u"a/b://c"_s << Scheme::LocalFile;
     QTest::newRow("name with a colon") << u"run 1: blank.raw"_s << Scheme::LocalFile;
     QTest::newRow("a word that only begins like a scheme") << u"talvane2:/a"_s << Scheme::LocalFile;
     QTest::newRow("a scheme in a folder") << u"./talvane:/a"_s << Scheme::LocalFile;
