@@ -22,7 +22,8 @@ namespace FormChecks {
 /// Comma-separated text reads the same in pieces of any size, and its rows read back from what is written.
 [[nodiscard]] QString checkCsv(const QByteArray &bytes);
 
-/// The table of samples is refused with a word, or written as it was; after a change it reads back as written.
+/// The table of samples is refused with a word, or written as it was; after a change it reads back as
+/// written.
 [[nodiscard]] QString checkSamples(const QByteArray &bytes);
 
 /// A reference is refused with a reason or survives its text, and so do the names in a list of samples.

@@ -20,8 +20,8 @@ namespace orv::FilePathUtils {
 /// \a path without the long-path prefix: "\\?\C:\x" is "C:\x", "\\?\UNC\server\x" is "\\server\x".
 [[nodiscard]] ORV_WORKFLOW_EXPORT QString withoutWinLongPathPrefix(const QString &path);
 
-/// Whether \a path, its long-path prefix aside, begins with a letter and a colon, followed by a separator or by
-/// nothing. A name such as "a:b" has none.
+/// Whether \a path, its long-path prefix aside, begins with a letter and a colon, followed by a separator or
+/// by nothing. A name such as "a:b" has none.
 [[nodiscard]] ORV_WORKFLOW_EXPORT bool hasDriveLetter(const QString &path);
 
 /// Whether \a path names a share of a server, "\\server\share" or "//server/share", with a long-path prefix
