@@ -1,12 +1,24 @@
 #include "internal/MassColumns.h"
+#include "internal/TableRows.h"
 #include "internal/Tables.h"
 
 #include <orv/chemistry/ChemistryConstants.h>
 #include <orv/chemistry/MassUtils.h>
 
+#include <QCoreApplication>
+
 namespace orv::MassUtils {
 
 using namespace Internal::MassColumns;
+
+namespace {
+
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(MassUtils)
+};
+
+} // namespace
 
 RowNode defaultRowNode(int rows)
 {
@@ -18,14 +30,69 @@ RowNode defaultRowNode(int rows)
 
 RowNode defaultMatchToleranceRowNode()
 {
-    RowNode table = Internal::tableOf({kMassToleranceValue, kMassToleranceUnit});
-    table.addNewChild({0.0, possibleMassToleranceUnits().constFirst()});
-    return table;
+    return matchToleranceToRowNode({});
 }
 
 QStringList possibleMassToleranceUnits()
 {
     return {kDalton, kppm};
+}
+
+QList<DeltaMass> deltaMassesFromRowNode(const RowNode &table)
+{
+    const Internal::TableReader rows(table, {kId, kName, kMass, kProtein, kSamplesIds});
+    QList<DeltaMass> masses;
+    masses.reserve(rows.rowCount());
+    for (int i = 0; i < rows.rowCount(); ++i) {
+        DeltaMass mass;
+        const QVariant massCell = rows.cell(i, kMass);
+        mass.id = Internal::intOf(rows.cell(i, kId)).value_or(0);
+        mass.name = rows.text(i, kName);
+        mass.massDa = Internal::numberOf(massCell);
+        if (!mass.massDa && !Internal::isEmptyCell(massCell))
+            mass.unreadableMass = massCell.toString();
+        mass.protein = rows.text(i, kProtein);
+        mass.samplesIds = Internal::intsOf(rows.cell(i, kSamplesIds));
+        mass.otherCells = rows.otherCells(i);
+        masses.append(mass);
+    }
+    return masses;
+}
+
+RowNode deltaMassesToRowNode(const QList<DeltaMass> &masses)
+{
+    RowNode table = Internal::tableOf({kId, kName, kMass, kProtein, kSamplesIds});
+    Internal::TableWriter rows(&table);
+    for (const DeltaMass &mass : masses) {
+        const QVariant massCell = mass.massDa || mass.unreadableMass.isEmpty()
+                                      ? Internal::cellOf(mass.massDa)
+                                      : QVariant(mass.unreadableMass);
+        rows.addRow({mass.id, mass.name, massCell, mass.protein, Internal::cellOf(mass.samplesIds)},
+                    mass.otherCells);
+    }
+    return table;
+}
+
+Result<MassTolerance> matchToleranceFromRowNode(const RowNode &table)
+{
+    const Internal::TableReader rows(table, {kMassToleranceValue, kMassToleranceUnit});
+    const std::optional<double> value = Internal::numberOf(rows.cell(0, kMassToleranceValue));
+    const QString unit = rows.text(0, kMassToleranceUnit);
+    if (rows.rowCount() < 1 || !value || *value < 0.0 || !possibleMassToleranceUnits().contains(unit)) {
+        return Error(ErrorCode::InvalidContent, Tr::tr("The match tolerance of the masses can't be read."))
+            .addDetail(Tr::tr("The value is \"%1\" and must be a number that is not negative.")
+                           .arg(rows.text(0, kMassToleranceValue)))
+            .addDetail(Tr::tr("The unit is \"%1\"; there are %2.")
+                           .arg(unit, possibleMassToleranceUnits().join(QLatin1String(", "))));
+    }
+    return MassTolerance{*value, unit, {}};
+}
+
+RowNode matchToleranceToRowNode(const MassTolerance &tolerance)
+{
+    RowNode table = Internal::tableOf({kMassToleranceValue, kMassToleranceUnit});
+    table.addNewChild({tolerance.value, tolerance.unit});
+    return table;
 }
 
 } // namespace orv::MassUtils

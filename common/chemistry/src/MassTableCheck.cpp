@@ -1,0 +1,100 @@
+#include <orv/chemistry/MassUtils.h>
+
+#include <QCoreApplication>
+#include <QSet>
+
+namespace orv::MassUtils {
+
+namespace {
+
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(MassUtils)
+};
+
+/// "Row 3 (\"G0F\")".
+QString rowName(qsizetype index, const DeltaMass &mass)
+{
+    return mass.name.isEmpty() ? Tr::tr("Row %1 of the masses").arg(index + 1)
+                               : Tr::tr("Row %1 (\"%2\") of the masses").arg(index + 1).arg(mass.name);
+}
+
+QString joined(const QList<int> &numbers)
+{
+    QStringList texts;
+    for (int number : numbers)
+        texts.append(QString::number(number));
+    return texts.join(QLatin1String(", "));
+}
+
+void checkMass(const QString &row, const DeltaMass &mass, QStringList *errors)
+{
+    if (!mass.unreadableMass.isEmpty()) {
+        errors->append(Tr::tr("%1 has the mass \"%2\", which is no number. Please enter the mass in Da.")
+                           .arg(row, mass.unreadableMass));
+    } else if (!mass.massDa) {
+        errors->append(Tr::tr("%1 has no mass. Please enter the mass in Da or remove the row.").arg(row));
+    }
+}
+
+void checkSamples(const QString &row, const DeltaMass &mass, const QSet<int> &known, QStringList *errors,
+                  QStringList *warnings)
+{
+    QList<int> gone;
+    for (int id : mass.samplesIds) {
+        if (!known.contains(id))
+            gone.append(id);
+    }
+    if (gone.isEmpty())
+        return;
+    if (gone.size() == mass.samplesIds.size()) {
+        errors->append(
+            Tr::tr("%1 is for the samples %2, which don't exist. Please choose samples or remove the row.")
+                .arg(row, joined(gone)));
+    } else {
+        warnings->append(Tr::tr("%1 is also for the samples %2, which don't exist.").arg(row, joined(gone)));
+    }
+}
+
+bool isRepeated(const DeltaMass &a, const DeltaMass &b)
+{
+    return a.name == b.name && a.massDa == b.massDa && a.protein == b.protein && a.samplesIds == b.samplesIds;
+}
+
+} // namespace
+
+bool validate(const QList<DeltaMass> &masses, const QList<MassSample> &samples, QStringList *errors,
+              QStringList *warnings)
+{
+    QStringList foundErrors;
+    QStringList foundWarnings;
+    QSet<int> known;
+    for (const MassSample &sample : samples)
+        known.insert(sample.id);
+
+    QMultiHash<QString, qsizetype> byName;
+    for (qsizetype i = 0; i < masses.size(); ++i) {
+        const DeltaMass &mass = masses.at(i);
+        if (mass.isEmpty())
+            continue;
+        const QString row = rowName(i, mass);
+        checkMass(row, mass, &foundErrors);
+        if (mass.name.trimmed().isEmpty())
+            foundWarnings.append(Tr::tr("%1 has no name, so its matches can't be told apart.").arg(row));
+        checkSamples(row, mass, known, &foundErrors, &foundWarnings);
+        const QList<qsizetype> namesakes = byName.values(mass.name);
+        const auto same = std::find_if(namesakes.begin(), namesakes.end(),
+                                       [&](qsizetype other) { return isRepeated(masses.at(other), mass); });
+        if (same != namesakes.end())
+            foundWarnings.append(Tr::tr("%1 repeats row %2.").arg(row).arg(*same + 1));
+        else
+            byName.insert(mass.name, i);
+    }
+    if (errors)
+        errors->append(foundErrors);
+    if (warnings)
+        warnings->append(foundWarnings);
+    return foundErrors.isEmpty();
+}
+
+} // namespace orv::MassUtils
