@@ -1,12 +1,10 @@
-#include "internal/ProteinColumns.h"
 #include "internal/Tables.h"
 
 #include <orv/chemistry/ChemistryConstants.h>
+#include <orv/chemistry/ProteinGenerator.h>
 #include <orv/chemistry/ProteinUtils.h>
 
 namespace orv::ProteinUtils {
-
-using namespace Internal::ProteinColumns;
 
 RowNode defaultRowNode()
 {
@@ -15,13 +13,18 @@ RowNode defaultRowNode()
 
 RowNode defaultInputRowNode()
 {
-    RowNode root = Internal::tableOf({kChains, kProteins, kBuildingBlocks});
-    root.addNewChild(
-        Internal::tableOf({kNumber, kChainId, kName, kSequence, kMonoisotopicMass, kAverageMass, kisCustom})
-            .data);
-    root.addNewChild(Internal::tableOf({kName, kChainNumbers, kDisulfides, kSamplesIds}).data);
-    root.addNewChild(Internal::tableOf({kSymbol, kName, kType, kFormula}).data);
-    return root;
+    return ProteinGenerator::InputOptions().toRowNode();
+}
+
+ProteinComplex mirrorChain(const Chain &chain)
+{
+    ProteinComplex protein;
+    protein.name = chain.name;
+    protein.sequence = chain.sequence;
+    protein.chainNumbers = {chain.number};
+    protein.monoisotopicMassDa = chain.monoisotopicMassDa;
+    protein.averageMassDa = chain.averageMassDa;
+    return protein;
 }
 
 } // namespace orv::ProteinUtils

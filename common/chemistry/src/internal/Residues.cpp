@@ -1,0 +1,73 @@
+#include "Residues.h"
+
+#include <orv/chemistry/ChemicalFactory.h>
+
+#include <QCoreApplication>
+
+#include <pwiz/data/proteome/AminoAcid.hpp>
+
+#include <array>
+
+namespace orv::Internal {
+
+namespace {
+
+namespace AminoAcid = pwiz::proteome::AminoAcid;
+
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(ChemicalFactory)
+};
+
+constexpr int kLetters = 26;
+
+struct Residue
+{
+    bool known = false;
+    ChemicalFormula formula;
+};
+
+/// By letter. The library has formulas for ambiguous letters too, which are guesses.
+const std::array<Residue, kLetters> &residues()
+{
+    static const std::array<Residue, kLetters> table = [] {
+        std::array<Residue, kLetters> residues;
+        for (int type = AminoAcid::Alanine; type <= AminoAcid::Selenocysteine; ++type) {
+            const AminoAcid::Info::Record &record =
+                AminoAcid::Info::record(static_cast<AminoAcid::Type>(type));
+            Residue &residue = residues.at(static_cast<size_t>(record.symbol - 'A'));
+            residue.known = true;
+            residue.formula =
+                ChemicalFormula::parse(QString::fromStdString(record.residueFormula.formula())).value();
+        }
+        return residues;
+    }();
+    return table;
+}
+
+} // namespace
+
+Error badSequence(const QString &reason, qsizetype index)
+{
+    return Error(ErrorCode::InvalidContent, Tr::tr("A sequence has no formula."))
+        .addDetail(Tr::tr("%1, at character %2.").arg(reason).arg(index + 1));
+}
+
+Result<ChemicalFormula> proteinFormula(const QString &sequence)
+{
+    std::array<qint64, kLetters> counts{};
+    for (qsizetype i = 0; i < sequence.size(); ++i) {
+        const int letter = sequence.at(i).unicode() - 'A';
+        if (letter < 0 || letter >= kLetters || !residues().at(static_cast<size_t>(letter)).known)
+            return badSequence(Tr::tr("\"%1\" is no amino acid").arg(sequence.at(i)), i);
+        if (i >= ChemicalFactory::kMaximumLength)
+            return badSequence(Tr::tr("The sequence is too long"), i);
+        ++counts.at(static_cast<size_t>(letter));
+    }
+    ChemicalFormula formula = ChemicalFormula::parse(QStringLiteral("H2O")).value();
+    for (size_t letter = 0; letter < kLetters; ++letter)
+        formula += residues().at(letter).formula * counts.at(letter);
+    return formula;
+}
+
+} // namespace orv::Internal
