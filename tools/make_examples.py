@@ -158,10 +158,32 @@ def sample(number, name, path, **more):
     return entry
 
 
-def proteins(writer):
-    value = rows(["Name", "Sequence"], ["Heavy chain", HEAVY_CHAIN], ["Light chain", LIGHT_CHAIN])
+def proteins(writer, name, *lines):
+    value = rows(["ProteinAccessionName", "ProteinAliasName", "ProteinSequence"], *lines)
     value["proteinAnnotations"] = []
-    return writer.table("Proteins", "Protein Input", 253, value)
+    return writer.table("Proteins", name, 253, value)
+
+
+def antibody(writer):
+    return proteins(writer, "Protein Input", ["HC", "Heavy chain", HEAVY_CHAIN], ["LC", "Light chain", LIGHT_CHAIN])
+
+
+def molecules(chains, complexes):
+    """Chains as (id, name, sequence), whose masses the software fills in, and what is built of them."""
+    numbered = [[number, *chain, None, None, 1] for number, chain in enumerate(chains, 1)]
+    tables = [rows(["Number", "ChainId", "Name", "Sequence", "MonoisotopicMass", "AverageMass", "isCustom"], *numbered),
+              rows(["Name", "ChainNumbers", "Disulfides", "SamplesIds"], *complexes),
+              rows(["Symbol", "Name", "Type", "Formula"])]
+    return {"data": ["Chains", "Proteins", "BuildingBlocks"], "children": tables}
+
+
+def masses(*lines):
+    return rows(["Name", "Mass", "Protein", "SamplesIds"], *[[name, mass, "", []] for name, mass in lines])
+
+
+def deconvolution(*line):
+    return rows(["Name", "MinimumMz", "MaximumMz", "MinimumMass", "MaximumMass", "MinimumCharge", "MaximumCharge",
+                 "Adduct"], list(line))
 
 
 def database(writer, path):
@@ -172,7 +194,7 @@ def antibody_peptide_map():
     w = Writer("5.47.0")
     samples = [sample(1, "mAb reference", "../data/mab_reference.mzML"),
                sample(2, "mAb 4 weeks 40 °C", "../data/mab_stressed.mzML")]
-    return w.document([tab("Samples", w.samples(samples)), tab("Sequences", proteins(w)),
+    return w.document([tab("Samples", w.samples(samples)), tab("Sequences", antibody(w)),
                        tab("Peptide map", w.step("Karvon", "MS/MS search", SEARCH),
                            w.step("Senthia", "Peptide map", PEPTIDE_MAP))],
                       name="Antibody peptide map", workflowType="PeptideMap", icon="peptide-map", contentMode=0,
@@ -182,15 +204,16 @@ def antibody_peptide_map():
 
 def intact_mass_check():
     w = Writer("5.47.0", user="j.okafor", created="2024-01-17T15:02:31")
-    chains = rows(["Name", "Sequence", "isCustom"], ["HC", HEAVY_CHAIN, 1], ["LC", LIGHT_CHAIN, 1])
-    masses = rows(["Name", "Mass"], ["G0F/G0F", "148055.9"], ["G0F/G1F", "148218.0"], ["G1F/G1F", "148380.2"])
+    chains = molecules([("HC", "Heavy chain", HEAVY_CHAIN), ("LC", "Light chain", LIGHT_CHAIN)],
+                       [["mAb", [1, 1, 2, 2], 16, []]])
+    glycoforms = masses(("G0F/G0F", 148055.9), ("G0F/G1F", 148218.1), ("G1F/G1F", 148380.2))
     masses_cell = w.cell("Masses", "Delta masses", [
-        {"name": w.name(207), "value": masses},
+        {"name": w.name(207), "value": glycoforms},
         {"name": w.name(210), "value": rows(["Value", "Unit"], [30.0, "ppm"])}])
     return w.document([tab("Samples", w.samples([sample(1, "Lot 0423", "lot0423.mzML")])),
                        tab("Proteins", w.table("IntactProteins", "Intact proteins", 171, chains), masses_cell),
                        tab("Intact mass", w.step("Intact", "Intact mass", INTACT),
-                           w.table("IntactOptions", "Options", 170, rows(["Name", "Value"], ["Mode", "Denatured"])))],
+                           w.table("IntactOptions", "Options", 170, deconvolution("Denatured", 600, 5000, 20000, 200000, 10, 100, "H")))],
                       name="Intact mass check", workflowType="DenaturedIntactMass", icon="denatured-intact-mass",
                       contentMode=0, description="Release check: intact mass of one lot against the expected glycoforms.")
 
@@ -199,8 +222,8 @@ def oligonucleotide_map():
     w = Writer("5.47.0")
     return w.document([tab("Samples", w.samples([sample(1, "sgRNA RNase T1", "sgrna_t1.mzML"),
                                                  sample(2, "sgRNA cusativin", "sgrna_cusativin.mzML")])),
-                       tab("Sequences", w.cell("Proteins", "Oligonucleotides (drag and drop FASTA files)", [
-                           {"name": w.name(253), "value": rows(["Name", "Sequence"], ["sgRNA", "GGAAUCUGACUUCAGGCAUU"])}])),
+                       tab("Sequences", proteins(w, "Oligonucleotides (drag and drop FASTA files)",
+                                                 ["sgRNA", "Guide RNA", "GGAAUCUGACUUCAGGCAUU"])),
                        tab("Oligonucleotide map", w.step("Karvon", "Oligo search", SEARCH[:1] + SEARCH[5:7] + SEARCH[-1:], p83=2),
                            w.step("Senthia", "Oligo map", PEPTIDE_MAP[2:4] + PEPTIDE_MAP[6:],
                                   p291="../UI_layouts/Digested_Oligo.ini"))],
@@ -211,12 +234,15 @@ def oligonucleotide_map():
 def intact_oligonucleotide():
     w = Writer("5.46.0")
     return w.document([tab("Samples", w.samples([sample(1, "ASO lot A", "aso_a.mzML")])),
-                       tab("Molecules", w.table("OligoMolecules", "Molecules", 226, rows(["Name", "Sequence"], ["ASO", "GCATTGGTATTC"])),
+                       tab("Molecules", w.table("OligoMolecules", "Molecules", 226, molecules([("A", "ASO", "GCATTGGTATTC")], [["ASO", [1], 0, []]])),
                            w.cell("OligoMasses", "Impurities", [
-                               {"name": w.name(207), "value": rows(["Name", "Mass"], ["PO for PS", "-15.977"])},
-                               {"name": w.name(286), "value": {}}, {"name": w.name(224), "value": {}}])),
+                               {"name": w.name(207), "value": masses(("PO for PS", -15.977))},
+                               {"name": w.name(286), "value": {"fullLengthProduct": {"unit": "ppm", "value": 10},
+                                                               "impurities": {"unit": "ppm", "value": 20}}},
+                               {"name": w.name(224), "value": {"additions": 1, "baseLosses": 1, "sulfurLoss": True,
+                                                               "fivePrimeTruncations": 3, "threePrimeTruncations": 3}}])),
                        tab("Intact oligo", w.step("Oligo", "Deconvolution", OLIGO),
-                           w.table("OligoOptions", "Options", 225, rows(["Name", "Value"], ["Mode", "IsoResolved"])))],
+                           w.table("OligoOptions", "Options", 225, deconvolution("Isotopically resolved", 400, 3000, 1000, 35000, 2, 20, "H")))],
                       name="Antisense oligonucleotide impurities", workflowType="IntactOligo", icon="intact-oligo",
                       contentMode=0, description="")
 
@@ -233,12 +259,17 @@ def glycoproteomics_search():
 
 def released_glycans():
     w = Writer("5.12.0", created="2021-03-30T16:20:10")
-    glycans = rows(["Name", "Composition", "Mass"], ["G0F", "HexNAc(4)Hex(3)Fuc(1)", "1462.544"],
-                   ["G1F", "HexNAc(4)Hex(4)Fuc(1)", "1624.597"], ["Man5", "HexNAc(2)Hex(5)", "1234.433"])
+    glycans = rows(["Name", "Composition", "Mass", "Label", "RetentionTime"],
+                   ["G0F", "HexNAc(4)Hex(3)Fuc(1)", 1462.544, "2-AB", None],
+                   ["G1F", "HexNAc(4)Hex(4)Fuc(1)", 1624.597, "2-AB", None],
+                   ["Man5", "HexNAc(2)Hex(5)", 1234.433, "2-AB", None])
+    options = rows(["Kind", "Name", "Formula", "Complete"], ["Moiety", "Hex", "C6H10O5", True],
+                   ["Moiety", "HexNAc", "C8H13NO5", True], ["Moiety", "Fuc", "C6H10O4", True],
+                   ["Label", "2-AB", "C7H8N2", True], ["Adduct", "H", "H", True])
     return w.document([tab("Samples", w.samples([sample(1, "released, 2-AB", "glycans_2ab.mzML")])),
                        tab("Glycans", w.table("DetachedGlycans", "Glycans", 129, glycans),
-                           w.table("GlycanOptions", "Options", 164, rows(["Name", "Value"], ["Label", "2-AB"])),
-                           w.table("Isotope", "Isotopes", 202, rows(["Name", "Mass"], ["C13", "1.00335"]))),
+                           w.table("GlycanOptions", "Options", 164, options),
+                           w.table("Isotope", "Isotopes", 202, rows(["Name", "Element", "MassNumber", "Enrichment"], ["Natural abundance", "C", 13, None]))),
                        tab("Profile", w.step("Dravik", "Glycan profile", RELEASED_GLYCANS))],
                       name="Released N-glycans, 2-AB", workflowType="ReleasedGlycans", icon="released-glycans",
                       contentMode=0, description="Fluorescence-labelled N-glycans.")

@@ -19,9 +19,27 @@ inline QJsonObject parse(const QByteArray &json)
     return document.object();
 }
 
+/// The property whose value is the table of such a cell; empty for cells without one.
+inline QString tableOf(const QString &type)
+{
+    static const QStringList tables{QStringLiteral("DetachedGlycans"), QStringLiteral("GlycanOptions"),
+                                    QStringLiteral("IntactOptions"),   QStringLiteral("Isotope"),
+                                    QStringLiteral("OligoOptions"),    QStringLiteral("OligoMolecules")};
+    if (type == QStringLiteral("Masses"))
+        return QStringLiteral("MassTable");
+    return tables.contains(type) ? type : QString();
+}
+
+/// A cell that a load followed by a save leaves as it is.
 inline QJsonObject cell(const QString &type, const QString &name = {})
 {
-    QJsonObject object{{QStringLiteral("type"), type}, {QStringLiteral("properties"), QJsonArray()}};
+    QJsonArray properties;
+    if (const QString table = tableOf(type); !table.isEmpty()) {
+        const QJsonObject node{{QStringLiteral("data"), QJsonArray()},
+                               {QStringLiteral("children"), QJsonArray()}};
+        properties.append(QJsonObject{{QStringLiteral("name"), table}, {QStringLiteral("value"), node}});
+    }
+    QJsonObject object{{QStringLiteral("type"), type}, {QStringLiteral("properties"), properties}};
     if (!name.isEmpty())
         object.insert(QStringLiteral("name"), name);
     return object;

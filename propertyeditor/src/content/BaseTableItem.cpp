@@ -240,7 +240,7 @@ Error BaseTableItem::assignFromJson(const QJsonObject &json, ValidationOptions o
         if (propertyId() == PropertyId::Samples)
             tables.append(PropertyId::CustomColumns);
         reportTableLosses(loadContext(), json,
-                          {propertyId(), tables, m_further.objects, m_further.valueMembers});
+                          {propertyId(), tables, m_further.objects, m_further.valueArrays});
     }
     Q_EMIT reset();
     return Error::NoError;

@@ -1,18 +1,31 @@
 #include "ItemCreators.h"
 
 #include <orv/propertyeditor/content/KeyValueItem.h>
+#include <orv/propertyeditor/content/DetachedGlycanTableItem.h>
+#include <orv/propertyeditor/content/GlycanOptionsItem.h>
+#include <orv/propertyeditor/content/IntactOptionsTableItem.h>
+#include <orv/propertyeditor/content/IsotopeTableItem.h>
+#include <orv/propertyeditor/content/MassesTableItem.h>
+#include <orv/propertyeditor/content/OligoMassesTableItem.h>
+#include <orv/propertyeditor/content/OligoOptionsTableItem.h>
+#include <orv/propertyeditor/content/OligoProteinsTableItem.h>
+#include <orv/propertyeditor/content/ProteinsTableItem.h>
 #include <orv/propertyeditor/content/UnsupportedItem.h>
 
 #include <array>
+#include <type_traits>
 
 namespace orv::PropertyEditor {
 
 namespace {
 
 template<typename Item>
-std::unique_ptr<BaseItem> create(BaseItemType type)
+std::unique_ptr<BaseItem> create([[maybe_unused]] BaseItemType type)
 {
-    return std::make_unique<Item>(type);
+    if constexpr (std::is_constructible_v<Item, BaseItemType>)
+        return std::make_unique<Item>(type);
+    else
+        return std::make_unique<Item>();
 }
 
 struct Row
@@ -28,7 +41,7 @@ constexpr std::array kRows = {
     Row{BaseItemType::Dravik, create<KeyValueItem>},
     Row{BaseItemType::Karvon, create<KeyValueItem>},
     Row{BaseItemType::Database, create<UnsupportedItem>},
-    Row{BaseItemType::DetachedGlycans, create<UnsupportedItem>},
+    Row{BaseItemType::DetachedGlycans, create<DetachedGlycanTableItem>},
     Row{BaseItemType::Disulfide, create<UnsupportedItem>},
     Row{BaseItemType::GlycanOptions, create<UnsupportedItem>},
     Row{BaseItemType::Intact, create<KeyValueItem>},
@@ -44,6 +57,20 @@ constexpr std::array kRows = {
     Row{BaseItemType::IntactProteins, create<UnsupportedItem>},
     Row{BaseItemType::OligoMolecules, create<UnsupportedItem>},
     Row{BaseItemType::Ostrale, create<KeyValueItem>},
+    Row{BaseItemType::GlycanOptions, create<GlycanOptionsItem>},
+    Row{BaseItemType::Intact, create<UnsupportedItem>},
+    Row{BaseItemType::IntactOptions, create<IntactOptionsTableItem>},
+    Row{BaseItemType::Oligo, create<UnsupportedItem>},
+    Row{BaseItemType::OligoOptions, create<OligoOptionsTableItem>},
+    Row{BaseItemType::OligoMasses, create<OligoMassesTableItem>},
+    Row{BaseItemType::Isotope, create<IsotopeTableItem>},
+    Row{BaseItemType::Masses, create<MassesTableItem>},
+    Row{BaseItemType::MultiDocReport, create<UnsupportedItem>},
+    Row{BaseItemType::Proteins, create<ProteinsTableItem>},
+    Row{BaseItemType::Preview, create<UnsupportedItem>},
+    Row{BaseItemType::IntactProteins, create<UnsupportedItem>},
+    Row{BaseItemType::OligoMolecules, create<OligoProteinsTableItem>},
+    Row{BaseItemType::Ostrale, create<UnsupportedItem>},
     Row{BaseItemType::Samples, create<UnsupportedItem>},
     Row{BaseItemType::SamplesProteins, create<UnsupportedItem>},
     Row{BaseItemType::Trenq, create<KeyValueItem>},

@@ -50,14 +50,24 @@ void reportNodeMembers(const LoadContext &context, const QJsonObject &node, cons
         reportNodeMembers(rowsContext.element(i), rows.at(i).toObject(), {});
 }
 
+void reportOddArrays(const LoadContext &context, const QJsonObject &value, const QStringList &keys)
+{
+    for (const QString &key : keys) {
+        if (value.contains(key) && !value.value(key).isArray())
+            context.lost(key, memberText(key), Tr::tr("it is no array"));
+    }
+}
+
 void reportTable(const LoadContext &context, const QJsonObject &entry, const QStringList &kept)
 {
     const QJsonValue value = entry.value(VALUE_KEY);
     RowNode node;
-    if (value.isObject() && rn::fromObject(value.toObject(), &node))
+    if (value.isObject() && rn::fromObject(value.toObject(), &node)) {
         reportNodeMembers(context.member(VALUE_KEY), value.toObject(), kept);
-    else if (!value.isUndefined())
+        reportOddArrays(context.member(VALUE_KEY), value.toObject(), kept);
+    } else if (!value.isUndefined()) {
         context.lost(VALUE_KEY, Tr::tr("value of the table"), Tr::tr("it is no table"));
+    }
 }
 
 void reportObject(const LoadContext &context, const QJsonObject &entry)
@@ -75,7 +85,7 @@ void reportEntry(const LoadContext &context, const QJsonObject &entry, PropertyI
     if (content.objects.contains(id))
         reportObject(context, entry);
     else
-        reportTable(context, entry, id == content.table ? content.valueMembers : QStringList());
+        reportTable(context, entry, id == content.table ? content.valueArrays : QStringList());
 }
 
 bool isKept(PropertyId id, const TableContent &content)

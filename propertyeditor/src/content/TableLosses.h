@@ -15,7 +15,7 @@ struct TableContent
     PropertyId table;
     QList<PropertyId> furtherTables;
     QList<PropertyId> objects;
-    QStringList valueMembers; ///< members of the table's value beside those of a node
+    QStringList valueArrays; ///< members of the table's value beside those of a node, arrays
 };
 
 /// Tells the observer what of the cell \a json, which stands at \a context, isn't kept: members, entries that

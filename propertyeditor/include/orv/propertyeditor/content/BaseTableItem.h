@@ -86,7 +86,7 @@ protected:
     {
         QList<PropertyId> tables;  ///< further entries of "properties" that hold tables
         QList<PropertyId> objects; ///< further entries of "properties" that hold other objects
-        QStringList valueMembers;  ///< members of the table's value beside those of a node
+        QStringList valueArrays;   ///< members of the table's value beside those of a node, arrays
     };
 
     explicit BaseTableItem(BaseItemType type);

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <orv/chemistry/MassTolerances.h>
+#include <orv/chemistry/OligoImpurities.h>
+#include <orv/propertyeditor/content/MassesTableItem.h>
+
+namespace orv::PropertyEditor {
+
+/// The masses of oligonucleotides, with the tolerances by which they are assigned and the impurities that
+/// are expected.
+class ORV_WORKFLOW_EXPORT OligoMassesTableItem : public MassesTableItem
+{
+    Q_OBJECT
+
+public:
+    OligoMassesTableItem();
+    ~OligoMassesTableItem() override;
+
+    [[nodiscard]] MassTolerances tolerances() const { return m_tolerances; }
+    void setTolerances(const MassTolerances &tolerances) { m_tolerances = tolerances; }
+    [[nodiscard]] OligoImpurities impurities() const { return m_impurities; }
+    void setImpurities(const OligoImpurities &impurities) { m_impurities = impurities; }
+
+    QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const override;
+    /// Tolerances and impurities that the document doesn't give stay as they are.
+    Error assignFromJson(const QJsonObject &json, ValidationOptions options) override;
+    void clear() override;
+
+private:
+    MassTolerances m_tolerances;
+    OligoImpurities m_impurities;
+};
+
+} // namespace orv::PropertyEditor

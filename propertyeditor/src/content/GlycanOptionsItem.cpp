@@ -1,0 +1,31 @@
+#include "../GlycanDatabasePaths.h"
+
+#include <orv/propertyeditor/content/GlycanOptionsItem.h>
+
+namespace orv::PropertyEditor {
+
+GlycanOptionsItem::GlycanOptionsItem()
+    : BaseTableItem(BaseItemType::GlycanOptions)
+{}
+
+GlycanOptionsItem::~GlycanOptionsItem() = default;
+
+void GlycanOptionsItem::setBaseUrl(const QUrl &url)
+{
+    m_baseUrl = url;
+}
+
+QJsonObject GlycanOptionsItem::toJson(PropertyConversionFlag flag) const
+{
+    QJsonObject json = BaseTableItem::toJson(flag);
+    if (flag == PropertyConversionFlag::AbsolutePaths)
+        updateGlycanDatabaseToAbsolute(m_baseUrl, &json);
+    return json;
+}
+
+PropertyId GlycanOptionsItem::propertyId() const
+{
+    return PropertyId::GlycanOptions;
+}
+
+} // namespace orv::PropertyEditor
