@@ -86,7 +86,7 @@ QString getValueFromList(const QVariant &value, const QStringList &names, const 
         *ok = true;
     switch (value.typeId()) {
     case QMetaType::QString:
-        if (const QString text = value.toString(); editable || names.contains(text))
+        if (QString text = value.toString(); editable || names.contains(text))
             return text;
         qCWarning(propertyEditorLog) << propertyName
                                      << "is not editable list and list data does not contain value "
