@@ -15,7 +15,7 @@ struct OptionRow
 {
     QLatin1String kind;
     QLatin1String name;
-    QLatin1String formula; ///< of the residue, which is the sugar without water; of an adduct, what it adds
+    QLatin1String formula;
 };
 
 constexpr std::array kDefaultOptions = {

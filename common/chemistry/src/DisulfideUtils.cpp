@@ -1,15 +1,116 @@
 #include "internal/DisulfideColumns.h"
+#include "internal/TableRows.h"
 #include "internal/Tables.h"
 
 #include <orv/chemistry/DisulfideUtils.h>
+
+#include <QCoreApplication>
+#include <QSet>
 
 namespace orv::Disulfide::DisulfideUtils {
 
 using namespace Internal::DisulfideColumns;
 
+namespace {
+
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(DisulfideUtils)
+};
+
+using Cysteine = std::pair<QString, int>;
+
+Error readPosition(const Internal::TableReader &rows, int row, QLatin1String column, int *position)
+{
+    *position = Internal::intOf(rows.cell(row, column)).value_or(0);
+    if (*position > 0)
+        return Error::NoError;
+    return Error(ErrorCode::InvalidContent, Tr::tr("The table of disulfide bonds can't be read."))
+        .addDetail(
+            Tr::tr("Row %1: \"%2\" is no position of a residue.").arg(row + 1).arg(rows.text(row, column)));
+}
+
+bool isEmptyRow(const Internal::TableReader &rows, int row)
+{
+    const std::initializer_list<QLatin1String> columns = {kFirstChain, kFirstPosition, kSecondChain,
+                                                          kSecondPosition};
+    return std::all_of(columns.begin(), columns.end(),
+                       [&](QLatin1String column) { return Internal::isEmptyCell(rows.cell(row, column)); });
+}
+
+QString faultOf(const Cysteine &cysteine, const QHash<QString, QString> &sequences)
+{
+    const auto &[chain, position] = cysteine;
+    const auto sequence = sequences.constFind(chain);
+    if (sequence == sequences.cend())
+        return Tr::tr("there is no chain \"%1\".").arg(chain);
+    if (position < 1 || position > sequence->size())
+        return Tr::tr("the chain \"%1\" has no residue %2.").arg(chain).arg(position);
+    if (sequence->at(position - 1).toUpper() != QLatin1Char('C')) {
+        return Tr::tr("residue %1 of the chain \"%2\" is %3 and no cysteine.")
+            .arg(position)
+            .arg(chain, sequence->at(position - 1));
+    }
+    return {};
+}
+
+} // namespace
+
 RowNode defaultRowNode()
 {
     return Internal::tableOf({kFirstChain, kFirstPosition, kSecondChain, kSecondPosition});
+}
+
+Result<QList<Bond>> bondsFromRowNode(const RowNode &table)
+{
+    const Internal::TableReader rows(table, {kFirstChain, kFirstPosition, kSecondChain, kSecondPosition});
+    QList<Bond> bonds;
+    for (int i = 0; i < rows.rowCount(); ++i) {
+        if (isEmptyRow(rows, i))
+            continue;
+        Bond bond;
+        bond.firstChain = rows.text(i, kFirstChain);
+        bond.secondChain = rows.text(i, kSecondChain);
+        ORV_RETURN_IF_ERROR(readPosition(rows, i, kFirstPosition, &bond.firstPosition));
+        ORV_RETURN_IF_ERROR(readPosition(rows, i, kSecondPosition, &bond.secondPosition));
+        bond.otherCells = rows.otherCells(i);
+        bonds.append(bond);
+    }
+    return bonds;
+}
+
+RowNode bondsToRowNode(const QList<Bond> &bonds)
+{
+    RowNode table = defaultRowNode();
+    Internal::TableWriter rows(&table);
+    for (const Bond &bond : bonds)
+        rows.addRow({bond.firstChain, bond.firstPosition, bond.secondChain, bond.secondPosition},
+                    bond.otherCells);
+    return table;
+}
+
+bool validate(const QList<Bond> &bonds, const QHash<QString, QString> &sequences, QStringList *warnings)
+{
+    QStringList faults;
+    QSet<Cysteine> bound;
+    for (qsizetype i = 0; i < bonds.size(); ++i) {
+        const Bond &bond = bonds.at(i);
+        for (const Cysteine &end : {Cysteine(bond.firstChain, bond.firstPosition),
+                                    Cysteine(bond.secondChain, bond.secondPosition)}) {
+            QString fault = faultOf(end, sequences);
+            if (fault.isEmpty() && bound.contains(end)) {
+                fault = Tr::tr("cysteine %1 of the chain \"%2\" stands in two bonds.")
+                            .arg(end.second)
+                            .arg(end.first);
+            }
+            if (!fault.isEmpty())
+                faults.append(Tr::tr("Disulfide bond %1: %2").arg(i + 1).arg(fault));
+            bound.insert(end);
+        }
+    }
+    if (warnings)
+        warnings->append(faults);
+    return faults.isEmpty();
 }
 
 } // namespace orv::Disulfide::DisulfideUtils

@@ -1,19 +1,132 @@
 #include "internal/IsotopeColumns.h"
+#include "internal/TableRows.h"
 #include "internal/Tables.h"
 
 #include <orv/chemistry/IsotopeUtils.h>
+
+#include <QCoreApplication>
+
+#include <pwiz/utility/chemistry/IsotopeCalculator.hpp>
+
+#include <cmath>
 
 namespace orv::IsotopeUtils {
 
 using namespace Internal::IsotopeColumns;
 using namespace Qt::StringLiterals;
 
+namespace {
+
+namespace chemistry = pwiz::chemistry;
+
+/// Peaks of one nominal mass differ by far less, those of the next by about 1 Da.
+constexpr double kPeakWidthDa = 0.2;
+
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(IsotopeUtils)
+};
+
+Error badRow(int row, const QString &reason)
+{
+    return Error(ErrorCode::InvalidContent, Tr::tr("The table of isotopes can't be read."))
+        .addDetail(Tr::tr("Row %1: %2").arg(row + 1).arg(reason));
+}
+
+Error noEnvelope(const ChemicalFormula &formula, const QString &reason)
+{
+    return Error(ErrorCode::InvalidContent, Tr::tr("A formula has no isotope envelope."))
+        .addDetail(Tr::tr("The formula is \"%1\". %2").arg(formula.toString(), reason));
+}
+
+} // namespace
+
 RowNode defaultRowNode()
 {
-    RowNode table = Internal::tableOf({kName, kElement, kMassNumber, kEnrichment});
     // No enrichment stands for the natural abundance, which is nobody's to type in.
-    table.addNewChild({u"Natural abundance"_s, u"C"_s, 13, QVariant()});
+    return isotopesToRowNode({{u"Natural abundance"_s, u"C"_s, 13, std::nullopt, {}}});
+}
+
+Result<QList<IsotopeLabel>> isotopesFromRowNode(const RowNode &table)
+{
+    const Internal::TableReader rows(table, {kName, kElement, kMassNumber, kEnrichment});
+    QList<IsotopeLabel> isotopes;
+    for (int i = 0; i < rows.rowCount(); ++i) {
+        IsotopeLabel isotope;
+        isotope.name = rows.text(i, kName);
+        isotope.element = rows.text(i, kElement).trimmed();
+        isotope.massNumber = Internal::intOf(rows.cell(i, kMassNumber)).value_or(0);
+        if (!naturalAbundancePercent(isotope.element, isotope.massNumber)) {
+            return badRow(i, Tr::tr("There is no natural isotope \"%1\" of \"%2\".")
+                                 .arg(rows.text(i, kMassNumber), isotope.element));
+        }
+        const QVariant enrichment = rows.cell(i, kEnrichment);
+        isotope.enrichmentPercent = Internal::numberOf(enrichment);
+        constexpr double kAll = 100.0;
+        const double percent =
+            isotope.enrichmentPercent.value_or(Internal::isEmptyCell(enrichment) ? 0.0 : -1.0);
+        if (percent < 0.0 || percent > kAll)
+            return badRow(i, Tr::tr("The enrichment \"%1\" is no percentage.").arg(enrichment.toString()));
+        isotope.otherCells = rows.otherCells(i);
+        isotopes.append(isotope);
+    }
+    return isotopes;
+}
+
+RowNode isotopesToRowNode(const QList<IsotopeLabel> &isotopes)
+{
+    RowNode table = Internal::tableOf({kName, kElement, kMassNumber, kEnrichment});
+    Internal::TableWriter rows(&table);
+    for (const IsotopeLabel &isotope : isotopes) {
+        rows.addRow(
+            {isotope.name, isotope.element, isotope.massNumber, Internal::cellOf(isotope.enrichmentPercent)},
+            isotope.otherCells);
+    }
     return table;
+}
+
+std::optional<double> naturalAbundancePercent(const QString &element, int massNumber)
+{
+    constexpr double kPercent = 100.0;
+    if (element.startsWith(u'_')) // the library's single isotopes
+        return std::nullopt;
+    try {
+        for (const chemistry::MassAbundance &isotope :
+             chemistry::Element::Info::record(element.toStdString()).isotopes) {
+            if (std::lround(isotope.mass) == massNumber && isotope.mass > 0.0)
+                return isotope.abundance * kPercent;
+        }
+    } catch (const std::exception &) {
+        return std::nullopt; // no such element
+    }
+    return std::nullopt;
+}
+
+Result<QList<IsotopePeak>> envelope(const ChemicalFormula &formula, double cutoff)
+{
+    if (!(cutoff > 0.0 && cutoff < 1.0))
+        return noEnvelope(formula, Tr::tr("The cutoff %1 isn't between 0 and 1.").arg(cutoff));
+    if (formula.isEmpty())
+        return noEnvelope(formula, Tr::tr("It is empty."));
+    chemistry::Formula composition;
+    for (auto it = formula.counts().cbegin(); it != formula.counts().cend(); ++it) {
+        if (it.value() < 0 || it.value() > ChemicalFormula::kMaximumCount)
+            return noEnvelope(formula,
+                              Tr::tr("There can't be %1 atoms of %2.").arg(it.value()).arg(it.key()));
+        composition[chemistry::Element::Info::record(it.key().toStdString()).type] =
+            static_cast<int>(it.value());
+    }
+    try {
+        QList<IsotopePeak> peaks;
+        for (const chemistry::MassAbundance &peak :
+             chemistry::IsotopeCalculator(cutoff, kPeakWidthDa).distribution(composition))
+            peaks.append({peak.mass, peak.abundance});
+        std::sort(peaks.begin(), peaks.end(),
+                  [](const IsotopePeak &a, const IsotopePeak &b) { return a.massDa < b.massDa; });
+        return peaks;
+    } catch (const std::exception &exception) {
+        return noEnvelope(formula, QString::fromUtf8(exception.what()));
+    }
 }
 
 } // namespace orv::IsotopeUtils

@@ -101,7 +101,9 @@ QJsonObject without(QJsonObject object, std::initializer_list<QLatin1String> key
 
 QString shortNumber(double number)
 {
-    return QString::number(number, 'g', QLocale::FloatingPointShortest);
+    constexpr double kLongestWritten = 1e15;
+    const bool plain = std::abs(number) < kLongestWritten;
+    return QString::number(number, plain ? 'f' : 'g', QLocale::FloatingPointShortest);
 }
 
 } // namespace orv::Internal

@@ -1,0 +1,129 @@
+#include "internal/GlycanColumns.h"
+#include "internal/TableRows.h"
+#include "internal/Tables.h"
+
+#include <orv/chemistry/GlycanComposition.h>
+#include <orv/chemistry/GlycanOptions.h>
+
+#include <QCoreApplication>
+
+#include <array>
+
+namespace orv {
+
+namespace {
+
+using namespace Internal::GlycanColumns;
+
+struct KindName
+{
+    QLatin1String text;
+    GlycanOptionKind kind;
+};
+
+constexpr std::array kKinds = {
+    KindName{kMoiety, GlycanOptionKind::Moiety},
+    KindName{kLabel, GlycanOptionKind::Label},
+    KindName{kAdduct, GlycanOptionKind::Adduct},
+    KindName{kDerivatization, GlycanOptionKind::Derivatization},
+};
+
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(GlycanOptions)
+};
+
+Error badRow(int row, const QString &reason)
+{
+    return Error(ErrorCode::InvalidContent, Tr::tr("The table of glycan options can't be read."))
+        .addDetail(Tr::tr("Row %1: %2").arg(row + 1).arg(reason));
+}
+
+Error unknownPiece(QLatin1String kind, const QString &name)
+{
+    return Error(ErrorCode::InvalidContent, Tr::tr("A glycan has no formula."))
+        .addDetail(Tr::tr("There is no %1 \"%2\" among the glycan options.").arg(kind, name));
+}
+
+} // namespace
+
+Result<GlycanOptions> GlycanOptions::fromRowNode(const RowNode &table)
+{
+    const Internal::TableReader rows(table, {kKind, kName, kFormula, kComplete});
+    GlycanOptions options;
+    for (int i = 0; i < rows.rowCount(); ++i) {
+        const QString kindText = rows.text(i, kKind).trimmed();
+        const auto kind = std::find_if(kKinds.begin(), kKinds.end(),
+                                       [&](const KindName &candidate) { return candidate.text == kindText; });
+        if (kind == kKinds.end())
+            return badRow(i, Tr::tr("There is no kind \"%1\".").arg(kindText));
+        GlycanOption option;
+        option.kind = kind->kind;
+        option.name = rows.text(i, kName).trimmed();
+        if (option.name.isEmpty() || options.find(option.kind, option.name))
+            return badRow(i, Tr::tr("The name \"%1\" is empty or stands twice.").arg(option.name));
+        Result<ChemicalFormula> formula = ChemicalFormula::parse(rows.text(i, kFormula));
+        if (formula.hasError())
+            return formula.ecatch().addDetail(
+                Tr::tr("It stands in row %1 of the glycan options.").arg(i + 1));
+        option.formula = *formula;
+        const QVariant complete = rows.cell(i, kComplete);
+        option.complete = Internal::isEmptyCell(complete) || complete.toBool();
+        option.otherCells = rows.otherCells(i);
+        options.m_options.append(option);
+    }
+    return options;
+}
+
+RowNode GlycanOptions::toRowNode() const
+{
+    RowNode table = Internal::tableOf({kKind, kName, kFormula, kComplete});
+    Internal::TableWriter rows(&table);
+    for (const GlycanOption &option : m_options) {
+        const auto kind = std::find_if(kKinds.begin(), kKinds.end(),
+                                       [&](const KindName &row) { return row.kind == option.kind; });
+        rows.addRow({QString(kind->text), option.name, option.formula.toString(), option.complete},
+                    option.otherCells);
+    }
+    return table;
+}
+
+QList<GlycanOption> GlycanOptions::ofKind(GlycanOptionKind kind) const
+{
+    QList<GlycanOption> options;
+    std::copy_if(m_options.begin(), m_options.end(), std::back_inserter(options),
+                 [&](const GlycanOption &option) { return option.kind == kind; });
+    return options;
+}
+
+Result<ChemicalFormula> GlycanOptions::formula(const Glycan &glycan) const
+{
+    Result<GlycanComposition> composition = GlycanComposition::parse(glycan.composition);
+    if (composition.hasError())
+        return composition.ecatch();
+    ChemicalFormula formula = ChemicalFormula::parse(QStringLiteral("H2O")).value();
+    for (const GlycanComposition::Part &part : composition->parts()) {
+        const GlycanOption *moiety = find(GlycanOptionKind::Moiety, part.moiety);
+        if (!moiety)
+            return unknownPiece(kMoiety, part.moiety);
+        formula += moiety->formula * part.count;
+    }
+    if (!glycan.label.isEmpty()) {
+        const GlycanOption *label = find(GlycanOptionKind::Label, glycan.label);
+        if (!label)
+            return unknownPiece(kLabel, glycan.label);
+        formula += label->formula;
+    }
+    return formula;
+}
+
+const GlycanOption *GlycanOptions::find(GlycanOptionKind kind, const QString &name) const
+{
+    const auto option =
+        std::find_if(m_options.cbegin(), m_options.cend(), [&](const GlycanOption &candidate) {
+            return candidate.kind == kind && candidate.name == name;
+        });
+    return option == m_options.cend() ? nullptr : &*option;
+}
+
+} // namespace orv
