@@ -109,18 +109,25 @@ Result<QList<IsotopePeak>> envelope(const ChemicalFormula &formula, double cutof
     if (formula.isEmpty())
         return noEnvelope(formula, Tr::tr("It is empty."));
     chemistry::Formula composition;
+    double pureMassDa = 0.0;
     for (auto it = formula.counts().cbegin(); it != formula.counts().cend(); ++it) {
         if (it.value() < 0 || it.value() > ChemicalFormula::kMaximumCount)
             return noEnvelope(formula,
                               Tr::tr("There can't be %1 atoms of %2.").arg(it.value()).arg(it.key()));
-        composition[chemistry::Element::Info::record(it.key().toStdString()).type] =
-            static_cast<int>(it.value());
+        const chemistry::Element::Info::Record &element =
+            chemistry::Element::Info::record(it.key().toStdString());
+        if (element.isotopes.size() == 1)
+            pureMassDa += static_cast<double>(it.value()) * element.monoisotope.mass;
+        else
+            composition[element.type] = static_cast<int>(it.value());
     }
+    if (composition.data().empty())
+        return QList<IsotopePeak>{{pureMassDa, 1.0}};
     try {
         QList<IsotopePeak> peaks;
         for (const chemistry::MassAbundance &peak :
              chemistry::IsotopeCalculator(cutoff, kPeakWidthDa).distribution(composition))
-            peaks.append({peak.mass, peak.abundance});
+            peaks.append({peak.mass + pureMassDa, peak.abundance});
         std::sort(peaks.begin(), peaks.end(),
                   [](const IsotopePeak &a, const IsotopePeak &b) { return a.massDa < b.massDa; });
         return peaks;

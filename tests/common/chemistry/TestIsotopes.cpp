@@ -21,6 +21,7 @@ private Q_SLOTS:
     void naturalAbundancesAreKnown();
     void carbonDisulfideShowsItsSulfur();
     void theEnvelopeOfInsulinIsComplete();
+    void elementsOfOneIsotopeShiftTheEnvelope();
     void formulasWithoutEnvelopeAreRefused_data();
     void formulasWithoutEnvelopeAreRefused();
 };
@@ -155,6 +156,23 @@ void TestIsotopes::theEnvelopeOfInsulinIsComplete()
     QVERIFY2(sum > 0.97 && sum < 1.001, qPrintable(QString::number(sum)));
     QVERIFY(std::abs(peaks->constFirst().massDa - insulin.monoisotopicMass()) < 0.01);
     QVERIFY(std::abs(mean / sum - insulin.averageMass()) < 0.2);
+}
+
+void TestIsotopes::elementsOfOneIsotopeShiftTheEnvelope()
+{
+    const ChemicalFormula phosphate = ChemicalFormula::parse(u"H3PO4"_s).value();
+    const Result<QList<IsotopePeak>> peaks = IsotopeUtils::envelope(phosphate);
+    const Result<QList<IsotopePeak>> rest = IsotopeUtils::envelope(ChemicalFormula::parse(u"H3O4"_s).value());
+    ORV_VERIFY_OK(peaks);
+    ORV_VERIFY_OK(rest);
+    QCOMPARE(peaks->size(), rest->size());
+    QVERIFY(std::abs(peaks->constFirst().massDa - phosphate.monoisotopicMass()) < 1e-6);
+    QCOMPARE(peaks->constFirst().abundance, rest->constFirst().abundance);
+
+    const Result<QList<IsotopePeak>> pure = IsotopeUtils::envelope(ChemicalFormula::parse(u"P4"_s).value());
+    ORV_VERIFY_OK(pure);
+    QCOMPARE(pure->size(), 1);
+    QCOMPARE(pure->constFirst().abundance, 1.0);
 }
 
 void TestIsotopes::formulasWithoutEnvelopeAreRefused_data()
