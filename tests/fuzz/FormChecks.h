@@ -28,5 +28,11 @@ namespace FormChecks {
 
 /// A reference is refused with a reason or survives its text, and so do the names in a list of samples.
 [[nodiscard]] QString checkReference(const QByteArray &bytes);
+/// FASTA is refused with a place and a remedy, or its sequences read back from what is written.
+[[nodiscard]] QString checkFasta(const QByteArray &bytes);
+
+/// Formulas, compositions, digestion rules, sequences and inclusion lists are refused with a place, or read back
+/// what they write.
+[[nodiscard]] QString checkChemistry(const QByteArray &bytes);
 
 } // namespace FormChecks

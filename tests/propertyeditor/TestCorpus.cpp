@@ -38,6 +38,10 @@ private Q_SLOTS:
     void samplesAreRefusedOrReadBackEqual() { run(FormChecks::checkSamples); }
     void referencesAreRefusedOrSurviveTheirText_data() { addFiles(); }
     void referencesAreRefusedOrSurviveTheirText() { run(FormChecks::checkReference); }
+    void fastaIsRefusedOrReadBackEqual_data() { addFiles(); }
+    void fastaIsRefusedOrReadBackEqual() { run(FormChecks::checkFasta); }
+    void chemistryIsRefusedOrReadBackEqual_data() { addFiles(); }
+    void chemistryIsRefusedOrReadBackEqual() { run(FormChecks::checkChemistry); }
 
 private:
     static void addFiles();
@@ -67,6 +71,7 @@ void TestCorpus::everyFuzzerHasSeeds_data()
     QTest::addColumn<QString>("folder");
     for (const char *folder :
          {"csv", "json", "object_form", "reference", "row_node", "samples", "value_form"})
+    for (const char *folder : {"chemistry", "csv", "fasta", "json", "object_form", "row_node", "value_form"})
         QTest::newRow(folder) << QString::fromLatin1(folder);
 }
 
