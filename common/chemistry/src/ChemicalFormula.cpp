@@ -1,15 +1,13 @@
+#include "internal/Elements.h"
+
 #include <orv/chemistry/ChemicalFormula.h>
 
 #include <QCoreApplication>
 #include <QRegularExpression>
 
-#include <pwiz/utility/chemistry/Chemistry.hpp>
-
 namespace orv {
 
 namespace {
-
-namespace Element = pwiz::chemistry::Element;
 
 constexpr qsizetype kLongestText = 1000;
 
@@ -24,23 +22,11 @@ Error malformed(const QString &text, const QString &place)
         .addDetail(Tr::tr("The formula is \"%1\". %2").arg(text.left(100), place));
 }
 
-/// Null for a symbol that is no element, or one whose mass isn't known.
-const Element::Info::Record *findElement(const QString &symbol)
-{
-    try {
-        const Element::Info::Record &record = Element::Info::record(symbol.toStdString());
-        return record.atomicWeight > 0.0 ? &record : nullptr;
-    } catch (const std::exception &) {
-        return nullptr;
-    }
-}
-
-template<typename Mass>
-double sum(const QMap<QString, qint64> &counts, Mass mass)
+double sum(const QMap<QString, qint64> &counts, double Internal::Element::*mass)
 {
     double total = 0.0;
     for (auto it = counts.cbegin(); it != counts.cend(); ++it)
-        total += static_cast<double>(it.value()) * mass(*findElement(it.key()));
+        total += static_cast<double>(it.value()) * Internal::findElement(it.key())->*mass;
     return total;
 }
 
@@ -70,7 +56,7 @@ Result<ChemicalFormula> ChemicalFormula::parse(const QString &text)
         const QRegularExpressionMatch match = piece.match(text, at, QRegularExpression::NormalMatch,
                                                           QRegularExpression::AnchorAtOffsetMatchOption);
         const QString symbol = match.captured(QStringLiteral("symbol"));
-        const Element::Info::Record *element = match.hasMatch() ? findElement(symbol) : nullptr;
+        const Internal::Element *element = match.hasMatch() ? Internal::findElement(symbol) : nullptr;
         if (!element) {
             if (QStringView(text).mid(at).trimmed().isEmpty())
                 break;
@@ -82,7 +68,7 @@ Result<ChemicalFormula> ChemicalFormula::parse(const QString &text)
         const qint64 count = digits.isEmpty() ? 1 : digits.toLongLong(&ok);
         if (!ok || count > kMaximumCount || count < -kMaximumCount)
             return malformed(text, Tr::tr("The count \"%1\" of %2 is too large.").arg(digits, symbol));
-        formula.add(QString::fromStdString(element->symbol), count);
+        formula.add(element->symbol, count);
         at = match.capturedEnd();
     }
     return formula;
@@ -104,12 +90,12 @@ QString ChemicalFormula::toString() const
 
 double ChemicalFormula::monoisotopicMass() const
 {
-    return sum(m_counts, [](const Element::Info::Record &record) { return record.monoisotope.mass; });
+    return sum(m_counts, &Internal::Element::monoisotopicMassDa);
 }
 
 double ChemicalFormula::averageMass() const
 {
-    return sum(m_counts, [](const Element::Info::Record &record) { return record.atomicWeight; });
+    return sum(m_counts, &Internal::Element::averageMassDa);
 }
 
 ChemicalFormula &ChemicalFormula::operator+=(const ChemicalFormula &other)

@@ -1,3 +1,4 @@
+#include "internal/Elements.h"
 #include "internal/IsotopeColumns.h"
 #include "internal/TableRows.h"
 #include "internal/Tables.h"
@@ -88,16 +89,12 @@ RowNode isotopesToRowNode(const QList<IsotopeLabel> &isotopes)
 std::optional<double> naturalAbundancePercent(const QString &element, int massNumber)
 {
     constexpr double kPercent = 100.0;
-    if (element.startsWith(u'_')) // the library's single isotopes
+    const Internal::Element *found = Internal::findElement(element);
+    if (!found || found->symbol.startsWith(u'_')) // single isotopes
         return std::nullopt;
-    try {
-        for (const chemistry::MassAbundance &isotope :
-             chemistry::Element::Info::record(element.toStdString()).isotopes) {
-            if (std::lround(isotope.mass) == massNumber && isotope.mass > 0.0)
-                return isotope.abundance * kPercent;
-        }
-    } catch (const std::exception &) {
-        return std::nullopt; // no such element
+    for (const Internal::Element::Isotope &isotope : found->isotopes) {
+        if (std::lround(isotope.massDa) == massNumber)
+            return isotope.abundance * kPercent;
     }
     return std::nullopt;
 }
@@ -114,12 +111,11 @@ Result<QList<IsotopePeak>> envelope(const ChemicalFormula &formula, double cutof
         if (it.value() < 0 || it.value() > ChemicalFormula::kMaximumCount)
             return noEnvelope(formula,
                               Tr::tr("There can't be %1 atoms of %2.").arg(it.value()).arg(it.key()));
-        const chemistry::Element::Info::Record &element =
-            chemistry::Element::Info::record(it.key().toStdString());
+        const Internal::Element &element = *Internal::findElement(it.key());
         if (element.isotopes.size() == 1)
-            pureMassDa += static_cast<double>(it.value()) * element.monoisotope.mass;
+            pureMassDa += static_cast<double>(it.value()) * element.monoisotopicMassDa;
         else
-            composition[element.type] = static_cast<int>(it.value());
+            composition[static_cast<chemistry::Element::Type>(element.type)] = static_cast<int>(it.value());
     }
     if (composition.data().empty())
         return QList<IsotopePeak>{{pureMassDa, 1.0}};

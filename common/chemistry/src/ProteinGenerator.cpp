@@ -1,7 +1,9 @@
+#include <orv/chemistry/ChemistryConstants.h>
 #include <orv/chemistry/ProteinGenerator.h>
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QSet>
 
 namespace orv {
 
@@ -36,6 +38,19 @@ Error tooLong(const QString &protein)
                        .arg(kLongestProtein));
 }
 
+/// A plain table has a protein for each chain, also for the rows that nobody has filled in yet.
+void dropEmptySequences(ProteinGenerator::InputOptions *options)
+{
+    QSet<int> empty;
+    for (const Chain &chain : std::as_const(options->chains)) {
+        if (chain.sequence.trimmed().isEmpty())
+            empty.insert(chain.number);
+    }
+    options->chains.removeIf([&](const Chain &chain) { return empty.contains(chain.number); });
+    options->proteins.removeIf(
+        [&](const ProteinComplex &protein) { return empty.contains(protein.chainNumbers.value(0)); });
+}
+
 void addMass(std::optional<double> *sum, std::optional<double> mass)
 {
     if (*sum && mass)
@@ -63,6 +78,8 @@ Error ProteinGenerator::init(const RowNode &root)
     Result<InputOptions> options = parseInputOptions(root);
     if (options.hasError())
         return options.ecatch();
+    if (!root.data.contains(kChains))
+        dropEmptySequences(&*options);
     ORV_RETURN_IF_ERROR(build(std::move(options).value()));
     return Error::NoError;
 }

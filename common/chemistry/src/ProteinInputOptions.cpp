@@ -177,15 +177,18 @@ InputOptions readPlainTable(const RowNode &table)
     InputOptions options;
     for (int i = 0; i < rows.rowCount(); ++i) {
         Chain chain;
+        chain.otherCells = rows.otherCells(i);
         for (QLatin1String column : {kProteinAccessionName, kProteinAliasName, kName}) {
+            const QString text = rows.text(i, column).trimmed();
             if (chain.name.isEmpty())
-                chain.name = rows.text(i, column).trimmed();
+                chain.name = text;
+            else if (!text.isEmpty())
+                chain.otherCells.insert(column, text);
         }
         chain.sequence = rows.text(i, rows.hasColumn(kProteinSequence) ? kProteinSequence : kSequence);
-        if (chain.sequence.trimmed().isEmpty())
-            continue;
-        chain.number = static_cast<int>(options.chains.size()) + 1;
-        chain.id = ChainId::createDefaultIdText(chain.number, options.chains);
+        chain.isCustom = rows.cell(i, kisCustom).isNull() || rows.cell(i, kisCustom).toInt() != 0;
+        chain.number = i + 1;
+        chain.id = ChainId::createDefaultIdText(chain.number, {});
         options.chains.append(chain);
         ProteinComplex protein = ProteinUtils::mirrorChain(chain);
         protein.sequence.clear();

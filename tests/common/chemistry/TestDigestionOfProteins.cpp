@@ -4,9 +4,12 @@
 #include <orv/chemistry/ChemicalFactory.h>
 #include <orv/chemistry/Fasta.h>
 #include <orv/chemistry/InsilicoPeptidesCsvReader.h>
+#include <orv/chemistry/IsotopeUtils.h>
 #include <orv/chemistry/ProteinDigestionItem.h>
 
 #include <pwiz/data/proteome/Digestion.hpp>
+
+#include <thread>
 
 using namespace orv;
 using namespace Qt::StringLiterals;
@@ -21,6 +24,7 @@ private Q_SLOTS:
     void theRuleCutsAsTheEnzymeOfProteoWizard();
     void allPeptidesOfAnotherProgramAreFound();
     void albuminHasItsPublishedMass();
+    void threadsDontDisturbEachOther();
 };
 
 namespace {
@@ -120,6 +124,38 @@ void TestDigestionOfProteins::albuminHasItsPublishedMass()
     // UniProt P02769 with its signal and propeptide: 69,293 Da. 20 ppm are a revision of the atomic weights.
     QVERIFY2(std::abs(formula->averageMass() - 69293.0) < 69293.0 * 20e-6 + 0.5,
              qPrintable(QString::number(formula->averageMass(), 'f', 2)));
+}
+
+void TestDigestionOfProteins::threadsDontDisturbEachOther()
+{
+    struct Outcome
+    {
+        double massDa = 0.0;
+        qsizetype peptides = 0;
+        qsizetype peaks = 0;
+
+        bool operator==(const Outcome &) const = default;
+    };
+    const QString sequence = albumin();
+    const auto work = [&sequence](Outcome *outcome) {
+        const ChemicalFactory &factory = ChemicalFactory::defaultFactory();
+        outcome->massDa = factory.formula(sequence, ChainType::Protein)->monoisotopicMass();
+        outcome->peptides =
+            ProteinDigestionItem::parse(u"Trypsin @ R,K | C-term"_s)->digest(sequence)->size();
+        outcome->peaks =
+            IsotopeUtils::envelope(*factory.formula(sequence.left(30), ChainType::Protein))->size();
+    };
+    constexpr int kThreads = 8;
+    std::vector<Outcome> outcomes(kThreads);
+    std::vector<std::thread> threads;
+    for (Outcome &outcome : outcomes)
+        threads.emplace_back(work, &outcome);
+    for (std::thread &thread : threads)
+        thread.join();
+    QVERIFY(outcomes.front().massDa > 69000.0 && outcomes.front().peptides > 70 &&
+            outcomes.front().peaks > 5);
+    QVERIFY(std::all_of(outcomes.begin(), outcomes.end(),
+                        [&](const Outcome &outcome) { return outcome == outcomes.front(); }));
 }
 
 ORV_REGISTER_TEST(TestDigestionOfProteins)

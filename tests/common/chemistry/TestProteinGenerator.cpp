@@ -33,6 +33,7 @@ private Q_SLOTS:
     void aProteinOfTooManyLettersIsRefused();
     void plainTablesAreChainsAndProteins_data();
     void plainTablesAreChainsAndProteins();
+    void plainTablesLoseNothingAsOptions();
     void afterAFailureTheListsAreEmpty();
     void calculatorsAreMonoisotopicAndAverage();
     void aMirroredChainIsAProteinOfItself();
@@ -327,6 +328,23 @@ void TestProteinGenerator::plainTablesAreChainsAndProteins()
     }
     QCOMPARE(chains, names);
     QCOMPARE(proteins, names);
+}
+
+void TestProteinGenerator::plainTablesLoseNothingAsOptions()
+{
+    const Result<InputOptions> options = ProteinGenerator::parseInputOptions(tableOf(
+        R"({"data":["ProteinAccessionName","ProteinAliasName","ProteinSequence","Stock","isCustom"],)"
+        R"("children":[{"data":["P1","alias","PEPTIDE","A7",0]},{"data":["P2",null,null,null,null]}]})"));
+    ORV_VERIFY_OK(options);
+    QCOMPARE(options->chains.size(), 2);
+    QCOMPARE(options->proteins.size(), 2);
+    const Chain &first = options->chains.constFirst();
+    QCOMPARE(first.name, u"P1"_s);
+    QCOMPARE(first.id, u"A"_s);
+    QVERIFY(!first.isCustom);
+    QCOMPARE(first.otherCells.value(u"ProteinAliasName"_s), QVariant(u"alias"_s));
+    QCOMPARE(first.otherCells.value(u"Stock"_s), QVariant(u"A7"_s));
+    QVERIFY(options->chains.constLast().isCustom);
 }
 
 void TestProteinGenerator::afterAFailureTheListsAreEmpty()

@@ -67,7 +67,7 @@ public:
     /// Reads the tables of intact proteins and oligonucleotides, or a plain table of sequences, which has the
     /// columns ProteinSequence and ProteinAccessionName or ProteinAliasName, or Sequence and Name. There each
     /// row is a chain and a protein. Blanks in sequences don't count, nor does the case of letters in those
-    /// of proteins; plain rows without sequence are passed over. No setting has a say in proteins so far. On
+    /// of proteins; plain rows without sequence make no protein. No setting has a say in proteins so far. On
     /// a failure the lists are empty.
     Error init(const RowNode &root, const CustomSettings &settings);
     Error init(const RowNode &root);
