@@ -1,3 +1,5 @@
+#include "internal/SampleIds.h"
+
 #include <orv/chemistry/MassUtils.h>
 
 #include <QCoreApplication>
@@ -19,14 +21,6 @@ QString rowName(qsizetype index, const DeltaMass &mass)
                                : Tr::tr("Row %1 (\"%2\") of the masses").arg(index + 1).arg(mass.name);
 }
 
-QString joined(const QList<int> &numbers)
-{
-    QStringList texts;
-    for (int number : numbers)
-        texts.append(QString::number(number));
-    return texts.join(QLatin1String(", "));
-}
-
 void checkMass(const QString &row, const DeltaMass &mass, QStringList *errors)
 {
     if (!mass.unreadableMass.isEmpty()) {
@@ -40,19 +34,16 @@ void checkMass(const QString &row, const DeltaMass &mass, QStringList *errors)
 void checkSamples(const QString &row, const DeltaMass &mass, const QSet<int> &known, QStringList *errors,
                   QStringList *warnings)
 {
-    QList<int> gone;
-    for (int id : mass.samplesIds) {
-        if (!known.contains(id))
-            gone.append(id);
-    }
+    const QList<int> gone = Internal::idsOutside(mass.samplesIds, known);
     if (gone.isEmpty())
         return;
     if (gone.size() == mass.samplesIds.size()) {
         errors->append(
             Tr::tr("%1 is for the samples %2, which don't exist. Please choose samples or remove the row.")
-                .arg(row, joined(gone)));
+                .arg(row, Internal::joinedNumbers(gone)));
     } else {
-        warnings->append(Tr::tr("%1 is also for the samples %2, which don't exist.").arg(row, joined(gone)));
+        warnings->append(Tr::tr("%1 is also for the samples %2, which don't exist.")
+                             .arg(row, Internal::joinedNumbers(gone)));
     }
 }
 
@@ -63,14 +54,12 @@ bool isRepeated(const DeltaMass &a, const DeltaMass &b)
 
 } // namespace
 
-bool validate(const QList<DeltaMass> &masses, const QList<MassSample> &samples, QStringList *errors,
+bool validate(const QList<DeltaMass> &masses, const QList<int> &samplesIds, QStringList *errors,
               QStringList *warnings)
 {
     QStringList foundErrors;
     QStringList foundWarnings;
-    QSet<int> known;
-    for (const MassSample &sample : samples)
-        known.insert(sample.id);
+    const QSet<int> known(samplesIds.begin(), samplesIds.end());
 
     QMultiHash<QString, qsizetype> byName;
     for (qsizetype i = 0; i < masses.size(); ++i) {

@@ -17,19 +17,6 @@ struct Tr
     Q_DECLARE_TR_FUNCTIONS(ProteinGenerator)
 };
 
-/// Sequences come from text fields and files, with line breaks and in any case. Oligonucleotides name
-/// building blocks by letters whose case counts.
-QString cleanSequence(const Chain &chain)
-{
-    QString sequence;
-    sequence.reserve(chain.sequence.size());
-    for (QChar letter : chain.sequence) {
-        if (!letter.isSpace())
-            sequence.append(letter);
-    }
-    return chain.type == ChainType::Protein ? sequence.toUpper() : sequence;
-}
-
 Error tooLong(const QString &protein)
 {
     return Error(ErrorCode::InvalidContent, Tr::tr("A protein is too large."))
@@ -66,6 +53,17 @@ ProteinGenerator::ProteinGenerator(bool keepUnknownMasses, const ChemicalFactory
     , m_factory(factory ? *factory : ChemicalFactory::defaultFactory())
 {}
 
+QString ProteinGenerator::cleanSequence(const QString &text, ChainType type)
+{
+    QString sequence;
+    sequence.reserve(text.size());
+    for (QChar letter : text) {
+        if (!letter.isSpace())
+            sequence.append(letter);
+    }
+    return type == ChainType::Protein ? sequence.toUpper() : sequence;
+}
+
 Error ProteinGenerator::init(const RowNode &root, const CustomSettings &settings)
 {
     Q_UNUSED(settings)
@@ -94,7 +92,7 @@ Error ProteinGenerator::build(InputOptions options)
 
     QHash<int, const Chain *> byNumber;
     for (Chain &chain : options.chains) {
-        chain.sequence = cleanSequence(chain);
+        chain.sequence = cleanSequence(chain.sequence, chain.type);
         Error error = chain.updateMasses(monoisotopic, average, *factory);
         if (error && !m_keepUnknownMasses)
             return error.ecatch();

@@ -12,13 +12,6 @@
 /// thread.
 namespace orv::MassUtils {
 
-/// What the check of a mass table needs to know of a sample.
-struct MassSample
-{
-    int id = 0;
-    QString name;
-};
-
 /// A table with \a rows empty rows; a negative count gives none.
 [[nodiscard]] ORV_WORKFLOW_EXPORT RowNode defaultRowNode(int rows);
 
@@ -39,11 +32,11 @@ struct MassSample
 [[nodiscard]] ORV_WORKFLOW_EXPORT Result<MassTolerance> matchToleranceFromRowNode(const RowNode &table);
 [[nodiscard]] ORV_WORKFLOW_EXPORT RowNode matchToleranceToRowNode(const MassTolerance &tolerance);
 
-/// Whether masses can be matched in \a samples. Errors: a row with a mass that is no number or without mass,
-/// and one whose samples have all gone. Warnings: a row without name, one that names some sample that has
-/// gone, and one that repeats another's name, mass, protein and samples. Empty rows are fine. The lists may
-/// be null, and are appended to.
-ORV_WORKFLOW_EXPORT bool validate(const QList<DeltaMass> &masses, const QList<MassSample> &samples,
+/// Whether masses can be matched in the samples with these ids. Errors: a row with a mass that is no number
+/// or without mass, and one whose samples have all gone. Warnings: a row without name, one that names some
+/// sample that has gone, and one that repeats another's name, mass, protein and samples. Empty rows are fine.
+/// The lists may be null, and are appended to.
+ORV_WORKFLOW_EXPORT bool validate(const QList<DeltaMass> &masses, const QList<int> &samplesIds,
                                   QStringList *errors, QStringList *warnings);
 
 } // namespace orv::MassUtils

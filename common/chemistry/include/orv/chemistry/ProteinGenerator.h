@@ -60,6 +60,10 @@ public:
 
     [[nodiscard]] static MassCalculator createMassCalculator(MassType type) { return MassCalculator(type); }
 
+    /// A sequence as it comes from text fields and files, without line breaks and blanks. Proteins get
+    /// capital letters; oligonucleotides name building blocks by letters whose case counts.
+    [[nodiscard]] static QString cleanSequence(const QString &text, ChainType type);
+
     /// With \a keepUnknownMasses a chain without formula stays, and its proteins have no masses; without, it
     /// makes init fail. \a factory is copied; null stands for the default one.
     explicit ProteinGenerator(bool keepUnknownMasses, const ChemicalFactory *factory = nullptr);
