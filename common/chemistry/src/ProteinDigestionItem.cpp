@@ -10,6 +10,8 @@ namespace {
 
 constexpr qsizetype kLongestText = 1000;
 constexpr qsizetype kLongestSequence = 100000;
+/// Of all peptides together; many missed cleavages of a long sequence would fill the memory.
+constexpr qint64 kMostLetters = 50'000'000;
 constexpr QLatin1String kCTerm("C-term");
 constexpr QLatin1String kNTerm("N-term");
 
@@ -23,6 +25,11 @@ Error malformed(const QString &place)
     return Error(ErrorCode::InvalidContent, Tr::tr("The digestion text is malformed."))
         .addDetail(place)
         .addDetail(Tr::tr("Write it as \"Trypsin @ R,K | C-term\"."));
+}
+
+Error undigested(const QString &reason)
+{
+    return Error(ErrorCode::InvalidContent, Tr::tr("A sequence can't be digested.")).addDetail(reason);
 }
 
 bool isCapital(QChar letter)
@@ -55,17 +62,15 @@ Error readSide(QStringView text, ProteinDigestionItem::Side *side)
 Error checkInput(const QString &sequence, const DigestionLimits &limits)
 {
     if (sequence.isEmpty() || sequence.size() > kLongestSequence) {
-        return Error(ErrorCode::InvalidContent, Tr::tr("A sequence can't be digested."))
-            .addDetail(Tr::tr("It has %1 residues; 1 to %2 can be digested.")
-                           .arg(sequence.size())
-                           .arg(kLongestSequence));
+        return undigested(Tr::tr("It has %1 residues; 1 to %2 can be digested.")
+                              .arg(sequence.size())
+                              .arg(kLongestSequence));
     }
     const auto odd = std::find_if_not(sequence.begin(), sequence.end(), isCapital);
     if (odd != sequence.end()) {
-        return Error(ErrorCode::InvalidContent, Tr::tr("A sequence can't be digested."))
-            .addDetail(Tr::tr("\"%1\" at residue %2 is not a capital letter.")
-                           .arg(*odd)
-                           .arg(std::distance(sequence.begin(), odd) + 1));
+        return undigested(Tr::tr("\"%1\" at residue %2 is not a capital letter.")
+                              .arg(*odd)
+                              .arg(std::distance(sequence.begin(), odd) + 1));
     }
     if (limits.missedCleavages < 0 || limits.minimumLength < 1 ||
         limits.maximumLength < limits.minimumLength) {
@@ -124,14 +129,19 @@ Result<QList<DigestedPeptide>> ProteinDigestionItem::digest(const QString &seque
             proteome::Digestion::Config(limits.missedCleavages, limits.minimumLength, limits.maximumLength,
                                         proteome::Digestion::FullySpecific, false));
         QList<DigestedPeptide> peptides;
+        qint64 letters = 0;
         for (const proteome::DigestedPeptide &peptide : digestion) {
+            letters += static_cast<qint64>(peptide.sequence().size());
+            if (letters > kMostLetters) {
+                return undigested(
+                    Tr::tr("There are too many peptides. Allow fewer missed cleavages or shorter peptides."));
+            }
             peptides.append({QString::fromStdString(peptide.sequence()), static_cast<int>(peptide.offset()),
                              static_cast<int>(peptide.missedCleavages())});
         }
         return peptides;
     } catch (const std::exception &exception) {
-        return Error(ErrorCode::InvalidContent, Tr::tr("A sequence can't be digested."))
-            .addDetail(QString::fromUtf8(exception.what()));
+        return undigested(QString::fromUtf8(exception.what()));
     }
 }
 

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void theCutPeptidesMakeUpTheProtein();
     void whatIsNoSequenceIsRefused_data();
     void whatIsNoSequenceIsRefused();
+    void tooManyPeptidesAreRefused();
     void limitsOutOfOrderAreRefused_data();
     void limitsOutOfOrderAreRefused();
 };
@@ -192,6 +193,17 @@ void TestProteinDigestionItem::whatIsNoSequenceIsRefused()
     QVERIFY(peptides.hasError());
     QCOMPARE(peptides.error().code(), ErrorCode::InvalidContent);
     QVERIFY(!peptides.error().details().isEmpty());
+}
+
+void TestProteinDigestionItem::tooManyPeptidesAreRefused()
+{
+    DigestionLimits limits;
+    limits.missedCleavages = 100000;
+    const Result<QList<DigestedPeptide>> peptides =
+        rule(u"Lys-C @ K | C-term"_s).digest(QString(20000, u'K'), limits);
+    QVERIFY(peptides.hasError());
+    QCOMPARE(peptides.error().code(), ErrorCode::InvalidContent);
+    QVERIFY(peptides.error().details().constFirst().contains(u"missed cleavages"_s));
 }
 
 void TestProteinDigestionItem::limitsOutOfOrderAreRefused_data()

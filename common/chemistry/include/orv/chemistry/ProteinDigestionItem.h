@@ -58,7 +58,8 @@ public:
 
     /// The peptides in the order of their place, shorter before longer, of a protein in one-letter code; any
     /// capital letter may be a residue. InvalidContent for other letters, for an empty or too long sequence
-    /// (100,000 residues) and for limits out of order. Any thread.
+    /// (100,000 residues), for limits out of order, and for peptides with more than 50 million letters
+    /// together. Any thread.
     [[nodiscard]] Result<QList<DigestedPeptide>> digest(const QString &sequence,
                                                         const DigestionLimits &limits = {}) const;
 
