@@ -1,7 +1,7 @@
-#include "GlycanDatabasePaths.h"
 #include "OrvTest.h"
 
 #include <KProperty>
+#include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
@@ -10,9 +10,6 @@
 
 using namespace orv;
 using namespace Qt::StringLiterals;
-
-/// The name under which hosts will call the functions.
-namespace PropertyEditorUtils = orv;
 
 /// Paths of glycan databases inside glycan texts.
 class TestGlycanDatabasePaths : public OrvTest

@@ -301,15 +301,17 @@ void TestMassesTableItem::massesAreCheckedInTheirSamples()
 {
     const auto item = loaded(
         {entry(u"MassTable"_s, node({u"Name"_s, u"Mass"_s}, {{u"G0F"_s, 1.5}, {u"bad"_s, u"heavy"_s}}))});
+    SamplesInput::Entry sample;
+    sample.id = 1;
     QStringList errors{u"before"_s};
     QStringList warnings;
-    QVERIFY(!item->isValid({{1, u"Lot 1"_s}}, &errors, &warnings));
+    QVERIFY(!item->isValid({sample}, &errors, &warnings));
     QCOMPARE(errors.size(), 2);
     QCOMPARE(errors.first(), u"before"_s);
 
     QVERIFY(item->removeRow(1));
     errors.clear();
-    QVERIFY(item->isValid({{1, u"Lot 1"_s}}, &errors, &warnings));
+    QVERIFY(item->isValid({sample}, &errors, &warnings));
     QCOMPARE(errors, QStringList());
 }
 

@@ -1,10 +1,10 @@
 #include "ItemCreators.h"
 
-#include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/DetachedGlycanTableItem.h>
 #include <orv/propertyeditor/content/GlycanOptionsItem.h>
 #include <orv/propertyeditor/content/IntactOptionsTableItem.h>
 #include <orv/propertyeditor/content/IsotopeTableItem.h>
+#include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/MassesTableItem.h>
 #include <orv/propertyeditor/content/OligoMassesTableItem.h>
 #include <orv/propertyeditor/content/OligoOptionsTableItem.h>
@@ -43,34 +43,20 @@ constexpr std::array kRows = {
     Row{BaseItemType::Database, create<UnsupportedItem>},
     Row{BaseItemType::DetachedGlycans, create<DetachedGlycanTableItem>},
     Row{BaseItemType::Disulfide, create<UnsupportedItem>},
-    Row{BaseItemType::GlycanOptions, create<UnsupportedItem>},
-    Row{BaseItemType::Intact, create<KeyValueItem>},
-    Row{BaseItemType::IntactOptions, create<UnsupportedItem>},
-    Row{BaseItemType::Oligo, create<KeyValueItem>},
-    Row{BaseItemType::OligoOptions, create<UnsupportedItem>},
-    Row{BaseItemType::OligoMasses, create<UnsupportedItem>},
-    Row{BaseItemType::Isotope, create<UnsupportedItem>},
-    Row{BaseItemType::Masses, create<UnsupportedItem>},
-    Row{BaseItemType::MultiDocReport, create<KeyValueItem>},
-    Row{BaseItemType::Proteins, create<UnsupportedItem>},
-    Row{BaseItemType::Preview, create<KeyValueItem>},
-    Row{BaseItemType::IntactProteins, create<UnsupportedItem>},
-    Row{BaseItemType::OligoMolecules, create<UnsupportedItem>},
-    Row{BaseItemType::Ostrale, create<KeyValueItem>},
     Row{BaseItemType::GlycanOptions, create<GlycanOptionsItem>},
-    Row{BaseItemType::Intact, create<UnsupportedItem>},
+    Row{BaseItemType::Intact, create<KeyValueItem>},
     Row{BaseItemType::IntactOptions, create<IntactOptionsTableItem>},
-    Row{BaseItemType::Oligo, create<UnsupportedItem>},
+    Row{BaseItemType::Oligo, create<KeyValueItem>},
     Row{BaseItemType::OligoOptions, create<OligoOptionsTableItem>},
     Row{BaseItemType::OligoMasses, create<OligoMassesTableItem>},
     Row{BaseItemType::Isotope, create<IsotopeTableItem>},
     Row{BaseItemType::Masses, create<MassesTableItem>},
-    Row{BaseItemType::MultiDocReport, create<UnsupportedItem>},
+    Row{BaseItemType::MultiDocReport, create<KeyValueItem>},
     Row{BaseItemType::Proteins, create<ProteinsTableItem>},
-    Row{BaseItemType::Preview, create<UnsupportedItem>},
+    Row{BaseItemType::Preview, create<KeyValueItem>},
     Row{BaseItemType::IntactProteins, create<UnsupportedItem>},
     Row{BaseItemType::OligoMolecules, create<OligoProteinsTableItem>},
-    Row{BaseItemType::Ostrale, create<UnsupportedItem>},
+    Row{BaseItemType::Ostrale, create<KeyValueItem>},
     Row{BaseItemType::Samples, create<UnsupportedItem>},
     Row{BaseItemType::SamplesProteins, create<UnsupportedItem>},
     Row{BaseItemType::Trenq, create<KeyValueItem>},

@@ -143,11 +143,15 @@ QStringList MassesTableItem::possibleMassToleranceUnits() const
     return MassUtils::possibleMassToleranceUnits();
 }
 
-bool MassesTableItem::isValid(const QList<MassUtils::MassSample> &samples, QStringList *errors,
+bool MassesTableItem::isValid(const QList<SamplesInput::Entry> &samples, QStringList *errors,
                               QStringList *warnings) const
 {
+    QList<int> ids;
+    ids.reserve(samples.size());
+    for (const SamplesInput::Entry &sample : samples)
+        ids.append(sample.id);
     QStringList localErrors;
-    const bool valid = MassUtils::validate(deltaMasses(), samples, &localErrors, warnings);
+    const bool valid = MassUtils::validate(deltaMasses(), ids, &localErrors, warnings);
     if (errors)
         errors->append(localErrors);
     return valid;

@@ -3,6 +3,7 @@
 #include <orv/chemistry/DeltaMass.h>
 #include <orv/chemistry/MassUtils.h>
 #include <orv/propertyeditor/content/BaseTableItem.h>
+#include <orv/samples/SamplesInput.h>
 
 namespace orv::PropertyEditor {
 
@@ -40,8 +41,7 @@ public:
     [[nodiscard]] QStringList possibleMassToleranceUnits() const;
 
     /// Whether the masses can be matched in these samples. Both lists are appended to; they may be null.
-    bool isValid(const QList<MassUtils::MassSample> &samples, QStringList *errors,
-                 QStringList *warnings) const;
+    bool isValid(const QList<SamplesInput::Entry> &samples, QStringList *errors, QStringList *warnings) const;
 
     QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const override;
     Error assignFromJson(const QJsonObject &json, ValidationOptions options) override;
