@@ -36,7 +36,7 @@ const std::vector<CommandRow> &commandRows()
         {"get", "Show the settings in a cell", "orv-workflow get study.wflw --tab Search --column 0 --row 0",
          createGetCommand},
         {"set", "Change settings in a cell",
-         "orv-workflow set study.wflw --tab Search --column 0 KarvonMinPeaks=5 -o new.wflw",
+         "orv-workflow set study.wflw --tab Search --column 0 KarvonCentroidTopk=200 -o new.wflw",
          createSetCommand},
         {"table", "Show the table in a cell",
          "orv-workflow table study.wflw --tab Sequences --column 0 --csv", createTableCommand},

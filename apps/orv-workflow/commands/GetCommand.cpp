@@ -4,7 +4,9 @@
 
 #include <KPropertySet>
 #include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/PropertiesTraits.h>
 #include <orv/propertyeditor/PropertySetCreator.h>
+#include <orv/propertyeditor/UserVisibleListConverter.h>
 
 #include <QJsonDocument>
 
@@ -32,15 +34,27 @@ QJsonObject entryOf(const KProperty &property, const KPropertySet &set)
     };
 }
 
+/// The text of the entry that a property with a list holds; its own text for any other.
+QString listTextOf(const KProperty &property)
+{
+    QStringList keys;
+    QStringList texts;
+    const PropertyId id = PropertiesNames::findPropertyForName(QString::fromUtf8(property.name()));
+    UserVisibleListConverter::keysAndValuesForList(id, &keys, &texts);
+    const QString held = property.value().toString();
+    return texts.value(keys.indexOf(held), held);
+}
+
 QString line(const KProperty &property)
 {
     const QJsonValue value = PropertySetCreator::valueToJson(property, PropertyConversionFlag::KeepPaths);
-    const QVariant shown = property.type() == KProperty::ValueFromList ? property.value() : value.toVariant();
-    const QString text = value.isObject() || value.isArray()
-                             ? QString::fromUtf8((value.isObject() ? QJsonDocument(value.toObject())
-                                                                   : QJsonDocument(value.toArray()))
-                                                     .toJson(QJsonDocument::Compact))
-                             : shown.toString();
+    QString text = listTextOf(property);
+    if (value.isObject())
+        text = QString::fromUtf8(QJsonDocument(value.toObject()).toJson(QJsonDocument::Compact));
+    else if (value.isArray())
+        text = value.toVariant().toStringList().join(QLatin1String(", "));
+    else if (property.type() == PropertiesTraits::ResourceReferenceType)
+        text = value.toString();
     return QStringLiteral("  %1 %2\n").arg(property.captionOrName(), -44).arg(withoutControls(text));
 }
 
@@ -90,6 +104,18 @@ private:
                                : names.contains(QString::fromUtf8(property.name()));
     }
 
+    /// Without an item the document has its members all the same.
+    static QJsonObject document(const PropertyEditor::KeyValueItem *item, const QJsonArray &properties,
+                                const std::optional<Failure> &failure)
+    {
+        const auto textOr = [item](const QString &text) { return item ? QJsonValue(text) : QJsonValue(); };
+        return {{QStringLiteral("type"), textOr(item ? item->typeString() : QString())},
+                {QStringLiteral("name"), textOr(item ? item->name() : QString())},
+                {QStringLiteral("title"), textOr(item ? item->title() : QString())},
+                {QStringLiteral("properties"), properties},
+                {QStringLiteral("error"), failure ? QJsonValue(orv::cli::toJson(*failure)) : QJsonValue()}};
+    }
+
     [[nodiscard]] QJsonObject toJson(const PropertyEditor::KeyValueItem &item) const
     {
         QJsonArray properties;
@@ -97,11 +123,7 @@ private:
             if (isWanted(*it.current()))
                 properties.append(entryOf(*it.current(), *item.propertySet()));
         }
-        return {{QStringLiteral("type"), item.typeString()},
-                {QStringLiteral("name"), item.name()},
-                {QStringLiteral("title"), item.title()},
-                {QStringLiteral("properties"), properties},
-                {QStringLiteral("error"), QJsonValue()}};
+        return document(&item, properties, {});
     }
 
     [[nodiscard]] QString toText(const PropertyEditor::KeyValueItem &item) const

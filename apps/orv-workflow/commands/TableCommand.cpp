@@ -127,14 +127,19 @@ private:
         return std::max<int>(failure.exitCode, printed);
     }
 
+    static QJsonObject document(const QJsonArray &columns, const QJsonArray &rows, const QJsonValue &error)
+    {
+        return {{QStringLiteral("columns"), columns},
+                {QStringLiteral("rows"), rows},
+                {QStringLiteral("error"), error}};
+    }
+
     static QJsonObject json(const RowNode &table)
     {
         QJsonArray rows;
         for (int i = 0; i < table.getChildListSize(); ++i)
             rows.append(toJson(table.getChild(i)->data));
-        return {{QStringLiteral("columns"), toJson(table.data)},
-                {QStringLiteral("rows"), rows},
-                {QStringLiteral("error"), QJsonValue()}};
+        return document(toJson(table.data), rows, {});
     }
 
     CellArgument m_cell;

@@ -1,0 +1,183 @@
+#include "OrvTest.h"
+
+#include <KProperty>
+#include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/PropertySetCreator.h>
+#include <orv/propertyeditor/PropertyText.h>
+#include <orv/resources/ResourceReference.h>
+
+#include <QJsonDocument>
+
+using namespace orv;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using ContentMode = PropertyEditorContent::ContentMode;
+
+Result<QVariant> valueOf(int number, const QString &text, ContentMode mode = ContentMode::DesktopMode)
+{
+    const auto id = PropertyId(number);
+    const std::unique_ptr<KProperty> property(
+        PropertySetCreator::createDefaultProperty(id, PropertySetCreator::Priority::High));
+    return PropertyText::toValue(id, text, *property, mode);
+}
+
+QString legalValues(int number)
+{
+    const auto id = PropertyId(number);
+    const std::unique_ptr<KProperty> property(
+        PropertySetCreator::createDefaultProperty(id, PropertySetCreator::Priority::High));
+    return PropertyText::legalValues(id, *property);
+}
+
+} // namespace
+
+class TestPropertyText : public OrvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void textsBecomeValues_data();
+    void textsBecomeValues();
+    void otherTextsAreRefused_data();
+    void otherTextsAreRefused();
+    void theRuleOfThePropertyCounts();
+    void filesAreNotLookedFor();
+    void referencesAndObjectsAreRead();
+    void legalValuesAreTold_data();
+    void legalValuesAreTold();
+};
+
+void TestPropertyText::textsBecomeValues_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVariant>("value");
+    const auto row = [](int number, const QString &text, const QVariant &value) {
+        QTest::addRow("%d %s", number, qPrintable(text)) << number << text << value;
+    };
+    for (const QString &text : {u"true"_s, u"TRUE"_s, u"yes"_s, u"ok"_s, u"on"_s, u"1"_s, u" true "_s})
+        row(1, text, true);
+    for (const QString &text : {u"false"_s, u"no"_s, u"off"_s, u"0"_s})
+        row(1, text, false);
+    row(29, u" 12 "_s, 12);
+    row(2, u"1.5e1"_s, 15.0);
+    row(43, u" RK "_s, u" RK "_s);
+    row(43, QString(), QString());
+    row(44, u"Semi-specific"_s, u"Semi-specific"_s);
+    row(44, u"0"_s, u"Non-specific"_s);
+    row(130, u"Mine @ W | N-term"_s, u"Mine @ W | N-term"_s);
+    row(220, u"2"_s, u"2"_s);
+    row(306, u"Fast"_s, u"Fast"_s);
+    row(70, u"S, C"_s, QStringList({u"S"_s, u"C"_s}));
+}
+
+void TestPropertyText::textsBecomeValues()
+{
+    QFETCH(int, number);
+    QFETCH(QString, text);
+    QFETCH(QVariant, value);
+    const auto result = valueOf(number, text);
+    ORV_VERIFY_OK(result);
+    QCOMPARE(result->typeId(), value.typeId());
+    QCOMPARE(*result, value);
+}
+
+void TestPropertyText::otherTextsAreRefused_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QString>("text");
+    const auto row = [](int number, const QString &text) {
+        QTest::addRow("%d '%s'", number, qPrintable(text)) << number << text;
+    };
+    row(1, u"maybe"_s);
+    row(1, u"2"_s);
+    row(1, QString());
+    row(29, u"1.5"_s);
+    row(29, u"99999999999"_s);
+    row(29, QString());
+    row(2, u"much"_s);
+    row(2, u"nan"_s);
+    row(2, u"inf"_s);
+    row(44, u"Sometimes"_s);
+    row(44, u"99"_s);
+    row(44, u"-1"_s);
+    row(220, u"7"_s);
+    row(306, u"fast"_s);
+    row(70, u"S, X"_s);
+    row(67, u"[1]"_s);
+    row(67, u"{"_s);
+    row(60, u"gopher://x"_s);
+}
+
+void TestPropertyText::otherTextsAreRefused()
+{
+    QFETCH(int, number);
+    QFETCH(QString, text);
+    const auto result = valueOf(number, text);
+    QVERIFY(result.hasError());
+    QCOMPARE(int(result.error().code()), 2);
+    const QString name = PropertiesNames::internalNameForType(PropertyId(number));
+    QCOMPARE(result.error().errorMessages(),
+             QStringList(u"The value \"%1\" is not allowed for %2."_s.arg(text, name)));
+    QCOMPARE(result.error().details().constLast(), u"Allowed: %1."_s.arg(legalValues(number)));
+}
+
+void TestPropertyText::theRuleOfThePropertyCounts()
+{
+    const auto negative = valueOf(29, u"-5"_s);
+    QVERIFY(negative.hasError());
+    QVERIFY(negative.error().details().constFirst().contains(u"must be in range"_s));
+    const auto noLetters = valueOf(70, QString());
+    QVERIFY(noLetters.hasError());
+    const auto digestion = valueOf(130, u"Trypsin @ R,K"_s);
+    QVERIFY(digestion.hasError());
+}
+
+void TestPropertyText::filesAreNotLookedFor()
+{
+    ORV_VERIFY_OK(valueOf(60, u"../filters/missing.xml"_s));
+    ORV_VERIFY_OK(valueOf(58, u"{\"glycans\": \"[file:C:/missing.txt]\"}"_s, ContentMode::TalvaneMode));
+}
+
+void TestPropertyText::referencesAndObjectsAreRead()
+{
+    const auto reference = valueOf(60, u"../a b.xml"_s);
+    ORV_VERIFY_OK(reference);
+    QCOMPARE(reference->value<ResourceReferenceSPtr>()->text(), u"../a b.xml"_s);
+    const auto none = valueOf(60, QString());
+    ORV_VERIFY_OK(none);
+    QVERIFY(!none->value<ResourceReferenceSPtr>());
+    const auto object = valueOf(67, u"{\"modifications\": \"m\"}"_s);
+    ORV_VERIFY_OK(object);
+    const QJsonObject expected{{u"modifications"_s, u"m"_s}};
+    QCOMPARE(QJsonDocument::fromJson(object->toByteArray()).object(), expected);
+}
+
+void TestPropertyText::legalValuesAreTold_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("switch") << 1 << u"true or false"_s;
+    QTest::newRow("whole number in a range") << 29 << u"a whole number in [0;1000000]"_s;
+    QTest::newRow("number in a range") << 2 << u"a number in [0;1000]"_s;
+    QTest::newRow("text") << 43 << u"a text"_s;
+    QTest::newRow("file") << 60 << u"a path or the text of a reference"_s;
+    QTest::newRow("object") << 67 << u"a JSON object"_s;
+    QTest::newRow("checkable list") << 70 << u"any of these, separated by commas: S, T, C"_s;
+    QTest::newRow("keys with texts")
+        << 220
+        << u"one of: 0 for \"Light (one core)\", 1 for \"Normal (all but two cores)\", 2 for "
+           "\"Heavy (all cores)\""_s;
+}
+
+void TestPropertyText::legalValuesAreTold()
+{
+    QFETCH(int, number);
+    QFETCH(QString, text);
+    QCOMPARE(legalValues(number), text);
+}
+
+ORV_REGISTER_TEST(TestPropertyText)
+#include "TestPropertyText.moc"
