@@ -24,9 +24,14 @@ inline QString tableOf(const QString &type)
 {
     static const QStringList tables{QStringLiteral("DetachedGlycans"), QStringLiteral("GlycanOptions"),
                                     QStringLiteral("IntactOptions"),   QStringLiteral("Isotope"),
-                                    QStringLiteral("OligoOptions"),    QStringLiteral("OligoMolecules")};
+                                    QStringLiteral("OligoOptions"),    QStringLiteral("OligoMolecules"),
+                                    QStringLiteral("IntactProteins")};
     if (type == QStringLiteral("Masses"))
         return QStringLiteral("MassTable");
+    if (type == QStringLiteral("Samples"))
+        return QStringLiteral("SamplesTable");
+    if (type == QStringLiteral("Database"))
+        return QStringLiteral("SequenceDatabases");
     return tables.contains(type) ? type : QString();
 }
 
@@ -35,8 +40,11 @@ inline QJsonObject cell(const QString &type, const QString &name = {})
 {
     QJsonArray properties;
     if (const QString table = tableOf(type); !table.isEmpty()) {
-        const QJsonObject node{{QStringLiteral("data"), QJsonArray()},
-                               {QStringLiteral("children"), QJsonArray()}};
+        QJsonObject node{{QStringLiteral("data"), QJsonArray()}, {QStringLiteral("children"), QJsonArray()}};
+        if (type == QStringLiteral("Samples"))
+            node = {{QStringLiteral("Samples"), QJsonArray()}};
+        if (type == QStringLiteral("Database"))
+            node = {{QStringLiteral("sequences"), QJsonArray()}};
         properties.append(QJsonObject{{QStringLiteral("name"), table}, {QStringLiteral("value"), node}});
     }
     QJsonObject object{{QStringLiteral("type"), type}, {QStringLiteral("properties"), properties}};

@@ -213,7 +213,7 @@ Result<QJsonObject> BaseTableItem::mainEntry(const QJsonObject &json) const
         .addDetail(tr("The cell \"%1\" needs an entry of that name in its \"properties\".").arg(name()));
 }
 
-Error BaseTableItem::assignFromJson(const QJsonObject &json, ValidationOptions options)
+Error BaseTableItem::assignCommon(const QJsonObject &json, ValidationOptions options)
 {
     m_root.clear();
     m_customColumnsMetaData.clear();
@@ -226,6 +226,12 @@ Error BaseTableItem::assignFromJson(const QJsonObject &json, ValidationOptions o
                 tr("It has to be an array, and is %1.").arg(JsonUtils::typeDescription(properties.type())));
     }
     ORV_RETURN_IF_ERROR(BaseItem::assignFromJson(json, options));
+    return Error::NoError;
+}
+
+Error BaseTableItem::assignFromJson(const QJsonObject &json, ValidationOptions options)
+{
+    ORV_RETURN_IF_ERROR(assignCommon(json, options));
     Result<QJsonObject> entry = mainEntry(json);
     if (entry.hasError())
         return entry.ecatch();

@@ -3,6 +3,7 @@
 #include <orv/propertyeditor/content/DetachedGlycanTableItem.h>
 #include <orv/propertyeditor/content/GlycanOptionsItem.h>
 #include <orv/propertyeditor/content/IntactOptionsTableItem.h>
+#include <orv/propertyeditor/content/IntactProteinsTableItem.h>
 #include <orv/propertyeditor/content/IsotopeTableItem.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/MassesTableItem.h>
@@ -10,6 +11,8 @@
 #include <orv/propertyeditor/content/OligoOptionsTableItem.h>
 #include <orv/propertyeditor/content/OligoProteinsTableItem.h>
 #include <orv/propertyeditor/content/ProteinsTableItem.h>
+#include <orv/propertyeditor/content/SamplesTableItem.h>
+#include <orv/propertyeditor/content/SequenceDatabasesTableItem.h>
 #include <orv/propertyeditor/content/UnsupportedItem.h>
 
 #include <array>
@@ -40,7 +43,7 @@ constexpr std::array kRows = {
     Row{BaseItemType::Senthia, create<KeyValueItem>},
     Row{BaseItemType::Dravik, create<KeyValueItem>},
     Row{BaseItemType::Karvon, create<KeyValueItem>},
-    Row{BaseItemType::Database, create<UnsupportedItem>},
+    Row{BaseItemType::Database, create<SequenceDatabasesTableItem>},
     Row{BaseItemType::DetachedGlycans, create<DetachedGlycanTableItem>},
     Row{BaseItemType::Disulfide, create<UnsupportedItem>},
     Row{BaseItemType::GlycanOptions, create<GlycanOptionsItem>},
@@ -54,10 +57,10 @@ constexpr std::array kRows = {
     Row{BaseItemType::MultiDocReport, create<KeyValueItem>},
     Row{BaseItemType::Proteins, create<ProteinsTableItem>},
     Row{BaseItemType::Preview, create<KeyValueItem>},
-    Row{BaseItemType::IntactProteins, create<UnsupportedItem>},
+    Row{BaseItemType::IntactProteins, create<IntactProteinsTableItem>},
     Row{BaseItemType::OligoMolecules, create<OligoProteinsTableItem>},
     Row{BaseItemType::Ostrale, create<KeyValueItem>},
-    Row{BaseItemType::Samples, create<UnsupportedItem>},
+    Row{BaseItemType::Samples, create<SamplesTableItem>},
     Row{BaseItemType::SamplesProteins, create<UnsupportedItem>},
     Row{BaseItemType::Trenq, create<KeyValueItem>},
     Row{BaseItemType::TrenqPreview, create<KeyValueItem>},

@@ -84,13 +84,14 @@ void reportEntry(const LoadContext &context, const QJsonObject &entry, PropertyI
     reportMembers(context, entry, {NAME_KEY, VALUE_KEY});
     if (content.objects.contains(id))
         reportObject(context, entry);
-    else
+    else if (!content.anyForm.contains(id))
         reportTable(context, entry, id == content.table ? content.valueArrays : QStringList());
 }
 
 bool isKept(PropertyId id, const TableContent &content)
 {
-    return id == content.table || content.furtherTables.contains(id) || content.objects.contains(id);
+    return id == content.table || content.furtherTables.contains(id) || content.objects.contains(id) ||
+           content.anyForm.contains(id);
 }
 
 } // namespace

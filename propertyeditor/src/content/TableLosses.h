@@ -16,6 +16,7 @@ struct TableContent
     QList<PropertyId> furtherTables;
     QList<PropertyId> objects;
     QStringList valueArrays; ///< members of the table's value beside those of a node, arrays
+    QList<PropertyId> anyForm = {}; ///< entries whose reader takes or refuses their values itself
 };
 
 /// Tells the observer what of the cell \a json, which stands at \a context, isn't kept: members, entries that

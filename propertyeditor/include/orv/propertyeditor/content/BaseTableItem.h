@@ -108,6 +108,10 @@ protected:
     [[nodiscard]] QJsonObject cellWithValue(orv::PropertyEditor::PropertyConversionFlag flag,
                                             const QJsonObject &value) const;
 
+    /// The first steps of a load, for a subclass whose property holds no plain table: clears the table,
+    /// refuses a cell without "properties", and reads the common keys.
+    Error assignCommon(const QJsonObject &json, ValidationOptions options);
+
     /// The entry of the main property; MalformedStructure if there is none.
     [[nodiscard]] Result<QJsonObject> mainEntry(const QJsonObject &json) const;
 

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <orv/propertyeditor/content/BaseTableItem.h>
+#include <orv/samples/SequenceDatabaseItem.h>
+
+namespace orv::PropertyEditor {
+
+/// The sequence databases that a search goes through. The rows and columns of the base stay empty.
+class ORV_WORKFLOW_EXPORT SequenceDatabasesTableItem : public BaseTableItem
+{
+    Q_OBJECT
+
+public:
+    SequenceDatabasesTableItem();
+    ~SequenceDatabasesTableItem() override;
+
+    [[nodiscard]] const QList<SequenceDatabaseItem> &items() const { return m_items; }
+    /// Announces nothing.
+    void setItems(const QList<SequenceDatabaseItem> &items) { m_items = items; }
+
+    QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const override;
+    /// As the base, and the errors of SequenceDatabaseItems::fromJson.
+    Error assignFromJson(const QJsonObject &json, ValidationOptions options) override;
+    void clear() override;
+
+protected:
+    [[nodiscard]] PropertyId propertyId() const override;
+
+private:
+    QList<SequenceDatabaseItem> m_items;
+};
+
+} // namespace orv::PropertyEditor

@@ -1,0 +1,60 @@
+#include "TableLosses.h"
+
+#include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
+#include <orv/propertyeditor/content/SamplesTableItem.h>
+#include <orv/samples/MetadataInSamples.h>
+
+namespace orv::PropertyEditor {
+
+SamplesTableItem::SamplesTableItem()
+    : BaseTableItem(BaseItemType::Samples)
+{}
+
+SamplesTableItem::~SamplesTableItem() = default;
+
+PropertyId SamplesTableItem::propertyId() const
+{
+    return PropertyId::SamplesTable;
+}
+
+void SamplesTableItem::reloadMetadata(const QList<MetadataMapping> &mappings,
+                                      const QList<TalvaneMetadataMappingConnection> &connections)
+{
+    rebuildMetadataInSamples(connections, mappings, &m_content.samples);
+}
+
+QJsonObject SamplesTableItem::toJson(PropertyConversionFlag flag) const
+{
+    return cellWithValue(flag, m_content.toJson());
+}
+
+Error SamplesTableItem::assignFromJson(const QJsonObject &json, ValidationOptions options)
+{
+    m_content = {};
+    ORV_RETURN_IF_ERROR(assignCommon(json, options));
+    const QJsonObject entry = PropertyEditorJsonUtils::getPropertyWithType(json, propertyId());
+    if (entry.isEmpty()) {
+        // The other tables' text has a blank before "is"; this one never had.
+        return Error(ErrorCode::MalformedStructure,
+                     tr("Could not parse JSON. Subobject \"%1\"is empty.")
+                         .arg(PropertiesNames::internalNameForType(propertyId())));
+    }
+    Result<SamplesAndTracesContent> content =
+        SamplesAndTracesContent::fromJson(PropertyEditorJsonUtils::propValueObject(entry));
+    if (content.hasError())
+        return content.ecatch();
+    m_content = std::move(content).value();
+    if (loadContext().isObserved())
+        reportTableLosses(loadContext(), json, {PropertyId::NoProperty, {}, {propertyId()}, {}});
+    Q_EMIT reset();
+    return Error::NoError;
+}
+
+void SamplesTableItem::clear()
+{
+    BaseTableItem::clear();
+    m_content = {};
+}
+
+} // namespace orv::PropertyEditor

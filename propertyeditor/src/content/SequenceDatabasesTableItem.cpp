@@ -1,0 +1,47 @@
+#include "TableLosses.h"
+
+#include <orv/propertyeditor/content/SequenceDatabaseItems.h>
+#include <orv/propertyeditor/content/SequenceDatabasesTableItem.h>
+
+namespace orv::PropertyEditor {
+
+SequenceDatabasesTableItem::SequenceDatabasesTableItem()
+    : BaseTableItem(BaseItemType::Database)
+{}
+
+SequenceDatabasesTableItem::~SequenceDatabasesTableItem() = default;
+
+PropertyId SequenceDatabasesTableItem::propertyId() const
+{
+    return PropertyId::SequenceDatabases;
+}
+
+QJsonObject SequenceDatabasesTableItem::toJson(PropertyConversionFlag flag) const
+{
+    return cellWithValue(flag, SequenceDatabaseItems::toJson(m_items));
+}
+
+Error SequenceDatabasesTableItem::assignFromJson(const QJsonObject &json, ValidationOptions options)
+{
+    m_items.clear();
+    ORV_RETURN_IF_ERROR(assignCommon(json, options));
+    Result<QJsonObject> entry = mainEntry(json);
+    if (entry.hasError())
+        return entry.ecatch();
+    Result<QList<SequenceDatabaseItem>> items = SequenceDatabaseItems::fromJson(*entry);
+    if (items.hasError())
+        return items.ecatch();
+    m_items = std::move(items).value();
+    if (loadContext().isObserved())
+        reportTableLosses(loadContext(), json, {PropertyId::NoProperty, {}, {}, {}, {propertyId()}});
+    Q_EMIT reset();
+    return Error::NoError;
+}
+
+void SequenceDatabasesTableItem::clear()
+{
+    BaseTableItem::clear();
+    m_items.clear();
+}
+
+} // namespace orv::PropertyEditor

@@ -1,0 +1,153 @@
+#include "Documents.h"
+#include "OrvTest.h"
+
+#include <orv/core/LossObserver.h>
+#include <orv/propertyeditor/content/SamplesTableItem.h>
+#include <orv/resources/ResourceReference.h>
+
+#include <QSignalSpy>
+
+using namespace orv;
+using namespace orv::PropertyEditor;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QJsonObject samplesCell(const QJsonValue &value, const QString &name = u"SamplesTable"_s)
+{
+    return {{u"type"_s, u"Samples"_s},
+            {u"name"_s, u"Samples"_s},
+            {u"properties"_s, QJsonArray{QJsonObject{{u"name"_s, name}, {u"value"_s, value}}}}};
+}
+
+QJsonObject twoSamples()
+{
+    return {
+        {u"Samples"_s,
+         QJsonArray{
+             QJsonObject{{u"SamplesId"_s, 1}, {u"SampleName"_s, u"lot 1"_s}, {u"SamplePath"_s, u"a.raw"_s}},
+             QJsonObject{
+                 {u"SamplesId"_s, 2}, {u"SampleName"_s, u"lot 2"_s}, {u"SamplePath"_s, u"b.raw"_s}}}}};
+}
+
+} // namespace
+
+class TestSamplesTableItem : public OrvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void samplesComeBackAsTheyWere();
+    void theNameOfOldDocumentsIsHealed();
+    void cellsWithoutSamplesAreRefused_data();
+    void cellsWithoutSamplesAreRefused();
+    void aBrokenSampleIsRefused();
+    void contentIsReplaced();
+    void metadataFillColumns();
+    void clearLeavesNothing();
+    void whatIsNotKeptIsTold();
+};
+
+void TestSamplesTableItem::samplesComeBackAsTheyWere()
+{
+    SamplesTableItem item;
+    QSignalSpy resets(&item, &BaseItem::reset);
+    ORV_VERIFY_OK(item.assignFromJson(samplesCell(twoSamples()), {}));
+    QCOMPARE(resets.count(), 1);
+    QCOMPARE(item.samplesInput().size(), 2);
+    QCOMPARE(item.samplesInput().at(1).name, u"lot 2"_s);
+    QCOMPARE(item.samplesInput().at(1).msFile->text(), u"b.raw"_s);
+    QCOMPARE(item.samplesWithCustomColumns().samples.size(), 2);
+    QCOMPARE(item.toJson(PropertyConversionFlag::KeepPaths), samplesCell(twoSamples()));
+}
+
+void TestSamplesTableItem::theNameOfOldDocumentsIsHealed()
+{
+    SamplesTableItem item;
+    ORV_VERIFY_OK(item.assignFromJson(samplesCell(twoSamples(), u"Samples"_s), {}));
+    QCOMPARE(item.toJson(PropertyConversionFlag::KeepPaths), samplesCell(twoSamples()));
+}
+
+void TestSamplesTableItem::cellsWithoutSamplesAreRefused_data()
+{
+    QTest::addColumn<QJsonObject>("json");
+    QTest::addColumn<QString>("message");
+    const QString unsupported =
+        u"Could not parse JSON. \"properties\" has unsupported format in \"SamplesTable\"."_s;
+    QTest::newRow("no properties") << QJsonObject{{u"type"_s, u"Samples"_s}} << unsupported;
+    QTest::newRow("properties that are no array")
+        << QJsonObject{{u"type"_s, u"Samples"_s}, {u"properties"_s, QJsonObject()}} << unsupported;
+    // Without a blank before "is", as this text always was.
+    QTest::newRow("another property") << samplesCell(QJsonObject(), u"Isotope"_s)
+                                      << u"Could not parse JSON. Subobject \"SamplesTable\"is empty."_s;
+}
+
+void TestSamplesTableItem::cellsWithoutSamplesAreRefused()
+{
+    QFETCH(QJsonObject, json);
+    QFETCH(QString, message);
+    SamplesTableItem item;
+    const Error error = item.assignFromJson(json, {});
+    QCOMPARE(int(error.code()), 1);
+    QCOMPARE(error.errorMessages(), QStringList(message));
+}
+
+void TestSamplesTableItem::aBrokenSampleIsRefused()
+{
+    SamplesTableItem item;
+    const QJsonObject broken{{u"Samples"_s, QJsonArray{QJsonObject{{u"SampleName"_s, QJsonArray()}}}}};
+    QVERIFY(item.assignFromJson(samplesCell(broken), {}).hasError());
+}
+
+void TestSamplesTableItem::contentIsReplaced()
+{
+    SamplesTableItem source;
+    ORV_VERIFY_OK(source.assignFromJson(samplesCell(twoSamples()), {}));
+    SamplesTableItem target;
+    target.setContent(source.content());
+    QCOMPARE(target.samplesInput().size(), 2);
+    QVERIFY(target.content() == source.content());
+    QVERIFY(target.tracesOptions() == source.tracesOptions());
+}
+
+void TestSamplesTableItem::metadataFillColumns()
+{
+    SamplesTableItem item;
+    ORV_VERIFY_OK(item.assignFromJson(samplesCell(twoSamples()), {}));
+    QCOMPARE(int(item.target()), 1);
+    TalvaneMetadataMappingConnection connection;
+    connection.attribute = u"column_temperature"_s;
+    connection.target = MappingTarget::Samples;
+    connection.alias = u"Temperature"_s;
+    MetadataMapping mapping;
+    mapping.sampleIds = {2};
+    mapping.value.attribute = connection.attribute;
+    mapping.value.value = 60;
+    mapping.target = MappingTarget::Samples;
+    item.reloadMetadata({mapping}, {connection});
+    QCOMPARE(item.samplesWithCustomColumns().samples.at(1).customValues.value(u"Temperature"_s).toInt(), 60);
+    QVERIFY(!item.samplesWithCustomColumns().samples.at(0).customValues.value(u"Temperature"_s).toBool());
+}
+
+void TestSamplesTableItem::clearLeavesNothing()
+{
+    SamplesTableItem item;
+    ORV_VERIFY_OK(item.assignFromJson(samplesCell(twoSamples()), {}));
+    item.clear();
+    QVERIFY(item.samplesInput().isEmpty());
+}
+
+void TestSamplesTableItem::whatIsNotKeptIsTold()
+{
+    LossCollector losses;
+    SamplesTableItem item;
+    item.setLoadContext(LoadContext(&losses));
+    QJsonObject json = samplesCell(twoSamples());
+    json.insert(u"extra"_s, 1);
+    ORV_VERIFY_OK(item.assignFromJson(json, {}));
+    QCOMPARE(losses.losses().size(), 1);
+    QCOMPARE(losses.losses().constFirst().path, u"/extra"_s);
+}
+
+ORV_REGISTER_TEST(TestSamplesTableItem)
+#include "TestSamplesTableItem.moc"
