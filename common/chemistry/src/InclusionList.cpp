@@ -8,6 +8,7 @@
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QJsonArray>
+#include <QRegularExpression>
 
 #include <cmath>
 
@@ -146,6 +147,9 @@ Result<InclusionItem> itemFromFields(QStringList fields)
 
 Result<InclusionItem> itemFromLine(const QString &line)
 {
+    // Few lines need the whole parser, and lists are long.
+    if (!line.contains(QLatin1Char('"')))
+        return itemFromFields(line.split(kComma));
     QBuffer device;
     device.setData(line.toUtf8());
     device.open(QIODevice::ReadOnly);
@@ -179,10 +183,9 @@ QString toString(const QJsonObject &object)
 QJsonObject toJson(const QString &text)
 {
     QJsonArray list;
-    const QStringList lines = text.split(QLatin1Char('\n'));
-    for (QString line : lines) {
-        if (line.endsWith(QLatin1Char('\r')))
-            line.chop(1);
+    static const QRegularExpression lineEnd(QStringLiteral("[\\r\\n]+"));
+    const QStringList lines = text.split(lineEnd, Qt::SkipEmptyParts);
+    for (const QString &line : lines) {
         if (line.trimmed().isEmpty())
             continue;
         const Result<InclusionItem> item = itemFromLine(line);

@@ -48,6 +48,8 @@ void TestInclusionList::linesBecomeObjects_data()
                R"({"inclusion":[{"charge":2,"end":12,"mz":524.265,"name":"LVNELTEFAK","start":10.5}]})");
     QTest::newRow("two lines, CRLF, blank lines")
         << u"\r\n500\r\n\r\n600,3\r\n"_s << QByteArray(R"({"inclusion":[{"mz":500},{"charge":3,"mz":600}]})");
+    QTest::newRow("CR alone") << u"500\r600,3\r"_s
+                              << QByteArray(R"({"inclusion":[{"mz":500},{"charge":3,"mz":600}]})");
     QTest::newRow("blanks") << u" 500 , 2 , 1 , 2 ,a b"_s
                             << QByteArray(
                                    R"({"inclusion":[{"charge":2,"end":2,"mz":500,"name":"a b","start":1}]})");
