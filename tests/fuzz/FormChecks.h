@@ -31,8 +31,8 @@ namespace FormChecks {
 /// FASTA is refused with a place and a remedy, or its sequences read back from what is written.
 [[nodiscard]] QString checkFasta(const QByteArray &bytes);
 
-/// Formulas, compositions, digestion rules, sequences and inclusion lists are refused with a place, or read back
-/// what they write.
+/// Formulas, compositions, digestion rules, sequences and inclusion lists are refused with a place, or read
+/// back what they write.
 [[nodiscard]] QString checkChemistry(const QByteArray &bytes);
 
 } // namespace FormChecks
