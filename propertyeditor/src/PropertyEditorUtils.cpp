@@ -1,8 +1,88 @@
 #include "GlycanDatabasePaths.h"
 
+#include <orv/core/SysUtils.h>
 #include <orv/propertyeditor/PropertyEditorUtils.h>
+#include <orv/resources/ResourceReferenceUtils.h>
+
+#include <QMetaEnum>
+#include <QSet>
+
+#include <algorithm>
 
 namespace orv {
+
+namespace {
+
+bool isAll(const QList<BaseItemType> &documents, BaseItemType type)
+{
+    return std::ranges::all_of(documents, [type](BaseItemType document) { return document == type; });
+}
+
+} // namespace
+
+int PropertyEditorUtils::coresNumber(MulticoreMode mode)
+{
+    const int cores = SysUtils::cpuCoresNumber();
+    switch (mode) {
+    case MulticoreMode::Normal:
+        return std::max(1, cores - 2);
+    case MulticoreMode::Heavy:
+        return std::max(1, cores);
+    default:
+        return 1;
+    }
+}
+
+bool PropertyEditorUtils::isKarvonOnly(const QList<BaseItemType> &documents)
+{
+    return isAll(documents, BaseItemType::Karvon);
+}
+
+bool PropertyEditorUtils::isPreviewOnly(const QList<BaseItemType> &documents)
+{
+    return isAll(documents, BaseItemType::Preview) || isAll(documents, BaseItemType::TrenqPreview);
+}
+
+bool PropertyEditorUtils::isMultiDocument(const QList<BaseItemType> &documents)
+{
+    QSet<BaseItemType> types(documents.cbegin(), documents.cend());
+    types.remove(BaseItemType::Karvon);
+    return types.size() > 1;
+}
+
+QList<ResourceReference::Scheme> PropertyEditorUtils::supportedReferences(WorkflowAppType app)
+{
+    using Scheme = ResourceReference::Scheme;
+    switch (app) {
+    case WorkflowAppType::Mirel:
+        return {Scheme::LocalFile, Scheme::UNIFI};
+    case WorkflowAppType::Talvane:
+        return {Scheme::ManagedResource, Scheme::ExternalDataSource, Scheme::ServerFile, Scheme::LocalFile};
+    }
+    return {};
+}
+
+QList<WorkflowAppType>
+PropertyEditorUtils::supportedApplications(const QList<ResourceReferenceSPtr> &references)
+{
+    QList<WorkflowAppType> applications;
+    const auto apps = QMetaEnum::fromType<WorkflowAppType>();
+    for (int i = 0; i < apps.keyCount(); ++i) {
+        const auto app = WorkflowAppType(apps.value(i));
+        if (ResourceReferenceUtils::unsupportedReferences(references, supportedReferences(app)).isEmpty())
+            applications.append(app);
+    }
+    return applications;
+}
+
+QList<PropertyId> PropertyEditorUtils::propertiesWithReferences()
+{
+    static const QList<PropertyId> properties = {
+        PropertyId::ReportConfiguration,     PropertyId::DatabaseFile, PropertyId::InSilicoMoleculesFile,
+        PropertyId::InSilicoPeptidesFile,    PropertyId::UiLayout,     PropertyId::UiFilter,
+        PropertyId::DeNovoAntibodyTemplates, PropertyId::KarvonLayout, PropertyId::PdfReportTemplate};
+    return properties;
+}
 
 void PropertyEditorUtils::updateGlycanDatabaseToAbsolute(const QUrl &baseUrl, QJsonObject *json)
 {

@@ -195,7 +195,7 @@ QString groupCaptionOf(const KProperty &property, const KPropertySet &set)
 /// The entry of "properties"; undefined if the value can't be stored.
 QJsonValue entryOf(const KProperty &property, const KPropertySet &set, PropertyConversionFlag flag)
 {
-    const QJsonValue value = PropertySetCreator::valueToJson(property, flag);
+    QJsonValue value = PropertySetCreator::valueToJson(property, flag);
     const int priority = priorityOf(property);
     const bool hasPriority = priority != int(PropertySetCreator::Priority::Unset);
     if (value.isUndefined() || (!property.isVisible() && !hasPriority))

@@ -183,6 +183,24 @@ void Content::rebuildSinks()
     }
 }
 
+void Content::setMetadataCache(const ExtendedMetadataInfo::MetadataCache &cache)
+{
+    d->extendedMetadata.setMetadataCache(cache);
+}
+
+void Content::setMetadataMappingConnections(const QList<TalvaneMetadataMappingConnection> &connections)
+{
+    d->extendedMetadata.setMetadataMappingConnections(connections);
+}
+
+void Content::updateMetadataContent()
+{
+    // Tables may have come and gone since the load.
+    rebuildSinks();
+    updateMetadataContent(d->extendedMetadata.metadataMappingConnections(),
+                          generateMetadataMappings(d->extendedMetadata), d->sinks);
+}
+
 void Content::assignMetaDataFromFile(const QString &fileName)
 {
     const Result<QJsonObject> json = loadJsonFromFile(fileName);

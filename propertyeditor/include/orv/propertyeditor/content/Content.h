@@ -7,6 +7,9 @@
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/workflow/WorkflowType.h>
 #include <orv/samples/ExtendedMetadataInfo.h>
+#include <orv/samples/MetadataMapping.h>
+#include <orv/samples/SamplesAndTracesContent.h>
+#include <orv/samples/SequenceDatabaseItem.h>
 
 #include <QByteArray>
 #include <QExplicitlySharedDataPointer>
@@ -29,6 +32,7 @@ namespace orv::PropertyEditor {
 class BaseItem;
 class ExtendedMetadataSink;
 class ItemGroup;
+class KeyValueItem;
 
 /// The object form of a workflow document: the tree of tabs (ItemGroup), columns (ItemSubGroup) and cells
 /// (BaseItem), with signals as it changes.
@@ -109,12 +113,48 @@ public:
     void setTalvaneContentMode();
 
     [[nodiscard]] ExtendedMetadataInfo extendedMetadataInfo() const;
+    /// Stored with the document; tables show it after updateMetadataContent.
+    void setMetadataCache(const ExtendedMetadataInfo::MetadataCache &cache);
+    void setMetadataMappingConnections(const QList<TalvaneMetadataMappingConnection> &connections);
 
     /// Types of all items in the tree.
     [[nodiscard]] QSet<BaseItemType> allItems() const;
     /// Items whose own type is among \a types, in tree order.
     [[nodiscard]] QList<BaseItem *> findAllItems(const QSet<BaseItemType> &types) const;
     [[nodiscard]] QList<BaseItem *> findAllItems(BaseItemType type) const;
+
+    /// Types of the columns that yield a result, in tree order, repeats kept.
+    [[nodiscard]] QList<BaseItemType> findAllDocuments() const;
+    /// The cells of settings that make a project, in tree order. Data-independent searches are projects too,
+    /// though no documents.
+    [[nodiscard]] QList<KeyValueItem *> findProjects() const;
+    /// Whether all documents are searches of one kind, or previews of one kind; true without documents.
+    [[nodiscard]] bool isKarvonOnlyOrPreviewProject() const;
+
+    /// Every file and server object that the workflow names: in its samples, its sequence databases, its
+    /// settings and their expert settings. Each once, by its text; the order means nothing.
+    [[nodiscard]] QList<ResourceReferenceSPtr> allReferences() const;
+    /// Lets the samples and the first table of sequence databases refer to files where they have moved to.
+    /// Each mapping counts once: for the first sample of that file, else for the first database, else for the
+    /// first companion of a sample. Settings keep their references.
+    void updateReferences(const QList<ReferenceMapping> &mappings);
+
+    /// Through the first samples table; without one the content is empty, and setting it does nothing.
+    [[nodiscard]] SamplesAndTracesContent samplesAndTraces() const;
+    void setSamplesAndTraces(const SamplesAndTracesContent &content);
+    [[nodiscard]] QStringList sampleNames() const;
+
+    /// The rows of the table of sequence databases with that number, from 0; without such a table there are
+    /// none, and setting them does nothing.
+    [[nodiscard]] QList<SequenceDatabaseItem> sequenceDatabaseItems(int index) const;
+    void setSequenceDatabaseItems(const QList<SequenceDatabaseItem> &items, int index);
+
+    /// Brings the server's metadata into the tables that show it.
+    void updateMetadataContent();
+    /// Gives each sink what is meant for it, so that one without anything clears itself.
+    static void updateMetadataContent(const QList<TalvaneMetadataMappingConnection> &connections,
+                                      const QList<MetadataMapping> &mappings,
+                                      const QList<ExtendedMetadataSink *> &sinks);
 
     /// Writes \a text to the info log.
     Q_INVOKABLE void log(const QString &text) const;
@@ -134,6 +174,7 @@ private:
     Error loadExtendedMetadata(const QJsonObject &json);
     Error loadTabs(const QJsonObject &json, ValidationOptions options);
     void rebuildSinks();
+    [[nodiscard]] QList<MetadataMapping> generateMetadataMappings(const ExtendedMetadataInfo &info) const;
     void adoptNewGroup(std::unique_ptr<ItemGroup> group);
     [[nodiscard]] int indexOf(const QString &name) const;
 
