@@ -42,15 +42,31 @@ READERS = r"""
 299 D 0.5; 300 L 1; 301 P 0.0005; 302 P 0.00005; 303 D 0.05; 304 D 1.5; 305 D 2; 306 T xicMode1
 """
 
-# Defaults that other classes provide. The numbers are those for which the rules were written: the feature finder
-# and the fast extraction may choose others, as long as they keep to the rules.
+# Defaults that other classes provide. A change of the feature finder's or the fast extraction's own values belongs
+# here too: rules were written for these.
 WORDS = {
     "null": None, "empty": "", "ref": None, "unit20": "ppm 20.0", "unit10": "ppm 10.0", "unit9000": "ppm 9000",
     "unit300": "ppm 300", "multicore1": 1, "xicMode1": "Fast", "xic1": 128, "xic2": 1024, "xic3": 64,
     "dss": "DSS / 138.0680796 @ K | xlink\nXlink\\:DSS / 156.078644 @ K | common2 % Dead end",
 }
-TABLES = ("detachedGlycanTable", "detachedGlycanOptions", "disulfide", "isotope", "masses5", "matchTolerance",
-          "oligoImpurities", "massTolerances")
+
+# Defaults that are tables: their columns, and how many rows they begin with.
+TABLES = {
+    "detachedGlycanTable": (["Name", "Composition", "Mass", "Label", "RetentionTime"], 0),
+    "detachedGlycanOptions": (["Kind", "Name", "Formula", "Complete"], 6),
+    "disulfide": (["FirstChain", "FirstPosition", "SecondChain", "SecondPosition"], 0),
+    "isotope": (["Name", "Element", "MassNumber", "Enrichment"], 1),
+    "masses5": (["Name", "Mass", "Protein", "SamplesIds"], 5),
+    "matchTolerance": (["Value", "Unit"], 1),
+}
+
+# Defaults that are records.
+RECORDS = {
+    "oligoImpurities": {"fivePrimeTruncations": 3, "threePrimeTruncations": 3, "additions": 1, "baseLosses": 1,
+                        "sulfurLoss": True},
+    "massTolerances": {"fullLengthProduct": {"value": 10, "unit": "ppm"}, "impurities": {"value": 20, "unit": "ppm"}},
+}
+
 FEATURE_FINDER = {
     142: 10, 143: 1, 144: 0.8, 145: 8, 146: 2, 148: True, 149: 1, 151: 10.0, 154: 0, 155: 3, 156: 3.0, 157: 3,
     158: 50, 159: 0, 161: 5.0, 162: 0.05,

@@ -1,12 +1,14 @@
 #!/usr/bin/env python3
 """Proves that the property catalogue and its lists agree with each other and with what the program expects.
 
-Usage: check_catalogue.py [RESOURCE_FOLDER]
+Usage: check_catalogue.py [--program ORV_WORKFLOW] [RESOURCE_FOLDER]
 
-Prints one line per problem and exits with 1 when there is any, with 2 when a file cannot be read at all.
+With a program, what it answers about its properties must be what the files and facts say. Prints one line per
+problem and exits with 1 when there is any, with 2 when a file cannot be read at all.
 Needs nothing but the standard library.
 """
 
+import argparse
 import csv
 import json
 import re
@@ -14,6 +16,7 @@ import sys
 from pathlib import Path
 
 import catalogue_facts as facts
+import catalogue_program
 
 COLUMNS = ["id", "internalNameV2", "internalNameV1", "displayName", "toolTip", "typeName", "typeOptions",
            "verificationFunction", "verificationParameters"]
@@ -374,7 +377,7 @@ def read_names(text):
 
 def value_of(number, text):
     """The default as a Python value; a table that another class provides gives its name."""
-    if text in facts.TABLES:
+    if text in facts.TABLES or text in facts.RECORDS:
         return text
     if text == "ff":
         return facts.FEATURE_FINDER[number]
@@ -393,12 +396,18 @@ def to_number(value):
 
 
 def main(arguments):
-    default_folder = Path(__file__).resolve().parent.parent / "propertyeditor" / "resources"
-    folder = Path(arguments[1]) if len(arguments) > 1 else default_folder
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("--program", help="the built orv-workflow")
+    parser.add_argument("folder", nargs="?", type=Path,
+                        default=Path(__file__).resolve().parent.parent / "propertyeditor" / "resources")
+    options = parser.parse_args(arguments)
     try:
-        problems = Checker(folder).run()
+        checker = Checker(options.folder)
+        problems = checker.run()
+        if options.program:
+            catalogue_program.ProgramCheck(checker, value_of).run(catalogue_program.ask(options.program))
     except (OSError, ValueError, KeyError, TypeError, csv.Error) as error:
-        print(f"{folder}: cannot be checked: {error!r}", file=sys.stderr)
+        print(f"{options.folder}: cannot be checked: {error!r}", file=sys.stderr)
         return 2
     for problem in problems:
         print(problem)
@@ -406,4 +415,4 @@ def main(arguments):
 
 
 if __name__ == "__main__":
-    sys.exit(main(sys.argv))
+    sys.exit(main(sys.argv[1:]))
