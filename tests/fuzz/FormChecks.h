@@ -28,11 +28,20 @@ namespace FormChecks {
 
 /// A reference is refused with a reason or survives its text, and so do the names in a list of samples.
 [[nodiscard]] QString checkReference(const QByteArray &bytes);
+
 /// FASTA is refused with a place and a remedy, or its sequences read back from what is written.
 [[nodiscard]] QString checkFasta(const QByteArray &bytes);
 
 /// Formulas, compositions, digestion rules, sequences and inclusion lists are refused with a place, or read
 /// back what they write.
 [[nodiscard]] QString checkChemistry(const QByteArray &bytes);
+
+/// A cell of settings is refused with a word or loaded, with each part in the set or told as lost; what is
+/// then written reads back equal.
+[[nodiscard]] QString checkPropertySet(const QByteArray &bytes);
+
+/// Rules with the first line as parameter judge the rest in both modes: what is refused is refused with a
+/// word.
+[[nodiscard]] QString checkRules(const QByteArray &bytes);
 
 } // namespace FormChecks

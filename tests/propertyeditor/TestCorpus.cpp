@@ -42,6 +42,10 @@ private Q_SLOTS:
     void fastaIsRefusedOrReadBackEqual() { run(FormChecks::checkFasta); }
     void chemistryIsRefusedOrReadBackEqual_data() { addFiles(); }
     void chemistryIsRefusedOrReadBackEqual() { run(FormChecks::checkChemistry); }
+    void settingsAreRefusedOrReadBackEqual_data() { addFiles(); }
+    void settingsAreRefusedOrReadBackEqual() { run(FormChecks::checkPropertySet); }
+    void rulesRefuseWithAWord_data() { addFiles(); }
+    void rulesRefuseWithAWord() { run(FormChecks::checkRules); }
 
 private:
     static void addFiles();
@@ -69,8 +73,8 @@ void TestCorpus::run(QString (*check)(const QByteArray &))
 void TestCorpus::everyFuzzerHasSeeds_data()
 {
     QTest::addColumn<QString>("folder");
-    for (const char *folder : {"chemistry", "csv", "fasta", "json", "object_form", "reference", "row_node",
-                               "samples", "value_form"})
+    for (const char *folder : {"chemistry", "csv", "fasta", "json", "object_form", "property_set",
+                               "reference", "row_node", "rules", "samples", "value_form"})
         QTest::newRow(folder) << QString::fromLatin1(folder);
 }
 

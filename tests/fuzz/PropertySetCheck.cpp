@@ -1,0 +1,127 @@
+#include "FormChecks.h"
+
+#include <KProperty>
+#include <KPropertySet>
+#include <orv/core/LossObserver.h>
+#include <orv/propertyeditor/PropertySetCreator.h>
+#include <orv/propertyeditor/content/LoadContext.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <memory>
+
+using namespace orv;
+using namespace PropertyEditorStringConstants;
+using namespace Qt::StringLiterals;
+
+namespace FormChecks {
+
+namespace {
+
+constexpr auto kKeepPaths = PropertyEditor::PropertyConversionFlag::KeepPaths;
+
+using Set = std::unique_ptr<KPropertySet>;
+
+/// The stamp tells the time of each load. An unset priority isn't written, and what has none is read as high.
+QJsonObject substanceOf(const QByteArray &json)
+{
+    QJsonObject cell = QJsonDocument::fromJson(json).object();
+    cell.remove("metadata"_L1);
+    QJsonArray entries = cell.value(PROPERTIES_KEY).toArray();
+    for (qsizetype i = 0; i < entries.size(); ++i) {
+        QJsonObject entry = entries.at(i).toObject();
+        if (!entry.contains("priority"_L1))
+            entry.insert("priority"_L1, int(PropertySetCreator::Priority::High));
+        entries[i] = entry;
+    }
+    cell.insert(PROPERTIES_KEY, entries);
+    return cell;
+}
+
+/// QJsonDocument drops a byte order mark that begins a text.
+bool losesMarks(const QByteArray &json)
+{
+    return json.contains("\xEF\xBB\xBF") || json.toLower().contains("\\ufeff");
+}
+
+/// Members and entries of the text, of which each is in the set or was told as lost.
+qsizetype countParts(const QJsonObject &cell)
+{
+    const QJsonValue entries = cell.value(PROPERTIES_KEY);
+    return entries.isArray() ? cell.size() - 1 + entries.toArray().size() : cell.size();
+}
+
+bool isRefusal(const Error &error)
+{
+    return (error.code() == ErrorCode::MalformedStructure || error.code() == ErrorCode::InvalidContent) &&
+           !error.errorMessage().isEmpty();
+}
+
+QString checkSurface(const KPropertySet &set)
+{
+    for (KPropertySetIterator it(set); it.current(); ++it) {
+        const KProperty &property = *it.current();
+        const bool isStamp = property.name() == QByteArray(META_KEY.data(), META_KEY.size());
+        if (property.name().isEmpty() || (property.isModified() && !isStamp))
+            return u"a loaded property has no name, or counts as modified"_s;
+        if (property.isVisible() == property.name().startsWith(':'))
+            return u"a member of the cell shows, or a setting doesn't"_s;
+    }
+    return {};
+}
+
+QString checkReadBack(const QByteArray &written, const std::optional<BaseItemType> &type, int count)
+{
+    LossCollector collector;
+    const auto loaded =
+        PropertySetCreator::jsonToPropertySet(written, type, PropertyEditor::LoadContext(&collector));
+    if (loaded.hasError())
+        return u"what was written is refused: "_s + loaded.error().errorMessage();
+    const Set again(*loaded);
+    if (!collector.losses().isEmpty() || again->count() != count)
+        return u"what was written loses something"_s;
+    QByteArray second;
+    if (!PropertySetCreator::propertySetToJson(*again, &second, kKeepPaths))
+        return u"what was read back can't be written"_s;
+    return substanceOf(second) == substanceOf(written) ? QString()
+                                                       : u"a second write differs from the first"_s;
+}
+
+QString checkWith(const QByteArray &bytes, const std::optional<BaseItemType> &type)
+{
+    LossCollector collector;
+    const auto loaded =
+        PropertySetCreator::jsonToPropertySet(bytes, type, PropertyEditor::LoadContext(&collector));
+    if (loaded.hasError())
+        return isRefusal(loaded.error()) ? QString() : u"a refusal needs its code and a message"_s;
+    const Set set(*loaded);
+    const QJsonObject cell = QJsonDocument::fromJson(bytes).object();
+    const qsizetype parts = set->count() + collector.losses().size();
+    if (parts != countParts(cell) && parts != countParts(cell) + 1) // the stamp
+        return u"something was dropped without a word"_s;
+    if (const QString wrong = checkSurface(*set); !wrong.isEmpty())
+        return wrong;
+    QByteArray written;
+    if (!PropertySetCreator::propertySetToJson(*set, &written, kKeepPaths))
+        return u"what was read can't be written"_s;
+    return losesMarks(bytes) ? QString() : checkReadBack(written, type, set->count());
+}
+
+} // namespace
+
+QString checkPropertySet(const QByteArray &bytes)
+{
+    const QString stored = QJsonDocument::fromJson(bytes).object().value(TYPE_KEY).toString();
+    for (const std::optional<BaseItemType> &type :
+         {std::optional<BaseItemType>(), std::optional(baseItemTypeFromString(stored)),
+          std::optional(BaseItemType::Karvon)}) {
+        const QString wrong = checkWith(bytes, type);
+        if (!wrong.isEmpty())
+            return wrong;
+    }
+    return {};
+}
+
+} // namespace FormChecks
