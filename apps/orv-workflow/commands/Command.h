@@ -52,6 +52,7 @@ struct CommandRow
 
 std::unique_ptr<Command> createInfoCommand();
 std::unique_ptr<Command> createConvertCommand();
+std::unique_ptr<Command> createDiffCommand();
 std::unique_ptr<Command> createGetCommand();
 std::unique_ptr<Command> createPropertiesCommand();
 std::unique_ptr<Command> createSetCommand();

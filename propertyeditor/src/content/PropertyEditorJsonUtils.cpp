@@ -28,7 +28,7 @@ QJsonArray stampedCells(const VariantItems &cells, const QString &stamp)
 
 namespace {
 
-QJsonArray withoutStamps(const QJsonArray &cells)
+QJsonArray withoutStampsOfCells(const QJsonArray &cells)
 {
     QJsonArray array;
     for (const auto element : cells) {
@@ -37,23 +37,6 @@ QJsonArray withoutStamps(const QJsonArray &cells)
         array.append(element.isObject() ? QJsonValue(cell) : QJsonValue(element));
     }
     return array;
-}
-
-QJsonObject withoutStamps(QJsonObject document)
-{
-    document.remove(META_IN_JSON_KEY);
-    document.remove(EXTENDED_METADATA_IN_JSON_KEY);
-    QJsonArray tabs = document.value(TABS_KEY).toArray();
-    for (auto &&element : tabs) {
-        QJsonObject tab = element.toObject();
-        if (!tab.value(CELLS_KEY).isArray())
-            continue;
-        tab.insert(CELLS_KEY, withoutStamps(tab.value(CELLS_KEY).toArray()));
-        element = tab;
-    }
-    if (!tabs.isEmpty())
-        document.insert(TABS_KEY, tabs);
-    return document;
 }
 
 } // namespace
@@ -136,6 +119,23 @@ QByteArray loadWflw(const QString &fileName, Error *error)
             error->addDetail(reason);
     }
     return {};
+}
+
+QJsonObject withoutStamps(QJsonObject document)
+{
+    document.remove(META_IN_JSON_KEY);
+    document.remove(EXTENDED_METADATA_IN_JSON_KEY);
+    QJsonArray tabs = document.value(TABS_KEY).toArray();
+    for (auto &&element : tabs) {
+        QJsonObject tab = element.toObject();
+        if (!tab.value(CELLS_KEY).isArray())
+            continue;
+        tab.insert(CELLS_KEY, withoutStampsOfCells(tab.value(CELLS_KEY).toArray()));
+        element = tab;
+    }
+    if (!tabs.isEmpty())
+        document.insert(TABS_KEY, tabs);
+    return document;
 }
 
 bool compareWorkflows(const QJsonObject &a, const QJsonObject &b, bool strict)

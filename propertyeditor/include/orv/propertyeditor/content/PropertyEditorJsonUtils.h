@@ -120,4 +120,7 @@ ORV_WORKFLOW_EXPORT void updateStoredSerializedGlycans(QJsonObject *object, cons
 [[nodiscard]] ORV_WORKFLOW_EXPORT bool compareWorkflows(const QJsonObject &a, const QJsonObject &b,
                                                         bool strict);
 
+/// The document without what compareWorkflows passes over unless it is strict.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QJsonObject withoutStamps(QJsonObject document);
+
 } // namespace orv::PropertyEditorJsonUtils

@@ -1,0 +1,163 @@
+#include "../Console.h"
+#include "../Inputs.h"
+#include "Command.h"
+
+#include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
+#include <orv/propertyeditor/workflow/WorkflowDifferences.h>
+
+#include <QJsonDocument>
+
+#include <CLI/CLI.hpp>
+
+#include <array>
+
+namespace orv::cli {
+
+namespace {
+
+using Kind = WorkflowDifference::Kind;
+
+struct KindRow
+{
+    const char *name;
+    const char *mark;
+    Style style;
+};
+
+// By the number of the kind.
+constexpr std::array kKinds = {
+    KindRow{"added", "+", Style::Good},
+    KindRow{"removed", "-", Style::Bad},
+    KindRow{"changed", "~", Style::Caution},
+};
+
+const KindRow &rowOf(Kind kind)
+{
+    return kKinds.at(size_t(kind));
+}
+
+/// Compact JSON on one line, cut to what a line can show.
+QString textOf(const QJsonValue &value)
+{
+    constexpr qsizetype kLongest = 60;
+    // A value alone is no JSON document for the writer; its list is.
+    QByteArray json = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    const QString text = QString::fromUtf8(json.mid(1, json.size() - 2));
+    return text.size() <= kLongest ? text : text.left(kLongest - 3) + QLatin1String("...");
+}
+
+QString line(const WorkflowDifference &difference)
+{
+    const KindRow &row = rowOf(difference.kind);
+    QStringList values;
+    for (const QJsonValue &value : {difference.left, difference.right}) {
+        if (!value.isUndefined())
+            values.append(textOf(value));
+    }
+    return styled(withoutControls(QStringLiteral("%1 %2: ").arg(QLatin1String(row.mark), difference.path)),
+                  row.style) +
+           withoutControls(values.join(QLatin1String(" -> "))) + QLatin1Char('\n');
+}
+
+QString toText(const QList<WorkflowDifference> &differences)
+{
+    if (differences.isEmpty())
+        return QStringLiteral("The workflows are equal.\n");
+    QString text;
+    for (const WorkflowDifference &difference : differences)
+        text += line(difference);
+    return text;
+}
+
+QJsonValue orNull(const QJsonValue &value)
+{
+    return value.isUndefined() ? QJsonValue() : value;
+}
+
+QJsonValue orNull(const QString &text)
+{
+    return text.isEmpty() ? QJsonValue() : QJsonValue(text);
+}
+
+QJsonObject toJson(const WorkflowDifference &difference)
+{
+    return {{QStringLiteral("path"), difference.path},
+            {QStringLiteral("kind"), QLatin1String(rowOf(difference.kind).name)},
+            {QStringLiteral("tab"), orNull(difference.tab)},
+            {QStringLiteral("column"), orNull(difference.column)},
+            {QStringLiteral("row"), difference.row ? QJsonValue(*difference.row) : QJsonValue()},
+            {QStringLiteral("property"), orNull(difference.property)},
+            {QStringLiteral("left"), orNull(difference.left)},
+            {QStringLiteral("right"), orNull(difference.right)}};
+}
+
+class DiffCommand : public Command
+{
+public:
+    void declare(CLI::App &app) override
+    {
+        app.add_option("A", m_left, "Workflow file, portable workflow folder, or - for standard input")
+            ->required();
+        app.add_option("B", m_right, "The workflow to compare it with")->required();
+        app.add_flag("--strict", m_strict, "Compare stamps and metadata too, which change with every save");
+    }
+
+    int run(const GlobalOptions &options) override
+    {
+        const QString left = decoded(m_left);
+        const QString right = decoded(m_right);
+        if (left == kStandardInput && right == kStandardInput)
+            return fail(left, {WrongUsage, 0, QStringLiteral("Standard input holds one workflow, not two.")},
+                        options);
+        const DocumentOrFailure a = readDocument(left);
+        if (const auto *failure = std::get_if<Failure>(&a))
+            return fail(left, *failure, options);
+        const DocumentOrFailure b = readDocument(right);
+        if (const auto *failure = std::get_if<Failure>(&b))
+            return fail(right, *failure, options);
+        return compare(std::get<QJsonObject>(a), std::get<QJsonObject>(b), options);
+    }
+
+private:
+    [[nodiscard]] int compare(const QJsonObject &left, const QJsonObject &right,
+                              const GlobalOptions &options) const
+    {
+        const bool equal = PropertyEditorJsonUtils::compareWorkflows(left, right, m_strict);
+        const QList<WorkflowDifference> differences = WorkflowDifferences::between(left, right, m_strict);
+        const int printed = options.json ? printJson(report(equal, differences, QJsonValue()))
+                                         : printText(toText(differences));
+        return std::max<int>(equal ? Done : Negative, printed);
+    }
+
+    static int fail(const QString &file, const Failure &failure, const GlobalOptions &options)
+    {
+        printFailure(file, failure);
+        const int printed =
+            options.json ? printJson(report(QJsonValue(), {}, orv::cli::toJson(failure))) : Done;
+        return std::max<int>(failure.exitCode, printed);
+    }
+
+    static QJsonObject report(const QJsonValue &equal, const QList<WorkflowDifference> &differences,
+                              const QJsonValue &error)
+    {
+        QJsonArray list;
+        for (const WorkflowDifference &difference : differences)
+            list.append(toJson(difference));
+        return {{QStringLiteral("equal"), equal},
+                {QStringLiteral("differences"), list},
+                {QStringLiteral("error"), error}};
+    }
+
+    std::string m_left;
+    std::string m_right;
+    bool m_strict = false;
+};
+
+} // namespace
+
+std::unique_ptr<Command> createDiffCommand()
+{
+    return std::make_unique<DiffCommand>();
+}
+
+} // namespace orv::cli
