@@ -2,6 +2,7 @@
 #pragma once
 
 #include <orv/propertyeditor/PropertySetCreator.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
 #include <QLatin1String>
 #include <QString>
@@ -11,7 +12,7 @@ namespace orv {
 
 inline constexpr const char *kThreeStateOption = "3State";
 inline constexpr const char *kExtraValueOption = "extraValueAllowed";
-inline constexpr const char *kPriorityOption = "priority";
+inline constexpr const char *kPriorityOption = PropertyEditorStringConstants::PRIORITY_KEY.data();
 
 inline constexpr QLatin1String kFontFamily("family");
 inline constexpr QLatin1String kFontBold("bold");

@@ -42,6 +42,8 @@ const std::vector<CommandRow> &commandRows()
          createSetCommand},
         {"table", "Show the table in a cell",
          "orv-workflow table study.wflw --tab Sequences --column 0 --csv", createTableCommand},
+        {"new", "Make a workflow with default contents",
+         "orv-workflow new --name Check --cell Samples --cell Intact -o check.wflw", createNewCommand},
         {"properties", "Explain the settings that cells may hold", "orv-workflow properties 55",
          createPropertiesCommand},
         {"types", "List the workflow types and the cell types", "orv-workflow types --json",

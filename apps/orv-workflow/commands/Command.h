@@ -54,6 +54,7 @@ std::unique_ptr<Command> createInfoCommand();
 std::unique_ptr<Command> createConvertCommand();
 std::unique_ptr<Command> createDiffCommand();
 std::unique_ptr<Command> createGetCommand();
+std::unique_ptr<Command> createNewCommand();
 std::unique_ptr<Command> createPropertiesCommand();
 std::unique_ptr<Command> createSetCommand();
 std::unique_ptr<Command> createTableCommand();

@@ -1,8 +1,7 @@
-#include "../Console.h"
 #include "../Inputs.h"
+#include "../Output.h"
 #include "Command.h"
 
-#include <orv/core/FileUtils.h>
 #include <orv/core/LossObserver.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/ItemGroup.h>
@@ -173,17 +172,7 @@ private:
             content.setBaseUrl(folderUrlOf(file));
             flag = PropertyEditor::PropertyConversionFlag::AbsolutePaths;
         }
-        const QByteArray bytes = content.toJson(flag);
-        if (output == kStandardInput) {
-            if (writeStandardOutput(bytes))
-                return {};
-            return Failure{BadOutput, 0, QStringLiteral("The standard output can't be written.")};
-        }
-        QString deviceError;
-        if (FileUtils::writeToFile(output, bytes, &deviceError) == QFileDevice::NoError)
-            return {};
-        return Failure{BadOutput, int(ErrorCode::CannotOpenFile),
-                       QStringLiteral("The file can't be written: %1").arg(deviceError)};
+        return writeOutput(output, content.toJson(flag));
     }
 
     static QJsonObject toJson(const QString &file, const QString &output, const Outcome &outcome)

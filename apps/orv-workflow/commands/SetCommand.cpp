@@ -1,10 +1,9 @@
-#include "../Console.h"
 #include "../Inputs.h"
+#include "../Output.h"
 #include "../SettingsCell.h"
 #include "Command.h"
 
 #include <KPropertySet>
-#include <orv/core/FileUtils.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/PropertyText.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
@@ -117,18 +116,7 @@ private:
 
     [[nodiscard]] std::optional<Failure> write(const QJsonObject &document) const
     {
-        const QByteArray bytes = QJsonDocument(document).toJson();
-        const QString output = decoded(m_output);
-        if (output == kStandardInput) {
-            if (writeStandardOutput(bytes))
-                return {};
-            return Failure{BadOutput, 0, QStringLiteral("The standard output can't be written.")};
-        }
-        QString deviceError;
-        if (FileUtils::writeToFile(output, bytes, &deviceError) == QFileDevice::NoError)
-            return {};
-        return Failure{BadOutput, int(ErrorCode::CannotOpenFile),
-                       QStringLiteral("The file can't be written: %1").arg(deviceError)};
+        return writeOutput(decoded(m_output), QJsonDocument(document).toJson());
     }
 
     [[nodiscard]] QJsonObject report(const std::optional<Failure> &failure) const

@@ -21,6 +21,7 @@ inline constexpr QLatin1String TYPE_KEY("type");
 inline constexpr QLatin1String TITLE_KEY("title");
 inline constexpr QLatin1String PROPERTIES_KEY("properties");
 inline constexpr QLatin1String VALUE_KEY("value");
+inline constexpr QLatin1String PRIORITY_KEY("priority");
 inline constexpr QLatin1String GROUP_KEY("group");
 inline constexpr QLatin1String CUSTOM_COLUMNS_KEY("CustomColumns");
 
