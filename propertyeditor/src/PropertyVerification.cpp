@@ -229,28 +229,31 @@ VerificationFunction PropertyVerification::constructStringVerificationFunction(c
     };
 }
 
-VerificationFunction PropertyVerification::constructRangeVerificationFunction(const QString &parameter)
+std::optional<PropertyVerification::Range> PropertyVerification::parseRange(const QString &parameter)
 {
     static const QRegularExpression pattern(QRegularExpression::anchoredPattern(
         QStringLiteral("([\\[\\(])\\s*([-0-9.]+)\\s*;\\s*([-0-9.]+)\\s*([\\]\\)])")));
-    const QString range = parameter.trimmed();
-    const QRegularExpressionMatch match = pattern.match(range);
-    if (!match.hasMatch()) {
+    const QRegularExpressionMatch match = pattern.match(parameter.trimmed());
+    if (!match.hasMatch())
+        return {};
+    qCDebug(propertyEditorLog) << match.capturedTexts();
+    return Range{match.captured(2), match.captured(3), match.captured(1) == QLatin1String("["),
+                 match.captured(4) == QLatin1String("]")};
+}
+
+VerificationFunction PropertyVerification::constructRangeVerificationFunction(const QString &parameter)
+{
+    const std::optional<Range> range = parseRange(parameter);
+    if (!range) {
         qCWarning(propertyEditorLog) << "Invalid range" << parameter;
         return {};
     }
-    qCDebug(propertyEditorLog) << match.capturedTexts();
-
-    const bool lowInclusive = match.captured(1) == QLatin1Char('[');
-    const bool highInclusive = match.captured(4) == QLatin1Char(']');
-    const QString low = match.captured(2);
-    const QString high = match.captured(3);
-    const QString message = tr("The value of \"%2\" must be in range %1").arg(range);
-    return [=](PropertyId id, const QVariant &value, PropertyEditorContent::ContentMode,
-               QList<QString> *errors, QList<QString> *warnings) {
-        return verifyValueInRange(id, value, valueInStringToVariant(id, low),
-                                  valueInStringToVariant(id, high), lowInclusive, highInclusive, message,
-                                  errors, warnings);
+    const QString message = tr("The value of \"%2\" must be in range %1").arg(parameter.trimmed());
+    return [range = *range, message](PropertyId id, const QVariant &value, PropertyEditorContent::ContentMode,
+                                     QList<QString> *errors, QList<QString> *warnings) {
+        return verifyValueInRange(id, value, valueInStringToVariant(id, range.low),
+                                  valueInStringToVariant(id, range.high), range.lowInclusive,
+                                  range.highInclusive, message, errors, warnings);
     };
 }
 

@@ -148,13 +148,13 @@ QList<Pair> structurePairs()
 
 QList<Pair> settingPairs()
 {
-    const char settings[] = "{'type': 'Karvon', 'properties': [{'name': 'KarvonMinPeaks', 'value': 4},"
+    const char settings[] = "{'type': 'Karvon', 'properties': [{'name': 'KarvonCentroidTopk', 'value': 4},"
                             " {'name': 'Samples', 'value': 'a', 'priority': 1}]}";
     return {
         {"a setting",
          twoCells(settings),
          replaced(settings, "4", "5"),
-         {u"~ T / C / row 0 / KarvonMinPeaks [4,5]"_s}},
+         {u"~ T / C / row 0 / KarvonCentroidTopk [4,5]"_s}},
         {"the priority of a setting",
          twoCells(settings),
          replaced(settings, "'priority': 1", "'priority': 3"),
@@ -162,17 +162,17 @@ QList<Pair> settingPairs()
         {"a setting that is gone",
          twoCells(settings),
          twoCells("{'type': 'Karvon', 'properties': []}"),
-         {u"- T / C / row 0 / KarvonMinPeaks [4,null]"_s, u"- T / C / row 0 / Samples ['a',null]"_s}},
+         {u"- T / C / row 0 / KarvonCentroidTopk [4,null]"_s, u"- T / C / row 0 / Samples ['a',null]"_s}},
         {"a setting without a value",
          twoCells(settings),
          replaced(settings, "'value': 4", "'x': 4"),
-         {u"- T / C / row 0 / KarvonMinPeaks [4,null]"_s,
-          u"+ T / C / row 0 / KarvonMinPeaks / x [null,4]"_s}},
+         {u"- T / C / row 0 / KarvonCentroidTopk [4,null]"_s,
+          u"+ T / C / row 0 / KarvonCentroidTopk / x [null,4]"_s}},
         {"settings in another order",
          twoCells(settings),
          twoCells("{'type': 'Karvon', 'properties': [{'name': 'Samples', 'value': 'a', 'priority': 1},"
-                  " {'name': 'KarvonMinPeaks', 'value': 4}]}"),
-         {u"~ T / C / row 0 / order of settings [['KarvonMinPeaks','Samples'],['Samples','KarvonMinPeaks']]"_s}},
+                  " {'name': 'KarvonCentroidTopk', 'value': 4}]}"),
+         {u"~ T / C / row 0 / order of settings [['KarvonCentroidTopk','Samples'],['Samples','KarvonCentroidTopk']]"_s}},
         {"a former name",
          twoCells("{'type': 'Karvon', 'properties': [{'name': 'DatabaseFile', 'value': 'a'}]}"),
          twoCells("{'type': 'Karvon', 'properties': [{'name': 'SequenceDatabases', 'value': 'a'}]}"),
@@ -267,15 +267,15 @@ void TestWorkflowDifferences::aDifferenceIsNamed()
 void TestWorkflowDifferences::aDifferenceTellsItsPlace()
 {
     const QList<WorkflowDifference> differences = WorkflowDifferences::between(
-        twoCells(kTable, "{'type': 'Karvon', 'properties': [{'name': 'KarvonMinPeaks', 'value': 4}]}"),
-        twoCells(kTable, "{'type': 'Karvon', 'properties': [{'name': 'KarvonMinPeaks', 'value': 5}]}"),
+        twoCells(kTable, "{'type': 'Karvon', 'properties': [{'name': 'KarvonCentroidTopk', 'value': 4}]}"),
+        twoCells(kTable, "{'type': 'Karvon', 'properties': [{'name': 'KarvonCentroidTopk', 'value': 5}]}"),
         false);
     QCOMPARE(differences.size(), 1);
     QCOMPARE(differences.first().kind, Kind::Changed);
     QCOMPARE(differences.first().tab, u"T"_s);
     QCOMPARE(differences.first().column, u"D"_s);
     QCOMPARE(differences.first().row, std::optional<qsizetype>(0));
-    QCOMPARE(differences.first().property, u"KarvonMinPeaks"_s);
+    QCOMPARE(differences.first().property, u"KarvonCentroidTopk"_s);
 }
 
 void TestWorkflowDifferences::theListIsEmptyExactlyWhenTheVerdictIsEqual_data()

@@ -46,6 +46,8 @@ const std::vector<CommandRow> &commandRows()
          "orv-workflow new --name Check --cell Samples --cell Intact -o check.wflw", createNewCommand},
         {"properties", "Explain the settings that cells may hold", "orv-workflow properties 55",
          createPropertiesCommand},
+        {"schema", "Print a JSON Schema of the file format, for editors",
+         "orv-workflow schema > wflw.schema.json", createSchemaCommand},
         {"types", "List the workflow types and the cell types", "orv-workflow types --json",
          createTypesCommand},
     };

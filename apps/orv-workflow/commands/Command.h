@@ -56,6 +56,7 @@ std::unique_ptr<Command> createDiffCommand();
 std::unique_ptr<Command> createGetCommand();
 std::unique_ptr<Command> createNewCommand();
 std::unique_ptr<Command> createPropertiesCommand();
+std::unique_ptr<Command> createSchemaCommand();
 std::unique_ptr<Command> createSetCommand();
 std::unique_ptr<Command> createTableCommand();
 std::unique_ptr<Command> createTypesCommand();

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QVariant>
 
+#include <optional>
+
 namespace orv {
 
 /// Makes the rules of the catalogue out of a keyword and a parameter text. Safe on any thread.
@@ -19,6 +21,18 @@ public:
     /// an empty keyword and, with a warning in the log, for an unknown one or a range that can't be read.
     [[nodiscard]] static VerificationFunction constructVerificationFunction(const QString &keyword,
                                                                             const QString &parameter);
+
+    /// The parameter of a range rule; the bounds are numbers as texts.
+    struct Range
+    {
+        QString low;
+        QString high;
+        bool lowInclusive = true;
+        bool highInclusive = true;
+    };
+
+    /// The range that \a parameter stands for, such as "[0;100)"; nothing if it can't be read.
+    [[nodiscard]] static std::optional<Range> parseRange(const QString &parameter);
 
 private:
     using ValuePredicate = bool (*)(const QVariant &value, const QVariant &parameter);

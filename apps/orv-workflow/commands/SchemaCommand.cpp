@@ -1,0 +1,30 @@
+#include "Command.h"
+
+#include <orv/propertyeditor/workflow/WorkflowSchema.h>
+
+#include <CLI/CLI.hpp>
+
+namespace orv::cli {
+
+namespace {
+
+class SchemaCommand : public Command
+{
+public:
+    void declare(CLI::App &app) override { Q_UNUSED(app) }
+
+    int run(const GlobalOptions &options) override
+    {
+        Q_UNUSED(options)
+        return printJson(WorkflowSchema::make());
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Command> createSchemaCommand()
+{
+    return std::make_unique<SchemaCommand>();
+}
+
+} // namespace orv::cli
