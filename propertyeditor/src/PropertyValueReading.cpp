@@ -8,6 +8,7 @@
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/resources/ResourceReferenceUtils.h>
+#include <orv/table/rn.h>
 
 #include <QColor>
 #include <QCursor>
@@ -21,6 +22,7 @@
 #include <QSize>
 #include <QUrl>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
@@ -235,9 +237,24 @@ QJsonObject payloadOf(const QJsonValue &value)
     return value.isString() ? QJsonDocument::fromJson(value.toString().toUtf8()).object() : value.toObject();
 }
 
+bool nestsDeeperThan(int levels, const QJsonValue &value)
+{
+    const auto isDeeper = [levels](const QJsonValue &inner) { return nestsDeeperThan(levels - 1, inner); };
+    if (value.isArray()) {
+        const QJsonArray array = value.toArray();
+        return levels == 0 || std::ranges::any_of(array, isDeeper);
+    }
+    const QJsonObject object = value.toObject();
+    return value.isObject() && (levels == 0 || std::ranges::any_of(object, isDeeper));
+}
+
 ReadValue readObject(PropertyId id, const QJsonValue &value, KProperty *property)
 {
     const QJsonObject object = payloadOf(value);
+    // An object within a text has levels of its own; together with those of its document no parser would read
+    // what is written.
+    if (value.isString() && nestsDeeperThan(rn::kMaxNesting, object))
+        return {};
     const PropertySetCreator::Editor editor = PropertySetCreator::editorForProperty(id);
     if (editor == PropertySetCreator::Editor::Unset) {
         if (object.isEmpty())

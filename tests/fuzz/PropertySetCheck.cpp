@@ -3,7 +3,9 @@
 #include <KProperty>
 #include <KPropertySet>
 #include <orv/core/LossObserver.h>
+#include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/PropertySetCreator.h>
+#include <orv/propertyeditor/UserVisibleListConverter.h>
 #include <orv/propertyeditor/content/LoadContext.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
@@ -24,11 +26,20 @@ constexpr auto kKeepPaths = PropertyEditor::PropertyConversionFlag::KeepPaths;
 
 using Set = std::unique_ptr<KPropertySet>;
 
+/// Names of one set differ in more than case.
+bool isStamp(const QString &key)
+{
+    return key.compare("metadata"_L1, Qt::CaseInsensitive) == 0;
+}
+
 /// The stamp tells the time of each load. An unset priority isn't written, and what has none is read as high.
 QJsonObject substanceOf(const QByteArray &json)
 {
     QJsonObject cell = QJsonDocument::fromJson(json).object();
-    cell.remove("metadata"_L1);
+    for (const QString &key : cell.keys()) {
+        if (isStamp(key))
+            cell.remove(key);
+    }
     QJsonArray entries = cell.value(PROPERTIES_KEY).toArray();
     for (qsizetype i = 0; i < entries.size(); ++i) {
         QJsonObject entry = entries.at(i).toObject();
@@ -63,8 +74,8 @@ QString checkSurface(const KPropertySet &set)
 {
     for (KPropertySetIterator it(set); it.current(); ++it) {
         const KProperty &property = *it.current();
-        const bool isStamp = property.name() == QByteArray(META_KEY.data(), META_KEY.size());
-        if (property.name().isEmpty() || (property.isModified() && !isStamp))
+        if (property.name().isEmpty() ||
+            (property.isModified() && !isStamp(QString::fromUtf8(property.name().mid(1)))))
             return u"a loaded property has no name, or counts as modified"_s;
         if (property.isVisible() == property.name().startsWith(':'))
             return u"a member of the cell shows, or a setting doesn't"_s;
@@ -106,7 +117,44 @@ QString checkWith(const QByteArray &bytes, const std::optional<BaseItemType> &ty
     QByteArray written;
     if (!PropertySetCreator::propertySetToJson(*set, &written, kKeepPaths))
         return u"what was read can't be written"_s;
-    return losesMarks(bytes) ? QString() : checkReadBack(written, type, set->count());
+    // A member that is named like the settings, and isn't their list, gives way to it.
+    const int count = set->count() - (set->property(":properties").name() == ":properties" ? 1 : 0);
+    return losesMarks(bytes) ? QString() : checkReadBack(written, type, count);
+}
+
+/// One property of each type, editor and kind of list.
+const QList<PropertyId> &kindsOfProperties()
+{
+    static const QList<PropertyId> ids = [] {
+        using Lists = UserVisibleListConverter;
+        QList<PropertyId> kinds;
+        QSet<QString> seen;
+        for (const PropertyId id : PropertiesNames::names()->keys()) {
+            const QString kind =
+                u"%1 %2 %3 %4 %5"_s.arg(PropertiesNames::valueTypeNameOfPropertyType(id))
+                    .arg(int(PropertySetCreator::editorForProperty(id)))
+                    .arg(int(Lists::listItemsMap().contains(id)))
+                    .arg(int(Lists::isStringSerializableList(id)) + 2 * int(Lists::isEditableList(id)))
+                    .arg(int(Lists::associativeListWithBoolBackwardsCompatibility().contains(id)));
+            if (!seen.contains(kind))
+                kinds.append(id);
+            seen.insert(kind);
+        }
+        return kinds;
+    }();
+    return ids;
+}
+
+/// A cell in which each kind of property has what the text holds.
+QByteArray cellOfValues(const QByteArray &bytes)
+{
+    const QJsonDocument document = QJsonDocument::fromJson("[" + bytes + "]");
+    const QJsonValue value =
+        document.isNull() ? QJsonValue(QString::fromUtf8(bytes)) : document.array().first();
+    QJsonArray entries;
+    for (const QString &name : PropertiesNames::internalNamesForTypes(kindsOfProperties()))
+        entries.append(QJsonObject{{NAME_KEY, name}, {VALUE_KEY, value}});
+    return QJsonDocument(QJsonObject{{TYPE_KEY, u"Karvon"_s}, {PROPERTIES_KEY, entries}}).toJson();
 }
 
 } // namespace
@@ -121,7 +169,7 @@ QString checkPropertySet(const QByteArray &bytes)
         if (!wrong.isEmpty())
             return wrong;
     }
-    return {};
+    return checkWith(cellOfValues(bytes), {});
 }
 
 } // namespace FormChecks

@@ -71,6 +71,8 @@ private Q_SLOTS:
     void anEditableListTakesOtherTexts();
     void formerSwitchesBecomeEntries();
     void checkedTextsComeBack();
+    void anObjectsTextThatNestsTooDeepFails_data();
+    void anObjectsTextThatNestsTooDeepFails();
     void objectsWithAnEditorHoldTheirPayload_data();
     void objectsWithAnEditorHoldTheirPayload();
     void objectsWithoutAnEditorAreKept_data();
@@ -394,6 +396,25 @@ void TestPropertyValues::checkedTextsComeBack()
     QVERIFY(property->option("availableItems").toStringList().contains(u"T"_s));
     QCOMPARE(property->option("displaySeparator"), QVariant(QString()));
     QCOMPARE(Creator::valueToJson(*property, Flag::KeepPaths), QJsonValue(texts));
+}
+
+void TestPropertyValues::anObjectsTextThatNestsTooDeepFails_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::newRow("with an editor") << 202;
+    QTest::newRow("without one") << 171;
+}
+
+void TestPropertyValues::anObjectsTextThatNestsTooDeepFails()
+{
+    QFETCH(int, number);
+    const auto nested = [](int levels) {
+        const QString inner = QString(levels - 1, u'[') + QString(levels - 1, u']');
+        return QJsonValue(u"{\"a\": %1}"_s.arg(inner));
+    };
+    QVERIFY(stored(number, nested(256)));
+    QVERIFY(!stored(number, nested(257)));
+    QVERIFY(!stored(number, nested(1000)));
 }
 
 void TestPropertyValues::objectsWithAnEditorHoldTheirPayload_data()
