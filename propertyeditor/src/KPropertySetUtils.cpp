@@ -36,13 +36,13 @@ std::vector<Moved> takeBehind(const KProperty *last, KPropertySet *set)
     return taken;
 }
 
-void addWithCaption(const QString &group, KProperty *property, KPropertySet *set)
+/// The first caption of a group stands.
+void addWithCaption(const QByteArray &name, const QString &caption, KProperty *property, KPropertySet *set)
 {
-    const QByteArray name = groupName(group);
-    const bool isNew = set->propertyNamesForGroup(name).isEmpty();
+    const bool isNew = !caption.isEmpty() && name != kCommonGroup && !set->groupNames().contains(name);
     set->addProperty(property, name);
-    if (isNew && !group.isEmpty() && name != kCommonGroup)
-        set->setGroupCaption(name, group);
+    if (isNew)
+        set->setGroupCaption(name, caption);
 }
 
 /// The property behind which position \a position of the group lies; null for the front of the set.
@@ -70,13 +70,15 @@ int propertyIndex(const QString &key, const QString &group, const KPropertySet &
 
 void insertInKPropertySet(const QString &group, KProperty *property, KPropertySet *set, int position)
 {
-    const QList<QByteArray> names = set->propertyNamesForGroup(groupName(group));
-    if (position < 0 || names.isEmpty() || position > names.size()) {
-        addWithCaption(group, property, set);
+    const QByteArray name = groupName(group);
+    // Loads add at the end, and a list for each property would make them quadratic.
+    const QList<QByteArray> names = position < 0 ? QList<QByteArray>() : set->propertyNamesForGroup(name);
+    if (names.isEmpty() || position > names.size()) {
+        addWithCaption(name, group, property, set);
         return;
     }
     std::vector<Moved> behind = takeBehind(propertyBefore(names, position, *set), set);
-    addWithCaption(group, property, set);
+    addWithCaption(name, group, property, set);
     for (Moved &moved : behind)
         set->addProperty(moved.property.release(), moved.group);
 }
