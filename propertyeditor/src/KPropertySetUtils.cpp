@@ -30,7 +30,11 @@ std::vector<Moved> takeBehind(const KProperty *last, KPropertySet *set)
     std::vector<Moved> taken;
     taken.reserve(tail.size());
     for (KProperty *property : tail) {
-        taken.push_back({set->groupNameForProperty(*property), std::make_unique<KProperty>(*property)});
+        // Who hears of a removal may have removed this one as well: the set is asked before it is touched.
+        const QByteArray group = set->groupNameForProperty(*property);
+        if (group.isEmpty())
+            continue;
+        taken.push_back({group, std::make_unique<KProperty>(*property)});
         set->removeProperty(property);
     }
     return taken;
@@ -79,6 +83,8 @@ void insertInKPropertySet(const QString &group, KProperty *property, KPropertySe
     }
     std::vector<Moved> behind = takeBehind(propertyBefore(names, position, *set), set);
     addWithCaption(name, group, property, set);
+    // The group has its caption, even if all of it is out of the set for the moment.
+    set->addProperty(property, groupName(group));
     for (Moved &moved : behind)
         set->addProperty(moved.property.release(), moved.group);
 }

@@ -38,6 +38,8 @@ private Q_SLOTS:
     void propertiesGoToTheirPosition_data();
     void propertiesGoToTheirPosition();
     void propertiesBehindKeepWhatTheyHave();
+    void theFrontOfAGroupKeepsItsCaption();
+    void listenersMayRemoveWhatIsMoved();
 };
 
 void TestKPropertySetUtils::aGroupIsNamedByItsCaptionInLowerCase()
@@ -125,6 +127,28 @@ void TestKPropertySetUtils::propertiesBehindKeepWhatTheyHave()
     QCOMPARE(property.option("min"), QVariant(3));
     QVERIFY(!property.isVisible());
     QCOMPARE(set.groupCaption("two"), u"Two"_s);
+}
+
+void TestKPropertySetUtils::theFrontOfAGroupKeepsItsCaption()
+{
+    KPropertySet set;
+    add(&set, "a", u"Instrument Parameters"_s);
+    add(&set, "x", u"instrument parameters"_s, 0);
+    QCOMPARE(order(set), QStringList({u"x@instrument parameters"_s, u"a@instrument parameters"_s}));
+    QCOMPARE(set.groupCaption("instrument parameters"), u"Instrument Parameters"_s);
+}
+
+void TestKPropertySetUtils::listenersMayRemoveWhatIsMoved()
+{
+    KPropertySet set;
+    for (const char *name : {"a", "b", "c", "d"})
+        add(&set, name, u"One"_s);
+    connect(&set, &KPropertySet::aboutToDeleteProperty, &set, [&set](KPropertySet &, KProperty &property) {
+        if (property.name() == "b")
+            set.removeProperty("c");
+    });
+    add(&set, "x", u"One"_s, 1);
+    QCOMPARE(order(set), QStringList({u"a@one"_s, u"x@one"_s, u"b@one"_s, u"d@one"_s}));
 }
 
 ORV_REGISTER_TEST(TestKPropertySetUtils)
