@@ -41,6 +41,7 @@ private Q_SLOTS:
     void aRowBeyondTheTableIsNotRemoved_data();
     void aRowBeyondTheTableIsNotRemoved();
     void theValuesOfARowAreReplaced();
+    void listenersMayRemoveTheRowThatChanged();
     void theValuesOfNoRowAreRefusedInSilence();
     void theWrongNumberOfValuesIsRefused();
     void cellsAreWritten();
@@ -363,6 +364,18 @@ void TestBaseTableItem::theValuesOfARowAreReplaced()
     QVERIFY(item->setRowValues(1, {u"sugar"_s, 180.0634}));
     QCOMPARE(columnOf(*item, 0), (QStringList{u"water"_s, u"sugar"_s}));
     QCOMPARE(told.texts(), QStringList{u"rowChanged 1 sugar|180.0634"_s});
+}
+
+void TestBaseTableItem::listenersMayRemoveTheRowThatChanged()
+{
+    const auto item = table();
+    connect(item.get(), &BaseTableItem::rowChanged, item.get(), [&item](int row) { item->removeRow(row); });
+    QStringList heard;
+    connect(item.get(), &BaseTableItem::rowChanged, item.get(),
+            [&heard](int, const VariantItems &data) { heard = data.toStringList(); });
+    QVERIFY(item->setRowValues(0, {u"sugar"_s, u"180.0634"_s}));
+    QCOMPARE(heard, QStringList({u"sugar"_s, u"180.0634"_s}));
+    QCOMPARE(item->rowCount(), 1);
 }
 
 void TestBaseTableItem::theValuesOfNoRowAreRefusedInSilence()

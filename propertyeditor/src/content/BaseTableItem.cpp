@@ -124,8 +124,10 @@ bool BaseTableItem::setRowValues(int index, const QVariantList &values)
         qCWarning(propertyEditorLog) << "Record columns count mismatch in" << propertyName();
         return false;
     }
-    row->setRowData(VariantItems(values));
-    Q_EMIT rowChanged(index, row->data);
+    const VariantItems data(values);
+    row->setRowData(data);
+    // Not the row's own data: who hears of it first may remove the row.
+    Q_EMIT rowChanged(index, data);
     return true;
 }
 
