@@ -79,8 +79,10 @@ public:
         for (const Loss &loss : lost)
             printRemark(m_cell.file(),
                         QStringLiteral("lost: %1: %2: %3").arg(loss.path, loss.what, loss.why));
+        // A set finds names in any case, and the output goes by the name as it stands.
+        const QStringList keys = item->keys();
         for (const QString &name : decoded(m_names)) {
-            if (!item->contains(name))
+            if (!keys.contains(name))
                 return fail({WrongUsage, 0, QStringLiteral("The cell has no property \"%1\".").arg(name)},
                             options);
         }

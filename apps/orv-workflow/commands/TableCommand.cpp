@@ -77,7 +77,10 @@ QString inColumns(const QList<QStringList> &rows)
         QString line;
         for (qsizetype i = 0; i < row.size(); ++i)
             line += withoutControls(row.at(i)).leftJustified(widths.at(i) + 2);
-        text += line.trimmed() + QLatin1Char('\n');
+        // Not at the front: an empty cell keeps its column.
+        while (line.endsWith(QLatin1Char(' ')))
+            line.chop(1);
+        text += line + QLatin1Char('\n');
     }
     return text;
 }
