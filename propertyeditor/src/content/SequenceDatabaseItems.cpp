@@ -7,8 +7,8 @@
 #include <orv/resources/ResourceReferenceUtils.h>
 #include <orv/resources/ResourceTypeChecker.h>
 
+#include <QHash>
 #include <QJsonArray>
-#include <QSet>
 
 namespace orv::PropertyEditor {
 
@@ -38,7 +38,7 @@ struct Findings
 Findings findingsIn(const QList<SequenceDatabaseItem> &items)
 {
     Findings findings;
-    QSet<QString> seen;
+    QHash<QString, int> uses;
     for (const SequenceDatabaseItem &item : items) {
         const ResourceReferenceSPtr &reference = item.fastaReference();
         if (!reference) {
@@ -46,9 +46,8 @@ Findings findingsIn(const QList<SequenceDatabaseItem> &items)
             continue;
         }
         const QString &text = reference->text();
-        if (seen.contains(text) && !findings.duplicates.contains(text))
+        if (++uses[text] == 2)
             findings.duplicates.append(text);
-        seen.insert(text);
         if (!ResourceHandlerUtils::checkExists(reference))
             findings.missing.append(text);
         if (!ResourceTypeChecker::matches(reference, FileTypes::FASTA))
