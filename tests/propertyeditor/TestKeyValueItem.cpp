@@ -92,6 +92,7 @@ private Q_SLOTS:
     void insertPutsAPropertyBehindAnother();
     void insertConvertsBuiltInTypesOnly();
     void insertOfAnExistingKeyIsSilent();
+    void insertNeedsAKey();
     void replaceMakesAnotherPropertyWithoutASignal();
     void removeTellsKeyAndCount();
     void removeOfAListStopsAtTheFirstMissingKey();
@@ -269,6 +270,19 @@ void TestKeyValueItem::insertOfAnExistingKeyIsSilent()
     QCOMPARE(spies.counts(), kSilence);
     QVERIFY(log.lines().isEmpty());
     QCOMPARE(item->value(nameOf(43)), QVariant(u"RK"_s));
+}
+
+void TestKeyValueItem::insertNeedsAKey()
+{
+    const auto item = loaded({});
+    QVERIFY(item);
+    const int before = item->count();
+    const Spies spies(item.get());
+    const LogCapture log;
+    QVERIFY(!item->insert(QString(), u"value"_s, item->stringType()));
+    QCOMPARE(log.warnings(), QStringList(u"Cannot insert a property without a key"_s));
+    QCOMPARE(spies.counts(), kSilence);
+    QCOMPARE(item->count(), before);
 }
 
 void TestKeyValueItem::replaceMakesAnotherPropertyWithoutASignal()

@@ -170,6 +170,10 @@ bool KeyValueItem::insert(const QString &key, const QString &group, const QVaria
 {
     if (!m_set || contains(key))
         return false;
+    if (key.isEmpty()) {
+        qCWarning(propertyEditorLog) << "Cannot insert a property without a key";
+        return false;
+    }
     QVariant converted = value;
     if (type < KProperty::UserDefined && !converted.convert(QMetaType(type))) {
         qCWarning(propertyEditorLog) << "Cannot convert variant" << value << "to type" << type;

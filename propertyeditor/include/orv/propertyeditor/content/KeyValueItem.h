@@ -51,7 +51,7 @@ public:
 
     /// Adds a property right behind \a keyBefore, which must stand in \a group, or at the end of the group.
     /// \a value is converted to \a type if that is a built-in one. An empty group is that of general
-    /// settings. False without a log line for a key that is there.
+    /// settings. False without a log line for a key that is there; an empty key is refused, too.
     Q_INVOKABLE bool insert(const QString &key, const QString &group, const QVariant &value, int type,
                             const QString &keyBefore = {});
     Q_INVOKABLE bool insert(const QString &key, const QVariant &value, int type);
