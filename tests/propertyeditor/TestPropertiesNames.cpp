@@ -1,3 +1,4 @@
+#include "CatalogueRows.h"
 #include "OrvTest.h"
 
 #include <orv/chemistry/MassTolerances.h>
@@ -44,6 +45,63 @@ QVariant heldDefault(PropertyId id)
     return value;
 }
 
+using CatalogueRows::Default;
+
+int heldType(const CatalogueRows::Row &row)
+{
+    switch (row.held) {
+    case Default::None:
+        return QMetaType::UnknownType;
+    case Default::Text:
+        return QMetaType::QString;
+    case Default::Bool:
+        return QMetaType::Bool;
+    case Default::Int:
+        return QMetaType::Int;
+    case Default::Double:
+        return QMetaType::Double;
+    case Default::List:
+        return QMetaType::QStringList;
+    case Default::Enumerator:
+        return qMetaTypeId<PropertyEditorUtils::MulticoreMode>();
+    case Default::Reference:
+        return qMetaTypeId<ResourceReferenceSPtr>();
+    case Default::Bytes:
+        return QMetaType::QByteArray;
+    case Default::Object:
+        return QMetaType::QJsonObject;
+    case Default::Member:
+        break;
+    }
+    if (row.reader == 'B')
+        return QMetaType::Bool;
+    return row.reader == 'D' ? QMetaType::Double : QMetaType::Int;
+}
+
+/// Invalid where the text doesn't tell.
+QVariant writtenDefault(const CatalogueRows::Row &row)
+{
+    const QString text = QString::fromUtf8(row.text);
+    switch (row.held) {
+    case Default::Text:
+        return text;
+    case Default::Bool:
+        return text == u"true"_s;
+    case Default::Int:
+        return text.toInt();
+    case Default::Double:
+        return text.toDouble();
+    case Default::List:
+        return text.split(u',');
+    case Default::Enumerator:
+        return QVariant::fromValue(PropertyEditorUtils::MulticoreMode(text.toInt()));
+    case Default::Reference:
+        return QVariant::fromValue(ResourceReferenceSPtr());
+    default:
+        return {};
+    }
+}
+
 } // namespace
 
 class TestPropertiesNames : public OrvTest
@@ -63,6 +121,8 @@ private Q_SLOTS:
     void anEntryIsKnownByItsName_data();
     void anEntryIsKnownByItsName();
     void captionsFollowTheWorkflowInFront();
+    void readersAndDefaultsAreTheseOfEachProperty_data();
+    void readersAndDefaultsAreTheseOfEachProperty();
     void defaultsHaveTheirTypes_data();
     void defaultsHaveTheirTypes();
     void toleranceDefaultsNameTheirUnit_data();
@@ -224,6 +284,24 @@ void TestPropertiesNames::captionsFollowTheWorkflowInFront()
     QVERIFY(PropertiesNames::setWorkflowTypeProvider(nullptr));
     QCOMPARE(PropertiesNames::displayNameForType(relevant),
              PropertiesCsvReader::instance().displayName(relevant));
+}
+
+void TestPropertiesNames::readersAndDefaultsAreTheseOfEachProperty_data()
+{
+    addAllProperties();
+}
+
+void TestPropertiesNames::readersAndDefaultsAreTheseOfEachProperty()
+{
+    QFETCH(int, number);
+    static_assert(CatalogueRows::kRows.size() == kPropertyCount);
+    const CatalogueRows::Row &row = CatalogueRows::kRows.at(size_t(number));
+    QCOMPARE(row.number, number);
+    QCOMPARE(PropertiesNames::readerCode(PropertyId(number)), QChar::fromLatin1(row.reader));
+    const QVariant value = PropertiesNames::defaultValueForType(PropertyId(number));
+    QCOMPARE(value.typeId(), heldType(row));
+    if (const QVariant expected = writtenDefault(row); expected.isValid())
+        QCOMPARE(value, expected);
 }
 
 void TestPropertiesNames::defaultsHaveTheirTypes_data()
