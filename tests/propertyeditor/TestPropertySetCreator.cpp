@@ -1,3 +1,4 @@
+#include "ContextTranslator.h"
 #include "Documents.h"
 #include "LogCapture.h"
 #include "OrvTest.h"
@@ -87,6 +88,7 @@ private Q_SLOTS:
     void withoutATypeAnyPropertyMayCome();
     void badEntriesAreDroppedLoggedAndTold();
     void theSameSettingTwiceIsTold();
+    void translatorsFindTheMessages();
     void namesOfOldDocumentsAreHealed();
     void theStampIsMadeAnew();
     void anInvisiblePropertyWithoutPriorityIsItsBareValue();
@@ -370,6 +372,22 @@ void TestPropertySetCreator::theSameSettingTwiceIsTold()
     QCOMPARE(set->property(nameOf(43).toUtf8()).value(), QVariant(u"K"_s));
     QCOMPARE(losses.losses().size(), 1);
     QCOMPARE(losses.losses().at(0).path, u"/properties/1"_s);
+}
+
+void TestPropertySetCreator::translatorsFindTheMessages()
+{
+    const ContextTranslator translator;
+    const LogCapture log;
+    KProperty property;
+    QStringList errors;
+    QVERIFY(!Creator::modifyKProperty(PropertyId(2), Creator::Priority::High, u"much"_s, &property, &errors));
+    QCOMPARE(errors, QStringList(u"PropertySetCreator|Cannot convert the value of "_s + nameOf(2)));
+    const auto broken = Creator::jsonToPropertySet("{", {});
+    QCOMPARE(broken.error().errorMessages(), QStringList(u"PropertySetCreator|Failed to parse json."_s));
+    const auto refused = Creator::jsonToPropertySet(Documents::toBytes(cell({entry(202, QJsonObject())})),
+                                                    BaseItemType::Karvon);
+    QCOMPARE(refused.error().errorMessages(),
+             QStringList(u"PropertySetCreator|Property \"%1\" is not supported."_s.arg(nameOf(202))));
 }
 
 void TestPropertySetCreator::namesOfOldDocumentsAreHealed()

@@ -1,3 +1,4 @@
+#include "ContextTranslator.h"
 #include "LogCapture.h"
 #include "OrvTest.h"
 
@@ -107,6 +108,8 @@ private Q_SLOTS:
     void isotopesNeedARow();
     void digestionFailsWithoutAWord_data();
     void digestionFailsWithoutAWord();
+    void translatorsFindTheMessages_data();
+    void translatorsFindTheMessages();
 };
 
 void TestPropertyVerification::keywordsPassAndFail_data()
@@ -300,7 +303,10 @@ void TestPropertyVerification::rangesKnowOpenAndClosedEnds()
 
 void TestPropertyVerification::rangeMessagesShowTheBoundsAsWritten()
 {
-    const Verdict verdict = verify(ruleOf(u"range"_s, u" [0; 010) "_s), kInt, 10);
+    const LogCapture log;
+    const VerificationFunction rule = ruleOf(u"range"_s, u" [0; 010) "_s);
+    QCOMPARE(log.texts(QtDebugMsg), QStringList(u"QList(\"[0; 010)\", \"[\", \"0\", \"010\", \")\")"_s));
+    const Verdict verdict = verify(rule, kInt, 10);
     QCOMPARE(verdict.errors,
              QStringList(u"The value of \"%1\" must be in range [0; 010)"_s.arg(caption(kInt))));
 }
@@ -494,6 +500,10 @@ void TestPropertyVerification::everyBadGlycanFileIsTold()
     QVERIFY(!desktop.passed);
     QCOMPARE(desktop.errors, QStringList({told(u"C:/a.txt"_s), told(u"D:/b.txt"_s)}));
 
+    // A file that isn't there is told once, wherever it would have to come from.
+    const Verdict missing = verify(ruleOf(u"glycans"_s), kGlycans, value, ContentMode::TalvaneMode);
+    QCOMPARE(missing.errors, desktop.errors);
+
     // What isn't local can't be looked for, but it doesn't come with the application either.
     const QByteArray remote = bytes({{u"glycans"_s, u"[https://example.org/a.txt]"_s}});
     QVERIFY(verify(ruleOf(u"glycans"_s), kGlycans, remote).passed);
@@ -542,6 +552,38 @@ void TestPropertyVerification::digestionFailsWithoutAWord()
     const Verdict verdict = verify(ruleOf(u"digestion_valid"_s), PropertyId(130), text);
     QCOMPARE(verdict.passed, passes);
     QCOMPARE(verdict.errors + verdict.warnings, QStringList());
+}
+
+void TestPropertyVerification::translatorsFindTheMessages_data()
+{
+    QTest::addColumn<QString>("keyword");
+    QTest::addColumn<QString>("parameter");
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char *keyword, const QString &parameter, PropertyId id, const QVariant &value,
+                        const QString &message) {
+        QTest::newRow(keyword) << QString::fromLatin1(keyword) << parameter << int(id) << value << message;
+    };
+    row("range", u"[0;1]"_s, kInt, 2, u"PropertyVerification|The value of \"%1\" must be in range [0;1]"_s);
+    row(">", u"2"_s, kInt, 2, u"PropertyVerification|The value of \"%1\" must be greater than 2"_s);
+    row("empty", {}, kText, u"x"_s, u"PropertyVerification|The value of \"%1\" must be empty"_s);
+    row("local-url", {}, kText, {}, u"PropertyVerificationBuiltin|\"%1\" is not a URL"_s);
+    row("isotope", {}, kIsotope, {},
+        u"PropertyVerificationBuiltin|\"%1\" must specify at least one isotope"_s);
+}
+
+void TestPropertyVerification::translatorsFindTheMessages()
+{
+    QFETCH(QString, keyword);
+    QFETCH(QString, parameter);
+    QFETCH(int, number);
+    QFETCH(QVariant, value);
+    QFETCH(QString, message);
+    const auto id = PropertyId(number);
+    const ContextTranslator translator;
+    const Verdict verdict = verify(ruleOf(keyword, parameter), id, value);
+    QCOMPARE(verdict.errors, QStringList(message.arg(caption(id))));
 }
 
 ORV_REGISTER_TEST(TestPropertyVerification)
