@@ -142,7 +142,7 @@ QJsonObject ofKeyList(PropertyId id, const QList<QPair<QString, QString>> &entri
 }
 
 /// Properties that were switches once take the words of a switch too.
-QJsonObject withSwitch(QJsonObject schema)
+QJsonObject withSwitch(const QJsonObject &schema)
 {
     QJsonArray values = schema.value(kEnum).toArray();
     for (const QJsonValue &value : {QJsonValue(true), QJsonValue(false), QJsonValue(QLatin1String("true")),
@@ -173,7 +173,7 @@ QJsonObject ofCheckedTexts(PropertyId id)
 /// An object, or its text.
 QJsonObject ofObject(PropertyId id)
 {
-    const QJsonObject schema = typed({"object", "string"});
+    QJsonObject schema = typed({"object", "string"});
     const QJsonObject text = typed({"string"});
     switch (PropertySetCreator::editorForProperty(id)) {
     case PropertySetCreator::Editor::ValueUnit:
@@ -222,7 +222,7 @@ QJsonObject explained(QJsonObject schema, PropertyId id)
 /// Cells of tables that hold something else.
 QJsonObject ofPlainContents(PropertyId id)
 {
-    const QJsonObject object = typed({"object"});
+    QJsonObject object = typed({"object"});
     const QJsonObject rows = with(typed({"array"}), kItems, object);
     switch (id) {
     case PropertyId::SamplesTable:

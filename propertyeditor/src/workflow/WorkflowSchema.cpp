@@ -231,7 +231,7 @@ private:
 
     QString define(const QString &prefix, PropertyId id, QJsonObject (*valueSchema)(PropertyId))
     {
-        const QString name = prefix + PropertiesNames::internalNameForType(id);
+        QString name = prefix + PropertiesNames::internalNameForType(id);
         if (!m_definitions.contains(name))
             m_definitions.insert(name,
                                  QJsonObject{{PROPERTIES_KEY, QJsonObject{{VALUE_KEY, valueSchema(id)}}}});
