@@ -82,9 +82,8 @@ void insertInKPropertySet(const QString &group, KProperty *property, KPropertySe
         return;
     }
     std::vector<Moved> behind = takeBehind(propertyBefore(names, position, *set), set);
-    addWithCaption(name, group, property, set);
     // The group has its caption, even if all of it is out of the set for the moment.
-    set->addProperty(property, groupName(group));
+    set->addProperty(property, name);
     for (Moved &moved : behind)
         set->addProperty(moved.property.release(), moved.group);
 }

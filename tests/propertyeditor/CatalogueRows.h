@@ -2,8 +2,8 @@
 
 #include <array>
 
-/// What the catalogue decides itself of each property, written down a second time: a reader or default that is
-/// changed by mistake changes what documents mean.
+/// What the catalogue decides itself of each property, written down a second time: a reader or default that
+/// is changed by mistake changes what documents mean.
 namespace CatalogueRows {
 
 /// How the default is held. What the last four hold is checked elsewhere.

@@ -66,7 +66,8 @@ inline QJsonObject document(const QJsonArray &tabs, const QJsonObject &metadata 
     return {{QStringLiteral("tabs"), tabs}, {QStringLiteral("metadata"), QString::fromUtf8(text)}};
 }
 
-/// The JSON of a column, tab or document without the stamps of its cells, which every load of settings renews.
+/// The JSON of a column, tab or document without the stamps of its cells, which every load of settings
+/// renews.
 inline QJsonValue withoutStamps(const QJsonValue &json)
 {
     if (json.isArray()) {

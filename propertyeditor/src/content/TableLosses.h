@@ -15,7 +15,7 @@ struct TableContent
     PropertyId table;
     QList<PropertyId> furtherTables;
     QList<PropertyId> objects;
-    QStringList valueArrays; ///< members of the table's value beside those of a node, arrays
+    QStringList valueArrays;        ///< members of the table's value beside those of a node, arrays
     QList<PropertyId> anyForm = {}; ///< entries whose reader takes or refuses their values itself
 };
 
