@@ -1,8 +1,18 @@
 #include "LifelikeDocument.h"
 
+#include <KProperty>
+#include <KPropertySet>
+#include <orv/propertyeditor/AllowedProperties.h>
+#include <orv/propertyeditor/KPropertySetUtils.h>
+#include <orv/propertyeditor/PropertySetCreator.h>
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <algorithm>
+
+using namespace orv;
 
 namespace Lifelike {
 
@@ -24,30 +34,27 @@ QJsonObject cell(const QString &type, const QString &name, const QJsonArray &pro
             {QStringLiteral("properties"), properties}};
 }
 
-QJsonObject propertyCell(int number)
+/// The entries of a search with their defaults, in groups as an application writes them.
+const QJsonArray &settings()
 {
-    QJsonArray properties;
-    for (int i = 0; i < kSettings; ++i) {
-        QJsonValue value;
-        switch (i % 4) {
-        case 0:
-            value = QString::number(0.25 * i, 'g', 6);
-            break;
-        case 1:
-            value = i;
-            break;
-        case 2:
-            value = QStringLiteral("true");
-            break;
-        default:
-            value = QStringLiteral("Carbamidomethyl / +57.021464 @ C | fixed");
+    static const QJsonArray entries = [] {
+        QList<PropertyId> ids = allowedProperties(BaseItemType::Karvon).values();
+        std::sort(ids.begin(), ids.end());
+        if (ids.size() < kSettings)
+            qFatal("A search has fewer settings than the benchmark's cells");
+        KPropertySet set;
+        for (PropertyId id : ids.first(kSettings)) {
+            const auto priority =
+                id % 2 ? PropertySetCreator::Priority::High : PropertySetCreator::Priority::Low;
+            KPropertySetUtils::insertInKPropertySet(QStringLiteral("Instrument Parameters"),
+                                                    PropertySetCreator::createDefaultProperty(id, priority),
+                                                    &set, -1);
         }
-        properties.append(QJsonObject{{QStringLiteral("name"), QStringLiteral("SettingNumber%1").arg(i)},
-                                      {QStringLiteral("value"), value},
-                                      {QStringLiteral("priority"), i % 2},
-                                      {QStringLiteral("group"), QStringLiteral("Instrument Parameters")}});
-    }
-    return cell(QStringLiteral("Senthia"), QStringLiteral("Step %1").arg(number), properties);
+        const auto cell =
+            PropertySetCreator::propertySetToObject(set, PropertyEditor::PropertyConversionFlag::KeepPaths);
+        return cell->value(QStringLiteral("properties")).toArray();
+    }();
+    return entries;
 }
 
 QJsonObject samplesCell(int samples)
@@ -70,7 +77,17 @@ QJsonObject samplesCell(int samples)
         {QJsonObject{{QStringLiteral("name"), QStringLiteral("Samples")}, {QStringLiteral("value"), value}}});
 }
 
+QJsonObject settingsCellObject(int number)
+{
+    return cell(QStringLiteral("Karvon"), QStringLiteral("Step %1").arg(number), settings());
+}
+
 } // namespace
+
+QByteArray settingsCell()
+{
+    return QJsonDocument(settingsCellObject(0)).toJson();
+}
 
 QByteArray document(int samples, int steps)
 {
@@ -78,7 +95,7 @@ QByteArray document(int samples, int steps)
     QJsonArray cells;
     for (int i = 0; i < steps; ++i) {
         columns.append(QStringLiteral("Step %1").arg(i));
-        cells.append(propertyCell(i));
+        cells.append(settingsCellObject(i));
     }
     const QJsonArray tabs{QJsonObject{{QStringLiteral("name"), QStringLiteral("Samples")},
                                       {QStringLiteral("columns"), QJsonArray{QStringLiteral("Sample Input")}},

@@ -8,4 +8,7 @@ namespace Lifelike {
 /// settings each, as an application writes it.
 [[nodiscard]] QByteArray document(int samples, int steps);
 
+/// The JSON text of one such property cell.
+[[nodiscard]] QByteArray settingsCell();
+
 } // namespace Lifelike

@@ -5,12 +5,14 @@
 
 #include <orv/propertyeditor/AllowedProperties.h>
 #include <orv/propertyeditor/PropertiesCsvReader.h>
+#include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/PropertyLists.h>
 #include <orv/propertyeditor/PropertySetCreator.h>
 #include <orv/propertyeditor/UserVisibleListConverter.h>
 
 #include <QFile>
 #include <QJsonDocument>
+#include <QLoggingCategory>
 
 #include <functional>
 
@@ -85,12 +87,15 @@ void addLookUps()
         namesById.insert(PropertyId(number), names.last());
     }
     addForEachId("307 names to numbers/baseline", [=](PropertyId id) { keep(idsByName.value(names[id])); });
-    addForEachId("307 names to numbers/findPropertyForName", [=](PropertyId id) {
-        keep(PropertiesCsvReader::instance().findPropertyForName(names[id]));
-    });
+    addForEachId("307 names to numbers/findPropertyForName",
+                 [=](PropertyId id) { keep(PropertiesNames::findPropertyForName(names[id])); });
     addForEachId("307 numbers to facts/baseline", [=](PropertyId id) { keep(namesById.value(id)); });
     addForEachId("307 numbers to facts/internalNameV2",
                  [](PropertyId id) { keep(PropertiesCsvReader::instance().internalNameV2(id)); });
+    addForEachId("307 numbers to facts/internalNameForType",
+                 [](PropertyId id) { keep(PropertiesNames::internalNameForType(id)); });
+    addForEachId("307 numbers to facts/displayNameForType",
+                 [](PropertyId id) { keep(PropertiesNames::displayNameForType(id)); });
     addForEachId("307 numbers to facts/editorForProperty",
                  [](PropertyId id) { keep(PropertySetCreator::editorForProperty(id)); });
     addForEachId("307 numbers to facts/isStringSerializableList",
@@ -103,6 +108,7 @@ void addLookUps()
 
 int main(int argc, char *argv[])
 {
+    QLoggingCategory::setFilterRules(u"orv.*.debug=false"_s);
     addFirstUse();
     addLookUps();
     return runRatioBenchmarks(argc, argv);
