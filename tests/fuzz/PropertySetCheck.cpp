@@ -40,12 +40,12 @@ QJsonObject substanceOf(const QByteArray &json)
         if (isStamp(key))
             cell.remove(key);
     }
-    QJsonArray entries = cell.value(PROPERTIES_KEY).toArray();
-    for (qsizetype i = 0; i < entries.size(); ++i) {
-        QJsonObject entry = entries.at(i).toObject();
+    QJsonArray entries;
+    for (const auto element : cell.value(PROPERTIES_KEY).toArray()) {
+        QJsonObject entry = element.toObject();
         if (!entry.contains("priority"_L1))
             entry.insert("priority"_L1, int(PropertySetCreator::Priority::High));
-        entries[i] = entry;
+        entries.append(entry);
     }
     cell.insert(PROPERTIES_KEY, entries);
     return cell;
@@ -112,7 +112,7 @@ QString checkWith(const QByteArray &bytes, const std::optional<BaseItemType> &ty
     const qsizetype parts = set->count() + collector.losses().size();
     if (parts != countParts(cell) && parts != countParts(cell) + 1) // the stamp
         return u"something was dropped without a word"_s;
-    if (const QString wrong = checkSurface(*set); !wrong.isEmpty())
+    if (QString wrong = checkSurface(*set); !wrong.isEmpty())
         return wrong;
     QByteArray written;
     if (!PropertySetCreator::propertySetToJson(*set, &written, kKeepPaths))
@@ -165,7 +165,7 @@ QString checkPropertySet(const QByteArray &bytes)
     for (const std::optional<BaseItemType> &type :
          {std::optional<BaseItemType>(), std::optional(baseItemTypeFromString(stored)),
           std::optional(BaseItemType::Karvon)}) {
-        const QString wrong = checkWith(bytes, type);
+        QString wrong = checkWith(bytes, type);
         if (!wrong.isEmpty())
             return wrong;
     }

@@ -103,7 +103,7 @@ QString checkRange(const QString &parameter, const QByteArray &bytes)
                                 PropertyId::StudyName, PropertyId::NoProperty}) {
         for (const QVariant &value : valuesOf(bytes)) {
             const Outcome outcome = apply(rule, id, value, ContentMode::DesktopMode);
-            const QString wrong = checkOutcome(outcome, apply(rule, id, value, ContentMode::TalvaneMode));
+            QString wrong = checkOutcome(outcome, apply(rule, id, value, ContentMode::TalvaneMode));
             if (!wrong.isEmpty())
                 return wrong;
         }
