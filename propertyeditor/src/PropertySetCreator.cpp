@@ -1,3 +1,4 @@
+#include "PropertyLosses.h"
 #include "PropertyValueForms.h"
 
 #include <KProperty>
@@ -162,6 +163,7 @@ private:
         } else if (m_set->contains(property->name())) {
             drop(index, name, tr("a setting of this name stands before it"), context);
         } else {
+            reportEntryLosses(context.element(index), entry, *property);
             KPropertySetUtils::insertInKPropertySet(entry.value(GROUP_KEY).toString(), property.release(),
                                                     m_set, -1);
         }
@@ -208,6 +210,12 @@ QJsonValue entryOf(const KProperty &property, const KPropertySet &set, PropertyC
     return entry;
 }
 
+Error emptyCell(const QByteArray &json)
+{
+    qCWarning(propertyEditorLog) << "Entire JSON:" << json;
+    return {ErrorCode::MalformedStructure, PropertySetCreator::tr("Invalid JSON object.")};
+}
+
 } // namespace
 
 Result<KPropertySet *> PropertySetCreator::jsonToPropertySet(const QByteArray &json,
@@ -222,6 +230,8 @@ Result<KPropertySet *> PropertySetCreator::jsonToPropertySet(const QByteArray &j
         qCWarning(propertyEditorLog) << "Entire JSON:" << json;
         return Error(ErrorCode::MalformedStructure, tr("Failed to parse json."));
     }
+    if (document.object().isEmpty())
+        return emptyCell(json);
     return objectToPropertySet(document.object(), type, context);
 }
 
@@ -229,10 +239,8 @@ Result<KPropertySet *> PropertySetCreator::objectToPropertySet(const QJsonObject
                                                                const std::optional<BaseItemType> &type,
                                                                const LoadContext &context)
 {
-    if (cell.isEmpty()) {
-        qCWarning(propertyEditorLog) << "Entire JSON:" << QJsonDocument(cell).toJson(QJsonDocument::Compact);
-        return Error(ErrorCode::MalformedStructure, tr("Invalid JSON object."));
-    }
+    if (cell.isEmpty())
+        return emptyCell(QJsonDocument(cell).toJson(QJsonDocument::Compact));
     auto set = std::make_unique<KPropertySet>();
     if (Error error = SetFiller(type, context, set.get()).fill(cell); error.hasError())
         return error;

@@ -88,6 +88,9 @@ private Q_SLOTS:
     void withoutATypeAnyPropertyMayCome();
     void badEntriesAreDroppedLoggedAndTold();
     void theSameSettingTwiceIsTold();
+    void valuesThatReadAsNothingAreTold_data();
+    void valuesThatReadAsNothingAreTold();
+    void membersThatNoEntryHasAreTold();
     void translatorsFindTheMessages();
     void namesOfOldDocumentsAreHealed();
     void theStampIsMadeAnew();
@@ -226,7 +229,7 @@ void TestPropertySetCreator::anEmptyObjectIsRefused()
         QCOMPARE(int(result.error().code()), 1);
         QCOMPARE(result.error().errorMessages(), QStringList(u"Invalid JSON object."_s));
         QCOMPARE(log.warnings().size(), 1);
-        QVERIFY(log.warnings().constFirst().startsWith(u"Entire JSON:"_s));
+        QCOMPARE(log.warnings().constFirst(), u"Entire JSON: \"%1\""_s.arg(QString::fromLatin1(json)));
     }
 }
 
@@ -372,6 +375,62 @@ void TestPropertySetCreator::theSameSettingTwiceIsTold()
     QCOMPARE(set->property(nameOf(43).toUtf8()).value(), QVariant(u"K"_s));
     QCOMPARE(losses.losses().size(), 1);
     QCOMPARE(losses.losses().at(0).path, u"/properties/1"_s);
+}
+
+void TestPropertySetCreator::valuesThatReadAsNothingAreTold_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QJsonValue>("value");
+    QTest::addColumn<bool>("told");
+    const auto row = [](int number, const char *label, const QJsonValue &value, bool told) {
+        QTest::addRow("%d %s", number, label) << number << value << told;
+    };
+    row(1, "bool", true, false);
+    row(1, "text for a bool", u"true"_s, false);
+    row(1, "list for a bool", QJsonArray{true}, true);
+    row(7, "int", 5, false);
+    row(7, "null", QJsonValue(), false);
+    row(7, "text for an int", u"5"_s, true);
+    row(43, "text", u"RK"_s, false);
+    row(43, "number for a text", 5, true);
+    row(202, "object", QJsonObject(), false);
+    row(202, "text of an object", u"{}"_s, false);
+    row(202, "other text for an object", u"C 12"_s, true);
+    row(202, "list for an object", QJsonArray{1}, true);
+    row(60, "path", u"a.xml"_s, false);
+    row(60, "no reference", u"gopher://x/y"_s, true);
+    row(60, "number for a reference", 5, true);
+    row(70, "texts", QJsonArray{u"S"_s}, false);
+    row(70, "text for a list of texts", u"S"_s, true);
+}
+
+void TestPropertySetCreator::valuesThatReadAsNothingAreTold()
+{
+    QFETCH(int, number);
+    QFETCH(QJsonValue, value);
+    QFETCH(bool, told);
+    LossCollector losses;
+    const LogCapture log;
+    const OwnedSet set = load(cell({entry(number, value)}), {}, PropertyEditor::LoadContext(&losses));
+    QVERIFY(set && set->contains(nameOf(number).toUtf8()));
+    QCOMPARE(losses.losses().size(), told ? 1 : 0);
+    if (told) {
+        QCOMPARE(losses.losses().at(0).path, u"/properties/0/value"_s);
+        QCOMPARE(losses.losses().at(0).what, u"value of the property \"%1\""_s.arg(nameOf(number)));
+    }
+}
+
+void TestPropertySetCreator::membersThatNoEntryHasAreTold()
+{
+    LossCollector losses;
+    QJsonObject odd = entry(43, u"RK"_s);
+    odd.insert(u"priority"_s, 2);
+    odd.insert(u"group"_s, u"Digestion"_s);
+    odd.insert(u"comment"_s, u"ours"_s);
+    const OwnedSet set = load(cell({odd}), {}, PropertyEditor::LoadContext(&losses));
+    QVERIFY(set);
+    QCOMPARE(losses.losses().size(), 1);
+    QCOMPARE(losses.losses().at(0).path, u"/properties/0/comment"_s);
 }
 
 void TestPropertySetCreator::translatorsFindTheMessages()
