@@ -62,8 +62,10 @@ Read toReference(const QString &text)
 
 Read toObject(const QString &text)
 {
-    const auto object = JsonUtils::objectFromJson(text.toUtf8());
-    return object ? Read(QJsonDocument(*object).toJson(QJsonDocument::Indented)) : std::nullopt;
+    const QByteArray json = text.toUtf8();
+    const auto object = JsonUtils::objectFromJson(json);
+    return object && !nestsTooDeeply(json) ? Read(QJsonDocument(*object).toJson(QJsonDocument::Indented))
+                                           : std::nullopt;
 }
 
 Read toCheckedTexts(PropertyId id, const QString &text)

@@ -57,4 +57,24 @@ QString listText(PropertyId id, const QVariant &value, bool *ok)
     return {};
 }
 
+bool nestsTooDeeply(const QByteArray &json)
+{
+    // Half of what a reader of JSON takes.
+    constexpr int kMaximum = 512;
+    int depth = 0;
+    bool isText = false;
+    for (qsizetype i = 0; i < json.size() && depth <= kMaximum; ++i) {
+        const char c = json.at(i);
+        if (c == '"')
+            isText = !isText;
+        else if (isText)
+            i += c == '\\' ? 1 : 0;
+        else if (c == '{' || c == '[')
+            ++depth;
+        else if (c == '}' || c == ']')
+            --depth;
+    }
+    return depth > kMaximum;
+}
+
 } // namespace orv

@@ -32,4 +32,8 @@ void fillListData(PropertyId id, KProperty *property);
 /// What a property with a list holds for \a value, which may be a text, a position or a number.
 [[nodiscard]] QString listText(PropertyId id, const QVariant &value, bool *ok);
 
+/// Whether an object with that JSON text leaves too few levels for the document that holds it: what is saved
+/// has to be readable again.
+[[nodiscard]] bool nestsTooDeeply(const QByteArray &json);
+
 } // namespace orv

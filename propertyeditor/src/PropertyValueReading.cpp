@@ -231,10 +231,14 @@ ReadValue readAny(const QJsonValue &value)
     return value.toVariant();
 }
 
-QJsonObject payloadOf(const QJsonValue &value)
+std::optional<QJsonObject> payloadOf(const QJsonValue &value)
 {
+    if (!value.isString())
+        return value.toObject();
     // Some documents hold the object as its text.
-    return value.isString() ? QJsonDocument::fromJson(value.toString().toUtf8()).object() : value.toObject();
+    const QByteArray text = value.toString().toUtf8();
+    const QJsonObject object = QJsonDocument::fromJson(text).object();
+    return object.isEmpty() || !nestsTooDeeply(text) ? std::optional(object) : std::nullopt;
 }
 
 bool nestsDeeperThan(int levels, const QJsonValue &value)
@@ -255,6 +259,10 @@ ReadValue readObject(PropertyId id, const QJsonValue &value, KProperty *property
     // what is written.
     if (value.isString() && nestsDeeperThan(rn::kMaxNesting, object))
         return {};
+    const std::optional<QJsonObject> payload = payloadOf(value);
+    if (!payload)
+        return {};
+    const QJsonObject &object = *payload;
     const PropertySetCreator::Editor editor = PropertySetCreator::editorForProperty(id);
     if (editor == PropertySetCreator::Editor::Unset) {
         if (object.isEmpty())

@@ -108,6 +108,7 @@ void TestPropertyText::otherTextsAreRefused_data()
     row(70, u"S, X"_s);
     row(67, u"[1]"_s);
     row(67, u"{"_s);
+    row(67, u"{\"a\":"_s.repeated(600) + u'1' + u"}"_s.repeated(600)); // no document could hold it
     row(60, u"gopher://x"_s);
 }
 

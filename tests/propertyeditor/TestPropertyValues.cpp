@@ -75,6 +75,8 @@ private Q_SLOTS:
     void anObjectsTextThatNestsTooDeepFails();
     void objectsWithAnEditorHoldTheirPayload_data();
     void objectsWithAnEditorHoldTheirPayload();
+    void anObjectThatNoDocumentCouldHoldFails_data();
+    void anObjectThatNoDocumentCouldHoldFails();
     void objectsWithoutAnEditorAreKept_data();
     void objectsWithoutAnEditorAreKept();
     void referencesComeBack();
@@ -449,6 +451,30 @@ void TestPropertyValues::objectsWithAnEditorHoldTheirPayload()
     QCOMPARE(property->option("readOnlyInternalEditor"), QVariant(!isValueUnit));
     QCOMPARE(property->option("editor").value<Creator::Editor>(),
              Creator::editorForProperty(PropertyId(number)));
+}
+
+void TestPropertyValues::anObjectThatNoDocumentCouldHoldFails_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<int>("levels");
+    QTest::addColumn<bool>("isRead");
+    for (const int number : {67, 171}) {
+        QTest::addRow("%d fits", number) << number << 512 << true;
+        QTest::addRow("%d too deep", number) << number << 513 << false;
+        QTest::addRow("%d as deep as a document", number) << number << 1020 << false;
+    }
+}
+
+/// A text may nest as deeply as a document, which then couldn't be read with that object in it.
+void TestPropertyValues::anObjectThatNoDocumentCouldHoldFails()
+{
+    QFETCH(int, number);
+    QFETCH(int, levels);
+    QFETCH(bool, isRead);
+    const QString brackets = u"\"\\\"[[[[\""_s;
+    const QString text = u"{\"a\":"_s.repeated(levels) + brackets + u"}"_s.repeated(levels);
+    QVERIFY(QJsonDocument::fromJson(text.toUtf8()).isObject());
+    QCOMPARE(bool(stored(number, text)), isRead);
 }
 
 void TestPropertyValues::objectsWithoutAnEditorAreKept_data()
