@@ -331,8 +331,10 @@ bool PropertySetCreator::modifyKProperty(PropertyId id, Priority priority, const
 bool PropertySetCreator::modifyKProperty(PropertyId id, Priority priority, KProperty *property,
                                          QList<QString> *errors)
 {
-    const bool isPlain = editorForProperty(id) == Editor::Unset;
-    const QJsonValue value = isPlain ? QJsonValue() : QJsonValue(QJsonObject{{DATA, QString()}});
+    if (editorForProperty(id) != Editor::Unset)
+        return modifyKProperty(id, priority, QJsonObject{{DATA, QString()}}, property, errors);
+    // In a file, null is no entry of a list; here nobody chose one, and the first stands.
+    const QJsonValue value = listPropertiesData().contains(id) ? QJsonValue(0) : QJsonValue();
     return modifyKProperty(id, priority, value, property, errors);
 }
 

@@ -205,6 +205,18 @@ void TestPropertySetCreator::modifyingWithoutAValueUsesNothing()
     const QJsonObject nothing{{u"data"_s, u""_s}};
     QCOMPARE(QJsonDocument::fromJson(withEditor.value().toByteArray()).object(), nothing);
     QCOMPARE(errors, QStringList());
+    KProperty withList;
+    QVERIFY(Creator::modifyKProperty(PropertyId(182), Creator::Priority::Low, &withList, &errors));
+    QCOMPARE(withList.value(), QVariant(Creator::listPropertiesData().value(PropertyId(182)).constFirst()));
+    QCOMPARE(withList.option("extraValueAllowed"),
+             QVariant(PropertiesTraits::isEditableList(PropertyId(182))));
+    QCOMPARE(errors, QStringList());
+    // Hosts make any property another one of the same type this way, and hand it the former value.
+    for (int number = 0; number < kPropertyCount; ++number) {
+        KProperty any;
+        Creator::modifyKProperty(PropertyId(number), Creator::Priority::High, &any, &errors);
+    }
+    QCOMPARE(errors, QStringList());
 }
 
 void TestPropertySetCreator::brokenTextIsRefused()

@@ -95,7 +95,7 @@ public:
     /// \a errors.
     static bool modifyKProperty(PropertyId id, Priority priority, const QJsonValue &value,
                                 KProperty *property, QList<QString> *errors);
-    /// The same with nothing stored.
+    /// The same with nothing stored: no value, zero, or the first entry of a list.
     static bool modifyKProperty(PropertyId id, Priority priority, KProperty *property,
                                 QList<QString> *errors);
 
