@@ -7,6 +7,7 @@
 #include <orv/propertyeditor/UserVisibleListConverter.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+#include <orv/table/rn.h>
 
 namespace orv {
 
@@ -59,8 +60,7 @@ QString listText(PropertyId id, const QVariant &value, bool *ok)
 
 bool nestsTooDeeply(const QByteArray &json)
 {
-    // Half of what a reader of JSON takes.
-    constexpr int kMaximum = 512;
+    constexpr int kMaximum = rn::kMaxNesting;
     int depth = 0;
     bool isText = false;
     for (qsizetype i = 0; i < json.size() && depth <= kMaximum; ++i) {

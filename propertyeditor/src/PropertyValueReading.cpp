@@ -8,7 +8,6 @@
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/resources/ResourceReferenceUtils.h>
-#include <orv/table/rn.h>
 
 #include <QColor>
 #include <QCursor>
@@ -241,24 +240,8 @@ std::optional<QJsonObject> payloadOf(const QJsonValue &value)
     return object.isEmpty() || !nestsTooDeeply(text) ? std::optional(object) : std::nullopt;
 }
 
-bool nestsDeeperThan(int levels, const QJsonValue &value)
-{
-    const auto isDeeper = [levels](const QJsonValue &inner) { return nestsDeeperThan(levels - 1, inner); };
-    if (value.isArray()) {
-        const QJsonArray array = value.toArray();
-        return levels == 0 || std::ranges::any_of(array, isDeeper);
-    }
-    const QJsonObject object = value.toObject();
-    return value.isObject() && (levels == 0 || std::ranges::any_of(object, isDeeper));
-}
-
 ReadValue readObject(PropertyId id, const QJsonValue &value, KProperty *property)
 {
-    const QJsonObject object = payloadOf(value);
-    // An object within a text has levels of its own; together with those of its document no parser would read
-    // what is written.
-    if (value.isString() && nestsDeeperThan(rn::kMaxNesting, object))
-        return {};
     const std::optional<QJsonObject> payload = payloadOf(value);
     if (!payload)
         return {};

@@ -109,7 +109,12 @@ QString checkWith(const QByteArray &bytes, const std::optional<BaseItemType> &ty
         return isRefusal(loaded.error()) ? QString() : u"a refusal needs its code and a message"_s;
     const Set set(*loaded);
     const QJsonObject cell = QJsonDocument::fromJson(bytes).object();
-    const qsizetype parts = set->count() + collector.losses().size();
+    // Parts of an entry that is kept are told too.
+    const QList<Loss> losses = collector.losses();
+    const auto dropped = std::ranges::count_if(losses, [](const Loss &loss) {
+        return loss.path.count(u'/') <= (loss.path.startsWith(u"/properties/"_s) ? 2 : 1);
+    });
+    const qsizetype parts = set->count() + dropped;
     if (parts != countParts(cell) && parts != countParts(cell) + 1) // the stamp
         return u"something was dropped without a word"_s;
     if (QString wrong = checkSurface(*set); !wrong.isEmpty())
