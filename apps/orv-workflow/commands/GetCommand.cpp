@@ -93,9 +93,7 @@ private:
     int fail(const Failure &failure, const GlobalOptions &options) const
     {
         printFailure(m_cell.file(), failure);
-        const int printed = options.json
-                                ? printJson(QJsonObject{{QStringLiteral("error"), orv::cli::toJson(failure)}})
-                                : Done;
+        const int printed = options.json ? printJson(document({}, {}, failure)) : Done;
         return std::max<int>(failure.exitCode, printed);
     }
 

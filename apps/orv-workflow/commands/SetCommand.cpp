@@ -55,7 +55,7 @@ private:
         if (const auto *failure = std::get_if<Failure>(&found))
             return *failure;
         const auto &cell = std::get<FoundCell>(found);
-        if (const std::optional<Failure> refusal = refuseNewer(cell.document))
+        if (std::optional<Failure> refusal = refuseNewer(cell.document))
             return refusal;
         const auto settings = settingsOf(cell);
         if (const auto *failure = std::get_if<Failure>(&settings))
@@ -64,7 +64,7 @@ private:
         for (const Loss &loss : lost)
             printRemark(m_cell.file(),
                         QStringLiteral("lost: %1: %2: %3").arg(loss.path, loss.what, loss.why));
-        if (const std::optional<Failure> failure = assignAll(cell.document, item.get()))
+        if (std::optional<Failure> failure = assignAll(cell.document, item.get()))
             return failure;
         return write(cell.place.replacedIn(cell.document, item->toJson(PropertyConversionFlag::KeepPaths)));
     }
@@ -90,7 +90,7 @@ private:
             if (end <= 0)
                 return Failure{WrongUsage, 0,
                                QStringLiteral("\"%1\" is not of the form NAME=VALUE.").arg(argument)};
-            if (const auto failure = assign({argument.left(end), argument.mid(end + 1)}, mode, item))
+            if (auto failure = assign({argument.left(end), argument.mid(end + 1)}, mode, item))
                 return failure;
         }
         return {};
