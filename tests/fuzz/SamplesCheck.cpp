@@ -83,7 +83,7 @@ QString checkReference(const QByteArray &bytes)
     if (!ResourceReferenceUtils::compare(*again, *read) || !((*again)->parts() == reference.parts()))
         return u"its text names something else"_s;
     const ResourceReferenceSPtr resolved =
-        ResourceReferenceUtils::resolved(*read, QUrl::fromLocalFile(u"/work/"_s));
+        ResourceReferenceUtils::resolved(*read, QUrl::fromLocalFile(u"/lab/"_s));
     if (!resolved || resolved->scheme() != reference.scheme())
         return u"resolving changes the scheme"_s;
     const bool hasName = !reference.isScheme(ResourceReference::Scheme::LocalFile);

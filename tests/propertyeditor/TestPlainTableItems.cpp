@@ -108,7 +108,7 @@ void TestPlainTableItems::aDefaultCellIsReadAndWritten()
     const QJsonObject json = PropertyEditorJsonUtils::defaultJsonContents(item->type());
     ORV_VERIFY_OK(item->assignFromJson(json, {}));
     QVERIFY(item->columnCount() > 0);
-    item->setBaseUrl(QUrl(u"file:///work/"_s));
+    item->setBaseUrl(QUrl(u"file:///lab/"_s));
     QCOMPARE(item->toJson(PropertyConversionFlag::KeepPaths), json);
     QCOMPARE(item->toJson(PropertyConversionFlag::AbsolutePaths), json);
 }
@@ -126,7 +126,7 @@ void TestPlainTableItems::glycanOptionsStayAsTheyAreWithoutAGlycanText()
         cell(u"GlycanOptions"_s, {entry(u"GlycanOptions"_s, node({u"Library"_s}, {{u"[glycans.txt]"_s}}))});
     GlycanOptionsItem item;
     ORV_VERIFY_OK(item.assignFromJson(json, {}));
-    item.setBaseUrl(QUrl(u"file:///work/"_s));
+    item.setBaseUrl(QUrl(u"file:///lab/"_s));
     QCOMPARE(item.toJson(PropertyConversionFlag::AbsolutePaths), json);
 }
 

@@ -279,13 +279,13 @@ void TestLocalReferences::relativePathsAreTakenFromTheBase_data()
     const auto row = [](const char *label, const QString &text, const QUrl &base, const QString &resolved) {
         QTest::newRow(label) << text << base << resolved;
     };
-    const QUrl folder = QUrl::fromLocalFile(u"/work/my flows/"_s);
-    row("name", u"a.raw"_s, folder, u"/work/my flows/a.raw"_s);
-    row("above", u"../data/a.raw"_s, folder, u"/work/data/a.raw"_s);
-    row("marks in a name", u"a#b?c%20d e.raw"_s, folder, u"/work/my flows/a#b?c%20d e.raw"_s);
-    row("backslashes", u"..\\data\\a b.raw"_s, folder, u"/work/data/a b.raw"_s);
-    row("the base is the document", u"a.raw"_s, QUrl::fromLocalFile(u"/work/flow.wflw"_s), u"/work/a.raw"_s);
-    row("marks in the base", u"a.raw"_s, QUrl::fromLocalFile(u"/work/#1?%20/"_s), u"/work/#1?%20/a.raw"_s);
+    const QUrl folder = QUrl::fromLocalFile(u"/lab/my flows/"_s);
+    row("name", u"a.raw"_s, folder, u"/lab/my flows/a.raw"_s);
+    row("above", u"../data/a.raw"_s, folder, u"/lab/data/a.raw"_s);
+    row("marks in a name", u"a#b?c%20d e.raw"_s, folder, u"/lab/my flows/a#b?c%20d e.raw"_s);
+    row("backslashes", u"..\\data\\a b.raw"_s, folder, u"/lab/data/a b.raw"_s);
+    row("the base is the document", u"a.raw"_s, QUrl::fromLocalFile(u"/lab/flow.wflw"_s), u"/lab/a.raw"_s);
+    row("marks in the base", u"a.raw"_s, QUrl::fromLocalFile(u"/lab/#1?%20/"_s), u"/lab/#1?%20/a.raw"_s);
     row("absolute", u"/data/./a.raw"_s, folder, u"/data/./a.raw"_s);
     row("drive", u"C:\\a.raw"_s, folder, u"C:\\a.raw"_s);
     row("share", u"\\\\store\\a.raw"_s, folder, u"\\\\store\\a.raw"_s);
