@@ -30,7 +30,6 @@ constexpr QLatin1String kItems("items");
 constexpr QLatin1String kDescription("description");
 
 constexpr QLatin1String kNumberPattern(R"(^[-+]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][-+]?[0-9]+)?$)");
-constexpr QLatin1String kIntegerPattern("^[-+]?[0-9]+$");
 // Regular expressions of JSON Schema have no flag for case.
 constexpr QLatin1String kSwitchPattern(
     "^([Tt][Rr][Uu][Ee]|[Ff][Aa][Ll][Ss][Ee]|[Yy][Ee][Ss]|[Nn][Oo]|[Oo][Kk]|[Nn][Oo][Nn][Ee]|[-+]?[0-9]+)?$");
