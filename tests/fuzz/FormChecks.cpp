@@ -7,6 +7,7 @@
 #include <orv/core/LossObserver.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
+#include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/RawCell.h>
 
 #include <QJsonArray>
@@ -135,7 +136,12 @@ QString checkObjectFormWith(const QJsonObject &document, PropertyEditor::Validat
     PropertyEditor::Content readBack;
     if (const Error error = readBack.assignFromJson(*again, options))
         return u"what was written is refused: "_s + error.errorMessage();
-    if (readBack.toJson(PropertyEditor::PropertyConversionFlag::KeepPaths) != written)
+    const Result<QJsonObject> second =
+        JsonUtils::objectFromJson(readBack.toJson(PropertyEditor::PropertyConversionFlag::KeepPaths));
+    // Each load stamps cells of settings with its time.
+    if (second.hasError() || !PropertyEditorJsonUtils::compareWorkflows(*again, *second, false) ||
+        again->value("metadata"_L1) != second->value("metadata"_L1) ||
+        again->value("extendedMetadata"_L1) != second->value("extendedMetadata"_L1))
         return u"a second write differs from the first"_s;
     if (collector.losses().isEmpty() && !survives(document.value("tabs"_L1), again->value("tabs"_L1)))
         return u"tabs were changed without a word"_s;
