@@ -84,6 +84,12 @@ QList<PropertyId> PropertyEditorUtils::propertiesWithReferences()
     return properties;
 }
 
+QList<PropertyId> PropertyEditorUtils::propertiesWithGlycanDatabases()
+{
+    static const QList<PropertyId> properties = {PropertyId::KarvonGlycanText, PropertyId::InSilicoGlycans};
+    return properties;
+}
+
 void PropertyEditorUtils::updateGlycanDatabaseToAbsolute(const QUrl &baseUrl, QJsonObject *json)
 {
     orv::updateGlycanDatabaseToAbsolute(baseUrl, json);

@@ -173,16 +173,9 @@ QString absolutePath(const QString &path, const QUrl &baseUrl)
     return QDir::cleanPath(QStringLiteral("%1/%2").arg(baseUrl.toLocalFile(), path));
 }
 
-// Upgraded documents may hold the text of a reference.
-ResourceReferenceSPtr referenceOf(const QVariant &value)
-{
-    return value.typeId() == QMetaType::QString ? ResourceReferenceUtils::fromString(value.toString())
-                                                : value.value<ResourceReferenceSPtr>();
-}
-
 QJsonValue writeReference(const KProperty &property, PropertyEditor::PropertyConversionFlag flag)
 {
-    const ResourceReferenceSPtr reference = referenceOf(property.value());
+    const ResourceReferenceSPtr reference = ResourceReferenceUtils::fromVariant(property.value());
     if (!reference)
         return property.value().toString();
     const QUrl baseUrl = property.option(kbaseUrl).toUrl();

@@ -37,6 +37,12 @@ ResourceReferenceSPtr fromString(const QString &text)
     return reference.valueOr({});
 }
 
+ResourceReferenceSPtr fromVariant(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QString ? fromString(value.toString())
+                                                : value.value<ResourceReferenceSPtr>();
+}
+
 QList<ResourceReferenceSPtr> fromStringList(const QStringList &texts)
 {
     QList<ResourceReferenceSPtr> references;

@@ -74,19 +74,12 @@ private:
     QList<ResourceReferenceSPtr> m_references;
 };
 
-/// Upgraded documents may hold the text of a reference.
-ResourceReferenceSPtr referenceIn(const QVariant &value)
-{
-    return value.typeId() == QMetaType::QString ? ResourceReferenceUtils::fromString(value.toString())
-                                                : value.value<ResourceReferenceSPtr>();
-}
-
 void addReferencesOf(const KeyValueItem &item, UniqueReferences *references)
 {
     static constexpr std::array kExpertKeys = {QLatin1String("Library/ProjectPath")};
     for (const PropertyId id : PropertyEditorUtils::propertiesWithReferences()) {
         if (item.contains(id))
-            references->add(referenceIn(item.value(id)));
+            references->add(ResourceReferenceUtils::fromVariant(item.value(id)));
     }
     const auto settings = PropertyEditorUtils::getAdvancedConfigurationFromProject(&item);
     for (const QLatin1String key : kExpertKeys) {

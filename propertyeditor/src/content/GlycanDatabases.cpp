@@ -5,8 +5,6 @@
 
 #include <QJsonDocument>
 
-#include <array>
-
 namespace orv {
 
 using PropertyEditor::BaseItem;
@@ -15,8 +13,7 @@ using PropertyEditor::KeyValueItem;
 
 void PropertyEditorUtils::updateGlycanDatabasesToAbsolute(KeyValueItem *item, const QUrl &baseUrl)
 {
-    static constexpr std::array kProperties = {PropertyId::KarvonGlycanText, PropertyId::InSilicoGlycans};
-    for (const PropertyId id : kProperties) {
+    for (const PropertyId id : propertiesWithGlycanDatabases()) {
         if (!item->contains(id))
             continue;
         QJsonObject object = PropertyEditorJsonUtils::variantToObject(item->value(id));

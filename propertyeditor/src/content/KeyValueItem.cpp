@@ -14,16 +14,11 @@
 
 #include <QJsonDocument>
 
-#include <array>
-
 namespace orv::PropertyEditor {
 
 using namespace PropertyEditorStringConstants;
 
 namespace {
-
-/// The properties that hold a glycan database, in the order in which they are rewritten.
-constexpr std::array kGlycanProperties = {PropertyId::KarvonGlycanText, PropertyId::InSilicoGlycans};
 
 QString nameOf(PropertyId id)
 {
@@ -59,13 +54,14 @@ QJsonObject KeyValueItem::toJson(PropertyConversionFlag flag) const
 
 bool KeyValueItem::hasGlycanDatabase() const
 {
-    return std::ranges::any_of(kGlycanProperties, [this](PropertyId id) { return contains(id); });
+    const QList<PropertyId> properties = PropertyEditorUtils::propertiesWithGlycanDatabases();
+    return std::ranges::any_of(properties, [this](PropertyId id) { return contains(id); });
 }
 
 QJsonObject KeyValueItem::toJsonWithAbsoluteGlycans() const
 {
     const KPropertySet copy(*m_set);
-    for (const PropertyId id : kGlycanProperties) {
+    for (const PropertyId id : PropertyEditorUtils::propertiesWithGlycanDatabases()) {
         KProperty &property = copy.property(nameOf(id).toUtf8());
         if (property.isNull())
             continue;

@@ -60,6 +60,9 @@ public:
     /// The properties whose values are references.
     [[nodiscard]] static QList<PropertyId> propertiesWithReferences();
 
+    /// The properties that hold a glycan database, in the order in which paths are rewritten.
+    [[nodiscard]] static QList<PropertyId> propertiesWithGlycanDatabases();
+
     /// The item's value of \a id, or \a defaultValue where it has none.
     [[nodiscard]] static QVariant getValueFromProject(const PropertyEditor::KeyValueItem *item, PropertyId id,
                                                       const QVariant &defaultValue);

@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 #include <QUrl>
+#include <QVariant>
 
 /// Questions about references that may be null. None touches the disk or a server. Any thread.
 namespace orv::ResourceReferenceUtils {
@@ -21,6 +22,9 @@ namespace orv::ResourceReferenceUtils {
 
 /// Null for an empty text, and for one that is no reference, which is logged as a warning.
 [[nodiscard]] ORV_WORKFLOW_EXPORT ResourceReferenceSPtr fromString(const QString &text);
+/// The reference in a property's value, or the one that a text in its place names: upgraded documents hold
+/// such texts. Null for anything else.
+[[nodiscard]] ORV_WORKFLOW_EXPORT ResourceReferenceSPtr fromVariant(const QVariant &value);
 /// As fromString for each text; null ones are left out.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QList<ResourceReferenceSPtr> fromStringList(const QStringList &texts);
 
