@@ -48,7 +48,10 @@ bool addsNothingElse(const QJsonObject &before, QJsonObject after)
 
 QString checkSamples(const QByteArray &bytes)
 {
-    const QJsonObject object = QJsonDocument::fromJson(bytes).object();
+    // QJsonDocument keeps a byte order mark that begins a text and its QString lacks it, so a copy of such a
+    // value is not equal to the value.
+    QByteArray unmarked = bytes;
+    const QJsonObject object = QJsonDocument::fromJson(unmarked.replace("\xEF\xBB\xBF", "")).object();
     Result<SamplesAndTracesContent> content = SamplesAndTracesContent::fromJson(object);
     if (content.hasError())
         return content.error().errorMessage().isEmpty() ? u"refused without a word"_s : QString();
