@@ -46,6 +46,8 @@ inline constexpr std::array kFloors = {
     Floor{"propertyeditor/include/orv/propertyeditor/workflow/WorkflowType", 31, "catalogue"},
     Floor{"propertyeditor/src/workflow/WorkflowType", 31, "catalogue"},
     Floor{"propertyeditor/include/orv/propertyeditor/content/", 32, "content"},
+    Floor{"propertyeditor/include/orv/propertyeditor/PropertiesGetter", 32, "content"},
+    Floor{"propertyeditor/src/PropertiesGetter", 32, "content"},
     Floor{"propertyeditor/src/content/", 32, "content"},
     Floor{"propertyeditor/include/orv/propertyeditor/validators/", 33, "validators"},
     Floor{"propertyeditor/src/validators/", 33, "validators"},

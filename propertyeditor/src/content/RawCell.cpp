@@ -1,3 +1,4 @@
+#include <orv/core/JsonUtils.h>
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/RawCell.h>
 
@@ -16,6 +17,13 @@ QVariant RawCell::toVariant() const
         QMetaType::registerConverter<RawCell, QByteArray>(&RawCell::toJson);
     Q_UNUSED(converterRegistered)
     return QVariant::fromValue(*this);
+}
+
+Result<QJsonObject> RawCell::parse(const QVariant &cell)
+{
+    if (cell.metaType() == QMetaType::fromType<RawCell>())
+        return cell.value<RawCell>().object();
+    return JsonUtils::objectFromJson(cell.toByteArray());
 }
 
 QJsonObject RawCell::objectOf(const QVariant &cell)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <orv/core/Export.h>
+#include <orv/core/Result.h>
 
 #include <QByteArray>
 #include <QJsonObject>
@@ -25,6 +26,9 @@ public:
 
     /// The cell as an entry of VariantItems.
     [[nodiscard]] QVariant toVariant() const;
+
+    /// The object of an entry: of a RawCell, or parsed from bytes or text. Fails as JsonUtils::objectFromJson.
+    [[nodiscard]] static Result<QJsonObject> parse(const QVariant &cell);
 
     /// The object of an entry: of a RawCell, or parsed from bytes or text. Empty for anything else, with a
     /// warning for bytes that are no JSON.
