@@ -4,6 +4,7 @@
 #include <orv/core/FileUtils.h>
 #include <orv/core/JsonUtils.h>
 #include <orv/core/PathUtils.h>
+#include <orv/propertyeditor/workflow/WflwUtils.h>
 
 #include <QDir>
 #include <QDirIterator>
@@ -19,7 +20,7 @@ namespace {
 
 bool isPortableFolder(const QString &path)
 {
-    return PathUtils::isDirectory(path) && FileTypes::isType(path, MirelFileTypes::WFLWP);
+    return PathUtils::isDirectory(path) && WflwUtils::isMirelPortableWorkflow(path);
 }
 
 Result<QByteArray> readStandardInput()
@@ -58,10 +59,8 @@ QStringList workflowsBelow(const QString &folder)
 
 QString workflowFileOf(const QString &argument)
 {
-    if (!isPortableFolder(argument))
-        return argument;
-    const QString folderName = QFileInfo(QDir(argument).absolutePath()).fileName();
-    return QDir(argument).filePath(folderName.chopped(1));
+    return isPortableFolder(argument) ? WflwUtils::workflowInPortableWorkflow(QDir(argument).absolutePath())
+                                      : argument;
 }
 
 DocumentOrFailure readDocument(const QString &argument)

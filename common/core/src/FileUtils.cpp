@@ -8,6 +8,11 @@
 
 #include <cerrno>
 
+#ifdef Q_OS_LINUX
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#endif
+
 namespace orv::FileUtils {
 
 namespace {
@@ -60,6 +65,41 @@ QByteArray readUpTo(QFile &file, qint64 maxSize)
     return bytes;
 }
 
+/// Whether the file system made \a to a clone of \a from.
+bool shareBlocks(const QFile &from, const QFile &to)
+{
+#if defined(Q_OS_LINUX) && defined(FICLONE)
+    return ioctl(to.handle(), FICLONE, from.handle()) == 0;
+#else
+    Q_UNUSED(from)
+    Q_UNUSED(to)
+    return false;
+#endif
+}
+
+std::optional<CopyFailure> copyBytes(QFile &from, QFile &to, const CopyProgress &progress)
+{
+    using Side = CopyFailure::Side;
+    constexpr qint64 kChunk = qint64(4) * 1024 * 1024;
+    QByteArray chunk(qsizetype(kChunk), Qt::Uninitialized);
+    const qint64 total = from.size();
+    for (qint64 done = 0;;) {
+        const qint64 size = from.read(chunk.data(), kChunk);
+        if (size < 0)
+            return CopyFailure{Side::Source, from.errorString()};
+        if (size == 0)
+            break;
+        if (to.write(chunk.constData(), size) != size)
+            return CopyFailure{Side::Destination, to.errorString()};
+        done += size;
+        if (progress)
+            progress(done, std::max(done, total));
+    }
+    if (!to.flush())
+        return CopyFailure{Side::Destination, to.errorString()};
+    return {};
+}
+
 } // namespace
 
 Result<QByteArray> readFile(const QString &path, qint64 maxSize)
@@ -84,6 +124,34 @@ Result<QByteArray> readFile(const QString &path, qint64 maxSize)
     if (bytes.size() > maxSize)
         return tooLarge(path, bytes.size(), maxSize);
     return bytes;
+}
+
+std::optional<CopyFailure> copyFile(const QString &source, const QString &destination,
+                                    const CopyProgress &progress)
+{
+    using Side = CopyFailure::Side;
+    if (source.isEmpty())
+        return CopyFailure{Side::Source, emptyName()};
+    if (const QFileInfo info(source); info.exists() && !info.isFile())
+        return CopyFailure{Side::Source, notRegular()};
+    QFile from(source);
+    // Unbuffered: the chunks are large.
+    if (!from.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return CopyFailure{Side::Source, from.errorString()};
+    QFile to(destination);
+    if (!to.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+        return CopyFailure{Side::Destination, to.errorString()};
+
+    const std::optional<CopyFailure> failure =
+        shareBlocks(from, to) ? std::nullopt : copyBytes(from, to, progress);
+    if (failure) {
+        to.remove();
+        return failure;
+    }
+    to.setPermissions(from.permissions() | QFileDevice::WriteOwner);
+    if (progress)
+        progress(from.size(), from.size());
+    return {};
 }
 
 QFileDevice::FileError writeToFile(const QString &path, const QByteArray &bytes, QString *errorText)

@@ -115,6 +115,16 @@ Error Content::assignFromFile(const QString &fileName, ValidationOptions options
     return Error::NoError;
 }
 
+Result<Content> Content::detachedCopy() const
+{
+    Result<QJsonObject> json = JsonUtils::objectFromJson(toJson(PropertyConversionFlag::KeepPaths));
+    if (json.hasError())
+        return json.ecatch();
+    Content copy;
+    ORV_RETURN_IF_ERROR(copy.assignFromJson(*json, ValidationOption::SkipTypeValidation));
+    return copy;
+}
+
 Error Content::assignFromJson(const QJsonObject &json, ValidationOptions options)
 {
     if (!json.value(TABS_KEY).isArray()) {

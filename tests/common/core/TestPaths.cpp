@@ -21,6 +21,10 @@ private Q_SLOTS:
     void aTakenNameIsNumbered_data();
     void aTakenNameIsNumbered();
     void numbersThatAreTakenTooAreSkipped();
+    void namesThatASystemTakesForOneAreTaken_data();
+    void namesThatASystemTakesForOneAreTaken();
+    void numberedNamesAreNoLongerThanNamesMayBe_data();
+    void numberedNamesAreNoLongerThanNamesMayBe();
     void theLongPathRulesOfWindowsHoldEverywhere_data();
     void theLongPathRulesOfWindowsHoldEverywhere();
     void windowsPathsAreTold_data();
@@ -165,6 +169,46 @@ void TestPaths::numbersThatAreTakenTooAreSkipped()
     for (const QString &name : {u"a.txt"_s, u"a (2).txt"_s, u"a (3).txt"_s})
         QVERIFY(QDir(dir.path()).mkdir(name));
     QCOMPARE(FileNameUtils::generateUniqueDestination(u"a.txt"_s, dir.path()), dir.filePath(u"a (4).txt"_s));
+}
+
+void TestPaths::namesThatASystemTakesForOneAreTaken_data()
+{
+    QTest::addColumn<QString>("taken");
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("case") << u"Report.TXT"_s << u"report.txt"_s << u"report (2).txt"_s;
+    QTest::newRow("letters with marks") << u"e\u0301.txt"_s << u"\u00e9.txt"_s << u"\u00e9 (2).txt"_s;
+}
+
+void TestPaths::namesThatASystemTakesForOneAreTaken()
+{
+    QFETCH(QString, taken);
+    QFETCH(QString, source);
+    const QTemporaryDir dir;
+    QVERIFY(QDir(dir.path()).mkdir(taken));
+    QFETCH(QString, name);
+    QCOMPARE(FileNameUtils::generateUniqueDestination(source, dir.path()), dir.filePath(name));
+    const QTemporaryDir other;
+    QCOMPARE(FileNameUtils::generateUniqueDestination(source, other.path(), {taken}), other.filePath(name));
+}
+
+void TestPaths::numberedNamesAreNoLongerThanNamesMayBe_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("letters of one byte")
+        << QString(251, u'a') + u".txt"_s << QString(247, u'a') + u" (2).txt"_s;
+    QTest::newRow("letters of two") << QString(125, u'µ') + u".json"_s << QString(123, u'µ') + u" (2).json"_s;
+    QTest::newRow("extension of 255 bytes")
+        << u"a."_s + QString(253, u'x') << u" (2)."_s + QString(253, u'x');
+}
+
+void TestPaths::numberedNamesAreNoLongerThanNamesMayBe()
+{
+    QFETCH(QString, source);
+    QFETCH(QString, name);
+    const QTemporaryDir dir;
+    QCOMPARE(FileNameUtils::generateUniqueDestination(source, dir.path(), {source}), dir.filePath(name));
 }
 
 void TestPaths::theLongPathRulesOfWindowsHoldEverywhere_data()

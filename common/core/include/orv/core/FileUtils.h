@@ -7,6 +7,9 @@
 #include <QFileDevice>
 #include <QString>
 
+#include <functional>
+#include <optional>
+
 /// Whole files in and out, safely.
 namespace orv::FileUtils {
 
@@ -26,5 +29,27 @@ inline constexpr qint64 kMaxFileSize = qint64(128) * 1024 * 1024;
 /// \a errorText, when not null, receives the device's words.
 ORV_WORKFLOW_EXPORT QFileDevice::FileError writeToFile(const QString &path, const QByteArray &bytes,
                                                        QString *errorText = nullptr);
+
+/// Why a copy was not made.
+struct CopyFailure
+{
+    enum class Side
+    {
+        Source,     ///< it is missing, unreadable or no regular file
+        Destination ///< it exists, or can't be written
+    };
+
+    Side side = Side::Source;
+    QString reason; ///< the device's words
+};
+
+/// Hears how many bytes of a copy are there, of how many.
+using CopyProgress = std::function<void(qint64 done, qint64 total)>;
+
+/// Copies a regular file with its permissions, writable by its owner, to \a destination, which must not
+/// exist. Where the file system can, both share their blocks and nothing is moved. A copy that fails leaves
+/// no destination behind.
+[[nodiscard]] ORV_WORKFLOW_EXPORT std::optional<CopyFailure>
+copyFile(const QString &source, const QString &destination, const CopyProgress &progress = {});
 
 } // namespace orv::FileUtils
