@@ -89,6 +89,35 @@ QByteArray settingsCell()
     return QJsonDocument(settingsCellObject(0)).toJson();
 }
 
+QByteArray proteins(int count)
+{
+    const QString residues =
+        QStringLiteral("MKWVTFISLLFLFSSAYSRGVFRRDAHKSEVAHRFKDLGEENFKALVLIAFAQYLQQCPFEDHVK");
+    QJsonArray rows;
+    for (int i = 0; i < count; ++i) {
+        const QString sequence = residues.repeated(1 + i % 12).chopped(i % 7);
+        rows.append(QJsonObject{
+            {QStringLiteral("data"), QJsonArray{QStringLiteral("P%1").arg(i, 5, 10, QLatin1Char('0')),
+                                                QStringLiteral("Protein %1").arg(i), sequence}},
+            {QStringLiteral("children"), QJsonArray()}});
+    }
+    const QJsonObject table{{QStringLiteral("data"), QJsonArray{QStringLiteral("ProteinAccessionName"),
+                                                                QStringLiteral("ProteinAliasName"),
+                                                                QStringLiteral("ProteinSequence")}},
+                            {QStringLiteral("children"), rows},
+                            {QStringLiteral("proteinAnnotations"), QJsonArray()}};
+    const QJsonObject proteinsCell = cell(QStringLiteral("Proteins"), QStringLiteral("Proteins"),
+                                          {QJsonObject{{QStringLiteral("name"), QStringLiteral("Proteins")},
+                                                       {QStringLiteral("value"), table}}});
+    const QJsonArray tabs{QJsonObject{{QStringLiteral("name"), QStringLiteral("Sequences")},
+                                      {QStringLiteral("columns"), QJsonArray{QStringLiteral("Proteins")}},
+                                      {QStringLiteral("cells"), QJsonArray{proteinsCell}}}};
+    return QJsonDocument(QJsonObject{{QStringLiteral("tabs"), tabs},
+                                     {QStringLiteral("metadata"), stamp()},
+                                     {QStringLiteral("extendedMetadata"), QJsonObject()}})
+        .toJson();
+}
+
 QByteArray document(int samples, int steps)
 {
     QJsonArray columns;

@@ -8,6 +8,9 @@ namespace Lifelike {
 /// settings each, as an application writes it.
 [[nodiscard]] QByteArray document(int samples, int steps);
 
+/// The JSON text of a workflow with a table of \a count proteins of 60 to 800 residues.
+[[nodiscard]] QByteArray proteins(int count);
+
 /// The JSON text of one such property cell.
 [[nodiscard]] QByteArray settingsCell();
 

@@ -20,8 +20,18 @@ RESOURCES = ROOT / "propertyeditor" / "resources"
 EXAMPLES = ROOT / "examples" / "workflows"
 VERSIONS = ROOT / "tests" / "data" / "versions"
 
-HEAVY_CHAIN = "EVQLVESGGGLVQPGGSLRLSCAASGFNIKDTYIHWVRQAPGKGLEWVARIYPTNGYTRYADSVKGRFTISADTSKNTAYLQMNSLRAEDTAVYYC"
-LIGHT_CHAIN = "DIQMTQSPSSLSASVGDRVTITCRASQDVNTAVAWYQQKPGKAPKLLIYSASFLYSGVPSRFSGSRSGTDFTLTISSLQPEDFATYYCQQHYTTPPT"
+DATA = EXAMPLES / "data"
+
+
+def read_fasta(name):
+    """Entries as (name, description, sequence)."""
+    entries = []
+    for block in (DATA / name).read_text("utf-8").split(">")[1:]:
+        head, *lines = block.splitlines()
+        accession, _, description = head.partition(" ")
+        entries.append((accession, description, "".join(lines)))
+    return entries
+
 
 # Which settings a property cell shows, in order, under the caption of their group.
 SEARCH = [("Instrument Parameters", [55, 56, 80, 27, 28, 29, 68]), ("Digestion", [43, 44, 62]),
@@ -133,8 +143,11 @@ class Writer:
     def table(self, kind, name, number, value):
         return self.cell(kind, name, [{"name": self.name(number), "value": value}])
 
-    def samples(self, entries):
-        return self.table("Samples", "Sample Input", 265, {"Samples": entries, "TraceImportAndProcessingOptions": {}})
+    def samples(self, entries, columns=()):
+        value = {"Samples": entries, "TraceImportAndProcessingOptions": {}}
+        if columns:
+            value["CustomColumns"] = [{"name": name, "type": kind} for name, kind in columns]
+        return self.table("Samples", "Sample Input", 265, value)
 
     def document(self, tabs, **metadata):
         stamp = dict(self.stamp)
@@ -152,8 +165,7 @@ def tab(name, *cells):
 
 
 def sample(number, name, path, **more):
-    entry = {"SamplesId": number, "SampleName": name, "FilePath": path, "Reference": number == 1,
-             "Metadata": {"type": 0}}
+    entry = {"SamplesId": number, "SampleName": name, "SamplePath": path, "Reference": number == 1}
     entry.update(more)
     return entry
 
@@ -165,7 +177,7 @@ def proteins(writer, name, *lines):
 
 
 def antibody(writer):
-    return proteins(writer, "Protein Input", ["HC", "Heavy chain", HEAVY_CHAIN], ["LC", "Light chain", LIGHT_CHAIN])
+    return proteins(writer, "Protein Input", *[list(entry) for entry in read_fasta("antibody.fasta")])
 
 
 def molecules(chains, complexes):
@@ -186,17 +198,24 @@ def deconvolution(*line):
                  "Adduct"], list(line))
 
 
-def database(writer, path):
-    return writer.table("Database", "Databases", 268, {"sequences": [{"id": 1, "fasta": path, "species": ""}]})
+def database(writer, *paths):
+    entries = [{"id": number, "fasta": path, "species": ""} for number, path in enumerate(paths, 1)]
+    return writer.table("Database", "Databases", 268, {"sequences": entries})
 
 
 def antibody_peptide_map():
     w = Writer("5.47.0")
-    samples = [sample(1, "mAb reference", "../data/mab_reference.mzML"),
-               sample(2, "mAb 4 weeks 40 °C", "../data/mab_stressed.mzML")]
-    return w.document([tab("Samples", w.samples(samples)), tab("Sequences", antibody(w)),
-                       tab("Peptide map", w.step("Karvon", "MS/MS search", SEARCH),
-                           w.step("Senthia", "Peptide map", PEPTIDE_MAP))],
+    samples = [sample(1, "mAb reference", "data/mab_reference.mzML", Traces=["data/uv_214nm.csv"], Weeks=0,
+                      Operator="M. Keller"),
+               sample(2, "mAb 4 weeks 40 °C", "data/mab_stressed.mzML", Weeks=4, Operator="J. Okafor")]
+    glycans = {"glycans": "% Glycan databases\n[data/n_glycans.txt]\n% Custom glycan text below\n"}
+    labels = rows(["Name", "Element", "MassNumber", "Enrichment"], ["Heavy lysine", "C", 13, 99.0],
+                  ["Heavy lysine", "N", 15, 99.0])
+    return w.document([tab("Samples", w.samples(samples, columns=[("Weeks", "number"), ("Operator", "text")])),
+                       tab("Sequences", antibody(w), w.table("Isotope", "Isotope labels", 202, labels)),
+                       tab("Peptide map", w.step("Karvon", "MS/MS search", SEARCH, p58=glycans),
+                           w.step("Senthia", "Peptide map", PEPTIDE_MAP, p169="data/expected_peptides.csv",
+                                  p264="data/report_configuration.json"))],
                       name="Antibody peptide map", workflowType="PeptideMap", icon="peptide-map", contentMode=0,
                       description="Tryptic map of a monoclonal antibody: identity, modifications and their "
                                   "relative amounts, stressed against reference.")
@@ -204,13 +223,13 @@ def antibody_peptide_map():
 
 def intact_mass_check():
     w = Writer("5.47.0", user="j.okafor", created="2024-01-17T15:02:31")
-    chains = molecules([("HC", "Heavy chain", HEAVY_CHAIN), ("LC", "Light chain", LIGHT_CHAIN)],
-                       [["mAb", [1, 1, 2, 2], 16, []]])
+    heavy, light = (sequence for _, _, sequence in read_fasta("antibody.fasta"))
+    chains = molecules([("HC", "Heavy chain", heavy), ("LC", "Light chain", light)], [["mAb", [1, 1, 2, 2], 16, []]])
     glycoforms = masses(("G0F/G0F", 148055.9), ("G0F/G1F", 148218.1), ("G1F/G1F", 148380.2))
     masses_cell = w.cell("Masses", "Delta masses", [
         {"name": w.name(207), "value": glycoforms},
         {"name": w.name(210), "value": rows(["Value", "Unit"], [30.0, "ppm"])}])
-    return w.document([tab("Samples", w.samples([sample(1, "Lot 0423", "lot0423.mzML")])),
+    return w.document([tab("Samples", w.samples([sample(1, "Lot 0423", "data/mab_reference.mzML", Traces=["data/uv_214nm.csv"])])),
                        tab("Proteins", w.table("IntactProteins", "Intact proteins", 171, chains), masses_cell),
                        tab("Intact mass", w.step("Intact", "Intact mass", INTACT),
                            w.table("IntactOptions", "Options", 170, deconvolution("Denatured", 600, 5000, 20000, 200000, 10, 100, "H")))],
@@ -220,20 +239,20 @@ def intact_mass_check():
 
 def oligonucleotide_map():
     w = Writer("5.47.0")
-    return w.document([tab("Samples", w.samples([sample(1, "sgRNA RNase T1", "sgrna_t1.mzML"),
+    return w.document([tab("Samples", w.samples([sample(1, "sgRNA RNase T1", "data/oligo_negative.mzML"),
                                                  sample(2, "sgRNA cusativin", "sgrna_cusativin.mzML")])),
                        tab("Sequences", proteins(w, "Oligonucleotides (drag and drop FASTA files)",
                                                  ["sgRNA", "Guide RNA", "GGAAUCUGACUUCAGGCAUU"])),
                        tab("Oligonucleotide map", w.step("Karvon", "Oligo search", SEARCH[:1] + SEARCH[5:7] + SEARCH[-1:], p83=2),
                            w.step("Senthia", "Oligo map", PEPTIDE_MAP[2:4] + PEPTIDE_MAP[6:],
-                                  p291="../UI_layouts/Digested_Oligo.ini"))],
+                                  p291="data/viewer_layout.ini"))],
                       name="Guide RNA map", workflowType="DigestedOligo", icon="digested-oligo", contentMode=0,
                       description="Two RNases, one map: sequence coverage of a guide RNA.")
 
 
 def intact_oligonucleotide():
     w = Writer("5.46.0")
-    return w.document([tab("Samples", w.samples([sample(1, "ASO lot A", "aso_a.mzML")])),
+    return w.document([tab("Samples", w.samples([sample(1, "ASO lot A", "data/oligo_negative.mzML")])),
                        tab("Molecules", w.table("OligoMolecules", "Molecules", 226, molecules([("A", "ASO", "GCATTGGTATTC")], [["ASO", [1], 0, []]])),
                            w.cell("OligoMasses", "Impurities", [
                                {"name": w.name(207), "value": masses(("PO for PS", -15.977))},
@@ -250,7 +269,7 @@ def intact_oligonucleotide():
 def glycoproteomics_search():
     w = Writer("5.44.0", user="s.lindqvist", created="2022-11-08T11:45:00")
     samples = [sample(i, f"plasma {i:02d}", f"\\\\store\\glyco\\plasma_{i:02d}.raw") for i in range(1, 13)]
-    return w.document([tab("Samples", w.samples(samples), database(w, "human_reviewed.fasta")),
+    return w.document([tab("Samples", w.samples(samples), database(w, "data/contaminants.fasta", "data/serum_albumin.fasta")),
                        tab("Search", w.step("Karvon", "N-glycans", GLYCO_SEARCH, p264=""),
                            w.step("Karvon", "O-glycans", GLYCO_SEARCH))],
                       name="Plasma glycoproteomics", workflowType="GlycoproteinSearch", icon="glycoprotein-search",
@@ -292,7 +311,7 @@ def label_free_study():
 
 def de_novo_antibody():
     w = Writer("5.47.0")
-    return w.document([tab("Samples", w.samples([sample(1, "trypsin", "trypsin.mgf"), sample(2, "pepsin", "pepsin.mgf")])),
+    return w.document([tab("Samples", w.samples([sample(1, "trypsin", "data/trypsin.mgf"), sample(2, "pepsin", "data/pepsin.mgf")])),
                        tab("De novo", w.step("Ostrale", "Sequencing", DE_NOVO))],
                       name="Antibody de novo", workflowType="DeNovoSequencing", icon="de-novo-sequencing", contentMode=0,
                       description="Sequence of an unknown antibody from two digests.")
@@ -301,7 +320,7 @@ def de_novo_antibody():
 def dia_glycopeptides():
     w = Writer("5.43.0", created="2022-10-02T13:37:00")
     return w.document([tab("Samples", w.samples([sample(i, f"run {i}", f"dia_{i}.mzML") for i in range(1, 7)]),
-                           database(w, "human_reviewed.fasta")),
+                           database(w, "data/contaminants.fasta")),
                        tab("DIA", w.step("CaldrinDIA", "DIA search", DIA))],
                       name="DIA glycopeptides", workflowType="DataIndependentAcquisition",
                       icon="data-independent-acquisition", contentMode=0, description="")
@@ -315,7 +334,27 @@ def server_preview():
                       description="A quick look at mass errors and modifications before the search.")
 
 
+def first_generation():
+    """As the first versions wrote it: former names of settings, samples as a tree of rows, and cells that have been retired since."""
+    w = Writer("5.5.0", user="old.hand", created="2018-10-09T17:45:00")
+    tree = rows(["SampleName", "FileName", "Metadata", "Condition"], ["digest A", "../data/mab_reference.mzML", "", "control"],
+                ["digest B", "../data/mab_stressed.mzML", "", "stressed"])
+    samples = w.cell("Samples", "Sample Input", [{"name": "Samples", "value": tree}])
+    sequences = [w.cell("Proteins", "Protein Input", antibody(w)["properties"]),
+                 w.table("Disulfide", "Disulfides", 131, rows(["FirstChain", "FirstPosition", "SecondChain", "SecondPosition"],
+                                                              ["trastuzumab_HC", 22, "trastuzumab_HC", 96])),
+                 w.table("SamplesProteins", "Proteins in samples", 267, rows(["Sample", "Protein"], ["digest A", "trastuzumab_HC"]))]
+    search = w.step("Karvon", "MS/MS search", SEARCH)
+    for entry in search["properties"]:
+        number = next(n for n, row in w.rows.items() if row["internalNameV2"] == entry["name"])
+        entry["name"] = w.rows[number]["internalNameV1"] or entry["name"]
+    return w.document([tab("Samples", samples), tab("Sequences", *sequences), tab("Search", search)],
+                      name="Antibody search of 2018", icon="protein-search",
+                      description="A validated search in the form of its age.")
+
+
 EXAMPLE_FILES = {
+    "outdated/antibody_search_2018": first_generation,
     "antibody_peptide_map": antibody_peptide_map, "intact_mass_check": intact_mass_check,
     "oligonucleotide_map": oligonucleotide_map, "intact_oligonucleotide": intact_oligonucleotide,
     "glycoproteomics_search": glycoproteomics_search, "released_glycans": released_glycans,

@@ -63,6 +63,13 @@ QString workflowFileOf(const QString &argument)
                                       : argument;
 }
 
+QUrl folderUrlOf(const QString &argument)
+{
+    const QString folder =
+        argument == kStandardInput ? QDir::currentPath() : QFileInfo(workflowFileOf(argument)).absolutePath();
+    return QUrl::fromLocalFile(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'));
+}
+
 DocumentOrFailure readDocument(const QString &argument)
 {
     const Result<QByteArray> bytes = readBytes(argument);
@@ -77,6 +84,23 @@ DocumentOrFailure readDocument(const QString &argument)
         return failureFrom(error, BadInput);
     }
     return *document;
+}
+
+std::variant<LoadedWorkflow, Failure> loadWorkflow(const QString &argument)
+{
+    const DocumentOrFailure document = readDocument(argument);
+    if (const auto *failure = std::get_if<Failure>(&document))
+        return *failure;
+    LoadedWorkflow workflow;
+    LossCollector losses;
+    workflow.content.setLossObserver(&losses);
+    const Error error = workflow.content.assignFromJson(std::get<QJsonObject>(document),
+                                                        PropertyEditor::ValidationOption::SkipTypeValidation);
+    workflow.content.setLossObserver(nullptr);
+    if (error.hasError())
+        return failureFrom(error, BadInput);
+    workflow.lost = losses.losses();
+    return workflow;
 }
 
 QList<BatchInput> batchInputs(const QStringList &arguments)

@@ -2,9 +2,13 @@
 
 #include "Failure.h"
 
+#include <orv/core/LossObserver.h>
+#include <orv/propertyeditor/content/Content.h>
+
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
+#include <QUrl>
 
 #include <variant>
 
@@ -19,8 +23,22 @@ inline constexpr QLatin1String kStandardInput("-");
 /// The file that a FILE argument means: the inner file of a portable workflow folder, else the argument.
 [[nodiscard]] QString workflowFileOf(const QString &argument);
 
+/// The folder that relative references of an input count from, that of the working directory for standard
+/// input; ends with a slash, so that a relative path is taken from inside the folder.
+[[nodiscard]] QUrl folderUrlOf(const QString &argument);
+
 /// The JSON object of a workflow: from a file, a portable folder or standard input.
 [[nodiscard]] DocumentOrFailure readDocument(const QString &argument);
+
+/// A workflow in objects, and what its load dropped.
+struct LoadedWorkflow
+{
+    PropertyEditor::Content content;
+    QList<Loss> lost;
+};
+
+/// A workflow as objects, cells of unknown types included.
+[[nodiscard]] std::variant<LoadedWorkflow, Failure> loadWorkflow(const QString &argument);
 
 /// One input of a batch, or an argument that names none.
 struct BatchInput

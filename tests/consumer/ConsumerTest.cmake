@@ -27,11 +27,12 @@ run("${WORK_DIR}/build/list-tabs" "${WORKFLOW}")
 set(expected [[
 Format version 5.47.0
 Samples: 1 cell(s)
-Sequences: 1 cell(s)
+Sequences: 2 cell(s)
 Peptide map: 2 cell(s)
 Workflow "Antibody peptide map"
 Samples / Sample Input: 1 item(s)
 Sequences / Protein Input: 1 item(s)
+Sequences / Isotope labels: 1 item(s)
 Peptide map / MS/MS search: 1 item(s)
 Peptide map / Peptide map: 1 item(s)
 ]])

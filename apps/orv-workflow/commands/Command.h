@@ -53,9 +53,13 @@ struct CommandRow
 std::unique_ptr<Command> createInfoCommand();
 std::unique_ptr<Command> createConvertCommand();
 std::unique_ptr<Command> createDiffCommand();
+std::unique_ptr<Command> createFastaCommand();
 std::unique_ptr<Command> createGetCommand();
 std::unique_ptr<Command> createNewCommand();
+std::unique_ptr<Command> createPortableCommand();
 std::unique_ptr<Command> createPropertiesCommand();
+std::unique_ptr<Command> createReferencesCommand();
+std::unique_ptr<Command> createSamplesCommand();
 std::unique_ptr<Command> createSchemaCommand();
 std::unique_ptr<Command> createSetCommand();
 std::unique_ptr<Command> createTableCommand();

@@ -1,4 +1,5 @@
 #include "../Inputs.h"
+#include "../Losses.h"
 #include "../Output.h"
 #include "Command.h"
 
@@ -30,15 +31,6 @@ struct Outcome
     QList<Loss> lost;
     std::optional<Failure> failure;
 };
-
-/// The folder against which relative references of an input are resolved; its URL ends with a slash, so that
-/// a relative path is taken from inside the folder.
-QUrl folderUrlOf(const QString &input)
-{
-    const QString folder =
-        input == kStandardInput ? QDir::currentPath() : QFileInfo(workflowFileOf(input)).absolutePath();
-    return QUrl::fromLocalFile(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'));
-}
 
 /// Whether \a output is the very file that \a input means; standard input and output are none.
 bool isSameFile(const QString &input, const QString &output)
@@ -177,23 +169,11 @@ private:
 
     static QJsonObject toJson(const QString &file, const QString &output, const Outcome &outcome)
     {
-        QJsonArray lost;
-        for (const Loss &loss : outcome.lost) {
-            lost.append(QJsonObject{{QStringLiteral("path"), loss.path},
-                                    {QStringLiteral("what"), loss.what},
-                                    {QStringLiteral("why"), loss.why}});
-        }
         return {{QStringLiteral("file"), file},
                 {QStringLiteral("output"), outcome.failure ? QJsonValue() : QJsonValue(output)},
-                {QStringLiteral("lost"), lost},
+                {QStringLiteral("lost"), orv::cli::toJson(outcome.lost)},
                 {QStringLiteral("error"),
                  outcome.failure ? QJsonValue(orv::cli::toJson(*outcome.failure)) : QJsonValue()}};
-    }
-
-    static void printLosses(const QString &file, const QList<Loss> &lost)
-    {
-        for (const Loss &loss : lost)
-            printRemark(file, QStringLiteral("lost: %1: %2: %3").arg(loss.path, loss.what, loss.why));
     }
 
     std::string m_file;

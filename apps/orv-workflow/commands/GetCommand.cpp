@@ -1,4 +1,5 @@
 #include "../Console.h"
+#include "../Losses.h"
 #include "../SettingsCell.h"
 #include "Command.h"
 
@@ -76,9 +77,7 @@ public:
         if (const auto *failure = std::get_if<Failure>(&settings))
             return fail(*failure, options);
         const auto &[item, lost] = std::get<SettingsCell>(settings);
-        for (const Loss &loss : lost)
-            printRemark(m_cell.file(),
-                        QStringLiteral("lost: %1: %2: %3").arg(loss.path, loss.what, loss.why));
+        printLosses(m_cell.file(), lost);
         // A set finds names in any case, and the output goes by the name as it stands.
         const QStringList keys = item->keys();
         for (const QString &name : decoded(m_names)) {

@@ -1,4 +1,5 @@
 #include "../Inputs.h"
+#include "../Losses.h"
 #include "../Output.h"
 #include "../SettingsCell.h"
 #include "Command.h"
@@ -61,9 +62,7 @@ private:
         if (const auto *failure = std::get_if<Failure>(&settings))
             return *failure;
         const auto &[item, lost] = std::get<SettingsCell>(settings);
-        for (const Loss &loss : lost)
-            printRemark(m_cell.file(),
-                        QStringLiteral("lost: %1: %2: %3").arg(loss.path, loss.what, loss.why));
+        printLosses(m_cell.file(), lost);
         if (std::optional<Failure> failure = assignAll(cell.document, item.get()))
             return failure;
         return write(cell.place.replacedIn(cell.document, item->toJson(PropertyConversionFlag::KeepPaths)));

@@ -2,8 +2,8 @@
 #include "../Console.h"
 #include "Command.h"
 
-#include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+#include <orv/propertyeditor/workflow/CellTables.h>
 #include <orv/table/CsvWriter.h>
 #include <orv/table/RowNode.h>
 
@@ -14,19 +14,6 @@
 namespace orv::cli {
 
 namespace {
-
-using namespace PropertyEditorStringConstants;
-
-/// The first table among the properties of a cell.
-std::optional<RowNode> tableIn(const QJsonObject &cell)
-{
-    for (const auto entry : cell.value(PROPERTIES_KEY).toArray()) {
-        const QJsonObject value = entry.toObject().value(VALUE_KEY).toObject();
-        if (value.value(DATA).isArray() && value.value(CHILDREN).isArray())
-            return PropertyEditorJsonUtils::objectToRowNode(value);
-    }
-    return {};
-}
 
 QJsonArray toJson(const VariantItems &items)
 {
@@ -99,51 +86,106 @@ public:
     void declare(CLI::App &app) override
     {
         m_cell.declare(app);
-        app.add_flag("--csv", m_csv, "Write comma-separated text (RFC 4180)");
+        app.add_option("--table", m_table, "One of several tables in the cell, by its name");
+        app.add_flag("--csv", m_csv,
+                     "Write comma-separated text (RFC 4180), of the first table or the one named");
     }
 
     int run(const GlobalOptions &options) override
     {
-        const auto found = m_cell.find();
+        const auto found = tables();
         if (const auto *failure = std::get_if<Failure>(&found))
             return fail(*failure, options);
-        const QJsonObject &cell = std::get<FoundCell>(found).cell;
-        const std::optional<RowNode> table = tableIn(cell);
-        if (!table) {
-            return fail({Negative, 0,
-                         QStringLiteral("The cell of type \"%1\" holds no table.")
-                             .arg(cell.value(TYPE_KEY).toString())},
-                        options);
-        }
+        const auto &tables = std::get<QList<CellTable>>(found);
         if (m_csv)
-            return printBytes(toCsv(textsOf(*table)));
-        return options.json ? printJson(json(*table)) : printText(inColumns(textsOf(*table)));
+            return printBytes(toCsv(textsOf(tables.constFirst().table)));
+        return options.json ? printJson(json(tables)) : printText(text(tables));
     }
 
 private:
+    /// At least one.
+    [[nodiscard]] std::variant<QList<CellTable>, Failure> tables() const
+    {
+        const auto found = m_cell.find();
+        if (const auto *failure = std::get_if<Failure>(&found))
+            return *failure;
+        const QJsonObject &cell = std::get<FoundCell>(found).cell;
+        const Result<QList<CellTable>> tables = cellTables(cell);
+        if (tables.hasError())
+            return failureFrom(tables.error(), BadInput);
+        if (tables->isEmpty()) {
+            return Failure{Negative, 0,
+                           QStringLiteral("The cell of type \"%1\" holds no table.")
+                               .arg(cell.value(PropertyEditorStringConstants::TYPE_KEY).toString())};
+        }
+        return m_table.empty() ? *tables : named(*tables);
+    }
+
+    [[nodiscard]] std::variant<QList<CellTable>, Failure> named(const QList<CellTable> &tables) const
+    {
+        QStringList names;
+        for (const CellTable &table : tables) {
+            if (table.name == decoded(m_table))
+                return QList<CellTable>{table};
+            names.append(table.name);
+        }
+        return Failure{WrongUsage, 0,
+                       QStringLiteral("The cell has no table \"%1\". There is: %2.")
+                           .arg(decoded(m_table), names.join(QLatin1String(", ")))};
+    }
+
     int fail(const Failure &failure, const GlobalOptions &options) const
     {
         printFailure(m_cell.file(), failure);
-        const int printed = options.json ? printJson(document({}, {}, orv::cli::toJson(failure))) : Done;
+        const int printed = options.json ? printJson(document({}, {}, {}, orv::cli::toJson(failure))) : Done;
         return std::max<int>(failure.exitCode, printed);
     }
 
-    static QJsonObject document(const QJsonArray &columns, const QJsonArray &rows, const QJsonValue &error)
+    static QJsonObject document(const QJsonArray &columns, const QJsonArray &rows, const QJsonArray &tables,
+                                const QJsonValue &error)
     {
         return {{QStringLiteral("columns"), columns},
                 {QStringLiteral("rows"), rows},
+                {QStringLiteral("tables"), tables},
                 {QStringLiteral("error"), error}};
     }
 
-    static QJsonObject json(const RowNode &table)
+    static QJsonArray rowsOf(const RowNode &table)
     {
         QJsonArray rows;
         for (int i = 0; i < table.getChildListSize(); ++i)
             rows.append(toJson(table.getChild(i)->data));
-        return document(toJson(table.data), rows, {});
+        return rows;
+    }
+
+    /// The first table stands at the top level, where callers look for the only one.
+    static QJsonObject json(const QList<CellTable> &tables)
+    {
+        QJsonArray all;
+        for (const CellTable &table : tables) {
+            all.append(QJsonObject{{QStringLiteral("name"), table.name},
+                                   {QStringLiteral("columns"), toJson(table.table.data)},
+                                   {QStringLiteral("rows"), rowsOf(table.table)}});
+        }
+        const QJsonObject first = all.first().toObject();
+        return document(first.value(QLatin1String("columns")).toArray(),
+                        first.value(QLatin1String("rows")).toArray(), all, {});
+    }
+
+    static QString text(const QList<CellTable> &tables)
+    {
+        QStringList parts;
+        for (const CellTable &table : tables) {
+            const QString heading =
+                tables.size() == 1 ? QString()
+                                   : styled(withoutControls(table.name), Style::Heading) + QLatin1Char('\n');
+            parts.append(heading + inColumns(textsOf(table.table)));
+        }
+        return parts.join(QLatin1Char('\n'));
     }
 
     CellArgument m_cell;
+    std::string m_table;
     bool m_csv = false;
 };
 

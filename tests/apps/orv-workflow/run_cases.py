@@ -6,7 +6,8 @@ usage: run_cases.py PROGRAM [--update] [CASE...]
 A case is a folder below cases/ with a file "command" (a shell command; "orv-workflow" is the program), the expected
 "stdout" and "stderr" (a missing file means empty) and "exit" (missing means 0). Other files of the folder are copied
 to the empty folder in which the command runs; "examples" and "versions" there are links to the example workflows and
-the version fixtures. Times of stamps are replaced by TIME, and the user by USER. --update writes the expectations.
+the version fixtures. Times of stamps are replaced by TIME, the user by USER and
+the folder by WORK. --update writes the expectations.
 """
 import getpass
 import os
@@ -23,7 +24,8 @@ EXPECTATIONS = ("stdout", "stderr", "exit")
 USER = subprocess.run(["id", "-un"], capture_output=True, text=True).stdout.strip() or getpass.getuser()
 
 
-def masked(text):
+def masked(text, work):
+    text = text.replace(os.path.realpath(work), "WORK").replace(str(work), "WORK")
     text = re.sub(r"\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d", "TIME", text)
     return re.sub(r'(user\\?":\\?"|"user": ")' + re.escape(USER) + r'(\\?")', r"\1USER\2", text)
 
@@ -41,8 +43,8 @@ def run(program, case):
         environment = dict(os.environ, PATH=f"{work / 'bin'}:{os.environ['PATH']}", LC_ALL="C.UTF-8", NO_COLOR="1")
         result = subprocess.run(["bash", "-c", (case / "command").read_text("utf-8")], cwd=work, env=environment,
                                 stdin=subprocess.DEVNULL, capture_output=True, timeout=120)
-        return {"stdout": masked(result.stdout.decode("utf-8", "replace")),
-                "stderr": masked(result.stderr.decode("utf-8", "replace")), "exit": f"{result.returncode}\n"}
+        return {"stdout": masked(result.stdout.decode("utf-8", "replace"), work),
+                "stderr": masked(result.stderr.decode("utf-8", "replace"), work), "exit": f"{result.returncode}\n"}
 
 
 def expected(case):

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <orv/core/LossObserver.h>
+
+#include <QJsonArray>
+#include <QList>
+#include <QString>
+
+namespace orv::cli {
+
+/// A line on standard error for everything that a load dropped.
+void printLosses(const QString &file, const QList<Loss> &lost);
+
+/// [{"path", "what", "why"}]
+[[nodiscard]] QJsonArray toJson(const QList<Loss> &lost);
+
+} // namespace orv::cli

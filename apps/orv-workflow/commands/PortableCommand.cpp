@@ -1,0 +1,187 @@
+#include "../Console.h"
+#include "../Inputs.h"
+#include "../Losses.h"
+#include "../Progress.h"
+#include "Command.h"
+
+#include <orv/propertyeditor/workflow/WflwUtils.h>
+#include <orv/resources/ResourceHandlerUtils.h>
+#include <orv/resources/ResourceReferenceUtils.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <CLI/CLI.hpp>
+
+namespace orv::cli {
+
+namespace {
+
+constexpr QLatin1String kPortableSuffix(".wflwp");
+
+/// The path without links, as far as it exists.
+QString realPath(const QString &path)
+{
+    const QFileInfo info(QDir::cleanPath(QDir(path).absolutePath()));
+    if (info.exists())
+        return info.canonicalFilePath();
+    const QString parent = info.path();
+    return parent == info.filePath() ? parent : QDir(realPath(parent)).filePath(info.fileName());
+}
+
+bool isOrHolds(const QString &folder, const QString &path)
+{
+    return path == folder || path.startsWith(folder + QLatin1Char('/'));
+}
+
+class SaveProgress : public PortableSaveObserver
+{
+public:
+    explicit SaveProgress(bool enabled)
+        : m_enabled(enabled)
+    {}
+
+    void copying(const QString & /*source*/, qint64 done, qint64 total) override
+    {
+        if (!m_bar)
+            m_bar.emplace(m_enabled, total, Progress::Unit::Bytes);
+        m_bar->setDone(done);
+    }
+
+    void copied(const QString & /*source*/, const QString &destination) override
+    {
+        m_bar.reset();
+        m_names.append(QFileInfo(destination).fileName());
+    }
+
+    void failed(FileUtils::CopyFailure::Side side) override
+    {
+        m_bar.reset();
+        m_exitCode = side == FileUtils::CopyFailure::Side::Source ? BadInput : BadOutput;
+    }
+
+    [[nodiscard]] const QStringList &names() const { return m_names; }
+    [[nodiscard]] ExitCode exitCode() const { return m_exitCode; }
+
+private:
+    const bool m_enabled;
+    std::optional<Progress> m_bar;
+    QStringList m_names;
+    ExitCode m_exitCode = BadOutput;
+};
+
+class PortableCommand : public Command
+{
+public:
+    void declare(CLI::App &app) override
+    {
+        app.add_option("FILE", m_file, "Workflow file, portable workflow folder, or - for standard input")
+            ->required();
+        app.add_option("-o,--output", m_folder, "The folder to write; .wflwp is added where it lacks")
+            ->required();
+    }
+
+    int run(const GlobalOptions &options) override
+    {
+        const QString folder = targetFolder();
+        QStringList copied;
+        const std::optional<Failure> failure = save(folder, options, copied);
+        if (failure)
+            printFailure(failure->exitCode == BadOutput ? folder : decoded(m_file), *failure);
+        const int exitCode = failure ? failure->exitCode : Done;
+        if (options.json)
+            return std::max(exitCode, printJson(report(folder, copied, failure)));
+        return failure ? exitCode : printText(text(folder, copied));
+    }
+
+private:
+    [[nodiscard]] QString targetFolder() const
+    {
+        QString folder = decoded(m_folder);
+        while (folder.size() > 1 && folder.endsWith(QLatin1Char('/')))
+            folder.chop(1);
+        return WflwUtils::isMirelPortableWorkflow(folder) ? folder : folder + kPortableSuffix;
+    }
+
+    std::optional<Failure> save(const QString &folder, const GlobalOptions &options,
+                                QStringList &copied) const
+    {
+        const QString file = decoded(m_file);
+        const auto loaded = loadWorkflow(file);
+        if (const auto *failure = std::get_if<Failure>(&loaded))
+            return *failure;
+        const auto &workflow = std::get<LoadedWorkflow>(loaded);
+        printLosses(file, workflow.lost);
+        if (std::optional<Failure> refusal = refuseToWipe(folder, workflow.content))
+            return refusal;
+        QString error;
+        SaveProgress progress(options.progress || standardErrorIsTerminal());
+        const bool isSaved =
+            WflwUtils::saveAsPortableWorkflow(workflow.content, folder, folderUrlOf(file), &error, &progress);
+        copied = progress.names();
+        if (isSaved)
+            return {};
+        if (error.isEmpty())
+            error = QStringLiteral("The workflow can't be written into the folder.");
+        return Failure{progress.exitCode(), 0, error};
+    }
+
+    /// The save removes what stands at its target: not the workflow itself, nor a file that it refers to.
+    [[nodiscard]] std::optional<Failure> refuseToWipe(const QString &folder,
+                                                      const PropertyEditor::Content &content) const
+    {
+        const QString target = realPath(folder);
+        const QString file = decoded(m_file);
+        const QUrl base = folderUrlOf(file);
+        if (file != kStandardInput) {
+            const QString home = realPath(base.toLocalFile());
+            const bool isInside = WflwUtils::isMirelPortableWorkflow(home) && isOrHolds(home, target);
+            if (isOrHolds(target, home) || isInside)
+                return refusal(folder, QStringLiteral("the workflow's own folder"));
+        }
+        for (const ResourceReferenceSPtr &reference : content.allReferences()) {
+            const QString path =
+                ResourceHandlerUtils::fullPath(ResourceReferenceUtils::resolved(reference, base));
+            if (!path.isEmpty() && isOrHolds(target, realPath(path)))
+                return refusal(folder, path);
+        }
+        return {};
+    }
+
+    static Failure refusal(const QString &folder, const QString &what)
+    {
+        return {WrongUsage, 0,
+                QStringLiteral("The folder %1 would be removed together with %2; name another folder.")
+                    .arg(folder, what)};
+    }
+
+    static QJsonObject report(const QString &folder, const QStringList &copied,
+                              const std::optional<Failure> &failure)
+    {
+        const QString workflow = WflwUtils::workflowInPortableWorkflow(folder);
+        return {{QStringLiteral("folder"), failure ? QJsonValue() : QJsonValue(folder)},
+                {QStringLiteral("workflow"), failure ? QJsonValue() : QJsonValue(workflow)},
+                {QStringLiteral("copied"), QJsonArray::fromStringList(copied)},
+                {QStringLiteral("error"), failure ? QJsonValue(orv::cli::toJson(*failure)) : QJsonValue()}};
+    }
+
+    static QString text(const QString &folder, const QStringList &copied)
+    {
+        QString lines = withoutControls(WflwUtils::workflowInPortableWorkflow(folder)) + QLatin1Char('\n');
+        for (const QString &name : copied)
+            lines += withoutControls(folder + QLatin1Char('/') + name) + QLatin1Char('\n');
+        return lines;
+    }
+
+    std::string m_file;
+    std::string m_folder;
+};
+
+} // namespace
+
+std::unique_ptr<Command> createPortableCommand()
+{
+    return std::make_unique<PortableCommand>();
+}
+
+} // namespace orv::cli

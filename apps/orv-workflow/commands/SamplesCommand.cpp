@@ -1,0 +1,84 @@
+#include "../Console.h"
+#include "../Inputs.h"
+#include "Command.h"
+
+#include <orv/propertyeditor/PropertiesGetter.h>
+
+#include <CLI/CLI.hpp>
+
+namespace orv::cli {
+
+namespace {
+
+struct SampleNames
+{
+    QStringList all;
+    QStringList matching;
+};
+
+class SamplesCommand : public Command
+{
+public:
+    void declare(CLI::App &app) override
+    {
+        app.add_option("FILE", m_file, "Workflow file, portable workflow folder, or - for standard input")
+            ->required();
+        app.add_option("--match", m_patterns,
+                       "Choose names by a pattern with *, ? and sets such as [12]; may be repeated")
+            ->take_all()
+            ->expected(1);
+    }
+
+    int run(const GlobalOptions &options) override
+    {
+        const DocumentOrFailure document = readDocument(decoded(m_file));
+        if (const auto *failure = std::get_if<Failure>(&document)) {
+            printFailure(decoded(m_file), *failure);
+            const int printed = options.json ? printJson(json({}, orv::cli::toJson(*failure))) : Done;
+            return std::max<int>(failure->exitCode, printed);
+        }
+        const SampleNames names = namesIn(std::get<QJsonObject>(document));
+        return options.json ? printJson(json(names, {})) : printText(text(names.matching));
+    }
+
+private:
+    [[nodiscard]] SampleNames namesIn(const QJsonObject &document) const
+    {
+        const QStringList patterns =
+            m_patterns.empty() ? QStringList{QStringLiteral("*")} : decoded(m_patterns);
+        SampleNames names;
+        for (const PropertiesGetter::CellData &cell :
+             PropertiesGetter(PropertyEditorContent(document)).samples()) {
+            names.all += PropertiesGetter::samplesMatchingRegExp(cell, QStringLiteral("*"));
+            names.matching += PropertiesGetter::samplesMatchingRegExp(cell, patterns);
+        }
+        return names;
+    }
+
+    static QJsonObject json(const SampleNames &names, const QJsonValue &error)
+    {
+        return {{QStringLiteral("samples"), QJsonArray::fromStringList(names.all)},
+                {QStringLiteral("matching"), QJsonArray::fromStringList(names.matching)},
+                {QStringLiteral("error"), error}};
+    }
+
+    static QString text(const QStringList &names)
+    {
+        QString lines;
+        for (const QString &name : names)
+            lines += withoutControls(name) + QLatin1Char('\n');
+        return lines;
+    }
+
+    std::string m_file;
+    std::vector<std::string> m_patterns;
+};
+
+} // namespace
+
+std::unique_ptr<Command> createSamplesCommand()
+{
+    return std::make_unique<SamplesCommand>();
+}
+
+} // namespace orv::cli

@@ -1,0 +1,100 @@
+// What is asked of a whole document, on 1,000 samples and on 10,000: linear questions take ten times as long.
+// And a document of 20,000 proteins against the bare parse.
+
+#include "LifelikeDocument.h"
+#include "RatioReporter.h"
+
+#include <orv/propertyeditor/PropertiesGetter.h>
+#include <orv/propertyeditor/content/Content.h>
+#include <orv/propertyeditor/content/PropertyEditorContent.h>
+
+#include <QJsonDocument>
+#include <QLoggingCategory>
+
+#include <functional>
+
+using namespace orv;
+using PropertyEditor::Content;
+
+namespace {
+
+void add(const std::string &name, const std::function<void()> &work)
+{
+    benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State &state) {
+        for ([[maybe_unused]] auto iteration : state)
+            work();
+    })->Unit(benchmark::kMicrosecond);
+}
+
+template<typename T>
+void keep(T &&value)
+{
+    benchmark::DoNotOptimize(value);
+}
+
+Content load(const QByteArray &bytes)
+{
+    Content content;
+    if (content.assignFromJson(QJsonDocument::fromJson(bytes).object()).hasError())
+        qFatal("The benchmark's document can't be loaded");
+    return content;
+}
+
+/// From each sample's file to another, and back when it is called again.
+class Moves
+{
+public:
+    explicit Moves(const Content &content)
+    {
+        for (const ResourceReferenceSPtr &reference : content.allReferences()) {
+            const Result<ResourceReferenceSPtr> moved =
+                ResourceReference::fromString(reference->text() + QStringLiteral(".gz"));
+            m_there.append({reference, *moved});
+            m_back.append({*moved, reference});
+        }
+    }
+
+    [[nodiscard]] const QList<ReferenceMapping> &next()
+    {
+        m_isThere = !m_isThere;
+        return m_isThere ? m_there : m_back;
+    }
+
+private:
+    QList<ReferenceMapping> m_there;
+    QList<ReferenceMapping> m_back;
+    bool m_isThere = false;
+};
+
+void addQueries(int samples, const std::string &label)
+{
+    const QByteArray bytes = Lifelike::document(samples, 4);
+    const auto content = std::make_shared<Content>(load(bytes));
+    const auto moves = std::make_shared<Moves>(*content);
+    const auto value = std::make_shared<PropertyEditorContent>(bytes);
+    add("allReferences/" + label, [=] { keep(content->allReferences()); });
+    add("updateReferences of all/" + label, [=] { content->updateReferences(moves->next()); });
+    add("findProjects/" + label, [=] { keep(content->findProjects()); });
+    add("samplesMatchingRegExp/" + label, [=] {
+        const PropertiesGetter getter(*value);
+        keep(PropertiesGetter::samplesMatchingRegExp(getter.samples().constFirst(), QStringLiteral("*7")));
+    });
+    add("detachedCopy/" + label, [=] { keep(content->detachedCopy().hasError()); });
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("orv.*.debug=false"));
+    addQueries(1'000, "baseline");
+    addQueries(10'000, "10,000 samples");
+
+    const QByteArray proteins = Lifelike::proteins(20'000);
+    add("load 20,000 proteins/baseline", [=] { keep(QJsonDocument::fromJson(proteins)); });
+    add("load 20,000 proteins/object form", [=] { keep(load(proteins).count()); });
+    add("load 20,000 proteins/value form", [=] { keep(PropertyEditorContent(proteins)); });
+    const auto value = std::make_shared<PropertyEditorContent>(proteins);
+    add("load 20,000 proteins/their FASTA text", [=] { keep(PropertiesGetter(*value).fastaContent()); });
+    return runRatioBenchmarks(argc, argv);
+}
