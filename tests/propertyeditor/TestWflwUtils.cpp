@@ -4,7 +4,7 @@
 #include "TableCells.h"
 #include "TestFiles.h"
 
-#include <orv/core/TextUtils.h>
+#include <orv/core/FileExtensionsNameFilter.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
@@ -108,6 +108,7 @@ class TestWflwUtils : public OrvTest
 private Q_SLOTS:
     void initTestCase() { prepare(); }
     void cleanup() { prepare(); }
+    void filtersNameWorkflows();
     void builtinWorkflowsLieBesideTheProgram();
     void workflowsAreListedByTheirNames();
     void anEmptyPathListsNothing();
@@ -193,6 +194,15 @@ Content TestWflwUtils::reopened()
     if (content.assignFromFile(WflwUtils::workflowInPortableWorkflow(m_folder)).hasError())
         qFatal("The portable document is broken");
     return content;
+}
+
+void TestWflwUtils::filtersNameWorkflows()
+{
+    QCOMPARE(WflwUtils::workflowFilters().types(),
+             (QList<FileType>{MirelFileTypes::WFLW, MirelFileTypes::WFLWP, MirelFileTypes::PTSON}));
+    QCOMPARE(WflwUtils::workflowFiltersInDialog().types(),
+             (QList<FileType>{MirelFileTypes::WFLW, MirelFileTypes::PTSON}));
+    QCOMPARE(&WflwUtils::workflowFilters(), &WflwUtils::workflowFilters());
 }
 
 void TestWflwUtils::builtinWorkflowsLieBesideTheProgram()

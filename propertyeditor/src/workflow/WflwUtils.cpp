@@ -34,13 +34,6 @@ QString tr(const char *text)
     return QCoreApplication::translate("PtsonUtils", text);
 }
 
-const FileExtensionsNameFilter &workflowFilters()
-{
-    static const FileExtensionsNameFilter filter{MirelFileTypes::WFLW, MirelFileTypes::WFLWP,
-                                                 MirelFileTypes::PTSON};
-    return filter;
-}
-
 const FileExtensionsNameFilter &portableFilter()
 {
     static const FileExtensionsNameFilter filter{MirelFileTypes::WFLWP};
@@ -139,6 +132,19 @@ void PortableSaveObserver::copying(const QString & /*source*/, qint64 /*done*/, 
 void PortableSaveObserver::copied(const QString & /*source*/, const QString & /*destination*/) {}
 
 void PortableSaveObserver::failed(Side /*side*/) {}
+
+const FileExtensionsNameFilter &WflwUtils::workflowFilters()
+{
+    static const FileExtensionsNameFilter filter{MirelFileTypes::WFLW, MirelFileTypes::WFLWP,
+                                                 MirelFileTypes::PTSON};
+    return filter;
+}
+
+const FileExtensionsNameFilter &WflwUtils::workflowFiltersInDialog()
+{
+    static const FileExtensionsNameFilter filter{MirelFileTypes::WFLW, MirelFileTypes::PTSON};
+    return filter;
+}
 
 QString WflwUtils::builtinWorkflowsPath()
 {

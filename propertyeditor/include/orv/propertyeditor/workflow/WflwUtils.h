@@ -12,6 +12,8 @@
 
 namespace orv {
 
+class FileExtensionsNameFilter;
+
 namespace PropertyEditor {
 class Content;
 class KeyValueItem;
@@ -37,6 +39,10 @@ public:
 class ORV_WORKFLOW_EXPORT WflwUtils
 {
 public:
+    /// Everything that is a workflow, and what of it people choose as files.
+    [[nodiscard]] static const FileExtensionsNameFilter &workflowFilters();
+    [[nodiscard]] static const FileExtensionsNameFilter &workflowFiltersInDialog();
+
     /// The folder of the workflows that come with the application.
     [[nodiscard]] static QString builtinWorkflowsPath();
     [[nodiscard]] static QList<QFileInfo> enumerateBuiltinWorkflows();
