@@ -43,6 +43,7 @@ constexpr std::array kRows = {
     Row{FileType::OligoProject, "OLIGO", QT_TRANSLATE_NOOP("FileTypes", "Oligo project"), "oligo"},
     Row{FileType::OstraleProject, "OSTRALE", QT_TRANSLATE_NOOP("FileTypes", "Ostrale project"), "ostrale"},
     Row{FileType::TrenqProject, "TRENQ", QT_TRANSLATE_NOOP("FileTypes", "Trenq project"), "trenq"},
+    Row{FileType::CaldrinResult, "CALDRSLT", QT_TRANSLATE_NOOP("FileTypes", "Caldrin search result"), "caldrslt"},
     Row{FileType::MultiDocReport, "MULTIDOCREPORT", QT_TRANSLATE_NOOP("FileTypes", "Multi-document report"), "mdrpt"},
 };
 // clang-format on

@@ -100,9 +100,7 @@ std::optional<CopyFailure> copyBytes(QFile &from, QFile &to, const CopyProgress 
     return {};
 }
 
-} // namespace
-
-Result<QByteArray> readFile(const QString &path, qint64 maxSize)
+Error openRegular(const QString &path, QFile *file)
 {
     const QFileInfo info(path);
     if (info.isDir())
@@ -111,10 +109,28 @@ Result<QByteArray> readFile(const QString &path, qint64 maxSize)
         return cannotOpen(path, notRegular());
     if (path.isEmpty())
         return cannotOpen(path, emptyName());
+    file->setFileName(path);
+    if (!file->open(QIODevice::ReadOnly))
+        return cannotOpen(path, file->errorString());
+    return Error::NoError;
+}
 
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+} // namespace
+
+Result<QByteArray> readBeginning(const QString &path, qint64 count)
+{
+    QFile file;
+    ORV_RETURN_IF_ERROR(openRegular(path, &file));
+    QByteArray bytes = file.read(count);
+    if (file.error() != QFileDevice::NoError)
         return cannotOpen(path, file.errorString());
+    return bytes;
+}
+
+Result<QByteArray> readFile(const QString &path, qint64 maxSize)
+{
+    QFile file;
+    ORV_RETURN_IF_ERROR(openRegular(path, &file));
     if (file.size() > maxSize)
         return tooLarge(path, file.size(), maxSize);
 

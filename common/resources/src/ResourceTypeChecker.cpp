@@ -39,4 +39,9 @@ bool isKarvonResultFileType(const ResourceReferenceSPtr &reference)
     return matches(reference, MirelFileTypes::KARVRSLT) || matches(reference, MirelFileTypes::KARVON);
 }
 
+bool isCaldrinResultFileType(const ResourceReferenceSPtr &reference)
+{
+    return matches(reference, MirelFileTypes::CALDRSLT);
+}
+
 } // namespace orv::ResourceTypeChecker

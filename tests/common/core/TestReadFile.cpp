@@ -31,6 +31,9 @@ private Q_SLOTS:
     void filesAboveTheLimitAreRefused();
     void aFileThatGivesMoreThanItsSizeStaysBelowTheLimit();
     void aLargeLimitCostsNothing();
+    void aBeginningIsReadAlone_data();
+    void aBeginningIsReadAlone();
+    void aBeginningOfNoFileIsRefused();
 
 private:
     [[nodiscard]] QString at(const QString &name) const { return m_dir->filePath(name); }
@@ -198,6 +201,34 @@ void TestReadFile::aLargeLimitCostsNothing()
     ORV_VERIFY_OK(read);
     QCOMPARE(*read, "{}"_ba);
     QVERIFY(read->capacity() < 100000);
+}
+
+void TestReadFile::aBeginningIsReadAlone_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("beginning");
+
+    QTest::newRow("empty") << ""_ba << ""_ba;
+    QTest::newRow("shorter") << "ab"_ba << "ab"_ba;
+    QTest::newRow("longer") << "abcd"_ba << "abc"_ba;
+}
+
+void TestReadFile::aBeginningIsReadAlone()
+{
+    QFETCH(QByteArray, bytes);
+    makeFile(at(u"file"_s), bytes);
+    const Result<QByteArray> read = FileUtils::readBeginning(at(u"file"_s), 3);
+    ORV_VERIFY_OK(read);
+    QTEST(*read, "beginning");
+}
+
+void TestReadFile::aBeginningOfNoFileIsRefused()
+{
+    for (const QString &path : {at(u"missing"_s), m_dir->path(), QString()}) {
+        const Result<QByteArray> read = FileUtils::readBeginning(path, 3);
+        QVERIFY(read.hasError());
+        QCOMPARE(read.error().code(), ErrorCode::CannotOpenFile);
+    }
 }
 
 ORV_REGISTER_TEST(TestReadFile)

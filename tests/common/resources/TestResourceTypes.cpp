@@ -84,6 +84,7 @@ void TestResourceTypes::kindsAreToldByTheSuffix_data()
     QTest::newRow("pi") << u"a.pi"_s << u"electropherogram"_s;
     QTest::newRow("result") << u"a.karvrslt"_s << u"karvon"_s;
     QTest::newRow("project") << u"a.karvon"_s << u"karvon"_s;
+    QTest::newRow("Caldrin result") << u"a.CALDRSLT"_s << u"caldrin"_s;
     QTest::newRow("other project") << u"a.dravik"_s << QString();
     QTest::newRow("fasta") << u"a.fas"_s << u"fasta"_s;
     QTest::newRow("none") << u"a"_s << QString();
@@ -101,6 +102,8 @@ void TestResourceTypes::kindsAreToldByTheSuffix()
         kinds += u"electropherogram"_s;
     if (ResourceTypeChecker::isKarvonResultFileType(read(text)))
         kinds += u"karvon"_s;
+    if (ResourceTypeChecker::isCaldrinResultFileType(read(text)))
+        kinds += u"caldrin"_s;
     if (ResourceTypeChecker::matches(read(text), FileTypes::FASTA))
         kinds += u"fasta"_s;
     QTEST(kinds.join(u','), "kinds");

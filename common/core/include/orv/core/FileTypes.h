@@ -36,6 +36,7 @@ enum class FileType
     OligoProject,
     OstraleProject,
     TrenqProject,
+    CaldrinResult,
     MultiDocReport,
 };
 
@@ -99,6 +100,7 @@ inline constexpr FileType INTACT = FileType::IntactProject;
 inline constexpr FileType OLIGO = FileType::OligoProject;
 inline constexpr FileType OSTRALE = FileType::OstraleProject;
 inline constexpr FileType TRENQ = FileType::TrenqProject;
+inline constexpr FileType CALDRSLT = FileType::CaldrinResult;
 inline constexpr FileType MULTIDOCREPORT = FileType::MultiDocReport;
 inline constexpr FileType PI = FileType::Electropherogram;
 inline constexpr FileType ITB = FileType::IcIef;

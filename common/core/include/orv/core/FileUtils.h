@@ -23,6 +23,10 @@ inline constexpr qint64 kMaxFileSize = qint64(128) * 1024 * 1024;
 [[nodiscard]] ORV_WORKFLOW_EXPORT Result<QByteArray> readFile(const QString &path,
                                                               qint64 maxSize = kMaxFileSize);
 
+/// The first \a count bytes of a regular file, all of them if it has fewer. Fails as readFile does for what
+/// can't be opened.
+[[nodiscard]] ORV_WORKFLOW_EXPORT Result<QByteArray> readBeginning(const QString &path, qint64 count);
+
 /// Replaces the file at \a path by \a bytes, whole or not at all: the bytes go to a file beside it, which is
 /// flushed and then renamed, so that an interrupted or failed write leaves the old file as it was. A link
 /// stays a link; a folder, pipe or device is refused. Answers QFileDevice::NoError (0) on success; otherwise

@@ -18,5 +18,7 @@ namespace orv::ResourceTypeChecker {
 [[nodiscard]] ORV_WORKFLOW_EXPORT bool isElectropherogramFileType(const ResourceReferenceSPtr &reference);
 /// What a Karvon search leaves behind: a result file or a Karvon project.
 [[nodiscard]] ORV_WORKFLOW_EXPORT bool isKarvonResultFileType(const ResourceReferenceSPtr &reference);
+/// What a Caldrin search leaves behind.
+[[nodiscard]] ORV_WORKFLOW_EXPORT bool isCaldrinResultFileType(const ResourceReferenceSPtr &reference);
 
 } // namespace orv::ResourceTypeChecker
