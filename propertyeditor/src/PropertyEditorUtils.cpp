@@ -1,17 +1,76 @@
 #include "GlycanDatabasePaths.h"
 
+#include <orv/core/FileTypes.h>
+#include <orv/core/JsonUtils.h>
 #include <orv/core/SysUtils.h>
 #include <orv/propertyeditor/PropertyEditorUtils.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 
+#include <QCoreApplication>
 #include <QMetaEnum>
 #include <QSet>
 
 #include <algorithm>
+#include <array>
+#include <optional>
 
 namespace orv {
 
 namespace {
+
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(PropertyEditorUtils)
+};
+
+/// What running a document yields, and what it wants the samples for.
+struct DocumentRow
+{
+    BaseItemType type;
+    FileType result;
+    SamplesInput::Mode mode;
+};
+
+constexpr std::array kDocuments = {
+    DocumentRow{BaseItemType::Senthia, MirelFileTypes::SENTHIA, SamplesInput::Mode::Senthia},
+    DocumentRow{BaseItemType::Dravik, MirelFileTypes::DRAVIK, SamplesInput::Mode::Dravik},
+    DocumentRow{BaseItemType::Karvon, MirelFileTypes::KARVON, SamplesInput::Mode::Karvon},
+    DocumentRow{BaseItemType::Intact, MirelFileTypes::INTACT, SamplesInput::Mode::Intact},
+    DocumentRow{BaseItemType::Oligo, MirelFileTypes::OLIGO, SamplesInput::Mode::Oligo},
+    DocumentRow{BaseItemType::Ostrale, MirelFileTypes::OSTRALE, SamplesInput::Mode::Ostrale},
+    DocumentRow{BaseItemType::Trenq, MirelFileTypes::TRENQ, SamplesInput::Mode::Trenq},
+    DocumentRow{BaseItemType::MultiDocReport, MirelFileTypes::MULTIDOCREPORT,
+                SamplesInput::Mode::MultiDocReport},
+    DocumentRow{BaseItemType::Preview, FileTypes::ZIP, SamplesInput::Mode::Preview},
+    DocumentRow{BaseItemType::TrenqPreview, FileTypes::ZIP, SamplesInput::Mode::Preview},
+};
+
+const DocumentRow *rowOf(BaseItemType type)
+{
+    const auto *const row = std::ranges::find(kDocuments, type, &DocumentRow::type);
+    return row == kDocuments.end() ? nullptr : row;
+}
+
+FileType resultOf(BaseItemType type)
+{
+    const DocumentRow *row = rowOf(type);
+    return row ? row->result : FileTypes::Invalid;
+}
+
+FileExtensionsNameFilter filterFor(const QList<BaseItemType> &documents)
+{
+    QList<FileType> types;
+    for (const BaseItemType document : documents)
+        types.append(resultOf(document));
+    return FileExtensionsNameFilter(types);
+}
+
+bool yieldsNoProjectBesideOthers(BaseItemType type)
+{
+    return type == BaseItemType::Karvon || type == BaseItemType::Preview ||
+           type == BaseItemType::TrenqPreview;
+}
 
 bool isAll(const QList<BaseItemType> &documents, BaseItemType type)
 {
@@ -48,6 +107,64 @@ bool PropertyEditorUtils::isMultiDocument(const QList<BaseItemType> &documents)
     QSet<BaseItemType> types(documents.cbegin(), documents.cend());
     types.remove(BaseItemType::Karvon);
     return types.size() > 1;
+}
+
+Result<WorkflowType> PropertyEditorUtils::workflowType(const QJsonObject &json)
+{
+    using namespace PropertyEditorStringConstants;
+    Result<QString> text = JsonUtils::stringValue(json, META_IN_JSON_KEY);
+    if (!text)
+        return text.ecatch();
+    Result<QJsonObject> metadata = JsonUtils::objectFromJson(text->toUtf8());
+    if (!metadata)
+        return metadata.ecatch();
+    if (metadata->contains(WORKFLOW_TYPE_KEY))
+        return workflowTypeFromString(metadata->value(WORKFLOW_TYPE_KEY).toString());
+    if (metadata->contains(ICON_KEY))
+        return workflowTypeFromIconName(metadata->value(ICON_KEY).toString());
+    return WorkflowType::Unknown;
+}
+
+Result<FileExtensionsNameFilter>
+PropertyEditorUtils::fileNameFilterForExpectedProject(const QList<BaseItemType> &documents)
+{
+    if (documents.isEmpty()) {
+        return Error(ErrorCode::InvalidContent,
+                     Tr::tr("Workflow has to contain at least one processing node"))
+            .addDetail(Tr::tr("Add a column of a search, an analysis or a report."));
+    }
+    if (isAll(documents, documents.constFirst()))
+        return filterFor(documents);
+    QList<BaseItemType> projects = documents;
+    projects.removeIf(yieldsNoProjectBesideOthers);
+    if (projects.isEmpty()) {
+        return Error(ErrorCode::InvalidContent,
+                     Tr::tr("Current workflow processing nodes configuration is not supported"))
+            .addDetail(
+                Tr::tr("Searches and previews of different kinds can't make one project. Keep those of "
+                       "one kind, or add an analysis."));
+    }
+    return filterFor(projects);
+}
+
+QStringList PropertyEditorUtils::resultProjectExtensionsFromWorkflow(const QList<BaseItemType> &documents)
+{
+    QStringList names;
+    for (const BaseItemType document : documents)
+        names.append(FileTypes::name(resultOf(document)));
+    QStringList suffixes = FileTypes::fileSuffixesFromExtensionTypes(names);
+    suffixes.removeDuplicates();
+    return suffixes;
+}
+
+QList<SamplesInput::Mode> PropertyEditorUtils::modesFromPropertyTypes(const QList<BaseItemType> &documents)
+{
+    QList<SamplesInput::Mode> modes;
+    for (const BaseItemType document : documents) {
+        if (const DocumentRow *row = rowOf(document))
+            modes.append(row->mode);
+    }
+    return modes;
 }
 
 QList<ResourceReference::Scheme> PropertyEditorUtils::supportedReferences(WorkflowAppType app)

@@ -1,16 +1,24 @@
 #pragma once
 
+#include <orv/core/ApplicationType.h>
 #include <orv/core/Export.h>
+#include <orv/core/FileExtensionsNameFilter.h>
+#include <orv/core/Result.h>
 #include <orv/propertyeditor/PropertyId.h>
 #include <orv/propertyeditor/content/BaseItemType.h>
+#include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
+#include <orv/propertyeditor/workflow/WorkflowType.h>
 #include <orv/resources/ResourceReference.h>
+#include <orv/samples/SamplesInput.h>
 #include <orv/table/CustomSettings.h>
 
 #include <QJsonObject>
 #include <QList>
+#include <QMap>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <memory>
@@ -21,6 +29,7 @@ QT_FORWARD_DECLARE_CLASS(QUrl)
 namespace orv {
 
 namespace PropertyEditor {
+class BaseItem;
 class Content;
 class KeyValueItem;
 } // namespace PropertyEditor
@@ -43,6 +52,57 @@ public:
 
     /// Logical processors for an analysis; one for a mode that isn't known.
     [[nodiscard]] static int coresNumber(MulticoreMode mode);
+
+    /// What an application may keep of a workflow: cells of other types go, and with them columns and tabs
+    /// that are left empty. The applications that run everything get a copy, all others a stamped document.
+    /// Empty, with a warning, for a document that can't be loaded.
+    [[nodiscard]] static PropertyEditorContent
+    adjustContentToApplication(const PropertyEditorContent &content, ApplicationType app);
+
+    /// The type of the workflow in the object of a document; that of its icon where it has none, as in old
+    /// documents, and Unknown without either. Fails with InvalidContent if the metadata can't be read.
+    [[nodiscard]] static Result<WorkflowType> workflowType(const QJsonObject &json);
+
+    // Kinds of projects. The forms on a file name look at the workflow that is saved in the project, and
+    // answer false, with a warning, when it can't be read.
+    [[nodiscard]] static bool isDigestedOligoProject(const PropertyEditor::Content &content);
+    [[nodiscard]] static bool isDigestedOligoProject(const QString &fileName);
+    /// High-resolution ion mobility.
+    [[nodiscard]] static bool isHrimProject(const PropertyEditor::Content &content);
+    [[nodiscard]] static bool isHrimProject(const QString &fileName);
+    [[nodiscard]] static bool isIntaBioProject(const PropertyEditor::Content &content);
+    [[nodiscard]] static bool isIntaBioProject(const QString &fileName);
+    /// De-novo sequencing.
+    [[nodiscard]] static bool isOstraleProject(const PropertyEditor::Content &content);
+    [[nodiscard]] static bool isOstraleProject(const QString &fileName);
+
+    /// The MS files of the samples in the workflow that is saved in a project; samples without one are left
+    /// out. Fails with InvalidContent if no workflow is saved there, and with the error that keeps the
+    /// project or its workflow from being read. Any thread.
+    [[nodiscard]] static Result<QList<ResourceReferenceSPtr>>
+    msFilesFromDocumentWorkflow(const QString &fileName);
+
+    /// The files that running the documents yields. Fails with InvalidContent without documents, and if
+    /// searches and previews are mixed with nothing else.
+    [[nodiscard]] static Result<FileExtensionsNameFilter>
+    fileNameFilterForExpectedProject(const QList<BaseItemType> &documents);
+    /// Their suffixes without dots, each once.
+    [[nodiscard]] static QStringList
+    resultProjectExtensionsFromWorkflow(const QList<BaseItemType> &documents);
+
+    /// What the documents want the samples for, one by one; those that want nothing are left out.
+    [[nodiscard]] static QList<SamplesInput::Mode>
+    modesFromPropertyTypes(const QList<BaseItemType> &documents);
+
+    /// The samples that a step works on, in their order: those that its pattern names, but for files that it
+    /// can't take and samples that a search in them has been through already. None for null and for a cell
+    /// that holds no settings. May read results of searches.
+    [[nodiscard]] static QList<SamplesInput::Entry>
+    getRequiredSamples(const PropertyEditor::BaseItem *item, const QList<SamplesInput::Entry> &samples);
+    /// How many of the projects use a sample of each name; names that none uses are absent.
+    [[nodiscard]] static QMap<QString, int>
+    createSampleNamesIndexes(const QList<PropertyEditor::KeyValueItem *> &projects,
+                             const PropertyEditor::Content &content);
 
     /// Whether every document is a search of that kind; true without documents.
     [[nodiscard]] static bool isKarvonOnly(const QList<BaseItemType> &documents);

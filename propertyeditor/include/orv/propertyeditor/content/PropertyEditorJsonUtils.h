@@ -8,6 +8,7 @@
 #include <orv/table/VariantItems.h>
 
 #include <QByteArray>
+#include <QDir>
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -15,6 +16,10 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+
+namespace orv::PropertyEditor {
+class Content;
+}
 
 /// Functions on the raw JSON of cells and properties, which reach one setting without building the tree of
 /// objects. What is malformed gives an empty answer and a line in the log. Free of shared state; safe on any
@@ -122,5 +127,26 @@ ORV_WORKFLOW_EXPORT void updateStoredSerializedGlycans(QJsonObject *object, cons
 
 /// The document without what compareWorkflows passes over unless it is strict.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QJsonObject withoutStamps(QJsonObject document);
+
+// Projects.
+
+/// Whether a project \a name was attempted in \a dir with this very workflow, and stopped after its
+/// processing had started, so that a new attempt may reuse what is there. Reads the workflow and the status
+/// that the attempt left; what can't be read counts as not started, with a warning. Files that
+/// settings name are compared by their absolute paths, so \a content needs its base URL. The form on a
+/// document runs on its thread.
+[[nodiscard]] ORV_WORKFLOW_EXPORT bool projectFailedBefore(const QDir &dir, const QString &name,
+                                                           const PropertyEditor::Content &content);
+/// The same for the workflow in a file; false, with a warning, if it can't be loaded.
+[[nodiscard]] ORV_WORKFLOW_EXPORT bool projectFailedBefore(const QDir &dir, const QString &name,
+                                                           const QString &wflwFile);
+
+/// Whether \a extension, without a dot, is that of a result of one of the documents; case doesn't count.
+[[nodiscard]] ORV_WORKFLOW_EXPORT bool endsWithExpectedExtension(const QString &extension,
+                                                                 const QList<BaseItemType> &documents);
+/// The name of a project without the extension that its result will get: what follows the last dot, or all of
+/// a name without a dot, is dropped if it is such an extension.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QString adjustProjectName(const QString &name,
+                                                            const QList<BaseItemType> &documents);
 
 } // namespace orv::PropertyEditorJsonUtils

@@ -1,0 +1,220 @@
+// The workflow that is saved in a project, and the kinds of projects that it tells.
+#include <orv/core/JsonUtils.h>
+#include <orv/core/Logging.h>
+#include <orv/project/DocumentDatabaseHandler.h>
+#include <orv/project/ProjectCreationOptionsDao.h>
+#include <orv/propertyeditor/PropertyEditorUtils.h>
+#include <orv/propertyeditor/content/Content.h>
+#include <orv/propertyeditor/content/ItemGroup.h>
+#include <orv/propertyeditor/content/ItemSubGroup.h>
+#include <orv/propertyeditor/content/SamplesTableItem.h>
+
+#include <algorithm>
+
+namespace orv {
+
+using namespace PropertyEditor;
+
+namespace {
+
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(PropertyEditorUtils)
+};
+
+QString placeOf(const QString &fileName)
+{
+    return Tr::tr("The project is %1.").arg(fileName);
+}
+
+QString notCreatedByWorkflow()
+{
+    return Tr::tr("Name a project that was created from a workflow, or create it anew.");
+}
+
+Result<bool> hasWorkflow(const ProjectCreationOptionsDao &dao)
+{
+    Result<bool> exists = dao.tableExists();
+    if (!exists)
+        return exists.ecatch();
+    return *exists ? dao.keyExists(kMirelProjectCreationOptions) : exists;
+}
+
+Result<QByteArray> readWorkflowText(const QString &fileName)
+{
+    const auto project =
+        DocumentDatabaseHandler::open(QStringLiteral("documentDatabaseConnection"), fileName);
+    if (!project)
+        return Error(project.error()).ecatch();
+    const ProjectCreationOptionsDao dao(*project.value());
+    Result<bool> isThere = hasWorkflow(dao);
+    if (!isThere)
+        return isThere.ecatch();
+    if (!*isThere) {
+        return Error(ErrorCode::InvalidContent, Tr::tr("Workflow is not saved in the project database."))
+            .addDetail(placeOf(fileName))
+            .addDetail(notCreatedByWorkflow());
+    }
+    auto rows = dao.readOption(kMirelProjectCreationOptions);
+    if (!rows)
+        return rows.ecatch();
+    if (rows->size() != 1) {
+        return Error(ErrorCode::MalformedStructure,
+                     Tr::tr("Unable to load the workflow, multiple MirelProjectCreationOptions keys found."))
+            .addDetail(placeOf(fileName))
+            .addDetail(Tr::tr("Found are %1. Restore the project from a copy, or create it anew.")
+                           .arg(rows->size()));
+    }
+    return rows->constFirst().value;
+}
+
+/// The document in the form of today.
+Result<PropertyEditorContent> upToDate(const PropertyEditorContent &document)
+{
+    const QVersionNumber version = WflwMetaData::versionNumberFromMetaDataObject(document.metadata());
+    QStringList messages;
+    switch (WflwMetaData::checkWorkflowVersion(version, &document, &messages)) {
+    case WflwMetaData::WflwState::UpToDate:
+        return document;
+    case WflwMetaData::WflwState::NeedsUpgrade:
+        // What upgrades documents goes here; this library can't yet.
+        return Error(ErrorCode::MalformedStructure,
+                     Tr::tr("The workflow's version %1 needs an upgrade").arg(version.toString()))
+            .addDetail(Tr::tr("Versions from %1 are read. Create the project anew with this version.")
+                           .arg(WflwMetaData::currentWorkflowVersion().toString()));
+    case WflwMetaData::WflwState::NotSupported:
+        break;
+    }
+    Error error(ErrorCode::MalformedStructure,
+                Tr::tr("Incompatible workflow version: %1").arg(version.toString()));
+    for (const QString &message : std::as_const(messages))
+        error.addDetail(message);
+    return error;
+}
+
+Error loadText(const QByteArray &json, Content *content)
+{
+    Result<QJsonObject> object = JsonUtils::objectFromJson(json);
+    if (!object)
+        return object.ecatch();
+    ORV_RETURN_IF_ERROR(content->assignFromJson(*object));
+    return Error::NoError;
+}
+
+Result<Content> loadWorkflow(const QByteArray &json)
+{
+    Content stored;
+    ORV_RETURN_IF_ERROR(loadText(json, &stored));
+    auto document = upToDate(PropertyEditorContent(stored.toJson(PropertyConversionFlag::KeepPaths)));
+    if (!document)
+        return document.ecatch();
+    Content content;
+    ORV_RETURN_IF_ERROR(loadText(document->toJson(), &content));
+    return content;
+}
+
+Result<Content> readDocumentWorkflow(const QString &fileName)
+{
+    Result<QByteArray> json = readWorkflowText(fileName);
+    if (!json)
+        return json.ecatch();
+    Result<Content> content = loadWorkflow(*json);
+    if (!content)
+        return Error(content.error()).addDetail(placeOf(fileName)).ecatch();
+    return content;
+}
+
+using Predicate = bool (*)(const Content &);
+
+bool holdsForProject(const QString &fileName, Predicate predicate)
+{
+    const Result<Content> content = readDocumentWorkflow(fileName);
+    if (content)
+        return predicate(*content);
+    const QStringList reasons = content.error().errorMessages() + content.error().details();
+    qCWarning(propertyEditorLog).noquote()
+        << "Cannot read the workflow of a project:" << reasons.join(QLatin1Char(' '));
+    return false;
+}
+
+bool hasIntaBioTrace(const Content &content)
+{
+    for (const BaseItem *item : content.findAllItems(BaseItemType::Samples)) {
+        const auto *samples = qobject_cast<const SamplesTableItem *>(item);
+        if (!samples)
+            continue;
+        const QList<TracesImportList::Entry> traces = samples->tracesOptions().traces.list();
+        if (std::ranges::any_of(traces, [](const TracesImportList::Entry &entry) {
+                return entry.traceItem().type() == TraceType::IntaBio;
+            }))
+            return true;
+    }
+    return false;
+}
+
+bool hasColumn(const Content &content, BaseItemType type)
+{
+    const QList<ItemGroup *> tabs = content.groups();
+    return std::ranges::any_of(tabs,
+                               [type](const ItemGroup *tab) { return !tab->subGroups(type).isEmpty(); });
+}
+
+} // namespace
+
+bool PropertyEditorUtils::isDigestedOligoProject(const Content &content)
+{
+    return content.workflowType() == WorkflowType::DigestedOligo;
+}
+
+bool PropertyEditorUtils::isDigestedOligoProject(const QString &fileName)
+{
+    return holdsForProject(fileName, &PropertyEditorUtils::isDigestedOligoProject);
+}
+
+bool PropertyEditorUtils::isHrimProject(const Content &content)
+{
+    const WorkflowType type = content.workflowType();
+    return type == WorkflowType::HrimCompoundMap || type == WorkflowType::HrimIntactMass ||
+           type == WorkflowType::HrimReleasedGlycans;
+}
+
+bool PropertyEditorUtils::isHrimProject(const QString &fileName)
+{
+    return holdsForProject(fileName, &PropertyEditorUtils::isHrimProject);
+}
+
+bool PropertyEditorUtils::isIntaBioProject(const Content &content)
+{
+    return hasIntaBioTrace(content) || content.workflowType() == WorkflowType::IcIefMs;
+}
+
+bool PropertyEditorUtils::isIntaBioProject(const QString &fileName)
+{
+    return holdsForProject(fileName, &PropertyEditorUtils::isIntaBioProject);
+}
+
+bool PropertyEditorUtils::isOstraleProject(const Content &content)
+{
+    return hasColumn(content, BaseItemType::Ostrale) ||
+           content.workflowType() == WorkflowType::DeNovoSequencing;
+}
+
+bool PropertyEditorUtils::isOstraleProject(const QString &fileName)
+{
+    return holdsForProject(fileName, &PropertyEditorUtils::isOstraleProject);
+}
+
+Result<QList<ResourceReferenceSPtr>> PropertyEditorUtils::msFilesFromDocumentWorkflow(const QString &fileName)
+{
+    Result<Content> content = readDocumentWorkflow(fileName);
+    if (!content)
+        return content.ecatch();
+    QList<ResourceReferenceSPtr> files;
+    for (const SamplesInput::Entry &sample : content->samplesAndTraces().samples.samples) {
+        if (sample.msFile)
+            files.append(sample.msFile);
+    }
+    return files;
+}
+
+} // namespace orv
