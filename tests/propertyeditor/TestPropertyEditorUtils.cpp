@@ -18,7 +18,7 @@ namespace {
 
 using Utils = PropertyEditorUtils;
 using Types = QList<BaseItemType>;
-using enum BaseItemType;
+using enum ORV_QEnumsBaseItemType::BaseItemType;
 
 /// "tab: column, column; tab: ..."
 QString shapeOf(const PropertyEditorContent &content)

@@ -17,7 +17,7 @@ namespace {
 
 QSet<BaseItemType> keptTypes(ApplicationType app)
 {
-    using enum BaseItemType;
+    using enum ORV_QEnumsBaseItemType::BaseItemType;
     static const QHash<ApplicationType, QSet<BaseItemType>> types = {
         {ApplicationType::Senthia, {Samples, Proteins, Senthia, Database, Isotope, Disulfide}},
         {ApplicationType::Karvon, {Samples, Proteins, Karvon}},

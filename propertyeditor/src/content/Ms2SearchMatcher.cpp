@@ -34,7 +34,7 @@ QList<ResourceReferenceSPtr> msFilesOf(const ResourceReferenceSPtr &result)
     const Result<QStringList> texts = getMSFilesFromKarvrslt(*path);
     if (!texts)
         warn(texts.error());
-    const QList<ResourceReferenceSPtr> files = ResourceReferenceUtils::fromStringList(texts.valueOr({}));
+    QList<ResourceReferenceSPtr> files = ResourceReferenceUtils::fromStringList(texts.valueOr({}));
     if (!files.isEmpty())
         return files;
     const auto filesOfProject = PropertyEditorUtils::msFilesFromDocumentWorkflow(*path);

@@ -208,9 +208,12 @@ void TestReadFile::aBeginningIsReadAlone_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QByteArray>("beginning");
 
-    QTest::newRow("empty") << ""_ba << ""_ba;
-    QTest::newRow("shorter") << "ab"_ba << "ab"_ba;
-    QTest::newRow("longer") << "abcd"_ba << "abc"_ba;
+    QTest::newRow("empty") << ""_ba
+                           << ""_ba;
+    QTest::newRow("shorter") << "ab"_ba
+                             << "ab"_ba;
+    QTest::newRow("longer") << "abcd"_ba
+                            << "abc"_ba;
 }
 
 void TestReadFile::aBeginningIsReadAlone()
