@@ -1,0 +1,7 @@
+#include <orv/propertyeditor/validators/AbstractValidator.h>
+
+namespace orv::PropertyEditor {
+
+AbstractValidator::~AbstractValidator() = default;
+
+} // namespace orv::PropertyEditor

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <orv/propertyeditor/validators/Finding.h>
+
+namespace orv::PropertyEditor {
+
+/// While it lives, hears what is noted on this thread. One inside another takes its place.
+class FindingNotes
+{
+public:
+    struct Note
+    {
+        QString message;
+        FindingPlace place;
+        QString hint;
+        QString rule;
+    };
+
+    FindingNotes();
+    ~FindingNotes();
+    Q_DISABLE_COPY_MOVE(FindingNotes)
+
+    void add(Note note) { m_notes.append(std::move(note)); }
+    /// Those with that message, in order; one without a place if there is none.
+    [[nodiscard]] QList<Note> notesOf(const QString &message) const;
+    void clear() { m_notes.clear(); }
+
+    [[nodiscard]] static FindingNotes *current();
+
+private:
+    FindingNotes *m_outer;
+    QList<Note> m_notes;
+};
+
+} // namespace orv::PropertyEditor
