@@ -3,6 +3,7 @@
 #include <QtGlobal>
 
 #ifdef Q_OS_UNIX
+#include <grp.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #endif
@@ -29,5 +30,18 @@ int inChildProcess(Check check)
 #else
     Q_UNUSED(check)
     return kChildNotSupported;
+#endif
+}
+
+/// Makes permissions bind: the superuser of a container reads and writes everything.
+inline bool becomeNobody()
+{
+#ifdef Q_OS_UNIX
+    constexpr unsigned kNobody = 65534;
+    if (geteuid() != 0)
+        return true;
+    return setgroups(0, nullptr) == 0 && setgid(kNobody) == 0 && setuid(kNobody) == 0;
+#else
+    return false;
 #endif
 }

@@ -10,7 +10,6 @@
 #include <QStringList>
 
 #ifdef Q_OS_UNIX
-#include <grp.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -38,19 +37,6 @@ inline bool makeFifo(const QString &path)
     return mkfifo(QFile::encodeName(path).constData(), 0600) == 0;
 #else
     Q_UNUSED(path)
-    return false;
-#endif
-}
-
-/// Makes permissions bind: the superuser of a container reads and writes everything.
-inline bool becomeNobody()
-{
-#ifdef Q_OS_UNIX
-    constexpr unsigned kNobody = 65534;
-    if (geteuid() != 0)
-        return true;
-    return setgroups(0, nullptr) == 0 && setgid(kNobody) == 0 && setuid(kNobody) == 0;
-#else
     return false;
 #endif
 }

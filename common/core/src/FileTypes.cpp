@@ -115,6 +115,13 @@ QStringList msDataSuffixes()
     return suffixes;
 }
 
+bool hasMsDataSuffix(const QString &path)
+{
+    const QStringList suffixes = msDataSuffixes();
+    return std::any_of(suffixes.begin(), suffixes.end(),
+                       [&path](const QString &suffix) { return PathUtils::hasExtension(path, suffix); });
+}
+
 QStringList fileSuffixesFromExtensionTypes(const QStringList &names)
 {
     QStringList result;

@@ -1,8 +1,5 @@
-#include <orv/core/PathUtils.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 #include <orv/resources/ResourceTypeChecker.h>
-
-#include <algorithm>
 
 namespace orv::ResourceTypeChecker {
 
@@ -13,10 +10,7 @@ bool matches(const ResourceReferenceSPtr &reference, FileType type)
 
 bool isMSFileType(const ResourceReferenceSPtr &reference)
 {
-    const QString name = ResourceReferenceUtils::localName(reference);
-    const QStringList suffixes = FileTypes::msDataSuffixes();
-    return std::any_of(suffixes.begin(), suffixes.end(),
-                       [&name](const QString &suffix) { return PathUtils::hasExtension(name, suffix); });
+    return FileTypes::hasMsDataSuffix(ResourceReferenceUtils::localName(reference));
 }
 
 bool isTolqFileType(const ResourceReferenceSPtr &reference)

@@ -77,6 +77,9 @@ inline constexpr FileType TXT = FileType::Text;
 /// recognises. One may hold a dot ("data.cut").
 [[nodiscard]] ORV_WORKFLOW_EXPORT QStringList msDataSuffixes();
 
+/// Whether the last name of \a path carries one of them, ignoring case. Doesn't touch the disk.
+[[nodiscard]] ORV_WORKFLOW_EXPORT bool hasMsDataSuffix(const QString &path);
+
 /// The suffixes of all named types, without repeats, in order; a name that is no type stands for itself, so
 /// that an option may name plain suffixes too.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QStringList fileSuffixesFromExtensionTypes(const QStringList &names);
