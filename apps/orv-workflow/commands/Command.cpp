@@ -50,6 +50,8 @@ const std::vector<CommandRow> &commandRows()
          "orv-workflow fasta study.wflw -o study.fasta", createFastaCommand},
         {"portable", "Gather a workflow and the files that its settings name in one folder",
          "orv-workflow portable study.wflw -o study.wflwp", createPortableCommand},
+        {"detect", "Tell the formats of mass-spectrometry files and folders",
+         "orv-workflow detect runs/*.raw runs/*.d", createDetectCommand},
         {"new", "Make a workflow with default contents",
          "orv-workflow new --name Check --cell Samples --cell Intact -o check.wflw", createNewCommand},
         {"properties", "Explain the settings that cells may hold", "orv-workflow properties 55",

@@ -52,6 +52,7 @@ struct CommandRow
 
 std::unique_ptr<Command> createInfoCommand();
 std::unique_ptr<Command> createConvertCommand();
+std::unique_ptr<Command> createDetectCommand();
 std::unique_ptr<Command> createDiffCommand();
 std::unique_ptr<Command> createFastaCommand();
 std::unique_ptr<Command> createGetCommand();

@@ -49,7 +49,7 @@ Error DataSourceLocation::checkValidVendorFilePath(const QString &path)
     if (FilePathUtils::isWinLongPath(path) && !FilePathUtils::hasWinLongPathPrefix(path)) {
         return Error(ErrorCode::InvalidContent,
                      Tr::tr("The path exceeds %1").arg(FilePathUtils::winMaxPathLength()))
-            .addDetail(Tr::tr("\"%1\" has %2 characters.").arg(path).arg(path.size()))
+            .addDetail(Tr::tr("It has %1 characters.").arg(path.size()))
             .addDetail(
                 Tr::tr(R"(Move the data into a shorter folder, or write "\\?\" in front of the path.)"));
     }

@@ -1,0 +1,122 @@
+#include "../Console.h"
+#include "../Failure.h"
+#include "Command.h"
+
+#include <orv/core_ms/MsFileInfo.h>
+
+#include <QFileInfo>
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+
+namespace orv::cli {
+
+namespace {
+
+using msreader::DataSourceLocation;
+using msreader::MsFileInfo;
+using msreader::VendorDataFormat;
+
+struct Answer
+{
+    QString path;
+    QStringList formats;
+    std::optional<Failure> failure;
+};
+
+/// Shells complete the name of a folder with a slash, which is no part of the name.
+DataSourceLocation locationOf(QString path)
+{
+    while (path.size() > 1 && path.endsWith(QLatin1Char('/')))
+        path.chop(1);
+    return DataSourceLocation::ofPath(path);
+}
+
+Answer answerFor(const QString &path, bool byName)
+{
+    Answer answer{path, {}, {}};
+    const DataSourceLocation location = locationOf(path);
+    const QSet<VendorDataFormat> found = MsFileInfo::detectFormat(location, byName, false);
+    QList<VendorDataFormat> formats(found.begin(), found.end());
+    std::sort(formats.begin(), formats.end());
+    for (VendorDataFormat format : std::as_const(formats))
+        answer.formats.append(msreader::vendorDataFormatToString(format));
+    if (const Error error = DataSourceLocation::checkValidVendorFilePath(location.localPath))
+        answer.failure = failureFrom(error, Negative);
+    return answer;
+}
+
+QJsonObject toJson(const Answer &answer)
+{
+    return {{QStringLiteral("path"), answer.path},
+            {QStringLiteral("formats"), QJsonArray::fromStringList(answer.formats)},
+            {QStringLiteral("error"), answer.failure ? QJsonValue(toJson(*answer.failure)) : QJsonValue()}};
+}
+
+class DetectCommand : public Command
+{
+public:
+    void declare(CLI::App &app) override
+    {
+        app.add_option("PATH", m_paths, "Files and folders of mass-spectrometry data")->required();
+        app.add_flag("--by-name", m_byName, "Go by the name alone and list all formats that it may mean");
+    }
+
+    int run(const GlobalOptions &options) override
+    {
+        QList<Answer> answers;
+        for (const QString &path : decoded(m_paths))
+            answers.append(answerFor(path, m_byName));
+        int exitCode = options.json ? printAnswersAsJson(answers) : printText(toText(answers));
+        for (const Answer &answer : std::as_const(answers)) {
+            if (answer.failure)
+                printFailure(answer.path, *answer.failure);
+            if (answer.failure || answer.formats.isEmpty())
+                exitCode = std::max<int>(exitCode, Negative);
+        }
+        return exitCode;
+    }
+
+private:
+    static int printAnswersAsJson(const QList<Answer> &answers)
+    {
+        QJsonArray array;
+        for (const Answer &answer : answers)
+            array.append(toJson(answer));
+        return printJson(array);
+    }
+
+    [[nodiscard]] QString toText(const QList<Answer> &answers) const
+    {
+        qsizetype width = 0;
+        for (const Answer &answer : answers)
+            width = std::max(width, answer.path.size());
+        QString text;
+        for (const Answer &answer : answers)
+            text += withoutControls(answer.path.leftJustified(width)) + QLatin1String("  ") +
+                    verdict(answer) + QLatin1Char('\n');
+        return text;
+    }
+
+    [[nodiscard]] QString verdict(const Answer &answer) const
+    {
+        if (!answer.formats.isEmpty())
+            return styled(answer.formats.join(QLatin1String(", ")), Style::Good);
+        const bool isMissing = !m_byName && !QFileInfo::exists(answer.path);
+        return styled(isMissing ? QStringLiteral("no such file or folder") : QStringLiteral("not recognised"),
+                      Style::Bad);
+    }
+
+    std::vector<std::string> m_paths;
+    bool m_byName = false;
+};
+
+} // namespace
+
+std::unique_ptr<Command> createDetectCommand()
+{
+    return std::make_unique<DetectCommand>();
+}
+
+} // namespace orv::cli
