@@ -53,6 +53,8 @@ inline constexpr std::array kFloors = {
     Floor{"propertyeditor/src/validators/", 33, "validators"},
     Floor{"propertyeditor/include/orv/propertyeditor/workflow/", 33, "workflow"},
     Floor{"propertyeditor/src/workflow/", 33, "workflow"},
+    Floor{"propertyeditor/include/orv/propertyeditor/engine/", 33, "engine"},
+    Floor{"propertyeditor/src/engine/", 33, "engine"},
     Floor{"common/widgets/", 40, "widgets"},
     Floor{"propertyeditor/include/orv/propertyeditor/grid/", 50, "grid"},
     Floor{"propertyeditor/src/grid/", 50, "grid"},

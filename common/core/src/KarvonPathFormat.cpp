@@ -1,0 +1,19 @@
+#include <orv/core/FilePathUtils.h>
+#include <orv/core/KarvonPathFormat.h>
+
+#include <QDir>
+
+namespace orv {
+
+QString toKarvonPathFormat(const QString &path)
+{
+    QString text = FilePathUtils::withoutWinLongPathPrefix(path);
+    if (FilePathUtils::hasDriveLetter(text) || FilePathUtils::isUncPath(text))
+        text.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    text = QDir::fromNativeSeparators(text);
+    text.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+    text.replace(QLatin1Char(':'), QLatin1String("\\:"));
+    return text;
+}
+
+} // namespace orv
