@@ -56,4 +56,18 @@ QString generateUniqueDestination(const QString &source, const QString &folder, 
     return QDir(folder).filePath(unique);
 }
 
+QString nameFromText(const QString &text)
+{
+    static const QString reserved = QStringLiteral("/\\:*?\"<>|");
+    constexpr QLatin1Char underscore('_');
+    QString name = text.isEmpty() ? QString(underscore) : text;
+    for (QChar &c : name) {
+        if (reserved.contains(c) || c.category() == QChar::Other_Control)
+            c = underscore;
+    }
+    for (auto c = name.rbegin(); c != name.rend() && (*c == QLatin1Char('.') || c->isSpace()); ++c)
+        *c = underscore;
+    return name;
+}
+
 } // namespace orv::FileNameUtils

@@ -6,7 +6,10 @@
 #include <QLocale>
 #include <QSaveFile>
 
+#include <atomic>
 #include <cerrno>
+#include <filesystem>
+#include <system_error>
 
 #ifdef Q_OS_LINUX
 #include <linux/fs.h>
@@ -75,6 +78,28 @@ bool shareBlocks(const QFile &from, const QFile &to)
     Q_UNUSED(to)
     return false;
 #endif
+}
+/// A rename would put a file in the place of a pipe or device, /dev/null for one.
+QString refusalToWrite(const QString &path)
+{
+    const QFileInfo target(path);
+    if (path.isEmpty())
+        return emptyName();
+    return target.exists() && !target.isFile() && !target.isDir() ? notRegular() : QString();
+}
+
+QFileDevice::FileError failed(QFileDevice::FileError error, const QString &reason, QString *errorText)
+{
+    if (errorText)
+        *errorText = reason;
+    return error;
+}
+
+/// A name beside \a path that no other thread or program takes.
+QString nameBeside(const QString &path)
+{
+    static std::atomic<quint32> count = 0;
+    return QStringLiteral("%1.%2-%3").arg(path).arg(QCoreApplication::applicationPid()).arg(count++);
 }
 
 std::optional<CopyFailure> copyBytes(QFile &from, QFile &to, const CopyProgress &progress)
@@ -172,13 +197,8 @@ std::optional<CopyFailure> copyFile(const QString &source, const QString &destin
 
 QFileDevice::FileError writeToFile(const QString &path, const QByteArray &bytes, QString *errorText)
 {
-    const QFileInfo target(path);
-    if (path.isEmpty() || (target.exists() && !target.isFile() && !target.isDir())) {
-        // A rename would put a file in the place of the pipe or device, /dev/null for one.
-        if (errorText)
-            *errorText = path.isEmpty() ? emptyName() : notRegular();
-        return QFileDevice::OpenError;
-    }
+    if (const QString refusal = refusalToWrite(path); !refusal.isEmpty())
+        return failed(QFileDevice::OpenError, refusal, errorText);
     QSaveFile file(path);
     errno = 0;
     // Without the flush a disk that is full shows only inside commit(), which renames the cut file all the
@@ -194,6 +214,37 @@ QFileDevice::FileError writeToFile(const QString &path, const QByteArray &bytes,
     if (errorText)
         *errorText = reasonKnown || systemError == 0 ? file.errorString() : qt_error_string(systemError);
     return error == QFileDevice::NoError ? QFileDevice::WriteError : error;
+}
+
+QFileDevice::FileError writeReproducibleFile(const QString &path, const QByteArray &bytes, QString *errorText)
+{
+    if (const QString refusal = refusalToWrite(path); !refusal.isEmpty())
+        return failed(QFileDevice::OpenError, refusal, errorText);
+    const QFileInfo named(path);
+    const QString target = named.isSymLink() ? named.symLinkTarget() : path;
+    const QFileInfo old(target);
+    if (old.exists() && !old.isWritable())
+        return failed(QFileDevice::OpenError, qt_error_string(EACCES), errorText);
+
+    QFile file(nameBeside(target));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+        return failed(QFileDevice::OpenError, file.errorString(), errorText);
+    std::error_code renameError;
+    const bool written = file.write(bytes) == bytes.size();
+    file.close();
+    if (written && file.error() == QFileDevice::NoError &&
+        (!old.exists() || file.setPermissions(old.permissions())))
+        std::filesystem::rename(file.filesystemFileName(), QFileInfo(target).filesystemFilePath(),
+                                renameError);
+    else
+        renameError = std::make_error_code(std::errc::io_error);
+    if (!renameError)
+        return QFileDevice::NoError;
+    const QString reason = file.error() == QFileDevice::NoError
+                               ? QString::fromStdString(renameError.message())
+                               : file.errorString();
+    file.remove();
+    return failed(QFileDevice::WriteError, reason, errorText);
 }
 
 } // namespace orv::FileUtils

@@ -29,6 +29,8 @@ private Q_SLOTS:
     void theLongPathRulesOfWindowsHoldEverywhere();
     void windowsPathsAreTold_data();
     void windowsPathsAreTold();
+    void namesAreMadeOfTexts_data();
+    void namesAreMadeOfTexts();
 };
 
 void TestPaths::extensionsAreThoseOfTheLastName_data()
@@ -276,6 +278,26 @@ void TestPaths::windowsPathsAreTold()
     QTEST(FilePathUtils::withoutWinLongPathPrefix(path), "withoutPrefix");
     QTEST(FilePathUtils::hasDriveLetter(path), "hasDriveLetter");
     QTEST(FilePathUtils::isUncPath(path), "isUnc");
+}
+
+void TestPaths::namesAreMadeOfTexts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("plain") << u"mAb 4 weeks 40 \u00b0C"_s << u"mAb 4 weeks 40 \u00b0C"_s;
+    QTest::newRow("separators") << u"../a/b\\c"_s << u".._a_b_c"_s;
+    QTest::newRow("what Windows reserves") << u"a:b*c?d\"e<f>g|h"_s << u"a_b_c_d_e_f_g_h"_s;
+    QTest::newRow("control characters") << u"a\nb\tc"_s << u"a_b_c"_s;
+    QTest::newRow("end") << u"a. ."_s << u"a___"_s;
+    QTest::newRow("dots") << u".."_s << u"__"_s;
+    QTest::newRow("empty") << u""_s << u"_"_s;
+}
+
+void TestPaths::namesAreMadeOfTexts()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, name);
+    QCOMPARE(FileNameUtils::nameFromText(text), name);
 }
 
 ORV_REGISTER_TEST(TestPaths)

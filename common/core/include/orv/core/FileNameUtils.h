@@ -14,4 +14,9 @@ namespace orv::FileNameUtils {
                                                                     const QString &folder,
                                                                     const QStringList &reserved = {});
 
+/// \a text, such as the name of a sample, as the name of a file on every system: characters that mean
+/// something in paths, control characters, and blanks and dots at the end become underscores, and so does an
+/// empty text. Different texts may give one name.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QString nameFromText(const QString &text);
+
 } // namespace orv::FileNameUtils

@@ -56,4 +56,10 @@ using CopyProgress = std::function<void(qint64 done, qint64 total)>;
 [[nodiscard]] ORV_WORKFLOW_EXPORT std::optional<CopyFailure>
 copyFile(const QString &source, const QString &destination, const CopyProgress &progress = {});
 
+/// As writeToFile, for files that can be made again and are many: the system decides when the bytes reach the
+/// disk, which takes a tenth of the time. A program that ends, a full disk and any failure leave the old file
+/// as it was; after a power failure a file may be empty.
+ORV_WORKFLOW_EXPORT QFileDevice::FileError writeReproducibleFile(const QString &path, const QByteArray &bytes,
+                                                                 QString *errorText = nullptr);
+
 } // namespace orv::FileUtils
