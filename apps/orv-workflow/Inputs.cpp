@@ -86,23 +86,6 @@ DocumentOrFailure readDocument(const QString &argument)
     return *document;
 }
 
-std::variant<LoadedWorkflow, Failure> loadWorkflow(const QString &argument)
-{
-    const DocumentOrFailure document = readDocument(argument);
-    if (const auto *failure = std::get_if<Failure>(&document))
-        return *failure;
-    LoadedWorkflow workflow;
-    LossCollector losses;
-    workflow.content.setLossObserver(&losses);
-    const Error error = workflow.content.assignFromJson(std::get<QJsonObject>(document),
-                                                        PropertyEditor::ValidationOption::SkipTypeValidation);
-    workflow.content.setLossObserver(nullptr);
-    if (error.hasError())
-        return failureFrom(error, BadInput);
-    workflow.lost = losses.losses();
-    return workflow;
-}
-
 QList<BatchInput> batchInputs(const QStringList &arguments)
 {
     QList<BatchInput> inputs;

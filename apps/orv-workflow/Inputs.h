@@ -2,9 +2,6 @@
 
 #include "Failure.h"
 
-#include <orv/core/LossObserver.h>
-#include <orv/propertyeditor/content/Content.h>
-
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
@@ -29,16 +26,6 @@ inline constexpr QLatin1String kStandardInput("-");
 
 /// The JSON object of a workflow: from a file, a portable folder or standard input.
 [[nodiscard]] DocumentOrFailure readDocument(const QString &argument);
-
-/// A workflow in objects, and what its load dropped.
-struct LoadedWorkflow
-{
-    PropertyEditor::Content content;
-    QList<Loss> lost;
-};
-
-/// A workflow as objects, cells of unknown types included.
-[[nodiscard]] std::variant<LoadedWorkflow, Failure> loadWorkflow(const QString &argument);
 
 /// One input of a batch, or an argument that names none.
 struct BatchInput

@@ -7,6 +7,18 @@
 
 namespace orv::cli {
 
+namespace {
+
+std::optional<Failure> failureOf(QFileDevice::FileError error, const QString &deviceError)
+{
+    if (error == QFileDevice::NoError)
+        return {};
+    return Failure{BadOutput, int(ErrorCode::CannotOpenFile),
+                   QStringLiteral("The file can't be written: %1").arg(deviceError)};
+}
+
+} // namespace
+
 std::optional<Failure> writeOutput(const QString &output, const QByteArray &bytes)
 {
     if (output == kStandardInput) {
@@ -15,10 +27,13 @@ std::optional<Failure> writeOutput(const QString &output, const QByteArray &byte
         return Failure{BadOutput, 0, QStringLiteral("The standard output can't be written.")};
     }
     QString deviceError;
-    if (FileUtils::writeToFile(output, bytes, &deviceError) == QFileDevice::NoError)
-        return {};
-    return Failure{BadOutput, int(ErrorCode::CannotOpenFile),
-                   QStringLiteral("The file can't be written: %1").arg(deviceError)};
+    return failureOf(FileUtils::writeToFile(output, bytes, &deviceError), deviceError);
+}
+
+std::optional<Failure> writeReproducibleOutput(const QString &path, const QByteArray &bytes)
+{
+    QString deviceError;
+    return failureOf(FileUtils::writeReproducibleFile(path, bytes, &deviceError), deviceError);
 }
 
 } // namespace orv::cli

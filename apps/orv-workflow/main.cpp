@@ -82,6 +82,7 @@ int main(int argc, char *argv[])
     const QCoreApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("orv"));
     QCoreApplication::setApplicationName(QStringLiteral("orv-workflow"));
+    QCoreApplication::setApplicationVersion(libraryVersion());
 
     Program program;
     declareGlobalOptions(program);

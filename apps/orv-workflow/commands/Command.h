@@ -65,6 +65,10 @@ std::unique_ptr<Command> createSchemaCommand();
 std::unique_ptr<Command> createSetCommand();
 std::unique_ptr<Command> createTableCommand();
 std::unique_ptr<Command> createTypesCommand();
+std::unique_ptr<Command> createXenosetCommand();
+std::unique_ptr<Command> createReadXenosetCommand();
+std::unique_ptr<Command> createPrvCommand();
+std::unique_ptr<Command> createReadPrvCommand();
 
 /// The argument as it may be given to the parser, which takes "[a,b]" apart as a list: such a path gets a
 /// mark in front, and decoded() takes it away.

@@ -1,5 +1,6 @@
 #include "../Console.h"
 #include "../Inputs.h"
+#include "../LoadedWorkflow.h"
 #include "../Losses.h"
 #include "../Progress.h"
 #include "Command.h"
@@ -112,12 +113,12 @@ private:
             return *failure;
         const auto &workflow = std::get<LoadedWorkflow>(loaded);
         printLosses(file, workflow.lost);
-        if (std::optional<Failure> refusal = refuseToWipe(folder, workflow.content))
+        if (std::optional<Failure> refusal = refuseToWipe(folder, *workflow.content))
             return refusal;
         QString error;
         SaveProgress progress(options.progress || standardErrorIsTerminal());
-        const bool isSaved =
-            WflwUtils::saveAsPortableWorkflow(workflow.content, folder, folderUrlOf(file), &error, &progress);
+        const bool isSaved = WflwUtils::saveAsPortableWorkflow(*workflow.content, folder, folderUrlOf(file),
+                                                               &error, &progress);
         copied = progress.names();
         if (isSaved)
             return {};

@@ -1,5 +1,6 @@
 #include "../Console.h"
 #include "../Inputs.h"
+#include "../LoadedWorkflow.h"
 #include "../Losses.h"
 #include "Command.h"
 
@@ -42,7 +43,7 @@ public:
         }
         const auto &workflow = std::get<LoadedWorkflow>(loaded);
         printLosses(decoded(m_file), workflow.lost);
-        const QList<Finding> findings = findingsIn(workflow.content);
+        const QList<Finding> findings = findingsIn(*workflow.content);
         const bool isMissing = std::any_of(findings.begin(), findings.end(),
                                            [](const Finding &finding) { return finding.exists == false; });
         const int printed = options.json ? printJson(json(findings, {})) : printText(text(findings));

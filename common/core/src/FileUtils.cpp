@@ -95,6 +95,19 @@ QFileDevice::FileError failed(QFileDevice::FileError error, const QString &reaso
     return error;
 }
 
+/// Why it can't be written; empty when all of it was. A part that was written hides the reason why the rest
+/// was not.
+QString writeAll(QFile &file, QByteArrayView bytes)
+{
+    while (!bytes.isEmpty()) {
+        const qint64 count = file.write(bytes.data(), bytes.size());
+        if (count <= 0)
+            return file.errorString();
+        bytes = bytes.sliced(count);
+    }
+    return {};
+}
+
 /// A name beside \a path that no other thread or program takes.
 QString nameBeside(const QString &path)
 {
@@ -229,20 +242,17 @@ QFileDevice::FileError writeReproducibleFile(const QString &path, const QByteArr
     QFile file(nameBeside(target));
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
         return failed(QFileDevice::OpenError, file.errorString(), errorText);
-    std::error_code renameError;
-    const bool written = file.write(bytes) == bytes.size();
+    QString reason = writeAll(file, bytes);
     file.close();
-    if (written && file.error() == QFileDevice::NoError &&
-        (!old.exists() || file.setPermissions(old.permissions())))
-        std::filesystem::rename(file.filesystemFileName(), QFileInfo(target).filesystemFilePath(),
-                                renameError);
-    else
-        renameError = std::make_error_code(std::errc::io_error);
-    if (!renameError)
-        return QFileDevice::NoError;
-    const QString reason = file.error() == QFileDevice::NoError
-                               ? QString::fromStdString(renameError.message())
-                               : file.errorString();
+    if (reason.isEmpty() && old.exists() && !file.setPermissions(old.permissions()))
+        reason = file.errorString();
+    if (reason.isEmpty()) {
+        std::error_code renameError;
+        std::filesystem::rename(file.filesystemFileName(), old.filesystemFilePath(), renameError);
+        if (!renameError)
+            return QFileDevice::NoError;
+        reason = QString::fromStdString(renameError.message());
+    }
     file.remove();
     return failed(QFileDevice::WriteError, reason, errorText);
 }

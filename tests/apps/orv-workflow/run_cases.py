@@ -6,8 +6,8 @@ usage: run_cases.py PROGRAM [--update] [CASE...]
 A case is a folder below cases/ with a file "command" (a shell command; "orv-workflow" is the program), the expected
 "stdout" and "stderr" (a missing file means empty) and "exit" (missing means 0). Other files of the folder are copied
 to the empty folder in which the command runs; "examples" and "versions" there are links to the example workflows and
-the version fixtures. Times of stamps are replaced by TIME, the user by USER and
-the folder by WORK. --update writes the expectations.
+the version fixtures. Times of stamps are replaced by TIME, the user by USER, the
+folder by WORK, and what the head of a parameter file tells of the system by SYSTEM. --update writes the expectations.
 """
 import getpass
 import os
@@ -27,6 +27,7 @@ USER = subprocess.run(["id", "-un"], capture_output=True, text=True).stdout.stri
 def masked(text, work):
     text = text.replace(os.path.realpath(work), "WORK").replace(str(work), "WORK")
     text = re.sub(r"\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d", "TIME", text)
+    text = re.sub(r"^(#(?:Build info|OS Arch|OS Name): ).+$", r"\1SYSTEM", text, flags=re.MULTILINE)
     return re.sub(r'(user\\?":\\?"|"user": ")' + re.escape(USER) + r'(\\?")', r"\1USER\2", text)
 
 

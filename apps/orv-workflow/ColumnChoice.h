@@ -1,0 +1,41 @@
+#pragma once
+
+#include "LoadedWorkflow.h"
+
+#include <orv/propertyeditor/content/KeyValueItem.h>
+
+#include <QSet>
+
+#include <string>
+
+namespace CLI {
+class App;
+}
+
+namespace orv::cli {
+
+/// A cell of settings and the column in which it lies.
+struct ChosenCell
+{
+    QString column;
+    const PropertyEditor::KeyValueItem *item = nullptr; ///< owned by the workflow
+};
+
+/// The options that choose one of several cells of a kind; without them all are meant.
+class ColumnChoice
+{
+public:
+    void declare(CLI::App &app);
+
+    /// The chosen cells of these types, in tree order. Wrong usage for a place that there isn't, and a
+    /// negative answer where the workflow or the place holds no such cell.
+    [[nodiscard]] std::variant<QList<ChosenCell>, Failure> cells(const LoadedWorkflow &workflow,
+                                                                 const QSet<BaseItemType> &types) const;
+
+private:
+    std::string m_tab;
+    std::string m_column;
+    int m_row = 0;
+};
+
+} // namespace orv::cli

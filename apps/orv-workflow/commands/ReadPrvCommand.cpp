@@ -1,0 +1,87 @@
+#include "../Console.h"
+#include "../Failure.h"
+#include "Command.h"
+
+#include <orv/propertyeditor/engine/PreviewPreset.h>
+
+#include <CLI/CLI.hpp>
+
+namespace orv::cli {
+
+namespace {
+
+using Field = QPair<const char *, QJsonValue>;
+
+QList<Field> fieldsOf(const PreviewPreset::Content &content)
+{
+    return {{"databaseFiles", content.databaseFiles},
+            {"spectraFiles", content.spectraFiles},
+            {"outputFolder", content.outputFolder},
+            {"argMod", content.argMod},
+            {"cTermMod", content.cTermMod},
+            {"cysMod", content.cysMod},
+            {"lysMod", content.lysMod},
+            {"nTermMod", content.nTermMod},
+            {"digestLetters", content.digestLetters},
+            {"wildcard", content.wildcard},
+            {"phosphoSearch", content.phosphoSearch},
+            {"allCharges", content.allCharges},
+            {"fragType", content.fragType},
+            {"digestSide", content.digestSide},
+            {"digestType", content.digestType}};
+}
+
+QString toText(const PreviewPreset::Content &content)
+{
+    QString text;
+    for (const auto &[name, value] : fieldsOf(content)) {
+        const QString line = QStringLiteral("%1 %2")
+                                 .arg(QLatin1String(name), -14)
+                                 .arg(withoutControls(value.toVariant().toString()));
+        text += line.trimmed() + QLatin1Char('\n');
+    }
+    return text;
+}
+
+QJsonObject toJson(const PreviewPreset::Content &content)
+{
+    QJsonObject json{{QStringLiteral("error"), QJsonValue()}};
+    for (const auto &[name, value] : fieldsOf(content))
+        json.insert(QLatin1String(name), value);
+    return json;
+}
+
+class ReadPrvCommand : public Command
+{
+public:
+    void declare(CLI::App &app) override
+    {
+        app.add_option("PATH", m_path, "Parameter file of the preview engine")->required();
+    }
+
+    int run(const GlobalOptions &options) override
+    {
+        const QString path = decoded(m_path);
+        const Result<PreviewPreset::Content> content = PreviewPreset::Content::fromPreviewPresetFile(path);
+        if (!content.hasError())
+            return options.json ? printJson(toJson(*content)) : printText(toText(*content));
+        const Failure failure = failureFrom(content.error(), BadInput);
+        printFailure(path, failure);
+        const int printed = options.json
+                                ? printJson(QJsonObject{{QStringLiteral("error"), orv::cli::toJson(failure)}})
+                                : Done;
+        return std::max<int>(failure.exitCode, printed);
+    }
+
+private:
+    std::string m_path;
+};
+
+} // namespace
+
+std::unique_ptr<Command> createReadPrvCommand()
+{
+    return std::make_unique<ReadPrvCommand>();
+}
+
+} // namespace orv::cli

@@ -1,0 +1,263 @@
+#include "../Batch.h"
+#include "../ColumnChoice.h"
+#include "../Console.h"
+#include "../Inputs.h"
+#include "../Losses.h"
+#include "../Output.h"
+#include "../Progress.h"
+#include "Command.h"
+
+#include <orv/core/FileNameUtils.h>
+#include <orv/core/SysUtils.h>
+#include <orv/propertyeditor/engine/KarvonPresetCreator.h>
+
+#include <QDir>
+#include <QHash>
+
+#include <CLI/CLI.hpp>
+
+namespace orv::cli {
+
+namespace {
+
+constexpr QLatin1String kSuffix(".xenoset");
+/// Names of samples in a remark; a study has hundreds.
+constexpr qsizetype kNamedSamples = 3;
+
+/// A parameter file of one sample and one column.
+struct ParameterFile
+{
+    QString sample;
+    QString column;
+    std::shared_ptr<const KarvonPresetCreator> creator;
+    QString path;                            ///< empty for standard output
+    QByteArray text;                         ///< kept where it is to be printed
+    std::optional<QString> spectraFile = {}; ///< nothing where it can't be had
+    std::optional<Failure> failure = {};
+};
+
+using Files = std::vector<ParameterFile>;
+
+QJsonObject toJson(const ParameterFile &file)
+{
+    QJsonObject json{
+        {QStringLiteral("sample"), file.sample},
+        {QStringLiteral("column"), file.column},
+        {QStringLiteral("path"), file.path.isEmpty() || file.failure ? QJsonValue() : QJsonValue(file.path)},
+        {QStringLiteral("spectraFile"), file.spectraFile ? QJsonValue(*file.spectraFile) : QJsonValue()},
+        {QStringLiteral("error"), file.failure ? QJsonValue(toJson(*file.failure)) : QJsonValue()}};
+    if (file.path.isEmpty())
+        json.insert(QStringLiteral("text"), QString::fromUtf8(file.text));
+    return json;
+}
+
+/// The first two files that would be written to one path.
+std::optional<Failure> clash(const Files &files)
+{
+    QHash<QString, const ParameterFile *> byPath;
+    for (const ParameterFile &file : files) {
+        const ParameterFile *&other = byPath[file.path];
+        if (!other) {
+            other = &file;
+            continue;
+        }
+        return Failure{
+            Negative, 0,
+            QStringLiteral("\"%1\" would be written for the sample \"%2\" of the column \"%3\" and "
+                           "for the sample \"%4\" of the column \"%5\": nothing was written. Give "
+                           "them names that differ, or choose one column.")
+                .arg(file.path, other->sample, other->column, file.sample, file.column)};
+    }
+    return {};
+}
+
+class XenosetCommand : public Command
+{
+public:
+    void declare(CLI::App &app) override
+    {
+        app.add_option("FILE", m_file, "Workflow file, portable workflow folder, or - for standard input")
+            ->required();
+        CLI::Option *sample = app.add_option("--sample", m_sample, "Write the file of this sample");
+        CLI::Option *all = app.add_flag("--all", m_all, "Write a file for every sample");
+        sample->excludes(all);
+        app.add_option("--database", m_database, "Sequence database that the files name (default: none)");
+        m_columns.declare(app);
+        app.add_option("-o,--output", m_output,
+                       "File to write (default: standard output), or with --all the folder");
+        app.add_option("--jobs", m_jobs, "Threads (default: all cores)")->check(CLI::Range(1, 1024));
+    }
+
+    int run(const GlobalOptions &options) override
+    {
+        if (m_sample.empty() != m_all ||
+            (m_all && (m_output.empty() || decoded(m_output) == kStandardInput))) {
+            printRemark(QStringLiteral("xenoset"),
+                        QStringLiteral("Give --sample NAME, or --all with -o FOLDER."));
+            return WrongUsage;
+        }
+        const auto workflow = loadResolvedWorkflow(decoded(m_file));
+        if (const auto *failure = std::get_if<Failure>(&workflow))
+            return report({}, *failure, options);
+        const auto &loaded = std::get<LoadedWorkflow>(workflow);
+        printLosses(decoded(m_file), loaded.lost);
+        auto files = m_all ? filesOfAll(loaded) : fileOfOne(loaded);
+        if (const auto *failure = std::get_if<Failure>(&files))
+            return report({}, *failure, options);
+        make(std::get<Files>(files), options);
+        return report(std::get<Files>(files), missingSample(*loaded.content), options);
+    }
+
+private:
+    using FilesOrFailure = std::variant<Files, Failure>;
+
+    static std::shared_ptr<const KarvonPresetCreator> creatorOf(const LoadedWorkflow &workflow,
+                                                                const ChosenCell &cell)
+    {
+        return std::make_shared<const KarvonPresetCreator>(*workflow.content, *cell.item);
+    }
+
+    [[nodiscard]] FilesOrFailure fileOfOne(const LoadedWorkflow &workflow) const
+    {
+        const auto cells = m_columns.cells(workflow, {BaseItemType::Karvon});
+        if (const auto *failure = std::get_if<Failure>(&cells))
+            return *failure;
+        const auto &found = std::get<QList<ChosenCell>>(cells);
+        if (found.size() > 1) {
+            return Failure{WrongUsage, 0,
+                           QStringLiteral("The workflow has %1 cells with settings of a search; choose one "
+                                          "with --tab and --column, or write all with --all.")
+                               .arg(found.size())};
+        }
+        const QString output = decoded(m_output);
+        const QString path = output == kStandardInput ? QString() : output;
+        return Files{{decoded(m_sample), found.first().column, creatorOf(workflow, found.first()), path, {}}};
+    }
+
+    [[nodiscard]] FilesOrFailure filesOfAll(const LoadedWorkflow &workflow) const
+    {
+        const auto cells = m_columns.cells(workflow, {BaseItemType::Karvon});
+        if (const auto *failure = std::get_if<Failure>(&cells))
+            return *failure;
+        const QStringList samples = workflow.content->sampleNames();
+        if (samples.isEmpty())
+            return Failure{Negative, 0, QStringLiteral("The workflow has no samples.")};
+        const auto &found = std::get<QList<ChosenCell>>(cells);
+        const QDir folder(decoded(m_output));
+        Files files;
+        for (const ChosenCell &cell : found) {
+            const auto creator = creatorOf(workflow, cell);
+            const QString column = found.size() > 1 ? QLatin1Char('.') + cell.column : QString();
+            for (const QString &sample : samples) {
+                const QString name = FileNameUtils::nameFromText(sample + column) + kSuffix;
+                files.push_back({sample, cell.column, creator, folder.filePath(name), {}});
+            }
+        }
+        if (const std::optional<Failure> failure = clash(files))
+            return *failure;
+        if (!QDir().mkpath(folder.path())) {
+            return Failure{BadOutput, int(ErrorCode::CannotOpenFile),
+                           QStringLiteral("The folder \"%1\" can't be made.").arg(folder.path())};
+        }
+        return files;
+    }
+
+    void make(Files &files, const GlobalOptions &options) const
+    {
+        const QString database = decoded(m_database);
+        Progress progress(options.progress || standardErrorIsTerminal(), qsizetype(files.size()));
+        runBatch(qsizetype(files.size()), m_jobs, progress, [&](qsizetype i) {
+            ParameterFile &file = files[size_t(i)];
+            if (const Result<QString> spectra = file.creator->spectraFileOf(file.sample))
+                file.spectraFile = *spectra;
+            file.text = file.creator->presetForSample(file.sample, database);
+            if (file.path.isEmpty())
+                return;
+            file.failure = writeReproducibleOutput(file.path, file.text);
+            file.text.clear();
+        });
+    }
+
+    [[nodiscard]] std::optional<Failure> missingSample(const PropertyEditor::Content &content) const
+    {
+        if (m_all || content.sampleNames().contains(decoded(m_sample)))
+            return {};
+        return Failure{Negative, 0,
+                       QStringLiteral("The workflow has no sample \"%1\"; its file names no spectra.")
+                           .arg(decoded(m_sample))};
+    }
+
+    /// What can't be searched, as its spectra aren't here.
+    void remarkMissingSpectra(const Files &files) const
+    {
+        QStringList missing;
+        for (const ParameterFile &file : files) {
+            if (!file.spectraFile && !missing.contains(file.sample))
+                missing.append(file.sample);
+        }
+        if (missing.isEmpty())
+            return;
+        const bool areMany = missing.size() > kNamedSamples;
+        const QString names = missing.first(qMin(missing.size(), kNamedSamples)).join(QLatin1String(", "));
+        printRemark(
+            decoded(m_file),
+            QStringLiteral("The spectra of %1 can't be reached from here; the key SpectraFiles is empty.")
+                .arg(areMany ? QStringLiteral("%1 and %2 more samples")
+                                   .arg(names)
+                                   .arg(missing.size() - kNamedSamples)
+                             : names));
+    }
+
+    int report(const Files &files, const std::optional<Failure> &failure, const GlobalOptions &options) const
+    {
+        const QString source = decoded(m_file);
+        int exitCode = failure ? failure->exitCode : Done;
+        std::optional<Failure> first = failure;
+        if (failure)
+            printFailure(source, *failure);
+        else
+            remarkMissingSpectra(files);
+        QJsonArray array;
+        qsizetype written = 0;
+        for (const ParameterFile &file : files) {
+            array.append(toJson(file));
+            written += file.failure || file.path.isEmpty() ? 0 : 1;
+            if (!file.failure)
+                continue;
+            printFailure(file.path, *file.failure);
+            exitCode = std::max<int>(exitCode, file.failure->exitCode);
+            if (!first)
+                first = file.failure;
+        }
+        const QJsonValue error = first ? QJsonValue(orv::cli::toJson(*first)) : QJsonValue();
+        return std::max(exitCode, options.json ? printJson(QJsonObject{{QStringLiteral("files"), array},
+                                                                       {QStringLiteral("error"), error}})
+                                               : printPlain(files, written));
+    }
+
+    [[nodiscard]] int printPlain(const Files &files, qsizetype written) const
+    {
+        if (files.size() == 1 && files.front().path.isEmpty())
+            return printBytes(files.front().text);
+        if (!m_all || written == 0)
+            return Done;
+        return printText(QStringLiteral("%1 parameter files in %2\n").arg(written).arg(decoded(m_output)));
+    }
+
+    std::string m_file;
+    std::string m_sample;
+    std::string m_database;
+    std::string m_output;
+    ColumnChoice m_columns;
+    int m_jobs = SysUtils::cpuCoresNumber();
+    bool m_all = false;
+};
+
+} // namespace
+
+std::unique_ptr<Command> createXenosetCommand()
+{
+    return std::make_unique<XenosetCommand>();
+}
+
+} // namespace orv::cli
