@@ -44,4 +44,11 @@ namespace FormChecks {
 /// word.
 [[nodiscard]] QString checkRules(const QByteArray &bytes);
 
+/// A parameter file of the search engine is refused with a place, or its settings are written into a file
+/// that reads back as them.
+[[nodiscard]] QString checkXenoset(const QByteArray &bytes);
+
+/// A parameter file of the preview engine reads back as it is written.
+[[nodiscard]] QString checkPrv(const QByteArray &bytes);
+
 } // namespace FormChecks

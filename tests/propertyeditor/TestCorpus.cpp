@@ -46,6 +46,10 @@ private Q_SLOTS:
     void settingsAreRefusedOrReadBackEqual() { run(FormChecks::checkPropertySet); }
     void rulesRefuseWithAWord_data() { addFiles(); }
     void rulesRefuseWithAWord() { run(FormChecks::checkRules); }
+    void parameterFilesOfTheSearchAreRefusedOrReadBackEqual_data() { addFiles(); }
+    void parameterFilesOfTheSearchAreRefusedOrReadBackEqual() { run(FormChecks::checkXenoset); }
+    void parameterFilesOfThePreviewReadBackEqual_data() { addFiles(); }
+    void parameterFilesOfThePreviewReadBackEqual() { run(FormChecks::checkPrv); }
 
 private:
     static void addFiles();
@@ -73,8 +77,8 @@ void TestCorpus::run(QString (*check)(const QByteArray &))
 void TestCorpus::everyFuzzerHasSeeds_data()
 {
     QTest::addColumn<QString>("folder");
-    for (const char *folder : {"chemistry", "csv", "fasta", "json", "object_form", "property_set",
-                               "reference", "row_node", "rules", "samples", "value_form"})
+    for (const char *folder : {"chemistry", "csv", "fasta", "json", "object_form", "property_set", "prv",
+                               "reference", "row_node", "rules", "samples", "value_form", "xenoset"})
         QTest::newRow(folder) << QString::fromLatin1(folder);
 }
 

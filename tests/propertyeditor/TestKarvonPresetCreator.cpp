@@ -7,6 +7,7 @@
 #include <orv/resources/ResourceManager.h>
 
 #include <QDateTime>
+#include <QLoggingCategory>
 #include <QRegularExpression>
 #include <QSysInfo>
 
@@ -55,6 +56,7 @@ private Q_SLOTS:
     void massUnits_data();
     void massUnits();
     void aMassErrorWithoutObjectHasItsDefault();
+    void massErrorsAreLoggedAsDebug();
     void wordsForSwitchesBecomeDigits_data();
     void wordsForSwitchesBecomeDigits();
     void lineBreaksBecomeMarks_data();
@@ -247,6 +249,17 @@ void TestKarvonPresetCreator::aMassErrorWithoutObjectHasItsDefault()
     const QByteArray unitAlone = fileOf({entry(55, QJsonObject{{u"unit"_s, u"Da"_s}})});
     QCOMPARE(valueOf(unitAlone, "fragment_mass_error"), u"0"_s);
     QCOMPARE(valueOf(unitAlone, "fragment_unit"), u"1"_s);
+}
+
+void TestKarvonPresetCreator::massErrorsAreLoggedAsDebug()
+{
+    QLoggingCategory::setFilterRules(u"orv.property_editor.debug=true"_s);
+    const LogCapture log;
+    (void)fileOf({entry(80, mass(0.5, u"mmu"_s))});
+    QLoggingCategory::setFilterRules({});
+    const QStringList lines = log.texts(QtDebugMsg).filter(u"Mass error of property"_s);
+    QCOMPARE(lines.size(), 3);
+    QVERIFY2(lines.at(2).contains(u"mmu"_s) && lines.at(2).contains(u"ppm"_s), qPrintable(lines.at(2)));
 }
 
 void TestKarvonPresetCreator::wordsForSwitchesBecomeDigits_data()
