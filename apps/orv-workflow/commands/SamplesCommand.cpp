@@ -3,6 +3,7 @@
 #include "Command.h"
 
 #include <orv/propertyeditor/PropertiesGetter.h>
+#include <orv/propertyeditor/content/PropertyEditorContent.h>
 
 #include <CLI/CLI.hpp>
 
