@@ -170,7 +170,7 @@ private:
             ParameterFile &file = files[size_t(i)];
             if (const Result<QString> spectra = file.creator->spectraFileOf(file.sample))
                 file.spectraFile = *spectra;
-            file.text = file.creator->presetForSample(file.sample, database);
+            file.text = file.creator->presetForSpectra(file.spectraFile.value_or(QString()), database);
             if (file.path.isEmpty())
                 return;
             file.failure = writeReproducibleOutput(file.path, file.text);

@@ -236,7 +236,8 @@ QFileDevice::FileError writeReproducibleFile(const QString &path, const QByteArr
     const QFileInfo named(path);
     const QString target = named.isSymLink() ? named.symLinkTarget() : path;
     const QFileInfo old(target);
-    if (old.exists() && !old.isWritable())
+    const bool isReplaced = old.exists();
+    if (isReplaced && !old.isWritable())
         return failed(QFileDevice::OpenError, qt_error_string(EACCES), errorText);
 
     QFile file(nameBeside(target));
@@ -244,7 +245,7 @@ QFileDevice::FileError writeReproducibleFile(const QString &path, const QByteArr
         return failed(QFileDevice::OpenError, file.errorString(), errorText);
     QString reason = writeAll(file, bytes);
     file.close();
-    if (reason.isEmpty() && old.exists() && !file.setPermissions(old.permissions()))
+    if (reason.isEmpty() && isReplaced && !file.setPermissions(old.permissions()))
         reason = file.errorString();
     if (reason.isEmpty()) {
         std::error_code renameError;

@@ -7,6 +7,10 @@ namespace orv {
 
 QString toKarvonPathFormat(const QString &path)
 {
+    // Most paths are plain, and a study has thousands.
+    if (!path.contains(QLatin1Char('\\')) && !path.contains(QLatin1Char(':')) &&
+        !FilePathUtils::hasWinLongPathPrefix(path))
+        return path;
     QString text = FilePathUtils::withoutWinLongPathPrefix(path);
     if (FilePathUtils::hasDriveLetter(text) || FilePathUtils::isUncPath(text))
         text.replace(QLatin1Char('\\'), QLatin1Char('/'));

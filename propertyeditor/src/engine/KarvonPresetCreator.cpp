@@ -29,16 +29,31 @@ using PropertyEditor::SamplesTableItem;
 namespace {
 
 /// One line, with words for switches as digits.
-QByteArray lineOf(std::string_view key, const QVariant &value)
+QByteArray lineOf(std::string_view key, QString text)
 {
-    QString text = value.toString();
-    if (const QString word = text.toLower(); word == QLatin1String("false"))
+    constexpr qsizetype kLongestWord = 5;
+    const QString word = text.size() <= kLongestWord ? text.toLower() : QString();
+    if (word == QLatin1String("false"))
         text = QStringLiteral("0");
     else if (word == QLatin1String("true"))
         text = QStringLiteral("1");
-    text.replace(QLatin1String("\r\n"), QLatin1String("\\n"));
-    text.replace(QLatin1String("\n"), QLatin1String("\\n"));
+    if (text.contains(QLatin1Char('\n'))) {
+        text.replace(QLatin1String("\r\n"), QLatin1String("\\n"));
+        text.replace(QLatin1String("\n"), QLatin1String("\\n"));
+    }
     return QByteArray(key.data(), qsizetype(key.size())) + '=' + text.toUtf8() + '\n';
+}
+
+/// The line with the time, which is the same for all files of one second.
+QByteArray timeLine()
+{
+    thread_local qint64 second = -1;
+    thread_local QByteArray line;
+    if (const qint64 present = QDateTime::currentSecsSinceEpoch(); present != second) {
+        second = present;
+        line = '#' + QDateTime::fromSecsSinceEpoch(present).toString(Qt::ISODate).toLatin1() + '\n';
+    }
+    return line;
 }
 
 /// The lines above the time.
@@ -74,7 +89,7 @@ Template templateOf(const KarvonFeatures &features)
         else if (row.key == kSpectraFilesKey)
             part = &made.end;
         else
-            *part += lineOf(row.key, row.valueOf(features, row.id));
+            *part += lineOf(row.key, row.valueOf(features, row.id).toString());
     }
     return made;
 }
@@ -148,9 +163,14 @@ KarvonPresetCreator::~KarvonPresetCreator() = default;
 
 QByteArray KarvonPresetCreator::presetForSample(const QString &sampleName, const QString &databasePath) const
 {
-    const QString spectraFile = d->spectraFile(sampleName);
+    return presetForSpectra(d->spectraFile(sampleName), databasePath);
+}
+
+QByteArray KarvonPresetCreator::presetForSpectra(const QString &spectraFile,
+                                                 const QString &databasePath) const
+{
     const Template &shared = d->shared();
-    const QByteArray time = '#' + QDateTime::currentDateTime().toString(Qt::ISODate).toLatin1() + '\n';
+    const QByteArray time = timeLine();
     const QByteArray database = lineOf(kDatabaseFilesKey, toKarvonPathFormat(databasePath));
     const QByteArray spectra = lineOf(kSpectraFilesKey, toKarvonPathFormat(spectraFile));
     QByteArray file;

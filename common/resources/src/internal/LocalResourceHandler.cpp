@@ -8,16 +8,20 @@
 
 namespace orv {
 
-QString LocalResourceHandler::path() const
+std::optional<QString> LocalResourceHandler::path() const
 {
-    QString text = reference()->text();
+    const QString text = reference()->text();
+    if (QFileInfo::exists(text))
+        return text;
     const QString slashed = LocalPath::withSlashes(text);
-    return QFileInfo::exists(text) || !QFileInfo::exists(slashed) ? text : slashed;
+    if (slashed != text && QFileInfo::exists(slashed))
+        return slashed;
+    return {};
 }
 
 bool LocalResourceHandler::isAvailableLocally() const
 {
-    return QFileInfo::exists(path());
+    return path().has_value();
 }
 
 Result<bool> LocalResourceHandler::exists()
@@ -27,9 +31,8 @@ Result<bool> LocalResourceHandler::exists()
 
 Result<QString> LocalResourceHandler::grab()
 {
-    QString found = path();
-    if (QFileInfo::exists(found))
-        return found;
+    if (std::optional<QString> found = path())
+        return *std::move(found);
     const auto tr = [](const char *text) { return QCoreApplication::translate("ResourceHandler", text); };
     return Error(ErrorCode::CannotOpenFile,
                  tr(QT_TRANSLATE_NOOP("ResourceHandler", "The file \"%1\" does not exist."))

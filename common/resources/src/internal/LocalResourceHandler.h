@@ -2,6 +2,8 @@
 
 #include <orv/resources/ResourceHandler.h>
 
+#include <optional>
+
 namespace orv {
 
 /// Files and folders of this machine. A relative path is taken from the current folder; links are followed. A
@@ -18,8 +20,8 @@ public:
     [[nodiscard]] Result<QJsonObject> metadata() override;
 
 private:
-    /// The spelling of the path that exists, or else the reference's text.
-    [[nodiscard]] QString path() const;
+    /// The spelling of the path that exists.
+    [[nodiscard]] std::optional<QString> path() const;
 };
 
 } // namespace orv

@@ -40,6 +40,9 @@ public:
     /// may call at once, if the handlers of the samples' references allow it.
     [[nodiscard]] QByteArray presetForSample(const QString &sampleName, const QString &databasePath) const;
 
+    /// The same for spectra at a local path that is known, empty for none.
+    [[nodiscard]] QByteArray presetForSpectra(const QString &spectraFile, const QString &databasePath) const;
+
     /// The local file of the first sample of that name, fetched if need be. InvalidContent for a name that no
     /// sample has, otherwise as ResourceManager::getHandler and ResourceHandler::grab.
     [[nodiscard]] Result<QString> spectraFileOf(const QString &sampleName) const;
