@@ -1,0 +1,63 @@
+#include "Readers.h"
+
+#include <orv/core/FileTypes.h>
+#include <orv/core_ms/MsDataAccessorsFactory.h>
+#include <orv/core_ms/TolqUtils.h>
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+
+namespace orv::msreader::internal {
+
+namespace {
+
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(TolqReader)
+};
+
+class TolqReader : public MsReaderAccessor
+{
+public:
+    explicit TolqReader(const MsReaderOptions &options)
+        : MsReaderAccessor(options, VendorDataFormat::Tolq)
+    {}
+
+protected:
+    Error openData() override
+    {
+        if (!m_directory.isValid())
+            return Error(ErrorCode::CannotOpenFile, Tr::tr("There is no place to unpack the sample."))
+                .addDetail(m_directory.errorString());
+        Result<QString> sample = TolqUtils::extractSamplePath(path(), m_directory.path());
+        if (sample.hasError())
+            return sample.ecatch();
+        if (FileTypes::isType(*sample, FileTypes::TOLQ))
+            return Error(ErrorCode::InvalidContent, Tr::tr("An acquired sample lies inside another."));
+        m_reader = MsDataAccessorsFactory::createReader(MsReaderOptions(*sample));
+        return m_reader->open();
+    }
+
+    [[nodiscard]] Result<bool> readHasLevel(int level) const override
+    {
+        return m_reader->hasMsProfileData(level);
+    }
+
+    [[nodiscard]] Result<QList<ChromatogramInfo>> readChromatograms() const override
+    {
+        return m_reader->chromatogramInfoList();
+    }
+
+private:
+    QTemporaryDir m_directory;
+    std::unique_ptr<MsReaderAccessor> m_reader;
+};
+
+} // namespace
+
+std::unique_ptr<MsReaderAccessor> createTolqReader(const MsReaderOptions &options)
+{
+    return std::make_unique<TolqReader>(options);
+}
+
+} // namespace orv::msreader::internal
