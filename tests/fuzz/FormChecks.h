@@ -51,4 +51,11 @@ namespace FormChecks {
 /// A parameter file of the preview engine reads back as it is written.
 [[nodiscard]] QString checkPrv(const QByteArray &bytes);
 
+/// MGF is refused with a place and a remedy, or its queries are the same in pieces of any size.
+[[nodiscard]] QString checkMgf(const QByteArray &bytes);
+
+/// Lines as paths, and as the entries of a folder: what the disk shows, names tell too, and it has the kind
+/// of its format. Walks end.
+[[nodiscard]] QString checkVendorPaths(const QByteArray &bytes);
+
 } // namespace FormChecks

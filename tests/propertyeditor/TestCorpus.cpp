@@ -50,6 +50,10 @@ private Q_SLOTS:
     void parameterFilesOfTheSearchAreRefusedOrReadBackEqual() { run(FormChecks::checkXenoset); }
     void parameterFilesOfThePreviewReadBackEqual_data() { addFiles(); }
     void parameterFilesOfThePreviewReadBackEqual() { run(FormChecks::checkPrv); }
+    void mgfIsRefusedOrReadInPieces_data() { addFiles(); }
+    void mgfIsRefusedOrReadInPieces() { run(FormChecks::checkMgf); }
+    void vendorPathsAreOfOneMind_data() { addFiles(); }
+    void vendorPathsAreOfOneMind() { run(FormChecks::checkVendorPaths); }
 
 private:
     static void addFiles();
@@ -77,8 +81,9 @@ void TestCorpus::run(QString (*check)(const QByteArray &))
 void TestCorpus::everyFuzzerHasSeeds_data()
 {
     QTest::addColumn<QString>("folder");
-    for (const char *folder : {"chemistry", "csv", "fasta", "json", "object_form", "property_set", "prv",
-                               "reference", "row_node", "rules", "samples", "value_form", "xenoset"})
+    for (const char *folder :
+         {"chemistry", "csv", "fasta", "json", "mgf", "object_form", "property_set", "prv", "reference",
+          "row_node", "rules", "samples", "value_form", "vendor_paths", "xenoset"})
         QTest::newRow(folder) << QString::fromLatin1(folder);
 }
 
