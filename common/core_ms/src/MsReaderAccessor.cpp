@@ -36,6 +36,8 @@ MsReaderAccessor::~MsReaderAccessor() = default;
 
 Error MsReaderAccessor::open()
 {
+    if (m_isOpen)
+        return Error::NoError;
     Error error = withoutExceptions<Error>([this] { return openData(); });
     m_isOpen = !error.hasError();
     if (error)

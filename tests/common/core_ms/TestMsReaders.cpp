@@ -5,6 +5,8 @@
 
 #include <orv/core_ms/MsDataAccessorsFactory.h>
 
+#include <QStringEncoder>
+
 #include <zlib.h>
 
 using namespace orv;
@@ -177,6 +179,10 @@ void TestMsReaders::mzmlTellsLevelsInManyWays_data()
     QTest::newRow("other encoding") << mzml("<!-- \xE4 --><spectrum id=\"\xB5\">" + term("MS:1000511", "1") +
                                             "</spectrum>")
                                     << QList{1};
+    QStringEncoder utf16(QStringEncoder::Utf16, QStringEncoder::Flag::WriteBom);
+    QTest::newRow("wide text") << QByteArray(utf16(QString::fromLatin1(
+                                      "<mzML>" + spectrum(term("MS:1000511", "1")) + "</mzML>")))
+                               << QList{1};
     QTest::newRow("text of the wrong kind") << mzml(spectrum(term("MS:1000511", "one"))) << QList{0};
 }
 
@@ -256,6 +262,9 @@ void TestMsReaders::filesCutShortAnywhereAreRefused()
         QCOMPARE(error.code(), ErrorCode::InvalidContent);
         QVERIFY(error.details().first().contains(u"after %1 bytes"_s.arg(size)));
     }
+    // Space that was reserved and never written.
+    tree.add(name, whole.first(end / 2) + QByteArray(5000, '\0'));
+    QCOMPARE(readerOf(tree.at(name))->open().code(), ErrorCode::InvalidContent);
 }
 
 void TestMsReaders::packedFilesCutShortAnywhereAreRefused()
@@ -360,6 +369,9 @@ void TestMsReaders::acquiredSamplesAreReadInside()
         QCOMPARE(reader->chromatogramInfoList()->size(), 2);
     }
     QVERIFY(readerOf(tree.at(u"c.tolq"_s))->open().hasError());
+    const auto reader = readerOf(tree.at(u"a.tolq"_s));
+    for (int i = 0; i < 2; ++i)
+        ORV_VERIFY_OK(reader->open());
 }
 
 void TestMsReaders::questionsNeedAnOpenFile()

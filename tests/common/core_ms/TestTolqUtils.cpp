@@ -111,6 +111,8 @@ void TestTolqUtils::harmfulArchivesAreRefused_data()
     QTest::newRow("two slashes") << Entries{metadata("s.d"), {u"s.d//x"_s, "x"}} << u"leads out"_s;
     QTest::newRow("backslashes") << Entries{metadata("s.d"), {u"s.d/..\\..\\evil"_s, "x"}} << u"leads out"_s;
     QTest::newRow("a drive") << Entries{metadata("s.d"), {u"s.d/C:evil"_s, "x"}} << u"leads out"_s;
+    QTest::newRow("too deep") << Entries{metadata("s.d"), {u"s.d/"_s + u"x/"_s.repeated(100) + u"y"_s, "x"}}
+                              << u"too deep"_s;
     QTest::newRow("a link") << Entries{metadata("s.mgf"), {u"s.mgf"_s, "/etc/passwd", 0120777}} << u"link"_s;
     QTest::newRow("a link to a folder, then a file in it")
         << Entries{metadata("s.d"), {u"s.d/x"_s, "/tmp", 0120777}, {u"s.d/x/evil"_s, "x"}} << u"link"_s;

@@ -22,8 +22,10 @@ struct Tr
 };
 
 constexpr qint64 kChunkBytes = 1 << 18;
+constexpr qsizetype kMostLevels = 64;
 
-/// Whether each part of \a name is the name of something below the folder in which it counts.
+/// Whether each part of \a name is the name of something below the folder in which it counts, and not too
+/// deep.
 bool staysBelow(const QString &name)
 {
     if (name.contains(QLatin1Char('\\')) || name.contains(QLatin1Char(':')) || name.contains(QChar(0)))
@@ -31,9 +33,10 @@ bool staysBelow(const QString &name)
     QStringList parts = name.split(QLatin1Char('/'));
     if (parts.last().isEmpty())
         parts.removeLast(); // a folder
-    return !parts.isEmpty() && std::none_of(parts.begin(), parts.end(), [](const QString &part) {
-        return part.isEmpty() || part == QLatin1String(".") || part == QLatin1String("..");
-    });
+    return !parts.isEmpty() && parts.size() <= kMostLevels &&
+           std::none_of(parts.begin(), parts.end(), [](const QString &part) {
+               return part.isEmpty() || part == QLatin1String(".") || part == QLatin1String("..");
+           });
 }
 
 } // namespace
@@ -54,7 +57,7 @@ public:
                 .addDetail(Tr::tr("It isn't there, no regular file, or may not be read."));
         if (!m_zip.open(QuaZip::mdUnzip))
             return damaged({}, Tr::tr("It is no zip archive, or was cut short."));
-        if (m_zip.getEntriesCount() > kMostEntries)
+        if (m_zip.getEntriesCount() < 0 || m_zip.getEntriesCount() > kMostEntries)
             return damaged({}, Tr::tr("It has more than %1 entries.").arg(kMostEntries));
         m_bytesLeft = std::max(kFreeBytes, info.size() * kMostRatio);
         return Error::NoError;
@@ -105,7 +108,7 @@ private:
         if (!m_zip.getCurrentFileInfo(&info))
             return damaged(name, Tr::tr("Its description is damaged."));
         if (!staysBelow(name))
-            return damaged(name, Tr::tr("Its name leads out of the archive."));
+            return damaged(name, Tr::tr("Its name leads out of the archive, or too deep."));
         if (info.isSymbolicLink())
             return damaged(name, Tr::tr("It is a link."));
         if (info.isEncrypted())

@@ -17,37 +17,40 @@ struct Tr
     Q_DECLARE_TR_FUNCTIONS(XmlReaders)
 };
 
-struct Tail
+/// The beginning and the end of a text.
+struct Ends
 {
-    QByteArray bytes;
+    QByteArray head;
+    QByteArray tail;
     qint64 size = 0; ///< of the whole text, unpacked
 };
 
-/// The end of a text. A packed one is unpacked on the way, which finds damage anywhere.
-Result<Tail> readTail(QIODevice *file)
+/// A packed text is unpacked on the way, which finds damage anywhere.
+Result<Ends> readEnds(QIODevice *file)
 {
+    Ends ends;
+    ends.head = ends.tail = file->read(kChunkBytes);
+    ends.size = ends.tail.size();
     if (!file->isSequential()) {
         file->seek(qMax<qint64>(0, file->size() - kTailBytes));
-        return Tail{file->read(kTailBytes), file->size()};
+        return Ends{ends.head, file->read(kTailBytes), file->size()};
     }
-    Tail tail;
-    for (;;) {
+    while (!file->atEnd()) {
         const QByteArray chunk = file->read(kChunkBytes);
-        tail.size += chunk.size();
-        tail.bytes = (tail.bytes + chunk).last(qMin<qint64>(tail.size, kTailBytes));
-        if (!chunk.isEmpty())
-            continue;
-        if (file->atEnd())
-            return tail;
-        return Error(ErrorCode::InvalidContent, Tr::tr("The MS data are damaged."))
-            .addDetail(Tr::tr("After %1 unpacked bytes: %2").arg(tail.size).arg(file->errorString()))
-            .addDetail(Tr::tr("Copy or convert the file again."));
+        ends.size += chunk.size();
+        ends.tail = (ends.tail + chunk).last(qMin<qint64>(ends.size, kTailBytes));
+        if (chunk.isEmpty() && !file->atEnd())
+            return Error(ErrorCode::InvalidContent, Tr::tr("The MS data are damaged."))
+                .addDetail(Tr::tr("After %1 unpacked bytes: %2").arg(ends.size).arg(file->errorString()))
+                .addDetail(Tr::tr("Copy or convert the file again."));
     }
+    return ends;
 }
 
-bool isWideText(const QByteArray &tail)
+/// UTF-16, in which tags are written differently.
+bool isWideText(const QByteArray &head)
 {
-    return tail.contains(QByteArrayView("\0>", 2)) || tail.contains(QByteArrayView(">\0", 2));
+    return head.startsWith("\xFF\xFE") || head.startsWith("\xFE\xFF");
 }
 
 class XmlReader : public MsReaderAccessor
@@ -67,18 +70,17 @@ protected:
         Result<std::unique_ptr<QIODevice>> file = openFile(path());
         if (file.hasError())
             return file.ecatch();
-        Result<Tail> tail = readTail(file->get());
-        if (tail.hasError())
-            return tail.ecatch();
-        const bool isWhole = isWideText(tail->bytes) ||
-                             std::any_of(m_endTags.begin(), m_endTags.end(), [&tail](const QByteArray &tag) {
-                                 return tail->bytes.contains(tag);
-                             });
+        Result<Ends> ends = readEnds(file->get());
+        if (ends.hasError())
+            return ends.ecatch();
+        const bool isWhole = isWideText(ends->head) ||
+                             std::any_of(m_endTags.begin(), m_endTags.end(),
+                                         [&ends](const QByteArray &tag) { return ends->tail.contains(tag); });
         if (isWhole)
             return Error::NoError;
         return Error(ErrorCode::InvalidContent, Tr::tr("The MS data are cut short."))
             .addDetail(Tr::tr("The text ends after %1 bytes, before \"%2\".")
-                           .arg(tail->size)
+                           .arg(ends->size)
                            .arg(QString::fromLatin1(m_endTags.first())))
             .addDetail(Tr::tr("Copy or convert the file again."));
     }

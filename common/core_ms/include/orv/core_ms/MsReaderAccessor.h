@@ -33,7 +33,7 @@ public:
     [[nodiscard]] VendorDataFormat vendorFormat() const { return m_format; }
 
     /// Checks that the data are there and whole as far as their beginning and end tell. Questions to a reader
-    /// that isn't open fail.
+    /// that isn't open fail; one that is open stays so.
     [[nodiscard]] Error open();
 
     /// Whether some spectrum of this MS level has a peak at least. Profile and centroided spectra count
