@@ -34,10 +34,12 @@ def read_fasta(name):
 
 
 # Which settings a property cell shows, in order, under the caption of their group.
-SEARCH = [("Instrument Parameters", [55, 56, 80, 27, 28, 29, 68]), ("Digestion", [43, 44, 62]),
+SEARCH = [("Instrument Parameters", [55, 56, 80, 27, 28, 29]), ("Digestion", [43, 44, 62]),
           ("modifications", [67]), ("protein database options", [112, 111]), ("glycans", [58, 70]),
           ("peptide output options", [83, 33, 36]), ("protein output options", [84, 85]),
           ("Report", [136, 264]), ("Advanced", [0, 25, 26, 49, 266])]
+# Without peptides, digestion of proteins and glycans; with the kind of molecule.
+OLIGO_SEARCH = [("Instrument Parameters", SEARCH[0][1] + [68]), SEARCH[2]] + SEARCH[5:7] + SEARCH[-1:]
 GLYCO_SEARCH = SEARCH[:-1] + [("Inclusion", [59]), SEARCH[-1]]
 PEPTIDE_MAP = [("Digestion", [130, 132]), ("modifications", [219]), ("Feature Finder", [142, 145, 152, 153, 201]),
                ("XIC", [306, 137, 138, 139]), ("In-silico options (Theoretical Digest)", [167, 271]),
@@ -243,7 +245,8 @@ def oligonucleotide_map():
                                                  sample(2, "sgRNA cusativin", "sgrna_cusativin.mzML")])),
                        tab("Sequences", proteins(w, "Oligonucleotides (drag and drop FASTA files)",
                                                  ["sgRNA", "Guide RNA", "GGAAUCUGACUUCAGGCAUU"])),
-                       tab("Oligonucleotide map", w.step("Karvon", "Oligo search", SEARCH[:1] + SEARCH[5:7] + SEARCH[-1:], p83=2),
+                       tab("Oligonucleotide map", w.step("Karvon", "Oligo search", OLIGO_SEARCH, p83=2,
+                                  p67={"modifications": "Methyl / +14.015650 @ A | common1\n"}),
                            w.step("Senthia", "Oligo map", PEPTIDE_MAP[2:4] + PEPTIDE_MAP[6:],
                                   p291="data/viewer_layout.ini"))],
                       name="Guide RNA map", workflowType="DigestedOligo", icon="digested-oligo", contentMode=0,
