@@ -17,8 +17,9 @@ namespace orv::msreader {
 ///     ORV_RETURN_IF_ERROR(reader->open());
 ///     const Result<bool> hasMs1 = reader->hasMsProfileData(1);
 /// \endcode
-/// Files are read from front to back as far as a question needs, and never held as a whole: a question to a
-/// file of gigabytes takes seconds. On any thread, but on one at a time.
+/// Files are read from front to back as far as a question needs, and never held as a whole. A level that a
+/// gigabyte of mzML doesn't have takes up to half a minute; most questions end at the first spectra or by the
+/// file's index. On any thread, but on one at a time.
 ///
 /// Errors: CannotOpenFile for what can't be read, InvalidContent for what is damaged or cut short, with file
 /// and place as details, and for formats that this program doesn't read. Nothing throws.
