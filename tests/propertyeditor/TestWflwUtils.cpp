@@ -179,7 +179,7 @@ int TestWflwUtils::saveAsNobody(const QJsonObject &document, const QString &text
     QFile::setPermissions(m_dir->path(), QFileDevice::Permissions(0x7755));
     const int outcome = inChildProcess([&] {
         LogCapture log;
-        if (!TestFiles::becomeNobody())
+        if (!becomeNobody())
             return TestFiles::Undone;
         if (save(document))
             return TestFiles::Succeeded;
