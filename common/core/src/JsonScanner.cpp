@@ -8,6 +8,7 @@
 #include <array>
 #include <cstring>
 #include <deque>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -59,6 +60,28 @@ constexpr std::array<bool, 256> structuralBytes()
 /// Most of a written document is white space, colons and numbers, none of which matters here.
 constexpr std::array<bool, 256> kStructural = structuralBytes();
 
+/// The quotation mark that ends the string at \a p, or \a end.
+const char *endOfString(const char *p, const char *end, bool *escaped)
+{
+    for (; p != end && *p != '"'; ++p) {
+        if (*p == '\\') {
+            *escaped = true;
+            if (++p == end)
+                return end;
+        }
+    }
+    return p;
+}
+
+QString keyText(const char *start, const char *end, bool escaped)
+{
+    const QByteArray raw(start, end - start);
+    if (!escaped)
+        return QString::fromUtf8(raw);
+    const QByteArray array = "[\"" + raw + "\"]";
+    return QJsonDocument::fromJson(array).array().at(0).toString();
+}
+
 class Scanner
 {
 public:
@@ -79,7 +102,7 @@ public:
             if (c == '"') {
                 const char *const start = p;
                 bool escaped = false;
-                p = endOfString(start, &escaped);
+                p = endOfString(start, m_end, &escaped);
                 if (m_keyExpected && !insertKey(start, p, escaped))
                     return DuplicateKey{keyText(start, p, escaped), start - 1 - m_begin};
                 m_keyExpected = false;
@@ -117,27 +140,6 @@ private:
                 m_levels.pop_back();
             }
         }
-    }
-
-    const char *endOfString(const char *p, bool *escaped) const
-    {
-        for (; p != m_end && *p != '"'; ++p) {
-            if (*p == '\\') {
-                *escaped = true;
-                if (++p == m_end)
-                    return m_end;
-            }
-        }
-        return p;
-    }
-
-    static QString keyText(const char *start, const char *end, bool escaped)
-    {
-        const QByteArray raw(start, end - start);
-        if (!escaped)
-            return QString::fromUtf8(raw);
-        const QByteArray array = "[\"" + raw + "\"]";
-        return QJsonDocument::fromJson(array).array().at(0).toString();
     }
 
     /// UTF-8, which half a surrogate pair has not: all such would become the same replacement character. They
@@ -195,11 +197,157 @@ private:
     bool m_keyExpected = false;
 };
 
+/// What is looked for: the pointers that end at a value, and the members of it that others lead through.
+struct Wanted
+{
+    QStringList pointers;
+    std::map<QString, Wanted> members;
+
+    [[nodiscard]] const Wanted *member(const QString &key) const
+    {
+        const auto found = members.find(key);
+        return found == members.end() ? nullptr : &found->second;
+    }
+};
+
+Wanted wantedOf(const QStringList &pointers)
+{
+    Wanted root;
+    for (const QString &pointer : pointers) {
+        Wanted *place = &root;
+        const QStringList tokens = pointer.split(QLatin1Char('/'));
+        for (QString token : tokens.mid(1))
+            place = &place->members[token.replace(QLatin1String("~1"), QLatin1String("/"))
+                                        .replace(QLatin1String("~0"), QLatin1String("~"))];
+        if (tokens.constFirst().isEmpty())
+            place->pointers.append(pointer);
+    }
+    return root;
+}
+
+/// Walks over a text and notes the lines of what is wanted.
+class LineFinder
+{
+public:
+    LineFinder(QByteArrayView json, const QStringList &pointers)
+        : m_position(json.data())
+        , m_end(json.data() + json.size())
+        , m_wanted(wantedOf(pointers))
+        , m_next(&m_wanted)
+    {
+        if (json.startsWith("\xEF\xBB\xBF"))
+            m_position += kMarkSize;
+    }
+
+    QHash<QString, qsizetype> run()
+    {
+        while (m_position != m_end)
+            step(*m_position++);
+        return m_lines;
+    }
+
+private:
+    struct Level
+    {
+        bool isObject;
+        const Wanted *wanted; ///< null when nothing in it is
+        qsizetype index = 0;
+    };
+
+    void step(char c)
+    {
+        switch (c) {
+        case '\n':
+            ++m_line;
+            break;
+        case ' ':
+        case '\t':
+        case '\r':
+        case ':':
+            break;
+        case '{':
+        case '[':
+            noteValue();
+            m_levels.push_back({c == '{', m_next});
+            expectMember();
+            break;
+        case '}':
+        case ']':
+            m_keyExpected = false;
+            if (!m_levels.empty())
+                m_levels.pop_back();
+            break;
+        case ',':
+            if (!m_levels.empty())
+                ++m_levels.back().index;
+            expectMember();
+            break;
+        case '"':
+            readString();
+            break;
+        default:
+            noteValue();
+            while (m_position != m_end && !endsScalar(*m_position))
+                ++m_position;
+        }
+    }
+
+    static bool endsScalar(char c) { return std::strchr(",]} \t\r\n", c) != nullptr; }
+
+    void expectMember()
+    {
+        if (m_levels.empty())
+            return;
+        const Level &level = m_levels.back();
+        m_keyExpected = level.isObject;
+        if (!level.isObject)
+            m_next = level.wanted ? level.wanted->member(QString::number(level.index)) : nullptr;
+    }
+
+    void readString()
+    {
+        const char *const start = m_position;
+        bool escaped = false;
+        const char *const end = endOfString(start, m_end, &escaped);
+        if (m_keyExpected) {
+            const Wanted *container = m_levels.back().wanted;
+            m_next = container ? container->member(keyText(start, end, escaped)) : nullptr;
+            m_keyExpected = false;
+        } else {
+            noteValue();
+        }
+        m_line += std::count(start, end, '\n');
+        m_position = end == m_end ? end : end + 1;
+    }
+
+    void noteValue()
+    {
+        if (!m_next)
+            return;
+        for (const QString &pointer : m_next->pointers)
+            m_lines.insert(pointer, m_line);
+    }
+
+    const char *m_position;
+    const char *m_end;
+    const Wanted m_wanted;
+    const Wanted *m_next; ///< what is wanted of the value that comes
+    std::vector<Level> m_levels;
+    QHash<QString, qsizetype> m_lines;
+    qsizetype m_line = 1;
+    bool m_keyExpected = false;
+};
+
 } // namespace
 
 std::optional<DuplicateKey> findDuplicateKey(QByteArrayView json)
 {
     return Scanner(json).run();
+}
+
+QHash<QString, qsizetype> linesOfPointers(QByteArrayView json, const QStringList &pointers)
+{
+    return LineFinder(json, pointers).run();
 }
 
 } // namespace orv

@@ -30,6 +30,9 @@ private Q_SLOTS:
     void anyTextIsSurvived_data();
     void anyTextIsSurvived();
     void manyKeysTakeNoLongerThanTheirNumber();
+    void pointersHaveLines_data();
+    void pointersHaveLines();
+    void manyPointersAreFoundInOneWalk();
 };
 
 void TestJsonScanner::keysThatDifferPass_data()
@@ -121,12 +124,67 @@ void TestJsonScanner::anyTextIsSurvived()
     QFETCH(QByteArray, json);
     const std::optional<DuplicateKey> duplicate = findDuplicateKey(json);
     QVERIFY(!duplicate || duplicate->offset < json.size());
+    QVERIFY(linesOfPointers(json, {u"/a/0/a"_s, u"/nothing"_s}).size() <= 1);
 }
 
 void TestJsonScanner::manyKeysTakeNoLongerThanTheirNumber()
 {
     // Compared by pairs, this would be 20,000,000,000 comparisons, and run into the time limit of the test.
     QVERIFY(!findDuplicateKey(objectWithKeys(200000, "last")));
+}
+
+void TestJsonScanner::pointersHaveLines_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("pointer");
+    QTest::addColumn<int>("line");
+
+    const QByteArray document = "\n{\n\"a\": [1,\n [2, 3],\n {\"x/y\": {\"m~n\":\n \"text\"}}\n],\n"
+                                "\"\\u0062\":\nnull, \"c\": \"a:{[,\\\"\", \"\": 5\n, \"d\":[]}"_ba;
+    QTest::newRow("the document") << document << u""_s << 2;
+    QTest::newRow("an array") << document << u"/a"_s << 3;
+    QTest::newRow("an element") << document << u"/a/0"_s << 3;
+    QTest::newRow("an array in an array") << document << u"/a/1"_s << 4;
+    QTest::newRow("its element") << document << u"/a/1/1"_s << 4;
+    QTest::newRow("an object in an array") << document << u"/a/2"_s << 5;
+    QTest::newRow("a slash in a key") << document << u"/a/2/x~1y"_s << 5;
+    QTest::newRow("a tilde in a key") << document << u"/a/2/x~1y/m~0n"_s << 6;
+    QTest::newRow("an escape in a key, the value on the next line") << document << u"/b"_s << 9;
+    QTest::newRow("a string that looks like JSON") << document << u"/c"_s << 9;
+    QTest::newRow("the empty key") << document << u"/"_s << 9;
+    QTest::newRow("behind them") << document << u"/d"_s << 10;
+    QTest::newRow("no such key") << document << u"/e"_s << 0;
+    QTest::newRow("no such element") << document << u"/a/3"_s << 0;
+    QTest::newRow("an element of an empty array") << document << u"/d/0"_s << 0;
+    QTest::newRow("a member of a number") << document << u"/a/0/x"_s << 0;
+    QTest::newRow("an element with a leading zero") << document << u"/a/00"_s << 0;
+    QTest::newRow("no pointer") << document << u"a"_s << 0;
+    QTest::newRow("behind a byte order mark") << "\xEF\xBB\xBF{\"a\":\r\n1}"_ba << u"/a"_s << 2;
+    QTest::newRow("a scalar") << " 17"_ba << u""_s << 1;
+    QTest::newRow("a line break within a string") << "{\"a\": \"x\ny\", \"b\": true}"_ba << u"/b"_s << 2;
+}
+
+void TestJsonScanner::pointersHaveLines()
+{
+    QFETCH(QByteArray, json);
+    QFETCH(QString, pointer);
+    QFETCH(int, line);
+    const QHash<QString, qsizetype> lines = linesOfPointers(json, {u"/a/1/0"_s, pointer, u"/unknown"_s});
+    QCOMPARE(lines.value(pointer), line);
+    QCOMPARE(lines.contains(pointer), line > 0);
+}
+
+void TestJsonScanner::manyPointersAreFoundInOneWalk()
+{
+    // A walk for each would be 2,500,000,000 lines, and run into the time limit of the test.
+    constexpr int kCount = 50000;
+    const QByteArray json = "[" + "\n0,"_ba.repeated(kCount) + "0]";
+    QStringList pointers;
+    for (int i = 0; i < kCount; ++i)
+        pointers.append(u'/' + QString::number(i));
+    const QHash<QString, qsizetype> lines = linesOfPointers(json, pointers);
+    QCOMPARE(lines.size(), kCount);
+    QCOMPARE(lines.value(pointers.constLast()), kCount + 1);
 }
 
 ORV_REGISTER_TEST(TestJsonScanner)
