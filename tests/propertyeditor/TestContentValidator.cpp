@@ -291,7 +291,10 @@ void TestContentValidator::theDefaultSetRunsInItsOrder()
     }
     QCOMPARE(validator.count(), names.size());
     QCOMPARE(names, Validators::names().first(names.size()));
-    QCOMPARE(names.first(2), (QStringList{u"Workflow"_s, u"Builtin"_s}));
+    QCOMPARE(names, (QStringList{u"Workflow"_s, u"Builtin"_s, u"SamplesPattern"_s, u"MsTraces"_s,
+                                 u"ObsoleteSettings"_s, u"DeltaMasses"_s, u"Insilico"_s,
+                                 u"PeptideReplicateCount"_s}));
+    QVERIFY(Validators::names().contains(u"MzIdent"_s));
 }
 
 void TestContentValidator::aWorkflowNeedsADocument_data()

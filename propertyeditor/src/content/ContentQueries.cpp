@@ -36,12 +36,6 @@ const QSet<BaseItemType> &projectTypes()
     return types;
 }
 
-SamplesTableItem *firstSamples(const Content &content)
-{
-    const QList<BaseItem *> items = content.findAllItems(BaseItemType::Samples);
-    return items.isEmpty() ? nullptr : qobject_cast<SamplesTableItem *>(items.constFirst());
-}
-
 SequenceDatabasesTableItem *databaseTable(const Content &content, int index)
 {
     const QList<BaseItem *> items = content.findAllItems(BaseItemType::Database);
@@ -132,6 +126,11 @@ QList<BaseItemType> Content::findAllDocuments() const
     return documents;
 }
 
+QList<BaseItem *> Content::findDocumentItems() const
+{
+    return findAllItems(documentTypes());
+}
+
 QList<KeyValueItem *> Content::findProjects() const
 {
     QList<KeyValueItem *> projects;
@@ -187,21 +186,27 @@ void Content::updateReferences(const QList<ReferenceMapping> &mappings)
     setSequenceDatabaseItems(databases, 0);
 }
 
+SamplesTableItem *Content::samplesTable() const
+{
+    const QList<BaseItem *> items = findAllItems(BaseItemType::Samples);
+    return items.isEmpty() ? nullptr : qobject_cast<SamplesTableItem *>(items.constFirst());
+}
+
 SamplesAndTracesContent Content::samplesAndTraces() const
 {
-    const SamplesTableItem *item = firstSamples(*this);
+    const SamplesTableItem *item = samplesTable();
     return item ? item->content() : SamplesAndTracesContent();
 }
 
 void Content::setSamplesAndTraces(const SamplesAndTracesContent &content)
 {
-    if (SamplesTableItem *item = firstSamples(*this))
+    if (SamplesTableItem *item = samplesTable())
         item->setContent(content);
 }
 
 QStringList Content::sampleNames() const
 {
-    const SamplesTableItem *item = firstSamples(*this);
+    const SamplesTableItem *item = samplesTable();
     return item ? item->samplesWithCustomColumns().names() : QStringList();
 }
 

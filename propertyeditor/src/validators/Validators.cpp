@@ -1,4 +1,11 @@
 #include <orv/propertyeditor/validators/BuiltinValidator.h>
+#include <orv/propertyeditor/validators/DeltaMassesValidator.h>
+#include <orv/propertyeditor/validators/InsilicoValidator.h>
+#include <orv/propertyeditor/validators/MsTracesValidator.h>
+#include <orv/propertyeditor/validators/MzIdentValidator.h>
+#include <orv/propertyeditor/validators/ObsoleteSettingsValidator.h>
+#include <orv/propertyeditor/validators/PeptideReplicateCountValidator.h>
+#include <orv/propertyeditor/validators/SamplesPatternValidator.h>
 #include <orv/propertyeditor/validators/Validators.h>
 #include <orv/propertyeditor/validators/WorkflowValidator.h>
 
@@ -32,6 +39,13 @@ constexpr Row row(const char *name, bool isDefault)
 constexpr std::array kRows = {
     row<WorkflowValidator>("Workflow", true),
     row<BuiltinValidator>("Builtin", true),
+    row<SamplesPatternValidator>("SamplesPattern", true),
+    row<MsTracesValidator>("MsTraces", true),
+    row<ObsoleteSettingsValidator>("ObsoleteSettings", true),
+    row<DeltaMassesValidator>("DeltaMasses", true),
+    row<InsilicoValidator>("Insilico", true),
+    row<PeptideReplicateCountValidator>("PeptideReplicateCount", true),
+    row<MzIdentValidator>("MzIdent", false),
 };
 
 } // namespace

@@ -33,6 +33,7 @@ class BaseItem;
 class ExtendedMetadataSink;
 class ItemGroup;
 class KeyValueItem;
+class SamplesTableItem;
 
 /// The object form of a workflow document: the tree of tabs (ItemGroup), columns (ItemSubGroup) and cells
 /// (BaseItem), with signals as it changes.
@@ -129,6 +130,8 @@ public:
 
     /// Types of the columns that yield a result, in tree order, repeats kept.
     [[nodiscard]] QList<BaseItemType> findAllDocuments() const;
+    /// The cells that yield a result, in tree order.
+    [[nodiscard]] QList<BaseItem *> findDocumentItems() const;
     /// The cells of settings that make a project, in tree order. Data-independent searches are projects too,
     /// though no documents.
     [[nodiscard]] QList<KeyValueItem *> findProjects() const;
@@ -143,6 +146,8 @@ public:
     /// first companion of a sample. Settings keep their references.
     void updateReferences(const QList<ReferenceMapping> &mappings);
 
+    /// The first samples table, null without one.
+    [[nodiscard]] SamplesTableItem *samplesTable() const;
     /// Through the first samples table; without one the content is empty, and setting it does nothing.
     [[nodiscard]] SamplesAndTracesContent samplesAndTraces() const;
     void setSamplesAndTraces(const SamplesAndTracesContent &content);

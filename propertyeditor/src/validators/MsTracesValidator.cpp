@@ -1,0 +1,60 @@
+#include "ValidatorHelpers.h"
+#include "ValidatorText.h"
+
+#include <orv/core_ms/MsDataFileUtils.h>
+#include <orv/propertyeditor/content/Content.h>
+#include <orv/propertyeditor/content/SamplesTableItem.h>
+#include <orv/propertyeditor/validators/MsTracesValidator.h>
+#include <orv/resources/ResourceReferenceUtils.h>
+
+namespace orv::PropertyEditor {
+
+namespace {
+
+/// For which samples at least one trace is imported.
+TraceSampleIds samplesWithTraces(const TracesImportList &traces)
+{
+    QList<int> ids;
+    for (const TracesImportList::Entry &entry : traces.list()) {
+        if (!entry.isImported())
+            continue;
+        if (entry.samplesIds().isAll())
+            return {};
+        ids += entry.samplesIds().ids();
+    }
+    return TraceSampleIds(ids);
+}
+
+} // namespace
+
+bool MsTracesValidator::validate(const Content &content, const QUrl & /*workflowBaseUrl*/,
+                                 QList<QString> * /*warnings*/, QList<QString> *errors) const
+{
+    const SamplesTableItem *table = content.samplesTable();
+    if (!table || table->samplesInput().isEmpty()) {
+        const bool isReport = !content.findAllItems(BaseItemType::MultiDocReport).isEmpty();
+        report(errors,
+               validatorText("The workflow doesn't have any %1")
+                   .arg(isReport ? validatorText("documents") : validatorText("samples")),
+               {table, PropertyId::SamplesTable, {}}, addSamplesHint());
+        return false;
+    }
+    if (content.findAllItems({BaseItemType::Intact, BaseItemType::Dravik}).isEmpty())
+        return true;
+    const qsizetype errorsBefore = errors->size();
+    const TraceSampleIds traced = samplesWithTraces(table->tracesOptions().traces);
+    for (const SamplesInput::Entry &sample : table->content().samples.samples) {
+        if (traced.contains(sample.id) ||
+            !MsDataFileUtils::hasMsExtension(ResourceReferenceUtils::localName(sample.msFile)))
+            continue;
+        report(errors,
+               validatorText(
+                   "The sample with id \"%1\" has no MS traces selected. Please select at least one MS trace")
+                   .arg(sample.id),
+               {table, PropertyId::SamplesTable, sample.name},
+               validatorText("Import a trace of this sample, or remove the sample."));
+    }
+    return errors->size() == errorsBefore;
+}
+
+} // namespace orv::PropertyEditor

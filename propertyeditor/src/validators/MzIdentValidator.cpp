@@ -1,0 +1,55 @@
+#include "ValidatorHelpers.h"
+#include "ValidatorText.h"
+
+#include <orv/propertyeditor/PropertiesGetter.h>
+#include <orv/propertyeditor/content/Content.h>
+#include <orv/propertyeditor/content/ItemGroup.h>
+#include <orv/propertyeditor/content/ItemSubGroup.h>
+#include <orv/propertyeditor/content/KeyValueItem.h>
+#include <orv/propertyeditor/content/SamplesTableItem.h>
+#include <orv/propertyeditor/validators/MzIdentValidator.h>
+#include <orv/samples/SampleUtils.h>
+
+namespace orv::PropertyEditor {
+
+namespace {
+
+/// The table that leads the tab of that name, which may be another one than the first of the document.
+const SamplesTableItem *tableOfSamplesTab(const Content &content)
+{
+    const ItemGroup *tab = content.group(QStringLiteral("Samples"));
+    const ItemSubGroup *column = tab && !tab->isEmpty() ? tab->subGroup(0) : nullptr;
+    return column && !column->isEmpty() ? qobject_cast<const SamplesTableItem *>(column->item(0)) : nullptr;
+}
+
+bool isProject(const KeyValueItem &document, const SamplesTableItem *table)
+{
+    const QStringList patterns = splitSamples(document.value(PropertyId::Samples).toString());
+    return !patterns.isEmpty() && !PropertiesGetter::samplesMatchingRegExp(table, patterns).isEmpty();
+}
+
+} // namespace
+
+bool MzIdentValidator::validate(const Content &content, const QUrl & /*workflowBaseUrl*/,
+                                QList<QString> * /*warnings*/, QList<QString> *errors) const
+{
+    const SamplesTableItem *table = tableOfSamplesTab(content);
+    if (!table) {
+        report(errors, validatorText("The workflow doesn't have samples table."), {},
+               validatorText("Name the tab \"Samples\" and put the table of samples into its first cell."));
+        return false;
+    }
+    for (const ColumnSettings &found : settingsInColumns(content, {BaseItemType::Karvon})) {
+        if (!isProject(*found.item, table) || found.item->value(PropertyId::KarvonExportMzIdentML).toBool())
+            continue;
+        report(errors,
+               QStringLiteral(
+                   "There is a Karvon project with \"Export mzIdentML\" property unchecked or missing.\n"
+                   "Please set the property checked and rerun the project creation process."),
+               {found.item, PropertyId::KarvonExportMzIdentML, {}}, validatorText("Enter true."));
+        return false;
+    }
+    return true;
+}
+
+} // namespace orv::PropertyEditor

@@ -1,0 +1,53 @@
+#include "ValidatorHelpers.h"
+#include "ValidatorText.h"
+
+#include <orv/propertyeditor/ObsoleteCustomSettingsChecker.h>
+#include <orv/propertyeditor/content/Content.h>
+#include <orv/propertyeditor/content/KeyValueItem.h>
+#include <orv/propertyeditor/validators/ObsoleteSettingsValidator.h>
+
+#include <QMap>
+
+namespace orv::PropertyEditor {
+
+namespace {
+
+const QMap<BaseItemType, ApplicationType> &applications()
+{
+    static const QMap<BaseItemType, ApplicationType> types{
+        {BaseItemType::Dravik, ApplicationType::Dravik},
+        {BaseItemType::Intact, ApplicationType::Intact},
+        {BaseItemType::Oligo, ApplicationType::Oligo},
+        {BaseItemType::Senthia, ApplicationType::Senthia},
+        {BaseItemType::Trenq, ApplicationType::Trenq},
+        {BaseItemType::Ostrale, ApplicationType::Ostrale},
+        {BaseItemType::Karvon, ApplicationType::KarvonSearch},
+        {BaseItemType::Preview, ApplicationType::Preview},
+        {BaseItemType::TrenqPreview, ApplicationType::Preview},
+    };
+    return types;
+}
+
+} // namespace
+
+bool ObsoleteSettingsValidator::validate(const Content &content, const QUrl & /*workflowBaseUrl*/,
+                                         QList<QString> * /*warnings*/, QList<QString> *errors) const
+{
+    const QList<BaseItemType> types = applications().keys();
+    for (const ColumnSettings &found :
+         settingsInColumns(content, QSet<BaseItemType>(types.begin(), types.end()))) {
+        if (!found.item->contains(PropertyId::AdvancedConfiguration))
+            continue;
+        const ApplicationType application = applications().value(found.columnType);
+        const QString text = found.item->value(PropertyId::AdvancedConfiguration).toString();
+        QString message;
+        if (!ObsoleteCustomSettingsChecker::hasObsoleteSettings(application, text, &message, true))
+            continue;
+        report(errors, message, {found.item, PropertyId::AdvancedConfiguration, {}},
+               ObsoleteCustomSettingsChecker::remedy(application, text, true));
+        return false;
+    }
+    return true;
+}
+
+} // namespace orv::PropertyEditor
