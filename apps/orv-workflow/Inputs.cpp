@@ -70,7 +70,7 @@ QUrl folderUrlOf(const QString &argument)
     return QUrl::fromLocalFile(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'));
 }
 
-DocumentOrFailure readDocument(const QString &argument)
+std::variant<FileText, Failure> readText(const QString &argument)
 {
     const Result<QByteArray> bytes = readBytes(argument);
     if (bytes.hasError())
@@ -83,7 +83,15 @@ DocumentOrFailure readDocument(const QString &argument)
             error.addDetail(detail);
         return failureFrom(error, BadInput);
     }
-    return *document;
+    return FileText{*bytes, *document};
+}
+
+DocumentOrFailure readDocument(const QString &argument)
+{
+    auto text = readText(argument);
+    if (const auto *failure = std::get_if<Failure>(&text))
+        return *failure;
+    return std::get<FileText>(std::move(text)).document;
 }
 
 QList<BatchInput> batchInputs(const QStringList &arguments)

@@ -2,11 +2,13 @@
 
 #include "Failure.h"
 
+#include <QByteArray>
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
 
+#include <optional>
 #include <variant>
 
 namespace orv::cli {
@@ -23,6 +25,16 @@ inline constexpr QLatin1String kStandardInput("-");
 /// The folder that relative references of an input count from, that of the working directory for standard
 /// input; ends with a slash, so that a relative path is taken from inside the folder.
 [[nodiscard]] QUrl folderUrlOf(const QString &argument);
+
+/// The bytes of a workflow and what they mean.
+struct FileText
+{
+    QByteArray bytes;
+    QJsonObject document;
+};
+
+/// As readDocument, for those who tell places in the text.
+[[nodiscard]] std::variant<FileText, Failure> readText(const QString &argument);
 
 /// The JSON object of a workflow: from a file, a portable folder or standard input.
 [[nodiscard]] DocumentOrFailure readDocument(const QString &argument);

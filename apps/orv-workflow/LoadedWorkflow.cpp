@@ -3,6 +3,8 @@
 #include "Inputs.h"
 
 #include <orv/propertyeditor/PropertyEditorUtils.h>
+#include <orv/propertyeditor/content/ItemGroup.h>
+#include <orv/propertyeditor/content/ItemSubGroup.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 
 namespace orv::cli {
@@ -23,19 +25,36 @@ void resolveSamples(const QUrl &folder, Content *content)
 
 std::variant<LoadedWorkflow, Failure> loadWorkflow(const QString &argument)
 {
-    DocumentOrFailure document = readDocument(argument);
+    const DocumentOrFailure document = readDocument(argument);
     if (const auto *failure = std::get_if<Failure>(&document))
         return *failure;
-    LoadedWorkflow workflow{std::move(std::get<QJsonObject>(document)), std::make_unique<Content>(), {}};
+    return loadWorkflow(std::get<QJsonObject>(document));
+}
+
+std::variant<LoadedWorkflow, Failure> loadWorkflow(const QJsonObject &document)
+{
+    LoadedWorkflow workflow{document, std::make_unique<Content>(), {}};
     LossCollector losses;
     workflow.content->setLossObserver(&losses);
-    const Error error = workflow.content->assignFromJson(
-        workflow.document, PropertyEditor::ValidationOption::SkipTypeValidation);
+    const Error error =
+        workflow.content->assignFromJson(document, PropertyEditor::ValidationOption::SkipTypeValidation);
     workflow.content->setLossObserver(nullptr);
     if (error.hasError())
         return failureFrom(error, BadInput);
     workflow.lost = losses.losses();
     return workflow;
+}
+
+std::optional<QString> unevenTab(const Content &content)
+{
+    for (const PropertyEditor::ItemGroup *group : content.groups()) {
+        const QList<PropertyEditor::ItemSubGroup *> columns = group->subGroups();
+        for (const PropertyEditor::ItemSubGroup *column : columns) {
+            if (column->count() < columns.first()->count())
+                return group->name();
+        }
+    }
+    return {};
 }
 
 std::variant<LoadedWorkflow, Failure> loadResolvedWorkflow(const QString &argument)

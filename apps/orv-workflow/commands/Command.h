@@ -51,6 +51,7 @@ struct CommandRow
 [[nodiscard]] const std::vector<CommandRow> &commandRows();
 
 std::unique_ptr<Command> createInfoCommand();
+std::unique_ptr<Command> createCheckCommand();
 std::unique_ptr<Command> createConvertCommand();
 std::unique_ptr<Command> createDetectCommand();
 std::unique_ptr<Command> createDiffCommand();

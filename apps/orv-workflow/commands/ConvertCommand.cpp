@@ -1,12 +1,11 @@
 #include "../Inputs.h"
+#include "../LoadedWorkflow.h"
 #include "../Losses.h"
 #include "../Output.h"
 #include "Command.h"
 
 #include <orv/core/LossObserver.h>
 #include <orv/propertyeditor/content/Content.h>
-#include <orv/propertyeditor/content/ItemGroup.h>
-#include <orv/propertyeditor/content/ItemSubGroup.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
@@ -39,19 +38,6 @@ bool isSameFile(const QString &input, const QString &output)
         return false;
     const QString canonical = QFileInfo(workflowFileOf(input)).canonicalFilePath();
     return !canonical.isEmpty() && canonical == QFileInfo(output).canonicalFilePath();
-}
-
-/// The name of the first tab that would be written empty, as one of its columns is shorter than its first.
-std::optional<QString> unevenTab(const Content &content)
-{
-    for (const PropertyEditor::ItemGroup *group : content.groups()) {
-        const QList<PropertyEditor::ItemSubGroup *> columns = group->subGroups();
-        for (const PropertyEditor::ItemSubGroup *column : columns) {
-            if (column->count() < columns.first()->count())
-                return group->name();
-        }
-    }
-    return {};
 }
 
 class ConvertCommand : public Command

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "Failure.h"
+#include "Inputs.h"
+
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+#include <optional>
+
+namespace orv::cli {
+
+/// A fault of a workflow and where it stands in the file. What isn't known is empty.
+struct LocatedFinding
+{
+    bool isError = true;
+    QString rule;
+    QString message;
+    QString tab;
+    QString column;
+    std::optional<int> row; ///< counted from 0
+    QString property;       ///< internal name
+    QString sample;
+    QString pointer; ///< JSON pointer into the file
+    std::optional<qsizetype> line;
+    QString hint;
+};
+
+/// What the check of one input has found.
+struct CheckAnswer
+{
+    QString file;
+    std::optional<bool> isValid = {}; ///< unset where the check couldn't run
+    QStringList errors = {};
+    QStringList warnings = {};
+    QList<LocatedFinding> findings = {};
+    QList<Loss> lost = {};
+    std::optional<Failure> failure = {};
+};
+
+/// How workflows are checked.
+struct CheckOptions
+{
+    std::optional<QUrl> baseUrl; ///< that relative references count from, in place of the workflow's folder
+    QStringList validators;      ///< short names; empty for the default set
+};
+
+/// The short names of the validators that a check with these options runs, in their order.
+[[nodiscard]] QStringList validatorsOf(const CheckOptions &options);
+
+/// Checks a workflow as the window does before it is used: a copy with absolute paths.
+[[nodiscard]] CheckAnswer checkWorkflow(const BatchInput &input, const CheckOptions &options);
+
+} // namespace orv::cli
