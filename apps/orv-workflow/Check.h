@@ -3,6 +3,8 @@
 #include "Failure.h"
 #include "Inputs.h"
 
+#include <orv/core/LossObserver.h>
+
 #include <QString>
 #include <QStringList>
 #include <QUrl>

@@ -2,6 +2,7 @@
 
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/ItemGroup.h>
 #include <orv/propertyeditor/content/ItemSubGroup.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
