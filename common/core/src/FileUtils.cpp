@@ -196,8 +196,7 @@ std::optional<CopyFailure> copyFile(const QString &source, const QString &destin
     if (!to.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
         return CopyFailure{Side::Destination, to.errorString()};
 
-    std::optional<CopyFailure> failure =
-        shareBlocks(from, to) ? std::nullopt : copyBytes(from, to, progress);
+    std::optional<CopyFailure> failure = shareBlocks(from, to) ? std::nullopt : copyBytes(from, to, progress);
     if (failure) {
         to.remove();
         return failure;

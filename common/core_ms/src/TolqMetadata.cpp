@@ -23,16 +23,16 @@ Error invalid(const QString &reason, const QString &value)
     return Error(ErrorCode::InvalidContent, reason).addDetail(Tr::tr("It is \"%1\".").arg(value));
 }
 
-Result<QVersionNumber> versionOf(const QJsonObject &json)
+Error readVersion(const QJsonObject &json, QVersionNumber *version)
 {
     Result<QString> text = JsonUtils::stringValue(json, QStringLiteral("version"));
     if (text.hasError())
         return text.ecatch();
     qsizetype end = 0;
-    const QVersionNumber version = QVersionNumber::fromString(*text, &end);
-    if (version.isNull() || end != text->size())
+    *version = QVersionNumber::fromString(*text, &end);
+    if (version->isNull() || end != text->size())
         return invalid(Tr::tr("The version of the metadata is none."), *text);
-    return version;
+    return Error::NoError;
 }
 
 /// A name that leads nowhere else, on any system.
@@ -106,14 +106,11 @@ Result<TolqMetadata> TolqMetadata::fromJson(const QByteArray &json)
     Result<QJsonObject> object = JsonUtils::objectFromJson(json);
     if (object.hasError())
         return object.ecatch();
-    Result<QVersionNumber> version = versionOf(*object);
-    if (version.hasError())
-        return version.ecatch();
+    TolqMetadata metadata;
+    ORV_RETURN_IF_ERROR(readVersion(*object, &metadata.m_version));
     Result<QString> sample = sampleOf(*object);
     if (sample.hasError())
         return sample.ecatch();
-    TolqMetadata metadata;
-    metadata.m_version = *version;
     metadata.m_sample = *sample;
     if (!metadata.hasTraceMappings())
         return metadata;

@@ -66,8 +66,8 @@ public:
     Error assignFromFile(const QString &fileName, ValidationOptions options = {});
     Error assignFromJson(const QJsonObject &json, ValidationOptions options = {});
 
-    /// A document of its own with the same content, cells of unknown types included; changes to one don't show
-    /// in the other. It has no file name and no base URL.
+    /// A document of its own with the same content, cells of unknown types included; changes to one don't
+    /// show in the other. It has no file name and no base URL.
     [[nodiscard]] Result<Content> detachedCopy() const;
 
     /// Load the metadata document alone; the tree stays. A file that can't be read leaves empty metadata.

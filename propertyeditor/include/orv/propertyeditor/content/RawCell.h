@@ -27,7 +27,8 @@ public:
     /// The cell as an entry of VariantItems.
     [[nodiscard]] QVariant toVariant() const;
 
-    /// The object of an entry: of a RawCell, or parsed from bytes or text. Fails as JsonUtils::objectFromJson.
+    /// The object of an entry: of a RawCell, or parsed from bytes or text. Fails as
+    /// JsonUtils::objectFromJson.
     [[nodiscard]] static Result<QJsonObject> parse(const QVariant &cell);
 
     /// The object of an entry: of a RawCell, or parsed from bytes or text. Empty for anything else, with a
