@@ -51,7 +51,7 @@ int machineTypeOf(KarvonMoleculeType molecule)
 
 QString modifications(const QJsonObject &object, const KeyValueItem &item)
 {
-    const QString text = object.value(QLatin1String("modifications")).toString();
+    QString text = object.value(QLatin1String("modifications")).toString();
     if (!item.contains(PropertyId::KarvonMoleculeType))
         return text;
     KeyValueSimpleParser parser(text);
