@@ -46,7 +46,7 @@ PEPTIDE_MAP = [("Digestion", [130, 132]), ("modifications", [219]), ("Feature Fi
                ("In-silico options (CSV import)", [169, 1, 285, 2]), ("Report", [264, 227, 289, 119, 290, 291]),
                ("Advanced", [220, 266, 0])]
 LABEL_FREE = [("Digestion", [130, 132]), ("modifications", [219]), ("Feature Finder", [142, 145, 152, 153]),
-              ("Match between runs", [209, 261]), ("Reported peptide filtering", [258, 257, 254, 255]),
+              ("Match between runs", [209, 261]), ("Reported peptide filtering", [238, 258, 257, 254, 255]),
               ("In-silico options (CSV import)", [169, 1, 285, 2]), ("Report", [264, 227]), ("Advanced", [3, 220, 0])]
 RELEASED_GLYCANS = [("Trace peaks", list(range(272, 285))), ("Feature Finder", [142, 145, 152, 153, 201]),
                     ("In-silico options (file import)", [169, 168]), ("Report", [264]), ("Advanced", [220, 0])]
@@ -85,6 +85,15 @@ def lists():
         for number in entry["ids"]:
             table[number] = entry
     return table
+
+
+# The format version that brought a setting to a kind of cell: documents from before it don't have it.
+SINCE = {("Karvon", 136): (5, 15, 0), ("Karvon", 264): (5, 21, 0), ("Karvon", 59): (5, 40, 0), ("Karvon", 70): (5, 41, 0),
+         ("Senthia", 201): (5, 20, 0), ("Dravik", 201): (5, 20, 0), ("Dravik", 168): (5, 13, 0),
+         ("Senthia", 227): (5, 38, 0), ("Trenq", 227): (5, 38, 0), ("Trenq", 209): (5, 34, 0), ("Trenq", 261): (5, 36, 0),
+         ("Trenq", 258): (5, 37, 0), ("Senthia", 167): (5, 46, 0), ("Senthia", 271): (5, 46, 0)}
+SINCE.update({(kind, number): (5, 43, 0) for kind in ("Senthia", "Trenq") for number in (1, 2, 285)})
+SINCE.update({("Senthia", number): (5, 12, 2) for number in (137, 138, 139, 306)})
 
 
 class Writer:
@@ -135,8 +144,10 @@ class Writer:
     def step(self, kind, name, groups, **changes):
         changed = {int(key[1:]): value for key, value in changes.items()}
         entries = []
+        age = tuple(int(part) for part in self.stamp["version"].split("."))
         for group, numbers in groups:
-            for position, number in enumerate(numbers):
+            known = [number for number in numbers if SINCE.get((kind, number), (0,)) <= age]
+            for position, number in enumerate(known):
                 value = changed.get(number, self.value(number))
                 entries.append({"name": self.name(number), "value": value, "priority": 1 if position < 3 else 2,
                                 "group": group})
@@ -145,8 +156,9 @@ class Writer:
     def table(self, kind, name, number, value):
         return self.cell(kind, name, [{"name": self.name(number), "value": value}])
 
-    def samples(self, entries, columns=()):
-        value = {"Samples": entries, "TraceImportAndProcessingOptions": {}}
+    def samples(self, entries, columns=(), traces=()):
+        options = {"TracesImportList": list(traces)} if traces else {}
+        value = {"Samples": entries, "TraceImportAndProcessingOptions": options}
         if columns:
             value["CustomColumns"] = [{"name": name, "type": kind} for name, kind in columns]
         return self.table("Samples", "Sample Input", 265, value)
@@ -170,6 +182,9 @@ def sample(number, name, path, **more):
     entry = {"SamplesId": number, "SampleName": name, "SamplePath": path, "Reference": number == 1}
     entry.update(more)
     return entry
+
+
+TIC = {"type": 1, "channelName": "TIC", "channelId": "TIC", "imported": True}
 
 
 def proteins(writer, name, *lines):
@@ -231,7 +246,8 @@ def intact_mass_check():
     masses_cell = w.cell("Masses", "Delta masses", [
         {"name": w.name(207), "value": glycoforms},
         {"name": w.name(210), "value": rows(["Value", "Unit"], [30.0, "ppm"])}])
-    return w.document([tab("Samples", w.samples([sample(1, "Lot 0423", "data/mab_reference.mzML", Traces=["data/uv_214nm.csv"])])),
+    return w.document([tab("Samples", w.samples([sample(1, "Lot 0423", "data/mab_reference.mzML", Traces=["data/uv_214nm.csv"])],
+                                                traces=[TIC])),
                        tab("Proteins", w.table("IntactProteins", "Intact proteins", 171, chains), masses_cell),
                        tab("Intact mass", w.step("Intact", "Intact mass", INTACT),
                            w.table("IntactOptions", "Options", 170, deconvolution("Denatured", 600, 5000, 20000, 200000, 10, 100, "H")))],
@@ -242,7 +258,7 @@ def intact_mass_check():
 def oligonucleotide_map():
     w = Writer("5.47.0")
     return w.document([tab("Samples", w.samples([sample(1, "sgRNA RNase T1", "data/oligo_negative.mzML"),
-                                                 sample(2, "sgRNA cusativin", "sgrna_cusativin.mzML")])),
+                                                 sample(2, "sgRNA cusativin", "data/oligo_negative.mzML")])),
                        tab("Sequences", proteins(w, "Oligonucleotides (drag and drop FASTA files)",
                                                  ["sgRNA", "Guide RNA", "GGAAUCUGACUUCAGGCAUU"])),
                        tab("Oligonucleotide map", w.step("Karvon", "Oligo search", OLIGO_SEARCH, p83=2,
@@ -288,7 +304,7 @@ def released_glycans():
     options = rows(["Kind", "Name", "Formula", "Complete"], ["Moiety", "Hex", "C6H10O5", True],
                    ["Moiety", "HexNAc", "C8H13NO5", True], ["Moiety", "Fuc", "C6H10O4", True],
                    ["Label", "2-AB", "C7H8N2", True], ["Adduct", "H", "H", True])
-    return w.document([tab("Samples", w.samples([sample(1, "released, 2-AB", "glycans_2ab.mzML")])),
+    return w.document([tab("Samples", w.samples([sample(1, "released, 2-AB", "data/mab_stressed.mzML")], traces=[TIC])),
                        tab("Glycans", w.table("DetachedGlycans", "Glycans", 129, glycans),
                            w.table("GlycanOptions", "Options", 164, options),
                            w.table("Isotope", "Isotopes", 202, rows(["Name", "Element", "MassNumber", "Enrichment"], ["Natural abundance", "C", 13, None]))),
@@ -305,11 +321,19 @@ def label_free_study():
         plate = f"{'ABCDEFGH'[(number - 1) // 12]}{(number - 1) % 12 + 1:02d}"
         samples.append(sample(number, f"{group}_{plate}", f"/mnt/runs/2022-06/{plate}.d", Condition=group, Plate=plate))
     return w.document([tab("Samples", w.samples(samples), database(w, "/mnt/databases/human_reviewed.fasta")),
-                       tab("Quantification", w.step("Karvon", "Search", SEARCH), w.step("Trenq", "Label-free", LABEL_FREE)),
-                       tab("Reports", w.step("MultiDocReport", "Study report", REPORT))],
+                       tab("Quantification", w.step("Karvon", "Search", SEARCH), w.step("Trenq", "Label-free", LABEL_FREE, p238=24))],
                       name="Label-free study, 96 samples", workflowType="LabelFreeQuantification",
                       icon="label-free-quantification", contentMode=0,
                       description="One plate, treated against control.")
+
+
+def stability_report():
+    w = Writer("5.38.0", created="2023-01-20T12:00:00")
+    documents = [sample(i, f"{month} months", f"/mnt/projects/stability/{month:02d}m.senthia") for i, month in enumerate((0, 3, 6, 12), 1)]
+    return w.document([tab("Samples", w.samples(documents)),
+                       tab("Reports", w.step("MultiDocReport", "Stability report", REPORT))],
+                      name="Stability over one year", workflowType="MultiDocumentReport", icon="multi-document-report",
+                      contentMode=0, description="One report over the peptide maps of four points in time.")
 
 
 def de_novo_antibody():
@@ -340,7 +364,7 @@ def server_preview():
 def first_generation():
     """As the first versions wrote it: former names of settings, samples as a tree of rows, and cells that have been retired since."""
     w = Writer("5.5.0", user="old.hand", created="2018-10-09T17:45:00")
-    tree = rows(["SampleName", "FileName", "Metadata", "Condition"], ["digest A", "../data/mab_reference.mzML", "", "control"],
+    tree = rows(["SampleName", "SamplePath", "Metadata", "Condition"], ["digest A", "../data/mab_reference.mzML", "", "control"],
                 ["digest B", "../data/mab_stressed.mzML", "", "stressed"])
     samples = w.cell("Samples", "Sample Input", [{"name": "Samples", "value": tree}])
     sequences = [w.cell("Proteins", "Protein Input", antibody(w)["properties"]),
@@ -361,11 +385,11 @@ EXAMPLE_FILES = {
     "antibody_peptide_map": antibody_peptide_map, "intact_mass_check": intact_mass_check,
     "oligonucleotide_map": oligonucleotide_map, "intact_oligonucleotide": intact_oligonucleotide,
     "glycoproteomics_search": glycoproteomics_search, "released_glycans": released_glycans,
-    "label_free_study": label_free_study, "de_novo_antibody": de_novo_antibody,
+    "label_free_study": label_free_study, "stability_report": stability_report, "de_novo_antibody": de_novo_antibody,
     "dia_glycopeptides": dia_glycopeptides, "server_preview": server_preview,
 }
 
-OLD_SAMPLES = rows(["SampleName", "FileName", "Metadata"], ["digest A", "a.raw", ""], ["digest B", "b.raw", ""])
+OLD_SAMPLES = rows(["SampleName", "SamplePath", "Metadata"], ["digest A", "a.raw", ""], ["digest B", "b.raw", ""])
 
 
 def old_document(version, mode=None):

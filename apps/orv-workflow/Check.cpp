@@ -6,7 +6,9 @@
 #include <orv/core/JsonScanner.h>
 #include <orv/core/JsonUtils.h>
 #include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/validators/ContentValidator.h>
+#include <orv/propertyeditor/validators/SampleTypesValidator.h>
 #include <orv/propertyeditor/validators/Validators.h>
 
 #include <QSet>
@@ -110,6 +112,8 @@ CheckAnswer checkWorkflow(const BatchInput &input, const CheckOptions &options)
     ContentValidator validator;
     for (const QString &name : validatorsOf(options))
         validator.installValidator(Validators::create(name).release());
+    if (options.validators.isEmpty() && PropertyEditorUtils::isKarvonOnly(checked.content.findAllDocuments()))
+        validator.installValidator(new SampleTypesValidator);
     CheckAnswer answer{.file = input.file, .lost = checked.lost};
     QList<Finding> findings;
     answer.isValid =

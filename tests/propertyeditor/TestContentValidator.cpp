@@ -291,10 +291,11 @@ void TestContentValidator::theDefaultSetRunsInItsOrder()
     }
     QCOMPARE(validator.count(), names.size());
     QCOMPARE(names, Validators::names().first(names.size()));
-    QCOMPARE(names, (QStringList{u"Workflow"_s, u"Builtin"_s, u"SamplesPattern"_s, u"MsTraces"_s,
-                                 u"ObsoleteSettings"_s, u"DeltaMasses"_s, u"Insilico"_s,
-                                 u"PeptideReplicateCount"_s}));
+    QCOMPARE(names, (QStringList{u"Workflow"_s, u"Builtin"_s, u"Ulvar2"_s, u"Files"_s, u"SamplesPattern"_s,
+                                 u"MGF"_s, u"MsTraces"_s, u"ObsoleteSettings"_s, u"DeltaMasses"_s,
+                                 u"Insilico"_s, u"PeptideReplicateCount"_s}));
     QVERIFY(Validators::names().contains(u"MzIdent"_s));
+    QVERIFY(Validators::names().contains(u"SampleTypes"_s));
 }
 
 void TestContentValidator::aWorkflowNeedsADocument_data()

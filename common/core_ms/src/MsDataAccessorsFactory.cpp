@@ -23,13 +23,16 @@ constexpr Row kRows[] = {
     {VendorDataFormat::Tolq, internal::createTolqReader},
 };
 
-/// Several formats may lie in one folder; the one with the lowest number stands for them.
+/// Several formats may lie in one folder; the one with the lowest number stands for them. An acquired sample
+/// is read as what it is, whatever lies inside.
 VendorDataFormat formatOf(const QString &path)
 {
     QSet<VendorDataFormat> formats = MsDataFileUtils::detectPossibleVendorFormats(path);
     // Only open formats are packed by themselves; detectors don't know the packed names.
     if (formats.isEmpty() && internal::hasPackedName(path))
         formats = MsDataFileUtils::detectPossibleVendorFormats(internal::unpackedName(path));
+    if (formats.contains(VendorDataFormat::Tolq))
+        return VendorDataFormat::Tolq;
     const auto lowest = std::min_element(formats.begin(), formats.end());
     return lowest == formats.end() ? VendorDataFormat::Unknown : *lowest;
 }

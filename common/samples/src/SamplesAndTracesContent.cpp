@@ -2,6 +2,7 @@
 #include "internal/MemberReader.h"
 #include "internal/SampleRows.h"
 
+#include <orv/resources/ResourceReferenceUtils.h>
 #include <orv/samples/SamplesAndTracesContent.h>
 
 #include <QSet>
@@ -142,6 +143,15 @@ Result<QJsonArray> samplesArray(const QJsonObject &json)
     return MemberReader(json).has(kSamples) ? JsonUtils::arrayValue(json, kSamples) : QJsonArray();
 }
 
+void resolve(ResourceReferenceSPtr *reference, const QUrl &baseUrl, SamplesInput::Entry *sample)
+{
+    if (!ResourceReferenceUtils::isRelative(*reference))
+        return;
+    const QString oldText = (*reference)->text();
+    *reference = ResourceReferenceUtils::resolved(*reference, baseUrl);
+    sample->moveFileMetadata(oldText, (*reference)->text());
+}
+
 } // namespace
 
 Result<SamplesAndTracesContent> SamplesAndTracesContent::fromJson(const QJsonObject &json)
@@ -197,6 +207,19 @@ QJsonObject SamplesAndTracesContent::toJson() const
         return json;
     const Result<SamplesAndTracesContent> before = fromJson(m_stored);
     return !before.hasError() && before->presentForm() == json ? m_stored : json;
+}
+
+SamplesAndTracesContent SamplesAndTracesContent::resolved(const QUrl &baseUrl) const
+{
+    SamplesAndTracesContent result = *this;
+    for (SamplesInput::SampleWithCustomColumns &sample : result.samples.samples) {
+        resolve(&sample.msFile, baseUrl, &sample);
+        for (ResourceReferenceSPtr &trace : sample.traces)
+            resolve(&trace, baseUrl, &sample);
+        for (ResourceReferenceSPtr &reference : sample.extraReferences)
+            resolve(&reference, baseUrl, &sample);
+    }
+    return result;
 }
 
 QList<ResourceReferenceSPtr> SamplesAndTracesContent::references() const

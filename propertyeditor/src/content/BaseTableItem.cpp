@@ -254,6 +254,11 @@ Error BaseTableItem::assignFromJson(const QJsonObject &json, ValidationOptions o
     return Error::NoError;
 }
 
+void BaseTableItem::setBaseUrl(const QUrl &url)
+{
+    m_baseUrl = url;
+}
+
 void BaseTableItem::clear()
 {
     m_root.clear();

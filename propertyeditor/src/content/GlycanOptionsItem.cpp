@@ -10,16 +10,11 @@ GlycanOptionsItem::GlycanOptionsItem()
 
 GlycanOptionsItem::~GlycanOptionsItem() = default;
 
-void GlycanOptionsItem::setBaseUrl(const QUrl &url)
-{
-    m_baseUrl = url;
-}
-
 QJsonObject GlycanOptionsItem::toJson(PropertyConversionFlag flag) const
 {
     QJsonObject json = BaseTableItem::toJson(flag);
     if (flag == PropertyConversionFlag::AbsolutePaths)
-        updateGlycanDatabaseToAbsolute(m_baseUrl, &json);
+        updateGlycanDatabaseToAbsolute(baseUrl(), &json);
     return json;
 }
 

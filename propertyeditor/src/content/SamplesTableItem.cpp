@@ -26,7 +26,8 @@ void SamplesTableItem::reloadMetadata(const QList<MetadataMapping> &mappings,
 
 QJsonObject SamplesTableItem::toJson(PropertyConversionFlag flag) const
 {
-    return cellWithValue(flag, m_content.toJson());
+    const bool resolves = flag == PropertyConversionFlag::AbsolutePaths && baseUrl().isValid();
+    return cellWithValue(flag, resolves ? m_content.resolved(baseUrl()).toJson() : m_content.toJson());
 }
 
 Error SamplesTableItem::assignFromJson(const QJsonObject &json, ValidationOptions options)

@@ -2,6 +2,7 @@
 
 #include <orv/propertyeditor/content/SequenceDatabaseItems.h>
 #include <orv/propertyeditor/content/SequenceDatabasesTableItem.h>
+#include <orv/resources/ResourceReferenceUtils.h>
 
 namespace orv::PropertyEditor {
 
@@ -18,7 +19,14 @@ PropertyId SequenceDatabasesTableItem::propertyId() const
 
 QJsonObject SequenceDatabasesTableItem::toJson(PropertyConversionFlag flag) const
 {
-    return cellWithValue(flag, SequenceDatabaseItems::toJson(m_items));
+    QList<SequenceDatabaseItem> items = m_items;
+    if (flag == PropertyConversionFlag::AbsolutePaths && baseUrl().isValid()) {
+        for (SequenceDatabaseItem &item : items) {
+            if (ResourceReferenceUtils::isRelative(item.fastaReference()))
+                item.setFastaReference(ResourceReferenceUtils::resolved(item.fastaReference(), baseUrl()));
+        }
+    }
+    return cellWithValue(flag, SequenceDatabaseItems::toJson(items));
 }
 
 Error SequenceDatabasesTableItem::assignFromJson(const QJsonObject &json, ValidationOptions options)

@@ -1,4 +1,5 @@
 #include "FindingNotes.h"
+#include "SampleFiles.h"
 
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/validators/AbstractValidator.h>
@@ -112,6 +113,7 @@ bool ContentValidator::validate(const Content &content, const QUrl &workflowBase
     qCDebug(propertyEditorLog) << "Validating workflow content";
     warnings->clear();
     errors->clear();
+    const SampleFiles files;
     QList<Finding> found;
     int failures = 0;
     for (const auto &validator : d->validators) {

@@ -24,14 +24,8 @@ FindingNotes *FindingNotes::current()
 
 QList<FindingNotes::Note> FindingNotes::notesOf(const QString &message) const
 {
-    QList<Note> notes;
-    for (const Note &note : m_notes) {
-        if (note.message == message)
-            notes.append(note);
-    }
-    if (notes.isEmpty())
-        notes.append({message, {}, {}, {}});
-    return notes;
+    const auto notes = m_notes.constFind(message);
+    return notes == m_notes.cend() ? QList<Note>{{message, {}, {}, {}}} : *notes;
 }
 
 void Findings::note(const QString &message, const FindingPlace &place, const QString &hint,

@@ -2,6 +2,8 @@
 
 #include <orv/propertyeditor/validators/Finding.h>
 
+#include <QHash>
+
 namespace orv::PropertyEditor {
 
 /// While it lives, hears what is noted on this thread. One inside another takes its place.
@@ -20,16 +22,15 @@ public:
     ~FindingNotes();
     Q_DISABLE_COPY_MOVE(FindingNotes)
 
-    void add(Note note) { m_notes.append(std::move(note)); }
+    void add(const Note &note) { m_notes[note.message].append(note); }
     /// Those with that message, in order; one without a place if there is none.
     [[nodiscard]] QList<Note> notesOf(const QString &message) const;
-    void clear() { m_notes.clear(); }
 
     [[nodiscard]] static FindingNotes *current();
 
 private:
     FindingNotes *m_outer;
-    QList<Note> m_notes;
+    QHash<QString, QList<Note>> m_notes;
 };
 
 } // namespace orv::PropertyEditor

@@ -1,11 +1,15 @@
 #include <orv/propertyeditor/validators/BuiltinValidator.h>
 #include <orv/propertyeditor/validators/DeltaMassesValidator.h>
+#include <orv/propertyeditor/validators/FilesValidator.h>
 #include <orv/propertyeditor/validators/InsilicoValidator.h>
+#include <orv/propertyeditor/validators/MGFValidator.h>
 #include <orv/propertyeditor/validators/MsTracesValidator.h>
 #include <orv/propertyeditor/validators/MzIdentValidator.h>
 #include <orv/propertyeditor/validators/ObsoleteSettingsValidator.h>
 #include <orv/propertyeditor/validators/PeptideReplicateCountValidator.h>
+#include <orv/propertyeditor/validators/SampleTypesValidator.h>
 #include <orv/propertyeditor/validators/SamplesPatternValidator.h>
+#include <orv/propertyeditor/validators/Ulvar2Validator.h>
 #include <orv/propertyeditor/validators/Validators.h>
 #include <orv/propertyeditor/validators/WorkflowValidator.h>
 
@@ -39,13 +43,17 @@ constexpr Row row(const char *name, bool isDefault)
 constexpr std::array kRows = {
     row<WorkflowValidator>("Workflow", true),
     row<BuiltinValidator>("Builtin", true),
+    row<Ulvar2Validator>("Ulvar2", true),
+    row<FilesValidator>("Files", true),
     row<SamplesPatternValidator>("SamplesPattern", true),
+    row<MGFValidator>("MGF", true),
     row<MsTracesValidator>("MsTraces", true),
     row<ObsoleteSettingsValidator>("ObsoleteSettings", true),
     row<DeltaMassesValidator>("DeltaMasses", true),
     row<InsilicoValidator>("Insilico", true),
     row<PeptideReplicateCountValidator>("PeptideReplicateCount", true),
     row<MzIdentValidator>("MzIdent", false),
+    row<SampleTypesValidator>("SampleTypes", false),
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "OrvTest.h"
 #include "SampleTree.h"
+#include "TolqFiles.h"
 
 #include <orv/core_ms/MsDataFileUtils.h>
 
@@ -16,6 +17,7 @@ private Q_SLOTS:
     void extensionsAreKnown();
     void whatIsThereIsLookedAt();
     void whatIsNotThereGoesByItsName();
+    void anAcquiredSampleHasTheFormatInside();
 };
 
 void TestMsDataFileUtils::extensionsAreKnown_data()
@@ -54,6 +56,17 @@ void TestMsDataFileUtils::whatIsNotThereGoesByItsName()
              QSet({Format::Thermo, Format::Waters}));
     QCOMPARE(MsDataFileUtils::detectPossibleVendorFormats(u"/nowhere/a.txt"_s), QSet<Format>());
     QCOMPARE(MsDataFileUtils::detectPossibleVendorFormats(QString()), QSet<Format>());
+}
+
+void TestMsDataFileUtils::anAcquiredSampleHasTheFormatInside()
+{
+    const SampleTree tree;
+    makeZip(tree.at(u"a.tolq"_s), {{u"metadata.json"_s, tolqMetadata("run.ulvar2")}, {u"run.ulvar2"_s, "x"}});
+    tree.addAll({u"broken.tolq"_s});
+    QCOMPARE(MsDataFileUtils::detectPossibleVendorFormats(tree.at(u"a.tolq"_s)),
+             QSet({Format::Tolq, Format::Ulvar2}));
+    QCOMPARE(MsDataFileUtils::detectPossibleVendorFormats(tree.at(u"broken.tolq"_s)), QSet{Format::Tolq});
+    QCOMPARE(MsDataFileUtils::detectPossibleVendorFormats(u"/nowhere/a.tolq"_s), QSet{Format::Tolq});
 }
 
 ORV_REGISTER_TEST(TestMsDataFileUtils)

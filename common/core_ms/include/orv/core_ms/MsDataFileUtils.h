@@ -14,7 +14,7 @@ namespace orv::MsDataFileUtils {
 [[nodiscard]] ORV_WORKFLOW_EXPORT bool hasMsExtension(const QString &name);
 
 /// The formats that the data at \a path may have: told by looking at what lies there, or by the name alone
-/// while nothing does.
+/// while nothing does. An acquired sample (.tolq) may have that of the sample inside, too.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QSet<msreader::VendorDataFormat>
 detectPossibleVendorFormats(const QString &path);
 

@@ -8,6 +8,8 @@
 #include <QJsonObject>
 #include <QList>
 
+QT_FORWARD_DECLARE_CLASS(QUrl)
+
 namespace orv {
 
 /// What a samples cell holds: the samples, their custom columns, and the options of their traces. A plain
@@ -32,6 +34,9 @@ public:
     /// The files of all samples, each sample's MS file first and then its companions. No null ones; repeats
     /// are kept.
     [[nodiscard]] QList<ResourceReferenceSPtr> references() const;
+
+    /// The same with relative files of samples taken from \a baseUrl, see ResourceReferenceUtils::resolved.
+    [[nodiscard]] SamplesAndTracesContent resolved(const QUrl &baseUrl) const;
 
     /// Whether both are stored alike.
     friend bool operator==(const SamplesAndTracesContent &a, const SamplesAndTracesContent &b)

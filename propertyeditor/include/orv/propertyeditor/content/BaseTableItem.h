@@ -9,6 +9,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <QUrl>
 #include <QVariant>
 
 namespace orv::PropertyEditor {
@@ -66,6 +67,7 @@ public:
     Error assignFromJson(const QJsonObject &json, ValidationOptions options) override;
     /// Leaves no rows, no columns and no definitions of columns. Announces nothing.
     void clear() override;
+    void setBaseUrl(const QUrl &url) override;
 
 Q_SIGNALS:
     void columnCountChanged(int count);
@@ -91,6 +93,9 @@ protected:
 
     explicit BaseTableItem(BaseItemType type);
     BaseTableItem(BaseItemType type, FurtherContent further);
+
+    /// From which relative files are taken when the cell is written with absolute paths.
+    [[nodiscard]] const QUrl &baseUrl() const { return m_baseUrl; }
 
     /// The property whose value the table is.
     [[nodiscard]] virtual PropertyId propertyId() const = 0;
@@ -124,6 +129,7 @@ private:
     RowNode m_root;
     RowNode m_customColumnsMetaData;
     FurtherContent m_further;
+    QUrl m_baseUrl;
 };
 
 } // namespace orv::PropertyEditor

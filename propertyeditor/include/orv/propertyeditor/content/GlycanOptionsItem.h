@@ -13,15 +13,11 @@ public:
     GlycanOptionsItem();
     ~GlycanOptionsItem() override;
 
-    void setBaseUrl(const QUrl &url) override;
     /// With absolute paths, a glycan text of the cell itself gets them.
     QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const override;
 
 protected:
     [[nodiscard]] PropertyId propertyId() const override;
-
-private:
-    QUrl m_baseUrl;
 };
 
 } // namespace orv::PropertyEditor

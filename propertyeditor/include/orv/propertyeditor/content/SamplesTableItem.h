@@ -31,6 +31,7 @@ public:
     void reloadMetadata(const QList<MetadataMapping> &mappings,
                         const QList<TalvaneMetadataMappingConnection> &connections) override;
 
+    /// With absolute paths, relative files of the samples get them.
     QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const override;
     /// MalformedStructure if the cell lacks its "properties" or its samples, and the error of a sample that
     /// can't be read.

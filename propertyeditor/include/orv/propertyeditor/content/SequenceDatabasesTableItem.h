@@ -18,6 +18,7 @@ public:
     /// Announces nothing.
     void setItems(const QList<SequenceDatabaseItem> &items) { m_items = items; }
 
+    /// With absolute paths, relative files get them.
     QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const override;
     /// As the base, and the errors of SequenceDatabaseItems::fromJson.
     Error assignFromJson(const QJsonObject &json, ValidationOptions options) override;

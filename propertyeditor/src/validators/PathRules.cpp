@@ -1,0 +1,136 @@
+#include "PathRules.h"
+
+#include "ValidatorHelpers.h"
+
+#include <orv/core/FileExtensionsNameFilter.h>
+#include <orv/core/MultiDocumentReportConstants.h>
+#include <orv/core_ms/MsDataFileUtils.h>
+#include <orv/propertyeditor/content/SamplesTableItem.h>
+#include <orv/resources/FileTypeUtils.h>
+#include <orv/resources/ResourceReferenceUtils.h>
+#include <orv/resources/ResourceTypeChecker.h>
+
+#include <QObject>
+
+#include <algorithm>
+
+namespace orv::PropertyEditor::PathRules {
+
+FindingPlace placeOf(const SamplesTableItem *table, const SamplesInput::Entry &sample)
+{
+    return {table, PropertyId::SamplesTable, sample.name};
+}
+
+bool reportEmptyPaths(const SamplesTableItem *table, const SamplesInput::Entry &sample,
+                      QList<QString> *errors)
+{
+    if (sample.msFile || !sample.traces.isEmpty())
+        return false;
+    report(errors,
+           QObject::tr("The sample path and traces path of the sample \"%1\" are empty").arg(sample.name),
+           placeOf(table, sample), QObject::tr("Choose the file of this sample, or remove the sample."));
+    return true;
+}
+
+bool isMsFileOrProject(const ResourceReferenceSPtr &reference)
+{
+    if (!reference || MsDataFileUtils::hasMsExtension(ResourceReferenceUtils::localName(reference)))
+        return true;
+    switch (FileTypeUtils::appType(reference)) {
+    case ApplicationType::Dravik:
+    case ApplicationType::Intact:
+    case ApplicationType::Oligo:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void reportWrongMsFile(const SamplesTableItem *table, const SamplesInput::Entry &sample,
+                       QList<QString> *errors)
+{
+    report(errors,
+           QObject::tr("The sample path of the sample \"%1\" should be MS file or project file")
+               .arg(sample.name),
+           placeOf(table, sample),
+           QObject::tr("\"%1\" is neither. Choose mass-spectrometry data, or a project to compare with.")
+               .arg(ResourceReferenceUtils::localName(sample.msFile)));
+}
+
+void checkTraceType(PathsValidatorBase &paths, const ResourceReferenceSPtr &trace, const QString &word,
+                    const QSet<BaseItemType> &itemTypes, const FindingPlace &place, QList<QString> *errors)
+{
+    if (paths.isMsReference(trace) || ResourceTypeChecker::isCSVOrTextFileType(trace))
+        return;
+    const QString hint = QObject::tr("Choose another file in place of \"%1\", or remove it.")
+                             .arg(ResourceReferenceUtils::localName(trace));
+    if (ResourceTypeChecker::isElectropherogramFileType(trace)) {
+        if (!itemTypes.contains(BaseItemType::Dravik)) {
+            report(
+                errors,
+                QObject::tr("The traces path for electropherogram file (.pI) is only supported for Dravik"),
+                place, hint);
+        }
+    } else if (FileTypeUtils::appType(trace) == ApplicationType::IcIef) {
+        if (!itemTypes.contains(BaseItemType::Intact)) {
+            report(errors, QObject::tr("The traces path for icIEF file (.itb) is only supported for Intact"),
+                   place, hint);
+        }
+    } else {
+        report(
+            errors,
+            QObject::tr(
+                "The traces path of the sample \"%1\" should be %2 file / text file / pI file / icIEF file")
+                .arg(place.sample, word),
+            place, hint);
+    }
+}
+
+bool reportEmptyDocument(const SamplesTableItem *table, const SamplesInput::Entry &document,
+                         QList<QString> *errors)
+{
+    if (document.msFile)
+        return false;
+    report(errors, QObject::tr("The document path with id \"%1\" is empty").arg(document.id),
+           placeOf(table, document), QObject::tr("Choose a document, or remove the row."));
+    return true;
+}
+
+void DocumentTypes::add(const SamplesTableItem *table, const SamplesInput::Entry &document,
+                        QList<QString> *errors)
+{
+    const ApplicationType type = FileTypeUtils::appType(document.msFile);
+    const auto &supported = MultiDocumentReportConstants::SUPPORTED_APPLICATIONS;
+    if (std::find(std::begin(supported), std::end(supported), type) != std::end(supported)) {
+        m_types.insert(type);
+        return;
+    }
+    const QList<FileType> allowed(std::begin(MirelFileTypes::MULTIDOCALLOWEDFILES),
+                                  std::end(MirelFileTypes::MULTIDOCALLOWEDFILES));
+    report(errors,
+           QObject::tr("The file path with id \"%1\" is not a correct document type. Allowed files are: %2")
+               .arg(document.id)
+               .arg(FileExtensionsNameFilter(allowed).fileMasks().join(QLatin1Char(' '))),
+           placeOf(table, document), QObject::tr("Choose the project of an analysis."));
+}
+
+void DocumentTypes::finish(const SamplesTableItem *table, QList<QString> *errors) const
+{
+    if (m_types.size() < 2)
+        return;
+    report(errors, QObject::tr("All documents should have the same type"),
+           {table, PropertyId::SamplesTable, {}},
+           QObject::tr("Make a report of its own for each type of documents."));
+}
+
+bool checkReference(PathsValidatorBase &paths, const ResourceReferenceSPtr &reference,
+                    const FindingPlace &place, QList<QString> *errors)
+{
+    const qsizetype errorsBefore = errors->size();
+    const bool isGood = paths.validateReference(reference, errors);
+    for (const QString &error : errors->mid(errorsBefore))
+        Findings::note(error, place, QObject::tr("Put the file there, or choose another one."));
+    return isGood;
+}
+
+} // namespace orv::PropertyEditor::PathRules

@@ -1,0 +1,7 @@
+#include <orv/propertyeditor/validators/PathsValidatorBase.h>
+
+namespace orv::PropertyEditor {
+
+PathsValidatorBase::~PathsValidatorBase() = default;
+
+} // namespace orv::PropertyEditor

@@ -1,0 +1,82 @@
+#include "SampleFiles.h"
+
+#include <orv/core_ms/MsDataFileUtils.h>
+#include <orv/resources/ResourceHandlerUtils.h>
+
+#include <QtConcurrentMap>
+
+namespace orv::PropertyEditor {
+
+namespace {
+
+thread_local SampleFiles *currentFiles = nullptr;
+
+/// Below it, threads cost more than they save.
+constexpr qsizetype kWorthThreads = 32;
+
+} // namespace
+
+SampleFiles::SampleFiles()
+    : m_isOutermost(!currentFiles)
+{
+    if (m_isOutermost)
+        currentFiles = this;
+}
+
+SampleFiles::~SampleFiles()
+{
+    if (m_isOutermost)
+        currentFiles = nullptr;
+}
+
+SampleFiles &SampleFiles::current()
+{
+    Q_ASSERT(currentFiles);
+    return *currentFiles;
+}
+
+void SampleFiles::lookAhead(const QList<ResourceReferenceSPtr> &references)
+{
+    QList<ResourceReferenceSPtr> unknown;
+    QSet<ResourceReferenceKey> seen;
+    for (const ResourceReferenceSPtr &reference : references) {
+        if (!reference || !reference->isScheme(ResourceReference::Scheme::LocalFile) ||
+            m_exists.contains(reference) || seen.contains(reference))
+            continue;
+        seen.insert(reference);
+        unknown.append(reference);
+    }
+    if (unknown.size() < kWorthThreads)
+        return;
+    using Answers = std::vector<Result<bool>>;
+    const Answers answers = QtConcurrent::blockingMapped<Answers>(unknown, &ResourceHandlerUtils::exists);
+    m_exists.reserve(m_exists.size() + unknown.size());
+    for (qsizetype i = 0; i < unknown.size(); ++i)
+        m_exists.insert(unknown.at(i), answers.at(size_t(i)));
+}
+
+Result<bool> SampleFiles::exists(const ResourceReferenceSPtr &reference)
+{
+    const auto known = m_exists.constFind(reference);
+    if (known != m_exists.cend())
+        return *known;
+    return *m_exists.insert(reference, ResourceHandlerUtils::exists(reference));
+}
+
+bool SampleFiles::isValid(const ResourceReferenceSPtr &reference)
+{
+    const auto known = m_isValid.constFind(reference);
+    if (known != m_isValid.cend())
+        return *known;
+    return *m_isValid.insert(reference, ResourceHandlerUtils::validateReference(reference));
+}
+
+QSet<msreader::VendorDataFormat> SampleFiles::possibleFormats(const QString &path)
+{
+    const auto known = m_formats.constFind(path);
+    if (known != m_formats.cend())
+        return *known;
+    return *m_formats.insert(path, MsDataFileUtils::detectPossibleVendorFormats(path));
+}
+
+} // namespace orv::PropertyEditor

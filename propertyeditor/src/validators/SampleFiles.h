@@ -1,0 +1,42 @@
+#pragma once
+
+#include <orv/core/Result.h>
+#include <orv/core_ms/MsDataFormat.h>
+#include <orv/resources/ResourceReferenceKey.h>
+
+#include <QHash>
+#include <QSet>
+
+namespace orv::PropertyEditor {
+
+/// What one check has learnt of the resources that a document names, so that each is asked for once,
+/// whichever validators want to know. The outermost on a thread is the one that counts there.
+class SampleFiles
+{
+public:
+    SampleFiles();
+    ~SampleFiles();
+    Q_DISABLE_COPY_MOVE(SampleFiles)
+
+    /// Of this thread; there must be one.
+    [[nodiscard]] static SampleFiles &current();
+
+    /// Looks for all local files among \a references, several at a time. Others wait until they are asked
+    /// for.
+    void lookAhead(const QList<ResourceReferenceSPtr> &references);
+
+    /// ResourceHandlerUtils::exists of \a reference, which isn't null.
+    [[nodiscard]] Result<bool> exists(const ResourceReferenceSPtr &reference);
+    /// ResourceHandlerUtils::validateReference of \a reference, which isn't null.
+    [[nodiscard]] bool isValid(const ResourceReferenceSPtr &reference);
+    /// MsDataFileUtils::detectPossibleVendorFormats of \a path.
+    [[nodiscard]] QSet<msreader::VendorDataFormat> possibleFormats(const QString &path);
+
+private:
+    const bool m_isOutermost;
+    QHash<ResourceReferenceKey, Result<bool>> m_exists;
+    QHash<ResourceReferenceKey, bool> m_isValid;
+    QHash<QString, QSet<msreader::VendorDataFormat>> m_formats;
+};
+
+} // namespace orv::PropertyEditor

@@ -1,0 +1,80 @@
+#include "SampleFiles.h"
+#include "ValidatorHelpers.h"
+
+#include <orv/core_ms/MsFileInfo.h>
+#include <orv/propertyeditor/PropertyEditorUtils.h>
+#include <orv/propertyeditor/content/Content.h>
+#include <orv/propertyeditor/content/SamplesTableItem.h>
+#include <orv/propertyeditor/validators/SampleTypesValidator.h>
+
+#include <QObject>
+
+namespace orv::PropertyEditor {
+
+SampleTypesValidator::~SampleTypesValidator() = default;
+
+bool SampleTypesValidator::validate(const Content &content, const QUrl & /*workflowBaseUrl*/,
+                                    QList<QString> * /*warnings*/, QList<QString> *errors) const
+{
+    if (!PropertyEditorUtils::isKarvonOnly(content.findAllDocuments()))
+        return true;
+    const SampleFiles files;
+    bool isGood = true;
+    for (const BaseItem *item : content.findAllItems(BaseItemType::Samples)) {
+        const auto *table = qobject_cast<const SamplesTableItem *>(item);
+        if (!table)
+            continue;
+        const QList<SamplesInput::Entry> samples = table->samplesInput();
+        if (samples.size() >= 2)
+            isGood = validateSamples(samples, table, errors) && isGood;
+    }
+    return isGood;
+}
+
+bool SampleTypesValidator::validateSamples(const QList<SamplesInput::Entry> &samples,
+                                           QList<QString> * /*warnings*/, QList<QString> *errors) const
+{
+    return validateSamples(samples, static_cast<const SamplesTableItem *>(nullptr), errors);
+}
+
+bool SampleTypesValidator::validateSamples(const QList<SamplesInput::Entry> &samples,
+                                           const SamplesTableItem *table, QList<QString> *errors) const
+{
+    QSet<msreader::VendorDataFormat> formatsOfAll;
+    for (const SamplesInput::Entry &sample : samples) {
+        const QSet<msreader::VendorDataFormat> formats = detectPossibleSampleVendorFormats(sample);
+        if (formats.isEmpty())
+            continue;
+        if (formatsOfAll.isEmpty())
+            formatsOfAll = formats;
+        if (formats == formatsOfAll)
+            continue;
+        report(errors,
+               QObject::tr("Multi-vendor projects are not yet supported. Please ensure all samples belong to "
+                           "the same vendor."),
+               {table, PropertyId::SamplesTable, sample.name},
+               QObject::tr("Move this sample and others of its vendor to a workflow of their own."));
+        return false;
+    }
+    return true;
+}
+
+QSet<msreader::VendorDataFormat>
+SampleTypesValidator::detectPossibleSampleVendorFormats(const SamplesInput::Entry &sample) const
+{
+    if (!sample.msFile)
+        return {};
+    switch (sample.msFile->scheme()) {
+    case ResourceReference::Scheme::LocalFile: {
+        const SampleFiles files;
+        return SampleFiles::current().possibleFormats(sample.msFile->text());
+    }
+    case ResourceReference::Scheme::UNIFI:
+        return msreader::MsFileInfo::detectFormatByName(
+            msreader::DataSourceLocation::ofPath(sample.msFile->text()));
+    default:
+        return {};
+    }
+}
+
+} // namespace orv::PropertyEditor
