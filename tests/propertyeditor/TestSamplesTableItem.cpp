@@ -44,6 +44,7 @@ private Q_SLOTS:
     void aBrokenSampleIsRefused();
     void contentIsReplaced();
     void metadataFillColumns();
+    void relativeFilesBecomeAbsoluteOnDemand();
     void clearLeavesNothing();
     void whatIsNotKeptIsTold();
 };
@@ -127,6 +128,33 @@ void TestSamplesTableItem::metadataFillColumns()
     item.reloadMetadata({mapping}, {connection});
     QCOMPARE(item.samplesWithCustomColumns().samples.at(1).customValues.value(u"Temperature"_s).toInt(), 60);
     QVERIFY(!item.samplesWithCustomColumns().samples.at(0).customValues.value(u"Temperature"_s).toBool());
+}
+
+void TestSamplesTableItem::relativeFilesBecomeAbsoluteOnDemand()
+{
+    const QJsonObject sample{
+        {u"SamplesId"_s, 1},
+        {u"SampleName"_s, u"lot 1"_s},
+        {u"SamplePath"_s, u"data/a#1.raw"_s},
+        {u"Traces"_s, QJsonArray{u"../uv.csv"_s, u"/elsewhere/uv.csv"_s}},
+        {u"ExtraReferences"_s, QJsonArray{u"talvane:/lab/r.karvrslt"_s, u"r.karvrslt"_s}}};
+    const QJsonObject cell = samplesCell(QJsonObject{{u"Samples"_s, QJsonArray{sample}}});
+    SamplesTableItem item;
+    ORV_VERIFY_OK(item.assignFromJson(cell, {}));
+    const auto stored = [&item](PropertyConversionFlag flag) {
+        const QJsonArray entries = item.toJson(flag).value(u"properties"_s).toArray();
+        return entries.at(0)[u"value"_s][u"Samples"_s][0].toObject();
+    };
+    QCOMPARE(stored(PropertyConversionFlag::AbsolutePaths), sample);
+    item.setBaseUrl(QUrl::fromLocalFile(u"/lab/study/"_s));
+    QCOMPARE(stored(PropertyConversionFlag::KeepPaths), sample);
+    const QJsonObject absolute = stored(PropertyConversionFlag::AbsolutePaths);
+    QCOMPARE(absolute.value(u"SamplePath"_s).toString(), u"/lab/study/data/a#1.raw"_s);
+    QCOMPARE(absolute.value(u"Traces"_s).toArray(), (QJsonArray{u"/lab/uv.csv"_s, u"/elsewhere/uv.csv"_s}));
+    QCOMPARE(absolute.value(u"ExtraReferences"_s).toArray(),
+             (QJsonArray{u"talvane:/lab/r.karvrslt"_s, u"/lab/study/r.karvrslt"_s}));
+    // The item itself keeps what it had.
+    QCOMPARE(stored(PropertyConversionFlag::KeepPaths), sample);
 }
 
 void TestSamplesTableItem::clearLeavesNothing()

@@ -57,6 +57,7 @@ private Q_SLOTS:
     void otherValuesAreRefused_data();
     void otherValuesAreRefused();
     void itemsAreReplacedAndCleared();
+    void relativeFilesBecomeAbsoluteOnDemand();
     void existingFastaFilesPass();
     void anEmptyEntryFails();
     void missingFilesAreTold();
@@ -151,6 +152,22 @@ private:
 };
 
 } // namespace
+
+void TestSequenceDatabasesTableItem::relativeFilesBecomeAbsoluteOnDemand()
+{
+    SequenceDatabasesTableItem item;
+    item.setItems({database(u"data/a.fasta"_s), database(u"/elsewhere/b.fasta"_s)});
+    item.setBaseUrl(QUrl::fromLocalFile(u"/lab/study/"_s));
+    const auto files = [&item](PropertyConversionFlag flag) {
+        const QJsonArray entries = item.toJson(flag).value(u"properties"_s).toArray();
+        const QJsonArray rows = entries.at(0)[u"value"_s][u"sequences"_s].toArray();
+        return QStringList{rows.at(0)[u"fasta"_s].toString(), rows.at(1)[u"fasta"_s].toString()};
+    };
+    QCOMPARE(files(PropertyConversionFlag::KeepPaths),
+             (QStringList{u"data/a.fasta"_s, u"/elsewhere/b.fasta"_s}));
+    QCOMPARE(files(PropertyConversionFlag::AbsolutePaths),
+             (QStringList{u"/lab/study/data/a.fasta"_s, u"/elsewhere/b.fasta"_s}));
+}
 
 void TestSequenceDatabasesTableItem::existingFastaFilesPass()
 {

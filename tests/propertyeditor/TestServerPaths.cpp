@@ -5,6 +5,7 @@
 #include <orv/core/Settings.h>
 #include <orv/propertyeditor/validators/FilesValidator.h>
 #include <orv/propertyeditor/validators/TalvanePathsValidator.h>
+#include <orv/resources/ExternalDataSources.h>
 #include <orv/resources/ResourceManager.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 
@@ -62,6 +63,8 @@ private Q_SLOTS:
     void cleanupTestCase();
     void filesAreJudgedByTheirScheme_data();
     void filesAreJudgedByTheirScheme();
+    void externalSourcesThatAreMountedAreJudgedByTheirPath_data();
+    void externalSourcesThatAreMountedAreJudgedByTheirPath();
     void anEmptySampleIsTold();
     void tracesAreJudgedByTheirScheme_data();
     void tracesAreJudgedByTheirScheme();
@@ -128,6 +131,26 @@ void TestServerPaths::filesAreJudgedByTheirScheme()
     QList<QString> errors;
     QCOMPARE(FilesValidator().validate(content, {}, &warnings, &errors), error.isEmpty());
     QCOMPARE(errors, error.isEmpty() ? QList<QString>() : QList<QString>{error});
+}
+
+void TestServerPaths::externalSourcesThatAreMountedAreJudgedByTheirPath_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<bool>("isGood");
+    QTest::newRow("MS file") << u"eds:/archive/lab/a.raw"_s << true;
+    QTest::newRow("project") << u"eds:/archive/lab/a.intact"_s << true;
+    QTest::newRow("other") << u"eds:/archive/lab/a.txt"_s << false;
+}
+
+void TestServerPaths::externalSourcesThatAreMountedAreJudgedByTheirPath()
+{
+    QFETCH(QString, file);
+    QFETCH(bool, isGood);
+    const as::ScopedOverride mounted(ExternalDataSources::settingsKey(u"archive"_s), u"/mnt/archive"_s);
+    const QString notMs = u"The sample path of the sample \"a\" should be MS file or project file"_s;
+    QCOMPARE(errorsOfFile(file), isGood ? QList<QString>() : QList<QString>{notMs});
+    TalvanePathsValidator paths;
+    QCOMPARE(paths.isMsReference(ResourceReferenceUtils::fromString(file)), file.endsWith(u".raw"_s));
 }
 
 void TestServerPaths::anEmptySampleIsTold()
