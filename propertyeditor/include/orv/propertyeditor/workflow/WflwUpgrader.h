@@ -1,0 +1,44 @@
+#pragma once
+
+#include <orv/core/Error.h>
+#include <orv/core/Export.h>
+
+#include <QList>
+#include <QString>
+
+QT_BEGIN_NAMESPACE
+class QVersionNumber;
+QT_END_NAMESPACE
+
+namespace orv {
+
+class PropertyEditorContent;
+class WflwUpgradeObserver;
+
+/// Brings documents of earlier format versions into the present form:
+/// \code
+///     PropertyEditorContent document(bytes);
+///     const auto version = WflwMetaData::versionNumberFromMetaDataObject(document.metadata());
+///     QList<QString> notes;
+///     if (Error error = WflwUpgrader::upgradeWorkflow(version, &document, &notes, true))
+///         return error.ecatch(); // the document is of no use any more
+/// \endcode
+/// Runs on the caller's thread and blocks it; different documents may be upgraded on different threads.
+class ORV_WORKFLOW_EXPORT WflwUpgrader
+{
+public:
+    /// Runs every step above \a version, the version that the document declares. A document of exactly the
+    /// current version is left alone.
+    ///
+    /// \a notes may be null; a run that succeeds replaces what it holds by what the user should know of.
+    /// Steps that open the samples' data files run only with \a accessSampleData. Some steps ask a server
+    /// when a sample lies there. A failure is that of a step; \a content is then as the step before left it,
+    /// and should be discarded.
+    static Error upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
+                                 QList<QString> *notes, bool accessSampleData);
+    /// The same; \a observer, which may be null, is told of each step that changed something.
+    static Error upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
+                                 QList<QString> *notes, bool accessSampleData, WflwUpgradeObserver *observer);
+};
+
+} // namespace orv

@@ -1,0 +1,147 @@
+#include "WorkingContent.h"
+
+#include <orv/propertyeditor/workflow/TalvaneWflwUpgradeHelper.h>
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
+#include <orv/propertyeditor/workflow/WflwUpgradeObserver.h>
+#include <orv/propertyeditor/workflow/WflwUpgrader.h>
+
+#include <QCoreApplication>
+#include <QVersionNumber>
+
+#include <memory>
+
+namespace orv {
+
+namespace {
+
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(WflwUpgrader)
+};
+
+/// What a run hands to its steps.
+struct StepArguments
+{
+    PropertyEditorContent *content;
+    const PropertyEditorContent initialContent;
+    const QVersionNumber initialVersion;
+};
+
+template<auto function>
+Error call(WflwUpgradeHelper &helper, const StepArguments &arguments)
+{
+    if constexpr (std::is_invocable_v<decltype(function), WflwUpgradeHelper &, PropertyEditorContent *>)
+        return (helper.*function)(arguments.content);
+    else
+        return (helper.*function)(arguments.content, &arguments.initialContent, arguments.initialVersion);
+}
+
+struct Step
+{
+    int minor;
+    int patch;
+    bool needsSampleData;
+    Error (*run)(WflwUpgradeHelper &helper, const StepArguments &arguments);
+
+    [[nodiscard]] QVersionNumber version() const { return {5, minor, patch}; }
+};
+
+using Helper = WflwUpgradeHelper;
+
+constexpr bool kAlways = false;
+constexpr bool kWithSampleData = true;
+
+constexpr Step kSteps[] = {
+    {6, 0, kAlways, &call<&Helper::upgradeV_5_6_0>},
+    {9, 0, kAlways, &call<&Helper::upgradeV_5_9_0>},
+    {10, 1, kWithSampleData, &call<&Helper::upgradeV_5_10_1>},
+    {12, 0, kAlways, &call<&Helper::upgradeV_5_12_0>},
+    {12, 2, kAlways, &call<&Helper::upgradeV_5_12_2>},
+    {13, 0, kAlways, &call<&Helper::upgradeV_5_13_0>},
+    {15, 0, kAlways, &call<&Helper::upgradeV_5_15_0>},
+    {16, 1, kAlways, &call<&Helper::upgradeV_5_16_1>},
+    {17, 0, kAlways, &call<&Helper::upgradeV_5_17_0>},
+    {18, 0, kAlways, &call<&Helper::upgradeV_5_18_0>},
+    {19, 0, kAlways, &call<&Helper::upgradeV_5_19_0>},
+    {20, 0, kAlways, &call<&Helper::upgradeV_5_20_0>},
+    {21, 0, kAlways, &call<&Helper::upgradeV_5_21_0>},
+    {22, 0, kAlways, &call<&Helper::upgradeV_5_22_0>},
+    {23, 0, kAlways, &call<&Helper::upgradeV_5_23_0>},
+    {24, 0, kAlways, &call<&Helper::upgradeV_5_24_0>},
+    {25, 0, kAlways, &call<&Helper::upgradeV_5_25_0>},
+    {26, 0, kAlways, &call<&Helper::upgradeV_5_26_0>},
+    {27, 0, kAlways, &call<&Helper::upgradeV_5_27_0>},
+    {28, 0, kAlways, &call<&Helper::upgradeV_5_28_0>},
+    {29, 0, kAlways, &call<&Helper::upgradeV_5_29_0>},
+    {30, 0, kAlways, &call<&Helper::upgradeV_5_30_0>},
+    {31, 0, kAlways, &call<&Helper::upgradeV_5_31_0>},
+    {32, 0, kAlways, &call<&Helper::upgradeV_5_32_0>},
+    {33, 0, kAlways, &call<&Helper::upgradeV_5_33_0>},
+    {34, 0, kAlways, &call<&Helper::upgradeV_5_34_0>},
+    {35, 0, kAlways, &call<&Helper::upgradeV_5_35_0>},
+    {36, 0, kAlways, &call<&Helper::upgradeV_5_36_0>},
+    {37, 0, kAlways, &call<&Helper::upgradeV_5_37_0>},
+    {38, 0, kAlways, &call<&Helper::upgradeV_5_38_0>},
+    {39, 0, kWithSampleData, &call<&Helper::upgradeV_5_39_0>},
+    {40, 0, kAlways, &call<&Helper::upgradeV_5_40_0>},
+    {41, 0, kAlways, &call<&Helper::upgradeV_5_41_0>},
+    {42, 0, kAlways, &call<&Helper::upgradeV_5_42_0>},
+    {43, 0, kAlways, &call<&Helper::upgradeV_5_43_0>},
+    {44, 0, kAlways, &call<&Helper::upgradeV_5_44_0>},
+    {45, 0, kAlways, &call<&Helper::upgradeV_5_45_0>},
+    {46, 0, kAlways, &call<&Helper::upgradeV_5_46_0>},
+    {47, 0, kAlways, &call<&Helper::upgradeV_5_47_0>},
+};
+
+constexpr auto kToCurrent = &call<&Helper::upgradeToCurrentWorkflowVersion>;
+
+std::unique_ptr<WflwUpgradeHelper> helperFor(const PropertyEditorContent &content)
+{
+    const bool isOnServer =
+        WflwMetaData::contentMode(content.metadata()) == PropertyEditorContent::ContentMode::TalvaneMode;
+    return isOnServer ? std::make_unique<TalvaneWflwUpgradeHelper>() : std::make_unique<WflwUpgradeHelper>();
+}
+
+bool isBelowCurrent(const PropertyEditorContent &content)
+{
+    return WflwMetaData::versionNumberFromMetaDataObject(content.metadata()) <
+           WflwMetaData::currentWorkflowVersion();
+}
+
+} // namespace
+
+Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
+                                    QList<QString> *notes, bool accessSampleData)
+{
+    return upgradeWorkflow(version, content, notes, accessSampleData, nullptr);
+}
+
+Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
+                                    QList<QString> *notes, bool accessSampleData,
+                                    WflwUpgradeObserver * /*observer*/)
+{
+    // Equal in the number of segments, too: 5.47 isn't 5.47.0.
+    if (version == WflwMetaData::currentWorkflowVersion())
+        return Error::NoError;
+    const std::unique_ptr<WflwUpgradeHelper> helper = helperFor(*content);
+    const StepArguments arguments{content, *content, version};
+    const UpgradeRun run;
+    for (const Step &step : kSteps) {
+        const bool isDue = QVersionNumber::compare(version, step.version()) < 0;
+        if (!isDue || (step.needsSampleData && !accessSampleData))
+            continue;
+        if (Error error = step.run(*helper, arguments)) {
+            return error
+                .addDetail(Tr::tr("The upgrade from version %1 stopped at the step to %2.")
+                               .arg(version.toString(), step.version().toString()))
+                .ecatch();
+        }
+    }
+    if (isBelowCurrent(*content))
+        ORV_RETURN_IF_ERROR(kToCurrent(*helper, arguments));
+    if (notes)
+        *notes = helper->notes();
+    return Error::NoError;
+}
+
+} // namespace orv

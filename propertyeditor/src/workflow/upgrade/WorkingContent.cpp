@@ -1,0 +1,218 @@
+#include "WorkingContent.h"
+
+#include <orv/core/JsonUtils.h>
+#include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/content/ItemGroup.h>
+#include <orv/propertyeditor/content/ItemSubGroup.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+
+namespace orv {
+
+using namespace PropertyEditor;
+using namespace PropertyEditorStringConstants;
+
+namespace {
+
+struct Tr
+{
+    Q_DECLARE_TR_FUNCTIONS(WflwUpgrader)
+};
+
+thread_local UpgradeRun *t_currentRun = nullptr;
+
+QJsonObject stampedObject(const PropertyEditorContent &content)
+{
+    return QJsonDocument::fromJson(content.toJson()).object();
+}
+
+Result<Content> readTree(const PropertyEditorContent &content)
+{
+    Content tree;
+    ORV_RETURN_IF_ERROR(tree.assignFromJson(stampedObject(content), ValidationOption::SkipTypeValidation));
+    return tree;
+}
+
+bool isRectangle(const ItemGroup &tab)
+{
+    const QList<ItemSubGroup *> columns = tab.subGroups();
+    return std::ranges::all_of(columns, [&](const ItemSubGroup *column) {
+        return column->count() == columns.constFirst()->count();
+    });
+}
+
+Error checkTabs(const Content &tree)
+{
+    for (const ItemGroup *tab : tree.groups()) {
+        if (!isRectangle(*tab)) {
+            return Error(ErrorCode::MalformedStructure, QObject::tr("Upgrade not possible."))
+                .addDetail(Tr::tr("The columns of the tab \"%1\" differ in height, and a tab is written as a "
+                                  "rectangle. Complete its last row.")
+                               .arg(tab->name()));
+        }
+    }
+    return Error::NoError;
+}
+
+Error replaceWhole(const Content &tree, PropertyEditorContent *content)
+{
+    ORV_RETURN_IF_ERROR(checkTabs(tree));
+    *content = PropertyEditorContent(tree.toJson(PropertyConversionFlag::KeepPaths));
+    return Error::NoError;
+}
+
+/// A document of one column that holds \a cells, with the metadata of \a tree, in the value form.
+PropertyEditorContent valueForm(const QJsonArray &cells, const Content &tree)
+{
+    const QJsonObject tab{{NAME_KEY, QString()}, {COLUMNS_KEY, QJsonArray{QString()}}, {CELLS_KEY, cells}};
+    const QJsonObject document{
+        {TABS_KEY, QJsonArray{tab}},
+        {META_IN_JSON_KEY, QString::fromUtf8(JsonUtils::toCompactJson(tree.metadata()))},
+        {EXTENDED_METADATA_IN_JSON_KEY, tree.extendedMetadataInfo().toJson()}};
+    // By way of the text, as a whole document goes: it decides what a number or a text becomes.
+    return PropertyEditorContent(QJsonDocument(document).toJson(QJsonDocument::Compact));
+}
+
+} // namespace
+
+QList<UpgradeRun::EditedCell> UpgradeRun::placesOf(const QList<BaseItem *> &items, const Content &tree)
+{
+    const QSet<BaseItem *> wanted(items.begin(), items.end());
+    QList<EditedCell> places;
+    const QList<ItemGroup *> tabs = tree.groups();
+    for (qsizetype t = 0; t < tabs.size(); ++t) {
+        const QList<ItemSubGroup *> columns = tabs.at(t)->subGroups();
+        for (qsizetype c = 0; c < columns.size(); ++c) {
+            const QList<BaseItem *> cells = columns.at(c)->items();
+            for (qsizetype r = 0; r < cells.size(); ++r) {
+                if (wanted.contains(cells.at(r)))
+                    places.append({cells.at(r), t, r * columns.size() + c});
+            }
+        }
+    }
+    return places;
+}
+
+UpgradeRun::UpgradeRun()
+    : m_outer(t_currentRun)
+{
+    t_currentRun = this;
+}
+
+UpgradeRun::~UpgradeRun()
+{
+    t_currentRun = m_outer;
+}
+
+UpgradeRun *UpgradeRun::current()
+{
+    return t_currentRun;
+}
+
+bool UpgradeRun::mirrors(const PropertyEditorContent &content) const
+{
+    // Copies share their lists, so one address tells that nothing was assigned in between.
+    return m_mirrored.tabsAndContent().constData() == content.tabsAndContent().constData() &&
+           m_mirrored.metadata() == content.metadata() &&
+           m_mirrored.extendedMetadataInfo() == content.extendedMetadataInfo();
+}
+
+Result<Content> UpgradeRun::workingContent(const PropertyEditorContent &content)
+{
+    const bool sameValue = mirrors(content);
+    if (m_tree && sameValue && !refreshEdited(content.customUser()).hasError())
+        return *m_tree;
+    m_tree.reset();
+    m_edited.clear();
+    Result<Content> tree = readTree(content);
+    if (!tree)
+        return tree.ecatch();
+    m_tree = *tree;
+    m_isNormal = m_writtenInFull && sameValue;
+    m_mirrored = content;
+    return tree;
+}
+
+Error UpgradeRun::refreshEdited(const QString &user)
+{
+    if (m_edited.isEmpty())
+        return Error::NoError;
+    const PropertyEditorContent::Tabs tabs = m_mirrored.tabsAndContent();
+    VariantItems cells;
+    for (const EditedCell &cell : std::as_const(m_edited))
+        cells.append(tabs.at(cell.tab).second.second.at(cell.index));
+    PropertyEditorContent part({{QString(), {{QString()}, cells}}}, m_mirrored.metadata(), {});
+    part.setCustomUser(user);
+    const QJsonObject stamped = stampedObject(part);
+    m_tree->assignMetaDataFromJsonObject(stamped);
+    const QJsonArray objects = stamped.value(TABS_KEY).toArray().at(0)[CELLS_KEY].toArray();
+    for (qsizetype i = 0; i < m_edited.size(); ++i) {
+        ORV_RETURN_IF_ERROR(m_edited.at(i).item->assignFromJson(objects.at(i).toObject(),
+                                                                ValidationOption::SkipTypeValidation));
+    }
+    m_edited.clear();
+    return Error::NoError;
+}
+
+Error UpgradeRun::writeAll(const Content &working, PropertyEditorContent *content)
+{
+    ORV_RETURN_IF_ERROR(replaceWhole(working, content));
+    m_tree.reset();
+    m_edited.clear();
+    m_mirrored = *content;
+    m_writtenInFull = true;
+    return Error::NoError;
+}
+
+Error UpgradeRun::writeEdited(const Content &working, PropertyEditorContent *content,
+                              const QList<BaseItem *> &edited)
+{
+    if (!m_tree || !m_isNormal)
+        return writeAll(working, content);
+    const QList<EditedCell> cells = placesOf(edited, working);
+    QJsonArray objects;
+    for (const EditedCell &cell : cells)
+        objects.append(cell.item->toJson(PropertyConversionFlag::KeepPaths));
+    const PropertyEditorContent part = valueForm(objects, working);
+    const VariantItems values = part.tabsAndContent().constFirst().second.second;
+
+    PropertyEditorContent::Tabs tabs = m_mirrored.tabsAndContent();
+    for (qsizetype i = 0; i < tabs.size(); ++i) {
+        tabs[i].first = working.group(int(i))->name();
+        tabs[i].second.first = working.group(int(i))->subGroupNames();
+    }
+    for (qsizetype i = 0; i < cells.size(); ++i)
+        tabs[cells.at(i).tab].second.second[cells.at(i).index] = values.at(i);
+    *content = PropertyEditorContent(tabs, part.metadata(), part.extendedMetadataInfo());
+    m_edited = cells;
+    m_mirrored = *content;
+    return Error::NoError;
+}
+
+Result<Content> createPecToUpgrade(PropertyEditorContent *content)
+{
+    UpgradeRun *const run = UpgradeRun::current();
+    Result<Content> tree = run ? run->workingContent(*content) : readTree(*content);
+    if (!tree)
+        return tree.ecatch();
+    return tree;
+}
+
+Error writeBack(const Content &working, PropertyEditorContent *content)
+{
+    UpgradeRun *const run = UpgradeRun::current();
+    return run ? run->writeAll(working, content) : replaceWhole(working, content);
+}
+
+Error writeBack(const Content &working, PropertyEditorContent *content, const QList<BaseItem *> &edited)
+{
+    UpgradeRun *const run = UpgradeRun::current();
+    return run ? run->writeEdited(working, content, edited) : writeBack(working, content);
+}
+
+} // namespace orv
