@@ -31,10 +31,10 @@ QJsonObject stampedObject(const PropertyEditorContent &content)
     return QJsonDocument::fromJson(content.toJson()).object();
 }
 
-Result<Content> readTree(const PropertyEditorContent &content)
+Result<Content> readTree(const QJsonObject &stamped)
 {
     Content tree;
-    ORV_RETURN_IF_ERROR(tree.assignFromJson(stampedObject(content), ValidationOption::SkipTypeValidation));
+    ORV_RETURN_IF_ERROR(tree.assignFromJson(stamped, ValidationOption::SkipTypeValidation));
     return tree;
 }
 
@@ -44,6 +44,47 @@ bool isRectangle(const ItemGroup &tab)
     return std::ranges::all_of(columns, [&](const ItemSubGroup *column) {
         return column->count() == columns.constFirst()->count();
     });
+}
+
+QJsonObject withoutStamp(QJsonObject cell)
+{
+    cell.remove(META_IN_JSON_KEY);
+    return cell;
+}
+
+bool isWrittenAs(const BaseItem &item, const QJsonObject &source)
+{
+    return withoutStamp(item.toJson(PropertyConversionFlag::KeepPaths)) == withoutStamp(source);
+}
+
+/// Adds the cells of \a tab that wouldn't be written as the object that they were read from, but for stamps.
+void collectUnsettled(const ItemGroup &tab, const QJsonObject &source, QList<BaseItem *> *unsettled)
+{
+    const QJsonArray cells = source.value(CELLS_KEY).toArray();
+    const QList<ItemSubGroup *> columns = tab.subGroups();
+    for (qsizetype c = 0; c < columns.size(); ++c) {
+        const QList<BaseItem *> items = columns.at(c)->items();
+        for (qsizetype r = 0; r < items.size(); ++r) {
+            if (!isWrittenAs(*items.at(r), cells.at(r * columns.size() + c).toObject()))
+                unsettled->append(items.at(r));
+        }
+    }
+}
+
+/// The cells that aren't in normal form; nothing if the document around them isn't.
+std::optional<QList<BaseItem *>> unsettledCells(const Content &tree, const QJsonObject &source)
+{
+    const QList<ItemGroup *> groups = tree.groups();
+    const bool isNormal =
+        std::ranges::all_of(groups, [](const ItemGroup *tab) { return isRectangle(*tab); }) &&
+        tree.extendedMetadataInfo().toJson() == source.value(EXTENDED_METADATA_IN_JSON_KEY).toObject();
+    if (!isNormal)
+        return {};
+    QList<BaseItem *> unsettled;
+    const QJsonArray tabs = source.value(TABS_KEY).toArray();
+    for (qsizetype i = 0; i < groups.size(); ++i)
+        collectUnsettled(*groups.at(i), tabs.at(i).toObject(), &unsettled);
+    return unsettled;
 }
 
 Error checkTabs(const Content &tree)
@@ -127,15 +168,23 @@ Result<Content> UpgradeRun::workingContent(const PropertyEditorContent &content)
     const bool sameValue = mirrors(content);
     if (m_tree && sameValue && !refreshEdited(content.customUser()).hasError())
         return *m_tree;
-    m_tree.reset();
-    m_edited.clear();
-    Result<Content> tree = readTree(content);
+    forget();
+    const QJsonObject stamped = stampedObject(content);
+    Result<Content> tree = readTree(stamped);
     if (!tree)
         return tree.ecatch();
     m_tree = *tree;
-    m_isNormal = m_writtenInFull && sameValue;
+    if (m_writtenInFull && sameValue)
+        m_unsettled = unsettledCells(*tree, stamped);
     m_mirrored = content;
     return tree;
+}
+
+void UpgradeRun::forget()
+{
+    m_tree.reset();
+    m_edited.clear();
+    m_unsettled.reset();
 }
 
 Error UpgradeRun::refreshEdited(const QString &user)
@@ -151,9 +200,13 @@ Error UpgradeRun::refreshEdited(const QString &user)
     const QJsonObject stamped = stampedObject(part);
     m_tree->assignMetaDataFromJsonObject(stamped);
     const QJsonArray objects = stamped.value(TABS_KEY).toArray().at(0)[CELLS_KEY].toArray();
+    m_unsettled.emplace();
     for (qsizetype i = 0; i < m_edited.size(); ++i) {
-        ORV_RETURN_IF_ERROR(m_edited.at(i).item->assignFromJson(objects.at(i).toObject(),
-                                                                ValidationOption::SkipTypeValidation));
+        BaseItem *const item = m_edited.at(i).item;
+        const QJsonObject cell = objects.at(i).toObject();
+        ORV_RETURN_IF_ERROR(item->assignFromJson(cell, ValidationOption::SkipTypeValidation));
+        if (!isWrittenAs(*item, cell))
+            m_unsettled->append(item);
     }
     m_edited.clear();
     return Error::NoError;
@@ -162,8 +215,7 @@ Error UpgradeRun::refreshEdited(const QString &user)
 Error UpgradeRun::writeAll(const Content &working, PropertyEditorContent *content)
 {
     ORV_RETURN_IF_ERROR(replaceWhole(working, content));
-    m_tree.reset();
-    m_edited.clear();
+    forget();
     m_mirrored = *content;
     m_writtenInFull = true;
     return Error::NoError;
@@ -172,9 +224,9 @@ Error UpgradeRun::writeAll(const Content &working, PropertyEditorContent *conten
 Error UpgradeRun::writeEdited(const Content &working, PropertyEditorContent *content,
                               const QList<BaseItem *> &edited)
 {
-    if (!m_tree || !m_isNormal)
+    if (!m_tree || !m_unsettled)
         return writeAll(working, content);
-    const QList<EditedCell> cells = placesOf(edited, working);
+    const QList<EditedCell> cells = placesOf(edited + *m_unsettled, working);
     QJsonArray objects;
     for (const EditedCell &cell : cells)
         objects.append(cell.item->toJson(PropertyConversionFlag::KeepPaths));
@@ -197,7 +249,7 @@ Error UpgradeRun::writeEdited(const Content &working, PropertyEditorContent *con
 Result<Content> createPecToUpgrade(PropertyEditorContent *content)
 {
     UpgradeRun *const run = UpgradeRun::current();
-    Result<Content> tree = run ? run->workingContent(*content) : readTree(*content);
+    Result<Content> tree = run ? run->workingContent(*content) : readTree(stampedObject(*content));
     if (!tree)
         return tree.ecatch();
     return tree;

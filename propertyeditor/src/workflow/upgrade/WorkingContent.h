@@ -24,9 +24,9 @@ Error writeBack(const PropertyEditor::Content &working, PropertyEditorContent *c
 /// While it lives, the steps on this thread share the tree of one document, so that a step that only looks
 /// costs nothing, and one that edits a few cells costs these cells.
 ///
-/// A tree is reused only for the very value that it was read from or written to. Cells of a tree that was
-/// read from what this run has written in full are in normal form: to write and read them again would change
-/// nothing but their stamps, and is left out; edited ones are read anew.
+/// A tree is reused only for the very value that it was read from or written to. A cell is in normal form if
+/// writing it gives what it was read from: to write and read it once more would then change nothing but its
+/// stamp, and is left out once the document was written in full.
 class UpgradeRun
 {
 public:
@@ -53,13 +53,16 @@ private:
     [[nodiscard]] static QList<EditedCell> placesOf(const QList<PropertyEditor::BaseItem *> &items,
                                                     const PropertyEditor::Content &tree);
     [[nodiscard]] bool mirrors(const PropertyEditorContent &content) const;
+    void forget();
     Error refreshEdited(const QString &user);
 
     std::optional<PropertyEditor::Content> m_tree;
     PropertyEditorContent m_mirrored;
-    QList<EditedCell> m_edited;
-    bool m_writtenInFull = false; ///< m_mirrored comes from this run
-    bool m_isNormal = false;      ///< the tree was read from what this run wrote in full
+    QList<EditedCell> m_edited; ///< of the tree, not read anew so far
+    /// Cells that aren't in normal form: what a step inserts often gets its full form only when it is written
+    /// a second time. Nothing as long as all cells have to be written.
+    std::optional<QList<PropertyEditor::BaseItem *>> m_unsettled;
+    bool m_writtenInFull = false;
     UpgradeRun *m_outer;
 };
 
