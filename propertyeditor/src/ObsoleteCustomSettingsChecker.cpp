@@ -1,3 +1,4 @@
+#include <orv/chemistry/WorkflowNodeUpgradeUtils.h>
 #include <orv/propertyeditor/ObsoleteCustomSettingsChecker.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/table/CustomSettings.h>
@@ -26,6 +27,7 @@ struct Retired
 
 using A = ApplicationType;
 using P = PropertyId;
+namespace Upgrade = WorkflowNodeUpgradeUtils;
 
 constexpr std::array kRetired = {
     // Since 5.6.0 peaks of traces are found by the presets in the table of samples.
@@ -34,17 +36,17 @@ constexpr std::array kRetired = {
     Retired{A::Intact, QLatin1String("ElutionPeaks/AutoCompute"), P::SamplesTable},
     Retired{A::Intact, QLatin1String("ElutionPeaks/PeakWidthFactor"), P::SamplesTable},
     // Since 5.12.2 the extraction of ion chromatograms has settings of its own.
-    Retired{A::Senthia, QLatin1String("XIC/BlockScans"), P::FastXicBlockScans},
-    Retired{A::Senthia, QLatin1String("XIC/CacheSize"), P::FastXicCacheSize},
-    Retired{A::Senthia, QLatin1String("XIC/Mode"), P::XicMode},
-    Retired{A::Senthia, QLatin1String("XIC/MzBins"), P::FastXicMzBins},
+    Retired{A::Senthia, Upgrade::kXicBlockScans, P::FastXicBlockScans},
+    Retired{A::Senthia, Upgrade::kXicCacheSize, P::FastXicCacheSize},
+    Retired{A::Senthia, Upgrade::kXicMode, P::XicMode},
+    Retired{A::Senthia, Upgrade::kXicMzBins, P::FastXicMzBins},
     // Since 5.43.0 the alignment of in-silico peptides has.
-    Retired{A::Senthia, QLatin1String("InSilicoAlign/Enabled"), P::AlignmentEnabled},
-    Retired{A::Senthia, QLatin1String("InSilicoAlign/Tolerance"), P::AlignmentTolerance},
-    Retired{A::Senthia, QLatin1String("InSilicoAlign/ToleranceDetermination"), P::ToleranceDetermination},
-    Retired{A::Trenq, QLatin1String("InSilicoAlign/Enabled"), P::AlignmentEnabled},
-    Retired{A::Trenq, QLatin1String("InSilicoAlign/Tolerance"), P::AlignmentTolerance},
-    Retired{A::Trenq, QLatin1String("InSilicoAlign/ToleranceDetermination"), P::ToleranceDetermination},
+    Retired{A::Senthia, Upgrade::kAlignEnabled, P::AlignmentEnabled},
+    Retired{A::Senthia, Upgrade::kAlignTolerance, P::AlignmentTolerance},
+    Retired{A::Senthia, Upgrade::kAlignToleranceDetermination, P::ToleranceDetermination},
+    Retired{A::Trenq, Upgrade::kAlignEnabled, P::AlignmentEnabled},
+    Retired{A::Trenq, Upgrade::kAlignTolerance, P::AlignmentTolerance},
+    Retired{A::Trenq, Upgrade::kAlignToleranceDetermination, P::ToleranceDetermination},
 };
 
 QList<Retired> retiredIn(ApplicationType application, const QString &text, bool hasSections)

@@ -20,6 +20,10 @@ private Q_SLOTS:
     void otherLinesAreTold();
     void aSetUpReplacesWhatWasThere();
     void anAbsentKeyHasTheDefaultValue();
+    void settingsAreTakenOutOfATextThatStaysOtherwise_data();
+    void settingsAreTakenOutOfATextThatStaysOtherwise();
+    void switchesAreTold_data();
+    void switchesAreTold();
 };
 
 void TestCustomSettings::aDefaultOneIsEmpty()
@@ -118,6 +122,55 @@ void TestCustomSettings::anAbsentKeyHasTheDefaultValue()
     QVERIFY(settings.setupValues(u"a=1"_s, Format::Sections).isEmpty());
     QCOMPARE(settings.value(u"a"_s, 5).toInt(), 1);
     QCOMPARE(settings.value(u"b"_s, 5), QVariant(5));
+}
+
+void TestCustomSettings::settingsAreTakenOutOfATextThatStaysOtherwise_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<Format>("format");
+    QTest::addColumn<QString>("rest");
+
+    const QString flat = u" x = 1 \r\n# x=2\n\nA/x=3\nA/y=4"_s;
+    QTest::newRow("keys alone") << flat << Format::Flat << u" x = 1 \r\n# x=2\n\nA/y=4"_s;
+    QTest::newRow("a header is no header there") << u"[A]\nA/x=3\nx=1"_s << Format::Flat << u"[A]\nx=1"_s;
+    QTest::newRow("below a header") << u"[A]\nx=3\ny=4"_s << Format::Sections << u"[A]\ny=4"_s;
+    QTest::newRow("the last of a section")
+        << u"[B]\nx=1\n[A]\nx=3\n\n"_s << Format::Sections << u"[B]\nx=1\n\n"_s;
+    QTest::newRow("none") << u"[A]\ny=4\n[C]\n"_s << Format::Sections << u"[A]\ny=4\n[C]\n"_s;
+    QTest::newRow("nothing") << QString() << Format::Sections << QString();
+}
+
+void TestCustomSettings::settingsAreTakenOutOfATextThatStaysOtherwise()
+{
+    QFETCH(QString, text);
+    QFETCH(Format, format);
+    QFETCH(QString, rest);
+    QCOMPARE(CustomSettings::withoutSettings(text, format, {u"A/x"_s}), rest);
+}
+
+void TestCustomSettings::switchesAreTold_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<std::optional<bool>>("isOn");
+
+    const auto row = [](const char *value, std::optional<bool> isOn) {
+        QTest::newRow(value) << QString::fromLatin1(value) << isOn;
+    };
+    row("true", true);
+    row("TRUE", true);
+    row("1", true);
+    row("False", false);
+    row("0", false);
+    row("", {});
+    row("yes", {});
+    row("2", {});
+}
+
+void TestCustomSettings::switchesAreTold()
+{
+    QFETCH(QString, value);
+    QFETCH(std::optional<bool>, isOn);
+    QCOMPARE(CustomSettings::toSwitch(value), isOn);
 }
 
 ORV_REGISTER_TEST(TestCustomSettings)

@@ -3,9 +3,12 @@
 #include <orv/core/Export.h>
 #include <orv/core/Result.h>
 
+#include <QSet>
 #include <QString>
 #include <QVariant>
 #include <QVariantMap>
+
+#include <optional>
 
 namespace orv {
 
@@ -33,6 +36,15 @@ public:
     /// of two lines with one key wins. Returns a text for each line that is none of these, with its number
     /// counted from 1; such a line has no effect.
     [[nodiscard]] Warnings setupValues(const QString &text, Format format);
+
+    /// \a text without the lines that set one of \a keys, and without the header of a section that had
+    /// nothing else but blank lines. All other characters stay as they are.
+    [[nodiscard]] static QString withoutSettings(const QString &text, Format format,
+                                                 const QSet<QString> &keys);
+
+    /// What a value says of a switch: "true", "false", "1" and "0" in any case of letters; nothing for
+    /// others.
+    [[nodiscard]] static std::optional<bool> toSwitch(const QString &value);
 
     /// All values by their keys, each a text.
     [[nodiscard]] QVariantMap values() const { return m_values; }
