@@ -67,6 +67,9 @@ private Q_SLOTS:
     void aHugeWorkflowIsRefused();
     void versionsAreJudged_data();
     void versionsAreJudged();
+    void olderWorkflowsAreUpgraded_data();
+    void olderWorkflowsAreUpgraded();
+    void aFailedUpgradeIsTold();
     void readingChangesNothing();
 
 private:
@@ -251,12 +254,11 @@ void TestDocumentWorkflow::versionsAreJudged_data()
     QTest::addColumn<QString>("message");
     QTest::addColumn<QString>("detail");
 
-    const QString needsUpgrade = u"The workflow's version %1 needs an upgrade"_s;
     const QString incompatible = u"Incompatible workflow version: %1"_s;
     QTest::newRow("current") << u"5.47.0"_s << 0 << QString() << QString();
     QTest::newRow("newer in its minor version") << u"5.99.0"_s << 0 << QString() << QString();
-    QTest::newRow("older") << u"5.46.0"_s << 0 << needsUpgrade.arg(u"5.46.0"_s) << u"5.47.0"_s;
-    QTest::newRow("special") << u"3"_s << 1 << needsUpgrade.arg(u"3"_s) << u"5.47.0"_s;
+    QTest::newRow("older") << u"5.46.0"_s << 0 << QString() << QString();
+    QTest::newRow("special") << u"3"_s << 1 << QString() << QString();
     QTest::newRow("newer") << u"6.0.0"_s << 0 << incompatible.arg(u"6.0.0"_s) << u"up to 5.x.x"_s;
     QTest::newRow("deprecated on the server")
         << u"5.9.0"_s << 1 << incompatible.arg(u"5.9.0"_s) << u"deprecated"_s;
@@ -274,6 +276,35 @@ void TestDocumentWorkflow::versionsAreJudged()
     QCOMPARE(files.error().code(), message.isEmpty() ? ErrorCode::NoError : ErrorCode::MalformedStructure);
     QVERIFY2(files.error().details().join(u' ').contains(detail),
              qPrintable(files.error().details().join(u'|')));
+}
+
+void TestDocumentWorkflow::olderWorkflowsAreUpgraded_data()
+{
+    QTest::addColumn<QString>("version");
+    QTest::addColumn<bool>("isUpgraded");
+    // From 5.12.0 on the icon no longer tells what a workflow is.
+    QTest::newRow("by its icon") << u"5.11.0"_s << true;
+    QTest::newRow("of unknown type") << u"5.12.0"_s << false;
+}
+
+void TestDocumentWorkflow::olderWorkflowsAreUpgraded()
+{
+    QFETCH(QString, version);
+    const QString icon = workflowTypeIconName(WorkflowType::HrimCompoundMap);
+    makeProject(project(), document({samplesCell({})}, {{u"version"_s, version}, {u"icon"_s, icon}}));
+    QTEST(Utils::isHrimProject(project()), "isUpgraded");
+}
+
+void TestDocumentWorkflow::aFailedUpgradeIsTold()
+{
+    const QString type = workflowTypeToString(WorkflowType::IntactMass);
+    makeProject(project(),
+                document({samplesCell({})}, {{u"version"_s, u"5.26.0"_s}, {u"workflowType"_s, type}}));
+    const auto files = Utils::msFilesFromDocumentWorkflow(project());
+    QCOMPARE(files.error().errorMessage(),
+             u"Workflow does not contain the expected trace peak option presets."_s);
+    const QString details = files.error().details().join(u' ');
+    QVERIFY2(details.contains(u"5.27.0"_s) && details.contains(project()), qPrintable(details));
 }
 
 void TestDocumentWorkflow::readingChangesNothing()

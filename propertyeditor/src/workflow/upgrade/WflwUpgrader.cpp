@@ -1,3 +1,4 @@
+#include "DocumentComparison.h"
 #include "WorkingContent.h"
 
 #include <orv/propertyeditor/workflow/TalvaneWflwUpgradeHelper.h>
@@ -93,14 +94,40 @@ constexpr Step kSteps[] = {
     {47, 0, kAlways, &call<&Helper::upgradeV_5_47_0>},
 };
 
-constexpr auto kToCurrent = &call<&Helper::upgradeToCurrentWorkflowVersion>;
-
 std::unique_ptr<WflwUpgradeHelper> helperFor(const PropertyEditorContent &content)
 {
     const bool isOnServer =
         WflwMetaData::contentMode(content.metadata()) == PropertyEditorContent::ContentMode::TalvaneMode;
     return isOnServer ? std::make_unique<TalvaneWflwUpgradeHelper>() : std::make_unique<WflwUpgradeHelper>();
 }
+
+/// Tells an observer, if there is one, of each step that changed something.
+class Reporter
+{
+public:
+    Reporter(WflwUpgradeObserver *observer, const PropertyEditorContent *content)
+        : m_observer(observer)
+        , m_content(content)
+    {
+        if (m_observer)
+            m_before = *content;
+    }
+
+    void stepDone(const QVersionNumber &version)
+    {
+        if (!m_observer)
+            return;
+        const PropertyEditorContent before = m_before;
+        m_before = *m_content;
+        if (differ(before, m_before))
+            m_observer->changed({version, before, m_before});
+    }
+
+private:
+    WflwUpgradeObserver *m_observer;
+    const PropertyEditorContent *m_content;
+    PropertyEditorContent m_before;
+};
 
 bool isBelowCurrent(const PropertyEditorContent &content)
 {
@@ -118,7 +145,7 @@ Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEdito
 
 Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
                                     QList<QString> *notes, bool accessSampleData,
-                                    WflwUpgradeObserver * /*observer*/)
+                                    WflwUpgradeObserver *observer)
 {
     // Equal in the number of segments, too: 5.47 isn't 5.47.0.
     if (version == WflwMetaData::currentWorkflowVersion())
@@ -126,6 +153,7 @@ Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEdito
     const std::unique_ptr<WflwUpgradeHelper> helper = helperFor(*content);
     const StepArguments arguments{content, *content, version};
     const UpgradeRun run;
+    Reporter reporter(observer, content);
     for (const Step &step : kSteps) {
         const bool isDue = QVersionNumber::compare(version, step.version()) < 0;
         if (!isDue || (step.needsSampleData && !accessSampleData))
@@ -136,9 +164,12 @@ Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEdito
                                .arg(version.toString(), step.version().toString()))
                 .ecatch();
         }
+        reporter.stepDone(step.version());
     }
-    if (isBelowCurrent(*content))
-        ORV_RETURN_IF_ERROR(kToCurrent(*helper, arguments));
+    if (isBelowCurrent(*content)) {
+        ORV_RETURN_IF_ERROR(helper->upgradeToCurrentWorkflowVersion(content));
+        reporter.stepDone(WflwMetaData::currentWorkflowVersion());
+    }
     if (notes)
         *notes = helper->notes();
     return Error::NoError;

@@ -8,6 +8,10 @@
 #include <orv/propertyeditor/content/ItemGroup.h>
 #include <orv/propertyeditor/content/ItemSubGroup.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
+#include <orv/propertyeditor/workflow/WflwUpgrader.h>
+
+#include <QVersionNumber>
 
 #include <algorithm>
 
@@ -68,28 +72,31 @@ Result<QByteArray> readWorkflowText(const QString &fileName)
     return rows->constFirst().value;
 }
 
-/// The document in the form of today.
-Result<PropertyEditorContent> upToDate(const PropertyEditorContent &document)
+Error notSupported(const QVersionNumber &version, const QStringList &reasons)
 {
-    const QVersionNumber version = WflwMetaData::versionNumberFromMetaDataObject(document.metadata());
-    QStringList messages;
-    switch (WflwMetaData::checkWorkflowVersion(version, &document, &messages)) {
-    case WflwMetaData::WflwState::UpToDate:
-        return document;
-    case WflwMetaData::WflwState::NeedsUpgrade:
-        // What upgrades documents goes here; this library can't yet.
-        return Error(ErrorCode::MalformedStructure,
-                     Tr::tr("The workflow's version %1 needs an upgrade").arg(version.toString()))
-            .addDetail(Tr::tr("Versions from %1 are read. Create the project anew with this version.")
-                           .arg(WflwMetaData::currentWorkflowVersion().toString()));
-    case WflwMetaData::WflwState::NotSupported:
-        break;
-    }
     Error error(ErrorCode::MalformedStructure,
                 Tr::tr("Incompatible workflow version: %1").arg(version.toString()));
-    for (const QString &message : std::as_const(messages))
-        error.addDetail(message);
+    for (const QString &reason : reasons)
+        error.addDetail(reason);
     return error;
+}
+
+/// Brings the document into the form of today. The samples' files stay closed: a project needs none of what
+/// they would tell.
+Error bringUpToDate(PropertyEditorContent *document)
+{
+    const QVersionNumber version = WflwMetaData::versionNumberFromMetaDataObject(document->metadata());
+    QStringList messages;
+    switch (WflwMetaData::checkWorkflowVersion(version, document, &messages)) {
+    case WflwMetaData::WflwState::UpToDate:
+        break;
+    case WflwMetaData::WflwState::NeedsUpgrade:
+        ORV_RETURN_IF_ERROR(WflwUpgrader::upgradeWorkflow(version, document, nullptr, false));
+        break;
+    case WflwMetaData::WflwState::NotSupported:
+        return notSupported(version, messages);
+    }
+    return Error::NoError;
 }
 
 Error loadText(const QByteArray &json, Content *content)
@@ -105,11 +112,10 @@ Result<Content> loadWorkflow(const QByteArray &json)
 {
     Content stored;
     ORV_RETURN_IF_ERROR(loadText(json, &stored));
-    auto document = upToDate(PropertyEditorContent(stored.toJson(PropertyConversionFlag::KeepPaths)));
-    if (!document)
-        return document.ecatch();
+    PropertyEditorContent document(stored.toJson(PropertyConversionFlag::KeepPaths));
+    ORV_RETURN_IF_ERROR(bringUpToDate(&document));
     Content content;
-    ORV_RETURN_IF_ERROR(loadText(document->toJson(), &content));
+    ORV_RETURN_IF_ERROR(loadText(document.toJson(), &content));
     return content;
 }
 
