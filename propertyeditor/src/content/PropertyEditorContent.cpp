@@ -160,7 +160,7 @@ QByteArray PropertyEditorContent::toJson() const
     const QString cellStamp =
         QString::fromUtf8(JsonUtils::toCompactJson(WflwMetaData::metaDataObject(d->customUser)));
     QJsonArray tabs;
-    for (const Tab &tab : d->tabs) {
+    for (const Tab &tab : std::as_const(d->tabs)) {
         tabs.append(
             QJsonObject{{NAME_KEY, tab.first},
                         {COLUMNS_KEY, PropertyEditorJsonUtils::stringListToJsonArray(tab.second.first)},
