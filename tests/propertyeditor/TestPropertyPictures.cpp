@@ -1,4 +1,5 @@
 #include <KProperty>
+#include <orv/core/OrvApplication.h>
 #include <orv/propertyeditor/PropertySetCreator.h>
 
 #include <QCursor>
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void whatIsNoPictureFails();
     void aCursorIsAShape();
     void anUnknownShapeFails();
+    void aProgramWithAScreenIsNoConsoleApplication();
 };
 
 void TestPropertyPictures::aPictureComesBack()
@@ -70,6 +72,11 @@ void TestPropertyPictures::anUnknownShapeFails()
     KProperty property("p", QVariant(), {}, {}, KProperty::Cursor);
     QVERIFY(!Creator::setValueFromJson(kNone, 26, &property));
     QVERIFY(!Creator::setValueFromJson(kNone, -1, &property));
+}
+
+void TestPropertyPictures::aProgramWithAScreenIsNoConsoleApplication()
+{
+    QVERIFY(!OrvApplication::isConsoleApplication());
 }
 
 QTEST_MAIN(TestPropertyPictures)

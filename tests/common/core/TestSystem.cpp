@@ -1,6 +1,7 @@
 #include "OrvTest.h"
 
 #include <orv/core/AppUtils.h>
+#include <orv/core/OrvApplication.h>
 #include <orv/core/SysUtils.h>
 
 #include <QThread>
@@ -21,7 +22,24 @@ private Q_SLOTS:
     void theNameIsThatOfTheSystemNotOfTheEnvironment();
     void theUserHasAName();
     void thereIsAProcessor();
+    void aProgramWithoutAScreenIsAConsoleApplication();
+    void aProgramMayTellThatItIsNone();
 };
+
+void TestSystem::aProgramWithoutAScreenIsAConsoleApplication()
+{
+    QVERIFY(OrvApplication::isConsoleApplication());
+}
+
+void TestSystem::aProgramMayTellThatItIsNone()
+{
+    OrvApplication::setConsoleApplication(false);
+    QVERIFY(!OrvApplication::isConsoleApplication());
+    OrvApplication::setConsoleApplication(true);
+    QVERIFY(OrvApplication::isConsoleApplication());
+    OrvApplication::setConsoleApplication({});
+    QVERIFY(OrvApplication::isConsoleApplication());
+}
 
 void TestSystem::theUserHasAName()
 {
