@@ -4,6 +4,9 @@
 #include <orv/core_ms/MsDataAccessorsFactory.h>
 #include <orv/core_ms/MsDataFileUtils.h>
 
+#include <QMap>
+#include <QReadWriteLock>
+
 #include <algorithm>
 
 namespace orv::msreader {
@@ -22,6 +25,25 @@ constexpr Row kRows[] = {
     {VendorDataFormat::Mgf, internal::createMgfReader},
     {VendorDataFormat::Tolq, internal::createTolqReader},
 };
+
+struct Registry
+{
+    QReadWriteLock lock;
+    QMap<VendorDataFormat, MsDataAccessorsFactory::ReaderFactory> factories;
+};
+
+Registry &registry()
+{
+    static Registry instance;
+    return instance;
+}
+
+MsDataAccessorsFactory::ReaderFactory factoryOf(VendorDataFormat format)
+{
+    Registry &all = registry();
+    const QReadLocker locker(&all.lock);
+    return all.factories.value(format);
+}
 
 /// Several formats may lie in one folder; the one with the lowest number stands for them. An acquired sample
 /// is read as what it is, whatever lies inside.
@@ -42,11 +64,23 @@ VendorDataFormat formatOf(const QString &path)
 std::unique_ptr<MsReaderAccessor> MsDataAccessorsFactory::createReader(const MsReaderOptions &options)
 {
     const VendorDataFormat format = formatOf(options.path);
+    if (const ReaderFactory factory = factoryOf(format))
+        return factory(options);
     for (const Row &row : kRows) {
         if (row.format == format)
             return row.create(options);
     }
     return internal::createClosedReader(options, format);
+}
+
+void MsDataAccessorsFactory::setReaderFactory(VendorDataFormat format, const ReaderFactory &factory)
+{
+    Registry &all = registry();
+    const QWriteLocker locker(&all.lock);
+    if (factory)
+        all.factories.insert(format, factory);
+    else
+        all.factories.remove(format);
 }
 
 } // namespace orv::msreader

@@ -1,3 +1,4 @@
+#include <orv/core_ms/CustomSettingsUtils.h>
 #include <orv/core_ms/MsDataAccessorsFactory.h>
 #include <orv/core_ms/MsUtils.h>
 
@@ -89,8 +90,9 @@ QList<AccessorForMsFile> accessorsForMsFiles(const QStringList &paths)
 {
     QList<AccessorForMsFile> accessors;
     for (const QString &path : paths) {
-        AccessorForMsFile file{
-            msreader::MsDataAccessorsFactory::createReader(msreader::MsReaderOptions(path)), {}};
+        msreader::MsReaderOptions options(path);
+        CustomSettingsUtils::extendFromCurrentCustomSettings(&options);
+        AccessorForMsFile file{msreader::MsDataAccessorsFactory::createReader(options), {}};
         file.error = file.accessor->open();
         accessors.append(std::move(file));
     }

@@ -1,3 +1,4 @@
+#include "MzmlTexts.h"
 #include "OrvTest.h"
 #include "SampleTree.h"
 #include "TestData.h"
@@ -7,6 +8,7 @@
 
 using namespace orv;
 using namespace orv::msreader;
+using namespace MzmlTexts;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -25,41 +27,6 @@ Result<Infos> infosOf(const QString &path, const ChromatogramFilter &filter = Ch
     if (Error error = reader->open())
         return error;
     return reader->chromatogramInfoList(filter);
-}
-
-QByteArray chromatogram(const QByteArray &id, const QByteArray &accession)
-{
-    return "<chromatogram index=\"0\" id=\"" + id + "\" defaultArrayLength=\"2\">" +
-           (accession.isEmpty() ? accession : "<cvParam cvRef=\"MS\" accession=\"" + accession + "\"/>") +
-           "<binaryDataArrayList count=\"1\"><binaryDataArray><cvParam accession=\"MS:1000235\"/><binary>AAAA"
-           "</binary></binaryDataArray></binaryDataArrayList></chromatogram>";
-}
-
-const QByteArray kGroups =
-    "<referenceableParamGroupList count=\"1\"><referenceableParamGroup id=\"uv\"><cvParam "
-    "accession=\"MS:1000812\"/></referenceableParamGroup></referenceableParamGroupList>";
-
-QByteArray mzml(const QByteArray &spectra, const QByteArray &chromatograms)
-{
-    return "<mzML>" + kGroups + "<run><spectrumList>" + spectra + "</spectrumList><chromatogramList>" +
-           chromatograms + "</chromatogramList></run></mzML>";
-}
-
-/// With an index at the end, as converters write it. \a shift makes it lie.
-QByteArray indexed(const QByteArray &document, qsizetype shift = 0)
-{
-    QByteArray text = "<indexedmzML>" + document;
-    QByteArray lists;
-    for (const QByteArray &name : {"spectrum"_ba, "chromatogram"_ba}) {
-        lists += "<index name=\"" + name + "\">";
-        for (qsizetype at = text.indexOf('<' + name + ' '); at >= 0;
-             at = text.indexOf('<' + name + ' ', at + 1))
-            lists += "<offset idRef=\"x\">" + QByteArray::number(at + shift) + "</offset>";
-        lists += "</index>";
-    }
-    const QByteArray place = QByteArray::number(text.size());
-    return text + "<indexList count=\"2\">" + lists + "</indexList><indexListOffset>" + place +
-           "</indexListOffset><fileChecksum>0</fileChecksum></indexedmzML>";
 }
 
 } // namespace

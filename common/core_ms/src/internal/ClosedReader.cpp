@@ -31,6 +31,12 @@ public:
         : MsReaderAccessor(options, format)
     {}
 
+    /// What isn't there or has no format fails for a reason of its own.
+    [[nodiscard]] bool isFormatRead() const override
+    {
+        return vendorFormat() == VendorDataFormat::Unknown || !QFileInfo::exists(path());
+    }
+
 protected:
     Error openData() override
     {

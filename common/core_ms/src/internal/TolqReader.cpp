@@ -23,6 +23,8 @@ public:
         : MsReaderAccessor(options, VendorDataFormat::Tolq)
     {}
 
+    [[nodiscard]] bool isFormatRead() const override { return !m_reader || m_reader->isFormatRead(); }
+
 protected:
     Error openData() override
     {
@@ -34,7 +36,9 @@ protected:
             return sample.ecatch();
         if (FileTypes::isType(*sample, FileTypes::TOLQ))
             return Error(ErrorCode::InvalidContent, Tr::tr("An acquired sample lies inside another."));
-        m_reader = MsDataAccessorsFactory::createReader(MsReaderOptions(*sample));
+        MsReaderOptions inner = options();
+        inner.path = *sample;
+        m_reader = MsDataAccessorsFactory::createReader(inner);
         return m_reader->open();
     }
 

@@ -122,7 +122,7 @@ protected:
         Result<std::unique_ptr<QIODevice>> file = openFile(path());
         if (file.hasError())
             return file.ecatch();
-        if (!(*file)->isSequential()) {
+        if (options().usesIndex && !(*file)->isSequential()) {
             if (const std::optional<QList<MsItem>> items = chromatogramsByIndex(file->get()))
                 return described(*items);
             (*file)->seek(0);

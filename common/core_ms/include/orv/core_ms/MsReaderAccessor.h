@@ -33,6 +33,10 @@ public:
     /// Told by path, Unknown if nothing was recognised.
     [[nodiscard]] VendorDataFormat vendorFormat() const { return m_format; }
 
+    /// False if no reader for the format of the data is there, so that open() fails however good they are. Of
+    /// a format that holds another one that is known after open().
+    [[nodiscard]] virtual bool isFormatRead() const { return true; }
+
     /// Checks that the data are there and whole as far as their beginning and end tell. Questions to a reader
     /// that isn't open fail; one that is open stays so.
     [[nodiscard]] Error open();
@@ -51,6 +55,8 @@ protected:
     virtual Error openData() = 0;
     [[nodiscard]] virtual Result<bool> readHasLevel(int level) const = 0;
     [[nodiscard]] virtual Result<QList<ChromatogramInfo>> readChromatograms() const = 0;
+
+    [[nodiscard]] const MsReaderOptions &options() const { return m_options; }
 
 private:
     [[nodiscard]] Error checkedOpen() const;

@@ -12,6 +12,9 @@ struct MsReaderOptions
     {}
 
     QString path; ///< of a local file or folder
+    /// Whether the index at the end of an mzML file is followed. Without it files are read from front to
+    /// back.
+    bool usesIndex = true;
 };
 
 } // namespace orv::msreader
