@@ -112,7 +112,7 @@ QList<BatchInput> batchInputs(const QStringList &arguments)
         }
         const QStringList files = workflowsBelow(argument);
         for (const QString &file : files)
-            inputs.append({file, {}});
+            inputs.append({file, {}, argument});
         if (files.isEmpty()) {
             inputs.append(
                 {argument, Failure{BadInput, 0,

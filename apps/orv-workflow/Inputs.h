@@ -44,6 +44,7 @@ struct BatchInput
 {
     QString file;
     std::optional<Failure> failure;
+    QString root = {}; ///< the folder that was searched; empty for a file that was named itself
 };
 
 /// The workflows that the arguments of a batch mean, in order: files and portable folders as they are, other

@@ -6,6 +6,7 @@
 
 #include <orv/propertyeditor/Version.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
+#include <orv/remote/RemoteHandlers.h>
 
 #include <QCoreApplication>
 
@@ -83,6 +84,8 @@ int main(int argc, char *argv[])
     QCoreApplication::setOrganizationName(QStringLiteral("orv"));
     QCoreApplication::setApplicationName(QStringLiteral("orv-workflow"));
     QCoreApplication::setApplicationVersion(libraryVersion());
+
+    RemoteHandlers::install();
 
     Program program;
     declareGlobalOptions(program);

@@ -33,6 +33,8 @@ const std::vector<CommandRow> &commandRows()
          "orv-workflow info examples/workflows", createInfoCommand},
         {"convert", "Load a workflow into objects and write it again",
          "orv-workflow convert old.wflw -o new.wflw --stamp", createConvertCommand},
+        {"upgrade", "Bring workflows of earlier format versions into the present form",
+         "orv-workflow upgrade archive --in-place --backup", createUpgradeCommand},
         {"check", "Check workflows for what would make them fail",
          "orv-workflow check studies --format sarif > findings.sarif", createCheckCommand},
         {"diff", "Tell in what two workflows differ", "orv-workflow diff old.wflw new.wflw",

@@ -66,6 +66,7 @@ std::unique_ptr<Command> createSchemaCommand();
 std::unique_ptr<Command> createSetCommand();
 std::unique_ptr<Command> createTableCommand();
 std::unique_ptr<Command> createTypesCommand();
+std::unique_ptr<Command> createUpgradeCommand();
 std::unique_ptr<Command> createXenosetCommand();
 std::unique_ptr<Command> createReadXenosetCommand();
 std::unique_ptr<Command> createPrvCommand();

@@ -1,5 +1,6 @@
 #include "../Console.h"
 #include "../Inputs.h"
+#include "../ValueText.h"
 #include "Command.h"
 
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
@@ -36,23 +37,13 @@ const KindRow &rowOf(Kind kind)
     return kKinds.at(size_t(kind));
 }
 
-/// Compact JSON on one line, cut to what a line can show.
-QString textOf(const QJsonValue &value)
-{
-    constexpr qsizetype kLongest = 60;
-    // A value alone is no JSON document for the writer; its list is.
-    QByteArray json = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    const QString text = QString::fromUtf8(json.mid(1, json.size() - 2));
-    return text.size() <= kLongest ? text : text.left(kLongest - 3) + QLatin1String("...");
-}
-
 QString line(const WorkflowDifference &difference)
 {
     const KindRow &row = rowOf(difference.kind);
     QStringList values;
     for (const QJsonValue &value : {difference.left, difference.right}) {
         if (!value.isUndefined())
-            values.append(textOf(value));
+            values.append(oneLine(value));
     }
     return styled(withoutControls(QStringLiteral("%1 %2: ").arg(QLatin1String(row.mark), difference.path)),
                   row.style) +
@@ -67,16 +58,6 @@ QString toText(const QList<WorkflowDifference> &differences)
     for (const WorkflowDifference &difference : differences)
         text += line(difference);
     return text;
-}
-
-QJsonValue orNull(const QJsonValue &value)
-{
-    return value.isUndefined() ? QJsonValue() : value;
-}
-
-QJsonValue orNull(const QString &text)
-{
-    return text.isEmpty() ? QJsonValue() : QJsonValue(text);
 }
 
 QJsonObject toJson(const WorkflowDifference &difference)

@@ -1,5 +1,6 @@
 #include <orv/core/FilePathUtils.h>
 #include <orv/core_ms/SimpleFilesInfoManager.h>
+#include <orv/resources/LocalBaseFolder.h>
 #include <orv/resources/ResourceHandlerUtils.h>
 #include <orv/resources/ResourceManager.h>
 
@@ -42,9 +43,9 @@ std::optional<QString> existingPath(const QString &path)
     const QStringList names = path.split(QLatin1Char('/'), Qt::SkipEmptyParts);
     QString found = path.startsWith(QLatin1Char('/')) ? QStringLiteral("/") : QString();
     for (const QString &name : names) {
-        const QString folder = found.isEmpty() ? QStringLiteral(".") : found;
+        const QString folder = LocalBaseFolder::resolved(found.isEmpty() ? QStringLiteral(".") : found);
         const QString prefix = found.isEmpty() || found.endsWith(QLatin1Char('/')) ? found : found + u'/';
-        if (QFileInfo::exists(prefix + name)) {
+        if (QFileInfo::exists(LocalBaseFolder::resolved(prefix + name))) {
             found = prefix + name;
         } else if (const auto other = nameInAnotherCase(folder, name)) {
             found = prefix + *other;
@@ -64,7 +65,7 @@ Answer missing(const ResourceReferenceSPtr &reference)
 
 Answer askedLocally(const ResourceReferenceSPtr &reference)
 {
-    if (QFileInfo::exists(reference->text()))
+    if (QFileInfo::exists(LocalBaseFolder::resolved(reference->text())))
         return reference;
     const std::optional<QString> path = existingPath(ResourceHandlerUtils::fullPath(reference));
     if (!path)

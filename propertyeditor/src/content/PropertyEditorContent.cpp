@@ -4,6 +4,7 @@
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
+#include <orv/propertyeditor/content/RawCell.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 #include <orv/samples/ExtendedMetadataInfo.h>
@@ -65,6 +66,22 @@ PropertyEditorContent::Tab readTab(const QJsonObject &tab)
     return {tab.value(NAME_KEY).toString(),
             {PropertyEditorJsonUtils::jsonArrayToStringList(tab.value(COLUMNS_KEY).toArray()),
              PropertyEditorJsonUtils::jsonArrayToVariantItems(tab.value(CELLS_KEY).toArray())}};
+}
+
+template<typename CellsToJson>
+QJsonObject documentOf(const PropertyEditorContent::Tabs &tabs, const QJsonObject &metadata,
+                       const QJsonObject &extendedMetadataInfo, const CellsToJson &cellsToJson)
+{
+    QJsonArray array;
+    for (const PropertyEditorContent::Tab &tab : tabs) {
+        array.append(
+            QJsonObject{{NAME_KEY, tab.first},
+                        {COLUMNS_KEY, PropertyEditorJsonUtils::stringListToJsonArray(tab.second.first)},
+                        {CELLS_KEY, cellsToJson(tab.second.second)}});
+    }
+    return {{META_IN_JSON_KEY, QString::fromUtf8(JsonUtils::toCompactJson(metadata))},
+            {TABS_KEY, array},
+            {EXTENDED_METADATA_IN_JSON_KEY, extendedMetadataInfo}};
 }
 
 } // namespace
@@ -155,21 +172,23 @@ void PropertyEditorContent::setCustomUser(const QString &name)
     d->customUser = name;
 }
 
+QJsonObject PropertyEditorContent::document() const
+{
+    return documentOf(d->tabs, d->metadata, d->extendedMetadataInfo, [](const VariantItems &cells) {
+        QJsonArray array;
+        for (const QVariant &cell : cells)
+            array.append(RawCell::objectOf(cell));
+        return array;
+    });
+}
+
 QByteArray PropertyEditorContent::toJson() const
 {
     const QString cellStamp =
         QString::fromUtf8(JsonUtils::toCompactJson(WflwMetaData::metaDataObject(d->customUser)));
-    QJsonArray tabs;
-    for (const Tab &tab : std::as_const(d->tabs)) {
-        tabs.append(
-            QJsonObject{{NAME_KEY, tab.first},
-                        {COLUMNS_KEY, PropertyEditorJsonUtils::stringListToJsonArray(tab.second.first)},
-                        {CELLS_KEY, stampedCells(tab.second.second, cellStamp)}});
-    }
-    const QJsonObject metadata = WflwMetaData::stamped(d->metadata, d->customUser);
-    const QJsonObject document{{META_IN_JSON_KEY, QString::fromUtf8(JsonUtils::toCompactJson(metadata))},
-                               {TABS_KEY, tabs},
-                               {EXTENDED_METADATA_IN_JSON_KEY, d->extendedMetadataInfo}};
+    const QJsonObject document =
+        documentOf(d->tabs, WflwMetaData::stamped(d->metadata, d->customUser), d->extendedMetadataInfo,
+                   [&cellStamp](const VariantItems &cells) { return stampedCells(cells, cellStamp); });
     return QJsonDocument(document).toJson(QJsonDocument::Indented);
 }
 

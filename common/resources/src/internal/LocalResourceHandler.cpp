@@ -2,6 +2,8 @@
 
 #include "LocalPath.h"
 
+#include <orv/resources/LocalBaseFolder.h>
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
@@ -10,10 +12,10 @@ namespace orv {
 
 std::optional<QString> LocalResourceHandler::path() const
 {
-    const QString text = reference()->text();
+    const QString text = LocalBaseFolder::resolved(reference()->text());
     if (QFileInfo::exists(text))
         return text;
-    const QString slashed = LocalPath::withSlashes(text);
+    const QString slashed = LocalBaseFolder::resolved(LocalPath::withSlashes(reference()->text()));
     if (slashed != text && QFileInfo::exists(slashed))
         return slashed;
     return {};

@@ -13,9 +13,9 @@ namespace orv::ExternalDataSources {
 /// mounted: "ExternalDataSources/archive", or ORV_EXTERNALDATASOURCES_ARCHIVE in the environment.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QString settingsKey(const QString &name);
 
-/// Where a reference of the scheme ExternalDataSource lies on this machine. Doesn't touch the disk. Fails with
-/// InvalidContent for any other reference, for a source that isn't mounted here, and for a path with "..",
-/// which would lead out of the source.
+/// Where a reference of the scheme ExternalDataSource lies on this machine. Doesn't touch the disk. Fails
+/// with InvalidContent for any other reference, for a source that isn't mounted here, and for a path with
+/// "..", which would lead out of the source.
 [[nodiscard]] ORV_WORKFLOW_EXPORT Result<QString> localPath(const ResourceReferenceSPtr &reference);
 
 } // namespace orv::ExternalDataSources

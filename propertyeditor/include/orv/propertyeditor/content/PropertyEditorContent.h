@@ -53,6 +53,9 @@ public:
     [[nodiscard]] QString customUser() const;
     void setCustomUser(const QString &name);
 
+    /// The object of the document as it is held, without a new stamp.
+    [[nodiscard]] QJsonObject document() const;
+
     /// The indented text of the document, stamped: "user", "created" and "version" are renewed at top level
     /// and in every cell, and so every document written by this function has the current version.
     [[nodiscard]] QByteArray toJson() const;

@@ -1,0 +1,172 @@
+#include "Upgrade.h"
+
+#include <orv/propertyeditor/content/Content.h>
+#include <orv/propertyeditor/workflow/WflwUpgradeObserver.h>
+#include <orv/propertyeditor/workflow/WflwUpgrader.h>
+#include <orv/propertyeditor/workflow/WorkflowDifferences.h>
+#include <orv/resources/LocalBaseFolder.h>
+
+namespace orv::cli {
+
+namespace {
+
+using PropertyEditor::Content;
+using State = WflwMetaData::WflwState;
+
+constexpr QLatin1String kGroupSuffix(" / group");
+
+UpgradeChange changeOf(const WorkflowDifference &difference)
+{
+    UpgradeChange change{UpgradeChange::Kind::Changed, difference.path, difference.property, difference.left,
+                         difference.right};
+    switch (difference.kind) {
+    case WorkflowDifference::Kind::Added:
+        change.kind = UpgradeChange::Kind::Added;
+        break;
+    case WorkflowDifference::Kind::Removed:
+        change.kind = UpgradeChange::Kind::Removed;
+        break;
+    case WorkflowDifference::Kind::Changed:
+        if (!difference.property.isEmpty() && difference.path.endsWith(kGroupSuffix)) {
+            change.kind = UpgradeChange::Kind::Moved;
+            change.path.chop(kGroupSuffix.size());
+        }
+        break;
+    }
+    return change;
+}
+
+/// A switch that is on, "true" and 1 say the same.
+QJsonValue plainValue(const QJsonValue &value)
+{
+    if (value.isBool())
+        return int(value.toBool());
+    if (value.toString() == QLatin1String("true"))
+        return 1;
+    return value.toString() == QLatin1String("false") ? QJsonValue(0) : value;
+}
+
+/// Whether \a removed lives on as \a added: the same value in the same cell, as a setting or a number.
+bool isRenaming(const WorkflowDifference &removed, const WorkflowDifference &added)
+{
+    return removed.kind == WorkflowDifference::Kind::Removed &&
+           added.kind == WorkflowDifference::Kind::Added && !removed.property.isEmpty() &&
+           !added.property.isEmpty() && removed.tab == added.tab && removed.column == added.column &&
+           removed.row == added.row && plainValue(removed.left).isDouble() &&
+           plainValue(removed.left) == plainValue(added.right);
+}
+
+QList<UpgradeChange> changesOf(QList<WorkflowDifference> differences)
+{
+    QList<UpgradeChange> changes;
+    for (qsizetype i = 0; i < differences.size(); ++i) {
+        UpgradeChange change = changeOf(differences.at(i));
+        const auto added =
+            std::find_if(differences.begin() + i, differences.end(), [&](const WorkflowDifference &other) {
+                return isRenaming(differences.at(i), other);
+            });
+        if (added != differences.end()) {
+            change = {UpgradeChange::Kind::Renamed, added->path, added->property, change.from, added->right};
+            differences.erase(added);
+        }
+        changes.append(change);
+    }
+    return changes;
+}
+
+/// Turns what each step did into a list that people can review, as soon as it is told of it.
+class Reviewer : public WflwUpgradeObserver
+{
+public:
+    void changed(const WflwUpgradeChange &change) override
+    {
+        const QList<UpgradeChange> changes =
+            changesOf(WorkflowDifferences::between(change.before.document(), change.after.document(), false));
+        if (!changes.isEmpty())
+            m_steps.append({change.version, changes});
+    }
+    [[nodiscard]] const QList<UpgradeStep> &steps() const { return m_steps; }
+
+private:
+    QList<UpgradeStep> m_steps;
+};
+
+/// What the first load of the document drops; every step that follows works on what is left.
+QList<Loss> lossesOf(const QJsonObject &document)
+{
+    LossCollector collector;
+    Content content;
+    content.setLossObserver(&collector);
+    // A document that can't be loaded fails in the upgrade, where the error belongs.
+    const Error error =
+        content.assignFromJson(document, PropertyEditor::ValidationOption::SkipTypeValidation);
+    content.setLossObserver(nullptr);
+    return error.hasError() ? QList<Loss>() : collector.losses();
+}
+
+Failure refusal(const QStringList &reasons)
+{
+    return {Negative, 0, reasons.join(QLatin1Char(' '))};
+}
+
+void upgrade(PropertyEditorContent &content, const UpgradeOptions &options, UpgradeAnswer *answer)
+{
+    const LocalBaseFolder folder(folderUrlOf(answer->file).toLocalFile());
+    Reviewer reviewer;
+    QList<QString> notes;
+    const Error error =
+        WflwUpgrader::upgradeWorkflow(answer->from, &content, &notes, options.accessSampleData, &reviewer);
+    if (error) {
+        answer->failure = failureFrom(error, Negative);
+        return;
+    }
+    answer->notes = notes;
+    answer->steps = reviewer.steps();
+    answer->to = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());
+    // A document of a later minor version comes back as it was.
+    answer->isChanged = answer->to != answer->from;
+    if (!answer->isChanged)
+        return;
+    content.setCustomUser(options.user);
+    answer->upgraded = content.toJson();
+}
+
+} // namespace
+
+UpgradeAnswer upgradeWorkflow(const BatchInput &input, const UpgradeOptions &options)
+{
+    UpgradeAnswer answer;
+    answer.file = input.file;
+    answer.failure = input.failure;
+    if (answer.failure)
+        return answer;
+    auto read = readText(input.file);
+    if (const auto *failure = std::get_if<Failure>(&read)) {
+        answer.failure = *failure;
+        return answer;
+    }
+    const auto &[bytes, document] = std::get<FileText>(read);
+    answer.original = bytes;
+    answer.upgraded = bytes;
+    PropertyEditorContent content(document);
+    if (content.tabsAndContent().isEmpty()) {
+        answer.failure = Failure{BadInput, int(ErrorCode::MalformedStructure),
+                                 QStringLiteral("The document has no tabs, so it is no workflow.")};
+        return answer;
+    }
+    answer.from = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());
+    answer.to = answer.from;
+    QStringList reasons;
+    answer.state = WflwMetaData::checkWorkflowVersion(answer.from, &content, &reasons);
+    if (answer.state == State::NotSupported) {
+        answer.failure = refusal(reasons);
+        return answer;
+    }
+    if (answer.from == WflwMetaData::currentWorkflowVersion())
+        return answer;
+    answer.lost = lossesOf(document);
+    upgrade(content, options, &answer);
+    return answer;
+}
+
+} // namespace orv::cli
