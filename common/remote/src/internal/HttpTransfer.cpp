@@ -2,8 +2,10 @@
 
 #include "HttpErrors.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QNetworkAccessManager>
+#include <QThread>
 #include <QThreadStorage>
 
 #include <algorithm>
@@ -21,15 +23,25 @@ constexpr qint64 kReadAhead = qint64(1024) * 1024;
 constexpr qint64 kMinBytesPerMs = 16;
 constexpr qint64 kSilencesBeforePace = 4;
 
-/// One per thread keeps connections open from request to request. It goes with its thread, the main thread's
-/// with the application.
+using Managers = QThreadStorage<QNetworkAccessManager *>;
+
+Managers &managers()
+{
+    static Managers all;
+    return all;
+}
+
+/// One per thread keeps connections open from request to request. It goes with its thread.
 QNetworkAccessManager &networkOfThisThread()
 {
     const QEventLoop loop; // gives a thread that Qt didn't start what timers need
-    static QThreadStorage<QNetworkAccessManager *> managers;
-    if (!managers.hasLocalData())
-        managers.setLocalData(new QNetworkAccessManager);
-    return *managers.localData();
+    if (!managers().localData()) {
+        managers().setLocalData(new QNetworkAccessManager);
+        // The main thread outlives the application, which TLS needs to close its connections.
+        if (QThread::currentThread() == QCoreApplication::instance()->thread())
+            qAddPostRoutine([] { managers().setLocalData(nullptr); });
+    }
+    return *managers().localData();
 }
 
 QUrl urlOf(const HttpRequest &request)
