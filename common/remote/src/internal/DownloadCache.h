@@ -7,17 +7,18 @@
 
 namespace orv {
 
-/// The folder of what was fetched from servers. Each entry is a folder of its own, so that files keep their names, and
-/// no two entries meet. Entries that nobody used for a day make room for new ones, the longest unused first; younger
-/// ones may be in use by another program.
+/// The folder of what was fetched from servers. Each entry is a folder of its own, so that files keep their
+/// names, and no two entries meet. Entries that nobody used for a day make room for new ones, the longest
+/// unused first; younger ones may be in use by another program.
 class DownloadCache
 {
 public:
-    /// The cache that the settings name, made if need be, for its owner's eyes alone. Fails with CannotOpenFile.
+    /// The cache that the settings name, made if need be, for its owner's eyes alone. Fails with
+    /// CannotOpenFile.
     [[nodiscard]] static Result<DownloadCache> open();
 
-    /// The path of what \a identity tells apart from all else, whose file is called \a name; whatever characters
-    /// both have, the path lies in the cache.
+    /// The path of what \a identity tells apart from all else, whose file is called \a name; whatever
+    /// characters both have, the path lies in the cache.
     [[nodiscard]] QString place(const QStringList &identity, const QString &name) const;
 
     /// Whether there is a file at \a path, which then counts as used now.

@@ -176,14 +176,12 @@ void HttpTransfer::end(const Result<HttpAnswer> &answer)
         return;
     m_isEnding = true;
     m_clock.stop();
-    const Done done = m_done;
-    const Result<HttpAnswer> result = answer;
     // Later, so that whoever hears of it may destroy this transfer and its reply.
     QMetaObject::invokeMethod(
         this,
-        [this, done, result] {
+        [this, done = m_done, answer] {
             delete m_reply.release();
-            done(result);
+            done(answer);
         },
         Qt::QueuedConnection);
 }

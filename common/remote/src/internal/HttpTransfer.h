@@ -24,8 +24,8 @@ public:
     /// An answer of any status, or the failure to get one.
     using Done = std::function<void(Result<HttpAnswer> answer)>;
 
-    /// \a done is called once, from the event loop, unless the transfer is destroyed before. It may destroy the
-    /// transfer.
+    /// \a done is called once, from the event loop, unless the transfer is destroyed before. It may destroy
+    /// the transfer.
     HttpTransfer(HttpRequest request, Done done);
     ~HttpTransfer() override;
     Q_DISABLE_COPY_MOVE(HttpTransfer)

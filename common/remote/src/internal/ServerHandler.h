@@ -10,8 +10,8 @@ namespace orv {
 
 class DownloadCache;
 
-/// What lies on a server that is asked over HTTP. The server is asked once for the metadata; the content goes to the
-/// cache, where a later handler finds it as long as the metadata tell the same version of it.
+/// What lies on a server that is asked over HTTP. The server is asked once for the metadata; the content goes
+/// to the cache, where a later handler finds it as long as the metadata tell the same version of it.
 class ServerHandler : public ResourceHandler
 {
 public:

@@ -6,8 +6,8 @@
 
 #include <QString>
 
-/// The questions to a UNIFI server; docs/servers.md tells the answers. They fail when UNIFI is switched off and for an
-/// item without an identifier, which old references lack.
+/// The questions to a UNIFI server; docs/servers.md tells the answers. They fail when UNIFI is switched off
+/// and for an item without an identifier, which old references lack.
 namespace orv::UnifiRequests {
 
 [[nodiscard]] Result<HttpRequest> item(const QString &id);

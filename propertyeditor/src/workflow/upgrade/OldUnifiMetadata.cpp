@@ -20,7 +20,7 @@ QJsonObject sampleInput(const PropertyEditorContent::Tab &tab)
     const QStringList &columns = tab.second.first;
     const VariantItems &cells = tab.second.second;
     for (qsizetype i = 0; i < cells.size(); ++i) {
-        const QJsonObject cell = RawCell::objectOf(cells.at(i));
+        QJsonObject cell = RawCell::objectOf(cells.at(i));
         const bool isInColumn = !columns.isEmpty() && columns.at(i % columns.size()) == wanted;
         if (!cell.isEmpty() && (isInColumn || cell.value(QLatin1String("name")).toString() == wanted))
             return cell;

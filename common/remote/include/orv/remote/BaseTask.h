@@ -17,10 +17,10 @@ namespace orv {
 ///     BaseTask::waitForAllFinished(&task);
 ///     if (task.error().hasError()) ...
 /// \endcode
-/// A task lives on the thread that made it; every function but state() and cancel() is called there. The thread
-/// needs no running event loop, but the program a QCoreApplication. A task runs once. Each request ends by
-/// itself when its server keeps silent for too long, so that waiting without a limit comes to an end. Whoever
-/// destroys a running task cancels it.
+/// A task lives on the thread that made it; every function but state() and cancel() is called there. The
+/// thread needs no running event loop, but the program a QCoreApplication. A task runs once. Each request
+/// ends by itself when its server keeps silent for too long, so that waiting without a limit comes to an end.
+/// Whoever destroys a running task cancels it.
 class ORV_WORKFLOW_EXPORT BaseTask : public QObject
 {
     Q_OBJECT
@@ -40,20 +40,23 @@ public:
 
     /// Any thread.
     [[nodiscard]] State state() const { return m_state; }
-    [[nodiscard]] bool isFinished() const { return state() != State::NotStarted && state() != State::Running; }
+    [[nodiscard]] bool isFinished() const
+    {
+        return state() != State::NotStarted && state() != State::Running;
+    }
 
     /// Why the task failed or was cancelled; a success before its end and after a good one.
     [[nodiscard]] const Error &error() const { return m_error; }
     [[nodiscard]] const Warnings &warnings() const { return m_warnings; }
 
-    /// Ends the task as Cancelled, at once on its own thread, otherwise as soon as that handles events. A task
-    /// that hasn't been started yet won't run; nothing happens to a finished one. Any thread.
+    /// Ends the task as Cancelled, at once on its own thread, otherwise as soon as that handles events. A
+    /// task that hasn't been started yet won't run; nothing happens to a finished one. Any thread.
     void cancel();
 
     /// Handles this thread's events, but for what the user does, until all \a tasks are finished, or until
-    /// \a timeoutMs milliseconds have passed; -1 is no limit. Whether all are finished: they go on if not. Null
-    /// ones don't count. Answers false at once, with a warning in the log, for a task that wasn't started, or
-    /// that belongs to another thread. A task must not be destroyed meanwhile.
+    /// \a timeoutMs milliseconds have passed; -1 is no limit. Whether all are finished: they go on if not.
+    /// Null ones don't count. Answers false at once, with a warning in the log, for a task that wasn't
+    /// started, or that belongs to another thread. A task must not be destroyed meanwhile.
     static bool waitForAllFinished(const QList<BaseTask *> &tasks, int timeoutMs = -1);
     static bool waitForAllFinished(BaseTask *task, int timeoutMs = -1);
 
@@ -64,8 +67,8 @@ Q_SIGNALS:
 protected:
     BaseTask();
 
-    /// Runs start(). Fails with the task when the program has no QCoreApplication, or the task was cancelled or
-    /// started before.
+    /// Runs start(). Fails with the task when the program has no QCoreApplication, or the task was cancelled
+    /// or started before.
     [[nodiscard]] Error begin();
     /// Ends a task that can't be started.
     void fail(const Error &error);

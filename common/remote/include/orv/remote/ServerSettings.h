@@ -10,11 +10,12 @@
 
 namespace orv {
 
-/// Where a server is, and what shows it who asks. Addresses are settings (orv/core/Settings.h), with the name of
-/// each in the environment beside it:
+/// Where a server is, and what shows it who asks. Addresses are settings (orv/core/Settings.h), with the name
+/// of each in the environment beside it:
 ///     Talvane/Address      ORV_TALVANE_ADDRESS      https://HOST[:PORT][/PREFIX]
 ///     UNIFI/Address        ORV_UNIFI_ADDRESS        as above
-///     Servers/TimeoutMs    ORV_SERVERS_TIMEOUTMS    how long a server may keep silent, in milliseconds; 30000
+///     Servers/TimeoutMs    ORV_SERVERS_TIMEOUTMS    how long a server may keep silent, in milliseconds;
+///     30000
 /// Tokens come from the environment alone, so that no file holds them: ORV_TALVANE_TOKEN, ORV_UNIFI_TOKEN.
 /// Without a token nothing is sent in its place. A plain value; reading is safe on any thread.
 class ORV_WORKFLOW_EXPORT ServerSettings
@@ -27,8 +28,8 @@ public:
     [[nodiscard]] bool isSet() const { return !m_addressText.isEmpty(); }
 
     /// Why no request can be sent: no address, one that is none of a server, one without TLS that isn't this
-    /// machine's own, one with a user or password in it, or a token that no header can hold. The address and the
-    /// token are in no text.
+    /// machine's own, one with a user or password in it, or a token that no header can hold. The address and
+    /// the token are in no text.
     [[nodiscard]] Error check() const;
 
     [[nodiscard]] const QUrl &address() const { return m_address; }

@@ -11,8 +11,8 @@ namespace orv {
 
 class ServerTask;
 
-/// Asks the UNIFI server of the settings (UnifiSettings) for the folder in which an item lies. Fails when UNIFI is
-/// switched off.
+/// Asks the UNIFI server of the settings (UnifiSettings) for the folder in which an item lies. Fails when
+/// UNIFI is switched off.
 class ORV_WORKFLOW_EXPORT UnifiGetItemFolderTask : public Task
 {
     Q_OBJECT

@@ -12,7 +12,8 @@ namespace orv {
 /// docs/servers.md; members that this version doesn't know are kept.
 struct ORV_WORKFLOW_EXPORT UnifiResourceMetadata
 {
-    /// A folder by its own name, and by its whole path from the root, with slashes between and none at the ends.
+    /// A folder by its own name, and by its whole path from the root, with slashes between and none at the
+    /// ends.
     struct ORV_WORKFLOW_EXPORT Folder
     {
         QString name;
@@ -27,7 +28,7 @@ struct ORV_WORKFLOW_EXPORT UnifiResourceMetadata
     {
         QString id; ///< without braces
         QString name;
-        QString path; ///< of the folder in which it lies, as far as it was known
+        QString path;  ///< of the folder in which it lies, as far as it was known
         Folder folder; ///< that folder, once the server was asked for it
 
         bool operator==(const Item &) const = default;

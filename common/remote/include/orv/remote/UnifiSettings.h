@@ -4,8 +4,8 @@
 
 namespace orv {
 
-/// Whether UNIFI is used, and where it is. "UNIFI/Enabled" (ORV_UNIFI_ENABLED) switches it; where that isn't set, an
-/// address does. A plain value.
+/// Whether UNIFI is used, and where it is. "UNIFI/Enabled" (ORV_UNIFI_ENABLED) switches it; where that isn't
+/// set, an address does. A plain value.
 class ORV_WORKFLOW_EXPORT UnifiSettings
 {
 public:
