@@ -15,7 +15,7 @@ enum class Told
     Windows,
 };
 
-std::atomic<Told> told = Told::Nothing; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+std::atomic<Told> told = Told::Nothing;
 
 } // namespace
 
