@@ -45,6 +45,7 @@ private Q_SLOTS:
     void contentIsReplaced();
     void metadataFillColumns();
     void relativeFilesBecomeAbsoluteOnDemand();
+    void definitionsOfColumnsAreReadBesideTheSamples();
     void clearLeavesNothing();
     void whatIsNotKeptIsTold();
 };
@@ -155,6 +156,25 @@ void TestSamplesTableItem::relativeFilesBecomeAbsoluteOnDemand()
              (QJsonArray{u"talvane:/lab/r.karvrslt"_s, u"/lab/study/r.karvrslt"_s}));
     // The item itself keeps what it had.
     QCOMPARE(stored(PropertyConversionFlag::KeepPaths), sample);
+}
+
+void TestSamplesTableItem::definitionsOfColumnsAreReadBesideTheSamples()
+{
+    QJsonObject cell = samplesCell(twoSamples());
+    QJsonArray properties = cell.value(u"properties"_s).toArray();
+    const QJsonObject column{{u"name"_s, u"Condition"_s}, {u"type"_s, u"text"_s}};
+    properties.append(QJsonObject{
+        {u"name"_s, u"CustomColumns"_s},
+        {u"value"_s, QJsonObject{{u"data"_s, QJsonArray{column}}, {u"children"_s, QJsonArray()}}}});
+    cell.insert(u"properties"_s, properties);
+    SamplesTableItem item;
+    ORV_VERIFY_OK(item.assignFromJson(cell, {}));
+    QCOMPARE(item.customColumnsMetaData().data.size(), 1);
+    QCOMPARE(item.customColumnsMetaData().data.at(0).toMap().value(u"name"_s), QVariant(u"Condition"_s));
+    // The samples hold their columns themselves, so the definitions aren't written again.
+    QCOMPARE(item.toJson(PropertyConversionFlag::KeepPaths), samplesCell(twoSamples()));
+    ORV_VERIFY_OK(item.assignFromJson(samplesCell(twoSamples()), {}));
+    QVERIFY(item.customColumnsMetaData().isEmpty());
 }
 
 void TestSamplesTableItem::clearLeavesNothing()

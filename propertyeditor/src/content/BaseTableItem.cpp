@@ -215,6 +215,13 @@ Result<QJsonObject> BaseTableItem::mainEntry(const QJsonObject &json) const
         .addDetail(tr("The cell \"%1\" needs an entry of that name in its \"properties\".").arg(name()));
 }
 
+void BaseTableItem::loadCustomColumns(const QJsonObject &json)
+{
+    const QJsonObject columns = PropertyEditorJsonUtils::getPropertyWithType(json, PropertyId::CustomColumns);
+    if (!columns.isEmpty())
+        m_customColumnsMetaData = PropertyEditorJsonUtils::propValueToRowNode(columns);
+}
+
 Error BaseTableItem::assignCommon(const QJsonObject &json, ValidationOptions options)
 {
     m_root.clear();
@@ -239,9 +246,7 @@ Error BaseTableItem::assignFromJson(const QJsonObject &json, ValidationOptions o
         return entry.ecatch();
 
     m_root = PropertyEditorJsonUtils::propValueToRowNode(*entry);
-    const QJsonObject columns = PropertyEditorJsonUtils::getPropertyWithType(json, PropertyId::CustomColumns);
-    if (!columns.isEmpty())
-        m_customColumnsMetaData = PropertyEditorJsonUtils::propValueToRowNode(columns);
+    loadCustomColumns(json);
 
     if (loadContext().isObserved()) {
         QList<PropertyId> tables = m_further.tables;

@@ -46,6 +46,7 @@ Error SamplesTableItem::assignFromJson(const QJsonObject &json, ValidationOption
     if (content.hasError())
         return content.ecatch();
     m_content = std::move(content).value();
+    loadCustomColumns(json);
     if (loadContext().isObserved())
         reportTableLosses(loadContext(), json, {PropertyId::NoProperty, {}, {propertyId()}, {}});
     Q_EMIT reset();

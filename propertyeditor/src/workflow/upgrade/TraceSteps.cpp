@@ -1,17 +1,241 @@
 #include "StepHelpers.h"
 
+#include <orv/core/Logging.h>
+#include <orv/core_ms/ElutionPeaksBackwardsCompatibility.h>
+#include <orv/core_ms/MsUtils.h>
+#include <orv/core_ms/SimpleFilesInfoManager.h>
+#include <orv/propertyeditor/content/SamplesTableItem.h>
 #include <orv/propertyeditor/workflow/WflwUpgradeHelper.h>
+#include <orv/resources/ResourceManager.h>
+#include <orv/resources/ResourceReferenceUtils.h>
+#include <orv/resources/ResourceTypeChecker.h>
+
+#include <QHash>
+#include <QSet>
+
+#include <algorithm>
 
 namespace orv {
 
-Error WflwUpgradeHelper::upgradeV_5_10_1(PropertyEditorContent *content)
+using namespace PropertyEditor;
+using namespace UpgradeSteps;
+
+namespace {
+
+using Entry = TracesImportList::Entry;
+using SamplesInput::SampleWithCustomColumns;
+
+constexpr auto kRebuiltFormat = msreader::VendorDataFormat::Thermo;
+
+QList<ResourceReferenceSPtr> msFilesOf(const SamplesAndTracesContent &samples)
 {
-    return UpgradeSteps::readAndWrite(content);
+    QList<ResourceReferenceSPtr> files;
+    for (const ResourceReferenceSPtr &reference : samples.references()) {
+        if (ResourceTypeChecker::isMSFileType(reference))
+            files.append(reference);
+    }
+    return files;
 }
 
+/// Lets the samples refer to their MS files where these are, and collects them.
+class FileCheck
+{
+public:
+    explicit FileCheck(const SamplesAndTracesContent &samples)
+        : m_msFiles(msFilesOf(samples))
+        , m_manager(m_msFiles)
+        , m_known(m_msFiles.begin(), m_msFiles.end())
+    {}
+
+    Error correct(SamplesAndTracesContent *content)
+    {
+        for (SampleWithCustomColumns &sample : content->samples.samples) {
+            ORV_RETURN_IF_ERROR(correct(&sample.msFile, &sample));
+            for (ResourceReferenceSPtr &file : sample.traces)
+                ORV_RETURN_IF_ERROR(correct(&file, &sample));
+            for (ResourceReferenceSPtr &file : sample.extraReferences)
+                ORV_RETURN_IF_ERROR(correct(&file, &sample));
+        }
+        return Error::NoError;
+    }
+
+    [[nodiscard]] const QList<ResourceReferenceSPtr> &files() const { return m_corrected; }
+
+private:
+    Error correct(ResourceReferenceSPtr *file, SampleWithCustomColumns *sample)
+    {
+        if (!*file || !m_known.contains(*file))
+            return Error::NoError;
+        Result<ResourceReferenceSPtr> corrected = m_manager.validateAndCorrectFileReference(*file);
+        if (corrected.hasError()) {
+            const Error cause = corrected.ecatch();
+            return failure(QObject::tr("Upgrade not possible. An error occured while trying to access the "
+                                       "file: %1.")
+                               .arg((*file)->text()),
+                           (cause.errorMessages() + cause.details()).join(QLatin1Char(' ')));
+        }
+        sample->moveFileMetadata((*file)->text(), (*corrected)->text());
+        *file = *corrected;
+        m_corrected.append(*corrected);
+        return Error::NoError;
+    }
+
+    QList<ResourceReferenceSPtr> m_msFiles;
+    SimpleFilesInfoManager m_manager;
+    QSet<ResourceReferenceKey> m_known;
+    QList<ResourceReferenceSPtr> m_corrected;
+};
+
+Error updateAfterReaderChange(SamplesAndTracesContent *samples)
+{
+    FileCheck check(*samples);
+    ORV_RETURN_IF_ERROR(check.correct(samples));
+    TraceImportAndProcessingOptions options = samples->options;
+    ORV_RETURN_IF_ERROR(
+        ElutionPeaksBackwardsCompatibility::updateTracesAfterMsReaderApiChanged(check.files(), &options));
+    samples->options = options;
+    return Error::NoError;
+}
+
+bool hasOldName(const Entry &entry)
+{
+    return entry.traceItem().type() == TraceType::Other &&
+           entry.traceItem().channelName().startsWith(msreader::CHROMATOGRAM_NAME_OTHER_PREFIX);
+}
+
+/// What the files of the format whose traces are rebuilt have beside ion counts.
+struct Chromatograms
+{
+    QList<TraceItem> items;
+    bool hasOthers = false; ///< files that may have given an old name as well
+
+    [[nodiscard]] bool replaceOldNames() const { return !items.isEmpty() && !hasOthers; }
+};
+
+Error addChromatograms(const MsUtils::AccessorForMsFile &file, Chromatograms *found)
+{
+    if (file.accessor->vendorFormat() != kRebuiltFormat) {
+        found->hasOthers = true;
+        return file.error && file.accessor->isFormatRead() ? file.error : Error();
+    }
+    if (file.error) {
+        if (file.accessor->isFormatRead())
+            return file.error;
+        qCWarning(propertyEditorLog).noquote() << "The names of the traces of" << file.accessor->path()
+                                               << "stay as they were:" << file.error.errorMessage();
+        found->hasOthers = true;
+        return Error::NoError;
+    }
+    auto infos = file.accessor->chromatogramInfoList(msreader::ChromatogramFilters::nonMs);
+    if (infos.hasError())
+        return infos.ecatch();
+    for (const msreader::ChromatogramInfo &info : std::as_const(*infos))
+        found->items.append({MsUtils::traceTypeFromChromatogramType(info.type), {info.name, info.id}});
+    return Error::NoError;
+}
+
+Result<Chromatograms> chromatogramsOf(const QList<ResourceReferenceSPtr> &files)
+{
+    Chromatograms found;
+    for (const ResourceReferenceSPtr &reference : files) {
+        // What was fetched lives as long as its handler.
+        Result<ResourceHandlerSPtr> handler = ResourceManager::getHandler(reference);
+        if (!handler)
+            return handler.ecatch();
+        Result<QString> path = (*handler)->grab();
+        if (!path)
+            return path.ecatch();
+        for (const MsUtils::AccessorForMsFile &file : MsUtils::accessorsForMsFiles({*path}))
+            ORV_RETURN_IF_ERROR(addChromatograms(file, &found));
+    }
+    return found;
+}
+
+/// An entry of a trace that the list lacks under its name. It is used as those with old names were, one of
+/// which it was.
+Entry newEntry(const TraceItem &item, const QList<Entry> &oldNames)
+{
+    Entry entry(item);
+    entry.setImported(std::ranges::any_of(oldNames, &Entry::isImported));
+    entry.setPeaksOptionsName(oldNames.constFirst().peaksOptionsName());
+    return entry;
+}
+
+QList<Entry> rebuilt(const QList<Entry> &list, const Chromatograms &found)
+{
+    QList<Entry> entries;
+    QList<Entry> oldNames;
+    QHash<QString, qsizetype> places;
+    for (const Entry &entry : list) {
+        if (hasOldName(entry))
+            oldNames.append(entry);
+        if (hasOldName(entry) && found.replaceOldNames())
+            continue;
+        if (!places.contains(entry.traceItem().channelName()))
+            places.insert(entry.traceItem().channelName(), entries.size());
+        entries.append(entry);
+    }
+    for (const TraceItem &item : found.items) {
+        const auto place = places.constFind(item.channelName());
+        if (place != places.constEnd()) {
+            entries[*place].setTraceItem(item);
+            continue;
+        }
+        places.insert(item.channelName(), entries.size());
+        entries.append(newEntry(item, oldNames));
+    }
+    TracesImportList::sortTracesByGroup(&entries);
+    return entries;
+}
+
+Error rebuildOldNames(SamplesAndTracesContent *samples)
+{
+    FileCheck check(*samples);
+    ORV_RETURN_IF_ERROR(check.correct(samples));
+    Result<Chromatograms> found = chromatogramsOf(check.files());
+    if (!found)
+        return found.ecatch();
+    samples->options.traces.setList(rebuilt(samples->options.traces.list(), *found));
+    return Error::NoError;
+}
+
+} // namespace
+
+// Readers call traces by other names than they did.
+Error WflwUpgradeHelper::upgradeV_5_10_1(PropertyEditorContent *content)
+{
+    Result<Content> working = createPecToUpgrade(content);
+    if (!working)
+        return working.ecatch();
+    SamplesTableItem *table = working->samplesTable();
+    if (!table)
+        return noSamples();
+    SamplesAndTracesContent samples = table->content();
+    const Error error = updateAfterReaderChange(&samples);
+    table->setContent(samples);
+    ORV_RETURN_IF_ERROR(error);
+    ORV_RETURN_IF_ERROR(writeBack(*working, content, {table}));
+    return Error::NoError;
+}
+
+// Chromatograms of devices have the names that their files give them.
 Error WflwUpgradeHelper::upgradeV_5_39_0(PropertyEditorContent *content)
 {
-    return UpgradeSteps::readAndWrite(content);
+    Result<Content> working = createPecToUpgrade(content);
+    if (!working)
+        return working.ecatch();
+    SamplesTableItem *table = working->samplesTable();
+    if (!table)
+        return noSamples();
+    SamplesAndTracesContent samples = table->content();
+    const bool applies =
+        !samples.samples.samples.isEmpty() && std::ranges::any_of(samples.options.traces.list(), hasOldName);
+    if (!applies)
+        return Error::NoError;
+    ORV_RETURN_IF_ERROR(rebuildOldNames(&samples));
+    table->setContent(samples);
+    ORV_RETURN_IF_ERROR(writeBack(*working, content, {table}));
+    return Error::NoError;
 }
 
 } // namespace orv

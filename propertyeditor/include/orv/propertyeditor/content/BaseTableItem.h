@@ -117,6 +117,9 @@ protected:
     /// refuses a cell without "properties", and reads the common keys.
     Error assignCommon(const QJsonObject &json, ValidationOptions options);
 
+    /// Takes over what the document tells of columns that users defined; nothing where it tells nothing.
+    void loadCustomColumns(const QJsonObject &json);
+
     /// The entry of the main property; MalformedStructure if there is none.
     [[nodiscard]] Result<QJsonObject> mainEntry(const QJsonObject &json) const;
 
