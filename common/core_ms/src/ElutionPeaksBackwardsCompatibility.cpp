@@ -126,13 +126,18 @@ ElutionPeaksOptions presetOf(const Preset &row, const Compatibility::Input &inpu
     return preset;
 }
 
+bool isDoubleDash(const QVariant &cell)
+{
+    return cell.typeId() == QMetaType::QString && cell.toString().trimmed() == QLatin1String("--");
+}
+
 void emptyDoubleDashes(VariantItems *cells)
 {
-    for (qsizetype i = 0; i < cells->size(); ++i) {
-        if (cells->at(i).typeId() == QMetaType::QString &&
-            cells->at(i).toString().trimmed() == QLatin1String("--"))
-            (*cells)[i] = QString();
-    }
+    VariantItems emptied;
+    emptied.reserve(cells->size());
+    for (const QVariant &cell : *cells)
+        emptied.append(isDoubleDash(cell) ? QVariant(QString()) : cell);
+    *cells = emptied;
 }
 
 } // namespace
