@@ -85,6 +85,8 @@ Error replaceDigest(KeyValueItem *item)
 
 Error convertFormula(BuildingBlock *block)
 {
+    if (block->formula.trimmed().isEmpty())
+        return Error::NoError;
     const std::optional<BuildingBlockType> type = ChemicalFactory::buildingBlockType(block->type);
     if (!type) {
         return notPossible(QObject::tr("The building block \"%1\" has the unknown type \"%2\".")
@@ -100,15 +102,19 @@ Error convertFormula(BuildingBlock *block)
     return Error::NoError;
 }
 
-Error convertFormulas(OligoProteinsTableItem *item)
+/// Whether there were any.
+Result<bool> convertFormulas(OligoProteinsTableItem *item)
 {
     Result<ProteinGenerator::InputOptions> options = ProteinGenerator::parseInputOptions(item->root());
     if (!options)
         return options.ecatch();
+    // A plain table of sequences may have columns that the options don't hold.
+    if (options->buildingBlocks.isEmpty())
+        return false;
     for (BuildingBlock &block : options->buildingBlocks)
         ORV_RETURN_IF_ERROR(convertFormula(&block));
     item->setRoot(options->toRowNode());
-    return Error::NoError;
+    return true;
 }
 
 Error completeDataIndependent(KeyValueItem *item)
@@ -218,8 +224,11 @@ Error WflwUpgradeHelper::upgradeV_5_31_0(PropertyEditorContent *content)
         auto *const table = qobject_cast<OligoProteinsTableItem *>(item);
         if (!table)
             continue;
-        ORV_RETURN_IF_ERROR(convertFormulas(table));
-        edited.append(table);
+        Result<bool> converted = convertFormulas(table);
+        if (!converted)
+            return converted.ecatch();
+        if (*converted)
+            edited.append(table);
     }
     if (edited.isEmpty())
         return Error::NoError;
