@@ -1,10 +1,14 @@
 #include "Upgrade.h"
 
+#include <orv/propertyeditor/PropertySetCreator.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/workflow/WflwUpgradeObserver.h>
 #include <orv/propertyeditor/workflow/WflwUpgrader.h>
 #include <orv/propertyeditor/workflow/WorkflowDifferences.h>
 #include <orv/resources/LocalBaseFolder.h>
+
+#include <algorithm>
+#include <array>
 
 namespace orv::cli {
 
@@ -13,25 +17,42 @@ namespace {
 using PropertyEditor::Content;
 using State = WflwMetaData::WflwState;
 
-constexpr QLatin1String kGroupSuffix(" / group");
+/// What a change of such a member of a setting is.
+struct MemberRow
+{
+    QLatin1String suffix;
+    UpgradeChange::Kind kind;
+};
+
+constexpr std::array kMembers = {
+    MemberRow{QLatin1String(" / group"), UpgradeChange::Kind::Moved},
+    MemberRow{QLatin1String(" / name"), UpgradeChange::Kind::Renamed},
+};
+constexpr QLatin1String kPrioritySuffix(" / priority");
+
+/// Settings get their usual priority when they are next written, which nobody needs to review.
+bool isUsualPriority(const WorkflowDifference &difference)
+{
+    return difference.kind == WorkflowDifference::Kind::Added && !difference.property.isEmpty() &&
+           difference.path.endsWith(kPrioritySuffix) &&
+           difference.right == QJsonValue(int(PropertySetCreator::Priority::High));
+}
 
 UpgradeChange changeOf(const WorkflowDifference &difference)
 {
     UpgradeChange change{UpgradeChange::Kind::Changed, difference.path, difference.property, difference.left,
                          difference.right};
-    switch (difference.kind) {
-    case WorkflowDifference::Kind::Added:
+    if (difference.kind == WorkflowDifference::Kind::Added)
         change.kind = UpgradeChange::Kind::Added;
-        break;
-    case WorkflowDifference::Kind::Removed:
+    if (difference.kind == WorkflowDifference::Kind::Removed)
         change.kind = UpgradeChange::Kind::Removed;
-        break;
-    case WorkflowDifference::Kind::Changed:
-        if (!difference.property.isEmpty() && difference.path.endsWith(kGroupSuffix)) {
-            change.kind = UpgradeChange::Kind::Moved;
-            change.path.chop(kGroupSuffix.size());
-        }
-        break;
+    if (difference.kind != WorkflowDifference::Kind::Changed || difference.property.isEmpty())
+        return change;
+    for (const MemberRow &member : kMembers) {
+        if (!change.path.endsWith(member.suffix))
+            continue;
+        change.kind = member.kind;
+        change.path.chop(member.suffix.size());
     }
     return change;
 }
@@ -58,6 +79,7 @@ bool isRenaming(const WorkflowDifference &removed, const WorkflowDifference &add
 
 QList<UpgradeChange> changesOf(QList<WorkflowDifference> differences)
 {
+    differences.removeIf(isUsualPriority);
     QList<UpgradeChange> changes;
     for (qsizetype i = 0; i < differences.size(); ++i) {
         UpgradeChange change = changeOf(differences.at(i));
@@ -66,7 +88,8 @@ QList<UpgradeChange> changesOf(QList<WorkflowDifference> differences)
                 return isRenaming(differences.at(i), other);
             });
         if (added != differences.end()) {
-            change = {UpgradeChange::Kind::Renamed, added->path, added->property, change.from, added->right};
+            change = {UpgradeChange::Kind::Renamed, added->path, added->property, change.property,
+                      added->property};
             differences.erase(added);
         }
         changes.append(change);

@@ -24,7 +24,7 @@ struct UpgradeChange
     {
         Added,
         Removed,
-        Renamed, ///< the setting has another name; `from` and `to` are its values
+        Renamed, ///< the setting has another name; `from` and `to` are the names
         Moved,   ///< the setting has another group
         Changed,
     };

@@ -39,6 +39,7 @@ def run(program, case):
                 (shutil.copytree if file.is_dir() else shutil.copy)(file, work / file.name)
         (work / "examples").symlink_to(ROOT / "examples" / "workflows")
         (work / "versions").symlink_to(ROOT / "tests" / "data" / "versions")
+        (work / "aged").symlink_to(ROOT / "tests" / "data" / "upgrade")
         (work / "bin").mkdir()
         (work / "bin" / "orv-workflow").symlink_to(program)
         environment = dict(os.environ, PATH=f"{work / 'bin'}:{os.environ['PATH']}", LC_ALL="C.UTF-8", NO_COLOR="1")
