@@ -229,13 +229,17 @@ void Content::setLossObserver(LossObserver *observer)
 
 QByteArray Content::toJson(PropertyConversionFlag flag) const
 {
+    return QJsonDocument(toJsonObject(flag)).toJson(QJsonDocument::Indented);
+}
+
+QJsonObject Content::toJsonObject(PropertyConversionFlag flag) const
+{
     QJsonArray tabs;
     for (const auto &group : d->groups)
         tabs.append(group->toJson(flag));
-    const QJsonObject document{{TABS_KEY, tabs},
-                               {META_IN_JSON_KEY, QString::fromUtf8(JsonUtils::toCompactJson(d->metadata))},
-                               {EXTENDED_METADATA_IN_JSON_KEY, d->extendedMetadata.toJson()}};
-    return QJsonDocument(document).toJson(QJsonDocument::Indented);
+    return {{TABS_KEY, tabs},
+            {META_IN_JSON_KEY, QString::fromUtf8(JsonUtils::toCompactJson(d->metadata))},
+            {EXTENDED_METADATA_IN_JSON_KEY, d->extendedMetadata.toJson()}};
 }
 
 bool Content::save(const QString &fileName) const

@@ -184,12 +184,15 @@ QJsonObject PropertyEditorContent::document() const
 
 QByteArray PropertyEditorContent::toJson() const
 {
+    return QJsonDocument(toJsonObject()).toJson(QJsonDocument::Indented);
+}
+
+QJsonObject PropertyEditorContent::toJsonObject() const
+{
     const QString cellStamp =
         QString::fromUtf8(JsonUtils::toCompactJson(WflwMetaData::metaDataObject(d->customUser)));
-    const QJsonObject document =
-        documentOf(d->tabs, WflwMetaData::stamped(d->metadata, d->customUser), d->extendedMetadataInfo,
-                   [&cellStamp](const VariantItems &cells) { return stampedCells(cells, cellStamp); });
-    return QJsonDocument(document).toJson(QJsonDocument::Indented);
+    return documentOf(d->tabs, WflwMetaData::stamped(d->metadata, d->customUser), d->extendedMetadataInfo,
+                      [&cellStamp](const VariantItems &cells) { return stampedCells(cells, cellStamp); });
 }
 
 } // namespace orv

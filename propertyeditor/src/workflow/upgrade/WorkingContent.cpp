@@ -26,11 +26,6 @@ struct Tr
 
 thread_local UpgradeRun *t_currentRun = nullptr;
 
-QJsonObject stampedObject(const PropertyEditorContent &content)
-{
-    return QJsonDocument::fromJson(content.toJson()).object();
-}
-
 Result<Content> readTree(const QJsonObject &stamped)
 {
     Content tree;
@@ -100,7 +95,14 @@ Error checkTabs(const Content &tree)
     return Error::NoError;
 }
 
-Error replaceWhole(const Content &tree, PropertyEditorContent *content)
+/// A step outside of a run goes the long way, by the texts. A run leaves them out: what was read from a text
+/// has no value that a text would change.
+Result<Content> readByText(const PropertyEditorContent &content)
+{
+    return readTree(QJsonDocument::fromJson(content.toJson()).object());
+}
+
+Error replaceByText(const Content &tree, PropertyEditorContent *content)
 {
     ORV_RETURN_IF_ERROR(checkTabs(tree));
     *content = PropertyEditorContent(tree.toJson(PropertyConversionFlag::KeepPaths));
@@ -115,8 +117,7 @@ PropertyEditorContent valueForm(const QJsonArray &cells, const Content &tree)
         {TABS_KEY, QJsonArray{tab}},
         {META_IN_JSON_KEY, QString::fromUtf8(JsonUtils::toCompactJson(tree.metadata()))},
         {EXTENDED_METADATA_IN_JSON_KEY, tree.extendedMetadataInfo().toJson()}};
-    // By way of the text, as a whole document goes: it decides what a number or a text becomes.
-    return PropertyEditorContent(QJsonDocument(document).toJson(QJsonDocument::Compact));
+    return PropertyEditorContent(document);
 }
 
 } // namespace
@@ -169,7 +170,7 @@ Result<Content> UpgradeRun::workingContent(const PropertyEditorContent &content)
     if (m_tree && sameValue && !refreshEdited(content.customUser()).hasError())
         return *m_tree;
     forget();
-    const QJsonObject stamped = stampedObject(content);
+    const QJsonObject stamped = content.toJsonObject();
     Result<Content> tree = readTree(stamped);
     if (!tree)
         return tree.ecatch();
@@ -197,7 +198,7 @@ Error UpgradeRun::refreshEdited(const QString &user)
         cells.append(tabs.at(cell.tab).second.second.at(cell.index));
     PropertyEditorContent part({{QString(), {{QString()}, cells}}}, m_mirrored.metadata(), {});
     part.setCustomUser(user);
-    const QJsonObject stamped = stampedObject(part);
+    const QJsonObject stamped = part.toJsonObject();
     m_tree->assignMetaDataFromJsonObject(stamped);
     const QJsonArray objects = stamped.value(TABS_KEY).toArray().at(0)[CELLS_KEY].toArray();
     m_unsettled.emplace();
@@ -214,7 +215,8 @@ Error UpgradeRun::refreshEdited(const QString &user)
 
 Error UpgradeRun::writeAll(const Content &working, PropertyEditorContent *content)
 {
-    ORV_RETURN_IF_ERROR(replaceWhole(working, content));
+    ORV_RETURN_IF_ERROR(checkTabs(working));
+    *content = PropertyEditorContent(working.toJsonObject(PropertyConversionFlag::KeepPaths));
     forget();
     m_mirrored = *content;
     m_writtenInFull = true;
@@ -249,7 +251,7 @@ Error UpgradeRun::writeEdited(const Content &working, PropertyEditorContent *con
 Result<Content> createPecToUpgrade(PropertyEditorContent *content)
 {
     UpgradeRun *const run = UpgradeRun::current();
-    Result<Content> tree = run ? run->workingContent(*content) : readTree(stampedObject(*content));
+    Result<Content> tree = run ? run->workingContent(*content) : readByText(*content);
     if (!tree)
         return tree.ecatch();
     return tree;
@@ -258,7 +260,7 @@ Result<Content> createPecToUpgrade(PropertyEditorContent *content)
 Error writeBack(const Content &working, PropertyEditorContent *content)
 {
     UpgradeRun *const run = UpgradeRun::current();
-    return run ? run->writeAll(working, content) : replaceWhole(working, content);
+    return run ? run->writeAll(working, content) : replaceByText(working, content);
 }
 
 Error writeBack(const Content &working, PropertyEditorContent *content, const QList<BaseItem *> &edited)

@@ -79,6 +79,8 @@ public:
 
     /// The indented text of the document. No stamp is applied: version, user and time stay as loaded.
     [[nodiscard]] QByteArray toJson(PropertyConversionFlag flag) const;
+    /// The document that toJson writes, for those who would only parse the text.
+    [[nodiscard]] QJsonObject toJsonObject(PropertyConversionFlag flag) const;
     /// Writes toJson(KeepPaths), whole or not at all; false, with a warning, when the file can't be written.
     Q_INVOKABLE bool save(const QString &fileName) const;
 

@@ -59,6 +59,8 @@ public:
     /// The indented text of the document, stamped: "user", "created" and "version" are renewed at top level
     /// and in every cell, and so every document written by this function has the current version.
     [[nodiscard]] QByteArray toJson() const;
+    /// The document that toJson writes, for those who would only parse the text.
+    [[nodiscard]] QJsonObject toJsonObject() const;
 
 private:
     void assignDocument(const QJsonObject &document);
