@@ -7,8 +7,6 @@
 
 #include <QLatin1String>
 
-#include <array>
-
 namespace orv {
 
 using namespace PropertyEditor;
@@ -91,8 +89,8 @@ Error WflwUpgradeHelper::upgradeV_5_19_0(PropertyEditorContent *content)
     working->setWorkflowType(WorkflowType::IcIefMs);
     if (working->name() == kOldIcIefName)
         working->setWorkflowName(kIcIefName);
-    QList<KeyValueItem *> items = settingsItems(*working, {BaseItemType::Intact});
-    for (KeyValueItem *item : std::as_const(items))
+    const QList<KeyValueItem *> items = settingsItems(*working, {BaseItemType::Intact});
+    for (KeyValueItem *item : items)
         ORV_RETURN_IF_ERROR(renameReport(item));
     QList<BaseItem *> edited = asItems(items);
     if (SamplesTableItem *const table = working->samplesTable()) {
