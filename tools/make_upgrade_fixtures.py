@@ -117,7 +117,7 @@ class Age:
         return cell
 
     def old_samples(self):
-        tree = rows(["SampleName", "FileName", "Metadata"], ["reference", "data/reference.raw", ""],
+        tree = rows(["SampleName", "SamplePath", "Metadata"], ["reference", "data/reference.raw", ""],
                     ["stressed", "data/stressed.raw", ""])
         return self.writer.cell("Samples", "Sample Input", [{"name": "Samples", "value": tree}])
 

@@ -17,7 +17,9 @@ namespace {
 QString pathBelowRoot(const BatchInput &input)
 {
     const QString file = workflowFileOf(input.file);
-    return input.root.isEmpty() ? QFileInfo(file).fileName() : QDir(input.root).relativeFilePath(file);
+    const QFileInfo info(file);
+    return input.root.isEmpty() ? info.fileName()
+                                : QDir(input.root).relativeFilePath(info.absoluteFilePath());
 }
 
 /// Several documents need a folder; one may go into one.
@@ -99,8 +101,7 @@ std::optional<Failure> keepBackup(const QString &file, const QByteArray &bytes, 
     const QFileInfo info(file);
     const QString wanted = info.absoluteFilePath() + QLatin1String(".bak");
     QStringList reserved;
-    const QString path =
-        FileNameUtils::generateUniqueDestination(wanted, info.absolutePath(), reserved);
+    const QString path = FileNameUtils::generateUniqueDestination(wanted, info.absolutePath(), reserved);
     if (std::optional<Failure> failure = writeOutput(path, bytes))
         return failure;
     const Result<QByteArray> readBack = FileUtils::readFile(path);

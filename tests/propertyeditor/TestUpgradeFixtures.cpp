@@ -31,10 +31,10 @@ QString stepOf(const QString &fixtureName)
     return fixtureName.section(u'_', 0, 0);
 }
 
-/// Steps that open the samples' files or ask a server have tests of their own.
+/// Steps that open the samples' files have tests of their own.
 bool runsAlone(const QString &fixtureName)
 {
-    static const QSet<QString> others{u"5.10.1"_s, u"5.18.0"_s, u"5.25.0"_s, u"5.32.0"_s, u"5.39.0"_s};
+    static const QSet<QString> others{u"5.10.1"_s, u"5.39.0"_s};
     return !others.contains(stepOf(fixtureName));
 }
 

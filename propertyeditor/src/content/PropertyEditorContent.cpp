@@ -4,8 +4,8 @@
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
-#include <orv/propertyeditor/content/RawCell.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+#include <orv/propertyeditor/content/RawCell.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 #include <orv/samples/ExtendedMetadataInfo.h>
 

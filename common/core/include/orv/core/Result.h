@@ -24,10 +24,7 @@ public:
     using ValueType = T;
 
     /// A value that says nothing yet, for frameworks that make a Result before they assign to it.
-    Result()
-        requires std::is_default_constructible_v<T>
-        : m_value(T())
-    {}
+    Result() requires std::is_default_constructible_v<T> : m_value(T()) {}
     Result(T value, Warnings warnings = {}) // implicit: `return value;`
         : m_value(std::move(value))
         , m_warnings(std::move(warnings))
