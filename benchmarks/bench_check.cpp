@@ -4,7 +4,6 @@
 #include "LifelikeDocument.h"
 #include "RatioReporter.h"
 
-#include <orv/core/JsonUtils.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/validators/ContentValidator.h>
 
@@ -34,7 +33,7 @@ void add(const std::string &name, const std::function<void()> &work)
     benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State &state) {
         for ([[maybe_unused]] auto iteration : state)
             work();
-    })->Unit(benchmark::kMillisecond);
+    })->Unit(benchmark::kMicrosecond);
 }
 
 void writeFile(const QString &path, const QByteArray &bytes)
@@ -70,9 +69,8 @@ qsizetype check(const QJsonObject &document, const QUrl &folder)
         qFatal("The benchmark's document can't be loaded");
     content.setBaseUrl(folder);
     Content copy;
-    const Result<QJsonObject> absolute =
-        JsonUtils::objectFromJson(content.toJson(PropertyConversionFlag::AbsolutePaths));
-    if (copy.assignFromJson(*absolute, PropertyEditor::ValidationOption::SkipTypeValidation).hasError())
+    const QJsonObject absolute = content.toJsonObject(PropertyConversionFlag::AbsolutePaths);
+    if (copy.assignFromJson(absolute, PropertyEditor::ValidationOption::SkipTypeValidation).hasError())
         qFatal("The benchmark's copy can't be loaded");
     copy.setBaseUrl(folder);
     return findingsOf(copy);

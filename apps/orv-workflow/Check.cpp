@@ -4,7 +4,6 @@
 #include "LoadedWorkflow.h"
 
 #include <orv/core/JsonScanner.h>
-#include <orv/core/JsonUtils.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/validators/ContentValidator.h>
@@ -30,12 +29,9 @@ struct Checked
 std::variant<Content, Failure> absoluteCopy(Content &content, const QUrl &baseUrl)
 {
     content.setBaseUrl(baseUrl);
-    const Result<QJsonObject> json =
-        JsonUtils::objectFromJson(content.toJson(PropertyConversionFlag::AbsolutePaths));
-    if (json.hasError())
-        return failureFrom(json.error(), BadInput);
+    const QJsonObject json = content.toJsonObject(PropertyConversionFlag::AbsolutePaths);
     Content copy;
-    if (const Error error = copy.assignFromJson(*json, ValidationOption::SkipTypeValidation))
+    if (const Error error = copy.assignFromJson(json, ValidationOption::SkipTypeValidation))
         return failureFrom(error, BadInput);
     copy.setBaseUrl(baseUrl);
     return copy;
