@@ -4,6 +4,7 @@
 #include "UpgradeDocuments.h"
 #include "UpgradeRuns.h"
 
+#include <orv/core_ms/ChromatogramInfo.h>
 #include <orv/propertyeditor/workflow/WflwUpgradeObserver.h>
 
 #include <cstring>
@@ -138,13 +139,26 @@ void TestWflwUpgrader::theSpecialVersionRunsEveryStep()
 
 void TestWflwUpgrader::sampleFilesStayClosed()
 {
-    const QJsonArray traces{QJsonObject{{u"type"_s, 0}, {u"channelName"_s, u"Other: pressure"_s}}};
-    const QJsonObject samples = samplesCell({u"a"_s, u"b"_s}, traces);
+    const QString oldName = msreader::CHROMATOGRAM_NAME_OTHER_PREFIX + u"1"_s;
+    const QJsonArray traces{QJsonObject{{u"type"_s, 0}, {u"channelName"_s, oldName}}};
+    const QJsonObject sample{
+        {u"SamplesId"_s, 1}, {u"SampleName"_s, u"lot 1"_s}, {u"SamplePath"_s, u"/nowhere/lot1.mzML"_s}};
+    const QJsonObject table{
+        {u"Samples"_s, QJsonArray{sample}},
+        {u"TraceImportAndProcessingOptions"_s, QJsonObject{{u"TracesImportList"_s, traces}}}};
+    const QJsonObject entry{{u"name"_s, u"SamplesTable"_s}, {u"value"_s, table}};
+    const QJsonObject samples{{u"type"_s, u"Samples"_s}, {u"properties"_s, QJsonArray{entry}}};
+    const LogCapture log; // the step for UNIFI items looks for samples elsewhere in the document
     PropertyEditorContent content = document(Type::PeptideMap, {samples}, u"5.9.0"_s);
     const TracesImportList before = treeOf(content).samplesAndTraces().options.traces;
     ORV_VERIFY_OK(runChain(&content));
     QCOMPARE(versionOf(content), QVersionNumber(5, 47, 0));
     QVERIFY(treeOf(content).samplesAndTraces().options.traces == before);
+    // Both steps that open them would find that the files aren't there.
+    for (const QString &version : {u"5.9.0"_s, u"5.38.0"_s}) {
+        PropertyEditorContent opened = document(Type::PeptideMap, {samples}, version);
+        QVERIFY(WflwUpgrader::upgradeWorkflow(versionOf(opened), &opened, nullptr, true).hasError());
+    }
 }
 
 void TestWflwUpgrader::notesAreHandedBack()
