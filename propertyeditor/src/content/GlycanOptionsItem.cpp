@@ -1,4 +1,4 @@
-#include "../GlycanDatabasePaths.h"
+#include "../catalogue/GlycanDatabasePaths.h"
 
 #include <orv/propertyeditor/content/GlycanOptionsItem.h>
 
