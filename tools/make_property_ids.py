@@ -12,7 +12,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 CATALOGUE = ROOT / "propertyeditor" / "resources" / "properties.csv"
-HEADER = ROOT / "propertyeditor" / "include" / "orv" / "propertyeditor" / "PropertyId.h"
+HEADER = ROOT / "propertyeditor/src/document/include/orv/propertyeditor/PropertyId.h"
 
 TEXT = """\
 // Written by tools/make_property_ids.py from properties.csv; change that and run the script.

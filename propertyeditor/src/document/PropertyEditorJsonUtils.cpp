@@ -3,7 +3,6 @@
 #include <KProperty>
 #include <orv/core/FileUtils.h>
 #include <orv/core/Logging.h>
-#include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/content/RawCell.h>
@@ -142,21 +141,6 @@ QJsonObject withoutStamps(QJsonObject document)
 bool compareWorkflows(const QJsonObject &a, const QJsonObject &b, bool strict)
 {
     return strict ? a == b : withoutStamps(a) == withoutStamps(b);
-}
-
-bool endsWithExpectedExtension(const QString &extension, const QList<BaseItemType> &documents)
-{
-    return PropertyEditorUtils::resultProjectExtensionsFromWorkflow(documents).contains(extension,
-                                                                                        Qt::CaseInsensitive);
-}
-
-QString adjustProjectName(const QString &name, const QList<BaseItemType> &documents)
-{
-    QStringList parts = name.split(QLatin1Char('.'));
-    if (!endsWithExpectedExtension(parts.constLast(), documents))
-        return name;
-    parts.removeLast();
-    return parts.join(QLatin1Char('.'));
 }
 
 } // namespace PropertyEditorJsonUtils
