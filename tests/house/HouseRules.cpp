@@ -50,6 +50,23 @@ QString publicName(const QString &file)
     return include < 0 || !file.endsWith(".h"_L1) ? QString() : file.mid(include + 9);
 }
 
+QStringList captures(const QRegularExpression &expression, const QString &text)
+{
+    QStringList found;
+    QRegularExpressionMatchIterator matches = expression.globalMatch(text);
+    while (matches.hasNext())
+        found.append(matches.next().captured(1));
+    return found;
+}
+
+/// Sources and private headers of a module may lie in folders of these names, which need no words of their
+/// own.
+bool isPartOfAModule(const QString &folder)
+{
+    const QString name = folder.section(u'/', -1);
+    return name == "src"_L1 || name == "internal"_L1;
+}
+
 } // namespace
 
 HouseRules::HouseRules(const QString &root)
@@ -138,6 +155,57 @@ QStringList HouseRules::upwardIncludes() const
     return violations;
 }
 
+QStringList HouseRules::upwardCalls() const
+{
+    QStringList violations;
+    for (const char *name : kFacades) {
+        const QString facade = QString::fromLatin1(name);
+        const QHash<QString, const Floor *> bodies = floorsOfBodies(facade);
+        const QRegularExpression call(uR"(\b%1::(\w+))"_s.arg(facade));
+        for (const QString &file : m_files) {
+            const Floor *from = floorOf(file);
+            QRegularExpressionMatchIterator calls = call.globalMatch(read(file));
+            while (from && calls.hasNext()) {
+                const QString function = calls.next().captured(1);
+                const Floor *to = bodies.value(function);
+                if (to && to->height > from->height)
+                    violations.append(u"%1 (%2) calls %3::%4, whose body lies above it (%5)"_s.arg(
+                        file, named(from), facade, function, named(to)));
+            }
+        }
+    }
+    violations.removeDuplicates();
+    return violations;
+}
+
+QHash<QString, const Floor *> HouseRules::floorsOfBodies(const QString &facade) const
+{
+    // What begins a line is no statement; a body is a member of the class, or stands in the namespace.
+    const QRegularExpression member(uR"(^(?![\s/#])[^\n;=]*\b%1::(\w+)\()"_s.arg(facade),
+                                    QRegularExpression::MultilineOption);
+    const QRegularExpression space(uR"(^namespace (?:\w+::)*%1 \{$(.*?)^\} // namespace)"_s.arg(facade),
+                                   QRegularExpression::MultilineOption |
+                                       QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression function(uR"(^[A-Za-z][^\n;=]*?\b(\w+)\()"_s,
+                                             QRegularExpression::MultilineOption);
+    QHash<QString, const Floor *> floors;
+    for (const QString &file : m_files) {
+        const Floor *floor = floorOf(file);
+        if (!floor || !file.endsWith(".cpp"_L1))
+            continue;
+        const QString text = read(file);
+        QStringList found = captures(member, text);
+        for (const QString &body : captures(space, text))
+            found += captures(function, body);
+        for (const QString &name : std::as_const(found)) {
+            const Floor *&lowest = floors[name];
+            if (!lowest || floor->height < lowest->height)
+                lowest = floor;
+        }
+    }
+    return floors;
+}
+
 QStringList HouseRules::headersWithoutPragmaOnce() const
 {
     static const QRegularExpression pragma(u"^#pragma once$"_s, QRegularExpression::MultilineOption);
@@ -204,5 +272,25 @@ QStringList HouseRules::filesThatAreTooLong() const
     }
     for (auto it = reasons.constBegin(); it != reasons.constEnd(); ++it)
         violations.append(it.key() + u" doesn't exist, and needs no reason"_s);
+    return violations;
+}
+
+QStringList HouseRules::foldersWithoutReadme() const
+{
+    QSet<QString> folders;
+    for (const QString &file : m_files) {
+        QString folder = QFileInfo(file).path();
+        if (folder.contains("/include"_L1))
+            folder = folder.first(folder.indexOf("/include"_L1));
+        while (isPartOfAModule(folder))
+            folder = QFileInfo(folder).path();
+        folders.insert(folder);
+    }
+    QStringList violations;
+    for (const QString &folder : std::as_const(folders)) {
+        if (QFileInfo(QDir(m_root).filePath(folder + u"/README.md"_s)).size() == 0)
+            violations.append(folder + u" has no README.md that tells what it holds and may use"_s);
+    }
+    violations.sort();
     return violations;
 }

@@ -8,6 +8,8 @@
 #include <QString>
 #include <QStringList>
 
+struct Floor;
+
 /// The rules of the source tree that no compiler checks. Each rule answers what breaks it, one text for each
 /// place; the root is the project's folder, or an invented one in the tests of the rules.
 class HouseRules
@@ -19,6 +21,9 @@ public:
     /// files that stand on no floor.
     [[nodiscard]] QStringList upwardIncludes() const;
 
+    /// Calls of a facade's functions from below the floor on which their bodies stand.
+    [[nodiscard]] QStringList upwardCalls() const;
+
     [[nodiscard]] QStringList headersWithoutPragmaOnce() const;
 
     /// Sources and public headers that no CMakeLists.txt names, and private headers that nobody includes.
@@ -26,6 +31,9 @@ public:
 
     /// Sources of more than 600 lines, but for those that have a reason, and reasons that aren't needed.
     [[nodiscard]] QStringList filesThatAreTooLong() const;
+
+    /// Folders with sources that don't say in a README what they hold.
+    [[nodiscard]] QStringList foldersWithoutReadme() const;
 
     static constexpr int kMaxLines = 600;
 
@@ -38,6 +46,8 @@ private:
     };
 
     void indexPublicHeaders();
+    /// By the names of a facade's functions, the lowest of those that an overload stands on.
+    [[nodiscard]] QHash<QString, const Floor *> floorsOfBodies(const QString &facade) const;
     [[nodiscard]] QString resolved(const QString &file, const QString &included) const;
     [[nodiscard]] QList<Include> includes() const;
     [[nodiscard]] bool isNamedInCMake(const QString &file) const;

@@ -21,53 +21,25 @@ inline constexpr std::array kFloors = {
     Floor{"common/core_ms/", 20, "core_ms"},
     Floor{"common/project/", 30, "project"},
     Floor{"common/remote/", 30, "remote"},
-    // The catalogue and its helpers lie at the top of the product's folders; content is made of them.
-    Floor{"propertyeditor/include/orv/propertyeditor/", 31, "catalogue"},
-    Floor{"propertyeditor/src/", 31, "catalogue"},
-    // The value form of a document, the functions on raw cells and the stamp stand beside the catalogue: rules
-    // and readers ask them, and they ask the catalogue what a name means.
-    Floor{"propertyeditor/include/orv/propertyeditor/content/BaseItemType", 31, "catalogue"},
-    Floor{"propertyeditor/src/content/BaseItemType", 31, "catalogue"},
-    Floor{"propertyeditor/include/orv/propertyeditor/content/CellPlace", 31, "catalogue"},
-    Floor{"propertyeditor/src/content/CellPlace", 31, "catalogue"},
-    Floor{"propertyeditor/include/orv/propertyeditor/content/ContentOptions.h", 31, "catalogue"},
-    Floor{"propertyeditor/include/orv/propertyeditor/content/LoadContext", 31, "catalogue"},
-    Floor{"propertyeditor/src/content/LoadContext", 31, "catalogue"},
-    Floor{"propertyeditor/include/orv/propertyeditor/content/PropertyEditorContent", 31, "catalogue"},
-    Floor{"propertyeditor/src/content/PropertyEditorContent", 31, "catalogue"},
-    Floor{"propertyeditor/include/orv/propertyeditor/content/PropertyEditorJsonUtils", 31, "catalogue"},
-    Floor{"propertyeditor/src/content/PropertyEditorJsonUtils", 31, "catalogue"},
-    Floor{"propertyeditor/include/orv/propertyeditor/content/PropertyEditorStringConstants", 31, "catalogue"},
-    Floor{"propertyeditor/include/orv/propertyeditor/content/RawCell", 31, "catalogue"},
-    Floor{"propertyeditor/src/content/RawCell", 31, "catalogue"},
-    Floor{"propertyeditor/src/content/StampedCells", 31, "catalogue"},
-    Floor{"propertyeditor/include/orv/propertyeditor/workflow/WflwMetaData", 31, "catalogue"},
-    Floor{"propertyeditor/src/workflow/WflwMetaData", 31, "catalogue"},
-    Floor{"propertyeditor/include/orv/propertyeditor/workflow/WorkflowType", 31, "catalogue"},
-    Floor{"propertyeditor/src/workflow/WorkflowType", 31, "catalogue"},
-    Floor{"propertyeditor/include/orv/propertyeditor/content/", 32, "content"},
-    Floor{"propertyeditor/include/orv/propertyeditor/PropertiesGetter", 32, "content"},
-    Floor{"propertyeditor/src/PropertiesGetter", 32, "content"},
-    Floor{"propertyeditor/src/content/", 32, "content"},
-    Floor{"propertyeditor/include/orv/propertyeditor/validators/", 33, "validators"},
-    Floor{"propertyeditor/src/validators/", 33, "validators"},
-    Floor{"propertyeditor/include/orv/propertyeditor/workflow/", 33, "workflow"},
-    Floor{"propertyeditor/src/workflow/", 33, "workflow"},
-    Floor{"propertyeditor/include/orv/propertyeditor/engine/", 33, "engine"},
-    Floor{"propertyeditor/src/engine/", 33, "engine"},
+    Floor{"propertyeditor/src/document/", 31, "document"},
+    Floor{"propertyeditor/src/catalogue/", 32, "catalogue"},
+    Floor{"propertyeditor/src/content/", 33, "content"},
+    Floor{"propertyeditor/src/workflow/", 34, "workflow"},
+    Floor{"propertyeditor/src/validators/", 35, "validators"},
+    Floor{"propertyeditor/src/engine/", 35, "engine"},
     Floor{"common/widgets/", 40, "widgets"},
-    Floor{"propertyeditor/include/orv/propertyeditor/grid/", 50, "grid"},
-    Floor{"propertyeditor/src/grid/", 50, "grid"},
-    Floor{"propertyeditor/include/orv/propertyeditor/editors/", 50, "editors"},
+    // Editors of structured values embed grid items in their dialogs, and the grid stands on the other editors.
     Floor{"propertyeditor/src/editors/", 50, "editors"},
-    // Windows lie among the catalogue's sources: each new one needs its row here.
-    Floor{"propertyeditor/include/orv/propertyeditor/PropertyEditorWindow", 51, "windows"},
-    Floor{"propertyeditor/src/PropertyEditorWindow", 51, "windows"},
-    Floor{"propertyeditor/include/orv/propertyeditor/PropertyEditorDesktopWindow", 51, "windows"},
-    Floor{"propertyeditor/src/PropertyEditorDesktopWindow", 51, "windows"},
+    Floor{"propertyeditor/src/grid/", 51, "grid"},
+    Floor{"propertyeditor/src/editors/objects/", 52, "objects"},
+    Floor{"propertyeditor/src/window/", 53, "window"},
     Floor{"apps/", 60, "apps"},
 };
 // clang-format on
+
+/// Names that gather functions of several floors: declared where the lowest of them stands, their bodies each
+/// where what they need stands. No include tells that a call of one leads upwards.
+inline constexpr std::array kFacades = {"PropertyEditorUtils", "PropertyEditorJsonUtils"};
 
 struct LongFile
 {

@@ -31,6 +31,8 @@ class TestHouse : public OrvTest
 private Q_SLOTS:
     void arrowsPointDownwards() { verifyNone(ofTheProject().upwardIncludes()); }
     void headersAreIncludedOnce() { verifyNone(ofTheProject().headersWithoutPragmaOnce()); }
+    void callsPointDownwards() { verifyNone(ofTheProject().upwardCalls()); }
+    void foldersTellWhatTheyHold() { verifyNone(ofTheProject().foldersWithoutReadme()); }
     void allSourcesAreBuilt() { verifyNone(ofTheProject().filesThatAreNotBuilt()); }
     void filesAreShort() { verifyNone(ofTheProject().filesThatAreTooLong()); }
 
@@ -39,6 +41,9 @@ private Q_SLOTS:
     void wrongIncludesAreFound();
     void allowedIncludesPass_data();
     void allowedIncludesPass();
+    void anUpwardCallOfAFacadeIsFound_data();
+    void anUpwardCallOfAFacadeIsFound();
+    void aFolderWithoutReadmeIsFound();
     void aModuleWithoutAFloorIsFound();
     void aHeaderWithoutPragmaIsFound();
     void whatIsNotBuiltIsFound();
@@ -84,14 +89,14 @@ void TestHouse::wrongIncludesAreFound_data()
         u"(workflow)"_s);
     row("content takes a validator", content, "#include <orv/propertyeditor/validators/V.h>",
         u"(validators)"_s);
-    row("the catalogue takes content", u"propertyeditor/src/A.cpp"_s,
+    row("the catalogue takes content", u"propertyeditor/src/catalogue/A.cpp"_s,
         "#include <orv/propertyeditor/content/C.h>", u"(content)"_s);
     row("a validator takes the grid", u"propertyeditor/src/validators/A.cpp"_s, "#include \"../grid/G.h\"",
         u"(grid)"_s);
     row("the grid takes a window", u"propertyeditor/src/grid/A.cpp"_s,
-        "#include \"../PropertyEditorWindow.h\"", u"(windows)"_s);
-    row("a module takes the tool", u"propertyeditor/src/A.cpp"_s, "#include \"../../apps/tool/T.h\"",
-        u"(apps)"_s);
+        "#include \"../window/PropertyEditorWindow.h\"", u"(window)"_s);
+    row("a module takes the tool", u"propertyeditor/src/content/A.cpp"_s,
+        "#include \"../../../apps/tool/T.h\"", u"(apps)"_s);
     row("a circle of one floor", u"common/table/include/orv/table/T.h"_s, "#include <orv/resources/R.h>",
         u"include each other"_s);
 }
@@ -104,11 +109,11 @@ void TestHouse::wrongIncludesAreFound()
     QFETCH(QString, violation);
     plant(root, {{kSamples, ""},
                  {u"common/resources/include/orv/resources/R.h"_s, "#include <orv/table/T.h>"},
-                 {u"propertyeditor/include/orv/propertyeditor/workflow/Chain.h"_s, ""},
-                 {u"propertyeditor/include/orv/propertyeditor/validators/V.h"_s, ""},
-                 {u"propertyeditor/include/orv/propertyeditor/content/C.h"_s, ""},
+                 {u"propertyeditor/src/workflow/include/orv/propertyeditor/workflow/Chain.h"_s, ""},
+                 {u"propertyeditor/src/validators/include/orv/propertyeditor/validators/V.h"_s, ""},
+                 {u"propertyeditor/src/content/include/orv/propertyeditor/content/C.h"_s, ""},
                  {u"propertyeditor/src/grid/G.h"_s, ""},
-                 {u"propertyeditor/src/PropertyEditorWindow.h"_s, ""},
+                 {u"propertyeditor/src/window/PropertyEditorWindow.h"_s, ""},
                  {u"apps/tool/T.h"_s, ""},
                  {file, text}});
     const QStringList violations = HouseRules(root.path()).upwardIncludes();
@@ -139,9 +144,64 @@ void TestHouse::allowedIncludesPass()
     QFETCH(QByteArray, text);
     plant(root, {{kCore, ""},
                  {kSamples, ""},
-                 {u"propertyeditor/include/orv/propertyeditor/workflow/WflwMetaData.h"_s, ""},
+                 {u"propertyeditor/src/document/include/orv/propertyeditor/workflow/WflwMetaData.h"_s, ""},
                  {file, text}});
     verifyNone(HouseRules(root.path()).upwardIncludes());
+}
+
+void TestHouse::anUpwardCallOfAFacadeIsFound_data()
+{
+    QTest::addColumn<QString>("caller");
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QStringList>("violations");
+
+    const QString content = u"propertyeditor/src/content/C.cpp"_s;
+    const QString engine = u"propertyeditor/src/engine/E.cpp"_s;
+    QTest::newRow("a member") << content << "void f() { PropertyEditorUtils::samples(); }"_ba
+                              << QStringList(
+                                     content +
+                                     u" (content) calls PropertyEditorUtils::samples, whose body lies "
+                                     u"above it (workflow)"_s);
+    QTest::newRow("a function of a namespace")
+        << content << "    return PropertyEditorJsonUtils::attempted(name);"_ba
+        << QStringList(content +
+                       u" (content) calls PropertyEditorJsonUtils::attempted, whose body lies above "
+                       u"it (workflow)"_s);
+    QTest::newRow("from above") << engine << "int n = PropertyEditorUtils::samples();"_ba << QStringList();
+    QTest::newRow("of what lies below")
+        << content << "int n = PropertyEditorUtils::cores();"_ba << QStringList();
+}
+
+void TestHouse::anUpwardCallOfAFacadeIsFound()
+{
+    const QTemporaryDir root;
+    QFETCH(QString, caller);
+    QFETCH(QByteArray, text);
+    QFETCH(QStringList, violations);
+    plant(root, {{u"propertyeditor/src/catalogue/Low.cpp"_s,
+                  "int PropertyEditorUtils::cores()\n{\n    return 1;\n}\n"},
+                 {u"propertyeditor/src/workflow/High.cpp"_s,
+                  "int\nPropertyEditorUtils::samples()\n{\n}\n\n"
+                  "namespace orv::PropertyEditorJsonUtils {\n\nbool attempted(const QString &name)\n{\n}\n\n"
+                  "} // namespace orv::PropertyEditorJsonUtils\n"},
+                 {caller, text}});
+    QCOMPARE(HouseRules(root.path()).upwardCalls(), violations);
+}
+
+void TestHouse::aFolderWithoutReadmeIsFound()
+{
+    const QTemporaryDir root;
+    plant(root, {{kCore, ""},
+                 {u"common/core/src/internal/A.cpp"_s, ""},
+                 {u"common/core/README.md"_s, "# core"},
+                 {u"apps/tool/README.md"_s, ""},
+                 {u"apps/tool/main.cpp"_s, ""},
+                 {u"propertyeditor/src/workflow/upgrade/A.cpp"_s, ""}});
+    const auto violation = [](const QString &folder) {
+        return folder + u" has no README.md that tells what it holds and may use"_s;
+    };
+    QCOMPARE(HouseRules(root.path()).foldersWithoutReadme(),
+             QStringList({violation(u"apps/tool"_s), violation(u"propertyeditor/src/workflow/upgrade"_s)}));
 }
 
 void TestHouse::aModuleWithoutAFloorIsFound()
