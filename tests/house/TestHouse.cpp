@@ -157,7 +157,7 @@ void TestHouse::anUpwardCallOfAFacadeIsFound_data()
 
     const QString content = u"propertyeditor/src/content/C.cpp"_s;
     const QString engine = u"propertyeditor/src/engine/E.cpp"_s;
-    QTest::newRow("a member") << content << "void f() { PropertyEditorUtils::samples(); }"_ba
+    QTest::newRow("a member") << content << "    PropertyEditorUtils::samples();"_ba
                               << QStringList(
                                      content +
                                      u" (content) calls PropertyEditorUtils::samples, whose body lies "
