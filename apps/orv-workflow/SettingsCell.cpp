@@ -20,11 +20,10 @@ std::variant<SettingsCell, Failure> settingsOf(const FoundCell &found)
     }
     LossCollector losses;
     SettingsCell settings{std::make_unique<KeyValueItem>(type), {}};
-    settings.item->setLoadContext(
-        LoadContext(&losses, QStringLiteral("/tabs/%1/cells/%2").arg(found.place.tab).arg(found.place.cell)));
-    if (const Error error = settings.item->assignFromJson(found.cell, {}); error.hasError())
+    const LoadContext context(&losses,
+                              QStringLiteral("/tabs/%1/cells/%2").arg(found.place.tab).arg(found.place.cell));
+    if (const Error error = settings.item->load(found.cell, {}, context); error.hasError())
         return failureFrom(error, BadInput);
-    settings.item->setLoadContext({});
     settings.lost = losses.losses();
     return settings;
 }

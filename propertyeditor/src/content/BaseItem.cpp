@@ -61,6 +61,13 @@ Error BaseItem::assignFromJson(const QJsonObject &json, ValidationOptions option
     return Error::NoError;
 }
 
+Error BaseItem::load(const QJsonObject &json, ValidationOptions options, const LoadContext &context)
+{
+    Q_UNUSED(context)
+    ORV_RETURN_IF_ERROR(assignFromJson(json, options));
+    return Error::NoError;
+}
+
 void BaseItem::setBaseUrl(const QUrl &url)
 {
     Q_UNUSED(url)

@@ -240,6 +240,11 @@ Error BaseTableItem::assignCommon(const QJsonObject &json, ValidationOptions opt
 
 Error BaseTableItem::assignFromJson(const QJsonObject &json, ValidationOptions options)
 {
+    return load(json, options, {});
+}
+
+Error BaseTableItem::load(const QJsonObject &json, ValidationOptions options, const LoadContext &context)
+{
     ORV_RETURN_IF_ERROR(assignCommon(json, options));
     Result<QJsonObject> entry = mainEntry(json);
     if (entry.hasError())
@@ -248,12 +253,11 @@ Error BaseTableItem::assignFromJson(const QJsonObject &json, ValidationOptions o
     m_root = PropertyEditorJsonUtils::propValueToRowNode(*entry);
     loadCustomColumns(json);
 
-    if (loadContext().isObserved()) {
+    if (context.isObserved()) {
         QList<PropertyId> tables = m_further.tables;
         if (propertyId() == PropertyId::Samples)
             tables.append(PropertyId::CustomColumns);
-        reportTableLosses(loadContext(), json,
-                          {propertyId(), tables, m_further.objects, m_further.valueArrays});
+        reportTableLosses(context, json, {propertyId(), tables, m_further.objects, m_further.valueArrays});
     }
     Q_EMIT reset();
     return Error::NoError;

@@ -1,3 +1,5 @@
+#include "OwningList.h"
+
 #include <orv/core/FileUtils.h>
 #include <orv/core/JsonUtils.h>
 #include <orv/core/Logging.h>
@@ -16,7 +18,6 @@
 
 #include <array>
 #include <new>
-#include <vector>
 
 namespace orv::PropertyEditor {
 
@@ -25,15 +26,12 @@ using namespace PropertyEditorStringConstants;
 class Content::ContentData : public QSharedData
 {
 public:
-    std::vector<std::unique_ptr<ItemGroup>> groups;
+    OwningList<ItemGroup> groups;
     QJsonObject metadata;
     QString fileName;
     QUrl baseUrl;
-    QList<ExtendedMetadataSink *> sinks;
     ExtendedMetadataInfo extendedMetadata;
     LossObserver *lossObserver = nullptr;
-
-    [[nodiscard]] bool hasIndex(int index) const { return index >= 0 && index < int(groups.size()); }
 };
 
 namespace {
@@ -141,7 +139,6 @@ Error Content::assignFromJson(const QJsonObject &json, ValidationOptions options
     reportUnknownMembers(json, context);
     ORV_RETURN_IF_ERROR(loadExtendedMetadata(json));
     ORV_RETURN_IF_ERROR(loadTabs(json, options));
-    rebuildSinks();
     Q_EMIT reset();
     return Error::NoError;
 }
@@ -168,7 +165,7 @@ Error Content::loadTabs(const QJsonObject &json, ValidationOptions options)
 {
     const QJsonArray tabs = json.value(TABS_KEY).toArray();
     const LoadContext context = LoadContext(d->lossObserver).member(TABS_KEY);
-    d->groups.reserve(size_t(tabs.size()));
+    d->groups.reserve(tabs.size());
     for (qsizetype i = 0; i < tabs.size(); ++i) {
         auto group = std::make_unique<ItemGroup>();
         const QJsonObject tab = tabs.at(i).toObject();
@@ -181,16 +178,17 @@ Error Content::loadTabs(const QJsonObject &json, ValidationOptions options)
     return Error::NoError;
 }
 
-void Content::rebuildSinks()
+QList<ExtendedMetadataSink *> Content::metadataSinks() const
 {
-    d->sinks.clear();
+    QList<ExtendedMetadataSink *> sinks;
     for (const BaseItemType type : {BaseItemType::Samples, BaseItemType::IntactProteins}) {
         const QList<BaseItem *> items = findAllItems(type);
         if (items.isEmpty())
             continue;
         if (auto *sink = dynamic_cast<ExtendedMetadataSink *>(items.first()))
-            d->sinks.append(sink);
+            sinks.append(sink);
     }
+    return sinks;
 }
 
 void Content::setMetadataCache(const ExtendedMetadataInfo::MetadataCache &cache)
@@ -205,10 +203,8 @@ void Content::setMetadataMappingConnections(const QList<TalvaneMetadataMappingCo
 
 void Content::updateMetadataContent()
 {
-    // Tables may have come and gone since the load.
-    rebuildSinks();
     updateMetadataContent(d->extendedMetadata.metadataMappingConnections(),
-                          generateMetadataMappings(d->extendedMetadata), d->sinks);
+                          generateMetadataMappings(d->extendedMetadata), metadataSinks());
 }
 
 void Content::assignMetaDataFromFile(const QString &fileName)
@@ -255,37 +251,32 @@ bool Content::save(const QString &fileName) const
 void Content::clear()
 {
     d->groups.clear();
-    d->sinks.clear();
     d->baseUrl.clear();
 }
 
 int Content::count() const
 {
-    return int(d->groups.size());
+    return d->groups.count();
 }
 
 ItemGroup *Content::group(int index) const
 {
-    if (!d->hasIndex(index)) {
+    if (!d->groups.hasIndex(index)) {
         qCWarning(propertyEditorLog) << "Group index is out of bounds";
         return nullptr;
     }
-    return d->groups[size_t(index)].get();
+    return d->groups.at(index);
 }
 
 ItemGroup *Content::group(const QString &name) const
 {
     const int index = indexOf(name);
-    return index < 0 ? nullptr : d->groups[size_t(index)].get();
+    return index < 0 ? nullptr : d->groups.at(index);
 }
 
 QList<ItemGroup *> Content::groups() const
 {
-    QList<ItemGroup *> groups;
-    groups.reserve(count());
-    for (const auto &group : d->groups)
-        groups.append(group.get());
-    return groups;
+    return d->groups.pointers();
 }
 
 QStringList Content::groupNames() const
@@ -324,12 +315,11 @@ bool Content::addGroup(const QString &name)
 
 bool Content::removeGroup(int index)
 {
-    if (!d->hasIndex(index)) {
+    if (!d->groups.hasIndex(index)) {
         qCWarning(propertyEditorLog) << "Group index is out of bounds";
         return false;
     }
-    const std::unique_ptr<ItemGroup> removed = std::move(d->groups[size_t(index)]);
-    d->groups.erase(d->groups.begin() + index);
+    const std::unique_ptr<ItemGroup> removed = d->groups.take(index);
     if (!removed) {
         qCWarning(propertyEditorLog) << "The group for deletion is null";
         return false;
@@ -349,9 +339,8 @@ bool Content::removeGroup(const QString &name)
 
 bool Content::removeGroup(ItemGroup *group)
 {
-    const auto found = std::find_if(d->groups.begin(), d->groups.end(),
-                                    [group](const auto &candidate) { return candidate.get() == group; });
-    return found != d->groups.end() && removeGroup(int(found - d->groups.begin()));
+    const int index = d->groups.indexOf(group);
+    return index >= 0 && removeGroup(index);
 }
 
 QString Content::fileName() const
@@ -469,17 +458,12 @@ void Content::log(const QString &text) const
 
 int Content::indexOf(const QString &name) const
 {
-    for (size_t i = 0; i < d->groups.size(); ++i) {
-        if (d->groups[i] && d->groups[i]->name() == name)
-            return int(i);
-    }
-    return -1;
+    return d->groups.find([&name](const ItemGroup &group) { return group.name() == name; });
 }
 
 void Content::adoptNewGroup(std::unique_ptr<ItemGroup> group)
 {
-    ItemGroup *const adopted = group.get();
-    d->groups.push_back(std::move(group));
+    ItemGroup *const adopted = d->groups.append(std::move(group));
     Q_EMIT groupAdded(adopted);
     Q_EMIT groupCountChanged(count());
 }

@@ -60,9 +60,10 @@ PropertyId IntactProteinsTableItem::propertyId() const
     return PropertyId::IntactProteins;
 }
 
-Error IntactProteinsTableItem::assignFromJson(const QJsonObject &json, ValidationOptions options)
+Error IntactProteinsTableItem::load(const QJsonObject &json, ValidationOptions options,
+                                    const LoadContext &context)
 {
-    ORV_RETURN_IF_ERROR(BaseTableItem::assignFromJson(json, options));
+    ORV_RETURN_IF_ERROR(BaseTableItem::load(json, options, context));
     markOldChainsAsCustom();
     return Error::NoError;
 }

@@ -1,3 +1,5 @@
+#include "OwningList.h"
+
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/content/ItemGroup.h>
@@ -19,10 +21,8 @@ using namespace PropertyEditorStringConstants;
 class ItemGroup::Private : public QSharedData
 {
 public:
-    std::vector<std::unique_ptr<ItemSubGroup>> subGroups;
+    OwningList<ItemSubGroup> subGroups;
     QString name;
-
-    [[nodiscard]] bool hasIndex(int index) const { return index >= 0 && index < int(subGroups.size()); }
 };
 
 namespace {
@@ -110,7 +110,7 @@ Error ItemGroup::assignFromJson(const QJsonObject &json, ValidationOptions optio
     }
 
     const std::vector<ColumnCells> columns = splitIntoColumns(cells, columnNames.size());
-    d->subGroups.reserve(columns.size());
+    d->subGroups.reserve(qsizetype(columns.size()));
     for (size_t c = 0; c < columns.size(); ++c) {
         std::unique_ptr<ItemSubGroup> subGroup(new (std::nothrow) ItemSubGroup);
         if (!subGroup)
@@ -133,7 +133,7 @@ QJsonObject ItemGroup::toJson(PropertyConversionFlag flag) const
 {
     QJsonArray names;
     std::vector<QJsonArray> columns;
-    columns.reserve(d->subGroups.size());
+    columns.reserve(size_t(count()));
     for (const auto &subGroup : d->subGroups) {
         names.append(subGroup->name());
         columns.push_back(subGroup->toJson(flag));
@@ -181,35 +181,26 @@ bool ItemGroup::setName(const QString &name)
 
 int ItemGroup::count() const
 {
-    return int(d->subGroups.size());
+    return d->subGroups.count();
 }
 
 ItemSubGroup *ItemGroup::subGroup(int index) const
 {
-    if (!d->hasIndex(index)) {
+    if (!d->subGroups.hasIndex(index)) {
         qCWarning(propertyEditorLog) << "SubGroup index is out of bounds";
         return nullptr;
     }
-    return d->subGroups[size_t(index)].get();
+    return d->subGroups.at(index);
 }
 
 QList<ItemSubGroup *> ItemGroup::subGroups() const
 {
-    QList<ItemSubGroup *> subGroups;
-    subGroups.reserve(count());
-    for (const auto &subGroup : d->subGroups)
-        subGroups.append(subGroup.get());
-    return subGroups;
+    return d->subGroups.pointers();
 }
 
 QList<ItemSubGroup *> ItemGroup::subGroups(BaseItemType type) const
 {
-    QList<ItemSubGroup *> found;
-    for (const auto &subGroup : d->subGroups) {
-        if (subGroup && subGroup->type() == type)
-            found.append(subGroup.get());
-    }
-    return found;
+    return d->subGroups.findAll([type](const ItemSubGroup &subGroup) { return subGroup.type() == type; });
 }
 
 QStringList ItemGroup::subGroupNames() const
@@ -258,12 +249,11 @@ bool ItemGroup::addSubGroup(const QString &name, BaseItemType type)
 
 bool ItemGroup::removeSubGroup(int index)
 {
-    if (!d->hasIndex(index)) {
+    if (!d->subGroups.hasIndex(index)) {
         qCWarning(propertyEditorLog) << "SubGroup index is out of bounds";
         return false;
     }
-    const std::unique_ptr<ItemSubGroup> removed = std::move(d->subGroups[size_t(index)]);
-    d->subGroups.erase(d->subGroups.begin() + index);
+    const std::unique_ptr<ItemSubGroup> removed = d->subGroups.take(index);
     if (!removed) {
         qCWarning(propertyEditorLog) << "The subgroup for deletion is null";
         return false;
@@ -283,10 +273,8 @@ bool ItemGroup::removeSubGroup(const QString &name)
 
 bool ItemGroup::removeSubGroup(ItemSubGroup *subGroup)
 {
-    const auto found =
-        std::find_if(d->subGroups.begin(), d->subGroups.end(),
-                     [subGroup](const auto &candidate) { return candidate.get() == subGroup; });
-    return found != d->subGroups.end() && removeSubGroup(int(found - d->subGroups.begin()));
+    const int index = d->subGroups.indexOf(subGroup);
+    return index >= 0 && removeSubGroup(index);
 }
 
 void ItemGroup::clear()
@@ -296,18 +284,13 @@ void ItemGroup::clear()
 
 int ItemGroup::indexOf(const QString &name) const
 {
-    for (size_t i = 0; i < d->subGroups.size(); ++i) {
-        if (d->subGroups[i] && d->subGroups[i]->name() == name)
-            return int(i);
-    }
-    return -1;
+    return d->subGroups.find([&name](const ItemSubGroup &subGroup) { return subGroup.name() == name; });
 }
 
 void ItemGroup::adoptNewSubGroup(std::unique_ptr<ItemSubGroup> subGroup, BaseItemType type)
 {
-    ItemSubGroup *const adopted = subGroup.get();
-    adopted->setType(type);
-    d->subGroups.push_back(std::move(subGroup));
+    subGroup->setType(type);
+    ItemSubGroup *const adopted = d->subGroups.append(std::move(subGroup));
     Q_EMIT subGroupAdded(adopted);
     Q_EMIT subGroupCountChanged(count());
 }

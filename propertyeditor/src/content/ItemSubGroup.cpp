@@ -1,4 +1,5 @@
 #include "ItemCreators.h"
+#include "OwningList.h"
 
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/BaseItem.h>
@@ -9,7 +10,7 @@
 #include <QCoreApplication>
 #include <QJsonObject>
 
-#include <vector>
+#include <memory>
 
 namespace orv::PropertyEditor {
 
@@ -18,11 +19,9 @@ using namespace PropertyEditorStringConstants;
 class ItemSubGroup::Private : public QSharedData
 {
 public:
-    std::vector<std::unique_ptr<BaseItem>> items;
+    OwningList<BaseItem> items;
     QString name;
     BaseItemType type = BaseItemType::Unknown;
-
-    [[nodiscard]] bool hasIndex(int index) const { return index >= 0 && index < int(items.size()); }
 };
 
 ItemSubGroup::ItemSubGroup()
@@ -48,7 +47,7 @@ Error ItemSubGroup::assignFromJson(const QJsonArray &cells, const QString &name,
 {
     clear();
     d->name = name;
-    d->items.reserve(size_t(cells.size()));
+    d->items.reserve(cells.size());
     for (qsizetype i = 0; i < cells.size(); ++i) {
         const QJsonObject cell = cells.at(i).toObject();
         if (cell.isEmpty())
@@ -102,35 +101,26 @@ void ItemSubGroup::setType(BaseItemType type)
 
 int ItemSubGroup::count() const
 {
-    return int(d->items.size());
+    return d->items.count();
 }
 
 QList<BaseItem *> ItemSubGroup::items() const
 {
-    QList<BaseItem *> items;
-    items.reserve(count());
-    for (const auto &item : d->items)
-        items.append(item.get());
-    return items;
+    return d->items.pointers();
 }
 
 BaseItem *ItemSubGroup::item(int index) const
 {
-    if (!d->hasIndex(index)) {
+    if (!d->items.hasIndex(index)) {
         qCWarning(propertyEditorLog) << "Index is out of bounds";
         return nullptr;
     }
-    return d->items[size_t(index)].get();
+    return d->items.at(index);
 }
 
 QList<BaseItem *> ItemSubGroup::findItems(BaseItemType type) const
 {
-    QList<BaseItem *> found;
-    for (const auto &item : d->items) {
-        if (item && item->type() == type)
-            found.append(item.get());
-    }
-    return found;
+    return d->items.findAll([type](const BaseItem &item) { return item.type() == type; });
 }
 
 QVariant ItemSubGroup::firstValueOf(const QString &key) const
@@ -153,12 +143,11 @@ bool ItemSubGroup::addItem(BaseItemType type)
 
 bool ItemSubGroup::removeItem(int index)
 {
-    if (!d->hasIndex(index)) {
+    if (!d->items.hasIndex(index)) {
         qCWarning(propertyEditorLog) << "Index is out of bounds";
         return false;
     }
-    const std::unique_ptr<BaseItem> removed = std::move(d->items[size_t(index)]);
-    d->items.erase(d->items.begin() + index);
+    const std::unique_ptr<BaseItem> removed = d->items.take(index);
     if (!removed) {
         qCWarning(propertyEditorLog) << "The item for deletion is null";
         return false;
@@ -170,9 +159,8 @@ bool ItemSubGroup::removeItem(int index)
 
 bool ItemSubGroup::removeItem(BaseItem *item)
 {
-    const auto found = std::find_if(d->items.begin(), d->items.end(),
-                                    [item](const auto &candidate) { return candidate.get() == item; });
-    return found != d->items.end() && removeItem(int(found - d->items.begin()));
+    const int index = d->items.indexOf(item);
+    return index >= 0 && removeItem(index);
 }
 
 void ItemSubGroup::clear()
@@ -190,8 +178,7 @@ std::unique_ptr<BaseItem> ItemSubGroup::allocateNewItem(BaseItemType type)
 
 void ItemSubGroup::adoptNewItem(std::unique_ptr<BaseItem> item)
 {
-    BaseItem *const adopted = item.get();
-    d->items.push_back(std::move(item));
+    BaseItem *const adopted = d->items.append(std::move(item));
     Q_EMIT itemAdded(adopted);
 }
 
@@ -207,8 +194,7 @@ Result<BaseItem *> ItemSubGroup::createItemFromJson(const QJsonObject &json, Val
     if (!item)
         return Error(ErrorCode::InvalidContent, tr("Can't create item for \"%1\" type.").arg(typeText));
 
-    item->setLoadContext(context);
-    ORV_RETURN_IF_ERROR(item->assignFromJson(json, options));
+    ORV_RETURN_IF_ERROR(item->load(json, options, context));
     BaseItem *const adopted = item.get();
     adoptNewItem(std::move(item));
     return adopted;

@@ -75,6 +75,11 @@ QJsonObject KeyValueItem::toJsonWithAbsoluteGlycans() const
 
 Error KeyValueItem::assignFromJson(const QJsonObject &json, ValidationOptions options)
 {
+    return load(json, options, {});
+}
+
+Error KeyValueItem::load(const QJsonObject &json, ValidationOptions options, const LoadContext &context)
+{
     if (!json.value(PROPERTIES_KEY).isArray()) {
         return Error(ErrorCode::MalformedStructure,
                      tr("Could not parse JSON. \"%1\" has unsupported format.").arg(PROPERTIES_KEY));
@@ -83,7 +88,7 @@ Error KeyValueItem::assignFromJson(const QJsonObject &json, ValidationOptions op
     m_set.reset();
     const bool skipsType = options.testFlag(ValidationOption::SkipTypeValidation);
     Result<KPropertySet *> set = PropertySetCreator::objectToPropertySet(
-        json, skipsType ? std::nullopt : std::optional(type()), loadContext());
+        json, skipsType ? std::nullopt : std::optional(type()), context);
     if (set.hasError())
         return set.ecatch();
     m_set.reset(*set);

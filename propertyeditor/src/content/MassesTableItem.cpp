@@ -167,28 +167,27 @@ QJsonObject MassesTableItem::toJson(PropertyConversionFlag flag) const
     return json;
 }
 
-Error MassesTableItem::assignFromJson(const QJsonObject &json, ValidationOptions options)
+Error MassesTableItem::load(const QJsonObject &json, ValidationOptions options, const LoadContext &context)
 {
     m_matchTolerance.clear();
-    ORV_RETURN_IF_ERROR(BaseTableItem::assignFromJson(json, options));
+    ORV_RETURN_IF_ERROR(BaseTableItem::load(json, options, context));
     const QJsonObject entry = PropertyEditorJsonUtils::getPropertyWithType(json, PropertyId::MatchTolerance);
     if (!entry.isEmpty())
         m_matchTolerance = PropertyEditorJsonUtils::propValueToRowNode(entry);
     ORV_RETURN_IF_ERROR(initializeDefaultMatchTolerance(&m_matchTolerance, &m_matchToleranceDefaulted));
     if (!entry.isEmpty() && m_matchToleranceDefaulted)
-        reportDefaultedTolerance(json);
+        reportDefaultedTolerance(json, context);
     return Error::NoError;
 }
 
-void MassesTableItem::reportDefaultedTolerance(const QJsonObject &json) const
+void MassesTableItem::reportDefaultedTolerance(const QJsonObject &json, const LoadContext &context) const
 {
     const QJsonArray entries = json.value(PROPERTIES_KEY).toArray();
     for (qsizetype i = 0; i < entries.size(); ++i) {
         if (PropertyEditorJsonUtils::findPropertyBackCompat(entries.at(i).toObject(), type()) !=
             PropertyId::MatchTolerance)
             continue;
-        loadContext()
-            .member(PROPERTIES_KEY)
+        context.member(PROPERTIES_KEY)
             .lost(QString::number(i), tr("the match tolerance"),
                   tr("it lacks a value or unit, and becomes the default"));
         return;

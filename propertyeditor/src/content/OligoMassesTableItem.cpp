@@ -35,9 +35,10 @@ QJsonObject OligoMassesTableItem::toJson(PropertyConversionFlag flag) const
     return json;
 }
 
-Error OligoMassesTableItem::assignFromJson(const QJsonObject &json, ValidationOptions options)
+Error OligoMassesTableItem::load(const QJsonObject &json, ValidationOptions options,
+                                 const LoadContext &context)
 {
-    ORV_RETURN_IF_ERROR(MassesTableItem::assignFromJson(json, options));
+    ORV_RETURN_IF_ERROR(MassesTableItem::load(json, options, context));
     ORV_RETURN_IF_ERROR(readPayload(json, PropertyId::Tolerances, &m_tolerances));
     ORV_RETURN_IF_ERROR(readPayload(json, PropertyId::OligoImpurities, &m_impurities));
     return Error::NoError;

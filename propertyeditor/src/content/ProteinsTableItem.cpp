@@ -28,10 +28,10 @@ QJsonObject ProteinsTableItem::toJson(PropertyConversionFlag flag) const
     return cellWithValue(flag, value);
 }
 
-Error ProteinsTableItem::assignFromJson(const QJsonObject &json, ValidationOptions options)
+Error ProteinsTableItem::load(const QJsonObject &json, ValidationOptions options, const LoadContext &context)
 {
     m_annotations.clear();
-    ORV_RETURN_IF_ERROR(BaseTableItem::assignFromJson(json, options));
+    ORV_RETURN_IF_ERROR(BaseTableItem::load(json, options, context));
     Result<QJsonObject> entry = mainEntry(json);
     if (entry.hasError())
         return entry.ecatch();

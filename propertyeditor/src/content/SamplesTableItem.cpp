@@ -30,7 +30,7 @@ QJsonObject SamplesTableItem::toJson(PropertyConversionFlag flag) const
     return cellWithValue(flag, resolves ? m_content.resolved(baseUrl()).toJson() : m_content.toJson());
 }
 
-Error SamplesTableItem::assignFromJson(const QJsonObject &json, ValidationOptions options)
+Error SamplesTableItem::load(const QJsonObject &json, ValidationOptions options, const LoadContext &context)
 {
     m_content = {};
     ORV_RETURN_IF_ERROR(assignCommon(json, options));
@@ -47,8 +47,8 @@ Error SamplesTableItem::assignFromJson(const QJsonObject &json, ValidationOption
         return content.ecatch();
     m_content = std::move(content).value();
     loadCustomColumns(json);
-    if (loadContext().isObserved())
-        reportTableLosses(loadContext(), json, {PropertyId::NoProperty, {}, {propertyId()}, {}});
+    if (context.isObserved())
+        reportTableLosses(context, json, {PropertyId::NoProperty, {}, {propertyId()}, {}});
     Q_EMIT reset();
     return Error::NoError;
 }

@@ -29,7 +29,8 @@ QJsonObject SequenceDatabasesTableItem::toJson(PropertyConversionFlag flag) cons
     return cellWithValue(flag, SequenceDatabaseItems::toJson(items));
 }
 
-Error SequenceDatabasesTableItem::assignFromJson(const QJsonObject &json, ValidationOptions options)
+Error SequenceDatabasesTableItem::load(const QJsonObject &json, ValidationOptions options,
+                                       const LoadContext &context)
 {
     m_items.clear();
     ORV_RETURN_IF_ERROR(assignCommon(json, options));
@@ -40,8 +41,8 @@ Error SequenceDatabasesTableItem::assignFromJson(const QJsonObject &json, Valida
     if (items.hasError())
         return items.ecatch();
     m_items = std::move(items).value();
-    if (loadContext().isObserved())
-        reportTableLosses(loadContext(), json, {PropertyId::NoProperty, {}, {}, {}, {propertyId()}});
+    if (context.isObserved())
+        reportTableLosses(context, json, {PropertyId::NoProperty, {}, {}, {}, {propertyId()}});
     Q_EMIT reset();
     return Error::NoError;
 }

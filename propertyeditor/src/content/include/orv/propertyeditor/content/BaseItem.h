@@ -37,6 +37,10 @@ public:
 
     Q_INVOKABLE virtual void clear() = 0;
 
+    /// assignFromJson, telling \a context of what is dropped; the body here drops nothing by itself. Nobody
+    /// keeps \a context.
+    virtual Error load(const QJsonObject &json, ValidationOptions options, const LoadContext &context);
+
     [[nodiscard]] BaseItemType type() const { return m_type; }
     [[nodiscard]] QString typeString() const { return typeToString(m_type); }
     [[nodiscard]] QString name() const { return m_name; }
@@ -51,22 +55,15 @@ public:
     /// In ascending order of the types' numbers.
     [[nodiscard]] static QStringList typeNames();
 
-    /// Where the next load stands in its document; set by the owner before assignFromJson.
-    void setLoadContext(const LoadContext &context) { m_loadContext = context; }
-
 Q_SIGNALS:
     /// The item was loaded anew.
     void reset();
-
-protected:
-    [[nodiscard]] const LoadContext &loadContext() const { return m_loadContext; }
 
 private:
     BaseItemType m_type;
     QString m_name;
     QString m_metadata;
     QString m_title;
-    LoadContext m_loadContext;
 };
 
 } // namespace orv::PropertyEditor

@@ -64,7 +64,8 @@ public:
 
     QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const override;
     /// MalformedStructure if the cell lacks its "properties" or its table. Then ends in reset().
-    Error assignFromJson(const QJsonObject &json, ValidationOptions options) override;
+    Error assignFromJson(const QJsonObject &json, ValidationOptions options) final;
+    Error load(const QJsonObject &json, ValidationOptions options, const LoadContext &context) override;
     /// Leaves no rows, no columns and no definitions of columns. Announces nothing.
     void clear() override;
     void setBaseUrl(const QUrl &url) override;

@@ -184,7 +184,8 @@ private:
 
     Error loadExtendedMetadata(const QJsonObject &json);
     Error loadTabs(const QJsonObject &json, ValidationOptions options);
-    void rebuildSinks();
+    /// The first table of each kind that shows metadata.
+    [[nodiscard]] QList<ExtendedMetadataSink *> metadataSinks() const;
     [[nodiscard]] QList<MetadataMapping> generateMetadataMappings(const ExtendedMetadataInfo &info) const;
     void adoptNewGroup(std::unique_ptr<ItemGroup> group);
     [[nodiscard]] int indexOf(const QString &name) const;

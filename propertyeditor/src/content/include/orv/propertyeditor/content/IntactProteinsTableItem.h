@@ -26,7 +26,7 @@ public:
                         const QList<TalvaneMetadataMappingConnection> &connections) override;
 
     /// Chains of older documents, which don't tell where they come from, are marked as the user's.
-    Error assignFromJson(const QJsonObject &json, ValidationOptions options) override;
+    Error load(const QJsonObject &json, ValidationOptions options, const LoadContext &context) override;
 
 protected:
     [[nodiscard]] PropertyId propertyId() const override;

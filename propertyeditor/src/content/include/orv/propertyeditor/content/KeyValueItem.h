@@ -34,6 +34,7 @@ public:
     [[nodiscard]] QJsonObject toJson(PropertyConversionFlag flag) const override;
     /// After a failure the item has no properties and is of no use.
     Error assignFromJson(const QJsonObject &json, ValidationOptions options) override;
+    Error load(const QJsonObject &json, ValidationOptions options, const LoadContext &context) override;
     void setBaseUrl(const QUrl &url) override;
     void clear() override;
 

@@ -44,7 +44,7 @@ public:
     bool isValid(const QList<SamplesInput::Entry> &samples, QStringList *errors, QStringList *warnings) const;
 
     QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const override;
-    Error assignFromJson(const QJsonObject &json, ValidationOptions options) override;
+    Error load(const QJsonObject &json, ValidationOptions options, const LoadContext &context) override;
     void clear() override;
 
 protected:
@@ -61,7 +61,7 @@ private:
     static bool completeMatchTolerance(RowNode *node);
     [[nodiscard]] QVariant toleranceCell(const QString &column) const;
     bool setToleranceCell(const QString &column, const QVariant &value);
-    void reportDefaultedTolerance(const QJsonObject &json) const;
+    void reportDefaultedTolerance(const QJsonObject &json, const LoadContext &context) const;
 
     RowNode m_matchTolerance;
     bool m_matchToleranceDefaulted = true;

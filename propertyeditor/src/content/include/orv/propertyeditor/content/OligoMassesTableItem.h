@@ -23,7 +23,7 @@ public:
 
     QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const override;
     /// Tolerances and impurities that the document doesn't give stay as they are.
-    Error assignFromJson(const QJsonObject &json, ValidationOptions options) override;
+    Error load(const QJsonObject &json, ValidationOptions options, const LoadContext &context) override;
     void clear() override;
 
 private:

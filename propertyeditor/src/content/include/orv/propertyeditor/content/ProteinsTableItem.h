@@ -21,7 +21,7 @@ public:
 
     QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const override;
     /// As the base, and the error of an annotation that can't be read.
-    Error assignFromJson(const QJsonObject &json, ValidationOptions options) override;
+    Error load(const QJsonObject &json, ValidationOptions options, const LoadContext &context) override;
     void clear() override;
 
 protected:

@@ -35,7 +35,7 @@ public:
     QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const override;
     /// MalformedStructure if the cell lacks its "properties" or its samples, and the error of a sample that
     /// can't be read.
-    Error assignFromJson(const QJsonObject &json, ValidationOptions options) override;
+    Error load(const QJsonObject &json, ValidationOptions options, const LoadContext &context) override;
     void clear() override;
 
 protected:

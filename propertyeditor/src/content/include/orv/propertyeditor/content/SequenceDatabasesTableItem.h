@@ -21,7 +21,7 @@ public:
     /// With absolute paths, relative files get them.
     QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const override;
     /// As the base, and the errors of SequenceDatabaseItems::fromJson.
-    Error assignFromJson(const QJsonObject &json, ValidationOptions options) override;
+    Error load(const QJsonObject &json, ValidationOptions options, const LoadContext &context) override;
     void clear() override;
 
 protected:
