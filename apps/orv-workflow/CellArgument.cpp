@@ -1,24 +1,22 @@
 #include "CellArgument.h"
 
+#include "CommonArguments.h"
 #include "Inputs.h"
-#include "commands/Command.h"
-
-#include <CLI/CLI.hpp>
 
 namespace orv::cli {
 
-void CellArgument::declare(CLI::App &app)
+void CellArgument::declare(Arguments &arguments)
 {
-    app.add_option("FILE", m_file, "Workflow file, portable workflow folder, or - for standard input")
-        ->required();
-    app.add_option("--tab", m_tab, "Name or number of the tab, counted from 0")->required();
-    app.add_option("--column", m_column, "Name or number of the column, counted from 0")->required();
-    app.add_option("--row", m_row, "Number of the row, counted from 0 (default: 0)");
+    declareWorkflow(arguments, &m_file);
+    arguments.option("--tab", &m_tab, "Name or number of the tab, counted from 0", {.isRequired = true});
+    arguments.option("--column", &m_column, "Name or number of the column, counted from 0",
+                     {.isRequired = true});
+    arguments.option("--row", &m_row, "Number of the row, counted from 0 (default: 0)");
 }
 
 QString CellArgument::file() const
 {
-    return decoded(m_file);
+    return m_file;
 }
 
 std::variant<FoundCell, Failure> CellArgument::find() const
@@ -27,7 +25,7 @@ std::variant<FoundCell, Failure> CellArgument::find() const
     if (const auto *failure = std::get_if<Failure>(&document))
         return *failure;
     QJsonObject json = std::move(std::get<QJsonObject>(document));
-    const Result<CellPlace> place = CellPlace::find(json, decoded(m_tab), decoded(m_column), m_row);
+    const Result<CellPlace> place = CellPlace::find(json, m_tab, m_column, m_row);
     if (place.hasError()) {
         const bool isBroken = place.error().code() == ErrorCode::MalformedStructure;
         return failureFrom(place.error(), isBroken ? BadInput : WrongUsage);

@@ -1,17 +1,13 @@
 #pragma once
 
+#include "Arguments.h"
 #include "Failure.h"
 
 #include <orv/propertyeditor/content/CellPlace.h>
 
 #include <QJsonObject>
 
-#include <string>
 #include <variant>
-
-namespace CLI {
-class App;
-}
 
 namespace orv::cli {
 
@@ -27,15 +23,15 @@ struct FoundCell
 class CellArgument
 {
 public:
-    void declare(CLI::App &app);
+    void declare(Arguments &arguments);
     [[nodiscard]] QString file() const;
     /// The cell, or why there is none: an unreadable file, or wrong usage.
     [[nodiscard]] std::variant<FoundCell, Failure> find() const;
 
 private:
-    std::string m_file;
-    std::string m_tab;
-    std::string m_column;
+    QString m_file;
+    QString m_tab;
+    QString m_column;
     int m_row = 0;
 };
 

@@ -1,12 +1,8 @@
 #include "ColumnChoice.h"
 
-#include "commands/Command.h"
-
 #include <orv/propertyeditor/content/CellPlace.h>
 #include <orv/propertyeditor/content/ItemGroup.h>
 #include <orv/propertyeditor/content/ItemSubGroup.h>
-
-#include <CLI/CLI.hpp>
 
 namespace orv::cli {
 
@@ -43,22 +39,20 @@ QList<ChosenCell> allCells(const LoadedWorkflow &workflow, const QSet<BaseItemTy
 
 } // namespace
 
-void ColumnChoice::declare(CLI::App &app)
+void ColumnChoice::declare(Arguments &arguments)
 {
-    CLI::Option *tab =
-        app.add_option("--tab", m_tab, "Name or number of the tab, counted from 0 (default: all)");
-    CLI::Option *column =
-        app.add_option("--column", m_column, "Name or number of the column, counted from 0 (default: all)");
-    CLI::Option *row = app.add_option("--row", m_row, "Number of the row, counted from 0 (default: 0)");
-    tab->needs(column);
-    column->needs(tab);
-    row->needs(tab);
+    arguments.option("--tab", &m_tab, "Name or number of the tab, counted from 0 (default: all)",
+                     {.needs = {QStringLiteral("--column")}});
+    arguments.option("--column", &m_column, "Name or number of the column, counted from 0 (default: all)",
+                     {.needs = {QStringLiteral("--tab")}});
+    arguments.option("--row", &m_row, "Number of the row, counted from 0 (default: 0)",
+                     {.needs = {QStringLiteral("--tab")}});
 }
 
 std::variant<QList<ChosenCell>, Failure> ColumnChoice::cells(const LoadedWorkflow &workflow,
                                                              const QSet<BaseItemType> &types) const
 {
-    if (m_tab.empty()) {
+    if (m_tab.isEmpty()) {
         const QList<ChosenCell> cells = allCells(workflow, types);
         if (!cells.isEmpty())
             return cells;
@@ -67,8 +61,7 @@ std::variant<QList<ChosenCell>, Failure> ColumnChoice::cells(const LoadedWorkflo
                                       "cells there are.")
                            .arg(namesOf(types))};
     }
-    const Result<CellPlace> place =
-        CellPlace::find(workflow.document, decoded(m_tab), decoded(m_column), m_row);
+    const Result<CellPlace> place = CellPlace::find(workflow.document, m_tab, m_column, m_row);
     if (place.hasError())
         return failureFrom(place.error(), WrongUsage);
     const ItemSubGroup *column = workflow.content->group(int(place->tab))->subGroup(int(place->column));

@@ -1,16 +1,11 @@
 #pragma once
 
+#include "Arguments.h"
 #include "LoadedWorkflow.h"
 
 #include <orv/propertyeditor/content/KeyValueItem.h>
 
 #include <QSet>
-
-#include <string>
-
-namespace CLI {
-class App;
-}
 
 namespace orv::cli {
 
@@ -25,7 +20,7 @@ struct ChosenCell
 class ColumnChoice
 {
 public:
-    void declare(CLI::App &app);
+    void declare(Arguments &arguments);
 
     /// The chosen cells of these types, in tree order. Wrong usage for a place that there isn't, and a
     /// negative answer where the workflow or the place holds no such cell.
@@ -33,8 +28,8 @@ public:
                                                                  const QSet<BaseItemType> &types) const;
 
 private:
-    std::string m_tab;
-    std::string m_column;
+    QString m_tab;
+    QString m_column;
     int m_row = 0;
 };
 

@@ -1,89 +1,46 @@
 #include "ShellSupport.h"
 
-#include <CLI/CLI.hpp>
-
 #include <array>
 
 namespace orv::cli {
 
 namespace {
 
-struct Option
+bool isPositional(const Argument &argument)
 {
-    QStringList names; ///< "-o", "--output"
-    QString description;
-    bool takesValue = false;
-    bool isPositional = false;
-};
-
-struct Subcommand
-{
-    QString name;
-    QString description;
-    QString example;
-    QList<Option> options;
-};
-
-QList<Option> optionsOf(const CLI::App &app)
-{
-    QList<Option> options;
-    for (const CLI::Option *option : app.get_options()) {
-        if (option->get_group().empty())
-            continue;
-        Option entry;
-        for (const std::string &name : option->get_snames())
-            entry.names.append(QLatin1Char('-') + QString::fromStdString(name));
-        for (const std::string &name : option->get_lnames())
-            entry.names.append(QLatin1String("--") + QString::fromStdString(name));
-        entry.isPositional = entry.names.isEmpty();
-        if (entry.isPositional)
-            entry.names.append(QString::fromStdString(option->get_name()));
-        entry.description = QString::fromStdString(option->get_description());
-        entry.takesValue = option->get_expected_min() > 0;
-        options.append(entry);
-    }
-    return options;
+    return argument.form == Argument::Form::Positional;
 }
 
-QList<Subcommand> subcommandsOf(const CLI::App &app)
+bool takesValue(const Argument &argument)
 {
-    QList<Subcommand> subcommands;
-    for (const CLI::App *subcommand : app.get_subcommands([](const CLI::App *) { return true; })) {
-        QString example = QString::fromStdString(subcommand->get_footer()).trimmed();
-        example.remove(QLatin1String("Example:"));
-        subcommands.append({QString::fromStdString(subcommand->get_name()),
-                            QString::fromStdString(subcommand->get_description()), example.trimmed(),
-                            optionsOf(*subcommand)});
-    }
-    return subcommands;
+    return argument.form == Argument::Form::Option;
 }
 
-QStringList names(const QList<Option> &options)
+QString namesIn(const Arguments &arguments)
 {
     QStringList all;
-    for (const Option &option : options) {
-        if (!option.isPositional)
-            all += option.names;
+    for (const Argument &argument : arguments.list()) {
+        if (!isPositional(argument))
+            all += argument.names;
     }
-    return all;
+    return all.join(QLatin1Char(' '));
 }
 
-QStringList names(const QList<Subcommand> &subcommands)
+QString namesOf(const std::vector<SubcommandLine> &subcommands)
 {
     QStringList all;
-    for (const Subcommand &subcommand : subcommands)
+    for (const SubcommandLine &subcommand : subcommands)
         all.append(subcommand.name);
-    return all;
+    return all.join(QLatin1Char(' '));
 }
 
-QString bashCompletion(const CLI::App &app)
+QString bashCompletion(const CommandLine &line)
 {
-    const QList<Subcommand> subcommands = subcommandsOf(app);
-    const QString global = names(optionsOf(app)).join(QLatin1Char(' '));
+    const QString global = namesIn(line.arguments);
     QString cases;
-    for (const Subcommand &subcommand : subcommands) {
+    for (const SubcommandLine &subcommand : line.subcommands) {
         cases += QStringLiteral("        %1) words=\"%2 %3\" ;;\n")
-                     .arg(subcommand.name, names(subcommand.options).join(QLatin1Char(' ')), global);
+                     .arg(subcommand.name, namesIn(subcommand.arguments), global);
     }
     return QStringLiteral("# bash completion for orv-workflow\n"
                           "_orv_workflow() {\n"
@@ -98,7 +55,7 @@ QString bashCompletion(const CLI::App &app)
                           "    mapfile -t COMPREPLY < <(compgen -W \"$words\" -- \"$current\")\n"
                           "}\n"
                           "complete -o default -F _orv_workflow orv-workflow\n")
-        .arg(cases, names(subcommands).join(QLatin1Char(' ')), global);
+        .arg(cases, namesOf(line.subcommands), global);
 }
 
 QString quoted(QString text)
@@ -106,16 +63,16 @@ QString quoted(QString text)
     return QLatin1Char('\'') + text.replace(QLatin1Char('\''), QLatin1String("'\\''")) + QLatin1Char('\'');
 }
 
-QString zshCompletion(const CLI::App &app)
+QString zshCompletion(const CommandLine &line)
 {
     QString described;
     QString cases;
-    for (const Subcommand &subcommand : subcommandsOf(app)) {
+    for (const SubcommandLine &subcommand : line.subcommands) {
         described += QStringLiteral("        %1\n")
                          .arg(quoted(subcommand.name + QLatin1Char(':') + subcommand.description));
         QString specs;
-        for (const Option &option : subcommand.options + optionsOf(app)) {
-            if (option.isPositional)
+        for (const Argument &option : subcommand.arguments.list() + line.arguments.list()) {
+            if (isPositional(option))
                 continue;
             for (const QString &name : option.names) {
                 QString text = option.description;
@@ -123,7 +80,7 @@ QString zshCompletion(const CLI::App &app)
                 specs += QLatin1Char(' ') +
                          quoted(QStringLiteral("%1[%2]%3")
                                     .arg(name, text,
-                                         option.takesValue ? QStringLiteral(":value:_files") : QString()));
+                                         takesValue(option) ? QStringLiteral(":value:_files") : QString()));
             }
         }
         cases += QStringLiteral("        %1) _arguments%2 '*:file:_files' ;;\n").arg(subcommand.name, specs);
@@ -144,30 +101,30 @@ QString zshCompletion(const CLI::App &app)
         .arg(described, cases);
 }
 
-QString fishOption(const Option &option, const QString &condition)
+QString fishOption(const Argument &option, const QString &condition)
 {
-    QString line = QStringLiteral("complete -c orv-workflow%1").arg(condition);
+    QString command = QStringLiteral("complete -c orv-workflow%1").arg(condition);
     for (const QString &name : option.names) {
-        line += name.startsWith(QLatin1String("--")) ? QLatin1String(" -l ") + name.mid(2)
-                                                     : QLatin1String(" -s ") + name.mid(1);
+        command += name.startsWith(QLatin1String("--")) ? QLatin1String(" -l ") + name.mid(2)
+                                                        : QLatin1String(" -s ") + name.mid(1);
     }
-    if (option.takesValue)
-        line += QLatin1String(" -r");
-    return line + QLatin1String(" -d ") + quoted(option.description) + QLatin1Char('\n');
+    if (takesValue(option))
+        command += QLatin1String(" -r");
+    return command + QLatin1String(" -d ") + quoted(option.description) + QLatin1Char('\n');
 }
 
-QString fishCompletion(const CLI::App &app)
+QString fishCompletion(const CommandLine &line)
 {
     QString script = QStringLiteral("# fish completion for orv-workflow\n");
-    for (const Option &option : optionsOf(app)) {
-        if (!option.isPositional)
+    for (const Argument &option : line.arguments.list()) {
+        if (!isPositional(option))
             script += fishOption(option, {});
     }
-    for (const Subcommand &subcommand : subcommandsOf(app)) {
+    for (const SubcommandLine &subcommand : line.subcommands) {
         script += QStringLiteral("complete -c orv-workflow -n __fish_use_subcommand -a %1 -d %2\n")
                       .arg(subcommand.name, quoted(subcommand.description));
-        for (const Option &option : subcommand.options) {
-            if (!option.isPositional)
+        for (const Argument &option : subcommand.arguments.list()) {
+            if (!isPositional(option))
                 script += fishOption(
                     option, QStringLiteral(" -n '__fish_seen_subcommand_from %1'").arg(subcommand.name));
         }
@@ -181,31 +138,30 @@ QString manText(QString text)
         .replace(QLatin1Char('-'), QLatin1String("\\-"));
 }
 
-QString manOptions(const QList<Option> &options)
+QString manOptions(const Arguments &arguments)
 {
     QString page;
-    for (const Option &option : options) {
-        page +=
-            QStringLiteral(".TP\n.B %1%2\n%3\n")
-                .arg(manText(option.names.join(QLatin1String(", "))),
-                     option.takesValue && !option.isPositional ? QStringLiteral(" \\fIvalue\\fR") : QString(),
-                     manText(option.description));
+    for (const Argument &option : arguments.list()) {
+        page += QStringLiteral(".TP\n.B %1%2\n%3\n")
+                    .arg(manText(option.names.join(QLatin1String(", "))),
+                         takesValue(option) ? QStringLiteral(" \\fIvalue\\fR") : QString(),
+                         manText(option.description));
     }
     return page;
 }
 
-QString manPage(const CLI::App &app)
+QString manPage(const CommandLine &line)
 {
     QString page =
         QStringLiteral(".TH ORV\\-WORKFLOW 1\n.SH NAME\norv\\-workflow \\- %1\n"
                        ".SH SYNOPSIS\n.B orv\\-workflow\n[\\fIoptions\\fR] \\fIsubcommand\\fR ...\n"
                        ".SH OPTIONS\n")
-            .arg(manText(QString::fromStdString(app.get_description())));
-    page += manOptions(optionsOf(app)) + QLatin1String(".SH SUBCOMMANDS\n");
-    for (const Subcommand &subcommand : subcommandsOf(app)) {
+            .arg(manText(line.description));
+    page += manOptions(line.arguments) + QLatin1String(".SH SUBCOMMANDS\n");
+    for (const SubcommandLine &subcommand : line.subcommands) {
         page +=
             QStringLiteral(".SS %1\n%2.\n").arg(manText(subcommand.name), manText(subcommand.description));
-        page += manOptions(subcommand.options);
+        page += manOptions(subcommand.arguments);
         page += QStringLiteral(".PP\nExample:\n.PP\n.EX\n%1\n.EE\n").arg(manText(subcommand.example));
     }
     return page +
@@ -217,7 +173,7 @@ QString manPage(const CLI::App &app)
 struct Kind
 {
     const char *name;
-    QString (*generate)(const CLI::App &app);
+    QString (*generate)(const CommandLine &line);
 };
 
 constexpr std::array kKinds = {Kind{"bash", bashCompletion}, Kind{"zsh", zshCompletion},
@@ -233,11 +189,11 @@ QStringList shellSupportKinds()
     return kinds;
 }
 
-QString generateShellSupport(const QString &kind, const CLI::App &app)
+QString generateShellSupport(const QString &kind, const CommandLine &line)
 {
     for (const Kind &row : kKinds) {
         if (kind == QLatin1String(row.name))
-            return row.generate(app);
+            return row.generate(line);
     }
     return {};
 }

@@ -1,11 +1,9 @@
 #pragma once
 
+#include "CommandLine.h"
+
 #include <QString>
 #include <QStringList>
-
-namespace CLI {
-class App;
-}
 
 namespace orv::cli {
 
@@ -14,6 +12,6 @@ namespace orv::cli {
 
 /// The completion script of a shell, or the man page, made from the declared subcommands and options, so that
 /// they never differ from the program. Empty for an unknown kind.
-[[nodiscard]] QString generateShellSupport(const QString &kind, const CLI::App &app);
+[[nodiscard]] QString generateShellSupport(const QString &kind, const CommandLine &line);
 
 } // namespace orv::cli

@@ -1,3 +1,4 @@
+#include "CommandLine.h"
 #include "ExitCode.h"
 #include "Failure.h"
 #include "LogOutput.h"
@@ -10,8 +11,6 @@
 
 #include <QCoreApplication>
 
-#include <CLI/CLI.hpp>
-
 #include <csignal>
 #include <string_view>
 
@@ -19,57 +18,49 @@ using namespace orv;
 
 namespace {
 
-/// The parsed command line: the options, and the commands that wait to be chosen.
+/// What callers may say, and the commands that it means.
 struct Program
 {
-    CLI::App app{"Look at, convert, check and upgrade mass-spectrometry workflow documents", "orv-workflow"};
     cli::GlobalOptions options;
+    cli::CommandLine line;
     std::vector<std::unique_ptr<cli::Command>> commands;
-    int exitCode = cli::Done;
 };
 
-std::string versionText()
+QString versionText()
 {
     return QStringLiteral("orv-workflow %1 (workflow format %2)")
-        .arg(libraryVersion(), WflwMetaData::currentWorkflowVersion().toString())
-        .toStdString();
+        .arg(libraryVersion(), WflwMetaData::currentWorkflowVersion().toString());
 }
 
-void declareGlobalOptions(Program &program)
+void declare(Program &program)
 {
-    cli::GlobalOptions &options = program.options;
-    program.app.add_flag("--json", options.json, "Print one JSON document");
-    program.app.add_flag("--progress", options.progress,
-                         "Show progress though standard error is no terminal");
-    program.app.add_flag("-v", options.verbosity, "Show info lines of the library; twice: debug lines too");
-    program.app.add_option("--log", options.logFile, "Append the library's log lines to this file");
-    program.app.set_version_flag("--version", versionText());
-    program.app.require_subcommand(1);
-    program.app.fallthrough();
+    program.line = {
+        QStringLiteral("orv-workflow"),
+        QStringLiteral("Look at, convert, check and upgrade mass-spectrometry workflow documents"),
+        versionText()};
+    program.options.declare(program.line.arguments);
+    for (const cli::CommandRow &row : cli::commandRows()) {
+        cli::SubcommandLine subcommand{QString::fromUtf8(row.name), QString::fromUtf8(row.description),
+                                       QString::fromUtf8(row.example)};
+        cli::Command *command = program.commands.emplace_back(row.create()).get();
+        command->declare(subcommand.arguments);
+        program.line.subcommands.push_back(std::move(subcommand));
+    }
 }
 
-void declareCommand(Program &program, const cli::CommandRow &row)
+int run(cli::Command &command, const cli::GlobalOptions &options)
 {
-    CLI::App *subcommand = program.app.add_subcommand(row.name, row.description);
-    subcommand->footer(std::string("\nExample:\n  ") + row.example);
-    cli::Command *command = program.commands.emplace_back(row.create()).get();
-    command->declare(*subcommand);
-    subcommand->final_callback([&program, command] {
-        const QString logFile = cli::decoded(program.options.logFile);
-        if (cli::installLogOutput(program.options.verbosity, logFile)) {
-            program.exitCode = command->run(program.options);
-            return;
-        }
-        program.exitCode = cli::BadOutput;
-        cli::printFailure(logFile, {cli::BadOutput, 0, QStringLiteral("The log file can't be opened.")});
-    });
+    if (cli::installLogOutput(options.verbosity, options.logFile))
+        return command.run(options);
+    cli::printFailure(options.logFile, {cli::BadOutput, 0, QStringLiteral("The log file can't be opened.")});
+    return cli::BadOutput;
 }
 
 /// For packagers: `orv-workflow --generate bash` and so on.
 bool generationIsAskedFor(int argc, char *argv[])
 {
     return argc == 3 && std::string_view(argv[1]) == "--generate" &&
-           cli::shellSupportKinds().contains(cli::decoded(argv[2]));
+           cli::shellSupportKinds().contains(QString::fromLocal8Bit(argv[2]));
 }
 
 } // namespace
@@ -88,19 +79,10 @@ int main(int argc, char *argv[])
     RemoteHandlers::install();
 
     Program program;
-    declareGlobalOptions(program);
-    for (const cli::CommandRow &row : cli::commandRows())
-        declareCommand(program, row);
+    declare(program);
     if (generationIsAskedFor(argc, argv))
-        return cli::printText(cli::generateShellSupport(cli::decoded(argv[2]), program.app));
-    try {
-        // The parser takes them from the back.
-        std::vector<std::string> arguments;
-        for (int i = argc - 1; i > 0; --i)
-            arguments.push_back(cli::shielded(argv[i]));
-        program.app.parse(std::move(arguments));
-    } catch (const CLI::ParseError &error) {
-        return program.app.exit(error) == 0 ? cli::Done : cli::WrongUsage;
-    }
-    return program.exitCode;
+        return cli::printText(cli::generateShellSupport(QString::fromLocal8Bit(argv[2]), program.line));
+    const cli::ParsedLine parsed = cli::parse(program.line, argc, argv);
+    return parsed.subcommand ? run(*program.commands.at(*parsed.subcommand), program.options)
+                             : parsed.exitCode;
 }

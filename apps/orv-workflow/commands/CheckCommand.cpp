@@ -1,5 +1,6 @@
 #include "../Batch.h"
 #include "../CheckReports.h"
+#include "../CommonArguments.h"
 #include "../Console.h"
 #include "../Losses.h"
 #include "../Progress.h"
@@ -11,28 +12,29 @@
 
 #include <QDir>
 
-#include <CLI/CLI.hpp>
-
 namespace orv::cli {
 
 namespace {
 
+constexpr QLatin1String kText("text");
+constexpr QLatin1String kJson("json");
+constexpr QLatin1String kSarif("sarif");
+constexpr QLatin1String kJunit("junit");
+
 class CheckCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        app.add_option("FILE", m_files,
-                       "Workflow files, portable workflow folders, folders, or - for standard input")
-            ->required();
-        app.add_option("--base", m_base,
-                       "Folder that relative paths count from (default: the workflow's own)");
-        app.add_option("--validator", m_validators, "Check in this respect alone; may be repeated")
-            ->take_all()
-            ->expected(1);
-        app.add_option("--format", m_format, "How to print: text, json, sarif or junit (default: text)")
-            ->check(CLI::IsMember({"text", "json", "sarif", "junit"}));
-        app.add_option("--jobs", m_jobs, "Threads (default: all cores)")->check(CLI::Range(1, 1024));
+        declareWorkflows(arguments, &m_files);
+        arguments.option("--base", &m_base,
+                         "Folder that relative paths count from (default: the workflow's own)",
+                         {.kind = ValueKind::Folder});
+        arguments.options("--validator", &m_validators, "Check in this respect alone; may be repeated",
+                          {.kind = ValueKind::Validator, .takesFollowing = true});
+        arguments.option("--format", &m_format, "How to print: text, json, sarif or junit (default: text)",
+                         {.choices = {kText, kJson, kSarif, kJunit}});
+        declareJobs(arguments, &m_jobs);
     }
 
     int run(const GlobalOptions &options) override
@@ -40,7 +42,7 @@ public:
         CheckOptions check;
         if (!readOptions(options, &check))
             return WrongUsage;
-        const QList<BatchInput> inputs = batchInputs(decoded(m_files));
+        const QList<BatchInput> inputs = batchInputs(m_files);
         CheckAnswers answers(size_t(inputs.size()));
         {
             Progress progress(options.progress || standardErrorIsTerminal(), inputs.size());
@@ -62,12 +64,12 @@ public:
     }
 
 private:
-    [[nodiscard]] bool isJson() const { return m_format == "json"; }
+    [[nodiscard]] bool isJson() const { return m_format == kJson; }
 
     bool readOptions(const GlobalOptions &options, CheckOptions *check)
     {
-        if (m_format.empty())
-            m_format = options.json ? "json" : "text";
+        if (m_format.isEmpty())
+            m_format = options.json ? kJson : kText;
         if (options.json && !isJson()) {
             printRemark(QStringLiteral("--format"), QStringLiteral("The option contradicts --json."));
             return false;
@@ -77,11 +79,11 @@ private:
 
     bool readBase(CheckOptions *check) const
     {
-        if (m_base.empty())
+        if (m_base.isEmpty())
             return true;
-        const QDir folder(decoded(m_base));
+        const QDir folder(m_base);
         if (!folder.exists()) {
-            printRemark(decoded(m_base), QStringLiteral("There is no such folder; name one with --base."));
+            printRemark(m_base, QStringLiteral("There is no such folder; name one with --base."));
             return false;
         }
         const QString path = folder.absolutePath();
@@ -92,7 +94,7 @@ private:
 
     bool readValidators(CheckOptions *check) const
     {
-        for (const QString &name : decoded(m_validators)) {
+        for (const QString &name : m_validators) {
             const auto validator = PropertyEditor::Validators::create(name);
             if (!validator) {
                 printRemark(name, QStringLiteral("There is no such validator. There are %1.")
@@ -109,17 +111,17 @@ private:
     {
         if (isJson())
             return printJson(checkReportJson(answers));
-        if (m_format == "sarif")
+        if (m_format == kSarif)
             return printJson(checkReportSarif(answers));
-        if (m_format == "junit")
+        if (m_format == kJunit)
             return printBytes(checkReportJunit(answers, validatorsOf(check)));
         return printText(checkReportText(answers));
     }
 
-    std::vector<std::string> m_files;
-    std::string m_base;
-    std::vector<std::string> m_validators;
-    std::string m_format;
+    QStringList m_files;
+    QString m_base;
+    QStringList m_validators;
+    QString m_format;
     int m_jobs = SysUtils::cpuCoresNumber();
 };
 

@@ -4,14 +4,11 @@
 #include "ExitCode.h"
 #include "Failure.h"
 
-#include <QFile>
 #include <QJsonDocument>
 
 namespace orv::cli {
 
 namespace {
-
-constexpr char kShield = '\x1F'; // a separator that nobody types
 
 int print(const QByteArray &bytes)
 {
@@ -23,6 +20,16 @@ int print(const QByteArray &bytes)
 }
 
 } // namespace
+
+void GlobalOptions::declare(Arguments &arguments)
+{
+    arguments.flag("--json", &json, "Print one JSON document");
+    arguments.flag("--progress", &progress, "Show progress though standard error is no terminal");
+    arguments.counter("-v", &verbosity, "Show info lines of the library; twice: debug lines too");
+    arguments.option("--log", &logFile, "Append the library's log lines to this file",
+                     {.kind = ValueKind::File});
+    arguments.version("--version", "Display program version information and exit");
+}
 
 Command::~Command() = default;
 
@@ -75,24 +82,6 @@ const std::vector<CommandRow> &commandRows()
          createTypesCommand},
     };
     return rows;
-}
-
-std::string shielded(const std::string &argument)
-{
-    return argument.starts_with('[') ? kShield + argument : argument;
-}
-
-QString decoded(const std::string &argument)
-{
-    return QFile::decodeName(argument.c_str() + (argument.starts_with(kShield) ? 1 : 0));
-}
-
-QStringList decoded(const std::vector<std::string> &arguments)
-{
-    QStringList list;
-    for (const std::string &argument : arguments)
-        list.append(decoded(argument));
-    return list;
 }
 
 int printJson(const QJsonObject &object)

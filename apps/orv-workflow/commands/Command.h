@@ -1,18 +1,14 @@
 #pragma once
 
+#include "../Arguments.h"
+
 #include <QByteArray>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
-#include <QStringList>
 
 #include <memory>
-#include <string>
 #include <vector>
-
-namespace CLI {
-class App;
-}
 
 namespace orv::cli {
 
@@ -22,7 +18,9 @@ struct GlobalOptions
     bool json = false;
     bool progress = false;
     int verbosity = 0;
-    std::string logFile;
+    QString logFile;
+
+    void declare(Arguments &arguments);
 };
 
 /// A subcommand: declares its arguments, then runs.
@@ -34,7 +32,7 @@ public:
     Command(const Command &) = delete;
     Command &operator=(const Command &) = delete;
 
-    virtual void declare(CLI::App &app) = 0;
+    virtual void declare(Arguments &arguments) = 0;
     /// The exit code.
     virtual int run(const GlobalOptions &options) = 0;
 };
@@ -71,14 +69,6 @@ std::unique_ptr<Command> createXenosetCommand();
 std::unique_ptr<Command> createReadXenosetCommand();
 std::unique_ptr<Command> createPrvCommand();
 std::unique_ptr<Command> createReadPrvCommand();
-
-/// The argument as it may be given to the parser, which takes "[a,b]" apart as a list: such a path gets a
-/// mark in front, and decoded() takes it away.
-[[nodiscard]] std::string shielded(const std::string &argument);
-
-/// Arguments as the system gives them, decoded.
-[[nodiscard]] QString decoded(const std::string &argument);
-[[nodiscard]] QStringList decoded(const std::vector<std::string> &arguments);
 
 /// Prints a JSON document; Done, or BadOutput when standard output fails.
 [[nodiscard]] int printJson(const QJsonObject &object);

@@ -1,3 +1,4 @@
+#include "../CommonArguments.h"
 #include "../Inputs.h"
 #include "../LoadedWorkflow.h"
 #include "../Losses.h"
@@ -13,8 +14,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
-
-#include <CLI/CLI.hpp>
 
 namespace orv::cli {
 
@@ -43,47 +42,46 @@ bool isSameFile(const QString &input, const QString &output)
 class ConvertCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        app.add_option("FILE", m_file, "Workflow file, portable workflow folder, or - for standard input")
-            ->required();
-        app.add_option("-o,--output", m_output, "Where to write; - for standard output")->required();
-        app.add_flag("--absolute-paths", m_absolutePaths, "Write relative file references as absolute ones");
-        app.add_flag("--skip-type-validation", m_skipTypeValidation, "Accept cells of unknown types");
-        app.add_flag("--stamp", m_stamp, "Renew user, time and version");
-        app.add_option("--user", m_user, "The name to stamp with (default: the current user)");
+        declareWorkflow(arguments, &m_file);
+        arguments.option("-o,--output", &m_output, "Where to write; - for standard output",
+                         {.isRequired = true, .kind = ValueKind::File});
+        arguments.flag("--absolute-paths", &m_absolutePaths,
+                       "Write relative file references as absolute ones");
+        arguments.flag("--skip-type-validation", &m_skipTypeValidation, "Accept cells of unknown types");
+        arguments.flag("--stamp", &m_stamp, "Renew user, time and version");
+        arguments.option("--user", &m_user, "The name to stamp with (default: the current user)");
     }
 
     int run(const GlobalOptions &options) override
     {
-        if (!m_user.empty() && !m_stamp) {
+        if (!m_user.isEmpty() && !m_stamp) {
             printRemark(QStringLiteral("--user"), QStringLiteral("The option needs --stamp."));
             return WrongUsage;
         }
-        const QString file = decoded(m_file);
-        const QString output = decoded(m_output);
-        const Outcome outcome = convert(file, output);
+        const Outcome outcome = convert();
         int exitCode = outcome.failure ? outcome.failure->exitCode : Done;
         // Standard output holds one document: the workflow or, where none was written, the report.
         const bool workflowIsPrinted =
-            output == kStandardInput && exitCode != BadInput && exitCode != Negative;
+            m_output == kStandardInput && exitCode != BadInput && exitCode != Negative;
         if (options.json && !workflowIsPrinted)
-            exitCode = std::max(exitCode, printJson(toJson(file, output, outcome)));
+            exitCode = std::max(exitCode, printJson(toJson(outcome)));
         else
-            printLosses(file, outcome.lost);
+            printLosses(m_file, outcome.lost);
         if (outcome.failure)
-            printFailure(outcome.failure->exitCode == BadOutput ? output : file, *outcome.failure);
+            printFailure(outcome.failure->exitCode == BadOutput ? m_output : m_file, *outcome.failure);
         return exitCode;
     }
 
 private:
-    Outcome convert(const QString &file, const QString &output) const
+    Outcome convert() const
     {
-        DocumentOrFailure document = readDocument(file);
+        DocumentOrFailure document = readDocument(m_file);
         if (const auto *failure = std::get_if<Failure>(&document))
             return {{}, *failure};
         const QJsonObject &json = std::get<QJsonObject>(document);
-        if (const std::optional<Failure> refusal = refuseToOverwriteNewer(json, file, output))
+        if (const std::optional<Failure> refusal = refuseToOverwriteNewer(json))
             return {{}, refusal};
 
         Content content;
@@ -93,7 +91,7 @@ private:
             return {lost, failureFrom(error, BadInput)};
         if (const std::optional<QString> tab = unevenTab(content))
             return {lost, unevenFailure(*tab)};
-        return {lost, write(content, file, output)};
+        return {lost, write(content)};
     }
 
     Error load(const QJsonObject &json, Content &content, QList<Loss> &lost) const
@@ -115,12 +113,12 @@ private:
     }
 
     /// A document of a newer format may hold what this version doesn't know.
-    static std::optional<Failure> refuseToOverwriteNewer(const QJsonObject &json, const QString &file,
-                                                         const QString &output)
+    [[nodiscard]] std::optional<Failure> refuseToOverwriteNewer(const QJsonObject &json) const
     {
         const PropertyEditorContent content(json);
         const QVersionNumber version = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());
-        if (version.majorVersion() <= WflwMetaData::WORKFLOW_JSON_VERSION_MAJOR || !isSameFile(file, output))
+        if (version.majorVersion() <= WflwMetaData::WORKFLOW_JSON_VERSION_MAJOR ||
+            !isSameFile(m_file, m_output))
             return {};
         return Failure{Negative, 0,
                        QStringLiteral("The document has the newer version %1 and is not written over; name "
@@ -131,7 +129,7 @@ private:
     QJsonObject stamped(const QJsonObject &json) const
     {
         PropertyEditorContent content(json);
-        content.setCustomUser(decoded(m_user));
+        content.setCustomUser(m_user);
         return QJsonDocument::fromJson(content.toJson()).object();
     }
 
@@ -143,28 +141,28 @@ private:
                     .arg(tab)};
     }
 
-    std::optional<Failure> write(Content &content, const QString &file, const QString &output) const
+    std::optional<Failure> write(Content &content) const
     {
         auto flag = PropertyEditor::PropertyConversionFlag::KeepPaths;
         if (m_absolutePaths) {
-            content.setBaseUrl(folderUrlOf(file));
+            content.setBaseUrl(folderUrlOf(m_file));
             flag = PropertyEditor::PropertyConversionFlag::AbsolutePaths;
         }
-        return writeOutput(output, content.toJson(flag));
+        return writeOutput(m_output, content.toJson(flag));
     }
 
-    static QJsonObject toJson(const QString &file, const QString &output, const Outcome &outcome)
+    [[nodiscard]] QJsonObject toJson(const Outcome &outcome) const
     {
-        return {{QStringLiteral("file"), file},
-                {QStringLiteral("output"), outcome.failure ? QJsonValue() : QJsonValue(output)},
+        return {{QStringLiteral("file"), m_file},
+                {QStringLiteral("output"), outcome.failure ? QJsonValue() : QJsonValue(m_output)},
                 {QStringLiteral("lost"), orv::cli::toJson(outcome.lost)},
                 {QStringLiteral("error"),
                  outcome.failure ? QJsonValue(orv::cli::toJson(*outcome.failure)) : QJsonValue()}};
     }
 
-    std::string m_file;
-    std::string m_output;
-    std::string m_user;
+    QString m_file;
+    QString m_output;
+    QString m_user;
     bool m_absolutePaths = false;
     bool m_skipTypeValidation = false;
     bool m_stamp = false;

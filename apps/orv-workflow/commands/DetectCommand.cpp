@@ -6,8 +6,6 @@
 
 #include <QFileInfo>
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 
 namespace orv::cli {
@@ -57,16 +55,17 @@ QJsonObject toJson(const Answer &answer)
 class DetectCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        app.add_option("PATH", m_paths, "Files and folders of mass-spectrometry data")->required();
-        app.add_flag("--by-name", m_byName, "Go by the name alone and list all formats that it may mean");
+        arguments.positionals("PATH", &m_paths, "Files and folders of mass-spectrometry data",
+                              {.isRequired = true, .kind = ValueKind::File});
+        arguments.flag("--by-name", &m_byName, "Go by the name alone and list all formats that it may mean");
     }
 
     int run(const GlobalOptions &options) override
     {
         QList<Answer> answers;
-        for (const QString &path : decoded(m_paths))
+        for (const QString &path : m_paths)
             answers.append(answerFor(path, m_byName));
         int exitCode = options.json ? printAnswersAsJson(answers) : printText(toText(answers));
         for (const Answer &answer : std::as_const(answers)) {
@@ -108,7 +107,7 @@ private:
                       Style::Bad);
     }
 
-    std::vector<std::string> m_paths;
+    QStringList m_paths;
     bool m_byName = false;
 };
 

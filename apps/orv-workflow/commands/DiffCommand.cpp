@@ -8,8 +8,6 @@
 
 #include <QJsonDocument>
 
-#include <CLI/CLI.hpp>
-
 #include <array>
 
 namespace orv::cli {
@@ -75,27 +73,28 @@ QJsonObject toJson(const WorkflowDifference &difference)
 class DiffCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        app.add_option("A", m_left, "Workflow file, portable workflow folder, or - for standard input")
-            ->required();
-        app.add_option("B", m_right, "The workflow to compare it with")->required();
-        app.add_flag("--strict", m_strict, "Compare stamps and metadata too, which change with every save");
+        arguments.positional("A", &m_left, "Workflow file, portable workflow folder, or - for standard input",
+                             {.isRequired = true, .kind = ValueKind::Workflow});
+        arguments.positional("B", &m_right, "The workflow to compare it with",
+                             {.isRequired = true, .kind = ValueKind::Workflow});
+        arguments.flag("--strict", &m_strict,
+                       "Compare stamps and metadata too, which change with every save");
     }
 
     int run(const GlobalOptions &options) override
     {
-        const QString left = decoded(m_left);
-        const QString right = decoded(m_right);
-        if (left == kStandardInput && right == kStandardInput)
-            return fail(left, {WrongUsage, 0, QStringLiteral("Standard input holds one workflow, not two.")},
+        if (m_left == kStandardInput && m_right == kStandardInput)
+            return fail(m_left,
+                        {WrongUsage, 0, QStringLiteral("Standard input holds one workflow, not two.")},
                         options);
-        const DocumentOrFailure a = readDocument(left);
+        const DocumentOrFailure a = readDocument(m_left);
         if (const auto *failure = std::get_if<Failure>(&a))
-            return fail(left, *failure, options);
-        const DocumentOrFailure b = readDocument(right);
+            return fail(m_left, *failure, options);
+        const DocumentOrFailure b = readDocument(m_right);
         if (const auto *failure = std::get_if<Failure>(&b))
-            return fail(right, *failure, options);
+            return fail(m_right, *failure, options);
         return compare(std::get<QJsonObject>(a), std::get<QJsonObject>(b), options);
     }
 
@@ -129,8 +128,8 @@ private:
                 {QStringLiteral("error"), error}};
     }
 
-    std::string m_left;
-    std::string m_right;
+    QString m_left;
+    QString m_right;
     bool m_strict = false;
 };
 

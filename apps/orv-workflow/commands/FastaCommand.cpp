@@ -1,11 +1,10 @@
+#include "../CommonArguments.h"
 #include "../Inputs.h"
 #include "../Output.h"
 #include "Command.h"
 
 #include <orv/propertyeditor/PropertiesGetter.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
-
-#include <CLI/CLI.hpp>
 
 namespace orv::cli {
 
@@ -14,11 +13,11 @@ namespace {
 class FastaCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        app.add_option("FILE", m_file, "Workflow file, portable workflow folder, or - for standard input")
-            ->required();
-        app.add_option("-o,--output", m_output, "Where to write (default: standard output)");
+        declareWorkflow(arguments, &m_file);
+        arguments.option("-o,--output", &m_output, "Where to write (default: standard output)",
+                         {.kind = ValueKind::File});
     }
 
     int run(const GlobalOptions &options) override
@@ -26,7 +25,7 @@ public:
         const std::optional<Failure> failure = write();
         if (!failure)
             return Done;
-        printFailure(failure->exitCode == BadOutput ? decoded(m_output) : decoded(m_file), *failure);
+        printFailure(failure->exitCode == BadOutput ? m_output : m_file, *failure);
         const int printed =
             options.json ? printJson(QJsonObject{{QStringLiteral("error"), orv::cli::toJson(*failure)}})
                          : Done;
@@ -36,14 +35,14 @@ public:
 private:
     [[nodiscard]] std::optional<Failure> write() const
     {
-        const DocumentOrFailure document = readDocument(decoded(m_file));
+        const DocumentOrFailure document = readDocument(m_file);
         if (const auto *failure = std::get_if<Failure>(&document))
             return *failure;
         const PropertiesGetter getter{PropertyEditorContent(std::get<QJsonObject>(document))};
         const QByteArray text = getter.fastaContent();
         if (text.isEmpty())
             return Failure{Negative, 0, reason(getter.warnings())};
-        return writeOutput(decoded(m_output), text);
+        return writeOutput(m_output, text);
     }
 
     static QString reason(const QStringList &warnings)
@@ -55,8 +54,8 @@ private:
                    : warnings.join(QLatin1Char(' '));
     }
 
-    std::string m_file;
-    std::string m_output = "-";
+    QString m_file;
+    QString m_output = kStandardInput;
 };
 
 } // namespace

@@ -11,8 +11,6 @@
 
 #include <QJsonDocument>
 
-#include <CLI/CLI.hpp>
-
 namespace orv::cli {
 
 namespace {
@@ -62,10 +60,11 @@ QString line(const KProperty &property)
 class GetCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        m_cell.declare(app);
-        app.add_option("NAME", m_names, "Names of properties (default: all)");
+        m_cell.declare(arguments);
+        arguments.positionals("NAME", &m_names, "Names of properties (default: all)",
+                              {.kind = ValueKind::Property});
     }
 
     int run(const GlobalOptions &options) override
@@ -80,7 +79,7 @@ public:
         printLosses(m_cell.file(), lost);
         // A set finds names in any case, and the output goes by the name as it stands.
         const QStringList keys = item->keys();
-        for (const QString &name : decoded(m_names)) {
+        for (const QString &name : m_names) {
             if (!keys.contains(name))
                 return fail({WrongUsage, 0, QStringLiteral("The cell has no property \"%1\".").arg(name)},
                             options);
@@ -98,9 +97,8 @@ private:
 
     [[nodiscard]] bool isWanted(const KProperty &property) const
     {
-        const QStringList names = decoded(m_names);
-        return names.isEmpty() ? !property.name().startsWith(':')
-                               : names.contains(QString::fromUtf8(property.name()));
+        return m_names.isEmpty() ? !property.name().startsWith(':')
+                                 : m_names.contains(QString::fromUtf8(property.name()));
     }
 
     /// Without an item the document has its members all the same.
@@ -144,7 +142,7 @@ private:
     }
 
     CellArgument m_cell;
-    std::vector<std::string> m_names;
+    QStringList m_names;
 };
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "../Batch.h"
+#include "../CommonArguments.h"
 #include "../Console.h"
 #include "../Inputs.h"
 #include "../Progress.h"
@@ -7,8 +8,6 @@
 
 #include <orv/core/SysUtils.h>
 #include <orv/propertyeditor/workflow/WorkflowSummary.h>
-
-#include <CLI/CLI.hpp>
 
 namespace orv::cli {
 
@@ -42,17 +41,15 @@ QJsonObject toJson(const Answer &answer)
 class InfoCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        app.add_option("FILE", m_files,
-                       "Workflow files, portable workflow folders, folders, or - for standard input")
-            ->required();
-        app.add_option("--jobs", m_jobs, "Threads (default: all cores)")->check(CLI::Range(1, 1024));
+        declareWorkflows(arguments, &m_files);
+        declareJobs(arguments, &m_jobs);
     }
 
     int run(const GlobalOptions &options) override
     {
-        const QList<BatchInput> inputs = batchInputs(decoded(m_files));
+        const QList<BatchInput> inputs = batchInputs(m_files);
         std::vector<Answer> answers(size_t(inputs.size()));
         {
             Progress progress(options.progress || standardErrorIsTerminal(), inputs.size());
@@ -89,7 +86,7 @@ private:
         return printText(texts.join(QLatin1Char('\n')));
     }
 
-    std::vector<std::string> m_files;
+    QStringList m_files;
     int m_jobs = SysUtils::cpuCoresNumber();
 };
 

@@ -4,8 +4,6 @@
 
 #include <orv/propertyeditor/workflow/NewWorkflow.h>
 
-#include <CLI/CLI.hpp>
-
 namespace orv::cli {
 
 namespace {
@@ -21,22 +19,22 @@ QStringList typeNames()
 class NewCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        app.add_option("--name", m_name, "The name of the workflow");
-        app.add_option("--cell", m_types, "The type of a cell; the option may be repeated")
-            ->allow_extra_args(false);
-        app.add_option("-o,--output", m_output, "Where to write; - for standard output")->required();
+        arguments.option("--name", &m_name, "The name of the workflow");
+        arguments.options("--cell", &m_types, "The type of a cell; the option may be repeated",
+                          {.kind = ValueKind::CellType});
+        arguments.option("-o,--output", &m_output, "Where to write; - for standard output",
+                         {.isRequired = true, .kind = ValueKind::File});
     }
 
     int run(const GlobalOptions &options) override
     {
         const std::optional<Failure> failure = make();
         if (failure)
-            printFailure(failure->exitCode == BadOutput ? decoded(m_output) : QStringLiteral("--cell"),
-                         *failure);
+            printFailure(failure->exitCode == BadOutput ? m_output : QStringLiteral("--cell"), *failure);
         const int exitCode = failure ? failure->exitCode : Done;
-        const bool workflowIsPrinted = !failure && decoded(m_output) == kStandardInput;
+        const bool workflowIsPrinted = !failure && m_output == kStandardInput;
         const int printed = options.json && !workflowIsPrinted ? printJson(report(failure)) : Done;
         return std::max(exitCode, printed);
     }
@@ -46,7 +44,7 @@ private:
     {
         QList<BaseItemType> types;
         const QStringList names = typeNames();
-        for (const QString &name : decoded(m_types)) {
+        for (const QString &name : m_types) {
             const qsizetype index = names.indexOf(name);
             if (index < 0) {
                 return Failure{WrongUsage, 0,
@@ -55,18 +53,18 @@ private:
             }
             types.append(NewWorkflow::cellTypes().at(index));
         }
-        return writeOutput(decoded(m_output), NewWorkflow::make(decoded(m_name), types).toJson());
+        return writeOutput(m_output, NewWorkflow::make(m_name, types).toJson());
     }
 
     [[nodiscard]] QJsonObject report(const std::optional<Failure> &failure) const
     {
-        return {{QStringLiteral("output"), failure ? QJsonValue() : QJsonValue(decoded(m_output))},
+        return {{QStringLiteral("output"), failure ? QJsonValue() : QJsonValue(m_output)},
                 {QStringLiteral("error"), failure ? QJsonValue(orv::cli::toJson(*failure)) : QJsonValue()}};
     }
 
-    std::string m_name;
-    std::vector<std::string> m_types;
-    std::string m_output;
+    QString m_name;
+    QStringList m_types;
+    QString m_output;
 };
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "../CommonArguments.h"
 #include "../Console.h"
 #include "../Inputs.h"
 #include "../LoadedWorkflow.h"
@@ -11,8 +12,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-
-#include <CLI/CLI.hpp>
 
 namespace orv::cli {
 
@@ -74,12 +73,11 @@ private:
 class PortableCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        app.add_option("FILE", m_file, "Workflow file, portable workflow folder, or - for standard input")
-            ->required();
-        app.add_option("-o,--output", m_folder, "The folder to write; .wflwp is added where it lacks")
-            ->required();
+        declareWorkflow(arguments, &m_file);
+        arguments.option("-o,--output", &m_folder, "The folder to write; .wflwp is added where it lacks",
+                         {.isRequired = true, .kind = ValueKind::Folder});
     }
 
     int run(const GlobalOptions &options) override
@@ -88,7 +86,7 @@ public:
         QStringList copied;
         const std::optional<Failure> failure = save(folder, options, copied);
         if (failure)
-            printFailure(failure->exitCode == BadOutput ? folder : decoded(m_file), *failure);
+            printFailure(failure->exitCode == BadOutput ? folder : m_file, *failure);
         const int exitCode = failure ? failure->exitCode : Done;
         if (options.json)
             return std::max(exitCode, printJson(report(folder, copied, failure)));
@@ -98,7 +96,7 @@ public:
 private:
     [[nodiscard]] QString targetFolder() const
     {
-        QString folder = decoded(m_folder);
+        QString folder = m_folder;
         while (folder.size() > 1 && folder.endsWith(QLatin1Char('/')))
             folder.chop(1);
         return WflwUtils::isMirelPortableWorkflow(folder) ? folder : folder + kPortableSuffix;
@@ -107,17 +105,16 @@ private:
     std::optional<Failure> save(const QString &folder, const GlobalOptions &options,
                                 QStringList &copied) const
     {
-        const QString file = decoded(m_file);
-        const auto loaded = loadWorkflow(file);
+        const auto loaded = loadWorkflow(m_file);
         if (const auto *failure = std::get_if<Failure>(&loaded))
             return *failure;
         const auto &workflow = std::get<LoadedWorkflow>(loaded);
-        printLosses(file, workflow.lost);
+        printLosses(m_file, workflow.lost);
         if (std::optional<Failure> refusal = refuseToWipe(folder, *workflow.content))
             return refusal;
         QString error;
         SaveProgress progress(options.progress || standardErrorIsTerminal());
-        const bool isSaved = WflwUtils::saveAsPortableWorkflow(*workflow.content, folder, folderUrlOf(file),
+        const bool isSaved = WflwUtils::saveAsPortableWorkflow(*workflow.content, folder, folderUrlOf(m_file),
                                                                &error, &progress);
         copied = progress.names();
         if (isSaved)
@@ -132,9 +129,8 @@ private:
                                                       const PropertyEditor::Content &content) const
     {
         const QString target = realPath(folder);
-        const QString file = decoded(m_file);
-        const QUrl base = folderUrlOf(file);
-        if (file != kStandardInput) {
+        const QUrl base = folderUrlOf(m_file);
+        if (m_file != kStandardInput) {
             const QString home = realPath(base.toLocalFile());
             const bool isInside = WflwUtils::isMirelPortableWorkflow(home) && isOrHolds(home, target);
             if (isOrHolds(target, home) || isInside)
@@ -174,8 +170,8 @@ private:
         return lines;
     }
 
-    std::string m_file;
-    std::string m_folder;
+    QString m_file;
+    QString m_folder;
 };
 
 } // namespace

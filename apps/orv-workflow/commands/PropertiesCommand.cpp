@@ -13,8 +13,6 @@
 #include <QJsonDocument>
 #include <QMetaEnum>
 
-#include <CLI/CLI.hpp>
-
 namespace orv::cli {
 
 namespace {
@@ -146,15 +144,16 @@ QString details(PropertyId id, const PropertyFeatures &features)
 class PropertiesCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        app.add_option("PROPERTY", m_properties, "Numbers or names of properties (default: all)");
+        arguments.positionals("PROPERTY", &m_properties, "Numbers or names of properties (default: all)",
+                              {.kind = ValueKind::Property});
     }
 
     int run(const GlobalOptions &options) override
     {
         QList<PropertyId> ids;
-        for (const QString &argument : decoded(m_properties)) {
+        for (const QString &argument : m_properties) {
             const PropertyId id = propertyFor(argument);
             if (id == PropertyId::NoProperty) {
                 printRemark(argument,
@@ -187,7 +186,7 @@ private:
         return text;
     }
 
-    std::vector<std::string> m_properties;
+    QStringList m_properties;
 };
 
 } // namespace

@@ -4,8 +4,6 @@
 
 #include <orv/propertyeditor/engine/PreviewPreset.h>
 
-#include <CLI/CLI.hpp>
-
 namespace orv::cli {
 
 namespace {
@@ -54,19 +52,19 @@ QJsonObject toJson(const PreviewPreset::Content &content)
 class ReadPrvCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        app.add_option("PATH", m_path, "Parameter file of the preview engine")->required();
+        arguments.positional("PATH", &m_path, "Parameter file of the preview engine",
+                             {.isRequired = true, .kind = ValueKind::File});
     }
 
     int run(const GlobalOptions &options) override
     {
-        const QString path = decoded(m_path);
-        const Result<PreviewPreset::Content> content = PreviewPreset::Content::fromPreviewPresetFile(path);
+        const Result<PreviewPreset::Content> content = PreviewPreset::Content::fromPreviewPresetFile(m_path);
         if (!content.hasError())
             return options.json ? printJson(toJson(*content)) : printText(toText(*content));
         const Failure failure = failureFrom(content.error(), BadInput);
-        printFailure(path, failure);
+        printFailure(m_path, failure);
         const int printed = options.json
                                 ? printJson(QJsonObject{{QStringLiteral("error"), orv::cli::toJson(failure)}})
                                 : Done;
@@ -74,7 +72,7 @@ public:
     }
 
 private:
-    std::string m_path;
+    QString m_path;
 };
 
 } // namespace

@@ -11,8 +11,6 @@
 
 #include <QJsonDocument>
 
-#include <CLI/CLI.hpp>
-
 #include <map>
 
 namespace orv::cli {
@@ -76,15 +74,15 @@ QJsonObject document(const Properties &properties, const std::optional<Failure> 
 class ReadXenosetCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        app.add_option("PATH", m_path, "Parameter file of the search engine")->required();
+        arguments.positional("PATH", &m_path, "Parameter file of the search engine",
+                             {.isRequired = true, .kind = ValueKind::File});
     }
 
     int run(const GlobalOptions &options) override
     {
-        const QString path = decoded(m_path);
-        const Result<XenosetPreset> preset = XenosetPreset::fromFile(path);
+        const Result<XenosetPreset> preset = XenosetPreset::fromFile(m_path);
         if (preset.hasError())
             return report(nullptr, failureFrom(preset.error(), BadInput), options);
         std::unique_ptr<KPropertySet> set;
@@ -104,14 +102,14 @@ private:
                const GlobalOptions &options) const
     {
         if (failure)
-            printFailure(decoded(m_path), *failure);
+            printFailure(m_path, *failure);
         const Properties properties = set ? byId(*set) : Properties();
         const int printed =
             options.json ? printJson(document(properties, failure)) : printText(toText(properties));
         return std::max<int>(failure ? failure->exitCode : Done, printed);
     }
 
-    std::string m_path;
+    QString m_path;
 };
 
 } // namespace

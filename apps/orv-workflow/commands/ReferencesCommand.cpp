@@ -1,3 +1,4 @@
+#include "../CommonArguments.h"
 #include "../Console.h"
 #include "../Inputs.h"
 #include "../LoadedWorkflow.h"
@@ -6,8 +7,6 @@
 
 #include <orv/resources/ResourceHandlerUtils.h>
 #include <orv/resources/ResourceReferenceUtils.h>
-
-#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <optional>
@@ -25,24 +24,23 @@ struct Finding
 class ReferencesCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        app.add_option("FILE", m_file, "Workflow file, portable workflow folder, or - for standard input")
-            ->required();
-        app.add_flag("--check", m_check,
-                     "Tell whether each is there; relative paths count from the workflow");
+        declareWorkflow(arguments, &m_file);
+        arguments.flag("--check", &m_check,
+                       "Tell whether each is there; relative paths count from the workflow");
     }
 
     int run(const GlobalOptions &options) override
     {
-        const auto loaded = loadWorkflow(decoded(m_file));
+        const auto loaded = loadWorkflow(m_file);
         if (const auto *failure = std::get_if<Failure>(&loaded)) {
-            printFailure(decoded(m_file), *failure);
+            printFailure(m_file, *failure);
             const int printed = options.json ? printJson(json({}, orv::cli::toJson(*failure))) : Done;
             return std::max<int>(failure->exitCode, printed);
         }
         const auto &workflow = std::get<LoadedWorkflow>(loaded);
-        printLosses(decoded(m_file), workflow.lost);
+        printLosses(m_file, workflow.lost);
         const QList<Finding> findings = findingsIn(*workflow.content);
         const bool isMissing = std::any_of(findings.begin(), findings.end(),
                                            [](const Finding &finding) { return finding.exists == false; });
@@ -53,7 +51,7 @@ public:
 private:
     [[nodiscard]] QList<Finding> findingsIn(const PropertyEditor::Content &content) const
     {
-        const QUrl folder = folderUrlOf(decoded(m_file));
+        const QUrl folder = folderUrlOf(m_file);
         QList<Finding> findings;
         for (const ResourceReferenceSPtr &reference : content.allReferences()) {
             Finding finding{reference, {}};
@@ -101,7 +99,7 @@ private:
                        : styled(QStringLiteral("missing"), Style::Bad);
     }
 
-    std::string m_file;
+    QString m_file;
     bool m_check = false;
 };
 

@@ -1,11 +1,10 @@
+#include "../CommonArguments.h"
 #include "../Console.h"
 #include "../Inputs.h"
 #include "Command.h"
 
 #include <orv/propertyeditor/PropertiesGetter.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
-
-#include <CLI/CLI.hpp>
 
 namespace orv::cli {
 
@@ -20,21 +19,19 @@ struct SampleNames
 class SamplesCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        app.add_option("FILE", m_file, "Workflow file, portable workflow folder, or - for standard input")
-            ->required();
-        app.add_option("--match", m_patterns,
-                       "Choose names by a pattern with *, ? and sets such as [12]; may be repeated")
-            ->take_all()
-            ->expected(1);
+        declareWorkflow(arguments, &m_file);
+        arguments.options("--match", &m_patterns,
+                          "Choose names by a pattern with *, ? and sets such as [12]; may be repeated",
+                          {.takesFollowing = true});
     }
 
     int run(const GlobalOptions &options) override
     {
-        const DocumentOrFailure document = readDocument(decoded(m_file));
+        const DocumentOrFailure document = readDocument(m_file);
         if (const auto *failure = std::get_if<Failure>(&document)) {
-            printFailure(decoded(m_file), *failure);
+            printFailure(m_file, *failure);
             const int printed = options.json ? printJson(json({}, orv::cli::toJson(*failure))) : Done;
             return std::max<int>(failure->exitCode, printed);
         }
@@ -45,8 +42,7 @@ public:
 private:
     [[nodiscard]] SampleNames namesIn(const QJsonObject &document) const
     {
-        const QStringList patterns =
-            m_patterns.empty() ? QStringList{QStringLiteral("*")} : decoded(m_patterns);
+        const QStringList patterns = m_patterns.isEmpty() ? QStringList{QStringLiteral("*")} : m_patterns;
         SampleNames names;
         for (const PropertiesGetter::CellData &cell :
              PropertiesGetter(PropertyEditorContent(document)).samples()) {
@@ -71,8 +67,8 @@ private:
         return lines;
     }
 
-    std::string m_file;
-    std::vector<std::string> m_patterns;
+    QString m_file;
+    QStringList m_patterns;
 };
 
 } // namespace

@@ -2,8 +2,6 @@
 
 #include <orv/propertyeditor/workflow/WorkflowSchema.h>
 
-#include <CLI/CLI.hpp>
-
 namespace orv::cli {
 
 namespace {
@@ -11,7 +9,7 @@ namespace {
 class SchemaCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override { Q_UNUSED(app) }
+    void declare(Arguments &arguments) override { Q_UNUSED(arguments) }
 
     int run(const GlobalOptions &options) override
     {

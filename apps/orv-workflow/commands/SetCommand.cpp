@@ -12,8 +12,6 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 
-#include <CLI/CLI.hpp>
-
 namespace orv::cli {
 
 namespace {
@@ -30,20 +28,22 @@ struct Assignment
 class SetCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        m_cell.declare(app);
-        app.add_option("NAME=VALUE", m_assignments, "Properties with their new values")->required();
-        app.add_option("-o,--output", m_output, "Where to write; - for standard output")->required();
+        m_cell.declare(arguments);
+        arguments.positionals("NAME=VALUE", &m_assignments, "Properties with their new values",
+                              {.isRequired = true});
+        arguments.option("-o,--output", &m_output, "Where to write; - for standard output",
+                         {.isRequired = true, .kind = ValueKind::File});
     }
 
     int run(const GlobalOptions &options) override
     {
         const std::optional<Failure> failure = change();
         if (failure)
-            printFailure(failure->exitCode == BadOutput ? decoded(m_output) : m_cell.file(), *failure);
+            printFailure(failure->exitCode == BadOutput ? m_output : m_cell.file(), *failure);
         int exitCode = failure ? failure->exitCode : Done;
-        const bool workflowIsPrinted = !failure && decoded(m_output) == kStandardInput;
+        const bool workflowIsPrinted = !failure && m_output == kStandardInput;
         if (options.json && !workflowIsPrinted)
             exitCode = std::max(exitCode, printJson(report(failure)));
         return exitCode;
@@ -84,7 +84,7 @@ private:
     std::optional<Failure> assignAll(const QJsonObject &document, KeyValueItem *item)
     {
         const auto mode = WflwMetaData::contentMode(PropertyEditorContent(document).metadata());
-        for (const QString &argument : decoded(m_assignments)) {
+        for (const QString &argument : m_assignments) {
             const qsizetype end = argument.indexOf(QLatin1Char('='));
             if (end <= 0)
                 return Failure{WrongUsage, 0,
@@ -115,19 +115,19 @@ private:
 
     [[nodiscard]] std::optional<Failure> write(const QJsonObject &document) const
     {
-        return writeOutput(decoded(m_output), QJsonDocument(document).toJson());
+        return writeOutput(m_output, QJsonDocument(document).toJson());
     }
 
     [[nodiscard]] QJsonObject report(const std::optional<Failure> &failure) const
     {
-        return {{QStringLiteral("output"), failure ? QJsonValue() : QJsonValue(decoded(m_output))},
+        return {{QStringLiteral("output"), failure ? QJsonValue() : QJsonValue(m_output)},
                 {QStringLiteral("changed"), failure ? QJsonArray() : QJsonArray::fromStringList(m_changed)},
                 {QStringLiteral("error"), failure ? QJsonValue(orv::cli::toJson(*failure)) : QJsonValue()}};
     }
 
     CellArgument m_cell;
-    std::vector<std::string> m_assignments;
-    std::string m_output;
+    QStringList m_assignments;
+    QString m_output;
     QStringList m_changed;
 };
 

@@ -9,8 +9,6 @@
 
 #include <QJsonDocument>
 
-#include <CLI/CLI.hpp>
-
 namespace orv::cli {
 
 namespace {
@@ -83,12 +81,12 @@ QByteArray toCsv(const QList<QStringList> &rows)
 class TableCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        m_cell.declare(app);
-        app.add_option("--table", m_table, "One of several tables in the cell, by its name");
-        app.add_flag("--csv", m_csv,
-                     "Write comma-separated text (RFC 4180), of the first table or the one named");
+        m_cell.declare(arguments);
+        arguments.option("--table", &m_table, "One of several tables in the cell, by its name");
+        arguments.flag("--csv", &m_csv,
+                       "Write comma-separated text (RFC 4180), of the first table or the one named");
     }
 
     int run(const GlobalOptions &options) override
@@ -118,20 +116,20 @@ private:
                            QStringLiteral("The cell of type \"%1\" holds no table.")
                                .arg(cell.value(PropertyEditorStringConstants::TYPE_KEY).toString())};
         }
-        return m_table.empty() ? *tables : named(*tables);
+        return m_table.isEmpty() ? *tables : named(*tables);
     }
 
     [[nodiscard]] std::variant<QList<CellTable>, Failure> named(const QList<CellTable> &tables) const
     {
         QStringList names;
         for (const CellTable &table : tables) {
-            if (table.name == decoded(m_table))
+            if (table.name == m_table)
                 return QList<CellTable>{table};
             names.append(table.name);
         }
         return Failure{WrongUsage, 0,
                        QStringLiteral("The cell has no table \"%1\". There is: %2.")
-                           .arg(decoded(m_table), names.join(QLatin1String(", ")))};
+                           .arg(m_table, names.join(QLatin1String(", ")))};
     }
 
     int fail(const Failure &failure, const GlobalOptions &options) const
@@ -185,7 +183,7 @@ private:
     }
 
     CellArgument m_cell;
-    std::string m_table;
+    QString m_table;
     bool m_csv = false;
 };
 

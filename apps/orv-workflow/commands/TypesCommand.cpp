@@ -50,7 +50,7 @@ QString toText(const QString &heading, const QList<NumberedName> &list)
 class TypesCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override { Q_UNUSED(app) }
+    void declare(Arguments &arguments) override { Q_UNUSED(arguments) }
 
     int run(const GlobalOptions &options) override
     {

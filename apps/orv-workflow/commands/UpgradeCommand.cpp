@@ -1,4 +1,5 @@
 #include "../Batch.h"
+#include "../CommonArguments.h"
 #include "../Console.h"
 #include "../OrderedReports.h"
 #include "../Progress.h"
@@ -9,8 +10,6 @@
 #include <orv/core/SysUtils.h>
 
 #include <QJsonDocument>
-
-#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <atomic>
@@ -29,28 +28,27 @@ void raise(std::atomic<int> *exitCode, int code)
 class UpgradeCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        app.add_option("FILE", m_files,
-                       "Workflow files, portable workflow folders, folders, or - for standard input")
-            ->required();
-        app.add_option("-o,--output", m_output,
-                       "Where to write: a file, - for standard output, or a folder for several");
-        app.add_flag("--in-place", m_inPlace, "Write each upgraded workflow over itself");
-        app.add_flag("--dry-run", m_dryRun, "Tell what would be done, and write nothing");
-        app.add_flag("--backup", m_backup, "With --in-place, keep each replaced workflow as FILE.bak");
-        app.add_flag("--no-sample-data", m_noSampleData, "Leave out the steps that open the samples' files");
-        app.add_option("--user", m_user, "The name to stamp with (default: the current user)");
-        app.add_option("--jobs", m_jobs, "Threads (default: all cores)")->check(CLI::Range(1, 1024));
+        declareWorkflows(arguments, &m_files);
+        arguments.option("-o,--output", &m_output,
+                         "Where to write: a file, - for standard output, or a folder for several",
+                         {.kind = ValueKind::File});
+        arguments.flag("--in-place", &m_inPlace, "Write each upgraded workflow over itself");
+        arguments.flag("--dry-run", &m_dryRun, "Tell what would be done, and write nothing");
+        arguments.flag("--backup", &m_backup, "With --in-place, keep each replaced workflow as FILE.bak");
+        arguments.flag("--no-sample-data", &m_noSampleData,
+                       "Leave out the steps that open the samples' files");
+        arguments.option("--user", &m_user, "The name to stamp with (default: the current user)");
+        declareJobs(arguments, &m_jobs);
     }
 
     int run(const GlobalOptions &options) override
     {
         if (!isUsedWell())
             return WrongUsage;
-        const QStringList arguments = decoded(m_files);
-        const QList<BatchInput> inputs = batchInputs(arguments);
-        const UpgradeOutputs outputs = upgradeOutputs(arguments, inputs, target());
+        const QList<BatchInput> inputs = batchInputs(m_files);
+        const UpgradeOutputs outputs = upgradeOutputs(m_files, inputs, target());
         if (outputs.failure) {
             printFailure(outputs.failedFile, *outputs.failure);
             return outputs.failure->exitCode;
@@ -61,7 +59,7 @@ public:
 private:
     [[nodiscard]] bool isUsedWell() const
     {
-        const int targets = int(!m_output.empty()) + int(m_inPlace) + int(m_dryRun);
+        const int targets = int(!m_output.isEmpty()) + int(m_inPlace) + int(m_dryRun);
         if (targets != 1) {
             printRemark(QStringLiteral("upgrade"),
                         QStringLiteral("Say where to write: one of -o OUT, --in-place and --dry-run."));
@@ -81,7 +79,7 @@ private:
             target.kind = UpgradeTarget::Kind::InPlace;
         else if (!m_dryRun)
             target.kind = UpgradeTarget::Kind::Output;
-        target.output = decoded(m_output);
+        target.output = m_output;
         target.keepsBackup = m_backup;
         return target;
     }
@@ -111,8 +109,7 @@ private:
 
     [[nodiscard]] FileReport upgradeOne(const BatchInput &input, const QString &output, bool isJson) const
     {
-        UpgradeAnswer answer =
-            upgradeWorkflow(input, {.accessSampleData = !m_noSampleData, .user = decoded(m_user)});
+        UpgradeAnswer answer = upgradeWorkflow(input, {.accessSampleData = !m_noSampleData, .user = m_user});
         UpgradeWritten written;
         QString failedFile = input.file;
         if (!answer.failure && !output.isEmpty()) {
@@ -140,9 +137,9 @@ private:
         return {};
     }
 
-    std::vector<std::string> m_files;
-    std::string m_output;
-    std::string m_user;
+    QStringList m_files;
+    QString m_output;
+    QString m_user;
     bool m_inPlace = false;
     bool m_dryRun = false;
     bool m_backup = false;

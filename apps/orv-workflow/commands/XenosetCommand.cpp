@@ -1,5 +1,6 @@
 #include "../Batch.h"
 #include "../ColumnChoice.h"
+#include "../CommonArguments.h"
 #include "../Console.h"
 #include "../Inputs.h"
 #include "../Losses.h"
@@ -13,8 +14,6 @@
 
 #include <QDir>
 #include <QHash>
-
-#include <CLI/CLI.hpp>
 
 namespace orv::cli {
 
@@ -74,33 +73,33 @@ std::optional<Failure> clash(const Files &files)
 class XenosetCommand : public Command
 {
 public:
-    void declare(CLI::App &app) override
+    void declare(Arguments &arguments) override
     {
-        app.add_option("FILE", m_file, "Workflow file, portable workflow folder, or - for standard input")
-            ->required();
-        CLI::Option *sample = app.add_option("--sample", m_sample, "Write the file of this sample");
-        CLI::Option *all = app.add_flag("--all", m_all, "Write a file for every sample");
-        sample->excludes(all);
-        app.add_option("--database", m_database, "Sequence database that the files name (default: none)");
-        m_columns.declare(app);
-        app.add_option("-o,--output", m_output,
-                       "File to write (default: standard output), or with --all the folder");
-        app.add_option("--jobs", m_jobs, "Threads (default: all cores)")->check(CLI::Range(1, 1024));
+        declareWorkflow(arguments, &m_file);
+        arguments.option("--sample", &m_sample, "Write the file of this sample",
+                         {.excludes = {QStringLiteral("--all")}});
+        arguments.flag("--all", &m_all, "Write a file for every sample");
+        arguments.option("--database", &m_database, "Sequence database that the files name (default: none)",
+                         {.kind = ValueKind::File});
+        m_columns.declare(arguments);
+        arguments.option("-o,--output", &m_output,
+                         "File to write (default: standard output), or with --all the folder",
+                         {.kind = ValueKind::File});
+        declareJobs(arguments, &m_jobs);
     }
 
     int run(const GlobalOptions &options) override
     {
-        if (m_sample.empty() != m_all ||
-            (m_all && (m_output.empty() || decoded(m_output) == kStandardInput))) {
+        if (m_sample.isEmpty() != m_all || (m_all && (m_output.isEmpty() || m_output == kStandardInput))) {
             printRemark(QStringLiteral("xenoset"),
                         QStringLiteral("Give --sample NAME, or --all with -o FOLDER."));
             return WrongUsage;
         }
-        const auto workflow = loadResolvedWorkflow(decoded(m_file));
+        const auto workflow = loadResolvedWorkflow(m_file);
         if (const auto *failure = std::get_if<Failure>(&workflow))
             return report({}, *failure, options);
         const auto &loaded = std::get<LoadedWorkflow>(workflow);
-        printLosses(decoded(m_file), loaded.lost);
+        printLosses(m_file, loaded.lost);
         auto files = m_all ? filesOfAll(loaded) : fileOfOne(loaded);
         if (const auto *failure = std::get_if<Failure>(&files))
             return report({}, *failure, options);
@@ -129,9 +128,8 @@ private:
                                           "with --tab and --column, or write all with --all.")
                                .arg(found.size())};
         }
-        const QString output = decoded(m_output);
-        const QString path = output == kStandardInput ? QString() : output;
-        return Files{{decoded(m_sample), found.first().column, creatorOf(workflow, found.first()), path, {}}};
+        const QString path = m_output == kStandardInput ? QString() : m_output;
+        return Files{{m_sample, found.first().column, creatorOf(workflow, found.first()), path, {}}};
     }
 
     [[nodiscard]] FilesOrFailure filesOfAll(const LoadedWorkflow &workflow) const
@@ -143,7 +141,7 @@ private:
         if (samples.isEmpty())
             return Failure{Negative, 0, QStringLiteral("The workflow has no samples.")};
         const auto &found = std::get<QList<ChosenCell>>(cells);
-        const QDir folder(decoded(m_output));
+        const QDir folder(m_output);
         Files files;
         for (const ChosenCell &cell : found) {
             const auto creator = creatorOf(workflow, cell);
@@ -164,13 +162,12 @@ private:
 
     void make(Files &files, const GlobalOptions &options) const
     {
-        const QString database = decoded(m_database);
         Progress progress(options.progress || standardErrorIsTerminal(), qsizetype(files.size()));
         runBatch(qsizetype(files.size()), m_jobs, progress, [&](qsizetype i) {
             ParameterFile &file = files[size_t(i)];
             if (const Result<QString> spectra = file.creator->spectraFileOf(file.sample))
                 file.spectraFile = *spectra;
-            file.text = file.creator->presetForSpectra(file.spectraFile.value_or(QString()), database);
+            file.text = file.creator->presetForSpectra(file.spectraFile.value_or(QString()), m_database);
             if (file.path.isEmpty())
                 return;
             file.failure = writeReproducibleOutput(file.path, file.text);
@@ -180,11 +177,11 @@ private:
 
     [[nodiscard]] std::optional<Failure> missingSample(const PropertyEditor::Content &content) const
     {
-        if (m_all || content.sampleNames().contains(decoded(m_sample)))
+        if (m_all || content.sampleNames().contains(m_sample))
             return {};
-        return Failure{Negative, 0,
-                       QStringLiteral("The workflow has no sample \"%1\"; its file names no spectra.")
-                           .arg(decoded(m_sample))};
+        return Failure{
+            Negative, 0,
+            QStringLiteral("The workflow has no sample \"%1\"; its file names no spectra.").arg(m_sample)};
     }
 
     /// What can't be searched, as its spectra aren't here.
@@ -200,7 +197,7 @@ private:
         const bool areMany = missing.size() > kNamedSamples;
         const QString names = missing.first(qMin(missing.size(), kNamedSamples)).join(QLatin1String(", "));
         printRemark(
-            decoded(m_file),
+            m_file,
             QStringLiteral("The spectra of %1 can't be reached from here; the key SpectraFiles is empty.")
                 .arg(areMany ? QStringLiteral("%1 and %2 more samples")
                                    .arg(names)
@@ -210,11 +207,10 @@ private:
 
     int report(const Files &files, const std::optional<Failure> &failure, const GlobalOptions &options) const
     {
-        const QString source = decoded(m_file);
         int exitCode = failure ? failure->exitCode : Done;
         std::optional<Failure> first = failure;
         if (failure)
-            printFailure(source, *failure);
+            printFailure(m_file, *failure);
         else
             remarkMissingSpectra(files);
         QJsonArray array;
@@ -241,13 +237,13 @@ private:
             return printBytes(files.front().text);
         if (!m_all || written == 0)
             return Done;
-        return printText(QStringLiteral("%1 parameter files in %2\n").arg(written).arg(decoded(m_output)));
+        return printText(QStringLiteral("%1 parameter files in %2\n").arg(written).arg(m_output));
     }
 
-    std::string m_file;
-    std::string m_sample;
-    std::string m_database;
-    std::string m_output;
+    QString m_file;
+    QString m_sample;
+    QString m_database;
+    QString m_output;
     ColumnChoice m_columns;
     int m_jobs = SysUtils::cpuCoresNumber();
     bool m_all = false;
