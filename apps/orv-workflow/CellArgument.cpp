@@ -19,19 +19,17 @@ QString CellArgument::file() const
     return m_file;
 }
 
-std::variant<FoundCell, Failure> CellArgument::find() const
+Outcome<FoundCell> CellArgument::find() const
 {
-    DocumentOrFailure document = readDocument(file());
-    if (const auto *failure = std::get_if<Failure>(&document))
-        return *failure;
-    QJsonObject json = std::move(std::get<QJsonObject>(document));
-    const Result<CellPlace> place = CellPlace::find(json, m_tab, m_column, m_row);
+    const Outcome<QJsonObject> document = readDocument(file());
+    if (document.hasFailed())
+        return document.failure();
+    const Result<CellPlace> place = CellPlace::find(*document, m_tab, m_column, m_row);
     if (place.hasError()) {
         const bool isBroken = place.error().code() == ErrorCode::MalformedStructure;
         return failureFrom(place.error(), isBroken ? BadInput : WrongUsage);
     }
-    QJsonObject cell = place->cellIn(json);
-    return FoundCell{std::move(json), *place, std::move(cell)};
+    return FoundCell{*document, *place, place->cellIn(*document)};
 }
 
 } // namespace orv::cli

@@ -1,13 +1,11 @@
 #pragma once
 
 #include "Arguments.h"
-#include "Failure.h"
+#include "Outcome.h"
 
 #include <orv/propertyeditor/content/CellPlace.h>
 
 #include <QJsonObject>
-
-#include <variant>
 
 namespace orv::cli {
 
@@ -26,7 +24,7 @@ public:
     void declare(Arguments &arguments);
     [[nodiscard]] QString file() const;
     /// The cell, or why there is none: an unreadable file, or wrong usage.
-    [[nodiscard]] std::variant<FoundCell, Failure> find() const;
+    [[nodiscard]] Outcome<FoundCell> find() const;
 
 private:
     QString m_file;

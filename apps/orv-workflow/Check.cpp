@@ -26,7 +26,7 @@ struct Checked
     QList<Loss> lost;
 };
 
-std::variant<Content, Failure> absoluteCopy(Content &content, const QUrl &baseUrl)
+Outcome<Content> absoluteCopy(Content &content, const QUrl &baseUrl)
 {
     content.setBaseUrl(baseUrl);
     const QJsonObject json = content.toJsonObject(PropertyConversionFlag::AbsolutePaths);
@@ -37,25 +37,24 @@ std::variant<Content, Failure> absoluteCopy(Content &content, const QUrl &baseUr
     return copy;
 }
 
-std::variant<Checked, Failure> read(const QString &file, const QUrl &baseUrl)
+Outcome<Checked> read(const QString &file, const QUrl &baseUrl)
 {
-    auto text = readText(file);
-    if (const auto *failure = std::get_if<Failure>(&text))
-        return *failure;
-    auto loaded = loadWorkflow(std::get<FileText>(text).document);
-    if (const auto *failure = std::get_if<Failure>(&loaded))
-        return *failure;
-    auto &workflow = std::get<LoadedWorkflow>(loaded);
-    if (const std::optional<QString> tab = unevenTab(*workflow.content)) {
+    Outcome<FileText> text = readText(file);
+    if (text.hasFailed())
+        return text.failure();
+    const Outcome<LoadedWorkflow> workflow = loadWorkflow(text->document);
+    if (workflow.hasFailed())
+        return workflow.failure();
+    if (const std::optional<QString> tab = unevenTab(*workflow->content)) {
         return Failure{BadInput, int(ErrorCode::MalformedStructure),
                        QStringLiteral("The columns of the tab \"%1\" differ in height, and a tab is a "
                                       "rectangle. Add the missing cells or remove the others.")
                            .arg(*tab)};
     }
-    auto copy = absoluteCopy(*workflow.content, baseUrl);
-    if (const auto *failure = std::get_if<Failure>(&copy))
-        return *failure;
-    return Checked{std::get<FileText>(std::move(text)), std::get<Content>(copy), workflow.lost};
+    const Outcome<Content> copy = absoluteCopy(*workflow->content, baseUrl);
+    if (copy.hasFailed())
+        return copy.failure();
+    return Checked{*std::move(text), *copy, workflow->lost};
 }
 
 QList<LocatedFinding> located(const QList<Finding> &findings, const Checked &checked)
@@ -100,11 +99,11 @@ CheckAnswer checkWorkflow(const BatchInput &input, const CheckOptions &options)
     if (input.failure)
         return {.file = input.file, .failure = input.failure};
     const QUrl baseUrl = options.baseUrl.value_or(folderUrlOf(input.file));
-    const auto read = cli::read(input.file, baseUrl);
-    if (const auto *failure = std::get_if<Failure>(&read))
-        return {.file = input.file, .failure = *failure};
+    const Outcome<Checked> read = cli::read(input.file, baseUrl);
+    if (read.hasFailed())
+        return {.file = input.file, .failure = read.failure()};
 
-    const auto &checked = std::get<Checked>(read);
+    const Checked &checked = *read;
     ContentValidator validator;
     for (const QString &name : validatorsOf(options))
         validator.installValidator(Validators::create(name).release());

@@ -49,8 +49,8 @@ void ColumnChoice::declare(Arguments &arguments)
                      {.needs = {QStringLiteral("--tab")}});
 }
 
-std::variant<QList<ChosenCell>, Failure> ColumnChoice::cells(const LoadedWorkflow &workflow,
-                                                             const QSet<BaseItemType> &types) const
+Outcome<QList<ChosenCell>> ColumnChoice::cells(const LoadedWorkflow &workflow,
+                                               const QSet<BaseItemType> &types) const
 {
     if (m_tab.isEmpty()) {
         const QList<ChosenCell> cells = allCells(workflow, types);

@@ -24,8 +24,8 @@ public:
 
     /// The chosen cells of these types, in tree order. Wrong usage for a place that there isn't, and a
     /// negative answer where the workflow or the place holds no such cell.
-    [[nodiscard]] std::variant<QList<ChosenCell>, Failure> cells(const LoadedWorkflow &workflow,
-                                                                 const QSet<BaseItemType> &types) const;
+    [[nodiscard]] Outcome<QList<ChosenCell>> cells(const LoadedWorkflow &workflow,
+                                                   const QSet<BaseItemType> &types) const;
 
 private:
     QString m_tab;

@@ -41,6 +41,11 @@ QJsonObject toJson(const Failure &failure)
     return {{QStringLiteral("code"), failure.errorCode}, {QStringLiteral("message"), failure.message}};
 }
 
+QJsonValue errorJson(const std::optional<Failure> &failure)
+{
+    return failure ? QJsonValue(toJson(*failure)) : QJsonValue();
+}
+
 void printRemark(const QString &file, const QString &text)
 {
     const QString line =

@@ -8,6 +8,8 @@
 #include <QJsonValue>
 #include <QString>
 
+#include <optional>
+
 namespace orv::cli {
 
 /// Why a call, or one file of a batch, ended without doing its work.
@@ -23,6 +25,8 @@ struct Failure
 
 /// {"code", "message"}
 [[nodiscard]] QJsonObject toJson(const Failure &failure);
+/// The same, or null where nothing failed.
+[[nodiscard]] QJsonValue errorJson(const std::optional<Failure> &failure);
 
 /// Prints "orv-workflow: FILE: reason" to standard error.
 void printFailure(const QString &file, const Failure &failure);

@@ -70,7 +70,7 @@ QUrl folderUrlOf(const QString &argument)
     return QUrl::fromLocalFile(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'));
 }
 
-std::variant<FileText, Failure> readText(const QString &argument)
+Outcome<FileText> readText(const QString &argument)
 {
     const Result<QByteArray> bytes = readBytes(argument);
     if (bytes.hasError())
@@ -86,12 +86,12 @@ std::variant<FileText, Failure> readText(const QString &argument)
     return FileText{*bytes, *document};
 }
 
-DocumentOrFailure readDocument(const QString &argument)
+Outcome<QJsonObject> readDocument(const QString &argument)
 {
-    auto text = readText(argument);
-    if (const auto *failure = std::get_if<Failure>(&text))
-        return *failure;
-    return std::get<FileText>(std::move(text)).document;
+    const Outcome<FileText> text = readText(argument);
+    if (text.hasFailed())
+        return text.failure();
+    return text->document;
 }
 
 QList<BatchInput> batchInputs(const QStringList &arguments)

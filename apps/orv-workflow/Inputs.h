@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Failure.h"
+#include "Outcome.h"
 
 #include <QByteArray>
 #include <QJsonObject>
@@ -9,12 +9,8 @@
 #include <QUrl>
 
 #include <optional>
-#include <variant>
 
 namespace orv::cli {
-
-/// A document that was read and parsed, or why it could not be.
-using DocumentOrFailure = std::variant<QJsonObject, Failure>;
 
 /// The path of standard input.
 inline constexpr QLatin1String kStandardInput("-");
@@ -34,10 +30,10 @@ struct FileText
 };
 
 /// As readDocument, for those who tell places in the text.
-[[nodiscard]] std::variant<FileText, Failure> readText(const QString &argument);
+[[nodiscard]] Outcome<FileText> readText(const QString &argument);
 
 /// The JSON object of a workflow: from a file, a portable folder or standard input.
-[[nodiscard]] DocumentOrFailure readDocument(const QString &argument);
+[[nodiscard]] Outcome<QJsonObject> readDocument(const QString &argument);
 
 /// One input of a batch, or an argument that names none.
 struct BatchInput

@@ -23,15 +23,15 @@ void resolveSamples(const QUrl &folder, Content *content)
 
 } // namespace
 
-std::variant<LoadedWorkflow, Failure> loadWorkflow(const QString &argument)
+Outcome<LoadedWorkflow> loadWorkflow(const QString &argument)
 {
-    const DocumentOrFailure document = readDocument(argument);
-    if (const auto *failure = std::get_if<Failure>(&document))
-        return *failure;
-    return loadWorkflow(std::get<QJsonObject>(document));
+    const Outcome<QJsonObject> document = readDocument(argument);
+    if (document.hasFailed())
+        return document.failure();
+    return loadWorkflow(*document);
 }
 
-std::variant<LoadedWorkflow, Failure> loadWorkflow(const QJsonObject &document)
+Outcome<LoadedWorkflow> loadWorkflow(const QJsonObject &document)
 {
     LoadedWorkflow workflow{document, std::make_unique<Content>(), {}};
     LossCollector losses;
@@ -57,16 +57,16 @@ std::optional<QString> unevenTab(const Content &content)
     return {};
 }
 
-std::variant<LoadedWorkflow, Failure> loadResolvedWorkflow(const QString &argument)
+Outcome<LoadedWorkflow> loadResolvedWorkflow(const QString &argument)
 {
-    std::variant<LoadedWorkflow, Failure> loaded = loadWorkflow(argument);
-    if (auto *workflow = std::get_if<LoadedWorkflow>(&loaded)) {
-        const QUrl folder = folderUrlOf(argument);
-        workflow->content->setBaseUrl(folder);
-        resolveSamples(folder, workflow->content.get());
-        PropertyEditorUtils::updateGlycanDatabasesToAbsolute(workflow->content.get(), folder);
-    }
-    return loaded;
+    Outcome<LoadedWorkflow> workflow = loadWorkflow(argument);
+    if (workflow.hasFailed())
+        return workflow;
+    const QUrl folder = folderUrlOf(argument);
+    workflow->content->setBaseUrl(folder);
+    resolveSamples(folder, workflow->content.get());
+    PropertyEditorUtils::updateGlycanDatabasesToAbsolute(workflow->content.get(), folder);
+    return workflow;
 }
 
 } // namespace orv::cli

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Failure.h"
+#include "Outcome.h"
 
 #include <orv/core/LossObserver.h>
 #include <orv/propertyeditor/content/Content.h>
@@ -11,7 +11,6 @@
 
 #include <memory>
 #include <optional>
-#include <variant>
 
 namespace orv::cli {
 
@@ -24,13 +23,13 @@ struct LoadedWorkflow
 };
 
 /// The workflow that a FILE argument means as it is stored, cells of unknown types included.
-[[nodiscard]] std::variant<LoadedWorkflow, Failure> loadWorkflow(const QString &argument);
+[[nodiscard]] Outcome<LoadedWorkflow> loadWorkflow(const QString &argument);
 
-[[nodiscard]] std::variant<LoadedWorkflow, Failure> loadWorkflow(const QJsonObject &document);
+[[nodiscard]] Outcome<LoadedWorkflow> loadWorkflow(const QJsonObject &document);
 
 /// The same with its samples' files and its glycan databases taken from its own folder where their paths are
 /// relative, and that folder as base URL.
-[[nodiscard]] std::variant<LoadedWorkflow, Failure> loadResolvedWorkflow(const QString &argument);
+[[nodiscard]] Outcome<LoadedWorkflow> loadResolvedWorkflow(const QString &argument);
 
 /// The name of the first tab that would be written empty, as one of its columns is shorter than its first.
 [[nodiscard]] std::optional<QString> unevenTab(const PropertyEditor::Content &content);

@@ -9,7 +9,7 @@ namespace orv::cli {
 
 namespace {
 
-std::optional<Failure> failureOf(QFileDevice::FileError error, const QString &deviceError)
+Outcome<void> outcomeOf(QFileDevice::FileError error, const QString &deviceError)
 {
     if (error == QFileDevice::NoError)
         return {};
@@ -19,7 +19,7 @@ std::optional<Failure> failureOf(QFileDevice::FileError error, const QString &de
 
 } // namespace
 
-std::optional<Failure> writeOutput(const QString &output, const QByteArray &bytes)
+Outcome<void> writeOutput(const QString &output, const QByteArray &bytes)
 {
     if (output == kStandardInput) {
         if (writeStandardOutput(bytes))
@@ -27,13 +27,13 @@ std::optional<Failure> writeOutput(const QString &output, const QByteArray &byte
         return Failure{BadOutput, 0, QStringLiteral("The standard output can't be written.")};
     }
     QString deviceError;
-    return failureOf(FileUtils::writeToFile(output, bytes, &deviceError), deviceError);
+    return outcomeOf(FileUtils::writeToFile(output, bytes, &deviceError), deviceError);
 }
 
-std::optional<Failure> writeReproducibleOutput(const QString &path, const QByteArray &bytes)
+Outcome<void> writeReproducibleOutput(const QString &path, const QByteArray &bytes)
 {
     QString deviceError;
-    return failureOf(FileUtils::writeReproducibleFile(path, bytes, &deviceError), deviceError);
+    return outcomeOf(FileUtils::writeReproducibleFile(path, bytes, &deviceError), deviceError);
 }
 
 } // namespace orv::cli

@@ -8,7 +8,7 @@ using namespace PropertyEditorStringConstants;
 using PropertyEditor::KeyValueItem;
 using PropertyEditor::LoadContext;
 
-std::variant<SettingsCell, Failure> settingsOf(const FoundCell &found)
+Outcome<SettingsCell> settingsOf(const FoundCell &found)
 {
     const BaseItemType type = baseItemTypeFromString(found.cell.value(TYPE_KEY).toString());
     if (type == BaseItemType::Unknown || !KeyValueItem::holds(type)) {

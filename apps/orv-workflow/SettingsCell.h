@@ -6,7 +6,6 @@
 #include <orv/propertyeditor/content/KeyValueItem.h>
 
 #include <memory>
-#include <variant>
 
 namespace orv::cli {
 
@@ -18,6 +17,6 @@ struct SettingsCell
 };
 
 /// The found cell as settings; a cell of another kind is a negative answer.
-[[nodiscard]] std::variant<SettingsCell, Failure> settingsOf(const FoundCell &found);
+[[nodiscard]] Outcome<SettingsCell> settingsOf(const FoundCell &found);
 
 } // namespace orv::cli

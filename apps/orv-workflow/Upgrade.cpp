@@ -163,12 +163,12 @@ UpgradeAnswer upgradeWorkflow(const BatchInput &input, const UpgradeOptions &opt
     answer.failure = input.failure;
     if (answer.failure)
         return answer;
-    auto read = readText(input.file);
-    if (const auto *failure = std::get_if<Failure>(&read)) {
-        answer.failure = *failure;
+    const Outcome<FileText> read = readText(input.file);
+    if (read.hasFailed()) {
+        answer.failure = read.failure();
         return answer;
     }
-    const auto &[bytes, document] = std::get<FileText>(read);
+    const auto &[bytes, document] = *read;
     answer.original = bytes;
     answer.upgraded = bytes;
     PropertyEditorContent content(document);

@@ -87,7 +87,7 @@ UpgradeOutputs upgradeOutputs(const QStringList &arguments, const QList<BatchInp
     return result;
 }
 
-std::optional<Failure> writeUpgraded(const QString &output, const QByteArray &bytes)
+Outcome<void> writeUpgraded(const QString &output, const QByteArray &bytes)
 {
     if (output != kStandardInput && !QDir().mkpath(QFileInfo(output).absolutePath())) {
         return Failure{BadOutput, int(ErrorCode::CannotOpenFile),
@@ -96,22 +96,21 @@ std::optional<Failure> writeUpgraded(const QString &output, const QByteArray &by
     return writeOutput(output, bytes);
 }
 
-std::optional<Failure> keepBackup(const QString &file, const QByteArray &bytes, QString *backup)
+Outcome<QString> keepBackup(const QString &file, const QByteArray &bytes)
 {
     const QFileInfo info(file);
     const QString wanted = info.absoluteFilePath() + QLatin1String(".bak");
     QStringList reserved;
     const QString path = FileNameUtils::generateUniqueDestination(wanted, info.absolutePath(), reserved);
-    if (std::optional<Failure> failure = writeOutput(path, bytes))
-        return failure;
+    if (const Outcome<void> written = writeOutput(path, bytes); written.hasFailed())
+        return written.failure();
     const Result<QByteArray> readBack = FileUtils::readFile(path);
     if (readBack.hasError() || *readBack != bytes) {
         return Failure{BadOutput, int(ErrorCode::CannotOpenFile),
                        QStringLiteral("The backup \"%1\" can't be read back; the document was left as it is.")
                            .arg(path)};
     }
-    *backup = path;
-    return {};
+    return path;
 }
 
 } // namespace orv::cli

@@ -41,10 +41,9 @@ struct UpgradeOutputs
                                             const UpgradeTarget &target);
 
 /// Writes a document whole or not at all, with the folders that it needs.
-[[nodiscard]] std::optional<Failure> writeUpgraded(const QString &output, const QByteArray &bytes);
+[[nodiscard]] Outcome<void> writeUpgraded(const QString &output, const QByteArray &bytes);
 
 /// Keeps \a bytes beside \a file under a name that is free, and reads them back; the name, or why not.
-[[nodiscard]] std::optional<Failure> keepBackup(const QString &file, const QByteArray &bytes,
-                                                QString *backup);
+[[nodiscard]] Outcome<QString> keepBackup(const QString &file, const QByteArray &bytes);
 
 } // namespace orv::cli

@@ -1,10 +1,10 @@
 #include "Command.h"
 
 #include "Console.h"
-#include "ExitCode.h"
-#include "Failure.h"
 
 #include <QJsonDocument>
+
+#include <algorithm>
 
 namespace orv::cli {
 
@@ -82,6 +82,14 @@ const std::vector<CommandRow> &commandRows()
          createTypesCommand},
     };
     return rows;
+}
+
+int printFailedCall(const QString &file, const Failure &failure, const QJsonObject &document,
+                    const GlobalOptions &options)
+{
+    printFailure(file, failure);
+    const int printed = options.json ? printJson(document) : Done;
+    return std::max<int>(failure.exitCode, printed);
 }
 
 int printJson(const QJsonObject &object)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "../Arguments.h"
+#include "../Failure.h"
 
 #include <QByteArray>
 #include <QJsonArray>
@@ -69,6 +70,10 @@ std::unique_ptr<Command> createXenosetCommand();
 std::unique_ptr<Command> createReadXenosetCommand();
 std::unique_ptr<Command> createPrvCommand();
 std::unique_ptr<Command> createReadPrvCommand();
+
+/// Prints why the call failed and, with --json, the document that tells it; the exit code.
+[[nodiscard]] int printFailedCall(const QString &file, const Failure &failure, const QJsonObject &document,
+                                  const GlobalOptions &options);
 
 /// Prints a JSON document; Done, or BadOutput when standard output fails.
 [[nodiscard]] int printJson(const QJsonObject &object);

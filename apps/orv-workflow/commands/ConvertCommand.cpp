@@ -24,7 +24,7 @@ using PropertyEditor::Content;
 /// The content mode of old documents, which the object form passes over and the value form takes up.
 constexpr QLatin1String kLegacyModePath("/projectCreationMode");
 
-struct Outcome
+struct Conversion
 {
     QList<Loss> lost;
     std::optional<Failure> failure;
@@ -60,38 +60,37 @@ public:
             printRemark(QStringLiteral("--user"), QStringLiteral("The option needs --stamp."));
             return WrongUsage;
         }
-        const Outcome outcome = convert();
-        int exitCode = outcome.failure ? outcome.failure->exitCode : Done;
+        const Conversion conversion = convert();
+        int exitCode = conversion.failure ? conversion.failure->exitCode : Done;
         // Standard output holds one document: the workflow or, where none was written, the report.
         const bool workflowIsPrinted =
             m_output == kStandardInput && exitCode != BadInput && exitCode != Negative;
         if (options.json && !workflowIsPrinted)
-            exitCode = std::max(exitCode, printJson(toJson(outcome)));
+            exitCode = std::max(exitCode, printJson(toJson(conversion)));
         else
-            printLosses(m_file, outcome.lost);
-        if (outcome.failure)
-            printFailure(outcome.failure->exitCode == BadOutput ? m_output : m_file, *outcome.failure);
+            printLosses(m_file, conversion.lost);
+        if (conversion.failure)
+            printFailure(conversion.failure->exitCode == BadOutput ? m_output : m_file, *conversion.failure);
         return exitCode;
     }
 
 private:
-    Outcome convert() const
+    [[nodiscard]] Conversion convert() const
     {
-        DocumentOrFailure document = readDocument(m_file);
-        if (const auto *failure = std::get_if<Failure>(&document))
-            return {{}, *failure};
-        const QJsonObject &json = std::get<QJsonObject>(document);
-        if (const std::optional<Failure> refusal = refuseToOverwriteNewer(json))
-            return {{}, refusal};
+        const Outcome<QJsonObject> document = readDocument(m_file);
+        if (document.hasFailed())
+            return {{}, document.failure()};
+        if (const Outcome<void> allowed = refuseToOverwriteNewer(*document); allowed.hasFailed())
+            return {{}, allowed.failure()};
 
         Content content;
         QList<Loss> lost;
-        const Error error = load(json, content, lost);
+        const Error error = load(*document, content, lost);
         if (error.hasError())
             return {lost, failureFrom(error, BadInput)};
         if (const std::optional<QString> tab = unevenTab(content))
             return {lost, unevenFailure(*tab)};
-        return {lost, write(content)};
+        return {lost, write(content).failureIfAny()};
     }
 
     Error load(const QJsonObject &json, Content &content, QList<Loss> &lost) const
@@ -113,7 +112,7 @@ private:
     }
 
     /// A document of a newer format may hold what this version doesn't know.
-    [[nodiscard]] std::optional<Failure> refuseToOverwriteNewer(const QJsonObject &json) const
+    [[nodiscard]] Outcome<void> refuseToOverwriteNewer(const QJsonObject &json) const
     {
         const PropertyEditorContent content(json);
         const QVersionNumber version = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());
@@ -141,7 +140,7 @@ private:
                     .arg(tab)};
     }
 
-    std::optional<Failure> write(Content &content) const
+    Outcome<void> write(Content &content) const
     {
         auto flag = PropertyEditor::PropertyConversionFlag::KeepPaths;
         if (m_absolutePaths) {
@@ -151,13 +150,12 @@ private:
         return writeOutput(m_output, content.toJson(flag));
     }
 
-    [[nodiscard]] QJsonObject toJson(const Outcome &outcome) const
+    [[nodiscard]] QJsonObject toJson(const Conversion &conversion) const
     {
         return {{QStringLiteral("file"), m_file},
-                {QStringLiteral("output"), outcome.failure ? QJsonValue() : QJsonValue(m_output)},
-                {QStringLiteral("lost"), orv::cli::toJson(outcome.lost)},
-                {QStringLiteral("error"),
-                 outcome.failure ? QJsonValue(orv::cli::toJson(*outcome.failure)) : QJsonValue()}};
+                {QStringLiteral("output"), conversion.failure ? QJsonValue() : QJsonValue(m_output)},
+                {QStringLiteral("lost"), orv::cli::toJson(conversion.lost)},
+                {QStringLiteral("error"), errorJson(conversion.failure)}};
     }
 
     QString m_file;

@@ -49,7 +49,7 @@ QJsonObject toJson(const Answer &answer)
 {
     return {{QStringLiteral("path"), answer.path},
             {QStringLiteral("formats"), QJsonArray::fromStringList(answer.formats)},
-            {QStringLiteral("error"), answer.failure ? QJsonValue(toJson(*answer.failure)) : QJsonValue()}};
+            {QStringLiteral("error"), errorJson(answer.failure)}};
 }
 
 class DetectCommand : public Command

@@ -89,13 +89,13 @@ public:
             return fail(m_left,
                         {WrongUsage, 0, QStringLiteral("Standard input holds one workflow, not two.")},
                         options);
-        const DocumentOrFailure a = readDocument(m_left);
-        if (const auto *failure = std::get_if<Failure>(&a))
-            return fail(m_left, *failure, options);
-        const DocumentOrFailure b = readDocument(m_right);
-        if (const auto *failure = std::get_if<Failure>(&b))
-            return fail(m_right, *failure, options);
-        return compare(std::get<QJsonObject>(a), std::get<QJsonObject>(b), options);
+        const Outcome<QJsonObject> left = readDocument(m_left);
+        if (left.hasFailed())
+            return fail(m_left, left.failure(), options);
+        const Outcome<QJsonObject> right = readDocument(m_right);
+        if (right.hasFailed())
+            return fail(m_right, right.failure(), options);
+        return compare(*left, *right, options);
     }
 
 private:
@@ -111,10 +111,7 @@ private:
 
     static int fail(const QString &file, const Failure &failure, const GlobalOptions &options)
     {
-        printFailure(file, failure);
-        const int printed =
-            options.json ? printJson(report(QJsonValue(), {}, orv::cli::toJson(failure))) : Done;
-        return std::max<int>(failure.exitCode, printed);
+        return printFailedCall(file, failure, report(QJsonValue(), {}, orv::cli::toJson(failure)), options);
     }
 
     static QJsonObject report(const QJsonValue &equal, const QList<WorkflowDifference> &differences,

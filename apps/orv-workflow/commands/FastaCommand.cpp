@@ -22,23 +22,21 @@ public:
 
     int run(const GlobalOptions &options) override
     {
-        const std::optional<Failure> failure = write();
-        if (!failure)
+        const Outcome<void> written = write();
+        if (!written.hasFailed())
             return Done;
-        printFailure(failure->exitCode == BadOutput ? m_output : m_file, *failure);
-        const int printed =
-            options.json ? printJson(QJsonObject{{QStringLiteral("error"), orv::cli::toJson(*failure)}})
-                         : Done;
-        return std::max<int>(failure->exitCode, printed);
+        const Failure &failure = written.failure();
+        return printFailedCall(failure.exitCode == BadOutput ? m_output : m_file, failure,
+                               {{QStringLiteral("error"), toJson(failure)}}, options);
     }
 
 private:
-    [[nodiscard]] std::optional<Failure> write() const
+    [[nodiscard]] Outcome<void> write() const
     {
-        const DocumentOrFailure document = readDocument(m_file);
-        if (const auto *failure = std::get_if<Failure>(&document))
-            return *failure;
-        const PropertiesGetter getter{PropertyEditorContent(std::get<QJsonObject>(document))};
+        const Outcome<QJsonObject> document = readDocument(m_file);
+        if (document.hasFailed())
+            return document.failure();
+        const PropertiesGetter getter{PropertyEditorContent(*document)};
         const QByteArray text = getter.fastaContent();
         if (text.isEmpty())
             return Failure{Negative, 0, reason(getter.warnings())};

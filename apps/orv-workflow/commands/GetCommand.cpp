@@ -69,13 +69,13 @@ public:
 
     int run(const GlobalOptions &options) override
     {
-        const auto found = m_cell.find();
-        if (const auto *failure = std::get_if<Failure>(&found))
-            return fail(*failure, options);
-        const auto settings = settingsOf(std::get<FoundCell>(found));
-        if (const auto *failure = std::get_if<Failure>(&settings))
-            return fail(*failure, options);
-        const auto &[item, lost] = std::get<SettingsCell>(settings);
+        const Outcome<FoundCell> found = m_cell.find();
+        if (found.hasFailed())
+            return fail(found.failure(), options);
+        const Outcome<SettingsCell> settings = settingsOf(*found);
+        if (settings.hasFailed())
+            return fail(settings.failure(), options);
+        const auto &[item, lost] = *settings;
         printLosses(m_cell.file(), lost);
         // A set finds names in any case, and the output goes by the name as it stands.
         const QStringList keys = item->keys();
@@ -90,9 +90,7 @@ public:
 private:
     int fail(const Failure &failure, const GlobalOptions &options) const
     {
-        printFailure(m_cell.file(), failure);
-        const int printed = options.json ? printJson(document({}, {}, failure)) : Done;
-        return std::max<int>(failure.exitCode, printed);
+        return printFailedCall(m_cell.file(), failure, document({}, {}, failure), options);
     }
 
     [[nodiscard]] bool isWanted(const KProperty &property) const
@@ -110,7 +108,7 @@ private:
                 {QStringLiteral("name"), textOr(item ? item->name() : QString())},
                 {QStringLiteral("title"), textOr(item ? item->title() : QString())},
                 {QStringLiteral("properties"), properties},
-                {QStringLiteral("error"), failure ? QJsonValue(orv::cli::toJson(*failure)) : QJsonValue()}};
+                {QStringLiteral("error"), errorJson(failure)}};
     }
 
     [[nodiscard]] QJsonObject toJson(const PropertyEditor::KeyValueItem &item) const

@@ -24,17 +24,17 @@ Answer answerFor(const BatchInput &input)
 {
     if (input.failure)
         return {input.file, {}, input.failure};
-    const DocumentOrFailure document = readDocument(input.file);
-    if (const auto *failure = std::get_if<Failure>(&document))
-        return {input.file, {}, *failure};
-    return {input.file, WorkflowSummary::of(PropertyEditorContent(std::get<QJsonObject>(document))), {}};
+    const Outcome<QJsonObject> document = readDocument(input.file);
+    if (document.hasFailed())
+        return {input.file, {}, document.failure()};
+    return {input.file, WorkflowSummary::of(PropertyEditorContent(*document)), {}};
 }
 
 QJsonObject toJson(const Answer &answer)
 {
     QJsonObject json = answer.summary ? summaryToJson(*answer.summary) : emptySummaryJson();
     json.insert(QStringLiteral("file"), answer.file);
-    json.insert(QStringLiteral("error"), answer.failure ? QJsonValue(toJson(*answer.failure)) : QJsonValue());
+    json.insert(QStringLiteral("error"), errorJson(answer.failure));
     return json;
 }
 

@@ -30,7 +30,8 @@ public:
 
     int run(const GlobalOptions &options) override
     {
-        const std::optional<Failure> failure = make();
+        const Outcome<void> made = make();
+        const std::optional<Failure> &failure = made.failureIfAny();
         if (failure)
             printFailure(failure->exitCode == BadOutput ? m_output : QStringLiteral("--cell"), *failure);
         const int exitCode = failure ? failure->exitCode : Done;
@@ -40,7 +41,7 @@ public:
     }
 
 private:
-    [[nodiscard]] std::optional<Failure> make() const
+    [[nodiscard]] Outcome<void> make() const
     {
         QList<BaseItemType> types;
         const QStringList names = typeNames();
@@ -59,7 +60,7 @@ private:
     [[nodiscard]] QJsonObject report(const std::optional<Failure> &failure) const
     {
         return {{QStringLiteral("output"), failure ? QJsonValue() : QJsonValue(m_output)},
-                {QStringLiteral("error"), failure ? QJsonValue(orv::cli::toJson(*failure)) : QJsonValue()}};
+                {QStringLiteral("error"), errorJson(failure)}};
     }
 
     QString m_name;

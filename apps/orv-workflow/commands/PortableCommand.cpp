@@ -84,7 +84,8 @@ public:
     {
         const QString folder = targetFolder();
         QStringList copied;
-        const std::optional<Failure> failure = save(folder, options, copied);
+        const Outcome<void> saved = save(folder, options, copied);
+        const std::optional<Failure> &failure = saved.failureIfAny();
         if (failure)
             printFailure(failure->exitCode == BadOutput ? folder : m_file, *failure);
         const int exitCode = failure ? failure->exitCode : Done;
@@ -102,20 +103,18 @@ private:
         return WflwUtils::isMirelPortableWorkflow(folder) ? folder : folder + kPortableSuffix;
     }
 
-    std::optional<Failure> save(const QString &folder, const GlobalOptions &options,
-                                QStringList &copied) const
+    Outcome<void> save(const QString &folder, const GlobalOptions &options, QStringList &copied) const
     {
-        const auto loaded = loadWorkflow(m_file);
-        if (const auto *failure = std::get_if<Failure>(&loaded))
-            return *failure;
-        const auto &workflow = std::get<LoadedWorkflow>(loaded);
-        printLosses(m_file, workflow.lost);
-        if (std::optional<Failure> refusal = refuseToWipe(folder, *workflow.content))
-            return refusal;
+        const Outcome<LoadedWorkflow> workflow = loadWorkflow(m_file);
+        if (workflow.hasFailed())
+            return workflow.failure();
+        printLosses(m_file, workflow->lost);
+        if (const Outcome<void> allowed = refuseToWipe(folder, *workflow->content); allowed.hasFailed())
+            return allowed.failure();
         QString error;
         SaveProgress progress(options.progress || standardErrorIsTerminal());
-        const bool isSaved = WflwUtils::saveAsPortableWorkflow(*workflow.content, folder, folderUrlOf(m_file),
-                                                               &error, &progress);
+        const bool isSaved = WflwUtils::saveAsPortableWorkflow(*workflow->content, folder,
+                                                               folderUrlOf(m_file), &error, &progress);
         copied = progress.names();
         if (isSaved)
             return {};
@@ -125,8 +124,8 @@ private:
     }
 
     /// The save removes what stands at its target: not the workflow itself, nor a file that it refers to.
-    [[nodiscard]] std::optional<Failure> refuseToWipe(const QString &folder,
-                                                      const PropertyEditor::Content &content) const
+    [[nodiscard]] Outcome<void> refuseToWipe(const QString &folder,
+                                             const PropertyEditor::Content &content) const
     {
         const QString target = realPath(folder);
         const QUrl base = folderUrlOf(m_file);
@@ -159,7 +158,7 @@ private:
         return {{QStringLiteral("folder"), failure ? QJsonValue() : QJsonValue(folder)},
                 {QStringLiteral("workflow"), failure ? QJsonValue() : QJsonValue(workflow)},
                 {QStringLiteral("copied"), QJsonArray::fromStringList(copied)},
-                {QStringLiteral("error"), failure ? QJsonValue(orv::cli::toJson(*failure)) : QJsonValue()}};
+                {QStringLiteral("error"), errorJson(failure)}};
     }
 
     static QString text(const QString &folder, const QStringList &copied)

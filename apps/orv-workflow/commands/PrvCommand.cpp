@@ -29,36 +29,32 @@ public:
 
     int run(const GlobalOptions &options) override
     {
-        const auto workflow = loadResolvedWorkflow(m_file);
-        if (const auto *failure = std::get_if<Failure>(&workflow))
-            return fail(m_file, *failure, options);
-        const auto &loaded = std::get<LoadedWorkflow>(workflow);
-        printLosses(m_file, loaded.lost);
-        const auto cells = m_columns.cells(loaded, {BaseItemType::Preview, BaseItemType::TrenqPreview});
-        if (const auto *failure = std::get_if<Failure>(&cells))
-            return fail(m_file, *failure, options);
-        const auto &found = std::get<QList<ChosenCell>>(cells);
-        if (found.size() > 1) {
+        const Outcome<LoadedWorkflow> workflow = loadResolvedWorkflow(m_file);
+        if (workflow.hasFailed())
+            return fail(m_file, workflow.failure(), options);
+        printLosses(m_file, workflow->lost);
+        const Outcome<QList<ChosenCell>> cells =
+            m_columns.cells(*workflow, {BaseItemType::Preview, BaseItemType::TrenqPreview});
+        if (cells.hasFailed())
+            return fail(m_file, cells.failure(), options);
+        if (cells->size() > 1) {
             printRemark(m_file,
                         QStringLiteral("The workflow has %1 previews; this is the one of the column \"%2\". "
                                        "Choose another with --tab and --column.")
-                            .arg(found.size())
-                            .arg(found.first().column));
+                            .arg(cells->size())
+                            .arg(cells->first().column));
         }
-        const QByteArray text = textOf(*found.first().item).toUtf8();
+        const QByteArray text = textOf(*cells->first().item).toUtf8();
         if (m_output.isEmpty())
             return printBytes(text);
-        const std::optional<Failure> failure = writeOutput(m_output, text);
-        return failure ? fail(m_output, *failure, options) : Done;
+        const Outcome<void> written = writeOutput(m_output, text);
+        return written.hasFailed() ? fail(m_output, written.failure(), options) : Done;
     }
 
 private:
     static int fail(const QString &file, const Failure &failure, const GlobalOptions &options)
     {
-        printFailure(file, failure);
-        const int printed =
-            options.json ? printJson(QJsonObject{{QStringLiteral("error"), toJson(failure)}}) : Done;
-        return std::max<int>(failure.exitCode, printed);
+        return printFailedCall(file, failure, {{QStringLiteral("error"), toJson(failure)}}, options);
     }
 
     [[nodiscard]] QString textOf(const PropertyEditor::KeyValueItem &item) const

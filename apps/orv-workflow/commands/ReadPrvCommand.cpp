@@ -64,11 +64,8 @@ public:
         if (!content.hasError())
             return options.json ? printJson(toJson(*content)) : printText(toText(*content));
         const Failure failure = failureFrom(content.error(), BadInput);
-        printFailure(m_path, failure);
-        const int printed = options.json
-                                ? printJson(QJsonObject{{QStringLiteral("error"), orv::cli::toJson(failure)}})
-                                : Done;
-        return std::max<int>(failure.exitCode, printed);
+        return printFailedCall(m_path, failure, {{QStringLiteral("error"), orv::cli::toJson(failure)}},
+                               options);
     }
 
 private:

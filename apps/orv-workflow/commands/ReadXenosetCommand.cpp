@@ -67,8 +67,7 @@ QJsonObject document(const Properties &properties, const std::optional<Failure> 
                                  {QStringLiteral("name"), QString::fromUtf8(property->name())},
                                  {QStringLiteral("value"), valueOf(*property)}});
     }
-    return {{QStringLiteral("properties"), array},
-            {QStringLiteral("error"), failure ? QJsonValue(toJson(*failure)) : QJsonValue()}};
+    return {{QStringLiteral("properties"), array}, {QStringLiteral("error"), errorJson(failure)}};
 }
 
 class ReadXenosetCommand : public Command

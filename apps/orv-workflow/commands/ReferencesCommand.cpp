@@ -33,15 +33,11 @@ public:
 
     int run(const GlobalOptions &options) override
     {
-        const auto loaded = loadWorkflow(m_file);
-        if (const auto *failure = std::get_if<Failure>(&loaded)) {
-            printFailure(m_file, *failure);
-            const int printed = options.json ? printJson(json({}, orv::cli::toJson(*failure))) : Done;
-            return std::max<int>(failure->exitCode, printed);
-        }
-        const auto &workflow = std::get<LoadedWorkflow>(loaded);
-        printLosses(m_file, workflow.lost);
-        const QList<Finding> findings = findingsIn(*workflow.content);
+        const Outcome<LoadedWorkflow> workflow = loadWorkflow(m_file);
+        if (workflow.hasFailed())
+            return printFailedCall(m_file, workflow.failure(), json({}, toJson(workflow.failure())), options);
+        printLosses(m_file, workflow->lost);
+        const QList<Finding> findings = findingsIn(*workflow->content);
         const bool isMissing = std::any_of(findings.begin(), findings.end(),
                                            [](const Finding &finding) { return finding.exists == false; });
         const int printed = options.json ? printJson(json(findings, {})) : printText(text(findings));

@@ -29,13 +29,10 @@ public:
 
     int run(const GlobalOptions &options) override
     {
-        const DocumentOrFailure document = readDocument(m_file);
-        if (const auto *failure = std::get_if<Failure>(&document)) {
-            printFailure(m_file, *failure);
-            const int printed = options.json ? printJson(json({}, orv::cli::toJson(*failure))) : Done;
-            return std::max<int>(failure->exitCode, printed);
-        }
-        const SampleNames names = namesIn(std::get<QJsonObject>(document));
+        const Outcome<QJsonObject> document = readDocument(m_file);
+        if (document.hasFailed())
+            return printFailedCall(m_file, document.failure(), json({}, toJson(document.failure())), options);
+        const SampleNames names = namesIn(*document);
         return options.json ? printJson(json(names, {})) : printText(text(names.matching));
     }
 

@@ -39,7 +39,8 @@ public:
 
     int run(const GlobalOptions &options) override
     {
-        const std::optional<Failure> failure = change();
+        const Outcome<void> changed = change();
+        const std::optional<Failure> &failure = changed.failureIfAny();
         if (failure)
             printFailure(failure->exitCode == BadOutput ? m_output : m_cell.file(), *failure);
         int exitCode = failure ? failure->exitCode : Done;
@@ -50,26 +51,25 @@ public:
     }
 
 private:
-    std::optional<Failure> change()
+    Outcome<void> change()
     {
-        const auto found = m_cell.find();
-        if (const auto *failure = std::get_if<Failure>(&found))
-            return *failure;
-        const auto &cell = std::get<FoundCell>(found);
-        if (std::optional<Failure> refusal = refuseNewer(cell.document))
-            return refusal;
-        const auto settings = settingsOf(cell);
-        if (const auto *failure = std::get_if<Failure>(&settings))
-            return *failure;
-        const auto &[item, lost] = std::get<SettingsCell>(settings);
+        const Outcome<FoundCell> cell = m_cell.find();
+        if (cell.hasFailed())
+            return cell.failure();
+        if (const Outcome<void> allowed = refuseNewer(cell->document); allowed.hasFailed())
+            return allowed.failure();
+        const Outcome<SettingsCell> settings = settingsOf(*cell);
+        if (settings.hasFailed())
+            return settings.failure();
+        const auto &[item, lost] = *settings;
         printLosses(m_cell.file(), lost);
-        if (std::optional<Failure> failure = assignAll(cell.document, item.get()))
-            return failure;
-        return write(cell.place.replacedIn(cell.document, item->toJson(PropertyConversionFlag::KeepPaths)));
+        if (const Outcome<void> assigned = assignAll(cell->document, item.get()); assigned.hasFailed())
+            return assigned.failure();
+        return write(cell->place.replacedIn(cell->document, item->toJson(PropertyConversionFlag::KeepPaths)));
     }
 
     /// A document of a newer format may hold in this cell what this version doesn't know.
-    static std::optional<Failure> refuseNewer(const QJsonObject &document)
+    static Outcome<void> refuseNewer(const QJsonObject &document)
     {
         const PropertyEditorContent content(document);
         const QVersionNumber version = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());
@@ -81,7 +81,7 @@ private:
                            .arg(version.toString())};
     }
 
-    std::optional<Failure> assignAll(const QJsonObject &document, KeyValueItem *item)
+    Outcome<void> assignAll(const QJsonObject &document, KeyValueItem *item)
     {
         const auto mode = WflwMetaData::contentMode(PropertyEditorContent(document).metadata());
         for (const QString &argument : m_assignments) {
@@ -89,14 +89,15 @@ private:
             if (end <= 0)
                 return Failure{WrongUsage, 0,
                                QStringLiteral("\"%1\" is not of the form NAME=VALUE.").arg(argument)};
-            if (auto failure = assign({argument.left(end), argument.mid(end + 1)}, mode, item))
-                return failure;
+            const Outcome<void> assigned = assign({argument.left(end), argument.mid(end + 1)}, mode, item);
+            if (assigned.hasFailed())
+                return assigned.failure();
         }
         return {};
     }
 
-    std::optional<Failure> assign(const Assignment &assignment, PropertyEditorContent::ContentMode mode,
-                                  KeyValueItem *item)
+    Outcome<void> assign(const Assignment &assignment, PropertyEditorContent::ContentMode mode,
+                         KeyValueItem *item)
     {
         const PropertyId id = PropertiesNames::findPropertyForName(assignment.name);
         const QString key = PropertiesNames::internalNameForType(id);
@@ -113,7 +114,7 @@ private:
         return {};
     }
 
-    [[nodiscard]] std::optional<Failure> write(const QJsonObject &document) const
+    [[nodiscard]] Outcome<void> write(const QJsonObject &document) const
     {
         return writeOutput(m_output, QJsonDocument(document).toJson());
     }
@@ -122,7 +123,7 @@ private:
     {
         return {{QStringLiteral("output"), failure ? QJsonValue() : QJsonValue(m_output)},
                 {QStringLiteral("changed"), failure ? QJsonArray() : QJsonArray::fromStringList(m_changed)},
-                {QStringLiteral("error"), failure ? QJsonValue(orv::cli::toJson(*failure)) : QJsonValue()}};
+                {QStringLiteral("error"), errorJson(failure)}};
     }
 
     CellArgument m_cell;

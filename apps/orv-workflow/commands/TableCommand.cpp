@@ -91,35 +91,35 @@ public:
 
     int run(const GlobalOptions &options) override
     {
-        const auto found = tables();
-        if (const auto *failure = std::get_if<Failure>(&found))
-            return fail(*failure, options);
-        const auto &tables = std::get<QList<CellTable>>(found);
+        const Outcome<QList<CellTable>> tables = chosenTables();
+        if (tables.hasFailed())
+            return fail(tables.failure(), options);
         if (m_csv)
-            return printBytes(toCsv(textsOf(tables.constFirst().table)));
-        return options.json ? printJson(json(tables)) : printText(text(tables));
+            return printBytes(toCsv(textsOf(tables->constFirst().table)));
+        return options.json ? printJson(json(*tables)) : printText(text(*tables));
     }
 
 private:
     /// At least one.
-    [[nodiscard]] std::variant<QList<CellTable>, Failure> tables() const
+    [[nodiscard]] Outcome<QList<CellTable>> chosenTables() const
     {
-        const auto found = m_cell.find();
-        if (const auto *failure = std::get_if<Failure>(&found))
-            return *failure;
-        const QJsonObject &cell = std::get<FoundCell>(found).cell;
-        const Result<QList<CellTable>> tables = cellTables(cell);
+        const Outcome<FoundCell> found = m_cell.find();
+        if (found.hasFailed())
+            return found.failure();
+        const Result<QList<CellTable>> tables = cellTables(found->cell);
         if (tables.hasError())
             return failureFrom(tables.error(), BadInput);
         if (tables->isEmpty()) {
             return Failure{Negative, 0,
                            QStringLiteral("The cell of type \"%1\" holds no table.")
-                               .arg(cell.value(PropertyEditorStringConstants::TYPE_KEY).toString())};
+                               .arg(found->cell.value(PropertyEditorStringConstants::TYPE_KEY).toString())};
         }
-        return m_table.isEmpty() ? *tables : named(*tables);
+        if (m_table.isEmpty())
+            return *tables;
+        return named(*tables);
     }
 
-    [[nodiscard]] std::variant<QList<CellTable>, Failure> named(const QList<CellTable> &tables) const
+    [[nodiscard]] Outcome<QList<CellTable>> named(const QList<CellTable> &tables) const
     {
         QStringList names;
         for (const CellTable &table : tables) {
@@ -134,9 +134,8 @@ private:
 
     int fail(const Failure &failure, const GlobalOptions &options) const
     {
-        printFailure(m_cell.file(), failure);
-        const int printed = options.json ? printJson(document({}, {}, {}, orv::cli::toJson(failure))) : Done;
-        return std::max<int>(failure.exitCode, printed);
+        return printFailedCall(m_cell.file(), failure, document({}, {}, {}, orv::cli::toJson(failure)),
+                               options);
     }
 
     static QJsonObject document(const QJsonArray &columns, const QJsonArray &rows, const QJsonArray &tables,

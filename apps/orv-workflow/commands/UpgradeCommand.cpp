@@ -113,7 +113,7 @@ private:
         UpgradeWritten written;
         QString failedFile = input.file;
         if (!answer.failure && !output.isEmpty()) {
-            answer.failure = write(answer, output, &written);
+            answer.failure = write(answer, output, &written).failureIfAny();
             if (answer.failure)
                 failedFile = output;
         }
@@ -122,17 +122,19 @@ private:
         return {text, failedFile, answer.lost, answer.failure};
     }
 
-    [[nodiscard]] std::optional<Failure> write(const UpgradeAnswer &answer, const QString &output,
-                                               UpgradeWritten *written) const
+    [[nodiscard]] Outcome<void> write(const UpgradeAnswer &answer, const QString &output,
+                                      UpgradeWritten *written) const
     {
         if (m_inPlace && !answer.isChanged)
             return {};
         if (m_backup) {
-            if (std::optional<Failure> failure = keepBackup(output, answer.original, &written->backup))
-                return failure;
+            const Outcome<QString> backup = keepBackup(output, answer.original);
+            if (backup.hasFailed())
+                return backup.failure();
+            written->backup = *backup;
         }
-        if (std::optional<Failure> failure = writeUpgraded(output, answer.upgraded))
-            return failure;
+        if (const Outcome<void> done = writeUpgraded(output, answer.upgraded); done.hasFailed())
+            return done.failure();
         written->output = output;
         return {};
     }

@@ -44,14 +44,14 @@ QJsonObject toJson(const ParameterFile &file)
         {QStringLiteral("column"), file.column},
         {QStringLiteral("path"), file.path.isEmpty() || file.failure ? QJsonValue() : QJsonValue(file.path)},
         {QStringLiteral("spectraFile"), file.spectraFile ? QJsonValue(*file.spectraFile) : QJsonValue()},
-        {QStringLiteral("error"), file.failure ? QJsonValue(toJson(*file.failure)) : QJsonValue()}};
+        {QStringLiteral("error"), errorJson(file.failure)}};
     if (file.path.isEmpty())
         json.insert(QStringLiteral("text"), QString::fromUtf8(file.text));
     return json;
 }
 
-/// The first two files that would be written to one path.
-std::optional<Failure> clash(const Files &files)
+/// Fails for the first two files that would be written to one path.
+Outcome<void> refuseClash(const Files &files)
 {
     QHash<QString, const ParameterFile *> byPath;
     for (const ParameterFile &file : files) {
@@ -95,64 +95,59 @@ public:
                         QStringLiteral("Give --sample NAME, or --all with -o FOLDER."));
             return WrongUsage;
         }
-        const auto workflow = loadResolvedWorkflow(m_file);
-        if (const auto *failure = std::get_if<Failure>(&workflow))
-            return report({}, *failure, options);
-        const auto &loaded = std::get<LoadedWorkflow>(workflow);
-        printLosses(m_file, loaded.lost);
-        auto files = m_all ? filesOfAll(loaded) : fileOfOne(loaded);
-        if (const auto *failure = std::get_if<Failure>(&files))
-            return report({}, *failure, options);
-        make(std::get<Files>(files), options);
-        return report(std::get<Files>(files), missingSample(*loaded.content), options);
+        const Outcome<LoadedWorkflow> workflow = loadResolvedWorkflow(m_file);
+        if (workflow.hasFailed())
+            return report({}, workflow.failure(), options);
+        printLosses(m_file, workflow->lost);
+        Outcome<Files> files = m_all ? filesOfAll(*workflow) : fileOfOne(*workflow);
+        if (files.hasFailed())
+            return report({}, files.failure(), options);
+        make(*files, options);
+        return report(*files, missingSample(*workflow->content), options);
     }
 
 private:
-    using FilesOrFailure = std::variant<Files, Failure>;
-
     static std::shared_ptr<const KarvonPresetCreator> creatorOf(const LoadedWorkflow &workflow,
                                                                 const ChosenCell &cell)
     {
         return std::make_shared<const KarvonPresetCreator>(*workflow.content, *cell.item);
     }
 
-    [[nodiscard]] FilesOrFailure fileOfOne(const LoadedWorkflow &workflow) const
+    [[nodiscard]] Outcome<Files> fileOfOne(const LoadedWorkflow &workflow) const
     {
-        const auto cells = m_columns.cells(workflow, {BaseItemType::Karvon});
-        if (const auto *failure = std::get_if<Failure>(&cells))
-            return *failure;
-        const auto &found = std::get<QList<ChosenCell>>(cells);
-        if (found.size() > 1) {
+        const Outcome<QList<ChosenCell>> cells = m_columns.cells(workflow, {BaseItemType::Karvon});
+        if (cells.hasFailed())
+            return cells.failure();
+        if (cells->size() > 1) {
             return Failure{WrongUsage, 0,
                            QStringLiteral("The workflow has %1 cells with settings of a search; choose one "
                                           "with --tab and --column, or write all with --all.")
-                               .arg(found.size())};
+                               .arg(cells->size())};
         }
         const QString path = m_output == kStandardInput ? QString() : m_output;
-        return Files{{m_sample, found.first().column, creatorOf(workflow, found.first()), path, {}}};
+        return Files{{m_sample, cells->first().column, creatorOf(workflow, cells->first()), path, {}}};
     }
 
-    [[nodiscard]] FilesOrFailure filesOfAll(const LoadedWorkflow &workflow) const
+    [[nodiscard]] Outcome<Files> filesOfAll(const LoadedWorkflow &workflow) const
     {
-        const auto cells = m_columns.cells(workflow, {BaseItemType::Karvon});
-        if (const auto *failure = std::get_if<Failure>(&cells))
-            return *failure;
+        const Outcome<QList<ChosenCell>> cells = m_columns.cells(workflow, {BaseItemType::Karvon});
+        if (cells.hasFailed())
+            return cells.failure();
         const QStringList samples = workflow.content->sampleNames();
         if (samples.isEmpty())
             return Failure{Negative, 0, QStringLiteral("The workflow has no samples.")};
-        const auto &found = std::get<QList<ChosenCell>>(cells);
         const QDir folder(m_output);
         Files files;
-        for (const ChosenCell &cell : found) {
+        for (const ChosenCell &cell : *cells) {
             const auto creator = creatorOf(workflow, cell);
-            const QString column = found.size() > 1 ? QLatin1Char('.') + cell.column : QString();
+            const QString column = cells->size() > 1 ? QLatin1Char('.') + cell.column : QString();
             for (const QString &sample : samples) {
                 const QString name = FileNameUtils::nameFromText(sample + column) + kSuffix;
                 files.push_back({sample, cell.column, creator, folder.filePath(name), {}});
             }
         }
-        if (const std::optional<Failure> failure = clash(files))
-            return *failure;
+        if (const Outcome<void> allowed = refuseClash(files); allowed.hasFailed())
+            return allowed.failure();
         if (!QDir().mkpath(folder.path())) {
             return Failure{BadOutput, int(ErrorCode::CannotOpenFile),
                            QStringLiteral("The folder \"%1\" can't be made.").arg(folder.path())};
@@ -170,7 +165,7 @@ private:
             file.text = file.creator->presetForSpectra(file.spectraFile.value_or(QString()), m_database);
             if (file.path.isEmpty())
                 return;
-            file.failure = writeReproducibleOutput(file.path, file.text);
+            file.failure = writeReproducibleOutput(file.path, file.text).failureIfAny();
             file.text.clear();
         });
     }
@@ -225,10 +220,10 @@ private:
             if (!first)
                 first = file.failure;
         }
-        const QJsonValue error = first ? QJsonValue(orv::cli::toJson(*first)) : QJsonValue();
-        return std::max(exitCode, options.json ? printJson(QJsonObject{{QStringLiteral("files"), array},
-                                                                       {QStringLiteral("error"), error}})
-                                               : printPlain(files, written));
+        return std::max(exitCode, options.json
+                                      ? printJson(QJsonObject{{QStringLiteral("files"), array},
+                                                              {QStringLiteral("error"), errorJson(first)}})
+                                      : printPlain(files, written));
     }
 
     [[nodiscard]] int printPlain(const Files &files, qsizetype written) const
