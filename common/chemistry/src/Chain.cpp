@@ -6,7 +6,7 @@ namespace orv {
 
 namespace {
 
-struct Tr
+struct ChainTr
 {
     Q_DECLARE_TR_FUNCTIONS(Chain)
 };
@@ -20,7 +20,7 @@ Error Chain::updateMasses(const MassCalculator &monoisotopic, const MassCalculat
     if (formula.hasError()) {
         monoisotopicMassDa.reset();
         averageMassDa.reset();
-        return formula.ecatch().addDetail(Tr::tr("It is the sequence of the chain \"%1\".").arg(name));
+        return formula.ecatch().addDetail(ChainTr::tr("It is the sequence of the chain \"%1\".").arg(name));
     }
     monoisotopicMassDa = monoisotopic.mass(*formula);
     averageMassDa = average.mass(*formula);

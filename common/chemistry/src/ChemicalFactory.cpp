@@ -32,15 +32,17 @@ const TypeRow &rowOf(BuildingBlockType type)
     return *std::find_if(kTypes.begin(), kTypes.end(), [&](const TypeRow &row) { return row.type == type; });
 }
 
-struct Tr
+struct ChemicalFactoryTr
 {
     Q_DECLARE_TR_FUNCTIONS(ChemicalFactory)
 };
 
 Error badBlock(const BuildingBlock &block, const QString &reason)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("A building block of oligonucleotides can't be used."))
-        .addDetail(Tr::tr("It is \"%1\" of the type \"%2\". %3").arg(block.symbol, block.type, reason));
+    return Error(ErrorCode::InvalidContent,
+                 ChemicalFactoryTr::tr("A building block of oligonucleotides can't be used."))
+        .addDetail(ChemicalFactoryTr::tr("It is \"%1\" of the type \"%2\". %3")
+                       .arg(block.symbol, block.type, reason));
 }
 
 } // namespace
@@ -73,13 +75,13 @@ Result<ChemicalFactory> ChemicalFactory::withBuildingBlocks(const QList<Building
     for (const BuildingBlock &block : blocks) {
         const std::optional<BuildingBlockType> type = buildingBlockType(block.type);
         if (!type)
-            return badBlock(block, Tr::tr("There is no such type."));
+            return badBlock(block, ChemicalFactoryTr::tr("There is no such type."));
         if (block.symbol.isEmpty())
-            return badBlock(block, Tr::tr("It has no symbol."));
+            return badBlock(block, ChemicalFactoryTr::tr("It has no symbol."));
         Result<ChemicalFormula> formula = ChemicalFormula::parse(block.formula);
         if (formula.hasError()) {
             return formula.ecatch().addDetail(
-                Tr::tr("It belongs to the building block \"%1\".").arg(block.symbol));
+                ChemicalFactoryTr::tr("It belongs to the building block \"%1\".").arg(block.symbol));
         }
         factory.d->list.removeIf([&](const BuildingBlock &other) {
             return other.symbol == block.symbol && buildingBlockType(other.type) == type;
@@ -98,8 +100,9 @@ QList<BuildingBlock> ChemicalFactory::buildingBlocks() const
 Result<ChemicalFormula> ChemicalFactory::formula(const QString &sequence, ChainType type) const
 {
     if (sequence.isEmpty() || sequence.size() > 8LL * kMaximumLength) {
-        return Error(ErrorCode::InvalidContent, Tr::tr("A sequence has no formula."))
-            .addDetail(sequence.isEmpty() ? Tr::tr("It is empty.") : Tr::tr("It is too long."));
+        return Error(ErrorCode::InvalidContent, ChemicalFactoryTr::tr("A sequence has no formula."))
+            .addDetail(sequence.isEmpty() ? ChemicalFactoryTr::tr("It is empty.")
+                                          : ChemicalFactoryTr::tr("It is too long."));
     }
     Result<ChemicalFormula> formula = type == ChainType::Protein
                                           ? Internal::proteinFormula(sequence)

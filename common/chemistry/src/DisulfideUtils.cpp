@@ -13,7 +13,7 @@ using namespace Internal::DisulfideColumns;
 
 namespace {
 
-struct Tr
+struct DisulfideUtilsTr
 {
     Q_DECLARE_TR_FUNCTIONS(DisulfideUtils)
 };
@@ -25,9 +25,11 @@ Error readPosition(const Internal::TableReader &rows, int row, QLatin1String col
     *position = Internal::intOf(rows.cell(row, column)).value_or(0);
     if (*position > 0)
         return Error::NoError;
-    return Error(ErrorCode::InvalidContent, Tr::tr("The table of disulfide bonds can't be read."))
-        .addDetail(
-            Tr::tr("Row %1: \"%2\" is no position of a residue.").arg(row + 1).arg(rows.text(row, column)));
+    return Error(ErrorCode::InvalidContent,
+                 DisulfideUtilsTr::tr("The table of disulfide bonds can't be read."))
+        .addDetail(DisulfideUtilsTr::tr("Row %1: \"%2\" is no position of a residue.")
+                       .arg(row + 1)
+                       .arg(rows.text(row, column)));
 }
 
 bool isEmptyRow(const Internal::TableReader &rows, int row)
@@ -43,11 +45,11 @@ QString faultOf(const Cysteine &cysteine, const QHash<QString, QString> &sequenc
     const auto &[chain, position] = cysteine;
     const auto sequence = sequences.constFind(chain);
     if (sequence == sequences.cend())
-        return Tr::tr("there is no chain \"%1\".").arg(chain);
+        return DisulfideUtilsTr::tr("there is no chain \"%1\".").arg(chain);
     if (position < 1 || position > sequence->size())
-        return Tr::tr("the chain \"%1\" has no residue %2.").arg(chain).arg(position);
+        return DisulfideUtilsTr::tr("the chain \"%1\" has no residue %2.").arg(chain).arg(position);
     if (sequence->at(position - 1).toUpper() != QLatin1Char('C')) {
-        return Tr::tr("residue %1 of the chain \"%2\" is %3 and no cysteine.")
+        return DisulfideUtilsTr::tr("residue %1 of the chain \"%2\" is %3 and no cysteine.")
             .arg(position)
             .arg(chain, sequence->at(position - 1));
     }
@@ -99,12 +101,12 @@ bool validate(const QList<Bond> &bonds, const QHash<QString, QString> &sequences
                                     Cysteine(bond.secondChain, bond.secondPosition)}) {
             QString fault = faultOf(end, sequences);
             if (fault.isEmpty() && bound.contains(end)) {
-                fault = Tr::tr("cysteine %1 of the chain \"%2\" stands in two bonds.")
+                fault = DisulfideUtilsTr::tr("cysteine %1 of the chain \"%2\" stands in two bonds.")
                             .arg(end.second)
                             .arg(end.first);
             }
             if (!fault.isEmpty())
-                faults.append(Tr::tr("Disulfide bond %1: %2").arg(i + 1).arg(fault));
+                faults.append(DisulfideUtilsTr::tr("Disulfide bond %1: %2").arg(i + 1).arg(fault));
             bound.insert(end);
         }
     }

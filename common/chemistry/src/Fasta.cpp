@@ -10,7 +10,7 @@ namespace {
 
 constexpr qsizetype kLineLetters = 60;
 
-struct Tr
+struct FastaTr
 {
     Q_DECLARE_TR_FUNCTIONS(Fasta)
 };
@@ -31,14 +31,14 @@ Result<QList<FastaEntry>> readFile(const QString &path)
         Result<std::optional<FastaEntry>> entry = reader.next();
         warnings.append(entry.warnings());
         if (entry.hasError())
-            return {entry.ecatch().addDetail(Tr::tr("The file is %1.").arg(path)), warnings};
+            return {entry.ecatch().addDetail(FastaTr::tr("The file is %1.").arg(path)), warnings};
         if (!entry->has_value())
             break;
         entries.append(*std::move(entry).value());
     }
     if (entries.isEmpty()) {
-        return {Error(ErrorCode::InvalidContent, Tr::tr("The FASTA file has no sequence."))
-                    .addDetail(Tr::tr("The file is %1.").arg(path)),
+        return {Error(ErrorCode::InvalidContent, FastaTr::tr("The FASTA file has no sequence."))
+                    .addDetail(FastaTr::tr("The file is %1.").arg(path)),
                 warnings};
     }
     return {entries, warnings};
@@ -70,7 +70,7 @@ Error writeFile(const QString &path, const QList<FastaEntry> &entries)
     QString reason;
     if (FileUtils::writeToFile(path, toText(entries), &reason) == QFileDevice::NoError)
         return Error::NoError;
-    return Error(ErrorCode::CannotOpenFile, Tr::tr("Could not write the file: %1").arg(path))
+    return Error(ErrorCode::CannotOpenFile, FastaTr::tr("Could not write the file: %1").arg(path))
         .addDetail(reason);
 }
 

@@ -14,7 +14,7 @@ constexpr int kToldWarnings = 100;
 constexpr char kLineFeed = '\n';
 constexpr char kReturn = '\r';
 
-struct Tr
+struct FastaReaderTr
 {
     Q_DECLARE_TR_FUNCTIONS(FastaReader)
 };
@@ -64,7 +64,7 @@ public:
                 return {std::nullopt, takeLastWarnings()};
             if (!entry->sequence.isEmpty())
                 return {checked(std::move(*entry)), m_warnings};
-            warn(Tr::tr("Line %1: \"%2\" has no sequence and is passed over.")
+            warn(FastaReaderTr::tr("Line %1: \"%2\" has no sequence and is passed over.")
                      .arg(entry->line)
                      .arg(entry->name));
         }
@@ -120,11 +120,11 @@ private:
 
     void fail(ErrorCode code, const QString &reason)
     {
-        m_failure =
-            Error(code, Tr::tr("The FASTA text can't be read."))
-                .addDetail(Tr::tr("Line %1: %2").arg(m_line).arg(reason))
-                .addDetail(Tr::tr("Check that the file is FASTA: a line with \">\" and a name, then lines "
-                                  "of letters."));
+        m_failure = Error(code, FastaReaderTr::tr("The FASTA text can't be read."))
+                        .addDetail(FastaReaderTr::tr("Line %1: %2").arg(m_line).arg(reason))
+                        .addDetail(FastaReaderTr::tr(
+                            "Check that the file is FASTA: a line with \">\" and a name, then lines "
+                            "of letters."));
     }
 
     void warn(const QString &text)
@@ -136,7 +136,8 @@ private:
     Warnings takeLastWarnings()
     {
         if (m_toldWarnings > kToldWarnings) {
-            m_warnings.append(Tr::tr("There are %1 more warnings.").arg(m_toldWarnings - kToldWarnings));
+            m_warnings.append(
+                FastaReaderTr::tr("There are %1 more warnings.").arg(m_toldWarnings - kToldWarnings));
             m_toldWarnings = 0;
         }
         return m_warnings;
@@ -145,11 +146,12 @@ private:
     FastaEntry checked(FastaEntry entry)
     {
         if (m_names.contains(entry.name))
-            warn(Tr::tr("Line %1: the name \"%2\" stands twice.").arg(entry.line).arg(entry.name));
+            warn(FastaReaderTr::tr("Line %1: the name \"%2\" stands twice.").arg(entry.line).arg(entry.name));
         m_names.insert(entry.name);
         if (entry.sequence.contains(QLatin1Char('*')))
-            warn(
-                Tr::tr("Line %1: the sequence of \"%2\" has a stop inside.").arg(entry.line).arg(entry.name));
+            warn(FastaReaderTr::tr("Line %1: the sequence of \"%2\" has a stop inside.")
+                     .arg(entry.line)
+                     .arg(entry.name));
         return entry;
     }
 
@@ -184,7 +186,7 @@ private:
             } else if (*byte == kLineFeed) {
                 ++m_line;
             } else if (!isBlank(*byte)) {
-                fail(ErrorCode::InvalidContent, Tr::tr("There is text before the first \">\"."));
+                fail(ErrorCode::InvalidContent, FastaReaderTr::tr("There is text before the first \">\"."));
                 return false;
             }
         }
@@ -204,7 +206,7 @@ private:
         QByteArray header;
         for (std::optional<char> byte = get(); byte && byte != kLineFeed; byte = get()) {
             if (header.size() >= m_limits.headerBytes)
-                return fail(ErrorCode::InvalidContent, Tr::tr("A header is too long."));
+                return fail(ErrorCode::InvalidContent, FastaReaderTr::tr("A header is too long."));
             header.append(*byte);
         }
         ++m_line;
@@ -245,7 +247,7 @@ private:
             return true;
         if (!isLetter(byte) && byte != '*') {
             fail(ErrorCode::InvalidContent,
-                 Tr::tr("A sequence has the character \"%1\".").arg(QLatin1Char(byte)));
+                 FastaReaderTr::tr("A sequence has the character \"%1\".").arg(QLatin1Char(byte)));
             return false;
         }
         return appendWithinLimit(sequence, isLetter(byte) ? toCapital(byte) : byte);
@@ -264,7 +266,7 @@ private:
             if (static_cast<unsigned char>(*byte) >= 0x7F || static_cast<unsigned char>(*byte) < ' ')
                 break;
         }
-        fail(ErrorCode::InvalidContent, Tr::tr("A \"[\" has no \"]\" in its line."));
+        fail(ErrorCode::InvalidContent, FastaReaderTr::tr("A \"[\" has no \"]\" in its line."));
         return false;
     }
 
@@ -272,7 +274,7 @@ private:
     {
         if (sequence->size() >= m_limits.sequenceLetters) {
             fail(ErrorCode::InvalidContent,
-                 Tr::tr("A sequence has more than %1 letters.").arg(m_limits.sequenceLetters));
+                 FastaReaderTr::tr("A sequence has more than %1 letters.").arg(m_limits.sequenceLetters));
             return false;
         }
         sequence->append(byte);

@@ -9,16 +9,17 @@ namespace {
 
 constexpr qsizetype kLongestText = 1000;
 
-struct Tr
+struct GlycanCompositionTr
 {
     Q_DECLARE_TR_FUNCTIONS(GlycanComposition)
 };
 
 Error malformed(const QString &text, const QString &place)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("The composition of a glycan is malformed."))
-        .addDetail(Tr::tr("It is \"%1\". %2").arg(text.left(100), place))
-        .addDetail(Tr::tr("Write it as \"HexNAc(4)Hex(3)Fuc(1)\"."));
+    return Error(ErrorCode::InvalidContent,
+                 GlycanCompositionTr::tr("The composition of a glycan is malformed."))
+        .addDetail(GlycanCompositionTr::tr("It is \"%1\". %2").arg(text.left(100), place))
+        .addDetail(GlycanCompositionTr::tr("Write it as \"HexNAc(4)Hex(3)Fuc(1)\"."));
 }
 
 } // namespace
@@ -27,22 +28,23 @@ Result<GlycanComposition> GlycanComposition::parse(const QString &text)
 {
     static const QRegularExpression part(QStringLiteral("([A-Za-z][A-Za-z0-9]*)\\(([0-9]{1,9})\\)\\s*"));
     if (text.size() > kLongestText)
-        return malformed(text, Tr::tr("It has more than %1 characters.").arg(kLongestText));
+        return malformed(text, GlycanCompositionTr::tr("It has more than %1 characters.").arg(kLongestText));
     const QString trimmed = text.trimmed();
     if (trimmed.isEmpty())
-        return malformed(text, Tr::tr("It is empty."));
+        return malformed(text, GlycanCompositionTr::tr("It is empty."));
     GlycanComposition composition;
     for (qsizetype at = 0; at < trimmed.size();) {
         const QRegularExpressionMatch match = part.match(trimmed, at, QRegularExpression::NormalMatch,
                                                          QRegularExpression::AnchorAtOffsetMatchOption);
         if (!match.hasMatch())
-            return malformed(text, Tr::tr("There is no name with a count at character %1.").arg(at + 1));
+            return malformed(
+                text, GlycanCompositionTr::tr("There is no name with a count at character %1.").arg(at + 1));
         const Part read{match.captured(1), match.captured(2).toInt()};
         if (read.count > kMaximumCount)
-            return malformed(text, Tr::tr("A count is larger than %1.").arg(kMaximumCount));
+            return malformed(text, GlycanCompositionTr::tr("A count is larger than %1.").arg(kMaximumCount));
         for (const Part &earlier : std::as_const(composition.m_parts)) {
             if (earlier.moiety == read.moiety)
-                return malformed(text, Tr::tr("%1 stands twice.").arg(read.moiety));
+                return malformed(text, GlycanCompositionTr::tr("%1 stands twice.").arg(read.moiety));
         }
         composition.m_parts.append(read);
         at = match.capturedEnd();

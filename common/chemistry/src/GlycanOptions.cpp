@@ -28,21 +28,21 @@ constexpr std::array kKinds = {
     KindName{kDerivatization, GlycanOptionKind::Derivatization},
 };
 
-struct Tr
+struct GlycanOptionsTr
 {
     Q_DECLARE_TR_FUNCTIONS(GlycanOptions)
 };
 
 Error badRow(int row, const QString &reason)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("The table of glycan options can't be read."))
-        .addDetail(Tr::tr("Row %1: %2").arg(row + 1).arg(reason));
+    return Error(ErrorCode::InvalidContent, GlycanOptionsTr::tr("The table of glycan options can't be read."))
+        .addDetail(GlycanOptionsTr::tr("Row %1: %2").arg(row + 1).arg(reason));
 }
 
 Error unknownPiece(QLatin1String kind, const QString &name)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("A glycan has no formula."))
-        .addDetail(Tr::tr("There is no %1 \"%2\" among the glycan options.").arg(kind, name));
+    return Error(ErrorCode::InvalidContent, GlycanOptionsTr::tr("A glycan has no formula."))
+        .addDetail(GlycanOptionsTr::tr("There is no %1 \"%2\" among the glycan options.").arg(kind, name));
 }
 
 } // namespace
@@ -56,16 +56,17 @@ Result<GlycanOptions> GlycanOptions::fromRowNode(const RowNode &table)
         const auto kind = std::find_if(kKinds.begin(), kKinds.end(),
                                        [&](const KindName &candidate) { return candidate.text == kindText; });
         if (kind == kKinds.end())
-            return badRow(i, Tr::tr("There is no kind \"%1\".").arg(kindText));
+            return badRow(i, GlycanOptionsTr::tr("There is no kind \"%1\".").arg(kindText));
         GlycanOption option;
         option.kind = kind->kind;
         option.name = rows.text(i, kName).trimmed();
         if (option.name.isEmpty() || options.find(option.kind, option.name))
-            return badRow(i, Tr::tr("The name \"%1\" is empty or stands twice.").arg(option.name));
+            return badRow(i,
+                          GlycanOptionsTr::tr("The name \"%1\" is empty or stands twice.").arg(option.name));
         Result<ChemicalFormula> formula = ChemicalFormula::parse(rows.text(i, kFormula));
         if (formula.hasError())
             return formula.ecatch().addDetail(
-                Tr::tr("It stands in row %1 of the glycan options.").arg(i + 1));
+                GlycanOptionsTr::tr("It stands in row %1 of the glycan options.").arg(i + 1));
         option.formula = *formula;
         const QVariant complete = rows.cell(i, kComplete);
         option.complete = Internal::isEmptyCell(complete) || complete.toBool();

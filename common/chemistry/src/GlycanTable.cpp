@@ -13,15 +13,15 @@ namespace {
 
 using namespace Internal::GlycanColumns;
 
-struct Tr
+struct GlycanTableTr
 {
     Q_DECLARE_TR_FUNCTIONS(GlycanTable)
 };
 
 Error badRow(int row, const QString &reason)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("The table of glycans can't be read."))
-        .addDetail(Tr::tr("Row %1: %2").arg(row + 1).arg(reason));
+    return Error(ErrorCode::InvalidContent, GlycanTableTr::tr("The table of glycans can't be read."))
+        .addDetail(GlycanTableTr::tr("Row %1: %2").arg(row + 1).arg(reason));
 }
 
 Error readNumber(const Internal::TableReader &rows, int row, QLatin1String column,
@@ -30,7 +30,8 @@ Error readNumber(const Internal::TableReader &rows, int row, QLatin1String colum
     const QVariant cell = rows.cell(row, column);
     *number = Internal::numberOf(cell);
     if (!*number && !Internal::isEmptyCell(cell))
-        return badRow(row, Tr::tr("\"%1\" in the column \"%2\" is no number.").arg(cell.toString(), column));
+        return badRow(
+            row, GlycanTableTr::tr("\"%1\" in the column \"%2\" is no number.").arg(cell.toString(), column));
     return Error::NoError;
 }
 
@@ -52,7 +53,7 @@ Result<GlycanTable> GlycanTable::fromRowNode(const RowNode &table)
             Result<GlycanComposition> composition = GlycanComposition::parse(glycan.composition);
             if (composition.hasError())
                 return composition.ecatch().addDetail(
-                    Tr::tr("It stands in row %1 of the glycans.").arg(i + 1));
+                    GlycanTableTr::tr("It stands in row %1 of the glycans.").arg(i + 1));
         }
         glycans.append(glycan);
     }

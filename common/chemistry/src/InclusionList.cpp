@@ -37,26 +37,27 @@ enum Field
     FieldCount
 };
 
-struct Tr
+struct InclusionListTr
 {
     Q_DECLARE_TR_FUNCTIONS(InclusionList)
 };
 
 Error malformed(const QString &reason)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("The inclusion list can't be read.")).addDetail(reason);
+    return Error(ErrorCode::InvalidContent, InclusionListTr::tr("The inclusion list can't be read."))
+        .addDetail(reason);
 }
 
 /// What holds of every item, wherever it comes from.
 Error check(const InclusionItem &item)
 {
     if (!(item.mz > 0.0) || !std::isfinite(item.mz))
-        return malformed(Tr::tr("The m/z must be a number above 0."));
+        return malformed(InclusionListTr::tr("The m/z must be a number above 0."));
     if (std::abs(item.charge) > kHighestCharge)
-        return malformed(Tr::tr("The charge %1 is too high.").arg(item.charge));
+        return malformed(InclusionListTr::tr("The charge %1 is too high.").arg(item.charge));
     const double start = item.startMinutes.value_or(0.0);
     if (!(start >= 0.0) || !(item.endMinutes.value_or(start) >= start))
-        return malformed(Tr::tr("The retention times are negative or out of order."));
+        return malformed(InclusionListTr::tr("The retention times are negative or out of order."));
     return Error::NoError;
 }
 
@@ -122,13 +123,14 @@ Error parseTime(const QString &text, std::optional<double> *minutes)
         return Error::NoError;
     bool ok = false;
     *minutes = text.toDouble(&ok);
-    return ok ? Error() : malformed(Tr::tr("\"%1\" is no time.").arg(text));
+    return ok ? Error() : malformed(InclusionListTr::tr("\"%1\" is no time.").arg(text));
 }
 
 Result<InclusionItem> itemFromFields(QStringList fields)
 {
     if (fields.size() > FieldCount)
-        return malformed(Tr::tr("There are more than %1 fields.").arg(static_cast<int>(FieldCount)));
+        return malformed(
+            InclusionListTr::tr("There are more than %1 fields.").arg(static_cast<int>(FieldCount)));
     fields.resize(FieldCount);
     InclusionItem item;
     bool mzOk = false;
@@ -137,7 +139,7 @@ Result<InclusionItem> itemFromFields(QStringList fields)
     const QString charge = fields.at(ChargeField).trimmed();
     item.charge = charge.isEmpty() ? 0 : charge.toInt(&chargeOk);
     if (!mzOk || !chargeOk)
-        return malformed(Tr::tr("The m/z or the charge is no number."));
+        return malformed(InclusionListTr::tr("The m/z or the charge is no number."));
     ORV_RETURN_IF_ERROR(parseTime(fields.at(StartField).trimmed(), &item.startMinutes));
     ORV_RETURN_IF_ERROR(parseTime(fields.at(EndField).trimmed(), &item.endMinutes));
     item.name = fields.at(NameField);
@@ -210,16 +212,19 @@ Result<QList<InclusionItem>> toVector(const QJsonObject &object)
     if (list.hasError())
         return list.ecatch();
     if (list->size() > kMaximumItems)
-        return malformed(Tr::tr("It has %1 entries; %2 are allowed.").arg(list->size()).arg(kMaximumItems));
+        return malformed(
+            InclusionListTr::tr("It has %1 entries; %2 are allowed.").arg(list->size()).arg(kMaximumItems));
     QList<InclusionItem> items;
     items.reserve(list->size());
     for (const auto element : std::as_const(*list)) {
         Result<InclusionItem> item = itemFromObject(element.toObject());
         if (item.hasError()) {
             const QString text = element.toObject().value(kTextKey).toString();
-            item.ecatch().addDetail(Tr::tr("It is entry %1 of the inclusion list.").arg(items.size() + 1));
-            return text.isEmpty() ? item.error()
-                                  : Error(item.error()).addDetail(Tr::tr("It reads \"%1\".").arg(text));
+            item.ecatch().addDetail(
+                InclusionListTr::tr("It is entry %1 of the inclusion list.").arg(items.size() + 1));
+            return text.isEmpty()
+                       ? item.error()
+                       : Error(item.error()).addDetail(InclusionListTr::tr("It reads \"%1\".").arg(text));
         }
         items.append(std::move(item).value());
     }

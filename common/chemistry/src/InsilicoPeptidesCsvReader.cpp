@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kHighestCharge = 1000;
 
-struct Tr
+struct InsilicoPeptidesCsvReaderTr
 {
     Q_DECLARE_TR_FUNCTIONS(InsilicoPeptidesCsvReader)
 };
@@ -56,8 +56,9 @@ constexpr std::array kHeaders = {
 
 Error badFile(qsizetype line, const QString &reason)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("The file of in-silico peptides can't be read."))
-        .addDetail(Tr::tr("Line %1: %2").arg(line).arg(reason));
+    return Error(ErrorCode::InvalidContent,
+                 InsilicoPeptidesCsvReaderTr::tr("The file of in-silico peptides can't be read."))
+        .addDetail(InsilicoPeptidesCsvReaderTr::tr("Line %1: %2").arg(line).arg(reason));
 }
 
 class Reader
@@ -80,7 +81,7 @@ public:
             if (!row->has_value())
                 return Error::NoError;
             if (peptides.size() >= InsilicoPeptidesCsvReader::kMaximumRows)
-                return badFile((*row)->line, Tr::tr("There are too many rows."));
+                return badFile((*row)->line, InsilicoPeptidesCsvReaderTr::tr("There are too many rows."));
             ORV_RETURN_IF_ERROR(readRow(**row));
         }
     }
@@ -89,12 +90,13 @@ public:
     {
         QStringList lines;
         if (peptides.isEmpty())
-            lines.append(Tr::tr("The file of in-silico peptides has no peptides."));
+            lines.append(InsilicoPeptidesCsvReaderTr::tr("The file of in-silico peptides has no peptides."));
         if (m_wideRows > 0)
-            lines.append(
-                Tr::tr("%1 rows have more fields than the header; the rest isn't used.").arg(m_wideRows));
+            lines.append(InsilicoPeptidesCsvReaderTr::tr(
+                             "%1 rows have more fields than the header; the rest isn't used.")
+                             .arg(m_wideRows));
         if (m_repeatedRows > 0)
-            lines.append(Tr::tr("%1 peptides stand twice.").arg(m_repeatedRows));
+            lines.append(InsilicoPeptidesCsvReaderTr::tr("%1 peptides stand twice.").arg(m_repeatedRows));
         return lines.join(QLatin1Char('\n'));
     }
 
@@ -113,7 +115,7 @@ private:
                 m_places.insert(i, known->column);
         }
         if (!m_places.values().contains(Column::Sequence))
-            return badFile(row.line, Tr::tr("There is no column \"Sequence\"."));
+            return badFile(row.line, InsilicoPeptidesCsvReaderTr::tr("There is no column \"Sequence\"."));
         return Error::NoError;
     }
 
@@ -129,7 +131,7 @@ private:
                 peptide.otherFields.insert(m_headers.at(i), row.fields.at(i));
         }
         if (peptide.sequence.isEmpty())
-            return badFile(row.line, Tr::tr("There is no sequence."));
+            return badFile(row.line, InsilicoPeptidesCsvReaderTr::tr("There is no sequence."));
         m_wideRows += row.fields.size() > m_headers.size() ? 1 : 0;
         const auto key =
             std::make_tuple(peptide.sequence, peptide.protein, peptide.modifications, peptide.charge);
@@ -167,7 +169,10 @@ private:
             std::all_of(peptide->sequence.begin(), peptide->sequence.end(), [](QChar letter) {
                 return letter >= QLatin1Char('A') && letter <= QLatin1Char('Z');
             });
-        return letters ? Error() : badFile(row.line, Tr::tr("\"%1\" is no sequence of letters.").arg(text));
+        return letters
+                   ? Error()
+                   : badFile(row.line,
+                             InsilicoPeptidesCsvReaderTr::tr("\"%1\" is no sequence of letters.").arg(text));
     }
 
     static Error readCharge(const CsvRow &row, const QString &text, InsilicoPeptide *peptide)
@@ -176,7 +181,7 @@ private:
         peptide->charge = text.isEmpty() ? 0 : text.toInt(&ok);
         return ok && std::abs(peptide->charge) <= kHighestCharge
                    ? Error()
-                   : badFile(row.line, Tr::tr("\"%1\" is no charge.").arg(text));
+                   : badFile(row.line, InsilicoPeptidesCsvReaderTr::tr("\"%1\" is no charge.").arg(text));
     }
 
     static Error readNumber(const CsvRow &row, const QString &text, std::optional<double> *number)
@@ -186,7 +191,8 @@ private:
         bool ok = false;
         const double value = text.toDouble(&ok);
         if (!ok || !std::isfinite(value) || value < 0.0)
-            return badFile(row.line, Tr::tr("\"%1\" is no number from 0.").arg(text));
+            return badFile(row.line,
+                           InsilicoPeptidesCsvReaderTr::tr("\"%1\" is no number from 0.").arg(text));
         *number = value;
         return Error::NoError;
     }
@@ -223,7 +229,7 @@ Error InsilicoPeptidesCsvReader::readAll(QList<InsilicoPeptide> *rows, QString *
     Reader reader(&device);
     Error error = reader.read();
     if (error) {
-        error.addDetail(Tr::tr("The file is %1.").arg(m_path));
+        error.addDetail(InsilicoPeptidesCsvReaderTr::tr("The file is %1.").arg(m_path));
         return failed(error);
     }
     if (warningText)

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Tr
+struct IntactOptionsUtilsTr
 {
     Q_DECLARE_TR_FUNCTIONS(IntactOptionsUtils)
 };
@@ -56,10 +56,12 @@ Error readNumber(const Internal::TableReader &rows, int row, QLatin1String colum
         return Error::NoError;
     const std::optional<Number> number = read(cell);
     if (!number) {
-        return Error(ErrorCode::InvalidContent, Tr::tr("The table of deconvolution options can't be read."))
-            .addDetail(Tr::tr("Row %1: \"%2\" in the column \"%3\" is no number of its kind.")
-                           .arg(row + 1)
-                           .arg(cell.toString(), column));
+        return Error(ErrorCode::InvalidContent,
+                     IntactOptionsUtilsTr::tr("The table of deconvolution options can't be read."))
+            .addDetail(
+                IntactOptionsUtilsTr::tr("Row %1: \"%2\" in the column \"%3\" is no number of its kind.")
+                    .arg(row + 1)
+                    .arg(cell.toString(), column));
     }
     *target = *number;
     return Error::NoError;
@@ -75,12 +77,13 @@ public:
 
     QStringList run()
     {
-        checkOrder(Tr::tr("m/z"), m_options.minimumMz, m_options.maximumMz, false);
-        checkOrder(Tr::tr("mass"), m_options.minimumMassDa, m_options.maximumMassDa, false);
-        checkOrder(Tr::tr("charge"), m_options.minimumCharge, m_options.maximumCharge, true);
+        checkOrder(IntactOptionsUtilsTr::tr("m/z"), m_options.minimumMz, m_options.maximumMz, false);
+        checkOrder(IntactOptionsUtilsTr::tr("mass"), m_options.minimumMassDa, m_options.maximumMassDa, false);
+        checkOrder(IntactOptionsUtilsTr::tr("charge"), m_options.minimumCharge, m_options.maximumCharge,
+                   true);
         const Result<ChemicalFormula> adduct = ChemicalFormula::parse(m_options.adduct);
         if (adduct.hasError() || adduct->isEmpty())
-            add(Tr::tr("The adduct \"%1\" is no chemical formula.").arg(m_options.adduct));
+            add(IntactOptionsUtilsTr::tr("The adduct \"%1\" is no chemical formula.").arg(m_options.adduct));
         return m_errors;
     }
 
@@ -89,13 +92,15 @@ private:
     {
         if (minimum > 0.0 && (minimum < maximum || (mayBeEqual && minimum == maximum)))
             return;
-        add(Tr::tr("The range of %1 (%2 to %3) is out of order.")
+        add(IntactOptionsUtilsTr::tr("The range of %1 (%2 to %3) is out of order.")
                 .arg(what, Internal::shortNumber(minimum), Internal::shortNumber(maximum)));
     }
     void add(const QString &text)
     {
-        m_errors.append(
-            Tr::tr("Deconvolution options \"%1\" (row %2): %3").arg(m_options.name).arg(m_row + 1).arg(text));
+        m_errors.append(IntactOptionsUtilsTr::tr("Deconvolution options \"%1\" (row %2): %3")
+                            .arg(m_options.name)
+                            .arg(m_row + 1)
+                            .arg(text));
     }
 
     const IntactOptions &m_options;
@@ -156,8 +161,8 @@ bool validate(const QList<IntactOptions> &list, QStringList *errors, QStringList
     for (qsizetype i = 0; i < list.size(); ++i) {
         foundErrors.append(Check(list.at(i), i).run());
         if (names.contains(list.at(i).name))
-            foundWarnings.append(
-                Tr::tr("The deconvolution options \"%1\" stand twice.").arg(list.at(i).name));
+            foundWarnings.append(IntactOptionsUtilsTr::tr("The deconvolution options \"%1\" stand twice.")
+                                     .arg(list.at(i).name));
         names.insert(list.at(i).name);
     }
     if (errors)

@@ -23,21 +23,21 @@ namespace chemistry = pwiz::chemistry;
 /// Peaks of one nominal mass differ by far less, those of the next by about 1 Da.
 constexpr double kPeakWidthDa = 0.2;
 
-struct Tr
+struct IsotopeUtilsTr
 {
     Q_DECLARE_TR_FUNCTIONS(IsotopeUtils)
 };
 
 Error badRow(int row, const QString &reason)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("The table of isotopes can't be read."))
-        .addDetail(Tr::tr("Row %1: %2").arg(row + 1).arg(reason));
+    return Error(ErrorCode::InvalidContent, IsotopeUtilsTr::tr("The table of isotopes can't be read."))
+        .addDetail(IsotopeUtilsTr::tr("Row %1: %2").arg(row + 1).arg(reason));
 }
 
 Error noEnvelope(const ChemicalFormula &formula, const QString &reason)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("A formula has no isotope envelope."))
-        .addDetail(Tr::tr("The formula is \"%1\". %2").arg(formula.toString(), reason));
+    return Error(ErrorCode::InvalidContent, IsotopeUtilsTr::tr("A formula has no isotope envelope."))
+        .addDetail(IsotopeUtilsTr::tr("The formula is \"%1\". %2").arg(formula.toString(), reason));
 }
 
 } // namespace
@@ -58,7 +58,7 @@ Result<QList<IsotopeLabel>> isotopesFromRowNode(const RowNode &table)
         isotope.element = rows.text(i, kElement).trimmed();
         isotope.massNumber = Internal::intOf(rows.cell(i, kMassNumber)).value_or(0);
         if (!naturalAbundancePercent(isotope.element, isotope.massNumber)) {
-            return badRow(i, Tr::tr("There is no natural isotope \"%1\" of \"%2\".")
+            return badRow(i, IsotopeUtilsTr::tr("There is no natural isotope \"%1\" of \"%2\".")
                                  .arg(rows.text(i, kMassNumber), isotope.element));
         }
         const QVariant enrichment = rows.cell(i, kEnrichment);
@@ -67,7 +67,8 @@ Result<QList<IsotopeLabel>> isotopesFromRowNode(const RowNode &table)
         const double percent =
             isotope.enrichmentPercent.value_or(Internal::isEmptyCell(enrichment) ? 0.0 : -1.0);
         if (percent < 0.0 || percent > kAll)
-            return badRow(i, Tr::tr("The enrichment \"%1\" is no percentage.").arg(enrichment.toString()));
+            return badRow(
+                i, IsotopeUtilsTr::tr("The enrichment \"%1\" is no percentage.").arg(enrichment.toString()));
         isotope.otherCells = rows.otherCells(i);
         isotopes.append(isotope);
     }
@@ -102,15 +103,15 @@ std::optional<double> naturalAbundancePercent(const QString &element, int massNu
 Result<QList<IsotopePeak>> envelope(const ChemicalFormula &formula, double cutoff)
 {
     if (!(cutoff > 0.0 && cutoff < 1.0))
-        return noEnvelope(formula, Tr::tr("The cutoff %1 isn't between 0 and 1.").arg(cutoff));
+        return noEnvelope(formula, IsotopeUtilsTr::tr("The cutoff %1 isn't between 0 and 1.").arg(cutoff));
     if (formula.isEmpty())
-        return noEnvelope(formula, Tr::tr("It is empty."));
+        return noEnvelope(formula, IsotopeUtilsTr::tr("It is empty."));
     chemistry::Formula composition;
     double pureMassDa = 0.0;
     for (auto it = formula.counts().cbegin(); it != formula.counts().cend(); ++it) {
         if (it.value() < 0 || it.value() > ChemicalFormula::kMaximumCount)
-            return noEnvelope(formula,
-                              Tr::tr("There can't be %1 atoms of %2.").arg(it.value()).arg(it.key()));
+            return noEnvelope(
+                formula, IsotopeUtilsTr::tr("There can't be %1 atoms of %2.").arg(it.value()).arg(it.key()));
         const Internal::Element &element = *Internal::findElement(it.key());
         if (element.isotopes.size() == 1)
             pureMassDa += static_cast<double>(it.value()) * element.monoisotopicMassDa;

@@ -9,7 +9,7 @@ namespace orv::MassUtils {
 
 namespace {
 
-struct Tr
+struct MassTableCheckTr
 {
     Q_DECLARE_TR_FUNCTIONS(MassUtils)
 };
@@ -17,17 +17,20 @@ struct Tr
 /// "Row 3 (\"G0F\")".
 QString rowName(qsizetype index, const DeltaMass &mass)
 {
-    return mass.name.isEmpty() ? Tr::tr("Row %1 of the masses").arg(index + 1)
-                               : Tr::tr("Row %1 (\"%2\") of the masses").arg(index + 1).arg(mass.name);
+    return mass.name.isEmpty()
+               ? MassTableCheckTr::tr("Row %1 of the masses").arg(index + 1)
+               : MassTableCheckTr::tr("Row %1 (\"%2\") of the masses").arg(index + 1).arg(mass.name);
 }
 
 void checkMass(const QString &row, const DeltaMass &mass, QStringList *errors)
 {
     if (!mass.unreadableMass.isEmpty()) {
-        errors->append(Tr::tr("%1 has the mass \"%2\", which is no number. Please enter the mass in Da.")
-                           .arg(row, mass.unreadableMass));
+        errors->append(
+            MassTableCheckTr::tr("%1 has the mass \"%2\", which is no number. Please enter the mass in Da.")
+                .arg(row, mass.unreadableMass));
     } else if (!mass.massDa) {
-        errors->append(Tr::tr("%1 has no mass. Please enter the mass in Da or remove the row.").arg(row));
+        errors->append(
+            MassTableCheckTr::tr("%1 has no mass. Please enter the mass in Da or remove the row.").arg(row));
     }
 }
 
@@ -39,10 +42,11 @@ void checkSamples(const QString &row, const DeltaMass &mass, const QSet<int> &kn
         return;
     if (gone.size() == mass.samplesIds.size()) {
         errors->append(
-            Tr::tr("%1 is for the samples %2, which don't exist. Please choose samples or remove the row.")
+            MassTableCheckTr::tr(
+                "%1 is for the samples %2, which don't exist. Please choose samples or remove the row.")
                 .arg(row, Internal::joinedNumbers(gone)));
     } else {
-        warnings->append(Tr::tr("%1 is also for the samples %2, which don't exist.")
+        warnings->append(MassTableCheckTr::tr("%1 is also for the samples %2, which don't exist.")
                              .arg(row, Internal::joinedNumbers(gone)));
     }
 }
@@ -69,13 +73,14 @@ bool validate(const QList<DeltaMass> &masses, const QList<int> &samplesIds, QStr
         const QString row = rowName(i, mass);
         checkMass(row, mass, &foundErrors);
         if (mass.name.trimmed().isEmpty())
-            foundWarnings.append(Tr::tr("%1 has no name, so its matches can't be told apart.").arg(row));
+            foundWarnings.append(
+                MassTableCheckTr::tr("%1 has no name, so its matches can't be told apart.").arg(row));
         checkSamples(row, mass, known, &foundErrors, &foundWarnings);
         const QList<qsizetype> namesakes = byName.values(mass.name);
         const auto same = std::find_if(namesakes.begin(), namesakes.end(),
                                        [&](qsizetype other) { return isRepeated(masses.at(other), mass); });
         if (same != namesakes.end())
-            foundWarnings.append(Tr::tr("%1 repeats row %2.").arg(row).arg(*same + 1));
+            foundWarnings.append(MassTableCheckTr::tr("%1 repeats row %2.").arg(row).arg(*same + 1));
         else
             byName.insert(mass.name, i);
     }

@@ -12,7 +12,7 @@ namespace {
 constexpr QLatin1String kValueKey("value");
 constexpr QLatin1String kUnitKey("unit");
 
-struct Tr
+struct MassToleranceTr
 {
     Q_DECLARE_TR_FUNCTIONS(MassTolerance)
 };
@@ -32,8 +32,8 @@ Result<MassTolerance> MassTolerance::fromJson(const QJsonObject &object, const M
     ORV_RETURN_IF_ERROR(Internal::readString(object, kUnitKey, &tolerance.unit));
     const QStringList units = MassUtils::possibleMassToleranceUnits();
     if (!units.contains(tolerance.unit)) {
-        return Error(ErrorCode::InvalidContent, Tr::tr("A mass tolerance has an unknown unit."))
-            .addDetail(Tr::tr("The unit is \"%1\"; there are %2.")
+        return Error(ErrorCode::InvalidContent, MassToleranceTr::tr("A mass tolerance has an unknown unit."))
+            .addDetail(MassToleranceTr::tr("The unit is \"%1\"; there are %2.")
                            .arg(tolerance.unit, units.join(QLatin1String(", "))));
     }
     tolerance.unknownMembers = Internal::without(object, {kValueKey, kUnitKey});

@@ -11,7 +11,7 @@ namespace {
 constexpr QLatin1String kFullLengthProductKey("fullLengthProduct");
 constexpr QLatin1String kImpuritiesKey("impurities");
 
-struct Tr
+struct MassTolerancesTr
 {
     Q_DECLARE_TR_FUNCTIONS(MassTolerances)
 };
@@ -22,7 +22,8 @@ Error readTolerance(const QJsonObject &object, QLatin1String key, MassTolerance 
     ORV_RETURN_IF_ERROR(Internal::readObject(object, key, &member));
     Result<MassTolerance> read = MassTolerance::fromJson(member, *tolerance);
     if (read.hasError())
-        return read.ecatch().addDetail(Tr::tr("It is the member \"%1\" of the mass tolerances.").arg(key));
+        return read.ecatch().addDetail(
+            MassTolerancesTr::tr("It is the member \"%1\" of the mass tolerances.").arg(key));
     *tolerance = std::move(read).value();
     return Error::NoError;
 }

@@ -13,7 +13,7 @@ using namespace Internal::MassColumns;
 
 namespace {
 
-struct Tr
+struct MassUtilsTr
 {
     Q_DECLARE_TR_FUNCTIONS(MassUtils)
 };
@@ -79,10 +79,11 @@ Result<MassTolerance> matchToleranceFromRowNode(const RowNode &table)
     const std::optional<double> value = Internal::numberOf(rows.cell(0, kMassToleranceValue));
     const QString unit = rows.text(0, kMassToleranceUnit);
     if (rows.rowCount() < 1 || !value || *value < 0.0 || !possibleMassToleranceUnits().contains(unit)) {
-        return Error(ErrorCode::InvalidContent, Tr::tr("The match tolerance of the masses can't be read."))
-            .addDetail(Tr::tr("The value is \"%1\" and must be a number that is not negative.")
+        return Error(ErrorCode::InvalidContent,
+                     MassUtilsTr::tr("The match tolerance of the masses can't be read."))
+            .addDetail(MassUtilsTr::tr("The value is \"%1\" and must be a number that is not negative.")
                            .arg(rows.text(0, kMassToleranceValue)))
-            .addDetail(Tr::tr("The unit is \"%1\"; there are %2.")
+            .addDetail(MassUtilsTr::tr("The unit is \"%1\"; there are %2.")
                            .arg(unit, possibleMassToleranceUnits().join(QLatin1String(", "))));
     }
     return MassTolerance{*value, unit, {}};

@@ -17,7 +17,7 @@ constexpr QLatin1String kBeginKey("begin");
 constexpr QLatin1String kEndKey("end");
 constexpr QLatin1String kColourKey("colour");
 
-struct Tr
+struct ProteinAnnotationEntryTr
 {
     Q_DECLARE_TR_FUNCTIONS(ProteinAnnotationEntry)
 };
@@ -58,10 +58,13 @@ Result<QList<ProteinAnnotationEntry>> ProteinAnnotationEntry::listFromJson(const
             element.isObject()
                 ? fromJson(element.toObject())
                 : Result<ProteinAnnotationEntry>(
-                      Error(ErrorCode::InvalidContent, Tr::tr("A protein annotation must be an object."))
-                          .addDetail(Tr::tr("There is %1.").arg(JsonUtils::typeDescription(element.type()))));
+                      Error(ErrorCode::InvalidContent,
+                            ProteinAnnotationEntryTr::tr("A protein annotation must be an object."))
+                          .addDetail(ProteinAnnotationEntryTr::tr("There is %1.")
+                                         .arg(JsonUtils::typeDescription(element.type()))));
         if (entry.hasError())
-            return entry.ecatch().addDetail(Tr::tr("It is the protein annotation %1.").arg(entries.size()));
+            return entry.ecatch().addDetail(
+                ProteinAnnotationEntryTr::tr("It is the protein annotation %1.").arg(entries.size()));
         entries.append(std::move(entry).value());
     }
     return entries;

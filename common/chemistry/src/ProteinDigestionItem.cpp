@@ -15,21 +15,22 @@ constexpr qint64 kMostLetters = 50'000'000;
 constexpr QLatin1String kCTerm("C-term");
 constexpr QLatin1String kNTerm("N-term");
 
-struct Tr
+struct ProteinDigestionItemTr
 {
     Q_DECLARE_TR_FUNCTIONS(ProteinDigestionItem)
 };
 
 Error malformed(const QString &place)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("The digestion text is malformed."))
+    return Error(ErrorCode::InvalidContent, ProteinDigestionItemTr::tr("The digestion text is malformed."))
         .addDetail(place)
-        .addDetail(Tr::tr("Write it as \"Trypsin @ R,K | C-term\"."));
+        .addDetail(ProteinDigestionItemTr::tr("Write it as \"Trypsin @ R,K | C-term\"."));
 }
 
 Error undigested(const QString &reason)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("A sequence can't be digested.")).addDetail(reason);
+    return Error(ErrorCode::InvalidContent, ProteinDigestionItemTr::tr("A sequence can't be digested."))
+        .addDetail(reason);
 }
 
 bool isCapital(QChar letter)
@@ -43,7 +44,8 @@ Error readResidues(QStringView text, QString *residues)
         part = part.trimmed();
         if (part.size() != 1 || !isCapital(part.front())) {
             return malformed(
-                Tr::tr("\"%1\" is not a residue: residues are single capital letters.").arg(part));
+                ProteinDigestionItemTr::tr("\"%1\" is not a residue: residues are single capital letters.")
+                    .arg(part));
         }
         if (!residues->contains(part.front()))
             residues->append(part.front());
@@ -54,7 +56,8 @@ Error readResidues(QStringView text, QString *residues)
 Error readSide(QStringView text, ProteinDigestionItem::Side *side)
 {
     if (text != kCTerm && text != kNTerm)
-        return malformed(Tr::tr("\"%1\" is not a side: there are %2 and %3.").arg(text, kCTerm, kNTerm));
+        return malformed(ProteinDigestionItemTr::tr("\"%1\" is not a side: there are %2 and %3.")
+                             .arg(text, kCTerm, kNTerm));
     *side = text == kCTerm ? ProteinDigestionItem::Side::CTerm : ProteinDigestionItem::Side::NTerm;
     return Error::NoError;
 }
@@ -62,20 +65,21 @@ Error readSide(QStringView text, ProteinDigestionItem::Side *side)
 Error checkInput(const QString &sequence, const DigestionLimits &limits)
 {
     if (sequence.isEmpty() || sequence.size() > kLongestSequence) {
-        return undigested(Tr::tr("It has %1 residues; 1 to %2 can be digested.")
+        return undigested(ProteinDigestionItemTr::tr("It has %1 residues; 1 to %2 can be digested.")
                               .arg(sequence.size())
                               .arg(kLongestSequence));
     }
     const auto odd = std::find_if_not(sequence.begin(), sequence.end(), isCapital);
     if (odd != sequence.end()) {
-        return undigested(Tr::tr("\"%1\" at residue %2 is not a capital letter.")
+        return undigested(ProteinDigestionItemTr::tr("\"%1\" at residue %2 is not a capital letter.")
                               .arg(*odd)
                               .arg(std::distance(sequence.begin(), odd) + 1));
     }
     if (limits.missedCleavages < 0 || limits.minimumLength < 1 ||
         limits.maximumLength < limits.minimumLength) {
-        return Error(ErrorCode::InvalidContent, Tr::tr("The limits of a digestion are out of order."))
-            .addDetail(Tr::tr("Missed cleavages: %1; lengths: %2 to %3.")
+        return Error(ErrorCode::InvalidContent,
+                     ProteinDigestionItemTr::tr("The limits of a digestion are out of order."))
+            .addDetail(ProteinDigestionItemTr::tr("Missed cleavages: %1; lengths: %2 to %3.")
                            .arg(limits.missedCleavages)
                            .arg(limits.minimumLength)
                            .arg(limits.maximumLength));
@@ -88,18 +92,21 @@ Error checkInput(const QString &sequence, const DigestionLimits &limits)
 Result<ProteinDigestionItem> ProteinDigestionItem::parse(const QString &text)
 {
     if (text.size() > kLongestText)
-        return malformed(Tr::tr("It has %1 characters; %2 are allowed.").arg(text.size()).arg(kLongestText));
+        return malformed(ProteinDigestionItemTr::tr("It has %1 characters; %2 are allowed.")
+                             .arg(text.size())
+                             .arg(kLongestText));
     const QStringList rule = text.split(QLatin1Char('@'));
     if (rule.size() != 2)
-        return malformed(Tr::tr("It must have one \"@\", behind the name."));
+        return malformed(ProteinDigestionItemTr::tr("It must have one \"@\", behind the name."));
     const QStringList cut = rule.last().split(QLatin1Char('|'));
     if (cut.size() != 2)
-        return malformed(Tr::tr("It must have one \"|\", behind the residues."));
+        return malformed(ProteinDigestionItemTr::tr("It must have one \"|\", behind the residues."));
 
     ProteinDigestionItem item;
     item.m_name = rule.first().trimmed();
     if (item.m_name.isEmpty() || item.m_name.contains(QLatin1Char('|')))
-        return malformed(Tr::tr("The name before \"@\" must not be empty and must not hold \"|\"."));
+        return malformed(
+            ProteinDigestionItemTr::tr("The name before \"@\" must not be empty and must not hold \"|\"."));
     ORV_RETURN_IF_ERROR(readResidues(cut.first(), &item.m_residues));
     ORV_RETURN_IF_ERROR(readSide(QStringView(cut.last()).trimmed(), &item.m_side));
     return item;
@@ -133,8 +140,8 @@ Result<QList<DigestedPeptide>> ProteinDigestionItem::digest(const QString &seque
         for (const proteome::DigestedPeptide &peptide : digestion) {
             letters += static_cast<qint64>(peptide.sequence().size());
             if (letters > kMostLetters) {
-                return undigested(
-                    Tr::tr("There are too many peptides. Allow fewer missed cleavages or shorter peptides."));
+                return undigested(ProteinDigestionItemTr::tr(
+                    "There are too many peptides. Allow fewer missed cleavages or shorter peptides."));
             }
             peptides.append({QString::fromStdString(peptide.sequence()), static_cast<int>(peptide.offset()),
                              static_cast<int>(peptide.missedCleavages())});

@@ -12,15 +12,15 @@ namespace {
 /// Letters; the largest known assemblies have a tenth of it.
 constexpr qsizetype kLongestProtein = 1'000'000;
 
-struct Tr
+struct ProteinGeneratorTr
 {
     Q_DECLARE_TR_FUNCTIONS(ProteinGenerator)
 };
 
 Error tooLong(const QString &protein)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("A protein is too large."))
-        .addDetail(Tr::tr("The sequences of \"%1\" have more than %2 letters together.")
+    return Error(ErrorCode::InvalidContent, ProteinGeneratorTr::tr("A protein is too large."))
+        .addDetail(ProteinGeneratorTr::tr("The sequences of \"%1\" have more than %2 letters together.")
                        .arg(protein)
                        .arg(kLongestProtein));
 }

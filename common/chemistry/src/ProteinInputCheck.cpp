@@ -11,7 +11,7 @@ namespace orv::ProteinUtils {
 
 namespace {
 
-struct Tr
+struct ProteinUtilsTr
 {
     Q_DECLARE_TR_FUNCTIONS(ProteinUtils)
 };
@@ -38,7 +38,7 @@ public:
             checkProtein(protein);
         for (const Chain &chain : m_options.chains) {
             if (!m_usedNumbers.contains(chain.number) && !m_usedNames.contains(chain.name))
-                warnings.append(Tr::tr("No protein uses the chain \"%1\".").arg(chain.name));
+                warnings.append(ProteinUtilsTr::tr("No protein uses the chain \"%1\".").arg(chain.name));
         }
     }
 
@@ -55,31 +55,32 @@ private:
     {
         m_chains.insert(chain.number, &chain);
         if (!chain.id.isEmpty() && m_ids.contains(chain.id))
-            warnings.append(Tr::tr("Two chains have the id \"%1\".").arg(chain.id));
+            warnings.append(ProteinUtilsTr::tr("Two chains have the id \"%1\".").arg(chain.id));
         if (m_names.contains(chain.name))
-            warnings.append(Tr::tr("Two chains have the name \"%1\".").arg(chain.name));
+            warnings.append(ProteinUtilsTr::tr("Two chains have the name \"%1\".").arg(chain.name));
         m_ids.insert(chain.id);
         m_names.insert(chain.name);
         if (chain.sequence.trimmed().isEmpty()) {
-            errors.append(Tr::tr("The chain \"%1\" has no sequence.").arg(chain.name));
+            errors.append(ProteinUtilsTr::tr("The chain \"%1\" has no sequence.").arg(chain.name));
             return;
         }
         const Result<ChemicalFormula> formula =
             m_factory.formula(ProteinGenerator::cleanSequence(chain.sequence, chain.type), chain.type);
         if (formula.hasError())
-            errors.append(Tr::tr("The chain \"%1\" has no mass. %2").arg(chain.name, texts(formula.error())));
+            errors.append(ProteinUtilsTr::tr("The chain \"%1\" has no mass. %2")
+                              .arg(chain.name, texts(formula.error())));
     }
 
     void checkProtein(const ProteinComplex &protein)
     {
         if (protein.name.trimmed().isEmpty())
-            warnings.append(Tr::tr("A protein has no name, so its masses can't be told apart."));
+            warnings.append(ProteinUtilsTr::tr("A protein has no name, so its masses can't be told apart."));
         for (int number : protein.chainNumbers)
             m_usedNumbers.insert(number);
         if (ProteinAutoPopulateOptions::mayConvert(protein.name))
             checkCombinations(protein);
         else if (protein.chainNumbers.isEmpty())
-            errors.append(Tr::tr("The protein \"%1\" has no chains.").arg(protein.name));
+            errors.append(ProteinUtilsTr::tr("The protein \"%1\" has no chains.").arg(protein.name));
         checkDisulfides(protein);
         checkSamples(protein);
     }
@@ -104,7 +105,7 @@ private:
                 cysteines += chain->sequence.count(QLatin1Char('C'), Qt::CaseInsensitive);
         }
         if (2LL * protein.disulfides > cysteines) {
-            errors.append(Tr::tr("The protein \"%1\" has %2 disulfide bonds but %3 cysteines.")
+            errors.append(ProteinUtilsTr::tr("The protein \"%1\" has %2 disulfide bonds but %3 cysteines.")
                               .arg(protein.name)
                               .arg(protein.disulfides)
                               .arg(cysteines));
@@ -118,7 +119,7 @@ private:
             return;
         const bool all = gone.size() == protein.samplesIds.size();
         (all ? errors : warnings)
-            .append(Tr::tr("The protein \"%1\" is for the samples %2, which don't exist.")
+            .append(ProteinUtilsTr::tr("The protein \"%1\" is for the samples %2, which don't exist.")
                         .arg(protein.name, Internal::joinedNumbers(gone)));
     }
 

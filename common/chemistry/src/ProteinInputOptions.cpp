@@ -20,7 +20,7 @@ using namespace Internal::ProteinColumns;
 using Internal::TableReader;
 using InputOptions = ProteinGenerator::InputOptions;
 
-struct Tr
+struct ProteinInputOptionsTr
 {
     Q_DECLARE_TR_FUNCTIONS(ProteinGenerator)
 };
@@ -46,8 +46,10 @@ QString textOf(ChainType type)
 
 Error badRow(QLatin1String table, int row, const QString &reason)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("The tables of proteins can't be read."))
-        .addDetail(Tr::tr("Row %1 of the table \"%2\": %3").arg(row + 1).arg(table, reason));
+    return Error(ErrorCode::InvalidContent,
+                 ProteinInputOptionsTr::tr("The tables of proteins can't be read."))
+        .addDetail(
+            ProteinInputOptionsTr::tr("Row %1 of the table \"%2\": %3").arg(row + 1).arg(table, reason));
 }
 
 /// No type is that of a protein.
@@ -59,7 +61,8 @@ Error readType(const TableReader &rows, int row, ChainType *type)
     const auto found = std::find_if(kChainTypes.begin(), kChainTypes.end(),
                                     [&](const ChainTypeName &candidate) { return candidate.text == text; });
     if (found == kChainTypes.end())
-        return badRow(kChains, row, Tr::tr("There is no type \"%1\" of chains.").arg(text));
+        return badRow(kChains, row,
+                      ProteinInputOptionsTr::tr("There is no type \"%1\" of chains.").arg(text));
     *type = found->type;
     return Error::NoError;
 }
@@ -73,8 +76,9 @@ Error readChains(const RowNode &table, QList<Chain> *chains)
         Chain chain;
         chain.number = Internal::intOf(rows.cell(i, kNumber)).value_or(i + 1);
         if (chain.number < 1 || numbers.contains(chain.number)) {
-            return badRow(kChains, i,
-                          Tr::tr("The number %1 is below 1 or another chain's.").arg(chain.number));
+            return badRow(
+                kChains, i,
+                ProteinInputOptionsTr::tr("The number %1 is below 1 or another chain's.").arg(chain.number));
         }
         numbers.insert(chain.number);
         chain.id = rows.text(i, kChainId);
@@ -102,13 +106,14 @@ Error readProteins(const RowNode &table, const QList<Chain> &chains, QList<Prote
         protein.chainNumbers = Internal::intsOf(rows.cell(i, kChainNumbers));
         for (int number : std::as_const(protein.chainNumbers)) {
             if (!numbers.contains(number))
-                return badRow(kProteins, i, Tr::tr("There is no chain %1.").arg(number));
+                return badRow(kProteins, i, ProteinInputOptionsTr::tr("There is no chain %1.").arg(number));
         }
         const QVariant disulfides = rows.cell(i, kDisulfides);
         protein.disulfides = Internal::isEmptyCell(disulfides) ? 0 : Internal::intOf(disulfides).value_or(-1);
         if (protein.disulfides < 0) {
             return badRow(kProteins, i,
-                          Tr::tr("\"%1\" is no count of disulfide bonds.").arg(disulfides.toString()));
+                          ProteinInputOptionsTr::tr("\"%1\" is no count of disulfide bonds.")
+                              .arg(disulfides.toString()));
         }
         protein.samplesIds = Internal::intsOf(rows.cell(i, kSamplesIds));
         protein.otherCells = rows.otherCells(i);

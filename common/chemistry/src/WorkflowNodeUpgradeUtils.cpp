@@ -15,7 +15,7 @@ namespace {
 using XicMode = WorkflowNodeXicMethodOptions::XicMode;
 using ToleranceDetermination = WorkflowNodeInsilicoAlign::ToleranceDetermination;
 
-struct Tr
+struct WorkflowNodeUpgradeUtilsTr
 {
     Q_DECLARE_TR_FUNCTIONS(WorkflowNodeUpgradeUtils)
 };
@@ -83,8 +83,9 @@ public:
             m_taken.insert(key);
         } else {
             m_warnings.append(
-                Tr::tr("The advanced setting \"%1\" has the value \"%2\", which can't be read. It stays in "
-                       "the advanced configuration without effect; enter its value in the form.")
+                WorkflowNodeUpgradeUtilsTr::tr(
+                    "The advanced setting \"%1\" has the value \"%2\", which can't be read. It stays in "
+                    "the advanced configuration without effect; enter its value in the form.")
                     .arg(key, text));
         }
     }

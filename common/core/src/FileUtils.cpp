@@ -20,24 +20,24 @@ namespace orv::FileUtils {
 
 namespace {
 
-struct Tr
+struct FileUtilsTr
 {
     Q_DECLARE_TR_FUNCTIONS(FileUtils)
 };
 
 QString notRegular()
 {
-    return Tr::tr("It is a pipe or a device; name a regular file.");
+    return FileUtilsTr::tr("It is a pipe or a device; name a regular file.");
 }
 
 QString emptyName()
 {
-    return Tr::tr("The name is empty; name a file.");
+    return FileUtilsTr::tr("The name is empty; name a file.");
 }
 
 Error cannotOpen(const QString &path, const QString &detail)
 {
-    return Error(ErrorCode::CannotOpenFile, Tr::tr("Could not open the file: %1").arg(path))
+    return Error(ErrorCode::CannotOpenFile, FileUtilsTr::tr("Could not open the file: %1").arg(path))
         .addDetail(detail);
 }
 
@@ -45,7 +45,7 @@ Error tooLarge(const QString &path, qint64 size, qint64 maxSize)
 {
     const QLocale locale = QLocale::c();
     return Error(ErrorCode::InvalidContent,
-                 Tr::tr("The file is too large: %1 (%2, at most %3 are read)")
+                 FileUtilsTr::tr("The file is too large: %1 (%2, at most %3 are read)")
                      .arg(path, locale.formattedDataSize(size), locale.formattedDataSize(maxSize)));
 }
 
@@ -142,7 +142,7 @@ Error openRegular(const QString &path, QFile *file)
 {
     const QFileInfo info(path);
     if (info.isDir())
-        return cannotOpen(path, Tr::tr("It is a folder; name a file."));
+        return cannotOpen(path, FileUtilsTr::tr("It is a folder; name a file."));
     if (info.exists() && !info.isFile())
         return cannotOpen(path, notRegular());
     if (path.isEmpty())

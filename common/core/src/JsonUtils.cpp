@@ -9,7 +9,7 @@ namespace orv::JsonUtils {
 
 namespace {
 
-struct Tr
+struct JsonUtilsTr
 {
     Q_DECLARE_TR_FUNCTIONS(JsonUtils)
 };
@@ -17,7 +17,7 @@ struct Tr
 QString placeText(QByteArrayView json, qsizetype offset)
 {
     const TextPosition position = positionOfOffset(json, offset);
-    return Tr::tr("Line %1, column %2.").arg(position.line).arg(position.column);
+    return JsonUtilsTr::tr("Line %1, column %2.").arg(position.line).arg(position.column);
 }
 
 bool looksLikeUtf16(const QByteArray &json)
@@ -30,24 +30,24 @@ bool looksLikeUtf16(const QByteArray &json)
 QString remedyFor(QJsonParseError::ParseError error, const QByteArray &json)
 {
     if (json.isEmpty())
-        return Tr::tr("The text is empty.");
+        return JsonUtilsTr::tr("The text is empty.");
     if (looksLikeUtf16(json))
-        return Tr::tr("The text looks like UTF-16; save it as UTF-8.");
+        return JsonUtilsTr::tr("The text looks like UTF-16; save it as UTF-8.");
     if (json.contains('\0'))
-        return Tr::tr("The file is binary, no text; name another file.");
+        return JsonUtilsTr::tr("The file is binary, no text; name another file.");
     switch (error) {
     case QJsonParseError::IllegalUTF8String:
-        return Tr::tr("The text is not valid UTF-8 from there on; save it as UTF-8.");
+        return JsonUtilsTr::tr("The text is not valid UTF-8 from there on; save it as UTF-8.");
     case QJsonParseError::DeepNesting:
-        return Tr::tr("Arrays and objects are nested too deeply; at most 1024 levels are read.");
+        return JsonUtilsTr::tr("Arrays and objects are nested too deeply; at most 1024 levels are read.");
     case QJsonParseError::IllegalNumber:
-        return Tr::tr("There is no number that a double can store.");
+        return JsonUtilsTr::tr("There is no number that a double can store.");
     case QJsonParseError::GarbageAtEnd:
-        return Tr::tr("Text follows behind the document; remove it.");
+        return JsonUtilsTr::tr("Text follows behind the document; remove it.");
     case QJsonParseError::DocumentTooLarge:
-        return Tr::tr("The document is too large for one JSON document.");
+        return JsonUtilsTr::tr("The document is too large for one JSON document.");
     default:
-        return Tr::tr("Mend the text at that place, or restore the file from a copy.");
+        return JsonUtilsTr::tr("Mend the text at that place, or restore the file from a copy.");
     }
 }
 
@@ -59,7 +59,7 @@ Result<T> typedValue(const QJsonObject &object, const QString &key, QJsonValue::
     if (value.type() == type)
         return convert(value);
     return Error(ErrorCode::InvalidContent,
-                 Tr::tr("\"%1\" must be %2, but there is %3.")
+                 JsonUtilsTr::tr("\"%1\" must be %2, but there is %3.")
                      .arg(key, typeDescription(type), typeDescription(value.type())));
 }
 
@@ -90,9 +90,9 @@ Result<QJsonDocument> documentFromJson(const QByteArray &json)
     }
     if (const std::optional<DuplicateKey> duplicate = findDuplicateKey(json)) {
         Error error(ErrorCode::InvalidContent,
-                    Tr::tr("the key \"%1\" stands twice in one object").arg(duplicate->key));
+                    JsonUtilsTr::tr("the key \"%1\" stands twice in one object").arg(duplicate->key));
         error.addDetail(placeText(json, duplicate->offset));
-        error.addDetail(Tr::tr("Only one of the two values could be kept; remove the wrong one."));
+        error.addDetail(JsonUtilsTr::tr("Only one of the two values could be kept; remove the wrong one."));
         return error;
     }
     return document;
@@ -104,7 +104,7 @@ Result<QJsonObject> objectFromJson(const QByteArray &json)
     if (document.hasError())
         return document.ecatch();
     if (!document->isObject())
-        return Error(ErrorCode::InvalidContent, Tr::tr("The JSON document is not an object."));
+        return Error(ErrorCode::InvalidContent, JsonUtilsTr::tr("The JSON document is not an object."));
     return document->object();
 }
 
@@ -135,21 +135,21 @@ QString typeDescription(QJsonValue::Type type)
 {
     switch (type) {
     case QJsonValue::Null:
-        return Tr::tr("null");
+        return JsonUtilsTr::tr("null");
     case QJsonValue::Bool:
-        return Tr::tr("a bool");
+        return JsonUtilsTr::tr("a bool");
     case QJsonValue::Double:
-        return Tr::tr("a number");
+        return JsonUtilsTr::tr("a number");
     case QJsonValue::String:
-        return Tr::tr("a string");
+        return JsonUtilsTr::tr("a string");
     case QJsonValue::Array:
-        return Tr::tr("an array");
+        return JsonUtilsTr::tr("an array");
     case QJsonValue::Object:
-        return Tr::tr("an object");
+        return JsonUtilsTr::tr("an object");
     case QJsonValue::Undefined:
         break;
     }
-    return Tr::tr("nothing");
+    return JsonUtilsTr::tr("nothing");
 }
 
 } // namespace orv::JsonUtils

@@ -18,7 +18,7 @@ namespace orv {
 
 namespace {
 
-struct Tr
+struct SqliteConnectionTr
 {
     Q_DECLARE_TR_FUNCTIONS(SqliteConnection)
 };
@@ -77,23 +77,24 @@ Error failureOf(const QString &path, const QSqlError &error)
         std::ranges::find_if(kFailures, [number](const Failure &f) { return f.number == number; });
     const bool known = failure != kFailures.end();
     Error result(known ? failure->code : ErrorCode::MalformedStructure,
-                 Tr::tr("Could not read the database: %1").arg(path));
+                 SqliteConnectionTr::tr("Could not read the database: %1").arg(path));
     result.addDetail(error.databaseText().isEmpty() ? error.driverText() : error.databaseText());
     if (known)
-        result.addDetail(Tr::tr(failure->remedy));
+        result.addDetail(SqliteConnectionTr::tr(failure->remedy));
     return result;
 }
 
 Error notADatabase(const QString &path, const QString &reason)
 {
-    return Error(ErrorCode::MalformedStructure, Tr::tr("Could not read the database: %1").arg(path))
+    return Error(ErrorCode::MalformedStructure,
+                 SqliteConnectionTr::tr("Could not read the database: %1").arg(path))
         .addDetail(reason)
-        .addDetail(Tr::tr("Name a file that one of the applications has written."));
+        .addDetail(SqliteConnectionTr::tr("Name a file that one of the applications has written."));
 }
 
 Error cannotWrite(const QString &path, const QString &reason)
 {
-    return Error(ErrorCode::CannotOpenFile, Tr::tr("Could not write the file: %1").arg(path))
+    return Error(ErrorCode::CannotOpenFile, SqliteConnectionTr::tr("Could not write the file: %1").arg(path))
         .addDetail(reason);
 }
 
@@ -111,11 +112,12 @@ Result<QString> readingUri(const QString &path)
     if (!header)
         return header.error();
     if (header->isEmpty())
-        return notADatabase(path, Tr::tr("The file is empty."));
+        return notADatabase(path, SqliteConnectionTr::tr("The file is empty."));
     if (!header->startsWith(kMagic))
-        return notADatabase(path, Tr::tr("The file is no SQLite database."));
+        return notADatabase(path, SqliteConnectionTr::tr("The file is no SQLite database."));
     if (header->size() < kHeaderSize)
-        return notADatabase(path, Tr::tr("The file is cut short after %1 bytes.").arg(header->size()));
+        return notADatabase(
+            path, SqliteConnectionTr::tr("The file is cut short after %1 bytes.").arg(header->size()));
 
     // SQLite keeps its companions beside the file that a link leads to.
     const QString target = QFileInfo(path).canonicalFilePath();
@@ -149,9 +151,11 @@ public:
     Error open(const QString &databaseName, const QString &options)
     {
         if (!QSqlDatabase::isDriverAvailable(driverName())) {
-            return Error(ErrorCode::CannotOpenFile, Tr::tr("Could not read the database: %1").arg(path))
-                .addDetail(Tr::tr("Qt's driver for SQLite isn't installed, or the program has no application "
-                                  "object. On Debian install libqt6sql6-sqlite."));
+            return Error(ErrorCode::CannotOpenFile,
+                         SqliteConnectionTr::tr("Could not read the database: %1").arg(path))
+                .addDetail(SqliteConnectionTr::tr(
+                    "Qt's driver for SQLite isn't installed, or the program has no application "
+                    "object. On Debian install libqt6sql6-sqlite."));
         }
         database = QSqlDatabase::addDatabase(driverName(), name);
         database.setConnectOptions(options);
@@ -208,8 +212,9 @@ Result<std::unique_ptr<SqliteConnection>> SqliteConnection::open(const QString &
 Error SqliteConnection::createFile(const QString &path, const std::function<Error(SqliteConnection &)> &fill)
 {
     if (QFileInfo::exists(path)) {
-        return Error(ErrorCode::InvalidContent, Tr::tr("The file exists already: %1").arg(path))
-            .addDetail(Tr::tr("Choose another name, or remove the file first."));
+        return Error(ErrorCode::InvalidContent,
+                     SqliteConnectionTr::tr("The file exists already: %1").arg(path))
+            .addDetail(SqliteConnectionTr::tr("Choose another name, or remove the file first."));
     }
     const QTemporaryDir folder;
     if (!folder.isValid())

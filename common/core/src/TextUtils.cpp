@@ -6,7 +6,7 @@ namespace orv::TextUtils {
 
 namespace {
 
-struct Tr
+struct TextUtilsTr
 {
     Q_DECLARE_TR_FUNCTIONS(TextUtils)
 };
@@ -35,12 +35,12 @@ QString stringListToHtmlList(const QStringList &texts)
 
 QString errorsListToHtmlList(const QStringList &errors)
 {
-    return headed(Tr::tr("%n error(s)", nullptr, int(errors.size())), errors);
+    return headed(TextUtilsTr::tr("%n error(s)", nullptr, int(errors.size())), errors);
 }
 
 QString warningsListToHtmlList(const QStringList &warnings)
 {
-    return headed(Tr::tr("%n warning(s)", nullptr, int(warnings.size())), warnings);
+    return headed(TextUtilsTr::tr("%n warning(s)", nullptr, int(warnings.size())), warnings);
 }
 
 } // namespace orv::TextUtils

@@ -7,7 +7,7 @@ namespace orv::msreader {
 
 namespace {
 
-struct Tr
+struct DataSourceLocationTr
 {
     Q_DECLARE_TR_FUNCTIONS(DataSourceLocation)
 };
@@ -45,13 +45,13 @@ QString DataSourceLocation::toString() const
 Error DataSourceLocation::checkValidVendorFilePath(const QString &path)
 {
     if (path.isEmpty())
-        return {ErrorCode::InvalidContent, Tr::tr("Vendor file name is empty")};
+        return {ErrorCode::InvalidContent, DataSourceLocationTr::tr("Vendor file name is empty")};
     if (FilePathUtils::isWinLongPath(path) && !FilePathUtils::hasWinLongPathPrefix(path)) {
         return Error(ErrorCode::InvalidContent,
-                     Tr::tr("The path exceeds %1").arg(FilePathUtils::winMaxPathLength()))
-            .addDetail(Tr::tr("It has %1 characters.").arg(path.size()))
-            .addDetail(
-                Tr::tr(R"(Move the data into a shorter folder, or write "\\?\" in front of the path.)"));
+                     DataSourceLocationTr::tr("The path exceeds %1").arg(FilePathUtils::winMaxPathLength()))
+            .addDetail(DataSourceLocationTr::tr("It has %1 characters.").arg(path.size()))
+            .addDetail(DataSourceLocationTr::tr(
+                R"(Move the data into a shorter folder, or write "\\?\" in front of the path.)"));
     }
     return Error::NoError;
 }

@@ -18,7 +18,7 @@ using CreationOptions = ElutionPeaksOptions::CreationOptions;
 
 constexpr int kFactorDecimals = 2;
 
-struct Tr
+struct ElutionPeaksBackwardsCompatibilityTr
 {
     Q_DECLARE_TR_FUNCTIONS(ElutionPeaksBackwardsCompatibility)
 };
@@ -54,14 +54,17 @@ Error faultOf(const OldPeaksOptions &options, const char *kind)
     if (!isBad(options.smoothSigma) && !isBad(options.intervalTimeMinutes) &&
         !isBad(options.smoothSigmaBaseline))
         return Error::NoError;
-    return Error(ErrorCode::InvalidContent, Tr::tr("The peak settings of a kind of trace are out of range."))
-        .addDetail(Tr::tr("Kind of trace: %1; smoothing width %2, interval time %3, smoothing width of the "
-                          "baseline %4 minutes.")
+    return Error(ErrorCode::InvalidContent, ElutionPeaksBackwardsCompatibilityTr::tr(
+                                                "The peak settings of a kind of trace are out of range."))
+        .addDetail(ElutionPeaksBackwardsCompatibilityTr::tr(
+                       "Kind of trace: %1; smoothing width %2, interval time %3, smoothing width of the "
+                       "baseline %4 minutes.")
                        .arg(QLatin1String(kind))
                        .arg(options.smoothSigma)
                        .arg(options.intervalTimeMinutes)
                        .arg(options.smoothSigmaBaseline))
-        .addDetail(Tr::tr("Set them to 0 or more with the version that wrote the document."));
+        .addDetail(ElutionPeaksBackwardsCompatibilityTr::tr(
+            "Set them to 0 or more with the version that wrote the document."));
 }
 
 /// What the expert settings say for all presets, and the text without them.
@@ -92,7 +95,7 @@ Expert expertSettings(const QString &text)
             taken.insert(key);
         } else if (settings.contains(key)) {
             expert.warnings.append(
-                Tr::tr(
+                ElutionPeaksBackwardsCompatibilityTr::tr(
                     "The advanced setting \"%1\" has the value \"%2\", which can't be read. It stays in the "
                     "advanced configuration without effect; enter its value in the table of samples.")
                     .arg(key, settings.value(key).toString()));

@@ -14,7 +14,7 @@ constexpr qsizetype kChunkBytes = 1 << 18;
 constexpr int kHighestLevel = 99;
 constexpr int kLevelOfFragments = 2;
 
-struct Tr
+struct MgfReaderTr
 {
     Q_DECLARE_TR_FUNCTIONS(MgfReader)
 };
@@ -120,7 +120,8 @@ private:
         while (readLine(&line)) {
             if (line.compare(QByteArrayView("BEGIN IONS"), Qt::CaseInsensitive) == 0) {
                 if (open) {
-                    fail(Tr::tr("A query begins before the one of line %1 has ended.").arg(open->query.line));
+                    fail(MgfReaderTr::tr("A query begins before the one of line %1 has ended.")
+                             .arg(open->query.line));
                     return std::nullopt;
                 }
                 open.emplace();
@@ -128,14 +129,15 @@ private:
             } else if (line.compare(QByteArrayView("END IONS"), Qt::CaseInsensitive) == 0) {
                 if (open)
                     return open->closed();
-                fail(Tr::tr("A query ends that has not begun."));
+                fail(MgfReaderTr::tr("A query ends that has not begun."));
                 return std::nullopt;
             } else if (open) {
                 open->read(line);
             }
         }
         if (open && !m_failure.hasError())
-            fail(Tr::tr("The text ends inside the query that begins in line %1.").arg(open->query.line));
+            fail(MgfReaderTr::tr("The text ends inside the query that begins in line %1.")
+                     .arg(open->query.line));
         return std::nullopt;
     }
 
@@ -149,7 +151,7 @@ private:
             const QByteArrayView piece = end < 0 ? rest : rest.first(end);
             if (m_pieces.size() + piece.size() > m_limits.lineBytes) {
                 ++m_line;
-                fail(Tr::tr("A line is longer than %1 bytes.").arg(m_limits.lineBytes));
+                fail(MgfReaderTr::tr("A line is longer than %1 bytes.").arg(m_limits.lineBytes));
                 return false;
             }
             if (end >= 0) {
@@ -184,10 +186,10 @@ private:
 
     void fail(const QString &reason, ErrorCode code = ErrorCode::InvalidContent)
     {
-        m_failure =
-            Error(code, Tr::tr("The MGF text can't be read."))
-                .addDetail(Tr::tr("Line %1: %2").arg(m_line).arg(reason))
-                .addDetail(Tr::tr("Copy or export the file again; it may have been cut short on the way."));
+        m_failure = Error(code, MgfReaderTr::tr("The MGF text can't be read."))
+                        .addDetail(MgfReaderTr::tr("Line %1: %2").arg(m_line).arg(reason))
+                        .addDetail(MgfReaderTr::tr(
+                            "Copy or export the file again; it may have been cut short on the way."));
     }
 
     QIODevice *m_device;

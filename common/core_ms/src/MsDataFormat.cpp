@@ -8,7 +8,7 @@ namespace orv::msreader {
 
 namespace {
 
-struct Tr
+struct MsDataFormatTr
 {
     Q_DECLARE_TR_FUNCTIONS(MsDataFormat)
 };
@@ -67,8 +67,9 @@ Result<VendorDataFormat> vendorDataFormatFromString(const QString &text)
         if (text.compare(QLatin1String(row.text), Qt::CaseInsensitive) == 0)
             return row.format;
     }
-    return Error(ErrorCode::InvalidContent,
-                 Tr::tr("Could not find match for converting vendor data format to string: %1").arg(text));
+    return Error(
+        ErrorCode::InvalidContent,
+        MsDataFormatTr::tr("Could not find match for converting vendor data format to string: %1").arg(text));
 }
 
 } // namespace orv::msreader

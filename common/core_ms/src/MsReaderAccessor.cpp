@@ -8,7 +8,7 @@ namespace orv::msreader {
 
 namespace {
 
-struct Tr
+struct MsReaderAccessorTr
 {
     Q_DECLARE_TR_FUNCTIONS(MsReaderAccessor)
 };
@@ -20,7 +20,7 @@ Answer withoutExceptions(const Question &question)
     try {
         return question();
     } catch (const std::exception &exception) {
-        return Error(ErrorCode::InvalidContent, Tr::tr("The MS data can't be read."))
+        return Error(ErrorCode::InvalidContent, MsReaderAccessorTr::tr("The MS data can't be read."))
             .addDetail(QString::fromLocal8Bit(exception.what()));
     }
 }
@@ -41,7 +41,7 @@ Error MsReaderAccessor::open()
     Error error = withoutExceptions<Error>([this] { return openData(); });
     m_isOpen = !error.hasError();
     if (error)
-        return error.addDetail(Tr::tr("File: %1").arg(path())).ecatch();
+        return error.addDetail(MsReaderAccessorTr::tr("File: %1").arg(path())).ecatch();
     return error;
 }
 
@@ -50,7 +50,7 @@ Result<bool> MsReaderAccessor::hasMsProfileData(int level) const
     ORV_RETURN_IF_ERROR(checkedOpen());
     Result<bool> answer = withoutExceptions<Result<bool>>([this, level] { return readHasLevel(level); });
     if (answer.hasError())
-        return answer.ecatch().addDetail(Tr::tr("File: %1").arg(path()));
+        return answer.ecatch().addDetail(MsReaderAccessorTr::tr("File: %1").arg(path()));
     return answer;
 }
 
@@ -60,7 +60,7 @@ Result<QList<ChromatogramInfo>> MsReaderAccessor::chromatogramInfoList(const Chr
     ORV_RETURN_IF_ERROR(checkedOpen());
     Result<Infos> answer = withoutExceptions<Result<Infos>>([this] { return readChromatograms(); });
     if (answer.hasError())
-        return answer.ecatch().addDetail(Tr::tr("File: %1").arg(path()));
+        return answer.ecatch().addDetail(MsReaderAccessorTr::tr("File: %1").arg(path()));
     Infos wanted;
     std::copy_if(answer->cbegin(), answer->cend(), std::back_inserter(wanted), filter);
     return wanted;
@@ -70,7 +70,8 @@ Error MsReaderAccessor::checkedOpen() const
 {
     if (m_isOpen)
         return Error::NoError;
-    return Error(ErrorCode::CannotOpenFile, Tr::tr("The MS data aren't open: %1").arg(path()));
+    return Error(ErrorCode::CannotOpenFile,
+                 MsReaderAccessorTr::tr("The MS data aren't open: %1").arg(path()));
 }
 
 } // namespace orv::msreader

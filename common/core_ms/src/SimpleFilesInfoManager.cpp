@@ -16,7 +16,7 @@ namespace {
 
 using Answer = Result<ResourceReferenceSPtr>;
 
-struct Tr
+struct SimpleFilesInfoManagerTr
 {
     Q_DECLARE_TR_FUNCTIONS(SimpleFilesInfoManager)
 };
@@ -58,9 +58,10 @@ std::optional<QString> existingPath(const QString &path)
 
 Answer missing(const ResourceReferenceSPtr &reference)
 {
-    return Error(ErrorCode::CannotOpenFile,
-                 Tr::tr("The file \"%1\" does not exist.").arg(reference->readableText()))
-        .addDetail(Tr::tr("Restore the file, or refer to another one."));
+    return Error(
+               ErrorCode::CannotOpenFile,
+               SimpleFilesInfoManagerTr::tr("The file \"%1\" does not exist.").arg(reference->readableText()))
+        .addDetail(SimpleFilesInfoManagerTr::tr("Restore the file, or refer to another one."));
 }
 
 Answer askedLocally(const ResourceReferenceSPtr &reference)
@@ -103,7 +104,8 @@ SimpleFilesInfoManager::validateAndCorrectFileReference(const ResourceReferenceS
 {
     const auto answer = m_answers.find(reference);
     if (answer == m_answers.end()) {
-        return Error(ErrorCode::InvalidContent, Tr::tr("The file is none of those that are asked for."))
+        return Error(ErrorCode::InvalidContent,
+                     SimpleFilesInfoManagerTr::tr("The file is none of those that are asked for."))
             .addDetail(reference ? reference->readableText() : QString());
     }
     if (!answer->has_value())

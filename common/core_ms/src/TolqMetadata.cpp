@@ -7,7 +7,7 @@ namespace orv {
 
 namespace {
 
-struct Tr
+struct TolqMetadataTr
 {
     Q_DECLARE_TR_FUNCTIONS(TolqMetadata)
 };
@@ -20,7 +20,7 @@ const QVersionNumber &firstVersionWithMappings()
 
 Error invalid(const QString &reason, const QString &value)
 {
-    return Error(ErrorCode::InvalidContent, reason).addDetail(Tr::tr("It is \"%1\".").arg(value));
+    return Error(ErrorCode::InvalidContent, reason).addDetail(TolqMetadataTr::tr("It is \"%1\".").arg(value));
 }
 
 Error readVersion(const QJsonObject &json, QVersionNumber *version)
@@ -31,7 +31,7 @@ Error readVersion(const QJsonObject &json, QVersionNumber *version)
     qsizetype end = 0;
     *version = QVersionNumber::fromString(*text, &end);
     if (version->isNull() || end != text->size())
-        return invalid(Tr::tr("The version of the metadata is none."), *text);
+        return invalid(TolqMetadataTr::tr("The version of the metadata is none."), *text);
     return Error::NoError;
 }
 
@@ -51,7 +51,7 @@ Result<QString> sampleOf(const QJsonObject &json)
     if (name.hasError())
         return name.ecatch();
     if (!isPlainName(*name))
-        return invalid(Tr::tr("The name of the sample is no plain name."), *name);
+        return invalid(TolqMetadataTr::tr("The name of the sample is no plain name."), *name);
     return *name;
 }
 
@@ -78,7 +78,7 @@ Error addMapping(const QJsonValue &value, TolqMetadata::TraceMappings *mappings)
     if (to.hasError())
         return to.ecatch();
     if (mappings->contains(*from))
-        return invalid(Tr::tr("A trace is mapped twice."), from->channelName);
+        return invalid(TolqMetadataTr::tr("A trace is mapped twice."), from->channelName);
     mappings->insert(*from, *to);
     return Error::NoError;
 }
@@ -94,7 +94,7 @@ Result<TolqMetadata::TraceMappings> mappingsOf(const QJsonObject &json)
         return array.ecatch();
     for (qsizetype i = 0; i < array->size(); ++i) {
         if (Error error = addMapping(array->at(i), &mappings))
-            return error.ecatch().addDetail(Tr::tr("Place: /%1/%2").arg(key).arg(i));
+            return error.ecatch().addDetail(TolqMetadataTr::tr("Place: /%1/%2").arg(key).arg(i));
     }
     return mappings;
 }

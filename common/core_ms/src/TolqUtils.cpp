@@ -14,7 +14,7 @@ namespace {
 
 using internal::TolqArchive;
 
-struct Tr
+struct TolqUtilsTr
 {
     Q_DECLARE_TR_FUNCTIONS(TolqUtils)
 };
@@ -30,7 +30,7 @@ Result<TolqMetadata> parsed(Result<QByteArray> json, const QString &path)
         return json.ecatch();
     Result<TolqMetadata> metadata = TolqMetadata::fromJson(*json);
     if (metadata.hasError())
-        return metadata.ecatch().addDetail(Tr::tr("File: %1, %2").arg(path, metadataName()));
+        return metadata.ecatch().addDetail(TolqUtilsTr::tr("File: %1, %2").arg(path, metadataName()));
     return metadata;
 }
 
@@ -41,9 +41,11 @@ Result<QString> samplePathInFolder(const QString &folder, const QString &sample)
     const QString place = QFileInfo(path).canonicalFilePath();
     if (place.startsWith(QFileInfo(folder).canonicalFilePath() + QLatin1Char('/')))
         return path;
-    return Error(ErrorCode::InvalidContent, Tr::tr("The acquired sample can't be read: %1").arg(folder))
-        .addDetail(place.isEmpty() ? Tr::tr("\"%1\" isn't there.").arg(sample)
-                                   : Tr::tr("\"%1\" is a link that leads out of the folder.").arg(sample));
+    return Error(ErrorCode::InvalidContent,
+                 TolqUtilsTr::tr("The acquired sample can't be read: %1").arg(folder))
+        .addDetail(place.isEmpty()
+                       ? TolqUtilsTr::tr("\"%1\" isn't there.").arg(sample)
+                       : TolqUtilsTr::tr("\"%1\" is a link that leads out of the folder.").arg(sample));
 }
 
 } // namespace

@@ -13,22 +13,22 @@ namespace orv::ulvar2 {
 
 namespace {
 
-struct Tr
+struct Ulvar2DaoTr
 {
     Q_DECLARE_TR_FUNCTIONS(Ulvar2Dao)
 };
 
 Error cannotOpen(const QString &path, const QString &detail)
 {
-    return Error(ErrorCode::CannotOpenFile, Tr::tr("Could not open the file: %1").arg(path))
+    return Error(ErrorCode::CannotOpenFile, Ulvar2DaoTr::tr("Could not open the file: %1").arg(path))
         .addDetail(detail);
 }
 
 Error damaged(const QString &path, const QString &detail)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("The Ulvar2 file can't be read: %1").arg(path))
+    return Error(ErrorCode::InvalidContent, Ulvar2DaoTr::tr("The Ulvar2 file can't be read: %1").arg(path))
         .addDetail(detail)
-        .addDetail(Tr::tr("Process or copy the sample again."));
+        .addDetail(Ulvar2DaoTr::tr("Process or copy the sample again."));
 }
 
 QString newConnectionName()
@@ -41,15 +41,15 @@ Error checkIsDatabase(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        return cannotOpen(path, Tr::tr("It isn't there, or its folder can't be read."));
+        return cannotOpen(path, Ulvar2DaoTr::tr("It isn't there, or its folder can't be read."));
     if (!info.isFile())
-        return cannotOpen(path, Tr::tr("It is no regular file."));
+        return cannotOpen(path, Ulvar2DaoTr::tr("It is no regular file."));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return cannotOpen(path, file.errorString());
     const QByteArrayView magic("SQLite format 3\0", 16);
     if (file.read(magic.size()) != magic)
-        return damaged(path, Tr::tr("It is no SQLite database."));
+        return damaged(path, Ulvar2DaoTr::tr("It is no SQLite database."));
     return Error::NoError;
 }
 
@@ -82,8 +82,8 @@ Error Ulvar2Dao::open(const QString &path)
         database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=2000"));
         database.setDatabaseName(QFileInfo(path).absoluteFilePath());
         if (!database.isValid())
-            reason =
-                Tr::tr("The SQLite driver of Qt is missing; on Debian: apt-get install libqt6sql6-sqlite");
+            reason = Ulvar2DaoTr::tr(
+                "The SQLite driver of Qt is missing; on Debian: apt-get install libqt6sql6-sqlite");
         else if (!database.open())
             reason = database.lastError().text();
     }
@@ -96,7 +96,7 @@ Error Ulvar2Dao::open(const QString &path)
 Result<QList<InfoRecord>> Ulvar2Dao::readInfos() const
 {
     if (m_connection.isEmpty())
-        return Error(ErrorCode::CannotOpenFile, Tr::tr("No Ulvar2 file is open."));
+        return Error(ErrorCode::CannotOpenFile, Ulvar2DaoTr::tr("No Ulvar2 file is open."));
     QSqlQuery query(QSqlDatabase::database(m_connection, false));
     query.setForwardOnly(true);
     // A view or virtual table of that name could compute without end.
@@ -104,7 +104,7 @@ Result<QList<InfoRecord>> Ulvar2Dao::readInfos() const
                                    "AND sql LIKE 'CREATE TABLE%'")))
         return damaged(m_path, query.lastError().text());
     if (!query.next())
-        return damaged(m_path, Tr::tr("It has no table \"Info\"."));
+        return damaged(m_path, Ulvar2DaoTr::tr("It has no table \"Info\"."));
     if (!query.exec(QStringLiteral("SELECT substr(Key, 1, %1), substr(Value, 1, %1) FROM Info LIMIT %2")
                         .arg(kMostCharacters + 1)
                         .arg(kMostInfos + 1)))
@@ -113,9 +113,9 @@ Result<QList<InfoRecord>> Ulvar2Dao::readInfos() const
     while (query.next()) {
         InfoRecord info{query.value(0).toString(), query.value(1).toString()};
         if (info.key.size() > kMostCharacters || info.value.size() > kMostCharacters)
-            return damaged(m_path, Tr::tr("Record %1 is too long.").arg(infos.size() + 1));
+            return damaged(m_path, Ulvar2DaoTr::tr("Record %1 is too long.").arg(infos.size() + 1));
         if (infos.size() == kMostInfos)
-            return damaged(m_path, Tr::tr("It has more than %1 records.").arg(kMostInfos));
+            return damaged(m_path, Ulvar2DaoTr::tr("It has more than %1 records.").arg(kMostInfos));
         infos.append(std::move(info));
     }
     if (query.lastError().isValid())

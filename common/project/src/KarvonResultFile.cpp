@@ -8,7 +8,7 @@ namespace orv {
 
 namespace {
 
-struct Tr
+struct KarvonResultFileTr
 {
     Q_DECLARE_TR_FUNCTIONS(KarvonResultFile)
 };
@@ -34,8 +34,9 @@ Error checkSize(const SqliteConnection &connection)
         counts.value(1).toDouble() <= double(FileUtils::kMaxFileSize))
         return Error::NoError;
     return Error(ErrorCode::InvalidContent,
-                 Tr::tr("The list of MS files is too large: %1").arg(connection.path()))
-        .addDetail(Tr::tr("At most %1 references are read. Restore the file from a copy, or search anew.")
+                 KarvonResultFileTr::tr("The list of MS files is too large: %1").arg(connection.path()))
+        .addDetail(KarvonResultFileTr::tr(
+                       "At most %1 references are read. Restore the file from a copy, or search anew.")
                        .arg(kMaxFiles));
 }
 

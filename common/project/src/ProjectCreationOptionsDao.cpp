@@ -12,7 +12,7 @@ namespace orv {
 
 namespace {
 
-struct Tr
+struct ProjectCreationOptionsDaoTr
 {
     Q_DECLARE_TR_FUNCTIONS(ProjectCreationOptionsDao)
 };
@@ -45,13 +45,16 @@ Error ProjectCreationOptionsDao::checkColumns() const
     if (!version)
         return version.ecatch();
     return Error(ErrorCode::MalformedStructure,
-                 Tr::tr("The creation options of the project can't be read: %1").arg(m_project->fileName()))
-        .addDetail(Tr::tr("The project has the form %1, and its table %2 lacks the column %3 or %4.")
+                 ProjectCreationOptionsDaoTr::tr("The creation options of the project can't be read: %1")
+                     .arg(m_project->fileName()))
+        .addDetail(ProjectCreationOptionsDaoTr::tr(
+                       "The project has the form %1, and its table %2 lacks the column %3 or %4.")
                        .arg(QString::number(*version), OptionsTable::kName, OptionsTable::kKeyColumn,
                             OptionsTable::kValueColumn))
         .addDetail(*version > ProjectFile::kCurrentSchemaVersion
-                       ? Tr::tr("Open it with a newer version of this software.")
-                       : Tr::tr("Restore the file from a copy, or create the project anew."));
+                       ? ProjectCreationOptionsDaoTr::tr("Open it with a newer version of this software.")
+                       : ProjectCreationOptionsDaoTr::tr(
+                             "Restore the file from a copy, or create the project anew."));
 }
 
 Result<bool> ProjectCreationOptionsDao::keyExists(const QString &key) const
@@ -74,11 +77,13 @@ Error ProjectCreationOptionsDao::checkSize(const QString &key) const
         return Error::NoError;
     const QLocale locale = QLocale::c();
     return Error(ErrorCode::InvalidContent,
-                 Tr::tr("The creation options of the project are too large: %1").arg(m_project->fileName()))
-        .addDetail(Tr::tr("The option %1 holds %2, at most %3 are read.")
+                 ProjectCreationOptionsDaoTr::tr("The creation options of the project are too large: %1")
+                     .arg(m_project->fileName()))
+        .addDetail(ProjectCreationOptionsDaoTr::tr("The option %1 holds %2, at most %3 are read.")
                        .arg(key, locale.formattedDataSize(qint64(size)),
                             locale.formattedDataSize(FileUtils::kMaxFileSize)))
-        .addDetail(Tr::tr("Restore the file from a copy, or create the project anew."));
+        .addDetail(
+            ProjectCreationOptionsDaoTr::tr("Restore the file from a copy, or create the project anew."));
 }
 
 Result<QList<ProjectCreationOption>> ProjectCreationOptionsDao::readOption(const QString &key) const

@@ -12,7 +12,7 @@ namespace {
 
 using JobState = ProjectCreationStatusFile::JobState;
 
-struct Tr
+struct ProjectCreationStatusFileTr
 {
     Q_DECLARE_TR_FUNCTIONS(ProjectCreationStatusFile)
 };
@@ -39,8 +39,10 @@ constexpr std::array kStates = {
 
 Error malformed(const QString &member, const QString &expected)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("The file is no status of a project's creation."))
-        .addDetail(Tr::tr("\"%1\" must be %2. Create the project anew.").arg(member, expected));
+    return Error(ErrorCode::InvalidContent,
+                 ProjectCreationStatusFileTr::tr("The file is no status of a project's creation."))
+        .addDetail(ProjectCreationStatusFileTr::tr("\"%1\" must be %2. Create the project anew.")
+                       .arg(member, expected));
 }
 
 Result<ProjectCreationStatusFile::Job> readJob(const QJsonValue &json)
@@ -50,16 +52,16 @@ Result<ProjectCreationStatusFile::Job> readJob(const QJsonValue &json)
     const auto *const row =
         std::ranges::find_if(kStates, [&text](const StateRow &state) { return state.text == text; });
     if (row == kStates.end())
-        return malformed(kStateKey, Tr::tr("queued, running, done or failed"));
+        return malformed(kStateKey, ProjectCreationStatusFileTr::tr("queued, running, done or failed"));
     if (!object.value(kNameKey).isString())
-        return malformed(kNameKey, Tr::tr("a string"));
+        return malformed(kNameKey, ProjectCreationStatusFileTr::tr("a string"));
     return ProjectCreationStatusFile::Job{object.value(kNameKey).toString(), row->state};
 }
 
 Result<QList<ProjectCreationStatusFile::Job>> readJobs(const QJsonValue &json)
 {
     if (!json.isArray() && !json.isUndefined())
-        return malformed(kJobsKey, Tr::tr("an array"));
+        return malformed(kJobsKey, ProjectCreationStatusFileTr::tr("an array"));
     QList<ProjectCreationStatusFile::Job> jobs;
     for (const auto element : json.toArray()) {
         auto job = readJob(element);
@@ -76,7 +78,8 @@ Result<QDateTime> readMoment(const QJsonValue &json)
         return QDateTime();
     const QDateTime moment = QDateTime::fromString(json.toString(), Qt::ISODateWithMs);
     if (!moment.isValid())
-        return malformed(kStartedKey, Tr::tr("a moment such as 2024-01-31T10:20:30Z"));
+        return malformed(kStartedKey,
+                         ProjectCreationStatusFileTr::tr("a moment such as 2024-01-31T10:20:30Z"));
     return moment;
 }
 
@@ -84,7 +87,7 @@ Result<int> readProgress(const QJsonValue &json)
 {
     const int percent = json.isUndefined() ? 0 : json.toInt(-1);
     if (percent < 0 || percent > 100)
-        return malformed(kProgressKey, Tr::tr("a whole number from 0 to 100"));
+        return malformed(kProgressKey, ProjectCreationStatusFileTr::tr("a whole number from 0 to 100"));
     return percent;
 }
 
@@ -120,10 +123,14 @@ Result<ProjectCreationStatusFile> ProjectCreationStatusFile::read(const QString 
         return bytes.ecatch();
     auto object = JsonUtils::objectFromJson(*bytes);
     if (!object)
-        return Error(object.error()).addDetail(Tr::tr("The file is %1.").arg(path)).ecatch();
+        return Error(object.error())
+            .addDetail(ProjectCreationStatusFileTr::tr("The file is %1.").arg(path))
+            .ecatch();
     auto status = fromJson(*object);
     if (!status)
-        return Error(status.error()).addDetail(Tr::tr("The file is %1.").arg(path)).ecatch();
+        return Error(status.error())
+            .addDetail(ProjectCreationStatusFileTr::tr("The file is %1.").arg(path))
+            .ecatch();
     return status;
 }
 
@@ -140,7 +147,8 @@ Error ProjectCreationStatusFile::write(const QString &path) const
     QString reason;
     if (FileUtils::writeToFile(path, QJsonDocument(object).toJson(), &reason) == QFileDevice::NoError)
         return Error::NoError;
-    return Error(ErrorCode::CannotOpenFile, Tr::tr("Could not write the file: %1").arg(path))
+    return Error(ErrorCode::CannotOpenFile,
+                 ProjectCreationStatusFileTr::tr("Could not write the file: %1").arg(path))
         .addDetail(reason);
 }
 

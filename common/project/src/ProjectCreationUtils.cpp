@@ -6,7 +6,7 @@ namespace orv::ProjectCreationUtils {
 
 namespace {
 
-struct Tr
+struct ProjectCreationUtilsTr
 {
     Q_DECLARE_TR_FUNCTIONS(ProjectCreationUtils)
 };
@@ -43,9 +43,11 @@ Result<QString> createTempFolder(const QDir &dir, const QString &name)
             break;
     }
     return Error(ErrorCode::CannotOpenFile,
-                 Tr::tr("Could not create a temporary folder in: %1").arg(dir.absolutePath()))
-        .addDetail(
-            Tr::tr("The project is %1. Check that the folder exists, and the rights on it.").arg(name));
+                 ProjectCreationUtilsTr::tr("Could not create a temporary folder in: %1")
+                     .arg(dir.absolutePath()))
+        .addDetail(ProjectCreationUtilsTr::tr(
+                       "The project is %1. Check that the folder exists, and the rights on it.")
+                       .arg(name));
 }
 
 QString lastTempFolder(const QDir &dir, const QString &name)

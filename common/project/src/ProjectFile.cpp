@@ -13,7 +13,7 @@ namespace orv::ProjectFile {
 
 namespace {
 
-struct Tr
+struct ProjectFileTr
 {
     Q_DECLARE_TR_FUNCTIONS(ProjectFile)
 };
@@ -41,8 +41,9 @@ Error checkOptions(const QList<ProjectCreationOption> &options, const Schema &sc
     for (const ProjectCreationOption &option : options) {
         if (schema.isUnique && keys.contains(option.key)) {
             return Error(ErrorCode::InvalidContent,
-                         Tr::tr("Two creation options of a project have one key: %1").arg(option.key))
-                .addDetail(Tr::tr("Give each key once."));
+                         ProjectFileTr::tr("Two creation options of a project have one key: %1")
+                             .arg(option.key))
+                .addDetail(ProjectFileTr::tr("Give each key once."));
         }
         keys.insert(option.key);
     }
@@ -80,8 +81,9 @@ Error create(const QString &fileName, const QList<ProjectCreationOption> &option
 {
     const auto *const schema = std::ranges::find(kSchemas, schemaVersion, &Schema::version);
     if (schema == kSchemas.end()) {
-        return Error(ErrorCode::InvalidContent, Tr::tr("Unknown form of a project: %1").arg(schemaVersion))
-            .addDetail(Tr::tr("Known are 1 to %1.").arg(kCurrentSchemaVersion));
+        return Error(ErrorCode::InvalidContent,
+                     ProjectFileTr::tr("Unknown form of a project: %1").arg(schemaVersion))
+            .addDetail(ProjectFileTr::tr("Known are 1 to %1.").arg(kCurrentSchemaVersion));
     }
     ORV_RETURN_IF_ERROR(checkOptions(options, *schema));
     ORV_RETURN_IF_ERROR(SqliteConnection::createFile(

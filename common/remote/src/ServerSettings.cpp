@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kDefaultTimeoutMs = 30000;
 
-struct Tr
+struct ServerSettingsTr
 {
     Q_DECLARE_TR_FUNCTIONS(ServerSettings)
 };
@@ -34,13 +34,14 @@ QString addressFault(const QUrl &address)
     const bool isEncrypted = address.scheme() == QLatin1String("https");
     if (!address.isValid() || address.host().isEmpty() ||
         (!isEncrypted && address.scheme() != QLatin1String("http")))
-        return Tr::tr("Write it as https://HOST:PORT.");
+        return ServerSettingsTr::tr("Write it as https://HOST:PORT.");
     if (!address.userInfo().isEmpty())
-        return Tr::tr("Take the user and the password out of it; who asks is shown by a token.");
+        return ServerSettingsTr::tr(
+            "Take the user and the password out of it; who asks is shown by a token.");
     if (address.hasQuery() || address.hasFragment())
-        return Tr::tr("Take out what stands behind \"?\" or \"#\".");
+        return ServerSettingsTr::tr("Take out what stands behind \"?\" or \"#\".");
     if (!isEncrypted && !isThisMachine(address.host()))
-        return Tr::tr("Servers other than this machine are asked over https:// only.");
+        return ServerSettingsTr::tr("Servers other than this machine are asked over https:// only.");
     return {};
 }
 
@@ -68,16 +69,18 @@ ServerSettings ServerSettings::unifi()
 Error ServerSettings::check() const
 {
     if (!isSet())
-        return Error(ErrorCode::InvalidContent, Tr::tr("The address of the server isn't set."))
-            .addDetail(Tr::tr("Set \"%1\" to the address of the server.").arg(m_addressKey));
+        return Error(ErrorCode::InvalidContent, ServerSettingsTr::tr("The address of the server isn't set."))
+            .addDetail(ServerSettingsTr::tr("Set \"%1\" to the address of the server.").arg(m_addressKey));
     if (const QString fault = addressFault(m_address); !fault.isEmpty())
-        return Error(ErrorCode::InvalidContent,
-                     Tr::tr("The address in the setting \"%1\" can't be used.").arg(m_addressKey))
+        return Error(
+                   ErrorCode::InvalidContent,
+                   ServerSettingsTr::tr("The address in the setting \"%1\" can't be used.").arg(m_addressKey))
             .addDetail(fault);
     if (!isTextOfHeader(m_token))
         return Error(ErrorCode::InvalidContent,
-                     Tr::tr("The token in the variable %1 can't be used.").arg(m_tokenVariable))
-            .addDetail(Tr::tr("It holds blanks or characters that are no ASCII; copy it again."));
+                     ServerSettingsTr::tr("The token in the variable %1 can't be used.").arg(m_tokenVariable))
+            .addDetail(
+                ServerSettingsTr::tr("It holds blanks or characters that are no ASCII; copy it again."));
     return Error::NoError;
 }
 

@@ -9,14 +9,14 @@ namespace orv::ExternalDataSources {
 
 namespace {
 
-struct Tr
+struct ExternalDataSourcesTr
 {
     Q_DECLARE_TR_FUNCTIONS(ExternalDataSources)
 };
 
 Error refusal(const ResourceReferenceSPtr &reference, const QString &reason)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("\"%1\" has no place on this machine.")
+    return Error(ErrorCode::InvalidContent, ExternalDataSourcesTr::tr("\"%1\" has no place on this machine.")
                                                 .arg(ResourceReferenceUtils::toString(reference, true)))
         .addDetail(reason);
 }
@@ -41,17 +41,19 @@ QString settingsKey(const QString &name)
 Result<QString> localPath(const ResourceReferenceSPtr &reference)
 {
     if (!reference || !reference->isScheme(ResourceReference::Scheme::ExternalDataSource))
-        return refusal(reference, Tr::tr("It does not refer to an external data source."));
+        return refusal(reference, ExternalDataSourcesTr::tr("It does not refer to an external data source."));
     const ResourceReference::Parts &parts = reference->parts();
     if (leadsElsewhere(parts))
-        return refusal(reference, Tr::tr("Its path leads out of the source; name the file by a path without "
-                                         "\"..\" and backslashes."));
+        return refusal(reference, ExternalDataSourcesTr::tr(
+                                      "Its path leads out of the source; name the file by a path without "
+                                      "\"..\" and backslashes."));
     const QString key = settingsKey(parts.server);
     const QString folder = as::value(key).toString();
     if (folder.isEmpty() || QDir::isRelativePath(folder))
-        return refusal(reference, Tr::tr("Set \"%1\" to the absolute path of the folder at which the "
-                                         "source \"%2\" is mounted.")
-                                      .arg(key, parts.server));
+        return refusal(reference,
+                       ExternalDataSourcesTr::tr("Set \"%1\" to the absolute path of the folder at which the "
+                                                 "source \"%2\" is mounted.")
+                           .arg(key, parts.server));
     return QDir::cleanPath(folder + parts.folder + QLatin1Char('/') + parts.name);
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 using Scheme = ResourceReference::Scheme;
 
-struct Tr
+struct ResourceManagerTr
 {
     Q_DECLARE_TR_FUNCTIONS(ResourceManager)
 };
@@ -51,7 +51,7 @@ void setHandlerFactory(ResourceReference::Scheme scheme, const HandlerFactory &f
 Result<ResourceHandlerSPtr> getHandler(const ResourceReferenceSPtr &reference)
 {
     if (!reference || reference->isEmpty())
-        return Error(ErrorCode::InvalidContent, Tr::tr("The reference is empty."));
+        return Error(ErrorCode::InvalidContent, ResourceManagerTr::tr("The reference is empty."));
     if (const HandlerFactory factory = factoryOf(reference->scheme())) {
         Result<ResourceHandlerSPtr> handler = factory(reference);
         if (handler.hasError())
@@ -61,10 +61,10 @@ Result<ResourceHandlerSPtr> getHandler(const ResourceReferenceSPtr &reference)
     if (reference->isScheme(Scheme::LocalFile))
         return ResourceHandlerSPtr(new LocalResourceHandler(reference));
     return Error(ErrorCode::InvalidContent,
-                 Tr::tr("\"%1\" can't be reached from here.").arg(reference->readableText()))
-        .addDetail(
-            Tr::tr("The application is not connected to the server that holds it. Connect it, or refer "
-                   "to a local file."));
+                 ResourceManagerTr::tr("\"%1\" can't be reached from here.").arg(reference->readableText()))
+        .addDetail(ResourceManagerTr::tr(
+            "The application is not connected to the server that holds it. Connect it, or refer "
+            "to a local file."));
 }
 
 Result<ResourceHandlerSPtr> retrieve(const ResourceReferenceSPtr &reference)

@@ -15,14 +15,15 @@ namespace {
 using Scheme = ResourceReference::Scheme;
 using Parts = ResourceReference::Parts;
 
-struct Tr
+struct ResourceReferenceTr
 {
     Q_DECLARE_TR_FUNCTIONS(ResourceReference)
 };
 
 Error notAReference(const QString &text, const QString &reason)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("\"%1\" is not a reference to a file.").arg(text))
+    return Error(ErrorCode::InvalidContent,
+                 ResourceReferenceTr::tr("\"%1\" is not a reference to a file.").arg(text))
         .addDetail(reason);
 }
 
@@ -77,30 +78,33 @@ ResourceReference::ResourceReference(Scheme scheme, QString text, Parts parts, Q
 Result<ResourceReferenceSPtr> ResourceReference::fromString(const QString &text)
 {
     if (text.contains(QChar::Null))
-        return notAReference(text, Tr::tr("It holds a zero character; take that out."));
+        return notAReference(text, ResourceReferenceTr::tr("It holds a zero character; take that out."));
     if (const SchemeText::Row *row = SchemeText::rowOfText(text)) {
         const QString rest = text.mid(row->word.size() + 1);
         if (!rest.startsWith(QLatin1Char('/')))
-            return notAReference(text,
-                                 Tr::tr("Put a slash behind the colon, or \"./\" in front of a file name."));
+            return notAReference(
+                text,
+                ResourceReferenceTr::tr("Put a slash behind the colon, or \"./\" in front of a file name."));
         Result<Parts> parts = row->read(rest.mid(1));
         if (parts.hasError())
             return parts.ecatch();
         if (const QString fault = row->fault(*parts); !fault.isEmpty())
-            return notAReference(text, Tr::tr("It has no %1.").arg(fault));
+            return notAReference(text, ResourceReferenceTr::tr("It has no %1.").arg(fault));
         return ResourceReferenceSPtr(
             new ResourceReference(row->scheme, withWord(*row, rest.mid(1)), *parts, keyOf(*row, *parts)));
     }
     if (isFileUrl(text)) {
         const std::optional<QString> path = LocalPath::fromFileUrl(text);
         if (!path || path->contains(QChar::Null))
-            return notAReference(text, Tr::tr("Its percent codes are no UTF-8; name the file by its path."));
+            return notAReference(
+                text, ResourceReferenceTr::tr("Its percent codes are no UTF-8; name the file by its path."));
         const QString plain = asPath(*path);
         return ResourceReferenceSPtr(
             new ResourceReference(Scheme::LocalFile, plain, {}, LocalPath::key(plain)));
     }
     if (isUrlOfUnknownScheme(text))
-        return notAReference(text, Tr::tr("It is the address of a service that isn't known here."));
+        return notAReference(
+            text, ResourceReferenceTr::tr("It is the address of a service that isn't known here."));
     return ResourceReferenceSPtr(new ResourceReference(Scheme::LocalFile, text, {}, LocalPath::key(text)));
 }
 
@@ -109,18 +113,20 @@ Result<ResourceReferenceSPtr> ResourceReference::create(Scheme scheme, const Par
     const SchemeText::Row *row = SchemeText::rowOf(scheme);
     if (!row)
         return Error(ErrorCode::InvalidContent,
-                     Tr::tr("A reference of scheme %1 has no parts.").arg(int(scheme)));
+                     ResourceReferenceTr::tr("A reference of scheme %1 has no parts.").arg(int(scheme)));
     if (const QString fault = row->fault(parts); !fault.isEmpty()) {
-        return Error(ErrorCode::InvalidContent, Tr::tr("A reference needs its %1.").arg(fault))
-            .addDetail(
-                Tr::tr("It is to be of the form \"%1\".").arg(withWord(*row, row->writeReadable(parts))));
+        return Error(ErrorCode::InvalidContent,
+                     ResourceReferenceTr::tr("A reference needs its %1.").arg(fault))
+            .addDetail(ResourceReferenceTr::tr("It is to be of the form \"%1\".")
+                           .arg(withWord(*row, row->writeReadable(parts))));
     }
     // Read back, so that a part which the form can't hold is refused rather than changed.
     Result<ResourceReferenceSPtr> reference = fromString(withWord(*row, row->write(parts)));
     if (reference.hasError())
         return reference.ecatch();
     if ((*reference)->parts() != parts)
-        return notAReference((*reference)->text(), Tr::tr("A part holds what separates parts."));
+        return notAReference((*reference)->text(),
+                             ResourceReferenceTr::tr("A part holds what separates parts."));
     return reference;
 }
 

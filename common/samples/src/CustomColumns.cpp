@@ -15,7 +15,7 @@ constexpr QLatin1String kName("name");
 constexpr QLatin1String kType("type");
 constexpr QLatin1String kAttribute("attribute");
 
-struct Tr
+struct CustomColumnsTr
 {
     Q_DECLARE_TR_FUNCTIONS(CustomColumns)
 };
@@ -55,9 +55,9 @@ Result<CustomColumns> CustomColumns::fromJson(const QJsonArray &json)
         if (columns.addCustomColumn(*column))
             return Error::NoError;
         return Error(ErrorCode::InvalidContent,
-                     Tr::tr("\"%1\" can't be the name of a column.").arg(column->name))
-            .addDetail(
-                Tr::tr("It is empty, taken, or the name of another member of a sample. Choose another."));
+                     CustomColumnsTr::tr("\"%1\" can't be the name of a column.").arg(column->name))
+            .addDetail(CustomColumnsTr::tr(
+                "It is empty, taken, or the name of another member of a sample. Choose another."));
     });
     ORV_RETURN_IF_ERROR(reader.error());
     return columns;

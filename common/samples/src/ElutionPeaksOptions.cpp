@@ -23,7 +23,7 @@ constexpr QLatin1String kSmoothSigmaBaseline("smoothSigmaBaseline");
 constexpr QLatin1String kAutoCompute("autoCompute");
 constexpr QLatin1String kPeakWidthFactor("peakWidthFactor");
 
-struct Tr
+struct ElutionPeaksOptionsTr
 {
     Q_DECLARE_TR_FUNCTIONS(ElutionPeaksOptions)
 };
@@ -36,8 +36,10 @@ Decimal readDecimal(MemberReader *reader, QLatin1String key)
     const QString text = reader->text(key);
     const std::optional<Decimal> number = Decimal::fromString(text);
     if (!number) {
-        reader->fail(Error(ErrorCode::InvalidContent, Tr::tr("\"%1\" is no number: \"%2\".").arg(key, text))
-                         .addDetail(Tr::tr("Write it with a point and at most 9 decimals, as in \"1.00\".")));
+        reader->fail(Error(ErrorCode::InvalidContent,
+                           ElutionPeaksOptionsTr::tr("\"%1\" is no number: \"%2\".").arg(key, text))
+                         .addDetail(ElutionPeaksOptionsTr::tr(
+                             "Write it with a point and at most 9 decimals, as in \"1.00\".")));
     }
     return number.value_or(Decimal());
 }
@@ -118,23 +120,27 @@ QStringList ElutionPeaksOptions::faults() const
 {
     QStringList faults;
     if (m_name.isEmpty())
-        faults.append(Tr::tr("A peak options preset has no name."));
+        faults.append(ElutionPeaksOptionsTr::tr("A peak options preset has no name."));
     if (m_timeRange && !m_timeRange->isValid()) {
         faults.append(
-            Tr::tr("The time range of the peak options preset \"%1\" is out of order (%2 to %3 minutes).")
+            ElutionPeaksOptionsTr::tr(
+                "The time range of the peak options preset \"%1\" is out of order (%2 to %3 minutes).")
                 .arg(m_name, m_timeRange->start.toString(), m_timeRange->end.toString()));
     }
     const auto checkPositive = [this, &faults](double value, const QString &what) {
         if (!(value > 0) || !std::isfinite(value)) {
             faults.append(
-                Tr::tr("The %1 of the peak options preset \"%2\" must be greater than 0.").arg(what, m_name));
+                ElutionPeaksOptionsTr::tr("The %1 of the peak options preset \"%2\" must be greater than 0.")
+                    .arg(what, m_name));
         }
     };
-    checkPositive(m_creationOptions.smoothSigma, Tr::tr("smoothing width"));
-    checkPositive(m_creationOptions.intervalTimeMinutes, Tr::tr("interval time"));
-    checkPositive(m_creationOptions.smoothSigmaBaseline, Tr::tr("smoothing width of the baseline"));
+    checkPositive(m_creationOptions.smoothSigma, ElutionPeaksOptionsTr::tr("smoothing width"));
+    checkPositive(m_creationOptions.intervalTimeMinutes, ElutionPeaksOptionsTr::tr("interval time"));
+    checkPositive(m_creationOptions.smoothSigmaBaseline,
+                  ElutionPeaksOptionsTr::tr("smoothing width of the baseline"));
     if (m_creationOptions.peakWidthFactor)
-        checkPositive(m_creationOptions.peakWidthFactor->toDouble(), Tr::tr("peak width factor"));
+        checkPositive(m_creationOptions.peakWidthFactor->toDouble(),
+                      ElutionPeaksOptionsTr::tr("peak width factor"));
     return faults;
 }
 

@@ -20,7 +20,7 @@ constexpr QLatin1String kValueKey("value");
 constexpr QLatin1String kTargetKey("target");
 constexpr QLatin1String kAliasKey("alias");
 
-struct Tr
+struct ExtendedMetadataInfoTr
 {
     Q_DECLARE_TR_FUNCTIONS(ExtendedMetadataInfo)
 };
@@ -34,8 +34,9 @@ QJsonObject without(QJsonObject object, std::initializer_list<QLatin1String> key
 
 Error notAnObject(const QJsonValue &element)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("An element must be an object, but there is %1.")
-                                                .arg(JsonUtils::typeDescription(element.type())));
+    return Error(ErrorCode::InvalidContent,
+                 ExtendedMetadataInfoTr::tr("An element must be an object, but there is %1.")
+                     .arg(JsonUtils::typeDescription(element.type())));
 }
 
 /// Reads the elements of the array \a key of \a object, which may be absent, with \a read.
@@ -54,7 +55,9 @@ Result<QList<T>> readList(const QJsonObject &object, QLatin1String key,
         Result<T> item = element.isObject() ? read(element.toObject()) : notAnObject(element);
         if (item.hasError()) {
             return item.ecatch().addDetail(
-                Tr::tr("It is element %1 of \"%2\" in the extended metadata.").arg(list.size()).arg(key));
+                ExtendedMetadataInfoTr::tr("It is element %1 of \"%2\" in the extended metadata.")
+                    .arg(list.size())
+                    .arg(key));
         }
         list.append(std::move(item).value());
     }
@@ -95,10 +98,12 @@ Result<TalvaneMetadataMappingConnection> readConnection(const QJsonObject &objec
         return attribute.ecatch();
     const QJsonValue target = object.value(kTargetKey);
     if (!target.isDouble() || double(target.toInt()) != target.toDouble())
-        return Error(ErrorCode::InvalidContent, Tr::tr("\"%1\" must be a whole number.").arg(kTargetKey));
+        return Error(ErrorCode::InvalidContent,
+                     ExtendedMetadataInfoTr::tr("\"%1\" must be a whole number.").arg(kTargetKey));
     const QJsonValue alias = object.value(kAliasKey);
     if (!alias.isString() && !alias.isUndefined())
-        return Error(ErrorCode::InvalidContent, Tr::tr("\"%1\" must be a text.").arg(kAliasKey));
+        return Error(ErrorCode::InvalidContent,
+                     ExtendedMetadataInfoTr::tr("\"%1\" must be a text.").arg(kAliasKey));
     return TalvaneMetadataMappingConnection{*attribute, MappingTarget(target.toInt()),
                                             without(object, {kAttributeKey, kTargetKey, kAliasKey}),
                                             alias.toString()};
@@ -177,9 +182,9 @@ Result<ExtendedMetadataInfo> ExtendedMetadataInfo::fromJson(const QJsonObject &j
         if (entry.unknownMembers.isEmpty())
             continue;
         if (!unite(&info.m_unknownOfCacheEntries[*reference], entry.unknownMembers)) {
-            return Error(
-                ErrorCode::InvalidContent,
-                Tr::tr("Two entries of the reference \"%1\" differ in \"%2\".").arg(entry.text, kCacheKey));
+            return Error(ErrorCode::InvalidContent,
+                         ExtendedMetadataInfoTr::tr("Two entries of the reference \"%1\" differ in \"%2\".")
+                             .arg(entry.text, kCacheKey));
         }
     }
     return info;

@@ -14,7 +14,7 @@ namespace {
 
 using namespace Members;
 
-struct Tr
+struct SamplesInputTr
 {
     Q_DECLARE_TR_FUNCTIONS(SamplesInput)
 };
@@ -123,7 +123,7 @@ Result<Entry> Entry::fromJson(const QJsonObject &json)
         return entry.ecatch();
     for (const QString &text : std::as_const(unreadable)) {
         qCWarning(genericLog()).noquote()
-            << Tr::tr("The sample \"%1\" refers to \"%2\", which is no reference to a file.")
+            << SamplesInputTr::tr("The sample \"%1\" refers to \"%2\", which is no reference to a file.")
                    .arg(entry->name, text);
     }
     return entry;

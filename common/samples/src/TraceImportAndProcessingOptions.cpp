@@ -12,7 +12,7 @@ namespace {
 constexpr QLatin1String kTraces("TracesImportList");
 constexpr QLatin1String kPeaksOptions("ElutionPeaksOptions");
 
-struct Tr
+struct TraceImportAndProcessingOptionsTr
 {
     Q_DECLARE_TR_FUNCTIONS(TraceImportAndProcessingOptions)
 };
@@ -25,8 +25,9 @@ QSet<QString> validPresetNames(const QList<ElutionPeaksOptions> &presets, QStrin
     for (const ElutionPeaksOptions &preset : presets) {
         *errors += preset.faults();
         if (names.contains(preset.name()) && !repeated.contains(preset.name())) {
-            errors->append(
-                Tr::tr("There are several peak options presets with the name \"%1\".").arg(preset.name()));
+            errors->append(TraceImportAndProcessingOptionsTr::tr(
+                               "There are several peak options presets with the name \"%1\".")
+                               .arg(preset.name()));
             repeated.insert(preset.name());
         }
         names.insert(preset.name());
@@ -92,17 +93,21 @@ bool TraceImportAndProcessingOptions::validate(QStringList *warnings, QStringLis
     for (const TracesImportList::Entry &entry : traces.list()) {
         const QString name = entry.traceItem().channelName();
         if (seen.contains(entry.traceItem()))
-            warnings->append(Tr::tr("The trace \"%1\" is listed more than once.").arg(name));
+            warnings->append(
+                TraceImportAndProcessingOptionsTr::tr("The trace \"%1\" is listed more than once.")
+                    .arg(name));
         seen.insert(entry.traceItem());
         if (!entry.isImported())
             continue;
         if (!entry.peaksOptionsName().isEmpty() && !presets.contains(entry.peaksOptionsName())) {
-            errors->append(
-                Tr::tr("The trace \"%1\" uses the peak options preset \"%2\", which does not exist.")
-                    .arg(name, entry.peaksOptionsName()));
+            errors->append(TraceImportAndProcessingOptionsTr::tr(
+                               "The trace \"%1\" uses the peak options preset \"%2\", which does not exist.")
+                               .arg(name, entry.peaksOptionsName()));
         }
         if (!entry.samplesIds().isAll() && entry.samplesIds().ids().isEmpty())
-            warnings->append(Tr::tr("The trace \"%1\" is imported for no sample.").arg(name));
+            warnings->append(
+                TraceImportAndProcessingOptionsTr::tr("The trace \"%1\" is imported for no sample.")
+                    .arg(name));
     }
     return errors->size() == errorsBefore;
 }

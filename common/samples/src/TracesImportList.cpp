@@ -30,7 +30,7 @@ constexpr std::array kGroupOrder = {
     TraceType::IntaBio,
 };
 
-struct Tr
+struct TracesImportListTr
 {
     Q_DECLARE_TR_FUNCTIONS(TracesImportList)
 };
@@ -49,14 +49,14 @@ Result<TraceSampleIds> readSampleIds(const QJsonObject &json)
     for (const auto element : value.toArray()) {
         if (!element.isDouble() || double(element.toInt()) != element.toDouble())
             return Error(ErrorCode::InvalidContent,
-                         Tr::tr("\"%1\" must hold whole numbers.").arg(kSamplesIds));
+                         TracesImportListTr::tr("\"%1\" must hold whole numbers.").arg(kSamplesIds));
         ids.append(element.toInt());
     }
     if (!value.isArray()) {
         return Error(ErrorCode::InvalidContent,
-                     Tr::tr("\"%1\" must be an array, but there is %2.")
+                     TracesImportListTr::tr("\"%1\" must be an array, but there is %2.")
                          .arg(kSamplesIds, JsonUtils::typeDescription(value.type())))
-            .addDetail(Tr::tr("Leave it out to use the trace for all samples."));
+            .addDetail(TracesImportListTr::tr("Leave it out to use the trace for all samples."));
     }
     return TraceSampleIds(ids);
 }

@@ -12,7 +12,7 @@ namespace orv {
 
 namespace {
 
-struct Tr
+struct CsvReaderTr
 {
     Q_DECLARE_TR_FUNCTIONS(CsvReader)
 };
@@ -121,7 +121,7 @@ bool CsvReader::Private::fill()
     chunk.resize(size);
     at = 0;
     if (added < 0) {
-        error = Error(ErrorCode::CannotOpenFile, Tr::tr("The table cannot be read."));
+        error = Error(ErrorCode::CannotOpenFile, CsvReaderTr::tr("The table cannot be read."));
         error.addDetail(device->errorString());
         return false;
     }
@@ -159,8 +159,8 @@ void CsvReader::Private::parse(QByteArrayView piece)
     if (!isRowComplete)
         checkSizes(std::max<qsizetype>(qsizetype(parser.entry_pos) - 1, 0));
     if (parsed < size_t(piece.size()) && !error.hasError()) {
-        fail(Tr::tr("A quote stands where it may not."),
-             Tr::tr("Quote the whole field, and write each quote inside it twice."), line);
+        fail(CsvReaderTr::tr("A quote stands where it may not."),
+             CsvReaderTr::tr("Quote the whole field, and write each quote inside it twice."), line);
     }
     if (last == '\r' || (last == '\n' && !isSecondByteOfLineEnd))
         ++line;
@@ -171,8 +171,8 @@ void CsvReader::Private::finish()
 {
     isAtEnd = true;
     if (csv_fini(&parser, fieldEnds, rowEnds, this) != 0 && !error.hasError()) {
-        fail(Tr::tr("A quoted field has no end."),
-             Tr::tr("Write the quote that ends it, or complete the file."), row.line);
+        fail(CsvReaderTr::tr("A quoted field has no end."),
+             CsvReaderTr::tr("Write the quote that ends it, or complete the file."), row.line);
     }
 }
 
@@ -182,9 +182,10 @@ void CsvReader::Private::addField(QByteArrayView bytes)
         return;
     checkSizes(bytes.size());
     if (!error.hasError() && row.fields.size() == limits.rowFields)
-        failForSize(Tr::tr("A row has more than %1 fields.").arg(limits.rowFields));
+        failForSize(CsvReaderTr::tr("A row has more than %1 fields.").arg(limits.rowFields));
     if (!error.hasError() && !bytes.isValidUtf8())
-        fail(Tr::tr("The table is not UTF-8."), Tr::tr("Save it with the encoding UTF-8."), line);
+        fail(CsvReaderTr::tr("The table is not UTF-8."), CsvReaderTr::tr("Save it with the encoding UTF-8."),
+             line);
     if (error.hasError())
         return;
     row.fields.append(decoded(bytes));
@@ -196,20 +197,21 @@ void CsvReader::Private::checkSizes(qsizetype unfinishedFieldBytes)
     if (error.hasError())
         return;
     if (unfinishedFieldBytes > limits.fieldBytes)
-        failForSize(Tr::tr("A field is larger than %1 bytes.").arg(limits.fieldBytes));
+        failForSize(CsvReaderTr::tr("A field is larger than %1 bytes.").arg(limits.fieldBytes));
     else if (rowBytes + unfinishedFieldBytes > limits.rowBytes)
-        failForSize(Tr::tr("A row is larger than %1 bytes.").arg(limits.rowBytes));
+        failForSize(CsvReaderTr::tr("A row is larger than %1 bytes.").arg(limits.rowBytes));
 }
 
 void CsvReader::Private::failForSize(const QString &message)
 {
-    fail(message, Tr::tr("See whether a quote is missing, or leave out what is too large."), row.line);
+    fail(message, CsvReaderTr::tr("See whether a quote is missing, or leave out what is too large."),
+         row.line);
 }
 
 void CsvReader::Private::fail(const QString &message, const QString &remedy, qsizetype place)
 {
     error = Error(ErrorCode::InvalidContent, message);
-    error.addDetail(Tr::tr("line %1").arg(place)).addDetail(remedy);
+    error.addDetail(CsvReaderTr::tr("line %1").arg(place)).addDetail(remedy);
 }
 
 CsvReader::CsvReader(QIODevice *device)

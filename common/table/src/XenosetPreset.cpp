@@ -11,29 +11,31 @@ namespace {
 
 constexpr QByteArrayView kByteOrderMark("\xEF\xBB\xBF");
 
-struct Tr
+struct XenosetPresetTr
 {
     Q_DECLARE_TR_FUNCTIONS(XenosetPreset)
 };
 
 Error refused(qsizetype line, const QString &reason, const QString &remedy)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("The text is no parameter file of the search engine."))
-        .addDetail(Tr::tr("Line %1: %2").arg(line).arg(reason))
+    return Error(ErrorCode::InvalidContent,
+                 XenosetPresetTr::tr("The text is no parameter file of the search engine."))
+        .addDetail(XenosetPresetTr::tr("Line %1: %2").arg(line).arg(reason))
         .addDetail(remedy);
 }
 
 Result<QString> decoded(QByteArrayView bytes, qsizetype line)
 {
     if (bytes.contains('\0')) {
-        return refused(line, Tr::tr("it holds a zero byte."),
-                       Tr::tr("The file is binary or in UTF-16; save it as UTF-8 text."));
+        return refused(line, XenosetPresetTr::tr("it holds a zero byte."),
+                       XenosetPresetTr::tr("The file is binary or in UTF-16; save it as UTF-8 text."));
     }
     QStringDecoder decoder(QStringDecoder::Utf8,
                            QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     QString text = decoder(bytes);
     if (decoder.hasError())
-        return refused(line, Tr::tr("it is no UTF-8 text."), Tr::tr("Save the file as UTF-8 text."));
+        return refused(line, XenosetPresetTr::tr("it is no UTF-8 text."),
+                       XenosetPresetTr::tr("Save the file as UTF-8 text."));
     return text;
 }
 
@@ -85,8 +87,8 @@ Result<XenosetPreset> XenosetPreset::fromText(const QByteArray &text)
         if (preset.m_attributes.contains(key))
             repeated = key;
         else if (preset.m_keys.size() == kMaximumKeys)
-            return refused(line, Tr::tr("there are more than %1 keys.").arg(kMaximumKeys),
-                           Tr::tr("Name a parameter file of the search engine."));
+            return refused(line, XenosetPresetTr::tr("there are more than %1 keys.").arg(kMaximumKeys),
+                           XenosetPresetTr::tr("Name a parameter file of the search engine."));
         else
             preset.m_keys.append(key);
         preset.m_attributes.insert(key, decodedLine->sliced(sign + 1));

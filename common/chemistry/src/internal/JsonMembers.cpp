@@ -10,15 +10,16 @@ namespace orv::Internal {
 
 namespace {
 
-struct Tr
+struct ChemistryJsonTr
 {
     Q_DECLARE_TR_FUNCTIONS(ChemistryJson)
 };
 
 Error wrongType(QLatin1String key, const QString &wanted, const QJsonValue &value)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("The member \"%1\" must be %2.").arg(key, wanted))
-        .addDetail(Tr::tr("There is %1.").arg(JsonUtils::typeDescription(value.type())));
+    return Error(ErrorCode::InvalidContent,
+                 ChemistryJsonTr::tr("The member \"%1\" must be %2.").arg(key, wanted))
+        .addDetail(ChemistryJsonTr::tr("There is %1.").arg(JsonUtils::typeDescription(value.type())));
 }
 
 } // namespace
@@ -29,7 +30,7 @@ Error readBool(const QJsonObject &object, QLatin1String key, bool *target)
     if (value.isUndefined())
         return Error::NoError;
     if (!value.isBool())
-        return wrongType(key, Tr::tr("true or false"), value);
+        return wrongType(key, ChemistryJsonTr::tr("true or false"), value);
     *target = value.toBool();
     return Error::NoError;
 }
@@ -40,15 +41,15 @@ Error readInt(const QJsonObject &object, QLatin1String key, int minimum, int max
     if (value.isUndefined())
         return Error::NoError;
     if (!value.isDouble())
-        return wrongType(key, Tr::tr("a whole number"), value);
+        return wrongType(key, ChemistryJsonTr::tr("a whole number"), value);
     const double number = value.toDouble();
     if (number != std::floor(number) || number < minimum || number > maximum) {
         return Error(ErrorCode::InvalidContent,
-                     Tr::tr("The member \"%1\" must be a whole number from %2 to %3.")
+                     ChemistryJsonTr::tr("The member \"%1\" must be a whole number from %2 to %3.")
                          .arg(key)
                          .arg(minimum)
                          .arg(maximum))
-            .addDetail(Tr::tr("There is %1.").arg(shortNumber(number)));
+            .addDetail(ChemistryJsonTr::tr("There is %1.").arg(shortNumber(number)));
     }
     *target = static_cast<int>(number);
     return Error::NoError;
@@ -60,11 +61,12 @@ Error readNonNegative(const QJsonObject &object, QLatin1String key, double *targ
     if (value.isUndefined())
         return Error::NoError;
     if (!value.isDouble())
-        return wrongType(key, Tr::tr("a number"), value);
+        return wrongType(key, ChemistryJsonTr::tr("a number"), value);
     const double number = value.toDouble();
     if (!(number >= 0.0)) {
-        return Error(ErrorCode::InvalidContent, Tr::tr("The member \"%1\" must not be negative.").arg(key))
-            .addDetail(Tr::tr("There is %1.").arg(shortNumber(number)));
+        return Error(ErrorCode::InvalidContent,
+                     ChemistryJsonTr::tr("The member \"%1\" must not be negative.").arg(key))
+            .addDetail(ChemistryJsonTr::tr("There is %1.").arg(shortNumber(number)));
     }
     *target = number;
     return Error::NoError;
@@ -76,7 +78,7 @@ Error readString(const QJsonObject &object, QLatin1String key, QString *target)
     if (value.isUndefined())
         return Error::NoError;
     if (!value.isString())
-        return wrongType(key, Tr::tr("a string"), value);
+        return wrongType(key, ChemistryJsonTr::tr("a string"), value);
     *target = value.toString();
     return Error::NoError;
 }
@@ -87,7 +89,7 @@ Error readObject(const QJsonObject &object, QLatin1String key, QJsonObject *targ
     if (value.isUndefined())
         return Error::NoError;
     if (!value.isObject())
-        return wrongType(key, Tr::tr("an object"), value);
+        return wrongType(key, ChemistryJsonTr::tr("an object"), value);
     *target = value.toObject();
     return Error::NoError;
 }

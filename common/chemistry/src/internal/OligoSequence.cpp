@@ -14,7 +14,7 @@ constexpr QLatin1String kPhosphate("p");
 constexpr QLatin1String kHydroxyl("OH");
 constexpr QLatin1String kPhosphodiester("p");
 
-struct Tr
+struct OligoSequenceTr
 {
     Q_DECLARE_TR_FUNCTIONS(ChemicalFactory)
 };
@@ -32,10 +32,10 @@ public:
     {
         ORV_RETURN_IF_ERROR(readEnd(Type::FivePrimeEnd));
         if (atEnd())
-            return badSequence(Tr::tr("There is no nucleotide"), m_at);
+            return badSequence(OligoSequenceTr::tr("There is no nucleotide"), m_at);
         for (int count = 0; !atEnd(); ++count) {
             if (count >= ChemicalFactory::kMaximumLength)
-                return badSequence(Tr::tr("The sequence is too long"), m_at);
+                return badSequence(OligoSequenceTr::tr("The sequence is too long"), m_at);
             ORV_RETURN_IF_ERROR(readNucleotide());
             if (atEnd() || isLastPhosphate())
                 break;
@@ -56,7 +56,7 @@ private:
     {
         const ChemicalFormula *formula = m_blocks.find(type, symbol);
         if (!formula) {
-            return badSequence(Tr::tr("There is no building block \"%1\" of the type %2")
+            return badSequence(OligoSequenceTr::tr("There is no building block \"%1\" of the type %2")
                                    .arg(symbol, ChemicalFactory::buildingBlockTypeToString(type)),
                                m_at);
         }
@@ -82,7 +82,7 @@ private:
         }
         const qsizetype end = m_text.indexOf(QLatin1Char(']'), m_at);
         if (end < 0)
-            return badSequence(Tr::tr("A \"[\" has no \"]\""), m_at);
+            return badSequence(OligoSequenceTr::tr("A \"[\" has no \"]\""), m_at);
         ORV_RETURN_IF_ERROR(addNamed(m_text.mid(m_at + 1, end - m_at - 1)));
         m_at = end + 1;
         return Error::NoError;
@@ -98,8 +98,8 @@ private:
             ORV_RETURN_IF_ERROR(add(Type::Base, name.left(length)));
             return add(Type::Sugar, sugar);
         }
-        return badSequence(Tr::tr("\"%1\" is neither a base nor a base and a sugar").arg(name.left(100)),
-                           m_at);
+        return badSequence(
+            OligoSequenceTr::tr("\"%1\" is neither a base nor a base and a sugar").arg(name.left(100)), m_at);
     }
 
     /// The usual linker needs not be written. A letter that is a base too is the next nucleotide.
@@ -111,7 +111,8 @@ private:
         ORV_RETURN_IF_ERROR(add(Type::Linker, symbol));
         ++m_at;
         if (atEnd())
-            return badSequence(Tr::tr("There is no nucleotide behind a \"%1\"").arg(symbol), m_at - 1);
+            return badSequence(OligoSequenceTr::tr("There is no nucleotide behind a \"%1\"").arg(symbol),
+                               m_at - 1);
         return Error::NoError;
     }
 

@@ -14,7 +14,7 @@ namespace {
 
 namespace AminoAcid = pwiz::proteome::AminoAcid;
 
-struct Tr
+struct ResiduesTr
 {
     Q_DECLARE_TR_FUNCTIONS(ChemicalFactory)
 };
@@ -49,8 +49,8 @@ const std::array<Residue, kLetters> &residues()
 
 Error badSequence(const QString &reason, qsizetype index)
 {
-    return Error(ErrorCode::InvalidContent, Tr::tr("A sequence has no formula."))
-        .addDetail(Tr::tr("%1, at character %2.").arg(reason).arg(index + 1));
+    return Error(ErrorCode::InvalidContent, ResiduesTr::tr("A sequence has no formula."))
+        .addDetail(ResiduesTr::tr("%1, at character %2.").arg(reason).arg(index + 1));
 }
 
 Result<ChemicalFormula> proteinFormula(const QString &sequence)
@@ -59,9 +59,9 @@ Result<ChemicalFormula> proteinFormula(const QString &sequence)
     for (qsizetype i = 0; i < sequence.size(); ++i) {
         const int letter = sequence.at(i).unicode() - 'A';
         if (letter < 0 || letter >= kLetters || !residues().at(static_cast<size_t>(letter)).known)
-            return badSequence(Tr::tr("\"%1\" is no amino acid").arg(sequence.at(i)), i);
+            return badSequence(ResiduesTr::tr("\"%1\" is no amino acid").arg(sequence.at(i)), i);
         if (i >= ChemicalFactory::kMaximumLength)
-            return badSequence(Tr::tr("The sequence is too long"), i);
+            return badSequence(ResiduesTr::tr("The sequence is too long"), i);
         ++counts.at(static_cast<size_t>(letter));
     }
     ChemicalFormula formula = ChemicalFormula::parse(QStringLiteral("H2O")).value();

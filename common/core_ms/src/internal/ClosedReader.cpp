@@ -12,7 +12,7 @@ namespace orv::msreader::internal {
 
 namespace {
 
-struct Tr
+struct ClosedReaderTr
 {
     Q_DECLARE_TR_FUNCTIONS(ClosedReader)
 };
@@ -41,21 +41,23 @@ protected:
     Error openData() override
     {
         if (!QFileInfo::exists(path()))
-            return Error(ErrorCode::CannotOpenFile, Tr::tr("Could not open the file: %1").arg(path()))
-                .addDetail(Tr::tr("It isn't there, or its folder can't be read."));
+            return Error(ErrorCode::CannotOpenFile,
+                         ClosedReaderTr::tr("Could not open the file: %1").arg(path()))
+                .addDetail(ClosedReaderTr::tr("It isn't there, or its folder can't be read."));
         if (vendorFormat() == VendorDataFormat::Unknown)
             return Error(ErrorCode::InvalidContent,
-                         Tr::tr("No format of MS data is recognised: %1").arg(path()))
-                .addDetail(Tr::tr("Check that the data are complete, or convert them to mzML."));
+                         ClosedReaderTr::tr("No format of MS data is recognised: %1").arg(path()))
+                .addDetail(ClosedReaderTr::tr("Check that the data are complete, or convert them to mzML."));
         const QString format = MsFileInfo::formatDescription(vendorFormat());
         if (std::find(kOwnFormats.begin(), kOwnFormats.end(), vendorFormat()) != kOwnFormats.end())
             return Error(ErrorCode::InvalidContent,
-                         Tr::tr("Spectra of the format \"%1\" aren't read.").arg(format))
-                .addDetail(Tr::tr("Convert the data to mzML."));
+                         ClosedReaderTr::tr("Spectra of the format \"%1\" aren't read.").arg(format))
+                .addDetail(ClosedReaderTr::tr("Convert the data to mzML."));
         return Error(ErrorCode::InvalidContent,
-                     Tr::tr("Reading the format \"%1\" needs a library of its vendor, which is not there.")
+                     ClosedReaderTr::tr(
+                         "Reading the format \"%1\" needs a library of its vendor, which is not there.")
                          .arg(format))
-            .addDetail(Tr::tr("Convert the data to mzML."));
+            .addDetail(ClosedReaderTr::tr("Convert the data to mzML."));
     }
 
     // Questions are asked of open readers alone.

@@ -9,7 +9,7 @@ namespace orv::msreader::internal {
 
 namespace {
 
-struct Tr
+struct MgfFileReaderTr
 {
     Q_DECLARE_TR_FUNCTIONS(MgfFileReader)
 };
@@ -49,8 +49,9 @@ protected:
         }
         if (hasQuery)
             return hasLevel;
-        return Error(ErrorCode::InvalidContent, Tr::tr("The MGF text has no query."))
-            .addDetail(Tr::tr("Check that the file is MGF: queries stand between BEGIN IONS and END IONS."));
+        return Error(ErrorCode::InvalidContent, MgfFileReaderTr::tr("The MGF text has no query."))
+            .addDetail(MgfFileReaderTr::tr(
+                "Check that the file is MGF: queries stand between BEGIN IONS and END IONS."));
     }
 
     /// The format has none.

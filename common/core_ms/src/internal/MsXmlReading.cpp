@@ -6,7 +6,7 @@ namespace orv::msreader::internal {
 
 namespace {
 
-struct Tr
+struct MsXmlReadingTr
 {
     Q_DECLARE_TR_FUNCTIONS(MsXmlReading)
 };
@@ -56,7 +56,7 @@ bool MzmlReading::hasMzmlRoot()
 {
     if (m_xml.name() == QLatin1String("mzML") || m_xml.name() == QLatin1String("indexedmzML"))
         return true;
-    m_xml.fail(Tr::tr("The document is \"%1\", not \"mzML\".").arg(m_xml.name()));
+    m_xml.fail(MsXmlReadingTr::tr("The document is \"%1\", not \"mzML\".").arg(m_xml.name()));
     return false;
 }
 
@@ -111,7 +111,7 @@ std::optional<MsItem> MzxmlReading::next()
             continue;
         if (m_xml.level() == 1 && m_xml.name() != QLatin1String("mzXML") &&
             m_xml.name() != QLatin1String("msRun")) {
-            m_xml.fail(Tr::tr("The document is \"%1\", not \"mzXML\".").arg(m_xml.name()));
+            m_xml.fail(MsXmlReadingTr::tr("The document is \"%1\", not \"mzXML\".").arg(m_xml.name()));
             return std::nullopt;
         }
         if (m_xml.name() == QLatin1String("scan")) {

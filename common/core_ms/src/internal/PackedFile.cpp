@@ -10,7 +10,7 @@ namespace orv::msreader::internal {
 
 namespace {
 
-struct Tr
+struct PackedFileTr
 {
     Q_DECLARE_TR_FUNCTIONS(PackedFile)
 };
@@ -51,9 +51,10 @@ protected:
         if (code == Z_OK || code == Z_STREAM_END) {
             m_isAtEnd = true;
         } else if (code == Z_BUF_ERROR) {
-            setErrorString(Tr::tr("The gzip file was cut short."));
+            setErrorString(PackedFileTr::tr("The gzip file was cut short."));
         } else {
-            setErrorString(Tr::tr("The gzip file is damaged: %1").arg(QString::fromLocal8Bit(text)));
+            setErrorString(
+                PackedFileTr::tr("The gzip file is damaged: %1").arg(QString::fromLocal8Bit(text)));
         }
         return -1;
     }
@@ -66,7 +67,7 @@ private:
 
 Error cannotOpen(const QString &path, const QString &detail)
 {
-    return Error(ErrorCode::CannotOpenFile, Tr::tr("Could not open the file: %1").arg(path))
+    return Error(ErrorCode::CannotOpenFile, PackedFileTr::tr("Could not open the file: %1").arg(path))
         .addDetail(detail);
 }
 
@@ -92,9 +93,9 @@ Result<std::unique_ptr<QIODevice>> openFile(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        return cannotOpen(path, Tr::tr("It isn't there, or its folder can't be read."));
+        return cannotOpen(path, PackedFileTr::tr("It isn't there, or its folder can't be read."));
     if (!info.isFile())
-        return cannotOpen(path, Tr::tr("It is no regular file."));
+        return cannotOpen(path, PackedFileTr::tr("It is no regular file."));
     auto file = std::make_unique<QFile>(path);
     if (!file->open(QIODevice::ReadOnly))
         return cannotOpen(path, file->errorString());
@@ -102,7 +103,7 @@ Result<std::unique_ptr<QIODevice>> openFile(const QString &path)
         return std::unique_ptr<QIODevice>(std::move(file));
     auto packed = std::make_unique<GzipFile>(path);
     if (!packed->isOpen())
-        return cannotOpen(path, Tr::tr("The gzip file can't be read."));
+        return cannotOpen(path, PackedFileTr::tr("The gzip file can't be read."));
     return std::unique_ptr<QIODevice>(std::move(packed));
 }
 

@@ -16,7 +16,7 @@ namespace orv::internal {
 
 namespace {
 
-struct Tr
+struct TolqArchiveTr
 {
     Q_DECLARE_TR_FUNCTIONS(TolqArchive)
 };
@@ -53,12 +53,13 @@ public:
     {
         const QFileInfo info(m_path);
         if (!info.isFile() || !info.isReadable())
-            return Error(ErrorCode::CannotOpenFile, Tr::tr("Could not open the file: %1").arg(m_path))
-                .addDetail(Tr::tr("It isn't there, no regular file, or may not be read."));
+            return Error(ErrorCode::CannotOpenFile,
+                         TolqArchiveTr::tr("Could not open the file: %1").arg(m_path))
+                .addDetail(TolqArchiveTr::tr("It isn't there, no regular file, or may not be read."));
         if (!m_zip.open(QuaZip::mdUnzip))
-            return damaged({}, Tr::tr("It is no zip archive, or was cut short."));
+            return damaged({}, TolqArchiveTr::tr("It is no zip archive, or was cut short."));
         if (m_zip.getEntriesCount() < 0 || m_zip.getEntriesCount() > kMostEntries)
-            return damaged({}, Tr::tr("It has more than %1 entries.").arg(kMostEntries));
+            return damaged({}, TolqArchiveTr::tr("It has more than %1 entries.").arg(kMostEntries));
         m_bytesLeft = std::max(kFreeBytes, info.size() * kMostRatio);
         return Error::NoError;
     }
@@ -66,17 +67,17 @@ public:
     Result<QByteArray> readEntry(const QString &name)
     {
         if (!m_zip.setCurrentFile(name, QuaZip::csSensitive))
-            return damaged(name, Tr::tr("The entry is missing."));
+            return damaged(name, TolqArchiveTr::tr("The entry is missing."));
         ORV_RETURN_IF_ERROR(checkEntry(name));
         QuaZipFile entry(&m_zip);
         if (!entry.open(QIODevice::ReadOnly))
             return damaged(name, entry.errorString());
         const QByteArray bytes = entry.read(kMostMetadataBytes + 1);
         if (bytes.size() > kMostMetadataBytes)
-            return damaged(name, Tr::tr("It is too large."));
+            return damaged(name, TolqArchiveTr::tr("It is too large."));
         entry.close();
         if (entry.getZipError() != UNZ_OK)
-            return damaged(name, Tr::tr("Its checksum is wrong."));
+            return damaged(name, TolqArchiveTr::tr("Its checksum is wrong."));
         return bytes;
     }
 
@@ -91,13 +92,13 @@ public:
             isFound = true;
             ORV_RETURN_IF_ERROR(checkEntry(name));
             if (names.contains(name))
-                return damaged(name, Tr::tr("It is there twice."));
+                return damaged(name, TolqArchiveTr::tr("It is there twice."));
             names.insert(name);
             ORV_RETURN_IF_ERROR(unpack(name, directory + QLatin1Char('/') + name));
         }
         if (m_zip.getZipError() != UNZ_OK && m_zip.getZipError() != UNZ_END_OF_LIST_OF_FILE)
-            return damaged({}, Tr::tr("Its list of entries is damaged."));
-        return isFound ? Error() : damaged(wanted, Tr::tr("The entry is missing."));
+            return damaged({}, TolqArchiveTr::tr("Its list of entries is damaged."));
+        return isFound ? Error() : damaged(wanted, TolqArchiveTr::tr("The entry is missing."));
     }
 
 private:
@@ -106,13 +107,13 @@ private:
     {
         QuaZipFileInfo64 info;
         if (!m_zip.getCurrentFileInfo(&info))
-            return damaged(name, Tr::tr("Its description is damaged."));
+            return damaged(name, TolqArchiveTr::tr("Its description is damaged."));
         if (!staysBelow(name))
-            return damaged(name, Tr::tr("Its name leads out of the archive, or too deep."));
+            return damaged(name, TolqArchiveTr::tr("Its name leads out of the archive, or too deep."));
         if (info.isSymbolicLink())
-            return damaged(name, Tr::tr("It is a link."));
+            return damaged(name, TolqArchiveTr::tr("It is a link."));
         if (info.isEncrypted())
-            return damaged(name, Tr::tr("It is encrypted."));
+            return damaged(name, TolqArchiveTr::tr("It is encrypted."));
         return Error::NoError;
     }
 
@@ -120,7 +121,7 @@ private:
     {
         const bool isFolder = name.endsWith(QLatin1Char('/'));
         if (!QDir().mkpath(isFolder ? target : QFileInfo(target).path()))
-            return cannotWrite(target, Tr::tr("Its folder can't be made."));
+            return cannotWrite(target, TolqArchiveTr::tr("Its folder can't be made."));
         if (isFolder)
             return Error::NoError;
         QuaZipFile entry(&m_zip);
@@ -132,7 +133,7 @@ private:
         ORV_RETURN_IF_ERROR(copy(entry, file, name));
         entry.close();
         if (entry.getZipError() != UNZ_OK)
-            return damaged(name, Tr::tr("Its checksum is wrong."));
+            return damaged(name, TolqArchiveTr::tr("Its checksum is wrong."));
         if (!file.flush())
             return cannotWrite(target, file.errorString());
         return Error::NoError;
@@ -144,12 +145,12 @@ private:
         for (;;) {
             const QByteArray chunk = entry.read(kChunkBytes);
             if (entry.getZipError() != UNZ_OK)
-                return damaged(name, Tr::tr("It can't be unpacked."));
+                return damaged(name, TolqArchiveTr::tr("It can't be unpacked."));
             if (chunk.isEmpty())
                 return Error::NoError;
             m_bytesLeft -= chunk.size();
             if (m_bytesLeft < 0)
-                return damaged(name, Tr::tr("It unpacks to far more than samples do."));
+                return damaged(name, TolqArchiveTr::tr("It unpacks to far more than samples do."));
             if (file.write(chunk) != chunk.size())
                 return cannotWrite(file.fileName(), file.errorString());
         }
@@ -157,14 +158,15 @@ private:
 
     [[nodiscard]] Error damaged(const QString &entry, const QString &reason) const
     {
-        Error error(ErrorCode::InvalidContent, Tr::tr("The acquired sample can't be read: %1").arg(m_path));
-        error.addDetail(entry.isEmpty() ? reason : Tr::tr("Entry \"%1\": %2").arg(entry, reason));
-        return error.addDetail(Tr::tr("Copy or download it again."));
+        Error error(ErrorCode::InvalidContent,
+                    TolqArchiveTr::tr("The acquired sample can't be read: %1").arg(m_path));
+        error.addDetail(entry.isEmpty() ? reason : TolqArchiveTr::tr("Entry \"%1\": %2").arg(entry, reason));
+        return error.addDetail(TolqArchiveTr::tr("Copy or download it again."));
     }
 
     static Error cannotWrite(const QString &path, const QString &reason)
     {
-        return Error(ErrorCode::CannotOpenFile, Tr::tr("Could not write the file: %1").arg(path))
+        return Error(ErrorCode::CannotOpenFile, TolqArchiveTr::tr("Could not write the file: %1").arg(path))
             .addDetail(reason);
     }
 

@@ -11,7 +11,7 @@ namespace orv::msreader::internal {
 
 namespace {
 
-struct Tr
+struct TolqReaderTr
 {
     Q_DECLARE_TR_FUNCTIONS(TolqReader)
 };
@@ -29,13 +29,15 @@ protected:
     Error openData() override
     {
         if (!m_directory.isValid())
-            return Error(ErrorCode::CannotOpenFile, Tr::tr("There is no place to unpack the sample."))
+            return Error(ErrorCode::CannotOpenFile,
+                         TolqReaderTr::tr("There is no place to unpack the sample."))
                 .addDetail(m_directory.errorString());
         Result<QString> sample = TolqUtils::extractSamplePath(path(), m_directory.path());
         if (sample.hasError())
             return sample.ecatch();
         if (FileTypes::isType(*sample, FileTypes::TOLQ))
-            return Error(ErrorCode::InvalidContent, Tr::tr("An acquired sample lies inside another."));
+            return Error(ErrorCode::InvalidContent,
+                         TolqReaderTr::tr("An acquired sample lies inside another."));
         MsReaderOptions inner = options();
         inner.path = *sample;
         m_reader = MsDataAccessorsFactory::createReader(inner);

@@ -12,7 +12,7 @@ namespace {
 constexpr qint64 kTailBytes = 4096;
 constexpr qint64 kChunkBytes = 1 << 18;
 
-struct Tr
+struct XmlReadersTr
 {
     Q_DECLARE_TR_FUNCTIONS(XmlReaders)
 };
@@ -40,9 +40,10 @@ Result<Ends> readEnds(QIODevice *file)
         ends.size += chunk.size();
         ends.tail = (ends.tail + chunk).last(qMin<qint64>(ends.size, kTailBytes));
         if (chunk.isEmpty() && !file->atEnd())
-            return Error(ErrorCode::InvalidContent, Tr::tr("The MS data are damaged."))
-                .addDetail(Tr::tr("After %1 unpacked bytes: %2").arg(ends.size).arg(file->errorString()))
-                .addDetail(Tr::tr("Copy or convert the file again."));
+            return Error(ErrorCode::InvalidContent, XmlReadersTr::tr("The MS data are damaged."))
+                .addDetail(
+                    XmlReadersTr::tr("After %1 unpacked bytes: %2").arg(ends.size).arg(file->errorString()))
+                .addDetail(XmlReadersTr::tr("Copy or convert the file again."));
     }
     return ends;
 }
@@ -78,11 +79,11 @@ protected:
                                          [&ends](const QByteArray &tag) { return ends->tail.contains(tag); });
         if (isWhole)
             return Error::NoError;
-        return Error(ErrorCode::InvalidContent, Tr::tr("The MS data are cut short."))
-            .addDetail(Tr::tr("The text ends after %1 bytes, before \"%2\".")
+        return Error(ErrorCode::InvalidContent, XmlReadersTr::tr("The MS data are cut short."))
+            .addDetail(XmlReadersTr::tr("The text ends after %1 bytes, before \"%2\".")
                            .arg(ends->size)
                            .arg(QString::fromLatin1(m_endTags.first())))
-            .addDetail(Tr::tr("Copy or convert the file again."));
+            .addDetail(XmlReadersTr::tr("Copy or convert the file again."));
     }
 
     [[nodiscard]] Result<bool> readHasLevel(int level) const override

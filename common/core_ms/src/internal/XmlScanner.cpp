@@ -8,7 +8,7 @@ namespace {
 
 constexpr qint64 kChunkBytes = 1 << 18;
 
-struct Tr
+struct XmlScannerTr
 {
     Q_DECLARE_TR_FUNCTIONS(XmlScanner)
 };
@@ -33,7 +33,7 @@ bool XmlScanner::next()
             m_bytesSinceTag = 0;
             m_leaves = token == QXmlStreamReader::EndElement;
             if (token == QXmlStreamReader::StartElement && ++m_level > kMostLevels)
-                fail(Tr::tr("Elements are nested too deeply."));
+                fail(XmlScannerTr::tr("Elements are nested too deeply."));
             return !m_failure.hasError();
         }
         if (token == QXmlStreamReader::Characters && m_keepsText)
@@ -57,9 +57,9 @@ bool XmlScanner::feed()
     if (chunk.isEmpty() && !m_device->atEnd())
         fail(m_device->errorString(), ErrorCode::CannotOpenFile);
     else if (chunk.isEmpty())
-        fail(Tr::tr("The text ends inside the document."));
+        fail(XmlScannerTr::tr("The text ends inside the document."));
     else if (m_bytesSinceTag > kMostBytesWithoutTag)
-        fail(Tr::tr("A text is too long."));
+        fail(XmlScannerTr::tr("A text is too long."));
     else
         m_xml.addData(chunk);
     return !m_failure.hasError();
@@ -86,13 +86,13 @@ QString XmlScanner::textBeforeNextTag()
 
 void XmlScanner::fail(const QString &reason, ErrorCode code)
 {
-    m_failure =
-        Error(code, Tr::tr("The XML text can't be read."))
-            .addDetail(Tr::tr("Line %1, column %2: %3")
-                           .arg(m_xml.lineNumber())
-                           .arg(m_xml.columnNumber())
-                           .arg(reason))
-            .addDetail(Tr::tr("Copy or convert the file again; it may have been cut short on the way."));
+    m_failure = Error(code, XmlScannerTr::tr("The XML text can't be read."))
+                    .addDetail(XmlScannerTr::tr("Line %1, column %2: %3")
+                                   .arg(m_xml.lineNumber())
+                                   .arg(m_xml.columnNumber())
+                                   .arg(reason))
+                    .addDetail(XmlScannerTr::tr(
+                        "Copy or convert the file again; it may have been cut short on the way."));
 }
 
 } // namespace orv::msreader::internal

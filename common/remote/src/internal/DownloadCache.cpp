@@ -22,7 +22,7 @@ constexpr qsizetype kEntryNameLength = 32;
 // File systems take 255; the file that is being written has a suffix beside.
 constexpr qsizetype kMaxNameBytes = 200;
 
-struct Tr
+struct DownloadCacheTr
 {
     Q_DECLARE_TR_FUNCTIONS(Servers)
 };
@@ -37,7 +37,7 @@ struct Entry
 Error unusable(const QString &folder, const QString &remedy)
 {
     return Error(ErrorCode::CannotOpenFile,
-                 Tr::tr("The folder \"%1\" for files from servers can't be used.").arg(folder))
+                 DownloadCacheTr::tr("The folder \"%1\" for files from servers can't be used.").arg(folder))
         .addDetail(remedy);
 }
 
@@ -85,10 +85,11 @@ Result<DownloadCache> DownloadCache::open()
 {
     const QString folder = folderOfSettings();
     if (QDir::isRelativePath(folder))
-        return unusable(folder, Tr::tr("Set \"Servers/CacheFolder\" to an absolute path."));
+        return unusable(folder, DownloadCacheTr::tr("Set \"Servers/CacheFolder\" to an absolute path."));
     if (!QFileInfo(folder).isDir()) {
         if (!QDir().mkpath(folder))
-            return unusable(folder, Tr::tr("Set \"Servers/CacheFolder\" to a folder that can be written."));
+            return unusable(
+                folder, DownloadCacheTr::tr("Set \"Servers/CacheFolder\" to a folder that can be written."));
         QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
     const int sizeMiB = as::value(QStringLiteral("Servers/CacheSizeMiB"), kDefaultSizeMiB).toInt();
@@ -131,12 +132,14 @@ Error DownloadCache::makeRoom(qint64 size, const QString &path)
     }
     m_room = std::max<qint64>(m_maxSize - used, 0);
     if (size > m_room)
-        return unusable(m_folder, Tr::tr("%1 bytes are needed, and %2 are left of those that it may hold. "
-                                         "Raise \"Servers/CacheSizeMiB\", or empty the folder.")
-                                      .arg(size)
-                                      .arg(m_room));
+        return unusable(m_folder,
+                        DownloadCacheTr::tr("%1 bytes are needed, and %2 are left of those that it may hold. "
+                                            "Raise \"Servers/CacheSizeMiB\", or empty the folder.")
+                            .arg(size)
+                            .arg(m_room));
     if (!QDir().mkpath(QFileInfo(path).path()))
-        return unusable(m_folder, Tr::tr("It can't be written; set \"Servers/CacheFolder\" to another one."));
+        return unusable(m_folder, DownloadCacheTr::tr(
+                                      "It can't be written; set \"Servers/CacheFolder\" to another one."));
     return Error::NoError;
 }
 

@@ -10,7 +10,7 @@ namespace orv::HttpErrors {
 
 namespace {
 
-struct Tr
+struct HttpErrorsTr
 {
     Q_DECLARE_TR_FUNCTIONS(Servers)
 };
@@ -63,8 +63,8 @@ constexpr std::array kStatusRows = {
 
 Error make(ErrorCode code, const char *message, const ServerSettings &server, const char *remedy)
 {
-    const QString advice = Tr::tr(remedy).replace(QLatin1String("%1"), server.addressKey());
-    return Error(code, Tr::tr(message).arg(server.host()))
+    const QString advice = HttpErrorsTr::tr(remedy).replace(QLatin1String("%1"), server.addressKey());
+    return Error(code, HttpErrorsTr::tr(message).arg(server.host()))
         .addDetail(QString(advice).replace(QLatin1String("%2"), server.tokenVariable()));
 }
 
@@ -106,7 +106,7 @@ Error tooLarge(const ServerSettings &server, qint64 maxSize)
                 QT_TRANSLATE_NOOP("Servers", "The answer of the server \"%1\" is too large."), server,
                 QT_TRANSLATE_NOOP("Servers",
                                   "See whether the address in the setting \"%1\" is the right one."))
-        .addDetail(Tr::tr("At most %1 bytes are taken.").arg(maxSize));
+        .addDetail(HttpErrorsTr::tr("At most %1 bytes are taken.").arg(maxSize));
 }
 
 Error cannotStore(const ServerSettings &server, const QString &reason)
@@ -136,8 +136,8 @@ Error status(const ServerSettings &server, const HttpAnswer &answer)
         });
     Error result = make(ErrorCode::CannotOpenFile, row->message, server, row->remedy);
     if (const QString words = wordsOf(server, answer); !words.isEmpty())
-        result.addDetail(Tr::tr("It says: %1").arg(words));
-    return result.addDetail(Tr::tr("Its answer has the status %1.").arg(answer.status));
+        result.addDetail(HttpErrorsTr::tr("It says: %1").arg(words));
+    return result.addDetail(HttpErrorsTr::tr("Its answer has the status %1.").arg(answer.status));
 }
 
 Error wrongType(const ServerSettings &server, const HttpAnswer &answer, const QByteArray &wanted)
@@ -150,7 +150,7 @@ Error wrongType(const ServerSettings &server, const HttpAnswer &answer, const QB
                                   "Something in between may have answered, such as the sign-in page of "
                                   "a network. See also whether the address in the setting \"%1\" is the "
                                   "right one."))
-        .addDetail(Tr::tr("It sends \"%1\" in place of \"%2\".")
+        .addDetail(HttpErrorsTr::tr("It sends \"%1\" in place of \"%2\".")
                        .arg(withoutToken(server, QString::fromLatin1(answer.contentType)).left(kMaxLength),
                             QString::fromLatin1(wanted)));
 }

@@ -17,7 +17,7 @@ namespace {
 
 constexpr qint64 kUnknownSize = -1;
 
-struct Tr
+struct ServerHandlerTr
 {
     Q_DECLARE_TR_FUNCTIONS(Servers)
 };
@@ -38,7 +38,7 @@ Result<qint64> sizeOf(const QJsonObject &metadata)
     constexpr double maxExact = 9007199254740992.0; // 2 to the power of 53
     const double size = value.toDouble(-1);
     if (size < 0 || size > maxExact || std::floor(size) != size)
-        return Error(ErrorCode::InvalidContent, Tr::tr("\"size\" must be a count of bytes."));
+        return Error(ErrorCode::InvalidContent, ServerHandlerTr::tr("\"size\" must be a count of bytes."));
     return qint64(size);
 }
 
@@ -81,9 +81,10 @@ Result<QJsonObject> ServerHandler::answer()
     if (found.hasError())
         return found.ecatch();
     if (!*found)
-        return Error(ErrorCode::CannotOpenFile,
-                     Tr::tr("There is no \"%1\" on its server.").arg(reference()->readableText()))
-            .addDetail(Tr::tr("It was moved or deleted; refer to another one."));
+        return Error(
+                   ErrorCode::CannotOpenFile,
+                   ServerHandlerTr::tr("There is no \"%1\" on its server.").arg(reference()->readableText()))
+            .addDetail(ServerHandlerTr::tr("It was moved or deleted; refer to another one."));
     return **found;
 }
 

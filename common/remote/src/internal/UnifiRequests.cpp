@@ -8,7 +8,7 @@ namespace orv::UnifiRequests {
 
 namespace {
 
-struct Tr
+struct UnifiRequestsTr
 {
     Q_DECLARE_TR_FUNCTIONS(Servers)
 };
@@ -17,14 +17,15 @@ Result<HttpRequest> request(const QString &path, const QString &id)
 {
     const UnifiSettings settings = UnifiSettings::load();
     if (!settings.isEnabled())
-        return Error(ErrorCode::InvalidContent, Tr::tr("UNIFI is not switched on."))
+        return Error(ErrorCode::InvalidContent, UnifiRequestsTr::tr("UNIFI is not switched on."))
             .addDetail(
-                Tr::tr("Set \"%1\" to the address of the server, and don't set \"UNIFI/Enabled\" to false.")
+                UnifiRequestsTr::tr(
+                    "Set \"%1\" to the address of the server, and don't set \"UNIFI/Enabled\" to false.")
                     .arg(settings.server().addressKey()));
     if (id.isEmpty())
         return Error(ErrorCode::InvalidContent,
-                     Tr::tr("A UNIFI item without an identifier can't be asked for."))
-            .addDetail(Tr::tr("Choose the sample's file again."));
+                     UnifiRequestsTr::tr("A UNIFI item without an identifier can't be asked for."))
+            .addDetail(UnifiRequestsTr::tr("Choose the sample's file again."));
     return HttpRequest{.server = settings.server(), .path = path, .query = {{QStringLiteral("id"), id}}};
 }
 

@@ -14,7 +14,7 @@ using Scheme = ResourceReference::Scheme;
 
 constexpr QLatin1Char kSlash('/');
 
-struct Tr
+struct SchemeTextTr
 {
     Q_DECLARE_TR_FUNCTIONS(ResourceReference)
 };
@@ -66,8 +66,8 @@ QString writePath(const Parts &parts)
 QString folderFault(const Parts &parts)
 {
     if (!parts.folder.startsWith(kSlash))
-        return Tr::tr("folder");
-    return parts.name.isEmpty() || parts.name.contains(kSlash) ? Tr::tr("name") : QString();
+        return SchemeTextTr::tr("folder");
+    return parts.name.isEmpty() || parts.name.contains(kSlash) ? SchemeTextTr::tr("name") : QString();
 }
 
 Result<Parts> readServerFile(const QString &rest)
@@ -95,7 +95,8 @@ QString writeExternal(const Parts &parts)
 
 QString externalFault(const Parts &parts)
 {
-    return parts.server.isEmpty() || parts.server.contains(kSlash) ? Tr::tr("source") : folderFault(parts);
+    return parts.server.isEmpty() || parts.server.contains(kSlash) ? SchemeTextTr::tr("source")
+                                                                   : folderFault(parts);
 }
 
 Result<Parts> readManaged(const QString &rest)
@@ -117,7 +118,7 @@ QString readableManaged(const Parts &parts)
 
 QString managedFault(const Parts &parts)
 {
-    return parts.id.isEmpty() ? Tr::tr("identifier") : QString();
+    return parts.id.isEmpty() ? SchemeTextTr::tr("identifier") : QString();
 }
 
 /// With an identifier in braces in the second place; without one it is the form of old documents, whose
@@ -131,8 +132,8 @@ Result<Parts> readUnifi(const QString &rest)
     }
     const qsizetype end = tail.indexOf(QLatin1String("}/"));
     if (end < 0) {
-        return Error(ErrorCode::InvalidContent, Tr::tr("The identifier has no end."))
-            .addDetail(Tr::tr("Write it in braces, \"unifi:/SERVER/{ID}/FOLDER/NAME\"."));
+        return Error(ErrorCode::InvalidContent, SchemeTextTr::tr("The identifier has no end."))
+            .addDetail(SchemeTextTr::tr("Write it in braces, \"unifi:/SERVER/{ID}/FOLDER/NAME\"."));
     }
     const auto [folder, name] = splitLast(tail.mid(end + 2));
     return Parts{server, decoded(tail.mid(2, end - 2)), folder, decoded(name)};
@@ -155,8 +156,8 @@ QString writeUnifi(const Parts &parts)
 QString unifiFault(const Parts &parts)
 {
     if (parts.server.isEmpty() || parts.server.contains(kSlash))
-        return Tr::tr("server");
-    return parts.name.isEmpty() ? Tr::tr("name") : QString();
+        return SchemeTextTr::tr("server");
+    return parts.name.isEmpty() ? SchemeTextTr::tr("name") : QString();
 }
 
 // clang-format off

@@ -6,7 +6,7 @@ namespace orv {
 
 namespace {
 
-struct Tr
+struct MemberReaderTr
 {
     Q_DECLARE_TR_FUNCTIONS(MemberReader)
 };
@@ -14,7 +14,7 @@ struct Tr
 Error wrongType(QLatin1String key, const QString &expected, const QJsonValue &found)
 {
     return Error(ErrorCode::InvalidContent,
-                 Tr::tr("\"%1\" must be %2, but there is %3.")
+                 MemberReaderTr::tr("\"%1\" must be %2, but there is %3.")
                      .arg(key, expected, JsonUtils::typeDescription(found.type())));
 }
 
@@ -51,7 +51,7 @@ int MemberReader::integer(QLatin1String key, int fallback)
 {
     const QJsonValue found = value(key, QJsonValue::Double);
     if (found.isDouble() && double(found.toInt()) != found.toDouble())
-        fail(Error(ErrorCode::InvalidContent, Tr::tr("\"%1\" must be a whole number.").arg(key)));
+        fail(Error(ErrorCode::InvalidContent, MemberReaderTr::tr("\"%1\" must be a whole number.").arg(key)));
     return found.toInt(fallback);
 }
 
@@ -72,7 +72,7 @@ QStringList MemberReader::texts(QLatin1String key)
     texts.reserve(array.size());
     for (const auto element : array) {
         if (!element.isString())
-            fail(wrongType(key, Tr::tr("an array of texts"), element));
+            fail(wrongType(key, MemberReaderTr::tr("an array of texts"), element));
         texts.append(element.toString());
     }
     return texts;
@@ -84,9 +84,9 @@ void MemberReader::forEachObject(QLatin1String key, const std::function<Error(co
     for (qsizetype i = 0; i < array.size() && !m_error.hasError(); ++i) {
         const QJsonValue element = array.at(i);
         Error error = element.isObject() ? read(element.toObject())
-                                         : wrongType(key, Tr::tr("an array of objects"), element);
+                                         : wrongType(key, MemberReaderTr::tr("an array of objects"), element);
         if (error.hasError())
-            fail(error.addDetail(Tr::tr("It is element %1 of \"%2\".").arg(i).arg(key)));
+            fail(error.addDetail(MemberReaderTr::tr("It is element %1 of \"%2\".").arg(i).arg(key)));
     }
 }
 
