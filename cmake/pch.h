@@ -1,9 +1,13 @@
-// The headers that nearly every source of the libraries reads. Sources still include what they use: the
-// header sets are verified without this file.
+// The headers that nearly every source reads. Sources still include what they use: public headers are
+// compiled alone without this file.
 #pragma once
 
 #include <QByteArray>
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -13,6 +17,8 @@
 #include <QMap>
 #include <QMetaEnum>
 #include <QObject>
+#include <QRegularExpression>
+#include <QSet>
 #include <QSharedData>
 #include <QString>
 #include <QStringList>
@@ -21,8 +27,10 @@
 #include <QVersionNumber>
 
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
+#include <variant>
 #include <vector>

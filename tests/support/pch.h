@@ -1,14 +1,13 @@
 // What nearly every test reads.
 #pragma once
 
-#include <QDir>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include "../../cmake/pch.h"
+
+#include <QBuffer>
+#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QVariant>
 
-#include <memory>
+#include <limits>
+#include <random>

@@ -1,0 +1,5 @@
+// What nearly every test of widgets reads.
+#pragma once
+
+#include "../../cmake/pch_widgets.h"
+#include "pch.h"
