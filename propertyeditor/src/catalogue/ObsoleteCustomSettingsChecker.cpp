@@ -13,7 +13,7 @@ namespace orv {
 
 namespace {
 
-struct Tr
+struct ObsoleteCustomSettingsCheckerTr
 {
     Q_DECLARE_TR_FUNCTIONS(ObsoleteCustomSettingsChecker)
 };
@@ -83,7 +83,8 @@ bool ObsoleteCustomSettingsChecker::hasObsoleteSettings(ApplicationType applicat
     if (keys.isEmpty())
         return false;
     if (message) {
-        *message = Tr::tr("The advanced configuration has settings that are out of use: %1.")
+        *message = ObsoleteCustomSettingsCheckerTr::tr(
+                       "The advanced configuration has settings that are out of use: %1.")
                        .arg(keys.join(QLatin1String(", ")));
     }
     return true;
@@ -99,7 +100,8 @@ QString ObsoleteCustomSettingsChecker::remedy(ApplicationType application, const
     captions.removeDuplicates();
     if (captions.isEmpty())
         return {};
-    return Tr::tr("Remove them from the advanced configuration, and enter their values in %1.")
+    return ObsoleteCustomSettingsCheckerTr::tr(
+               "Remove them from the advanced configuration, and enter their values in %1.")
         .arg(captions.join(QLatin1String(", ")));
 }
 

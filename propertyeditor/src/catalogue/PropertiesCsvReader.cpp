@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Tr
+struct PropertiesCsvReaderTr
 {
     Q_DECLARE_TR_FUNCTIONS(PropertiesCsvReader)
 };
@@ -43,7 +43,8 @@ Result<QMap<QByteArray, QString>> optionsOf(const QString &text)
     for (QStringView option : QStringView(text).split(u';', Qt::SkipEmptyParts)) {
         const qsizetype equals = option.indexOf(u'=');
         if (equals <= 0)
-            return fault(Tr::tr("The type option \"%1\" is not of the form name=value.").arg(option));
+            return fault(PropertiesCsvReaderTr::tr("The type option \"%1\" is not of the form name=value.")
+                             .arg(option));
         options.insert(option.first(equals).toUtf8(), option.sliced(equals + 1).toString());
     }
     return options;
@@ -56,11 +57,12 @@ Result<CsvRow> nextRow(CsvReader &reader)
     if (row.hasError())
         return row.ecatch();
     if (!row->has_value())
-        return fault(Tr::tr("The table ends too early."));
+        return fault(PropertiesCsvReaderTr::tr("The table ends too early."));
     if ((*row)->fields.size() != columns().size()) {
-        return fault(
-                   Tr::tr("A row has %1 fields and not %2.").arg((*row)->fields.size()).arg(columns().size()))
-            .addDetail(Tr::tr("line %1").arg((*row)->line));
+        return fault(PropertiesCsvReaderTr::tr("A row has %1 fields and not %2.")
+                         .arg((*row)->fields.size())
+                         .arg(columns().size()))
+            .addDetail(PropertiesCsvReaderTr::tr("line %1").arg((*row)->line));
     }
     return std::move(**row);
 }
@@ -95,27 +97,28 @@ Error PropertiesCsvReader::load(QIODevice *device)
     if (header.hasError())
         return header.ecatch();
     if (header->fields != columns())
-        return fault(Tr::tr("The columns are not %1.").arg(columns().join(u", ")));
+        return fault(PropertiesCsvReaderTr::tr("The columns are not %1.").arg(columns().join(u", ")));
     m_idsByName.reserve(qsizetype(2) * kPropertyCount);
     for (int number = 0; number < kPropertyCount; ++number) {
         Result<CsvRow> row = nextRow(reader);
         if (row.hasError())
             return row.ecatch();
         if (Error error = addRow(number, std::move(row->fields)))
-            return error.addDetail(Tr::tr("line %1").arg(row->line)).ecatch();
+            return error.addDetail(PropertiesCsvReaderTr::tr("line %1").arg(row->line)).ecatch();
     }
     Result<std::optional<CsvRow>> behind = reader.next();
     if (behind.hasError())
         return behind.ecatch();
     if (behind->has_value())
-        return fault(Tr::tr("There are more than %1 properties.").arg(kPropertyCount));
+        return fault(PropertiesCsvReaderTr::tr("There are more than %1 properties.").arg(kPropertyCount));
     return Error::NoError;
 }
 
 Error PropertiesCsvReader::addRow(int number, QStringList fields)
 {
     if (fields[0] != QString::number(number))
-        return fault(Tr::tr("The id \"%1\" stands where %2 belongs.").arg(fields[0]).arg(number));
+        return fault(
+            PropertiesCsvReaderTr::tr("The id \"%1\" stands where %2 belongs.").arg(fields[0]).arg(number));
     Result<QMap<QByteArray, QString>> options = optionsOf(fields[6]);
     if (options.hasError())
         return options.ecatch();
@@ -136,10 +139,11 @@ Error PropertiesCsvReader::addRow(int number, QStringList fields)
 Error PropertiesCsvReader::addName(int number, const QString &name)
 {
     if (name.isEmpty())
-        return fault(Tr::tr("The property %1 has no name.").arg(number));
+        return fault(PropertiesCsvReaderTr::tr("The property %1 has no name.").arg(number));
     const auto known = m_idsByName.constFind(name);
     if (known != m_idsByName.cend())
-        return fault(Tr::tr("Both %1 and %2 are named \"%3\".").arg(*known).arg(number).arg(name));
+        return fault(
+            PropertiesCsvReaderTr::tr("Both %1 and %2 are named \"%3\".").arg(*known).arg(number).arg(name));
     m_idsByName.insert(name, PropertyId(number));
     return Error::NoError;
 }

@@ -19,7 +19,7 @@ namespace orv {
 
 namespace {
 
-struct Tr
+struct PropertyEditorUtilsTr
 {
     Q_DECLARE_TR_FUNCTIONS(PropertyEditorUtils)
 };
@@ -130,8 +130,8 @@ PropertyEditorUtils::fileNameFilterForExpectedProject(const QList<BaseItemType> 
 {
     if (documents.isEmpty()) {
         return Error(ErrorCode::InvalidContent,
-                     Tr::tr("Workflow has to contain at least one processing node"))
-            .addDetail(Tr::tr("Add a column of a search, an analysis or a report."));
+                     PropertyEditorUtilsTr::tr("Workflow has to contain at least one processing node"))
+            .addDetail(PropertyEditorUtilsTr::tr("Add a column of a search, an analysis or a report."));
     }
     if (isAll(documents, documents.constFirst()))
         return filterFor(documents);
@@ -139,10 +139,11 @@ PropertyEditorUtils::fileNameFilterForExpectedProject(const QList<BaseItemType> 
     projects.removeIf(yieldsNoProjectBesideOthers);
     if (projects.isEmpty()) {
         return Error(ErrorCode::InvalidContent,
-                     Tr::tr("Current workflow processing nodes configuration is not supported"))
-            .addDetail(
-                Tr::tr("Searches and previews of different kinds can't make one project. Keep those of "
-                       "one kind, or add an analysis."));
+                     PropertyEditorUtilsTr::tr(
+                         "Current workflow processing nodes configuration is not supported"))
+            .addDetail(PropertyEditorUtilsTr::tr(
+                "Searches and previews of different kinds can't make one project. Keep those of "
+                "one kind, or add an analysis."));
     }
     return filterFor(projects);
 }

@@ -16,7 +16,7 @@ using namespace PropertyEditorStringConstants;
 
 namespace {
 
-struct Tr
+struct PropertyLossesTr
 {
     Q_DECLARE_TR_FUNCTIONS(PropertyLosses)
 };
@@ -61,15 +61,16 @@ void reportEntryLosses(const PropertyEditor::LoadContext &context, const QJsonOb
     const QJsonValue value = entry.value(VALUE_KEY);
     const QString name = entry.value(NAME_KEY).toString();
     if (!isRead(value, property)) {
-        context.lost(
-            VALUE_KEY, Tr::tr("value of the property \"%1\"").arg(name),
-            Tr::tr("it is %1 that this property can't hold").arg(JsonUtils::typeDescription(value.type())));
+        context.lost(VALUE_KEY, PropertyLossesTr::tr("value of the property \"%1\"").arg(name),
+                     PropertyLossesTr::tr("it is %1 that this property can't hold")
+                         .arg(JsonUtils::typeDescription(value.type())));
     }
     const QStringList kept = {NAME_KEY, VALUE_KEY, GROUP_KEY, QString::fromLatin1(kPriorityOption)};
     for (auto it = entry.begin(); it != entry.end(); ++it) {
         if (!kept.contains(it.key()))
-            context.lost(it.key(), Tr::tr("member \"%1\" of the property \"%2\"").arg(it.key(), name),
-                         Tr::tr("the format has no such member here"));
+            context.lost(it.key(),
+                         PropertyLossesTr::tr("member \"%1\" of the property \"%2\"").arg(it.key(), name),
+                         PropertyLossesTr::tr("the format has no such member here"));
     }
 }
 

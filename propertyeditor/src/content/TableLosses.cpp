@@ -13,21 +13,22 @@ using namespace PropertyEditorStringConstants;
 
 namespace {
 
-struct Tr
+struct TableLossesTr
 {
     Q_DECLARE_TR_FUNCTIONS(TableLosses)
 };
 
 QString memberText(const QString &key)
 {
-    return Tr::tr("member \"%1\" of a table cell").arg(key);
+    return TableLossesTr::tr("member \"%1\" of a table cell").arg(key);
 }
 
 void reportMembers(const LoadContext &context, const QJsonObject &object, const QStringList &kept)
 {
     for (auto it = object.begin(); it != object.end(); ++it) {
         if (!kept.contains(it.key()))
-            context.lost(it.key(), memberText(it.key()), Tr::tr("the format has no such member here"));
+            context.lost(it.key(), memberText(it.key()),
+                         TableLossesTr::tr("the format has no such member here"));
     }
 }
 
@@ -36,7 +37,7 @@ void reportOddTexts(const LoadContext &context, const QJsonObject &cell)
     for (const QString key : {META_IN_JSON_KEY, NAME_KEY, TITLE_KEY}) {
         const QJsonValue value = cell.value(key);
         if (!value.isUndefined() && !value.isString())
-            context.lost(key, memberText(key), Tr::tr("it is no text"));
+            context.lost(key, memberText(key), TableLossesTr::tr("it is no text"));
     }
 }
 
@@ -54,7 +55,7 @@ void reportOddArrays(const LoadContext &context, const QJsonObject &value, const
 {
     for (const QString &key : keys) {
         if (value.contains(key) && !value.value(key).isArray())
-            context.lost(key, memberText(key), Tr::tr("it is no array"));
+            context.lost(key, memberText(key), TableLossesTr::tr("it is no array"));
     }
 }
 
@@ -66,7 +67,7 @@ void reportTable(const LoadContext &context, const QJsonObject &entry, const QSt
         reportNodeMembers(context.member(VALUE_KEY), value.toObject(), kept);
         reportOddArrays(context.member(VALUE_KEY), value.toObject(), kept);
     } else if (!value.isUndefined()) {
-        context.lost(VALUE_KEY, Tr::tr("value of the table"), Tr::tr("it is no table"));
+        context.lost(VALUE_KEY, TableLossesTr::tr("value of the table"), TableLossesTr::tr("it is no table"));
     }
 }
 
@@ -74,7 +75,8 @@ void reportObject(const LoadContext &context, const QJsonObject &entry)
 {
     const QJsonValue value = entry.value(VALUE_KEY);
     if (!value.isUndefined() && !value.isObject())
-        context.lost(VALUE_KEY, Tr::tr("value of the property"), Tr::tr("it is no object"));
+        context.lost(VALUE_KEY, TableLossesTr::tr("value of the property"),
+                     TableLossesTr::tr("it is no object"));
 }
 
 /// An entry that is read.
@@ -108,11 +110,12 @@ void reportTableLosses(const LoadContext &context, const QJsonObject &json, cons
     for (qsizetype i = 0; i < entries.size(); ++i) {
         const QJsonObject entry = entries.at(i).toObject();
         const PropertyId id = PropertyEditorJsonUtils::findPropertyBackCompat(entry, type);
-        const QString what = Tr::tr("property \"%1\"").arg(entry.value(NAME_KEY).toString());
+        const QString what = TableLossesTr::tr("property \"%1\"").arg(entry.value(NAME_KEY).toString());
         if (!isKept(id, content)) {
-            properties.lost(QString::number(i), what, Tr::tr("this kind of cell doesn't have it"));
+            properties.lost(QString::number(i), what, TableLossesTr::tr("this kind of cell doesn't have it"));
         } else if (seen.contains(id)) {
-            properties.lost(QString::number(i), what, Tr::tr("only the first of its name is read"));
+            properties.lost(QString::number(i), what,
+                            TableLossesTr::tr("only the first of its name is read"));
         } else {
             reportEntry(properties.element(i), entry, id, content);
             seen.insert(id);

@@ -18,7 +18,7 @@ using MirelProperties = PreviewPreset::MirelProperties;
 
 namespace {
 
-struct Tr
+struct PreviewPresetTr
 {
     Q_DECLARE_TR_FUNCTIONS(PreviewPreset)
 };
@@ -172,7 +172,7 @@ Result<Content> Content::fromPreviewPresetFile(const QString &path)
     const Result<QByteArray> bytes = FileUtils::readFile(path, kMaximumSize);
     if (!bytes.hasError())
         return fromFileContent(*bytes);
-    Error error(ErrorCode::CannotOpenFile, Tr::tr("Cannot open file: %1").arg(path));
+    Error error(ErrorCode::CannotOpenFile, PreviewPresetTr::tr("Cannot open file: %1").arg(path));
     if (bytes.error().code() != ErrorCode::CannotOpenFile)
         error.addDetail(bytes.error().errorMessage());
     for (const QString &detail : bytes.error().details())

@@ -21,19 +21,19 @@ using namespace PropertyEditor;
 
 namespace {
 
-struct Tr
+struct DocumentWorkflowTr
 {
     Q_DECLARE_TR_FUNCTIONS(PropertyEditorUtils)
 };
 
 QString placeOf(const QString &fileName)
 {
-    return Tr::tr("The project is %1.").arg(fileName);
+    return DocumentWorkflowTr::tr("The project is %1.").arg(fileName);
 }
 
 QString notCreatedByWorkflow()
 {
-    return Tr::tr("Name a project that was created from a workflow, or create it anew.");
+    return DocumentWorkflowTr::tr("Name a project that was created from a workflow, or create it anew.");
 }
 
 Result<bool> hasWorkflow(const ProjectCreationOptionsDao &dao)
@@ -55,7 +55,8 @@ Result<QByteArray> readWorkflowText(const QString &fileName)
     if (!isThere)
         return isThere.ecatch();
     if (!*isThere) {
-        return Error(ErrorCode::InvalidContent, Tr::tr("Workflow is not saved in the project database."))
+        return Error(ErrorCode::InvalidContent,
+                     DocumentWorkflowTr::tr("Workflow is not saved in the project database."))
             .addDetail(placeOf(fileName))
             .addDetail(notCreatedByWorkflow());
     }
@@ -64,10 +65,12 @@ Result<QByteArray> readWorkflowText(const QString &fileName)
         return rows.ecatch();
     if (rows->size() != 1) {
         return Error(ErrorCode::MalformedStructure,
-                     Tr::tr("Unable to load the workflow, multiple MirelProjectCreationOptions keys found."))
+                     DocumentWorkflowTr::tr(
+                         "Unable to load the workflow, multiple MirelProjectCreationOptions keys found."))
             .addDetail(placeOf(fileName))
-            .addDetail(Tr::tr("Found are %1. Restore the project from a copy, or create it anew.")
-                           .arg(rows->size()));
+            .addDetail(
+                DocumentWorkflowTr::tr("Found are %1. Restore the project from a copy, or create it anew.")
+                    .arg(rows->size()));
     }
     return rows->constFirst().value;
 }
@@ -75,7 +78,7 @@ Result<QByteArray> readWorkflowText(const QString &fileName)
 Error notSupported(const QVersionNumber &version, const QStringList &reasons)
 {
     Error error(ErrorCode::MalformedStructure,
-                Tr::tr("Incompatible workflow version: %1").arg(version.toString()));
+                DocumentWorkflowTr::tr("Incompatible workflow version: %1").arg(version.toString()));
     for (const QString &reason : reasons)
         error.addDetail(reason);
     return error;

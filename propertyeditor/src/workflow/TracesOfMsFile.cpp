@@ -19,7 +19,7 @@ namespace {
 using Answer = MissingFileQuestions::Answer;
 using Entry = TracesImportList::Entry;
 
-struct Tr
+struct MirelElutionPeaksBackwardsCompatibilityTr
 {
     Q_DECLARE_TR_FUNCTIONS(MirelElutionPeaksBackwardsCompatibility)
 };
@@ -33,21 +33,21 @@ std::shared_ptr<MissingFileQuestions> person()
 void showOrLog(const Error &error)
 {
     if (const auto questions = person())
-        questions->showError(Tr::tr("Error"), error.errorMessage());
+        questions->showError(MirelElutionPeaksBackwardsCompatibilityTr::tr("Error"), error.errorMessage());
     else
         qCWarning(propertyEditorLog).noquote() << error.errorMessage();
 }
 
 MissingFileQuestions::Question questionAbout(const QString &path)
 {
-    return {.title = Tr::tr("File does not exist"),
-            .text =
-                Tr::tr("The file: \"%1\" was not found. Would you like to load this file from another "
-                       "directory? If you choose to continue, the traces for this file will not be loaded.")
-                    .arg(path),
-            .findButton = Tr::tr("Find file"),
-            .cancelButton = Tr::tr("Continue"),
-            .checkBox = Tr::tr("Do not ask again (for this workflow)"),
+    return {.title = MirelElutionPeaksBackwardsCompatibilityTr::tr("File does not exist"),
+            .text = MirelElutionPeaksBackwardsCompatibilityTr::tr(
+                        "The file: \"%1\" was not found. Would you like to load this file from another "
+                        "directory? If you choose to continue, the traces for this file will not be loaded.")
+                        .arg(path),
+            .findButton = MirelElutionPeaksBackwardsCompatibilityTr::tr("Find file"),
+            .cancelButton = MirelElutionPeaksBackwardsCompatibilityTr::tr("Continue"),
+            .checkBox = MirelElutionPeaksBackwardsCompatibilityTr::tr("Do not ask again (for this workflow)"),
             .checkBoxObjectName = QStringLiteral("DoNotAskAgainCheckBox")};
 }
 
@@ -75,7 +75,7 @@ ResourceReferenceSPtr replacement(const ResourceReferenceSPtr &reference, bool *
     const QString path = ResourceReferenceUtils::toString(reference, true);
     if (answerAbout(path, questions.get(), stopAsking) == Answer::Cancel)
         return {};
-    const QString chosen = questions->chooseFile(Tr::tr("Ms file"));
+    const QString chosen = questions->chooseFile(MirelElutionPeaksBackwardsCompatibilityTr::tr("Ms file"));
     if (chosen.isEmpty())
         return {};
     Result<ResourceReferenceSPtr> found = ResourceReference::fromString(chosen);

@@ -12,7 +12,7 @@ using namespace PropertyEditor;
 
 namespace {
 
-struct Tr
+struct StepHelpersTr
 {
     Q_DECLARE_TR_FUNCTIONS(WflwUpgrader)
 };
@@ -41,7 +41,7 @@ Error notPossible(const QString &detail)
 Error noSamples()
 {
     return failure(QObject::tr("There are no samples in the workflow."),
-                   Tr::tr("Add the column of samples with the version that made the workflow."));
+                   StepHelpersTr::tr("Add the column of samples with the version that made the workflow."));
 }
 
 Error check(bool done, const KeyValueItem &item, const QString &key)
@@ -49,8 +49,8 @@ Error check(bool done, const KeyValueItem &item, const QString &key)
     if (done)
         return Error::NoError;
     return notPossible(
-        Tr::tr("The setting \"%1\" of the cell \"%2\" can't be changed as the format needs it. "
-               "Make the cell anew with the version that made the workflow.")
+        StepHelpersTr::tr("The setting \"%1\" of the cell \"%2\" can't be changed as the format needs it. "
+                          "Make the cell anew with the version that made the workflow.")
             .arg(key, item.name().isEmpty() ? item.typeString() : item.name()));
 }
 

@@ -22,7 +22,7 @@ using TraceMappings = QHash<TraceInfo, TraceInfo>;
 
 constexpr int kInterfaceVersion = 1;
 
-struct Tr
+struct TalvaneWflwUpgradeHelperTr
 {
     Q_DECLARE_TR_FUNCTIONS(WflwUpgrader)
 };
@@ -55,7 +55,7 @@ Error addMappings(const TalvaneWflwUpgradeHelper &helper, const ResourceReferenc
         return failure(QObject::tr("Upgrade not possible. A valid compatibility metadata not provided in the "
                                    "Tolq file: %1")
                            .arg(ResourceReferenceUtils::toString(reference)),
-                       Tr::tr("Have the server process the sample again."));
+                       TalvaneWflwUpgradeHelperTr::tr("Have the server process the sample again."));
     }
     mappings->insert(**found);
     return Error::NoError;
@@ -74,7 +74,7 @@ Error collectMappings(const TalvaneWflwUpgradeHelper &helper, const QList<Resour
         if (!isOnServer(reference)) {
             return failure(
                 QObject::tr("Upgrade with sources different than Talvane server is not supported."),
-                Tr::tr("Put the file on the server: %1")
+                TalvaneWflwUpgradeHelperTr::tr("Put the file on the server: %1")
                     .arg(ResourceReferenceUtils::toString(reference, true)));
         }
         if (ResourceTypeChecker::isTolqFileType(reference))

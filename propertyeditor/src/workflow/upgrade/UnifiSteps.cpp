@@ -25,22 +25,23 @@ namespace {
 
 using Sample = SamplesInput::Entry;
 
-struct Tr
+struct UnifiStepsTr
 {
     Q_DECLARE_TR_FUNCTIONS(WflwUpgrader)
 };
 
 QString placeOf(const Sample &sample)
 {
-    return Tr::tr("Sample \"%1\": %2.")
+    return UnifiStepsTr::tr("Sample \"%1\": %2.")
         .arg(sample.name, ResourceReferenceUtils::toString(sample.msFile, true));
 }
 
 Error unifiIsOff(const QString &text, const Sample &sample)
 {
     return failure(text, placeOf(sample))
-        .addDetail(Tr::tr("Set \"UNIFI/Address\" to the address of the server, and put a token into %1.")
-                       .arg(UnifiSettings::load().server().tokenVariable()));
+        .addDetail(
+            UnifiStepsTr::tr("Set \"UNIFI/Address\" to the address of the server, and put a token into %1.")
+                .arg(UnifiSettings::load().server().tokenVariable()));
 }
 
 /// Gives the sample the reference, under whose text it keeps what was known under \a oldText.
@@ -64,7 +65,8 @@ Error missingMetadata(const QString &text, const Sample &sample, const Error &re
 {
     return failure(text, placeOf(sample))
         .addDetail(reason.errorMessage())
-        .addDetail(Tr::tr("Choose the sample's file again with the version that made the workflow."));
+        .addDetail(
+            UnifiStepsTr::tr("Choose the sample's file again with the version that made the workflow."));
 }
 
 /// The id stands in the reference, but for those of old documents.
@@ -104,7 +106,7 @@ Error rebuildReference(Sample *sample, const OldUnifiMetadata &old)
     if (reference.hasError()) {
         Error error = reference.ecatch();
         return error.addDetail(
-            Tr::tr("Sample \"%1\", of the server \"%2\".").arg(sample->name, server.host()));
+            UnifiStepsTr::tr("Sample \"%1\", of the server \"%2\".").arg(sample->name, server.host()));
     }
     const QString oldText = QStringLiteral("unifi:/%1/%2/%3").arg(server.authority(), old.path, old.name);
     setReference(sample, oldText, *reference);

@@ -15,7 +15,7 @@ namespace orv {
 
 namespace {
 
-struct Tr
+struct WflwUpgraderTr
 {
     Q_DECLARE_TR_FUNCTIONS(WflwUpgrader)
 };
@@ -160,7 +160,7 @@ Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEdito
             continue;
         if (Error error = step.run(*helper, arguments)) {
             return error
-                .addDetail(Tr::tr("The upgrade from version %1 stopped at the step to %2.")
+                .addDetail(WflwUpgraderTr::tr("The upgrade from version %1 stopped at the step to %2.")
                                .arg(version.toString(), step.version().toString()))
                 .ecatch();
         }

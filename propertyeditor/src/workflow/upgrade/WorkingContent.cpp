@@ -19,7 +19,7 @@ using namespace PropertyEditorStringConstants;
 
 namespace {
 
-struct Tr
+struct WorkingContentTr
 {
     Q_DECLARE_TR_FUNCTIONS(WflwUpgrader)
 };
@@ -87,8 +87,9 @@ Error checkTabs(const Content &tree)
     for (const ItemGroup *tab : tree.groups()) {
         if (!isRectangle(*tab)) {
             return Error(ErrorCode::MalformedStructure, QObject::tr("Upgrade not possible."))
-                .addDetail(Tr::tr("The columns of the tab \"%1\" differ in height, and a tab is written as a "
-                                  "rectangle. Complete its last row.")
+                .addDetail(WorkingContentTr::tr(
+                               "The columns of the tab \"%1\" differ in height, and a tab is written as a "
+                               "rectangle. Complete its last row.")
                                .arg(tab->name()));
         }
     }
