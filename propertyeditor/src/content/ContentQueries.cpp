@@ -1,5 +1,6 @@
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/PropertyEditorUtils.h>
+#include <orv/propertyeditor/content/CellTypes.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/ExtendedMetadataSink.h>
 #include <orv/propertyeditor/content/ItemGroup.h>
@@ -15,26 +16,9 @@
 #include <QHash>
 #include <QSet>
 
-#include <array>
-
 namespace orv::PropertyEditor {
 
 namespace {
-
-const QSet<BaseItemType> &documentTypes()
-{
-    static const QSet<BaseItemType> types = {
-        BaseItemType::Dravik, BaseItemType::Senthia,     BaseItemType::Karvon,  BaseItemType::Preview,
-        BaseItemType::Intact, BaseItemType::Oligo,       BaseItemType::Ostrale, BaseItemType::MultiDocReport,
-        BaseItemType::Trenq,  BaseItemType::TrenqPreview};
-    return types;
-}
-
-const QSet<BaseItemType> &projectTypes()
-{
-    static const QSet<BaseItemType> types = documentTypes() + QSet<BaseItemType>{BaseItemType::CaldrinDIA};
-    return types;
-}
 
 SequenceDatabasesTableItem *databaseTable(const Content &content, int index)
 {
@@ -119,7 +103,7 @@ QList<BaseItemType> Content::findAllDocuments() const
     QList<BaseItemType> documents;
     for (const ItemGroup *tab : groups()) {
         for (const ItemSubGroup *column : tab->subGroups()) {
-            if (documentTypes().contains(column->type()))
+            if (CellTypes::isDocument(column->type()))
                 documents.append(column->type());
         }
     }
@@ -128,13 +112,14 @@ QList<BaseItemType> Content::findAllDocuments() const
 
 QList<BaseItem *> Content::findDocumentItems() const
 {
-    return findAllItems(documentTypes());
+    const QList<BaseItemType> &documents = CellTypes::documents();
+    return findAllItems(QSet<BaseItemType>(documents.begin(), documents.end()));
 }
 
 QList<KeyValueItem *> Content::findProjects() const
 {
     QList<KeyValueItem *> projects;
-    for (BaseItem *item : findAllItems(projectTypes())) {
+    for (BaseItem *item : findAllItems(CellTypes::projects())) {
         if (auto *project = qobject_cast<KeyValueItem *>(item))
             projects.append(project);
         else

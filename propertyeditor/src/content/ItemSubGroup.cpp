@@ -1,8 +1,8 @@
-#include "ItemCreators.h"
 #include "OwningList.h"
 
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/content/CellTypes.h>
 #include <orv/propertyeditor/content/ItemSubGroup.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
@@ -170,7 +170,8 @@ void ItemSubGroup::clear()
 
 std::unique_ptr<BaseItem> ItemSubGroup::allocateNewItem(BaseItemType type)
 {
-    std::unique_ptr<BaseItem> item = createItem(type);
+    const CellType *row = CellTypes::find(type);
+    std::unique_ptr<BaseItem> item = row ? row->create(type) : nullptr;
     if (!item)
         qCWarning(propertyEditorLog) << "Failed to create a new item of type" << BaseItem::typeToString(type);
     return item;

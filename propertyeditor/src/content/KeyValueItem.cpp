@@ -1,5 +1,3 @@
-#include "ItemCreators.h"
-
 #include <KPropertyListData>
 #include <KPropertySet>
 #include <orv/core/Logging.h>
@@ -8,6 +6,7 @@
 #include <orv/propertyeditor/PropertiesTraits.h>
 #include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/PropertySetCreator.h>
+#include <orv/propertyeditor/content/CellTypes.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
@@ -34,7 +33,8 @@ QString textOf(const KProperty &property)
 
 bool KeyValueItem::holds(BaseItemType type)
 {
-    return qobject_cast<KeyValueItem *>(createItem(type).get());
+    const CellType *row = CellTypes::find(type);
+    return row && row->holdsSettings;
 }
 
 KeyValueItem::KeyValueItem(BaseItemType type)

@@ -2,11 +2,11 @@
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/content/CellTypes.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/ItemGroup.h>
 #include <orv/propertyeditor/content/ItemSubGroup.h>
 
-#include <QHash>
 #include <QSet>
 
 namespace orv {
@@ -14,23 +14,6 @@ namespace orv {
 using namespace PropertyEditor;
 
 namespace {
-
-QSet<BaseItemType> keptTypes(ApplicationType app)
-{
-    using enum ORV_QEnumsBaseItemType::BaseItemType;
-    static const QHash<ApplicationType, QSet<BaseItemType>> types = {
-        {ApplicationType::Senthia, {Samples, Proteins, Senthia, Database, Isotope, Disulfide}},
-        {ApplicationType::Karvon, {Samples, Proteins, Karvon}},
-        {ApplicationType::Dravik, {Samples, Proteins, Dravik, DetachedGlycans, GlycanOptions}},
-        {ApplicationType::Intact, {Samples, Proteins, Intact, IntactProteins, Masses, IntactOptions}},
-        {ApplicationType::Oligo, {Samples, Proteins, Oligo, OligoMolecules, Masses, IntactOptions}},
-        {ApplicationType::Ostrale, {Samples, Proteins, Ostrale}},
-        {ApplicationType::Preview, {Samples, Database, Preview, TrenqPreview}},
-        {ApplicationType::MultiDocReport, {Samples, MultiDocReport}},
-        {ApplicationType::Trenq, {Samples, Trenq, Database, Isotope, Disulfide}},
-    };
-    return types.value(app);
-}
 
 void removeItems(ItemSubGroup *column, const QSet<BaseItemType> &kept)
 {
@@ -81,7 +64,7 @@ PropertyEditorContent PropertyEditorUtils::adjustContentToApplication(const Prop
             << (error.errorMessages() + error.details()).join(QLatin1Char(' '));
         return {};
     }
-    removeItems(&tree, keptTypes(app));
+    removeItems(&tree, CellTypes::keptBy(app));
     return PropertyEditorContent(tree.toJson(PropertyConversionFlag::KeepPaths));
 }
 

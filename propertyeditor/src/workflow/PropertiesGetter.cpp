@@ -6,6 +6,7 @@
 #include <orv/propertyeditor/AllowedProperties.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/content/CellTypes.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/content/RawCell.h>
@@ -27,11 +28,6 @@ using PropertyEditor::BaseItem;
 using PropertyEditor::SamplesTableItem;
 
 namespace {
-
-constexpr std::array kDocumentTypes = {
-    BaseItemType::Dravik, BaseItemType::Senthia,     BaseItemType::Karvon,  BaseItemType::Preview,
-    BaseItemType::Intact, BaseItemType::Oligo,       BaseItemType::Ostrale, BaseItemType::MultiDocReport,
-    BaseItemType::Trenq,  BaseItemType::TrenqPreview};
 
 struct RequiredCell
 {
@@ -217,7 +213,7 @@ PropertiesGetter::~PropertiesGetter() = default;
 QList<PropertiesGetter::CellData> PropertiesGetter::documents() const
 {
     QList<CellData> documents;
-    for (const BaseItemType type : kDocumentTypes) {
+    for (const BaseItemType type : PropertyEditor::CellTypes::documents()) {
         for (const Private::CellIndex &cell : d->findCells(type))
             documents.append(d->documentOf(cell));
     }

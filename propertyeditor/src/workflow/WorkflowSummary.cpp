@@ -1,4 +1,5 @@
 #include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/content/CellTypes.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/content/RawCell.h>
 #include <orv/propertyeditor/workflow/WorkflowSummary.h>
@@ -6,34 +7,17 @@
 #include <QJsonArray>
 #include <QMetaEnum>
 
-#include <array>
-
 namespace orv {
 
 using namespace PropertyEditorStringConstants;
+using PropertyEditor::CellType;
+namespace CellTypes = PropertyEditor::CellTypes;
 
 namespace {
 
 constexpr QLatin1String kSamplesArray("Samples");
 constexpr QLatin1String kSampleName("SampleName");
 constexpr QLatin1String kSequencesArray("sequences");
-
-/// How a cell of a type is counted, and whether its column is a document.
-struct TypeRow
-{
-    BaseItemType type;
-    bool isPropertyCell;
-    bool isDocument;
-};
-
-constexpr std::array kPropertyCellTypes = {
-    TypeRow{BaseItemType::Senthia, true, true},     TypeRow{BaseItemType::Dravik, true, true},
-    TypeRow{BaseItemType::Karvon, true, true},      TypeRow{BaseItemType::Intact, true, true},
-    TypeRow{BaseItemType::Oligo, true, true},       TypeRow{BaseItemType::MultiDocReport, true, true},
-    TypeRow{BaseItemType::Preview, true, true},     TypeRow{BaseItemType::Ostrale, true, true},
-    TypeRow{BaseItemType::Trenq, true, true},       TypeRow{BaseItemType::TrenqPreview, true, true},
-    TypeRow{BaseItemType::CaldrinDIA, true, false},
-};
 
 /// A type by its exact name, without a word about others: foreign documents are shown too.
 std::optional<BaseItemType> knownType(const QString &text)
@@ -43,18 +27,16 @@ std::optional<BaseItemType> knownType(const QString &text)
     return ok ? std::optional(BaseItemType(value)) : std::nullopt;
 }
 
-const TypeRow *propertyCellRow(const QString &type)
+const CellType *rowOf(const QString &type)
 {
     const std::optional<BaseItemType> known = knownType(type);
-    const auto *const row = std::find_if(kPropertyCellTypes.begin(), kPropertyCellTypes.end(),
-                                         [&known](const TypeRow &r) { return known == r.type; });
-    return row == kPropertyCellTypes.end() ? nullptr : row;
+    return known ? CellTypes::find(*known) : nullptr;
 }
 
 bool isTableType(const QString &type)
 {
-    const std::optional<BaseItemType> known = knownType(type);
-    return known && *known != BaseItemType::Unknown && !propertyCellRow(type);
+    const CellType *row = rowOf(type);
+    return row && !row->holdsSettings;
 }
 
 qsizetype visibleProperties(const QJsonArray &properties)
@@ -147,8 +129,8 @@ WorkflowSummary WorkflowSummary::of(const PropertyEditorContent &content)
     for (const PropertyEditorContent::Tab &tab : content.tabsAndContent()) {
         summary.tabs.append(summarizeTab(tab, summary));
         for (const Column &column : summary.tabs.constLast().columns) {
-            const TypeRow *row = propertyCellRow(column.type);
-            if (row && row->isDocument)
+            const CellType *row = rowOf(column.type);
+            if (row && row->document)
                 summary.documents.append(column.type);
         }
     }
