@@ -58,6 +58,7 @@ Error BaseItem::assignFromJson(const QJsonObject &json, ValidationOptions option
     m_type = typeFromString(json.value(TYPE_KEY).toString());
     m_name = json.value(NAME_KEY).toString();
     m_title = json.value(TITLE_KEY).toString();
+    Q_EMIT changed();
     return Error::NoError;
 }
 

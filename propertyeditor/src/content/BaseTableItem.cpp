@@ -48,6 +48,7 @@ bool BaseTableItem::addColumn(const QString &name)
     m_root.addDataToRootAndResizeChildren(name, QString(), true);
     Q_EMIT columnAdded(columnCount() - 1);
     Q_EMIT columnCountChanged(columnCount());
+    Q_EMIT changed();
     return true;
 }
 
@@ -63,6 +64,7 @@ bool BaseTableItem::removeColumn(const QString &name)
     // Listeners ask for the count; unlike addColumn, this doesn't announce it.
     Q_EMIT columnRemoved(index);
     Q_EMIT columnRemoved(name);
+    Q_EMIT changed();
     return true;
 }
 
@@ -86,6 +88,7 @@ bool BaseTableItem::setColumnName(int index, const QString &name)
         return false;
     }
     m_root.getDataAt(index) = name;
+    Q_EMIT changed();
     return true;
 }
 
@@ -100,6 +103,7 @@ bool BaseTableItem::addRow(const QVariantList &values)
         qCWarning(propertyEditorLog) << "Failed to set row values in" << propertyName() << "(not fatal)";
     Q_EMIT rowAdded(last);
     Q_EMIT rowCountChanged(rowCount());
+    Q_EMIT changed();
     return true;
 }
 
@@ -112,6 +116,7 @@ bool BaseTableItem::removeRow(int index)
     m_root.deleteChild(index);
     Q_EMIT rowRemoved(index);
     Q_EMIT rowCountChanged(rowCount());
+    Q_EMIT changed();
     return true;
 }
 
@@ -128,6 +133,7 @@ bool BaseTableItem::setRowValues(int index, const QVariantList &values)
     row->setRowData(data);
     // Not the row's own data: who hears of it first may remove the row.
     Q_EMIT rowChanged(index, data);
+    Q_EMIT changed();
     return true;
 }
 
@@ -165,6 +171,7 @@ bool BaseTableItem::setValue(int row, int column, const QVariant &value)
         node->data.resize(columnCount());
     node->getDataAt(column) = value;
     Q_EMIT valueChanged(row, column, value);
+    Q_EMIT changed();
     return true;
 }
 
@@ -272,6 +279,7 @@ void BaseTableItem::clear()
 {
     m_root.clear();
     m_customColumnsMetaData.clear();
+    Q_EMIT changed();
 }
 
 } // namespace orv::PropertyEditor

@@ -112,6 +112,7 @@ void KeyValueItem::clear()
         return;
     m_set->clear();
     Q_EMIT countChanged(count());
+    Q_EMIT changed();
 }
 
 int KeyValueItem::count() const
@@ -187,6 +188,7 @@ bool KeyValueItem::insert(const QString &key, const QString &group, const QVaria
     Q_EMIT inserted(key, value);
     Q_EMIT inserted(key, group, value);
     Q_EMIT countChanged(count());
+    Q_EMIT changed();
     return true;
 }
 
@@ -203,6 +205,7 @@ bool KeyValueItem::replace(const QString &key, const QString &newKey, const QVar
     if (!warnUnless(has(name), key))
         return false;
     m_set->property(name) = KProperty(newKey.toUtf8(), value, QString(), QString(), type);
+    Q_EMIT changed();
     return true;
 }
 
@@ -216,6 +219,7 @@ bool KeyValueItem::remove(const QString &key)
     m_set->removeProperty(name);
     Q_EMIT removed(key);
     Q_EMIT countChanged(count());
+    Q_EMIT changed();
     return true;
 }
 
@@ -240,6 +244,7 @@ bool KeyValueItem::setValue(const QString &key, const QVariant &value)
     const QVariant old = property.value();
     setPlainValue(&property, value);
     Q_EMIT valueChanged(key, value, old);
+    Q_EMIT changed();
     return true;
 }
 
@@ -281,6 +286,7 @@ bool KeyValueItem::setListValue(const QString &key, KProperty *property, const Q
     qCDebug(propertyEditorLog) << "Updating a list with new string value" << text << "from value: " << value;
     m_set->changeProperty(property->name(), text);
     Q_EMIT valueChanged(key, text, old);
+    Q_EMIT changed();
     return true;
 }
 
@@ -295,6 +301,7 @@ bool KeyValueItem::setOption(const QString &key, const QByteArray &name, const Q
     if (!warnUnless(has(property), key))
         return false;
     m_set->property(property).setOption(name.constData(), value);
+    Q_EMIT changed();
     return true;
 }
 
@@ -351,6 +358,7 @@ bool KeyValueItem::setGroup(const QString &key, const QString &group)
     remove(key);
     KPropertySetUtils::insertInKPropertySet(group, copy.release(), m_set.get(), -1);
     Q_EMIT groupChanged(key, group, oldGroup);
+    Q_EMIT changed();
     return true;
 }
 
@@ -359,6 +367,7 @@ bool KeyValueItem::setGroupCaption(const QString &groupName, const QString &capt
     if (!m_set)
         return false;
     m_set->setGroupCaption(groupName.toUtf8(), caption);
+    Q_EMIT changed();
     return true;
 }
 
@@ -392,6 +401,7 @@ void KeyValueItem::moveGroup(const QString &group, const QString &afterGroup)
     }
     for (Moved &entry : moved)
         m_set->addProperty(entry.property.release(), entry.group);
+    Q_EMIT changed();
 }
 
 QMultiMap<PropertyId, QVariant> KeyValueItem::propertiesMap() const

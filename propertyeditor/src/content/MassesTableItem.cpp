@@ -63,6 +63,7 @@ void MassesTableItem::setDeltaMasses(const QList<DeltaMass> &masses)
     rootNode() = MassUtils::deltaMassesToRowNode(masses);
     // Saved tables have no such column.
     rootNode().removeColumn(kId);
+    Q_EMIT changed();
 }
 
 Error MassesTableItem::initializeDefaultMatchTolerance(RowNode *node, bool *defaulted)
@@ -103,6 +104,7 @@ bool MassesTableItem::setToleranceCell(const QString &column, const QVariant &va
 {
     m_matchToleranceDefaulted = false;
     m_matchTolerance.getChildFirst()->getDataAt(column) = value;
+    Q_EMIT changed();
     return true;
 }
 

@@ -19,6 +19,7 @@ void ProteinsTableItem::setContent(const ProteinsContent &content)
 {
     rootNode() = content.root;
     m_annotations = content.annotations;
+    Q_EMIT changed();
 }
 
 QJsonObject ProteinsTableItem::toJson(PropertyConversionFlag flag) const

@@ -22,6 +22,7 @@ void SamplesTableItem::reloadMetadata(const QList<MetadataMapping> &mappings,
                                       const QList<TalvaneMetadataMappingConnection> &connections)
 {
     rebuildMetadataInSamples(connections, mappings, &m_content.samples);
+    Q_EMIT changed();
 }
 
 QJsonObject SamplesTableItem::toJson(PropertyConversionFlag flag) const

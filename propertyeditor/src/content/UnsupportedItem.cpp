@@ -14,12 +14,14 @@ Error UnsupportedItem::assignFromJson(const QJsonObject &json, ValidationOptions
 {
     Q_UNUSED(options)
     m_json = json;
+    Q_EMIT changed();
     return Error::NoError;
 }
 
 void UnsupportedItem::clear()
 {
     m_json = {};
+    Q_EMIT changed();
 }
 
 } // namespace orv::PropertyEditor

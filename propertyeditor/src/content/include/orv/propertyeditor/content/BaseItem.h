@@ -58,6 +58,9 @@ public:
 Q_SIGNALS:
     /// The item was loaded anew.
     void reset();
+    /// What toJson writes changes: sent by every function that edits the cell, those that announce nothing
+    /// else included, so that nobody misses an edit. A load or clear() may be half done by then.
+    void changed();
 
 private:
     BaseItemType m_type;

@@ -49,7 +49,7 @@ public:
     Q_INVOKABLE bool removeColumn(const QString &name);
     /// Removes the last of the columns that have the name of this one.
     Q_INVOKABLE bool removeColumn(int index);
-    /// The name must not be empty. Announces nothing.
+    /// The name must not be empty. Announces changed() alone.
     Q_INVOKABLE bool setColumnName(int index, const QString &name);
 
     /// Appends a row. It stays blank if \a values are empty or not as many as there are columns.
@@ -66,7 +66,7 @@ public:
     /// MalformedStructure if the cell lacks its "properties" or its table. Then ends in reset().
     Error assignFromJson(const QJsonObject &json, ValidationOptions options) final;
     Error load(const QJsonObject &json, ValidationOptions options, const LoadContext &context) override;
-    /// Leaves no rows, no columns and no definitions of columns. Announces nothing.
+    /// Leaves no rows, no columns and no definitions of columns. Announces changed() alone.
     void clear() override;
     void setBaseUrl(const QUrl &url) override;
 

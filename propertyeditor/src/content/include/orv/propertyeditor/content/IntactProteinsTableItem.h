@@ -15,8 +15,12 @@ public:
     ~IntactProteinsTableItem() override;
 
     [[nodiscard]] RowNode root() const { return rootNode(); }
-    /// Announces nothing.
-    void setRoot(const RowNode &node) { rootNode() = node; }
+    /// Announces changed() alone.
+    void setRoot(const RowNode &node)
+    {
+        rootNode() = node;
+        Q_EMIT changed();
+    }
 
     [[nodiscard]] MappingTarget target() const override { return MappingTarget::IntactProteins; }
     /// Keeps the chains that the user entered, with the proteins made of them alone, and adds for each

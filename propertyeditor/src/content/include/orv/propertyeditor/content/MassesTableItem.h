@@ -24,7 +24,7 @@ public:
     ~MassesTableItem() override;
 
     [[nodiscard]] QList<DeltaMass> deltaMasses() const;
-    /// Replaces the table. The numbers by which editors know the rows aren't kept. Announces nothing.
+    /// Replaces the table. The numbers by which editors know the rows aren't kept. Announces changed() alone.
     void setDeltaMasses(const QList<DeltaMass> &masses);
 
     /// Whether the tolerance was given, and isn't made of defaults.

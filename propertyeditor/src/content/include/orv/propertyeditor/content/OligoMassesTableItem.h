@@ -17,9 +17,19 @@ public:
     ~OligoMassesTableItem() override;
 
     [[nodiscard]] MassTolerances tolerances() const { return m_tolerances; }
-    void setTolerances(const MassTolerances &tolerances) { m_tolerances = tolerances; }
+    /// Announces changed() alone.
+    void setTolerances(const MassTolerances &tolerances)
+    {
+        m_tolerances = tolerances;
+        Q_EMIT changed();
+    }
     [[nodiscard]] OligoImpurities impurities() const { return m_impurities; }
-    void setImpurities(const OligoImpurities &impurities) { m_impurities = impurities; }
+    /// Announces changed() alone.
+    void setImpurities(const OligoImpurities &impurities)
+    {
+        m_impurities = impurities;
+        Q_EMIT changed();
+    }
 
     QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const override;
     /// Tolerances and impurities that the document doesn't give stay as they are.

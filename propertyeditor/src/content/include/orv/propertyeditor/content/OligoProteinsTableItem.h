@@ -14,8 +14,12 @@ public:
     ~OligoProteinsTableItem() override;
 
     [[nodiscard]] RowNode root() const { return rootNode(); }
-    /// Announces nothing.
-    void setRoot(const RowNode &node) { rootNode() = node; }
+    /// Announces changed() alone.
+    void setRoot(const RowNode &node)
+    {
+        rootNode() = node;
+        Q_EMIT changed();
+    }
 
 protected:
     [[nodiscard]] PropertyId propertyId() const override;

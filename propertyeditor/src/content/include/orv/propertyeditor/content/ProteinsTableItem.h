@@ -15,7 +15,7 @@ public:
     ~ProteinsTableItem() override;
 
     [[nodiscard]] ProteinsContent content() const { return {rootNode(), m_annotations}; }
-    /// Announces nothing.
+    /// Announces changed() alone.
     void setContent(const ProteinsContent &content);
     [[nodiscard]] QList<ProteinAnnotationEntry> proteinAnnotations() const { return m_annotations; }
 

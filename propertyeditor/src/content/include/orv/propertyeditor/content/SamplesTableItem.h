@@ -17,8 +17,12 @@ public:
     ~SamplesTableItem() override;
 
     [[nodiscard]] const SamplesAndTracesContent &content() const { return m_content; }
-    /// Announces nothing.
-    void setContent(const SamplesAndTracesContent &content) { m_content = content; }
+    /// Announces changed() alone.
+    void setContent(const SamplesAndTracesContent &content)
+    {
+        m_content = content;
+        Q_EMIT changed();
+    }
 
     [[nodiscard]] QList<SamplesInput::Entry> samplesInput() const { return m_content.samples.entries(); }
     [[nodiscard]] const SamplesInput::SamplesArrayWithCustomColumns &samplesWithCustomColumns() const

@@ -15,8 +15,12 @@ public:
     ~SequenceDatabasesTableItem() override;
 
     [[nodiscard]] const QList<SequenceDatabaseItem> &items() const { return m_items; }
-    /// Announces nothing.
-    void setItems(const QList<SequenceDatabaseItem> &items) { m_items = items; }
+    /// Announces changed() alone.
+    void setItems(const QList<SequenceDatabaseItem> &items)
+    {
+        m_items = items;
+        Q_EMIT changed();
+    }
 
     /// With absolute paths, relative files get them.
     QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const override;
