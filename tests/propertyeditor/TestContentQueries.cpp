@@ -6,6 +6,7 @@
 #include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/ExtendedMetadataSink.h>
+#include <orv/propertyeditor/content/ItemGroup.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 
@@ -131,6 +132,7 @@ private Q_SLOTS:
     void applicationsAreToldByTheirReferences();
     void coresFollowTheMode();
     void expertSettingsAreRead();
+    void theFirstUnevenTabIsFound();
 };
 
 void TestContentQueries::anEmptyDocumentHasEmptyAnswers()
@@ -367,6 +369,18 @@ void TestContentQueries::expertSettingsAreRead()
              QVariant(u"lib.db"_s));
     QVERIFY(PropertyEditorUtils::getAdvancedConfigurationFromProject(projects.at(1))->isEmpty());
     QCOMPARE(PropertyEditorUtils::getValueFromProject(projects.at(1), PropertyId(0), 5), QVariant(5));
+}
+
+void TestContentQueries::theFirstUnevenTabIsFound()
+{
+    const QJsonObject even =
+        Documents::tab(u"Even"_s, {u"A"_s, u"B"_s}, {settings(u"Karvon"_s), settings(u"Karvon"_s)});
+    const QJsonObject uneven = Documents::tab(u"Uneven"_s, {u"A"_s, u"B"_s}, {settings(u"Karvon"_s)});
+    Content content;
+    ORV_VERIFY_OK(content.assignFromJson(Documents::document({even}), {}));
+    QVERIFY(!content.firstUnevenGroup());
+    ORV_VERIFY_OK(content.assignFromJson(Documents::document({even, uneven}), {}));
+    QCOMPARE(content.firstUnevenGroup()->name(), u"Uneven"_s);
 }
 
 ORV_REGISTER_TEST(TestContentQueries)

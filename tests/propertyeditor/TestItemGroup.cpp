@@ -93,6 +93,7 @@ void TestItemGroup::unevenColumnsLoadButSaveAsAnEmptyObject()
         group.assignFromJson(tab(kTwoColumns, {cell("Karvon"), cell("Karvon"), cell("Karvon")}), {}));
     QCOMPARE(group.subGroup(0)->count(), 2);
     QCOMPARE(group.subGroup(1)->count(), 1);
+    QVERIFY(!group.isRectangle());
     const QJsonObject json = group.toJson(PropertyConversionFlag::KeepPaths);
     QVERIFY(json.isEmpty());
     QCOMPARE(log.warnings(), QStringList(QStringLiteral("j is out of bounds")));
@@ -105,7 +106,9 @@ void TestItemGroup::aLongerColumnLosesItsLastCells()
 {
     ItemGroup group;
     ORV_VERIFY_OK(group.assignFromJson(tab(kTwoColumns, {cell("Karvon", "0"), cell("Karvon", "1")}), {}));
+    QVERIFY(group.isRectangle());
     QVERIFY(group.subGroup(1)->addItem(BaseItemType::Karvon));
+    QVERIFY(!group.isRectangle());
     const QJsonObject json = group.toJson(PropertyConversionFlag::KeepPaths);
     QCOMPARE(cellNames(json.value(QStringLiteral("cells")).toArray()),
              QStringList({QStringLiteral("0"), QStringLiteral("1")}));

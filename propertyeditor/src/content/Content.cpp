@@ -16,6 +16,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <array>
 #include <new>
 
@@ -277,6 +278,13 @@ ItemGroup *Content::group(const QString &name) const
 QList<ItemGroup *> Content::groups() const
 {
     return d->groups.pointers();
+}
+
+const ItemGroup *Content::firstUnevenGroup() const
+{
+    const auto uneven =
+        std::ranges::find_if(d->groups, [](const auto &group) { return !group->isRectangle(); });
+    return uneven == d->groups.end() ? nullptr : uneven->get();
 }
 
 QStringList Content::groupNames() const

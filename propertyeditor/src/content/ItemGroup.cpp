@@ -10,6 +10,7 @@
 #include <QJsonArray>
 #include <QMetaEnum>
 
+#include <algorithm>
 #include <array>
 #include <new>
 #include <vector>
@@ -210,6 +211,13 @@ QStringList ItemGroup::subGroupNames() const
     for (const auto &subGroup : d->subGroups)
         names.append(subGroup->name());
     return names;
+}
+
+bool ItemGroup::isRectangle() const
+{
+    return std::ranges::all_of(d->subGroups, [this](const auto &subGroup) {
+        return subGroup->count() == d->subGroups.front()->count();
+    });
 }
 
 QVariantList ItemGroup::findSubGroups(const QString &typeName) const

@@ -95,6 +95,8 @@ public:
     [[nodiscard]] ItemGroup *group(const QString &name) const;
     [[nodiscard]] QList<ItemGroup *> groups() const;
     [[nodiscard]] QStringList groupNames() const;
+    /// The first that is no rectangle, and so can't be written; null if all are.
+    [[nodiscard]] const ItemGroup *firstUnevenGroup() const;
     Q_INVOKABLE [[nodiscard]] bool contains(const QString &name) const;
     /// False, with a warning, for an empty name or one that exists.
     Q_INVOKABLE bool addGroup(const QString &name);

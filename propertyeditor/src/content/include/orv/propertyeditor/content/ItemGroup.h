@@ -57,6 +57,8 @@ public:
 
     [[nodiscard]] int count() const;
     [[nodiscard]] bool isEmpty() const { return count() == 0; }
+    /// Whether all columns have the same height, as a file needs it.
+    [[nodiscard]] bool isRectangle() const;
     /// Null, with a warning, outside the range.
     [[nodiscard]] ItemSubGroup *subGroup(int index) const;
     [[nodiscard]] QList<ItemSubGroup *> subGroups() const;
