@@ -271,7 +271,7 @@ void TestWflwUpgrader::stepsStandInTheOrderOfVersions()
     QCOMPARE(slotOf(&Helper::upgradeV_5_40_0), 31);
     QCOMPARE(slotOf(&Helper::upgradeV_5_47_0), 38);
     QCOMPARE(slotOf(&Helper::upgradeToCurrentWorkflowVersion), 39);
-    // The table of steps and the notes.
+    // The table of steps and what a helper keeps.
     QCOMPARE(sizeof(Helper), 2 * sizeof(void *));
 #else
     QSKIP("Member pointers of this compiler tell no places");

@@ -145,7 +145,7 @@ Error splitAlignment(KeyValueItem *item)
 
 Error WflwUpgradeHelper::upgradeV_5_12_2(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     BaseItem *const first = firstItem(*working, BaseItemType::Senthia);
@@ -167,13 +167,13 @@ Error WflwUpgradeHelper::upgradeV_5_12_2(PropertyEditorContent *content)
     logAll(upgraded.warnings);
     ORV_RETURN_IF_ERROR(insertXicOptions(upgraded.options, item));
     ORV_RETURN_IF_ERROR(setValue(item, PropertyId::AdvancedConfiguration, upgraded.advancedText));
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, {item}));
+    ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
 }
 
 Error WflwUpgradeHelper::upgradeV_5_33_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     const QSet<WorkflowType> types{WorkflowType::DenaturedIntactMass, WorkflowType::ReducedIntactMass,
@@ -191,28 +191,27 @@ Error WflwUpgradeHelper::upgradeV_5_33_0(PropertyEditorContent *content)
     if (!item->contains(PropertyId::AdvancedConfiguration) || advancedText(*item) != texts.oldText)
         return Error::NoError;
     ORV_RETURN_IF_ERROR(setValue(item, PropertyId::AdvancedConfiguration, texts.newText));
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, {item}));
+    ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
 }
 
 Error WflwUpgradeHelper::upgradeV_5_35_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
-    QList<BaseItem *> edited;
+    bool hasChanged = false;
     for (KeyValueItem *item : settingsItems(*working, {BaseItemType::Senthia})) {
         if (!item->contains(PropertyId::XicMode))
             continue;
         Result<bool> changed = makeFast(item);
         if (!changed)
             return changed.ecatch();
-        if (*changed)
-            edited.append(item);
+        hasChanged = *changed || hasChanged;
     }
-    if (edited.isEmpty())
+    if (!hasChanged)
         return Error::NoError;
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, edited));
+    ORV_RETURN_IF_ERROR(working->writeBack());
     addNote(FastXicNote, QObject::tr("For more efficient processing, the workflow was updated to use the "
                                      "fast XIC method."));
     return Error::NoError;
@@ -220,7 +219,7 @@ Error WflwUpgradeHelper::upgradeV_5_35_0(PropertyEditorContent *content)
 
 Error WflwUpgradeHelper::upgradeV_5_43_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     if (working->workflowType() == WorkflowType::ProteinQuantification)
@@ -231,8 +230,8 @@ Error WflwUpgradeHelper::upgradeV_5_43_0(PropertyEditorContent *content)
             ORV_RETURN_IF_ERROR(moveInSilicoFile(item));
         return splitAlignment(item);
     };
-    ORV_RETURN_IF_ERROR(editEach(settingsItems(*working, {BaseItemType::Trenq, BaseItemType::Senthia}), edit,
-                                 *working, content));
+    ORV_RETURN_IF_ERROR(
+        editEach(settingsItems(*working, {BaseItemType::Trenq, BaseItemType::Senthia}), edit, *working));
     return Error::NoError;
 }
 

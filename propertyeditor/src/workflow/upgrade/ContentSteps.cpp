@@ -24,7 +24,7 @@ constexpr QLatin1String kPeakWidthPreset("AutoComputeByPeakWidth-preset");
 constexpr QLatin1String kDigestGroup("in-silico options (theoretical digest)");
 
 /// Gives the map cells that have the setting \a id, but no file in it, the file \a path.
-Error fillInFile(PropertyId id, const QString &path, const Content &working, PropertyEditorContent *content)
+Error fillInFile(PropertyId id, const QString &path, const WorkingContent &working)
 {
     QList<KeyValueItem *> items = settingsItems(working, {BaseItemType::Senthia});
     items.removeIf([id](const KeyValueItem *item) {
@@ -32,7 +32,7 @@ Error fillInFile(PropertyId id, const QString &path, const Content &working, Pro
     });
     const QVariant reference = QVariant::fromValue(ResourceReferenceUtils::fromString(path));
     const auto edit = [id, &reference](KeyValueItem *item) { return setValue(item, id, reference); };
-    return editEach(items, edit, working, content);
+    return editEach(items, edit, working);
 }
 
 Error addPeakWidthPreset(QList<ElutionPeaksOptions> *presets)
@@ -158,31 +158,31 @@ Error addGlycans(KeyValueItem *item)
 
 Error WflwUpgradeHelper::upgradeV_5_24_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     if (working->workflowType() != WorkflowType::DigestedOligo)
         return Error::NoError;
-    ORV_RETURN_IF_ERROR(fillInFile(PropertyId::UiLayout, kDigestedOligoLayout, *working, content));
+    ORV_RETURN_IF_ERROR(fillInFile(PropertyId::UiLayout, kDigestedOligoLayout, *working));
     return Error::NoError;
 }
 
 Error WflwUpgradeHelper::upgradeV_5_26_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     const bool applies = working->workflowType() == WorkflowType::MultiAttributeMethod &&
                          !firstItem(*working, BaseItemType::Karvon);
     if (!applies)
         return Error::NoError;
-    ORV_RETURN_IF_ERROR(fillInFile(PropertyId::UiFilter, kEmptyXicFilter, *working, content));
+    ORV_RETURN_IF_ERROR(fillInFile(PropertyId::UiFilter, kEmptyXicFilter, *working));
     return Error::NoError;
 }
 
 Error WflwUpgradeHelper::upgradeV_5_27_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     const QSet<WorkflowType> types{WorkflowType::IntactMass, WorkflowType::DenaturedIntactMass,
@@ -196,30 +196,29 @@ Error WflwUpgradeHelper::upgradeV_5_27_0(PropertyEditorContent *content)
     SamplesAndTracesContent samples = table->content();
     ORV_RETURN_IF_ERROR(addPeakWidthPreset(&samples.options.peaksOptions));
     table->setContent(samples);
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, {table}));
+    ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
 }
 
 Error WflwUpgradeHelper::upgradeV_5_28_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     if (working->workflowType() != WorkflowType::TargetedPeptideMap)
         return Error::NoError;
-    ORV_RETURN_IF_ERROR(
-        editEach(settingsItems(*working, {BaseItemType::Senthia}), &replaceDigest, *working, content));
+    ORV_RETURN_IF_ERROR(editEach(settingsItems(*working, {BaseItemType::Senthia}), &replaceDigest, *working));
     return Error::NoError;
 }
 
 Error WflwUpgradeHelper::upgradeV_5_31_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     if (working->workflowType() != WorkflowType::IntactOligo)
         return Error::NoError;
-    QList<BaseItem *> edited;
+    bool hasConverted = false;
     for (BaseItem *item : working->findAllItems(BaseItemType::OligoMolecules)) {
         auto *const table = qobject_cast<OligoProteinsTableItem *>(item);
         if (!table)
@@ -227,46 +226,45 @@ Error WflwUpgradeHelper::upgradeV_5_31_0(PropertyEditorContent *content)
         Result<bool> converted = convertFormulas(table);
         if (!converted)
             return converted.ecatch();
-        if (*converted)
-            edited.append(table);
+        hasConverted = *converted || hasConverted;
     }
-    if (edited.isEmpty())
+    if (!hasConverted)
         return Error::NoError;
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, edited));
+    ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
 }
 
 Error WflwUpgradeHelper::upgradeV_5_44_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
-    ORV_RETURN_IF_ERROR(editEach(settingsItems(*working, {BaseItemType::CaldrinDIA}),
-                                 &completeDataIndependent, *working, content));
+    ORV_RETURN_IF_ERROR(
+        editEach(settingsItems(*working, {BaseItemType::CaldrinDIA}), &completeDataIndependent, *working));
     return Error::NoError;
 }
 
 Error WflwUpgradeHelper::upgradeV_5_46_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     QList<KeyValueItem *> items = settingsItems(*working, {BaseItemType::Senthia});
     items.removeIf([](const KeyValueItem *item) { return !item->contains(PropertyId::EnableInSilico); });
-    ORV_RETURN_IF_ERROR(editEach(items, &makeInSilicoMode, *working, content));
+    ORV_RETURN_IF_ERROR(editEach(items, &makeInSilicoMode, *working));
     return Error::NoError;
 }
 
 Error WflwUpgradeHelper::upgradeV_5_47_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     if (working->workflowType() != WorkflowType::DataIndependentAcquisition)
         return Error::NoError;
     QList<KeyValueItem *> items = settingsItems(*working, {BaseItemType::CaldrinDIA});
     items.removeIf([](const KeyValueItem *item) { return item->contains(PropertyId::KarvonGlycanText); });
-    ORV_RETURN_IF_ERROR(editEach(items, &addGlycans, *working, content));
+    ORV_RETURN_IF_ERROR(editEach(items, &addGlycans, *working));
     return Error::NoError;
 }
 

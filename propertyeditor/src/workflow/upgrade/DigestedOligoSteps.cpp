@@ -97,31 +97,29 @@ Error completeOligoSearch(KeyValueItem *item)
 
 Error WflwUpgradeHelper::upgradeV_5_22_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     if (working->workflowType() != WorkflowType::DigestedOligo)
         return Error::NoError;
     ORV_RETURN_IF_ERROR(renameSequences(*working));
-    const QList<KeyValueItem *> searches = settingsItems(*working, {BaseItemType::Karvon});
-    for (KeyValueItem *item : searches)
+    for (KeyValueItem *item : settingsItems(*working, {BaseItemType::Karvon}))
         ORV_RETURN_IF_ERROR(makeOligoSearch(item));
-    const QList<KeyValueItem *> maps = settingsItems(*working, {BaseItemType::Senthia});
-    for (KeyValueItem *item : maps)
+    for (KeyValueItem *item : settingsItems(*working, {BaseItemType::Senthia}))
         ORV_RETURN_IF_ERROR(removeInSilicoGroups(item));
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, asItems(searches + maps)));
+    ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
 }
 
 Error WflwUpgradeHelper::upgradeV_5_23_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     if (working->workflowType() != WorkflowType::DigestedOligo)
         return Error::NoError;
     ORV_RETURN_IF_ERROR(
-        editEach(settingsItems(*working, {BaseItemType::Karvon}), &completeOligoSearch, *working, content));
+        editEach(settingsItems(*working, {BaseItemType::Karvon}), &completeOligoSearch, *working));
     return Error::NoError;
 }
 

@@ -56,7 +56,7 @@ Error renameReport(KeyValueItem *item)
 
 Error WflwUpgradeHelper::upgradeV_5_9_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     KeyValueItem *const item = firstSettings(*working, BaseItemType::Intact);
@@ -65,23 +65,23 @@ Error WflwUpgradeHelper::upgradeV_5_9_0(PropertyEditorContent *content)
     if (!applies)
         return Error::NoError;
     ORV_RETURN_IF_ERROR(setValue(item, PropertyId::AutoFindMasses, kNewAutoFindMasses));
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, {item}));
+    ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
 }
 
 Error WflwUpgradeHelper::upgradeV_5_12_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     working->setWorkflowType(workflowTypeFromIconName(working->iconName()));
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, {}));
+    ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
 }
 
 Error WflwUpgradeHelper::upgradeV_5_19_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     if (working->workflowType() != WorkflowType::IcIefMs)
@@ -89,17 +89,14 @@ Error WflwUpgradeHelper::upgradeV_5_19_0(PropertyEditorContent *content)
     working->setWorkflowType(WorkflowType::IcIefMs);
     if (working->name() == kOldIcIefName)
         working->setWorkflowName(kIcIefName);
-    const QList<KeyValueItem *> items = settingsItems(*working, {BaseItemType::Intact});
-    for (KeyValueItem *item : items)
+    for (KeyValueItem *item : settingsItems(*working, {BaseItemType::Intact}))
         ORV_RETURN_IF_ERROR(renameReport(item));
-    QList<BaseItem *> edited = asItems(items);
     if (SamplesTableItem *const table = working->samplesTable()) {
         SamplesAndTracesContent samples = table->content();
         renamePeaks(&samples);
         table->setContent(samples);
-        edited.append(table);
     }
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, edited));
+    ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
 }
 

@@ -52,7 +52,7 @@ void giveToSamples(const Compatibility::Output &output, SamplesTableItem *table)
 // The samples table tells of traces and their peaks, which settings told before.
 Error WflwUpgradeHelper::upgradeV_5_6_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     bool isIntact = false;
@@ -73,14 +73,9 @@ Error WflwUpgradeHelper::upgradeV_5_6_0(PropertyEditorContent *content)
         qCWarning(propertyEditorLog).noquote() << warning;
     if (settings->contains(PropertyId::AdvancedConfiguration))
         ORV_RETURN_IF_ERROR(setValue(settings, PropertyId::AdvancedConfiguration, output->advancedText));
-    QList<BaseItem *> edited;
-    if (found)
-        edited.append(found);
-    if (rows && table) {
+    if (rows && table)
         giveToSamples(*output, table);
-        edited.append(table);
-    }
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, edited));
+    ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
 }
 

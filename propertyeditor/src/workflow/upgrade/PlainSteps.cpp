@@ -24,12 +24,12 @@ struct Insertion
     PropertyId before = PropertyId::NoProperty;
 };
 
-Error insertEverywhere(const Insertion &insertion, const Content &working, PropertyEditorContent *content)
+Error insertEverywhere(const Insertion &insertion, const WorkingContent &working)
 {
     const auto edit = [&insertion](KeyValueItem *item) {
         return insert(item, insertion.id, insertion.group, insertion.value, insertion.type, insertion.before);
     };
-    return editEach(settingsItems(working, insertion.cells), edit, working, content);
+    return editEach(settingsItems(working, insertion.cells), edit, working);
 }
 
 /// Whether workflows of a type are touched.
@@ -52,14 +52,13 @@ bool notOf(WorkflowType type)
     return type != other;
 }
 
-Error plainStep(Gate gate, const Insertion &insertion, PropertyEditorContent *content)
+Error plainStep(Gate gate, const Insertion &insertion, Result<WorkingContent> working)
 {
-    Result<Content> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     if (!gate(working->workflowType()))
         return Error::NoError;
-    ORV_RETURN_IF_ERROR(insertEverywhere(insertion, *working, content));
+    ORV_RETURN_IF_ERROR(insertEverywhere(insertion, *working));
     return Error::NoError;
 }
 
@@ -79,7 +78,7 @@ Error WflwUpgradeHelper::upgradeV_5_15_0(PropertyEditorContent *content)
 {
     return plainStep(&anyType,
                      {{BaseItemType::Karvon}, PropertyId::ExportSearchReport, reportGroup(), false, kBool},
-                     content);
+                     createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_20_0(PropertyEditorContent *content)
@@ -90,14 +89,15 @@ Error WflwUpgradeHelper::upgradeV_5_20_0(PropertyEditorContent *content)
                       QStringLiteral("Feature Finder"),
                       0,
                       kInt},
-                     content);
+                     createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_21_0(PropertyEditorContent *content)
 {
     return plainStep(
         &oneOf<WorkflowType::ProteinSearch>,
-        {{BaseItemType::Karvon}, PropertyId::ReportConfiguration, reportGroup(), QString(), kText}, content);
+        {{BaseItemType::Karvon}, PropertyId::ReportConfiguration, reportGroup(), QString(), kText},
+        createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_29_0(PropertyEditorContent * /*content*/)
@@ -113,20 +113,21 @@ Error WflwUpgradeHelper::upgradeV_5_30_0(PropertyEditorContent *content)
                       QStringLiteral("In-silico options (CSV import)"),
                       QString(),
                       kText},
-                     content);
+                     createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_34_0(PropertyEditorContent *content)
 {
     return plainStep(&oneOf<WorkflowType::LabelFreeQuantification>,
-                     {{BaseItemType::Trenq}, PropertyId::MatchBetweenRuns, matchGroup(), 0, kInt}, content);
+                     {{BaseItemType::Trenq}, PropertyId::MatchBetweenRuns, matchGroup(), 0, kInt},
+                     createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_36_0(PropertyEditorContent *content)
 {
     return plainStep(&oneOf<WorkflowType::LabelFreeQuantification>,
                      {{BaseItemType::Trenq}, PropertyId::RetentionTimeAlignment, matchGroup(), true, kBool},
-                     content);
+                     createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_37_0(PropertyEditorContent *content)
@@ -138,7 +139,7 @@ Error WflwUpgradeHelper::upgradeV_5_37_0(PropertyEditorContent *content)
                       0,
                       kInt,
                       PropertyId::ReportedPeptideCount},
-                     content);
+                     createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_38_0(PropertyEditorContent *content)
@@ -149,7 +150,7 @@ Error WflwUpgradeHelper::upgradeV_5_38_0(PropertyEditorContent *content)
                       reportGroup(),
                       QString(),
                       kText},
-                     content);
+                     createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_40_0(PropertyEditorContent *content)
@@ -160,7 +161,7 @@ Error WflwUpgradeHelper::upgradeV_5_40_0(PropertyEditorContent *content)
                       QStringLiteral("Inclusion"),
                       QString(),
                       kText},
-                     content);
+                     createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_41_0(PropertyEditorContent *content)
@@ -171,12 +172,12 @@ Error WflwUpgradeHelper::upgradeV_5_41_0(PropertyEditorContent *content)
                       QStringLiteral("Glycans"),
                       QStringList{QStringLiteral("S"), QStringLiteral("T")},
                       kListText},
-                     content);
+                     createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_13_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     KeyValueItem *const item = firstSettings(*working, BaseItemType::Dravik);
@@ -189,31 +190,31 @@ Error WflwUpgradeHelper::upgradeV_5_13_0(PropertyEditorContent *content)
     ORV_RETURN_IF_ERROR(insert(item, PropertyId::InSilicoMoleculesFile, group, QString(), kText));
     ORV_RETURN_IF_ERROR(
         check(item->setGroupCaption(group, QStringLiteral("In-silico options (file import)")), *item, group));
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, {item}));
+    ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
 }
 
 Error WflwUpgradeHelper::upgradeV_5_17_0(PropertyEditorContent *content)
 {
-    return readAndWrite(content);
+    return readAndWrite(createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_42_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     QList<KeyValueItem *> items =
         settingsItems(*working, {BaseItemType::Trenq, BaseItemType::Senthia, BaseItemType::Dravik});
     items.removeIf([](const KeyValueItem *item) { return !item->contains(PropertyId::CreateXicCache); });
     const auto edit = [](KeyValueItem *item) { return remove(item, keyOf(PropertyId::CreateXicCache)); };
-    ORV_RETURN_IF_ERROR(editEach(items, edit, *working, content));
+    ORV_RETURN_IF_ERROR(editEach(items, edit, *working));
     return Error::NoError;
 }
 
 Error WflwUpgradeHelper::upgradeV_5_45_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     const auto edit = [](KeyValueItem *item) -> Error {
@@ -222,8 +223,7 @@ Error WflwUpgradeHelper::upgradeV_5_45_0(PropertyEditorContent *content)
         return insert(item, PropertyId::CaldrinInstrument, QStringLiteral("Instrument Parameters"),
                       QStringLiteral("QTOF / HCD"), kText);
     };
-    ORV_RETURN_IF_ERROR(
-        editEach(settingsItems(*working, {BaseItemType::CaldrinDIA}), edit, *working, content));
+    ORV_RETURN_IF_ERROR(editEach(settingsItems(*working, {BaseItemType::CaldrinDIA}), edit, *working));
     return Error::NoError;
 }
 

@@ -19,12 +19,11 @@ struct StepHelpersTr
 
 } // namespace
 
-Error readAndWrite(PropertyEditorContent *content)
+Error readAndWrite(Result<WorkingContent> working)
 {
-    Result<Content> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, {}));
+    ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
 }
 
@@ -95,11 +94,6 @@ BaseItem *firstItem(const Content &content, BaseItemType type)
 KeyValueItem *firstSettings(const Content &content, BaseItemType type)
 {
     return qobject_cast<KeyValueItem *>(firstItem(content, type));
-}
-
-QList<BaseItem *> asItems(const QList<KeyValueItem *> &items)
-{
-    return {items.begin(), items.end()};
 }
 
 } // namespace orv::UpgradeSteps

@@ -1,12 +1,11 @@
 // What the steps of the upgrade chain share.
 #pragma once
 
-#include "WorkingContent.h"
-
 #include <orv/core/Error.h>
 #include <orv/propertyeditor/PropertyId.h>
 #include <orv/propertyeditor/content/BaseItemType.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
+#include <orv/propertyeditor/workflow/WorkingContent.h>
 
 #include <QList>
 #include <QSet>
@@ -27,8 +26,8 @@ inline constexpr int kText = 10;
 inline constexpr int kBytes = 12;
 inline constexpr int kListText = 4002;
 
-/// Reads the document and writes it, with no edit.
-Error readAndWrite(PropertyEditorContent *content);
+/// Writes the document, with no edit.
+Error readAndWrite(Result<WorkingContent> working);
 
 /// A step's failure: \a text, which is one of the step's own, and \a detail on place and remedy.
 Error failure(const QString &text, const QString &detail);
@@ -55,20 +54,16 @@ PropertyEditor::BaseItem *firstItem(const PropertyEditor::Content &content, Base
 /// The same, null also if it is no cell of settings.
 PropertyEditor::KeyValueItem *firstSettings(const PropertyEditor::Content &content, BaseItemType type);
 
-/// For writeBack.
-QList<PropertyEditor::BaseItem *> asItems(const QList<PropertyEditor::KeyValueItem *> &items);
-
 /// Lets \a edit, an `Error(KeyValueItem *)`, change each of \a items, and writes the document back; leaves
 /// it alone if there are none.
 template<typename Edit>
-Error editEach(const QList<PropertyEditor::KeyValueItem *> &items, Edit edit,
-               const PropertyEditor::Content &working, PropertyEditorContent *content)
+Error editEach(const QList<PropertyEditor::KeyValueItem *> &items, Edit edit, const WorkingContent &working)
 {
     if (items.isEmpty())
         return Error::NoError;
     for (PropertyEditor::KeyValueItem *item : items)
         ORV_RETURN_IF_ERROR(edit(item));
-    return writeBack(working, content, asItems(items));
+    return working.writeBack();
 }
 
 } // namespace orv::UpgradeSteps

@@ -114,21 +114,17 @@ TalvaneWflwUpgradeHelper::getCompatibilityMetadata(const ResourceReferenceSPtr &
 
 Error TalvaneWflwUpgradeHelper::upgradeV_5_10_1(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
-    SamplesTableItem *item = working->samplesTable();
-    if (!item)
+    if (!working->samplesTable())
         return noSamples();
-    SamplesAndTracesContent samples = item->content();
+    SamplesAndTracesContent samples = working->samplesAndTraces();
     TraceMappings mappings;
-    Error error = collectMappings(*this, samples.references(), &mappings);
-    if (!error)
-        rename(mappings, &samples.options.traces);
-    item->setContent(samples);
-    if (error)
-        return error.ecatch();
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, {item}));
+    ORV_RETURN_IF_ERROR(collectMappings(*this, samples.references(), &mappings));
+    rename(mappings, &samples.options.traces);
+    working->setSamplesAndTraces(samples);
+    ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
 }
 

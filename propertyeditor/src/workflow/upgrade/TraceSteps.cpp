@@ -204,37 +204,34 @@ Error rebuildOldNames(SamplesAndTracesContent *samples)
 // Readers call traces by other names than they did.
 Error WflwUpgradeHelper::upgradeV_5_10_1(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
-    SamplesTableItem *table = working->samplesTable();
-    if (!table)
+    if (!working->samplesTable())
         return noSamples();
-    SamplesAndTracesContent samples = table->content();
-    const Error error = updateAfterReaderChange(&samples);
-    table->setContent(samples);
-    ORV_RETURN_IF_ERROR(error);
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, {table}));
+    SamplesAndTracesContent samples = working->samplesAndTraces();
+    ORV_RETURN_IF_ERROR(updateAfterReaderChange(&samples));
+    working->setSamplesAndTraces(samples);
+    ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
 }
 
 // Chromatograms of devices have the names that their files give them.
 Error WflwUpgradeHelper::upgradeV_5_39_0(PropertyEditorContent *content)
 {
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
-    SamplesTableItem *table = working->samplesTable();
-    if (!table)
+    if (!working->samplesTable())
         return noSamples();
-    SamplesAndTracesContent samples = table->content();
+    SamplesAndTracesContent samples = working->samplesAndTraces();
     const bool applies =
         !samples.samples.samples.isEmpty() && std::ranges::any_of(samples.options.traces.list(), hasOldName);
     if (!applies)
         return Error::NoError;
     ORV_RETURN_IF_ERROR(rebuildOldNames(&samples));
-    table->setContent(samples);
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, {table}));
+    working->setSamplesAndTraces(samples);
+    ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
 }
 

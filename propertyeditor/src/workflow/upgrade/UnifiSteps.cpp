@@ -78,9 +78,8 @@ QString idOf(const Sample &sample, const UnifiResourceMetadata &metadata)
 
 /// Lets \a edit change each UNIFI sample, and writes the document back; leaves it alone if there is none.
 template<typename Edit>
-Error editUnifiSamples(PropertyEditorContent *content, Edit edit)
+Error editUnifiSamples(Result<WorkingContent> working, Edit edit)
 {
-    Result<Content> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     SamplesAndTracesContent samples = working->samplesAndTraces();
@@ -94,7 +93,7 @@ Error editUnifiSamples(PropertyEditorContent *content, Edit edit)
     if (!hasEdited)
         return Error::NoError;
     working->setSamplesAndTraces(samples);
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, {working->samplesTable()}));
+    ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
 }
 
@@ -193,12 +192,12 @@ Error WflwUpgradeHelper::upgradeV_5_16_1(PropertyEditorContent *content,
     // Older samples were read from a tree of rows, which had no UNIFI items.
     if (QVersionNumber::compare(initialVersion, QVersionNumber(5, 6, 0)) < 0)
         return Error::NoError;
-    Result<Content> working = createPecToUpgrade(content);
+    Result<WorkingContent> working = createPecToUpgrade(content);
     if (!working)
         return working.ecatch();
     SamplesAndTracesContent samples = working->samplesAndTraces();
     if (samples.samples.samples.isEmpty())
-        return writeBack(*working, content, {});
+        return working->writeBack();
     const Result<QHash<int, OldUnifiMetadata>> known = getOldUnifiMetadata(initialContent);
     for (const QString &warning : known.warnings())
         qCWarning(propertyEditorLog()).noquote() << warning;
@@ -208,23 +207,23 @@ Error WflwUpgradeHelper::upgradeV_5_16_1(PropertyEditorContent *content,
             ORV_RETURN_IF_ERROR(rebuildReference(&sample, *old));
     }
     working->setSamplesAndTraces(samples);
-    ORV_RETURN_IF_ERROR(writeBack(*working, content, {working->samplesTable()}));
+    ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
 }
 
 Error WflwUpgradeHelper::upgradeV_5_18_0(PropertyEditorContent *content)
 {
-    return editUnifiSamples(content, refreshMetadata);
+    return editUnifiSamples(createPecToUpgrade(content), refreshMetadata);
 }
 
 Error WflwUpgradeHelper::upgradeV_5_25_0(PropertyEditorContent *content)
 {
-    return editUnifiSamples(content, replacePathInName);
+    return editUnifiSamples(createPecToUpgrade(content), replacePathInName);
 }
 
 Error WflwUpgradeHelper::upgradeV_5_32_0(PropertyEditorContent *content)
 {
-    return editUnifiSamples(content, completeFolder);
+    return editUnifiSamples(createPecToUpgrade(content), completeFolder);
 }
 
 } // namespace orv

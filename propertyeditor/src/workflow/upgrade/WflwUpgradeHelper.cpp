@@ -1,26 +1,33 @@
 #include "StepHelpers.h"
-
-#include <orv/propertyeditor/workflow/WflwUpgradeHelper.h>
+#include "WflwUpgradeHelper_p.h"
 
 namespace orv {
 
-WflwUpgradeHelper::WflwUpgradeHelper() = default;
+WflwUpgradeHelper::WflwUpgradeHelper()
+    : d(std::make_unique<Private>())
+{}
+
 WflwUpgradeHelper::~WflwUpgradeHelper() = default;
 
 QList<QString> WflwUpgradeHelper::notes() const
 {
-    return m_notes.values();
+    return d->notes.values();
 }
 
 void WflwUpgradeHelper::addNote(int kind, const QString &text)
 {
-    if (!m_notes.contains(kind))
-        m_notes.insert(kind, text);
+    if (!d->notes.contains(kind))
+        d->notes.insert(kind, text);
+}
+
+Result<WorkingContent> WflwUpgradeHelper::createPecToUpgrade(PropertyEditorContent *content)
+{
+    return WorkingContent::of(d->run, content);
 }
 
 Error WflwUpgradeHelper::upgradeToCurrentWorkflowVersion(PropertyEditorContent *content)
 {
-    return UpgradeSteps::readAndWrite(content);
+    return UpgradeSteps::readAndWrite(createPecToUpgrade(content));
 }
 
 } // namespace orv

@@ -1,5 +1,6 @@
 #include "DocumentComparison.h"
-#include "WorkingContent.h"
+#include "UpgradeRun.h"
+#include "WflwUpgradeHelper_p.h"
 
 #include <orv/propertyeditor/workflow/TalvaneWflwUpgradeHelper.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
@@ -137,39 +138,76 @@ bool isBelowCurrent(const PropertyEditorContent &content)
 
 } // namespace
 
+/// Lets the steps of a helper belong to one run, while it lives. A run inside another takes its place.
+class WflwUpgradeRunner
+{
+public:
+    WflwUpgradeRunner(WflwUpgradeHelper *helper, PropertyEditorContent *content)
+        : m_helper(helper)
+        , m_content(content)
+        , m_run(content)
+        , m_outer(std::exchange(helper->d->run, &m_run))
+    {}
+    ~WflwUpgradeRunner() { m_helper->d->run = m_outer; }
+    Q_DISABLE_COPY_MOVE(WflwUpgradeRunner)
+
+    Error takeSteps(const QVersionNumber &version, const WflwUpgradeOptions &options)
+    {
+        const StepArguments arguments{m_content, *m_content, version};
+        Reporter reporter(options.observer, m_content);
+        for (const Step &step : kSteps) {
+            const bool isDue = QVersionNumber::compare(version, step.version()) < 0;
+            if (!isDue || (step.needsSampleData && !options.accessSampleData))
+                continue;
+            if (Error error = step.run(*m_helper, arguments)) {
+                return error
+                    .addDetail(WflwUpgraderTr::tr("The upgrade from version %1 stopped at the step to %2.")
+                                   .arg(version.toString(), step.version().toString()))
+                    .ecatch();
+            }
+            reporter.stepDone(step.version());
+        }
+        if (isBelowCurrent(*m_content)) {
+            ORV_RETURN_IF_ERROR(m_helper->upgradeToCurrentWorkflowVersion(m_content));
+            reporter.stepDone(WflwMetaData::currentWorkflowVersion());
+        }
+        return Error::NoError;
+    }
+
+private:
+    WflwUpgradeHelper *m_helper;
+    PropertyEditorContent *m_content;
+    UpgradeRun m_run;
+    UpgradeRun *m_outer;
+};
+
 Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
                                     QList<QString> *notes, bool accessSampleData)
 {
-    return upgradeWorkflow(version, content, notes, accessSampleData, nullptr);
+    return upgradeWorkflow(version, content, notes, WflwUpgradeOptions{accessSampleData, nullptr});
 }
 
 Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
                                     QList<QString> *notes, bool accessSampleData,
                                     WflwUpgradeObserver *observer)
 {
+    return upgradeWorkflow(version, content, notes, WflwUpgradeOptions{accessSampleData, observer});
+}
+
+Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
+                                    QList<QString> *notes, const WflwUpgradeOptions &options)
+{
+    return upgradeWorkflow(version, content, notes, options, helperFor(*content).get());
+}
+
+Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
+                                    QList<QString> *notes, const WflwUpgradeOptions &options,
+                                    WflwUpgradeHelper *helper)
+{
     // Equal in the number of segments, too: 5.47 isn't 5.47.0.
     if (version == WflwMetaData::currentWorkflowVersion())
         return Error::NoError;
-    const std::unique_ptr<WflwUpgradeHelper> helper = helperFor(*content);
-    const StepArguments arguments{content, *content, version};
-    const UpgradeRun run;
-    Reporter reporter(observer, content);
-    for (const Step &step : kSteps) {
-        const bool isDue = QVersionNumber::compare(version, step.version()) < 0;
-        if (!isDue || (step.needsSampleData && !accessSampleData))
-            continue;
-        if (Error error = step.run(*helper, arguments)) {
-            return error
-                .addDetail(WflwUpgraderTr::tr("The upgrade from version %1 stopped at the step to %2.")
-                               .arg(version.toString(), step.version().toString()))
-                .ecatch();
-        }
-        reporter.stepDone(step.version());
-    }
-    if (isBelowCurrent(*content)) {
-        ORV_RETURN_IF_ERROR(helper->upgradeToCurrentWorkflowVersion(content));
-        reporter.stepDone(WflwMetaData::currentWorkflowVersion());
-    }
+    ORV_RETURN_IF_ERROR(WflwUpgradeRunner(helper, content).takeSteps(version, options));
     if (notes)
         *notes = helper->notes();
     return Error::NoError;

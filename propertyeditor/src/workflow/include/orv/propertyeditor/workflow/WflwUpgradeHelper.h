@@ -1,11 +1,12 @@
 #pragma once
 
-#include <orv/core/Error.h>
 #include <orv/core/Export.h>
+#include <orv/core/Result.h>
 
 #include <QList>
-#include <QMap>
 #include <QString>
+
+#include <memory>
 
 QT_BEGIN_NAMESPACE
 class QVersionNumber;
@@ -14,9 +15,11 @@ QT_END_NAMESPACE
 namespace orv {
 
 class PropertyEditorContent;
+class WorkingContent;
 
 /// The steps of the upgrade chain, each named for the first format version in which a document has the new
-/// form. Made for one run of WflwUpgrader, on its thread.
+/// form. Made for one run of WflwUpgrader, on its thread. A step may also be called by itself, for any
+/// document and at any time: while another step waits for a server as well.
 ///
 /// A step replaces *content as a whole once it has succeeded; on a failure, and where it doesn't apply,
 /// *content is untouched. Failures have the code MalformedStructure and a text of the step's own, details
@@ -105,8 +108,14 @@ protected:
     /// One note of a kind is enough, however many cells it is about; a further one is dropped.
     void addNote(int kind, const QString &text);
 
+    /// The document as the tree that a step edits; see WorkingContent. Within a run the steps share one.
+    [[nodiscard]] Result<WorkingContent> createPecToUpgrade(PropertyEditorContent *content);
+
 private:
-    QMap<int, QString> m_notes;
+    friend class WflwUpgradeRunner;
+
+    class Private;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace orv

@@ -13,7 +13,15 @@ QT_END_NAMESPACE
 namespace orv {
 
 class PropertyEditorContent;
+class WflwUpgradeHelper;
 class WflwUpgradeObserver;
+
+/// What an upgrade may do, and who hears of it.
+struct WflwUpgradeOptions
+{
+    bool accessSampleData = true;
+    WflwUpgradeObserver *observer = nullptr; ///< told of each step that changed something
+};
 
 /// Brings documents of earlier format versions into the present form:
 /// \code
@@ -23,7 +31,8 @@ class WflwUpgradeObserver;
 ///     if (Error error = WflwUpgrader::upgradeWorkflow(version, &document, &notes, true))
 ///         return error.ecatch(); // the document is of no use any more
 /// \endcode
-/// Runs on the caller's thread and blocks it; different documents may be upgraded on different threads.
+/// Runs on the caller's thread and blocks it; different documents may be upgraded on different threads. While
+/// a step waits for a server, timers and other events are handled, in which further upgrades may run.
 class ORV_WORKFLOW_EXPORT WflwUpgrader
 {
 public:
@@ -39,6 +48,12 @@ public:
     /// The same; \a observer, which may be null, is told of each step that changed something.
     static Error upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
                                  QList<QString> *notes, bool accessSampleData, WflwUpgradeObserver *observer);
+    static Error upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
+                                 QList<QString> *notes, const WflwUpgradeOptions &options);
+    /// The same with the steps of \a helper, for applications that have steps of their own.
+    static Error upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
+                                 QList<QString> *notes, const WflwUpgradeOptions &options,
+                                 WflwUpgradeHelper *helper);
 };
 
 } // namespace orv

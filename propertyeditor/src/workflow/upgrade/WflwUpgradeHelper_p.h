@@ -1,0 +1,18 @@
+#pragma once
+
+#include <orv/propertyeditor/workflow/WflwUpgradeHelper.h>
+
+#include <QMap>
+
+namespace orv {
+
+class UpgradeRun;
+
+class WflwUpgradeHelper::Private
+{
+public:
+    QMap<int, QString> notes;
+    UpgradeRun *run = nullptr; ///< that the steps belong to; none for steps that are called by themselves
+};
+
+} // namespace orv
