@@ -1,4 +1,4 @@
-// Steps between 5.24.0 and 5.47.0 that decide something about files, tables and groups of settings.
+// Steps between 5.13.0 and 5.47.0 that decide something about files, tables and groups of settings.
 #include "StepHelpers.h"
 
 #include <orv/chemistry/ProteinGenerator.h>
@@ -155,6 +155,25 @@ Error addGlycans(KeyValueItem *item)
 }
 
 } // namespace
+
+Error WflwUpgradeHelper::upgradeV_5_13_0(PropertyEditorContent *content)
+{
+    Result<WorkingContent> working = createPecToUpgrade(content);
+    if (!working)
+        return working.ecatch();
+    KeyValueItem *const item = firstSettings(*working, BaseItemType::Dravik);
+    const bool applies = working->workflowType() == WorkflowType::ReleasedGlycans && item &&
+                         item->contains(PropertyId::InSilicoPeptidesFile) &&
+                         !item->contains(PropertyId::InSilicoMoleculesFile);
+    if (!applies)
+        return Error::NoError;
+    const QString group = item->group(PropertyId::InSilicoPeptidesFile);
+    ORV_RETURN_IF_ERROR(insert(item, PropertyId::InSilicoMoleculesFile, group, QString(), kText));
+    ORV_RETURN_IF_ERROR(
+        check(item->setGroupCaption(group, QStringLiteral("In-silico options (file import)")), *item, group));
+    ORV_RETURN_IF_ERROR(working->writeBack());
+    return Error::NoError;
+}
 
 Error WflwUpgradeHelper::upgradeV_5_24_0(PropertyEditorContent *content)
 {

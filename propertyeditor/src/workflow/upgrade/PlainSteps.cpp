@@ -1,9 +1,15 @@
-// The steps that only add settings to cells, or take one away.
+// The steps that only insert a setting into cells, or remove one: a row for each, and no code.
 #include "StepHelpers.h"
 
 #include <orv/propertyeditor/workflow/WflwUpgradeHelper.h>
 
 #include <QStringList>
+#include <QVersionNumber>
+
+#include <algorithm>
+#include <array>
+#include <initializer_list>
+#include <variant>
 
 namespace orv {
 
@@ -12,92 +18,173 @@ using namespace UpgradeSteps;
 
 namespace {
 
-using Types = QSet<BaseItemType>;
+using Cell = ORV_QEnumsBaseItemType;
 
-struct Insertion
+/// Up to three of a kind, at compile time.
+template<typename T>
+class Few
 {
-    Types cells;
-    PropertyId id;
-    QString group;
-    QVariant value;
-    int type;
-    PropertyId before = PropertyId::NoProperty;
+public:
+    constexpr Few(std::initializer_list<T> values)
+        : m_count(values.size())
+    {
+        std::ranges::copy(values, m_values.begin());
+    }
+    [[nodiscard]] constexpr bool isEmpty() const { return m_count == 0; }
+    [[nodiscard]] bool contains(T value) const { return std::find(begin(), end(), value) != end(); }
+    [[nodiscard]] constexpr const T *begin() const { return m_values.data(); }
+    [[nodiscard]] constexpr const T *end() const { return m_values.data() + m_count; }
+
+private:
+    std::array<T, 3> m_values = {};
+    size_t m_count;
 };
 
-Error insertEverywhere(const Insertion &insertion, const WorkingContent &working)
+/// Which workflows a step is for.
+struct Workflows
 {
-    const auto edit = [&insertion](KeyValueItem *item) {
-        return insert(item, insertion.id, insertion.group, insertion.value, insertion.type, insertion.before);
-    };
-    return editEach(settingsItems(working, insertion.cells), edit, working);
+    Few<WorkflowType> only = {}; ///< any type if empty
+    Few<WorkflowType> but = {};
+
+    [[nodiscard]] bool contains(WorkflowType type) const
+    {
+        return (only.isEmpty() || only.contains(type)) && !but.contains(type);
+    }
+};
+
+/// The value of an inserted setting, which has the type that belongs to it in a document.
+using PlainValue = std::variant<bool, int, QLatin1String, Few<const char *>>;
+
+constexpr QLatin1String kNoText("");
+
+enum class Change
+{
+    Insert,         ///< fails where the setting is there already
+    InsertIfAbsent, ///< leaves a setting that is there as it is
+    RemoveIfThere,
+};
+
+struct PlainStep
+{
+    int minor;
+    Workflows workflows;
+    Change change;
+    Few<BaseItemType> cells;
+    PropertyId id;
+    QLatin1String group = {}; ///< its caption; settings are added to its end
+    PlainValue value = {};
+    PropertyId before = PropertyId::NoProperty; ///< which the setting stands behind, in place of the end
+};
+
+constexpr QLatin1String kReport("Report");
+constexpr QLatin1String kMatch("Match between runs");
+constexpr Workflows kAllWorkflows;
+constexpr Workflows kLabelFree{.only = {WorkflowType::LabelFreeQuantification}};
+
+// clang-format off
+constexpr std::array kPlainSteps = {
+    PlainStep{15, kAllWorkflows, Change::Insert, {Cell::Karvon},
+              PropertyId::ExportSearchReport, kReport, false},
+    PlainStep{20, kAllWorkflows, Change::Insert, {Cell::Senthia, Cell::Dravik},
+              PropertyId::IsotopeModel, QLatin1String("Feature Finder"), 0},
+    PlainStep{21, {.only = {WorkflowType::ProteinSearch}}, Change::Insert, {Cell::Karvon},
+              PropertyId::ReportConfiguration, kReport, kNoText},
+    PlainStep{30, {.only = {WorkflowType::DigestedOligo}}, Change::Insert, {Cell::Senthia},
+              PropertyId::InSilicoPeptidesFile, QLatin1String("In-silico options (CSV import)"), kNoText},
+    PlainStep{34, kLabelFree, Change::Insert, {Cell::Trenq},
+              PropertyId::MatchBetweenRuns, kMatch, 0},
+    PlainStep{36, kLabelFree, Change::Insert, {Cell::Trenq},
+              PropertyId::RetentionTimeAlignment, kMatch, true},
+    PlainStep{37, kLabelFree, Change::Insert, {Cell::Trenq},
+              PropertyId::ReportedPeptideSelection, QLatin1String("Reported peptide filtering"), 0,
+              PropertyId::ReportedPeptideCount},
+    PlainStep{38, kAllWorkflows, Change::Insert, {Cell::Senthia, Cell::Trenq},
+              PropertyId::PdfReportTemplate, kReport, kNoText},
+    PlainStep{40, {.only = {WorkflowType::LabelFreeQuantification, WorkflowType::GlycoproteinSearch}},
+              Change::Insert, {Cell::Karvon},
+              PropertyId::KarvonInclusionFilter, QLatin1String("Inclusion"), kNoText},
+    PlainStep{41, {.but = {WorkflowType::DigestedOligo}}, Change::Insert, {Cell::Karvon},
+              PropertyId::KarvonNglycanMotifLetters, QLatin1String("Glycans"), Few<const char *>{"S", "T"}},
+    PlainStep{42, kAllWorkflows, Change::RemoveIfThere, {Cell::Trenq, Cell::Senthia, Cell::Dravik},
+              PropertyId::CreateXicCache},
+    PlainStep{45, kAllWorkflows, Change::InsertIfAbsent, {Cell::CaldrinDIA},
+              PropertyId::CaldrinInstrument, QLatin1String("Instrument Parameters"), QLatin1String("QTOF / HCD")},
+};
+// clang-format on
+
+/// A value as documents hold it, and the type that goes with it.
+struct TypedValue
+{
+    QVariant value;
+    int type;
+};
+
+TypedValue typed(bool value)
+{
+    return {value, kBool};
 }
 
-/// Whether workflows of a type are touched.
-using Gate = bool (*)(WorkflowType type);
-
-bool anyType(WorkflowType /*type*/)
+TypedValue typed(int value)
 {
-    return true;
+    return {value, kInt};
 }
 
-template<WorkflowType... types>
-bool oneOf(WorkflowType type)
+TypedValue typed(QLatin1String value)
 {
-    return ((type == types) || ...);
+    return {QString(value), kText};
 }
 
-template<WorkflowType other>
-bool notOf(WorkflowType type)
+TypedValue typed(const Few<const char *> &values)
 {
-    return type != other;
+    QStringList texts;
+    for (const char *text : values)
+        texts.append(QString::fromLatin1(text));
+    return {texts, kListText};
 }
 
-Error plainStep(Gate gate, const Insertion &insertion, Result<WorkingContent> working)
+Error insertSetting(const PlainStep &step, KeyValueItem *item)
+{
+    const TypedValue inserted = std::visit([](const auto &value) { return typed(value); }, step.value);
+    return insert(item, step.id, step.group, inserted.value, inserted.type, step.before);
+}
+
+Error takePlainStep(int minor, Result<WorkingContent> working)
 {
     if (!working)
         return working.ecatch();
-    if (!gate(working->workflowType()))
+    const auto *const step = std::ranges::find(kPlainSteps, minor, &PlainStep::minor);
+    Q_ASSERT(step != kPlainSteps.end());
+    if (!step->workflows.contains(working->workflowType()))
         return Error::NoError;
-    ORV_RETURN_IF_ERROR(insertEverywhere(insertion, *working));
+    QList<KeyValueItem *> items = settingsItems(*working, {step->cells.begin(), step->cells.end()});
+    if (step->change == Change::RemoveIfThere)
+        items.removeIf([step](const KeyValueItem *item) { return !item->contains(step->id); });
+    const auto edit = [step](KeyValueItem *item) -> Error {
+        if (step->change == Change::RemoveIfThere)
+            return remove(item, keyOf(step->id));
+        if (step->change == Change::InsertIfAbsent && item->contains(step->id))
+            return Error::NoError;
+        return insertSetting(*step, item);
+    };
+    ORV_RETURN_IF_ERROR(editEach(items, edit, *working));
     return Error::NoError;
-}
-
-QString reportGroup()
-{
-    return QStringLiteral("Report");
-}
-
-QString matchGroup()
-{
-    return QStringLiteral("Match between runs");
 }
 
 } // namespace
 
 Error WflwUpgradeHelper::upgradeV_5_15_0(PropertyEditorContent *content)
 {
-    return plainStep(&anyType,
-                     {{BaseItemType::Karvon}, PropertyId::ExportSearchReport, reportGroup(), false, kBool},
-                     createPecToUpgrade(content));
+    return takePlainStep(15, createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_20_0(PropertyEditorContent *content)
 {
-    return plainStep(&anyType,
-                     {{BaseItemType::Senthia, BaseItemType::Dravik},
-                      PropertyId::IsotopeModel,
-                      QStringLiteral("Feature Finder"),
-                      0,
-                      kInt},
-                     createPecToUpgrade(content));
+    return takePlainStep(20, createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_21_0(PropertyEditorContent *content)
 {
-    return plainStep(
-        &oneOf<WorkflowType::ProteinSearch>,
-        {{BaseItemType::Karvon}, PropertyId::ReportConfiguration, reportGroup(), QString(), kText},
-        createPecToUpgrade(content));
+    return takePlainStep(21, createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_29_0(PropertyEditorContent * /*content*/)
@@ -107,124 +194,52 @@ Error WflwUpgradeHelper::upgradeV_5_29_0(PropertyEditorContent * /*content*/)
 
 Error WflwUpgradeHelper::upgradeV_5_30_0(PropertyEditorContent *content)
 {
-    return plainStep(&oneOf<WorkflowType::DigestedOligo>,
-                     {{BaseItemType::Senthia},
-                      PropertyId::InSilicoPeptidesFile,
-                      QStringLiteral("In-silico options (CSV import)"),
-                      QString(),
-                      kText},
-                     createPecToUpgrade(content));
+    return takePlainStep(30, createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_34_0(PropertyEditorContent *content)
 {
-    return plainStep(&oneOf<WorkflowType::LabelFreeQuantification>,
-                     {{BaseItemType::Trenq}, PropertyId::MatchBetweenRuns, matchGroup(), 0, kInt},
-                     createPecToUpgrade(content));
+    return takePlainStep(34, createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_36_0(PropertyEditorContent *content)
 {
-    return plainStep(&oneOf<WorkflowType::LabelFreeQuantification>,
-                     {{BaseItemType::Trenq}, PropertyId::RetentionTimeAlignment, matchGroup(), true, kBool},
-                     createPecToUpgrade(content));
+    return takePlainStep(36, createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_37_0(PropertyEditorContent *content)
 {
-    return plainStep(&oneOf<WorkflowType::LabelFreeQuantification>,
-                     {{BaseItemType::Trenq},
-                      PropertyId::ReportedPeptideSelection,
-                      QStringLiteral("Reported peptide filtering"),
-                      0,
-                      kInt,
-                      PropertyId::ReportedPeptideCount},
-                     createPecToUpgrade(content));
+    return takePlainStep(37, createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_38_0(PropertyEditorContent *content)
 {
-    return plainStep(&anyType,
-                     {{BaseItemType::Senthia, BaseItemType::Trenq},
-                      PropertyId::PdfReportTemplate,
-                      reportGroup(),
-                      QString(),
-                      kText},
-                     createPecToUpgrade(content));
+    return takePlainStep(38, createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_40_0(PropertyEditorContent *content)
 {
-    return plainStep(&oneOf<WorkflowType::LabelFreeQuantification, WorkflowType::GlycoproteinSearch>,
-                     {{BaseItemType::Karvon},
-                      PropertyId::KarvonInclusionFilter,
-                      QStringLiteral("Inclusion"),
-                      QString(),
-                      kText},
-                     createPecToUpgrade(content));
+    return takePlainStep(40, createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_41_0(PropertyEditorContent *content)
 {
-    return plainStep(&notOf<WorkflowType::DigestedOligo>,
-                     {{BaseItemType::Karvon},
-                      PropertyId::KarvonNglycanMotifLetters,
-                      QStringLiteral("Glycans"),
-                      QStringList{QStringLiteral("S"), QStringLiteral("T")},
-                      kListText},
-                     createPecToUpgrade(content));
+    return takePlainStep(41, createPecToUpgrade(content));
 }
 
-Error WflwUpgradeHelper::upgradeV_5_13_0(PropertyEditorContent *content)
+Error WflwUpgradeHelper::upgradeV_5_42_0(PropertyEditorContent *content)
 {
-    Result<WorkingContent> working = createPecToUpgrade(content);
-    if (!working)
-        return working.ecatch();
-    KeyValueItem *const item = firstSettings(*working, BaseItemType::Dravik);
-    const bool applies = working->workflowType() == WorkflowType::ReleasedGlycans && item &&
-                         item->contains(PropertyId::InSilicoPeptidesFile) &&
-                         !item->contains(PropertyId::InSilicoMoleculesFile);
-    if (!applies)
-        return Error::NoError;
-    const QString group = item->group(PropertyId::InSilicoPeptidesFile);
-    ORV_RETURN_IF_ERROR(insert(item, PropertyId::InSilicoMoleculesFile, group, QString(), kText));
-    ORV_RETURN_IF_ERROR(
-        check(item->setGroupCaption(group, QStringLiteral("In-silico options (file import)")), *item, group));
-    ORV_RETURN_IF_ERROR(working->writeBack());
-    return Error::NoError;
+    return takePlainStep(42, createPecToUpgrade(content));
+}
+
+Error WflwUpgradeHelper::upgradeV_5_45_0(PropertyEditorContent *content)
+{
+    return takePlainStep(45, createPecToUpgrade(content));
 }
 
 Error WflwUpgradeHelper::upgradeV_5_17_0(PropertyEditorContent *content)
 {
     return readAndWrite(createPecToUpgrade(content));
-}
-
-Error WflwUpgradeHelper::upgradeV_5_42_0(PropertyEditorContent *content)
-{
-    Result<WorkingContent> working = createPecToUpgrade(content);
-    if (!working)
-        return working.ecatch();
-    QList<KeyValueItem *> items =
-        settingsItems(*working, {BaseItemType::Trenq, BaseItemType::Senthia, BaseItemType::Dravik});
-    items.removeIf([](const KeyValueItem *item) { return !item->contains(PropertyId::CreateXicCache); });
-    const auto edit = [](KeyValueItem *item) { return remove(item, keyOf(PropertyId::CreateXicCache)); };
-    ORV_RETURN_IF_ERROR(editEach(items, edit, *working));
-    return Error::NoError;
-}
-
-Error WflwUpgradeHelper::upgradeV_5_45_0(PropertyEditorContent *content)
-{
-    Result<WorkingContent> working = createPecToUpgrade(content);
-    if (!working)
-        return working.ecatch();
-    const auto edit = [](KeyValueItem *item) -> Error {
-        if (item->contains(PropertyId::CaldrinInstrument))
-            return Error::NoError;
-        return insert(item, PropertyId::CaldrinInstrument, QStringLiteral("Instrument Parameters"),
-                      QStringLiteral("QTOF / HCD"), kText);
-    };
-    ORV_RETURN_IF_ERROR(editEach(settingsItems(*working, {BaseItemType::CaldrinDIA}), edit, *working));
-    return Error::NoError;
 }
 
 } // namespace orv
