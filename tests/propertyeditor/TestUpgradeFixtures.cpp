@@ -114,10 +114,12 @@ private Q_SLOTS:
 void TestUpgradeFixtures::everyStepHasFixtures()
 {
     const QStringList files = QDir(TestData::path(u"upgrade"_s)).entryList({u"*.wflw"_s});
-    for (const Step &step : steps({})) {
-        const QString prefix = QLatin1String(step.version) + u'_';
+    const QList<WflwUpgradeStep> steps = WflwUpgrader::steps();
+    QCOMPARE(steps.constLast().version, WflwMetaData::currentWorkflowVersion());
+    for (const WflwUpgradeStep &step : steps) {
+        const QString prefix = step.version.toString() + u'_';
         QVERIFY2(std::ranges::any_of(files, [&](const QString &file) { return file.startsWith(prefix); }),
-                 step.version);
+                 qPrintable(prefix));
     }
 }
 

@@ -80,12 +80,13 @@ QJsonObject together(const Edit &edit, Outcome outcome)
 QJsonObject apart(const Edit &edit, Outcome outcome)
 {
     PropertyEditorContent content = document();
-    const QVersionNumber version = versionOf(content);
-    for (const Step &step : steps(content)) {
-        if (step.needsSampleData || version >= QVersionNumber::fromString(QLatin1String(step.version)))
+    const PropertyEditorContent initial = content;
+    const QVersionNumber version = versionOf(initial);
+    for (const WflwUpgradeStep &step : WflwUpgrader::steps()) {
+        if (step.needsSampleData || version >= step.version)
             continue;
         OwnSteps own(edit, outcome);
-        demand(step.run(own, &content));
+        demand(step.take(own, &content, initial, version));
     }
     return withoutMoment(content);
 }

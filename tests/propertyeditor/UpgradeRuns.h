@@ -14,48 +14,9 @@
 #include <QJsonObject>
 #include <QVersionNumber>
 
-#include <functional>
 #include <optional>
-#include <vector>
 
 namespace UpgradeRuns {
-
-struct Step
-{
-    const char *version;
-    bool needsSampleData;
-    std::function<orv::Error(orv::WflwUpgradeHelper &, orv::PropertyEditorContent *)> run;
-};
-
-/// Every step as a host may call it, in order. Step 5.16.1 is given \a initial.
-inline std::vector<Step> steps(const orv::PropertyEditorContent &initial)
-{
-    using Helper = orv::WflwUpgradeHelper;
-    const auto step5_16_1 = [initial](Helper &helper, orv::PropertyEditorContent *content) {
-        return helper.upgradeV_5_16_1(content, &initial,
-                                      orv::WflwMetaData::versionNumberFromMetaDataObject(initial.metadata()));
-    };
-    return {{"5.6.0", false, &Helper::upgradeV_5_6_0},   {"5.9.0", false, &Helper::upgradeV_5_9_0},
-            {"5.10.1", true, &Helper::upgradeV_5_10_1},  {"5.12.0", false, &Helper::upgradeV_5_12_0},
-            {"5.12.2", false, &Helper::upgradeV_5_12_2}, {"5.13.0", false, &Helper::upgradeV_5_13_0},
-            {"5.15.0", false, &Helper::upgradeV_5_15_0}, {"5.16.1", false, step5_16_1},
-            {"5.17.0", false, &Helper::upgradeV_5_17_0}, {"5.18.0", false, &Helper::upgradeV_5_18_0},
-            {"5.19.0", false, &Helper::upgradeV_5_19_0}, {"5.20.0", false, &Helper::upgradeV_5_20_0},
-            {"5.21.0", false, &Helper::upgradeV_5_21_0}, {"5.22.0", false, &Helper::upgradeV_5_22_0},
-            {"5.23.0", false, &Helper::upgradeV_5_23_0}, {"5.24.0", false, &Helper::upgradeV_5_24_0},
-            {"5.25.0", false, &Helper::upgradeV_5_25_0}, {"5.26.0", false, &Helper::upgradeV_5_26_0},
-            {"5.27.0", false, &Helper::upgradeV_5_27_0}, {"5.28.0", false, &Helper::upgradeV_5_28_0},
-            {"5.29.0", false, &Helper::upgradeV_5_29_0}, {"5.30.0", false, &Helper::upgradeV_5_30_0},
-            {"5.31.0", false, &Helper::upgradeV_5_31_0}, {"5.32.0", false, &Helper::upgradeV_5_32_0},
-            {"5.33.0", false, &Helper::upgradeV_5_33_0}, {"5.34.0", false, &Helper::upgradeV_5_34_0},
-            {"5.35.0", false, &Helper::upgradeV_5_35_0}, {"5.36.0", false, &Helper::upgradeV_5_36_0},
-            {"5.37.0", false, &Helper::upgradeV_5_37_0}, {"5.38.0", false, &Helper::upgradeV_5_38_0},
-            {"5.39.0", true, &Helper::upgradeV_5_39_0},  {"5.40.0", false, &Helper::upgradeV_5_40_0},
-            {"5.41.0", false, &Helper::upgradeV_5_41_0}, {"5.42.0", false, &Helper::upgradeV_5_42_0},
-            {"5.43.0", false, &Helper::upgradeV_5_43_0}, {"5.44.0", false, &Helper::upgradeV_5_44_0},
-            {"5.45.0", false, &Helper::upgradeV_5_45_0}, {"5.46.0", false, &Helper::upgradeV_5_46_0},
-            {"5.47.0", false, &Helper::upgradeV_5_47_0}};
-}
 
 inline QVersionNumber versionOf(const orv::PropertyEditorContent &document)
 {
@@ -88,10 +49,11 @@ inline orv::Error runStep(const QString &version, orv::PropertyEditorContent *do
 {
     const WithoutSampleFiles expected;
     orv::WflwUpgradeHelper helper;
-    for (const Step &step : steps(*document)) {
-        if (version != QLatin1String(step.version))
+    const orv::PropertyEditorContent initial(*document);
+    for (const orv::WflwUpgradeStep &step : orv::WflwUpgrader::steps()) {
+        if (version != step.version.toString())
             continue;
-        const orv::Error error = step.run(helper, document);
+        const orv::Error error = step.take(helper, document, initial, versionOf(initial));
         if (notes)
             *notes = helper.notes();
         return error;
@@ -111,12 +73,11 @@ inline orv::Error runApart(orv::PropertyEditorContent *document)
 {
     const WithoutSampleFiles expected;
     const orv::PropertyEditorContent initial(*document);
-    for (const Step &step : steps(initial)) {
-        if (step.needsSampleData ||
-            versionOf(initial) >= QVersionNumber::fromString(QLatin1String(step.version)))
+    for (const orv::WflwUpgradeStep &step : orv::WflwUpgrader::steps()) {
+        if (step.needsSampleData || versionOf(initial) >= step.version)
             continue;
         orv::WflwUpgradeHelper helper;
-        ORV_RETURN_IF_ERROR(step.run(helper, document));
+        ORV_RETURN_IF_ERROR(step.take(helper, document, initial, versionOf(initial)));
     }
     orv::WflwUpgradeHelper helper;
     if (versionOf(*document) < orv::WflwMetaData::currentWorkflowVersion())

@@ -22,20 +22,15 @@ struct WflwUpgraderTr
 };
 
 /// What a run hands to its steps.
-struct StepArguments
-{
-    PropertyEditorContent *content;
-    const PropertyEditorContent initialContent;
-    const QVersionNumber initialVersion;
-};
-
 template<auto function>
-Error call(WflwUpgradeHelper &helper, const StepArguments &arguments)
+Error call(WflwUpgradeHelper &helper, PropertyEditorContent *content,
+           [[maybe_unused]] const PropertyEditorContent &initial,
+           [[maybe_unused]] const QVersionNumber &initialVersion)
 {
     if constexpr (std::is_invocable_v<decltype(function), WflwUpgradeHelper &, PropertyEditorContent *>)
-        return (helper.*function)(arguments.content);
+        return (helper.*function)(content);
     else
-        return (helper.*function)(arguments.content, &arguments.initialContent, arguments.initialVersion);
+        return (helper.*function)(content, &initial, initialVersion);
 }
 
 struct Step
@@ -43,7 +38,7 @@ struct Step
     int minor;
     int patch;
     bool needsSampleData;
-    Error (*run)(WflwUpgradeHelper &helper, const StepArguments &arguments);
+    decltype(WflwUpgradeStep::take) take;
 
     [[nodiscard]] QVersionNumber version() const { return {5, minor, patch}; }
 };
@@ -153,13 +148,13 @@ public:
 
     Error takeSteps(const QVersionNumber &version, const WflwUpgradeOptions &options)
     {
-        const StepArguments arguments{m_content, *m_content, version};
+        const PropertyEditorContent initial = *m_content;
         Reporter reporter(options.observer, m_content);
         for (const Step &step : kSteps) {
             const bool isDue = QVersionNumber::compare(version, step.version()) < 0;
             if (!isDue || (step.needsSampleData && !options.accessSampleData))
                 continue;
-            if (Error error = step.run(*m_helper, arguments)) {
+            if (Error error = step.take(*m_helper, m_content, initial, version)) {
                 return error
                     .addDetail(WflwUpgraderTr::tr("The upgrade from version %1 stopped at the step to %2.")
                                    .arg(version.toString(), step.version().toString()))
@@ -180,6 +175,14 @@ private:
     UpgradeRun m_run;
     UpgradeRun *m_outer;
 };
+
+QList<WflwUpgradeStep> WflwUpgrader::steps()
+{
+    QList<WflwUpgradeStep> steps;
+    for (const Step &step : kSteps)
+        steps.append({step.version(), step.needsSampleData, step.take});
+    return steps;
+}
 
 Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
                                     QList<QString> *notes, bool accessSampleData)

@@ -5,16 +5,23 @@
 
 #include <QList>
 #include <QString>
-
-QT_BEGIN_NAMESPACE
-class QVersionNumber;
-QT_END_NAMESPACE
+#include <QVersionNumber>
 
 namespace orv {
 
 class PropertyEditorContent;
 class WflwUpgradeHelper;
 class WflwUpgradeObserver;
+
+/// One step of the chain.
+struct WflwUpgradeStep
+{
+    QVersionNumber version; ///< the first in which documents have the new form
+    bool needsSampleData;   ///< the step opens the samples' files, and is passed over where it mustn't
+    /// Takes the step alone. \a initial is the document before the chain, of \a initialVersion.
+    Error (*take)(WflwUpgradeHelper &helper, PropertyEditorContent *content,
+                  const PropertyEditorContent &initial, const QVersionNumber &initialVersion);
+};
 
 /// What an upgrade may do, and who hears of it.
 struct WflwUpgradeOptions
@@ -36,6 +43,9 @@ struct WflwUpgradeOptions
 class ORV_WORKFLOW_EXPORT WflwUpgrader
 {
 public:
+    /// All steps, in the order of their versions.
+    [[nodiscard]] static QList<WflwUpgradeStep> steps();
+
     /// Runs every step above \a version, the version that the document declares. A document of exactly the
     /// current version is left alone.
     ///
