@@ -1,4 +1,4 @@
-"""What the built program answers about the catalogue, compared with the files and facts it was made from.
+"""What the built program answers about the catalogue, compared with the files it was made from.
 
 Used by check_catalogue.py --program. A number counts by its type too: files hold 2 and 2.0 in different forms.
 """
@@ -6,13 +6,9 @@ Used by check_catalogue.py --program. A number counts by its type too: files hol
 import json
 import subprocess
 
-import catalogue_facts as facts
-
-# The type of the default, in the program's own words.
-UNSET_TYPE = None
-REFERENCE_TYPE = "QSharedPointer<orv::ResourceReference>"
-MULTICORE_TYPE = "orv::PropertyEditorUtils::MulticoreMode"
-TYPE_OF_PYTHON = {str: "QString", bool: "bool", int: "int", float: "double", list: "QStringList"}
+# The type of a default, in the program's own words.
+TYPE_OF_KIND = {"none": None, "text": "QString", "bool": "bool", "int": "int", "double": "double",
+                "list": "QStringList", "ppm": "QByteArray"}
 
 
 def ask(program, *names):
@@ -27,9 +23,8 @@ def ask(program, *names):
 class ProgramCheck:
     """Appends to the problems of a checker that has loaded the catalogue's files."""
 
-    def __init__(self, checker, value_of):
+    def __init__(self, checker):
         self.checker = checker
-        self.value_of = value_of
 
     def run(self, answer):
         numbers = [entry["id"] for entry in answer]
@@ -48,9 +43,8 @@ class ProgramCheck:
         self.compare(number, "typeOptions", entry["typeOptions"], self.checker.options(row))
         self.compare(number, "verification", entry["verification"], rule_of(row))
         self.compare(number, "list", entry["list"], self.list_of(number))
-        code, text = self.checker.readers[number]
-        self.compare(number, "reader", entry["reader"], code)
-        self.check_default(number, text, entry)
+        self.compare(number, "reader", entry["reader"], self.checker.defaults[number].reader)
+        self.check_default(number, self.checker.defaults[number], entry)
 
     def compare(self, number, member, seen, wanted):
         if type(seen) is not type(wanted) or seen != wanted:
@@ -60,32 +54,16 @@ class ProgramCheck:
         entry = self.checker.lists.get(number)
         return entry and [e["text"] for e in entry["entries"]]
 
-    def check_default(self, number, text, entry):
-        value, kind = entry["default"], entry["defaultType"]
-        if text in facts.TABLES:
-            self.compare(number, "type of the default", kind, "QByteArray")
-            columns, rows = facts.TABLES[text]
-            self.compare(number, "columns of the default", value["data"], columns)
-            self.compare(number, "rows of the default", len(value["children"]), rows)
-        elif text in facts.RECORDS:
-            self.compare(number, "type of the default", kind, "QJsonObject")
-            self.compare(number, "default", value, facts.RECORDS[text])
-        elif text.startswith("unit"):
-            self.compare(number, "type of the default", kind, "QByteArray")
-            unit, amount = self.value_of(number, text).split()
-            self.compare(number, "default", {**value, "value": float(value["value"])},
-                         {"unit": unit, "value": float(amount)})
-        else:
-            self.check_plain_default(number, text, value, kind)
-
-    def check_plain_default(self, number, text, value, kind):
-        wanted = self.value_of(number, text)
-        wanted_type = {"null": UNSET_TYPE, "ref": REFERENCE_TYPE, "multicore1": MULTICORE_TYPE} \
-            .get(text, TYPE_OF_PYTHON.get(type(wanted)))
-        self.compare(number, "type of the default", kind, wanted_type)
-        # JSON text has one kind of number: its type stands beside it.
-        is_number = isinstance(wanted, float) and not isinstance(value, (bool, str)) and value is not None
-        self.compare(number, "default", float(value) if is_number else value, wanted)
+    def check_default(self, number, default, entry):
+        if default.is_from_code():
+            return
+        self.compare(number, "type of the default", entry["defaultType"], TYPE_OF_KIND[default.kind])
+        value, wanted = entry["default"], default.value()
+        if default.kind == "double" and type(value) is int:
+            value = float(value)  # JSON text has one kind of number: its type stands beside it
+        if default.kind == "ppm":
+            wanted = {**wanted, "value": type(value["value"])(wanted["value"])}
+        self.compare(number, "default", value, wanted)
 
 
 def rule_of(row):

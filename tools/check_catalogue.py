@@ -3,8 +3,9 @@
 
 Usage: check_catalogue.py [--program ORV_WORKFLOW] [RESOURCE_FOLDER]
 
-With a program, what it answers about its properties must be what the files and facts say. Prints one line per
-problem and exits with 1 when there is any, with 2 when a file cannot be read at all.
+With a program, what it answers about its properties must be what the files say, and defaults that come from its code
+are checked as well; without one only those that it has been expected to answer. Prints one line per problem and exits
+with 1 when there is any, with 2 when a file cannot be read at all.
 Needs nothing but the standard library.
 """
 
@@ -16,15 +17,8 @@ import sys
 from pathlib import Path
 
 import catalogue_facts as facts
+import catalogue_files as files
 import catalogue_program
-
-COLUMNS = ["id", "internalNameV2", "internalNameV1", "displayName", "toolTip", "typeName", "typeOptions",
-           "verificationFunction", "verificationParameters"]
-COUNT = 307
-
-TYPE_OF_READER = {"S": ("QString", "multiLine"), "U": ("QString",), "B": ("bool",), "D": ("double",), "P": ("double",),
-                  "I": ("int",), "N": ("int",), "Q": ("int",), "L": ("list",), "T": ("list",), "O": ("object",),
-                  "R": ("ResourceReference",), "A": ("CheckableList",)}
 
 NUMBER_OPTIONS = {"min", "max", "step", "suffix", "prefix"}
 OPTIONS_OF_TYPE = {"double": NUMBER_OPTIONS | {"precision"}, "int": NUMBER_OPTIONS, "object": {"min", "max"},
@@ -55,24 +49,25 @@ TEXT_RULES = {"contains": lambda v, p: p in v, "~": lambda v, p: p in v,
               "starts-with": str.startswith, "ends-with": str.endswith,
               "empty": lambda v, p: not v, "not-empty": lambda v, p: bool(v)}
 MEMBER_OF_KIND = {"plain": "value", "associativeInteger": "value", "associativeKey": "key", "checkable": "key"}
-# Rules that only make sense on some rows: the rows of these types, or these rows.
-BUILTIN_ROWS = {"modifications": {67, 219}, "glycans": {58, 165}, "isotope": {202}, "digestion_valid": {130, 181}}
+# Rules that only make sense on rows of one type.
+TYPE_OF_RULE = {"modifications": "object", "glycans": "object", "isotope": "object", "digestion_valid": "list"}
 FILE_RULES = {"local-url", "local-or-talvane-url"}
 
 
 class Checker:
-    def __init__(self, folder):
+    def __init__(self, folder, answer=None):
         self.folder = folder
         self.problems = []
-        self.readers = read_table(facts.READERS)
-        self.rows = {}
+        properties = files.read_properties(folder)
+        self.rows = dict(enumerate(properties))
+        self.defaults = files.read_defaults(properties, folder)
+        self.from_code = files.answered_defaults(answer)
         self.lists = {}
 
     def fail(self, where, text):
         self.problems.append(f"{where}: {text}")
 
     def run(self):
-        self.load_rows()
         self.load_lists()
         for number, row in sorted(self.rows.items()):
             self.check_texts(number, row)
@@ -90,23 +85,6 @@ class Checker:
         return self.problems
 
     # Loading
-
-    def load_rows(self):
-        with open(self.folder / "properties.csv", encoding="utf-8", newline="") as file:
-            records = list(csv.reader(file, strict=True))
-        if not records or records[0] != COLUMNS:
-            self.fail("properties.csv", "the header is not " + ",".join(COLUMNS))
-        for index, record in enumerate(records[1:]):
-            if len(record) != len(COLUMNS):
-                self.fail(f"properties.csv, record {index + 2}", f"has {len(record)} fields and not {len(COLUMNS)}")
-            elif record[0] != str(index):
-                self.fail(f"properties.csv, record {index + 2}", f"id {record[0]} stands where {index} belongs")
-            else:
-                self.rows[index] = dict(zip(COLUMNS, record))
-        if len(records) - 1 != COUNT:
-            self.fail("properties.csv", f"has {len(records) - 1} rows and not {COUNT}")
-        for number in sorted(set(range(COUNT)) - set(self.readers)):
-            self.fail(f"id {number}", "has no entry in the table of readers")
 
     def load_lists(self):
         with open(self.folder / "lists.json", encoding="utf-8") as file:
@@ -140,7 +118,7 @@ class Checker:
         if len(re.findall(r"[.!?](?= [A-Z]|$)", tip)) > 2:
             self.fail(where, "the tooltip has more than two sentences")
         suffix = self.options(row).get("suffix", "").strip()
-        if suffix and UNIT_WORDS.get(suffix, "\0").lower() not in tip.lower():
+        if suffix and UNIT_WORDS.get(suffix, suffix).lower() not in tip.lower():
             self.fail(where, f"the tooltip does not name the unit that is shown as \"{suffix}\"")
 
     def check_unique_texts(self):
@@ -187,8 +165,9 @@ class Checker:
     # Types, options and rules
 
     def check_type(self, number, row):
-        code = self.readers[number][0]
-        if row["typeName"] not in TYPE_OF_READER[code]:
+        code = self.defaults[number].reader
+        _, types = files.READERS[code]
+        if row["typeName"] not in types:
             self.fail(f"id {number}", f"type \"{row['typeName']}\" does not go with reader {code}")
 
     @staticmethod
@@ -204,26 +183,33 @@ class Checker:
             self.fail(where, f"option \"{name}\" is not for type {kind}")
         if kind == "ResourceReference" and options.get("fileMode") not in ("existingFile", "dirsOnly"):
             self.fail(where, "the option fileMode is missing or unknown")
-        if (kind == "ResourceReference") != (number in facts.REFERENCES):
-            self.fail(where, "references and reference rows differ")
         if kind not in ("int", "double"):
             return
         low, high = to_number(options.get("min")), to_number(options.get("max"))
         if low is None or high is None or low >= high:
             self.fail(where, "needs the options min and max, the first below the second")
             return
-        default = to_number(self.default(number))
-        if default is None or not low <= default <= high:
-            self.fail(where, f"the default {default} is not between min {low} and max {high}")
-        if kind == "double" and default is not None \
-                and abs(round(default, int(options.get("precision", 2))) - default) > 1e-12:
-            self.fail(where, f"the default {default} has more decimals than the editor shows")
+        if self.knows_default(number):
+            self.check_number(number, low, high, options)
         match = RANGE.fullmatch(row["verificationParameters"])
         if match and (float(match[2]), float(match[3])) != (low, high):
             self.fail(where, "the limits of the rule and of the editor differ")
 
+    def check_number(self, number, low, high, options):
+        where, default = f"id {number}", to_number(self.default(number))
+        if default is None or not low <= default <= high:
+            self.fail(where, f"the default {default} is not between min {low} and max {high}")
+        if self.rows[number]["typeName"] == "double" and default is not None \
+                and abs(round(default, int(options.get("precision", 2))) - default) > 1e-12:
+            self.fail(where, f"the default {default} has more decimals than the editor shows")
+
+    def knows_default(self, number):
+        default = self.defaults[number]
+        return not default.is_from_code() or default.name in self.from_code
+
     def default(self, number):
-        return value_of(number, self.readers[number][1])
+        default = self.defaults[number]
+        return self.from_code[default.name] if default.is_from_code() else default.value()
 
     def check_rule(self, number, row):
         where, kind = f"id {number}", row["typeName"]
@@ -244,20 +230,19 @@ class Checker:
             if kind != "CheckableList":
                 self.fail(where, f"the rule {keyword} needs a checkable list")
         elif keyword in FILE_RULES:
-            if number not in facts.REFERENCES:
+            if kind != "ResourceReference":
                 self.fail(where, f"the rule {keyword} needs a reference")
-        elif keyword in BUILTIN_ROWS:
-            if number not in BUILTIN_ROWS[keyword]:
-                self.fail(where, f"the rule {keyword} does not fit this row")
+        elif keyword in TYPE_OF_RULE:
+            if kind != TYPE_OF_RULE[keyword]:
+                self.fail(where, f"the rule {keyword} needs a row of type {TYPE_OF_RULE[keyword]}")
         elif keyword:
             self.fail(where, f"unknown rule \"{keyword}\"")
         elif parameter:
             self.fail(where, "has a rule parameter without a rule")
 
     def check_values(self, number, row):
-        default = self.default(number)
-        if not self.passes(row, default):
-            self.fail(f"id {number}", f"the default {default!r} breaks its own rule")
+        if self.knows_default(number) and not self.passes(row, self.default(number)):
+            self.fail(f"id {number}", f"the default {self.default(number)!r} breaks its own rule")
         for value in facts.SET_BY_OTHERS.get(number, []):
             if not self.passes(row, value):
                 self.fail(f"id {number}", f"{value!r}, set by a step or a preset, breaks the rule")
@@ -292,11 +277,11 @@ class Checker:
     # Lists
 
     def check_list_presence(self, number, row):
-        code = self.readers[number][0]
+        code = self.defaults[number].reader
         entry = self.lists.get(number)
         where = f"id {number}"
         if entry is None:
-            if code in "LTA" or number in facts.NUMBERS_WITH_MEANING:
+            if code in "LTA":
                 self.fail(where, "has no list")
             return
         kind = entry["kind"]
@@ -306,11 +291,11 @@ class Checker:
             self.fail(where, "a text value needs a list that is stored by text or by key")
         if code == "L" and kind == "associativeKey":
             self.fail(where, "an index value cannot come from a list by key")
-        if code == "N" and (kind != "associativeInteger" or number not in facts.NUMBERS_WITH_MEANING):
-            self.fail(where, "a plain number is explained by a list by integer, and must be noted as such")
+        if code == "N" and kind != "associativeInteger":
+            self.fail(where, "a plain number is explained by a list by integer")
         if code not in "LTAN":
             self.fail(where, f"has a list, although its reader is {code}")
-        if not self.in_list(number, self.default(number)):
+        if self.knows_default(number) and not self.in_list(number, self.default(number)):
             self.fail(where, f"the default {self.default(number)!r} is not in the list")
         if code == "N":
             outside = [e["value"] for e in entry["entries"] if not self.passes(row, e["value"])]
@@ -358,32 +343,17 @@ class Checker:
         if booleans is not None and (kind != "associativeInteger" or sorted(booleans) != ["false", "true"]
                                      or not set(booleans.values()) <= set(keys)):
             self.fail(where, "old booleans must map to values of a list by integer")
-        if set(entry["ids"]) & {130, 181} and not all(DIGESTION.fullmatch(text) for text in texts):
+        if self.hold_digestions(entry["ids"]) and not all(DIGESTION.fullmatch(text) for text in texts):
             self.fail(where, "a digestion is not written as enzyme @ residues | side")
 
-
-def read_table(text):
-    table = {}
-    for part in re.split(r";\s+", " ".join(text.split())):
-        number, code, default = part.split(" ", 2)
-        table[int(number)] = (code, default)
-    return table
+    def hold_digestions(self, numbers):
+        rules = [self.rows[number]["verificationFunction"] for number in numbers if number in self.rows]
+        return "digestion_valid" in rules
 
 
 def read_names(text):
     pairs = (part.split() for part in text.split(";"))
     return {name: int(number) for name, number in pairs}
-
-
-def value_of(number, text):
-    """The default as a Python value; a table that another class provides gives its name."""
-    if text in facts.TABLES or text in facts.RECORDS:
-        return text
-    if text == "ff":
-        return facts.FEATURE_FINDER[number]
-    if text in facts.WORDS:
-        return facts.WORDS[text]
-    return json.loads(text)
 
 
 def to_number(value):
@@ -398,14 +368,14 @@ def to_number(value):
 def main(arguments):
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--program", help="the built orv-workflow")
-    parser.add_argument("folder", nargs="?", type=Path,
-                        default=Path(__file__).resolve().parent.parent / "propertyeditor" / "resources")
+    parser.add_argument("folder", nargs="?", type=Path, default=files.RESOURCES)
     options = parser.parse_args(arguments)
     try:
-        checker = Checker(options.folder)
+        answer = catalogue_program.ask(options.program) if options.program else None
+        checker = Checker(options.folder, answer)
         problems = checker.run()
         if options.program:
-            catalogue_program.ProgramCheck(checker, value_of).run(catalogue_program.ask(options.program))
+            catalogue_program.ProgramCheck(checker).run(answer)
     except (OSError, ValueError, KeyError, TypeError, csv.Error) as error:
         print(f"{options.folder}: cannot be checked: {error!r}", file=sys.stderr)
         return 2

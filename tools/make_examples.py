@@ -6,17 +6,14 @@ usage: tools/make_examples.py [--check]
 Names, types and lists of settings come from the catalogue in propertyeditor/resources, so the documents follow it
 when it changes: run this again and read the difference. --check writes nothing and fails when a file would change.
 """
-import csv
 import json
 import sys
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
-import catalogue_facts as facts
-from check_catalogue import read_table, value_of
+import catalogue_files
 
 ROOT = Path(__file__).resolve().parent.parent
-RESOURCES = ROOT / "propertyeditor" / "resources"
 EXAMPLES = ROOT / "examples" / "workflows"
 VERSIONS = ROOT / "tests" / "data" / "versions"
 
@@ -75,13 +72,12 @@ OBJECTS = {
 
 
 def catalogue():
-    with open(RESOURCES / "properties.csv", encoding="utf-8", newline="") as file:
-        return {int(row["id"]): row for row in csv.DictReader(file)}
+    return dict(enumerate(catalogue_files.read_properties()))
 
 
 def lists():
     table = {}
-    for entry in json.loads((RESOURCES / "lists.json").read_text("utf-8"))["lists"]:
+    for entry in json.loads((catalogue_files.RESOURCES / "lists.json").read_text("utf-8"))["lists"]:
         for number in entry["ids"]:
             table[number] = entry
     return table
@@ -103,7 +99,8 @@ class Writer:
         self.stamp = {"user": user, "created": created, "version": version}
         self.rows = catalogue()
         self.lists = lists()
-        self.readers = read_table(facts.READERS)
+        self.defaults = catalogue_files.read_defaults(list(self.rows.values()))
+        self.from_code = catalogue_files.answered_defaults()
 
     def name(self, number):
         return self.rows[number]["internalNameV2"]
@@ -118,8 +115,9 @@ class Writer:
         return default
 
     def value(self, number):
-        reader, text = self.readers[number]
-        default = value_of(number, text)
+        row = self.defaults[number]
+        reader = row.reader
+        default = self.from_code[row.name] if row.is_from_code() else row.value()
         if reader == "O":
             return OBJECTS.get(number, {})
         if reader == "R":

@@ -17,6 +17,7 @@
 
 #include <QJsonDocument>
 
+#include <optional>
 #include <thread>
 
 using namespace orv;
@@ -45,61 +46,31 @@ QVariant heldDefault(PropertyId id)
     return value;
 }
 
-using CatalogueRows::Default;
-
-int heldType(const CatalogueRows::Row &row)
+QByteArray partsPerMillion(const QString &number)
 {
-    switch (row.held) {
-    case Default::None:
-        return QMetaType::UnknownType;
-    case Default::Text:
-        return QMetaType::QString;
-    case Default::Bool:
-        return QMetaType::Bool;
-    case Default::Int:
-        return QMetaType::Int;
-    case Default::Double:
-        return QMetaType::Double;
-    case Default::List:
-        return QMetaType::QStringList;
-    case Default::Enumerator:
-        return qMetaTypeId<PropertyEditorUtils::MulticoreMode>();
-    case Default::Reference:
-        return qMetaTypeId<ResourceReferenceSPtr>();
-    case Default::Bytes:
-        return QMetaType::QByteArray;
-    case Default::Object:
-        return QMetaType::QJsonObject;
-    case Default::Member:
-        break;
-    }
-    if (row.reader == 'B')
-        return QMetaType::Bool;
-    return row.reader == 'D' ? QMetaType::Double : QMetaType::Int;
+    // A whole number has no point in JSON text.
+    const QByteArray json = QByteArray::number(number.toDouble());
+    return "{\n    \"unit\": \"ppm\",\n    \"value\": " + json + "\n}\n";
 }
 
-/// Invalid where the text doesn't tell.
-QVariant writtenDefault(const CatalogueRows::Row &row)
+/// Nothing where code alone knows the default.
+std::optional<QVariant> writtenDefault(const CatalogueRows::Row &row)
 {
-    const QString text = QString::fromUtf8(row.text);
-    switch (row.held) {
-    case Default::Text:
-        return text;
-    case Default::Bool:
-        return text == u"true"_s;
-    case Default::Int:
-        return text.toInt();
-    case Default::Double:
-        return text.toDouble();
-    case Default::List:
-        return text.split(u',');
-    case Default::Enumerator:
-        return QVariant::fromValue(PropertyEditorUtils::MulticoreMode(text.toInt()));
-    case Default::Reference:
-        return QVariant::fromValue(ResourceReferenceSPtr());
-    default:
-        return {};
-    }
+    if (row.kind == u"none"_s)
+        return QVariant();
+    if (row.kind == u"text"_s)
+        return row.text;
+    if (row.kind == u"bool"_s)
+        return row.text == u"true"_s;
+    if (row.kind == u"int"_s)
+        return row.text.toInt();
+    if (row.kind == u"double"_s)
+        return row.text.toDouble();
+    if (row.kind == u"list"_s)
+        return row.text.split(u';');
+    if (row.kind == u"ppm"_s)
+        return partsPerMillion(row.text);
+    return {};
 }
 
 } // namespace
@@ -153,7 +124,7 @@ void TestPropertiesNames::theTableHoldsEveryProperty()
     const auto *names = PropertiesNames::names();
     QCOMPARE(names->size(), kPropertyCount);
     QCOMPARE(names->firstKey(), PropertyId(0));
-    QCOMPARE(names->lastKey(), PropertyId(306));
+    QCOMPARE(names->lastKey(), PropertyId(kPropertyCount - 1));
 }
 
 void TestPropertiesNames::theTableIsBuiltOnceOnAnyThread()
@@ -294,14 +265,16 @@ void TestPropertiesNames::readersAndDefaultsAreTheseOfEachProperty_data()
 void TestPropertiesNames::readersAndDefaultsAreTheseOfEachProperty()
 {
     QFETCH(int, number);
-    static_assert(CatalogueRows::kRows.size() == kPropertyCount);
-    const CatalogueRows::Row &row = CatalogueRows::kRows.at(size_t(number));
-    QCOMPARE(row.number, number);
-    QCOMPARE(PropertiesNames::readerCode(PropertyId(number)), QChar::fromLatin1(row.reader));
-    const QVariant value = PropertiesNames::defaultValueForType(PropertyId(number));
-    QCOMPARE(value.typeId(), heldType(row));
-    if (const QVariant expected = writtenDefault(row); expected.isValid())
-        QCOMPARE(value, expected);
+    static const QList<CatalogueRows::Row> rows = CatalogueRows::read();
+    QCOMPARE(rows.size(), kPropertyCount);
+    const CatalogueRows::Row &row = rows.at(number);
+    QCOMPARE(PropertiesNames::internalNameForType(PropertyId(number)), row.name);
+    QCOMPARE(PropertiesNames::readerCode(PropertyId(number)), row.reader);
+    if (const std::optional<QVariant> expected = writtenDefault(row)) {
+        const QVariant value = PropertiesNames::defaultValueForType(PropertyId(number));
+        QCOMPARE(value.typeId(), expected->typeId());
+        QCOMPARE(value, *expected);
+    }
 }
 
 void TestPropertiesNames::defaultsHaveTheirTypes_data()
@@ -320,6 +293,7 @@ void TestPropertiesNames::defaultsHaveTheirTypes_data()
     row(49, "two lines",
         u"DSS / 138.0680796 @ K | xlink\nXlink\\:DSS / 156.078644 @ K | common2 % Dead end"_s);
     row(58, "none", QVariant());
+    row(60, "no reference", QVariant::fromValue(ResourceReferenceSPtr()));
     row(70, "list", QStringList({u"S"_s, u"T"_s}));
     row(97, "negative", -40);
     row(130, "enzyme", u"Trypsin @ R,K | C-term"_s);

@@ -27,10 +27,20 @@ enum class PropertyReader : char
     StringList = 'A',
 };
 
-/// What the catalogue decides itself of a property; the texts come from its table.
+/// What the catalogue decides itself of a property; the texts come from properties.csv.
 struct PropertyRow
 {
-    using Default = std::variant<std::monostate, bool, int, double, const char *, QVariant (*)()>;
+    /// A tolerance is a fractional number, and stays one when it happens to be whole.
+    struct PartsPerMillion
+    {
+        std::variant<int, double> amount;
+    };
+    struct TextList
+    {
+        const char *joined; ///< by semicolons
+    };
+    using Default = std::variant<std::monostate, bool, int, double, const char *, TextList, PartsPerMillion,
+                                 QVariant (*)()>;
 
     PropertyId id;
     PropertyReader reader;

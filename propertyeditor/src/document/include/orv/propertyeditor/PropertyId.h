@@ -1,4 +1,4 @@
-// Written by tools/make_property_ids.py from properties.csv; change that and run the script.
+// Written by tools/make_catalogue_code.py from properties.csv; change that and run the script.
 #pragma once
 
 #include <orv/core/Export.h>
