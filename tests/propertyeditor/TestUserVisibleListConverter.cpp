@@ -210,7 +210,8 @@ void TestUserVisibleListConverter::malformedListsAreRefused_data()
     row("a list that is a number", R"({"lists": [1]})", u"\"kind\""_s);
     row("an unknown kind", listText(head + R"("tree", )" + flags + kOneEntry + "]"), u"\"tree\""_s);
     row("no ids", listText(R"("kind": "plain", )" + flags + kOneEntry + "]"), u"\"ids\""_s);
-    row("an id that is no property", plainList("307", kOneEntry), u"number of a property"_s);
+    row("an id that is no property", plainList(QByteArray::number(kPropertyCount), kOneEntry),
+        u"number of a property"_s);
     row("an id that is a text", plainList(R"("1")", kOneEntry), u"number of a property"_s);
     row("an id twice", plainList("1, 1", kOneEntry), u"property 1 has two lists"_s);
     row("no entries", plainList("1", ""), u"empty"_s);
