@@ -376,6 +376,9 @@ def main(arguments):
         problems = checker.run()
         if options.program:
             catalogue_program.ProgramCheck(checker).run(answer)
+    except files.CatalogueError as error:
+        print(f"{options.folder}: {error}", file=sys.stderr)
+        return 2
     except (OSError, ValueError, KeyError, TypeError, csv.Error) as error:
         print(f"{options.folder}: cannot be checked: {error!r}", file=sys.stderr)
         return 2
