@@ -11,6 +11,15 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 # An installed tree works wherever it is put.
 set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 
+# moc needs no library to be linked before it reads a header.
+set(CMAKE_AUTOGEN_ORIGIN_DEPENDS OFF)
+
+if(ORV_UNITY)
+  # With sanitizers and debug information the largest unit takes less than a gigabyte to compile.
+  set(CMAKE_UNITY_BUILD ON)
+  set(CMAKE_UNITY_BUILD_BATCH_SIZE 12)
+endif()
+
 find_program(ORV_CCACHE ccache)
 if(ORV_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   # Precompiled headers are only cached when ccache may trust their recorded time stamps.
@@ -31,6 +40,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   # GCC 12 takes an atomic in a function-local static for a region of no size, and a moved-from std::string for
   # a null one.
   target_compile_options(orv_options INTERFACE -Wno-stringop-overflow -Wno-null-dereference)
+endif()
+if(ORV_UNITY AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # GCC takes every source of a joined unit for a header, where an unnamed namespace would be a mistake.
+  target_compile_options(orv_options INTERFACE -Wno-subobject-linkage)
 endif()
 if(ORV_WERROR)
   target_compile_options(orv_options INTERFACE -Werror)

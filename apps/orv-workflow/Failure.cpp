@@ -10,7 +10,7 @@ namespace orv::cli {
 
 namespace {
 
-QString oneLine(const QString &text)
+QString messageInOneLine(const QString &text)
 {
     return text.simplified();
 }
@@ -33,7 +33,7 @@ Failure failureFrom(const Error &error, ExitCode exitCode)
     parts += error.details();
     for (QString &part : parts)
         part = asSentence(part);
-    return {exitCode, int(error.code()), oneLine(parts.join(QLatin1Char(' ')))};
+    return {exitCode, int(error.code()), messageInOneLine(parts.join(QLatin1Char(' ')))};
 }
 
 QJsonObject toJson(const Failure &failure)
@@ -48,8 +48,8 @@ QJsonValue errorJson(const std::optional<Failure> &failure)
 
 void printRemark(const QString &file, const QString &text)
 {
-    const QString line =
-        QStringLiteral("orv-workflow: %1: %2\n").arg(withoutControls(file), withoutControls(oneLine(text)));
+    const QString line = QStringLiteral("orv-workflow: %1: %2\n")
+                             .arg(withoutControls(file), withoutControls(messageInOneLine(text)));
     std::fputs(line.toLocal8Bit().constData(), stderr);
 }
 

@@ -170,28 +170,28 @@ QString manPage(const CommandLine &line)
                "can't be read or is no workflow; 4 an output can't be written.\n");
 }
 
-struct Kind
+struct SupportFile
 {
     const char *name;
     QString (*generate)(const CommandLine &line);
 };
 
-constexpr std::array kKinds = {Kind{"bash", bashCompletion}, Kind{"zsh", zshCompletion},
-                               Kind{"fish", fishCompletion}, Kind{"man", manPage}};
+constexpr std::array kSupportFiles = {SupportFile{"bash", bashCompletion}, SupportFile{"zsh", zshCompletion},
+                                      SupportFile{"fish", fishCompletion}, SupportFile{"man", manPage}};
 
 } // namespace
 
 QStringList shellSupportKinds()
 {
     QStringList kinds;
-    for (const Kind &kind : kKinds)
+    for (const SupportFile &kind : kSupportFiles)
         kinds.append(QString::fromLatin1(kind.name));
     return kinds;
 }
 
 QString generateShellSupport(const QString &kind, const CommandLine &line)
 {
-    for (const Kind &row : kKinds) {
+    for (const SupportFile &row : kSupportFiles) {
         if (kind == QLatin1String(row.name))
             return row.generate(line);
     }

@@ -12,24 +12,25 @@ namespace orv::cli {
 
 namespace {
 
-struct KindRow
+struct ChangeKindRow
 {
     const char *name;
     Style style;
 };
 
 // By the number of the kind.
-constexpr std::array kKinds = {
-    KindRow{"added", Style::Good},    KindRow{"removed", Style::Bad},     KindRow{"renamed", Style::Caution},
-    KindRow{"moved", Style::Caution}, KindRow{"changed", Style::Caution},
+constexpr std::array kChangeKinds = {
+    ChangeKindRow{"added", Style::Good},      ChangeKindRow{"removed", Style::Bad},
+    ChangeKindRow{"renamed", Style::Caution}, ChangeKindRow{"moved", Style::Caution},
+    ChangeKindRow{"changed", Style::Caution},
 };
 
 // By the number of the state.
 constexpr std::array kStates = {"UpToDate", "NeedsUpgrade", "NotSupported"};
 
-const KindRow &rowOf(UpgradeChange::Kind kind)
+const ChangeKindRow &rowOf(UpgradeChange::Kind kind)
 {
-    return kKinds.at(size_t(kind));
+    return kChangeKinds.at(size_t(kind));
 }
 
 QJsonObject toJson(const UpgradeChange &change)
@@ -56,7 +57,7 @@ QString lineOf(const UpgradeChange &change)
         if (!value.isUndefined())
             values.append(oneLine(value));
     }
-    const KindRow &row = rowOf(change.kind);
+    const ChangeKindRow &row = rowOf(change.kind);
     return QLatin1String("    ") + styled(QLatin1String(row.name).toString().leftJustified(8), row.style) +
            withoutControls(change.path + QLatin1String(": ") + values.join(QLatin1String(" -> "))) +
            QLatin1Char('\n');

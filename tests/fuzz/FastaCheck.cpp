@@ -13,24 +13,24 @@ namespace FormChecks {
 
 namespace {
 
-struct Outcome
+struct FastaOutcome
 {
     QList<FastaEntry> entries;
     QStringList details; ///< of the fault, empty when all of the text was read
 };
 
-constexpr FastaReader::Limits kLimits{.headerBytes = 4096, .sequenceLetters = 8192};
+constexpr FastaReader::Limits kFastaLimits{.headerBytes = 4096, .sequenceLetters = 8192};
 /// A header of another encoding takes more bytes when it is written.
-constexpr FastaReader::Limits kLimitsOfWritten{.headerBytes = 3 * kLimits.headerBytes,
-                                               .sequenceLetters = kLimits.sequenceLetters};
+constexpr FastaReader::Limits kLimitsOfWritten{.headerBytes = 3 * kFastaLimits.headerBytes,
+                                               .sequenceLetters = kFastaLimits.sequenceLetters};
 
-Outcome read(const QByteArray &bytes, const FastaReader::Limits &limits)
+FastaOutcome read(const QByteArray &bytes, const FastaReader::Limits &limits)
 {
     QBuffer device;
     device.setData(bytes);
     device.open(QIODevice::ReadOnly);
     FastaReader reader(&device, limits);
-    Outcome outcome;
+    FastaOutcome outcome;
     for (;;) {
         const Result<std::optional<FastaEntry>> entry = reader.next();
         if (entry.hasError()) {
@@ -54,7 +54,7 @@ bool isClean(const FastaEntry &entry)
 
 QString checkFasta(const QByteArray &bytes)
 {
-    const Outcome first = read(bytes, kLimits);
+    const FastaOutcome first = read(bytes, kFastaLimits);
     if (!first.details.isEmpty() && first.details.size() != 2)
         return u"a fault without a place or a remedy"_s;
     if (!std::ranges::all_of(first.entries, isClean))
@@ -62,7 +62,7 @@ QString checkFasta(const QByteArray &bytes)
     // Blanks in a header are simplified when it is written, so that the second text says the same as the
     // third.
     const QByteArray text = Fasta::toText(first.entries);
-    const Outcome second = read(text, kLimitsOfWritten);
+    const FastaOutcome second = read(text, kLimitsOfWritten);
     if (!second.details.isEmpty() || second.entries.size() != first.entries.size())
         return u"entries read back as others"_s;
     for (qsizetype i = 0; i < first.entries.size(); ++i) {

@@ -91,13 +91,6 @@ QJsonObject substanceOf(const PropertyEditorContent &content)
             {u"extendedMetadata"_s, content.extendedMetadataInfo()}};
 }
 
-/// QJsonDocument drops a byte order mark that begins a text, at one time or another; what then changes is no
-/// fault of ours.
-bool losesMarks(const QByteArray &json)
-{
-    return json.contains("\xEF\xBB\xBF") || json.toLower().contains("\\ufeff");
-}
-
 /// Whether the last row of a tab is cut: the format has rectangles only, and writes such a tab empty.
 bool hasCutRow(const QJsonObject &document)
 {

@@ -14,13 +14,13 @@ namespace FormChecks {
 
 namespace {
 
-constexpr MgfReader::Limits kLimits{.lineBytes = 4096};
+constexpr MgfReader::Limits kMgfLimits{.lineBytes = 4096};
 
 /// Gives its bytes in pieces of one size.
-class Pieces : public QIODevice
+class MgfPieces : public QIODevice
 {
 public:
-    Pieces(QByteArray bytes, qsizetype size)
+    MgfPieces(QByteArray bytes, qsizetype size)
         : m_bytes(std::move(bytes))
         , m_size(size)
     {
@@ -47,19 +47,19 @@ private:
     qsizetype m_at = 0;
 };
 
-struct Outcome
+struct MgfOutcome
 {
     QList<MgfQuery> queries;
     QStringList details; ///< of the fault, empty when all of the text was read
 
-    bool operator==(const Outcome &) const = default;
+    bool operator==(const MgfOutcome &) const = default;
 };
 
-Outcome read(const QByteArray &bytes, qsizetype pieceSize)
+MgfOutcome read(const QByteArray &bytes, qsizetype pieceSize)
 {
-    Pieces device(bytes, pieceSize);
-    MgfReader reader(&device, kLimits);
-    Outcome outcome;
+    MgfPieces device(bytes, pieceSize);
+    MgfReader reader(&device, kMgfLimits);
+    MgfOutcome outcome;
     for (;;) {
         const Result<std::optional<MgfQuery>> query = reader.next();
         if (query.hasError()) {
@@ -76,7 +76,7 @@ Outcome read(const QByteArray &bytes, qsizetype pieceSize)
 
 QString checkMgf(const QByteArray &bytes)
 {
-    const Outcome whole = read(bytes, std::max<qsizetype>(1, bytes.size()));
+    const MgfOutcome whole = read(bytes, std::max<qsizetype>(1, bytes.size()));
     if (!whole.details.isEmpty() && whole.details.size() != 2)
         return u"a fault without a place or a remedy"_s;
     qsizetype line = 0;

@@ -1,4 +1,5 @@
 #include "FormChecks.h"
+#include "Survival.h"
 
 #include <KProperty>
 #include <KPropertySet>
@@ -49,12 +50,6 @@ QJsonObject substanceOf(const QByteArray &json)
     }
     cell.insert(PROPERTIES_KEY, entries);
     return cell;
-}
-
-/// QJsonDocument drops a byte order mark that begins a text.
-bool losesMarks(const QByteArray &json)
-{
-    return json.contains("\xEF\xBB\xBF") || json.toLower().contains("\\ufeff");
 }
 
 /// Members and entries of the text, of which each is in the set or was told as lost.

@@ -1,4 +1,5 @@
 #include "FormChecks.h"
+#include "Survival.h"
 
 #include <orv/table/rn.h>
 
@@ -11,12 +12,6 @@ using namespace Qt::StringLiterals;
 namespace FormChecks {
 
 namespace {
-
-/// QJsonDocument drops a byte order mark that begins a text.
-bool losesMarks(const QByteArray &json)
-{
-    return json.contains("\xEF\xBB\xBF") || json.toLower().contains("\\ufeff");
-}
 
 /// A text that needs a typed form to be written nests deeper than where it was read.
 bool isNearTheBound(const QByteArray &json)

@@ -18,18 +18,18 @@ namespace {
 
 using ContentMode = PropertyEditorContent::ContentMode;
 
-struct Outcome
+struct RulesOutcome
 {
     bool passed = false;
     QStringList errors;
     QStringList warnings;
 
-    bool operator==(const Outcome &) const = default;
+    bool operator==(const RulesOutcome &) const = default;
 };
 
-Outcome apply(const VerificationFunction &rule, PropertyId id, const QVariant &value, ContentMode mode)
+RulesOutcome apply(const VerificationFunction &rule, PropertyId id, const QVariant &value, ContentMode mode)
 {
-    Outcome outcome;
+    RulesOutcome outcome;
     outcome.passed = rule(id, value, mode, &outcome.errors, &outcome.warnings);
     return outcome;
 }
@@ -81,7 +81,7 @@ std::optional<Limits> limitsOf(const QString &parameter)
 }
 
 /// Any rule says why it refuses, once, and is heard in both modes alike unless it asks for files.
-QString checkOutcome(const Outcome &outcome, const Outcome &onServer)
+QString checkOutcome(const RulesOutcome &outcome, const RulesOutcome &onServer)
 {
     if (outcome.passed != outcome.errors.isEmpty() || outcome.errors.size() > 1)
         return u"a rule refuses without a word, or passes with one"_s;
@@ -102,14 +102,15 @@ QString checkRange(const QString &parameter, const QByteArray &bytes)
     for (const PropertyId id : {PropertyId::AlignmentTolerance, PropertyId::BpiBaselineMaxLimit,
                                 PropertyId::StudyName, PropertyId::NoProperty}) {
         for (const QVariant &value : valuesOf(bytes)) {
-            const Outcome outcome = apply(rule, id, value, ContentMode::DesktopMode);
+            const RulesOutcome outcome = apply(rule, id, value, ContentMode::DesktopMode);
             QString wrong = checkOutcome(outcome, apply(rule, id, value, ContentMode::TalvaneMode));
             if (!wrong.isEmpty())
                 return wrong;
         }
     }
     const double number = bytes.trimmed().toDouble();
-    const Outcome outcome = apply(rule, PropertyId::AlignmentTolerance, number, ContentMode::DesktopMode);
+    const RulesOutcome outcome =
+        apply(rule, PropertyId::AlignmentTolerance, number, ContentMode::DesktopMode);
     return outcome.passed == limits->contain(number) ? QString() : u"a number is judged in two ways"_s;
 }
 
@@ -148,8 +149,10 @@ QString checkGlycans(const QByteArray &bytes)
 {
     const VerificationFunction rule = PropertyVerification::constructVerificationFunction(u"glycans"_s, {});
     for (const QVariant &value : valuesOf(bytes)) {
-        const Outcome outcome = apply(rule, PropertyId::KarvonGlycanText, value, ContentMode::DesktopMode);
-        const Outcome onServer = apply(rule, PropertyId::KarvonGlycanText, value, ContentMode::TalvaneMode);
+        const RulesOutcome outcome =
+            apply(rule, PropertyId::KarvonGlycanText, value, ContentMode::DesktopMode);
+        const RulesOutcome onServer =
+            apply(rule, PropertyId::KarvonGlycanText, value, ContentMode::TalvaneMode);
         if (outcome.passed != outcome.errors.isEmpty() || onServer.passed != onServer.errors.isEmpty())
             return u"glycans are refused without a word, or pass with one"_s;
         if (onServer.passed && !outcome.passed)
@@ -164,7 +167,7 @@ QString checkDigestion(const QByteArray &bytes)
         PropertyVerification::constructVerificationFunction(u"digestion_valid"_s, {});
     for (const ContentMode mode : {ContentMode::DesktopMode, ContentMode::TalvaneMode}) {
         const QString text = QString::fromUtf8(bytes);
-        const Outcome outcome = apply(rule, PropertyId::Digestion, text, mode);
+        const RulesOutcome outcome = apply(rule, PropertyId::Digestion, text, mode);
         if (!outcome.errors.isEmpty() || !outcome.warnings.isEmpty())
             return u"the digestion rule leaves the word to another check"_s;
         if (outcome.passed == ProteinDigestionItem::parse(text).hasError())

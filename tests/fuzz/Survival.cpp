@@ -68,4 +68,9 @@ bool survives(const QJsonValue &read, const QJsonValue &written)
     return read == written;
 }
 
+bool losesMarks(const QByteArray &json)
+{
+    return json.contains("\xEF\xBB\xBF") || json.toLower().contains("\\ufeff");
+}
+
 } // namespace FormChecks

@@ -20,7 +20,7 @@ using TableCells::entry;
 namespace {
 
 /// A document of one tab, a column for each cell.
-Content contentOf(const QJsonArray &cells)
+Content contentOfColumns(const QJsonArray &cells)
 {
     QStringList columns;
     for (qsizetype i = 0; i < cells.size(); ++i)
@@ -313,7 +313,7 @@ void TestContentValidator::aWorkflowNeedsADocument()
 {
     QFETCH(QString, type);
     QFETCH(bool, isDocument);
-    const Verdict verdict = verdictOf(WorkflowValidator(), contentOf({Documents::cell(type)}));
+    const Verdict verdict = verdictOf(WorkflowValidator(), contentOfColumns({Documents::cell(type)}));
     QCOMPARE(verdict.isValid, isDocument);
     QCOMPARE(verdict.errors,
              isDocument ? QList<QString>() : QList<QString>{u"The workflow doesn't have any documents"_s});
@@ -322,7 +322,7 @@ void TestContentValidator::aWorkflowNeedsADocument()
 void TestContentValidator::settingsAreHeldAgainstTheirRules()
 {
     LogCapture log;
-    const Content content = contentOf(
+    const Content content = contentOfColumns(
         {cell(u"Karvon"_s, {entry(u"KarvonCentroidTopk"_s, -5), entry(u"KarvonMaxPrecursors"_s, 1)})});
     ContentValidator validator;
     QVERIFY(validator.installValidator(new BuiltinValidator));
@@ -342,16 +342,16 @@ void TestContentValidator::everyItemIsLookedAt()
 {
     const QJsonObject bad = cell(u"Karvon"_s, {entry(u"KarvonCentroidTopk"_s, -5)});
     const QJsonObject good = cell(u"Karvon"_s, {entry(u"KarvonCentroidTopk"_s, 5)});
-    const Verdict verdict = verdictOf(BuiltinValidator(), contentOf({bad, good, bad}));
+    const Verdict verdict = verdictOf(BuiltinValidator(), contentOfColumns({bad, good, bad}));
     QVERIFY(!verdict.isValid);
     QCOMPARE(verdict.errors.size(), 2);
-    QVERIFY(verdictOf(BuiltinValidator(), contentOf({good, good})).isValid);
+    QVERIFY(verdictOf(BuiltinValidator(), contentOfColumns({good, good})).isValid);
 }
 
 void TestContentValidator::aDigestionRuleFailsNothingHere()
 {
     const Content content =
-        contentOf({cell(u"Senthia"_s, {entry(u"Digestion"_s, u"no digestion at all"_s)})});
+        contentOfColumns({cell(u"Senthia"_s, {entry(u"Digestion"_s, u"no digestion at all"_s)})});
     QVERIFY(content.findProjects().constFirst()->contains(u"Digestion"_s));
     const Verdict verdict = verdictOf(BuiltinValidator(), content);
     QVERIFY(verdict.isValid);
@@ -364,7 +364,7 @@ void TestContentValidator::theOtherValidatorsRunWithoutADocument()
     ContentValidator validator;
     QVERIFY(validator.installValidator(new WorkflowValidator));
     QVERIFY(validator.installValidator(new Speaker(false, {}, {u"another"_s})));
-    const Verdict verdict = verdictOf(validator, contentOf({Documents::cell(u"Database"_s)}));
+    const Verdict verdict = verdictOf(validator, contentOfColumns({Documents::cell(u"Database"_s)}));
     QCOMPARE(verdict.errors, (QList<QString>{u"The workflow doesn't have any documents"_s, u"another"_s}));
 }
 

@@ -23,17 +23,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString nameOf(int number)
+QString storedName(int number)
 {
     return PropertiesNames::internalNameForType(PropertyId(number));
 }
 
-QJsonObject entry(int number, const QJsonValue &value)
+QJsonObject storedEntry(int number, const QJsonValue &value)
 {
-    return {{u"name"_s, nameOf(number)}, {u"value"_s, value}};
+    return {{u"name"_s, storedName(number)}, {u"value"_s, value}};
 }
 
-QJsonObject cell(const QJsonArray &entries)
+QJsonObject searchCell(const QJsonArray &entries)
 {
     return {
         {u"type"_s, u"Karvon"_s}, {u"name"_s, u"Search"_s}, {u"title"_s, u"T"_s}, {u"properties"_s, entries}};
@@ -42,7 +42,7 @@ QJsonObject cell(const QJsonArray &entries)
 std::unique_ptr<KeyValueItem> loaded(const QJsonArray &entries)
 {
     auto item = std::make_unique<KeyValueItem>(BaseItemType::Karvon);
-    const Error error = item->assignFromJson(cell(entries), {});
+    const Error error = item->assignFromJson(searchCell(entries), {});
     return error.hasError() ? nullptr : std::move(item);
 }
 
@@ -157,22 +157,22 @@ void TestKeyValueItem::aCellWithoutAPropertyListIsRefused()
 void TestKeyValueItem::aFailedLoadReturnsTheSetsError()
 {
     KeyValueItem item(BaseItemType::Karvon);
-    const Error error = item.assignFromJson(cell({entry(202, QJsonObject())}), {});
-    QCOMPARE(error.errorMessages(), QStringList(u"Property \"%1\" is not supported."_s.arg(nameOf(202))));
+    const Error error = item.assignFromJson(searchCell({storedEntry(202, QJsonObject())}), {});
+    QCOMPARE(error.errorMessages(), QStringList(u"Property \"%1\" is not supported."_s.arg(storedName(202))));
     QCOMPARE(item.count(), 0);
 }
 
 void TestKeyValueItem::typeValidationCanBeSkipped()
 {
     KeyValueItem item(BaseItemType::Karvon);
-    ORV_VERIFY_OK(
-        item.assignFromJson(cell({entry(202, QJsonObject())}), ValidationOption::SkipTypeValidation));
+    ORV_VERIFY_OK(item.assignFromJson(searchCell({storedEntry(202, QJsonObject())}),
+                                      ValidationOption::SkipTypeValidation));
     QVERIFY(item.contains(PropertyId(202)));
 }
 
 void TestKeyValueItem::aCellComesBackAsItWas()
 {
-    const auto item = loaded({entry(43, u"RK"_s), entry(26, u"2,3"_s)});
+    const auto item = loaded({storedEntry(43, u"RK"_s), storedEntry(26, u"2,3"_s)});
     QVERIFY(item);
     QCOMPARE(item->name(), u"Search"_s);
     QCOMPARE(item->title(), u"T"_s);
@@ -180,7 +180,7 @@ void TestKeyValueItem::aCellComesBackAsItWas()
     QVERIFY(!saved.take(u"metadata"_s).toString().isEmpty());
     const QJsonArray entries = saved.value(u"properties"_s).toArray();
     QCOMPARE(entries.at(0).toObject(),
-             (QJsonObject{{u"name"_s, nameOf(43)}, {u"value"_s, u"RK"_s}, {u"priority"_s, 1}}));
+             (QJsonObject{{u"name"_s, storedName(43)}, {u"value"_s, u"RK"_s}, {u"priority"_s, 1}}));
     QCOMPARE(saved.value(u"type"_s), QJsonValue(u"Karvon"_s));
     QCOMPARE(saved.value(u"name"_s), QJsonValue(u"Search"_s));
     QCOMPARE(saved.value(u"title"_s), QJsonValue(u"T"_s));
@@ -189,13 +189,13 @@ void TestKeyValueItem::aCellComesBackAsItWas()
 
 void TestKeyValueItem::keysAndIdsReadTheSame()
 {
-    const auto item = loaded({entry(43, u"RK"_s)});
+    const auto item = loaded({storedEntry(43, u"RK"_s)});
     QVERIFY(item);
-    QVERIFY(item->contains(PropertyId(43)) && item->contains(nameOf(43)));
-    QCOMPARE(item->value(PropertyId(43)), item->value(nameOf(43)));
-    QCOMPARE(item->KeyValueItem::type(nameOf(43)), 10);
+    QVERIFY(item->contains(PropertyId(43)) && item->contains(storedName(43)));
+    QCOMPARE(item->value(PropertyId(43)), item->value(storedName(43)));
+    QCOMPARE(item->KeyValueItem::type(storedName(43)), 10);
     QVERIFY(item->setValue(PropertyId(43), u"K"_s));
-    QCOMPARE(item->value(nameOf(43)), QVariant(u"K"_s));
+    QCOMPARE(item->value(storedName(43)), QVariant(u"K"_s));
     QVERIFY(item->keys().contains(u":name"_s));
     QCOMPARE(item->keys().size(), item->count());
     QCOMPARE(item->KeyValueItem::type(u"missing"_s), 0);
@@ -203,17 +203,17 @@ void TestKeyValueItem::keysAndIdsReadTheSame()
 
 void TestKeyValueItem::theOldSetGoesWithTheNextLoad()
 {
-    const auto item = loaded({entry(43, u"RK"_s)});
+    const auto item = loaded({storedEntry(43, u"RK"_s)});
     QVERIFY(item);
-    ORV_VERIFY_OK(item->assignFromJson(cell({entry(26, u"2"_s)}), {}));
+    ORV_VERIFY_OK(item->assignFromJson(searchCell({storedEntry(26, u"2"_s)}), {}));
     QVERIFY(!item->contains(PropertyId(43)));
     QVERIFY(item->contains(PropertyId(26)));
 }
 
 void TestKeyValueItem::whatALoadDropsIsTold()
 {
-    const QJsonObject document = Documents::document(
-        {Documents::tab(u"Tab"_s, {u"Column"_s}, {cell({entry(43, u"RK"_s), entry(44, 99)})})});
+    const QJsonObject document = Documents::document({Documents::tab(
+        u"Tab"_s, {u"Column"_s}, {searchCell({storedEntry(43, u"RK"_s), storedEntry(44, 99)})})});
     LossCollector losses;
     const LogCapture log;
     Content content;
@@ -262,14 +262,14 @@ void TestKeyValueItem::insertConvertsBuiltInTypesOnly()
 
 void TestKeyValueItem::insertOfAnExistingKeyIsSilent()
 {
-    const auto item = loaded({entry(43, u"RK"_s)});
+    const auto item = loaded({storedEntry(43, u"RK"_s)});
     QVERIFY(item);
     const Spies spies(item.get());
     const LogCapture log;
-    QVERIFY(!item->insert(nameOf(43), u"K"_s, item->stringType()));
+    QVERIFY(!item->insert(storedName(43), u"K"_s, item->stringType()));
     QCOMPARE(spies.counts(), kSilence);
     QVERIFY(log.lines().isEmpty());
-    QCOMPARE(item->value(nameOf(43)), QVariant(u"RK"_s));
+    QCOMPARE(item->value(storedName(43)), QVariant(u"RK"_s));
 }
 
 void TestKeyValueItem::insertNeedsAKey()
@@ -287,19 +287,19 @@ void TestKeyValueItem::insertNeedsAKey()
 
 void TestKeyValueItem::replaceMakesAnotherPropertyWithoutASignal()
 {
-    const auto item = loaded({entry(43, u"RK"_s), entry(26, u"2"_s)});
+    const auto item = loaded({storedEntry(43, u"RK"_s), storedEntry(26, u"2"_s)});
     QVERIFY(item);
-    QVERIFY(item->setOption(nameOf(43), "min", 1));
+    QVERIFY(item->setOption(storedName(43), "min", 1));
     const Spies spies(item.get());
-    QVERIFY(item->replace(nameOf(43), u"fresh"_s, 5, item->intType()));
+    QVERIFY(item->replace(storedName(43), u"fresh"_s, 5, item->intType()));
     QCOMPARE(spies.counts(), kSilence);
     // The set still finds it under the key that it was added with.
-    QCOMPARE(item->value(nameOf(43)), QVariant(5));
-    QCOMPARE(item->KeyValueItem::type(nameOf(43)), 2);
+    QCOMPARE(item->value(storedName(43)), QVariant(5));
+    QCOMPARE(item->KeyValueItem::type(storedName(43)), 2);
     QVERIFY(!item->contains(u"fresh"_s));
     QVERIFY(item->keys().contains(u"fresh"_s));
-    QVERIFY(item->option(nameOf(43), "min").isNull());
-    QVERIFY(item->option(nameOf(43), "priority").isNull());
+    QVERIFY(item->option(storedName(43), "min").isNull());
+    QVERIFY(item->option(storedName(43), "priority").isNull());
     const LogCapture log;
     QVERIFY(!item->replace(u"missing"_s, u"b"_s, 1, 2));
     QCOMPARE(log.warnings(), QStringList(u"Cannot update the non-existing key \"missing\""_s));
@@ -307,26 +307,26 @@ void TestKeyValueItem::replaceMakesAnotherPropertyWithoutASignal()
 
 void TestKeyValueItem::removeTellsKeyAndCount()
 {
-    const auto item = loaded({entry(43, u"RK"_s)});
+    const auto item = loaded({storedEntry(43, u"RK"_s)});
     QVERIFY(item);
     const int before = item->count();
     const Spies spies(item.get());
-    QVERIFY(item->remove(nameOf(43)));
+    QVERIFY(item->remove(storedName(43)));
     QCOMPARE(spies.counts(), (QList<qsizetype>{0, 0, 1, 0, 1}));
-    QCOMPARE(spies.removed.constFirst(), QVariantList{nameOf(43)});
+    QCOMPARE(spies.removed.constFirst(), QVariantList{storedName(43)});
     QCOMPARE(spies.countChanged.constFirst(), QVariantList{before - 1});
     const LogCapture log;
-    QVERIFY(!item->remove(nameOf(43)));
-    QCOMPARE(log.warnings(), QStringList(u"Cannot remove the non-existing key \"%1\""_s.arg(nameOf(43))));
+    QVERIFY(!item->remove(storedName(43)));
+    QCOMPARE(log.warnings(), QStringList(u"Cannot remove the non-existing key \"%1\""_s.arg(storedName(43))));
 }
 
 void TestKeyValueItem::removeOfAListStopsAtTheFirstMissingKey()
 {
-    const auto item = loaded({entry(43, u"RK"_s), entry(26, u"2"_s)});
+    const auto item = loaded({storedEntry(43, u"RK"_s), storedEntry(26, u"2"_s)});
     QVERIFY(item);
     QVERIFY(item->remove(QStringList()));
     const LogCapture log;
-    QVERIFY(!item->remove(QStringList({nameOf(43), u"missing"_s, nameOf(26)})));
+    QVERIFY(!item->remove(QStringList({storedName(43), u"missing"_s, storedName(26)})));
     QVERIFY(!item->contains(PropertyId(43)));
     QVERIFY(item->contains(PropertyId(26)));
     QCOMPARE(log.warnings().size(), 1);
@@ -334,22 +334,22 @@ void TestKeyValueItem::removeOfAListStopsAtTheFirstMissingKey()
 
 void TestKeyValueItem::setValueChangesTheTypeOfAPlainProperty()
 {
-    const auto item = loaded({entry(43, u"RK"_s)});
+    const auto item = loaded({storedEntry(43, u"RK"_s)});
     QVERIFY(item);
     const Spies spies(item.get());
-    QVERIFY(item->setValue(nameOf(43), 7));
-    QCOMPARE(item->KeyValueItem::type(nameOf(43)), 2);
-    QCOMPARE(item->value(nameOf(43)), QVariant(7));
+    QVERIFY(item->setValue(storedName(43), 7));
+    QCOMPARE(item->KeyValueItem::type(storedName(43)), 2);
+    QCOMPARE(item->value(storedName(43)), QVariant(7));
     QCOMPARE(spies.counts(), (QList<qsizetype>{0, 0, 0, 1, 0}));
-    QCOMPARE(spies.valueChanged.constFirst(), (QVariantList{nameOf(43), 7, u"RK"_s}));
+    QCOMPARE(spies.valueChanged.constFirst(), (QVariantList{storedName(43), 7, u"RK"_s}));
 }
 
 void TestKeyValueItem::setValueKeepsTypesOfTheProgram()
 {
-    const auto item = loaded({entry(67, QJsonObject{{u"modifications"_s, u"m"_s}})});
+    const auto item = loaded({storedEntry(67, QJsonObject{{u"modifications"_s, u"m"_s}})});
     QVERIFY(item);
     QVERIFY(item->setValue(PropertyId(67), QByteArray("{}")));
-    QCOMPARE(item->KeyValueItem::type(nameOf(67)), 4000);
+    QCOMPARE(item->KeyValueItem::type(storedName(67)), 4000);
     // A value of a type beyond the built-in ones changes no type.
     QVERIFY(item->insert(u"text"_s, u"t"_s, item->stringType()));
     QVERIFY(item->replace(u"text"_s, u"text"_s, {}, item->stringType()));
@@ -369,28 +369,28 @@ void TestKeyValueItem::setValueOfAMissingKeyWarns()
 void TestKeyValueItem::setValueOnAListTakesTextsAndPositions()
 {
     const QStringList texts = PropertySetCreator::listPropertiesData().value(PropertyId(44));
-    const auto item = loaded({entry(44, 0)});
+    const auto item = loaded({storedEntry(44, 0)});
     QVERIFY(item);
     const Spies spies(item.get());
     QVERIFY(item->setValue(PropertyId(44), texts.at(2)));
     QCOMPARE(item->value(PropertyId(44)), QVariant(texts.at(2)));
     QVERIFY(item->setValue(PropertyId(44), 1));
     QCOMPARE(item->value(PropertyId(44)), QVariant(texts.at(1)));
-    QCOMPARE(item->KeyValueItem::type(nameOf(44)), 1000);
+    QCOMPARE(item->KeyValueItem::type(storedName(44)), 1000);
     QCOMPARE(spies.valueChanged.count(), 2);
-    QCOMPARE(spies.valueChanged.at(1), (QVariantList{nameOf(44), texts.at(1), texts.at(2)}));
+    QCOMPARE(spies.valueChanged.at(1), (QVariantList{storedName(44), texts.at(1), texts.at(2)}));
 }
 
 void TestKeyValueItem::setValueOnAListRefusesOtherTexts()
 {
-    const auto item = loaded({entry(44, 0)});
+    const auto item = loaded({storedEntry(44, 0)});
     QVERIFY(item);
     const QVariant before = item->value(PropertyId(44));
     const Spies spies(item.get());
     const LogCapture log;
     QVERIFY(!item->setValue(PropertyId(44), u"Cauldron"_s));
     QVERIFY(!item->setValue(PropertyId(44), 99));
-    QVERIFY(log.warnings().contains(u"Can't find correct value for \"%1\""_s.arg(nameOf(44))));
+    QVERIFY(log.warnings().contains(u"Can't find correct value for \"%1\""_s.arg(storedName(44))));
     QCOMPARE(item->value(PropertyId(44)), before);
     QCOMPARE(spies.counts(), kSilence);
 }
@@ -398,7 +398,8 @@ void TestKeyValueItem::setValueOnAListRefusesOtherTexts()
 void TestKeyValueItem::setValueOnAnEditableListTakesAnyText()
 {
     KeyValueItem item(BaseItemType::Unknown);
-    ORV_VERIFY_OK(item.assignFromJson(cell({entry(130, 0)}), ValidationOption::SkipTypeValidation));
+    ORV_VERIFY_OK(
+        item.assignFromJson(searchCell({storedEntry(130, 0)}), ValidationOption::SkipTypeValidation));
     QVERIFY(item.setValue(PropertyId(130), u"Mine @ W | N-term"_s));
     QCOMPARE(item.value(PropertyId(130)), QVariant(u"Mine @ W | N-term"_s));
 }
@@ -406,7 +407,7 @@ void TestKeyValueItem::setValueOnAnEditableListTakesAnyText()
 void TestKeyValueItem::setValueOnOtherListsTakesNumbersAndKeys()
 {
     KeyValueItem item(BaseItemType::Unknown);
-    ORV_VERIFY_OK(item.assignFromJson(cell({entry(220, 1), entry(306, u"Fast"_s)}),
+    ORV_VERIFY_OK(item.assignFromJson(searchCell({storedEntry(220, 1), storedEntry(306, u"Fast"_s)}),
                                       ValidationOption::SkipTypeValidation));
     QVERIFY(item.setValue(PropertyId(220), 2));
     QCOMPARE(item.value(PropertyId(220)), QVariant(u"2"_s));
@@ -416,13 +417,13 @@ void TestKeyValueItem::setValueOnOtherListsTakesNumbersAndKeys()
 
 void TestKeyValueItem::setValueOnAListNeedsKeysAndAKnownName()
 {
-    const auto item = loaded({entry(44, 0)});
+    const auto item = loaded({storedEntry(44, 0)});
     QVERIFY(item);
-    QVERIFY(item->replace(nameOf(44), nameOf(44), 0, 1000));
+    QVERIFY(item->replace(storedName(44), storedName(44), 0, 1000));
     const LogCapture log;
     QVERIFY(!item->setValue(PropertyId(44), 1));
     QCOMPARE(log.warnings(),
-             QStringList(u"Cannot change an empty list with the key \"%1\""_s.arg(nameOf(44))));
+             QStringList(u"Cannot change an empty list with the key \"%1\""_s.arg(storedName(44))));
 
     auto *set = const_cast<KPropertySet *>(item->propertySet());
     auto *unknown = new KProperty("mine", u"a"_s, {}, {}, KProperty::ValueFromList);
@@ -434,10 +435,10 @@ void TestKeyValueItem::setValueOnAListNeedsKeysAndAKnownName()
 
 void TestKeyValueItem::optionsAreReadAndSet()
 {
-    const auto item = loaded({entry(43, u"RK"_s)});
+    const auto item = loaded({storedEntry(43, u"RK"_s)});
     QVERIFY(item);
-    QVERIFY(item->setOption(nameOf(43), "priority", 3));
-    QCOMPARE(item->option(nameOf(43), "priority"), QVariant(3));
+    QVERIFY(item->setOption(storedName(43), "priority", 3));
+    QCOMPARE(item->option(storedName(43), "priority"), QVariant(3));
     const LogCapture log;
     QVERIFY(!item->setOption(u"missing"_s, "priority", 3));
     QCOMPARE(log.warnings(), QStringList(u"Cannot update the non-existing key \"missing\""_s));
@@ -446,11 +447,11 @@ void TestKeyValueItem::optionsAreReadAndSet()
 void TestKeyValueItem::theBaseUrlReachesReferences()
 {
     const QUrl base = QUrl::fromLocalFile(u"/data/flow/"_s);
-    const auto item = loaded({entry(60, u"a.xml"_s), entry(43, u"RK"_s)});
+    const auto item = loaded({storedEntry(60, u"a.xml"_s), storedEntry(43, u"RK"_s)});
     QVERIFY(item);
     item->setBaseUrl(base);
-    QCOMPARE(item->option(nameOf(60), "baseUrl"), QVariant(base));
-    QVERIFY(item->option(nameOf(43), "baseUrl").isNull());
+    QCOMPARE(item->option(storedName(60), "baseUrl"), QVariant(base));
+    QVERIFY(item->option(storedName(43), "baseUrl").isNull());
     const auto valueOf = [&item](PropertyConversionFlag flag) {
         return item->toJson(flag).value(u"properties"_s).toArray().at(0).toObject().value(u"value"_s);
     };
@@ -463,7 +464,7 @@ namespace {
 QString glycansIn(const QJsonObject &savedCell)
 {
     for (const auto value : savedCell.value(u"properties"_s).toArray()) {
-        if (value.toObject().value(u"name"_s) == nameOf(58))
+        if (value.toObject().value(u"name"_s) == storedName(58))
             return value.toObject().value(u"value"_s).toObject().value(u"glycans"_s).toString();
     }
     return u"no glycans"_s;
@@ -474,7 +475,7 @@ QString glycansIn(const QJsonObject &savedCell)
 void TestKeyValueItem::glycanDatabasesBecomeAbsoluteInACopy()
 {
     const QJsonObject glycans{{u"glycans"_s, u"[human.txt] @ NGlycan"_s}};
-    const auto item = loaded({entry(58, glycans)});
+    const auto item = loaded({storedEntry(58, glycans)});
     QVERIFY(item);
     item->setBaseUrl(QUrl::fromLocalFile(u"/data/flow/"_s));
     const QVariant before = item->value(PropertyId(58));
@@ -488,8 +489,9 @@ void TestKeyValueItem::glycanDatabasesOfADocumentBecomeAbsolute()
 {
     PropertyEditorUtils::updateGlycanDatabasesToAbsolute(static_cast<Content *>(nullptr), {});
     const QJsonObject glycans{{u"glycans"_s, u"[human.txt] @ NGlycan"_s}};
-    const QJsonObject document = Documents::document({Documents::tab(
-        u"Tab"_s, {u"Column"_s, u"Other"_s}, {cell({entry(58, glycans)}), cell({entry(43, u"K"_s)})})});
+    const QJsonObject document = Documents::document(
+        {Documents::tab(u"Tab"_s, {u"Column"_s, u"Other"_s},
+                        {searchCell({storedEntry(58, glycans)}), searchCell({storedEntry(43, u"K"_s)})})});
     Content content;
     ORV_VERIFY_OK(content.assignFromJson(document, {}));
     PropertyEditorUtils::updateGlycanDatabasesToAbsolute(&content, QUrl::fromLocalFile(u"/data/flow/"_s));
@@ -505,7 +507,7 @@ void TestKeyValueItem::glycanDatabasesOfADocumentBecomeAbsolute()
 
 void TestKeyValueItem::clearTellsOnlyOfWhatWasThere()
 {
-    const auto item = loaded({entry(43, u"RK"_s)});
+    const auto item = loaded({storedEntry(43, u"RK"_s)});
     QVERIFY(item);
     QSignalSpy counts(item.get(), &KeyValueItem::countChanged);
     item->clear();
@@ -517,7 +519,7 @@ void TestKeyValueItem::clearTellsOnlyOfWhatWasThere()
 
 void TestKeyValueItem::propertiesAreMappedById()
 {
-    const auto item = loaded({entry(43, u"RK"_s)});
+    const auto item = loaded({storedEntry(43, u"RK"_s)});
     QVERIFY(item);
     QVERIFY(item->insert(u"mine"_s, 5, item->intType()));
     const QMultiMap<PropertyId, QVariant> map = item->propertiesMap();
@@ -530,7 +532,7 @@ void TestKeyValueItem::propertiesAreMappedById()
 
 void TestKeyValueItem::scriptsSeeTheItem()
 {
-    const auto item = loaded({entry(43, u"RK"_s)});
+    const auto item = loaded({storedEntry(43, u"RK"_s)});
     QVERIFY(item);
     QCOMPARE(item->property("keys").toStringList(), item->keys());
     QCOMPARE(item->property("size").toInt(), item->count());
@@ -545,7 +547,7 @@ void TestKeyValueItem::scriptsSeeTheItem()
         QVERIFY2(meta->indexOfMethod(signature) >= 0, signature);
     bool done = false;
     QVERIFY(QMetaObject::invokeMethod(item.get(), "setValue", Q_RETURN_ARG(bool, done),
-                                      Q_ARG(QString, nameOf(43)), Q_ARG(QVariant, u"K"_s)));
+                                      Q_ARG(QString, storedName(43)), Q_ARG(QVariant, u"K"_s)));
     QVERIFY(done);
     QCOMPARE(item->value(PropertyId(43)), QVariant(u"K"_s));
 }
@@ -558,14 +560,15 @@ void TestKeyValueItem::theFirstSettingsOfAColumnAnswerForIt()
         return error.hasError() ? nullptr : content->groups().constFirst()->subGroup(0);
     };
     Content settings;
-    const ItemSubGroup *column = columnOf({cell({entry(43, u"RK"_s)}), cell({entry(26, u"2"_s)})}, &settings);
+    const ItemSubGroup *column =
+        columnOf({searchCell({storedEntry(43, u"RK"_s)}), searchCell({storedEntry(26, u"2"_s)})}, &settings);
     QVERIFY(column);
-    QCOMPARE(column->firstValueOf(nameOf(43)), QVariant(u"RK"_s));
-    QVERIFY(!column->firstValueOf(nameOf(26)).isValid());
+    QCOMPARE(column->firstValueOf(storedName(43)), QVariant(u"RK"_s));
+    QVERIFY(!column->firstValueOf(storedName(26)).isValid());
     Content others;
     const ItemSubGroup *retired = columnOf({QJsonObject{{u"type"_s, u"SamplesProteins"_s}}}, &others);
     QVERIFY(retired);
-    QVERIFY(!retired->firstValueOf(nameOf(43)).isValid());
+    QVERIFY(!retired->firstValueOf(storedName(43)).isValid());
 }
 
 ORV_REGISTER_TEST(TestKeyValueItem)

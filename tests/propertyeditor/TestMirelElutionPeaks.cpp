@@ -3,6 +3,7 @@
 #include "RecordingQuestions.h"
 #include "SampleTree.h"
 #include "TestData.h"
+#include "TraceFiles.h"
 
 #include <orv/propertyeditor/ObsoleteCustomSettingsChecker.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
@@ -22,11 +23,6 @@ using SamplesInput::CustomColumns;
 using SamplesInput::SampleWithCustomColumns;
 
 namespace {
-
-QString goodFile()
-{
-    return TestData::path(u"core_ms/ms/three_test_scans.mzML"_s);
-}
 
 /// A cell of settings that holds these values.
 std::unique_ptr<KeyValueItem> itemWith(const QJsonObject &values)

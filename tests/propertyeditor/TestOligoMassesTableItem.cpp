@@ -32,9 +32,9 @@ private Q_SLOTS:
 
 namespace {
 
-constexpr auto kKeep = PropertyConversionFlag::KeepPaths;
+constexpr auto kKeepOligoMasses = PropertyConversionFlag::KeepPaths;
 
-QJsonObject masses()
+QJsonObject oligoMasses()
 {
     return entry(u"MassTable"_s, node({u"Name"_s, u"Mass"_s}, {{u"PO for PS"_s, -15.977}}));
 }
@@ -55,7 +55,7 @@ OligoImpurities someImpurities()
 
 QJsonArray full()
 {
-    return {masses(), entry(u"MatchTolerance"_s, node({u"Value"_s, u"Unit"_s}, {{30.5, u"ppm"_s}})),
+    return {oligoMasses(), entry(u"MatchTolerance"_s, node({u"Value"_s, u"Unit"_s}, {{30.5, u"ppm"_s}})),
             entry(u"Tolerances"_s, someTolerances().toJson()),
             entry(u"OligoImpurities"_s, someImpurities().toJson())};
 }
@@ -73,9 +73,9 @@ void TestOligoMassesTableItem::aNewOneHasDefaults()
 void TestOligoMassesTableItem::tolerancesAndImpuritiesAreAlwaysWritten()
 {
     OligoMassesTableItem item;
-    ORV_VERIFY_OK(item.assignFromJson(cell(u"OligoMasses"_s, {masses()}), {}));
-    QCOMPARE(item.toJson(kKeep),
-             cell(u"OligoMasses"_s, {masses(), entry(u"Tolerances"_s, MassTolerances().toJson()),
+    ORV_VERIFY_OK(item.assignFromJson(cell(u"OligoMasses"_s, {oligoMasses()}), {}));
+    QCOMPARE(item.toJson(kKeepOligoMasses),
+             cell(u"OligoMasses"_s, {oligoMasses(), entry(u"Tolerances"_s, MassTolerances().toJson()),
                                      entry(u"OligoImpurities"_s, OligoImpurities().toJson())}));
 }
 
@@ -89,7 +89,7 @@ void TestOligoMassesTableItem::everythingIsReadAndWritten()
     QVERIFY(item.hasMatchTolerance());
     QVERIFY(item.tolerances() == someTolerances());
     QVERIFY(item.impurities() == someImpurities());
-    QCOMPARE(item.toJson(kKeep), cell(u"OligoMasses"_s, full()));
+    QCOMPARE(item.toJson(kKeepOligoMasses), cell(u"OligoMasses"_s, full()));
     QCOMPARE(losses.losses(), QList<Loss>());
 }
 
@@ -98,7 +98,7 @@ void TestOligoMassesTableItem::absentEntriesLeaveTheValues()
     OligoMassesTableItem item;
     item.setTolerances(someTolerances());
     item.setImpurities(someImpurities());
-    ORV_VERIFY_OK(item.assignFromJson(cell(u"OligoMasses"_s, {masses()}), {}));
+    ORV_VERIFY_OK(item.assignFromJson(cell(u"OligoMasses"_s, {oligoMasses()}), {}));
     QVERIFY(item.tolerances() == someTolerances());
     QVERIFY(item.impurities() == someImpurities());
 }
@@ -120,7 +120,7 @@ void TestOligoMassesTableItem::aBadPayloadFailsTheLoad()
     QFETCH(const QJsonObject, bad);
     QFETCH(const QString, message);
     OligoMassesTableItem item;
-    const Error error = item.assignFromJson(cell(u"OligoMasses"_s, {masses(), bad}), {});
+    const Error error = item.assignFromJson(cell(u"OligoMasses"_s, {oligoMasses(), bad}), {});
     QCOMPARE(error.code(), ErrorCode::InvalidContent);
     QCOMPARE(error.errorMessage(), message);
     QVERIFY(!message.isEmpty());
@@ -143,7 +143,7 @@ void TestOligoMassesTableItem::aPayloadThatIsNoObjectIsReported()
     OligoMassesTableItem item;
     item.setLoadContext(LoadContext(&losses, u"/c"_s));
     ORV_VERIFY_OK(
-        item.assignFromJson(cell(u"OligoMasses"_s, {masses(), entry(u"Tolerances"_s, u"text"_s)}), {}));
+        item.assignFromJson(cell(u"OligoMasses"_s, {oligoMasses(), entry(u"Tolerances"_s, u"text"_s)}), {}));
     QCOMPARE(losses.losses().size(), 1);
     QCOMPARE(losses.losses().first().path, u"/c/properties/1/value"_s);
 }

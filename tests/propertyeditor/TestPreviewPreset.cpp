@@ -8,7 +8,7 @@
 using namespace orv;
 using namespace Qt::StringLiterals;
 
-using Content = PreviewPreset::Content;
+using PresetContent = PreviewPreset::Content;
 using MirelProperties = PreviewPreset::MirelProperties;
 
 namespace {
@@ -29,9 +29,9 @@ MirelProperties someProperties()
             .allCharges = true};
 }
 
-Content someContent()
+PresetContent someContent()
 {
-    return Content::fromMirelProperties(u"/s/a.raw"_s, u"/d/b.fasta"_s, u"/o"_s, someProperties());
+    return PresetContent::fromMirelProperties(u"/s/a.raw"_s, u"/d/b.fasta"_s, u"/o"_s, someProperties());
 }
 
 } // namespace
@@ -73,7 +73,7 @@ private:
 
 void TestPreviewPreset::defaultsOfTheFormsDiffer()
 {
-    const Content content;
+    const PresetContent content;
     QCOMPARE(content.fragType, -1);
     QCOMPARE(content.digestSide, -1);
     QCOMPARE(content.digestType, -1);
@@ -87,7 +87,7 @@ void TestPreviewPreset::defaultsOfTheFormsDiffer()
 
 void TestPreviewPreset::theFileHasTwentyLines()
 {
-    QCOMPARE(someContent().convertToFileContent(Content::WithoutHeader),
+    QCOMPARE(someContent().convertToFileContent(PresetContent::WithoutHeader),
              u"SpectraFiles=/s/a.raw\nDatabaseFiles=/d/b.fasta\nOutputFolder=/o\nArgMod=a=b\n"
              "CysMod=Carbamidomethyl / 57.021464\nLysMod=Acetyl / 42.010565\nNTermMod=Formyl / 27.994915\n"
              "CTermMod=Amidated / -0.984016\nDigestLetters=RK\nWildcard=1\nphospho_search=1\nAllCharges=1\n"
@@ -98,7 +98,7 @@ void TestPreviewPreset::theFileHasTwentyLines()
 void TestPreviewPreset::anEmptyContentIsWrittenWhole()
 {
     QCOMPARE(
-        Content().convertToFileContent(Content::ConvertMode(7)),
+        PresetContent().convertToFileContent(PresetContent::ConvertMode(7)),
         u"SpectraFiles=\nDatabaseFiles=\nOutputFolder=\nArgMod=\nCysMod=\nLysMod=\nNTermMod=\nCTermMod=\n"
         "DigestLetters=\nWildcard=0\nphospho_search=0\nAllCharges=0\nFragType=-1\ndigest_side=-1\n"
         "DigestType=-1\nFirstK=\nDebugMode=0\nDebugText=\nProteomeDiscovererSuggestedKarvonWorkflow=\n"
@@ -107,30 +107,30 @@ void TestPreviewPreset::anEmptyContentIsWrittenWhole()
 
 void TestPreviewPreset::theHeadNamesFormatAndTime()
 {
-    const QString text = Content().convertToFileContent(Content::WithHeader);
+    const QString text = PresetContent().convertToFileContent(PresetContent::WithHeader);
     const QStringList lines = text.split(u'\n');
     QCOMPARE(lines.at(0), u"#ORV-Preview parameters v1.15"_s);
     QVERIFY(lines.at(1).startsWith(u'#'));
     QVERIFY(QDateTime::fromString(lines.at(1).sliced(1), Qt::ISODate).isValid());
-    QCOMPARE(lines.sliced(2).join(u'\n'), Content().convertToFileContent(Content::WithoutHeader));
+    QCOMPARE(lines.sliced(2).join(u'\n'), PresetContent().convertToFileContent(PresetContent::WithoutHeader));
 }
 
 void TestPreviewPreset::aLineBreakEndsItsLine()
 {
-    Content content;
+    PresetContent content;
     content.argMod = u"a\nb"_s;
-    const QString text = content.convertToFileContent(Content::WithoutHeader);
+    const QString text = content.convertToFileContent(PresetContent::WithoutHeader);
     QVERIFY(text.contains(u"\nArgMod=a\nb\nCysMod="_s));
-    QCOMPARE(Content::fromFileContent(text.toUtf8()).argMod, u"a"_s);
+    QCOMPARE(PresetContent::fromFileContent(text.toUtf8()).argMod, u"a"_s);
 }
 
 void TestPreviewPreset::aFileIsReadBack()
 {
     QFile file(at(u"a.prv"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(someContent().convertToFileContent(Content::WithHeader).toUtf8());
+    file.write(someContent().convertToFileContent(PresetContent::WithHeader).toUtf8());
     file.close();
-    const Result<Content> content = Content::fromPreviewPresetFile(at(u"a.prv"_s));
+    const Result<PresetContent> content = PresetContent::fromPreviewPresetFile(at(u"a.prv"_s));
     ORV_VERIFY_OK(content);
     QVERIFY(*content == someContent());
     QCOMPARE(content.warnings(), QStringList());
@@ -138,9 +138,9 @@ void TestPreviewPreset::aFileIsReadBack()
 
 void TestPreviewPreset::theOrderOfLinesDoesNotMatter()
 {
-    QStringList lines = someContent().convertToFileContent(Content::WithHeader).split(u'\n');
+    QStringList lines = someContent().convertToFileContent(PresetContent::WithHeader).split(u'\n');
     std::ranges::reverse(lines);
-    QVERIFY(Content::fromFileContent(lines.join(u'\n').toUtf8()) == someContent());
+    QVERIFY(PresetContent::fromFileContent(lines.join(u'\n').toUtf8()) == someContent());
 }
 
 void TestPreviewPreset::linesAreRead_data()
@@ -191,35 +191,36 @@ void TestPreviewPreset::linesAreRead()
     QFETCH(QByteArray, line);
     QFETCH(QByteArray, written);
     const QByteArray text =
-        Content::fromFileContent(line).convertToFileContent(Content::WithoutHeader).toUtf8();
+        PresetContent::fromFileContent(line).convertToFileContent(PresetContent::WithoutHeader).toUtf8();
     QVERIFY2(text.contains('\n' + written + '\n'), text.constData());
 }
 
 void TestPreviewPreset::theLaterOfTwoLinesCounts()
 {
-    QCOMPARE(Content::fromFileContent("ArgMod=a\nArgMod=b\nArgMod=\n").argMod, u"b"_s);
+    QCOMPARE(PresetContent::fromFileContent("ArgMod=a\nArgMod=b\nArgMod=\n").argMod, u"b"_s);
 }
 
 void TestPreviewPreset::linesOfOtherKeysArePassedOver()
 {
-    QVERIFY(Content::fromFileContent("FirstK=3\nDebugMode=1\nDebugText=x\nNoSuchKey=1\n"
-                                     "ProteomeDiscovererVersion=2\n") == Content());
+    QVERIFY(PresetContent::fromFileContent("FirstK=3\nDebugMode=1\nDebugText=x\nNoSuchKey=1\n"
+                                           "ProteomeDiscovererVersion=2\n") == PresetContent());
 }
 
 void TestPreviewPreset::aHeadAloneGivesDefaults()
 {
-    QVERIFY(Content::fromFileContent("#ORV-Preview parameters v1.15\n#2026-11-15T04:11:00\n") == Content());
-    QVERIFY(Content::fromFileContent("") == Content());
+    QVERIFY(PresetContent::fromFileContent("#ORV-Preview parameters v1.15\n#2026-11-15T04:11:00\n") ==
+            PresetContent());
+    QVERIFY(PresetContent::fromFileContent("") == PresetContent());
 }
 
 void TestPreviewPreset::anyHeadIsRead()
 {
-    QCOMPARE(Content::fromFileContent("#ORV-Preview parameters v9.99\nFragType=2").fragType, 2);
+    QCOMPARE(PresetContent::fromFileContent("#ORV-Preview parameters v9.99\nFragType=2").fragType, 2);
 }
 
 void TestPreviewPreset::windowsLineEndsAreRead()
 {
-    const Content content = Content::fromFileContent("ArgMod=a\r\nFragType=2\r\nCysMod=\r\n");
+    const PresetContent content = PresetContent::fromFileContent("ArgMod=a\r\nFragType=2\r\nCysMod=\r\n");
     QCOMPARE(content.argMod, u"a"_s);
     QCOMPARE(content.fragType, 2);
     QCOMPARE(content.cysMod, u""_s);
@@ -227,8 +228,8 @@ void TestPreviewPreset::windowsLineEndsAreRead()
 
 void TestPreviewPreset::aLongLineWithoutSignIsPassedOverAtOnce()
 {
-    QVERIFY(Content::fromFileContent(QByteArray(4'000'000, 'a')) == Content());
-    QVERIFY(Content::fromFileContent("==" + QByteArray(4'000'000, 'a')) == Content());
+    QVERIFY(PresetContent::fromFileContent(QByteArray(4'000'000, 'a')) == PresetContent());
+    QVERIFY(PresetContent::fromFileContent("==" + QByteArray(4'000'000, 'a')) == PresetContent());
 }
 
 void TestPreviewPreset::aFileThatCannotBeReadFails_data()
@@ -243,9 +244,9 @@ void TestPreviewPreset::aFileThatCannotBeReadFails()
 {
     QFETCH(QString, name);
     QFile large(at(u"large.prv"_s));
-    QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(Content::kMaximumSize + 1));
+    QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(PresetContent::kMaximumSize + 1));
     large.close();
-    const Result<Content> content = Content::fromPreviewPresetFile(at(name));
+    const Result<PresetContent> content = PresetContent::fromPreviewPresetFile(at(name));
     QVERIFY(content.hasError());
     QCOMPARE(content.error().code(), ErrorCode::CannotOpenFile);
     QCOMPARE(int(content.error().code()), 4);
@@ -306,14 +307,14 @@ void TestPreviewPreset::ofSeveralValuesTheFoundOneCounts()
 
 void TestPreviewPreset::theFormsExchangeFieldsByName()
 {
-    const Content content = someContent();
+    const PresetContent content = someContent();
     QCOMPARE(content.spectraFiles, u"/s/a.raw"_s);
     QCOMPARE(content.databaseFiles, u"/d/b.fasta"_s);
     QCOMPARE(content.outputFolder, u"/o"_s);
     QCOMPARE(content.digestSide, 1);
     QCOMPARE(content.lysMod, u"Acetyl / 42.010565"_s);
     QVERIFY(MirelProperties::fromPreviewPreset(content) == someProperties());
-    QCOMPARE(MirelProperties::fromPreviewPreset(Content()).digestType, -1);
+    QCOMPARE(MirelProperties::fromPreviewPreset(PresetContent()).digestType, -1);
 }
 
 void TestPreviewPreset::aWorkflowIsWrittenWithAHead()
@@ -321,7 +322,7 @@ void TestPreviewPreset::aWorkflowIsWrittenWithAHead()
     const QString text = PreviewPreset::createPresetContentFromWorkflow(u"/s/a.raw"_s, u"/d/b.fasta"_s,
                                                                         u"/o"_s, someProperties());
     QVERIFY(text.startsWith(u"#ORV-Preview parameters v1.15\n#"_s));
-    QVERIFY(text.endsWith(someContent().convertToFileContent(Content::WithoutHeader)));
+    QVERIFY(text.endsWith(someContent().convertToFileContent(PresetContent::WithoutHeader)));
 }
 
 ORV_REGISTER_TEST(TestPreviewPreset)

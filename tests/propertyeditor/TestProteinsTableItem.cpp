@@ -32,7 +32,7 @@ private Q_SLOTS:
 
 namespace {
 
-constexpr auto kKeep = PropertyConversionFlag::KeepPaths;
+constexpr auto kKeepProteins = PropertyConversionFlag::KeepPaths;
 
 ProteinAnnotationEntry annotation()
 {
@@ -44,7 +44,7 @@ ProteinAnnotationEntry annotation()
     return annotation;
 }
 
-QJsonObject table(const QJsonValue &annotations)
+QJsonObject proteinTable(const QJsonValue &annotations)
 {
     QJsonObject value = node({u"ProteinAccessionName"_s, u"ProteinSequence"_s}, {{u"HC"_s, u"EVQLV"_s}});
     if (!annotations.isUndefined())
@@ -54,7 +54,7 @@ QJsonObject table(const QJsonValue &annotations)
 
 QJsonObject proteins(const QJsonValue &annotations = QJsonArray{annotation().toJson()})
 {
-    return cell(u"Proteins"_s, {entry(u"Proteins"_s, table(annotations))});
+    return cell(u"Proteins"_s, {entry(u"Proteins"_s, proteinTable(annotations))});
 }
 
 } // namespace
@@ -75,7 +75,7 @@ void TestProteinsTableItem::proteinsAreReadAndWritten()
     ORV_VERIFY_OK(item.assignFromJson(proteins(), {}));
     QCOMPARE(item.value(0, 1), QVariant(u"EVQLV"_s));
     QVERIFY(item.proteinAnnotations() == QList{annotation()});
-    QCOMPARE(item.toJson(kKeep), proteins());
+    QCOMPARE(item.toJson(kKeepProteins), proteins());
     QCOMPARE(item.toJson(PropertyConversionFlag::AbsolutePaths), proteins());
     QCOMPARE(losses.losses(), QList<Loss>());
 }
@@ -84,7 +84,7 @@ void TestProteinsTableItem::absentAnnotationsAreWrittenAsNone()
 {
     ProteinsTableItem item;
     ORV_VERIFY_OK(item.assignFromJson(proteins(QJsonValue::Undefined), {}));
-    QCOMPARE(item.toJson(kKeep), proteins(QJsonArray()));
+    QCOMPARE(item.toJson(kKeepProteins), proteins(QJsonArray()));
 }
 
 void TestProteinsTableItem::aLoadReplacesTheAnnotations()
@@ -129,7 +129,7 @@ void TestProteinsTableItem::theContentIsGivenAndTaken()
     ORV_VERIFY_OK(source.assignFromJson(proteins(), {}));
     ProteinsTableItem target;
     target.setContent(source.content());
-    QCOMPARE(target.toJson(kKeep), proteins());
+    QCOMPARE(target.toJson(kKeepProteins), proteins());
     QVERIFY(target.content().root == source.content().root);
     QVERIFY(target.content().annotations == source.content().annotations);
 }

@@ -12,9 +12,9 @@ using ProjectFixtures::step;
 
 namespace {
 
-const QString kNoSamples = u"The workflow doesn't have any samples"_s;
+const QString kNoSampleMatches = u"The workflow doesn't have any samples"_s;
 
-QJsonObject twoSamples()
+QJsonObject lotAndBlank()
 {
     return samplesCell({{u"lot 1"_s, u"/data/1.raw"_s, {}, {}}, {u"blank"_s, u"/data/blank.raw"_s, {}, {}}});
 }
@@ -70,7 +70,7 @@ void TestSamplesPatternValidator::samplesAreNeeded()
     QFETCH(QJsonArray, cells);
     const ValidatorRun run = check(cells);
     QVERIFY(!run.isGood);
-    QCOMPARE(run.errors, QList<QString>{kNoSamples});
+    QCOMPARE(run.errors, QList<QString>{kNoSampleMatches});
     QVERIFY(!run.findings.constFirst().hint.isEmpty());
 }
 
@@ -127,18 +127,18 @@ void TestSamplesPatternValidator::patternsChooseSamples()
     for (const char *type :
          {"Dravik", "Senthia", "Karvon", "Preview", "Intact", "Oligo", "Ostrale", "Trenq", "TrenqPreview"}) {
         const QString name = QString::fromLatin1(type);
-        const ValidatorRun run = check({twoSamples(), step(name, pattern)});
+        const ValidatorRun run = check({lotAndBlank(), step(name, pattern)});
         QCOMPARE(run.isGood, isGood);
         QCOMPARE(run.errors, isGood ? QList<QString>() : QList<QString>{noneUse(name)});
         QVERIFY(run.warnings.isEmpty());
     }
     // No document by this rule.
-    QVERIFY(check({twoSamples(), step(u"CaldrinDIA"_s, pattern)}).isGood);
+    QVERIFY(check({lotAndBlank(), step(u"CaldrinDIA"_s, pattern)}).isGood);
 }
 
 void TestSamplesPatternValidator::oneOfThreeDocumentsWithoutSamplesIsAWarning()
 {
-    const ValidatorRun run = check({twoSamples(), step(u"Trenq"_s, u"lot*"_s), step(u"Trenq"_s, u"none"_s),
+    const ValidatorRun run = check({lotAndBlank(), step(u"Trenq"_s, u"lot*"_s), step(u"Trenq"_s, u"none"_s),
                                     step(u"Trenq"_s, u"blank"_s)});
     QVERIFY(run.isGood);
     QCOMPARE(run.errors, QList<QString>());
@@ -148,7 +148,7 @@ void TestSamplesPatternValidator::oneOfThreeDocumentsWithoutSamplesIsAWarning()
 void TestSamplesPatternValidator::eachTypeIsCountedOnItsOwn()
 {
     const ValidatorRun run =
-        check({twoSamples(), step(u"Senthia"_s, u"none"_s), step(u"Karvon"_s, u"none"_s),
+        check({lotAndBlank(), step(u"Senthia"_s, u"none"_s), step(u"Karvon"_s, u"none"_s),
                step(u"Karvon"_s, u"lot*"_s), step(u"Intact"_s, u"none"_s), step(u"Intact"_s, u"nobody"_s)});
     QVERIFY(!run.isGood);
     QCOMPARE(run.errors, (QList<QString>{noneUse(u"Senthia"_s), noneUse(u"Intact"_s)}));
@@ -158,7 +158,7 @@ void TestSamplesPatternValidator::eachTypeIsCountedOnItsOwn()
 void TestSamplesPatternValidator::findingsNameTheDocuments()
 {
     const Content content =
-        contentOf({twoSamples(), step(u"Intact"_s, u"none"_s), step(u"Intact"_s, u"nobody"_s)});
+        contentOf({lotAndBlank(), step(u"Intact"_s, u"none"_s), step(u"Intact"_s, u"nobody"_s)});
     const ValidatorRun run = runOf<SamplesPatternValidator>(content);
     QCOMPARE(run.findings.size(), 2);
     const QList<BaseItem *> documents = content.findDocumentItems();

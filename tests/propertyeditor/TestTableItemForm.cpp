@@ -42,9 +42,9 @@ private Q_SLOTS:
 
 namespace {
 
-constexpr auto kKeep = PropertyConversionFlag::KeepPaths;
+constexpr auto kKeepForm = PropertyConversionFlag::KeepPaths;
 
-const QJsonObject &table()
+const QJsonObject &isotopeTable()
 {
     static const QJsonObject object =
         node({u"Name"_s, u"Mass"_s}, {{u"C13"_s, 1.00335}, {u"N15"_s, 0.99703}});
@@ -53,7 +53,7 @@ const QJsonObject &table()
 
 QJsonObject isotopes()
 {
-    QJsonObject json = cell(u"Isotope"_s, {entry(u"Isotope"_s, table())});
+    QJsonObject json = cell(u"Isotope"_s, {entry(u"Isotope"_s, isotopeTable())});
     json.insert(u"name"_s, u"Isotopes"_s);
     json.insert(u"title"_s, u"Labels"_s);
     json.insert(u"metadata"_s, u"{\"user\":\"anna\"}"_s);
@@ -81,12 +81,12 @@ void TestTableItemForm::aCellIsReadAndWritten()
     QCOMPARE(item.metadata(), u"{\"user\":\"anna\"}"_s);
     QCOMPARE(item.columnNames(), (QStringList{u"Name"_s, u"Mass"_s}));
     QCOMPARE(item.value(1, 1), QVariant(0.99703));
-    QCOMPARE(item.toJson(kKeep), isotopes());
+    QCOMPARE(item.toJson(kKeepForm), isotopes());
 }
 
 void TestTableItemForm::anEmptyTableIsWritten()
 {
-    QCOMPARE(TableItem().toJson(kKeep), cell(u"Isotope"_s, {entry(u"Isotope"_s, node({}))}));
+    QCOMPARE(TableItem().toJson(kKeepForm), cell(u"Isotope"_s, {entry(u"Isotope"_s, node({}))}));
 }
 
 void TestTableItemForm::theFlagChangesNothing()
@@ -100,12 +100,12 @@ void TestTableItemForm::theOtherSamplesWriteTheirCustomColumns()
 {
     const QJsonObject definitions = node({QJsonObject{{u"name"_s, u"Age"_s}}});
     const QJsonObject json =
-        cell(u"Karvon"_s, {entry(u"Samples"_s, table()), entry(u"CustomColumns"_s, definitions)});
+        cell(u"Karvon"_s, {entry(u"Samples"_s, isotopeTable()), entry(u"CustomColumns"_s, definitions)});
     TableItem item(PropertyId::Samples, BaseItemType::Karvon);
-    QCOMPARE(item.toJson(kKeep),
+    QCOMPARE(item.toJson(kKeepForm),
              cell(u"Karvon"_s, {entry(u"Samples"_s, node({})), entry(u"CustomColumns"_s, node({}))}));
     ORV_VERIFY_OK(item.assignFromJson(json, {}));
-    QCOMPARE(item.toJson(kKeep), json);
+    QCOMPARE(item.toJson(kKeepForm), json);
     QVERIFY(lossesOf(json, PropertyId::Samples).isEmpty());
 }
 
@@ -114,9 +114,10 @@ void TestTableItemForm::customColumnsAreRead()
     const QJsonObject definitions = node({QJsonObject{{u"name"_s, u"Age"_s}}});
     TableItem item;
     ORV_VERIFY_OK(item.assignFromJson(
-        cell(u"Isotope"_s, {entry(u"CustomColumns"_s, definitions), entry(u"Isotope"_s, table())}), {}));
+        cell(u"Isotope"_s, {entry(u"CustomColumns"_s, definitions), entry(u"Isotope"_s, isotopeTable())}),
+        {}));
     QCOMPARE(item.customColumnsMetaData().data.at(0).toMap().value(u"name"_s), QVariant(u"Age"_s));
-    QCOMPARE(item.toJson(kKeep), cell(u"Isotope"_s, {entry(u"Isotope"_s, table())}));
+    QCOMPARE(item.toJson(kKeepForm), cell(u"Isotope"_s, {entry(u"Isotope"_s, isotopeTable())}));
 
     ORV_VERIFY_OK(item.assignFromJson(isotopes(), {}));
     QVERIFY(item.customColumnsMetaData().isEmpty());
@@ -128,7 +129,7 @@ void TestTableItemForm::aLoadReplacesTheTable()
     ORV_VERIFY_OK(item.assignFromJson(isotopes(), {}));
     const QJsonObject other = cell(u"Isotope"_s, {entry(u"Isotope"_s, node({u"X"_s}, {{1}}))});
     ORV_VERIFY_OK(item.assignFromJson(other, {}));
-    QCOMPARE(item.toJson(kKeep), other);
+    QCOMPARE(item.toJson(kKeepForm), other);
 }
 
 void TestTableItemForm::aLoadIsAnnouncedOnce()
@@ -146,7 +147,7 @@ void TestTableItemForm::propertiesHaveToBeAnArray_data()
     QTest::addColumn<QJsonObject>("json");
     QTest::addColumn<QString>("detail");
     QJsonObject json = isotopes();
-    json.insert(u"properties"_s, QJsonObject{{u"Isotope"_s, table()}});
+    json.insert(u"properties"_s, QJsonObject{{u"Isotope"_s, isotopeTable()}});
     QTest::newRow("an object") << json << u"It has to be an array, and is an object."_s;
     json.remove(u"properties"_s);
     QTest::newRow("nothing") << json << u"It has to be an array, and is nothing."_s;
@@ -171,7 +172,7 @@ void TestTableItemForm::theTableHasToBeThere_data()
     QTest::addColumn<QJsonArray>("properties");
     QTest::addColumn<bool>("told");
     QTest::newRow("no properties") << QJsonArray() << true;
-    QTest::newRow("other properties") << QJsonArray{entry(u"MassTable"_s, table())} << false;
+    QTest::newRow("other properties") << QJsonArray{entry(u"MassTable"_s, isotopeTable())} << false;
     QTest::newRow("entries that are no objects") << QJsonArray{5, u"Isotope"_s} << false;
 }
 
@@ -197,7 +198,7 @@ void TestTableItemForm::aFailedLoadLeavesAnEmptyTable_data()
 {
     QTest::addColumn<QJsonObject>("json");
     QTest::newRow("no properties") << QJsonObject{{u"type"_s, u"Isotope"_s}};
-    QTest::newRow("no table") << cell(u"Isotope"_s, {5});
+    QTest::newRow("no isotopeTable") << cell(u"Isotope"_s, {5});
 }
 
 void TestTableItemForm::aFailedLoadLeavesAnEmptyTable()
@@ -215,7 +216,8 @@ void TestTableItemForm::clearingAnnouncesNothing()
     TableItem item(PropertyId::Samples, BaseItemType::Karvon);
     const QJsonObject definitions = node({QJsonObject{{u"name"_s, u"Age"_s}}});
     ORV_VERIFY_OK(item.assignFromJson(
-        cell(u"Karvon"_s, {entry(u"Samples"_s, table()), entry(u"CustomColumns"_s, definitions)}), {}));
+        cell(u"Karvon"_s, {entry(u"Samples"_s, isotopeTable()), entry(u"CustomColumns"_s, definitions)}),
+        {}));
     const QSignalSpy reset(&item, &BaseItem::reset);
     const QSignalSpy rows(&item, &BaseTableItem::rowCountChanged);
     const QSignalSpy columns(&item, &BaseTableItem::columnCountChanged);
@@ -232,21 +234,22 @@ void TestTableItemForm::whatIsNotKeptIsReported_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("what");
 
-    const QJsonObject main = entry(u"Isotope"_s, table());
+    const QJsonObject main = entry(u"Isotope"_s, isotopeTable());
     QJsonObject json = isotopes();
     json.insert(u"a/b"_s, 1);
-    QTest::newRow("member of the cell") << json << u"/c/a~1b"_s << u"member \"a/b\" of a table cell"_s;
+    QTest::newRow("member of the cell") << json << u"/c/a~1b"_s << u"member \"a/b\" of a isotopeTable cell"_s;
 
     json = isotopes();
     json.insert(u"title"_s, QJsonArray{1});
-    QTest::newRow("title that is no text") << json << u"/c/title"_s << u"member \"title\" of a table cell"_s;
+    QTest::newRow("title that is no text")
+        << json << u"/c/title"_s << u"member \"title\" of a isotopeTable cell"_s;
 
-    QTest::newRow("other property") << cell(u"Isotope"_s, {main, entry(u"MassTable"_s, table())})
+    QTest::newRow("other property") << cell(u"Isotope"_s, {main, entry(u"MassTable"_s, isotopeTable())})
                                     << u"/c/properties/1"_s << u"property \"MassTable\""_s;
     QTest::newRow("unknown property")
         << cell(u"Isotope"_s, {entry(u"Odd"_s, 1), main}) << u"/c/properties/0"_s << u"property \"Odd\""_s;
-    QTest::newRow("second table") << cell(u"Isotope"_s, {main, main}) << u"/c/properties/1"_s
-                                  << u"property \"Isotope\""_s;
+    QTest::newRow("second isotopeTable")
+        << cell(u"Isotope"_s, {main, main}) << u"/c/properties/1"_s << u"property \"Isotope\""_s;
     QTest::newRow("custom columns, which are read but not written")
         << cell(u"Isotope"_s, {main, entry(u"CustomColumns"_s, node({}))}) << u"/c/properties/1"_s
         << u"property \"CustomColumns\""_s;
@@ -254,13 +257,13 @@ void TestTableItemForm::whatIsNotKeptIsReported_data()
     QJsonObject grouped = main;
     grouped.insert(u"group"_s, u"g"_s);
     QTest::newRow("member of the entry") << cell(u"Isotope"_s, {grouped}) << u"/c/properties/0/group"_s
-                                         << u"member \"group\" of a table cell"_s;
+                                         << u"member \"group\" of a isotopeTable cell"_s;
 
-    QTest::newRow("text as table") << cell(u"Isotope"_s, {entry(u"Isotope"_s, u"text"_s)})
-                                   << u"/c/properties/0/value"_s << u"value of the table"_s;
-    QTest::newRow("object that is no table")
+    QTest::newRow("text as isotopeTable") << cell(u"Isotope"_s, {entry(u"Isotope"_s, u"text"_s)})
+                                          << u"/c/properties/0/value"_s << u"value of the isotopeTable"_s;
+    QTest::newRow("object that is no isotopeTable")
         << cell(u"Isotope"_s, {entry(u"Isotope"_s, QJsonObject{{u"data"_s, 5}})})
-        << u"/c/properties/0/value"_s << u"value of the table"_s;
+        << u"/c/properties/0/value"_s << u"value of the isotopeTable"_s;
 }
 
 void TestTableItemForm::whatIsNotKeptIsReported()
@@ -277,7 +280,7 @@ void TestTableItemForm::whatIsNotKeptIsReported()
 
 void TestTableItemForm::membersOfRowsAreReported()
 {
-    QJsonObject odd = table();
+    QJsonObject odd = isotopeTable();
     odd.insert(u"version"_s, 2);
     QJsonArray rows = odd.value(u"children"_s).toArray();
     QJsonObject second = rows.at(1).toObject();

@@ -5,6 +5,7 @@
 #include "SampleTree.h"
 #include "TableCells.h"
 #include "TestData.h"
+#include "TraceFiles.h"
 
 #include <orv/core_ms/MsDataAccessorsFactory.h>
 #include <orv/propertyeditor/content/Content.h>
@@ -24,11 +25,6 @@ using Entry = TracesImportList::Entry;
 using Helper = WflwUpgradeHelper;
 
 namespace {
-
-QString goodFile()
-{
-    return TestData::path(u"core_ms/ms/three_test_scans.mzML"_s);
-}
 
 QString closedFile()
 {

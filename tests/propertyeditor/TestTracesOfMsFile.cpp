@@ -4,6 +4,7 @@
 #include "RecordingQuestions.h"
 #include "SampleTree.h"
 #include "TestData.h"
+#include "TraceFiles.h"
 
 #include <orv/core_ms/CustomSettingsUtils.h>
 #include <orv/propertyeditor/workflow/MirelElutionPeaksBackwardsCompatibility.h>
@@ -19,11 +20,6 @@ namespace {
 ResourceReferenceSPtr reference(const QString &text)
 {
     return ResourceReference::fromString(text).valueOr({});
-}
-
-QString goodFile()
-{
-    return TestData::path(u"core_ms/ms/three_test_scans.mzML"_s);
 }
 
 const QString kMissing = u"/nowhere/run 1.mzML"_s;

@@ -16,7 +16,7 @@ using msreader::DataSourceLocation;
 using msreader::MsFileInfo;
 using msreader::VendorDataFormat;
 
-struct Answer
+struct DetectAnswer
 {
     QString path;
     QStringList formats;
@@ -31,9 +31,9 @@ DataSourceLocation locationOf(QString path)
     return DataSourceLocation::ofPath(path);
 }
 
-Answer answerFor(const QString &path, bool byName)
+DetectAnswer answerFor(const QString &path, bool byName)
 {
-    Answer answer{path, {}, {}};
+    DetectAnswer answer{path, {}, {}};
     const DataSourceLocation location = locationOf(path);
     const QSet<VendorDataFormat> found = MsFileInfo::detectFormat(location, byName, false);
     QList<VendorDataFormat> formats(found.begin(), found.end());
@@ -45,7 +45,7 @@ Answer answerFor(const QString &path, bool byName)
     return answer;
 }
 
-QJsonObject toJson(const Answer &answer)
+QJsonObject toJson(const DetectAnswer &answer)
 {
     return {{QStringLiteral("path"), answer.path},
             {QStringLiteral("formats"), QJsonArray::fromStringList(answer.formats)},
@@ -64,11 +64,11 @@ public:
 
     int run(const GlobalOptions &options) override
     {
-        QList<Answer> answers;
+        QList<DetectAnswer> answers;
         for (const QString &path : m_paths)
             answers.append(answerFor(path, m_byName));
         int exitCode = options.json ? printAnswersAsJson(answers) : printText(toText(answers));
-        for (const Answer &answer : std::as_const(answers)) {
+        for (const DetectAnswer &answer : std::as_const(answers)) {
             if (answer.failure)
                 printFailure(answer.path, *answer.failure);
             if (answer.failure || answer.formats.isEmpty())
@@ -78,27 +78,27 @@ public:
     }
 
 private:
-    static int printAnswersAsJson(const QList<Answer> &answers)
+    static int printAnswersAsJson(const QList<DetectAnswer> &answers)
     {
         QJsonArray array;
-        for (const Answer &answer : answers)
+        for (const DetectAnswer &answer : answers)
             array.append(toJson(answer));
         return printJson(array);
     }
 
-    [[nodiscard]] QString toText(const QList<Answer> &answers) const
+    [[nodiscard]] QString toText(const QList<DetectAnswer> &answers) const
     {
         qsizetype width = 0;
-        for (const Answer &answer : answers)
+        for (const DetectAnswer &answer : answers)
             width = std::max(width, answer.path.size());
         QString text;
-        for (const Answer &answer : answers)
+        for (const DetectAnswer &answer : answers)
             text += withoutControls(answer.path.leftJustified(width)) + QLatin1String("  ") +
                     verdict(answer) + QLatin1Char('\n');
         return text;
     }
 
-    [[nodiscard]] QString verdict(const Answer &answer) const
+    [[nodiscard]] QString verdict(const DetectAnswer &answer) const
     {
         if (!answer.formats.isEmpty())
             return styled(answer.formats.join(QLatin1String(", ")), Style::Good);

@@ -14,9 +14,9 @@ namespace orv::cli {
 
 namespace {
 
-using Kind = WorkflowDifference::Kind;
+using DifferenceKind = WorkflowDifference::Kind;
 
-struct KindRow
+struct DifferenceKindRow
 {
     const char *name;
     const char *mark;
@@ -24,20 +24,20 @@ struct KindRow
 };
 
 // By the number of the kind.
-constexpr std::array kKinds = {
-    KindRow{"added", "+", Style::Good},
-    KindRow{"removed", "-", Style::Bad},
-    KindRow{"changed", "~", Style::Caution},
+constexpr std::array kDifferenceKinds = {
+    DifferenceKindRow{"added", "+", Style::Good},
+    DifferenceKindRow{"removed", "-", Style::Bad},
+    DifferenceKindRow{"changed", "~", Style::Caution},
 };
 
-const KindRow &rowOf(Kind kind)
+const DifferenceKindRow &rowOf(DifferenceKind kind)
 {
-    return kKinds.at(size_t(kind));
+    return kDifferenceKinds.at(size_t(kind));
 }
 
 QString line(const WorkflowDifference &difference)
 {
-    const KindRow &row = rowOf(difference.kind);
+    const DifferenceKindRow &row = rowOf(difference.kind);
     QStringList values;
     for (const QJsonValue &value : {difference.left, difference.right}) {
         if (!value.isUndefined())

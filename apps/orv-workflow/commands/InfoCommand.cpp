@@ -13,14 +13,14 @@ namespace orv::cli {
 
 namespace {
 
-struct Answer
+struct InfoAnswer
 {
     QString file;
     std::optional<WorkflowSummary> summary;
     std::optional<Failure> failure;
 };
 
-Answer answerFor(const BatchInput &input)
+InfoAnswer answerFor(const BatchInput &input)
 {
     if (input.failure)
         return {input.file, {}, input.failure};
@@ -30,7 +30,7 @@ Answer answerFor(const BatchInput &input)
     return {input.file, WorkflowSummary::of(PropertyEditorContent(*document)), {}};
 }
 
-QJsonObject toJson(const Answer &answer)
+QJsonObject toJson(const InfoAnswer &answer)
 {
     QJsonObject json = answer.summary ? summaryToJson(*answer.summary) : emptySummaryJson();
     json.insert(QStringLiteral("file"), answer.file);
@@ -50,7 +50,7 @@ public:
     int run(const GlobalOptions &options) override
     {
         const QList<BatchInput> inputs = batchInputs(m_files);
-        std::vector<Answer> answers(size_t(inputs.size()));
+        std::vector<InfoAnswer> answers(size_t(inputs.size()));
         {
             Progress progress(options.progress || standardErrorIsTerminal(), inputs.size());
             runBatch(inputs.size(), m_jobs, progress,
@@ -58,7 +58,7 @@ public:
         }
         const int printed = options.json ? printAnswersAsJson(answers) : printAnswersAsText(answers);
         int exitCode = printed;
-        for (const Answer &answer : answers) {
+        for (const InfoAnswer &answer : answers) {
             if (!answer.failure)
                 continue;
             printFailure(answer.file, *answer.failure);
@@ -68,18 +68,18 @@ public:
     }
 
 private:
-    static int printAnswersAsJson(const std::vector<Answer> &answers)
+    static int printAnswersAsJson(const std::vector<InfoAnswer> &answers)
     {
         QJsonArray array;
-        for (const Answer &answer : answers)
+        for (const InfoAnswer &answer : answers)
             array.append(toJson(answer));
         return printJson(array);
     }
 
-    static int printAnswersAsText(const std::vector<Answer> &answers)
+    static int printAnswersAsText(const std::vector<InfoAnswer> &answers)
     {
         QStringList texts;
-        for (const Answer &answer : answers) {
+        for (const InfoAnswer &answer : answers) {
             if (answer.summary)
                 texts.append(summaryToText(answer.file, *answer.summary));
         }

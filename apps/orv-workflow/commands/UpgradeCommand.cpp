@@ -18,7 +18,7 @@ namespace orv::cli {
 
 namespace {
 
-void raise(std::atomic<int> *exitCode, int code)
+void raiseExitCode(std::atomic<int> *exitCode, int code)
 {
     int seen = exitCode->load();
     while (seen < code && !exitCode->compare_exchange_weak(seen, code)) {
@@ -98,12 +98,12 @@ private:
                 if (printsWorkflow)
                     report.text.clear();
                 if (report.failure)
-                    raise(&exitCode, report.failure->exitCode);
+                    raiseExitCode(&exitCode, report.failure->exitCode);
                 reports.add(i, std::move(report));
             });
         }
         if (!reports.finish())
-            raise(&exitCode, BadOutput);
+            raiseExitCode(&exitCode, BadOutput);
         return exitCode;
     }
 

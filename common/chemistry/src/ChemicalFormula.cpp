@@ -9,16 +9,17 @@ namespace orv {
 
 namespace {
 
-constexpr qsizetype kLongestText = 1000;
+constexpr qsizetype kLongestFormula = 1000;
 
 struct ChemicalFormulaTr
 {
     Q_DECLARE_TR_FUNCTIONS(ChemicalFormula)
 };
 
-Error malformed(const QString &text, const QString &place)
+Error malformedFormula(const QString &text, const QString &place)
 {
-    return Error(ErrorCode::InvalidContent, ChemicalFormulaTr::tr("The chemical formula is malformed."))
+    return Error(ErrorCode::InvalidContent,
+                 ChemicalFormulaTr::tr("The chemical formula is malformedFormula."))
         .addDetail(ChemicalFormulaTr::tr("The formula is \"%1\". %2").arg(text.left(100), place));
 }
 
@@ -44,10 +45,10 @@ std::pair<int, QString> rank(const QString &symbol)
 
 Result<ChemicalFormula> ChemicalFormula::parse(const QString &text)
 {
-    if (text.size() > kLongestText) {
-        return malformed(text, ChemicalFormulaTr::tr("It has %1 characters; %2 are allowed.")
-                                   .arg(text.size())
-                                   .arg(kLongestText));
+    if (text.size() > kLongestFormula) {
+        return malformedFormula(text, ChemicalFormulaTr::tr("It has %1 characters; %2 are allowed.")
+                                          .arg(text.size())
+                                          .arg(kLongestFormula));
     }
     static const QRegularExpression piece(
         QStringLiteral("\\s*(?<symbol>(?:_[0-9]{1,2})?[A-Z][a-z]{0,2})\\s*(?:(?<count>-?[0-9]+)|\\((?<inner>-"
@@ -61,14 +62,15 @@ Result<ChemicalFormula> ChemicalFormula::parse(const QString &text)
         if (!element) {
             if (QStringView(text).mid(at).trimmed().isEmpty())
                 break;
-            return malformed(text, ChemicalFormulaTr::tr("At character %1 there is no element.").arg(at + 1));
+            return malformedFormula(
+                text, ChemicalFormulaTr::tr("At character %1 there is no element.").arg(at + 1));
         }
         const QString digits =
             match.captured(QStringLiteral("count")) + match.captured(QStringLiteral("inner"));
         bool ok = true;
         const qint64 count = digits.isEmpty() ? 1 : digits.toLongLong(&ok);
         if (!ok || count > kMaximumCount || count < -kMaximumCount)
-            return malformed(
+            return malformedFormula(
                 text, ChemicalFormulaTr::tr("The count \"%1\" of %2 is too large.").arg(digits, symbol));
         formula.add(element->symbol, count);
         at = match.capturedEnd();

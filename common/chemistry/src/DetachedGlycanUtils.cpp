@@ -9,7 +9,7 @@ namespace orv::DetachedGlycanUtils {
 
 namespace {
 
-using namespace Internal::GlycanColumns;
+namespace GlycanColumns = Internal::GlycanColumns;
 
 struct OptionRow
 {
@@ -19,24 +19,26 @@ struct OptionRow
 };
 
 constexpr std::array kDefaultOptions = {
-    OptionRow{kMoiety, QLatin1String("Hex"), QLatin1String("C6H10O5")},
-    OptionRow{kMoiety, QLatin1String("HexNAc"), QLatin1String("C8H13NO5")},
-    OptionRow{kMoiety, QLatin1String("Fuc"), QLatin1String("C6H10O4")},
-    OptionRow{kMoiety, QLatin1String("NeuAc"), QLatin1String("C11H17NO8")},
-    OptionRow{kMoiety, QLatin1String("NeuGc"), QLatin1String("C11H17NO9")},
-    OptionRow{kAdduct, QLatin1String("H"), QLatin1String("H")},
+    OptionRow{GlycanColumns::kMoiety, QLatin1String("Hex"), QLatin1String("C6H10O5")},
+    OptionRow{GlycanColumns::kMoiety, QLatin1String("HexNAc"), QLatin1String("C8H13NO5")},
+    OptionRow{GlycanColumns::kMoiety, QLatin1String("Fuc"), QLatin1String("C6H10O4")},
+    OptionRow{GlycanColumns::kMoiety, QLatin1String("NeuAc"), QLatin1String("C11H17NO8")},
+    OptionRow{GlycanColumns::kMoiety, QLatin1String("NeuGc"), QLatin1String("C11H17NO9")},
+    OptionRow{GlycanColumns::kAdduct, QLatin1String("H"), QLatin1String("H")},
 };
 
 } // namespace
 
 RowNode defaultTableRowNode()
 {
-    return Internal::tableOf({kName, kComposition, kMass, kLabel, kRetentionTime});
+    return Internal::tableOf({GlycanColumns::kName, GlycanColumns::kComposition, GlycanColumns::kMass,
+                              GlycanColumns::kLabel, GlycanColumns::kRetentionTime});
 }
 
 RowNode defaultOptionsRowNode()
 {
-    RowNode table = Internal::tableOf({kKind, kName, kFormula, kComplete});
+    RowNode table = Internal::tableOf(
+        {GlycanColumns::kKind, GlycanColumns::kName, GlycanColumns::kFormula, GlycanColumns::kComplete});
     for (const OptionRow &row : kDefaultOptions)
         table.addNewChild({QString(row.kind), QString(row.name), QString(row.formula), true});
     return table;

@@ -9,7 +9,7 @@
 
 namespace orv::Disulfide::DisulfideUtils {
 
-using namespace Internal::DisulfideColumns;
+namespace DisulfideColumns = Internal::DisulfideColumns;
 
 namespace {
 
@@ -34,8 +34,9 @@ Error readPosition(const Internal::TableReader &rows, int row, QLatin1String col
 
 bool isEmptyRow(const Internal::TableReader &rows, int row)
 {
-    const std::initializer_list<QLatin1String> columns = {kFirstChain, kFirstPosition, kSecondChain,
-                                                          kSecondPosition};
+    const std::initializer_list<QLatin1String> columns = {
+        DisulfideColumns::kFirstChain, DisulfideColumns::kFirstPosition, DisulfideColumns::kSecondChain,
+        DisulfideColumns::kSecondPosition};
     return std::all_of(columns.begin(), columns.end(),
                        [&](QLatin1String column) { return Internal::isEmptyCell(rows.cell(row, column)); });
 }
@@ -60,21 +61,24 @@ QString faultOf(const Cysteine &cysteine, const QHash<QString, QString> &sequenc
 
 RowNode defaultRowNode()
 {
-    return Internal::tableOf({kFirstChain, kFirstPosition, kSecondChain, kSecondPosition});
+    return Internal::tableOf({DisulfideColumns::kFirstChain, DisulfideColumns::kFirstPosition,
+                              DisulfideColumns::kSecondChain, DisulfideColumns::kSecondPosition});
 }
 
 Result<QList<Bond>> bondsFromRowNode(const RowNode &table)
 {
-    const Internal::TableReader rows(table, {kFirstChain, kFirstPosition, kSecondChain, kSecondPosition});
+    const Internal::TableReader rows(table,
+                                     {DisulfideColumns::kFirstChain, DisulfideColumns::kFirstPosition,
+                                      DisulfideColumns::kSecondChain, DisulfideColumns::kSecondPosition});
     QList<Bond> bonds;
     for (int i = 0; i < rows.rowCount(); ++i) {
         if (isEmptyRow(rows, i))
             continue;
         Bond bond;
-        bond.firstChain = rows.text(i, kFirstChain);
-        bond.secondChain = rows.text(i, kSecondChain);
-        ORV_RETURN_IF_ERROR(readPosition(rows, i, kFirstPosition, &bond.firstPosition));
-        ORV_RETURN_IF_ERROR(readPosition(rows, i, kSecondPosition, &bond.secondPosition));
+        bond.firstChain = rows.text(i, DisulfideColumns::kFirstChain);
+        bond.secondChain = rows.text(i, DisulfideColumns::kSecondChain);
+        ORV_RETURN_IF_ERROR(readPosition(rows, i, DisulfideColumns::kFirstPosition, &bond.firstPosition));
+        ORV_RETURN_IF_ERROR(readPosition(rows, i, DisulfideColumns::kSecondPosition, &bond.secondPosition));
         bond.otherCells = rows.otherCells(i);
         bonds.append(bond);
     }

@@ -13,7 +13,7 @@ namespace orv {
 
 namespace {
 
-using namespace Internal::GlycanColumns;
+namespace GlycanColumns = Internal::GlycanColumns;
 
 struct KindName
 {
@@ -22,10 +22,10 @@ struct KindName
 };
 
 constexpr std::array kKinds = {
-    KindName{kMoiety, GlycanOptionKind::Moiety},
-    KindName{kLabel, GlycanOptionKind::Label},
-    KindName{kAdduct, GlycanOptionKind::Adduct},
-    KindName{kDerivatization, GlycanOptionKind::Derivatization},
+    KindName{GlycanColumns::kMoiety, GlycanOptionKind::Moiety},
+    KindName{GlycanColumns::kLabel, GlycanOptionKind::Label},
+    KindName{GlycanColumns::kAdduct, GlycanOptionKind::Adduct},
+    KindName{GlycanColumns::kDerivatization, GlycanOptionKind::Derivatization},
 };
 
 struct GlycanOptionsTr
@@ -33,7 +33,7 @@ struct GlycanOptionsTr
     Q_DECLARE_TR_FUNCTIONS(GlycanOptions)
 };
 
-Error badRow(int row, const QString &reason)
+Error badGlycanOption(int row, const QString &reason)
 {
     return Error(ErrorCode::InvalidContent, GlycanOptionsTr::tr("The table of glycan options can't be read."))
         .addDetail(GlycanOptionsTr::tr("Row %1: %2").arg(row + 1).arg(reason));
@@ -49,26 +49,27 @@ Error unknownPiece(QLatin1String kind, const QString &name)
 
 Result<GlycanOptions> GlycanOptions::fromRowNode(const RowNode &table)
 {
-    const Internal::TableReader rows(table, {kKind, kName, kFormula, kComplete});
+    const Internal::TableReader rows(table, {GlycanColumns::kKind, GlycanColumns::kName,
+                                             GlycanColumns::kFormula, GlycanColumns::kComplete});
     GlycanOptions options;
     for (int i = 0; i < rows.rowCount(); ++i) {
-        const QString kindText = rows.text(i, kKind).trimmed();
+        const QString kindText = rows.text(i, GlycanColumns::kKind).trimmed();
         const auto kind = std::find_if(kKinds.begin(), kKinds.end(),
                                        [&](const KindName &candidate) { return candidate.text == kindText; });
         if (kind == kKinds.end())
-            return badRow(i, GlycanOptionsTr::tr("There is no kind \"%1\".").arg(kindText));
+            return badGlycanOption(i, GlycanOptionsTr::tr("There is no kind \"%1\".").arg(kindText));
         GlycanOption option;
         option.kind = kind->kind;
-        option.name = rows.text(i, kName).trimmed();
+        option.name = rows.text(i, GlycanColumns::kName).trimmed();
         if (option.name.isEmpty() || options.find(option.kind, option.name))
-            return badRow(i,
-                          GlycanOptionsTr::tr("The name \"%1\" is empty or stands twice.").arg(option.name));
-        Result<ChemicalFormula> formula = ChemicalFormula::parse(rows.text(i, kFormula));
+            return badGlycanOption(
+                i, GlycanOptionsTr::tr("The name \"%1\" is empty or stands twice.").arg(option.name));
+        Result<ChemicalFormula> formula = ChemicalFormula::parse(rows.text(i, GlycanColumns::kFormula));
         if (formula.hasError())
             return formula.ecatch().addDetail(
                 GlycanOptionsTr::tr("It stands in row %1 of the glycan options.").arg(i + 1));
         option.formula = *formula;
-        const QVariant complete = rows.cell(i, kComplete);
+        const QVariant complete = rows.cell(i, GlycanColumns::kComplete);
         option.complete = Internal::isEmptyCell(complete) || complete.toBool();
         option.otherCells = rows.otherCells(i);
         options.m_options.append(option);
@@ -78,7 +79,8 @@ Result<GlycanOptions> GlycanOptions::fromRowNode(const RowNode &table)
 
 RowNode GlycanOptions::toRowNode() const
 {
-    RowNode table = Internal::tableOf({kKind, kName, kFormula, kComplete});
+    RowNode table = Internal::tableOf(
+        {GlycanColumns::kKind, GlycanColumns::kName, GlycanColumns::kFormula, GlycanColumns::kComplete});
     Internal::TableWriter rows(&table);
     for (const GlycanOption &option : m_options) {
         const auto kind = std::find_if(kKinds.begin(), kKinds.end(),
@@ -106,13 +108,13 @@ Result<ChemicalFormula> GlycanOptions::formula(const Glycan &glycan) const
     for (const GlycanComposition::Part &part : composition->parts()) {
         const GlycanOption *moiety = find(GlycanOptionKind::Moiety, part.moiety);
         if (!moiety)
-            return unknownPiece(kMoiety, part.moiety);
+            return unknownPiece(GlycanColumns::kMoiety, part.moiety);
         formula += moiety->formula * part.count;
     }
     if (!glycan.label.isEmpty()) {
         const GlycanOption *label = find(GlycanOptionKind::Label, glycan.label);
         if (!label)
-            return unknownPiece(kLabel, glycan.label);
+            return unknownPiece(GlycanColumns::kLabel, glycan.label);
         formula += label->formula;
     }
     return formula;

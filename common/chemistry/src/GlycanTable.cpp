@@ -11,14 +11,14 @@ namespace orv {
 
 namespace {
 
-using namespace Internal::GlycanColumns;
+namespace GlycanColumns = Internal::GlycanColumns;
 
 struct GlycanTableTr
 {
     Q_DECLARE_TR_FUNCTIONS(GlycanTable)
 };
 
-Error badRow(int row, const QString &reason)
+Error badGlycan(int row, const QString &reason)
 {
     return Error(ErrorCode::InvalidContent, GlycanTableTr::tr("The table of glycans can't be read."))
         .addDetail(GlycanTableTr::tr("Row %1: %2").arg(row + 1).arg(reason));
@@ -30,7 +30,7 @@ Error readNumber(const Internal::TableReader &rows, int row, QLatin1String colum
     const QVariant cell = rows.cell(row, column);
     *number = Internal::numberOf(cell);
     if (!*number && !Internal::isEmptyCell(cell))
-        return badRow(
+        return badGlycan(
             row, GlycanTableTr::tr("\"%1\" in the column \"%2\" is no number.").arg(cell.toString(), column));
     return Error::NoError;
 }
@@ -39,16 +39,18 @@ Error readNumber(const Internal::TableReader &rows, int row, QLatin1String colum
 
 Result<GlycanTable> GlycanTable::fromRowNode(const RowNode &table)
 {
-    const Internal::TableReader rows(table, {kName, kComposition, kMass, kLabel, kRetentionTime});
+    const Internal::TableReader rows(table,
+                                     {GlycanColumns::kName, GlycanColumns::kComposition, GlycanColumns::kMass,
+                                      GlycanColumns::kLabel, GlycanColumns::kRetentionTime});
     QList<Glycan> glycans;
     for (int i = 0; i < rows.rowCount(); ++i) {
         Glycan glycan;
-        glycan.name = rows.text(i, kName);
-        glycan.composition = rows.text(i, kComposition).trimmed();
-        glycan.label = rows.text(i, kLabel);
+        glycan.name = rows.text(i, GlycanColumns::kName);
+        glycan.composition = rows.text(i, GlycanColumns::kComposition).trimmed();
+        glycan.label = rows.text(i, GlycanColumns::kLabel);
         glycan.otherCells = rows.otherCells(i);
-        ORV_RETURN_IF_ERROR(readNumber(rows, i, kMass, &glycan.massDa));
-        ORV_RETURN_IF_ERROR(readNumber(rows, i, kRetentionTime, &glycan.retentionTimeMinutes));
+        ORV_RETURN_IF_ERROR(readNumber(rows, i, GlycanColumns::kMass, &glycan.massDa));
+        ORV_RETURN_IF_ERROR(readNumber(rows, i, GlycanColumns::kRetentionTime, &glycan.retentionTimeMinutes));
         if (!glycan.composition.isEmpty()) {
             Result<GlycanComposition> composition = GlycanComposition::parse(glycan.composition);
             if (composition.hasError())

@@ -13,7 +13,7 @@
 
 namespace orv::IntactOptionsUtils {
 
-using namespace Internal::IntactOptionsColumns;
+namespace IntactOptionsColumns = Internal::IntactOptionsColumns;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -36,15 +36,15 @@ struct ChargeColumn
 };
 
 constexpr std::array kNumbers = {
-    NumberColumn{kMinimumMz, &IntactOptions::minimumMz},
-    NumberColumn{kMaximumMz, &IntactOptions::maximumMz},
-    NumberColumn{kMinimumMass, &IntactOptions::minimumMassDa},
-    NumberColumn{kMaximumMass, &IntactOptions::maximumMassDa},
+    NumberColumn{IntactOptionsColumns::kMinimumMz, &IntactOptions::minimumMz},
+    NumberColumn{IntactOptionsColumns::kMaximumMz, &IntactOptions::maximumMz},
+    NumberColumn{IntactOptionsColumns::kMinimumMass, &IntactOptions::minimumMassDa},
+    NumberColumn{IntactOptionsColumns::kMaximumMass, &IntactOptions::maximumMassDa},
 };
 
 constexpr std::array kCharges = {
-    ChargeColumn{kMinimumCharge, &IntactOptions::minimumCharge},
-    ChargeColumn{kMaximumCharge, &IntactOptions::maximumCharge},
+    ChargeColumn{IntactOptionsColumns::kMinimumCharge, &IntactOptions::minimumCharge},
+    ChargeColumn{IntactOptionsColumns::kMaximumCharge, &IntactOptions::maximumCharge},
 };
 
 /// Leaves the target alone for an empty cell.
@@ -120,13 +120,16 @@ RowNode defaultRowNode()
 
 Result<QList<IntactOptions>> optionsFromRowNode(const RowNode &table)
 {
-    const Internal::TableReader rows(table, {kName, kMinimumMz, kMaximumMz, kMinimumMass, kMaximumMass,
-                                             kMinimumCharge, kMaximumCharge, kAdduct});
+    const Internal::TableReader rows(
+        table, {IntactOptionsColumns::kName, IntactOptionsColumns::kMinimumMz,
+                IntactOptionsColumns::kMaximumMz, IntactOptionsColumns::kMinimumMass,
+                IntactOptionsColumns::kMaximumMass, IntactOptionsColumns::kMinimumCharge,
+                IntactOptionsColumns::kMaximumCharge, IntactOptionsColumns::kAdduct});
     QList<IntactOptions> list;
     for (int i = 0; i < rows.rowCount(); ++i) {
         IntactOptions options;
-        options.name = rows.text(i, kName);
-        options.adduct = rows.text(i, kAdduct);
+        options.name = rows.text(i, IntactOptionsColumns::kName);
+        options.adduct = rows.text(i, IntactOptionsColumns::kAdduct);
         for (const NumberColumn &number : kNumbers) {
             ORV_RETURN_IF_ERROR(
                 readNumber(rows, i, number.column, Internal::numberOf, &(options.*number.member)));
@@ -142,8 +145,11 @@ Result<QList<IntactOptions>> optionsFromRowNode(const RowNode &table)
 
 RowNode optionsToRowNode(const QList<IntactOptions> &list)
 {
-    RowNode table = Internal::tableOf(
-        {kName, kMinimumMz, kMaximumMz, kMinimumMass, kMaximumMass, kMinimumCharge, kMaximumCharge, kAdduct});
+    RowNode table =
+        Internal::tableOf({IntactOptionsColumns::kName, IntactOptionsColumns::kMinimumMz,
+                           IntactOptionsColumns::kMaximumMz, IntactOptionsColumns::kMinimumMass,
+                           IntactOptionsColumns::kMaximumMass, IntactOptionsColumns::kMinimumCharge,
+                           IntactOptionsColumns::kMaximumCharge, IntactOptionsColumns::kAdduct});
     Internal::TableWriter rows(&table);
     for (const IntactOptions &options : list) {
         rows.addRow({options.name, options.minimumMz, options.maximumMz, options.minimumMassDa,

@@ -13,7 +13,7 @@
 
 namespace orv::IsotopeUtils {
 
-using namespace Internal::IsotopeColumns;
+namespace IsotopeColumns = Internal::IsotopeColumns;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -50,18 +50,19 @@ RowNode defaultRowNode()
 
 Result<QList<IsotopeLabel>> isotopesFromRowNode(const RowNode &table)
 {
-    const Internal::TableReader rows(table, {kName, kElement, kMassNumber, kEnrichment});
+    const Internal::TableReader rows(table, {IsotopeColumns::kName, IsotopeColumns::kElement,
+                                             IsotopeColumns::kMassNumber, IsotopeColumns::kEnrichment});
     QList<IsotopeLabel> isotopes;
     for (int i = 0; i < rows.rowCount(); ++i) {
         IsotopeLabel isotope;
-        isotope.name = rows.text(i, kName);
-        isotope.element = rows.text(i, kElement).trimmed();
-        isotope.massNumber = Internal::intOf(rows.cell(i, kMassNumber)).value_or(0);
+        isotope.name = rows.text(i, IsotopeColumns::kName);
+        isotope.element = rows.text(i, IsotopeColumns::kElement).trimmed();
+        isotope.massNumber = Internal::intOf(rows.cell(i, IsotopeColumns::kMassNumber)).value_or(0);
         if (!naturalAbundancePercent(isotope.element, isotope.massNumber)) {
             return badRow(i, IsotopeUtilsTr::tr("There is no natural isotope \"%1\" of \"%2\".")
-                                 .arg(rows.text(i, kMassNumber), isotope.element));
+                                 .arg(rows.text(i, IsotopeColumns::kMassNumber), isotope.element));
         }
-        const QVariant enrichment = rows.cell(i, kEnrichment);
+        const QVariant enrichment = rows.cell(i, IsotopeColumns::kEnrichment);
         isotope.enrichmentPercent = Internal::numberOf(enrichment);
         constexpr double kAll = 100.0;
         const double percent =
@@ -77,7 +78,8 @@ Result<QList<IsotopeLabel>> isotopesFromRowNode(const RowNode &table)
 
 RowNode isotopesToRowNode(const QList<IsotopeLabel> &isotopes)
 {
-    RowNode table = Internal::tableOf({kName, kElement, kMassNumber, kEnrichment});
+    RowNode table = Internal::tableOf({IsotopeColumns::kName, IsotopeColumns::kElement,
+                                       IsotopeColumns::kMassNumber, IsotopeColumns::kEnrichment});
     Internal::TableWriter rows(&table);
     for (const IsotopeLabel &isotope : isotopes) {
         rows.addRow(

@@ -9,7 +9,7 @@
 
 namespace orv::MassUtils {
 
-using namespace Internal::MassColumns;
+namespace MassColumns = Internal::MassColumns;
 
 namespace {
 
@@ -22,7 +22,8 @@ struct MassUtilsTr
 
 RowNode defaultRowNode(int rows)
 {
-    RowNode table = Internal::tableOf({kName, kMass, kProtein, kSamplesIds});
+    RowNode table = Internal::tableOf(
+        {MassColumns::kName, MassColumns::kMass, MassColumns::kProtein, MassColumns::kSamplesIds});
     for (int i = 0; i < rows; ++i)
         table.addNewChildMatchRootDataSize();
     return table;
@@ -40,19 +41,20 @@ QStringList possibleMassToleranceUnits()
 
 QList<DeltaMass> deltaMassesFromRowNode(const RowNode &table)
 {
-    const Internal::TableReader rows(table, {kId, kName, kMass, kProtein, kSamplesIds});
+    const Internal::TableReader rows(table, {kId, MassColumns::kName, MassColumns::kMass,
+                                             MassColumns::kProtein, MassColumns::kSamplesIds});
     QList<DeltaMass> masses;
     masses.reserve(rows.rowCount());
     for (int i = 0; i < rows.rowCount(); ++i) {
         DeltaMass mass;
-        const QVariant massCell = rows.cell(i, kMass);
+        const QVariant massCell = rows.cell(i, MassColumns::kMass);
         mass.id = Internal::intOf(rows.cell(i, kId)).value_or(0);
-        mass.name = rows.text(i, kName);
+        mass.name = rows.text(i, MassColumns::kName);
         mass.massDa = Internal::numberOf(massCell);
         if (!mass.massDa && !Internal::isEmptyCell(massCell))
             mass.unreadableMass = massCell.toString();
-        mass.protein = rows.text(i, kProtein);
-        mass.samplesIds = Internal::intsOf(rows.cell(i, kSamplesIds));
+        mass.protein = rows.text(i, MassColumns::kProtein);
+        mass.samplesIds = Internal::intsOf(rows.cell(i, MassColumns::kSamplesIds));
         mass.otherCells = rows.otherCells(i);
         masses.append(mass);
     }
@@ -61,7 +63,8 @@ QList<DeltaMass> deltaMassesFromRowNode(const RowNode &table)
 
 RowNode deltaMassesToRowNode(const QList<DeltaMass> &masses)
 {
-    RowNode table = Internal::tableOf({kId, kName, kMass, kProtein, kSamplesIds});
+    RowNode table = Internal::tableOf(
+        {kId, MassColumns::kName, MassColumns::kMass, MassColumns::kProtein, MassColumns::kSamplesIds});
     Internal::TableWriter rows(&table);
     for (const DeltaMass &mass : masses) {
         const QVariant massCell = mass.massDa || mass.unreadableMass.isEmpty()

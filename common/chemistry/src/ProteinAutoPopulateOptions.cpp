@@ -7,17 +7,17 @@ namespace orv {
 
 namespace {
 
-constexpr qsizetype kLongestText = 1000;
+constexpr qsizetype kLongestProteinName = 1000;
 
 struct ProteinAutoPopulateOptionsTr
 {
     Q_DECLARE_TR_FUNCTIONS(ProteinAutoPopulateOptions)
 };
 
-Error malformed(const QString &place)
+Error malformedProteinName(const QString &place)
 {
     return Error(ErrorCode::InvalidContent,
-                 ProteinAutoPopulateOptionsTr::tr("The name of combined proteins is malformed."))
+                 ProteinAutoPopulateOptionsTr::tr("The name of combined proteins is malformedProteinName."))
         .addDetail(place)
         .addDetail(ProteinAutoPopulateOptionsTr::tr("Write it as \"Auto(HC:0-2,LC:0-2)\"."));
 }
@@ -28,14 +28,15 @@ Result<ProteinAutoPopulateOptions::Part> readPart(const QString &text)
         QStringLiteral("^\\s*([^:,()]*[^:,()\\s])\\s*(?::\\s*([0-9]{1,3})\\s*(?:-\\s*([0-9]{1,3})\\s*)?)?$"));
     const QRegularExpressionMatch match = pattern.match(text);
     if (!match.hasMatch())
-        return malformed(ProteinAutoPopulateOptionsTr::tr("\"%1\" is no chain with a count.").arg(text));
+        return malformedProteinName(
+            ProteinAutoPopulateOptionsTr::tr("\"%1\" is no chain with a count.").arg(text));
     ProteinAutoPopulateOptions::Part part{match.captured(1), 0, 1};
     if (match.hasCaptured(2)) {
         part.minimum = match.captured(2).toInt();
         part.maximum = match.hasCaptured(3) ? match.captured(3).toInt() : part.minimum;
     }
     if (part.minimum > part.maximum || part.maximum > ProteinAutoPopulateOptions::kMaximumCopies)
-        return malformed(
+        return malformedProteinName(
             ProteinAutoPopulateOptionsTr::tr("The counts of \"%1\" are out of order or too large.")
                 .arg(part.chain));
     return part;
@@ -76,13 +77,13 @@ bool ProteinAutoPopulateOptions::mayConvert(const QString &name)
 
 Result<ProteinAutoPopulateOptions> ProteinAutoPopulateOptions::fromString(const QString &name)
 {
-    if (name.size() > kLongestText)
-        return malformed(
-            ProteinAutoPopulateOptionsTr::tr("It has more than %1 characters.").arg(kLongestText));
+    if (name.size() > kLongestProteinName)
+        return malformedProteinName(
+            ProteinAutoPopulateOptionsTr::tr("It has more than %1 characters.").arg(kLongestProteinName));
     static const QRegularExpression frame(QStringLiteral("^\\s*Auto\\((.*)\\)\\s*$"));
     const QRegularExpressionMatch match = frame.match(name);
     if (!match.hasMatch())
-        return malformed(
+        return malformedProteinName(
             ProteinAutoPopulateOptionsTr::tr("It must begin with \"Auto(\" and end with \")\"."));
     ProteinAutoPopulateOptions options;
     for (const QString &text : match.captured(1).split(QLatin1Char(','))) {
@@ -91,7 +92,8 @@ Result<ProteinAutoPopulateOptions> ProteinAutoPopulateOptions::fromString(const 
             return part.ecatch();
         for (const Part &earlier : std::as_const(options.m_parts)) {
             if (earlier.chain == part->chain)
-                return malformed(ProteinAutoPopulateOptionsTr::tr("\"%1\" stands twice.").arg(part->chain));
+                return malformedProteinName(
+                    ProteinAutoPopulateOptionsTr::tr("\"%1\" stands twice.").arg(part->chain));
         }
         options.m_parts.append(*part);
     }
@@ -115,13 +117,15 @@ Result<QList<ProteinComplex>> ProteinAutoPopulateOptions::proteins(const QList<C
         const auto chain = std::find_if(chains.begin(), chains.end(),
                                         [&](const Chain &candidate) { return candidate.name == part.chain; });
         if (chain == chains.end())
-            return malformed(ProteinAutoPopulateOptionsTr::tr("There is no chain \"%1\".").arg(part.chain));
+            return malformedProteinName(
+                ProteinAutoPopulateOptionsTr::tr("There is no chain \"%1\".").arg(part.chain));
         numbers.append(chain->number);
         counts.append(part.minimum);
         combinations *= part.maximum - part.minimum + 1;
         if (combinations > kMaximumProteins)
-            return malformed(ProteinAutoPopulateOptionsTr::tr("It stands for more than %1 proteins.")
-                                 .arg(kMaximumProteins));
+            return malformedProteinName(
+                ProteinAutoPopulateOptionsTr::tr("It stands for more than %1 proteins.")
+                    .arg(kMaximumProteins));
     }
     QList<ProteinComplex> list;
     bool more = !m_parts.isEmpty();

@@ -8,7 +8,7 @@ namespace orv {
 
 namespace {
 
-constexpr qsizetype kLongestText = 1000;
+constexpr qsizetype kLongestDigestion = 1000;
 constexpr qsizetype kLongestSequence = 100000;
 /// Of all peptides together; many missed cleavages of a long sequence would fill the memory.
 constexpr qint64 kMostLetters = 50'000'000;
@@ -20,9 +20,10 @@ struct ProteinDigestionItemTr
     Q_DECLARE_TR_FUNCTIONS(ProteinDigestionItem)
 };
 
-Error malformed(const QString &place)
+Error malformedDigestion(const QString &place)
 {
-    return Error(ErrorCode::InvalidContent, ProteinDigestionItemTr::tr("The digestion text is malformed."))
+    return Error(ErrorCode::InvalidContent,
+                 ProteinDigestionItemTr::tr("The digestion text is malformedDigestion."))
         .addDetail(place)
         .addDetail(ProteinDigestionItemTr::tr("Write it as \"Trypsin @ R,K | C-term\"."));
 }
@@ -43,7 +44,7 @@ Error readResidues(QStringView text, QString *residues)
     for (QStringView part : text.split(QLatin1Char(','))) {
         part = part.trimmed();
         if (part.size() != 1 || !isCapital(part.front())) {
-            return malformed(
+            return malformedDigestion(
                 ProteinDigestionItemTr::tr("\"%1\" is not a residue: residues are single capital letters.")
                     .arg(part));
         }
@@ -56,8 +57,8 @@ Error readResidues(QStringView text, QString *residues)
 Error readSide(QStringView text, ProteinDigestionItem::Side *side)
 {
     if (text != kCTerm && text != kNTerm)
-        return malformed(ProteinDigestionItemTr::tr("\"%1\" is not a side: there are %2 and %3.")
-                             .arg(text, kCTerm, kNTerm));
+        return malformedDigestion(ProteinDigestionItemTr::tr("\"%1\" is not a side: there are %2 and %3.")
+                                      .arg(text, kCTerm, kNTerm));
     *side = text == kCTerm ? ProteinDigestionItem::Side::CTerm : ProteinDigestionItem::Side::NTerm;
     return Error::NoError;
 }
@@ -91,21 +92,21 @@ Error checkInput(const QString &sequence, const DigestionLimits &limits)
 
 Result<ProteinDigestionItem> ProteinDigestionItem::parse(const QString &text)
 {
-    if (text.size() > kLongestText)
-        return malformed(ProteinDigestionItemTr::tr("It has %1 characters; %2 are allowed.")
-                             .arg(text.size())
-                             .arg(kLongestText));
+    if (text.size() > kLongestDigestion)
+        return malformedDigestion(ProteinDigestionItemTr::tr("It has %1 characters; %2 are allowed.")
+                                      .arg(text.size())
+                                      .arg(kLongestDigestion));
     const QStringList rule = text.split(QLatin1Char('@'));
     if (rule.size() != 2)
-        return malformed(ProteinDigestionItemTr::tr("It must have one \"@\", behind the name."));
+        return malformedDigestion(ProteinDigestionItemTr::tr("It must have one \"@\", behind the name."));
     const QStringList cut = rule.last().split(QLatin1Char('|'));
     if (cut.size() != 2)
-        return malformed(ProteinDigestionItemTr::tr("It must have one \"|\", behind the residues."));
+        return malformedDigestion(ProteinDigestionItemTr::tr("It must have one \"|\", behind the residues."));
 
     ProteinDigestionItem item;
     item.m_name = rule.first().trimmed();
     if (item.m_name.isEmpty() || item.m_name.contains(QLatin1Char('|')))
-        return malformed(
+        return malformedDigestion(
             ProteinDigestionItemTr::tr("The name before \"@\" must not be empty and must not hold \"|\"."));
     ORV_RETURN_IF_ERROR(readResidues(cut.first(), &item.m_residues));
     ORV_RETURN_IF_ERROR(readSide(QStringView(cut.last()).trimmed(), &item.m_side));

@@ -16,7 +16,7 @@ namespace orv {
 
 namespace {
 
-using namespace Internal::ProteinColumns;
+namespace ProteinColumns = Internal::ProteinColumns;
 using Internal::TableReader;
 using InputOptions = ProteinGenerator::InputOptions;
 
@@ -55,7 +55,7 @@ Error badRow(QLatin1String table, int row, const QString &reason)
 /// No type is that of a protein.
 Error readType(const TableReader &rows, int row, ChainType *type)
 {
-    const QString text = rows.text(row, kType).trimmed();
+    const QString text = rows.text(row, ProteinColumns::kType).trimmed();
     if (text.isEmpty())
         return Error::NoError;
     const auto found = std::find_if(kChainTypes.begin(), kChainTypes.end(),
@@ -69,24 +69,26 @@ Error readType(const TableReader &rows, int row, ChainType *type)
 
 Error readChains(const RowNode &table, QList<Chain> *chains)
 {
-    const TableReader rows(
-        table, {kNumber, kChainId, kName, kSequence, kType, kMonoisotopicMass, kAverageMass, kisCustom});
+    const TableReader rows(table,
+                           {ProteinColumns::kNumber, ProteinColumns::kChainId, ProteinColumns::kName,
+                            ProteinColumns::kSequence, ProteinColumns::kType,
+                            ProteinColumns::kMonoisotopicMass, ProteinColumns::kAverageMass, kisCustom});
     QSet<int> numbers;
     for (int i = 0; i < rows.rowCount(); ++i) {
         Chain chain;
-        chain.number = Internal::intOf(rows.cell(i, kNumber)).value_or(i + 1);
+        chain.number = Internal::intOf(rows.cell(i, ProteinColumns::kNumber)).value_or(i + 1);
         if (chain.number < 1 || numbers.contains(chain.number)) {
             return badRow(
                 kChains, i,
                 ProteinInputOptionsTr::tr("The number %1 is below 1 or another chain's.").arg(chain.number));
         }
         numbers.insert(chain.number);
-        chain.id = rows.text(i, kChainId);
-        chain.name = rows.text(i, kName);
-        chain.sequence = rows.text(i, kSequence);
+        chain.id = rows.text(i, ProteinColumns::kChainId);
+        chain.name = rows.text(i, ProteinColumns::kName);
+        chain.sequence = rows.text(i, ProteinColumns::kSequence);
         ORV_RETURN_IF_ERROR(readType(rows, i, &chain.type));
-        chain.monoisotopicMassDa = Internal::numberOf(rows.cell(i, kMonoisotopicMass));
-        chain.averageMassDa = Internal::numberOf(rows.cell(i, kAverageMass));
+        chain.monoisotopicMassDa = Internal::numberOf(rows.cell(i, ProteinColumns::kMonoisotopicMass));
+        chain.averageMassDa = Internal::numberOf(rows.cell(i, ProteinColumns::kAverageMass));
         chain.isCustom = rows.cell(i, kisCustom).toInt() != 0;
         chain.otherCells = rows.otherCells(i);
         chains->append(chain);
@@ -99,23 +101,24 @@ Error readProteins(const RowNode &table, const QList<Chain> &chains, QList<Prote
     QSet<int> numbers;
     for (const Chain &chain : chains)
         numbers.insert(chain.number);
-    const TableReader rows(table, {kName, kChainNumbers, kDisulfides, kSamplesIds});
+    const TableReader rows(table, {ProteinColumns::kName, ProteinColumns::kChainNumbers,
+                                   ProteinColumns::kDisulfides, ProteinColumns::kSamplesIds});
     for (int i = 0; i < rows.rowCount(); ++i) {
         ProteinComplex protein;
-        protein.name = rows.text(i, kName);
-        protein.chainNumbers = Internal::intsOf(rows.cell(i, kChainNumbers));
+        protein.name = rows.text(i, ProteinColumns::kName);
+        protein.chainNumbers = Internal::intsOf(rows.cell(i, ProteinColumns::kChainNumbers));
         for (int number : std::as_const(protein.chainNumbers)) {
             if (!numbers.contains(number))
                 return badRow(kProteins, i, ProteinInputOptionsTr::tr("There is no chain %1.").arg(number));
         }
-        const QVariant disulfides = rows.cell(i, kDisulfides);
+        const QVariant disulfides = rows.cell(i, ProteinColumns::kDisulfides);
         protein.disulfides = Internal::isEmptyCell(disulfides) ? 0 : Internal::intOf(disulfides).value_or(-1);
         if (protein.disulfides < 0) {
             return badRow(kProteins, i,
                           ProteinInputOptionsTr::tr("\"%1\" is no count of disulfide bonds.")
                               .arg(disulfides.toString()));
         }
-        protein.samplesIds = Internal::intsOf(rows.cell(i, kSamplesIds));
+        protein.samplesIds = Internal::intsOf(rows.cell(i, ProteinColumns::kSamplesIds));
         protein.otherCells = rows.otherCells(i);
         proteins->append(protein);
     }
@@ -124,11 +127,13 @@ Error readProteins(const RowNode &table, const QList<Chain> &chains, QList<Prote
 
 QList<BuildingBlock> readBuildingBlocks(const RowNode &table)
 {
-    const TableReader rows(table, {kSymbol, kName, kType, kFormula});
+    const TableReader rows(table, {ProteinColumns::kSymbol, ProteinColumns::kName, ProteinColumns::kType,
+                                   ProteinColumns::kFormula});
     QList<BuildingBlock> blocks;
     for (int i = 0; i < rows.rowCount(); ++i) {
-        blocks.append({rows.text(i, kSymbol), rows.text(i, kName), rows.text(i, kType),
-                       rows.text(i, kFormula), rows.otherCells(i)});
+        blocks.append({rows.text(i, ProteinColumns::kSymbol), rows.text(i, ProteinColumns::kName),
+                       rows.text(i, ProteinColumns::kType), rows.text(i, ProteinColumns::kFormula),
+                       rows.otherCells(i)});
     }
     return blocks;
 }
@@ -136,7 +141,8 @@ QList<BuildingBlock> readBuildingBlocks(const RowNode &table)
 RowNode writeChains(const QList<Chain> &chains)
 {
     RowNode table = Internal::tableOf(
-        {kNumber, kChainId, kName, kSequence, kType, kMonoisotopicMass, kAverageMass, kisCustom});
+        {ProteinColumns::kNumber, ProteinColumns::kChainId, ProteinColumns::kName, ProteinColumns::kSequence,
+         ProteinColumns::kType, ProteinColumns::kMonoisotopicMass, ProteinColumns::kAverageMass, kisCustom});
     Internal::TableWriter rows(&table);
     for (const Chain &chain : chains) {
         rows.addRow({chain.number, chain.id, chain.name, chain.sequence, textOf(chain.type),
@@ -149,7 +155,8 @@ RowNode writeChains(const QList<Chain> &chains)
 
 RowNode writeProteins(const QList<ProteinComplex> &proteins)
 {
-    RowNode table = Internal::tableOf({kName, kChainNumbers, kDisulfides, kSamplesIds});
+    RowNode table = Internal::tableOf({ProteinColumns::kName, ProteinColumns::kChainNumbers,
+                                       ProteinColumns::kDisulfides, ProteinColumns::kSamplesIds});
     Internal::TableWriter rows(&table);
     for (const ProteinComplex &protein : proteins) {
         rows.addRow({protein.name, Internal::cellOf(protein.chainNumbers), protein.disulfides,
@@ -161,7 +168,8 @@ RowNode writeProteins(const QList<ProteinComplex> &proteins)
 
 RowNode writeBuildingBlocks(const QList<BuildingBlock> &blocks)
 {
-    RowNode table = Internal::tableOf({kSymbol, kName, kType, kFormula});
+    RowNode table = Internal::tableOf(
+        {ProteinColumns::kSymbol, ProteinColumns::kName, ProteinColumns::kType, ProteinColumns::kFormula});
     Internal::TableWriter rows(&table);
     for (const BuildingBlock &block : blocks)
         rows.addRow({block.symbol, block.name, block.type, block.formula}, block.otherCells);
@@ -177,20 +185,21 @@ void append(RowNode *root, const QString &name, const RowNode &table)
 /// A table of sequences that isn't divided into chains and proteins.
 InputOptions readPlainTable(const RowNode &table)
 {
-    const TableReader rows(
-        table, {kProteinAccessionName, kProteinAliasName, kProteinSequence, kName, kSequence, kisCustom});
+    const TableReader rows(table, {kProteinAccessionName, kProteinAliasName, kProteinSequence,
+                                   ProteinColumns::kName, ProteinColumns::kSequence, kisCustom});
     InputOptions options;
     for (int i = 0; i < rows.rowCount(); ++i) {
         Chain chain;
         chain.otherCells = rows.otherCells(i);
-        for (QLatin1String column : {kProteinAccessionName, kProteinAliasName, kName}) {
+        for (QLatin1String column : {kProteinAccessionName, kProteinAliasName, ProteinColumns::kName}) {
             const QString text = rows.text(i, column).trimmed();
             if (chain.name.isEmpty())
                 chain.name = text;
             else if (!text.isEmpty())
                 chain.otherCells.insert(column, text);
         }
-        chain.sequence = rows.text(i, rows.hasColumn(kProteinSequence) ? kProteinSequence : kSequence);
+        chain.sequence =
+            rows.text(i, rows.hasColumn(kProteinSequence) ? kProteinSequence : ProteinColumns::kSequence);
         chain.isCustom = rows.cell(i, kisCustom).isNull() || rows.cell(i, kisCustom).toInt() != 0;
         chain.number = i + 1;
         chain.id = ChainId::createDefaultIdText(chain.number, {});

@@ -10,7 +10,7 @@ namespace orv::msreader {
 
 namespace {
 
-constexpr qsizetype kChunkBytes = 1 << 18;
+constexpr qsizetype kMgfChunkBytes = 1 << 18;
 constexpr int kHighestLevel = 99;
 constexpr int kLevelOfFragments = 2;
 
@@ -175,7 +175,7 @@ private:
 
     bool fetch()
     {
-        m_chunk = m_device->read(kChunkBytes);
+        m_chunk = m_device->read(kMgfChunkBytes);
         m_at = 0;
         if (m_chunk.isEmpty() && !m_device->atEnd()) {
             ++m_line;

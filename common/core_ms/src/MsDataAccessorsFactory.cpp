@@ -13,13 +13,13 @@ namespace orv::msreader {
 
 namespace {
 
-struct Row
+struct ReaderRow
 {
     VendorDataFormat format;
     std::unique_ptr<MsReaderAccessor> (*create)(const MsReaderOptions &options);
 };
 
-constexpr Row kRows[] = {
+constexpr ReaderRow kReaderRows[] = {
     {VendorDataFormat::Mzml, internal::createMzmlReader},
     {VendorDataFormat::Mzxml, internal::createMzxmlReader},
     {VendorDataFormat::Mgf, internal::createMgfReader},
@@ -66,7 +66,7 @@ std::unique_ptr<MsReaderAccessor> MsDataAccessorsFactory::createReader(const MsR
     const VendorDataFormat format = formatOf(options.path);
     if (const ReaderFactory factory = factoryOf(format))
         return factory(options);
-    for (const Row &row : kRows) {
+    for (const ReaderRow &row : kReaderRows) {
         if (row.format == format)
             return row.create(options);
     }

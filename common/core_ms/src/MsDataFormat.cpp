@@ -13,40 +13,40 @@ struct MsDataFormatTr
     Q_DECLARE_TR_FUNCTIONS(MsDataFormat)
 };
 
-struct Row
+struct FormatName
 {
     const char *text;
     VendorDataFormat format;
 };
 
 // clang-format off
-constexpr std::array kRows = {
-    Row{"Unknown", VendorDataFormat::Unknown},
-    Row{"Testing", VendorDataFormat::Testing},
-    Row{"Ulvar2", VendorDataFormat::Ulvar2},
-    Row{"BrukerFID", VendorDataFormat::BrukerFID},
-    Row{"BrukerYEP", VendorDataFormat::BrukerYEP},
-    Row{"BrukerBAF", VendorDataFormat::BrukerBAF},
-    Row{"BrukerU2", VendorDataFormat::BrukerU2},
-    Row{"BrukerBAF_and_U2", VendorDataFormat::BrukerBAF_and_U2},
-    Row{"BrukerTims", VendorDataFormat::BrukerTims},
-    Row{"BrukerTsf", VendorDataFormat::BrukerTsf},
-    Row{"AgilentAcqData", VendorDataFormat::AgilentAcqData},
-    Row{"Mobilion", VendorDataFormat::Mobilion},
-    Row{"Waters", VendorDataFormat::Waters},
-    Row{"Shimadzu", VendorDataFormat::Shimadzu},
-    Row{"SciexWiff", VendorDataFormat::SciexWiff},
-    Row{"SciexWiff2", VendorDataFormat::SciexWiff2},
-    Row{"MsFaux", VendorDataFormat::MsFaux},
-    Row{"MsFaux2", VendorDataFormat::MsFaux2},
-    Row{"Thermo", VendorDataFormat::Thermo},
-    Row{"Mgf", VendorDataFormat::Mgf},
-    Row{"Mzml", VendorDataFormat::Mzml},
-    Row{"Mzxml", VendorDataFormat::Mzxml},
-    Row{"Tolq", VendorDataFormat::Tolq},
-    Row{"DataCut", VendorDataFormat::DataCut},
-    Row{"DataCutEmbedded", VendorDataFormat::DataCutEmbedded},
-    Row{"Csv2d", VendorDataFormat::Csv2d},
+constexpr std::array kFormatNames = {
+    FormatName{"Unknown", VendorDataFormat::Unknown},
+    FormatName{"Testing", VendorDataFormat::Testing},
+    FormatName{"Ulvar2", VendorDataFormat::Ulvar2},
+    FormatName{"BrukerFID", VendorDataFormat::BrukerFID},
+    FormatName{"BrukerYEP", VendorDataFormat::BrukerYEP},
+    FormatName{"BrukerBAF", VendorDataFormat::BrukerBAF},
+    FormatName{"BrukerU2", VendorDataFormat::BrukerU2},
+    FormatName{"BrukerBAF_and_U2", VendorDataFormat::BrukerBAF_and_U2},
+    FormatName{"BrukerTims", VendorDataFormat::BrukerTims},
+    FormatName{"BrukerTsf", VendorDataFormat::BrukerTsf},
+    FormatName{"AgilentAcqData", VendorDataFormat::AgilentAcqData},
+    FormatName{"Mobilion", VendorDataFormat::Mobilion},
+    FormatName{"Waters", VendorDataFormat::Waters},
+    FormatName{"Shimadzu", VendorDataFormat::Shimadzu},
+    FormatName{"SciexWiff", VendorDataFormat::SciexWiff},
+    FormatName{"SciexWiff2", VendorDataFormat::SciexWiff2},
+    FormatName{"MsFaux", VendorDataFormat::MsFaux},
+    FormatName{"MsFaux2", VendorDataFormat::MsFaux2},
+    FormatName{"Thermo", VendorDataFormat::Thermo},
+    FormatName{"Mgf", VendorDataFormat::Mgf},
+    FormatName{"Mzml", VendorDataFormat::Mzml},
+    FormatName{"Mzxml", VendorDataFormat::Mzxml},
+    FormatName{"Tolq", VendorDataFormat::Tolq},
+    FormatName{"DataCut", VendorDataFormat::DataCut},
+    FormatName{"DataCutEmbedded", VendorDataFormat::DataCutEmbedded},
+    FormatName{"Csv2d", VendorDataFormat::Csv2d},
 };
 // clang-format on
 
@@ -54,7 +54,7 @@ constexpr std::array kRows = {
 
 QString vendorDataFormatToString(VendorDataFormat format)
 {
-    for (const Row &row : kRows) {
+    for (const FormatName &row : kFormatNames) {
         if (row.format == format)
             return QString::fromLatin1(row.text);
     }
@@ -63,7 +63,7 @@ QString vendorDataFormatToString(VendorDataFormat format)
 
 Result<VendorDataFormat> vendorDataFormatFromString(const QString &text)
 {
-    for (const Row &row : kRows) {
+    for (const FormatName &row : kFormatNames) {
         if (text.compare(QLatin1String(row.text), Qt::CaseInsensitive) == 0)
             return row.format;
     }

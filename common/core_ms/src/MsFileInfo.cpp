@@ -8,7 +8,7 @@ namespace orv::msreader {
 
 namespace {
 
-const internal::FormatDetectorRegistry &registry()
+const internal::FormatDetectorRegistry &detectors()
 {
     static const internal::FormatDetectorRegistry detectors(internal::createFormatDetectors());
     return detectors;
@@ -16,7 +16,7 @@ const internal::FormatDetectorRegistry &registry()
 
 const internal::FormatDetectorBase *detectorOf(VendorDataFormat format)
 {
-    const internal::FormatDetectorBase *detector = registry().detectorOf(format);
+    const internal::FormatDetectorBase *detector = detectors().detectorOf(format);
     if (!detector)
         qCWarning(genericLog()) << "Unknown file format:" << int(format);
     return detector;
@@ -61,7 +61,7 @@ QSet<QString> MsFileInfo::fileNameExtensions(const QSet<VendorDataFormat> &forma
 
 QSet<VendorDataFormat> MsFileInfo::allFormats()
 {
-    return registry().formats();
+    return detectors().formats();
 }
 
 QSet<VendorDataFormat> MsFileInfo::detectFormat(const DataSourceLocation &location, bool byName,
@@ -70,7 +70,7 @@ QSet<VendorDataFormat> MsFileInfo::detectFormat(const DataSourceLocation &locati
     if (location.kind == DataSourceLocation::Kind::ProjectDatabase)
         return {VendorDataFormat::DataCutEmbedded};
     QSet<VendorDataFormat> formats;
-    for (const auto &detector : registry().detectors()) {
+    for (const auto &detector : detectors().detectors()) {
         formats += byName ? detector->detectFormatByName(location.localPath)
                           : detector->detectFormat(location.localPath);
         if (firstOnly && !formats.isEmpty())

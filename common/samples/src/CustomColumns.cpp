@@ -11,8 +11,8 @@ namespace orv::SamplesInput {
 
 namespace {
 
-constexpr QLatin1String kName("name");
-constexpr QLatin1String kType("type");
+constexpr QLatin1String kColumnName("name");
+constexpr QLatin1String kColumnType("type");
 constexpr QLatin1String kAttribute("attribute");
 
 struct CustomColumnsTr
@@ -23,9 +23,9 @@ struct CustomColumnsTr
 Result<CustomColumn> readColumn(const QJsonObject &json)
 {
     MemberReader reader(json);
-    CustomColumn column{reader.text(kName), reader.text(kType), reader.text(kAttribute), json};
+    CustomColumn column{reader.text(kColumnName), reader.text(kColumnType), reader.text(kAttribute), json};
     ORV_RETURN_IF_ERROR(reader.error());
-    for (QLatin1String key : {kName, kType, kAttribute})
+    for (QLatin1String key : {kColumnName, kColumnType, kAttribute})
         column.unknownMembers.remove(key);
     return column;
 }
@@ -33,8 +33,8 @@ Result<CustomColumn> readColumn(const QJsonObject &json)
 QJsonObject writeColumn(const CustomColumn &column)
 {
     QJsonObject json = column.unknownMembers;
-    json.insert(kName, column.name);
-    json.insert(kType, column.type);
+    json.insert(kColumnName, column.name);
+    json.insert(kColumnType, column.type);
     if (column.isFromMetadata())
         json.insert(kAttribute, column.attribute);
     return json;

@@ -10,7 +10,7 @@ namespace orv {
 
 namespace {
 
-constexpr QLatin1String kName("name");
+constexpr QLatin1String kOptionsName("name");
 constexpr QLatin1String kTimeRange("timeRange");
 constexpr QLatin1String kStart("start");
 constexpr QLatin1String kEnd("end");
@@ -86,7 +86,7 @@ Result<ElutionPeaksOptions> ElutionPeaksOptions::fromJson(const QJsonObject &jso
 {
     MemberReader reader(json);
     ElutionPeaksOptions options;
-    options.m_name = reader.text(kName);
+    options.m_name = reader.text(kOptionsName);
     if (reader.has(kTimeRange)) {
         const QJsonObject range = reader.object(kTimeRange);
         MemberReader rangeReader(range);
@@ -99,7 +99,7 @@ Result<ElutionPeaksOptions> ElutionPeaksOptions::fromJson(const QJsonObject &jso
         return creation.ecatch();
     options.m_creationOptions = *creation;
     options.m_unknownMembers = json;
-    for (QLatin1String key : {kName, kTimeRange, kCreationOptions})
+    for (QLatin1String key : {kOptionsName, kTimeRange, kCreationOptions})
         options.m_unknownMembers.remove(key);
     return options;
 }
@@ -107,7 +107,7 @@ Result<ElutionPeaksOptions> ElutionPeaksOptions::fromJson(const QJsonObject &jso
 QJsonObject ElutionPeaksOptions::toJson() const
 {
     QJsonObject json = m_unknownMembers;
-    json.insert(kName, m_name);
+    json.insert(kOptionsName, m_name);
     if (m_timeRange) {
         json.insert(kTimeRange, QJsonObject{{kStart, m_timeRange->start.toString()},
                                             {kEnd, m_timeRange->end.toString()}});

@@ -10,7 +10,7 @@ namespace orv {
 namespace {
 
 constexpr QLatin1String kTraces("TracesImportList");
-constexpr QLatin1String kPeaksOptions("ElutionPeaksOptions");
+constexpr QLatin1String kPeaksPresets("ElutionPeaksOptions");
 
 struct TraceImportAndProcessingOptionsTr
 {
@@ -57,7 +57,7 @@ Result<TraceImportAndProcessingOptions> TraceImportAndProcessingOptions::fromJso
             return traces.ecatch();
         options.traces = *traces;
     }
-    reader.forEachObject(kPeaksOptions, [&options](const QJsonObject &element) -> Error {
+    reader.forEachObject(kPeaksPresets, [&options](const QJsonObject &element) -> Error {
         Result<ElutionPeaksOptions> preset = ElutionPeaksOptions::fromJson(element);
         if (preset.hasError())
             return preset.ecatch();
@@ -67,7 +67,7 @@ Result<TraceImportAndProcessingOptions> TraceImportAndProcessingOptions::fromJso
     ORV_RETURN_IF_ERROR(reader.error());
     options.m_unknownMembers = json;
     // Empty arrays remember that the member was there.
-    for (QLatin1String key : {kTraces, kPeaksOptions}) {
+    for (QLatin1String key : {kTraces, kPeaksPresets}) {
         if (reader.has(key))
             options.m_unknownMembers.insert(key, QJsonArray());
     }
@@ -81,7 +81,7 @@ QJsonObject TraceImportAndProcessingOptions::toJson() const
     for (const ElutionPeaksOptions &preset : peaksOptions)
         presets.append(preset.toJson());
     insertUnlessAbsent(&json, kTraces, traces.toJson());
-    insertUnlessAbsent(&json, kPeaksOptions, presets);
+    insertUnlessAbsent(&json, kPeaksPresets, presets);
     return json;
 }
 

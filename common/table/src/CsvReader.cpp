@@ -18,7 +18,7 @@ struct CsvReaderTr
 };
 
 constexpr qsizetype kChunkBytes = 1 << 16;
-constexpr QByteArrayView kByteOrderMark("\xEF\xBB\xBF");
+constexpr QByteArrayView kCsvByteOrderMark("\xEF\xBB\xBF");
 
 /// The parser cuts what this calls a blank from the ends of fields, and RFC 4180 keeps it.
 int nothingIsBlank(unsigned char /*byte*/)
@@ -111,7 +111,7 @@ bool CsvReader::Private::fill()
 {
     chunk.resize(kChunkBytes);
     // A slow device may give less than a byte order mark at first.
-    const qsizetype atLeast = isFirstChunk ? kByteOrderMark.size() : 1;
+    const qsizetype atLeast = isFirstChunk ? kCsvByteOrderMark.size() : 1;
     qint64 size = 0;
     qint64 added = 0;
     do {
@@ -125,8 +125,8 @@ bool CsvReader::Private::fill()
         error.addDetail(device->errorString());
         return false;
     }
-    if (isFirstChunk && chunk.startsWith(kByteOrderMark))
-        at = kByteOrderMark.size();
+    if (isFirstChunk && chunk.startsWith(kCsvByteOrderMark))
+        at = kCsvByteOrderMark.size();
     isFirstChunk = false;
     return at < chunk.size();
 }

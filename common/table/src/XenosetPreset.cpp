@@ -9,7 +9,7 @@ namespace orv {
 
 namespace {
 
-constexpr QByteArrayView kByteOrderMark("\xEF\xBB\xBF");
+constexpr QByteArrayView kPresetByteOrderMark("\xEF\xBB\xBF");
 
 struct XenosetPresetTr
 {
@@ -69,8 +69,8 @@ Result<XenosetPreset> XenosetPreset::fromText(const QByteArray &text)
     XenosetPreset preset;
     QString repeated;
     QByteArrayView rest(text);
-    if (rest.startsWith(kByteOrderMark))
-        rest = rest.sliced(kByteOrderMark.size());
+    if (rest.startsWith(kPresetByteOrderMark))
+        rest = rest.sliced(kPresetByteOrderMark.size());
     for (qsizetype line = 1; !rest.isEmpty(); ++line) {
         const qsizetype end = rest.indexOf('\n');
         QByteArrayView bytes = end < 0 ? rest : rest.first(end);

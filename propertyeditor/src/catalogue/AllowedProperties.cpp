@@ -24,7 +24,7 @@ struct Range
     PropertyId last;
 };
 
-struct Row
+struct AllowedRow
 {
     BaseItemType type;
     std::span<const Range> ranges;
@@ -216,36 +216,36 @@ constexpr std::array kOligoMasses = {
 constexpr std::array kOligoMolecules = {Range{PropertyId::OligoMolecules}};
 constexpr std::array kOligoOptions = {Range{PropertyId::OligoOptions}};
 constexpr std::array kProteins = {Range{PropertyId::Proteins}};
-constexpr std::array kSamples = {Range{PropertyId::SamplesTable}};
+constexpr std::array kSamplesRange = {Range{PropertyId::SamplesTable}};
 constexpr std::array kSamplesProteins = {Range{PropertyId::SamplesProteins}};
 
 // One row per type of cell, in alphabetical order. Both previews run the same engine.
-constexpr std::array kRows = {
-    Row{BaseItemType::CaldrinDIA, kCaldrinDIA},
-    Row{BaseItemType::Database, kDatabase},
-    Row{BaseItemType::DetachedGlycans, kDetachedGlycans},
-    Row{BaseItemType::Disulfide, kDisulfide},
-    Row{BaseItemType::Dravik, kDravik},
-    Row{BaseItemType::GlycanOptions, kGlycanOptions},
-    Row{BaseItemType::Intact, kIntact},
-    Row{BaseItemType::IntactOptions, kIntactOptions},
-    Row{BaseItemType::IntactProteins, kIntactProteins},
-    Row{BaseItemType::Isotope, kIsotope},
-    Row{BaseItemType::Karvon, kKarvon},
-    Row{BaseItemType::Masses, kMasses},
-    Row{BaseItemType::MultiDocReport, kMultiDocReport},
-    Row{BaseItemType::Oligo, kOligo},
-    Row{BaseItemType::OligoMasses, kOligoMasses},
-    Row{BaseItemType::OligoMolecules, kOligoMolecules},
-    Row{BaseItemType::OligoOptions, kOligoOptions},
-    Row{BaseItemType::Ostrale, kOstrale},
-    Row{BaseItemType::Preview, kPreview},
-    Row{BaseItemType::Proteins, kProteins},
-    Row{BaseItemType::Samples, kSamples},
-    Row{BaseItemType::SamplesProteins, kSamplesProteins},
-    Row{BaseItemType::Senthia, kSenthia},
-    Row{BaseItemType::Trenq, kTrenq},
-    Row{BaseItemType::TrenqPreview, kPreview},
+constexpr std::array kAllowedRows = {
+    AllowedRow{BaseItemType::CaldrinDIA, kCaldrinDIA},
+    AllowedRow{BaseItemType::Database, kDatabase},
+    AllowedRow{BaseItemType::DetachedGlycans, kDetachedGlycans},
+    AllowedRow{BaseItemType::Disulfide, kDisulfide},
+    AllowedRow{BaseItemType::Dravik, kDravik},
+    AllowedRow{BaseItemType::GlycanOptions, kGlycanOptions},
+    AllowedRow{BaseItemType::Intact, kIntact},
+    AllowedRow{BaseItemType::IntactOptions, kIntactOptions},
+    AllowedRow{BaseItemType::IntactProteins, kIntactProteins},
+    AllowedRow{BaseItemType::Isotope, kIsotope},
+    AllowedRow{BaseItemType::Karvon, kKarvon},
+    AllowedRow{BaseItemType::Masses, kMasses},
+    AllowedRow{BaseItemType::MultiDocReport, kMultiDocReport},
+    AllowedRow{BaseItemType::Oligo, kOligo},
+    AllowedRow{BaseItemType::OligoMasses, kOligoMasses},
+    AllowedRow{BaseItemType::OligoMolecules, kOligoMolecules},
+    AllowedRow{BaseItemType::OligoOptions, kOligoOptions},
+    AllowedRow{BaseItemType::Ostrale, kOstrale},
+    AllowedRow{BaseItemType::Preview, kPreview},
+    AllowedRow{BaseItemType::Proteins, kProteins},
+    AllowedRow{BaseItemType::Samples, kSamplesRange},
+    AllowedRow{BaseItemType::SamplesProteins, kSamplesProteins},
+    AllowedRow{BaseItemType::Senthia, kSenthia},
+    AllowedRow{BaseItemType::Trenq, kTrenq},
+    AllowedRow{BaseItemType::TrenqPreview, kPreview},
 };
 // clang-format on
 
@@ -254,7 +254,7 @@ using SetsByType = QHash<BaseItemType, QSet<PropertyId>>;
 SetsByType makeSets()
 {
     SetsByType sets;
-    for (const Row &row : kRows) {
+    for (const AllowedRow &row : kAllowedRows) {
         QSet<PropertyId> &set = sets[row.type];
         for (const Range &range : row.ranges) {
             for (int id = range.first; id <= range.last; ++id)

@@ -31,7 +31,7 @@ const QStringList &columns()
     return names;
 }
 
-Error fault(const QString &message)
+Error tableFault(const QString &message)
 {
     return Error(ErrorCode::InvalidContent, message);
 }
@@ -43,8 +43,9 @@ Result<QMap<QByteArray, QString>> optionsOf(const QString &text)
     for (QStringView option : QStringView(text).split(u';', Qt::SkipEmptyParts)) {
         const qsizetype equals = option.indexOf(u'=');
         if (equals <= 0)
-            return fault(PropertiesCsvReaderTr::tr("The type option \"%1\" is not of the form name=value.")
-                             .arg(option));
+            return tableFault(
+                PropertiesCsvReaderTr::tr("The type option \"%1\" is not of the form name=value.")
+                    .arg(option));
         options.insert(option.first(equals).toUtf8(), option.sliced(equals + 1).toString());
     }
     return options;
@@ -57,11 +58,11 @@ Result<CsvRow> nextRow(CsvReader &reader)
     if (row.hasError())
         return row.ecatch();
     if (!row->has_value())
-        return fault(PropertiesCsvReaderTr::tr("The table ends too early."));
+        return tableFault(PropertiesCsvReaderTr::tr("The table ends too early."));
     if ((*row)->fields.size() != columns().size()) {
-        return fault(PropertiesCsvReaderTr::tr("A row has %1 fields and not %2.")
-                         .arg((*row)->fields.size())
-                         .arg(columns().size()))
+        return tableFault(PropertiesCsvReaderTr::tr("A row has %1 fields and not %2.")
+                              .arg((*row)->fields.size())
+                              .arg(columns().size()))
             .addDetail(PropertiesCsvReaderTr::tr("line %1").arg((*row)->line));
     }
     return std::move(**row);
@@ -97,7 +98,7 @@ Error PropertiesCsvReader::load(QIODevice *device)
     if (header.hasError())
         return header.ecatch();
     if (header->fields != columns())
-        return fault(PropertiesCsvReaderTr::tr("The columns are not %1.").arg(columns().join(u", ")));
+        return tableFault(PropertiesCsvReaderTr::tr("The columns are not %1.").arg(columns().join(u", ")));
     m_idsByName.reserve(qsizetype(2) * kPropertyCount);
     for (int number = 0; number < kPropertyCount; ++number) {
         Result<CsvRow> row = nextRow(reader);
@@ -110,14 +111,15 @@ Error PropertiesCsvReader::load(QIODevice *device)
     if (behind.hasError())
         return behind.ecatch();
     if (behind->has_value())
-        return fault(PropertiesCsvReaderTr::tr("There are more than %1 properties.").arg(kPropertyCount));
+        return tableFault(
+            PropertiesCsvReaderTr::tr("There are more than %1 properties.").arg(kPropertyCount));
     return Error::NoError;
 }
 
 Error PropertiesCsvReader::addRow(int number, QStringList fields)
 {
     if (fields[0] != QString::number(number))
-        return fault(
+        return tableFault(
             PropertiesCsvReaderTr::tr("The id \"%1\" stands where %2 belongs.").arg(fields[0]).arg(number));
     Result<QMap<QByteArray, QString>> options = optionsOf(fields[6]);
     if (options.hasError())
@@ -139,10 +141,10 @@ Error PropertiesCsvReader::addRow(int number, QStringList fields)
 Error PropertiesCsvReader::addName(int number, const QString &name)
 {
     if (name.isEmpty())
-        return fault(PropertiesCsvReaderTr::tr("The property %1 has no name.").arg(number));
+        return tableFault(PropertiesCsvReaderTr::tr("The property %1 has no name.").arg(number));
     const auto known = m_idsByName.constFind(name);
     if (known != m_idsByName.cend())
-        return fault(
+        return tableFault(
             PropertiesCsvReaderTr::tr("Both %1 and %2 are named \"%3\".").arg(*known).arg(number).arg(name));
     m_idsByName.insert(name, PropertyId(number));
     return Error::NoError;

@@ -25,7 +25,7 @@ struct Entry
 using Ids = QList<PropertyId>;
 using Entries = QList<Entry>;
 
-Error fault(const QString &message)
+Error listFault(const QString &message)
 {
     return Error(ErrorCode::InvalidContent, message);
 }
@@ -35,7 +35,7 @@ Result<int> intValue(const QJsonObject &object, const QString &key)
     constexpr int kNone = std::numeric_limits<int>::min();
     const int number = object.value(key).toInt(kNone);
     if (number == kNone)
-        return fault(PropertyListsTr::tr("\"%1\" must be an integer.").arg(key));
+        return listFault(PropertyListsTr::tr("\"%1\" must be an integer.").arg(key));
     return number;
 }
 
@@ -47,10 +47,10 @@ Error addPlain(PropertyLists &lists, const Ids &ids, const Entries &entries)
         if (position.hasError())
             return position.error();
         if (*position != texts.size())
-            return fault(PropertyListsTr::tr("\"%1\" has the value %2 at the position %3.")
-                             .arg(entry.text)
-                             .arg(*position)
-                             .arg(texts.size()));
+            return listFault(PropertyListsTr::tr("\"%1\" has the value %2 at the position %3.")
+                                 .arg(entry.text)
+                                 .arg(*position)
+                                 .arg(texts.size()));
         texts.append(entry.text);
     }
     for (PropertyId id : ids)
@@ -67,7 +67,7 @@ Error addAssociative(PropertyLists &lists, const Ids &ids, const Entries &entrie
         if (number.hasError())
             return number.error();
         if (numbers.contains(*number))
-            return fault(PropertyListsTr::tr("The value %1 is given twice.").arg(*number));
+            return listFault(PropertyListsTr::tr("The value %1 is given twice.").arg(*number));
         numbers.insert(*number);
         pairs.append({*number, entry.text});
     }
@@ -85,7 +85,7 @@ Error addAssociativeString(PropertyLists &lists, const Ids &ids, const Entries &
         if (key.hasError())
             return key.error();
         if (keys.contains(*key))
-            return fault(PropertyListsTr::tr("The key \"%1\" is given twice.").arg(*key));
+            return listFault(PropertyListsTr::tr("The key \"%1\" is given twice.").arg(*key));
         keys.insert(*key);
         pairs.append({*key, entry.text});
     }
@@ -126,9 +126,9 @@ Result<Ids> idsOf(const QJsonObject &list, const PropertyLists &lists)
     for (const QJsonValue value : *array) {
         const int number = value.toInt(-1);
         if (number < 0 || number >= kPropertyCount)
-            return fault(PropertyListsTr::tr("An id is not the number of a property."));
+            return listFault(PropertyListsTr::tr("An id is not the number of a property."));
         if (lists.contains(PropertyId(number)) || ids.contains(PropertyId(number)))
-            return fault(PropertyListsTr::tr("The property %1 has two lists.").arg(number));
+            return listFault(PropertyListsTr::tr("The property %1 has two lists.").arg(number));
         ids.append(PropertyId(number));
     }
     return ids;
@@ -140,7 +140,7 @@ Result<Entries> entriesOf(const QJsonObject &list)
     if (array.hasError())
         return array.error();
     if (array->isEmpty())
-        return fault(PropertyListsTr::tr("The list is empty."));
+        return listFault(PropertyListsTr::tr("The list is empty."));
     Entries entries;
     QSet<QString> texts;
     for (const QJsonValue value : *array) {
@@ -149,7 +149,7 @@ Result<Entries> entriesOf(const QJsonObject &list)
         if (text.hasError())
             return text.error();
         if (texts.contains(*text))
-            return fault(PropertyListsTr::tr("The text \"%1\" is given twice.").arg(*text));
+            return listFault(PropertyListsTr::tr("The text \"%1\" is given twice.").arg(*text));
         texts.insert(*text);
         entries.append({std::move(*text), object});
     }
@@ -160,7 +160,7 @@ Error addFlag(QSet<PropertyId> &flagged, const QJsonObject &list, const QString 
 {
     const QJsonValue value = list.value(key);
     if (!value.isBool())
-        return fault(PropertyListsTr::tr("\"%1\" must be true or false.").arg(key));
+        return listFault(PropertyListsTr::tr("\"%1\" must be true or false.").arg(key));
     if (value.toBool())
         flagged += QSet<PropertyId>(ids.begin(), ids.end());
     return Error::NoError;
@@ -208,7 +208,7 @@ Error addList(PropertyLists &lists, const QJsonObject &list)
         return name.error();
     const auto *const kind = std::ranges::find_if(kKinds, [&](const Kind &k) { return *name == k.name; });
     if (kind == kKinds.end())
-        return fault(PropertyListsTr::tr("\"%1\" is no kind of list.").arg(*name));
+        return listFault(PropertyListsTr::tr("\"%1\" is no kind of list.").arg(*name));
     const Result<Ids> ids = idsOf(list, lists);
     if (ids.hasError())
         return ids.error();

@@ -168,7 +168,7 @@ QJsonValue writeListValue(const KProperty &property)
     return text;
 }
 
-QString absolutePath(const QString &path, const QUrl &baseUrl)
+QString absolutePathOf(const QString &path, const QUrl &baseUrl)
 {
     return QDir::cleanPath(QStringLiteral("%1/%2").arg(baseUrl.toLocalFile(), path));
 }
@@ -181,7 +181,7 @@ QJsonValue writeReference(const KProperty &property, PropertyEditor::PropertyCon
     const QUrl baseUrl = property.option(kbaseUrl).toUrl();
     const bool resolves = flag == PropertyEditor::PropertyConversionFlag::AbsolutePaths &&
                           baseUrl.isValid() && ResourceReferenceUtils::isRelative(reference);
-    return resolves ? absolutePath(reference->text(), baseUrl) : reference->text();
+    return resolves ? absolutePathOf(reference->text(), baseUrl) : reference->text();
 }
 
 } // namespace

@@ -55,7 +55,7 @@ Result<QJsonObject> loadJsonFromFile(const QString &fileName)
     return document->object();
 }
 
-void reportUnknownMembers(const QJsonObject &json, const LoadContext &context)
+void reportUnknownDocumentMembers(const QJsonObject &json, const LoadContext &context)
 {
     if (!context.isObserved())
         return;
@@ -137,7 +137,7 @@ Error Content::assignFromJson(const QJsonObject &json, ValidationOptions options
     assignMetaDataFromJsonObject(json);
     const LoadContext context(d->lossObserver);
     reportMalformedMetadata(json, context);
-    reportUnknownMembers(json, context);
+    reportUnknownDocumentMembers(json, context);
     ORV_RETURN_IF_ERROR(loadExtendedMetadata(json));
     ORV_RETURN_IF_ERROR(loadTabs(json, options));
     Q_EMIT reset();

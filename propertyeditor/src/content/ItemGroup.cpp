@@ -47,7 +47,7 @@ std::vector<ColumnCells> splitIntoColumns(const QJsonArray &cells, qsizetype col
     return columns;
 }
 
-void reportUnknownMembers(const QJsonObject &json, const LoadContext &context)
+void reportUnknownTabMembers(const QJsonObject &json, const LoadContext &context)
 {
     if (!context.isObserved())
         return;
@@ -104,7 +104,7 @@ Error ItemGroup::assignFromJson(const QJsonObject &json, ValidationOptions optio
 
     clear();
     d->name = nameValue.toString();
-    reportUnknownMembers(json, context);
+    reportUnknownTabMembers(json, context);
     if (columnNames.isEmpty()) {
         Q_EMIT reset();
         return Error::NoError;

@@ -13,8 +13,8 @@
 
 namespace orv {
 
-using Content = PreviewPreset::Content;
-using MirelProperties = PreviewPreset::MirelProperties;
+using PresetContent = PreviewPreset::Content;
+using PresetProperties = PreviewPreset::MirelProperties;
 
 namespace {
 
@@ -30,28 +30,28 @@ using Field = std::variant<QString Record::*, bool Record::*, qint32 Record::*>;
 struct KeyRow
 {
     QLatin1String key;
-    Field<Content> field;
+    Field<PresetContent> field;
 };
 
 constexpr std::array kPaths = {
-    KeyRow{QLatin1String("SpectraFiles"), &Content::spectraFiles},
-    KeyRow{QLatin1String("DatabaseFiles"), &Content::databaseFiles},
-    KeyRow{QLatin1String("OutputFolder"), &Content::outputFolder},
+    KeyRow{QLatin1String("SpectraFiles"), &PresetContent::spectraFiles},
+    KeyRow{QLatin1String("DatabaseFiles"), &PresetContent::databaseFiles},
+    KeyRow{QLatin1String("OutputFolder"), &PresetContent::outputFolder},
 };
 
 constexpr std::array kSettings = {
-    KeyRow{QLatin1String("ArgMod"), &Content::argMod},
-    KeyRow{QLatin1String("CysMod"), &Content::cysMod},
-    KeyRow{QLatin1String("LysMod"), &Content::lysMod},
-    KeyRow{QLatin1String("NTermMod"), &Content::nTermMod},
-    KeyRow{QLatin1String("CTermMod"), &Content::cTermMod},
-    KeyRow{QLatin1String("DigestLetters"), &Content::digestLetters},
-    KeyRow{QLatin1String("Wildcard"), &Content::wildcard},
-    KeyRow{QLatin1String("phospho_search"), &Content::phosphoSearch},
-    KeyRow{QLatin1String("AllCharges"), &Content::allCharges},
-    KeyRow{QLatin1String("FragType"), &Content::fragType},
-    KeyRow{QLatin1String("digest_side"), &Content::digestSide},
-    KeyRow{QLatin1String("DigestType"), &Content::digestType},
+    KeyRow{QLatin1String("ArgMod"), &PresetContent::argMod},
+    KeyRow{QLatin1String("CysMod"), &PresetContent::cysMod},
+    KeyRow{QLatin1String("LysMod"), &PresetContent::lysMod},
+    KeyRow{QLatin1String("NTermMod"), &PresetContent::nTermMod},
+    KeyRow{QLatin1String("CTermMod"), &PresetContent::cTermMod},
+    KeyRow{QLatin1String("DigestLetters"), &PresetContent::digestLetters},
+    KeyRow{QLatin1String("Wildcard"), &PresetContent::wildcard},
+    KeyRow{QLatin1String("phospho_search"), &PresetContent::phosphoSearch},
+    KeyRow{QLatin1String("AllCharges"), &PresetContent::allCharges},
+    KeyRow{QLatin1String("FragType"), &PresetContent::fragType},
+    KeyRow{QLatin1String("digest_side"), &PresetContent::digestSide},
+    KeyRow{QLatin1String("DigestType"), &PresetContent::digestType},
 };
 
 /// Lines that are written for the engine's sake and never read.
@@ -73,23 +73,25 @@ constexpr std::array kFixed = {
 struct PropertyRow
 {
     PropertyId id;
-    Field<MirelProperties> property;
-    Field<Content> file;
+    Field<PresetProperties> property;
+    Field<PresetContent> file;
 };
 
 constexpr std::array kProperties = {
-    PropertyRow{PropertyId::PreviewCysMod, &MirelProperties::cysMod, &Content::cysMod},
-    PropertyRow{PropertyId::PreviewLysMod, &MirelProperties::lysMod, &Content::lysMod},
-    PropertyRow{PropertyId::PreviewArgMod, &MirelProperties::argMod, &Content::argMod},
-    PropertyRow{PropertyId::PreviewNTermMod, &MirelProperties::nTermMod, &Content::nTermMod},
-    PropertyRow{PropertyId::PreviewCTermMod, &MirelProperties::cTermMod, &Content::cTermMod},
-    PropertyRow{PropertyId::PreviewDigestLetters, &MirelProperties::digestLetters, &Content::digestLetters},
-    PropertyRow{PropertyId::PreviewDigestSide, &MirelProperties::digestSide, &Content::digestSide},
-    PropertyRow{PropertyId::PreviewFragType, &MirelProperties::fragType, &Content::fragType},
-    PropertyRow{PropertyId::PreviewDigestType, &MirelProperties::digestType, &Content::digestType},
-    PropertyRow{PropertyId::PreviewPhosphoSearch, &MirelProperties::phosphoSearch, &Content::phosphoSearch},
-    PropertyRow{PropertyId::PreviewWildcard, &MirelProperties::wildcard, &Content::wildcard},
-    PropertyRow{PropertyId::PreviewAllCharges, &MirelProperties::allCharges, &Content::allCharges},
+    PropertyRow{PropertyId::PreviewCysMod, &PresetProperties::cysMod, &PresetContent::cysMod},
+    PropertyRow{PropertyId::PreviewLysMod, &PresetProperties::lysMod, &PresetContent::lysMod},
+    PropertyRow{PropertyId::PreviewArgMod, &PresetProperties::argMod, &PresetContent::argMod},
+    PropertyRow{PropertyId::PreviewNTermMod, &PresetProperties::nTermMod, &PresetContent::nTermMod},
+    PropertyRow{PropertyId::PreviewCTermMod, &PresetProperties::cTermMod, &PresetContent::cTermMod},
+    PropertyRow{PropertyId::PreviewDigestLetters, &PresetProperties::digestLetters,
+                &PresetContent::digestLetters},
+    PropertyRow{PropertyId::PreviewDigestSide, &PresetProperties::digestSide, &PresetContent::digestSide},
+    PropertyRow{PropertyId::PreviewFragType, &PresetProperties::fragType, &PresetContent::fragType},
+    PropertyRow{PropertyId::PreviewDigestType, &PresetProperties::digestType, &PresetContent::digestType},
+    PropertyRow{PropertyId::PreviewPhosphoSearch, &PresetProperties::phosphoSearch,
+                &PresetContent::phosphoSearch},
+    PropertyRow{PropertyId::PreviewWildcard, &PresetProperties::wildcard, &PresetContent::wildcard},
+    PropertyRow{PropertyId::PreviewAllCharges, &PresetProperties::allCharges, &PresetContent::allCharges},
 };
 
 QString textOf(const QString &value)
@@ -127,7 +129,7 @@ void appendLine(QLatin1String key, const QString &value, QString *text)
     *text += key + QLatin1Char('=') + value + QLatin1Char('\n');
 }
 
-void readField(const QString &key, const QString &value, Content *content)
+void readField(const QString &key, const QString &value, PresetContent *content)
 {
     const auto readFrom = [&](const auto &rows) {
         for (const KeyRow &row : rows) {
@@ -144,30 +146,31 @@ void readField(const QString &key, const QString &value, Content *content)
 QString PreviewPreset::createPresetContentFromWorkflow(const QString &spectraFiles,
                                                        const QString &databaseFiles,
                                                        const QString &outputFolder,
-                                                       const MirelProperties &properties)
+                                                       const PresetProperties &properties)
 {
-    return Content::fromMirelProperties(spectraFiles, databaseFiles, outputFolder, properties)
-        .convertToFileContent(Content::WithHeader);
+    return PresetContent::fromMirelProperties(spectraFiles, databaseFiles, outputFolder, properties)
+        .convertToFileContent(PresetContent::WithHeader);
 }
 
-Content Content::fromMirelProperties(const QString &spectraFiles, const QString &databaseFiles,
-                                     const QString &outputFolder, const MirelProperties &properties)
+PresetContent PresetContent::fromMirelProperties(const QString &spectraFiles, const QString &databaseFiles,
+                                                 const QString &outputFolder,
+                                                 const PresetProperties &properties)
 {
-    Content content;
+    PresetContent content;
     content.spectraFiles = spectraFiles;
     content.databaseFiles = databaseFiles;
     content.outputFolder = outputFolder;
     for (const PropertyRow &row : kProperties) {
         std::visit(
-            [&]<typename T>(T MirelProperties::*property) {
-                content.*std::get<T Content::*>(row.file) = properties.*property;
+            [&]<typename T>(T PresetProperties::*property) {
+                content.*std::get<T PresetContent::*>(row.file) = properties.*property;
             },
             row.property);
     }
     return content;
 }
 
-Result<Content> Content::fromPreviewPresetFile(const QString &path)
+Result<PresetContent> PresetContent::fromPreviewPresetFile(const QString &path)
 {
     const Result<QByteArray> bytes = FileUtils::readFile(path, kMaximumSize);
     if (!bytes.hasError())
@@ -180,13 +183,13 @@ Result<Content> Content::fromPreviewPresetFile(const QString &path)
     return error.ecatch();
 }
 
-Content Content::fromFileContent(const QByteArray &text)
+PresetContent PresetContent::fromFileContent(const QByteArray &text)
 {
     QBuffer device;
     device.setData(text);
     device.open(QIODevice::ReadOnly | QIODevice::Text);
     QTextStream stream(&device);
-    Content content;
+    PresetContent content;
     QString line;
     while (stream.readLineInto(&line)) {
         if (line.startsWith(QLatin1Char('#')))
@@ -202,7 +205,7 @@ Content Content::fromFileContent(const QByteArray &text)
     return content;
 }
 
-QString Content::convertToFileContent(ConvertMode mode) const
+QString PresetContent::convertToFileContent(ConvertMode mode) const
 {
     QString text;
     if (mode == WithHeader) {
@@ -210,7 +213,7 @@ QString Content::convertToFileContent(ConvertMode mode) const
                    .arg(QDateTime::currentDateTime().toString(Qt::ISODate));
     }
     for (const KeyRow &row : kPaths) {
-        const QString &path = this->*std::get<QString Content::*>(row.field);
+        const QString &path = this->*std::get<QString PresetContent::*>(row.field);
         appendLine(row.key, QDir::toNativeSeparators(path), &text);
     }
     for (const KeyRow &row : kSettings)
@@ -221,32 +224,32 @@ QString Content::convertToFileContent(ConvertMode mode) const
     return text;
 }
 
-MirelProperties MirelProperties::fromPreviewPreset(const Content &content)
+PresetProperties PresetProperties::fromPreviewPreset(const PresetContent &content)
 {
-    MirelProperties properties;
+    PresetProperties properties;
     for (const PropertyRow &row : kProperties) {
         std::visit(
-            [&]<typename T>(T Content::*field) {
-                properties.*std::get<T MirelProperties::*>(row.property) = content.*field;
+            [&]<typename T>(T PresetContent::*field) {
+                properties.*std::get<T PresetProperties::*>(row.property) = content.*field;
             },
             row.file);
     }
     return properties;
 }
 
-MirelProperties MirelProperties::fromPropertiesMap(const QMultiMap<PropertyId, QVariant> &map)
+PresetProperties PresetProperties::fromPropertiesMap(const QMultiMap<PropertyId, QVariant> &map)
 {
-    MirelProperties properties;
+    PresetProperties properties;
     for (const PropertyRow &row : kProperties) {
         const auto found = map.constFind(row.id);
         const QVariant value = found == map.cend() ? QVariant() : *found;
-        std::visit([&]<typename T>(T MirelProperties::*field) { properties.*field = value.value<T>(); },
+        std::visit([&]<typename T>(T PresetProperties::*field) { properties.*field = value.value<T>(); },
                    row.property);
     }
     return properties;
 }
 
-QMultiMap<PropertyId, QVariant> MirelProperties::toPropertiesMap() const
+QMultiMap<PropertyId, QVariant> PresetProperties::toPropertiesMap() const
 {
     QMultiMap<PropertyId, QVariant> map;
     for (const PropertyRow &row : kProperties) {

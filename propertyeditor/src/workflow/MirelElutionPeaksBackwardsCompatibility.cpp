@@ -26,7 +26,7 @@ constexpr QLatin1String kEnable("Enable");
 constexpr int kTimeDecimals = 2;
 constexpr double kTimeTolerance = 1e-12;
 
-QString keyOf(size_t index, QLatin1String prefix)
+QString keyWithPrefix(size_t index, QLatin1String prefix)
 {
     return QString::fromLatin1(kKeys.at(index)).arg(prefix);
 }
@@ -52,13 +52,13 @@ void readNumber(const KeyValueItem &item, const QString &key, double *number)
 /// \a options come in with the values of keys that are missing.
 void takeOptions(QLatin1String prefix, KeyValueItem *item, Compatibility::OldPeaksOptions *options)
 {
-    readMethod(*item, keyOf(0, prefix), &options->peakMethod);
-    readNumber(*item, keyOf(1, prefix), &options->smoothSigma);
-    readNumber(*item, keyOf(2, prefix), &options->intervalTimeMinutes);
-    readMethod(*item, keyOf(3, prefix), &options->baselineMethod);
-    readNumber(*item, keyOf(4, prefix), &options->smoothSigmaBaseline);
+    readMethod(*item, keyWithPrefix(0, prefix), &options->peakMethod);
+    readNumber(*item, keyWithPrefix(1, prefix), &options->smoothSigma);
+    readNumber(*item, keyWithPrefix(2, prefix), &options->intervalTimeMinutes);
+    readMethod(*item, keyWithPrefix(3, prefix), &options->baselineMethod);
+    readNumber(*item, keyWithPrefix(4, prefix), &options->smoothSigmaBaseline);
     for (size_t i = 0; i < kKeys.size(); ++i)
-        removeIfThere(keyOf(i, prefix), item);
+        removeIfThere(keyWithPrefix(i, prefix), item);
 }
 
 std::optional<ElutionPeaksOptions::TimeRange> takeTimeRange(KeyValueItem *item)

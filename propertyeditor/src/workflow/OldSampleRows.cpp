@@ -18,7 +18,7 @@ namespace orv {
 namespace {
 
 using Compatibility = ElutionPeaksBackwardsCompatibility;
-using Entry = TracesImportList::Entry;
+using TraceEntry = TracesImportList::Entry;
 using SamplesInput::CustomColumn;
 using SamplesInput::CustomColumns;
 using SamplesInput::SampleWithCustomColumns;
@@ -81,10 +81,10 @@ void addDefinedColumns(const RowNode &definitions, CustomColumns *columns)
 }
 
 /// The cells of one row by the names of their columns.
-class Row
+class OldSampleRow
 {
 public:
-    Row(const RowNode &row, const QMap<QString, qsizetype> &places)
+    OldSampleRow(const RowNode &row, const QMap<QString, qsizetype> &places)
         : m_row(row)
         , m_places(places)
     {}
@@ -111,7 +111,7 @@ ResourceReferenceSPtr referenceOf(const QString &text)
     return reference.valueOr({});
 }
 
-QString pathOf(const Row &row)
+QString pathOf(const OldSampleRow &row)
 {
     QString path = row.text(kPath);
     for (QLatin1String old : kOldPaths) {
@@ -132,9 +132,9 @@ QJsonObject metadataOf(const QVariant &cell)
 class Traces
 {
 public:
-    void addAll(const QList<Entry> &entries)
+    void addAll(const QList<TraceEntry> &entries)
     {
-        for (const Entry &entry : entries)
+        for (const TraceEntry &entry : entries)
             add(entry);
     }
 
@@ -145,29 +145,29 @@ public:
         // Only an entry of the same name can be the same trace.
         const QString name = file->name().toLower();
         const auto known = m_tables.constFind(name);
-        const QList<Entry> alike =
-            known == m_tables.constEnd() ? QList<Entry>() : QList<Entry>{m_entries.at(*known)};
+        const QList<TraceEntry> alike =
+            known == m_tables.constEnd() ? QList<TraceEntry>() : QList<TraceEntry>{m_entries.at(*known)};
         const auto trace =
             Compatibility::createTraceCsvTrace(file, Compatibility::traceItemsFromTracesEntries(alike));
         if (!trace)
             return;
-        const qsizetype place = add(Entry(*trace));
+        const qsizetype place = add(TraceEntry(*trace));
         m_tables.insert(name, place);
         // Samples come in the order of their ids.
         if (QList<int> &ids = m_sampleIds[place]; ids.isEmpty() || ids.constLast() != sampleId)
             ids.append(sampleId);
     }
 
-    [[nodiscard]] QList<Entry> entries() const
+    [[nodiscard]] QList<TraceEntry> entries() const
     {
-        QList<Entry> entries = m_entries;
+        QList<TraceEntry> entries = m_entries;
         for (auto it = m_sampleIds.begin(); it != m_sampleIds.end(); ++it)
             entries[it.key()].setSamplesIds(TraceSampleIds(it.value()));
         return entries;
     }
 
 private:
-    qsizetype add(const Entry &entry)
+    qsizetype add(const TraceEntry &entry)
     {
         const auto known = m_places.constFind(entry.traceItem());
         if (known == m_places.constEnd()) {
@@ -175,18 +175,18 @@ private:
             m_entries.append(entry);
             return m_entries.size() - 1;
         }
-        Entry &same = m_entries[*known];
+        TraceEntry &same = m_entries[*known];
         same.setImported(same.isImported() || entry.isImported());
         return *known;
     }
 
-    QList<Entry> m_entries;
+    QList<TraceEntry> m_entries;
     QHash<TraceItem, qsizetype> m_places;
     QHash<QString, qsizetype> m_tables; ///< by the file's name in lower case
     QMap<qsizetype, QList<int>> m_sampleIds;
 };
 
-void readFiles(const Row &row, SampleWithCustomColumns *sample, Traces *traces, bool *stopAsking)
+void readFiles(const OldSampleRow &row, SampleWithCustomColumns *sample, Traces *traces, bool *stopAsking)
 {
     const ResourceReferenceSPtr table = referenceOf(row.text(kTracesCsv));
     traces->addTable(table, sample->id);
@@ -207,7 +207,7 @@ void readFiles(const Row &row, SampleWithCustomColumns *sample, Traces *traces, 
         sample->extraReferences = {search};
 }
 
-void readCustomValues(const Row &row, const CustomColumns &columns, SampleWithCustomColumns *sample)
+void readCustomValues(const OldSampleRow &row, const CustomColumns &columns, SampleWithCustomColumns *sample)
 {
     for (const CustomColumn &column : columns.columns()) {
         const QVariant value = row.cell(column.name);
@@ -216,8 +216,8 @@ void readCustomValues(const Row &row, const CustomColumns &columns, SampleWithCu
     }
 }
 
-SampleWithCustomColumns readSample(const Row &row, int id, const CustomColumns &columns, Traces *traces,
-                                   bool *stopAsking)
+SampleWithCustomColumns readSample(const OldSampleRow &row, int id, const CustomColumns &columns,
+                                   Traces *traces, bool *stopAsking)
 {
     SampleWithCustomColumns sample;
     sample.id = id;
@@ -236,7 +236,7 @@ SampleWithCustomColumns readSample(const Row &row, int id, const CustomColumns &
 void extractSamplesAndAllTracesFromWlfwSamplesRowNode(const RowNode &samples,
                                                       const std::optional<RowNode> &customColumnsMetaData,
                                                       QList<SampleWithCustomColumns> *samplesOut,
-                                                      CustomColumns *columnsOut, QList<Entry> *tracesOut)
+                                                      CustomColumns *columnsOut, QList<TraceEntry> *tracesOut)
 {
     CustomColumns columns;
     if (customColumnsMetaData)
@@ -256,7 +256,7 @@ void extractSamplesAndAllTracesFromWlfwSamplesRowNode(const RowNode &samples,
     for (int i = 0; i < samples.getChildListSize(); ++i) {
         RowNode row(*samples.getChild(i));
         Compatibility::removeAllDoubleDashFromRowNode(&row);
-        samplesOut->append(readSample(Row(row, places), i + 1, columns, &traces, &stopAsking));
+        samplesOut->append(readSample(OldSampleRow(row, places), i + 1, columns, &traces, &stopAsking));
     }
     *columnsOut = columns;
     *tracesOut = traces.entries();

@@ -17,7 +17,7 @@ namespace orv {
 namespace {
 
 using Answer = MissingFileQuestions::Answer;
-using Entry = TracesImportList::Entry;
+using FoundTrace = TracesImportList::Entry;
 
 struct MirelElutionPeaksBackwardsCompatibilityTr
 {
@@ -108,11 +108,11 @@ bool isImportedAtFirst(const TraceItem &trace, bool isFirst)
     return trace.type() != TraceType::Bpi && (trace.type() != TraceType::Tic || isFirst);
 }
 
-QList<Entry> entriesOf(const QList<TraceItem> &traces)
+QList<FoundTrace> entriesOf(const QList<TraceItem> &traces)
 {
-    QList<Entry> entries;
+    QList<FoundTrace> entries;
     for (const TraceItem &trace : traces) {
-        Entry entry(trace);
+        FoundTrace entry(trace);
         entry.setImported(isImportedAtFirst(trace, entries.isEmpty()));
         entries.append(entry);
     }
@@ -121,7 +121,7 @@ QList<Entry> entriesOf(const QList<TraceItem> &traces)
 
 } // namespace
 
-QList<Entry> extractTracesFromMsFile(QSharedPointer<ResourceReference> *reference, bool *stopAsking)
+QList<FoundTrace> extractTracesFromMsFile(QSharedPointer<ResourceReference> *reference, bool *stopAsking)
 {
     if (!*reference || (*reference)->isEmpty())
         return {};

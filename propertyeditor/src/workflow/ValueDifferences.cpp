@@ -20,7 +20,7 @@ constexpr int kDeepest = 16;
 /// Of a name in a path: places repeat the names above them.
 constexpr qsizetype kLongestName = 200;
 
-constexpr QLatin1String kSampleName("SampleName");
+constexpr QLatin1String kSampleNameMember("SampleName");
 
 bool isTable(const QJsonValue &value)
 {
@@ -40,7 +40,7 @@ std::optional<QStringList> elementNames(const QJsonArray &array)
     for (const auto element : array) {
         const QJsonObject object = element.toObject();
         const QJsonValue name =
-            object.contains(kSampleName) ? object.value(kSampleName) : object.value(NAME_KEY);
+            object.contains(kSampleNameMember) ? object.value(kSampleNameMember) : object.value(NAME_KEY);
         if (!name.isString())
             return {};
         names.append(name.toString());

@@ -16,7 +16,7 @@ namespace CellTypes = PropertyEditor::CellTypes;
 namespace {
 
 constexpr QLatin1String kSamplesArray("Samples");
-constexpr QLatin1String kSampleName("SampleName");
+constexpr QLatin1String kSampleNameColumn("SampleName");
 constexpr QLatin1String kSequencesArray("sequences");
 
 /// A type by its exact name, without a word about others: foreign documents are shown too.
@@ -67,11 +67,11 @@ QStringList sampleNames(const QJsonObject &cell)
     const QJsonObject value = tableValue(cell);
     QStringList names;
     for (const auto sample : value.value(kSamplesArray).toArray())
-        names.append(sample.toObject().value(kSampleName).toString());
+        names.append(sample.toObject().value(kSampleNameColumn).toString());
     if (value.contains(kSamplesArray))
         return names;
     const QJsonArray columns = value.value(DATA).toArray();
-    const auto column = std::find(columns.begin(), columns.end(), QJsonValue(kSampleName));
+    const auto column = std::find(columns.begin(), columns.end(), QJsonValue(kSampleNameColumn));
     if (column == columns.end())
         return names;
     for (const auto row : value.value(CHILDREN).toArray())

@@ -1,4 +1,5 @@
 #include "OrvTest.h"
+#include "ParsedTable.h"
 
 #include <orv/chemistry/DisulfideUtils.h>
 #include <orv/table/rn.h>
@@ -25,14 +26,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-RowNode tableOf(const QByteArray &json)
-{
-    RowNode table;
-    if (!rn::parse(json, &table))
-        qFatal("the test's table is no table");
-    return table;
-}
 
 const QHash<QString, QString> kInsulin{{u"A"_s, u"GIVEQCCTSICSLYQLENYCN"_s},
                                        {u"B"_s, u"FVNQHLCGSHLVEALYLVCGERGFFYTPKT"_s}};

@@ -1,4 +1,5 @@
 #include "OrvTest.h"
+#include "ParsedTable.h"
 
 #include <orv/chemistry/DetachedGlycanUtils.h>
 #include <orv/chemistry/GlycanComposition.h>
@@ -36,14 +37,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-RowNode tableOf(const QByteArray &json)
-{
-    RowNode table;
-    if (!rn::parse(json, &table))
-        qFatal("the test's table is no table");
-    return table;
-}
 
 GlycanOptions defaultOptions()
 {

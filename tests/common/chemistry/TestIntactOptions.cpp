@@ -1,4 +1,5 @@
 #include "OrvTest.h"
+#include "ParsedTable.h"
 
 #include <orv/chemistry/IntactOptionsUtils.h>
 #include <orv/table/rn.h>
@@ -32,14 +33,6 @@ IntactOptions good()
     options.name = u"Native"_s;
     options.adduct = u"H"_s;
     return options;
-}
-
-RowNode tableOf(const QByteArray &json)
-{
-    RowNode table;
-    if (!rn::parse(json, &table))
-        qFatal("the test's table is no table");
-    return table;
 }
 
 } // namespace

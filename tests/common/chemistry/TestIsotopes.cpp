@@ -1,4 +1,5 @@
 #include "OrvTest.h"
+#include "ParsedTable.h"
 
 #include <orv/chemistry/IsotopeUtils.h>
 #include <orv/table/rn.h>
@@ -25,18 +26,6 @@ private Q_SLOTS:
     void formulasWithoutEnvelopeAreRefused_data();
     void formulasWithoutEnvelopeAreRefused();
 };
-
-namespace {
-
-RowNode tableOf(const QByteArray &json)
-{
-    RowNode table;
-    if (!rn::parse(json, &table))
-        qFatal("the test's table is no table");
-    return table;
-}
-
-} // namespace
 
 void TestIsotopes::theDefaultIsCarbon13AtItsNaturalAbundance()
 {

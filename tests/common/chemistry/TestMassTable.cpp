@@ -1,4 +1,5 @@
 #include "OrvTest.h"
+#include "ParsedTable.h"
 
 #include <orv/chemistry/ChemistryConstants.h>
 #include <orv/chemistry/MassUtils.h>
@@ -34,15 +35,7 @@ private Q_SLOTS:
 
 namespace {
 
-RowNode tableOf(const QByteArray &json)
-{
-    RowNode table;
-    if (!rn::parse(json, &table))
-        qFatal("the test's table is no table");
-    return table;
-}
-
-const QList<int> kSamples{1, 2};
+const QList<int> kMassSamples{1, 2};
 
 } // namespace
 
@@ -179,7 +172,7 @@ void TestMassTable::goodMassesPass()
     const QList<DeltaMass> masses{{0, u"G0F"_s, 148055.9, {}, {}, {1, 2}, {}},
                                   {0, u"G0F"_s, 148055.9, {}, u"mAb"_s, {}, {}},
                                   {0, u"water"_s, -18.01, {}, {}, {}, {}}};
-    QVERIFY(MassUtils::validate(masses, kSamples, &errors, &warnings));
+    QVERIFY(MassUtils::validate(masses, kMassSamples, &errors, &warnings));
     QCOMPARE(errors + warnings, QStringList());
 }
 
@@ -200,7 +193,7 @@ void TestMassTable::faultsAreTold()
     QStringList warnings;
     const RowNode table =
         tableOf(R"({"data":["Name","Mass","SamplesIds"],"children":[{"data":[]},{"data":[)" + row + "]}]}");
-    QVERIFY(!MassUtils::validate(MassUtils::deltaMassesFromRowNode(table), kSamples, &errors, &warnings));
+    QVERIFY(!MassUtils::validate(MassUtils::deltaMassesFromRowNode(table), kMassSamples, &errors, &warnings));
     QCOMPARE(errors.size(), 1);
     QVERIFY2(errors.constFirst().startsWith(u"Row 2 (\"G0F\")"_s), qPrintable(errors.constFirst()));
     QVERIFY2(errors.constFirst().contains(error), qPrintable(errors.constFirst()));
@@ -224,7 +217,7 @@ void TestMassTable::warningsAlonePass()
     QStringList errors;
     QStringList warnings;
     const RowNode table = tableOf(R"({"data":["Name","Mass","SamplesIds"],"children":[)" + rows + "]}");
-    QVERIFY(MassUtils::validate(MassUtils::deltaMassesFromRowNode(table), kSamples, &errors, &warnings));
+    QVERIFY(MassUtils::validate(MassUtils::deltaMassesFromRowNode(table), kMassSamples, &errors, &warnings));
     QCOMPARE(errors, QStringList());
     QCOMPARE(warnings.size(), 1);
     QVERIFY2(warnings.constFirst().contains(warning), qPrintable(warnings.constFirst()));
@@ -233,9 +226,9 @@ void TestMassTable::warningsAlonePass()
 void TestMassTable::listsMayBeNullAndAreAppendedTo()
 {
     const QList<DeltaMass> masses{{0, u"G0F"_s, {}, {}, {}, {}, {}}};
-    QVERIFY(!MassUtils::validate(masses, kSamples, nullptr, nullptr));
+    QVERIFY(!MassUtils::validate(masses, kMassSamples, nullptr, nullptr));
     QStringList errors{u"earlier"_s};
-    QVERIFY(!MassUtils::validate(masses, kSamples, &errors, nullptr));
+    QVERIFY(!MassUtils::validate(masses, kMassSamples, &errors, nullptr));
     QCOMPARE(errors.size(), 2);
     QCOMPARE(errors.constFirst(), u"earlier"_s);
 }

@@ -1,4 +1,5 @@
 #include "OrvTest.h"
+#include "ParsedTable.h"
 
 #include <orv/chemistry/ChainId.h>
 #include <orv/chemistry/ChemistryConstants.h>
@@ -63,14 +64,6 @@ ProteinComplex proteinOf(const QString &name, const QList<int> &chains, int disu
     protein.chainNumbers = chains;
     protein.disulfides = disulfides;
     return protein;
-}
-
-RowNode tableOf(const QByteArray &json)
-{
-    RowNode table;
-    if (!rn::parse(json, &table))
-        qFatal("the test's table is no table");
-    return table;
 }
 
 } // namespace

@@ -21,7 +21,7 @@ private Q_SLOTS:
 
 namespace {
 
-Chain chainOf(int number, const QString &name, const QString &sequence)
+Chain numberedChain(int number, const QString &name, const QString &sequence)
 {
     Chain chain;
     chain.number = number;
@@ -32,10 +32,10 @@ Chain chainOf(int number, const QString &name, const QString &sequence)
 }
 
 /// Two chains with a bond, for all samples; a combination, for two of three.
-InputOptions good()
+InputOptions goodInput()
 {
     InputOptions options;
-    options.chains = {chainOf(1, u"HC"_s, u"EVQLC\ncPEP"_s), chainOf(2, u"LC"_s, u"DIQCC"_s)};
+    options.chains = {numberedChain(1, u"HC"_s, u"EVQLC\ncPEP"_s), numberedChain(2, u"LC"_s, u"DIQCC"_s)};
     options.proteins.resize(2);
     options.proteins[0].name = u"mAb"_s;
     options.proteins[0].chainNumbers = {1, 2};
@@ -45,7 +45,7 @@ InputOptions good()
     return options;
 }
 
-const QList<int> kSamples{3, 4, 5};
+const QList<int> kProteinSamples{3, 4, 5};
 
 using Spoil = void (*)(InputOptions *);
 
@@ -57,7 +57,7 @@ void TestProteinInputCheck::goodInputPasses()
 {
     QStringList errors;
     QStringList warnings;
-    QVERIFY(ProteinUtils::validate(good(), kSamples, &errors, &warnings));
+    QVERIFY(ProteinUtils::validate(goodInput(), kProteinSamples, &errors, &warnings));
     QCOMPARE(errors + warnings, QStringList());
     QVERIFY(ProteinUtils::validate(InputOptions(), {}, nullptr, nullptr));
 }
@@ -102,10 +102,10 @@ void TestProteinInputCheck::faultsAreTold()
 {
     QFETCH(Spoil, spoil);
     QFETCH(QString, error);
-    InputOptions options = good();
+    InputOptions options = goodInput();
     spoil(&options);
     QStringList errors;
-    QVERIFY(!ProteinUtils::validate(options, kSamples, &errors, nullptr));
+    QVERIFY(!ProteinUtils::validate(options, kProteinSamples, &errors, nullptr));
     QCOMPARE(errors.size(), 1);
     QVERIFY2(errors.constFirst().contains(error), qPrintable(errors.constFirst()));
 }
@@ -129,7 +129,8 @@ void TestProteinInputCheck::warningsAlonePass_data()
     row(
         "protein without name", [](InputOptions *o) { o->proteins[0].name.clear(); }, "no name");
     row(
-        "unused chain", [](InputOptions *o) { o->chains.append(chainOf(3, u"XC"_s, u"K"_s)); }, "\"XC\"");
+        "unused chain", [](InputOptions *o) { o->chains.append(numberedChain(3, u"XC"_s, u"K"_s)); },
+        "\"XC\"");
     row(
         "a sample is gone",
         [](InputOptions *o) {
@@ -142,11 +143,11 @@ void TestProteinInputCheck::warningsAlonePass()
 {
     QFETCH(Spoil, spoil);
     QFETCH(QString, warning);
-    InputOptions options = good();
+    InputOptions options = goodInput();
     spoil(&options);
     QStringList errors;
     QStringList warnings;
-    QVERIFY(ProteinUtils::validate(options, kSamples, &errors, &warnings));
+    QVERIFY(ProteinUtils::validate(options, kProteinSamples, &errors, &warnings));
     QCOMPARE(errors, QStringList());
     QCOMPARE(warnings.size(), 1);
     QVERIFY2(warnings.constFirst().contains(warning), qPrintable(warnings.constFirst()));
@@ -154,11 +155,11 @@ void TestProteinInputCheck::warningsAlonePass()
 
 void TestProteinInputCheck::listsMayBeNullAndAreAppendedTo()
 {
-    InputOptions options = good();
+    InputOptions options = goodInput();
     options.chains[0].sequence.clear();
-    QVERIFY(!ProteinUtils::validate(options, kSamples, nullptr, nullptr));
+    QVERIFY(!ProteinUtils::validate(options, kProteinSamples, nullptr, nullptr));
     QStringList errors{u"earlier"_s};
-    QVERIFY(!ProteinUtils::validate(options, kSamples, &errors, nullptr));
+    QVERIFY(!ProteinUtils::validate(options, kProteinSamples, &errors, nullptr));
     QCOMPARE(errors.constFirst(), u"earlier"_s);
     QVERIFY(errors.size() > 1);
 }

@@ -1,4 +1,5 @@
 #include "OrvTest.h"
+#include "References.h"
 
 #include <orv/core_ms/ElutionPeaksBackwardsCompatibility.h>
 
@@ -38,11 +39,6 @@ Compatibility::Output outputOf(const Compatibility::Input &input)
 Entry entry(TraceType type, const QString &name)
 {
     return Entry(TraceItem(type, {name, name}));
-}
-
-ResourceReferenceSPtr reference(const QString &text)
-{
-    return ResourceReference::fromString(text).valueOr({});
 }
 
 } // namespace
@@ -294,13 +290,13 @@ void TestElutionPeaks::aTableGivesATraceByItsName()
     QFETCH(QString, file);
     QFETCH(Traces, existing);
     QFETCH(TraceItem, trace);
-    QCOMPARE(Compatibility::createTraceCsvTrace(reference(file), existing), std::optional(trace));
+    QCOMPARE(Compatibility::createTraceCsvTrace(referenceOf(file), existing), std::optional(trace));
 }
 
 void TestElutionPeaks::noFileGivesNoTrace()
 {
     QVERIFY(!Compatibility::createTraceCsvTrace({}, {}));
-    QVERIFY(!Compatibility::createTraceCsvTrace(reference({}), {}));
+    QVERIFY(!Compatibility::createTraceCsvTrace(referenceOf({}), {}));
 }
 
 void TestElutionPeaks::entriesGiveTheirTraces()

@@ -1,6 +1,7 @@
 #include "LogCapture.h"
 #include "MzmlTexts.h"
 #include "OrvTest.h"
+#include "References.h"
 #include "SampleTree.h"
 #include "TestData.h"
 
@@ -12,18 +13,13 @@ using namespace Qt::StringLiterals;
 
 using Compatibility = ElutionPeaksBackwardsCompatibility;
 using Entry = TracesImportList::Entry;
-using Entries = QList<Entry>;
+using TraceEntries = QList<Entry>;
 
 namespace {
 
-ResourceReferenceSPtr reference(const QString &text)
-{
-    return ResourceReference::fromString(text).valueOr({});
-}
-
 ResourceReferenceSPtr dataFile(const char *name)
 {
-    return reference(TestData::path(u"core_ms/"_s + QString::fromLatin1(name)));
+    return referenceOf(TestData::path(u"core_ms/"_s + QString::fromLatin1(name)));
 }
 
 Entry entry(TraceType type, const QString &name, const QString &id, bool isImported = true)
@@ -44,7 +40,7 @@ QStringList described(const TraceImportAndProcessingOptions &options)
     return texts;
 }
 
-TraceImportAndProcessingOptions optionsOf(const Entries &entries)
+TraceImportAndProcessingOptions optionsOf(const TraceEntries &entries)
 {
     TraceImportAndProcessingOptions options;
     options.traces.setList(entries);
@@ -90,7 +86,7 @@ void TestElutionTracesUpdate::tracesGetTheirNewNames()
          entry(TraceType::Tic, u"Total ions"_s, u"0"_s), entry(TraceType::Bpi, u"Base peak"_s, u"1"_s, false),
          entry(TraceType::Other, u"pressure"_s, u"pressure"_s)});
     ORV_VERIFY_OK(
-        Compatibility::updateTracesAfterMsReaderApiChanged({reference(tree.at(u"a.mzML"_s))}, &options));
+        Compatibility::updateTracesAfterMsReaderApiChanged({referenceOf(tree.at(u"a.mzML"_s))}, &options));
     QCOMPARE(described(options), (QStringList{u"1 TIC TIC"_s, u"2 BPC BPC off"_s, u"3 DAD 280 DAD 280"_s,
                                               u"3 DAD 214 DAD 214"_s, u"0 pressure pressure"_s}));
 }
@@ -145,7 +141,7 @@ void TestElutionTracesUpdate::newTracesAreNotImported()
     addRun(tree, u"b.mzML"_s);
     TraceImportAndProcessingOptions options;
     ORV_VERIFY_OK(Compatibility::updateTracesAfterMsReaderApiChanged(
-        {dataFile("ms/three_test_scans.mzML"), reference(tree.at(u"b.mzML"_s))}, &options));
+        {dataFile("ms/three_test_scans.mzML"), referenceOf(tree.at(u"b.mzML"_s))}, &options));
     QCOMPARE(described(options),
              (QStringList{u"1 TIC TIC off"_s, u"2 BPC BPC off"_s, u"3 DAD 214 DAD 214 off"_s,
                           u"3 DAD 280 DAD 280 off"_s, u"0 pressure pressure off"_s}));
@@ -217,7 +213,7 @@ void TestElutionTracesUpdate::failuresChangeNothing()
     TraceImportAndProcessingOptions options = optionsOf({entry(TraceType::Tic, u"tic"_s, u"0"_s)});
     const TraceImportAndProcessingOptions before = options;
     const Error error = Compatibility::updateTracesAfterMsReaderApiChanged(
-        {dataFile("ms/three_test_scans.mzML"), reference(file)}, &options);
+        {dataFile("ms/three_test_scans.mzML"), referenceOf(file)}, &options);
     QVERIFY(error.hasError());
     QCOMPARE(error.code(), code);
     QVERIFY(options == before);

@@ -1,4 +1,5 @@
 #include "OrvTest.h"
+#include "References.h"
 #include "SampleTree.h"
 
 #include <orv/core_ms/SimpleFilesInfoManager.h>
@@ -9,14 +10,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-ResourceReferenceSPtr reference(const QString &text)
-{
-    return ResourceReference::fromString(text).valueOr({});
-}
-
 Result<ResourceReferenceSPtr> answer(const QString &text)
 {
-    const ResourceReferenceSPtr asked = reference(text);
+    const ResourceReferenceSPtr asked = referenceOf(text);
     SimpleFilesInfoManager manager({asked});
     return manager.validateAndCorrectFileReference(asked);
 }
@@ -44,8 +40,8 @@ void TestFilesInfoManager::aFileThatIsThereStaysAsItIs()
 {
     const SampleTree tree;
     tree.add(u"runs/a.mzML"_s);
-    const ResourceReferenceSPtr file = reference(tree.at(u"runs/a.mzML"_s));
-    SimpleFilesInfoManager manager({file, nullptr, reference({})});
+    const ResourceReferenceSPtr file = referenceOf(tree.at(u"runs/a.mzML"_s));
+    SimpleFilesInfoManager manager({file, nullptr, referenceOf({})});
     const Result<ResourceReferenceSPtr> found = manager.validateAndCorrectFileReference(file);
     ORV_VERIFY_OK(found);
     QCOMPARE(*found, file);
@@ -112,9 +108,9 @@ void TestFilesInfoManager::twoNamesThatFitAreNoAnswer()
 
 void TestFilesInfoManager::othersFilesAreUnknown()
 {
-    SimpleFilesInfoManager manager({reference(u"a.mzML"_s)});
+    SimpleFilesInfoManager manager({referenceOf(u"a.mzML"_s)});
     for (const ResourceReferenceSPtr &other :
-         {reference(u"b.mzML"_s), reference({}), ResourceReferenceSPtr()})
+         {referenceOf(u"b.mzML"_s), referenceOf({}), ResourceReferenceSPtr()})
         QCOMPARE(manager.validateAndCorrectFileReference(other).error().code(), ErrorCode::InvalidContent);
 }
 
@@ -128,11 +124,11 @@ void TestFilesInfoManager::aFileIsAskedForOnce()
 {
     const SampleTree tree;
     tree.add(u"a.mzML"_s);
-    const ResourceReferenceSPtr file = reference(tree.at(u"a.mzML"_s));
+    const ResourceReferenceSPtr file = referenceOf(tree.at(u"a.mzML"_s));
     SimpleFilesInfoManager manager({file});
     ORV_VERIFY_OK(manager.validateAndCorrectFileReference(file));
     QVERIFY(QFile::remove(tree.at(u"a.mzML"_s)));
-    ORV_VERIFY_OK(manager.validateAndCorrectFileReference(reference(tree.at(u"./a.mzML"_s))));
+    ORV_VERIFY_OK(manager.validateAndCorrectFileReference(referenceOf(tree.at(u"./a.mzML"_s))));
 }
 
 ORV_REGISTER_TEST(TestFilesInfoManager)

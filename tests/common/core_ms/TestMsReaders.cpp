@@ -17,7 +17,7 @@ namespace {
 
 using Format = VendorDataFormat;
 
-QString dataPath(const char *name)
+QString readerDataPath(const char *name)
 {
     return TestData::path(u"core_ms/ms/"_s + QString::fromLatin1(name));
 }
@@ -55,7 +55,7 @@ QByteArray packed(const QByteArray &bytes)
     return TestData::read(QFile::decodeName(path));
 }
 
-QByteArray mzml(const QByteArray &run, const QByteArray &head = {})
+QByteArray smallMzml(const QByteArray &run, const QByteArray &head = {})
 {
     return R"(<?xml version="1.0" encoding="ISO-8859-1"?><mzML xmlns="http://psi.hupo.org/ms/mzml">)" + head +
            "<run>" + run + "</run></mzML>";
@@ -124,7 +124,7 @@ void TestMsReaders::levelsAreFound()
 {
     QFETCH(Format, format);
     QFETCH(QList<int>, levels);
-    const QString path = dataPath(QTest::currentDataTag());
+    const QString path = readerDataPath(QTest::currentDataTag());
     QCOMPARE(readerOf(path)->vendorFormat(), format);
     QCOMPARE(readerOf(path)->path(), path);
     Error error;
@@ -148,7 +148,7 @@ void TestMsReaders::packedFilesAreRead()
     QFETCH(QString, packedName);
     QFETCH(QList<int>, levels);
     const SampleTree tree;
-    const QByteArray bytes = TestData::read(dataPath(QTest::currentDataTag()));
+    const QByteArray bytes = TestData::read(readerDataPath(QTest::currentDataTag()));
     tree.add(packedName, packed(bytes));
     Error error;
     const std::optional<QList<int>> found = levelsOf(tree.at(packedName), &error);
@@ -166,24 +166,27 @@ void TestMsReaders::mzmlTellsLevelsInManyWays_data()
     const QByteArray group = "<referenceableParamGroupList><referenceableParamGroup id=\"g\">" +
                              term("MS:1000511", "3") +
                              "</referenceableParamGroup></referenceableParamGroupList>";
-    QTest::newRow("level") << mzml(spectrum(term("MS:1000511", "2"))) << QList{2};
-    QTest::newRow("group") << mzml(spectrum("<referenceableParamGroupRef ref=\"g\"/>"), group) << QList{3};
-    QTest::newRow("unknown group") << mzml(spectrum("<referenceableParamGroupRef ref=\"h\"/>"), group)
+    QTest::newRow("level") << smallMzml(spectrum(term("MS:1000511", "2"))) << QList{2};
+    QTest::newRow("group") << smallMzml(spectrum("<referenceableParamGroupRef ref=\"g\"/>"), group)
+                           << QList{3};
+    QTest::newRow("unknown group") << smallMzml(spectrum("<referenceableParamGroupRef ref=\"h\"/>"), group)
                                    << QList{0};
-    QTest::newRow("MS1 spectrum") << mzml(spectrum(term("MS:1000579"))) << QList{1};
-    QTest::newRow("attribute") << mzml("<spectrum msLevel=\"2\" defaultArrayLength=\"1\"/>") << QList{2};
-    QTest::newRow("light has no level") << mzml(spectrum(term("MS:1000804"))) << QList{0};
+    QTest::newRow("MS1 spectrum") << smallMzml(spectrum(term("MS:1000579"))) << QList{1};
+    QTest::newRow("attribute") << smallMzml("<spectrum msLevel=\"2\" defaultArrayLength=\"1\"/>") << QList{2};
+    QTest::newRow("light has no level") << smallMzml(spectrum(term("MS:1000804"))) << QList{0};
     QTest::newRow("terms of a scan don't count")
-        << mzml(spectrum("<scanList><scan>" + term("MS:1000511", "1") + "</scan></scanList>")) << QList{0};
-    QTest::newRow("newer terms") << mzml(spectrum(term("MS:9999999") + term("MS:1000511", "1"))) << QList{1};
-    QTest::newRow("other encoding") << mzml("<!-- \xE4 --><spectrum id=\"\xB5\">" + term("MS:1000511", "1") +
-                                            "</spectrum>")
+        << smallMzml(spectrum("<scanList><scan>" + term("MS:1000511", "1") + "</scan></scanList>"))
+        << QList{0};
+    QTest::newRow("newer terms") << smallMzml(spectrum(term("MS:9999999") + term("MS:1000511", "1")))
+                                 << QList{1};
+    QTest::newRow("other encoding") << smallMzml("<!-- \xE4 --><spectrum id=\"\xB5\">" +
+                                                 term("MS:1000511", "1") + "</spectrum>")
                                     << QList{1};
     QStringEncoder utf16(QStringEncoder::Utf16, QStringEncoder::Flag::WriteBom);
     QTest::newRow("wide text") << QByteArray(utf16(QString::fromLatin1(
                                       "<mzML>" + spectrum(term("MS:1000511", "1")) + "</mzML>")))
                                << QList{1};
-    QTest::newRow("text of the wrong kind") << mzml(spectrum(term("MS:1000511", "one"))) << QList{0};
+    QTest::newRow("text of the wrong kind") << smallMzml(spectrum(term("MS:1000511", "one"))) << QList{0};
 }
 
 void TestMsReaders::mzmlTellsLevelsInManyWays()
@@ -201,7 +204,8 @@ void TestMsReaders::mzmlTellsLevelsInManyWays()
 void TestMsReaders::emptySpectraAreNoData()
 {
     const SampleTree tree;
-    tree.add(u"a.mzML"_s, mzml(spectrum(term("MS:1000511", "1"), 0) + spectrum(term("MS:1000511", "2"), 1)));
+    tree.add(u"a.mzML"_s,
+             smallMzml(spectrum(term("MS:1000511", "1"), 0) + spectrum(term("MS:1000511", "2"), 1)));
     tree.add(u"a.mzXML"_s, "<mzXML><msRun><scan num=\"1\" msLevel=\"1\" peaksCount=\"0\"><scan num=\"2\" "
                            "msLevel=\"2\" peaksCount=\"5\"/></scan></msRun></mzXML>");
     tree.add(u"a.mgf"_s, "BEGIN IONS\nEND IONS\nBEGIN IONS\nPEPMASS=3\n1 2\nEND IONS\n");
@@ -250,7 +254,7 @@ void TestMsReaders::filesCutShortAnywhereAreRefused_data()
 void TestMsReaders::filesCutShortAnywhereAreRefused()
 {
     QFETCH(QString, name);
-    const QByteArray whole = TestData::read(dataPath(QTest::currentDataTag()));
+    const QByteArray whole = TestData::read(readerDataPath(QTest::currentDataTag()));
     const qsizetype end = qMax(whole.lastIndexOf("</mzML>"), whole.lastIndexOf("</msRun>"));
     QVERIFY(end > 0);
     const SampleTree tree;
@@ -355,7 +359,7 @@ void TestMsReaders::ownFormatsAreNotRead()
 void TestMsReaders::acquiredSamplesAreReadInside()
 {
     const SampleTree tree;
-    const QByteArray bytes = TestData::read(dataPath("three_test_scans.mzML"));
+    const QByteArray bytes = TestData::read(readerDataPath("three_test_scans.mzML"));
     makeZip(tree.at(u"a.tolq"_s), {{u"metadata.json"_s, tolqMetadata("s.mzML")}, {u"s.mzML"_s, bytes}});
     tree.add(u"b.tolq/metadata.json"_s, tolqMetadata("s.mzML"));
     tree.add(u"b.tolq/s.mzML"_s, bytes);
@@ -376,7 +380,7 @@ void TestMsReaders::acquiredSamplesAreReadInside()
 
 void TestMsReaders::questionsNeedAnOpenFile()
 {
-    const auto reader = readerOf(dataPath("mixed_ms1_ms2.mgf"));
+    const auto reader = readerOf(readerDataPath("mixed_ms1_ms2.mgf"));
     QCOMPARE(reader->hasMsProfileData(1).error().code(), ErrorCode::CannotOpenFile);
     QCOMPARE(reader->chromatogramInfoList().error().code(), ErrorCode::CannotOpenFile);
 }
@@ -384,7 +388,7 @@ void TestMsReaders::questionsNeedAnOpenFile()
 void TestMsReaders::hostileXmlIsRefused_data()
 {
     QTest::addColumn<QByteArray>("text");
-    QTest::newRow("deep") << mzml(QByteArray("<a>").repeated(1000) + QByteArray("</a>").repeated(1000));
+    QTest::newRow("deep") << smallMzml(QByteArray("<a>").repeated(1000) + QByteArray("</a>").repeated(1000));
     QByteArray entities = "<!DOCTYPE mzML [<!ENTITY a0 \"xxxxxxxxxx\">";
     for (int i = 1; i < 20; ++i) {
         const QByteArray last = "&a" + QByteArray::number(i - 1) + ';';

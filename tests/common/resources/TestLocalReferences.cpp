@@ -1,5 +1,6 @@
 #include "LogCapture.h"
 #include "OrvTest.h"
+#include "References.h"
 
 #include <orv/resources/LocalResourceReference.h>
 #include <orv/resources/ResourceHandlerUtils.h>
@@ -7,15 +8,6 @@
 
 using namespace orv;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-ResourceReferenceSPtr read(const QString &text)
-{
-    return ResourceReference::fromString(text).valueOr({});
-}
-
-} // namespace
 
 class TestLocalReferences : public OrvTest
 {
@@ -71,7 +63,7 @@ void TestLocalReferences::pathsAreKeptAsTheyAre_data()
 void TestLocalReferences::pathsAreKeptAsTheyAre()
 {
     QFETCH(QString, text);
-    const ResourceReferenceSPtr reference = read(text);
+    const ResourceReferenceSPtr reference = referenceOf(text);
     QVERIFY(reference);
     QVERIFY(reference->isScheme(ResourceReference::Scheme::LocalFile));
     QCOMPARE(reference->text(), text);
@@ -107,7 +99,7 @@ void TestLocalReferences::fileUrlsBecomePaths_data()
 void TestLocalReferences::fileUrlsBecomePaths()
 {
     QFETCH(QString, url);
-    const ResourceReferenceSPtr reference = read(url);
+    const ResourceReferenceSPtr reference = referenceOf(url);
     QVERIFY(reference);
     QVERIFY(reference->isScheme(ResourceReference::Scheme::LocalFile));
     QTEST(reference->text(), "path");
@@ -117,9 +109,9 @@ void TestLocalReferences::thePathOfAFileUrlIsReadBackAsThatPath()
 {
     for (const QString &url :
          {u"file:unifi:/h/n"_s, u"file:file:a"_s, u"file:///a%2520b"_s, u"file:TALVANE:x"_s}) {
-        const ResourceReferenceSPtr reference = read(url);
+        const ResourceReferenceSPtr reference = referenceOf(url);
         QVERIFY2(reference, qPrintable(url));
-        const ResourceReferenceSPtr again = read(reference->text());
+        const ResourceReferenceSPtr again = referenceOf(reference->text());
         QVERIFY(again);
         QCOMPARE(again->text(), reference->text());
         QVERIFY(again->isScheme(ResourceReference::Scheme::LocalFile));
@@ -154,7 +146,7 @@ void TestLocalReferences::theLastNameIsFoundInPathsOfBothSystems_data()
 void TestLocalReferences::theLastNameIsFoundInPathsOfBothSystems()
 {
     QFETCH(QString, text);
-    QTEST(ResourceReferenceUtils::localName(read(text)), "name");
+    QTEST(ResourceReferenceUtils::localName(referenceOf(text)), "name");
 }
 
 void TestLocalReferences::pathsOfOneFileAreAlike_data()
@@ -187,9 +179,9 @@ void TestLocalReferences::pathsOfOneFileAreAlike()
 {
     QFETCH(QString, a);
     QFETCH(QString, b);
-    QCOMPARE(read(a)->key(), read(b)->key());
-    QVERIFY(ResourceReferenceUtils::compare(read(a), read(b)));
-    QVERIFY(ResourceReferenceUtils::compare(read(b), read(a)));
+    QCOMPARE(referenceOf(a)->key(), referenceOf(b)->key());
+    QVERIFY(ResourceReferenceUtils::compare(referenceOf(a), referenceOf(b)));
+    QVERIFY(ResourceReferenceUtils::compare(referenceOf(b), referenceOf(a)));
 }
 
 void TestLocalReferences::pathsOfTwoFilesDiffer_data()
@@ -217,8 +209,8 @@ void TestLocalReferences::pathsOfTwoFilesDiffer()
 {
     QFETCH(QString, a);
     QFETCH(QString, b);
-    QVERIFY(read(a) && read(b));
-    QVERIFY(!ResourceReferenceUtils::compare(read(a), read(b)));
+    QVERIFY(referenceOf(a) && referenceOf(b));
+    QVERIFY(!ResourceReferenceUtils::compare(referenceOf(a), referenceOf(b)));
 }
 
 void TestLocalReferences::localReferencesAreToldFromOthers_data()
@@ -266,7 +258,7 @@ void TestLocalReferences::fullPathsHaveSlashes_data()
 void TestLocalReferences::fullPathsHaveSlashes()
 {
     QFETCH(QString, text);
-    QTEST(ResourceHandlerUtils::fullPath(read(text)), "path");
+    QTEST(ResourceHandlerUtils::fullPath(referenceOf(text)), "path");
     QVERIFY(ResourceHandlerUtils::fullPath({}).isEmpty());
 }
 
@@ -299,7 +291,8 @@ void TestLocalReferences::relativePathsAreTakenFromTheBase()
 {
     QFETCH(QString, text);
     QFETCH(QUrl, base);
-    QTEST(ResourceReferenceUtils::toString(ResourceReferenceUtils::resolved(read(text), base)), "resolved");
+    QTEST(ResourceReferenceUtils::toString(ResourceReferenceUtils::resolved(referenceOf(text), base)),
+          "resolved");
     QVERIFY(!ResourceReferenceUtils::resolved({}, base));
 }
 

@@ -1,5 +1,6 @@
 #include "LogCapture.h"
 #include "OrvTest.h"
+#include "References.h"
 
 #include <orv/resources/LocalBaseFolder.h>
 #include <orv/resources/ResourceHandlerUtils.h>
@@ -13,11 +14,6 @@ using namespace Qt::StringLiterals;
 using Scheme = ResourceReference::Scheme;
 
 namespace {
-
-ResourceReferenceSPtr read(const QString &text)
-{
-    return ResourceReference::fromString(text).valueOr({});
-}
 
 /// A small server of its own: it keeps one file, and fetches it by copying.
 class ShelfHandler : public ResourceHandler
@@ -123,7 +119,7 @@ void TestResourceHandlers::localFilesAndFoldersExist()
     const LogCapture log;
     QFETCH(QString, name);
     QFETCH(bool, exists);
-    const ResourceReferenceSPtr reference = read(path(name));
+    const ResourceReferenceSPtr reference = referenceOf(path(name));
     const Result<bool> answer = ResourceHandlerUtils::exists(reference);
     ORV_VERIFY_OK(answer);
     QCOMPARE(*answer, exists);
@@ -135,9 +131,9 @@ void TestResourceHandlers::relativePathsAreTakenFromTheCurrentFolder()
 {
     const QString before = QDir::currentPath();
     QVERIFY(QDir::setCurrent(m_folder->path()));
-    const bool isThere = ResourceHandlerUtils::checkExists(read(u"a.raw"_s));
-    const bool isAbove = ResourceHandlerUtils::checkExists(read(u"b.d/../a.raw"_s));
-    const bool isMissing = ResourceHandlerUtils::checkExists(read(u"../a.raw"_s));
+    const bool isThere = ResourceHandlerUtils::checkExists(referenceOf(u"a.raw"_s));
+    const bool isAbove = ResourceHandlerUtils::checkExists(referenceOf(u"b.d/../a.raw"_s));
+    const bool isMissing = ResourceHandlerUtils::checkExists(referenceOf(u"../a.raw"_s));
     QVERIFY(QDir::setCurrent(before));
     QVERIFY(isThere && isAbove && !isMissing);
 }
@@ -148,7 +144,7 @@ void TestResourceHandlers::relativePathsMayCountFromAnotherFolder()
     QVERIFY(QDir(folder.path()).mkdir(u"data"_s));
     QFile file(folder.filePath(u"data/only here.raw"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
-    const ResourceReferenceSPtr reference = read(u"data\\only here.raw"_s);
+    const ResourceReferenceSPtr reference = referenceOf(u"data\\only here.raw"_s);
     QVERIFY(!ResourceHandlerUtils::exists(reference).valueOr(true));
     {
         const LocalBaseFolder outer(u"/nowhere"_s);
@@ -169,8 +165,9 @@ void TestResourceHandlers::relativePathsOfAnotherSystemAreFound()
 {
     const QString before = QDir::currentPath();
     QVERIFY(QDir::setCurrent(m_folder->path()));
-    const QString grabbed = ResourceManager::retrieve(read(u"b.d\\..\\a.raw"_s)).value()->grab().valueOr({});
-    const bool isMissing = ResourceHandlerUtils::checkExists(read(u"b.d\\a.raw"_s));
+    const QString grabbed =
+        ResourceManager::retrieve(referenceOf(u"b.d\\..\\a.raw"_s)).value()->grab().valueOr({});
+    const bool isMissing = ResourceHandlerUtils::checkExists(referenceOf(u"b.d\\a.raw"_s));
     QVERIFY(QDir::setCurrent(before));
     QVERIFY(QFileInfo(m_folder->filePath(grabbed)) == QFileInfo(path(u"a.raw"_s)));
     QVERIFY(!isMissing);
@@ -182,7 +179,7 @@ void TestResourceHandlers::pathsOfAnotherSystemDoNotExist()
     QSKIP("these paths are of this system");
 #endif
     for (const QString &text : {u"C:\\Windows"_s, u"\\\\store\\runs"_s}) {
-        const Result<bool> answer = ResourceHandlerUtils::exists(read(text));
+        const Result<bool> answer = ResourceHandlerUtils::exists(referenceOf(text));
         ORV_VERIFY_OK(answer);
         QVERIFY(!*answer);
     }
@@ -191,7 +188,7 @@ void TestResourceHandlers::pathsOfAnotherSystemDoNotExist()
 void TestResourceHandlers::grabGivesThePathOfALocalFile()
 {
     for (const QString &name : {u"a.raw"_s, u"link.raw"_s, u"b.d"_s}) {
-        const Result<ResourceHandlerSPtr> handler = ResourceManager::retrieve(read(path(name)));
+        const Result<ResourceHandlerSPtr> handler = ResourceManager::retrieve(referenceOf(path(name)));
         ORV_VERIFY_OK(handler);
         QVERIFY((*handler)->isAvailableLocally());
         const Result<QString> grabbed = (*handler)->grab();
@@ -203,7 +200,7 @@ void TestResourceHandlers::grabGivesThePathOfALocalFile()
 void TestResourceHandlers::grabbingWhatIsMissingFails()
 {
     const LogCapture log;
-    const ResourceReferenceSPtr reference = read(path(u"c.raw"_s));
+    const ResourceReferenceSPtr reference = referenceOf(path(u"c.raw"_s));
     const Result<ResourceHandlerSPtr> handler = ResourceManager::getHandler(reference);
     ORV_VERIFY_OK(handler);
     QVERIFY(!(*handler)->isAvailableLocally());
@@ -218,7 +215,7 @@ void TestResourceHandlers::grabbingWhatIsMissingFails()
 
 void TestResourceHandlers::aLocalFileTellsItsMetadata()
 {
-    const Result<QJsonObject> metadata = ResourceManager::retrieveMetadata(read(path(u"a.raw"_s)));
+    const Result<QJsonObject> metadata = ResourceManager::retrieveMetadata(referenceOf(path(u"a.raw"_s)));
     ORV_VERIFY_OK(metadata);
     QCOMPARE(metadata->value(u"name"_s).toString(), u"a.raw"_s);
     QCOMPARE(metadata->value(u"path"_s).toString(), path(u"a.raw"_s));
@@ -230,7 +227,7 @@ void TestResourceHandlers::aLocalFileTellsItsMetadata()
 
 void TestResourceHandlers::aFolderHasNoSize()
 {
-    const Result<QJsonObject> metadata = ResourceManager::retrieveMetadata(read(path(u"b.d"_s)));
+    const Result<QJsonObject> metadata = ResourceManager::retrieveMetadata(referenceOf(path(u"b.d"_s)));
     ORV_VERIFY_OK(metadata);
     QVERIFY(!metadata->contains(u"size"_s));
     QCOMPARE(metadata->value(u"name"_s).toString(), u"b.d"_s);
@@ -241,7 +238,7 @@ void TestResourceHandlers::theHandlerOfAnEmptyReferenceIsAnError_data()
     QTest::addColumn<ResourceReferenceSPtr>("reference");
 
     QTest::newRow("null") << ResourceReferenceSPtr();
-    QTest::newRow("empty") << read(QString());
+    QTest::newRow("empty") << referenceOf(QString());
 }
 
 void TestResourceHandlers::theHandlerOfAnEmptyReferenceIsAnError()
@@ -268,13 +265,13 @@ void TestResourceHandlers::serversThatNobodyRegisteredGiveAClearError()
 {
     const LogCapture log;
     QFETCH(QString, text);
-    const Result<ResourceHandlerSPtr> handler = ResourceManager::getHandler(read(text));
+    const Result<ResourceHandlerSPtr> handler = ResourceManager::getHandler(referenceOf(text));
     QVERIFY(handler.hasError());
     QCOMPARE(handler.error().code(), ErrorCode::InvalidContent);
     QVERIFY(handler.error().errorMessage().contains(text));
     QVERIFY(handler.error().details().join(u' ').contains(u"not connected to the server"_s));
-    QVERIFY(ResourceHandlerUtils::exists(read(text)).hasError());
-    QVERIFY(!ResourceHandlerUtils::validateReference(read(text)));
+    QVERIFY(ResourceHandlerUtils::exists(referenceOf(text)).hasError());
+    QVERIFY(!ResourceHandlerUtils::validateReference(referenceOf(text)));
 }
 
 void TestResourceHandlers::aRegisteredSchemeIsHandled()
@@ -286,10 +283,10 @@ void TestResourceHandlers::aRegisteredSchemeIsHandled()
         Scheme::ServerFile, [folder](const ResourceReferenceSPtr &reference) -> Result<ResourceHandlerSPtr> {
             return ResourceHandlerSPtr(new ShelfHandler(reference, folder));
         });
-    const ResourceReferenceSPtr reference = read(u"talvane:/a.tolq"_s);
+    const ResourceReferenceSPtr reference = referenceOf(u"talvane:/a.tolq"_s);
     QVERIFY(ResourceHandlerUtils::validateReference(reference));
-    QVERIFY(!ResourceHandlerUtils::validateReference(read(u"talvane:/b.tolq"_s)));
-    QVERIFY(ResourceManager::getHandler(read(u"eds:/s/a.tolq"_s)).hasError());
+    QVERIFY(!ResourceHandlerUtils::validateReference(referenceOf(u"talvane:/b.tolq"_s)));
+    QVERIFY(ResourceManager::getHandler(referenceOf(u"eds:/s/a.tolq"_s)).hasError());
 
     const Result<ResourceHandlerSPtr> untouched = ResourceManager::getHandler(reference);
     ORV_VERIFY_OK(untouched);
@@ -298,7 +295,7 @@ void TestResourceHandlers::aRegisteredSchemeIsHandled()
     ORV_VERIFY_OK(fetched);
     QVERIFY((*fetched)->isAvailableLocally());
     QCOMPARE((*fetched)->grab().valueOr({}), path(u"fetched-a.tolq"_s));
-    const Result<ResourceHandlerSPtr> missing = ResourceManager::retrieve(read(u"talvane:/b.tolq"_s));
+    const Result<ResourceHandlerSPtr> missing = ResourceManager::retrieve(referenceOf(u"talvane:/b.tolq"_s));
     QCOMPARE(missing.error().errorMessage(), u"The shelf is empty."_s);
 
     ResourceManager::setHandlerFactory(Scheme::ServerFile, {});
@@ -313,7 +310,7 @@ void TestResourceHandlers::aHandlerWithoutMetadataSaysSo()
         Scheme::ServerFile, [folder](const ResourceReferenceSPtr &reference) -> Result<ResourceHandlerSPtr> {
             return ResourceHandlerSPtr(new ShelfHandler(reference, folder));
         });
-    const Result<QJsonObject> metadata = ResourceManager::retrieveMetadata(read(u"talvane:/a.tolq"_s));
+    const Result<QJsonObject> metadata = ResourceManager::retrieveMetadata(referenceOf(u"talvane:/a.tolq"_s));
     QVERIFY(metadata.hasError());
     QCOMPARE(metadata.error().errorMessage(), u"\"talvane:/a.tolq\" has no metadata."_s);
 }
@@ -325,8 +322,9 @@ void TestResourceHandlers::theErrorOfAFactoryIsPassedOn()
                                        [](const ResourceReferenceSPtr &) -> Result<ResourceHandlerSPtr> {
                                            return Error(ErrorCode::InvalidContent, u"switched off"_s);
                                        });
-    QCOMPARE(ResourceHandlerUtils::exists(read(u"unifi:/h/n"_s)).error().errorMessage(), u"switched off"_s);
-    QVERIFY(!ResourceHandlerUtils::checkExists(read(u"unifi:/h/n"_s)));
+    QCOMPARE(ResourceHandlerUtils::exists(referenceOf(u"unifi:/h/n"_s)).error().errorMessage(),
+             u"switched off"_s);
+    QVERIFY(!ResourceHandlerUtils::checkExists(referenceOf(u"unifi:/h/n"_s)));
     QCOMPARE(log.warnings(), QStringList(u"switched off"_s));
 }
 
@@ -337,16 +335,16 @@ void TestResourceHandlers::localFilesFallBackToTheirOwnHandler()
                                        [](const ResourceReferenceSPtr &) -> Result<ResourceHandlerSPtr> {
                                            return Error(ErrorCode::InvalidContent, u"locked"_s);
                                        });
-    QVERIFY(!ResourceHandlerUtils::checkExists(read(path(u"a.raw"_s))));
+    QVERIFY(!ResourceHandlerUtils::checkExists(referenceOf(path(u"a.raw"_s))));
     ResourceManager::setHandlerFactory(Scheme::LocalFile, {});
-    QVERIFY(ResourceHandlerUtils::checkExists(read(path(u"a.raw"_s))));
+    QVERIFY(ResourceHandlerUtils::checkExists(referenceOf(path(u"a.raw"_s))));
 }
 
 void TestResourceHandlers::whyAReferenceIsInvalidIsLogged()
 {
     const LogCapture log;
-    QVERIFY(!ResourceHandlerUtils::validateReference(read(path(u"c.raw"_s))));
-    QVERIFY(!ResourceHandlerUtils::validateReference(read(u"unifi:/h/n"_s)));
+    QVERIFY(!ResourceHandlerUtils::validateReference(referenceOf(path(u"c.raw"_s))));
+    QVERIFY(!ResourceHandlerUtils::validateReference(referenceOf(u"unifi:/h/n"_s)));
     QCOMPARE(log.warnings().size(), 2);
     QVERIFY(log.warnings()[0].contains(path(u"c.raw"_s)));
     QVERIFY(log.warnings()[1].contains(u"unifi:/h/n"_s));

@@ -1,5 +1,6 @@
 #include "LogCapture.h"
 #include "OrvTest.h"
+#include "References.h"
 
 #include <orv/resources/ResourceReference.h>
 #include <orv/resources/ResourceReferenceUtils.h>
@@ -13,15 +14,6 @@ using Scheme = ResourceReference::Scheme;
 using Parts = ResourceReference::Parts;
 
 Q_DECLARE_METATYPE(orv::ResourceReference::Parts)
-
-namespace {
-
-ResourceReferenceSPtr read(const QString &text)
-{
-    return ResourceReference::fromString(text).valueOr({});
-}
-
-} // namespace
 
 class TestResourceReference : public OrvTest
 {
@@ -149,7 +141,7 @@ void TestResourceReference::textsOfServersAreKeptAsTheyAre_data()
 void TestResourceReference::textsOfServersAreKeptAsTheyAre()
 {
     QFETCH(QString, text);
-    const ResourceReferenceSPtr reference = read(text);
+    const ResourceReferenceSPtr reference = referenceOf(text);
     QVERIFY(reference);
     QCOMPARE(reference->text(), text);
     QCOMPARE(ResourceReferenceUtils::toString(reference), text);
@@ -191,13 +183,13 @@ void TestResourceReference::badTextsAreRefused()
 
 void TestResourceReference::anEmptyTextIsAnEmptyReference()
 {
-    const ResourceReferenceSPtr reference = read(QString());
+    const ResourceReferenceSPtr reference = referenceOf(QString());
     QVERIFY(reference);
     QVERIFY(reference->isEmpty());
     QVERIFY(reference->isScheme(Scheme::LocalFile));
     QCOMPARE(reference->text(), QString());
     QCOMPARE(reference->name(), QString());
-    QVERIFY(!read(u"a"_s)->isEmpty());
+    QVERIFY(!referenceOf(u"a"_s)->isEmpty());
 }
 
 void TestResourceReference::partsMakeTheText_data()
@@ -292,7 +284,7 @@ void TestResourceReference::partsSurviveTheirText()
              {std::pair{Scheme::UNIFI, unifi}, {Scheme::ManagedResource, managed}}) {
             const Result<ResourceReferenceSPtr> reference = ResourceReference::create(scheme, parts);
             ORV_VERIFY_OK(reference);
-            const ResourceReferenceSPtr again = read((*reference)->text());
+            const ResourceReferenceSPtr again = referenceOf((*reference)->text());
             QVERIFY2(again && again->parts() == parts, qPrintable((*reference)->text()));
             QVERIFY(ResourceReferenceUtils::compare(again, *reference));
         }
@@ -321,13 +313,13 @@ void TestResourceReference::peopleReadTheFormWithoutIdentifiers()
 {
     QFETCH(QString, text);
     QFETCH(QString, readable);
-    QCOMPARE(read(text)->readableText(), readable);
-    QCOMPARE(ResourceReferenceUtils::toString(read(text), true), readable);
+    QCOMPARE(referenceOf(text)->readableText(), readable);
+    QCOMPARE(ResourceReferenceUtils::toString(referenceOf(text), true), readable);
 }
 
 void TestResourceReference::aVariantCarriesAReference()
 {
-    const ResourceReferenceSPtr reference = read(u"/data/a.raw"_s);
+    const ResourceReferenceSPtr reference = referenceOf(u"/data/a.raw"_s);
     const QVariant variant = QVariant::fromValue(reference);
     QVERIFY(variant.canConvert<ResourceReferenceSPtr>());
     QCOMPARE(variant.value<ResourceReferenceSPtr>(), reference);
@@ -340,8 +332,8 @@ void TestResourceReference::aVariantCarriesAReference()
 
 void TestResourceReference::twoObjectsOfOneReferenceAreDifferentPointers()
 {
-    const ResourceReferenceSPtr first = read(u"/data/a.raw"_s);
-    const ResourceReferenceSPtr second = read(u"/data/a.raw"_s);
+    const ResourceReferenceSPtr first = referenceOf(u"/data/a.raw"_s);
+    const ResourceReferenceSPtr second = referenceOf(u"/data/a.raw"_s);
     QVERIFY(first != second);
     QVERIFY(QVariant::fromValue(first) != QVariant::fromValue(second));
     QVERIFY(ResourceReferenceUtils::compare(first, second));

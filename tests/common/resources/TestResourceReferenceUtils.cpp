@@ -1,5 +1,6 @@
 #include "LogCapture.h"
 #include "OrvTest.h"
+#include "References.h"
 
 #include <orv/resources/ResourceReferenceKey.h>
 #include <orv/resources/ResourceReferenceUtils.h>
@@ -10,15 +11,6 @@ using namespace orv;
 using namespace Qt::StringLiterals;
 
 using Scheme = ResourceReference::Scheme;
-
-namespace {
-
-ResourceReferenceSPtr read(const QString &text)
-{
-    return ResourceReference::fromString(text).valueOr({});
-}
-
-} // namespace
 
 class TestResourceReferenceUtils : public OrvTest
 {
@@ -66,29 +58,30 @@ void TestResourceReferenceUtils::listsLeaveOutWhatIsNoReference()
         ResourceReferenceUtils::fromStringList({u"b"_s, QString(), u"xy://z"_s, u"a"_s});
     QCOMPARE(ResourceReferenceUtils::toStringList(references), QStringList({u"b"_s, u"a"_s}));
     QCOMPARE(ResourceReferenceUtils::fromStringList({u"xy://z"_s}).size(), 0);
-    QCOMPARE(ResourceReferenceUtils::toStringList({read(u"a"_s), {}, read(QString())}),
+    QCOMPARE(ResourceReferenceUtils::toStringList({referenceOf(u"a"_s), {}, referenceOf(QString())}),
              QStringList({u"a"_s, QString()}));
-    QCOMPARE(ResourceReferenceUtils::toStringList({read(u"unifi:/h/{1}/f/n"_s)}, true),
+    QCOMPARE(ResourceReferenceUtils::toStringList({referenceOf(u"unifi:/h/{1}/f/n"_s)}, true),
              QStringList(u"unifi:/h/f/n"_s));
 }
 
 void TestResourceReferenceUtils::nullReferencesAreAlike()
 {
     QVERIFY(ResourceReferenceUtils::compare({}, {}));
-    QVERIFY(!ResourceReferenceUtils::compare({}, read(u"a"_s)));
-    QVERIFY(!ResourceReferenceUtils::compare(read(u"a"_s), {}));
-    QVERIFY(!ResourceReferenceUtils::compare(read(QString()), {}));
-    QVERIFY(ResourceReferenceUtils::compare(read(QString()), read(QString())));
+    QVERIFY(!ResourceReferenceUtils::compare({}, referenceOf(u"a"_s)));
+    QVERIFY(!ResourceReferenceUtils::compare(referenceOf(u"a"_s), {}));
+    QVERIFY(!ResourceReferenceUtils::compare(referenceOf(QString()), {}));
+    QVERIFY(ResourceReferenceUtils::compare(referenceOf(QString()), referenceOf(QString())));
 }
 
 void TestResourceReferenceUtils::containsGoesByWhatIsNamed()
 {
-    const QList<ResourceReferenceSPtr> references = {read(u"/a.raw"_s), {}, read(u"C:\\b.raw"_s)};
-    QVERIFY(ResourceReferenceUtils::contains(references, read(u"file:///a.raw"_s)));
-    QVERIFY(ResourceReferenceUtils::contains(references, read(u"c:/B.raw"_s)));
+    const QList<ResourceReferenceSPtr> references = {
+        referenceOf(u"/a.raw"_s), {}, referenceOf(u"C:\\b.raw"_s)};
+    QVERIFY(ResourceReferenceUtils::contains(references, referenceOf(u"file:///a.raw"_s)));
+    QVERIFY(ResourceReferenceUtils::contains(references, referenceOf(u"c:/B.raw"_s)));
     QVERIFY(ResourceReferenceUtils::contains(references, {}));
-    QVERIFY(!ResourceReferenceUtils::contains(references, read(u"/A.raw"_s)));
-    QVERIFY(!ResourceReferenceUtils::contains({}, read(u"/a.raw"_s)));
+    QVERIFY(!ResourceReferenceUtils::contains(references, referenceOf(u"/A.raw"_s)));
+    QVERIFY(!ResourceReferenceUtils::contains({}, referenceOf(u"/a.raw"_s)));
     QVERIFY(!ResourceReferenceUtils::contains({}, {}));
 }
 
@@ -120,33 +113,34 @@ void TestResourceReferenceUtils::unsupportedReferencesAreThoseOfOtherSchemes()
 
 void TestResourceReferenceUtils::nullAndEmptyReferencesNeedNoSupport()
 {
-    QVERIFY(ResourceReferenceUtils::unsupportedReferences({{}, read(QString())}, {}).isEmpty());
+    QVERIFY(ResourceReferenceUtils::unsupportedReferences({{}, referenceOf(QString())}, {}).isEmpty());
 }
 
 void TestResourceReferenceUtils::aHashFindsAReferenceByWhatItNames()
 {
     QHash<ResourceReferenceKey, int> hash;
-    hash.insert(read(u"C:\\data\\a.raw"_s), 1);
-    hash.insert(read(u"/data/a.raw"_s), 2);
+    hash.insert(referenceOf(u"C:\\data\\a.raw"_s), 1);
+    hash.insert(referenceOf(u"/data/a.raw"_s), 2);
     hash.insert(ResourceReferenceKey(), 3);
-    QCOMPARE(hash.value(read(u"c:/DATA/a.raw"_s)), 1);
-    QCOMPARE(hash.value(read(u"file:///data/a.raw"_s)), 2);
+    QCOMPARE(hash.value(referenceOf(u"c:/DATA/a.raw"_s)), 1);
+    QCOMPARE(hash.value(referenceOf(u"file:///data/a.raw"_s)), 2);
     QCOMPARE(hash.value(ResourceReferenceSPtr()), 3);
-    QVERIFY(!hash.contains(read(u"/DATA/a.raw"_s)));
-    hash.insert(read(u"/data//a.raw"_s), 4);
+    QVERIFY(!hash.contains(referenceOf(u"/DATA/a.raw"_s)));
+    hash.insert(referenceOf(u"/data//a.raw"_s), 4);
     QCOMPARE(hash.size(), 3);
-    QCOMPARE(hash.value(read(u"/data/a.raw"_s)), 4);
+    QCOMPARE(hash.value(referenceOf(u"/data/a.raw"_s)), 4);
 }
 
 void TestResourceReferenceUtils::threadsShareAReference()
 {
-    const ResourceReferenceSPtr reference = read(u"unifi:/h/{1}/f/n"_s);
+    const ResourceReferenceSPtr reference = referenceOf(u"unifi:/h/{1}/f/n"_s);
     std::vector<std::unique_ptr<QThread>> threads;
     std::atomic<int> good = 0;
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back(QThread::create([&good, reference] {
             for (int n = 0; n < 500; ++n) {
-                const bool isAlike = ResourceReferenceUtils::compare(reference, read(reference->text()));
+                const bool isAlike =
+                    ResourceReferenceUtils::compare(reference, referenceOf(reference->text()));
                 good += isAlike && ResourceReferenceUtils::localName(reference) == u"n"_s ? 1 : 0;
             }
         }));

@@ -1,4 +1,5 @@
 #include "OrvTest.h"
+#include "References.h"
 
 #include <orv/resources/FileTypeUtils.h>
 #include <orv/resources/PepmapTypesChecker.h>
@@ -7,15 +8,6 @@
 
 using namespace orv;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-ResourceReferenceSPtr read(const QString &text)
-{
-    return ResourceReference::fromString(text).valueOr({});
-}
-
-} // namespace
 
 class TestResourceTypes : public OrvTest
 {
@@ -51,7 +43,7 @@ void TestResourceTypes::spectraOfEveryVendorAreMsFiles_data()
 void TestResourceTypes::spectraOfEveryVendorAreMsFiles()
 {
     QFETCH(QString, text);
-    QVERIFY(ResourceTypeChecker::isMSFileType(read(text)));
+    QVERIFY(ResourceTypeChecker::isMSFileType(referenceOf(text)));
 }
 
 void TestResourceTypes::otherFilesAreNot_data()
@@ -66,7 +58,7 @@ void TestResourceTypes::otherFilesAreNot_data()
 void TestResourceTypes::otherFilesAreNot()
 {
     QFETCH(QString, text);
-    QVERIFY(!ResourceTypeChecker::isMSFileType(read(text)));
+    QVERIFY(!ResourceTypeChecker::isMSFileType(referenceOf(text)));
 }
 
 void TestResourceTypes::kindsAreToldByTheSuffix_data()
@@ -94,24 +86,24 @@ void TestResourceTypes::kindsAreToldByTheSuffix()
 {
     QFETCH(QString, text);
     QStringList kinds;
-    if (ResourceTypeChecker::isTolqFileType(read(text)))
+    if (ResourceTypeChecker::isTolqFileType(referenceOf(text)))
         kinds += u"tolq"_s;
-    if (ResourceTypeChecker::isCSVOrTextFileType(read(text)))
+    if (ResourceTypeChecker::isCSVOrTextFileType(referenceOf(text)))
         kinds += u"text"_s;
-    if (ResourceTypeChecker::isElectropherogramFileType(read(text)))
+    if (ResourceTypeChecker::isElectropherogramFileType(referenceOf(text)))
         kinds += u"electropherogram"_s;
-    if (ResourceTypeChecker::isKarvonResultFileType(read(text)))
+    if (ResourceTypeChecker::isKarvonResultFileType(referenceOf(text)))
         kinds += u"karvon"_s;
-    if (ResourceTypeChecker::isCaldrinResultFileType(read(text)))
+    if (ResourceTypeChecker::isCaldrinResultFileType(referenceOf(text)))
         kinds += u"caldrin"_s;
-    if (ResourceTypeChecker::matches(read(text), FileTypes::FASTA))
+    if (ResourceTypeChecker::matches(referenceOf(text), FileTypes::FASTA))
         kinds += u"fasta"_s;
     QTEST(kinds.join(u','), "kinds");
 }
 
 void TestResourceTypes::noReferenceHoldsNothing()
 {
-    for (const ResourceReferenceSPtr &none : {ResourceReferenceSPtr(), read(QString())}) {
+    for (const ResourceReferenceSPtr &none : {ResourceReferenceSPtr(), referenceOf(QString())}) {
         QVERIFY(!ResourceTypeChecker::matches(none, FileTypes::Invalid));
         QVERIFY(!ResourceTypeChecker::isMSFileType(none));
         QVERIFY(!ResourceTypeChecker::isCSVOrTextFileType(none));
@@ -141,7 +133,7 @@ void TestResourceTypes::applicationsHaveTheirNumbers_data()
 void TestResourceTypes::applicationsHaveTheirNumbers()
 {
     QFETCH(QString, text);
-    QTEST(int(FileTypeUtils::appType(read(text))), "number");
+    QTEST(int(FileTypeUtils::appType(referenceOf(text))), "number");
 }
 
 void TestResourceTypes::everyDocumentOfAReportHasAnApplication()

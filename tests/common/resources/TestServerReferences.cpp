@@ -1,5 +1,6 @@
 #include "LogCapture.h"
 #include "OrvTest.h"
+#include "References.h"
 
 #include <orv/core/Settings.h>
 #include <orv/resources/ExternalDataSources.h>
@@ -7,15 +8,6 @@
 
 using namespace orv;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-ResourceReferenceSPtr read(const QString &text)
-{
-    return ResourceReference::fromString(text).valueOr({});
-}
-
-} // namespace
 
 class TestServerReferences : public OrvTest
 {
@@ -51,7 +43,7 @@ void TestServerReferences::aMountedSourceHasALocalPath()
     QFETCH(QString, path);
     for (const QString &mount : {u"/mnt/archive 1"_s, u"/mnt/archive 1/"_s}) {
         const as::ScopedOverride setting(u"ExternalDataSources/archive"_s, mount);
-        const Result<QString> local = ExternalDataSources::localPath(read(reference));
+        const Result<QString> local = ExternalDataSources::localPath(referenceOf(reference));
         ORV_VERIFY_OK(local);
         QCOMPARE(*local, path);
     }
@@ -60,7 +52,7 @@ void TestServerReferences::aMountedSourceHasALocalPath()
 void TestServerReferences::theEnvironmentMountsASource()
 {
     qputenv("ORV_EXTERNALDATASOURCES_MY_ARCHIVE", "/mnt/x");
-    const Result<QString> local = ExternalDataSources::localPath(read(u"eds:/my-archive/a.raw"_s));
+    const Result<QString> local = ExternalDataSources::localPath(referenceOf(u"eds:/my-archive/a.raw"_s));
     qunsetenv("ORV_EXTERNALDATASOURCES_MY_ARCHIVE");
     ORV_VERIFY_OK(local);
     QCOMPARE(*local, u"/mnt/x/a.raw"_s);
@@ -74,14 +66,15 @@ void TestServerReferences::whatHasNoLocalPathIsRefused_data()
     const QString up = u"leads out of the source"_s;
     const QString other = u"does not refer to an external data source"_s;
     QTest::newRow("null") << ResourceReferenceSPtr() << other;
-    QTest::newRow("local") << read(u"/data/a.raw"_s) << other;
-    QTest::newRow("server file") << read(u"talvane:/a/a.raw"_s) << other;
-    QTest::newRow("not mounted") << read(u"eds:/other/a.raw"_s) << u"\"ExternalDataSources/other\""_s;
-    QTest::newRow("mounted at a relative path") << read(u"eds:/relative/a.raw"_s) << u"absolute path"_s;
-    QTest::newRow("up") << read(u"eds:/archive/../a.raw"_s) << up;
-    QTest::newRow("up and down") << read(u"eds:/archive/x/../../etc/passwd"_s) << up;
-    QTest::newRow("up at the end") << read(u"eds:/archive/x/.."_s) << up;
-    QTest::newRow("up with backslashes") << read(u"eds:/archive/..\\..\\a.raw"_s) << up;
+    QTest::newRow("local") << referenceOf(u"/data/a.raw"_s) << other;
+    QTest::newRow("server file") << referenceOf(u"talvane:/a/a.raw"_s) << other;
+    QTest::newRow("not mounted") << referenceOf(u"eds:/other/a.raw"_s) << u"\"ExternalDataSources/other\""_s;
+    QTest::newRow("mounted at a relative path")
+        << referenceOf(u"eds:/relative/a.raw"_s) << u"absolute path"_s;
+    QTest::newRow("up") << referenceOf(u"eds:/archive/../a.raw"_s) << up;
+    QTest::newRow("up and down") << referenceOf(u"eds:/archive/x/../../etc/passwd"_s) << up;
+    QTest::newRow("up at the end") << referenceOf(u"eds:/archive/x/.."_s) << up;
+    QTest::newRow("up with backslashes") << referenceOf(u"eds:/archive/..\\..\\a.raw"_s) << up;
 }
 
 void TestServerReferences::whatHasNoLocalPathIsRefused()

@@ -12,7 +12,7 @@ using SampleJson::parsed;
 
 namespace {
 
-SamplesAndTracesContent threeSamples()
+SamplesAndTracesContent samplesWithNotes()
 {
     const Result<SamplesAndTracesContent> content = SamplesAndTracesContent::fromJson(parsed(R"({"Samples":[
         {"SamplesId":1,"SampleName":"A","Note":"mine"},{"SamplesId":2,"SampleName":"B"},
@@ -54,7 +54,7 @@ private Q_SLOTS:
 
 void TestMetadataInSamples::connectionsMakeColumnsAndMappingsFillThem()
 {
-    SamplesAndTracesContent content = threeSamples();
+    SamplesAndTracesContent content = samplesWithNotes();
     rebuildMetadataInSamples({connection(u"pH"_s), connection(u"Operator"_s)},
                              {mapping({1, 3}, u"Operator"_s, u"Ada"_s), mapping({2}, u"pH"_s, 7.5),
                               mapping({1}, u"unconnected"_s, 1)},
@@ -68,7 +68,7 @@ void TestMetadataInSamples::connectionsMakeColumnsAndMappingsFillThem()
 
 void TestMetadataInSamples::columnsAreNamedByTheAlias()
 {
-    SamplesAndTracesContent content = threeSamples();
+    SamplesAndTracesContent content = samplesWithNotes();
     rebuildMetadataInSamples({connection(u"ph_value"_s, u"pH"_s)}, {mapping({1}, u"ph_value"_s, 7)},
                              &content.samples);
     QCOMPARE(content.samples.columns.columns().last().name, u"pH"_s);
@@ -78,38 +78,38 @@ void TestMetadataInSamples::columnsAreNamedByTheAlias()
 
 void TestMetadataInSamples::staleMetadataGo()
 {
-    SamplesAndTracesContent content = threeSamples();
+    SamplesAndTracesContent content = samplesWithNotes();
     rebuildMetadataInSamples({connection(u"pH"_s)}, {mapping({1, 2}, u"pH"_s, 7)}, &content.samples);
     rebuildMetadataInSamples({connection(u"pH"_s)}, {mapping({2}, u"pH"_s, 8)}, &content.samples);
     QVERIFY(!content.samples.samples[0].customValues.contains(u"pH"_s));
     QCOMPARE(content.samples.samples[1].customValues.value(u"pH"_s).toInt(), 8);
     rebuildMetadataInSamples({}, {}, &content.samples);
-    QVERIFY(content == threeSamples());
+    QVERIFY(content == samplesWithNotes());
 }
 
 void TestMetadataInSamples::columnsOfUsersStay()
 {
-    SamplesAndTracesContent content = threeSamples();
+    SamplesAndTracesContent content = samplesWithNotes();
     rebuildMetadataInSamples({}, {}, &content.samples);
-    QVERIFY(content == threeSamples());
+    QVERIFY(content == samplesWithNotes());
     QCOMPARE(content.samples.columns.customColumnNames(), QStringList(u"Note"_s));
 }
 
 void TestMetadataInSamples::aUsersColumnIsNotFilledByMetadata()
 {
     const LogCapture log;
-    SamplesAndTracesContent content = threeSamples();
+    SamplesAndTracesContent content = samplesWithNotes();
     rebuildMetadataInSamples({connection(u"Note"_s), connection(u"x"_s, u"SampleName"_s)},
                              {mapping({1, 2}, u"Note"_s, u"theirs"_s), mapping({1}, u"x"_s, 1)},
                              &content.samples);
-    QVERIFY(content == threeSamples());
+    QVERIFY(content == samplesWithNotes());
     QCOMPARE(log.warnings().size(), 2);
     QVERIFY(log.warnings().first().contains(u"Note"_s));
 }
 
 void TestMetadataInSamples::theLastOfSeveralValuesStays()
 {
-    SamplesAndTracesContent content = threeSamples();
+    SamplesAndTracesContent content = samplesWithNotes();
     rebuildMetadataInSamples({connection(u"a"_s)}, {mapping({1}, u"a"_s, 1), mapping({1}, u"a"_s, 2)},
                              &content.samples);
     QCOMPARE(content.samples.samples[0].customValues.value(u"a"_s).toInt(), 2);
@@ -117,7 +117,7 @@ void TestMetadataInSamples::theLastOfSeveralValuesStays()
 
 void TestMetadataInSamples::anAttributeMayFillTwoColumns()
 {
-    SamplesAndTracesContent content = threeSamples();
+    SamplesAndTracesContent content = samplesWithNotes();
     rebuildMetadataInSamples({connection(u"a"_s, u"X"_s), connection(u"a"_s, u"Y"_s)},
                              {mapping({1}, u"a"_s, 1)}, &content.samples);
     QCOMPARE(content.samples.samples[0].customValues.value(u"X"_s).toInt(), 1);
@@ -141,14 +141,14 @@ void TestMetadataInSamples::valuesOfEveryKindAreShown_data()
 void TestMetadataInSamples::valuesOfEveryKindAreShown()
 {
     QFETCH(QJsonValue, value);
-    SamplesAndTracesContent content = threeSamples();
+    SamplesAndTracesContent content = samplesWithNotes();
     rebuildMetadataInSamples({connection(u"a"_s)}, {mapping({1}, u"a"_s, value)}, &content.samples);
     QTEST(content.samples.samples[0].customValues.value(u"a"_s), "cell");
 }
 
 void TestMetadataInSamples::samplesThatAreNotThereArePassedOver()
 {
-    SamplesAndTracesContent content = threeSamples();
+    SamplesAndTracesContent content = samplesWithNotes();
     rebuildMetadataInSamples({connection(u"a"_s)}, {mapping({7}, u"a"_s, 1), mapping({}, u"a"_s, 1)},
                              &content.samples);
     for (const SamplesInput::SampleWithCustomColumns &sample : content.samples.samples)
@@ -157,7 +157,7 @@ void TestMetadataInSamples::samplesThatAreNotThereArePassedOver()
 
 void TestMetadataInSamples::columnsFromMetadataSurviveAFile()
 {
-    SamplesAndTracesContent content = threeSamples();
+    SamplesAndTracesContent content = samplesWithNotes();
     rebuildMetadataInSamples({connection(u"ph_value"_s, u"pH"_s)}, {mapping({1}, u"ph_value"_s, 7)},
                              &content.samples);
     Result<SamplesAndTracesContent> again = SamplesAndTracesContent::fromJson(content.toJson());

@@ -16,7 +16,7 @@ TracesImportList::Entry entry(int type, const QString &name, const QString &id =
     return TracesImportList::Entry(TraceItem(TraceType(type), {name, id}));
 }
 
-TraceImportAndProcessingOptions read(const QByteArray &json)
+TraceImportAndProcessingOptions readTraces(const QByteArray &json)
 {
     const auto options = TraceImportAndProcessingOptions::fromJson(parsed(json));
     if (options.hasError())
@@ -71,7 +71,7 @@ void TestTraces::tracesAreFoundByTheirNames()
 
 void TestTraces::absentMembersMeanAllSamples()
 {
-    const TraceImportAndProcessingOptions options = read(R"({"TracesImportList":[{}]})");
+    const TraceImportAndProcessingOptions options = readTraces(R"({"TracesImportList":[{}]})");
     QCOMPARE(options.traces.list().size(), 1);
     const TracesImportList::Entry &trace = options.traces.list().first();
     QVERIFY(trace.isImported());
@@ -106,8 +106,8 @@ void TestTraces::whatIsReadIsWritten_data()
 void TestTraces::whatIsReadIsWritten()
 {
     QFETCH(QByteArray, json);
-    QCOMPARE(read(json).toJson(), parsed(json));
-    QVERIFY(read(json) == read(json));
+    QCOMPARE(readTraces(json).toJson(), parsed(json));
+    QVERIFY(readTraces(json) == readTraces(json));
 }
 
 void TestTraces::malformedTracesAreRefused_data()
@@ -223,7 +223,7 @@ void TestTraces::faultsAreTold()
     QFETCH(QStringList, errors);
     QStringList foundWarnings{u"before"_s};
     QStringList foundErrors{u"before"_s};
-    QCOMPARE(read(json).validate(&foundWarnings, &foundErrors), errors.isEmpty());
+    QCOMPARE(readTraces(json).validate(&foundWarnings, &foundErrors), errors.isEmpty());
     QCOMPARE(foundWarnings, QStringList(u"before"_s) + warnings);
     QCOMPARE(foundErrors, QStringList(u"before"_s) + errors);
 }
@@ -234,7 +234,7 @@ void TestTraces::soundOptionsAreValid()
     QStringList errors;
     QVERIFY(TraceImportAndProcessingOptions().validate(&warnings, &errors));
     QVERIFY(
-        read(
+        readTraces(
             R"({"TracesImportList":[{"channelName":"a","peaksOptions":"p"},{"channelName":"a","channelId":"2"},
                      {"channelName":"a","type":1},{"channelName":"b","imported":false,"peaksOptions":"gone",
                       "samplesIds":[]}],

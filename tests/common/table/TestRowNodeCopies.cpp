@@ -32,7 +32,7 @@ private Q_SLOTS:
 
 namespace {
 
-RowNode table()
+RowNode tableToCopy()
 {
     RowNode node;
     node.addData(QStringList{u"Name"_s, u"Mass"_s});
@@ -45,7 +45,7 @@ RowNode table()
 
 void TestRowNodeCopies::copiesShareNoRowAndNoCell()
 {
-    const RowNode original = table();
+    const RowNode original = tableToCopy();
     RowNode copy = original;
     QVERIFY(copy == original);
     QVERIFY(copy.getChild(0) != original.getChild(0));
@@ -53,12 +53,12 @@ void TestRowNodeCopies::copiesShareNoRowAndNoCell()
     copy.getChild(1)->getChild(0)->getDataAt(0) = u"changed"_s;
     copy.addDataToRootAndResizeChildren(u"New"_s, 1);
     copy.deleteChild(0);
-    QVERIFY(original == table());
+    QVERIFY(original == tableToCopy());
 }
 
 void TestRowNodeCopies::aReferenceMeansTheOriginalAlone()
 {
-    RowNode original = table();
+    RowNode original = tableToCopy();
     QVariant &cell = original.getChildFirst()->getDataAt(0);
     RowNode *row = original.getChildFirst();
     RowNode copy = original;
@@ -66,14 +66,14 @@ void TestRowNodeCopies::aReferenceMeansTheOriginalAlone()
     assigned = original;
     cell = u"ice"_s;
     row->getDataAt(1) = 1;
-    QVERIFY(copy == table());
-    QVERIFY(assigned == table());
+    QVERIFY(copy == tableToCopy());
+    QVERIFY(assigned == tableToCopy());
     QCOMPARE(original.getChildFirst()->data, VariantItems({u"ice"_s, 1}));
 }
 
 void TestRowNodeCopies::aCopyOfARowIsARoot()
 {
-    RowNode original = table();
+    RowNode original = tableToCopy();
     RowNode copy = *original.getChild(1);
     QVERIFY(!copy.parent());
     QCOMPARE(copy.getChildListSize(), 1);
@@ -87,12 +87,12 @@ void TestRowNodeCopies::aCopyOfARowIsARoot()
 
 void TestRowNodeCopies::assignedNodesKeepTheirPlace()
 {
-    RowNode node = table();
+    RowNode node = tableToCopy();
     RowNode *row = node.getChild(0);
-    *row = table();
+    *row = tableToCopy();
     QCOMPARE(row->parent(), &node);
     QCOMPARE(row->getChild(1)->root(), &node);
-    QVERIFY(*row == table());
+    QVERIFY(*row == tableToCopy());
     const RowNode other;
     *row = other;
     QCOMPARE(row->parent(), &node);
@@ -101,12 +101,12 @@ void TestRowNodeCopies::assignedNodesKeepTheirPlace()
 
 void TestRowNodeCopies::aNodeMayBeAssignedToItself()
 {
-    RowNode node = table();
+    RowNode node = tableToCopy();
     RowNode &alias = node;
     node = alias;
-    QVERIFY(node == table());
+    QVERIFY(node == tableToCopy());
     node = std::move(alias);
-    QVERIFY(node == table());
+    QVERIFY(node == tableToCopy());
     QCOMPARE(node.getChildFirst()->root(), &node);
 }
 
@@ -120,7 +120,7 @@ void TestRowNodeCopies::aRowMayReplaceItsTable_data()
 void TestRowNodeCopies::aRowMayReplaceItsTable()
 {
     QFETCH(bool, byMove);
-    RowNode node = table();
+    RowNode node = tableToCopy();
     const RowNode expected = *node.getChild(1);
     if (byMove)
         node = std::move(*node.getChild(1));
@@ -138,40 +138,40 @@ void TestRowNodeCopies::aTableMayBePutIntoItsRow_data()
 void TestRowNodeCopies::aTableMayBePutIntoItsRow()
 {
     QFETCH(bool, byMove);
-    RowNode node = table();
+    RowNode node = tableToCopy();
     RowNode *row = node.getChild(1)->getChild(0);
     if (byMove)
         *row = std::move(node);
     else
         *row = node;
-    QVERIFY(*row == table());
+    QVERIFY(*row == tableToCopy());
     QCOMPARE(row->root(), &node);
     QCOMPARE(row->getChild(1)->getChild(0)->root(), &node);
     *row = RowNode({u"sodium"_s, 22.9898});
-    QVERIFY(node == table());
+    QVERIFY(node == tableToCopy());
 }
 
 void TestRowNodeCopies::aMovedTableKeepsItsRows()
 {
-    RowNode original = table();
+    RowNode original = tableToCopy();
     const RowNode *row = original.getChild(1);
     RowNode moved = std::move(original);
     QCOMPARE(moved.getChild(1), row);
     QCOMPARE(row->root(), &moved);
-    RowNode assigned = table();
+    RowNode assigned = tableToCopy();
     assigned = std::move(moved);
     QCOMPARE(assigned.getChild(1), row);
     QCOMPARE(row->root(), &assigned);
-    QVERIFY(assigned == table());
+    QVERIFY(assigned == tableToCopy());
 }
 
 void TestRowNodeCopies::aMovedFromNodeIsEmpty()
 {
-    RowNode original = table();
+    RowNode original = tableToCopy();
     const RowNode moved = std::move(original);
     QVERIFY(original.isEmpty()); // NOLINT(bugprone-use-after-move): that is the point
     original = moved;
-    QVERIFY(original == table());
+    QVERIFY(original == tableToCopy());
     RowNode other;
     other = std::move(original);
     QVERIFY(original.isEmpty()); // NOLINT(bugprone-use-after-move): that is the point
@@ -191,13 +191,13 @@ void TestRowNodeCopies::deepCopyTakesWhatIsAsked_data()
 void TestRowNodeCopies::deepCopyTakesWhatIsAsked()
 {
     QFETCH(int, type);
-    const RowNode source = table();
+    const RowNode source = tableToCopy();
     RowNode target({1, 2, 3});
     target.addNewChild({4});
     QVERIFY(target.deepCopy(&source, RowNode::DeepCopyType(type)));
     QTEST(int(target.data.size()), "width");
     QTEST(target.getChildListSize(), "rows");
-    QVERIFY(source == table());
+    QVERIFY(source == tableToCopy());
     RowNode byDefault;
     QVERIFY(byDefault.deepCopy(&source));
     QVERIFY(byDefault == source);
@@ -205,22 +205,22 @@ void TestRowNodeCopies::deepCopyTakesWhatIsAsked()
 
 void TestRowNodeCopies::deepCopyOfNothingChangesNothing()
 {
-    RowNode node = table();
+    RowNode node = tableToCopy();
     QVERIFY(!node.deepCopy(nullptr));
     QVERIFY(!node.deepCopy(nullptr, RowNode::DeepCopyType::DataOnly));
-    QVERIFY(node == table());
+    QVERIFY(node == tableToCopy());
 }
 
 void TestRowNodeCopies::deepCopyWithinATree()
 {
-    RowNode node = table();
+    RowNode node = tableToCopy();
     QVERIFY(node.deepCopy(&node));
-    QVERIFY(node == table());
+    QVERIFY(node == tableToCopy());
     RowNode *row = node.getChild(1);
     QVERIFY(row->deepCopy(&node, RowNode::DeepCopyType::ChildrenOnly));
     QCOMPARE(row->data, VariantItems({u"salt"_s, 57.9586}));
     QCOMPARE(row->getChildListSize(), 2);
-    QVERIFY(*row->getChild(1) == *table().getChild(1));
+    QVERIFY(*row->getChild(1) == *tableToCopy().getChild(1));
     QVERIFY(node.deepCopy(row, RowNode::DeepCopyType::DataOnly));
     QCOMPARE(node.data, VariantItems({u"salt"_s, 57.9586}));
     QCOMPARE(node.getChild(1), row);
@@ -228,15 +228,15 @@ void TestRowNodeCopies::deepCopyWithinATree()
 
 void TestRowNodeCopies::equalityLooksAtDataAndRows()
 {
-    RowNode node = table();
+    RowNode node = tableToCopy();
     node.getChild(1)->getChild(0)->getDataAt(1) = 23;
-    QVERIFY(!(node == table()));
-    node = table();
+    QVERIFY(!(node == tableToCopy()));
+    node = tableToCopy();
     node.addNewChild({});
-    QVERIFY(!(node == table()));
-    node = table();
+    QVERIFY(!(node == tableToCopy()));
+    node = tableToCopy();
     node.addData(QStringList{u"New"_s});
-    QVERIFY(!(node == table()));
+    QVERIFY(!(node == tableToCopy()));
 }
 
 void TestRowNodeCopies::treesOfAnyDepthAreCopiedAndDestroyed()

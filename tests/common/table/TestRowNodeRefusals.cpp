@@ -52,7 +52,7 @@ bool isObjectRefusedWhole(const QByteArray &json)
     return !rn::fromObject(QJsonDocument::fromJson(json).object(), &node) && node == before();
 }
 
-QByteArray around(const QByteArray &cell)
+QByteArray aroundSecond(const QByteArray &cell)
 {
     return R"({"data":["first",)" + cell + R"(],"children":[]})";
 }
@@ -78,8 +78,8 @@ void addBrokenStructures()
     row("key without quotes", "{data:[]}");
     row("single quotes", "{'data':[]}");
     row("no comma between members", R"({"data":[]"children":[]})");
-    row("comma without an entry", around("1,"));
-    row("no comma between entries", around("1 2"));
+    row("comma without an entry", aroundSecond("1,"));
+    row("no comma between entries", aroundSecond("1 2"));
     row("open list", R"({"data":[1)");
     row("wrong bracket", R"({"data":[1}})");
     row("comma without a row", R"({"children":[{},]})");
@@ -93,38 +93,38 @@ void addBrokenStructures()
 
 void addBrokenTexts()
 {
-    row("cut code unit", around(R"("\u12")"));
-    row("code unit that is none", around(R"("\u12g4")"));
-    row("code unit with zero bytes", around(QByteArray("\"\\u0\0\0\0\"", 8)));
-    row("negative code unit", around(R"("\u-123")"));
-    row("code unit with a sign", around(R"("\u+123")"));
-    row("code unit with a blank", around(R"("\u 123")"));
-    row("unknown escape", around(R"("\q")"));
-    row("Latin 1", around("\"\xB5\""));
-    row("cut UTF-8", around("\"\xC2\""));
-    row("overlong UTF-8", around("\"\xC0\x80\""));
-    row("surrogate in UTF-8", around("\"\xED\xA0\x80\""));
-    row("UTF-8 cut by an escape", around("\"\xC2\\n\xB5\""));
+    row("cut code unit", aroundSecond(R"("\u12")"));
+    row("code unit that is none", aroundSecond(R"("\u12g4")"));
+    row("code unit with zero bytes", aroundSecond(QByteArray("\"\\u0\0\0\0\"", 8)));
+    row("negative code unit", aroundSecond(R"("\u-123")"));
+    row("code unit with a sign", aroundSecond(R"("\u+123")"));
+    row("code unit with a blank", aroundSecond(R"("\u 123")"));
+    row("unknown escape", aroundSecond(R"("\q")"));
+    row("Latin 1", aroundSecond("\"\xB5\""));
+    row("cut UTF-8", aroundSecond("\"\xC2\""));
+    row("overlong UTF-8", aroundSecond("\"\xC0\x80\""));
+    row("surrogate in UTF-8", aroundSecond("\"\xED\xA0\x80\""));
+    row("UTF-8 cut by an escape", aroundSecond("\"\xC2\\n\xB5\""));
 }
 
 void addBrokenWordsAndNumbers()
 {
-    row("cut word", around("nul"));
-    row("word in capitals", around("True"));
-    row("word that goes on", around("nullx"));
-    row("NaN", around("NaN"));
-    row("infinity", around("-Infinity"));
-    row("sign alone", around("-"));
-    row("plus", around("+1"));
-    row("leading zero", around("01"));
-    row("leading zero behind a sign", around("-01"));
-    row("point without decimals", around("1."));
-    row("point without a digit before", around(".5"));
-    row("exponent without digits", around("1e"));
-    row("exponent with a sign alone", around("1e+"));
-    row("hexadecimal", around("0x10"));
-    row("number no double holds", around("1e400"));
-    row("number below all doubles", around("1e-400"));
+    row("cut word", aroundSecond("nul"));
+    row("word in capitals", aroundSecond("True"));
+    row("word that goes on", aroundSecond("nullx"));
+    row("NaN", aroundSecond("NaN"));
+    row("infinity", aroundSecond("-Infinity"));
+    row("sign alone", aroundSecond("-"));
+    row("plus", aroundSecond("+1"));
+    row("leading zero", aroundSecond("01"));
+    row("leading zero behind a sign", aroundSecond("-01"));
+    row("point without decimals", aroundSecond("1."));
+    row("point without a digit before", aroundSecond(".5"));
+    row("exponent without digits", aroundSecond("1e"));
+    row("exponent with a sign alone", aroundSecond("1e+"));
+    row("hexadecimal", aroundSecond("0x10"));
+    row("number no double holds", aroundSecond("1e400"));
+    row("number below all doubles", aroundSecond("1e-400"));
 }
 
 void typed(const char *name, const QByteArray &payload)
@@ -261,10 +261,10 @@ void TestRowNodeRefusals::unfitPayloadsAreRefused_data()
 void TestRowNodeRefusals::unfitPayloadsAreRefused()
 {
     QFETCH(QByteArray, cell);
-    QVERIFY(isRefusedWhole(around(cell)));
-    if (QJsonDocument::fromJson(around(cell)).isObject())
-        QVERIFY(isObjectRefusedWhole(around(cell)));
-    QVERIFY(isRefusedWhole(around("[" + cell + "]")));
+    QVERIFY(isRefusedWhole(aroundSecond(cell)));
+    if (QJsonDocument::fromJson(aroundSecond(cell)).isObject())
+        QVERIFY(isObjectRefusedWhole(aroundSecond(cell)));
+    QVERIFY(isRefusedWhole(aroundSecond("[" + cell + "]")));
     QVERIFY(isRefusedWhole(R"({"children":[{"data":[)" + cell + "]}]}"));
 }
 
@@ -274,8 +274,8 @@ void TestRowNodeRefusals::repeatedKeysAreRefused_data()
     row("data", R"({"data":[1],"data":[1]})");
     row("data, once escaped", R"({"data":[1],"\u0064ata":[2]})");
     row("children", R"({"children":[],"children":[]})");
-    row("of a map", around(R"({"a":1,"b":2,"a":1})"));
-    row("of a type", around(R"({"$double":1,"$double":1})"));
+    row("of a map", aroundSecond(R"({"a":1,"b":2,"a":1})"));
+    row("of a type", aroundSecond(R"({"$double":1,"$double":1})"));
 }
 
 void TestRowNodeRefusals::repeatedKeysAreRefused()
@@ -366,8 +366,8 @@ void TestRowNodeRefusals::countlessBracketsAreRefused()
 
 void TestRowNodeRefusals::textNeedsNoZeroBehindIt()
 {
-    for (const QByteArray &text :
-         {QByteArray("{"), around("1").first(17), around("-").first(18), around("nu").first(19)}) {
+    for (const QByteArray &text : {QByteArray("{"), aroundSecond("1").first(17), aroundSecond("-").first(18),
+                                   aroundSecond("nu").first(19)}) {
         const std::vector<char> exact(text.begin(), text.end());
         QVERIFY(isRefusedWhole(QByteArray::fromRawData(exact.data(), qsizetype(exact.size()))));
     }

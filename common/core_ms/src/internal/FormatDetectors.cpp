@@ -28,7 +28,7 @@ std::unique_ptr<FormatDetectorBase> bruker(Format, Kind, const char *, const cha
     return std::make_unique<FormatDetectorBruker>();
 }
 
-struct Row
+struct DetectorRow
 {
     std::unique_ptr<FormatDetectorBase> (*create)(Format format, Kind kind, const char *extension,
                                                   const char *description);
@@ -39,7 +39,7 @@ struct Row
 };
 
 // clang-format off
-constexpr Row kRows[] = {
+constexpr DetectorRow kDetectorRows[] = {
     {simple<FormatDetectorAgilent>, Format::AgilentAcqData, Kind::Folder, ".d", "Agilent"},
     {bruker, Format::Unknown, Kind::Folder, "", ""}, // seven formats, which it knows itself
     {simple<FormatDetectorSimple>, Format::Ulvar2, Kind::File, ".ulvar2", "Ulvar v2"},
@@ -67,8 +67,8 @@ constexpr Row kRows[] = {
 FormatDetectors createFormatDetectors()
 {
     FormatDetectors detectors;
-    detectors.reserve(std::size(kRows));
-    for (const Row &row : kRows)
+    detectors.reserve(std::size(kDetectorRows));
+    for (const DetectorRow &row : kDetectorRows)
         detectors.push_back(row.create(row.format, row.kind, row.extension, row.description));
     return detectors;
 }

@@ -4,7 +4,7 @@ namespace orv::msreader::internal {
 
 namespace {
 
-constexpr qint64 kTailBytes = 4096;
+constexpr qint64 kIndexTailBytes = 4096;
 
 /// Where the elements of one kind begin.
 struct Offsets
@@ -22,8 +22,8 @@ struct Index
 qint64 indexOffset(QIODevice *file)
 {
     constexpr QByteArrayView kTag("<indexListOffset>");
-    file->seek(qMax<qint64>(0, file->size() - kTailBytes));
-    const QByteArray tail = file->read(kTailBytes);
+    file->seek(qMax<qint64>(0, file->size() - kIndexTailBytes));
+    const QByteArray tail = file->read(kIndexTailBytes);
     const qsizetype tag = tail.lastIndexOf(kTag);
     if (tag < 0)
         return -1;

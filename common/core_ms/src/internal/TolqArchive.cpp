@@ -21,7 +21,7 @@ struct TolqArchiveTr
     Q_DECLARE_TR_FUNCTIONS(TolqArchive)
 };
 
-constexpr qint64 kChunkBytes = 1 << 18;
+constexpr qint64 kArchiveChunkBytes = 1 << 18;
 constexpr qsizetype kMostLevels = 64;
 
 /// Whether each part of \a name is the name of something below the folder in which it counts, and not too
@@ -143,7 +143,7 @@ private:
     Error copy(QuaZipFile &entry, QFile &file, const QString &name)
     {
         for (;;) {
-            const QByteArray chunk = entry.read(kChunkBytes);
+            const QByteArray chunk = entry.read(kArchiveChunkBytes);
             if (entry.getZipError() != UNZ_OK)
                 return damaged(name, TolqArchiveTr::tr("It can't be unpacked."));
             if (chunk.isEmpty())

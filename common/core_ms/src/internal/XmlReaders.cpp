@@ -9,8 +9,8 @@ namespace orv::msreader::internal {
 
 namespace {
 
-constexpr qint64 kTailBytes = 4096;
-constexpr qint64 kChunkBytes = 1 << 18;
+constexpr qint64 kXmlTailBytes = 4096;
+constexpr qint64 kScanBytes = 1 << 18;
 
 struct XmlReadersTr
 {
@@ -29,16 +29,16 @@ struct Ends
 Result<Ends> readEnds(QIODevice *file)
 {
     Ends ends;
-    ends.head = ends.tail = file->read(kChunkBytes);
+    ends.head = ends.tail = file->read(kScanBytes);
     ends.size = ends.tail.size();
     if (!file->isSequential()) {
-        file->seek(qMax<qint64>(0, file->size() - kTailBytes));
-        return Ends{ends.head, file->read(kTailBytes), file->size()};
+        file->seek(qMax<qint64>(0, file->size() - kXmlTailBytes));
+        return Ends{ends.head, file->read(kXmlTailBytes), file->size()};
     }
     while (!file->atEnd()) {
-        const QByteArray chunk = file->read(kChunkBytes);
+        const QByteArray chunk = file->read(kScanBytes);
         ends.size += chunk.size();
-        ends.tail = (ends.tail + chunk).last(qMin<qint64>(ends.size, kTailBytes));
+        ends.tail = (ends.tail + chunk).last(qMin<qint64>(ends.size, kXmlTailBytes));
         if (chunk.isEmpty() && !file->atEnd())
             return Error(ErrorCode::InvalidContent, XmlReadersTr::tr("The MS data are damaged."))
                 .addDetail(

@@ -6,7 +6,7 @@ namespace orv::msreader::internal {
 
 namespace {
 
-constexpr qint64 kChunkBytes = 1 << 18;
+constexpr qint64 kXmlChunkBytes = 1 << 18;
 
 struct XmlScannerTr
 {
@@ -52,7 +52,7 @@ bool XmlScanner::feed()
         fail(m_xml.errorString());
         return false;
     }
-    const QByteArray chunk = m_device->read(kChunkBytes);
+    const QByteArray chunk = m_device->read(kXmlChunkBytes);
     m_bytesSinceTag += chunk.size();
     if (chunk.isEmpty() && !m_device->atEnd())
         fail(m_device->errorString(), ErrorCode::CannotOpenFile);

@@ -13,7 +13,7 @@ using namespace PropertyEditorStringConstants;
 
 namespace {
 
-QJsonObject withoutStamp(QJsonObject metadata)
+QJsonObject metadataWithoutStamp(QJsonObject metadata)
 {
     const QStringList stamp = WflwMetaData::metaDataObject(QString()).keys();
     for (const QString &key : stamp)
@@ -46,7 +46,7 @@ bool areAlike(const PropertyEditorContent::Tab &a, const PropertyEditorContent::
 
 bool differ(const PropertyEditorContent &a, const PropertyEditorContent &b)
 {
-    if (withoutStamp(a.metadata()) != withoutStamp(b.metadata()) ||
+    if (metadataWithoutStamp(a.metadata()) != metadataWithoutStamp(b.metadata()) ||
         a.extendedMetadataInfo() != b.extendedMetadataInfo())
         return true;
     const PropertyEditorContent::Tabs tabsOfA = a.tabsAndContent();

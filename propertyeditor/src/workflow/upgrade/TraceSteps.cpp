@@ -22,7 +22,7 @@ using namespace UpgradeSteps;
 
 namespace {
 
-using Entry = TracesImportList::Entry;
+using ListedTrace = TracesImportList::Entry;
 using SamplesInput::SampleWithCustomColumns;
 
 constexpr auto kRebuiltFormat = msreader::VendorDataFormat::Thermo;
@@ -97,7 +97,7 @@ Error updateAfterReaderChange(SamplesAndTracesContent *samples)
     return Error::NoError;
 }
 
-bool hasOldName(const Entry &entry)
+bool hasOldName(const ListedTrace &entry)
 {
     return entry.traceItem().type() == TraceType::Other &&
            entry.traceItem().channelName().startsWith(msreader::CHROMATOGRAM_NAME_OTHER_PREFIX);
@@ -153,20 +153,20 @@ Result<Chromatograms> chromatogramsOf(const QList<ResourceReferenceSPtr> &files)
 
 /// An entry of a trace that the list lacks under its name. It is used as those with old names were, one of
 /// which it was.
-Entry newEntry(const TraceItem &item, const QList<Entry> &oldNames)
+ListedTrace newEntry(const TraceItem &item, const QList<ListedTrace> &oldNames)
 {
-    Entry entry(item);
-    entry.setImported(std::ranges::any_of(oldNames, &Entry::isImported));
+    ListedTrace entry(item);
+    entry.setImported(std::ranges::any_of(oldNames, &ListedTrace::isImported));
     entry.setPeaksOptionsName(oldNames.constFirst().peaksOptionsName());
     return entry;
 }
 
-QList<Entry> rebuilt(const QList<Entry> &list, const Chromatograms &found)
+QList<ListedTrace> rebuilt(const QList<ListedTrace> &list, const Chromatograms &found)
 {
-    QList<Entry> entries;
-    QList<Entry> oldNames;
+    QList<ListedTrace> entries;
+    QList<ListedTrace> oldNames;
     QHash<QString, qsizetype> places;
-    for (const Entry &entry : list) {
+    for (const ListedTrace &entry : list) {
         if (hasOldName(entry))
             oldNames.append(entry);
         if (hasOldName(entry) && found.replaceOldNames())
