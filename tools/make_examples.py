@@ -7,6 +7,7 @@ Names, types and lists of settings come from the catalogue in propertyeditor/res
 when it changes: run this again and read the difference. --check writes nothing and fails when a file would change.
 """
 import json
+import re
 import sys
 from pathlib import Path
 
@@ -18,6 +19,16 @@ EXAMPLES = ROOT / "examples" / "workflows"
 VERSIONS = ROOT / "tests" / "data" / "versions"
 
 DATA = EXAMPLES / "data"
+FORMAT = ROOT / "propertyeditor/src/document/include/orv/propertyeditor/workflow/WflwMetaData.h"
+
+
+def current_version():
+    """As the program has it, which is the one place that says so."""
+    text = FORMAT.read_text("utf-8")
+    return ".".join(re.search(rf"WORKFLOW_JSON_VERSION_{part} = (\d+);", text)[1] for part in ("MAJOR", "MINOR", "PATCH"))
+
+
+CURRENT = current_version()
 
 
 def read_fasta(name):
@@ -219,7 +230,7 @@ def database(writer, *paths):
 
 
 def antibody_peptide_map():
-    w = Writer("5.47.0")
+    w = Writer(CURRENT)
     samples = [sample(1, "mAb reference", "data/mab_reference.mzML", Traces=["data/uv_214nm.csv"], Weeks=0,
                       Operator="M. Keller"),
                sample(2, "mAb 4 weeks 40 °C", "data/mab_stressed.mzML", Weeks=4, Operator="J. Okafor")]
@@ -237,7 +248,7 @@ def antibody_peptide_map():
 
 
 def intact_mass_check():
-    w = Writer("5.47.0", user="j.okafor", created="2024-01-17T15:02:31")
+    w = Writer(CURRENT, user="j.okafor", created="2024-01-17T15:02:31")
     heavy, light = (sequence for _, _, sequence in read_fasta("antibody.fasta"))
     chains = molecules([("HC", "Heavy chain", heavy), ("LC", "Light chain", light)], [["mAb", [1, 1, 2, 2], 16, []]])
     glycoforms = masses(("G0F/G0F", 148055.9), ("G0F/G1F", 148218.1), ("G1F/G1F", 148380.2))
@@ -254,7 +265,7 @@ def intact_mass_check():
 
 
 def oligonucleotide_map():
-    w = Writer("5.47.0")
+    w = Writer(CURRENT)
     return w.document([tab("Samples", w.samples([sample(1, "sgRNA RNase T1", "data/oligo_negative.mzML"),
                                                  sample(2, "sgRNA cusativin", "data/oligo_negative.mzML")])),
                        tab("Sequences", proteins(w, "Oligonucleotides (drag and drop FASTA files)",
@@ -335,7 +346,7 @@ def stability_report():
 
 
 def de_novo_antibody():
-    w = Writer("5.47.0")
+    w = Writer(CURRENT)
     return w.document([tab("Samples", w.samples([sample(1, "trypsin", "data/trypsin.mgf"), sample(2, "pepsin", "data/pepsin.mgf")])),
                        tab("De novo", w.step("Ostrale", "Sequencing", DE_NOVO))],
                       name="Antibody de novo", workflowType="DeNovoSequencing", icon="de-novo-sequencing", contentMode=0,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CurrentVersion.h"
 #include "Documents.h"
 
 #include <orv/project/ProjectFile.h>
@@ -55,7 +56,7 @@ inline QJsonObject document(const QJsonArray &cells, QJsonObject metadata = {})
     for (qsizetype i = 0; i < cells.size(); ++i)
         columns.append(QString::number(i));
     if (!metadata.contains(QStringLiteral("version")))
-        metadata.insert(QStringLiteral("version"), QStringLiteral("5.47.0"));
+        metadata.insert(QStringLiteral("version"), currentVersionText());
     return Documents::document({Documents::tab(QStringLiteral("Tab"), columns, cells)}, metadata);
 }
 

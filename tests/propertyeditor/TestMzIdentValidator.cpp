@@ -1,4 +1,5 @@
 #include "ContextTranslator.h"
+#include "CurrentVersion.h"
 #include "OrvTest.h"
 #include "ValidatorRun.h"
 
@@ -35,7 +36,7 @@ Content workflow(const QString &samplesTab, const QJsonArray &searches)
     Content content;
     ProjectFixtures::load(&content, Documents::document({Documents::tab(u"Search"_s, columns, searches),
                                                          Documents::tab(samplesTab, {u"Files"_s}, {samples})},
-                                                        {{u"version"_s, u"5.47.0"_s}}));
+                                                        {{u"version"_s, currentVersionText()}}));
     return content;
 }
 
@@ -66,7 +67,7 @@ void TestMzIdentValidator::theSamplesLeadTheirTab()
     Content other;
     ProjectFixtures::load(
         &other, Documents::document({Documents::tab(u"Samples"_s, {u"0"_s}, {search(u"lot*"_s, u"true"_s)})},
-                                    {{u"version"_s, u"5.47.0"_s}}));
+                                    {{u"version"_s, currentVersionText()}}));
     QCOMPARE(runOf<MzIdentValidator>(other).errors, QList<QString>{kNoTable});
     Content empty;
     ProjectFixtures::load(&empty, Documents::document({Documents::tab(u"Samples"_s, {}, {})}));

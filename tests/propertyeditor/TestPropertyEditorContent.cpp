@@ -1,3 +1,4 @@
+#include "CurrentVersion.h"
 #include "Documents.h"
 #include "LogCapture.h"
 #include "OrvTest.h"
@@ -222,7 +223,7 @@ void TestPropertyEditorContent::writingStampsDocumentAndCells()
     QCOMPARE(stamps.size(), 3);
     for (const QJsonObject &stamp : stamps) {
         QCOMPARE(stamp.value(QStringLiteral("user")).toString(), QStringLiteral("grace"));
-        QCOMPARE(stamp.value(QStringLiteral("version")).toString(), QStringLiteral("5.47.0"));
+        QCOMPARE(stamp.value(QStringLiteral("version")).toString(), currentVersionText());
         const QDateTime created =
             QDateTime::fromString(stamp.value(QStringLiteral("created")).toString(), Qt::ISODate);
         QVERIFY(qAbs(created.secsTo(QDateTime::currentDateTime())) < 3600);

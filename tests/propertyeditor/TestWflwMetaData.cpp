@@ -1,3 +1,4 @@
+#include "CurrentVersion.h"
 #include "LogCapture.h"
 #include "OrvTest.h"
 
@@ -79,10 +80,10 @@ void TestWflwMetaData::versionsAreJudged_data()
     const int upToDate = int(WflwState::UpToDate);
     const int needsUpgrade = int(WflwState::NeedsUpgrade);
     const int notSupported = int(WflwState::NotSupported);
-    QTest::newRow("current") << QStringLiteral("5.47.0") << upToDate << upToDate;
+    QTest::newRow("current") << currentVersionText() << upToDate << upToDate;
     QTest::newRow("two segments compare below three")
-        << QStringLiteral("5.47") << needsUpgrade << needsUpgrade;
-    QTest::newRow("newer patch") << QStringLiteral("5.47.1") << upToDate << upToDate;
+        << currentVersionCutShort() << needsUpgrade << needsUpgrade;
+    QTest::newRow("newer patch") << nextPatch().toString() << upToDate << upToDate;
     QTest::newRow("newer minor") << QStringLiteral("5.99.0") << upToDate << upToDate;
     QTest::newRow("newer major") << QStringLiteral("6.0.0") << notSupported << notSupported;
     QTest::newRow("one before") << QStringLiteral("5.46.0") << needsUpgrade << needsUpgrade;
@@ -160,7 +161,7 @@ void TestWflwMetaData::theStampHoldsUserTimeAndVersion()
     QCOMPARE(stamp.keys(),
              QStringList({QStringLiteral("created"), QStringLiteral("user"), QStringLiteral("version")}));
     QCOMPARE(stamp.value(QStringLiteral("user")).toString(), QStringLiteral("ada"));
-    QCOMPARE(stamp.value(QStringLiteral("version")).toString(), QStringLiteral("5.47.0"));
+    QCOMPARE(stamp.value(QStringLiteral("version")).toString(), currentVersionText());
     const QDateTime created =
         QDateTime::fromString(stamp.value(QStringLiteral("created")).toString(), Qt::ISODate);
     QVERIFY(created.isValid());
@@ -179,7 +180,7 @@ void TestWflwMetaData::stampingKeepsOtherKeys()
     const QJsonObject stamped = WflwMetaData::stamped(
         {{QStringLiteral("version"), 1}, {QStringLiteral("colour"), QStringLiteral("red")}},
         QStringLiteral("ada"));
-    QCOMPARE(stamped.value(QStringLiteral("version")).toString(), QStringLiteral("5.47.0"));
+    QCOMPARE(stamped.value(QStringLiteral("version")).toString(), currentVersionText());
     QCOMPARE(stamped.value(QStringLiteral("user")).toString(), QStringLiteral("ada"));
     QCOMPARE(stamped.value(QStringLiteral("colour")).toString(), QStringLiteral("red"));
 }
@@ -198,7 +199,7 @@ void TestWflwMetaData::theStampOfAPropertyKeepsOtherKeys()
 {
     const KProperty property("x", QByteArray(R"({"version":"1.0.0","colour":"red"})"));
     const QJsonObject stamp = QJsonDocument::fromJson(WflwMetaData::metaDataString(property)).object();
-    QCOMPARE(stamp.value(QStringLiteral("version")).toString(), QStringLiteral("5.47.0"));
+    QCOMPARE(stamp.value(QStringLiteral("version")).toString(), currentVersionText());
     QCOMPARE(stamp.value(QStringLiteral("colour")).toString(), QStringLiteral("red"));
 }
 
@@ -224,7 +225,7 @@ void TestWflwMetaData::aSetWithoutMetadataGetsThem()
     QCOMPARE(set.groupNameForProperty(property), QByteArray("common"));
     QCOMPARE(
         QJsonDocument::fromJson(property.value().toByteArray()).object().value(QStringLiteral("version")),
-        QJsonValue(QStringLiteral("5.47.0")));
+        QJsonValue(currentVersionText()));
 }
 
 void TestWflwMetaData::metadataInASetAreRestamped()
@@ -235,7 +236,7 @@ void TestWflwMetaData::metadataInASetAreRestamped()
     QCOMPARE(set.count(), 1);
     const QJsonObject stamp =
         QJsonDocument::fromJson(set.property(":metadata").value().toByteArray()).object();
-    QCOMPARE(stamp.value(QStringLiteral("version")).toString(), QStringLiteral("5.47.0"));
+    QCOMPARE(stamp.value(QStringLiteral("version")).toString(), currentVersionText());
     QCOMPARE(stamp.value(QStringLiteral("colour")).toString(), QStringLiteral("red"));
 }
 

@@ -1,4 +1,5 @@
 // The chain as a whole: which steps run, what is handed back, and what a failure leaves.
+#include "CurrentVersion.h"
 #include "OrvTest.h"
 #include "TestData.h"
 #include "UpgradeDocuments.h"
@@ -73,19 +74,19 @@ private Q_SLOTS:
 
 void TestWflwUpgrader::leavesADocumentOfTheCurrentVersionAlone()
 {
-    PropertyEditorContent document = intactDocument(u"5.47.0"_s);
+    PropertyEditorContent document = intactDocument(currentVersionText());
     QList<QString> notes{u"kept"_s};
-    ORV_VERIFY_OK(WflwUpgrader::upgradeWorkflow(QVersionNumber(5, 47, 0), &document, &notes, true));
+    ORV_VERIFY_OK(WflwUpgrader::upgradeWorkflow(currentVersion(), &document, &notes, true));
     QCOMPARE(notes, QList<QString>{u"kept"_s});
     QVERIFY(!document.metadata().contains(u"user"));
 }
 
 void TestWflwUpgrader::changesNothingOfANewerPatch()
 {
-    const PropertyEditorContent before = intactDocument(u"5.47.1"_s);
+    const PropertyEditorContent before = intactDocument(nextPatch().toString());
     PropertyEditorContent after(before);
     QList<QString> notes{u"replaced"_s};
-    ORV_VERIFY_OK(WflwUpgrader::upgradeWorkflow(QVersionNumber(5, 47, 1), &after, &notes, true));
+    ORV_VERIFY_OK(WflwUpgrader::upgradeWorkflow(nextPatch(), &after, &notes, true));
     QVERIFY(isSame(after, before));
     QVERIFY(notes.isEmpty());
 }
@@ -93,7 +94,7 @@ void TestWflwUpgrader::changesNothingOfANewerPatch()
 void TestWflwUpgrader::endsAtTheCurrentVersionEvenIfNoStepApplies_data()
 {
     QTest::addColumn<QString>("version");
-    for (const QString &version : {u"5.17.0"_s, u"5.44.0"_s, u"5.46.0"_s, u"5.47"_s})
+    for (const QString &version : {u"5.17.0"_s, u"5.44.0"_s, u"5.46.0"_s, currentVersionCutShort()})
         QTest::newRow(qPrintable(version)) << version;
 }
 
@@ -102,7 +103,7 @@ void TestWflwUpgrader::endsAtTheCurrentVersionEvenIfNoStepApplies()
     QFETCH(QString, version);
     PropertyEditorContent document = intactDocument(version);
     ORV_VERIFY_OK(runChain(&document));
-    QCOMPARE(versionOf(document), QVersionNumber(5, 47, 0));
+    QCOMPARE(versionOf(document), currentVersion());
     QVERIFY(document.metadata().contains(u"user"));
 }
 
@@ -152,7 +153,7 @@ void TestWflwUpgrader::sampleFilesStayClosed()
     PropertyEditorContent content = document(Type::PeptideMap, {samples}, u"5.9.0"_s);
     const TracesImportList before = treeOf(content).samplesAndTraces().options.traces;
     ORV_VERIFY_OK(runChain(&content));
-    QCOMPARE(versionOf(content), QVersionNumber(5, 47, 0));
+    QCOMPARE(versionOf(content), currentVersion());
     QVERIFY(treeOf(content).samplesAndTraces().options.traces == before);
     // Both steps that open them would find that the files aren't there.
     for (const QString &version : {u"5.9.0"_s, u"5.38.0"_s}) {
@@ -234,7 +235,7 @@ void TestWflwUpgrader::observersHearNothingOfStamps()
     PropertyEditorContent content = document(Type::PeptideMap, {cell(u"Intact"_s, {})}, u"5.46.0"_s);
     WflwUpgradeCollector told;
     ORV_VERIFY_OK(WflwUpgrader::upgradeWorkflow(QVersionNumber(5, 46, 0), &content, nullptr, false, &told));
-    QCOMPARE(versionOf(content), QVersionNumber(5, 47, 0));
+    QCOMPARE(versionOf(content), currentVersion());
     QVERIFY2(told.changes().isEmpty(), qPrintable(versionsTold(told).join(u' ')));
 }
 
