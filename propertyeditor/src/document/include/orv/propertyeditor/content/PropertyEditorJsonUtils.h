@@ -23,7 +23,8 @@ class Content;
 
 /// Functions on the raw JSON of cells and properties, which reach one setting without building the tree of
 /// objects. What is malformed gives an empty answer and a line in the log. Free of shared state; safe on any
-/// thread.
+/// thread. A facade: bodies that need the catalogue or the tree stand on those floors, so call from there or
+/// above.
 ///
 /// A cell holds its settings as entries of "properties":
 /// \code
