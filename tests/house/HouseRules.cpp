@@ -142,6 +142,11 @@ QStringList HouseRules::upwardIncludes() const
         if (!from || !to)
             continue;
         const QString place = u"%1:%2"_s.arg(include.file).arg(include.line);
+        if (to != from && publicName(include.target).isEmpty()) {
+            violations.append(u"%1 (%2) includes %3, which is private to %4"_s.arg(
+                place, named(from), include.target, named(to)));
+            continue;
+        }
         if (to->height > from->height) {
             violations.append(u"%1 (%2) includes %3, which lies above it (%4)"_s.arg(
                 place, named(from), include.target, named(to)));

@@ -17,8 +17,8 @@ class HouseRules
 public:
     explicit HouseRules(const QString &root);
 
-    /// Includes that lead from a floor to one above, two modules of one floor that include each other, and
-    /// files that stand on no floor.
+    /// Includes that lead from a floor to one above or to a private header of another, two modules of one
+    /// floor that include each other, and files that stand on no floor.
     [[nodiscard]] QStringList upwardIncludes() const;
 
     /// Calls of a facade's functions from below the floor on which their bodies stand.

@@ -92,11 +92,13 @@ void TestHouse::wrongIncludesAreFound_data()
     row("the catalogue takes content", u"propertyeditor/src/catalogue/A.cpp"_s,
         "#include <orv/propertyeditor/content/C.h>", u"(content)"_s);
     row("a validator takes the grid", u"propertyeditor/src/validators/A.cpp"_s, "#include \"../grid/G.h\"",
-        u"(grid)"_s);
+        u"private to grid"_s);
     row("the grid takes a window", u"propertyeditor/src/grid/A.cpp"_s,
-        "#include \"../window/PropertyEditorWindow.h\"", u"(window)"_s);
+        "#include \"../window/PropertyEditorWindow.h\"", u"private to window"_s);
     row("a module takes the tool", u"propertyeditor/src/content/A.cpp"_s,
-        "#include \"../../../apps/tool/T.h\"", u"(apps)"_s);
+        "#include \"../../../apps/tool/T.h\"", u"private to apps"_s);
+    row("the engine takes a private header from below", u"propertyeditor/src/engine/A.cpp"_s,
+        "#include \"../catalogue/Rows.h\"", u"private to catalogue"_s);
     row("a circle of one floor", u"common/table/include/orv/table/T.h"_s, "#include <orv/resources/R.h>",
         u"include each other"_s);
 }
@@ -112,6 +114,7 @@ void TestHouse::wrongIncludesAreFound()
                  {u"propertyeditor/src/workflow/include/orv/propertyeditor/workflow/Chain.h"_s, ""},
                  {u"propertyeditor/src/validators/include/orv/propertyeditor/validators/V.h"_s, ""},
                  {u"propertyeditor/src/content/include/orv/propertyeditor/content/C.h"_s, ""},
+                 {u"propertyeditor/src/catalogue/Rows.h"_s, ""},
                  {u"propertyeditor/src/grid/G.h"_s, ""},
                  {u"propertyeditor/src/window/PropertyEditorWindow.h"_s, ""},
                  {u"apps/tool/T.h"_s, ""},

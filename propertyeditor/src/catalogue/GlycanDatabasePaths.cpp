@@ -1,6 +1,5 @@
-#include "GlycanDatabasePaths.h"
-
 #include <KProperty>
+#include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
@@ -74,7 +73,7 @@ QString withAbsolutePaths(const QString &text, const QUrl &baseUrl)
 
 } // namespace
 
-void updateGlycanDatabaseToAbsolute(const QUrl &baseUrl, QJsonObject *json)
+void PropertyEditorUtils::updateGlycanDatabaseToAbsolute(const QUrl &baseUrl, QJsonObject *json)
 {
     const QString text = PropertyEditorJsonUtils::storedSerializedGlycans(*json);
     const QString resolved = withAbsolutePaths(text, baseUrl);
@@ -82,13 +81,13 @@ void updateGlycanDatabaseToAbsolute(const QUrl &baseUrl, QJsonObject *json)
         PropertyEditorJsonUtils::updateStoredSerializedGlycans(json, resolved);
 }
 
-void updateGlycanPropertyWithAbsolutePath(KProperty *property, const QUrl &baseUrl)
+void PropertyEditorUtils::updateGlycanPropertyWithAbsolutePath(KProperty *property, const QUrl &baseUrl)
 {
     if (property)
         property->setOption(PropertyEditorStringConstants::kbaseUrl, baseUrl);
 }
 
-QString resolveGlycansStringsFromWflw(const QString &text, const KProperty *property)
+QString PropertyEditorUtils::resolveGlycansStringsFromWflw(const QString &text, const KProperty *property)
 {
     const QUrl baseUrl =
         property ? property->option(PropertyEditorStringConstants::kbaseUrl).toUrl() : QUrl();

@@ -1,5 +1,3 @@
-#include "GlycanDatabasePaths.h"
-
 #include <orv/core/FileTypes.h>
 #include <orv/core/JsonUtils.h>
 #include <orv/core/SysUtils.h>
@@ -84,21 +82,6 @@ QList<PropertyId> PropertyEditorUtils::propertiesWithGlycanDatabases()
 {
     static const QList<PropertyId> properties = {PropertyId::KarvonGlycanText, PropertyId::InSilicoGlycans};
     return properties;
-}
-
-void PropertyEditorUtils::updateGlycanDatabaseToAbsolute(const QUrl &baseUrl, QJsonObject *json)
-{
-    orv::updateGlycanDatabaseToAbsolute(baseUrl, json);
-}
-
-void PropertyEditorUtils::updateGlycanPropertyWithAbsolutePath(KProperty *property, const QUrl &baseUrl)
-{
-    orv::updateGlycanPropertyWithAbsolutePath(property, baseUrl);
-}
-
-QString PropertyEditorUtils::resolveGlycansStringsFromWflw(const QString &text, const KProperty *property)
-{
-    return orv::resolveGlycansStringsFromWflw(text, property);
 }
 
 } // namespace orv

@@ -1,5 +1,4 @@
-#include "../catalogue/GlycanDatabasePaths.h"
-
+#include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/content/GlycanOptionsItem.h>
 
 namespace orv::PropertyEditor {
@@ -14,7 +13,7 @@ QJsonObject GlycanOptionsItem::toJson(PropertyConversionFlag flag) const
 {
     QJsonObject json = BaseTableItem::toJson(flag);
     if (flag == PropertyConversionFlag::AbsolutePaths)
-        updateGlycanDatabaseToAbsolute(baseUrl(), &json);
+        PropertyEditorUtils::updateGlycanDatabaseToAbsolute(baseUrl(), &json);
     return json;
 }
 

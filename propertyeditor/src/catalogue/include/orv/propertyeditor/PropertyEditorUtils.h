@@ -132,7 +132,9 @@ public:
     getAdvancedConfigurationFromProject(const PropertyEditor::KeyValueItem *item);
 
     /// Rewrites the glycan databases that stand in square brackets in the glycan text of a property's value
-    /// \a json to absolute paths; relative ones are taken from the folder in which \a baseUrl lies.
+    /// \a json to absolute paths; without a base nothing changes. A relative path is a path, not a URL, so
+    /// that "#", "?", "%" and blanks in names survive. An absolute one that begins with "/" and doesn't exist
+    /// is looked for below the base, for portable folders name their files "file:///NAME".
     static void updateGlycanDatabaseToAbsolute(const QUrl &baseUrl, QJsonObject *json);
 
     /// The same for the glycan properties of an item, and of all items of settings in a document; null is
