@@ -19,7 +19,7 @@ from make_examples import Writer, proteins, rows, sample, tab
 FOLDER = examples.ROOT / "tests" / "data" / "upgrade"
 
 STEPS = ["5.5.0", "5.6.0", "5.9.0", "5.10.1", "5.12.0", "5.12.2", "5.13.0", "5.15.0", "5.16.1"]
-STEPS += [f"5.{minor}.0" for minor in range(17, 48)]
+STEPS += [f"5.{minor}.0" for minor in range(17, int(examples.CURRENT.split(".")[1]) + 1)]
 
 TYPES = {1: "IntactMass", 2: "ProteinSearch", 3: "CompoundProfiling", 5: "PeptideMap", 6: "TargetedPeptideMap", 11: "IcIefMs",
          12: "DenaturedIntactMass", 18: "MultiAttributeMethod", 20: "ReleasedGlycans", 25: "ProteinQuantification",
