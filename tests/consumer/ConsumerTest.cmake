@@ -47,6 +47,6 @@ if(NOT result EQUAL 1 OR NOT errors MATCHES "Could not open the file: .*missing.
 endif()
 
 run("${WORK_DIR}/build/choose-types" --list)
-if(NOT output STREQUAL "26 types, checked: Karvon Samples\n")
+if(NOT output MATCHES "^[0-9]+ types, checked: Karvon Samples\n$")
   message(FATAL_ERROR "The editors' example printed\n${output}")
 endif()
