@@ -118,6 +118,16 @@ QByteArray proteins(int count)
         .toJson();
 }
 
+bool isForAMoment()
+{
+    return qEnvironmentVariableIsSet("ORV_BENCHMARK_MOMENT");
+}
+
+int sized(int count)
+{
+    return isForAMoment() ? qMin(count, 100) : count;
+}
+
 QByteArray document(int samples, int steps)
 {
     QJsonArray columns;
@@ -128,7 +138,7 @@ QByteArray document(int samples, int steps)
     }
     const QJsonArray tabs{QJsonObject{{QStringLiteral("name"), QStringLiteral("Samples")},
                                       {QStringLiteral("columns"), QJsonArray{QStringLiteral("Sample Input")}},
-                                      {QStringLiteral("cells"), QJsonArray{samplesCell(samples)}}},
+                                      {QStringLiteral("cells"), QJsonArray{samplesCell(sized(samples))}}},
                           QJsonObject{{QStringLiteral("name"), QStringLiteral("Processing")},
                                       {QStringLiteral("columns"), columns},
                                       {QStringLiteral("cells"), cells}}};

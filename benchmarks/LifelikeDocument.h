@@ -4,6 +4,13 @@
 
 namespace Lifelike {
 
+/// Whether the benchmarks are only to show that they still run (ORV_BENCHMARK_MOMENT is set): on small data,
+/// once.
+[[nodiscard]] bool isForAMoment();
+
+/// \a count, or at most a hundred when it is for a moment.
+[[nodiscard]] int sized(int count);
+
 /// The JSON text of a workflow with \a samples samples, a protein table and \a steps property cells of 79
 /// settings each, as an application writes it.
 [[nodiscard]] QByteArray document(int samples, int steps);

@@ -1,5 +1,7 @@
 #include "RatioReporter.h"
 
+#include "LifelikeDocument.h"
+
 #include <algorithm>
 #include <cstdio>
 
@@ -43,9 +45,10 @@ void RatioReporter::Finalize()
 int runRatioBenchmarks(int argc, char *argv[])
 {
     std::vector<char *> arguments(argv, argv + argc);
-    std::string repetitions = "--benchmark_repetitions=9";
+    const bool isForAMoment = Lifelike::isForAMoment();
+    std::string repetitions = isForAMoment ? "--benchmark_repetitions=1" : "--benchmark_repetitions=9";
     std::string interleaving = "--benchmark_enable_random_interleaving=true";
-    std::string shortRuns = "--benchmark_min_time=0.05";
+    std::string shortRuns = isForAMoment ? "--benchmark_min_time=0.0001" : "--benchmark_min_time=0.05";
     arguments.insert(arguments.begin() + 1, {repetitions.data(), interleaving.data(), shortRuns.data()});
     int count = int(arguments.size());
     benchmark::Initialize(&count, arguments.data());

@@ -79,7 +79,7 @@ qsizetype check(const QJsonObject &document, const QUrl &folder)
 void addDocuments(const QString &folder)
 {
     QStringList paths;
-    for (int i = 0; i < kDocuments; ++i) {
+    for (int i = 0; i < Lifelike::sized(kDocuments); ++i) {
         paths.append(u"%1/%2.wflw"_s.arg(folder).arg(i));
         writeFile(paths.constLast(), Lifelike::document(2, 1));
     }

@@ -56,7 +56,7 @@ int main(int argc, char *argv[])
     const QTemporaryDir folder;
     const QByteArray bytes = Lifelike::document(6, 2);
     QStringList files;
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < Lifelike::sized(1000); ++i)
         files.append(written(folder.filePath(QStringLiteral("%1.wflw").arg(i)), bytes));
     add("one document/baseline", "bare_gui_program", {});
     add("one document/info", "orv-workflow", {QStringLiteral("info"), files.first()});

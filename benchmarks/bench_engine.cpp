@@ -42,7 +42,7 @@ void write(const QString &path, const QByteArray &bytes)
 /// A workflow of 1,000 samples with one search; the samples' files are in \a folder if they are there at all.
 QByteArray document(const QString &folder)
 {
-    return Lifelike::document(kSamples, 1).replace("/data/2023/antibody", folder.toUtf8());
+    return Lifelike::document(Lifelike::sized(kSamples), 1).replace("/data/2023/antibody", folder.toUtf8());
 }
 
 void add(const std::string &name, const std::function<void()> &work)
@@ -122,7 +122,7 @@ void addAllFiles(const std::string &group, const QString &workflow)
         (void)file.open(QIODevice::ReadOnly);
         files.append({name, file.readAll()});
     }
-    if (files.size() != kSamples)
+    if (files.size() != Lifelike::sized(kSamples))
         qFatal("A sample of the benchmark has no file");
     addInFolder(group + "/baseline", [files](const QString &folder) {
         for (const auto &[name, bytes] : files)
@@ -142,7 +142,7 @@ int main(int argc, char *argv[])
     const QCoreApplication application(argc, argv);
     QLoggingCategory::setFilterRules(QStringLiteral("orv.*.debug=false\norv.*.info=false"));
     const QTemporaryDir folder;
-    for (int i = 0; i < kSamples; ++i)
+    for (int i = 0; i < Lifelike::sized(kSamples); ++i)
         write(folder.filePath(QStringLiteral("antibody_digest_%1.mzML").arg(i, 5, 10, QLatin1Char('0'))), {});
     const QString workflow = folder.filePath(QStringLiteral("study.wflw"));
     write(workflow, document(folder.path()));

@@ -1,6 +1,7 @@
 // Tables: loading and writing against the bare parse and write of the same bytes, in time and in memory, and
 // access to cells of tables of growing size.
 
+#include "LifelikeDocument.h"
 #include "RatioReporter.h"
 
 #include <orv/table/RowNode.h>
@@ -101,10 +102,11 @@ QByteArray withoutEmptyChildren(QByteArray bytes)
 
 std::vector<Case> cases()
 {
-    const QByteArray samples = rn::serialize(std::make_unique<RowNode>(table(kRows, sampleRow)).get());
-    const RowNode numbers = table(kRows, numberRow);
-    const RowNode integralNumbers = table(kRows, integralNumberRow);
-    const RowNode texts = table(kRows, uniqueTextRow);
+    const QByteArray samples =
+        rn::serialize(std::make_unique<RowNode>(table(Lifelike::sized(kRows), sampleRow)).get());
+    const RowNode numbers = table(Lifelike::sized(kRows), numberRow);
+    const RowNode integralNumbers = table(Lifelike::sized(kRows), integralNumberRow);
+    const RowNode texts = table(Lifelike::sized(kRows), uniqueTextRow);
     return {{"sample table", samples},
             {"sample table, old form", withoutEmptyChildren(samples)},
             {"numbers", rn::serialize(&numbers)},
@@ -148,13 +150,14 @@ void addLoadAndWrite(const Case &data)
 void addAccess()
 {
     constexpr int kAccesses = 1000;
-    for (const int rows : {1000, 10000, kRows, 10 * kRows}) {
+    for (const int count : {1000, 10000, kRows, 10 * kRows}) {
+        const int rows = Lifelike::sized(count);
         const auto node = std::make_shared<RowNode>(table(rows, sampleRow));
         const auto forLastRows = [=](auto work) {
             for (int i = 0; i < kAccesses; ++i)
                 work(*node->getChild(rows - 1 - i % 64));
         };
-        const std::string label = rows == 1000 ? "baseline" : std::to_string(rows) + " rows";
+        const std::string label = count == 1000 ? "baseline" : std::to_string(count) + " rows";
         const QString name = u"Column9"_s;
         add("read 1000 cells by index/" + label,
             [=] { forLastRows([](const RowNode &row) { benchmark::DoNotOptimize(row.getDataAt(9)); }); });
