@@ -7,9 +7,13 @@
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/validators/AbstractValidator.h>
 #include <orv/propertyeditor/validators/BuiltinValidator.h>
+#include <orv/propertyeditor/validators/CheckRun.h>
 #include <orv/propertyeditor/validators/ContentValidator.h>
+#include <orv/propertyeditor/validators/FindingsValidator.h>
 #include <orv/propertyeditor/validators/Validators.h>
 #include <orv/propertyeditor/validators/WorkflowValidator.h>
+
+#include <functional>
 
 using namespace orv;
 using namespace orv::PropertyEditor;
@@ -47,19 +51,16 @@ public:
             *m_deleted = true;
     }
 
-    bool validate(const Content & /*content*/, const QUrl &workflowBaseUrl, QList<QString> *warnings,
+    bool validate(const Content & /*content*/, const QUrl & /*workflowBaseUrl*/, QList<QString> *warnings,
                   QList<QString> *errors) const override
     {
         if (m_calls)
             ++*m_calls;
-        for (const QString &error : m_errors)
-            Findings::note(error, m_place, u"base "_s + workflowBaseUrl.path());
         *warnings += m_warnings;
         *errors += m_errors;
         return m_verdict;
     }
 
-    void setPlace(const FindingPlace &place) { m_place = place; }
     void setDeletionFlag(bool *deleted) { m_deleted = deleted; }
 
 private:
@@ -68,8 +69,26 @@ private:
     QStringList m_errors;
     int *m_calls;
     bool *m_deleted = nullptr;
-    FindingPlace m_place;
 };
+
+/// Tells what it is given.
+class Teller : public FindingsValidator
+{
+public:
+    explicit Teller(std::function<void(CheckRun &)> tell)
+        : m_tell(std::move(tell))
+    {}
+
+    void check(CheckRun &run) const override { m_tell(run); }
+
+private:
+    std::function<void(CheckRun &)> m_tell;
+};
+
+FindingPlace atSample(const QString &name)
+{
+    return {nullptr, PropertyId::NoProperty, name};
+}
 
 struct Verdict
 {
@@ -114,7 +133,10 @@ private Q_SLOTS:
     void textsGoToTheLog();
     void findingsTellRulePlaceAndHint();
     void oneTextAtTwoPlacesIsTwoFindings();
-    void notesWithoutCollectorAreForgotten();
+    void oneTextMayTellOfSeveralPlaces();
+    void findingsStandInTheOrderOfTheTexts();
+    void theTextsOfTellersAreThoseThatTheyTell();
+    void manyFindingsTakeNoLongerThanTheirNumber();
     void namesFindValidators_data();
     void namesFindValidators();
     void theDefaultSetRunsInItsOrder();
@@ -230,12 +252,17 @@ void TestContentValidator::findingsTellRulePlaceAndHint()
     LogCapture log;
     const FindingPlace place{nullptr, PropertyId::Samples, u"lot 1"_s};
     ContentValidator validator;
-    auto *speaker = new Speaker(false, {u"careful"_s}, {u"wrong"_s});
-    speaker->setPlace(place);
-    QVERIFY(validator.installValidator(speaker));
+    QVERIFY(validator.installValidator(new Teller([place](CheckRun &run) {
+        run.warning(u"careful"_s);
+        run.error(u"wrong"_s, place, u"base "_s + run.workflowBaseUrl().path());
+        run.add({Finding::Level::Error, u"rule"_s, u"too much"_s, {}, {}});
+    })));
+    QVERIFY(validator.installValidator(new Speaker(false, {}, {u"plain"_s})));
     const QList<Finding> expected{
         {Finding::Level::Error, u"Additional"_s, u"wrong"_s, place, u"base /lab/"_s},
-        {Finding::Level::Warning, u"Additional"_s, u"careful"_s, {}, {}}};
+        {Finding::Level::Error, u"Additional/rule"_s, u"too much"_s, {}, {}},
+        {Finding::Level::Warning, u"Additional"_s, u"careful"_s, {}, {}},
+        {Finding::Level::Error, u"Additional"_s, u"plain"_s, {}, {}}};
     QCOMPARE(verdictOf(validator).findings, expected);
 }
 
@@ -244,9 +271,8 @@ void TestContentValidator::oneTextAtTwoPlacesIsTwoFindings()
     LogCapture log;
     ContentValidator validator;
     for (const QString &sample : {u"a"_s, u"b"_s, u"a"_s}) {
-        auto *speaker = new Speaker(false, {}, {u"wrong"_s});
-        speaker->setPlace({nullptr, PropertyId::NoProperty, sample});
-        QVERIFY(validator.installValidator(speaker));
+        QVERIFY(validator.installValidator(
+            new Teller([sample](CheckRun &run) { run.error(u"wrong"_s, atSample(sample)); })));
     }
     const Verdict verdict = verdictOf(validator);
     QCOMPARE(verdict.errors, QList<QString>{u"wrong"_s});
@@ -254,10 +280,62 @@ void TestContentValidator::oneTextAtTwoPlacesIsTwoFindings()
     QCOMPARE(verdict.findings.at(1).place.sample, u"b"_s);
 }
 
-void TestContentValidator::notesWithoutCollectorAreForgotten()
+void TestContentValidator::oneTextMayTellOfSeveralPlaces()
 {
-    const Verdict verdict = verdictOf(Speaker(false, {}, {u"wrong"_s}), Content());
-    QCOMPARE(verdict.errors, QList<QString>{u"wrong"_s});
+    LogCapture log;
+    const Teller teller([](CheckRun &run) {
+        run.add({Finding::Level::Error, {}, u"wrong"_s, {}, {}}, {atSample(u"a"_s), atSample(u"b"_s)});
+        run.add({Finding::Level::Error, {}, u"nowhere"_s, {}, {}}, {});
+    });
+    const Content content;
+    QCOMPARE(verdictOf(teller, content).errors, (QList<QString>{u"wrong"_s, u"nowhere"_s}));
+    CheckRun run(content);
+    teller.check(run);
+    QCOMPARE(run.findings().size(), 3);
+    QCOMPARE(run.findings().at(1).place.sample, u"b"_s);
+}
+
+void TestContentValidator::findingsStandInTheOrderOfTheTexts()
+{
+    const Content content;
+    CheckRun run(content);
+    run.beginValidator(u"First"_s);
+    run.warning(u"w"_s, atSample(u"a"_s));
+    run.error(u"x"_s, atSample(u"a"_s));
+    run.error(u"y"_s, atSample(u"a"_s));
+    run.error(u"x"_s, atSample(u"b"_s));
+    run.beginValidator(u"Second"_s);
+    run.error(u"x"_s, atSample(u"c"_s));
+    QStringList order;
+    for (const Finding &finding : run.findings())
+        order.append(finding.rule + u' ' + finding.message + u' ' + finding.place.sample);
+    QCOMPARE(order,
+             (QStringList{u"First x a"_s, u"First x b"_s, u"First y a"_s, u"First w a"_s, u"Second x c"_s}));
+}
+
+void TestContentValidator::theTextsOfTellersAreThoseThatTheyTell()
+{
+    const Teller teller([](CheckRun &run) {
+        run.error(u"x"_s, atSample(u"a"_s));
+        run.warning(u"w"_s);
+        run.error(u"x"_s, atSample(u"b"_s));
+    });
+    const Verdict verdict = verdictOf(teller, Content());
+    QVERIFY(!verdict.isValid);
+    QCOMPARE(verdict.errors, (QList<QString>{u"x"_s, u"x"_s}));
+    QCOMPARE(verdict.warnings, QList<QString>{u"w"_s});
+    QVERIFY(verdictOf(Teller([](CheckRun &run) { run.warning(u"w"_s); }), Content()).isValid);
+}
+
+// With a walk over all for each of them, this takes longer than the test may.
+void TestContentValidator::manyFindingsTakeNoLongerThanTheirNumber()
+{
+    constexpr int kMany = 100000;
+    const Content content;
+    CheckRun run(content);
+    for (int i = 0; i < kMany; ++i)
+        run.error(u"wrong"_s, atSample(QString::number(i)));
+    QCOMPARE(run.findings().size(), kMany);
 }
 
 void TestContentValidator::namesFindValidators_data()

@@ -8,7 +8,7 @@
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/validators/BuiltinValidator.h>
-#include <orv/propertyeditor/validators/Finding.h>
+#include <orv/propertyeditor/validators/CheckRun.h>
 
 namespace orv::PropertyEditor {
 
@@ -20,44 +20,52 @@ QString hintFor(PropertyId id, const KeyValueItem &item, const QString &key)
         .arg(PropertyText::legalValues(id, item.propertySet()->property(key.toUtf8())));
 }
 
-void noteAll(const QList<QString> &messages, PropertyId id, const KeyValueItem &item, const QString &key)
+/// Tells what the rule of a setting says of its value.
+void checkSetting(CheckRun &run, const KeyValueItem &item, const QString &key, PropertyId id,
+                  const VerificationFunction &rule)
 {
-    const QString rule = PropertiesCsvReader::instance().verificationFunction(id).trimmed().toLower();
-    for (const QString &message : messages)
-        Findings::note(message, {&item, id, {}}, hintFor(id, item, key), rule);
+    const QVariant value = item.value(key);
+    qCDebug(propertyEditorLog) << "Calling builtin validator for" << int(id) << value;
+    QList<QString> errors;
+    QList<QString> warnings;
+    rule(id, value, run.content().contentMode(), &errors, &warnings);
+    if (errors.isEmpty() && warnings.isEmpty())
+        return;
+    Finding finding{Finding::Level::Error,
+                    PropertiesCsvReader::instance().verificationFunction(id).trimmed().toLower(),
+                    {},
+                    {&item, id, {}},
+                    hintFor(id, item, key)};
+    for (const QString &error : std::as_const(errors)) {
+        finding.message = error;
+        run.add(finding);
+    }
+    finding.level = Finding::Level::Warning;
+    for (const QString &warning : std::as_const(warnings)) {
+        finding.message = warning;
+        run.add(finding);
+    }
+}
+
+void checkSettings(CheckRun &run, const KeyValueItem &item)
+{
+    const QMap<PropertyId, PropertyFeatures> &catalogue = *PropertiesNames::names();
+    for (const QString &key : item.keys()) {
+        const auto features = catalogue.constFind(PropertiesNames::findPropertyForName(key));
+        if (features != catalogue.cend() && features->verification)
+            checkSetting(run, item, key, features.key(), features->verification);
+    }
 }
 
 } // namespace
 
-bool BuiltinValidator::validate(const Content &content, const QUrl & /*workflowBaseUrl*/,
-                                QList<QString> *warnings, QList<QString> *errors) const
+void BuiltinValidator::check(CheckRun &run) const
 {
-    bool isGood = true;
+    const Content &content = run.content();
     for (const BaseItem *item : content.findAllItems(content.allItems())) {
         if (const auto *settings = qobject_cast<const KeyValueItem *>(item))
-            isGood = checkKeyValueItem(settings, content.contentMode(), warnings, errors) && isGood;
+            checkSettings(run, *settings);
     }
-    return isGood;
-}
-
-bool BuiltinValidator::checkKeyValueItem(const KeyValueItem *item, PropertyEditorContent::ContentMode mode,
-                                         QList<QString> *warnings, QList<QString> *errors) const
-{
-    const qsizetype errorsBefore = errors->size();
-    const QMap<PropertyId, PropertyFeatures> &catalogue = *PropertiesNames::names();
-    for (const QString &key : item->keys()) {
-        const auto features = catalogue.constFind(PropertiesNames::findPropertyForName(key));
-        if (features == catalogue.cend() || !features->verification)
-            continue;
-        const PropertyId id = features.key();
-        const QVariant value = item->value(key);
-        qCDebug(propertyEditorLog) << "Calling builtin validator for" << int(id) << value;
-        const qsizetype errorsOfOthers = errors->size();
-        const qsizetype warningsOfOthers = warnings->size();
-        features->verification(id, value, mode, errors, warnings);
-        noteAll(errors->mid(errorsOfOthers) + warnings->mid(warningsOfOthers), id, *item, key);
-    }
-    return errors->size() == errorsBefore;
 }
 
 } // namespace orv::PropertyEditor

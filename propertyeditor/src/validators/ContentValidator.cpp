@@ -1,13 +1,11 @@
-#include "FindingNotes.h"
-#include "SampleFiles.h"
-
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/validators/AbstractValidator.h>
+#include <orv/propertyeditor/validators/CheckRun.h>
 #include <orv/propertyeditor/validators/ContentValidator.h>
+#include <orv/propertyeditor/validators/FindingsValidator.h>
 #include <orv/propertyeditor/validators/Validators.h>
 
 #include <QCoreApplication>
-#include <QSet>
 
 #include <vector>
 
@@ -17,40 +15,24 @@ namespace {
 
 constexpr QLatin1String kPrefix("Workflow validation:");
 
-using Level = Finding::Level;
-
-/// Findings of the texts that one validator appended.
-void appendFindings(const QString &validator, Level level, const QList<QString> &texts,
-                    const FindingNotes &notes, QList<Finding> *findings)
+/// Whether \a validator has nothing against the document.
+bool isPassed(const AbstractValidator &validator, CheckRun &run)
 {
-    QSet<QString> seen;
-    for (const QString &text : texts) {
-        if (seen.contains(text))
-            continue;
-        seen.insert(text);
-        for (const FindingNotes::Note &note : notes.notesOf(text)) {
-            const QString rule = note.rule.isEmpty() ? validator : validator + QLatin1Char('/') + note.rule;
-            findings->append({level, rule, text, note.place, note.hint});
-        }
+    if (const auto *teller = dynamic_cast<const FindingsValidator *>(&validator)) {
+        const qsizetype errorsBefore = run.errors().size();
+        teller->check(run);
+        return run.errors().size() == errorsBefore;
     }
-}
-
-/// The same fact is told once, by the validator that found it first.
-void removeRepeated(QList<Finding> *findings)
-{
-    QList<Finding> unique;
-    QMultiHash<QString, qsizetype> placesOfMessage;
-    for (const Finding &finding : *findings) {
-        const QList<qsizetype> before = placesOfMessage.values(finding.message);
-        const bool isKnown = std::any_of(before.begin(), before.end(), [&](qsizetype i) {
-            return unique.at(i).level == finding.level && unique.at(i).place == finding.place;
-        });
-        if (isKnown)
-            continue;
-        placesOfMessage.insert(finding.message, unique.size());
-        unique.append(finding);
-    }
-    *findings = unique;
+    QList<QString> warnings = run.warnings();
+    QList<QString> errors = run.errors();
+    const qsizetype warningsBefore = warnings.size();
+    const qsizetype errorsBefore = errors.size();
+    const bool isGood = validator.validate(run.content(), run.workflowBaseUrl(), &warnings, &errors);
+    for (const QString &error : errors.mid(errorsBefore))
+        run.error(error);
+    for (const QString &warning : warnings.mid(warningsBefore))
+        run.warning(warning);
+    return isGood;
 }
 
 } // namespace
@@ -111,35 +93,27 @@ bool ContentValidator::validate(const Content &content, const QUrl &workflowBase
         return true;
     }
     qCDebug(propertyEditorLog) << "Validating workflow content";
-    warnings->clear();
-    errors->clear();
-    const SampleFiles files;
-    QList<Finding> found;
+    CheckRun run(content, workflowBaseUrl);
     int failures = 0;
     for (const auto &validator : d->validators) {
-        FindingNotes notes;
-        const qsizetype warningsBefore = warnings->size();
-        const qsizetype errorsBefore = errors->size();
-        if (!validator->validate(content, workflowBaseUrl, warnings, errors))
+        run.beginValidator(Validators::nameOf(*validator));
+        if (!isPassed(*validator, run))
             ++failures;
-        const QString name = Validators::nameOf(*validator);
-        appendFindings(name, Level::Error, errors->mid(errorsBefore), notes, &found);
-        appendFindings(name, Level::Warning, warnings->mid(warningsBefore), notes, &found);
     }
+    if (failures > 0 && run.errors().isEmpty()) {
+        run.beginValidator(QStringLiteral("Unknown"));
+        run.error(QCoreApplication::translate("ContentValidator", "Unknown error"));
+    }
+    *warnings = run.warnings();
+    *errors = run.errors();
     warnings->removeDuplicates();
     errors->removeDuplicates();
-    if (failures > 0 && errors->isEmpty()) {
-        errors->append(QCoreApplication::translate("ContentValidator", "Unknown error"));
-        found.append({Level::Error, QStringLiteral("Unknown"), errors->constLast(), {}, {}});
-    }
     for (const QString &warning : std::as_const(*warnings))
         qCWarning(propertyEditorLog).noquote() << kPrefix << warning;
     for (const QString &error : std::as_const(*errors))
         qCCritical(propertyEditorLog).noquote() << kPrefix << error;
-    if (findings) {
-        removeRepeated(&found);
-        *findings = found;
-    }
+    if (findings)
+        *findings = run.findings();
     return failures == 0;
 }
 

@@ -1,12 +1,12 @@
 #include "PathRules.h"
 #include "SampleFiles.h"
-#include "ValidatorHelpers.h"
 
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
+#include <orv/propertyeditor/validators/CheckRun.h>
 #include <orv/propertyeditor/validators/FilesValidator.h>
 #include <orv/propertyeditor/validators/MirelPathsValidator.h>
 #include <orv/propertyeditor/validators/TalvanePathsValidator.h>
@@ -26,53 +26,54 @@ std::unique_ptr<PathsValidatorBase> createPathsValidator(PropertyEditorContent::
     return std::make_unique<MirelPathsValidator>(table);
 }
 
-void checkNameOfRow(const SamplesTableItem *table, const SamplesInput::Entry &sample, qsizetype row,
-                    QList<QString> *errors)
+void checkNameOfRow(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &sample,
+                    qsizetype row)
 {
     const FindingPlace place = PathRules::placeOf(table, sample);
     if (sample.name.isEmpty()) {
-        report(errors, QObject::tr("The sample name at row #%1 is empty").arg(row), place,
-               QObject::tr("Give the sample a name."));
+        run.error(QObject::tr("The sample name at row #%1 is empty").arg(row), place,
+                  QObject::tr("Give the sample a name."));
     }
     if (sample.name.contains(QLatin1Char('"'))) {
-        report(errors, QObject::tr("The sample at row #%1 contains illegal character: \"").arg(row), place,
-               QObject::tr("Take the quotation mark out of the sample's name."));
+        run.error(QObject::tr("The sample at row #%1 contains illegal character: \"").arg(row), place,
+                  QObject::tr("Take the quotation mark out of the sample's name."));
     }
 }
 
-void checkNames(const SamplesTableItem *table, const QList<SamplesInput::Entry> &samples,
-                QList<QString> *errors)
+void checkNames(CheckRun &run, const SamplesTableItem *table, const QList<SamplesInput::Entry> &samples)
 {
     QSet<QString> seen;
     seen.reserve(samples.size());
     QStringList repeated;
     for (qsizetype i = 0; i < samples.size(); ++i) {
         const SamplesInput::Entry &sample = samples.at(i);
-        checkNameOfRow(table, sample, i + 1, errors);
+        checkNameOfRow(run, table, sample, i + 1);
         if (seen.contains(sample.name))
             repeated.append(sample.name);
         seen.insert(sample.name);
     }
     if (repeated.isEmpty())
         return;
-    report(errors, QObject::tr("Duplicated sample names found: %1").arg(repeated.join(QLatin1Char(','))),
-           {table, PropertyId::SamplesTable, repeated.constFirst()},
-           QObject::tr("Give each sample a name of its own."));
+    run.error(QObject::tr("Duplicated sample names found: %1").arg(repeated.join(QLatin1Char(','))),
+              {table, PropertyId::SamplesTable, repeated.constFirst()},
+              QObject::tr("Give each sample a name of its own."));
 }
 
-void checkTraceOptions(const SamplesTableItem *table, QList<QString> *warnings, QList<QString> *errors)
+void checkTraceOptions(CheckRun &run, const SamplesTableItem *table)
 {
-    const qsizetype errorsBefore = errors->size();
-    const qsizetype warningsBefore = warnings->size();
-    table->content().options.validate(warnings, errors);
-    for (const QString &text : errors->mid(errorsBefore) + warnings->mid(warningsBefore)) {
-        Findings::note(text, {table, PropertyId::SamplesTable, {}},
-                       QObject::tr("Mend it among the options of traces of the table of samples."));
-    }
+    QList<QString> warnings;
+    QList<QString> errors;
+    table->content().options.validate(&warnings, &errors);
+    const FindingPlace place{table, PropertyId::SamplesTable, {}};
+    const QString hint = QObject::tr("Mend it among the options of traces of the table of samples.");
+    for (const QString &error : std::as_const(errors))
+        run.error(error, place, hint);
+    for (const QString &warning : std::as_const(warnings))
+        run.warning(warning, place, hint);
 }
 
 /// Looks for the files of the whole table at once.
-void lookAhead(const QList<SamplesInput::Entry> &samples, bool isReport)
+void lookAhead(SampleFiles &files, const QList<SamplesInput::Entry> &samples, bool isReport)
 {
     QList<ResourceReferenceSPtr> references;
     references.reserve(samples.size());
@@ -81,29 +82,27 @@ void lookAhead(const QList<SamplesInput::Entry> &samples, bool isReport)
         if (!isReport)
             references += sample.companions();
     }
-    SampleFiles::current().lookAhead(references);
+    files.lookAhead(references);
 }
 
-bool checkTable(const SamplesTableItem *table, PathsValidatorBase &paths, const QSet<BaseItemType> &itemTypes,
-                QList<QString> *warnings, QList<QString> *errors)
+void checkTable(CheckRun &run, const SamplesTableItem *table, const QSet<BaseItemType> &itemTypes)
 {
-    const qsizetype errorsBefore = errors->size();
+    const auto paths = createPathsValidator(run.content().contentMode(), table);
     const QList<SamplesInput::Entry> samples = table->samplesInput();
     const bool isReport = itemTypes.contains(BaseItemType::MultiDocReport);
-    lookAhead(samples, isReport);
+    lookAhead(run.files(), samples, isReport);
     if (isReport) {
-        paths.validateDocuments(samples, errors);
+        paths->checkDocuments(run, samples);
     } else {
-        checkNames(table, samples, errors);
-        paths.validateSamplesPaths(samples, itemTypes, errors);
+        checkNames(run, table, samples);
+        paths->checkSamplesPaths(run, samples, itemTypes);
         for (const SamplesInput::Entry &sample : samples) {
             for (const ResourceReferenceSPtr &reference : sample.extraReferences)
-                PathRules::checkReference(paths, reference, PathRules::placeOf(table, sample), errors);
+                paths->checkReference(run, reference, PathRules::placeOf(table, sample));
         }
     }
     if (itemTypes.contains(BaseItemType::Intact) || itemTypes.contains(BaseItemType::Dravik))
-        checkTraceOptions(table, warnings, errors);
-    return errors->size() == errorsBefore;
+        checkTraceOptions(run, table);
 }
 
 struct SettingReference
@@ -143,17 +142,16 @@ Result<QList<SettingReference>> referencesOfSettings(const Content &content)
     return references;
 }
 
-bool checkReferencesOfSettings(const Content &content, PathsValidatorBase &paths, QList<QString> *errors)
+void checkReferencesOfSettings(CheckRun &run)
 {
-    const qsizetype errorsBefore = errors->size();
-    const Result<QList<SettingReference>> references = referencesOfSettings(content);
+    const Result<QList<SettingReference>> references = referencesOfSettings(run.content());
     if (references.hasError()) {
-        errors->append(references.error().errorMessage());
-        return false;
+        run.error(references.error().errorMessage());
+        return;
     }
+    const auto paths = createPathsValidator(run.content().contentMode(), nullptr);
     for (const SettingReference &setting : *references)
-        PathRules::checkReference(paths, setting.reference, {setting.item, setting.property, {}}, errors);
-    return errors->size() == errorsBefore;
+        paths->checkReference(run, setting.reference, {setting.item, setting.property, {}});
 }
 
 } // namespace
@@ -162,24 +160,16 @@ FilesValidator::FilesValidator(bool checkResourceReferences)
     : m_checkResourceReferences(checkResourceReferences)
 {}
 
-bool FilesValidator::validate(const Content &content, const QUrl & /*workflowBaseUrl*/,
-                              QList<QString> *warnings, QList<QString> *errors) const
+void FilesValidator::check(CheckRun &run) const
 {
-    const SampleFiles files;
+    const Content &content = run.content();
     const QSet<BaseItemType> itemTypes = content.allItems();
-    bool isGood = true;
     for (const BaseItem *item : content.findAllItems(BaseItemType::Samples)) {
-        const auto *table = qobject_cast<const SamplesTableItem *>(item);
-        if (!table)
-            continue;
-        const auto paths = createPathsValidator(content.contentMode(), table);
-        isGood = checkTable(table, *paths, itemTypes, warnings, errors) && isGood;
+        if (const auto *table = qobject_cast<const SamplesTableItem *>(item))
+            checkTable(run, table, itemTypes);
     }
-    if (m_checkResourceReferences) {
-        const auto paths = createPathsValidator(content.contentMode(), nullptr);
-        isGood = checkReferencesOfSettings(content, *paths, errors) && isGood;
-    }
-    return isGood;
+    if (m_checkResourceReferences)
+        checkReferencesOfSettings(run);
 }
 
 } // namespace orv::PropertyEditor

@@ -8,6 +8,7 @@
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
+#include <orv/propertyeditor/validators/CheckRun.h>
 #include <orv/propertyeditor/validators/InsilicoValidator.h>
 #include <orv/resources/ResourceManager.h>
 #include <orv/resources/ResourceReferenceUtils.h>
@@ -23,17 +24,15 @@ QString digestionHint()
 }
 
 /// Checks the settings of one cell.
-class Check
+class InsilicoCheck
 {
 public:
-    Check(const KeyValueItem &item, QUrl baseUrl, QList<QString> *warnings, QList<QString> *errors)
-        : m_item(item)
-        , m_baseUrl(std::move(baseUrl))
-        , m_warnings(warnings)
-        , m_errors(errors)
+    InsilicoCheck(CheckRun &run, const KeyValueItem &item)
+        : m_run(run)
+        , m_item(item)
     {}
 
-    void run() const
+    void check() const
     {
         if (isEnabled()) {
             checkModifications();
@@ -64,9 +63,9 @@ private:
         const bool isNone = fixed.toInt(&isNumber) == 0 && isNumber;
         if ((!fixed.isValid() || isNone) && isEmptyObject(PropertyId::InSilicoModifications) &&
             isEmptyObject(PropertyId::InSilicoGlycans)) {
-            report(m_warnings, validatorText("No modifications found, including fixed modifications."),
-                   {&m_item, PropertyId::InSilicoModifications, {}},
-                   validatorText("Enter the modifications that the peptides may carry."));
+            m_run.warning(validatorText("No modifications found, including fixed modifications."),
+                          {&m_item, PropertyId::InSilicoModifications, {}},
+                          validatorText("Enter the modifications that the peptides may carry."));
         }
     }
 
@@ -75,17 +74,18 @@ private:
         const FindingPlace place{&m_item, PropertyId::Digestion, {}};
         const QString digestion = m_item.value(PropertyId::Digestion).toString();
         if (digestion.isEmpty())
-            report(m_errors, validatorText("Invalid digestion syntax."), place, digestionHint());
+            m_run.error(validatorText("Invalid digestion syntax."), place, digestionHint());
         const Result<ProteinDigestionItem> item = ProteinDigestionItem::parse(digestion);
         if (item)
             return;
-        report(m_errors, validatorText("Invalid digestion format: %1.").arg(digestion), place,
-               item.error().details().join(QLatin1Char(' ')));
+        m_run.error(validatorText("Invalid digestion format: %1.").arg(digestion), place,
+                    item.error().details().join(QLatin1Char(' ')));
     }
 
     [[nodiscard]] Result<QString> getLocalPath(const ResourceReferenceSPtr &reference) const
     {
-        auto handler = ResourceManager::retrieve(ResourceReferenceUtils::resolved(reference, m_baseUrl));
+        auto handler =
+            ResourceManager::retrieve(ResourceReferenceUtils::resolved(reference, m_run.workflowBaseUrl()));
         if (!handler)
             return handler.ecatch();
         Result<QString> path = handler.value()->grab();
@@ -103,8 +103,7 @@ private:
         const FindingPlace place{&m_item, PropertyId::InSilicoPeptidesFile, {}};
         const auto path = getLocalPath(reference);
         if (!path) {
-            report(m_errors, path.error().errorMessage(), place,
-                   path.error().details().join(QLatin1Char(' ')));
+            m_run.error(path.error().errorMessage(), place, path.error().details().join(QLatin1Char(' ')));
             return;
         }
         QList<InsilicoPeptide> rows;
@@ -114,10 +113,10 @@ private:
         if (error) {
             qCWarning(propertyEditorLog).noquote()
                 << "Cannot read the in-silico peptides:" << error.ecatch().errorMessage();
-            report(m_errors, errorText, place, validatorText("Correct the file, or choose another one."));
+            m_run.error(errorText, place, validatorText("Correct the file, or choose another one."));
         }
         if (!warningText.isEmpty())
-            report(m_warnings, warningText, place, validatorText("Look through the file."));
+            m_run.warning(warningText, place, validatorText("Look through the file."));
     }
 
     void checkMasses() const
@@ -130,31 +129,26 @@ private:
         const double upperDa = PropertyEditorJsonUtils::getValueFromValueUnit(upper).toDouble();
         if (lowerDa < upperDa)
             return;
-        report(m_errors,
-               validatorText("Peptide mass range out of order (%1 to %2), please change the values.\n")
-                   .arg(lowerDa)
-                   .arg(upperDa),
-               {&m_item, PropertyId::PeptideMassMin, {}},
-               validatorText("The smallest mass must lie below the largest."));
+        m_run.error(validatorText("Peptide mass range out of order (%1 to %2), please change the values.\n")
+                        .arg(lowerDa)
+                        .arg(upperDa),
+                    {&m_item, PropertyId::PeptideMassMin, {}},
+                    validatorText("The smallest mass must lie below the largest."));
     }
 
+    CheckRun &m_run;
     const KeyValueItem &m_item;
-    QUrl m_baseUrl;
-    QList<QString> *m_warnings;
-    QList<QString> *m_errors;
 };
 
 } // namespace
 
-bool InsilicoValidator::validate(const Content &content, const QUrl &workflowBaseUrl,
-                                 QList<QString> *warnings, QList<QString> *errors) const
+void InsilicoValidator::check(CheckRun &run) const
 {
-    const qsizetype errorsBefore = errors->size();
+    const Content &content = run.content();
     for (const ColumnSettings &found :
          settingsInColumns(content, {BaseItemType::Senthia, BaseItemType::Trenq, BaseItemType::Dravik,
                                      BaseItemType::Intact}))
-        Check(*found.item, workflowBaseUrl, warnings, errors).run();
-    return errors->size() == errorsBefore;
+        InsilicoCheck(run, *found.item).check();
 }
 
 } // namespace orv::PropertyEditor

@@ -1,6 +1,5 @@
 #include "PathRules.h"
 #include "SampleFiles.h"
-#include "ValidatorHelpers.h"
 
 #include <orv/core/Logging.h>
 #include <orv/core_ms/MsDataFileUtils.h>
@@ -14,9 +13,9 @@ namespace orv::PropertyEditor {
 
 namespace {
 
-bool checkExistence(const ResourceReferenceSPtr &reference)
+bool checkExistence(CheckRun &run, const ResourceReferenceSPtr &reference)
 {
-    const Result<bool> exists = SampleFiles::current().exists(reference);
+    const Result<bool> exists = run.files().exists(reference);
     if (exists.hasError())
         qCWarning(propertyEditorLog).noquote() << exists.error().errorMessage();
     else if (!*exists)
@@ -36,53 +35,52 @@ MirelPathsValidator::MirelPathsValidator(const SamplesTableItem *table)
     : m_table(table)
 {}
 
-void MirelPathsValidator::validateSamplesPaths(const QList<SamplesInput::Entry> &samples,
-                                               const QSet<BaseItemType> &itemTypes, QList<QString> *errors)
+void MirelPathsValidator::checkSamplesPaths(CheckRun &run, const QList<SamplesInput::Entry> &samples,
+                                            const QSet<BaseItemType> &itemTypes)
 {
-    const SampleFiles files;
     for (const SamplesInput::Entry &sample : samples)
-        validateSample(sample, itemTypes, errors);
+        checkSample(run, sample, itemTypes);
 }
 
-void MirelPathsValidator::validateSample(const SamplesInput::Entry &sample,
-                                         const QSet<BaseItemType> &itemTypes, QList<QString> *errors)
+void MirelPathsValidator::checkSample(CheckRun &run, const SamplesInput::Entry &sample,
+                                      const QSet<BaseItemType> &itemTypes)
 {
-    if (PathRules::reportEmptyPaths(m_table, sample, errors) || sample.isMsFileExternal())
+    if (PathRules::reportEmptyPaths(run, m_table, sample) || sample.isMsFileExternal())
         return;
-    if (sample.msFile && !checkExistence(sample.msFile)) {
-        report(errors, QObject::tr("The sample path of the sample \"%1\" does not exist").arg(sample.name),
-               PathRules::placeOf(m_table, sample), missingHint(sample.msFile));
+    if (sample.msFile && !checkExistence(run, sample.msFile)) {
+        run.error(QObject::tr("The sample path of the sample \"%1\" does not exist").arg(sample.name),
+                  PathRules::placeOf(m_table, sample), missingHint(sample.msFile));
         return;
     }
-    validateTraces(sample, errors);
+    checkTraces(run, sample);
     if (!PathRules::isMsFileOrProject(sample.msFile)) {
-        PathRules::reportWrongMsFile(m_table, sample, errors);
+        PathRules::reportWrongMsFile(run, m_table, sample);
         return;
     }
     for (const ResourceReferenceSPtr &trace : sample.traces) {
-        PathRules::checkTraceType(*this, trace, QStringLiteral("MS"), itemTypes,
-                                  PathRules::placeOf(m_table, sample), errors);
+        PathRules::checkTraceType(run, *this, trace, QStringLiteral("MS"), itemTypes,
+                                  PathRules::placeOf(m_table, sample));
     }
 }
 
-void MirelPathsValidator::validateTraces(const SamplesInput::Entry &sample, QList<QString> *errors) const
+void MirelPathsValidator::checkTraces(CheckRun &run, const SamplesInput::Entry &sample) const
 {
     for (const ResourceReferenceSPtr &trace : sample.traces) {
-        if (checkExistence(trace))
+        if (checkExistence(run, trace))
             continue;
-        report(errors,
-               QObject::tr("The traces path of the sample \"%1\" does not exist")
-                   .arg(ResourceReferenceUtils::toString(trace, true)),
-               PathRules::placeOf(m_table, sample), missingHint(trace));
+        run.error(QObject::tr("The traces path of the sample \"%1\" does not exist")
+                      .arg(ResourceReferenceUtils::toString(trace, true)),
+                  PathRules::placeOf(m_table, sample), missingHint(trace));
     }
 }
 
-bool MirelPathsValidator::validateReference(const ResourceReferenceSPtr &reference, QList<QString> *errors)
+bool MirelPathsValidator::checkReference(CheckRun &run, const ResourceReferenceSPtr &reference,
+                                         const FindingPlace &place)
 {
-    const SampleFiles files;
-    if (!reference || checkExistence(reference))
+    if (!reference || checkExistence(run, reference))
         return true;
-    errors->append(QObject::tr("%1 does not exist").arg(ResourceReferenceUtils::toString(reference, true)));
+    run.error(QObject::tr("%1 does not exist").arg(ResourceReferenceUtils::toString(reference, true)), place,
+              PathRules::chooseAnotherHint());
     return false;
 }
 
@@ -91,17 +89,16 @@ bool MirelPathsValidator::isMsReference(const ResourceReferenceSPtr &reference)
     return MsDataFileUtils::hasMsExtension(ResourceReferenceUtils::localName(reference));
 }
 
-void MirelPathsValidator::validateDocuments(const QList<SamplesInput::Entry> &samples, QList<QString> *errors)
+void MirelPathsValidator::checkDocuments(CheckRun &run, const QList<SamplesInput::Entry> &samples)
 {
-    const SampleFiles files;
     PathRules::DocumentTypes types;
     for (const SamplesInput::Entry &document : samples) {
-        if (PathRules::reportEmptyDocument(m_table, document, errors))
+        if (PathRules::reportEmptyDocument(run, m_table, document))
             continue;
-        PathRules::checkReference(*this, document.msFile, PathRules::placeOf(m_table, document), errors);
-        types.add(m_table, document, errors);
+        checkReference(run, document.msFile, PathRules::placeOf(m_table, document));
+        types.add(run, m_table, document);
     }
-    types.finish(m_table, errors);
+    types.finish(run, m_table);
 }
 
 } // namespace orv::PropertyEditor

@@ -4,6 +4,7 @@
 #include <orv/core_ms/MsDataFileUtils.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
+#include <orv/propertyeditor/validators/CheckRun.h>
 #include <orv/propertyeditor/validators/MsTracesValidator.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 
@@ -27,34 +28,31 @@ TraceSampleIds samplesWithTraces(const TracesImportList &traces)
 
 } // namespace
 
-bool MsTracesValidator::validate(const Content &content, const QUrl & /*workflowBaseUrl*/,
-                                 QList<QString> * /*warnings*/, QList<QString> *errors) const
+void MsTracesValidator::check(CheckRun &run) const
 {
+    const Content &content = run.content();
     const SamplesTableItem *table = content.samplesTable();
     if (!table || table->samplesInput().isEmpty()) {
         const bool isReport = !content.findAllItems(BaseItemType::MultiDocReport).isEmpty();
-        report(errors,
-               validatorText("The workflow doesn't have any %1")
-                   .arg(isReport ? validatorText("documents") : validatorText("samples")),
-               {table, PropertyId::SamplesTable, {}}, addSamplesHint());
-        return false;
+        run.error(validatorText("The workflow doesn't have any %1")
+                      .arg(isReport ? validatorText("documents") : validatorText("samples")),
+                  {table, PropertyId::SamplesTable, {}}, addSamplesHint());
+        return;
     }
     if (content.findAllItems({BaseItemType::Intact, BaseItemType::Dravik}).isEmpty())
-        return true;
-    const qsizetype errorsBefore = errors->size();
+        return;
     const TraceSampleIds traced = samplesWithTraces(table->tracesOptions().traces);
     for (const SamplesInput::Entry &sample : table->content().samples.samples) {
         if (traced.contains(sample.id) ||
             !MsDataFileUtils::hasMsExtension(ResourceReferenceUtils::localName(sample.msFile)))
             continue;
-        report(errors,
-               validatorText(
-                   "The sample with id \"%1\" has no MS traces selected. Please select at least one MS trace")
-                   .arg(sample.id),
-               {table, PropertyId::SamplesTable, sample.name},
-               validatorText("Import a trace of this sample, or remove the sample."));
+        run.error(
+            validatorText(
+                "The sample with id \"%1\" has no MS traces selected. Please select at least one MS trace")
+                .arg(sample.id),
+            {table, PropertyId::SamplesTable, sample.name},
+            validatorText("Import a trace of this sample, or remove the sample."));
     }
-    return errors->size() == errorsBefore;
 }
 
 } // namespace orv::PropertyEditor

@@ -7,6 +7,7 @@
 #include <orv/propertyeditor/content/ItemSubGroup.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
+#include <orv/propertyeditor/validators/CheckRun.h>
 #include <orv/propertyeditor/validators/MzIdentValidator.h>
 #include <orv/samples/SampleUtils.h>
 
@@ -30,26 +31,25 @@ bool isProject(const KeyValueItem &document, const SamplesTableItem *table)
 
 } // namespace
 
-bool MzIdentValidator::validate(const Content &content, const QUrl & /*workflowBaseUrl*/,
-                                QList<QString> * /*warnings*/, QList<QString> *errors) const
+void MzIdentValidator::check(CheckRun &run) const
 {
+    const Content &content = run.content();
     const SamplesTableItem *table = tableOfSamplesTab(content);
     if (!table) {
-        report(errors, validatorText("The workflow doesn't have samples table."), {},
-               validatorText("Name the tab \"Samples\" and put the table of samples into its first cell."));
-        return false;
+        run.error(
+            validatorText("The workflow doesn't have samples table."), {},
+            validatorText("Name the tab \"Samples\" and put the table of samples into its first cell."));
+        return;
     }
     for (const ColumnSettings &found : settingsInColumns(content, {BaseItemType::Karvon})) {
         if (!isProject(*found.item, table) || found.item->value(PropertyId::KarvonExportMzIdentML).toBool())
             continue;
-        report(errors,
-               QStringLiteral(
-                   "There is a Karvon project with \"Export mzIdentML\" property unchecked or missing.\n"
-                   "Please set the property checked and rerun the project creation process."),
-               {found.item, PropertyId::KarvonExportMzIdentML, {}}, validatorText("Enter true."));
-        return false;
+        run.error(QStringLiteral(
+                      "There is a Karvon project with \"Export mzIdentML\" property unchecked or missing.\n"
+                      "Please set the property checked and rerun the project creation process."),
+                  {found.item, PropertyId::KarvonExportMzIdentML, {}}, validatorText("Enter true."));
+        return;
     }
-    return true;
 }
 
 } // namespace orv::PropertyEditor

@@ -4,6 +4,7 @@
 #include <orv/propertyeditor/ObsoleteCustomSettingsChecker.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
+#include <orv/propertyeditor/validators/CheckRun.h>
 #include <orv/propertyeditor/validators/ObsoleteSettingsValidator.h>
 
 #include <QMap>
@@ -30,9 +31,9 @@ const QMap<BaseItemType, ApplicationType> &applications()
 
 } // namespace
 
-bool ObsoleteSettingsValidator::validate(const Content &content, const QUrl & /*workflowBaseUrl*/,
-                                         QList<QString> * /*warnings*/, QList<QString> *errors) const
+void ObsoleteSettingsValidator::check(CheckRun &run) const
 {
+    const Content &content = run.content();
     const QList<BaseItemType> types = applications().keys();
     for (const ColumnSettings &found :
          settingsInColumns(content, QSet<BaseItemType>(types.begin(), types.end()))) {
@@ -43,11 +44,10 @@ bool ObsoleteSettingsValidator::validate(const Content &content, const QUrl & /*
         QString message;
         if (!ObsoleteCustomSettingsChecker::hasObsoleteSettings(application, text, &message, true))
             continue;
-        report(errors, message, {found.item, PropertyId::AdvancedConfiguration, {}},
-               ObsoleteCustomSettingsChecker::remedy(application, text, true));
-        return false;
+        run.error(message, {found.item, PropertyId::AdvancedConfiguration, {}},
+                  ObsoleteCustomSettingsChecker::remedy(application, text, true));
+        return;
     }
-    return true;
 }
 
 } // namespace orv::PropertyEditor

@@ -1,7 +1,5 @@
 #include "PathRules.h"
 
-#include "ValidatorHelpers.h"
-
 #include <orv/core/FileExtensionsNameFilter.h>
 #include <orv/core/MultiDocumentReportConstants.h>
 #include <orv/core_ms/MsDataFileUtils.h>
@@ -21,14 +19,12 @@ FindingPlace placeOf(const SamplesTableItem *table, const SamplesInput::Entry &s
     return {table, PropertyId::SamplesTable, sample.name};
 }
 
-bool reportEmptyPaths(const SamplesTableItem *table, const SamplesInput::Entry &sample,
-                      QList<QString> *errors)
+bool reportEmptyPaths(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &sample)
 {
     if (sample.msFile || !sample.traces.isEmpty())
         return false;
-    report(errors,
-           QObject::tr("The sample path and traces path of the sample \"%1\" are empty").arg(sample.name),
-           placeOf(table, sample), QObject::tr("Choose the file of this sample, or remove the sample."));
+    run.error(QObject::tr("The sample path and traces path of the sample \"%1\" are empty").arg(sample.name),
+              placeOf(table, sample), QObject::tr("Choose the file of this sample, or remove the sample."));
     return true;
 }
 
@@ -46,19 +42,17 @@ bool isMsFileOrProject(const ResourceReferenceSPtr &reference)
     }
 }
 
-void reportWrongMsFile(const SamplesTableItem *table, const SamplesInput::Entry &sample,
-                       QList<QString> *errors)
+void reportWrongMsFile(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &sample)
 {
-    report(errors,
-           QObject::tr("The sample path of the sample \"%1\" should be MS file or project file")
-               .arg(sample.name),
-           placeOf(table, sample),
-           QObject::tr("\"%1\" is neither. Choose mass-spectrometry data, or a project to compare with.")
-               .arg(ResourceReferenceUtils::localName(sample.msFile)));
+    run.error(QObject::tr("The sample path of the sample \"%1\" should be MS file or project file")
+                  .arg(sample.name),
+              placeOf(table, sample),
+              QObject::tr("\"%1\" is neither. Choose mass-spectrometry data, or a project to compare with.")
+                  .arg(ResourceReferenceUtils::localName(sample.msFile)));
 }
 
-void checkTraceType(PathsValidatorBase &paths, const ResourceReferenceSPtr &trace, const QString &word,
-                    const QSet<BaseItemType> &itemTypes, const FindingPlace &place, QList<QString> *errors)
+void checkTraceType(CheckRun &run, PathsValidatorBase &paths, const ResourceReferenceSPtr &trace,
+                    const QString &word, const QSet<BaseItemType> &itemTypes, const FindingPlace &place)
 {
     if (paths.isMsReference(trace) || ResourceTypeChecker::isCSVOrTextFileType(trace))
         return;
@@ -66,19 +60,17 @@ void checkTraceType(PathsValidatorBase &paths, const ResourceReferenceSPtr &trac
                              .arg(ResourceReferenceUtils::localName(trace));
     if (ResourceTypeChecker::isElectropherogramFileType(trace)) {
         if (!itemTypes.contains(BaseItemType::Dravik)) {
-            report(
-                errors,
+            run.error(
                 QObject::tr("The traces path for electropherogram file (.pI) is only supported for Dravik"),
                 place, hint);
         }
     } else if (FileTypeUtils::appType(trace) == ApplicationType::IcIef) {
         if (!itemTypes.contains(BaseItemType::Intact)) {
-            report(errors, QObject::tr("The traces path for icIEF file (.itb) is only supported for Intact"),
-                   place, hint);
+            run.error(QObject::tr("The traces path for icIEF file (.itb) is only supported for Intact"),
+                      place, hint);
         }
     } else {
-        report(
-            errors,
+        run.error(
             QObject::tr(
                 "The traces path of the sample \"%1\" should be %2 file / text file / pI file / icIEF file")
                 .arg(place.sample, word),
@@ -86,18 +78,16 @@ void checkTraceType(PathsValidatorBase &paths, const ResourceReferenceSPtr &trac
     }
 }
 
-bool reportEmptyDocument(const SamplesTableItem *table, const SamplesInput::Entry &document,
-                         QList<QString> *errors)
+bool reportEmptyDocument(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &document)
 {
     if (document.msFile)
         return false;
-    report(errors, QObject::tr("The document path with id \"%1\" is empty").arg(document.id),
-           placeOf(table, document), QObject::tr("Choose a document, or remove the row."));
+    run.error(QObject::tr("The document path with id \"%1\" is empty").arg(document.id),
+              placeOf(table, document), QObject::tr("Choose a document, or remove the row."));
     return true;
 }
 
-void DocumentTypes::add(const SamplesTableItem *table, const SamplesInput::Entry &document,
-                        QList<QString> *errors)
+void DocumentTypes::add(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &document)
 {
     const ApplicationType type = FileTypeUtils::appType(document.msFile);
     const auto &supported = MultiDocumentReportConstants::SUPPORTED_APPLICATIONS;
@@ -107,30 +97,24 @@ void DocumentTypes::add(const SamplesTableItem *table, const SamplesInput::Entry
     }
     const QList<FileType> allowed(std::begin(MirelFileTypes::MULTIDOCALLOWEDFILES),
                                   std::end(MirelFileTypes::MULTIDOCALLOWEDFILES));
-    report(errors,
-           QObject::tr("The file path with id \"%1\" is not a correct document type. Allowed files are: %2")
-               .arg(document.id)
-               .arg(FileExtensionsNameFilter(allowed).fileMasks().join(QLatin1Char(' '))),
-           placeOf(table, document), QObject::tr("Choose the project of an analysis."));
+    run.error(
+        QObject::tr("The file path with id \"%1\" is not a correct document type. Allowed files are: %2")
+            .arg(document.id)
+            .arg(FileExtensionsNameFilter(allowed).fileMasks().join(QLatin1Char(' '))),
+        placeOf(table, document), QObject::tr("Choose the project of an analysis."));
 }
 
-void DocumentTypes::finish(const SamplesTableItem *table, QList<QString> *errors) const
+void DocumentTypes::finish(CheckRun &run, const SamplesTableItem *table) const
 {
     if (m_types.size() < 2)
         return;
-    report(errors, QObject::tr("All documents should have the same type"),
-           {table, PropertyId::SamplesTable, {}},
-           QObject::tr("Make a report of its own for each type of documents."));
+    run.error(QObject::tr("All documents should have the same type"), {table, PropertyId::SamplesTable, {}},
+              QObject::tr("Make a report of its own for each type of documents."));
 }
 
-bool checkReference(PathsValidatorBase &paths, const ResourceReferenceSPtr &reference,
-                    const FindingPlace &place, QList<QString> *errors)
+QString chooseAnotherHint()
 {
-    const qsizetype errorsBefore = errors->size();
-    const bool isGood = paths.validateReference(reference, errors);
-    for (const QString &error : errors->mid(errorsBefore))
-        Findings::note(error, place, QObject::tr("Put the file there, or choose another one."));
-    return isGood;
+    return QObject::tr("Put the file there, or choose another one.");
 }
 
 } // namespace orv::PropertyEditor::PathRules

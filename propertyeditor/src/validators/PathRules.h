@@ -2,7 +2,7 @@
 
 #include <orv/core/ApplicationType.h>
 #include <orv/propertyeditor/content/BaseItemType.h>
-#include <orv/propertyeditor/validators/Finding.h>
+#include <orv/propertyeditor/validators/CheckRun.h>
 #include <orv/propertyeditor/validators/PathsValidatorBase.h>
 
 #include <QSet>
@@ -17,39 +17,35 @@ namespace PathRules {
 [[nodiscard]] FindingPlace placeOf(const SamplesTableItem *table, const SamplesInput::Entry &sample);
 
 /// Whether the sample has neither an MS file nor traces, which is an error.
-bool reportEmptyPaths(const SamplesTableItem *table, const SamplesInput::Entry &sample,
-                      QList<QString> *errors);
+bool reportEmptyPaths(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &sample);
 
 /// Whether \a reference is null, an MS file or a project that a sample may refer to.
 [[nodiscard]] bool isMsFileOrProject(const ResourceReferenceSPtr &reference);
 /// The error for one that isn't.
-void reportWrongMsFile(const SamplesTableItem *table, const SamplesInput::Entry &sample,
-                       QList<QString> *errors);
+void reportWrongMsFile(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &sample);
 
 /// Whether \a trace has a type that the document can take. \a word is what MS files are called there.
-void checkTraceType(PathsValidatorBase &paths, const ResourceReferenceSPtr &trace, const QString &word,
-                    const QSet<BaseItemType> &itemTypes, const FindingPlace &place, QList<QString> *errors);
+void checkTraceType(CheckRun &run, PathsValidatorBase &paths, const ResourceReferenceSPtr &trace,
+                    const QString &word, const QSet<BaseItemType> &itemTypes, const FindingPlace &place);
 
 /// The applications of the documents of one report.
 class DocumentTypes
 {
 public:
     /// Reports a document that a report can't be made of.
-    void add(const SamplesTableItem *table, const SamplesInput::Entry &document, QList<QString> *errors);
+    void add(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &document);
     /// Reports documents of several types.
-    void finish(const SamplesTableItem *table, QList<QString> *errors) const;
+    void finish(CheckRun &run, const SamplesTableItem *table) const;
 
 private:
     QSet<ApplicationType> m_types;
 };
 
 /// Whether the document has no path, which is an error.
-bool reportEmptyDocument(const SamplesTableItem *table, const SamplesInput::Entry &document,
-                         QList<QString> *errors);
+bool reportEmptyDocument(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &document);
 
-/// validateReference of \a paths, with the place of its finding.
-bool checkReference(PathsValidatorBase &paths, const ResourceReferenceSPtr &reference,
-                    const FindingPlace &place, QList<QString> *errors);
+/// What to do about a reference that can't be used.
+[[nodiscard]] QString chooseAnotherHint();
 
 } // namespace PathRules
 

@@ -5,6 +5,7 @@
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
+#include <orv/propertyeditor/validators/CheckRun.h>
 #include <orv/propertyeditor/validators/PeptideReplicateCountValidator.h>
 #include <orv/samples/DocumentIssaReplicateModel.h>
 
@@ -37,21 +38,22 @@ std::optional<int> countOf(const KeyValueItem &item)
     return isInteger && value.toDouble() == count ? std::optional(count) : std::nullopt;
 }
 
-bool checkItem(const KeyValueItem &item, qsizetype limit, QList<QString> *errors)
+/// Whether nothing is wrong.
+bool checkItem(CheckRun &run, const KeyValueItem &item, qsizetype limit)
 {
     const QString caption = PropertiesNames::displayNameForType(PropertyId::PeptideReplicateCount);
     const FindingPlace place{&item, PropertyId::PeptideReplicateCount, {}};
     const std::optional<int> count = countOf(item);
     if (!count) {
-        report(errors, validatorText("The value of \"%1\" is not valid.").arg(caption), place,
-               validatorText("Enter a whole number from 1 to %1.").arg(limit));
+        run.error(validatorText("The value of \"%1\" is not valid.").arg(caption), place,
+                  validatorText("Enter a whole number from 1 to %1.").arg(limit));
         return false;
     }
     if (*count > limit) {
-        report(errors,
-               validatorText("The value of \"%1\" cannot be greater than %2.").arg(caption).arg(limit), place,
-               validatorText("Enter a smaller number, or tell the conditions of more samples in the column "
-                             "\"Condition\"."));
+        run.error(
+            validatorText("The value of \"%1\" cannot be greater than %2.").arg(caption).arg(limit), place,
+            validatorText("Enter a smaller number, or tell the conditions of more samples in the column "
+                          "\"Condition\"."));
         return false;
     }
     return true;
@@ -59,35 +61,37 @@ bool checkItem(const KeyValueItem &item, qsizetype limit, QList<QString> *errors
 
 } // namespace
 
-bool PeptideReplicateCountValidator::validate(const Content &content, const QUrl & /*workflowBaseUrl*/,
-                                              QList<QString> * /*warnings*/, QList<QString> *errors) const
+void PeptideReplicateCountValidator::check(CheckRun &run) const
 {
+    const Content &content = run.content();
     QList<const KeyValueItem *> items;
     for (const BaseItem *item : content.findAllItems(BaseItemType::Trenq)) {
         if (const auto *settings = qobject_cast<const KeyValueItem *>(item))
             items.append(settings);
     }
     if (items.isEmpty())
-        return true;
+        return;
     const SamplesTableItem *table = content.samplesTable();
     if (!table) {
-        report(errors, QStringLiteral("Internal error: Samples table not found."), {}, addSamplesHint());
-        return false;
+        run.error(QStringLiteral("Internal error: Samples table not found."), {}, addSamplesHint());
+        return;
     }
     const SamplesInput::SamplesArrayWithCustomColumns &samples = table->samplesWithCustomColumns();
     const Replicates replicates = DocumentIssaReplicateModel::getConditionAndReplicate(samples);
     if (replicates.size() != samples.samples.size()) {
-        report(errors,
-               QStringLiteral("Internal error: extracting different number of replicate info than available "
-                              "samples (%1 != %2).")
-                   .arg(replicates.size())
-                   .arg(samples.samples.size()),
-               {table, PropertyId::SamplesTable, {}}, {});
-        return false;
+        run.error(
+            QStringLiteral("Internal error: extracting different number of replicate info than available "
+                           "samples (%1 != %2).")
+                .arg(replicates.size())
+                .arg(samples.samples.size()),
+            {table, PropertyId::SamplesTable, {}}, {});
+        return;
     }
     const qsizetype limit = smallestCondition(replicates);
-    return std::all_of(items.begin(), items.end(),
-                       [&](const KeyValueItem *item) { return checkItem(*item, limit, errors); });
+    for (const KeyValueItem *item : std::as_const(items)) {
+        if (!checkItem(run, *item, limit))
+            return;
+    }
 }
 
 } // namespace orv::PropertyEditor

@@ -3,7 +3,7 @@
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
-#include <orv/propertyeditor/validators/Finding.h>
+#include <orv/propertyeditor/validators/CheckRun.h>
 #include <orv/propertyeditor/validators/SampleDataValidator.h>
 #include <orv/resources/ResourceManager.h>
 
@@ -13,43 +13,42 @@ namespace orv::PropertyEditor {
 
 SampleDataValidator::~SampleDataValidator() = default;
 
-bool SampleDataValidator::validate(const Content &content, const QUrl & /*workflowBaseUrl*/,
-                                   QList<QString> * /*warnings*/, QList<QString> *errors) const
-{
-    Error error = validate(content);
-    if (!error)
-        return true;
-    errors->append(error.ecatch().errorMessages());
-    return false;
-}
-
-Error SampleDataValidator::validate(const Content &content) const
+void SampleDataValidator::check(CheckRun &run) const
 {
     const QSet<BaseItemType> types = documentsToCheck();
-    const QList<BaseItemType> documents = content.findAllDocuments();
+    const QList<BaseItemType> documents = run.content().findAllDocuments();
     if (std::none_of(documents.begin(), documents.end(),
                      [&](BaseItemType type) { return types.contains(type); }))
-        return Error::NoError;
-
-    const SampleFiles files;
-    QStringList messages;
-    for (const BaseItem *item : content.findAllItems(BaseItemType::Samples)) {
+        return;
+    for (const BaseItem *item : run.content().findAllItems(BaseItemType::Samples)) {
         const auto *table = qobject_cast<const SamplesTableItem *>(item);
         if (!table)
             continue;
         for (const SamplesInput::Entry &sample : table->samplesInput()) {
-            const Error error = validateSample(sample);
-            if (!error)
-                continue;
-            messages.append(error.errorMessage());
-            Findings::note(messages.constLast(), {table, PropertyId::SamplesTable, sample.name},
-                           error.details().join(QLatin1Char(' ')));
+            const Error error = checkSample(sample, run.files());
+            if (error) {
+                run.error(error.errorMessage(), {table, PropertyId::SamplesTable, sample.name},
+                          error.details().join(QLatin1Char(' ')));
+            }
         }
     }
-    return messages.isEmpty() ? Error() : Error(ErrorCode::InvalidContent, messages);
+}
+
+Error SampleDataValidator::validate(const Content &content) const
+{
+    CheckRun run(content);
+    check(run);
+    return run.errors().isEmpty() ? Error() : Error(ErrorCode::InvalidContent, run.errors());
 }
 
 Error SampleDataValidator::validateSample(const SamplesInput::Entry &sample) const
+{
+    SampleFiles files;
+    ORV_RETURN_IF_ERROR(checkSample(sample, files));
+    return Error::NoError;
+}
+
+Error SampleDataValidator::checkSample(const SamplesInput::Entry &sample, SampleFiles &files) const
 {
     if (!sample.msFile)
         return Error::NoError;
@@ -64,8 +63,7 @@ Error SampleDataValidator::validateSample(const SamplesInput::Entry &sample) con
     Result<QString> path = (*handler)->grab();
     if (path.hasError())
         return path.ecatch();
-    const SampleFiles files;
-    if (!SampleFiles::current().possibleFormats(*path).contains(vendorFormat()))
+    if (!files.possibleFormats(*path).contains(vendorFormat()))
         return Error::NoError;
     return validateSample(*path);
 }

@@ -9,31 +9,10 @@ namespace orv::PropertyEditor {
 
 namespace {
 
-thread_local SampleFiles *currentFiles = nullptr;
-
 /// Below it, threads cost more than they save.
 constexpr qsizetype kWorthThreads = 32;
 
 } // namespace
-
-SampleFiles::SampleFiles()
-    : m_isOutermost(!currentFiles)
-{
-    if (m_isOutermost)
-        currentFiles = this;
-}
-
-SampleFiles::~SampleFiles()
-{
-    if (m_isOutermost)
-        currentFiles = nullptr;
-}
-
-SampleFiles &SampleFiles::current()
-{
-    Q_ASSERT(currentFiles);
-    return *currentFiles;
-}
 
 void SampleFiles::lookAhead(const QList<ResourceReferenceSPtr> &references)
 {

@@ -10,16 +10,12 @@
 namespace orv::PropertyEditor {
 
 /// What one check has learnt of the resources that a document names, so that each is asked for once,
-/// whichever validators want to know. The outermost on a thread is the one that counts there.
+/// whichever validators want to know.
 class SampleFiles
 {
 public:
-    SampleFiles();
-    ~SampleFiles();
+    SampleFiles() = default;
     Q_DISABLE_COPY_MOVE(SampleFiles)
-
-    /// Of this thread; there must be one.
-    [[nodiscard]] static SampleFiles &current();
 
     /// Looks for all local files among \a references, several at a time. Others wait until they are asked
     /// for.
@@ -33,7 +29,6 @@ public:
     [[nodiscard]] QSet<msreader::VendorDataFormat> possibleFormats(const QString &path);
 
 private:
-    const bool m_isOutermost;
     QHash<ResourceReferenceKey, Result<bool>> m_exists;
     QHash<ResourceReferenceKey, bool> m_isValid;
     QHash<QString, QSet<msreader::VendorDataFormat>> m_formats;

@@ -1,10 +1,11 @@
-#include "SampleFiles.h"
 #include "ValidatorHelpers.h"
 
+#include <orv/core_ms/MsDataFileUtils.h>
 #include <orv/core_ms/MsFileInfo.h>
 #include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
+#include <orv/propertyeditor/validators/CheckRun.h>
 #include <orv/propertyeditor/validators/SampleTypesValidator.h>
 
 #include <QObject>
@@ -13,32 +14,32 @@ namespace orv::PropertyEditor {
 
 SampleTypesValidator::~SampleTypesValidator() = default;
 
-bool SampleTypesValidator::validate(const Content &content, const QUrl & /*workflowBaseUrl*/,
-                                    QList<QString> * /*warnings*/, QList<QString> *errors) const
+void SampleTypesValidator::check(CheckRun &run) const
 {
-    if (!PropertyEditorUtils::isKarvonOnly(content.findAllDocuments()))
-        return true;
-    const SampleFiles files;
-    bool isGood = true;
-    for (const BaseItem *item : content.findAllItems(BaseItemType::Samples)) {
+    if (!PropertyEditorUtils::isKarvonOnly(run.content().findAllDocuments()))
+        return;
+    for (const BaseItem *item : run.content().findAllItems(BaseItemType::Samples)) {
         const auto *table = qobject_cast<const SamplesTableItem *>(item);
         if (!table)
             continue;
         const QList<SamplesInput::Entry> samples = table->samplesInput();
         if (samples.size() >= 2)
-            isGood = validateSamples(samples, table, errors) && isGood;
+            checkSamples(run, samples, table);
     }
-    return isGood;
 }
 
 bool SampleTypesValidator::validateSamples(const QList<SamplesInput::Entry> &samples,
                                            QList<QString> * /*warnings*/, QList<QString> *errors) const
 {
-    return validateSamples(samples, static_cast<const SamplesTableItem *>(nullptr), errors);
+    const Content none;
+    CheckRun run(none);
+    const bool areAlike = checkSamples(run, samples, nullptr);
+    errors->append(run.errors());
+    return areAlike;
 }
 
-bool SampleTypesValidator::validateSamples(const QList<SamplesInput::Entry> &samples,
-                                           const SamplesTableItem *table, QList<QString> *errors) const
+bool SampleTypesValidator::checkSamples(CheckRun &run, const QList<SamplesInput::Entry> &samples,
+                                        const SamplesTableItem *table) const
 {
     QSet<msreader::VendorDataFormat> formatsOfAll;
     for (const SamplesInput::Entry &sample : samples) {
@@ -49,11 +50,11 @@ bool SampleTypesValidator::validateSamples(const QList<SamplesInput::Entry> &sam
             formatsOfAll = formats;
         if (formats == formatsOfAll)
             continue;
-        report(errors,
-               QObject::tr("Multi-vendor projects are not yet supported. Please ensure all samples belong to "
-                           "the same vendor."),
-               {table, PropertyId::SamplesTable, sample.name},
-               QObject::tr("Move this sample and others of its vendor to a workflow of their own."));
+        run.error(
+            QObject::tr("Multi-vendor projects are not yet supported. Please ensure all samples belong to "
+                        "the same vendor."),
+            {table, PropertyId::SamplesTable, sample.name},
+            QObject::tr("Move this sample and others of its vendor to a workflow of their own."));
         return false;
     }
     return true;
@@ -65,10 +66,8 @@ SampleTypesValidator::detectPossibleSampleVendorFormats(const SamplesInput::Entr
     if (!sample.msFile)
         return {};
     switch (sample.msFile->scheme()) {
-    case ResourceReference::Scheme::LocalFile: {
-        const SampleFiles files;
-        return SampleFiles::current().possibleFormats(sample.msFile->text());
-    }
+    case ResourceReference::Scheme::LocalFile:
+        return MsDataFileUtils::detectPossibleVendorFormats(sample.msFile->text());
     case ResourceReference::Scheme::UNIFI:
         return msreader::MsFileInfo::detectFormatByName(
             msreader::DataSourceLocation::ofPath(sample.msFile->text()));

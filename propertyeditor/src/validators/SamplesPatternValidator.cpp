@@ -5,6 +5,7 @@
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
+#include <orv/propertyeditor/validators/CheckRun.h>
 #include <orv/propertyeditor/validators/SamplesPatternValidator.h>
 #include <orv/resources/FileTypeUtils.h>
 #include <orv/samples/SampleUtils.h>
@@ -48,58 +49,62 @@ bool isProjectToCompareWith(const SamplesInput::Entry &sample)
     return application == ApplicationType::Dravik || application == ApplicationType::Intact;
 }
 
-void appendForEach(const QList<const BaseItem *> &documents, const QString &text, QList<QString> *list)
+/// Tells one text of all \a documents; of the workflow if there are none.
+void reportAll(CheckRun &run, Finding::Level level, const QString &text,
+               const QList<const BaseItem *> &documents)
 {
-    for (const BaseItem *document : documents) {
-        Findings::note(text, {document, PropertyId::Samples, {}},
-                       validatorText("Enter names of samples, or patterns such as \"lot*\"; separate them by "
-                                     "\";\". Empty uses all samples."));
+    if (documents.isEmpty()) {
+        run.add({level, {}, text, {}, {}});
+        return;
     }
-    list->append(text);
+    const QString hint =
+        validatorText("Enter names of samples, or patterns such as \"lot*\"; separate them by "
+                      "\";\". Empty uses all samples.");
+    QList<FindingPlace> places;
+    for (const BaseItem *document : documents)
+        places.append({document, PropertyId::Samples, {}});
+    run.add({level, {}, text, {}, hint}, places);
 }
 
-bool checkSamples(const DocumentsOfType &documents, QList<QString> *warnings, QList<QString> *errors)
+void checkSamples(CheckRun &run, const DocumentsOfType &documents)
 {
     const QString type = BaseItem::typeToString(documents.type);
     if (documents.withSamples.isEmpty()) {
-        appendForEach(documents.withoutSamples,
-                      validatorText("%1 documents don't use any valid samples. At least one %1 document "
-                                    "should use valid samples")
-                          .arg(type),
-                      errors);
-        return false;
+        reportAll(run, Finding::Level::Error,
+                  validatorText("%1 documents don't use any valid samples. At least one %1 document "
+                                "should use valid samples")
+                      .arg(type),
+                  documents.withoutSamples);
+    } else if (!documents.withoutSamples.isEmpty()) {
+        reportAll(run, Finding::Level::Warning,
+                  validatorText("Not all %1 documents use valid samples").arg(type),
+                  documents.withoutSamples);
     }
-    if (!documents.withoutSamples.isEmpty()) {
-        appendForEach(documents.withoutSamples,
-                      validatorText("Not all %1 documents use valid samples").arg(type), warnings);
-    }
-    return true;
 }
 
 } // namespace
 
-bool SamplesPatternValidator::validate(const Content &content, const QUrl & /*workflowBaseUrl*/,
-                                       QList<QString> *warnings, QList<QString> *errors) const
+void SamplesPatternValidator::check(CheckRun &run) const
 {
+    const Content &content = run.content();
     if (!content.findAllItems(BaseItemType::MultiDocReport).isEmpty())
-        return true;
+        return;
     const SamplesTableItem *table = content.samplesTable();
     const Samples samples = table ? table->samplesInput() : Samples();
     if (samples.isEmpty()) {
-        report(errors, validatorText("The workflow doesn't have any samples"),
-               {table, PropertyId::SamplesTable, {}}, addSamplesHint());
-        return false;
+        run.error(validatorText("The workflow doesn't have any samples"),
+                  {table, PropertyId::SamplesTable, {}}, addSamplesHint());
+        return;
     }
     const QList<BaseItem *> documents = content.findDocumentItems();
     if (documents.isEmpty())
-        return true;
+        return;
     if (samples.size() == 1 && isProjectToCompareWith(samples.constFirst())) {
-        report(errors, validatorText("Reference sample requires at least one non-reference sample."),
-               {table, PropertyId::SamplesTable, samples.constFirst().name},
-               validatorText("Add the MS file of a sample that is compared with the project."));
-        return false;
+        run.error(validatorText("Reference sample requires at least one non-reference sample."),
+                  {table, PropertyId::SamplesTable, samples.constFirst().name},
+                  validatorText("Add the MS file of a sample that is compared with the project."));
+        return;
     }
-    bool isGood = true;
     QList<DocumentsOfType> groups;
     for (const BaseItem *document : documents) {
         DocumentsOfType &group = documentsOfType(&groups, document->type());
@@ -108,13 +113,11 @@ bool SamplesPatternValidator::validate(const Content &content, const QUrl & /*wo
             (hasSamples(*settings, samples) ? group.withSamples : group.withoutSamples).append(document);
             continue;
         }
-        report(errors, validatorText("Cannot handle a %1 document type").arg(document->typeString()),
-               {document, PropertyId::NoProperty, {}}, validatorText("Remove the document."));
-        isGood = false;
+        run.error(validatorText("Cannot handle a %1 document type").arg(document->typeString()),
+                  {document, PropertyId::NoProperty, {}}, validatorText("Remove the document."));
     }
     for (const DocumentsOfType &group : groups)
-        isGood = checkSamples(group, warnings, errors) && isGood;
-    return isGood;
+        checkSamples(run, group);
 }
 
 } // namespace orv::PropertyEditor

@@ -1,6 +1,5 @@
 #include "PathRules.h"
 #include "SampleFiles.h"
-#include "ValidatorHelpers.h"
 
 #include <orv/core_ms/MsDataFileUtils.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
@@ -44,44 +43,41 @@ TalvanePathsValidator::TalvanePathsValidator(const SamplesTableItem *table)
     : m_table(table)
 {}
 
-void TalvanePathsValidator::validateSamplesPaths(const QList<SamplesInput::Entry> &samples,
-                                                 const QSet<BaseItemType> &itemTypes, QList<QString> *errors)
+void TalvanePathsValidator::checkSamplesPaths(CheckRun &run, const QList<SamplesInput::Entry> &samples,
+                                              const QSet<BaseItemType> &itemTypes)
 {
-    const SampleFiles files;
     for (const SamplesInput::Entry &sample : samples) {
-        if (PathRules::reportEmptyPaths(m_table, sample, errors))
+        if (PathRules::reportEmptyPaths(run, m_table, sample))
             continue;
-        validateMsFile(sample, errors);
-        validateTraces(sample, itemTypes, errors);
+        checkMsFile(run, sample);
+        checkTraces(run, sample, itemTypes);
     }
 }
 
-void TalvanePathsValidator::validateMsFile(const SamplesInput::Entry &sample, QList<QString> *errors)
+void TalvanePathsValidator::checkMsFile(CheckRun &run, const SamplesInput::Entry &sample)
 {
     const ResourceReferenceSPtr &file = sample.msFile;
     if (!file)
         return;
     const FindingPlace place = PathRules::placeOf(m_table, sample);
-    if (!SampleFiles::current().isValid(file)) {
-        report(errors, QObject::tr("The sample path of the sample \"%1\" is invalid").arg(sample.name), place,
-               unknownHint(file));
+    if (!run.files().isValid(file)) {
+        run.error(QObject::tr("The sample path of the sample \"%1\" is invalid").arg(sample.name), place,
+                  unknownHint(file));
         return;
     }
     const auto requireExisting = [&] {
         // Asked anew: the earlier answer can be out of date by now.
         if (!ResourceHandlerUtils::validateReference(file)) {
-            report(errors,
-                   QObject::tr("The sample path of the sample \"%1\" should be an existing resource.")
-                       .arg(sample.name),
-                   place, unknownHint(file));
+            run.error(QObject::tr("The sample path of the sample \"%1\" should be an existing resource.")
+                          .arg(sample.name),
+                      place, unknownHint(file));
         }
     };
     switch (file->scheme()) {
     case Scheme::ServerFile:
         if (const FileType type = ResourceReferenceUtils::type(file);
             type != FileTypes::TOLQ && !PepmapTypesChecker::isPepmapType(type)) {
-            report(
-                errors,
+            run.error(
                 QObject::tr("The sample path of the sample \"%1\" should be tolq or reference project file")
                     .arg(sample.name),
                 place, QObject::tr("Choose an acquired sample (.tolq), or a project to compare with."));
@@ -90,58 +86,58 @@ void TalvanePathsValidator::validateMsFile(const SamplesInput::Entry &sample, QL
     case Scheme::ExternalDataSource:
         if (const QString path = edsReferenceFilePath(file).valueOr(QString());
             !MsDataFileUtils::hasMsExtension(path) && !PepmapTypesChecker::isPepmapFile(path))
-            PathRules::reportWrongMsFile(m_table, sample, errors);
+            PathRules::reportWrongMsFile(run, m_table, sample);
         return;
     case Scheme::LocalFile:
         if (PathRules::isMsFileOrProject(file))
             requireExisting();
         else
-            PathRules::reportWrongMsFile(m_table, sample, errors);
+            PathRules::reportWrongMsFile(run, m_table, sample);
         return;
     case Scheme::ManagedResource:
         requireExisting();
         return;
     default:
-        report(errors, QObject::tr("The source path of the sample \"%1\" is unknown").arg(sample.name), place,
-               unknownHint(file));
+        run.error(QObject::tr("The source path of the sample \"%1\" is unknown").arg(sample.name), place,
+                  unknownHint(file));
     }
 }
 
-void TalvanePathsValidator::validateTraces(const SamplesInput::Entry &sample,
-                                           const QSet<BaseItemType> &itemTypes, QList<QString> *errors)
+void TalvanePathsValidator::checkTraces(CheckRun &run, const SamplesInput::Entry &sample,
+                                        const QSet<BaseItemType> &itemTypes)
 {
     const FindingPlace place = PathRules::placeOf(m_table, sample);
     for (const ResourceReferenceSPtr &trace : sample.traces) {
-        if (!SampleFiles::current().isValid(trace)) {
-            report(errors, QObject::tr("The traces path of the sample \"%1\" is invalid").arg(sample.name),
-                   place, unknownHint(trace));
+        if (!run.files().isValid(trace)) {
+            run.error(QObject::tr("The traces path of the sample \"%1\" is invalid").arg(sample.name), place,
+                      unknownHint(trace));
         }
     }
     for (const ResourceReferenceSPtr &trace : sample.traces) {
         switch (trace->scheme()) {
         case Scheme::ServerFile:
-            PathRules::checkTraceType(*this, trace, QStringLiteral("tolq"), itemTypes, place, errors);
+            PathRules::checkTraceType(run, *this, trace, QStringLiteral("tolq"), itemTypes, place);
             break;
         case Scheme::ExternalDataSource:
         case Scheme::LocalFile:
-            PathRules::checkTraceType(*this, trace, QStringLiteral("MS"), itemTypes, place, errors);
+            PathRules::checkTraceType(run, *this, trace, QStringLiteral("MS"), itemTypes, place);
             break;
         default:
-            report(
-                errors,
+            run.error(
                 QObject::tr("The source of the traces path of the sample \"%1\" is unknown").arg(sample.name),
                 place, unknownHint(trace));
         }
     }
 }
 
-bool TalvanePathsValidator::validateReference(const ResourceReferenceSPtr &reference, QList<QString> *errors)
+bool TalvanePathsValidator::checkReference(CheckRun &run, const ResourceReferenceSPtr &reference,
+                                           const FindingPlace &place)
 {
-    const SampleFiles files;
-    if (!reference || SampleFiles::current().isValid(reference))
+    if (!reference || run.files().isValid(reference))
         return true;
-    errors->append(QObject::tr("%1 is not valid talvane reference")
-                       .arg(ResourceReferenceUtils::toString(reference, true)));
+    run.error(QObject::tr("%1 is not valid talvane reference")
+                  .arg(ResourceReferenceUtils::toString(reference, true)),
+              place, PathRules::chooseAnotherHint());
     return false;
 }
 
@@ -162,11 +158,10 @@ bool TalvanePathsValidator::isMsReference(const ResourceReferenceSPtr &reference
 }
 
 /// Whether a look at the document's type makes sense.
-bool TalvanePathsValidator::validateDocumentReference(const SamplesInput::Entry &document,
-                                                      QList<QString> *errors)
+bool TalvanePathsValidator::checkDocumentReference(CheckRun &run, const SamplesInput::Entry &document)
 {
     const FindingPlace place = PathRules::placeOf(m_table, document);
-    if (!PathRules::checkReference(*this, document.msFile, place, errors))
+    if (!checkReference(run, document.msFile, place))
         return false;
     switch (document.msFile->scheme()) {
     case Scheme::ServerFile:
@@ -174,24 +169,20 @@ bool TalvanePathsValidator::validateDocumentReference(const SamplesInput::Entry 
     case Scheme::LocalFile:
         return true;
     default:
-        report(errors,
-               QObject::tr("The source path of the document with id \"%1\" is unknown").arg(document.id),
-               place, unknownHint(document.msFile));
+        run.error(QObject::tr("The source path of the document with id \"%1\" is unknown").arg(document.id),
+                  place, unknownHint(document.msFile));
         return false;
     }
 }
 
-void TalvanePathsValidator::validateDocuments(const QList<SamplesInput::Entry> &samples,
-                                              QList<QString> *errors)
+void TalvanePathsValidator::checkDocuments(CheckRun &run, const QList<SamplesInput::Entry> &samples)
 {
-    const SampleFiles files;
     PathRules::DocumentTypes types;
     for (const SamplesInput::Entry &document : samples) {
-        if (!PathRules::reportEmptyDocument(m_table, document, errors) &&
-            validateDocumentReference(document, errors))
-            types.add(m_table, document, errors);
+        if (!PathRules::reportEmptyDocument(run, m_table, document) && checkDocumentReference(run, document))
+            types.add(run, m_table, document);
     }
-    types.finish(m_table, errors);
+    types.finish(run, m_table);
 }
 
 } // namespace orv::PropertyEditor

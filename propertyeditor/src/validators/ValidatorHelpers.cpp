@@ -9,12 +9,6 @@
 
 namespace orv::PropertyEditor {
 
-void report(QList<QString> *list, const QString &text, const FindingPlace &place, const QString &hint)
-{
-    Findings::note(text, place, hint);
-    list->append(text);
-}
-
 QList<ColumnSettings> settingsInColumns(const Content &content, const QSet<BaseItemType> &types)
 {
     QList<ColumnSettings> found;

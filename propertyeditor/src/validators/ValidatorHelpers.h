@@ -1,7 +1,6 @@
 #pragma once
 
 #include <orv/propertyeditor/content/BaseItemType.h>
-#include <orv/propertyeditor/validators/Finding.h>
 
 #include <QList>
 #include <QSet>
@@ -11,9 +10,6 @@ namespace orv::PropertyEditor {
 
 class Content;
 class KeyValueItem;
-
-/// Appends \a text to \a list, which must be there, and notes where it belongs and what to do.
-void report(QList<QString> *list, const QString &text, const FindingPlace &place, const QString &hint);
 
 /// A cell of settings, and the type of the column that it stands in.
 struct ColumnSettings

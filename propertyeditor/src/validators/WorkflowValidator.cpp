@@ -1,20 +1,18 @@
 #include "ValidatorText.h"
 
 #include <orv/propertyeditor/content/Content.h>
-#include <orv/propertyeditor/validators/Finding.h>
+#include <orv/propertyeditor/validators/CheckRun.h>
 #include <orv/propertyeditor/validators/WorkflowValidator.h>
 
 namespace orv::PropertyEditor {
 
-bool WorkflowValidator::validate(const Content &content, const QUrl & /*workflowBaseUrl*/,
-                                 QList<QString> * /*warnings*/, QList<QString> *errors) const
+void WorkflowValidator::check(CheckRun &run) const
 {
-    if (!content.findAllDocuments().isEmpty())
-        return true;
-    const QString message = validatorText("The workflow doesn't have any documents");
-    Findings::note(message, {}, validatorText("Add a column with a search, an analysis or a report."));
-    errors->append(message);
-    return false;
+    const Content &content = run.content();
+    if (content.findAllDocuments().isEmpty()) {
+        run.error(validatorText("The workflow doesn't have any documents"), {},
+                  validatorText("Add a column with a search, an analysis or a report."));
+    }
 }
 
 } // namespace orv::PropertyEditor

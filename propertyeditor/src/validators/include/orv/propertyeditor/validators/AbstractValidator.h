@@ -21,7 +21,7 @@ public:
 
     /// True if nothing was found wrong; otherwise texts were appended to \a errors. Warnings don't fail. Both
     /// lists must be there. \a workflowBaseUrl is the folder of the workflow, with a slash at its end. Where
-    /// and how to mend is told beside the texts, see Findings::note.
+    /// and how to mend tell those that are a FindingsValidator.
     virtual bool validate(const Content &content, const QUrl &workflowBaseUrl, QList<QString> *warnings,
                           QList<QString> *errors) const = 0;
 };

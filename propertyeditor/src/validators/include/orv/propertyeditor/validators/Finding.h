@@ -38,14 +38,4 @@ struct Finding
     bool operator==(const Finding &) const = default;
 };
 
-/// What validators tell beside their texts.
-namespace Findings {
-
-/// Tells whoever collects on this thread where the text \a message, which the caller appends to one of its
-/// lists, belongs. \a rule stands behind the validator's name. Without a collector nothing happens.
-ORV_WORKFLOW_EXPORT void note(const QString &message, const FindingPlace &place, const QString &hint = {},
-                              const QString &rule = {});
-
-} // namespace Findings
-
 } // namespace orv::PropertyEditor

@@ -1,16 +1,15 @@
 #pragma once
 
-#include <orv/propertyeditor/validators/AbstractValidator.h>
+#include <orv/propertyeditor/validators/FindingsValidator.h>
 
 namespace orv::PropertyEditor {
 
 /// Whether the digestion in silico of a step is complete, its file of peptides is readable, and the range of
 /// peptide masses is in order. Fetches and reads that file, and may block.
-class ORV_WORKFLOW_EXPORT InsilicoValidator : public AbstractValidator
+class ORV_WORKFLOW_EXPORT InsilicoValidator : public FindingsValidator
 {
 public:
-    bool validate(const Content &content, const QUrl &workflowBaseUrl, QList<QString> *warnings,
-                  QList<QString> *errors) const override;
+    void check(CheckRun &run) const override;
 };
 
 } // namespace orv::PropertyEditor

@@ -13,16 +13,16 @@ public:
     /// \a table is where findings belong; not owned, may be null.
     explicit MirelPathsValidator(const SamplesTableItem *table = nullptr);
 
-    void validateSamplesPaths(const QList<SamplesInput::Entry> &samples, const QSet<BaseItemType> &itemTypes,
-                              QList<QString> *errors) override;
-    bool validateReference(const ResourceReferenceSPtr &reference, QList<QString> *errors) override;
-    void validateDocuments(const QList<SamplesInput::Entry> &samples, QList<QString> *errors) override;
+    void checkSamplesPaths(CheckRun &run, const QList<SamplesInput::Entry> &samples,
+                           const QSet<BaseItemType> &itemTypes) override;
+    bool checkReference(CheckRun &run, const ResourceReferenceSPtr &reference,
+                        const FindingPlace &place) override;
+    void checkDocuments(CheckRun &run, const QList<SamplesInput::Entry> &samples) override;
     bool isMsReference(const ResourceReferenceSPtr &reference) override;
 
 private:
-    void validateSample(const SamplesInput::Entry &sample, const QSet<BaseItemType> &itemTypes,
-                        QList<QString> *errors);
-    void validateTraces(const SamplesInput::Entry &sample, QList<QString> *errors) const;
+    void checkSample(CheckRun &run, const SamplesInput::Entry &sample, const QSet<BaseItemType> &itemTypes);
+    void checkTraces(CheckRun &run, const SamplesInput::Entry &sample) const;
 
     const SamplesTableItem *m_table;
 };

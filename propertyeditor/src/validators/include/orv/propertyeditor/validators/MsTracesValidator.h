@@ -1,15 +1,14 @@
 #pragma once
 
-#include <orv/propertyeditor/validators/AbstractValidator.h>
+#include <orv/propertyeditor/validators/FindingsValidator.h>
 
 namespace orv::PropertyEditor {
 
 /// Whether each MS file of a workflow with whole or released molecules has a trace to import.
-class ORV_WORKFLOW_EXPORT MsTracesValidator : public AbstractValidator
+class ORV_WORKFLOW_EXPORT MsTracesValidator : public FindingsValidator
 {
 public:
-    bool validate(const Content &content, const QUrl &workflowBaseUrl, QList<QString> *warnings,
-                  QList<QString> *errors) const override;
+    void check(CheckRun &run) const override;
 };
 
 } // namespace orv::PropertyEditor

@@ -1,15 +1,14 @@
 #pragma once
 
-#include <orv/propertyeditor/validators/AbstractValidator.h>
+#include <orv/propertyeditor/validators/FindingsValidator.h>
 
 namespace orv::PropertyEditor {
 
 /// Whether the expert settings of a step hold names that no application reads any more. Tells the first step.
-class ORV_WORKFLOW_EXPORT ObsoleteSettingsValidator : public AbstractValidator
+class ORV_WORKFLOW_EXPORT ObsoleteSettingsValidator : public FindingsValidator
 {
 public:
-    bool validate(const Content &content, const QUrl &workflowBaseUrl, QList<QString> *warnings,
-                  QList<QString> *errors) const override;
+    void check(CheckRun &run) const override;
 };
 
 } // namespace orv::PropertyEditor

@@ -2,6 +2,7 @@
 
 #include <orv/core/Export.h>
 #include <orv/propertyeditor/content/BaseItemType.h>
+#include <orv/propertyeditor/validators/Finding.h>
 #include <orv/resources/ResourceReference.h>
 #include <orv/samples/SamplesInput.h>
 
@@ -11,9 +12,10 @@
 
 namespace orv::PropertyEditor {
 
+class CheckRun;
+
 /// The rules about the files of samples, which differ between a workflow on a desktop and one on a server.
-/// Texts go to \a errors, which must be there. May block on a disk or server; each resource is asked for once
-/// while a check runs. On the thread of the check.
+/// May block on a disk or server; each resource is asked for once in a run. On the thread of the check.
 class ORV_WORKFLOW_EXPORT PathsValidatorBase
 {
 public:
@@ -22,14 +24,21 @@ public:
     Q_DISABLE_COPY_MOVE(PathsValidatorBase)
 
     /// \a itemTypes are those of all items of the document.
-    virtual void validateSamplesPaths(const QList<SamplesInput::Entry> &samples,
-                                      const QSet<BaseItemType> &itemTypes, QList<QString> *errors) = 0;
-    /// Whether \a reference is null or can be used.
-    virtual bool validateReference(const ResourceReferenceSPtr &reference, QList<QString> *errors) = 0;
+    virtual void checkSamplesPaths(CheckRun &run, const QList<SamplesInput::Entry> &samples,
+                                   const QSet<BaseItemType> &itemTypes) = 0;
+    /// Whether \a reference, which stands at \a place, is null or can be used.
+    virtual bool checkReference(CheckRun &run, const ResourceReferenceSPtr &reference,
+                                const FindingPlace &place) = 0;
     /// The documents that a report is made of, which its table of samples names.
-    virtual void validateDocuments(const QList<SamplesInput::Entry> &samples, QList<QString> *errors) = 0;
+    virtual void checkDocuments(CheckRun &run, const QList<SamplesInput::Entry> &samples) = 0;
     /// Whether \a reference may hold mass spectra, told by its name.
     virtual bool isMsReference(const ResourceReferenceSPtr &reference) = 0;
+
+    // The same by themselves: texts alone, which go to errors.
+    void validateSamplesPaths(const QList<SamplesInput::Entry> &samples, const QSet<BaseItemType> &itemTypes,
+                              QList<QString> *errors);
+    bool validateReference(const ResourceReferenceSPtr &reference, QList<QString> *errors);
+    void validateDocuments(const QList<SamplesInput::Entry> &samples, QList<QString> *errors);
 };
 
 } // namespace orv::PropertyEditor

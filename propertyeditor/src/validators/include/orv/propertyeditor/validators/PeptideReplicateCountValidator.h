@@ -1,15 +1,14 @@
 #pragma once
 
-#include <orv/propertyeditor/validators/AbstractValidator.h>
+#include <orv/propertyeditor/validators/FindingsValidator.h>
 
 namespace orv::PropertyEditor {
 
 /// Whether the replicates that quantification asks for exist in every condition of the samples.
-class ORV_WORKFLOW_EXPORT PeptideReplicateCountValidator : public AbstractValidator
+class ORV_WORKFLOW_EXPORT PeptideReplicateCountValidator : public FindingsValidator
 {
 public:
-    bool validate(const Content &content, const QUrl &workflowBaseUrl, QList<QString> *warnings,
-                  QList<QString> *errors) const override;
+    void check(CheckRun &run) const override;
 };
 
 } // namespace orv::PropertyEditor

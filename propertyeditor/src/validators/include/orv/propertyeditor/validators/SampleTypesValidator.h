@@ -1,7 +1,7 @@
 #pragma once
 
 #include <orv/core_ms/MsDataFormat.h>
-#include <orv/propertyeditor/validators/AbstractValidator.h>
+#include <orv/propertyeditor/validators/FindingsValidator.h>
 #include <orv/samples/SamplesInput.h>
 
 #include <QSet>
@@ -12,13 +12,12 @@ class SamplesTableItem;
 
 /// Whether all samples of a search may come from one vendor's instruments. Not in the default set: windows
 /// install it for workflows that hold nothing but Karvon searches.
-class ORV_WORKFLOW_EXPORT SampleTypesValidator : public AbstractValidator
+class ORV_WORKFLOW_EXPORT SampleTypesValidator : public FindingsValidator
 {
 public:
     ~SampleTypesValidator() override;
 
-    bool validate(const Content &content, const QUrl &workflowBaseUrl, QList<QString> *warnings,
-                  QList<QString> *errors) const override;
+    void check(CheckRun &run) const override;
     /// Empty where nothing can be told. Applications that know more of their samples replace it.
     [[nodiscard]] virtual QSet<msreader::VendorDataFormat>
     detectPossibleSampleVendorFormats(const SamplesInput::Entry &sample) const;
@@ -28,8 +27,9 @@ public:
                          QList<QString> *errors) const;
 
 private:
-    bool validateSamples(const QList<SamplesInput::Entry> &samples, const SamplesTableItem *table,
-                         QList<QString> *errors) const;
+    /// Whether all are alike.
+    bool checkSamples(CheckRun &run, const QList<SamplesInput::Entry> &samples,
+                      const SamplesTableItem *table) const;
 };
 
 } // namespace orv::PropertyEditor

@@ -1,16 +1,15 @@
 #pragma once
 
-#include <orv/propertyeditor/validators/AbstractValidator.h>
+#include <orv/propertyeditor/validators/FindingsValidator.h>
 
 namespace orv::PropertyEditor {
 
 /// Whether every kind of document has samples to work on. A report over several documents has none of its
 /// own.
-class ORV_WORKFLOW_EXPORT SamplesPatternValidator : public AbstractValidator
+class ORV_WORKFLOW_EXPORT SamplesPatternValidator : public FindingsValidator
 {
 public:
-    bool validate(const Content &content, const QUrl &workflowBaseUrl, QList<QString> *warnings,
-                  QList<QString> *errors) const override;
+    void check(CheckRun &run) const override;
 };
 
 } // namespace orv::PropertyEditor

@@ -13,17 +13,17 @@ public:
     /// \a table is where findings belong; not owned, may be null.
     explicit TalvanePathsValidator(const SamplesTableItem *table = nullptr);
 
-    void validateSamplesPaths(const QList<SamplesInput::Entry> &samples, const QSet<BaseItemType> &itemTypes,
-                              QList<QString> *errors) override;
-    bool validateReference(const ResourceReferenceSPtr &reference, QList<QString> *errors) override;
-    void validateDocuments(const QList<SamplesInput::Entry> &samples, QList<QString> *errors) override;
+    void checkSamplesPaths(CheckRun &run, const QList<SamplesInput::Entry> &samples,
+                           const QSet<BaseItemType> &itemTypes) override;
+    bool checkReference(CheckRun &run, const ResourceReferenceSPtr &reference,
+                        const FindingPlace &place) override;
+    void checkDocuments(CheckRun &run, const QList<SamplesInput::Entry> &samples) override;
     bool isMsReference(const ResourceReferenceSPtr &reference) override;
 
 private:
-    void validateMsFile(const SamplesInput::Entry &sample, QList<QString> *errors);
-    void validateTraces(const SamplesInput::Entry &sample, const QSet<BaseItemType> &itemTypes,
-                        QList<QString> *errors);
-    bool validateDocumentReference(const SamplesInput::Entry &document, QList<QString> *errors);
+    void checkMsFile(CheckRun &run, const SamplesInput::Entry &sample);
+    void checkTraces(CheckRun &run, const SamplesInput::Entry &sample, const QSet<BaseItemType> &itemTypes);
+    bool checkDocumentReference(CheckRun &run, const SamplesInput::Entry &document);
 
     const SamplesTableItem *m_table;
 };

@@ -1,15 +1,14 @@
 #pragma once
 
-#include <orv/propertyeditor/validators/AbstractValidator.h>
+#include <orv/propertyeditor/validators/FindingsValidator.h>
 
 namespace orv::PropertyEditor {
 
 /// Whether a workflow has a document at all. Data-independent searches alone are none.
-class ORV_WORKFLOW_EXPORT WorkflowValidator : public AbstractValidator
+class ORV_WORKFLOW_EXPORT WorkflowValidator : public FindingsValidator
 {
 public:
-    bool validate(const Content &content, const QUrl &workflowBaseUrl, QList<QString> *warnings,
-                  QList<QString> *errors) const override;
+    void check(CheckRun &run) const override;
 };
 
 } // namespace orv::PropertyEditor
