@@ -282,9 +282,8 @@ QList<ItemGroup *> Content::groups() const
 
 const ItemGroup *Content::firstUnevenGroup() const
 {
-    const auto uneven =
-        std::ranges::find_if(d->groups, [](const auto &group) { return !group->isRectangle(); });
-    return uneven == d->groups.end() ? nullptr : uneven->get();
+    const int uneven = d->groups.find([](const ItemGroup &group) { return !group.isRectangle(); });
+    return uneven < 0 ? nullptr : d->groups.at(uneven);
 }
 
 QStringList Content::groupNames() const

@@ -215,9 +215,9 @@ QStringList ItemGroup::subGroupNames() const
 
 bool ItemGroup::isRectangle() const
 {
-    return std::ranges::all_of(d->subGroups, [this](const auto &subGroup) {
-        return subGroup->count() == d->subGroups.front()->count();
-    });
+    return d->subGroups.find([this](const ItemSubGroup &column) {
+        return column.count() != d->subGroups.at(0)->count();
+    }) < 0;
 }
 
 QVariantList ItemGroup::findSubGroups(const QString &typeName) const
