@@ -5,7 +5,6 @@
 #include <orv/propertyeditor/workflow/WflwUpgradeObserver.h>
 #include <orv/propertyeditor/workflow/WflwUpgrader.h>
 #include <orv/propertyeditor/workflow/WorkflowDifferences.h>
-#include <orv/resources/LocalBaseFolder.h>
 
 #include <algorithm>
 #include <array>
@@ -134,11 +133,12 @@ Failure refusal(const QStringList &reasons)
 
 void upgrade(PropertyEditorContent &content, const UpgradeOptions &options, UpgradeAnswer *answer)
 {
-    const LocalBaseFolder folder(folderUrlOf(answer->file).toLocalFile());
     Reviewer reviewer;
     QList<QString> notes;
-    const Error error =
-        WflwUpgrader::upgradeWorkflow(answer->from, &content, &notes, options.accessSampleData, &reviewer);
+    const Error error = WflwUpgrader::upgradeWorkflow(answer->from, &content, &notes,
+                                                      {.accessSampleData = options.accessSampleData,
+                                                       .observer = &reviewer,
+                                                       .baseUrl = folderUrlOf(answer->file)});
     if (error) {
         answer->failure = failureFrom(error, Negative);
         return;

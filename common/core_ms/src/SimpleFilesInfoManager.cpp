@@ -1,8 +1,8 @@
 #include <orv/core/FilePathUtils.h>
 #include <orv/core_ms/SimpleFilesInfoManager.h>
-#include <orv/resources/LocalBaseFolder.h>
 #include <orv/resources/ResourceHandlerUtils.h>
 #include <orv/resources/ResourceManager.h>
+#include <orv/resources/ResourceReferenceUtils.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -37,17 +37,18 @@ std::optional<QString> nameInAnotherCase(const QString &folder, const QString &n
     return found;
 }
 
-/// \a path with the case of letters that the disk has.
-std::optional<QString> existingPath(const QString &path)
+/// \a path, which counts from \a root, with the case of letters that the disk has. The current folder is an
+/// empty text.
+std::optional<QString> existingPath(const QString &path, const QString &root)
 {
     const QStringList names = path.split(QLatin1Char('/'), Qt::SkipEmptyParts);
     QString found = path.startsWith(QLatin1Char('/')) ? QStringLiteral("/") : QString();
     for (const QString &name : names) {
-        const QString folder = LocalBaseFolder::resolved(found.isEmpty() ? QStringLiteral(".") : found);
         const QString prefix = found.isEmpty() || found.endsWith(QLatin1Char('/')) ? found : found + u'/';
-        if (QFileInfo::exists(LocalBaseFolder::resolved(prefix + name))) {
+        if (QFileInfo::exists(root + prefix + name)) {
             found = prefix + name;
-        } else if (const auto other = nameInAnotherCase(folder, name)) {
+        } else if (const auto other =
+                       nameInAnotherCase(found.isEmpty() ? root + QLatin1Char('.') : root + found, name)) {
             found = prefix + *other;
         } else {
             return {};
@@ -64,11 +65,12 @@ Answer missing(const ResourceReferenceSPtr &reference)
         .addDetail(SimpleFilesInfoManagerTr::tr("Restore the file, or refer to another one."));
 }
 
-Answer askedLocally(const ResourceReferenceSPtr &reference)
+Answer askedLocally(const ResourceReferenceSPtr &reference, const QUrl &baseUrl)
 {
-    if (QFileInfo::exists(LocalBaseFolder::resolved(reference->text())))
+    const QString root = ResourceReferenceUtils::isRelative(reference) ? baseUrl.toLocalFile() : QString();
+    if (QFileInfo::exists(root + reference->text()))
         return reference;
-    const std::optional<QString> path = existingPath(ResourceHandlerUtils::fullPath(reference));
+    const std::optional<QString> path = existingPath(ResourceHandlerUtils::fullPath(reference), root);
     if (!path)
         return missing(reference);
     Answer corrected = ResourceReference::fromString(*path);
@@ -77,10 +79,10 @@ Answer askedLocally(const ResourceReferenceSPtr &reference)
     return corrected;
 }
 
-Answer asked(const ResourceReferenceSPtr &reference)
+Answer asked(const ResourceReferenceSPtr &reference, const QUrl &baseUrl)
 {
     if (reference->isScheme(ResourceReference::Scheme::LocalFile))
-        return askedLocally(reference);
+        return askedLocally(reference, baseUrl);
     Result<bool> exists = ResourceHandlerUtils::exists(reference);
     if (exists.hasError())
         return exists.ecatch();
@@ -91,7 +93,9 @@ Answer asked(const ResourceReferenceSPtr &reference)
 
 FilesInfoManagerInterface::~FilesInfoManagerInterface() = default;
 
-SimpleFilesInfoManager::SimpleFilesInfoManager(const QList<ResourceReferenceSPtr> &references)
+SimpleFilesInfoManager::SimpleFilesInfoManager(const QList<ResourceReferenceSPtr> &references,
+                                               const QUrl &baseUrl)
+    : m_baseUrl(baseUrl)
 {
     for (const ResourceReferenceSPtr &reference : references) {
         if (reference && !reference->isEmpty())
@@ -109,7 +113,7 @@ SimpleFilesInfoManager::validateAndCorrectFileReference(const ResourceReferenceS
             .addDetail(reference ? reference->readableText() : QString());
     }
     if (!answer->has_value())
-        *answer = asked(reference);
+        *answer = asked(reference, m_baseUrl);
     return **answer;
 }
 

@@ -80,11 +80,11 @@ std::optional<ElutionPeaksOptions::TimeRange> takeTimeRange(KeyValueItem *item)
 Compatibility::Input
 MirelElutionPeaksBackwardsCompatibility::inputFromWlfw(const RowNode &samples,
                                                        const std::optional<RowNode> &customColumnsMetaData,
-                                                       KeyValueItem *item, bool isIntact)
+                                                       KeyValueItem *item, bool isIntact, const QUrl &baseUrl)
 {
     Compatibility::Input input;
     extractSamplesAndAllTracesFromWlfwSamplesRowNode(samples, customColumnsMetaData, &input.samples.samples,
-                                                     &input.samples.columns, &input.traces);
+                                                     &input.samples.columns, &input.traces, baseUrl);
     for (size_t kind = 0; kind < kPrefixes.size(); ++kind)
         takeOptions(kPrefixes.at(kind), item, &input.oldOptions.at(kind));
     input.timeRangeOfInterest = takeTimeRange(item);

@@ -186,7 +186,14 @@ private:
     QMap<qsizetype, QList<int>> m_sampleIds;
 };
 
-void readFiles(const OldSampleRow &row, SampleWithCustomColumns *sample, Traces *traces, bool *stopAsking)
+/// How the files of samples are found.
+struct FileSearch
+{
+    QUrl baseUrl;
+    bool stopAsking;
+};
+
+void readFiles(const OldSampleRow &row, SampleWithCustomColumns *sample, Traces *traces, FileSearch *search)
 {
     const ResourceReferenceSPtr table = referenceOf(row.text(kTracesCsv));
     traces->addTable(table, sample->id);
@@ -196,15 +203,15 @@ void readFiles(const OldSampleRow &row, SampleWithCustomColumns *sample, Traces 
     if (isTraceFile(path))
         traces->addTable(sample->msFile, sample->id);
     else
-        traces->addAll(extractTracesFromMsFile(&sample->msFile, stopAsking));
+        traces->addAll(extractTracesFromMsFile(&sample->msFile, &search->stopAsking, search->baseUrl));
 
     ResourceReferenceSPtr tracesMs = referenceOf(row.text(kTracesMs));
-    traces->addAll(extractTracesFromMsFile(&tracesMs, stopAsking));
+    traces->addAll(extractTracesFromMsFile(&tracesMs, &search->stopAsking, search->baseUrl));
 
     sample->traces = {table, tracesMs};
     sample->traces.removeAll(nullptr);
-    if (const ResourceReferenceSPtr search = referenceOf(row.text(kMs2Search)))
-        sample->extraReferences = {search};
+    if (const ResourceReferenceSPtr ms2Search = referenceOf(row.text(kMs2Search)))
+        sample->extraReferences = {ms2Search};
 }
 
 void readCustomValues(const OldSampleRow &row, const CustomColumns &columns, SampleWithCustomColumns *sample)
@@ -217,7 +224,7 @@ void readCustomValues(const OldSampleRow &row, const CustomColumns &columns, Sam
 }
 
 SampleWithCustomColumns readSample(const OldSampleRow &row, int id, const CustomColumns &columns,
-                                   Traces *traces, bool *stopAsking)
+                                   Traces *traces, FileSearch *search)
 {
     SampleWithCustomColumns sample;
     sample.id = id;
@@ -226,7 +233,7 @@ SampleWithCustomColumns readSample(const OldSampleRow &row, int id, const Custom
     sample.digestion = row.text(kDigestion);
     sample.sampleType = row.text(kSampleType);
     sample.metadata = metadataOf(row.cell(kMetadata));
-    readFiles(row, &sample, traces, stopAsking);
+    readFiles(row, &sample, traces, search);
     readCustomValues(row, columns, &sample);
     return sample;
 }
@@ -236,7 +243,8 @@ SampleWithCustomColumns readSample(const OldSampleRow &row, int id, const Custom
 void extractSamplesAndAllTracesFromWlfwSamplesRowNode(const RowNode &samples,
                                                       const std::optional<RowNode> &customColumnsMetaData,
                                                       QList<SampleWithCustomColumns> *samplesOut,
-                                                      CustomColumns *columnsOut, QList<TraceEntry> *tracesOut)
+                                                      CustomColumns *columnsOut, QList<TraceEntry> *tracesOut,
+                                                      const QUrl &baseUrl)
 {
     CustomColumns columns;
     if (customColumnsMetaData)
@@ -250,13 +258,13 @@ void extractSamplesAndAllTracesFromWlfwSamplesRowNode(const RowNode &samples,
         addColumn({names.at(i), QStringLiteral("text"), {}, {}}, &columns);
     }
 
-    bool stopAsking = RememberedAnswer::isAskingStopped();
+    FileSearch search{baseUrl, RememberedAnswer::isAskingStopped()};
     Traces traces;
     samplesOut->clear();
     for (int i = 0; i < samples.getChildListSize(); ++i) {
         RowNode row(*samples.getChild(i));
         Compatibility::removeAllDoubleDashFromRowNode(&row);
-        samplesOut->append(readSample(OldSampleRow(row, places), i + 1, columns, &traces, &stopAsking));
+        samplesOut->append(readSample(OldSampleRow(row, places), i + 1, columns, &traces, &search));
     }
     *columnsOut = columns;
     *tracesOut = traces.entries();

@@ -121,17 +121,19 @@ QList<FoundTrace> entriesOf(const QList<TraceItem> &traces)
 
 } // namespace
 
-QList<FoundTrace> extractTracesFromMsFile(QSharedPointer<ResourceReference> *reference, bool *stopAsking)
+QList<FoundTrace> extractTracesFromMsFile(QSharedPointer<ResourceReference> *reference, bool *stopAsking,
+                                          const QUrl &baseUrl)
 {
     if (!*reference || (*reference)->isEmpty())
         return {};
-    if (isMissing(*reference)) {
+    if (isMissing(ResourceReferenceUtils::resolved(*reference, baseUrl))) {
         const ResourceReferenceSPtr found = replacement(*reference, stopAsking);
         if (!found)
             return {};
         *reference = found;
     }
-    Result<ResourceHandlerSPtr> handler = ResourceManager::getHandler(*reference);
+    Result<ResourceHandlerSPtr> handler =
+        ResourceManager::getHandler(ResourceReferenceUtils::resolved(*reference, baseUrl));
     Result<QString> path = handler ? (*handler)->grab() : Result<QString>(handler.error());
     if (path.hasError()) {
         showOrLog(path.ecatch());

@@ -28,6 +28,8 @@ private Q_SLOTS:
     void namesAreCorrected_data();
     void namesAreCorrected();
     void aRelativePathStaysRelative();
+    void relativePathsMayCountFromAnotherFolder_data();
+    void relativePathsMayCountFromAnotherFolder();
     void whatIsMissingFails_data();
     void whatIsMissingFails();
     void twoNamesThatFitAreNoAnswer();
@@ -78,6 +80,27 @@ void TestFilesInfoManager::aRelativePathStaysRelative()
     QVERIFY(QDir::setCurrent(before));
     ORV_VERIFY_OK(found);
     QCOMPARE((*found)->text(), u"data/run 1.mzML"_s);
+}
+
+void TestFilesInfoManager::relativePathsMayCountFromAnotherFolder_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("as it is") << u"data/run 1.mzML"_s;
+    QTest::newRow("another case") << u"Data/run 1.mzml"_s;
+    QTest::newRow("another system's") << u"data\\run 1.mzML"_s;
+}
+
+void TestFilesInfoManager::relativePathsMayCountFromAnotherFolder()
+{
+    QFETCH(QString, text);
+    const SampleTree tree;
+    tree.add(u"data/run 1.mzML"_s);
+    const ResourceReferenceSPtr asked = reference(text);
+    SimpleFilesInfoManager manager({asked}, QUrl::fromLocalFile(tree.at({}) + u'/'));
+    const Result<ResourceReferenceSPtr> found = manager.validateAndCorrectFileReference(asked);
+    ORV_VERIFY_OK(found);
+    QCOMPARE((*found)->text(), u"data/run 1.mzML"_s);
+    QVERIFY(answer(text).hasError());
 }
 
 void TestFilesInfoManager::whatIsMissingFails_data()

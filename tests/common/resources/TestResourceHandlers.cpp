@@ -2,7 +2,6 @@
 #include "OrvTest.h"
 #include "References.h"
 
-#include <orv/resources/LocalBaseFolder.h>
 #include <orv/resources/ResourceHandlerUtils.h>
 #include <orv/resources/ResourceManager.h>
 
@@ -52,7 +51,6 @@ private Q_SLOTS:
     void localFilesAndFoldersExist_data();
     void localFilesAndFoldersExist();
     void relativePathsAreTakenFromTheCurrentFolder();
-    void relativePathsMayCountFromAnotherFolder();
     void relativePathsOfAnotherSystemAreFound();
     void pathsOfAnotherSystemDoNotExist();
     void grabGivesThePathOfALocalFile();
@@ -136,29 +134,6 @@ void TestResourceHandlers::relativePathsAreTakenFromTheCurrentFolder()
     const bool isMissing = ResourceHandlerUtils::checkExists(referenceOf(u"../a.raw"_s));
     QVERIFY(QDir::setCurrent(before));
     QVERIFY(isThere && isAbove && !isMissing);
-}
-
-void TestResourceHandlers::relativePathsMayCountFromAnotherFolder()
-{
-    const QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkdir(u"data"_s));
-    QFile file(folder.filePath(u"data/only here.raw"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    const ResourceReferenceSPtr reference = referenceOf(u"data\\only here.raw"_s);
-    QVERIFY(!ResourceHandlerUtils::exists(reference).valueOr(true));
-    {
-        const LocalBaseFolder outer(u"/nowhere"_s);
-        {
-            const LocalBaseFolder base(folder.path());
-            QVERIFY(ResourceHandlerUtils::exists(reference).valueOr(false));
-            const Result<ResourceHandlerSPtr> handler = ResourceManager::getHandler(reference);
-            ORV_VERIFY_OK(handler);
-            QCOMPARE((*handler)->grab().valueOr({}), file.fileName());
-            QCOMPARE(LocalBaseFolder::resolved(u"/absolute"_s), u"/absolute"_s);
-        }
-        QCOMPARE(LocalBaseFolder::resolved(u"a"_s), u"/nowhere/a"_s);
-    }
-    QVERIFY(!ResourceHandlerUtils::exists(reference).valueOr(true));
 }
 
 void TestResourceHandlers::relativePathsOfAnotherSystemAreFound()

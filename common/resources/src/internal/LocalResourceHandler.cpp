@@ -2,8 +2,6 @@
 
 #include "LocalPath.h"
 
-#include <orv/resources/LocalBaseFolder.h>
-
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
@@ -12,10 +10,10 @@ namespace orv {
 
 std::optional<QString> LocalResourceHandler::path() const
 {
-    const QString text = LocalBaseFolder::resolved(reference()->text());
+    const QString text = reference()->text();
     if (QFileInfo::exists(text))
         return text;
-    const QString slashed = LocalBaseFolder::resolved(LocalPath::withSlashes(reference()->text()));
+    const QString slashed = LocalPath::withSlashes(text);
     if (slashed != text && QFileInfo::exists(slashed))
         return slashed;
     return {};

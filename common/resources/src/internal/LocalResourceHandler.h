@@ -6,8 +6,7 @@
 
 namespace orv {
 
-/// Files and folders of this machine. A relative path is taken from the current folder, or from that of
-/// LocalBaseFolder; links are followed. A
+/// Files and folders of this machine. A relative path is taken from the current folder; links are followed. A
 /// path whose backslashes lead nowhere here is tried with slashes, as documents travel between systems.
 class LocalResourceHandler final : public ResourceHandler
 {

@@ -65,7 +65,7 @@ Error WflwUpgradeHelper::upgradeV_5_6_0(PropertyEditorContent *content)
         rows && table ? std::optional(table->customColumnsMetaData()) : std::nullopt;
 
     const Compatibility::Input input = MirelElutionPeaksBackwardsCompatibility::inputFromWlfw(
-        rows.value_or(RowNode()), columns, settings, isIntact);
+        rows.value_or(RowNode()), columns, settings, isIntact, baseUrl());
     Result<Compatibility::Output> output = Compatibility::createOptionsFromOldPreset(input);
     if (!output)
         return output.ecatch();

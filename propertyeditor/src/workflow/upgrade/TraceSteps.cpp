@@ -41,9 +41,10 @@ QList<ResourceReferenceSPtr> msFilesOf(const SamplesAndTracesContent &samples)
 class FileCheck
 {
 public:
-    explicit FileCheck(const SamplesAndTracesContent &samples)
-        : m_msFiles(msFilesOf(samples))
-        , m_manager(m_msFiles)
+    FileCheck(const SamplesAndTracesContent &samples, const QUrl &baseUrl)
+        : m_baseUrl(baseUrl)
+        , m_msFiles(msFilesOf(samples))
+        , m_manager(m_msFiles, baseUrl)
         , m_known(m_msFiles.begin(), m_msFiles.end())
     {}
 
@@ -59,6 +60,7 @@ public:
         return Error::NoError;
     }
 
+    /// Where they lie.
     [[nodiscard]] const QList<ResourceReferenceSPtr> &files() const { return m_corrected; }
 
 private:
@@ -76,19 +78,20 @@ private:
         }
         sample->moveFileMetadata((*file)->text(), (*corrected)->text());
         *file = *corrected;
-        m_corrected.append(*corrected);
+        m_corrected.append(ResourceReferenceUtils::resolved(*corrected, m_baseUrl));
         return Error::NoError;
     }
 
+    QUrl m_baseUrl;
     QList<ResourceReferenceSPtr> m_msFiles;
     SimpleFilesInfoManager m_manager;
     QSet<ResourceReferenceKey> m_known;
     QList<ResourceReferenceSPtr> m_corrected;
 };
 
-Error updateAfterReaderChange(SamplesAndTracesContent *samples)
+Error updateAfterReaderChange(SamplesAndTracesContent *samples, const QUrl &baseUrl)
 {
-    FileCheck check(*samples);
+    FileCheck check(*samples, baseUrl);
     ORV_RETURN_IF_ERROR(check.correct(samples));
     TraceImportAndProcessingOptions options = samples->options;
     ORV_RETURN_IF_ERROR(
@@ -188,9 +191,9 @@ QList<ListedTrace> rebuilt(const QList<ListedTrace> &list, const Chromatograms &
     return entries;
 }
 
-Error rebuildOldNames(SamplesAndTracesContent *samples)
+Error rebuildOldNames(SamplesAndTracesContent *samples, const QUrl &baseUrl)
 {
-    FileCheck check(*samples);
+    FileCheck check(*samples, baseUrl);
     ORV_RETURN_IF_ERROR(check.correct(samples));
     Result<Chromatograms> found = chromatogramsOf(check.files());
     if (!found)
@@ -210,7 +213,7 @@ Error WflwUpgradeHelper::upgradeV_5_10_1(PropertyEditorContent *content)
     if (!working->samplesTable())
         return noSamples();
     SamplesAndTracesContent samples = working->samplesAndTraces();
-    ORV_RETURN_IF_ERROR(updateAfterReaderChange(&samples));
+    ORV_RETURN_IF_ERROR(updateAfterReaderChange(&samples, baseUrl()));
     working->setSamplesAndTraces(samples);
     ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;
@@ -229,7 +232,7 @@ Error WflwUpgradeHelper::upgradeV_5_39_0(PropertyEditorContent *content)
         !samples.samples.samples.isEmpty() && std::ranges::any_of(samples.options.traces.list(), hasOldName);
     if (!applies)
         return Error::NoError;
-    ORV_RETURN_IF_ERROR(rebuildOldNames(&samples));
+    ORV_RETURN_IF_ERROR(rebuildOldNames(&samples, baseUrl()));
     working->setSamplesAndTraces(samples);
     ORV_RETURN_IF_ERROR(working->writeBack());
     return Error::NoError;

@@ -25,6 +25,11 @@ Result<WorkingContent> WflwUpgradeHelper::createPecToUpgrade(PropertyEditorConte
     return WorkingContent::of(d->run, content);
 }
 
+QUrl WflwUpgradeHelper::baseUrl() const
+{
+    return d->baseUrl;
+}
+
 Error WflwUpgradeHelper::upgradeToCurrentWorkflowVersion(PropertyEditorContent *content)
 {
     return UpgradeSteps::readAndWrite(createPecToUpgrade(content));

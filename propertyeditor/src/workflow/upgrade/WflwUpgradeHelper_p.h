@@ -12,6 +12,7 @@ class WflwUpgradeHelper::Private
 {
 public:
     QMap<int, QString> notes;
+    QUrl baseUrl;
     UpgradeRun *run = nullptr; ///< that the steps belong to; none for steps that are called by themselves
 };
 

@@ -137,13 +137,18 @@ bool isBelowCurrent(const PropertyEditorContent &content)
 class WflwUpgradeRunner
 {
 public:
-    WflwUpgradeRunner(WflwUpgradeHelper *helper, PropertyEditorContent *content)
+    WflwUpgradeRunner(WflwUpgradeHelper *helper, PropertyEditorContent *content, const QUrl &baseUrl)
         : m_helper(helper)
         , m_content(content)
         , m_run(content)
         , m_outer(std::exchange(helper->d->run, &m_run))
+        , m_outerBaseUrl(std::exchange(helper->d->baseUrl, baseUrl))
     {}
-    ~WflwUpgradeRunner() { m_helper->d->run = m_outer; }
+    ~WflwUpgradeRunner()
+    {
+        m_helper->d->run = m_outer;
+        m_helper->d->baseUrl = m_outerBaseUrl;
+    }
     Q_DISABLE_COPY_MOVE(WflwUpgradeRunner)
 
     Error takeSteps(const QVersionNumber &version, const WflwUpgradeOptions &options)
@@ -174,6 +179,7 @@ private:
     PropertyEditorContent *m_content;
     UpgradeRun m_run;
     UpgradeRun *m_outer;
+    QUrl m_outerBaseUrl;
 };
 
 QList<WflwUpgradeStep> WflwUpgrader::steps()
@@ -187,14 +193,15 @@ QList<WflwUpgradeStep> WflwUpgrader::steps()
 Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
                                     QList<QString> *notes, bool accessSampleData)
 {
-    return upgradeWorkflow(version, content, notes, WflwUpgradeOptions{accessSampleData, nullptr});
+    return upgradeWorkflow(version, content, notes, WflwUpgradeOptions{.accessSampleData = accessSampleData});
 }
 
 Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
                                     QList<QString> *notes, bool accessSampleData,
                                     WflwUpgradeObserver *observer)
 {
-    return upgradeWorkflow(version, content, notes, WflwUpgradeOptions{accessSampleData, observer});
+    return upgradeWorkflow(version, content, notes,
+                           WflwUpgradeOptions{.accessSampleData = accessSampleData, .observer = observer});
 }
 
 Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
@@ -210,7 +217,7 @@ Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEdito
     // Equal in the number of segments, too: 5.47 isn't 5.47.0.
     if (version == WflwMetaData::currentWorkflowVersion())
         return Error::NoError;
-    ORV_RETURN_IF_ERROR(WflwUpgradeRunner(helper, content).takeSteps(version, options));
+    ORV_RETURN_IF_ERROR(WflwUpgradeRunner(helper, content, options.baseUrl).takeSteps(version, options));
     if (notes)
         *notes = helper->notes();
     return Error::NoError;

@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QUrl>
 
 namespace orv {
 
@@ -14,13 +15,15 @@ namespace orv {
 class ORV_WORKFLOW_EXPORT SimpleFilesInfoManager : public FilesInfoManagerInterface
 {
 public:
-    /// Null and empty references are left out.
-    explicit SimpleFilesInfoManager(const QList<ResourceReferenceSPtr> &references);
+    /// Null and empty references are left out. Relative files count from \a baseUrl, a folder with a slash at
+    /// its end, or from the current folder; references keep their relative texts.
+    explicit SimpleFilesInfoManager(const QList<ResourceReferenceSPtr> &references, const QUrl &baseUrl = {});
 
     [[nodiscard]] Result<ResourceReferenceSPtr>
     validateAndCorrectFileReference(const ResourceReferenceSPtr &reference) override;
 
 private:
+    const QUrl m_baseUrl;
     /// Null until the home was asked.
     QHash<ResourceReferenceKey, std::optional<Result<ResourceReferenceSPtr>>> m_answers;
 };

@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QString>
+#include <QUrl>
 
 #include <memory>
 
@@ -110,6 +111,9 @@ protected:
 
     /// The document as the tree that a step edits; see WorkingContent. Within a run the steps share one.
     [[nodiscard]] Result<WorkingContent> createPecToUpgrade(PropertyEditorContent *content);
+
+    /// From which relative files count; see WflwUpgradeOptions.
+    [[nodiscard]] QUrl baseUrl() const;
 
 private:
     friend class WflwUpgradeRunner;

@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QString>
+#include <QUrl>
 #include <QVersionNumber>
 
 namespace orv {
@@ -28,6 +29,9 @@ struct WflwUpgradeOptions
 {
     bool accessSampleData = true;
     WflwUpgradeObserver *observer = nullptr; ///< told of each step that changed something
+    /// The workflow's folder, with a slash at its end, from which relative files count where steps open them;
+    /// empty for the current folder of the process. References keep their relative texts.
+    QUrl baseUrl = {};
 };
 
 /// Brings documents of earlier format versions into the present form:
