@@ -4,6 +4,7 @@
 #include "Inputs.h"
 
 #include <orv/core/LossObserver.h>
+#include <orv/propertyeditor/validators/WorkflowCheck.h>
 
 #include <QString>
 #include <QStringList>
@@ -13,21 +14,7 @@
 
 namespace orv::cli {
 
-/// A fault of a workflow and where it stands in the file. What isn't known is empty.
-struct LocatedFinding
-{
-    bool isError = true;
-    QString rule;
-    QString message;
-    QString tab;
-    QString column;
-    std::optional<int> row; ///< counted from 0
-    QString property;       ///< internal name
-    QString sample;
-    QString pointer; ///< JSON pointer into the file
-    std::optional<qsizetype> line;
-    QString hint;
-};
+using PropertyEditor::LocatedFinding;
 
 /// What the check of one input has found.
 struct CheckAnswer

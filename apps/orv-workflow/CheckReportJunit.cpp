@@ -37,7 +37,7 @@ QStringList textsOf(const QList<LocatedFinding> &findings, bool areErrors)
 {
     QStringList texts;
     for (const LocatedFinding &finding : findings) {
-        if (finding.isError == areErrors)
+        if (finding.isError() == areErrors)
             texts.append(textOf(finding));
     }
     return texts;
@@ -88,7 +88,7 @@ void writeSuite(QXmlStreamWriter *xml, const CheckAnswer &answer, const QStringL
     QSet<QString> failed;
     for (const LocatedFinding &finding : answer.findings) {
         findings[validatorOf(finding)].append(finding);
-        if (finding.isError)
+        if (finding.isError())
             failed.insert(validatorOf(finding));
     }
     const QStringList cases =

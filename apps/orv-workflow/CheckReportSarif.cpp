@@ -48,11 +48,12 @@ QJsonObject resultOf(const QString &file, const LocatedFinding &finding, qsizety
     QString text = finding.message.trimmed();
     if (!finding.hint.isEmpty())
         text += QLatin1Char('\n') + finding.hint;
-    return {{QStringLiteral("ruleId"), finding.rule},
-            {QStringLiteral("ruleIndex"), ruleIndex},
-            {QStringLiteral("level"), finding.isError ? QStringLiteral("error") : QStringLiteral("warning")},
-            {QStringLiteral("message"), textMember(text)},
-            {QStringLiteral("locations"), QJsonArray{locationOf(file, &finding)}}};
+    return {
+        {QStringLiteral("ruleId"), finding.rule},
+        {QStringLiteral("ruleIndex"), ruleIndex},
+        {QStringLiteral("level"), finding.isError() ? QStringLiteral("error") : QStringLiteral("warning")},
+        {QStringLiteral("message"), textMember(text)},
+        {QStringLiteral("locations"), QJsonArray{locationOf(file, &finding)}}};
 }
 
 QJsonObject notificationOf(const CheckAnswer &answer)

@@ -16,17 +16,18 @@ QJsonValue textOrNull(const QString &text)
 
 QJsonObject toJson(const LocatedFinding &finding)
 {
-    return {{QStringLiteral("level"), finding.isError ? QStringLiteral("error") : QStringLiteral("warning")},
-            {QStringLiteral("rule"), finding.rule},
-            {QStringLiteral("message"), finding.message},
-            {QStringLiteral("tab"), textOrNull(finding.tab)},
-            {QStringLiteral("column"), textOrNull(finding.column)},
-            {QStringLiteral("row"), finding.row ? QJsonValue(*finding.row) : QJsonValue()},
-            {QStringLiteral("property"), textOrNull(finding.property)},
-            {QStringLiteral("sample"), textOrNull(finding.sample)},
-            {QStringLiteral("pointer"), textOrNull(finding.pointer)},
-            {QStringLiteral("line"), finding.line ? QJsonValue(qint64(*finding.line)) : QJsonValue()},
-            {QStringLiteral("hint"), textOrNull(finding.hint)}};
+    return {
+        {QStringLiteral("level"), finding.isError() ? QStringLiteral("error") : QStringLiteral("warning")},
+        {QStringLiteral("rule"), finding.rule},
+        {QStringLiteral("message"), finding.message},
+        {QStringLiteral("tab"), textOrNull(finding.tab)},
+        {QStringLiteral("column"), textOrNull(finding.column)},
+        {QStringLiteral("row"), finding.row ? QJsonValue(*finding.row) : QJsonValue()},
+        {QStringLiteral("property"), textOrNull(finding.property)},
+        {QStringLiteral("sample"), textOrNull(finding.sample)},
+        {QStringLiteral("pointer"), textOrNull(finding.pointer)},
+        {QStringLiteral("line"), finding.line ? QJsonValue(qint64(*finding.line)) : QJsonValue()},
+        {QStringLiteral("hint"), textOrNull(finding.hint)}};
 }
 
 QString counted(qsizetype count, const QString &one)
@@ -60,13 +61,13 @@ QString findingLines(const LocatedFinding &finding, qsizetype placeWidth)
     constexpr int kLevelWidth = 7;
     const QString indent(2 + kLevelWidth + 2 + placeWidth + 2, QLatin1Char(' '));
     const QString level =
-        (finding.isError ? QStringLiteral("error") : QStringLiteral("warning")).leftJustified(kLevelWidth);
+        (finding.isError() ? QStringLiteral("error") : QStringLiteral("warning")).leftJustified(kLevelWidth);
     QStringList lines;
     for (const QString &line : finding.message.trimmed().split(QLatin1Char('\n')))
         lines.append(withoutControls(line));
     if (!finding.hint.isEmpty())
         lines.append(styled(withoutControls(finding.hint), Style::Faint));
-    return QLatin1String("  ") + styled(level, finding.isError ? Style::Bad : Style::Caution) +
+    return QLatin1String("  ") + styled(level, finding.isError() ? Style::Bad : Style::Caution) +
            QLatin1String("  ") + withoutControls(placeAndLine(finding)).leftJustified(placeWidth) +
            QLatin1String("  ") + lines.join(QLatin1Char('\n') + indent) + QLatin1Char('\n');
 }

@@ -3,25 +3,11 @@
 #include "Inputs.h"
 
 #include <orv/propertyeditor/PropertyEditorUtils.h>
-#include <orv/propertyeditor/content/ItemGroup.h>
-#include <orv/propertyeditor/content/ItemSubGroup.h>
-#include <orv/resources/ResourceReferenceUtils.h>
+#include <orv/propertyeditor/workflow/WorkflowPaths.h>
 
 namespace orv::cli {
 
 using PropertyEditor::Content;
-
-namespace {
-
-void resolveSamples(const QUrl &folder, Content *content)
-{
-    SamplesAndTracesContent samples = content->samplesAndTraces();
-    for (SamplesInput::SampleWithCustomColumns &sample : samples.samples.samples)
-        sample.msFile = ResourceReferenceUtils::resolved(sample.msFile, folder);
-    content->setSamplesAndTraces(samples);
-}
-
-} // namespace
 
 Outcome<LoadedWorkflow> loadWorkflow(const QString &argument)
 {
@@ -45,18 +31,6 @@ Outcome<LoadedWorkflow> loadWorkflow(const QJsonObject &document)
     return workflow;
 }
 
-std::optional<QString> unevenTab(const Content &content)
-{
-    for (const PropertyEditor::ItemGroup *group : content.groups()) {
-        const QList<PropertyEditor::ItemSubGroup *> columns = group->subGroups();
-        for (const PropertyEditor::ItemSubGroup *column : columns) {
-            if (column->count() < columns.first()->count())
-                return group->name();
-        }
-    }
-    return {};
-}
-
 Outcome<LoadedWorkflow> loadResolvedWorkflow(const QString &argument)
 {
     Outcome<LoadedWorkflow> workflow = loadWorkflow(argument);
@@ -64,7 +38,7 @@ Outcome<LoadedWorkflow> loadResolvedWorkflow(const QString &argument)
         return workflow;
     const QUrl folder = folderUrlOf(argument);
     workflow->content->setBaseUrl(folder);
-    resolveSamples(folder, workflow->content.get());
+    WorkflowPaths::resolveSamples(workflow->content.get(), folder);
     PropertyEditorUtils::updateGlycanDatabasesToAbsolute(workflow->content.get(), folder);
     return workflow;
 }

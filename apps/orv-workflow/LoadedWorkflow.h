@@ -10,7 +10,6 @@
 #include <QString>
 
 #include <memory>
-#include <optional>
 
 namespace orv::cli {
 
@@ -30,8 +29,5 @@ struct LoadedWorkflow
 /// The same with its samples' files and its glycan databases taken from its own folder where their paths are
 /// relative, and that folder as base URL.
 [[nodiscard]] Outcome<LoadedWorkflow> loadResolvedWorkflow(const QString &argument);
-
-/// The name of the first tab that would be written empty, as one of its columns is shorter than its first.
-[[nodiscard]] std::optional<QString> unevenTab(const PropertyEditor::Content &content);
 
 } // namespace orv::cli

@@ -3,44 +3,14 @@
 #include "Failure.h"
 #include "Inputs.h"
 
-#include <orv/core/LossObserver.h>
-#include <orv/propertyeditor/workflow/WflwMetaData.h>
+#include <orv/propertyeditor/workflow/WorkflowUpgrade.h>
 
 #include <QByteArray>
-#include <QJsonValue>
-#include <QList>
 #include <QString>
-#include <QStringList>
-#include <QVersionNumber>
 
 #include <optional>
 
 namespace orv::cli {
-
-/// One thing that a step of an upgrade did.
-struct UpgradeChange
-{
-    enum class Kind
-    {
-        Added,
-        Removed,
-        Renamed, ///< the setting has another name; `from` and `to` are the names
-        Moved,   ///< the setting has another group
-        Changed,
-    };
-
-    Kind kind = Kind::Changed;
-    QString path;
-    QString property;
-    QJsonValue from; ///< undefined for what was added
-    QJsonValue to;   ///< undefined for what was removed
-};
-
-struct UpgradeStep
-{
-    QVersionNumber version;
-    QList<UpgradeChange> changes;
-};
 
 struct UpgradeOptions
 {
@@ -49,18 +19,10 @@ struct UpgradeOptions
 };
 
 /// What became of one document. Nothing is written yet.
-struct UpgradeAnswer
+struct UpgradeAnswer : WorkflowUpgradeReport
 {
     QString file;
-    QVersionNumber from;
-    QVersionNumber to;
-    std::optional<WflwMetaData::WflwState> state; ///< before; none for what is no workflow
-    QStringList notes;
-    bool isChanged = false;
-    QList<UpgradeStep> steps;
-    QList<Loss> lost;
-    QByteArray original;
-    QByteArray upgraded; ///< the original bytes when nothing is changed
+    QByteArray original; ///< what `upgraded` is, too, when nothing is changed
     std::optional<Failure> failure;
 };
 

@@ -28,12 +28,12 @@ constexpr std::array kChangeKinds = {
 // By the number of the state.
 constexpr std::array kStates = {"UpToDate", "NeedsUpgrade", "NotSupported"};
 
-const ChangeKindRow &rowOf(UpgradeChange::Kind kind)
+const ChangeKindRow &rowOf(WorkflowUpgradeChange::Kind kind)
 {
     return kChangeKinds.at(size_t(kind));
 }
 
-QJsonObject toJson(const UpgradeChange &change)
+QJsonObject toJson(const WorkflowUpgradeChange &change)
 {
     return {{QStringLiteral("path"), change.path},
             {QStringLiteral("property"), orNull(change.property)},
@@ -42,15 +42,15 @@ QJsonObject toJson(const UpgradeChange &change)
             {QStringLiteral("to"), orNull(change.to)}};
 }
 
-QJsonObject toJson(const UpgradeStep &step)
+QJsonObject toJson(const WorkflowUpgradeStep &step)
 {
     QJsonArray changes;
-    for (const UpgradeChange &change : step.changes)
+    for (const WorkflowUpgradeChange &change : step.changes)
         changes.append(toJson(change));
     return {{QStringLiteral("version"), step.version.toString()}, {QStringLiteral("changes"), changes}};
 }
 
-QString lineOf(const UpgradeChange &change)
+QString lineOf(const WorkflowUpgradeChange &change)
 {
     QStringList values;
     for (const QJsonValue &value : {change.from, change.to}) {
@@ -82,7 +82,7 @@ QString headline(const UpgradeAnswer &answer, const UpgradeWritten &written)
 QJsonObject upgradeReportJson(const UpgradeAnswer &answer, const UpgradeWritten &written)
 {
     QJsonArray steps;
-    for (const UpgradeStep &step : answer.steps)
+    for (const WorkflowUpgradeStep &step : answer.steps)
         steps.append(toJson(step));
     return {{QStringLiteral("file"), answer.file},
             {QStringLiteral("output"), orNull(written.output)},
@@ -102,9 +102,9 @@ QJsonObject upgradeReportJson(const UpgradeAnswer &answer, const UpgradeWritten 
 QString upgradeReportText(const UpgradeAnswer &answer, const UpgradeWritten &written)
 {
     QString text = headline(answer, written) + QLatin1Char('\n');
-    for (const UpgradeStep &step : answer.steps) {
+    for (const WorkflowUpgradeStep &step : answer.steps) {
         text += QStringLiteral("  %1\n").arg(step.version.toString());
-        for (const UpgradeChange &change : step.changes)
+        for (const WorkflowUpgradeChange &change : step.changes)
             text += lineOf(change);
     }
     for (const QString &note : answer.notes)

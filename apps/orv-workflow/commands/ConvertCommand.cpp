@@ -7,6 +7,7 @@
 
 #include <orv/core/LossObserver.h>
 #include <orv/propertyeditor/content/Content.h>
+#include <orv/propertyeditor/content/ItemGroup.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
@@ -88,8 +89,8 @@ private:
         const Error error = load(*document, content, lost);
         if (error.hasError())
             return {lost, failureFrom(error, BadInput)};
-        if (const std::optional<QString> tab = unevenTab(content))
-            return {lost, unevenFailure(*tab)};
+        if (const PropertyEditor::ItemGroup *tab = content.firstUnevenGroup())
+            return {lost, unevenFailure(tab->name())};
         return {lost, write(content).failureIfAny()};
     }
 

@@ -66,6 +66,16 @@ QStringList names()
     return names;
 }
 
+QStringList defaultNames()
+{
+    QStringList names;
+    for (const Row &row : kRows) {
+        if (row.isDefault)
+            names.append(row.name);
+    }
+    return names;
+}
+
 std::unique_ptr<AbstractValidator> create(const QString &name)
 {
     const QString shortName =

@@ -14,6 +14,9 @@ namespace orv::PropertyEditor::Validators {
 /// Short names, those of the default set first and in its order.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QStringList names();
 
+/// Those of the default set, in its order.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QStringList defaultNames();
+
 /// The validator of that name, which is that of its class with or without "Validator", in any case; null for
 /// any other text.
 [[nodiscard]] ORV_WORKFLOW_EXPORT std::unique_ptr<AbstractValidator> create(const QString &name);

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <orv/core/Result.h>
+#include <orv/propertyeditor/validators/Finding.h>
+#include <orv/propertyeditor/validators/FindingPlaces.h>
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+#include <optional>
+
+namespace orv::PropertyEditor {
+
+class Content;
+
+/// A fault of a workflow and where it stands.
+struct ORV_WORKFLOW_EXPORT LocatedFinding : NamedPlace
+{
+    Finding::Level level = Finding::Level::Error;
+    QString rule;
+    QString message;
+    std::optional<qsizetype> line; ///< of the pointer in the file's text, counted from 1
+    QString hint;
+
+    [[nodiscard]] bool isError() const { return level == Finding::Level::Error; }
+};
+
+/// What a document was loaded from. Findings have no pointers without the document, and no lines without its
+/// text.
+struct ORV_WORKFLOW_EXPORT WorkflowSource
+{
+    QJsonObject document = {};
+    QByteArray text = {};
+};
+
+struct ORV_WORKFLOW_EXPORT WorkflowCheckReport
+{
+    bool isValid = false;
+    QStringList errors;
+    QStringList warnings;
+    QList<LocatedFinding> findings;
+};
+
+/// Checks workflows as the window does before it uses them: a copy with absolute paths.
+/// \code
+///     const Result<WorkflowCheckReport> report = WorkflowCheck().run(content, folderUrl);
+/// \endcode
+class ORV_WORKFLOW_EXPORT WorkflowCheck
+{
+public:
+    /// By short names of validators; with none the default set, to which that of sample types belongs where a
+    /// workflow holds nothing but Karvon searches.
+    explicit WorkflowCheck(const QStringList &validators = {});
+
+    /// Those that run on every workflow, in their order.
+    [[nodiscard]] const QStringList &validators() const { return m_validators; }
+
+    /// \a baseUrl is the workflow's folder, with a slash at its end. Fails for a document of which there is
+    /// no such copy. On the thread of the content.
+    [[nodiscard]] Result<WorkflowCheckReport> run(const Content &content, const QUrl &baseUrl,
+                                                  const WorkflowSource &source = {}) const;
+
+private:
+    bool m_isDefault;
+    QStringList m_validators;
+};
+
+} // namespace orv::PropertyEditor

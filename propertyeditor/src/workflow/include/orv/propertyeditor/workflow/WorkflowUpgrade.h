@@ -1,0 +1,59 @@
+#pragma once
+
+#include <orv/core/Error.h>
+#include <orv/core/Export.h>
+#include <orv/core/LossObserver.h>
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
+#include <orv/propertyeditor/workflow/WorkflowUpgradeReview.h>
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+#include <QVersionNumber>
+
+#include <optional>
+
+namespace orv {
+
+struct ORV_WORKFLOW_EXPORT WorkflowUpgradeOptions
+{
+    bool accessSampleData = true;
+    QUrl baseUrl; ///< the workflow's folder, with a slash at its end, from which its relative files count
+    QString user; ///< to stamp with; empty for the current one
+};
+
+/// What became of one document. Nothing is written.
+struct ORV_WORKFLOW_EXPORT WorkflowUpgradeReport
+{
+    QVersionNumber from;
+    QVersionNumber to;
+    std::optional<WflwMetaData::WflwState> state; ///< before; none for what is no workflow
+    QStringList notes;
+    bool isChanged = false;
+    QList<WorkflowUpgradeStep> steps;
+    QList<Loss> lost;    ///< what the first load of the document drops; every step works on what is left
+    QByteArray upgraded; ///< the text of the new document; empty when nothing is changed
+    Error error;         ///< why there is none
+};
+
+/// WflwUpgrader with all that a host tells of an upgrade:
+/// \code
+///     const WorkflowUpgradeReport report = WorkflowUpgrade::run(document, {.baseUrl = folder});
+///     if (report.error)
+///         return refuse(report.error);
+///     if (report.isChanged && report.lost.isEmpty())
+///         write(report.upgraded);
+/// \endcode
+namespace WorkflowUpgrade {
+
+/// MalformedStructure for what has no tabs, InvalidContent for a version that can't be used, and the error of
+/// a step. Blocks as WflwUpgrader does.
+[[nodiscard]] ORV_WORKFLOW_EXPORT WorkflowUpgradeReport run(const QJsonObject &document,
+                                                            const WorkflowUpgradeOptions &options);
+
+} // namespace WorkflowUpgrade
+
+} // namespace orv

@@ -1,0 +1,136 @@
+// What an upgrade tells: state, steps to review, losses, notes and the new text.
+#include "OrvTest.h"
+#include "TestData.h"
+#include "UpgradeDocuments.h"
+#include "UpgradeRuns.h"
+
+#include <orv/propertyeditor/workflow/WorkflowUpgrade.h>
+
+using namespace orv;
+using namespace UpgradeDocuments;
+using namespace Qt::StringLiterals;
+using Id = PropertyId;
+using ReviewedKind = WorkflowUpgradeChange::Kind;
+using ReportedState = WflwMetaData::WflwState;
+
+namespace {
+
+WorkflowUpgradeReport reportOf(const PropertyEditorContent &document)
+{
+    const UpgradeRuns::WithoutSampleFiles expected;
+    return WorkflowUpgrade::run(document.document(), {.accessSampleData = false, .user = u"reviewer"_s});
+}
+
+/// What the step to that version did, as "kind property".
+QStringList changesOfStep(const WorkflowUpgradeReport &report, const QString &version)
+{
+    static const QStringList kinds{u"added"_s, u"removed"_s, u"renamed"_s, u"moved"_s, u"changed"_s};
+    QStringList changes;
+    for (const WorkflowUpgradeStep &step : report.steps) {
+        if (step.version.toString() != version)
+            continue;
+        for (const WorkflowUpgradeChange &change : step.changes)
+            changes.append(kinds.at(int(change.kind)) + u' ' + change.property);
+    }
+    return changes;
+}
+
+} // namespace
+
+class TestWorkflowUpgrade : public OrvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aCurrentDocumentNeedsNothing();
+    void stepsAreToldWithTheirChanges();
+    void aSettingThatLivesOnIsRenamed();
+    void theTextIsStampedForTheUser();
+    void lossesOfTheFirstLoadAreTold();
+    void whatHasNoTabsIsNoWorkflow();
+    void newerDocumentsAreRefusedWithTheirState();
+    void aStepThatFailsIsTold();
+};
+
+void TestWorkflowUpgrade::aCurrentDocumentNeedsNothing()
+{
+    const WorkflowUpgradeReport report =
+        reportOf(document(WorkflowType::PeptideMap, {cell(u"Senthia"_s, {})},
+                          WflwMetaData::currentWorkflowVersion().toString()));
+    QVERIFY(!report.error.hasError());
+    QVERIFY(report.state == ReportedState::UpToDate);
+    QVERIFY(!report.isChanged && report.steps.isEmpty() && report.upgraded.isEmpty());
+    QCOMPARE(report.to, report.from);
+}
+
+void TestWorkflowUpgrade::stepsAreToldWithTheirChanges()
+{
+    const WorkflowUpgradeReport report = reportOf(document(
+        WorkflowType::PeptideMap,
+        {cell(u"Senthia"_s, {{Id::CreateXicCache, u"true"_s}}), cell(u"Karvon"_s, {})}, u"5.40.0"_s));
+    QVERIFY(!report.error.hasError());
+    QVERIFY(report.state == ReportedState::NeedsUpgrade);
+    QCOMPARE(report.from, QVersionNumber(5, 40, 0));
+    QCOMPARE(report.to, WflwMetaData::currentWorkflowVersion());
+    QCOMPARE(changesOfStep(report, u"5.41.0"_s), QStringList{u"added KarvonNglycanMotifLetters"_s});
+    QCOMPARE(changesOfStep(report, u"5.42.0"_s), QStringList{u"removed CreateXicCache"_s});
+}
+
+void TestWorkflowUpgrade::aSettingThatLivesOnIsRenamed()
+{
+    const WorkflowUpgradeReport report = reportOf(document(
+        WorkflowType::PeptideMap, {cell(u"Senthia"_s, {{Id::EnableInSilico, u"true"_s}})}, u"5.45.0"_s));
+    const QStringList changes = changesOfStep(report, u"5.46.0"_s);
+    QVERIFY2(changes.contains(u"renamed InSilicoMode"_s), qPrintable(changes.join(u'\n')));
+    QVERIFY(!changes.contains(u"removed EnableInSilico"_s));
+}
+
+void TestWorkflowUpgrade::theTextIsStampedForTheUser()
+{
+    const WorkflowUpgradeReport report =
+        reportOf(document(WorkflowType::PeptideMap, {cell(u"Senthia"_s, {})}, u"5.40.0"_s));
+    QVERIFY(report.isChanged);
+    const PropertyEditorContent upgraded(report.upgraded);
+    QCOMPARE(UpgradeRuns::versionOf(upgraded), WflwMetaData::currentWorkflowVersion());
+    QCOMPARE(upgraded.metadata().value(u"user").toString(), u"reviewer"_s);
+}
+
+void TestWorkflowUpgrade::lossesOfTheFirstLoadAreTold()
+{
+    QJsonObject odd = cell(u"Senthia"_s, {});
+    odd.insert(u"properties"_s, QJsonArray{QJsonObject{{u"name"_s, u"NoSuchSetting"_s}, {u"value"_s, 1}}});
+    const LogCapture log;
+    const WorkflowUpgradeReport report = reportOf(document(WorkflowType::PeptideMap, {odd}, u"5.40.0"_s));
+    QCOMPARE(report.lost.size(), 1);
+    QVERIFY(report.lost.constFirst().what.contains(u"NoSuchSetting"_s));
+}
+
+void TestWorkflowUpgrade::whatHasNoTabsIsNoWorkflow()
+{
+    const WorkflowUpgradeReport report = WorkflowUpgrade::run({}, {});
+    QCOMPARE(report.error.code(), ErrorCode::MalformedStructure);
+    QVERIFY(!report.state);
+}
+
+void TestWorkflowUpgrade::newerDocumentsAreRefusedWithTheirState()
+{
+    const LogCapture log;
+    const WorkflowUpgradeReport report =
+        reportOf(document(WorkflowType::PeptideMap, {cell(u"Senthia"_s, {})}, u"6.0.0"_s));
+    QVERIFY(report.error.hasError());
+    QVERIFY(!report.error.errorMessages().isEmpty());
+    QVERIFY(report.state == ReportedState::NotSupported);
+    QVERIFY(!report.isChanged && report.lost.isEmpty());
+}
+
+void TestWorkflowUpgrade::aStepThatFailsIsTold()
+{
+    const WorkflowUpgradeReport report = reportOf(
+        document(WorkflowType::IntactMass, {samplesCell({u"a"_s}), cell(u"Senthia"_s, {})}, u"5.25.0"_s));
+    QCOMPARE(report.error.errorMessage(),
+             u"Workflow does not contain the expected trace peak option presets."_s);
+    QVERIFY(!report.isChanged && report.steps.isEmpty());
+}
+
+ORV_REGISTER_TEST(TestWorkflowUpgrade)
+#include "TestWorkflowUpgrade.moc"
