@@ -126,8 +126,8 @@ void TestMassesTableItem::anIncompleteToleranceBecomesTheDefault()
     QFETCH(const QJsonObject, value);
     LossCollector losses;
     MassesTableItem item;
-    item.setLoadContext(LoadContext(&losses, u"/c"_s));
-    ORV_VERIFY_OK(item.assignFromJson(cell(u"Masses"_s, {masses(), entry(u"MatchTolerance"_s, value)}), {}));
+    ORV_VERIFY_OK(item.load(cell(u"Masses"_s, {masses(), entry(u"MatchTolerance"_s, value)}), {},
+                            LoadContext(&losses, u"/c"_s)));
     QVERIFY(!item.hasMatchTolerance());
     QCOMPARE(item.toJson(kKeep), cell(u"Masses"_s, {masses()}));
     QCOMPARE(losses.losses().size(), 1);

@@ -83,8 +83,7 @@ void TestOligoMassesTableItem::everythingIsReadAndWritten()
 {
     LossCollector losses;
     OligoMassesTableItem item;
-    item.setLoadContext(LoadContext(&losses, u"/c"_s));
-    ORV_VERIFY_OK(item.assignFromJson(cell(u"OligoMasses"_s, full()), {}));
+    ORV_VERIFY_OK(item.load(cell(u"OligoMasses"_s, full()), {}, LoadContext(&losses, u"/c"_s)));
     QCOMPARE(item.type(), BaseItemType::OligoMasses);
     QVERIFY(item.hasMatchTolerance());
     QVERIFY(item.tolerances() == someTolerances());
@@ -141,9 +140,8 @@ void TestOligoMassesTableItem::aPayloadThatIsNoObjectIsReported()
 {
     LossCollector losses;
     OligoMassesTableItem item;
-    item.setLoadContext(LoadContext(&losses, u"/c"_s));
-    ORV_VERIFY_OK(
-        item.assignFromJson(cell(u"OligoMasses"_s, {oligoMasses(), entry(u"Tolerances"_s, u"text"_s)}), {}));
+    ORV_VERIFY_OK(item.load(cell(u"OligoMasses"_s, {oligoMasses(), entry(u"Tolerances"_s, u"text"_s)}), {},
+                            LoadContext(&losses, u"/c"_s)));
     QCOMPARE(losses.losses().size(), 1);
     QCOMPARE(losses.losses().first().path, u"/c/properties/1/value"_s);
 }

@@ -1,3 +1,4 @@
+#include "CurrentVersion.h"
 #include "LogCapture.h"
 #include "OrvTest.h"
 #include "ProjectFixtures.h"
@@ -51,11 +52,6 @@ PropertyEditorContent workflow(const QJsonArray &tabs)
 QString versionOf(const PropertyEditorContent &content)
 {
     return WflwMetaData::versionFromMetaDataObject(content.metadata());
-}
-
-QString currentVersion()
-{
-    return WflwMetaData::currentWorkflowVersion().toString();
 }
 
 } // namespace
@@ -142,7 +138,7 @@ void TestPropertyEditorUtils::applicationsKeepTheirCells()
     const PropertyEditorContent adjusted =
         Utils::adjustContentToApplication(workflow(tabs), ApplicationType(app));
     QCOMPARE(shapeOf(adjusted), expected.join(u"; "_s));
-    QCOMPARE(versionOf(adjusted), currentVersion());
+    QCOMPARE(versionOf(adjusted), currentVersionText());
 }
 
 void TestPropertyEditorUtils::columnsAndTabsLeftEmptyAreRemoved()

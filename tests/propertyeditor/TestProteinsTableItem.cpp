@@ -71,8 +71,7 @@ void TestProteinsTableItem::proteinsAreReadAndWritten()
 {
     LossCollector losses;
     ProteinsTableItem item;
-    item.setLoadContext(LoadContext(&losses, u"/c"_s));
-    ORV_VERIFY_OK(item.assignFromJson(proteins(), {}));
+    ORV_VERIFY_OK(item.load(proteins(), {}, LoadContext(&losses, u"/c"_s)));
     QCOMPARE(item.value(0, 1), QVariant(u"EVQLV"_s));
     QVERIFY(item.proteinAnnotations() == QList{annotation()});
     QCOMPARE(item.toJson(kKeepProteins), proteins());
@@ -116,8 +115,8 @@ void TestProteinsTableItem::annotationsThatAreNoArrayAreReported()
 {
     LossCollector losses;
     ProteinsTableItem item;
-    item.setLoadContext(LoadContext(&losses, u"/c"_s));
-    ORV_VERIFY_OK(item.assignFromJson(proteins(QJsonObject{{u"name"_s, u"CDR-H3"_s}}), {}));
+    ORV_VERIFY_OK(
+        item.load(proteins(QJsonObject{{u"name"_s, u"CDR-H3"_s}}), {}, LoadContext(&losses, u"/c"_s)));
     QVERIFY(item.proteinAnnotations().isEmpty());
     QCOMPARE(losses.losses().size(), 1);
     QCOMPARE(losses.losses().first().path, u"/c/properties/0/value/proteinAnnotations"_s);

@@ -189,10 +189,9 @@ void TestSamplesTableItem::whatIsNotKeptIsTold()
 {
     LossCollector losses;
     SamplesTableItem item;
-    item.setLoadContext(LoadContext(&losses));
     QJsonObject json = samplesCell(twoSamples());
     json.insert(u"extra"_s, 1);
-    ORV_VERIFY_OK(item.assignFromJson(json, {}));
+    ORV_VERIFY_OK(item.load(json, {}, LoadContext(&losses)));
     QCOMPARE(losses.losses().size(), 1);
     QCOMPARE(losses.losses().constFirst().path, u"/extra"_s);
 }

@@ -74,8 +74,7 @@ void TestSequenceDatabasesTableItem::databasesComeBackAsTheyWere()
              QJsonObject{{u"id"_s, 2}, {u"fasta"_s, u""_s}, {u"species"_s, u""_s}}}}};
     LossCollector losses;
     SequenceDatabasesTableItem item;
-    item.setLoadContext(LoadContext(&losses));
-    ORV_VERIFY_OK(item.assignFromJson(databaseCell(sequences), {}));
+    ORV_VERIFY_OK(item.load(databaseCell(sequences), {}, LoadContext(&losses)));
     QCOMPARE(item.items().size(), 2);
     QCOMPARE(item.items().constFirst().fastaReference()->text(), u"human.fasta"_s);
     QCOMPARE(item.items().constFirst().species(), u"Homo sapiens"_s);

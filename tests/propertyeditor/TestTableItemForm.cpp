@@ -64,8 +64,7 @@ QList<Loss> lossesOf(const QJsonObject &json, PropertyId id = PropertyId::Isotop
 {
     LossCollector losses;
     TableItem item(id);
-    item.setLoadContext(LoadContext(&losses, u"/c"_s));
-    if (item.assignFromJson(json, {}).hasError())
+    if (item.load(json, {}, LoadContext(&losses, u"/c"_s)).hasError())
         qFatal("The cell of this test has to load.");
     return losses.losses();
 }

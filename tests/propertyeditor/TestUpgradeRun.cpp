@@ -51,7 +51,7 @@ private:
     Outcome m_outcome;
 };
 
-PropertyEditorContent document()
+PropertyEditorContent documentToEdit()
 {
     return UpgradeDocuments::document(
         WorkflowType::DataIndependentAcquisition,
@@ -69,7 +69,7 @@ void demand(const Error &error)
 
 QJsonObject together(const Edit &edit, Outcome outcome)
 {
-    PropertyEditorContent content = document();
+    PropertyEditorContent content = documentToEdit();
     OwnSteps steps(edit, outcome);
     demand(WflwUpgrader::upgradeWorkflow(versionOf(content), &content, nullptr, {.accessSampleData = false},
                                          &steps));
@@ -79,7 +79,7 @@ QJsonObject together(const Edit &edit, Outcome outcome)
 /// The same steps, none of which belongs to a run.
 QJsonObject apart(const Edit &edit, Outcome outcome)
 {
-    PropertyEditorContent content = document();
+    PropertyEditorContent content = documentToEdit();
     const PropertyEditorContent initial = content;
     const QVersionNumber version = versionOf(initial);
     for (const WflwUpgradeStep &step : WflwUpgrader::steps()) {
@@ -157,7 +157,7 @@ void TestUpgradeRun::editsBetweenTwoWritesCount()
 
 void TestUpgradeRun::unevenTabsAreRefused()
 {
-    PropertyEditorContent content = document();
+    PropertyEditorContent content = documentToEdit();
     OwnSteps steps([](Content &tree) { tree.group(3)->addSubGroup(u"Empty"_s, BaseItemType::Isotope); },
                    Outcome::Written);
     const Error error = WflwUpgrader::upgradeWorkflow(versionOf(content), &content, nullptr,

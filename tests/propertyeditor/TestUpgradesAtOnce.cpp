@@ -22,7 +22,7 @@ using UpgradeRuns::withoutMoment;
 
 namespace {
 
-const QString kReference = u"unifi:/lab/{0b61}/Runs/inj 1"_s;
+const QString kSampleOnServer = u"unifi:/lab/{0b61}/Runs/inj 1"_s;
 
 /// What is done to the other document while a step of \a helper waits.
 using Work = std::function<void(WflwUpgradeHelper &helper, PropertyEditorContent *other)>;
@@ -30,7 +30,7 @@ using Work = std::function<void(WflwUpgradeHelper &helper, PropertyEditorContent
 /// A document whose upgrade asks the server, and goes on for many steps after that.
 PropertyEditorContent waitingDocument()
 {
-    return ofSamples({sample(1, u"lot 1"_s, kReference)}, {{u"version"_s, u"5.16.1"_s}});
+    return ofSamples({sample(1, u"lot 1"_s, kSampleOnServer)}, {{u"version"_s, u"5.16.1"_s}});
 }
 
 /// One that asks nobody, and has more cells than the other.

@@ -18,7 +18,8 @@ namespace {
 WorkflowUpgradeReport reportOf(const PropertyEditorContent &document)
 {
     const UpgradeRuns::WithoutSampleFiles expected;
-    return WorkflowUpgrade::run(document.document(), {.accessSampleData = false, .user = u"reviewer"_s});
+    return WorkflowUpgrade::run(document.document(),
+                                {.accessSampleData = false, .baseUrl = {}, .user = u"reviewer"_s});
 }
 
 /// What the step to that version did, as "kind property".

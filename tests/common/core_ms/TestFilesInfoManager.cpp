@@ -95,7 +95,7 @@ void TestFilesInfoManager::relativePathsMayCountFromAnotherFolder()
     QFETCH(QString, text);
     const SampleTree tree;
     tree.add(u"data/run 1.mzML"_s);
-    const ResourceReferenceSPtr asked = reference(text);
+    const ResourceReferenceSPtr asked = referenceOf(text);
     SimpleFilesInfoManager manager({asked}, QUrl::fromLocalFile(tree.at({}) + u'/'));
     const Result<ResourceReferenceSPtr> found = manager.validateAndCorrectFileReference(asked);
     ORV_VERIFY_OK(found);

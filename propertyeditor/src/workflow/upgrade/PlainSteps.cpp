@@ -76,30 +76,30 @@ struct PlainStep
     PropertyId before = PropertyId::NoProperty; ///< which the setting stands behind, in place of the end
 };
 
-constexpr QLatin1String kReport("Report");
-constexpr QLatin1String kMatch("Match between runs");
+constexpr QLatin1String kReportGroup("Report");
+constexpr QLatin1String kMatchGroup("Match between runs");
 constexpr Workflows kAllWorkflows;
 constexpr Workflows kLabelFree{.only = {WorkflowType::LabelFreeQuantification}};
 
 // clang-format off
 constexpr std::array kPlainSteps = {
     PlainStep{15, kAllWorkflows, Change::Insert, {Cell::Karvon},
-              PropertyId::ExportSearchReport, kReport, false},
+              PropertyId::ExportSearchReport, kReportGroup, false},
     PlainStep{20, kAllWorkflows, Change::Insert, {Cell::Senthia, Cell::Dravik},
               PropertyId::IsotopeModel, QLatin1String("Feature Finder"), 0},
     PlainStep{21, {.only = {WorkflowType::ProteinSearch}}, Change::Insert, {Cell::Karvon},
-              PropertyId::ReportConfiguration, kReport, kNoText},
+              PropertyId::ReportConfiguration, kReportGroup, kNoText},
     PlainStep{30, {.only = {WorkflowType::DigestedOligo}}, Change::Insert, {Cell::Senthia},
               PropertyId::InSilicoPeptidesFile, QLatin1String("In-silico options (CSV import)"), kNoText},
     PlainStep{34, kLabelFree, Change::Insert, {Cell::Trenq},
-              PropertyId::MatchBetweenRuns, kMatch, 0},
+              PropertyId::MatchBetweenRuns, kMatchGroup, 0},
     PlainStep{36, kLabelFree, Change::Insert, {Cell::Trenq},
-              PropertyId::RetentionTimeAlignment, kMatch, true},
+              PropertyId::RetentionTimeAlignment, kMatchGroup, true},
     PlainStep{37, kLabelFree, Change::Insert, {Cell::Trenq},
               PropertyId::ReportedPeptideSelection, QLatin1String("Reported peptide filtering"), 0,
               PropertyId::ReportedPeptideCount},
     PlainStep{38, kAllWorkflows, Change::Insert, {Cell::Senthia, Cell::Trenq},
-              PropertyId::PdfReportTemplate, kReport, kNoText},
+              PropertyId::PdfReportTemplate, kReportGroup, kNoText},
     PlainStep{40, {.only = {WorkflowType::LabelFreeQuantification, WorkflowType::GlycoproteinSearch}},
               Change::Insert, {Cell::Karvon},
               PropertyId::KarvonInclusionFilter, QLatin1String("Inclusion"), kNoText},
