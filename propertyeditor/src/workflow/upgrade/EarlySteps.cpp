@@ -22,8 +22,8 @@ constexpr QLatin1String kOldIcIefName("IntaBio icIEF-MS");
 constexpr QLatin1String kIcIefName("icIEF-MS");
 constexpr QLatin1String kOldPeaksName("IntaBio_pI_slices");
 constexpr QLatin1String kPeaksName("icIEF_pI_slices");
-constexpr QLatin1String kOldReport("../../Intact/report_config/Intact_IntaBioReport.rptc");
-constexpr QLatin1String kReport("../../Intact/report_config/Intact_icIEF_Report.rptc");
+constexpr QLatin1String kOldIcIefReport("../../Intact/report_config/Intact_IntaBioReport.rptc");
+constexpr QLatin1String kIcIefReport("../../Intact/report_config/Intact_icIEF_Report.rptc");
 
 void renamePeaks(SamplesAndTracesContent *content)
 {
@@ -45,11 +45,11 @@ Error renameReport(KeyValueItem *item)
     const ResourceReferenceSPtr reference =
         ResourceReferenceUtils::fromVariant(item->value(PropertyId::ReportConfiguration));
     const bool isOld = reference && reference->isScheme(ResourceReference::Scheme::LocalFile) &&
-                       reference->text() == kOldReport;
+                       reference->text() == kOldIcIefReport;
     if (!isOld)
         return Error::NoError;
     return setValue(item, PropertyId::ReportConfiguration,
-                    QVariant::fromValue(ResourceReferenceUtils::fromString(kReport)));
+                    QVariant::fromValue(ResourceReferenceUtils::fromString(kIcIefReport)));
 }
 
 } // namespace
