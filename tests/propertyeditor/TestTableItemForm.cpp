@@ -99,7 +99,7 @@ void TestTableItemForm::theOtherSamplesWriteTheirCustomColumns()
 {
     const QJsonObject definitions = node({QJsonObject{{u"name"_s, u"Age"_s}}});
     const QJsonObject json =
-        cell(u"Karvon"_s, {entry(u"Samples"_s, isotopeTable()), entry(u"CustomColumns"_s, definitions)});
+        cell(u"Karvon"_s, {entry(u"Samples"_s, table()), entry(u"CustomColumns"_s, definitions)});
     TableItem item(PropertyId::Samples, BaseItemType::Karvon);
     QCOMPARE(item.toJson(kKeepForm),
              cell(u"Karvon"_s, {entry(u"Samples"_s, node({})), entry(u"CustomColumns"_s, node({}))}));
@@ -197,7 +197,7 @@ void TestTableItemForm::aFailedLoadLeavesAnEmptyTable_data()
 {
     QTest::addColumn<QJsonObject>("json");
     QTest::newRow("no properties") << QJsonObject{{u"type"_s, u"Isotope"_s}};
-    QTest::newRow("no isotopeTable") << cell(u"Isotope"_s, {5});
+    QTest::newRow("no table") << cell(u"Isotope"_s, {5});
 }
 
 void TestTableItemForm::aFailedLoadLeavesAnEmptyTable()
@@ -215,8 +215,7 @@ void TestTableItemForm::clearingAnnouncesNothing()
     TableItem item(PropertyId::Samples, BaseItemType::Karvon);
     const QJsonObject definitions = node({QJsonObject{{u"name"_s, u"Age"_s}}});
     ORV_VERIFY_OK(item.assignFromJson(
-        cell(u"Karvon"_s, {entry(u"Samples"_s, isotopeTable()), entry(u"CustomColumns"_s, definitions)}),
-        {}));
+        cell(u"Karvon"_s, {entry(u"Samples"_s, table()), entry(u"CustomColumns"_s, definitions)}), {}));
     const QSignalSpy reset(&item, &BaseItem::reset);
     const QSignalSpy rows(&item, &BaseTableItem::rowCountChanged);
     const QSignalSpy columns(&item, &BaseTableItem::columnCountChanged);
@@ -236,19 +235,18 @@ void TestTableItemForm::whatIsNotKeptIsReported_data()
     const QJsonObject main = entry(u"Isotope"_s, isotopeTable());
     QJsonObject json = isotopes();
     json.insert(u"a/b"_s, 1);
-    QTest::newRow("member of the cell") << json << u"/c/a~1b"_s << u"member \"a/b\" of a isotopeTable cell"_s;
+    QTest::newRow("member of the cell") << json << u"/c/a~1b"_s << u"member \"a/b\" of a table cell"_s;
 
     json = isotopes();
     json.insert(u"title"_s, QJsonArray{1});
-    QTest::newRow("title that is no text")
-        << json << u"/c/title"_s << u"member \"title\" of a isotopeTable cell"_s;
+    QTest::newRow("title that is no text") << json << u"/c/title"_s << u"member \"title\" of a table cell"_s;
 
     QTest::newRow("other property") << cell(u"Isotope"_s, {main, entry(u"MassTable"_s, isotopeTable())})
                                     << u"/c/properties/1"_s << u"property \"MassTable\""_s;
     QTest::newRow("unknown property")
         << cell(u"Isotope"_s, {entry(u"Odd"_s, 1), main}) << u"/c/properties/0"_s << u"property \"Odd\""_s;
-    QTest::newRow("second isotopeTable")
-        << cell(u"Isotope"_s, {main, main}) << u"/c/properties/1"_s << u"property \"Isotope\""_s;
+    QTest::newRow("second table") << cell(u"Isotope"_s, {main, main}) << u"/c/properties/1"_s
+                                  << u"property \"Isotope\""_s;
     QTest::newRow("custom columns, which are read but not written")
         << cell(u"Isotope"_s, {main, entry(u"CustomColumns"_s, node({}))}) << u"/c/properties/1"_s
         << u"property \"CustomColumns\""_s;
@@ -256,13 +254,13 @@ void TestTableItemForm::whatIsNotKeptIsReported_data()
     QJsonObject grouped = main;
     grouped.insert(u"group"_s, u"g"_s);
     QTest::newRow("member of the entry") << cell(u"Isotope"_s, {grouped}) << u"/c/properties/0/group"_s
-                                         << u"member \"group\" of a isotopeTable cell"_s;
+                                         << u"member \"group\" of a table cell"_s;
 
-    QTest::newRow("text as isotopeTable") << cell(u"Isotope"_s, {entry(u"Isotope"_s, u"text"_s)})
-                                          << u"/c/properties/0/value"_s << u"value of the isotopeTable"_s;
-    QTest::newRow("object that is no isotopeTable")
+    QTest::newRow("text as table") << cell(u"Isotope"_s, {entry(u"Isotope"_s, u"text"_s)})
+                                   << u"/c/properties/0/value"_s << u"value of the table"_s;
+    QTest::newRow("object that is no table")
         << cell(u"Isotope"_s, {entry(u"Isotope"_s, QJsonObject{{u"data"_s, 5}})})
-        << u"/c/properties/0/value"_s << u"value of the isotopeTable"_s;
+        << u"/c/properties/0/value"_s << u"value of the table"_s;
 }
 
 void TestTableItemForm::whatIsNotKeptIsReported()

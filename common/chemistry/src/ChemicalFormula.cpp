@@ -18,8 +18,7 @@ struct ChemicalFormulaTr
 
 Error malformedFormula(const QString &text, const QString &place)
 {
-    return Error(ErrorCode::InvalidContent,
-                 ChemicalFormulaTr::tr("The chemical formula is malformedFormula."))
+    return Error(ErrorCode::InvalidContent, ChemicalFormulaTr::tr("The chemical formula is malformed."))
         .addDetail(ChemicalFormulaTr::tr("The formula is \"%1\". %2").arg(text.left(100), place));
 }
 

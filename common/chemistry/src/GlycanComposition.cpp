@@ -17,7 +17,7 @@ struct GlycanCompositionTr
 Error malformedComposition(const QString &text, const QString &place)
 {
     return Error(ErrorCode::InvalidContent,
-                 GlycanCompositionTr::tr("The composition of a glycan is malformedComposition."))
+                 GlycanCompositionTr::tr("The composition of a glycan is malformed."))
         .addDetail(GlycanCompositionTr::tr("It is \"%1\". %2").arg(text.left(100), place))
         .addDetail(GlycanCompositionTr::tr("Write it as \"HexNAc(4)Hex(3)Fuc(1)\"."));
 }

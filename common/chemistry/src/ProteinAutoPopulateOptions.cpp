@@ -17,7 +17,7 @@ struct ProteinAutoPopulateOptionsTr
 Error malformedProteinName(const QString &place)
 {
     return Error(ErrorCode::InvalidContent,
-                 ProteinAutoPopulateOptionsTr::tr("The name of combined proteins is malformedProteinName."))
+                 ProteinAutoPopulateOptionsTr::tr("The name of combined proteins is malformed."))
         .addDetail(place)
         .addDetail(ProteinAutoPopulateOptionsTr::tr("Write it as \"Auto(HC:0-2,LC:0-2)\"."));
 }

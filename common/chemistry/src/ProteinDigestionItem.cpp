@@ -22,8 +22,7 @@ struct ProteinDigestionItemTr
 
 Error malformedDigestion(const QString &place)
 {
-    return Error(ErrorCode::InvalidContent,
-                 ProteinDigestionItemTr::tr("The digestion text is malformedDigestion."))
+    return Error(ErrorCode::InvalidContent, ProteinDigestionItemTr::tr("The digestion text is malformed."))
         .addDetail(place)
         .addDetail(ProteinDigestionItemTr::tr("Write it as \"Trypsin @ R,K | C-term\"."));
 }
