@@ -99,14 +99,16 @@ def copied(entry, sources, name):
 
 
 def changed_since(revision, sources):
-    """The sources that changed, and those that include a header that did; all when the checks themselves changed."""
-    output = subprocess.run(["git", "diff", "--name-only", revision, "--"], cwd=ROOT, capture_output=True, text=True)
+    """The sources that changed, and those that include a header that did; all when the checks themselves changed. What
+    was only moved didn't change."""
+    output = subprocess.run(["git", "diff", "--name-status", "--find-renames=100%", "--diff-filter=r", revision, "--"],
+                            cwd=ROOT, capture_output=True, text=True)
     untracked = subprocess.run(["git", "ls-files", "--others", "--exclude-standard"], cwd=ROOT, capture_output=True,
                                text=True, check=True)
     if output.returncode != 0:
         sys.exit("lint: " + output.stderr.strip())
-    changed = set((output.stdout + untracked.stdout).split("\n"))
-    if changed & {".clang-tidy", "tools/tidy.py", "cmake/OrvCompiler.cmake"}:
+    changed = {line.split("\t")[-1] for line in (output.stdout + untracked.stdout).splitlines()}
+    if ".clang-tidy" in changed:
         return set(sources)
     headers = {os.path.basename(path) for path in changed if path.endswith(".h")}
     found = {source for source in sources if os.path.relpath(source, ROOT) in changed}

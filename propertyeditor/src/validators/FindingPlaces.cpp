@@ -67,7 +67,7 @@ QString FindingPlaces::pointerOf(Cell &cell, const FindingPlace &place) const
 {
     if (m_document.isEmpty())
         return {};
-    const QString pointer =
+    QString pointer =
         QStringLiteral("/%1/%2/%3/%4").arg(TABS_KEY).arg(cell.tab).arg(CELLS_KEY).arg(cell.number);
     if (place.property == PropertyId::NoProperty)
         return pointer;

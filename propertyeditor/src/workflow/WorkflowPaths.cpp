@@ -21,7 +21,7 @@ QJsonObject absoluteJson(const Content &content, const QUrl &baseUrl)
     Content view(content);
     const QUrl baseBefore = view.baseUrl();
     view.setBaseUrl(baseUrl);
-    const QJsonObject json = view.toJsonObject(PropertyConversionFlag::AbsolutePaths);
+    QJsonObject json = view.toJsonObject(PropertyConversionFlag::AbsolutePaths);
     view.setBaseUrl(baseBefore);
     return json;
 }
