@@ -144,17 +144,10 @@ void TestWorkflowCheck::onlySearchesOfOneKindAreAskedForTheirVendors()
     QFETCH(QStringList, validators);
     QFETCH(QString, document);
     QFETCH(bool, isAsked);
-    const QTemporaryDir folder;
-    const auto make = [&folder](const QString &name) {
-        QFile file(folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-    };
-    make(u"a.wiff"_s);
-    make(u"b.mgf"_s);
     const WorkflowCheckReport report =
-        reportOn(ProjectFixtures::document({samplesCell({{u"a"_s, folder.filePath(u"a.wiff"_s), {}, {}},
-                                                         {u"b"_s, folder.filePath(u"b.mgf"_s), {}, {}}}),
-                                            step(document)}),
+        reportOn(ProjectFixtures::document(
+                     {samplesCell({{u"a"_s, u"/n/a.mzML"_s, {}, {}}, {u"b"_s, u"/n/b.mgf"_s, {}, {}}}),
+                      step(document)}),
                  validators);
     const bool wasAsked = std::ranges::any_of(
         report.findings, [](const LocatedFinding &finding) { return finding.rule == u"SampleTypes"_s; });

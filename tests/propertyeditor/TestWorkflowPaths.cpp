@@ -1,3 +1,4 @@
+#include "LogCapture.h"
 #include "OrvTest.h"
 #include "ProjectFixtures.h"
 
@@ -74,6 +75,7 @@ void TestWorkflowPaths::theOriginalStaysAsItIs()
 
 void TestWorkflowPaths::cellsOfUnknownTypesAreCopied()
 {
+    const LogCapture log;
     Content content;
     ORV_VERIFY_OK(content.assignFromJson(
         ProjectFixtures::document({QJsonObject{{u"type"_s, u"Retired"_s}, {u"properties"_s, QJsonArray()}}}),

@@ -21,8 +21,9 @@ namespace orv {
 struct ORV_WORKFLOW_EXPORT WorkflowUpgradeOptions
 {
     bool accessSampleData = true;
-    QUrl baseUrl; ///< the workflow's folder, with a slash at its end, from which its relative files count
-    QString user; ///< to stamp with; empty for the current one
+    QUrl baseUrl =
+        {}; ///< the workflow's folder, with a slash at its end, from which its relative files count
+    QString user = {}; ///< to stamp with; empty for the current one
 };
 
 /// What became of one document. Nothing is written.
