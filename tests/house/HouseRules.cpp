@@ -59,6 +59,13 @@ QStringList captures(const QRegularExpression &expression, const QString &text)
     return found;
 }
 
+const QRegularExpression &includeDirective()
+{
+    static const QRegularExpression directive(uR"(^\s*#\s*include\s*[<"]([^>"]+)[>"])"_s,
+                                              QRegularExpression::MultilineOption);
+    return directive;
+}
+
 /// Sources and private headers of a module may lie in folders of these names, which need no words of their
 /// own.
 bool isPartOfAModule(const QString &folder)
@@ -112,7 +119,7 @@ QString HouseRules::resolved(const QString &file, const QString &included) const
 
 QList<HouseRules::Include> HouseRules::includes() const
 {
-    static const QRegularExpression directive(uR"(^\s*#\s*include\s*[<"]([^>"]+)[>"])"_s);
+    const QRegularExpression &directive = includeDirective();
     QList<Include> found;
     for (const QString &file : m_files) {
         const QStringList lines = read(file).split(u'\n');
@@ -218,6 +225,22 @@ QStringList HouseRules::headersWithoutPragmaOnce() const
     for (const QString &file : m_files + m_testFiles) {
         if (file.endsWith(".h"_L1) && !pragma.match(read(file)).hasMatch())
             violations.append(file + u" has no #pragma once"_s);
+    }
+    return violations;
+}
+
+QStringList HouseRules::ownHeadersThatComeLate() const
+{
+    QStringList violations;
+    for (const QString &file : m_files) {
+        if (!file.endsWith(".cpp"_L1))
+            continue;
+        const QString own = QFileInfo(file).completeBaseName() + u".h"_s;
+        const QStringList included = captures(includeDirective(), read(file));
+        const auto isOwn = [&own](const QString &name) { return name.section(u'/', -1) == own; };
+        const auto found = std::ranges::find_if(included, isOwn);
+        if (found != included.cend() && found != included.cbegin())
+            violations.append(u"%1 includes %2 before its own header"_s.arg(file, included.constFirst()));
     }
     return violations;
 }

@@ -26,6 +26,9 @@ public:
 
     [[nodiscard]] QStringList headersWithoutPragmaOnce() const;
 
+    /// Sources that include another file before their own header, which therefore needn't compile alone.
+    [[nodiscard]] QStringList ownHeadersThatComeLate() const;
+
     /// Sources and public headers that no CMakeLists.txt names, and private headers that nobody includes.
     [[nodiscard]] QStringList filesThatAreNotBuilt() const;
 

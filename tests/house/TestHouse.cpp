@@ -33,6 +33,7 @@ private Q_SLOTS:
     void headersAreIncludedOnce() { verifyNone(ofTheProject().headersWithoutPragmaOnce()); }
     void callsPointDownwards() { verifyNone(ofTheProject().upwardCalls()); }
     void foldersTellWhatTheyHold() { verifyNone(ofTheProject().foldersWithoutReadme()); }
+    void ownHeadersComeFirst() { verifyNone(ofTheProject().ownHeadersThatComeLate()); }
     void allSourcesAreBuilt() { verifyNone(ofTheProject().filesThatAreNotBuilt()); }
     void filesAreShort() { verifyNone(ofTheProject().filesThatAreTooLong()); }
 
@@ -44,6 +45,7 @@ private Q_SLOTS:
     void anUpwardCallOfAFacadeIsFound_data();
     void anUpwardCallOfAFacadeIsFound();
     void aFolderWithoutReadmeIsFound();
+    void anOwnHeaderThatComesLateIsFound();
     void aModuleWithoutAFloorIsFound();
     void aHeaderWithoutPragmaIsFound();
     void whatIsNotBuiltIsFound();
@@ -205,6 +207,16 @@ void TestHouse::aFolderWithoutReadmeIsFound()
     };
     QCOMPARE(HouseRules(root.path()).foldersWithoutReadme(),
              QStringList({violation(u"apps/tool"_s), violation(u"propertyeditor/src/workflow/upgrade"_s)}));
+}
+
+void TestHouse::anOwnHeaderThatComesLateIsFound()
+{
+    const QTemporaryDir root;
+    plant(root, {{u"common/core/src/First.cpp"_s, "#include \"orv/core/First.h\"\n\n#include <QString>\n"},
+                 {u"common/core/src/Late.cpp"_s, "#include <QString>\n#include <orv/core/Late.h>\n"},
+                 {u"common/core/src/None.cpp"_s, "#include <QString>\n#include <orv/core/First.h>\n"}});
+    QCOMPARE(HouseRules(root.path()).ownHeadersThatComeLate(),
+             QStringList(u"common/core/src/Late.cpp includes QString before its own header"_s));
 }
 
 void TestHouse::aModuleWithoutAFloorIsFound()

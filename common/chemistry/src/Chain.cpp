@@ -1,4 +1,4 @@
-#include <orv/chemistry/Chain.h>
+#include "orv/chemistry/Chain.h"
 
 #include <QCoreApplication>
 

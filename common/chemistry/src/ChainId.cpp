@@ -1,4 +1,4 @@
-#include <orv/chemistry/ChainId.h>
+#include "orv/chemistry/ChainId.h"
 
 #include <QSet>
 

@@ -1,8 +1,8 @@
+#include "orv/chemistry/ChemicalFactory.h"
+
 #include "internal/OligoBlocks.h"
 #include "internal/OligoSequence.h"
 #include "internal/Residues.h"
-
-#include <orv/chemistry/ChemicalFactory.h>
 
 #include <QCoreApplication>
 

@@ -1,6 +1,6 @@
-#include "internal/Elements.h"
+#include "orv/chemistry/ChemicalFormula.h"
 
-#include <orv/chemistry/ChemicalFormula.h>
+#include "internal/Elements.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>

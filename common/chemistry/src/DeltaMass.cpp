@@ -1,4 +1,4 @@
-#include <orv/chemistry/DeltaMass.h>
+#include "orv/chemistry/DeltaMass.h"
 
 namespace orv {
 

@@ -1,7 +1,7 @@
+#include "orv/chemistry/DetachedGlycanUtils.h"
+
 #include "internal/GlycanColumns.h"
 #include "internal/Tables.h"
-
-#include <orv/chemistry/DetachedGlycanUtils.h>
 
 #include <array>
 

@@ -1,8 +1,8 @@
+#include "orv/chemistry/DisulfideUtils.h"
+
 #include "internal/DisulfideColumns.h"
 #include "internal/TableRows.h"
 #include "internal/Tables.h"
-
-#include <orv/chemistry/DisulfideUtils.h>
 
 #include <QCoreApplication>
 #include <QSet>

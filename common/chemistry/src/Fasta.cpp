@@ -1,4 +1,5 @@
-#include <orv/chemistry/Fasta.h>
+#include "orv/chemistry/Fasta.h"
+
 #include <orv/core/FileUtils.h>
 
 #include <QBuffer>

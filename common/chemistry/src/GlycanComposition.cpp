@@ -1,4 +1,4 @@
-#include <orv/chemistry/GlycanComposition.h>
+#include "orv/chemistry/GlycanComposition.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>

@@ -1,9 +1,10 @@
+#include "orv/chemistry/GlycanOptions.h"
+
 #include "internal/GlycanColumns.h"
 #include "internal/TableRows.h"
 #include "internal/Tables.h"
 
 #include <orv/chemistry/GlycanComposition.h>
-#include <orv/chemistry/GlycanOptions.h>
 
 #include <QCoreApplication>
 

@@ -1,9 +1,10 @@
+#include "orv/chemistry/GlycanTable.h"
+
 #include "internal/GlycanColumns.h"
 #include "internal/TableRows.h"
 
 #include <orv/chemistry/DetachedGlycanUtils.h>
 #include <orv/chemistry/GlycanComposition.h>
-#include <orv/chemistry/GlycanTable.h>
 
 #include <QCoreApplication>
 

@@ -1,6 +1,7 @@
+#include "orv/chemistry/InclusionList.h"
+
 #include "internal/JsonMembers.h"
 
-#include <orv/chemistry/InclusionList.h>
 #include <orv/core/JsonUtils.h>
 #include <orv/core/Logging.h>
 #include <orv/table/CsvReader.h>

@@ -1,4 +1,5 @@
-#include <orv/chemistry/InsilicoMode.h>
+#include "orv/chemistry/InsilicoMode.h"
+
 #include <orv/core/Logging.h>
 
 #include <array>

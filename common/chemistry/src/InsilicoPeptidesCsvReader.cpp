@@ -1,4 +1,5 @@
-#include <orv/chemistry/InsilicoPeptidesCsvReader.h>
+#include "orv/chemistry/InsilicoPeptidesCsvReader.h"
+
 #include <orv/core/FileUtils.h>
 #include <orv/table/CsvReader.h>
 

@@ -1,10 +1,11 @@
+#include "orv/chemistry/IntactOptionsUtils.h"
+
 #include "internal/IntactOptionsColumns.h"
 #include "internal/JsonMembers.h"
 #include "internal/TableRows.h"
 #include "internal/Tables.h"
 
 #include <orv/chemistry/ChemicalFormula.h>
-#include <orv/chemistry/IntactOptionsUtils.h>
 
 #include <QCoreApplication>
 #include <QSet>

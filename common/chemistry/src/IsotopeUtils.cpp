@@ -1,9 +1,9 @@
+#include "orv/chemistry/IsotopeUtils.h"
+
 #include "internal/Elements.h"
 #include "internal/IsotopeColumns.h"
 #include "internal/TableRows.h"
 #include "internal/Tables.h"
-
-#include <orv/chemistry/IsotopeUtils.h>
 
 #include <QCoreApplication>
 

@@ -1,4 +1,5 @@
-#include <orv/chemistry/KarvonConstants.h>
+#include "orv/chemistry/KarvonConstants.h"
+
 #include <orv/core/Logging.h>
 
 #include <array>

@@ -1,4 +1,4 @@
-#include <orv/chemistry/MassCalculator.h>
+#include "orv/chemistry/MassCalculator.h"
 
 #include <pwiz/utility/chemistry/Chemistry.hpp>
 

@@ -1,6 +1,7 @@
+#include "orv/chemistry/MassTolerance.h"
+
 #include "internal/JsonMembers.h"
 
-#include <orv/chemistry/MassTolerance.h>
 #include <orv/chemistry/MassUtils.h>
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
-#include "internal/JsonMembers.h"
+#include "orv/chemistry/MassTolerances.h"
 
-#include <orv/chemistry/MassTolerances.h>
+#include "internal/JsonMembers.h"
 
 #include <QCoreApplication>
 

@@ -1,9 +1,10 @@
+#include "orv/chemistry/MassUtils.h"
+
 #include "internal/MassColumns.h"
 #include "internal/TableRows.h"
 #include "internal/Tables.h"
 
 #include <orv/chemistry/ChemistryConstants.h>
-#include <orv/chemistry/MassUtils.h>
 
 #include <QCoreApplication>
 

@@ -1,6 +1,6 @@
-#include "internal/JsonMembers.h"
+#include "orv/chemistry/OligoImpurities.h"
 
-#include <orv/chemistry/OligoImpurities.h>
+#include "internal/JsonMembers.h"
 
 #include <array>
 

@@ -1,6 +1,7 @@
+#include "orv/chemistry/ProteinAnnotationEntry.h"
+
 #include "internal/JsonMembers.h"
 
-#include <orv/chemistry/ProteinAnnotationEntry.h>
 #include <orv/core/JsonUtils.h>
 
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include <orv/chemistry/ProteinAutoPopulateOptions.h>
+#include "orv/chemistry/ProteinAutoPopulateOptions.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>

@@ -1,4 +1,4 @@
-#include <orv/chemistry/ProteinComplexList.h>
+#include "orv/chemistry/ProteinComplexList.h"
 
 namespace orv {
 

@@ -1,4 +1,4 @@
-#include <orv/chemistry/ProteinDigestionItem.h>
+#include "orv/chemistry/ProteinDigestionItem.h"
 
 #include <QCoreApplication>
 

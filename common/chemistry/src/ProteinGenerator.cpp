@@ -1,5 +1,6 @@
+#include "orv/chemistry/ProteinGenerator.h"
+
 #include <orv/chemistry/ChemistryConstants.h>
-#include <orv/chemistry/ProteinGenerator.h>
 
 #include <QCoreApplication>
 #include <QHash>

@@ -1,8 +1,9 @@
+#include "orv/chemistry/ProteinUtils.h"
+
 #include "internal/Tables.h"
 
 #include <orv/chemistry/ChemistryConstants.h>
 #include <orv/chemistry/ProteinGenerator.h>
-#include <orv/chemistry/ProteinUtils.h>
 
 namespace orv::ProteinUtils {
 

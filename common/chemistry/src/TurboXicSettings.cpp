@@ -1,4 +1,4 @@
-#include <orv/chemistry/TurboXicSettings.h>
+#include "orv/chemistry/TurboXicSettings.h"
 
 namespace orv::TurboXicSettingsCreator {
 

@@ -1,4 +1,5 @@
-#include <orv/chemistry/WorkflowNodeUpgradeUtils.h>
+#include "orv/chemistry/WorkflowNodeUpgradeUtils.h"
+
 #include <orv/table/CustomSettings.h>
 
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include <orv/chemistry/WorkflowNodeXicMethodOptions.h>
+#include "orv/chemistry/WorkflowNodeXicMethodOptions.h"
 
 #include <QMetaEnum>
 

@@ -1,4 +1,4 @@
-#include <orv/core/AppUtils.h>
+#include "orv/core/AppUtils.h"
 
 #include <QtGlobal>
 

@@ -1,4 +1,4 @@
-#include <orv/core/Decimal.h>
+#include "orv/core/Decimal.h"
 
 #include <algorithm>
 #include <array>

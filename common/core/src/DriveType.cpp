@@ -1,4 +1,5 @@
-#include <orv/core/DriveType.h>
+#include "orv/core/DriveType.h"
+
 #include <orv/core/FilePathUtils.h>
 #include <orv/core/FileUtils.h>
 

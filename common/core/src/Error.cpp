@@ -1,4 +1,5 @@
-#include <orv/core/Error.h>
+#include "orv/core/Error.h"
+
 #include <orv/core/Logging.h>
 
 #include <QSharedData>

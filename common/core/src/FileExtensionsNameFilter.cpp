@@ -1,4 +1,4 @@
-#include <orv/core/FileExtensionsNameFilter.h>
+#include "orv/core/FileExtensionsNameFilter.h"
 
 #include <QCoreApplication>
 

@@ -1,4 +1,4 @@
-#include <orv/core/FileNameUtils.h>
+#include "orv/core/FileNameUtils.h"
 
 #include <QDir>
 #include <QFileInfo>

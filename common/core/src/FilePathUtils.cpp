@@ -1,4 +1,4 @@
-#include <orv/core/FilePathUtils.h>
+#include "orv/core/FilePathUtils.h"
 
 namespace orv::FilePathUtils {
 

@@ -1,4 +1,5 @@
-#include <orv/core/FileTypes.h>
+#include "orv/core/FileTypes.h"
+
 #include <orv/core/PathUtils.h>
 
 #include <QCoreApplication>

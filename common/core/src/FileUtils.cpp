@@ -1,4 +1,4 @@
-#include <orv/core/FileUtils.h>
+#include "orv/core/FileUtils.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,5 +1,6 @@
+#include "orv/core/FileUtilsGeneric.h"
+
 #include <orv/core/FileUtils.h>
-#include <orv/core/FileUtilsGeneric.h>
 #include <orv/core/JsonUtils.h>
 
 namespace orv::FileUtilsGeneric {

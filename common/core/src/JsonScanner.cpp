@@ -1,4 +1,4 @@
-#include <orv/core/JsonScanner.h>
+#include "orv/core/JsonScanner.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,5 +1,6 @@
+#include "orv/core/JsonUtils.h"
+
 #include <orv/core/JsonScanner.h>
-#include <orv/core/JsonUtils.h>
 
 #include <QCoreApplication>
 

@@ -1,5 +1,6 @@
+#include "orv/core/KarvonPathFormat.h"
+
 #include <orv/core/FilePathUtils.h>
-#include <orv/core/KarvonPathFormat.h>
 
 #include <QDir>
 

@@ -1,4 +1,4 @@
-#include <orv/core/Logging.h>
+#include "orv/core/Logging.h"
 
 namespace orv {
 

@@ -1,4 +1,4 @@
-#include <orv/core/LossObserver.h>
+#include "orv/core/LossObserver.h"
 
 namespace orv {
 

@@ -1,4 +1,4 @@
-#include <orv/core/OrvApplication.h>
+#include "orv/core/OrvApplication.h"
 
 #include <QCoreApplication>
 

@@ -1,4 +1,4 @@
-#include <orv/core/PathUtils.h>
+#include "orv/core/PathUtils.h"
 
 #include <QFileInfo>
 

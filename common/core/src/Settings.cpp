@@ -1,4 +1,4 @@
-#include <orv/core/Settings.h>
+#include "orv/core/Settings.h"
 
 #include <QHash>
 #include <QMutex>

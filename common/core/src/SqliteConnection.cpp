@@ -1,5 +1,6 @@
+#include "orv/core/SqliteConnection.h"
+
 #include <orv/core/FileUtils.h>
-#include <orv/core/SqliteConnection.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>

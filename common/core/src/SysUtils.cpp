@@ -1,4 +1,4 @@
-#include <orv/core/SysUtils.h>
+#include "orv/core/SysUtils.h"
 
 #include <QThread>
 

@@ -1,4 +1,4 @@
-#include <orv/core/TextUtils.h>
+#include "orv/core/TextUtils.h"
 
 #include <QCoreApplication>
 

@@ -1,4 +1,4 @@
-#include <orv/core_ms/ChromatogramFilters.h>
+#include "orv/core_ms/ChromatogramFilters.h"
 
 namespace orv::msreader::ChromatogramFilters {
 

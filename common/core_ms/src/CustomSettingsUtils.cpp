@@ -1,5 +1,6 @@
+#include "orv/core_ms/CustomSettingsUtils.h"
+
 #include <orv/core/Logging.h>
-#include <orv/core_ms/CustomSettingsUtils.h>
 
 #include <QReadWriteLock>
 

@@ -1,5 +1,6 @@
+#include "orv/core_ms/DataSourceLocation.h"
+
 #include <orv/core/FilePathUtils.h>
-#include <orv/core_ms/DataSourceLocation.h>
 
 #include <QCoreApplication>
 

@@ -1,4 +1,5 @@
-#include <orv/core_ms/ElutionPeaksBackwardsCompatibility.h>
+#include "orv/core_ms/ElutionPeaksBackwardsCompatibility.h"
+
 #include <orv/resources/ResourceReferenceUtils.h>
 #include <orv/table/CustomSettings.h>
 

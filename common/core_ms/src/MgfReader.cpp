@@ -1,4 +1,4 @@
-#include <orv/core_ms/MgfReader.h>
+#include "orv/core_ms/MgfReader.h"
 
 #include <QCoreApplication>
 #include <QIODevice>

@@ -1,7 +1,8 @@
+#include "orv/core_ms/MsDataAccessorsFactory.h"
+
 #include "internal/PackedFile.h"
 #include "internal/Readers.h"
 
-#include <orv/core_ms/MsDataAccessorsFactory.h>
 #include <orv/core_ms/MsDataFileUtils.h>
 
 #include <QMap>

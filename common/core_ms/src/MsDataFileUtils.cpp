@@ -1,5 +1,6 @@
+#include "orv/core_ms/MsDataFileUtils.h"
+
 #include <orv/core/FileTypes.h>
-#include <orv/core_ms/MsDataFileUtils.h>
 #include <orv/core_ms/MsFileInfo.h>
 #include <orv/core_ms/TolqUtils.h>
 

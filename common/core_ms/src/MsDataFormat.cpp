@@ -1,4 +1,4 @@
-#include <orv/core_ms/MsDataFormat.h>
+#include "orv/core_ms/MsDataFormat.h"
 
 #include <QCoreApplication>
 

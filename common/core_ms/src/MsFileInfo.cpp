@@ -1,7 +1,8 @@
+#include "orv/core_ms/MsFileInfo.h"
+
 #include "internal/FormatDetectors.h"
 
 #include <orv/core/Logging.h>
-#include <orv/core_ms/MsFileInfo.h>
 #include <orv/core_ms/internal/FormatDetectorRegistry.h>
 
 namespace orv::msreader {

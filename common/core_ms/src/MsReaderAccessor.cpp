@@ -1,4 +1,4 @@
-#include <orv/core_ms/MsReaderAccessor.h>
+#include "orv/core_ms/MsReaderAccessor.h"
 
 #include <QCoreApplication>
 

@@ -1,6 +1,7 @@
+#include "orv/core_ms/MsUtils.h"
+
 #include <orv/core_ms/CustomSettingsUtils.h>
 #include <orv/core_ms/MsDataAccessorsFactory.h>
-#include <orv/core_ms/MsUtils.h>
 
 #include <algorithm>
 #include <array>

@@ -1,5 +1,6 @@
+#include "orv/core_ms/SimpleFilesInfoManager.h"
+
 #include <orv/core/FilePathUtils.h>
-#include <orv/core_ms/SimpleFilesInfoManager.h>
 #include <orv/resources/ResourceHandlerUtils.h>
 #include <orv/resources/ResourceManager.h>
 #include <orv/resources/ResourceReferenceUtils.h>

@@ -1,5 +1,6 @@
+#include "orv/core_ms/TolqMetadata.h"
+
 #include <orv/core/JsonUtils.h>
-#include <orv/core_ms/TolqMetadata.h>
 
 #include <QCoreApplication>
 

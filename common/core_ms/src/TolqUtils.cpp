@@ -1,8 +1,9 @@
+#include "orv/core_ms/TolqUtils.h"
+
 #include "internal/TolqArchive.h"
 
 #include <orv/core/FileUtils.h>
 #include <orv/core/PathUtils.h>
-#include <orv/core_ms/TolqUtils.h>
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include <orv/core_ms/Ulvar2Dao.h>
+#include "orv/core_ms/Ulvar2Dao.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include <orv/project/DocumentDatabaseHandler.h>
+#include "orv/project/DocumentDatabaseHandler.h"
 
 #include <algorithm>
 

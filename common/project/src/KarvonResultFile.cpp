@@ -1,6 +1,7 @@
+#include "orv/project/KarvonResultFile.h"
+
 #include <orv/core/FileUtils.h>
 #include <orv/core/SqliteConnection.h>
-#include <orv/project/KarvonResultFile.h>
 
 #include <QCoreApplication>
 

@@ -1,8 +1,9 @@
+#include "orv/project/ProjectCreationOptionsDao.h"
+
 #include "OptionsTable.h"
 
 #include <orv/core/FileUtils.h>
 #include <orv/project/DocumentDatabaseHandler.h>
-#include <orv/project/ProjectCreationOptionsDao.h>
 #include <orv/project/ProjectFile.h>
 
 #include <QCoreApplication>

@@ -1,6 +1,7 @@
+#include "orv/project/ProjectCreationStatusFile.h"
+
 #include <orv/core/FileUtils.h>
 #include <orv/core/JsonUtils.h>
-#include <orv/project/ProjectCreationStatusFile.h>
 
 #include <QCoreApplication>
 

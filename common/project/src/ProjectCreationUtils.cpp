@@ -1,4 +1,4 @@
-#include <orv/project/ProjectCreationUtils.h>
+#include "orv/project/ProjectCreationUtils.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,8 @@
+#include "orv/project/ProjectFile.h"
+
 #include "OptionsTable.h"
 
 #include <orv/core/SqliteConnection.h>
-#include <orv/project/ProjectFile.h>
 
 #include <QCoreApplication>
 #include <QDateTime>

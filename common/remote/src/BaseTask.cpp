@@ -1,7 +1,8 @@
+#include "orv/remote/BaseTask.h"
+
 #include "internal/EventWait.h"
 
 #include <orv/core/Logging.h>
-#include <orv/remote/BaseTask.h>
 
 #include <QCoreApplication>
 #include <QThread>

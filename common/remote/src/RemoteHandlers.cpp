@@ -1,8 +1,9 @@
+#include "orv/remote/RemoteHandlers.h"
+
 #include "internal/ExternalDataSourceHandler.h"
 #include "internal/TalvaneHandler.h"
 #include "internal/UnifiHandler.h"
 
-#include <orv/remote/RemoteHandlers.h>
 #include <orv/resources/ResourceManager.h>
 
 namespace orv::RemoteHandlers {

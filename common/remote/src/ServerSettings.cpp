@@ -1,5 +1,6 @@
+#include "orv/remote/ServerSettings.h"
+
 #include <orv/core/Settings.h>
-#include <orv/remote/ServerSettings.h>
 
 #include <QCoreApplication>
 #include <QHostAddress>

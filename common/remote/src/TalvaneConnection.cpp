@@ -1,5 +1,6 @@
+#include "orv/remote/TalvaneConnection.h"
+
 #include <orv/remote/ServerSettings.h>
-#include <orv/remote/TalvaneConnection.h>
 #include <orv/remote/TalvaneTask.h>
 
 namespace orv {

@@ -1,4 +1,4 @@
-#include <orv/remote/TalvaneDownloadTolqMetadataTask.h>
+#include "orv/remote/TalvaneDownloadTolqMetadataTask.h"
 
 namespace orv {
 

@@ -1,4 +1,4 @@
-#include <orv/remote/TalvaneFileDownloadParameters.h>
+#include "orv/remote/TalvaneFileDownloadParameters.h"
 
 namespace orv {
 

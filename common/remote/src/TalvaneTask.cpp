@@ -1,7 +1,7 @@
+#include "orv/remote/TalvaneTask.h"
+
 #include "internal/HttpErrors.h"
 #include "internal/ServerTask.h"
-
-#include <orv/remote/TalvaneTask.h>
 
 namespace orv {
 

@@ -1,4 +1,4 @@
-#include <orv/remote/Task.h>
+#include "orv/remote/Task.h"
 
 namespace orv {
 

@@ -1,9 +1,10 @@
+#include "orv/remote/UnifiGetItemFolderTask.h"
+
 #include "internal/HttpErrors.h"
 #include "internal/ServerTask.h"
 #include "internal/UnifiRequests.h"
 
 #include <orv/core/JsonUtils.h>
-#include <orv/remote/UnifiGetItemFolderTask.h>
 
 namespace orv {
 

@@ -1,5 +1,6 @@
+#include "orv/remote/UnifiResourceMetadata.h"
+
 #include <orv/core/JsonUtils.h>
-#include <orv/remote/UnifiResourceMetadata.h>
 
 #include <array>
 

@@ -1,5 +1,6 @@
+#include "orv/remote/UnifiSettings.h"
+
 #include <orv/core/Settings.h>
-#include <orv/remote/UnifiSettings.h>
 
 namespace orv {
 

@@ -1,5 +1,6 @@
+#include "orv/resources/ExternalDataSources.h"
+
 #include <orv/core/Settings.h>
-#include <orv/resources/ExternalDataSources.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 
 #include <QCoreApplication>

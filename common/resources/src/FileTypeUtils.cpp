@@ -1,4 +1,5 @@
-#include <orv/resources/FileTypeUtils.h>
+#include "orv/resources/FileTypeUtils.h"
+
 #include <orv/resources/ResourceReferenceUtils.h>
 
 #include <algorithm>

@@ -1,4 +1,5 @@
-#include <orv/resources/LocalResourceReference.h>
+#include "orv/resources/LocalResourceReference.h"
+
 #include <orv/resources/ResourceReference.h>
 
 namespace orv::LocalResourceReference {

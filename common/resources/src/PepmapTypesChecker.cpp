@@ -1,4 +1,4 @@
-#include <orv/resources/PepmapTypesChecker.h>
+#include "orv/resources/PepmapTypesChecker.h"
 
 namespace orv::PepmapTypesChecker {
 

@@ -1,4 +1,4 @@
-#include <orv/resources/ResourceHandler.h>
+#include "orv/resources/ResourceHandler.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,8 @@
+#include "orv/resources/ResourceHandlerUtils.h"
+
 #include "internal/LocalPath.h"
 
 #include <orv/core/Logging.h>
-#include <orv/resources/ResourceHandlerUtils.h>
 #include <orv/resources/ResourceManager.h>
 
 namespace orv::ResourceHandlerUtils {

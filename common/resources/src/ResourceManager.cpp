@@ -1,6 +1,6 @@
-#include "internal/LocalResourceHandler.h"
+#include "orv/resources/ResourceManager.h"
 
-#include <orv/resources/ResourceManager.h>
+#include "internal/LocalResourceHandler.h"
 
 #include <QCoreApplication>
 #include <QMap>

@@ -1,7 +1,7 @@
+#include "orv/resources/ResourceReference.h"
+
 #include "internal/LocalPath.h"
 #include "internal/SchemeText.h"
-
-#include <orv/resources/ResourceReference.h>
 
 #include <QCoreApplication>
 #include <QDir>

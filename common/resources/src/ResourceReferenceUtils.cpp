@@ -1,7 +1,8 @@
+#include "orv/resources/ResourceReferenceUtils.h"
+
 #include "internal/LocalPath.h"
 
 #include <orv/core/Logging.h>
-#include <orv/resources/ResourceReferenceUtils.h>
 
 #include <QDir>
 

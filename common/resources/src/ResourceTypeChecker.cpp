@@ -1,5 +1,6 @@
+#include "orv/resources/ResourceTypeChecker.h"
+
 #include <orv/resources/ResourceReferenceUtils.h>
-#include <orv/resources/ResourceTypeChecker.h>
 
 namespace orv::ResourceTypeChecker {
 

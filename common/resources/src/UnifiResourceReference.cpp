@@ -1,4 +1,4 @@
-#include <orv/resources/UnifiResourceReference.h>
+#include "orv/resources/UnifiResourceReference.h"
 
 #include <QCoreApplication>
 

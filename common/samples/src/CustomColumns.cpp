@@ -1,7 +1,7 @@
+#include "orv/samples/CustomColumns.h"
+
 #include "internal/EntryMembers.h"
 #include "internal/MemberReader.h"
-
-#include <orv/samples/CustomColumns.h>
 
 #include <QCoreApplication>
 

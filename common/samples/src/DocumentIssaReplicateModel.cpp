@@ -1,4 +1,4 @@
-#include <orv/samples/DocumentIssaReplicateModel.h>
+#include "orv/samples/DocumentIssaReplicateModel.h"
 
 namespace orv {
 

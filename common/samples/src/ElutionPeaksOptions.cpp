@@ -1,6 +1,6 @@
-#include "internal/MemberReader.h"
+#include "orv/samples/ElutionPeaksOptions.h"
 
-#include <orv/samples/ElutionPeaksOptions.h>
+#include "internal/MemberReader.h"
 
 #include <QCoreApplication>
 

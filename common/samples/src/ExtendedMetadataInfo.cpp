@@ -1,5 +1,6 @@
+#include "orv/samples/ExtendedMetadataInfo.h"
+
 #include <orv/core/JsonUtils.h>
-#include <orv/samples/ExtendedMetadataInfo.h>
 
 #include <QCoreApplication>
 #include <QJsonArray>

@@ -1,5 +1,6 @@
+#include "orv/samples/MetadataInSamples.h"
+
 #include <orv/core/Logging.h>
-#include <orv/samples/MetadataInSamples.h>
 
 #include <QHash>
 #include <QSet>

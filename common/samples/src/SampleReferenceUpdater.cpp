@@ -1,4 +1,4 @@
-#include <orv/samples/SampleReferenceUpdater.h>
+#include "orv/samples/SampleReferenceUpdater.h"
 
 namespace orv {
 

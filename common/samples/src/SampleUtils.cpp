@@ -1,7 +1,8 @@
+#include "orv/samples/SampleUtils.h"
+
 #include <orv/core/FileTypes.h>
 #include <orv/core/PathUtils.h>
 #include <orv/resources/ResourceReferenceUtils.h>
-#include <orv/samples/SampleUtils.h>
 
 namespace orv {
 

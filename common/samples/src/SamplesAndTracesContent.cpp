@@ -1,9 +1,10 @@
+#include "orv/samples/SamplesAndTracesContent.h"
+
 #include "internal/EntryMembers.h"
 #include "internal/MemberReader.h"
 #include "internal/SampleRows.h"
 
 #include <orv/resources/ResourceReferenceUtils.h>
-#include <orv/samples/SamplesAndTracesContent.h>
 
 #include <QSet>
 

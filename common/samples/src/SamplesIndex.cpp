@@ -1,4 +1,4 @@
-#include <orv/samples/SamplesIndex.h>
+#include "orv/samples/SamplesIndex.h"
 
 namespace orv {
 

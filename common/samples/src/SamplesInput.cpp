@@ -1,10 +1,11 @@
+#include "orv/samples/SamplesInput.h"
+
 #include "internal/EntryMembers.h"
 #include "internal/MemberReader.h"
 
 #include <orv/core/Logging.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 #include <orv/samples/SamplesAndTracesContent.h>
-#include <orv/samples/SamplesInput.h>
 
 #include <QCoreApplication>
 

@@ -1,7 +1,8 @@
+#include "orv/samples/SequenceDatabaseItem.h"
+
 #include "internal/MemberReader.h"
 
 #include <orv/resources/ResourceReferenceUtils.h>
-#include <orv/samples/SequenceDatabaseItem.h>
 
 namespace orv {
 

@@ -1,6 +1,6 @@
-#include "internal/MemberReader.h"
+#include "orv/samples/TraceImportAndProcessingOptions.h"
 
-#include <orv/samples/TraceImportAndProcessingOptions.h>
+#include "internal/MemberReader.h"
 
 #include <QCoreApplication>
 #include <QSet>

@@ -1,6 +1,6 @@
-#include "internal/MemberReader.h"
+#include "orv/samples/TracesImportList.h"
 
-#include <orv/samples/TracesImportList.h>
+#include "internal/MemberReader.h"
 
 #include <QCoreApplication>
 

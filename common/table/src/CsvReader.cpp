@@ -1,4 +1,4 @@
-#include <orv/table/CsvReader.h>
+#include "orv/table/CsvReader.h"
 
 #include <QCoreApplication>
 #include <QIODevice>

@@ -1,4 +1,4 @@
-#include <orv/table/CsvWriter.h>
+#include "orv/table/CsvWriter.h"
 
 #include <csv.h>
 

@@ -1,4 +1,4 @@
-#include <orv/table/CustomSettings.h>
+#include "orv/table/CustomSettings.h"
 
 #include <QStringList>
 

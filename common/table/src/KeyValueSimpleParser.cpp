@@ -1,4 +1,4 @@
-#include <orv/table/KeyValueSimpleParser.h>
+#include "orv/table/KeyValueSimpleParser.h"
 
 #include <QMap>
 #include <QRegularExpression>

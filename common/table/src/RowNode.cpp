@@ -1,4 +1,4 @@
-#include <orv/table/RowNode.h>
+#include "orv/table/RowNode.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,4 +1,4 @@
-#include <orv/table/VariantItems.h>
+#include "orv/table/VariantItems.h"
 
 namespace orv {
 

@@ -1,6 +1,7 @@
+#include "orv/table/XenosetPreset.h"
+
 #include <orv/core/FileUtils.h>
 #include <orv/core/Logging.h>
-#include <orv/table/XenosetPreset.h>
 
 #include <QCoreApplication>
 #include <QStringDecoder>

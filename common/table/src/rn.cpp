@@ -1,8 +1,8 @@
+#include "orv/table/rn.h"
+
 #include "internal/RowNodeObject.h"
 #include "internal/RowNodeReader.h"
 #include "internal/RowNodeWriter.h"
-
-#include <orv/table/rn.h>
 
 namespace orv::rn {
 

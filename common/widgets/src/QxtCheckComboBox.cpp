@@ -1,4 +1,4 @@
-#include <orv/widgets/QxtCheckComboBox.h>
+#include "orv/widgets/QxtCheckComboBox.h"
 
 #include <QAbstractItemView>
 #include <QAccessibleWidget>

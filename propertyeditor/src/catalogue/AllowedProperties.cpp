@@ -1,4 +1,4 @@
-#include <orv/propertyeditor/AllowedProperties.h>
+#include "orv/propertyeditor/AllowedProperties.h"
 
 #include <QHash>
 

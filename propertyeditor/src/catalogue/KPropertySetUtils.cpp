@@ -1,6 +1,7 @@
+#include "orv/propertyeditor/KPropertySetUtils.h"
+
 #include <KProperty>
 #include <KPropertySet>
-#include <orv/propertyeditor/KPropertySetUtils.h>
 
 #include <memory>
 #include <vector>

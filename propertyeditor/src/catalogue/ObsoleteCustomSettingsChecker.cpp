@@ -1,5 +1,6 @@
+#include "orv/propertyeditor/ObsoleteCustomSettingsChecker.h"
+
 #include <orv/chemistry/WorkflowNodeUpgradeUtils.h>
-#include <orv/propertyeditor/ObsoleteCustomSettingsChecker.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/table/CustomSettings.h>
 

@@ -1,6 +1,7 @@
+#include "orv/propertyeditor/PropertiesCsvReader.h"
+
 #include <orv/core/Logging.h>
 #include <orv/core/Result.h>
-#include <orv/propertyeditor/PropertiesCsvReader.h>
 #include <orv/table/CsvReader.h>
 
 #include <QCoreApplication>

@@ -1,8 +1,9 @@
+#include "orv/propertyeditor/PropertiesNames.h"
+
 #include "PropertyReaders.h"
 #include "PropertyRows.h"
 
 #include <orv/propertyeditor/PropertiesCsvReader.h>
-#include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/PropertiesTraits.h>
 #include <orv/propertyeditor/PropertyVerification.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>

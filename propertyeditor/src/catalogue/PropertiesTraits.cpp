@@ -1,5 +1,6 @@
+#include "orv/propertyeditor/PropertiesTraits.h"
+
 #include <KProperty>
-#include <orv/propertyeditor/PropertiesTraits.h>
 #include <orv/propertyeditor/UserVisibleListConverter.h>
 
 #include <QMetaType>

@@ -1,7 +1,8 @@
+#include "orv/propertyeditor/PropertyEditorUtils.h"
+
 #include <orv/core/FileTypes.h>
 #include <orv/core/JsonUtils.h>
 #include <orv/core/SysUtils.h>
-#include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 

@@ -1,5 +1,6 @@
+#include "orv/propertyeditor/PropertyLists.h"
+
 #include <orv/core/JsonUtils.h>
-#include <orv/propertyeditor/PropertyLists.h>
 
 #include <QCoreApplication>
 

@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/PropertySetCreator.h"
+
 #include "PropertyLosses.h"
 #include "PropertyValueForms.h"
 
@@ -8,7 +10,6 @@
 #include <orv/propertyeditor/KPropertySetUtils.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/PropertiesTraits.h>
-#include <orv/propertyeditor/PropertySetCreator.h>
 #include <orv/propertyeditor/UserVisibleListConverter.h>
 #include <orv/propertyeditor/WflwAdvancedSettings.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>

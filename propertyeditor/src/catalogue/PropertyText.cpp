@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/PropertyText.h"
+
 #include "PropertyValueForms.h"
 
 #include <KProperty>
@@ -5,7 +7,6 @@
 #include <orv/propertyeditor/PropertiesCsvReader.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/PropertiesTraits.h>
-#include <orv/propertyeditor/PropertyText.h>
 #include <orv/propertyeditor/UserVisibleListConverter.h>
 #include <orv/resources/ResourceReference.h>
 

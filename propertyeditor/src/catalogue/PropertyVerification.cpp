@@ -1,6 +1,7 @@
+#include "orv/propertyeditor/PropertyVerification.h"
+
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/PropertiesNames.h>
-#include <orv/propertyeditor/PropertyVerification.h>
 #include <orv/propertyeditor/PropertyVerificationFunctions.h>
 
 #include <QRegularExpression>

@@ -1,9 +1,10 @@
+#include "orv/propertyeditor/PropertyVerificationFunctions.h"
+
 #include <orv/chemistry/ProteinDigestionItem.h>
 #include <orv/core/DriveType.h>
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/PropertiesTraits.h>
-#include <orv/propertyeditor/PropertyVerificationFunctions.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/resources/LocalResourceReference.h>

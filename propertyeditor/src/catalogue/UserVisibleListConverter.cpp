@@ -1,6 +1,7 @@
+#include "orv/propertyeditor/UserVisibleListConverter.h"
+
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/PropertyLists.h>
-#include <orv/propertyeditor/UserVisibleListConverter.h>
 
 #include <QFile>
 

@@ -1,5 +1,6 @@
+#include "orv/propertyeditor/WflwAdvancedSettings.h"
+
 #include <orv/core/Settings.h>
-#include <orv/propertyeditor/WflwAdvancedSettings.h>
 
 namespace orv {
 

@@ -1,5 +1,6 @@
+#include "orv/propertyeditor/content/BaseItem.h"
+
 #include <orv/core/Logging.h>
-#include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
 #include <QMetaEnum>

@@ -1,9 +1,10 @@
+#include "orv/propertyeditor/content/BaseTableItem.h"
+
 #include "TableLosses.h"
 
 #include <orv/core/JsonUtils.h>
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/PropertiesNames.h>
-#include <orv/propertyeditor/content/BaseTableItem.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 

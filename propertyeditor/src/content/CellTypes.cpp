@@ -1,4 +1,5 @@
-#include <orv/propertyeditor/content/CellTypes.h>
+#include "orv/propertyeditor/content/CellTypes.h"
+
 #include <orv/propertyeditor/content/DetachedGlycanTableItem.h>
 #include <orv/propertyeditor/content/GlycanOptionsItem.h>
 #include <orv/propertyeditor/content/IntactOptionsTableItem.h>

@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/content/Content.h"
+
 #include "OwningList.h"
 
 #include <orv/core/FileUtils.h>
@@ -5,7 +7,6 @@
 #include <orv/core/Logging.h>
 #include <orv/core/LossObserver.h>
 #include <orv/propertyeditor/content/BaseItem.h>
-#include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/ExtendedMetadataSink.h>
 #include <orv/propertyeditor/content/ItemGroup.h>
 #include <orv/propertyeditor/content/ItemSubGroup.h>

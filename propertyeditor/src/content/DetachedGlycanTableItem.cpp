@@ -1,4 +1,4 @@
-#include <orv/propertyeditor/content/DetachedGlycanTableItem.h>
+#include "orv/propertyeditor/content/DetachedGlycanTableItem.h"
 
 namespace orv::PropertyEditor {
 

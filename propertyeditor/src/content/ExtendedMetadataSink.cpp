@@ -1,4 +1,4 @@
-#include <orv/propertyeditor/content/ExtendedMetadataSink.h>
+#include "orv/propertyeditor/content/ExtendedMetadataSink.h"
 
 namespace orv::PropertyEditor {
 

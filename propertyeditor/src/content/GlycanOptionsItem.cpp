@@ -1,5 +1,6 @@
+#include "orv/propertyeditor/content/GlycanOptionsItem.h"
+
 #include <orv/propertyeditor/PropertyEditorUtils.h>
-#include <orv/propertyeditor/content/GlycanOptionsItem.h>
 
 namespace orv::PropertyEditor {
 

@@ -1,4 +1,4 @@
-#include <orv/propertyeditor/content/IntactOptionsTableItem.h>
+#include "orv/propertyeditor/content/IntactOptionsTableItem.h"
 
 namespace orv::PropertyEditor {
 

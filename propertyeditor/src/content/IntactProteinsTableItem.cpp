@@ -1,10 +1,11 @@
+#include "orv/propertyeditor/content/IntactProteinsTableItem.h"
+
 #include <orv/chemistry/ChainId.h>
 #include <orv/chemistry/ChemicalFactory.h>
 #include <orv/chemistry/ChemistryConstants.h>
 #include <orv/chemistry/ProteinGenerator.h>
 #include <orv/chemistry/ProteinUtils.h>
 #include <orv/core/Logging.h>
-#include <orv/propertyeditor/content/IntactProteinsTableItem.h>
 
 #include <QHash>
 

@@ -1,4 +1,4 @@
-#include <orv/propertyeditor/content/IsotopeTableItem.h>
+#include "orv/propertyeditor/content/IsotopeTableItem.h"
 
 namespace orv::PropertyEditor {
 

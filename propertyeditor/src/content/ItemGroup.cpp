@@ -1,8 +1,9 @@
+#include "orv/propertyeditor/content/ItemGroup.h"
+
 #include "OwningList.h"
 
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/BaseItem.h>
-#include <orv/propertyeditor/content/ItemGroup.h>
 #include <orv/propertyeditor/content/ItemSubGroup.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 

@@ -1,9 +1,10 @@
+#include "orv/propertyeditor/content/ItemSubGroup.h"
+
 #include "OwningList.h"
 
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/content/CellTypes.h>
-#include <orv/propertyeditor/content/ItemSubGroup.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 

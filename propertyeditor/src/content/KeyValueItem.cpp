@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/content/KeyValueItem.h"
+
 #include <KPropertyListData>
 #include <KPropertySet>
 #include <orv/core/Logging.h>
@@ -7,7 +9,6 @@
 #include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/PropertySetCreator.h>
 #include <orv/propertyeditor/content/CellTypes.h>
-#include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 

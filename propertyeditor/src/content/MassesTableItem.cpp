@@ -1,6 +1,7 @@
+#include "orv/propertyeditor/content/MassesTableItem.h"
+
 #include <orv/chemistry/ChemistryConstants.h>
 #include <orv/core/Logging.h>
-#include <orv/propertyeditor/content/MassesTableItem.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 

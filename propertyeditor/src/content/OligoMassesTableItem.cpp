@@ -1,4 +1,5 @@
-#include <orv/propertyeditor/content/OligoMassesTableItem.h>
+#include "orv/propertyeditor/content/OligoMassesTableItem.h"
+
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 
 namespace orv::PropertyEditor {

@@ -1,4 +1,4 @@
-#include <orv/propertyeditor/content/OligoOptionsTableItem.h>
+#include "orv/propertyeditor/content/OligoOptionsTableItem.h"
 
 namespace orv::PropertyEditor {
 

@@ -1,4 +1,4 @@
-#include <orv/propertyeditor/content/OligoProteinsTableItem.h>
+#include "orv/propertyeditor/content/OligoProteinsTableItem.h"
 
 namespace orv::PropertyEditor {
 

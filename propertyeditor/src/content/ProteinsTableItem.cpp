@@ -1,6 +1,7 @@
+#include "orv/propertyeditor/content/ProteinsTableItem.h"
+
 #include <orv/chemistry/ChemistryConstants.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
-#include <orv/propertyeditor/content/ProteinsTableItem.h>
 
 namespace orv::PropertyEditor {
 

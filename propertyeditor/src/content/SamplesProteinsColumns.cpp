@@ -1,6 +1,7 @@
+#include "orv/propertyeditor/content/SamplesProteinsColumns.h"
+
 #include <orv/core/JsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
-#include <orv/propertyeditor/content/SamplesProteinsColumns.h>
 #include <orv/samples/CustomFieldsStringConstants.h>
 
 #include <QJsonArray>

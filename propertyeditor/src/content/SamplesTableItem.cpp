@@ -1,8 +1,9 @@
+#include "orv/propertyeditor/content/SamplesTableItem.h"
+
 #include "TableLosses.h"
 
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
-#include <orv/propertyeditor/content/SamplesTableItem.h>
 #include <orv/samples/MetadataInSamples.h>
 
 namespace orv::PropertyEditor {

@@ -1,8 +1,9 @@
+#include "orv/propertyeditor/content/SequenceDatabaseItems.h"
+
 #include <orv/core/FileTypes.h>
 #include <orv/core/JsonUtils.h>
 #include <orv/core/TextUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
-#include <orv/propertyeditor/content/SequenceDatabaseItems.h>
 #include <orv/resources/ResourceHandlerUtils.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 #include <orv/resources/ResourceTypeChecker.h>

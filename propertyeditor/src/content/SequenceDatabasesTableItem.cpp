@@ -1,7 +1,8 @@
+#include "orv/propertyeditor/content/SequenceDatabasesTableItem.h"
+
 #include "TableLosses.h"
 
 #include <orv/propertyeditor/content/SequenceDatabaseItems.h>
-#include <orv/propertyeditor/content/SequenceDatabasesTableItem.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 
 namespace orv::PropertyEditor {

@@ -1,4 +1,4 @@
-#include <orv/propertyeditor/content/UnsupportedItem.h>
+#include "orv/propertyeditor/content/UnsupportedItem.h"
 
 namespace orv::PropertyEditor {
 

@@ -1,5 +1,6 @@
+#include "orv/propertyeditor/content/BaseItemType.h"
+
 #include <orv/core/Logging.h>
-#include <orv/propertyeditor/content/BaseItemType.h>
 
 #include <QMetaEnum>
 

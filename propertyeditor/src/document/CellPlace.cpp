@@ -1,4 +1,5 @@
-#include <orv/propertyeditor/content/CellPlace.h>
+#include "orv/propertyeditor/content/CellPlace.h"
+
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 

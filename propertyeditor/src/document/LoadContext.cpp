@@ -1,5 +1,6 @@
+#include "orv/propertyeditor/content/LoadContext.h"
+
 #include <orv/core/LossObserver.h>
-#include <orv/propertyeditor/content/LoadContext.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
 namespace orv::PropertyEditor {

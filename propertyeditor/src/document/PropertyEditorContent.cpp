@@ -1,8 +1,9 @@
+#include "orv/propertyeditor/content/PropertyEditorContent.h"
+
 #include "StampedCells.h"
 
 #include <orv/core/JsonUtils.h>
 #include <orv/core/Logging.h>
-#include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/content/RawCell.h>

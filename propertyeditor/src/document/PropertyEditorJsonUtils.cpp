@@ -1,9 +1,10 @@
+#include "orv/propertyeditor/content/PropertyEditorJsonUtils.h"
+
 #include "StampedCells.h"
 
 #include <KProperty>
 #include <orv/core/FileUtils.h>
 #include <orv/core/Logging.h>
-#include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/content/RawCell.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>

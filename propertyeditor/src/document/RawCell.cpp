@@ -1,6 +1,7 @@
+#include "orv/propertyeditor/content/RawCell.h"
+
 #include <orv/core/JsonUtils.h>
 #include <orv/core/Logging.h>
-#include <orv/propertyeditor/content/RawCell.h>
 
 #include <QJsonDocument>
 

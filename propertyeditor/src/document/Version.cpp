@@ -1,4 +1,4 @@
-#include <orv/propertyeditor/Version.h>
+#include "orv/propertyeditor/Version.h"
 
 namespace orv {
 

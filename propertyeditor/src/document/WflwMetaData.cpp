@@ -1,9 +1,10 @@
+#include "orv/propertyeditor/workflow/WflwMetaData.h"
+
 #include <KProperty>
 #include <KPropertySet>
 #include <orv/core/AppUtils.h>
 #include <orv/core/JsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
-#include <orv/propertyeditor/workflow/WflwMetaData.h>
 
 #include <QDateTime>
 #include <QJsonDocument>

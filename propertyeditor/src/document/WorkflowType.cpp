@@ -1,4 +1,4 @@
-#include <orv/propertyeditor/workflow/WorkflowType.h>
+#include "orv/propertyeditor/workflow/WorkflowType.h"
 
 #include <array>
 

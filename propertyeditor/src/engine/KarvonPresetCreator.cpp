@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/engine/KarvonPresetCreator.h"
+
 #include "KPropertyUpdater.h"
 #include "KarvonFeatures.h"
 #include "KarvonKeys.h"
@@ -9,7 +11,6 @@
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
-#include <orv/propertyeditor/engine/KarvonPresetCreator.h>
 #include <orv/resources/ResourceManager.h>
 #include <orv/table/XenosetPreset.h>
 

@@ -1,5 +1,6 @@
+#include "orv/propertyeditor/engine/KarvonPropertiesGetter.h"
+
 #include <orv/propertyeditor/PropertyEditorUtils.h>
-#include <orv/propertyeditor/engine/KarvonPropertiesGetter.h>
 
 #include <algorithm>
 

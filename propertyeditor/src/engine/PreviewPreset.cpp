@@ -1,5 +1,6 @@
+#include "orv/propertyeditor/engine/PreviewPreset.h"
+
 #include <orv/core/FileUtils.h>
-#include <orv/propertyeditor/engine/PreviewPreset.h>
 
 #include <QBuffer>
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include <orv/propertyeditor/validators/AbstractValidator.h>
+#include "orv/propertyeditor/validators/AbstractValidator.h"
 
 namespace orv::PropertyEditor {
 

@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/validators/BuiltinValidator.h"
+
 #include "ValidatorText.h"
 
 #include <KPropertySet>
@@ -7,7 +9,6 @@
 #include <orv/propertyeditor/PropertyText.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
-#include <orv/propertyeditor/validators/BuiltinValidator.h>
 #include <orv/propertyeditor/validators/CheckRun.h>
 
 namespace orv::PropertyEditor {

@@ -1,6 +1,6 @@
-#include "SampleFiles.h"
+#include "orv/propertyeditor/validators/CheckRun.h"
 
-#include <orv/propertyeditor/validators/CheckRun.h>
+#include "SampleFiles.h"
 
 #include <QHash>
 

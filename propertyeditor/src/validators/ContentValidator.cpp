@@ -1,7 +1,8 @@
+#include "orv/propertyeditor/validators/ContentValidator.h"
+
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/validators/AbstractValidator.h>
 #include <orv/propertyeditor/validators/CheckRun.h>
-#include <orv/propertyeditor/validators/ContentValidator.h>
 #include <orv/propertyeditor/validators/FindingsValidator.h>
 #include <orv/propertyeditor/validators/Validators.h>
 

@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/validators/DeltaMassesValidator.h"
+
 #include "ValidatorHelpers.h"
 #include "ValidatorText.h"
 
@@ -5,7 +7,6 @@
 #include <orv/propertyeditor/content/MassesTableItem.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
 #include <orv/propertyeditor/validators/CheckRun.h>
-#include <orv/propertyeditor/validators/DeltaMassesValidator.h>
 
 namespace orv::PropertyEditor {
 

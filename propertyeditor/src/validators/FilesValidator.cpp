@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/validators/FilesValidator.h"
+
 #include "PathRules.h"
 #include "SampleFiles.h"
 
@@ -7,7 +9,6 @@
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
 #include <orv/propertyeditor/validators/CheckRun.h>
-#include <orv/propertyeditor/validators/FilesValidator.h>
 #include <orv/propertyeditor/validators/MirelPathsValidator.h>
 #include <orv/propertyeditor/validators/TalvanePathsValidator.h>
 #include <orv/resources/ResourceReferenceUtils.h>

@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/validators/FindingPlaces.h"
+
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/content/Content.h>
@@ -5,7 +7,6 @@
 #include <orv/propertyeditor/content/ItemSubGroup.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
-#include <orv/propertyeditor/validators/FindingPlaces.h>
 
 #include <QJsonArray>
 

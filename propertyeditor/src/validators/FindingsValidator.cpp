@@ -1,5 +1,6 @@
+#include "orv/propertyeditor/validators/FindingsValidator.h"
+
 #include <orv/propertyeditor/validators/CheckRun.h>
-#include <orv/propertyeditor/validators/FindingsValidator.h>
 
 namespace orv::PropertyEditor {
 

@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/validators/InsilicoValidator.h"
+
 #include "ValidatorHelpers.h"
 #include "ValidatorText.h"
 
@@ -9,7 +11,6 @@
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/validators/CheckRun.h>
-#include <orv/propertyeditor/validators/InsilicoValidator.h>
 #include <orv/resources/ResourceManager.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 

@@ -1,5 +1,6 @@
+#include "orv/propertyeditor/validators/MGFValidator.h"
+
 #include <orv/core_ms/MsDataAccessorsFactory.h>
-#include <orv/propertyeditor/validators/MGFValidator.h>
 
 #include <QCoroFuture>
 #include <QCoroTask>

@@ -1,10 +1,11 @@
+#include "orv/propertyeditor/validators/MirelPathsValidator.h"
+
 #include "PathRules.h"
 #include "SampleFiles.h"
 
 #include <orv/core/Logging.h>
 #include <orv/core_ms/MsDataFileUtils.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
-#include <orv/propertyeditor/validators/MirelPathsValidator.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 
 #include <QObject>

@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/validators/MsTracesValidator.h"
+
 #include "ValidatorHelpers.h"
 #include "ValidatorText.h"
 
@@ -5,7 +7,6 @@
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
 #include <orv/propertyeditor/validators/CheckRun.h>
-#include <orv/propertyeditor/validators/MsTracesValidator.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 
 namespace orv::PropertyEditor {

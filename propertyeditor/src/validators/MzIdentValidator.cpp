@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/validators/MzIdentValidator.h"
+
 #include "ValidatorHelpers.h"
 #include "ValidatorText.h"
 
@@ -8,7 +10,6 @@
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
 #include <orv/propertyeditor/validators/CheckRun.h>
-#include <orv/propertyeditor/validators/MzIdentValidator.h>
 #include <orv/samples/SampleUtils.h>
 
 namespace orv::PropertyEditor {

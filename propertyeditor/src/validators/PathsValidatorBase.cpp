@@ -1,6 +1,7 @@
+#include "orv/propertyeditor/validators/PathsValidatorBase.h"
+
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/validators/CheckRun.h>
-#include <orv/propertyeditor/validators/PathsValidatorBase.h>
 
 namespace orv::PropertyEditor {
 

@@ -1,10 +1,11 @@
+#include "orv/propertyeditor/validators/SampleDataValidator.h"
+
 #include "SampleFiles.h"
 
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
 #include <orv/propertyeditor/validators/CheckRun.h>
-#include <orv/propertyeditor/validators/SampleDataValidator.h>
 #include <orv/resources/ResourceManager.h>
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/validators/SampleTypesValidator.h"
+
 #include "ValidatorHelpers.h"
 
 #include <orv/core_ms/MsDataFileUtils.h>
@@ -6,7 +8,6 @@
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
 #include <orv/propertyeditor/validators/CheckRun.h>
-#include <orv/propertyeditor/validators/SampleTypesValidator.h>
 
 #include <QObject>
 

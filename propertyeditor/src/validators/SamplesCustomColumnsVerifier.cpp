@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/validators/SamplesCustomColumnsVerifier.h"
+
 #include "ValidatorText.h"
 
 #include <orv/core/JsonUtils.h>
@@ -7,7 +9,6 @@
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/content/SamplesProteinsColumns.h>
-#include <orv/propertyeditor/validators/SamplesCustomColumnsVerifier.h>
 #include <orv/samples/CustomFieldsStringConstants.h>
 
 #include <QSet>

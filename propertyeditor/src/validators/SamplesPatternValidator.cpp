@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/validators/SamplesPatternValidator.h"
+
 #include "ValidatorHelpers.h"
 #include "ValidatorText.h"
 
@@ -6,7 +8,6 @@
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
 #include <orv/propertyeditor/validators/CheckRun.h>
-#include <orv/propertyeditor/validators/SamplesPatternValidator.h>
 #include <orv/resources/FileTypeUtils.h>
 #include <orv/samples/SampleUtils.h>
 

@@ -1,9 +1,10 @@
+#include "orv/propertyeditor/validators/TalvanePathsValidator.h"
+
 #include "PathRules.h"
 #include "SampleFiles.h"
 
 #include <orv/core_ms/MsDataFileUtils.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
-#include <orv/propertyeditor/validators/TalvanePathsValidator.h>
 #include <orv/resources/ExternalDataSources.h>
 #include <orv/resources/PepmapTypesChecker.h>
 #include <orv/resources/ResourceHandlerUtils.h>

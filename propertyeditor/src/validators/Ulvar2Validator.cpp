@@ -1,7 +1,8 @@
+#include "orv/propertyeditor/validators/Ulvar2Validator.h"
+
 #include <orv/core/FileTypes.h>
 #include <orv/core_ms/TolqUtils.h>
 #include <orv/core_ms/Ulvar2Dao.h>
-#include <orv/propertyeditor/validators/Ulvar2Validator.h>
 
 #include <QObject>
 #include <QTemporaryDir>

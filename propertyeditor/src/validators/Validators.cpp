@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/validators/Validators.h"
+
 #include <orv/propertyeditor/validators/BuiltinValidator.h>
 #include <orv/propertyeditor/validators/DeltaMassesValidator.h>
 #include <orv/propertyeditor/validators/FilesValidator.h>
@@ -10,7 +12,6 @@
 #include <orv/propertyeditor/validators/SampleTypesValidator.h>
 #include <orv/propertyeditor/validators/SamplesPatternValidator.h>
 #include <orv/propertyeditor/validators/Ulvar2Validator.h>
-#include <orv/propertyeditor/validators/Validators.h>
 #include <orv/propertyeditor/validators/WorkflowValidator.h>
 
 #include <algorithm>

@@ -1,10 +1,11 @@
+#include "orv/propertyeditor/validators/WorkflowCheck.h"
+
 #include <orv/core/JsonScanner.h>
 #include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/validators/ContentValidator.h>
 #include <orv/propertyeditor/validators/SampleTypesValidator.h>
 #include <orv/propertyeditor/validators/Validators.h>
-#include <orv/propertyeditor/validators/WorkflowCheck.h>
 #include <orv/propertyeditor/workflow/WorkflowPaths.h>
 
 #include <QHash>

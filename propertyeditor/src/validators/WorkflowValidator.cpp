@@ -1,8 +1,9 @@
+#include "orv/propertyeditor/validators/WorkflowValidator.h"
+
 #include "ValidatorText.h"
 
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/validators/CheckRun.h>
-#include <orv/propertyeditor/validators/WorkflowValidator.h>
 
 namespace orv::PropertyEditor {
 

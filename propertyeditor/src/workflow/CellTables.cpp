@@ -1,8 +1,9 @@
+#include "orv/propertyeditor/workflow/CellTables.h"
+
 #include <orv/chemistry/ChemistryConstants.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/content/SequenceDatabaseItems.h>
-#include <orv/propertyeditor/workflow/CellTables.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 #include <orv/samples/SamplesAndTracesContent.h>
 

@@ -1,6 +1,7 @@
+#include "orv/propertyeditor/workflow/MirelElutionPeaksBackwardsCompatibility.h"
+
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
-#include <orv/propertyeditor/workflow/MirelElutionPeaksBackwardsCompatibility.h>
 
 #include <array>
 

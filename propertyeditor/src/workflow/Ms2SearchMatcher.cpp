@@ -1,7 +1,8 @@
+#include "orv/propertyeditor/content/Ms2SearchMatcher.h"
+
 #include <orv/core/Logging.h>
 #include <orv/project/KarvonResultFile.h>
 #include <orv/propertyeditor/PropertyEditorUtils.h>
-#include <orv/propertyeditor/content/Ms2SearchMatcher.h>
 #include <orv/resources/ResourceManager.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 #include <orv/resources/ResourceTypeChecker.h>

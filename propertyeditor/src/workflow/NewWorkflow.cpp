@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/workflow/NewWorkflow.h"
+
 #include <KProperty>
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/AllowedProperties.h>
@@ -9,7 +11,6 @@
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/content/RawCell.h>
-#include <orv/propertyeditor/workflow/NewWorkflow.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 #include <orv/samples/ExtendedMetadataInfo.h>
 #include <orv/samples/SamplesAndTracesContent.h>

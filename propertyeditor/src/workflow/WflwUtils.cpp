@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/workflow/WflwUtils.h"
+
 #include <orv/core/FileExtensionsNameFilter.h>
 #include <orv/core/FileNameUtils.h>
 #include <orv/core/JsonUtils.h>
@@ -6,7 +8,6 @@
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
-#include <orv/propertyeditor/workflow/WflwUtils.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 
 #include <QCoreApplication>

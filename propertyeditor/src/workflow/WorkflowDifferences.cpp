@@ -1,10 +1,11 @@
+#include "orv/propertyeditor/workflow/WorkflowDifferences.h"
+
 #include "ValueDifferences.h"
 
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
-#include <orv/propertyeditor/workflow/WorkflowDifferences.h>
 
 #include <algorithm>
 

@@ -1,5 +1,6 @@
+#include "orv/propertyeditor/workflow/WorkflowPaths.h"
+
 #include <orv/propertyeditor/content/ItemGroup.h>
-#include <orv/propertyeditor/workflow/WorkflowPaths.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 
 #include <QCoreApplication>

@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/workflow/WorkflowSchema.h"
+
 #include "ValueSchema.h"
 
 #include <orv/propertyeditor/AllowedProperties.h>
@@ -9,7 +11,6 @@
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/workflow/NewWorkflow.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
-#include <orv/propertyeditor/workflow/WorkflowSchema.h>
 
 #include <QJsonArray>
 #include <QMap>

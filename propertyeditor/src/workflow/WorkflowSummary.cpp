@@ -1,8 +1,9 @@
+#include "orv/propertyeditor/workflow/WorkflowSummary.h"
+
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/content/CellTypes.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/content/RawCell.h>
-#include <orv/propertyeditor/workflow/WorkflowSummary.h>
 
 #include <QJsonArray>
 #include <QMetaEnum>

@@ -1,6 +1,7 @@
+#include "orv/propertyeditor/workflow/WorkflowUpgrade.h"
+
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/workflow/WflwUpgrader.h>
-#include <orv/propertyeditor/workflow/WorkflowUpgrade.h>
 
 #include <QCoreApplication>
 

@@ -1,6 +1,7 @@
+#include "orv/propertyeditor/workflow/WorkflowUpgradeReview.h"
+
 #include <orv/propertyeditor/PropertySetCreator.h>
 #include <orv/propertyeditor/workflow/WorkflowDifferences.h>
-#include <orv/propertyeditor/workflow/WorkflowUpgradeReview.h>
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include <orv/core_ms/internal/FormatDetectorRegistry.h>
+#include "orv/core_ms/internal/FormatDetectorRegistry.h"
 
 #include <stdexcept>
 

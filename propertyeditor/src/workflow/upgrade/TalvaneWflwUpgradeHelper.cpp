@@ -1,7 +1,8 @@
+#include "orv/propertyeditor/workflow/TalvaneWflwUpgradeHelper.h"
+
 #include "StepHelpers.h"
 
 #include <orv/propertyeditor/content/SamplesTableItem.h>
-#include <orv/propertyeditor/workflow/TalvaneWflwUpgradeHelper.h>
 #include <orv/remote/TalvaneConnection.h>
 #include <orv/remote/TalvaneDownloadTolqMetadataTask.h>
 #include <orv/resources/ResourceReferenceUtils.h>

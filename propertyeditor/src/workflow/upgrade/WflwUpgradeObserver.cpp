@@ -1,4 +1,4 @@
-#include <orv/propertyeditor/workflow/WflwUpgradeObserver.h>
+#include "orv/propertyeditor/workflow/WflwUpgradeObserver.h"
 
 namespace orv {
 

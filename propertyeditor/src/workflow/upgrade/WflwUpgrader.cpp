@@ -1,3 +1,5 @@
+#include "orv/propertyeditor/workflow/WflwUpgrader.h"
+
 #include "DocumentComparison.h"
 #include "UpgradeRun.h"
 #include "WflwUpgradeHelper_p.h"
@@ -5,7 +7,6 @@
 #include <orv/propertyeditor/workflow/TalvaneWflwUpgradeHelper.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 #include <orv/propertyeditor/workflow/WflwUpgradeObserver.h>
-#include <orv/propertyeditor/workflow/WflwUpgrader.h>
 
 #include <QCoreApplication>
 #include <QVersionNumber>

@@ -1,7 +1,7 @@
+#include "orv/propertyeditor/workflow/WorkingContent.h"
+
 #include "TreeText.h"
 #include "UpgradeRun.h"
-
-#include <orv/propertyeditor/workflow/WorkingContent.h>
 
 namespace orv {
 
