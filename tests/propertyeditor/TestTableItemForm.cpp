@@ -99,7 +99,7 @@ void TestTableItemForm::theOtherSamplesWriteTheirCustomColumns()
 {
     const QJsonObject definitions = node({QJsonObject{{u"name"_s, u"Age"_s}}});
     const QJsonObject json =
-        cell(u"Karvon"_s, {entry(u"Samples"_s, table()), entry(u"CustomColumns"_s, definitions)});
+        cell(u"Karvon"_s, {entry(u"Samples"_s, isotopeTable()), entry(u"CustomColumns"_s, definitions)});
     TableItem item(PropertyId::Samples, BaseItemType::Karvon);
     QCOMPARE(item.toJson(kKeepForm),
              cell(u"Karvon"_s, {entry(u"Samples"_s, node({})), entry(u"CustomColumns"_s, node({}))}));
@@ -215,7 +215,8 @@ void TestTableItemForm::clearingAnnouncesNothing()
     TableItem item(PropertyId::Samples, BaseItemType::Karvon);
     const QJsonObject definitions = node({QJsonObject{{u"name"_s, u"Age"_s}}});
     ORV_VERIFY_OK(item.assignFromJson(
-        cell(u"Karvon"_s, {entry(u"Samples"_s, table()), entry(u"CustomColumns"_s, definitions)}), {}));
+        cell(u"Karvon"_s, {entry(u"Samples"_s, isotopeTable()), entry(u"CustomColumns"_s, definitions)}),
+        {}));
     const QSignalSpy reset(&item, &BaseItem::reset);
     const QSignalSpy rows(&item, &BaseTableItem::rowCountChanged);
     const QSignalSpy columns(&item, &BaseTableItem::columnCountChanged);

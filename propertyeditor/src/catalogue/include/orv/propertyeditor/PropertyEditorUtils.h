@@ -34,9 +34,9 @@ class Content;
 class KeyValueItem;
 } // namespace PropertyEditor
 
-/// Answers to questions about a workflow as a whole. A facade: it is declared below the tree, for code of every
-/// floor, and each body stands on the floor of what it needs, so call from that floor or above. All functions
-/// are static; those that take a document or an item run on its thread, all others on any.
+/// Answers to questions about a workflow as a whole. A facade: it is declared below the tree, for code of
+/// every floor, and each body stands on the floor of what it needs, so call from that floor or above. All
+/// functions are static; those that take a document or an item run on its thread, all others on any.
 class ORV_WORKFLOW_EXPORT PropertyEditorUtils
 {
     Q_GADGET
