@@ -56,6 +56,7 @@ private Q_SLOTS:
     void onlySearchesOfOneKindAreAskedForTheirVendors_data();
     void onlySearchesOfOneKindAreAskedForTheirVendors();
     void unevenTabsAreRefused();
+    void aNameThatIsNoValidatorsIsRefused();
     void manySamplesAreLocatedInOneWalk();
 };
 
@@ -160,6 +161,17 @@ void TestWorkflowCheck::unevenTabsAreRefused()
     ProjectFixtures::load(
         &content, Documents::document({Documents::tab(u"Search"_s, {u"A"_s, u"B"_s}, {step(u"Karvon"_s)})}));
     QVERIFY(WorkflowCheck().run(content, kWorkflowFolder).hasError());
+}
+
+void TestWorkflowCheck::aNameThatIsNoValidatorsIsRefused()
+{
+    Content content;
+    ProjectFixtures::load(&content,
+                          Documents::document({Documents::tab(u"Search"_s, {u"A"_s}, {step(u"Karvon"_s)})}));
+    const auto report = WorkflowCheck({u"Workflow"_s, u"Vendors"_s}).run(content, kWorkflowFolder);
+    QVERIFY(report.hasError());
+    QCOMPARE(report.error().errorMessage(), u"There is no validator \"Vendors\"."_s);
+    QVERIFY(report.error().details().constFirst().contains(u"SampleTypes"_s));
 }
 
 // With a walk over all samples for each of them, this takes longer than the test may.

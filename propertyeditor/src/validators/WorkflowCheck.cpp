@@ -8,11 +8,19 @@
 #include <orv/propertyeditor/validators/Validators.h>
 #include <orv/propertyeditor/workflow/WorkflowPaths.h>
 
+#include <QCoreApplication>
 #include <QHash>
+
+#include <memory>
 
 namespace orv::PropertyEditor {
 
 namespace {
+
+struct WorkflowCheckTr
+{
+    Q_DECLARE_TR_FUNCTIONS(WorkflowCheck)
+};
 
 void addLines(const QByteArray &text, QList<LocatedFinding> *findings)
 {
@@ -56,8 +64,16 @@ Result<WorkflowCheckReport> WorkflowCheck::run(const Content &content, const QUr
     if (copy.hasError())
         return copy.ecatch();
     ContentValidator validator;
-    for (const QString &name : m_validators)
-        validator.installValidator(Validators::create(name).release());
+    for (const QString &name : m_validators) {
+        std::unique_ptr<AbstractValidator> created = Validators::create(name);
+        if (!created) {
+            return Error(ErrorCode::InvalidContent,
+                         WorkflowCheckTr::tr("There is no validator \"%1\".").arg(name))
+                .addDetail(
+                    WorkflowCheckTr::tr("There are: %1.").arg(Validators::names().join(QLatin1String(", "))));
+        }
+        validator.installValidator(created.release());
+    }
     if (m_isDefault && PropertyEditorUtils::isKarvonOnly(copy->findAllDocuments()))
         validator.installValidator(new SampleTypesValidator);
     WorkflowCheckReport report;

@@ -89,6 +89,7 @@ void TestChemicalFormula::otherTextsAreRefusedWithTheirPlace()
     const Result<ChemicalFormula> read = ChemicalFormula::parse(text);
     QVERIFY(read.hasError());
     QCOMPARE(read.error().code(), ErrorCode::InvalidContent);
+    QCOMPARE(read.error().errorMessage(), u"The chemical formula is malformed."_s);
     QVERIFY2(read.error().details().constFirst().contains(place),
              qPrintable(read.error().details().constFirst()));
 }

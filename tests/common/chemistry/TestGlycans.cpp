@@ -92,6 +92,7 @@ void TestGlycans::otherCompositionsAreRefused()
     const Result<GlycanComposition> read = GlycanComposition::parse(text);
     QVERIFY(read.hasError());
     QCOMPARE(read.error().code(), ErrorCode::InvalidContent);
+    QCOMPARE(read.error().errorMessage(), u"The composition of a glycan is malformed."_s);
 }
 
 void TestGlycans::massesAgreeWithPublishedOnes_data()

@@ -78,6 +78,7 @@ void TestProteinAutoPopulateOptions::otherNamesAreOfPlainProteins()
     const Result<ProteinAutoPopulateOptions> options = ProteinAutoPopulateOptions::fromString(name);
     QVERIFY(options.hasError());
     QCOMPARE(options.error().code(), ErrorCode::InvalidContent);
+    QCOMPARE(options.error().errorMessage(), u"The name of combined proteins is malformed."_s);
 }
 
 void TestProteinAutoPopulateOptions::allCombinationsAreMade()

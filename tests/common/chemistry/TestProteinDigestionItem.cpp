@@ -114,6 +114,7 @@ void TestProteinDigestionItem::otherTextsAreRefusedWithTheirPlace()
     const Result<ProteinDigestionItem> item = ProteinDigestionItem::parse(text);
     QVERIFY(item.hasError());
     QCOMPARE(item.error().code(), ErrorCode::InvalidContent);
+    QCOMPARE(item.error().errorMessage(), u"The digestion text is malformed."_s);
     QVERIFY2(item.error().details().constFirst().contains(place),
              qPrintable(item.error().details().join(u" / "_s)));
 }

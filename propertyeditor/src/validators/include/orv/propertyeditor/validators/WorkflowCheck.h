@@ -60,7 +60,7 @@ public:
     [[nodiscard]] const QStringList &validators() const { return m_validators; }
 
     /// \a baseUrl is the workflow's folder, with a slash at its end. Fails for a document of which there is
-    /// no such copy. On the thread of the content.
+    /// no such copy, and for a name that is no validator's. On the thread of the content.
     [[nodiscard]] Result<WorkflowCheckReport> run(const Content &content, const QUrl &baseUrl,
                                                   const WorkflowSource &source = {}) const;
 
