@@ -48,7 +48,7 @@ void checkSetting(CheckRun &run, const KeyValueItem &item, const QString &key, P
     }
 }
 
-void checkSettings(CheckRun &run, const KeyValueItem &item)
+void checkKeyValueItem(CheckRun &run, const KeyValueItem &item)
 {
     const QMap<PropertyId, PropertyFeatures> &catalogue = *PropertiesNames::names();
     for (const QString &key : item.keys()) {
@@ -65,7 +65,7 @@ void BuiltinValidator::check(CheckRun &run) const
     const Content &content = run.content();
     for (const BaseItem *item : content.findAllItems(content.allItems())) {
         if (const auto *settings = qobject_cast<const KeyValueItem *>(item))
-            checkSettings(run, *settings);
+            checkKeyValueItem(run, *settings);
     }
 }
 
