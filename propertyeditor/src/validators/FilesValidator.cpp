@@ -130,7 +130,9 @@ Result<QList<SettingReference>> referencesOfSettings(const Content &content)
     QList<SettingReference> references;
     for (const BaseItem *item : content.findAllItems(content.allItems())) {
         const auto *settings = qobject_cast<const KeyValueItem *>(item);
-        for (PropertyId id : settings ? ids : QList<PropertyId>()) {
+        if (!settings)
+            continue;
+        for (PropertyId id : ids) {
             if (!settings->contains(PropertiesNames::internalNameForType(id)))
                 continue;
             Result<ResourceReferenceSPtr> reference = referenceOf(*settings, id);
