@@ -24,8 +24,10 @@ run("${CMAKE_COMMAND}" -S "${CONSUMER_DIR}" -B "${WORK_DIR}/build" -G "${GENERAT
 run("${CMAKE_COMMAND}" --build "${WORK_DIR}/build")
 run("${WORK_DIR}/build/list-tabs" "${WORKFLOW}")
 
+# Which version that is, other tests say.
+string(REGEX REPLACE "^Format version [0-9]+\\.[0-9]+\\.[0-9]+\n" "Format version\n" output "${output}")
 set(expected [[
-Format version 5.47.0
+Format version
 Samples: 1 cell(s)
 Sequences: 2 cell(s)
 Peptide map: 2 cell(s)
