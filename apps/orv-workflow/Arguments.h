@@ -22,6 +22,14 @@ enum class ValueKind
     Validator,
 };
 
+/// What an option's file or folder is to its command.
+enum class FileUse
+{
+    Read,
+    Written,       ///< never an input of the same call
+    WrittenAsTold, ///< it may be an input, and the command sees to it that nothing is lost
+};
+
 /// What may be said of an argument beside its name, value and description.
 struct ArgumentTraits
 {
@@ -33,6 +41,7 @@ struct ArgumentTraits
 
     bool isRequired = false;
     ValueKind kind = ValueKind::Text;
+    FileUse use = FileUse::Read;
     std::optional<Range> range = {};
     QStringList choices = {};    ///< the only values that are allowed; empty for any
     QStringList needs = {};      ///< names of the options without which this one is wrong usage

@@ -90,39 +90,30 @@ QString placeText(const LocatedFinding &finding)
     return parts.join(QLatin1String(" / "));
 }
 
-QJsonArray checkReportJson(const CheckAnswers &answers)
+QJsonObject checkReportJson(const CheckAnswer &answer)
 {
-    QJsonArray array;
-    for (const CheckAnswer &answer : answers) {
-        QJsonArray findings;
-        for (const LocatedFinding &finding : answer.findings)
-            findings.append(toJson(finding));
-        array.append(QJsonObject{
-            {QStringLiteral("file"), answer.file},
+    QJsonArray findings;
+    for (const LocatedFinding &finding : answer.findings)
+        findings.append(toJson(finding));
+    return {{QStringLiteral("file"), answer.file},
             {QStringLiteral("valid"), answer.isValid ? QJsonValue(*answer.isValid) : QJsonValue()},
             {QStringLiteral("errors"), QJsonArray::fromStringList(answer.errors)},
             {QStringLiteral("warnings"), QJsonArray::fromStringList(answer.warnings)},
             {QStringLiteral("findings"), findings},
             {QStringLiteral("lost"), orv::cli::toJson(answer.lost)},
-            {QStringLiteral("error"),
-             answer.failure ? QJsonValue(orv::cli::toJson(*answer.failure)) : QJsonValue()}});
-    }
-    return array;
+            {QStringLiteral("error"), errorJson(answer.failure)}};
 }
 
-QString checkReportText(const CheckAnswers &answers)
+QString checkReportText(const CheckAnswer &answer)
 {
-    QString text;
-    for (const CheckAnswer &answer : answers) {
-        if (!answer.isValid)
-            continue;
-        text += heading(answer);
-        qsizetype placeWidth = 0;
-        for (const LocatedFinding &finding : answer.findings)
-            placeWidth = std::max(placeWidth, placeAndLine(finding).size());
-        for (const LocatedFinding &finding : answer.findings)
-            text += findingLines(finding, placeWidth);
-    }
+    if (!answer.isValid)
+        return {};
+    QString text = heading(answer);
+    qsizetype placeWidth = 0;
+    for (const LocatedFinding &finding : answer.findings)
+        placeWidth = std::max(placeWidth, placeAndLine(finding).size());
+    for (const LocatedFinding &finding : answer.findings)
+        text += findingLines(finding, placeWidth);
     return text;
 }
 

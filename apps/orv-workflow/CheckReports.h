@@ -12,10 +12,10 @@ namespace orv::cli {
 
 using CheckAnswers = std::vector<CheckAnswer>;
 
-/// [{"file", "valid", "errors", "warnings", "findings", "lost", "error"}]
-[[nodiscard]] QJsonArray checkReportJson(const CheckAnswers &answers);
-/// For people: a heading for each file, and below it the findings in columns.
-[[nodiscard]] QString checkReportText(const CheckAnswers &answers);
+/// {"file", "valid", "errors", "warnings", "findings", "lost", "error"}
+[[nodiscard]] QJsonObject checkReportJson(const CheckAnswer &answer);
+/// For people: a heading, and below it the findings in columns. Nothing where the check couldn't run.
+[[nodiscard]] QString checkReportText(const CheckAnswer &answer);
 /// SARIF 2.1.0, for reviews.
 [[nodiscard]] QJsonObject checkReportSarif(const CheckAnswers &answers);
 /// JUnit XML, for CI systems: a suite for each file, and in it a case for each of the validators.

@@ -1,11 +1,15 @@
 #include "CommandLine.h"
 
-#include <QFile>
+#include "Console.h"
+#include "NativeNames.h"
+
+#include <orv/core/NearestNames.h>
 
 // The one file that may include the parser: it takes ten seconds to compile.
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cstdio>
 #include <string>
 
 namespace orv::cli {
@@ -25,7 +29,7 @@ std::string shielded(const std::string &argument)
 
 QString decoded(const std::string &argument)
 {
-    return QFile::decodeName(argument.c_str() + (argument.starts_with(kShield) ? 1 : 0));
+    return nameFromBytes(argument.c_str() + (argument.starts_with(kShield) ? 1 : 0));
 }
 
 QStringList decoded(const std::vector<std::string> &arguments)
@@ -128,6 +132,60 @@ std::vector<std::string> givenArguments(int argc, const char *const argv[])
     return arguments;
 }
 
+/// The first argument that is no option, which names the subcommand.
+QString subcommandIn(int argc, const char *const argv[])
+{
+    for (int i = 1; i < argc; ++i) {
+        if (*argv[i] != '-')
+            return nameFromBytes(argv[i]);
+    }
+    return {};
+}
+
+QStringList optionsIn(const CommandLine &line, const QString &subcommand)
+{
+    QList<Argument> all = line.arguments.list();
+    for (const SubcommandLine &row : line.subcommands) {
+        if (row.name == subcommand)
+            all += row.arguments.list();
+    }
+    QStringList names;
+    for (const Argument &argument : all) {
+        if (argument.form != Form::Positional)
+            names += argument.names;
+    }
+    return names;
+}
+
+/// What the parser says, with the names that may have been meant.
+QString problemOf(const CLI::ParseError &error, const CommandLine &line, int argc, const char *const argv[])
+{
+    const QString subcommand = subcommandIn(argc, argv);
+    QStringList subcommands;
+    for (const SubcommandLine &row : line.subcommands)
+        subcommands.append(row.name);
+    if (!subcommand.isEmpty() && !subcommands.contains(subcommand)) {
+        return QStringLiteral("There is no subcommand \"%1\".").arg(subcommand) +
+               NearestNames::question(subcommand, subcommands);
+    }
+    QString problem = QString::fromLocal8Bit(error.what()) + QLatin1Char('.');
+    const QStringList options = optionsIn(line, subcommand);
+    for (int i = 1; i < argc; ++i) {
+        const QString option = nameFromBytes(argv[i]).section(QLatin1Char('='), 0, 0);
+        if (option.startsWith(QLatin1String("--")) && option.size() > 2 && !options.contains(option))
+            problem += NearestNames::question(option, options);
+    }
+    return problem;
+}
+
+void printProblem(const QString &problem, const CLI::App &app)
+{
+    const QString text =
+        QStringLiteral("%1\nRun with %2 for more information.\n")
+            .arg(withoutControls(problem), QString::fromStdString(app.get_help_ptr()->get_name()));
+    std::fputs(text.toLocal8Bit().constData(), stderr);
+}
+
 } // namespace
 
 ParsedLine parse(const CommandLine &line, int argc, const char *const argv[])
@@ -147,7 +205,11 @@ ParsedLine parse(const CommandLine &line, int argc, const char *const argv[])
     try {
         app.parse(givenArguments(argc, argv));
     } catch (const CLI::ParseError &error) {
-        return {{}, app.exit(error) == 0 ? Done : WrongUsage};
+        if (error.get_exit_code() == 0)
+            return {{}, app.exit(error) == 0 ? Done : WrongUsage};
+        const QString problem = problemOf(error, line, argc, argv);
+        printProblem(problem, app);
+        return {{}, WrongUsage, problem};
     }
     const auto isAsked = [](const CLI::App *subcommand) { return subcommand->parsed(); };
     const auto asked = std::find_if(subcommands.begin(), subcommands.end(), isAsked);

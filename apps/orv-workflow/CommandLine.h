@@ -36,6 +36,7 @@ struct ParsedLine
 {
     std::optional<size_t> subcommand;
     ExitCode exitCode = Done;
+    QString problem = {}; ///< why the usage was wrong
 };
 
 /// Parses what the system gives to main(), and sets the declared variables.

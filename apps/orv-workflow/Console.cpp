@@ -1,12 +1,21 @@
 #include "Console.h"
 
+#include "NativeNames.h"
+
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 
 namespace orv::cli {
 
 namespace {
+
+/// A terminal that follows escape sequences.
+bool isTerminal(int descriptor)
+{
+    return isatty(descriptor) == 1 && qgetenv("TERM") != "dumb";
+}
 
 bool coloursWanted()
 {
@@ -36,21 +45,25 @@ const char *escapeOf(Style style)
 bool writeStandardOutput(const QByteArray &bytes)
 {
     const auto size = static_cast<size_t>(bytes.size());
-    return std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+    if (std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0)
+        return true;
+    // Who reads the first lines alone ("| head") has all that was wanted.
+    return errno == EPIPE;
 }
 
 bool standardOutputIsTerminal()
 {
-    return isatty(STDOUT_FILENO) == 1;
+    return isTerminal(STDOUT_FILENO);
 }
 
 bool standardErrorIsTerminal()
 {
-    return isatty(STDERR_FILENO) == 1;
+    return isTerminal(STDERR_FILENO);
 }
 
 QString withoutControls(QString text)
 {
+    text = withEscapedBytes(text);
     for (QChar &c : text) {
         if (c.category() == QChar::Other_Control)
             c = QLatin1Char(' ');

@@ -5,15 +5,15 @@
 
 namespace orv::cli {
 
-/// Writes to standard output; false when that fails (a full disk, a closed pipe).
+/// Writes to standard output; false when that fails (a full disk). A reader that went away is none.
 [[nodiscard]] bool writeStandardOutput(const QByteArray &bytes);
 
-/// Whether a person reads: standard output or standard error is a terminal.
+/// Whether a person reads: standard output or standard error is a terminal, and no dumb one.
 [[nodiscard]] bool standardOutputIsTerminal();
 [[nodiscard]] bool standardErrorIsTerminal();
 
 /// \a text from a document or a path as a line for people may hold it: a control character could break the
-/// line or steer the terminal, so each becomes a blank.
+/// line or steer the terminal, so each becomes a blank; bytes of a name that are no text are told as "\xfc".
 [[nodiscard]] QString withoutControls(QString text);
 
 enum class Style

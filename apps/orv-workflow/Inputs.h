@@ -15,6 +15,10 @@ namespace orv::cli {
 /// The path of standard input.
 inline constexpr QLatin1String kStandardInput("-");
 
+/// Whether \a argument is read once and from where it stands: standard input by either name, or the end of a
+/// pipe that a shell names "/dev/fd/63".
+[[nodiscard]] bool isStream(const QString &argument);
+
 /// The file that a FILE argument means: the inner file of a portable workflow folder, else the argument.
 [[nodiscard]] QString workflowFileOf(const QString &argument);
 
@@ -43,8 +47,9 @@ struct BatchInput
     QString root = {}; ///< the folder that was searched; empty for a file that was named itself
 };
 
-/// The workflows that the arguments of a batch mean, in order: files and portable folders as they are, other
-/// folders by all their *.wflw files, sorted by path, links not followed.
+/// The workflows that the arguments of a batch mean, in order, each once: files and portable folders as they
+/// are, other folders by all their *.wflw files, sorted by path, links to folders not followed. What can't be
+/// opened or looked into is among them with its failure.
 [[nodiscard]] QList<BatchInput> batchInputs(const QStringList &arguments);
 
 } // namespace orv::cli

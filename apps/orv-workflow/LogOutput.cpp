@@ -1,11 +1,17 @@
 #include "LogOutput.h"
 
+#include "Console.h"
+
+#include <orv/propertyeditor/validators/ContentValidator.h>
+
 #include <QFile>
 #include <QLoggingCategory>
+#include <QRegularExpression>
 
 #include <cstdio>
-#include <memory>
+#include <map>
 #include <mutex>
+#include <thread>
 
 namespace orv::cli {
 
@@ -15,6 +21,8 @@ struct Sink
 {
     std::mutex mutex;
     std::FILE *file = stderr;
+    bool repeatsFindings = false;
+    std::map<std::thread::id, QString> documents; ///< that the threads of a batch work on
 
     static Sink &instance()
     {
@@ -39,13 +47,27 @@ const char *levelName(QtMsgType type)
     return "log";
 }
 
+/// The report of a check tells its findings, and the library logs each, too.
+bool isCopyOfFinding(const QString &text)
+{
+    static const QRegularExpression missingFile(QStringLiteral("^File \".*\" doesn't exist$"));
+    return text.startsWith(PropertyEditor::ContentValidator::kLogPrefix) ||
+           missingFile.match(text).hasMatch();
+}
+
 void writeLine(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    const QByteArray line = text.toLocal8Bit();
     Sink &sink = Sink::instance();
     const std::lock_guard lock(sink.mutex);
-    std::fprintf(sink.file, "%s: %s: %s\n", levelName(type), context.category ? context.category : "default",
-                 line.constData());
+    if (!sink.repeatsFindings && isCopyOfFinding(text))
+        return;
+    const auto document = sink.documents.find(std::this_thread::get_id());
+    const QString about = document == sink.documents.end()
+                              ? QString()
+                              : withoutControls(document->second) + QLatin1String(": ");
+    std::fprintf(sink.file, "%s: %s: %s%s\n", levelName(type),
+                 context.category ? context.category : "default", about.toLocal8Bit().constData(),
+                 text.toLocal8Bit().constData());
     std::fflush(sink.file);
 }
 
@@ -53,12 +75,24 @@ QString filterRules(int verbosity)
 {
     if (verbosity >= 2)
         return QStringLiteral("orv.*=true");
-    // Lines that nobody will see aren't put together either.
-    return verbosity == 1 ? QStringLiteral("orv.*.debug=false")
-                          : QStringLiteral("orv.*.debug=false\norv.*.info=false");
+    return verbosity == 1 ? QStringLiteral("orv.*.info=true") : QString();
 }
 
 } // namespace
+
+LogAbout::LogAbout(const QString &file)
+{
+    Sink &sink = Sink::instance();
+    const std::lock_guard lock(sink.mutex);
+    sink.documents.insert_or_assign(std::this_thread::get_id(), file);
+}
+
+LogAbout::~LogAbout()
+{
+    Sink &sink = Sink::instance();
+    const std::lock_guard lock(sink.mutex);
+    sink.documents.erase(std::this_thread::get_id());
+}
 
 bool installLogOutput(int verbosity, const QString &fileName)
 {
@@ -68,6 +102,7 @@ bool installLogOutput(int verbosity, const QString &fileName)
             return false;
         Sink::instance().file = file;
     }
+    Sink::instance().repeatsFindings = verbosity > 0;
     QLoggingCategory::setFilterRules(filterRules(verbosity));
     qInstallMessageHandler(writeLine);
     return true;

@@ -63,7 +63,7 @@ QString lineOf(const WorkflowUpgradeChange &change)
            QLatin1Char('\n');
 }
 
-QString headline(const UpgradeAnswer &answer, const UpgradeWritten &written)
+QString headline(const UpgradeAnswer &answer, const WrittenDocument &written)
 {
     QString text = styled(withoutControls(answer.file), Style::Heading) + QLatin1String(": ");
     if (answer.failure)
@@ -79,7 +79,7 @@ QString headline(const UpgradeAnswer &answer, const UpgradeWritten &written)
 
 } // namespace
 
-QJsonObject upgradeReportJson(const UpgradeAnswer &answer, const UpgradeWritten &written)
+QJsonObject upgradeReportJson(const UpgradeAnswer &answer, const WrittenDocument &written)
 {
     QJsonArray steps;
     for (const WorkflowUpgradeStep &step : answer.steps)
@@ -99,7 +99,7 @@ QJsonObject upgradeReportJson(const UpgradeAnswer &answer, const UpgradeWritten 
              answer.failure ? QJsonValue(orv::cli::toJson(*answer.failure)) : QJsonValue()}};
 }
 
-QString upgradeReportText(const UpgradeAnswer &answer, const UpgradeWritten &written)
+QString upgradeReportText(const UpgradeAnswer &answer, const WrittenDocument &written)
 {
     QString text = headline(answer, written) + QLatin1Char('\n');
     for (const WorkflowUpgradeStep &step : answer.steps) {

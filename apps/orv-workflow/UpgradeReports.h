@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DocumentTarget.h"
 #include "Upgrade.h"
 
 #include <QJsonObject>
@@ -7,15 +8,8 @@
 
 namespace orv::cli {
 
-/// Where an upgraded document went; empty texts where nothing was written.
-struct UpgradeWritten
-{
-    QString output;
-    QString backup;
-};
-
-[[nodiscard]] QJsonObject upgradeReportJson(const UpgradeAnswer &answer, const UpgradeWritten &written);
+[[nodiscard]] QJsonObject upgradeReportJson(const UpgradeAnswer &answer, const WrittenDocument &written);
 /// For people: a line for the file, then step by step what was changed, and the notes.
-[[nodiscard]] QString upgradeReportText(const UpgradeAnswer &answer, const UpgradeWritten &written);
+[[nodiscard]] QString upgradeReportText(const UpgradeAnswer &answer, const WrittenDocument &written);
 
 } // namespace orv::cli

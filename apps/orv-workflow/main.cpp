@@ -2,6 +2,7 @@
 #include "ExitCode.h"
 #include "Failure.h"
 #include "LogOutput.h"
+#include "PathChecks.h"
 #include "ShellSupport.h"
 #include "commands/Command.h"
 
@@ -11,6 +12,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <csignal>
 #include <string_view>
 
@@ -48,12 +50,25 @@ void declare(Program &program)
     }
 }
 
-int run(cli::Command &command, const cli::GlobalOptions &options)
+int run(const Program &program, size_t subcommand)
 {
-    if (cli::installLogOutput(options.verbosity, options.logFile))
-        return command.run(options);
-    cli::printFailure(options.logFile, {cli::BadOutput, 0, QStringLiteral("The log file can't be opened.")});
-    return cli::BadOutput;
+    const cli::GlobalOptions &options = program.options;
+    const QList<cli::Argument> arguments =
+        program.line.arguments.list() + program.line.subcommands.at(subcommand).arguments.list();
+    if (const auto refused = cli::refusedPath(arguments))
+        return cli::printFailedCall(refused->path, refused->failure, options);
+    if (!cli::installLogOutput(options.verbosity, options.logFile)) {
+        return cli::printFailedCall(
+            options.logFile, {cli::BadOutput, 0, QStringLiteral("The log file can't be opened.")}, options);
+    }
+    return program.commands.at(subcommand)->run(options);
+}
+
+/// When the line can't be parsed, too.
+bool jsonIsAskedFor(int argc, char *argv[])
+{
+    return std::any_of(argv + 1, argv + argc,
+                       [](const char *argument) { return std::string_view(argument) == "--json"; });
 }
 
 /// For packagers: `orv-workflow --generate bash` and so on.
@@ -83,6 +98,12 @@ int main(int argc, char *argv[])
     if (generationIsAskedFor(argc, argv))
         return cli::printText(cli::generateShellSupport(QString::fromLocal8Bit(argv[2]), program.line));
     const cli::ParsedLine parsed = cli::parse(program.line, argc, argv);
-    return parsed.subcommand ? run(*program.commands.at(*parsed.subcommand), program.options)
-                             : parsed.exitCode;
+    if (parsed.subcommand)
+        return run(program, *parsed.subcommand);
+    if (!parsed.problem.isEmpty() && jsonIsAskedFor(argc, argv)) {
+        const cli::Failure failure{parsed.exitCode, 0, parsed.problem};
+        return std::max<int>(failure.exitCode,
+                             cli::printJson(QJsonObject{{QStringLiteral("error"), cli::toJson(failure)}}));
+    }
+    return parsed.exitCode;
 }

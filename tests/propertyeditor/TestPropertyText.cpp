@@ -45,6 +45,8 @@ private Q_SLOTS:
     void theRuleOfThePropertyCounts();
     void filesAreNotLookedFor();
     void referencesAndObjectsAreRead();
+    void valuesWithUnitAreReadAsPeopleSayThem_data();
+    void valuesWithUnitAreReadAsPeopleSayThem();
     void legalValuesAreTold_data();
     void legalValuesAreTold();
 };
@@ -63,6 +65,9 @@ void TestPropertyText::textsBecomeValues_data()
         row(1, text, false);
     row(29, u" 12 "_s, 12);
     row(2, u"1.5e1"_s, 15.0);
+    row(2, u"1.5 min"_s, 1.5);
+    row(2, u"0.29"_s, 0.29);
+    row(95, u"12 Da"_s, 12);
     row(43, u" RK "_s, u" RK "_s);
     row(43, QString(), QString());
     row(44, u"Semi-specific"_s, u"Semi-specific"_s);
@@ -99,6 +104,8 @@ void TestPropertyText::otherTextsAreRefused_data()
     row(29, QString());
     row(2, u"much"_s);
     row(2, u"nan"_s);
+    row(2, u"1.5 s"_s);
+    row(2, u"min"_s);
     row(2, u"inf"_s);
     row(44, u"Sometimes"_s);
     row(44, u"99"_s);
@@ -110,6 +117,11 @@ void TestPropertyText::otherTextsAreRefused_data()
     row(67, u"{"_s);
     row(67, u"{\"a\":"_s.repeated(600) + u'1' + u"}"_s.repeated(600)); // no document could hold it
     row(60, u"gopher://x"_s);
+    for (const QString &tolerance : {u"-5 ppm"_s, u"5 mmu"_s, u"5 ppb"_s, u"10001 ppm"_s, u"ppm"_s,
+                                     u"5 5 ppm"_s, u"nan Da"_s, QString(), uR"({"unit":"mmu","value":5})"_s,
+                                     uR"({"unit":"ppm","value":-5})"_s, uR"({"unit":"ppm","value":"5"})"_s})
+        row(80, tolerance);
+    row(228, u"5 mmu"_s);
 }
 
 void TestPropertyText::otherTextsAreRefused()
@@ -156,6 +168,33 @@ void TestPropertyText::referencesAndObjectsAreRead()
     QCOMPARE(QJsonDocument::fromJson(object->toByteArray()).object(), expected);
 }
 
+void TestPropertyText::valuesWithUnitAreReadAsPeopleSayThem_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("unit");
+    QTest::newRow("number and unit") << 80 << u"5 ppm"_s << 5.0 << u"ppm"_s;
+    QTest::newRow("no blank") << 55 << u"0.02Da"_s << 0.02 << u"Da"_s;
+    QTest::newRow("other case") << 56 << u" 0.5 DA "_s << 0.5 << u"Da"_s;
+    QTest::newRow("the unit that it has") << 80 << u"7.5"_s << 7.5 << u"ppm"_s;
+    QTest::newRow("exponent") << 80 << u"1e1 ppm"_s << 10.0 << u"ppm"_s;
+    QTest::newRow("JSON") << 80 << uR"({"unit":"Da","value":0.5})"_s << 0.5 << u"Da"_s;
+    QTest::newRow("mass") << 228 << u"4000 Da"_s << 4000.0 << u"Da"_s;
+}
+
+void TestPropertyText::valuesWithUnitAreReadAsPeopleSayThem()
+{
+    QFETCH(int, number);
+    QFETCH(QString, text);
+    QFETCH(double, value);
+    QFETCH(QString, unit);
+    const auto result = valueOf(number, text);
+    ORV_VERIFY_OK(result);
+    const QJsonObject object = QJsonDocument::fromJson(result->toByteArray()).object();
+    QCOMPARE(object, (QJsonObject{{u"unit"_s, unit}, {u"value"_s, value}}));
+}
+
 void TestPropertyText::legalValuesAreTold_data()
 {
     QTest::addColumn<int>("number");
@@ -165,6 +204,8 @@ void TestPropertyText::legalValuesAreTold_data()
     QTest::newRow("number in a range") << 2 << u"a number in [0;1000]"_s;
     QTest::newRow("text") << 43 << u"a text"_s;
     QTest::newRow("file") << 60 << u"a path or the text of a reference"_s;
+    QTest::newRow("value with unit") << 80
+                                     << u"a number in [0;10000] with the unit ppm or Da, such as \"5 ppm\""_s;
     QTest::newRow("object") << 67 << u"a JSON object"_s;
     QTest::newRow("checkable list") << 70 << u"any of these, separated by commas: S, T, C"_s;
     QTest::newRow("keys with texts")

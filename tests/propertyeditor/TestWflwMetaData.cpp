@@ -11,6 +11,7 @@
 #include <QJsonDocument>
 
 using namespace orv;
+using namespace Qt::StringLiterals;
 using WflwState = WflwMetaData::WflwState;
 using ContentMode = PropertyEditorContent::ContentMode;
 
@@ -19,6 +20,8 @@ class TestWflwMetaData : public OrvTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void aDocumentIsNewerByAnySegment_data();
+    void aDocumentIsNewerByAnySegment();
     void theCurrentVersion();
     void theVersionLists();
     void versionsAreJudged_data();
@@ -314,6 +317,27 @@ void TestWflwMetaData::applicationTypesHaveNames()
     QCOMPARE(workflowAppTypeToString(WorkflowAppType::Talvane), QStringLiteral("Mirel for Talvane"));
     QCOMPARE(int(WorkflowAppType::Mirel), 0);
     QCOMPARE(int(WorkflowAppType::Talvane), 1);
+}
+
+void TestWflwMetaData::aDocumentIsNewerByAnySegment_data()
+{
+    QTest::addColumn<QString>("version");
+    QTest::addColumn<bool>("isNewer");
+    const QString current = WflwMetaData::currentWorkflowVersion().toString();
+    QTest::newRow("current") << current << false;
+    QTest::newRow("old") << u"5.0.999"_s << false;
+    QTest::newRow("none") << u"0"_s << false;
+    QTest::newRow("patch") << nextPatch().toString() << true;
+    QTest::newRow("a fourth segment") << current + u".1"_s << true;
+    QTest::newRow("minor") << u"5.99.0"_s << true;
+    QTest::newRow("major") << u"6"_s << true;
+}
+
+void TestWflwMetaData::aDocumentIsNewerByAnySegment()
+{
+    QFETCH(QString, version);
+    QFETCH(bool, isNewer);
+    QCOMPARE(WflwMetaData::isNewerThanCurrent(QVersionNumber::fromString(version)), isNewer);
 }
 
 ORV_REGISTER_TEST(TestWflwMetaData)

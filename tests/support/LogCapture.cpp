@@ -19,12 +19,14 @@ void capture(QtMsgType type, const QMessageLogContext &context, const QString &t
 LogCapture::LogCapture()
 {
     clear();
+    QLoggingCategory::setFilterRules(QStringLiteral("orv.*=true"));
     m_previous = qInstallMessageHandler(capture);
 }
 
 LogCapture::~LogCapture()
 {
     qInstallMessageHandler(m_previous);
+    QLoggingCategory::setFilterRules({});
 }
 
 QList<LogCapture::Line> LogCapture::lines() const

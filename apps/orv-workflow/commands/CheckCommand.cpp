@@ -1,16 +1,16 @@
-#include "../Batch.h"
 #include "../CheckReports.h"
 #include "../CommonArguments.h"
 #include "../Console.h"
-#include "../Losses.h"
-#include "../Progress.h"
+#include "../OrderedReports.h"
 #include "Command.h"
 
+#include <orv/core/NearestNames.h>
 #include <orv/core/SysUtils.h>
 #include <orv/propertyeditor/validators/AbstractValidator.h>
 #include <orv/propertyeditor/validators/Validators.h>
 
 #include <QDir>
+#include <QJsonDocument>
 
 namespace orv::cli {
 
@@ -20,6 +20,13 @@ constexpr QLatin1String kText("text");
 constexpr QLatin1String kJson("json");
 constexpr QLatin1String kSarif("sarif");
 constexpr QLatin1String kJunit("junit");
+
+/// An option that can't be used as it was given.
+struct RefusedOption
+{
+    QString argument;
+    QString reason;
+};
 
 class CheckCommand : public Command
 {
@@ -31,7 +38,7 @@ public:
                          "Folder that relative paths count from (default: the workflow's own)",
                          {.kind = ValueKind::Folder});
         arguments.options("--validator", &m_validators, "Check in this respect alone; may be repeated",
-                          {.kind = ValueKind::Validator, .takesFollowing = true});
+                          {.kind = ValueKind::Validator});
         arguments.option("--format", &m_format, "How to print: text, json, sarif or junit (default: text)",
                          {.choices = {kText, kJson, kSarif, kJunit}});
         declareJobs(arguments, &m_jobs);
@@ -40,82 +47,87 @@ public:
     int run(const GlobalOptions &options) override
     {
         CheckOptions check;
-        if (!readOptions(options, &check))
-            return WrongUsage;
+        if (const auto refused = refusedOption(options, &check))
+            return printWrongUsage(refused->argument, refused->reason, options);
         const QList<BatchInput> inputs = batchInputs(m_files);
-        CheckAnswers answers(size_t(inputs.size()));
-        {
-            Progress progress(options.progress || standardErrorIsTerminal(), inputs.size());
-            runBatch(inputs.size(), m_jobs, progress,
-                     [&](qsizetype i) { answers[size_t(i)] = checkWorkflow(inputs.at(i), check); });
-        }
-        int exitCode = print(answers, check);
-        for (const CheckAnswer &answer : answers) {
-            if (!isJson())
-                printLosses(answer.file, answer.lost);
-            if (answer.failure)
-                printFailure(answer.file, *answer.failure);
-            const bool isRefused = answer.isValid == false;
-            exitCode = std::max<int>(exitCode, answer.failure ? answer.failure->exitCode
-                                               : isRefused    ? Negative
-                                                              : Done);
-        }
-        return exitCode;
+        const bool showsProgress = options.progress || standardErrorIsTerminal();
+        if (m_format == kSarif || m_format == kJunit)
+            return reportTogether(inputs, check, showsProgress);
+        using Form = OrderedReports::Form;
+        return reportAll(inputs, m_jobs, showsProgress, isJson() ? Form::JsonArray : Form::Text,
+                         [&](qsizetype i) { return report(checkWorkflow(inputs.at(i), check)); });
     }
 
 private:
     [[nodiscard]] bool isJson() const { return m_format == kJson; }
 
-    bool readOptions(const GlobalOptions &options, CheckOptions *check)
+    std::optional<RefusedOption> refusedOption(const GlobalOptions &options, CheckOptions *check)
     {
         if (m_format.isEmpty())
             m_format = options.json ? kJson : kText;
-        if (options.json && !isJson()) {
-            printRemark(QStringLiteral("--format"), QStringLiteral("The option contradicts --json."));
-            return false;
-        }
-        return readBase(check) && readValidators(check);
+        if (options.json && !isJson())
+            return RefusedOption{QStringLiteral("--format"),
+                                 QStringLiteral("The option contradicts --json.")};
+        if (auto refused = refusedBase(check))
+            return refused;
+        return refusedValidator(check);
     }
 
-    bool readBase(CheckOptions *check) const
+    std::optional<RefusedOption> refusedBase(CheckOptions *check) const
     {
         if (m_base.isEmpty())
-            return true;
+            return {};
         const QDir folder(m_base);
-        if (!folder.exists()) {
-            printRemark(m_base, QStringLiteral("There is no such folder; name one with --base."));
-            return false;
-        }
+        if (!folder.exists())
+            return RefusedOption{m_base, QStringLiteral("There is no such folder; name one with --base.")};
         const QString path = folder.absolutePath();
         check->baseUrl =
             QUrl::fromLocalFile(path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/'));
-        return true;
+        return {};
     }
 
-    bool readValidators(CheckOptions *check) const
+    std::optional<RefusedOption> refusedValidator(CheckOptions *check) const
     {
         for (const QString &name : m_validators) {
             const auto validator = PropertyEditor::Validators::create(name);
             if (!validator) {
-                printRemark(name, QStringLiteral("There is no such validator. There are %1.")
-                                      .arg(PropertyEditor::Validators::names().join(QLatin1String(", "))));
-                return false;
+                const QStringList names = PropertyEditor::Validators::names();
+                return RefusedOption{
+                    name, QStringLiteral("There is no such validator.%1 There are %2.")
+                              .arg(NearestNames::question(name, names), names.join(QLatin1String(", ")))};
             }
             check->validators.append(PropertyEditor::Validators::nameOf(*validator));
         }
         check->validators.removeDuplicates();
-        return true;
+        return {};
     }
 
-    [[nodiscard]] int print(const CheckAnswers &answers, const CheckOptions &check) const
+    [[nodiscard]] FileReport report(const CheckAnswer &answer) const
     {
-        if (isJson())
-            return printJson(checkReportJson(answers));
-        if (m_format == kSarif)
-            return printJson(checkReportSarif(answers));
-        if (m_format == kJunit)
-            return printBytes(checkReportJunit(answers, validatorsOf(check)));
-        return printText(checkReportText(answers));
+        FileReport report{.text = {}, .file = answer.file, .lost = answer.lost, .failure = answer.failure};
+        report.text = isJson() ? QJsonDocument(checkReportJson(answer)).toJson()
+                               : checkReportText(answer).toLocal8Bit();
+        report.verdict = !answer.isValid   ? QStringLiteral("not checked")
+                         : *answer.isValid ? QStringLiteral("valid")
+                                           : QStringLiteral("not valid");
+        report.exitCode = answer.isValid == false ? Negative : Done;
+        return report;
+    }
+
+    /// In formats that are one document about all files.
+    [[nodiscard]] int reportTogether(const QList<BatchInput> &inputs, const CheckOptions &check,
+                                     bool showsProgress) const
+    {
+        CheckAnswers answers(size_t(inputs.size()));
+        const auto checkOne = [&](qsizetype i) {
+            CheckAnswer &answer = answers[size_t(i)];
+            answer = checkWorkflow(inputs.at(i), check);
+            return report(answer);
+        };
+        const int exitCode = reportAll(inputs, m_jobs, showsProgress, OrderedReports::Form::Silent, checkOne);
+        const int printed = m_format == kSarif ? printJson(checkReportSarif(answers))
+                                               : printBytes(checkReportJunit(answers, validatorsOf(check)));
+        return std::max(exitCode, printed);
     }
 
     QStringList m_files;

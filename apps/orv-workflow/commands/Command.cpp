@@ -27,7 +27,7 @@ void GlobalOptions::declare(Arguments &arguments)
     arguments.flag("--progress", &progress, "Show progress though standard error is no terminal");
     arguments.counter("-v", &verbosity, "Show info lines of the library; twice: debug lines too");
     arguments.option("--log", &logFile, "Append the library's log lines to this file",
-                     {.kind = ValueKind::File});
+                     {.kind = ValueKind::File, .use = FileUse::Written});
     arguments.version("--version", "Display program version information and exit");
 }
 
@@ -90,6 +90,16 @@ int printFailedCall(const QString &file, const Failure &failure, const QJsonObje
     printFailure(file, failure);
     const int printed = options.json ? printJson(document) : Done;
     return std::max<int>(failure.exitCode, printed);
+}
+
+int printFailedCall(const QString &file, const Failure &failure, const GlobalOptions &options)
+{
+    return printFailedCall(file, failure, {{QStringLiteral("error"), toJson(failure)}}, options);
+}
+
+int printWrongUsage(const QString &argument, const QString &message, const GlobalOptions &options)
+{
+    return printFailedCall(argument, {WrongUsage, 0, message}, options);
 }
 
 int printJson(const QJsonObject &object)

@@ -75,6 +75,12 @@ std::unique_ptr<Command> createReadPrvCommand();
 [[nodiscard]] int printFailedCall(const QString &file, const Failure &failure, const QJsonObject &document,
                                   const GlobalOptions &options);
 
+/// The same for a call whose document tells the failure alone: {"error"}.
+[[nodiscard]] int printFailedCall(const QString &file, const Failure &failure, const GlobalOptions &options);
+/// What is wrong with \a argument; the exit code.
+[[nodiscard]] int printWrongUsage(const QString &argument, const QString &message,
+                                  const GlobalOptions &options);
+
 /// Prints a JSON document; Done, or BadOutput when standard output fails.
 [[nodiscard]] int printJson(const QJsonObject &object);
 [[nodiscard]] int printJson(const QJsonArray &array);

@@ -1,7 +1,9 @@
 #include "../CommonArguments.h"
+#include "../FileIdentity.h"
 #include "../Inputs.h"
 #include "../LoadedWorkflow.h"
 #include "../Losses.h"
+#include "../NewerDocument.h"
 #include "../Output.h"
 #include "Command.h"
 
@@ -31,15 +33,6 @@ struct Conversion
     std::optional<Failure> failure;
 };
 
-/// Whether \a output is the very file that \a input means; standard input and output are none.
-bool isSameFile(const QString &input, const QString &output)
-{
-    if (input == kStandardInput || output == kStandardInput)
-        return false;
-    const QString canonical = QFileInfo(workflowFileOf(input)).canonicalFilePath();
-    return !canonical.isEmpty() && canonical == QFileInfo(output).canonicalFilePath();
-}
-
 class ConvertCommand : public Command
 {
 public:
@@ -47,19 +40,21 @@ public:
     {
         declareWorkflow(arguments, &m_file);
         arguments.option("-o,--output", &m_output, "Where to write; - for standard output",
-                         {.isRequired = true, .kind = ValueKind::File});
+                         {.isRequired = true, .kind = ValueKind::File, .use = FileUse::WrittenAsTold});
         arguments.flag("--absolute-paths", &m_absolutePaths,
                        "Write relative file references as absolute ones");
         arguments.flag("--skip-type-validation", &m_skipTypeValidation, "Accept cells of unknown types");
         arguments.flag("--stamp", &m_stamp, "Renew user, time and version");
+        arguments.flag("--fail-on-loss", &m_failOnLoss,
+                       "Write nothing where something of the workflow would be lost");
         arguments.option("--user", &m_user, "The name to stamp with (default: the current user)");
     }
 
     int run(const GlobalOptions &options) override
     {
         if (!m_user.isEmpty() && !m_stamp) {
-            printRemark(QStringLiteral("--user"), QStringLiteral("The option needs --stamp."));
-            return WrongUsage;
+            return printWrongUsage(QStringLiteral("--user"), QStringLiteral("The option needs --stamp."),
+                                   options);
         }
         const Conversion conversion = convert();
         int exitCode = conversion.failure ? conversion.failure->exitCode : Done;
@@ -81,7 +76,7 @@ private:
         const Outcome<QJsonObject> document = readDocument(m_file);
         if (document.hasFailed())
             return {{}, document.failure()};
-        if (const Outcome<void> allowed = refuseToOverwriteNewer(*document); allowed.hasFailed())
+        if (const Outcome<void> allowed = refuseToDropNewer(*document); allowed.hasFailed())
             return {{}, allowed.failure()};
 
         Content content;
@@ -91,6 +86,8 @@ private:
             return {lost, failureFrom(error, BadInput)};
         if (const PropertyEditor::ItemGroup *tab = content.firstUnevenGroup())
             return {lost, unevenFailure(tab->name())};
+        if (const Outcome<void> allowed = refuseToLose(lost); allowed.hasFailed())
+            return {lost, allowed.failure()};
         return {lost, write(content).failureIfAny()};
     }
 
@@ -112,18 +109,28 @@ private:
         return content.assignFromJson(stamped(json), validation);
     }
 
-    /// A document of a newer format may hold what this version doesn't know.
-    [[nodiscard]] Outcome<void> refuseToOverwriteNewer(const QJsonObject &json) const
+    [[nodiscard]] Outcome<void> refuseToDropNewer(const QJsonObject &json) const
     {
-        const PropertyEditorContent content(json);
-        const QVersionNumber version = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());
-        if (version.majorVersion() <= WflwMetaData::WORKFLOW_JSON_VERSION_MAJOR ||
-            !isSameFile(m_file, m_output))
+        if (m_stamp)
+            return refuseNewer(json, QStringLiteral("is not stamped with an older one; leave out --stamp"));
+        if (isSameFile(workflowFileOf(m_file), m_output))
+            return refuseNewer(json, QStringLiteral("is not written over; name another output"));
+        return {};
+    }
+
+    /// The only copy isn't replaced by less.
+    [[nodiscard]] Outcome<void> refuseToLose(const QList<Loss> &lost) const
+    {
+        if (lost.isEmpty())
             return {};
-        return Failure{Negative, 0,
-                       QStringLiteral("The document has the newer version %1 and is not written over; name "
-                                      "another output.")
-                           .arg(version.toString())};
+        if (m_failOnLoss)
+            return Failure{Negative, 0, QStringLiteral("Not written, since something would be lost.")};
+        if (isSameFile(workflowFileOf(m_file), m_output)) {
+            return Failure{Negative, 0,
+                           QStringLiteral("Not written over itself, since something would be lost; name "
+                                          "another output.")};
+        }
+        return {};
     }
 
     QJsonObject stamped(const QJsonObject &json) const
@@ -165,6 +172,7 @@ private:
     bool m_absolutePaths = false;
     bool m_skipTypeValidation = false;
     bool m_stamp = false;
+    bool m_failOnLoss = false;
 };
 
 } // namespace

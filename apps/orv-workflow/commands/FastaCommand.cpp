@@ -17,7 +17,7 @@ public:
     {
         declareWorkflow(arguments, &m_file);
         arguments.option("-o,--output", &m_output, "Where to write (default: standard output)",
-                         {.kind = ValueKind::File});
+                         {.kind = ValueKind::File, .use = FileUse::Written});
     }
 
     int run(const GlobalOptions &options) override
@@ -26,8 +26,7 @@ public:
         if (!written.hasFailed())
             return Done;
         const Failure &failure = written.failure();
-        return printFailedCall(failure.exitCode == BadOutput ? m_output : m_file, failure,
-                               {{QStringLiteral("error"), toJson(failure)}}, options);
+        return printFailedCall(failure.exitCode == BadOutput ? m_output : m_file, failure, options);
     }
 
 private:

@@ -1,13 +1,14 @@
-#include "../Batch.h"
 #include "../CommonArguments.h"
 #include "../Console.h"
 #include "../Inputs.h"
-#include "../Progress.h"
+#include "../OrderedReports.h"
 #include "Command.h"
 #include "InfoText.h"
 
 #include <orv/core/SysUtils.h>
 #include <orv/propertyeditor/workflow/WorkflowSummary.h>
+
+#include <QJsonDocument>
 
 namespace orv::cli {
 
@@ -49,41 +50,23 @@ public:
 
     int run(const GlobalOptions &options) override
     {
+        using Form = OrderedReports::Form;
         const QList<BatchInput> inputs = batchInputs(m_files);
-        std::vector<InfoAnswer> answers(size_t(inputs.size()));
-        {
-            Progress progress(options.progress || standardErrorIsTerminal(), inputs.size());
-            runBatch(inputs.size(), m_jobs, progress,
-                     [&](qsizetype i) { answers[size_t(i)] = answerFor(inputs.at(i)); });
-        }
-        const int printed = options.json ? printAnswersAsJson(answers) : printAnswersAsText(answers);
-        int exitCode = printed;
-        for (const InfoAnswer &answer : answers) {
-            if (!answer.failure)
-                continue;
-            printFailure(answer.file, *answer.failure);
-            exitCode = std::max<int>(exitCode, answer.failure->exitCode);
-        }
-        return exitCode;
+        return reportAll(inputs, m_jobs, options.progress || standardErrorIsTerminal(),
+                         options.json ? Form::JsonArray : Form::Paragraphs,
+                         [&](qsizetype i) { return report(answerFor(inputs.at(i)), options.json); });
     }
 
 private:
-    static int printAnswersAsJson(const std::vector<InfoAnswer> &answers)
+    static FileReport report(const InfoAnswer &answer, bool isJson)
     {
-        QJsonArray array;
-        for (const InfoAnswer &answer : answers)
-            array.append(toJson(answer));
-        return printJson(array);
-    }
-
-    static int printAnswersAsText(const std::vector<InfoAnswer> &answers)
-    {
-        QStringList texts;
-        for (const InfoAnswer &answer : answers) {
-            if (answer.summary)
-                texts.append(summaryToText(answer.file, *answer.summary));
-        }
-        return printText(texts.join(QLatin1Char('\n')));
+        FileReport report{.text = {}, .file = answer.file, .lost = {}, .failure = answer.failure};
+        if (isJson)
+            report.text = QJsonDocument(toJson(answer)).toJson();
+        else if (answer.summary)
+            report.text = summaryToText(answer.file, *answer.summary).toLocal8Bit();
+        report.verdict = answer.summary ? stateInWords(*answer.summary) : QStringLiteral("not readable");
+        return report;
     }
 
     QStringList m_files;

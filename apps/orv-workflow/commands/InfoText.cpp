@@ -5,35 +5,36 @@
 #include <orv/propertyeditor/workflow/WorkflowSummary.h>
 
 #include <QJsonArray>
+#include <QVersionNumber>
+
+#include <array>
 
 namespace orv::cli {
 
 namespace {
 
-QString stateName(WflwMetaData::WflwState state)
+struct StateRow
 {
-    switch (state) {
-    case WflwMetaData::WflwState::UpToDate:
-        return QStringLiteral("UpToDate");
-    case WflwMetaData::WflwState::NeedsUpgrade:
-        return QStringLiteral("NeedsUpgrade");
-    case WflwMetaData::WflwState::NotSupported:
-        return QStringLiteral("NotSupported");
-    }
-    return {};
+    const char *name;
+    const char *words;
+    Style style;
+};
+
+// By the number of the state.
+constexpr std::array kStates = {
+    StateRow{"UpToDate", "up to date", Style::Good},
+    StateRow{"NeedsUpgrade", "needs an upgrade", Style::Caution},
+    StateRow{"NotSupported", "not supported", Style::Bad},
+};
+
+const StateRow &rowOf(WflwMetaData::WflwState state)
+{
+    return kStates.at(size_t(state));
 }
 
-QString stateForPeople(WflwMetaData::WflwState state)
+bool isNewer(const WorkflowSummary &summary)
 {
-    switch (state) {
-    case WflwMetaData::WflwState::UpToDate:
-        return styled(QStringLiteral("up to date"), Style::Good);
-    case WflwMetaData::WflwState::NeedsUpgrade:
-        return styled(QStringLiteral("needs an upgrade"), Style::Caution);
-    case WflwMetaData::WflwState::NotSupported:
-        return styled(QStringLiteral("not supported"), Style::Bad);
-    }
-    return {};
+    return WflwMetaData::isNewerThanCurrent(QVersionNumber::fromString(summary.version));
 }
 
 QJsonValue countToJson(const std::optional<qsizetype> &count)
@@ -138,7 +139,8 @@ QJsonObject summaryToJson(const WorkflowSummary &summary)
     for (const WorkflowSummary::Tab &tab : summary.tabs)
         tabs.append(tabToJson(tab));
     return {{QStringLiteral("version"), summary.version},
-            {QStringLiteral("state"), stateName(summary.state)},
+            {QStringLiteral("state"), QLatin1String(rowOf(summary.state).name)},
+            {QStringLiteral("newer"), isNewer(summary)},
             {QStringLiteral("messages"), QJsonArray::fromStringList(summary.messages)},
             {QStringLiteral("name"), summary.name},
             {QStringLiteral("description"), summary.description},
@@ -153,11 +155,22 @@ QJsonObject summaryToJson(const WorkflowSummary &summary)
 QJsonObject emptySummaryJson()
 {
     QJsonObject json = summaryToJson({});
-    for (QLatin1String key : {QLatin1String("version"), QLatin1String("state"), QLatin1String("name"),
-                              QLatin1String("description"), QLatin1String("icon"),
+    for (QLatin1String key : {QLatin1String("version"), QLatin1String("state"), QLatin1String("newer"),
+                              QLatin1String("name"), QLatin1String("description"), QLatin1String("icon"),
                               QLatin1String("workflowType"), QLatin1String("contentMode")})
         json.insert(key, QJsonValue::Null);
     return json;
+}
+
+QString stateInWords(const WorkflowSummary &summary)
+{
+    const QString state = QLatin1String(rowOf(summary.state).words);
+    if (!isNewer(summary))
+        return state;
+    const QString newer =
+        QStringLiteral("newer than this program (%1)").arg(WflwMetaData::currentWorkflowVersion().toString());
+    return summary.state == WflwMetaData::WflwState::NotSupported ? state + QLatin1String(", ") + newer
+                                                                  : newer;
 }
 
 QString summaryToText(const QString &file, const WorkflowSummary &summary)
@@ -165,8 +178,10 @@ QString summaryToText(const QString &file, const WorkflowSummary &summary)
     QString text = styled(withoutControls(file), Style::Heading) + QLatin1Char('\n');
     text += fact(QStringLiteral("Name"), withoutControls(summary.name));
     text += fact(QStringLiteral("Description"), withoutControls(summary.description.simplified()));
-    text += fact(QStringLiteral("Version"), QStringLiteral("%1, %2").arg(withoutControls(summary.version),
-                                                                         stateForPeople(summary.state)));
+    const Style style = isNewer(summary) ? Style::Bad : rowOf(summary.state).style;
+    text +=
+        fact(QStringLiteral("Version"), QStringLiteral("%1, %2").arg(withoutControls(summary.version),
+                                                                     styled(stateInWords(summary), style)));
     for (const QString &message : summary.messages)
         text += fact(QString(), withoutControls(message));
     text += fact(QStringLiteral("Type"), workflowTypeToString(summary.workflowType));

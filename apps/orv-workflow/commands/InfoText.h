@@ -14,6 +14,9 @@ namespace orv::cli {
 /// The same members for a file that could not be read.
 [[nodiscard]] QJsonObject emptySummaryJson();
 
+/// The state in a few words, for totals: "up to date".
+[[nodiscard]] QString stateInWords(const WorkflowSummary &summary);
+
 /// The summary for people: a heading, facts, and the tabs as a tree.
 [[nodiscard]] QString summaryToText(const QString &file, const WorkflowSummary &summary);
 

@@ -25,7 +25,7 @@ public:
         arguments.options("--cell", &m_types, "The type of a cell; the option may be repeated",
                           {.kind = ValueKind::CellType});
         arguments.option("-o,--output", &m_output, "Where to write; - for standard output",
-                         {.isRequired = true, .kind = ValueKind::File});
+                         {.isRequired = true, .kind = ValueKind::File, .use = FileUse::Written});
     }
 
     int run(const GlobalOptions &options) override

@@ -77,7 +77,7 @@ public:
     {
         declareWorkflow(arguments, &m_file);
         arguments.option("-o,--output", &m_folder, "The folder to write; .wflwp is added where it lacks",
-                         {.isRequired = true, .kind = ValueKind::Folder});
+                         {.isRequired = true, .kind = ValueKind::Folder, .use = FileUse::WrittenAsTold});
     }
 
     int run(const GlobalOptions &options) override
@@ -129,7 +129,7 @@ private:
     {
         const QString target = realPath(folder);
         const QUrl base = folderUrlOf(m_file);
-        if (m_file != kStandardInput) {
+        if (!isStream(m_file)) {
             const QString home = realPath(base.toLocalFile());
             const bool isInside = WflwUtils::isMirelPortableWorkflow(home) && isOrHolds(home, target);
             if (isOrHolds(target, home) || isInside)

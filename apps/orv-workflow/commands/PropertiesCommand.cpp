@@ -2,9 +2,11 @@
 #include "../Failure.h"
 #include "Command.h"
 
+#include <orv/core/NearestNames.h>
 #include <orv/propertyeditor/AllowedProperties.h>
 #include <orv/propertyeditor/PropertiesCsvReader.h>
 #include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/PropertySearch.h>
 #include <orv/propertyeditor/PropertySetCreator.h>
 #include <orv/propertyeditor/UserVisibleListConverter.h>
 #include <orv/propertyeditor/content/BaseItem.h>
@@ -13,21 +15,13 @@
 #include <QJsonDocument>
 #include <QMetaEnum>
 
+#include <utility>
+
 namespace orv::cli {
 
 namespace {
 
 using PropertyEditor::BaseItem;
-
-/// A property by its number or by a name of either generation; NoProperty for anything else.
-PropertyId propertyFor(const QString &argument)
-{
-    bool isNumber = false;
-    const int number = argument.toInt(&isNumber);
-    if (isNumber)
-        return number >= 0 && number < kPropertyCount ? PropertyId(number) : PropertyId::NoProperty;
-    return PropertiesNames::findPropertyForName(argument);
-}
 
 /// Tables and objects stand in the catalogue as JSON bytes.
 QJsonValue defaultOf(const QVariant &value)
@@ -58,13 +52,38 @@ QString editorOf(PropertyId id)
     return QString::fromLatin1(editors.valueToKey(int(PropertySetCreator::editorForProperty(id))));
 }
 
-QStringList listOf(PropertyId id)
+/// The entries of a property's list, with the keys that files hold in their place.
+struct ListEntries
 {
     QStringList keys;
     QStringList texts;
-    return UserVisibleListConverter::keysAndValuesForList(id, &keys, &texts)
-               ? texts
-               : UserVisibleListConverter::valuesForCheckableList(id);
+};
+
+ListEntries listOf(PropertyId id)
+{
+    ListEntries entries;
+    if (!UserVisibleListConverter::keysAndValuesForList(id, &entries.keys, &entries.texts)) {
+        entries.texts = UserVisibleListConverter::valuesForCheckableList(id);
+        entries.keys = entries.texts;
+    }
+    return entries;
+}
+
+QJsonValue listJson(const QStringList &entries)
+{
+    return entries.isEmpty() ? QJsonValue() : QJsonArray::fromStringList(entries);
+}
+
+/// Texts, each behind its key where that is another.
+QString listText(const ListEntries &entries)
+{
+    QStringList texts;
+    for (qsizetype i = 0; i < entries.texts.size(); ++i) {
+        const QString &key = entries.keys.at(i);
+        const QString &text = entries.texts.at(i);
+        texts.append(key == text ? text : QStringLiteral("%1 = %2").arg(key, text));
+    }
+    return texts.join(QLatin1String("; "));
 }
 
 QStringList cellsWith(PropertyId id)
@@ -82,7 +101,7 @@ QJsonObject toJson(PropertyId id, const PropertyFeatures &features)
 {
     const PropertiesCsvReader &texts = PropertiesCsvReader::instance();
     const QString keyword = texts.verificationFunction(id);
-    const QStringList list = listOf(id);
+    const ListEntries list = listOf(id);
     QJsonObject options;
     for (auto it = features.typeOptions.begin(); it != features.typeOptions.end(); ++it)
         options.insert(QString::fromUtf8(it.key()), it.value());
@@ -104,7 +123,8 @@ QJsonObject toJson(PropertyId id, const PropertyFeatures &features)
          hasDefault ? QJsonValue(QString::fromLatin1(features.defaultValue.typeName())) : QJsonValue()},
         {QStringLiteral("editor"), editorOf(id)},
         {QStringLiteral("verification"), keyword.isEmpty() ? QJsonValue() : QJsonValue(verification)},
-        {QStringLiteral("list"), list.isEmpty() ? QJsonValue() : QJsonArray::fromStringList(list)},
+        {QStringLiteral("list"), listJson(list.texts)},
+        {QStringLiteral("keys"), listJson(list.keys)},
         {QStringLiteral("allowedIn"), QJsonArray::fromStringList(cellsWith(id))},
     };
 }
@@ -136,7 +156,7 @@ QString details(PropertyId id, const PropertyFeatures &features)
     add("Default", textOf(defaultOf(features.defaultValue)));
     add("Rule",
         (texts.verificationFunction(id) + QLatin1Char(' ') + texts.verificationParameters(id)).trimmed());
-    add("Values", listOf(id).join(QLatin1String("; ")));
+    add("Values", listText(listOf(id)));
     add("In cells", cellsWith(id).join(QLatin1String(", ")));
     return text;
 }
@@ -146,44 +166,62 @@ class PropertiesCommand : public Command
 public:
     void declare(Arguments &arguments) override
     {
-        arguments.positionals("PROPERTY", &m_properties, "Numbers or names of properties (default: all)",
-                              {.kind = ValueKind::Property});
+        arguments.positionals(
+            "PROPERTY", &m_properties,
+            "Numbers or names of properties, or words that their names, captions and tool tips hold "
+            "(default: all)",
+            {.kind = ValueKind::Property});
     }
 
     int run(const GlobalOptions &options) override
     {
-        QList<PropertyId> ids;
+        if (m_properties.isEmpty())
+            return print({PropertiesNames::names()->keys(), {}}, options);
+        Found found;
         for (const QString &argument : m_properties) {
-            const PropertyId id = propertyFor(argument);
-            if (id == PropertyId::NoProperty) {
-                printRemark(argument,
-                            QStringLiteral("There is no such property; orv-workflow properties lists all."));
-                return WrongUsage;
+            if (const PropertyId id = PropertySearch::named(argument); id != PropertyId::NoProperty) {
+                found.named.append(id);
+                continue;
             }
-            ids.append(id);
+            const QList<PropertyId> ids = PropertySearch::matching(argument);
+            if (ids.isEmpty()) {
+                return printWrongUsage(
+                    argument,
+                    QStringLiteral(
+                        "There is no such property, and none speaks of it; orv-workflow properties "
+                        "lists all.") +
+                        NearestNames::question(argument, PropertySearch::namesAndCaptions()),
+                    options);
+            }
+            found.searched += ids;
         }
-        return options.json ? printJson(allToJson(ids)) : printText(allToText(ids));
+        if (found.searched.size() == 1)
+            found.named += std::exchange(found.searched, {});
+        return print(found, options);
     }
 
 private:
-    static QJsonArray allToJson(const QList<PropertyId> &ids)
+    struct Found
     {
-        QJsonArray array;
-        const auto &catalogue = *PropertiesNames::names();
-        for (const PropertyId id : ids.isEmpty() ? catalogue.keys() : ids)
-            array.append(toJson(id, catalogue.value(id)));
-        return array;
-    }
+        QList<PropertyId> searched; ///< told in a line each
+        QList<PropertyId> named;    ///< told whole
+    };
 
-    static QString allToText(const QList<PropertyId> &ids)
+    static int print(const Found &found, const GlobalOptions &options)
     {
-        QString text;
         const auto &catalogue = *PropertiesNames::names();
-        for (auto it = catalogue.begin(); ids.isEmpty() && it != catalogue.end(); ++it)
-            text += line(it.key(), it.value());
-        for (const PropertyId id : ids)
-            text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + details(id, catalogue.value(id));
-        return text;
+        if (options.json) {
+            QJsonArray array;
+            for (const PropertyId id : found.searched + found.named)
+                array.append(toJson(id, catalogue[id]));
+            return printJson(array);
+        }
+        QString text;
+        for (const PropertyId id : found.searched)
+            text += line(id, catalogue[id]);
+        for (const PropertyId id : found.named)
+            text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + details(id, catalogue[id]);
+        return printText(text);
     }
 
     QStringList m_properties;

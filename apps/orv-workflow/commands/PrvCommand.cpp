@@ -24,19 +24,19 @@ public:
                          {.kind = ValueKind::Folder});
         m_columns.declare(arguments);
         arguments.option("-o,--output", &m_output, "File to write (default: standard output)",
-                         {.kind = ValueKind::File});
+                         {.kind = ValueKind::File, .use = FileUse::Written});
     }
 
     int run(const GlobalOptions &options) override
     {
         const Outcome<LoadedWorkflow> workflow = loadResolvedWorkflow(m_file);
         if (workflow.hasFailed())
-            return fail(m_file, workflow.failure(), options);
+            return printFailedCall(m_file, workflow.failure(), options);
         printLosses(m_file, workflow->lost);
         const Outcome<QList<ChosenCell>> cells =
             m_columns.cells(*workflow, {BaseItemType::Preview, BaseItemType::TrenqPreview});
         if (cells.hasFailed())
-            return fail(m_file, cells.failure(), options);
+            return printFailedCall(m_file, cells.failure(), options);
         if (cells->size() > 1) {
             printRemark(m_file,
                         QStringLiteral("The workflow has %1 previews; this is the one of the column \"%2\". "
@@ -48,15 +48,10 @@ public:
         if (m_output.isEmpty())
             return printBytes(text);
         const Outcome<void> written = writeOutput(m_output, text);
-        return written.hasFailed() ? fail(m_output, written.failure(), options) : Done;
+        return written.hasFailed() ? printFailedCall(m_output, written.failure(), options) : Done;
     }
 
 private:
-    static int fail(const QString &file, const Failure &failure, const GlobalOptions &options)
-    {
-        return printFailedCall(file, failure, {{QStringLiteral("error"), toJson(failure)}}, options);
-    }
-
     [[nodiscard]] QString textOf(const PropertyEditor::KeyValueItem &item) const
     {
         return PreviewPreset::createPresetContentFromWorkflow(

@@ -1,11 +1,14 @@
 #include "../Inputs.h"
 #include "../Losses.h"
+#include "../NewerDocument.h"
 #include "../Output.h"
 #include "../SettingsCell.h"
 #include "Command.h"
 
 #include <KPropertySet>
+#include <orv/core/NearestNames.h>
 #include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/PropertySearch.h>
 #include <orv/propertyeditor/PropertyText.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 
@@ -25,16 +28,57 @@ struct Assignment
     QString text;
 };
 
+/// The properties of the catalogue that the cell holds.
+QList<PropertyId> propertiesIn(const KeyValueItem &item)
+{
+    QList<PropertyId> ids;
+    for (const PropertyId id : PropertiesNames::names()->keys()) {
+        if (item.contains(PropertiesNames::internalNameForType(id)))
+            ids.append(id);
+    }
+    return ids;
+}
+
+/// The property of the cell that people mean by \a text: a name of either generation, or a caption.
+Outcome<PropertyId> propertyIn(const KeyValueItem &item, const QString &text)
+{
+    const QList<PropertyId> present = propertiesIn(item);
+    if (const PropertyId id = PropertiesNames::findPropertyForName(text); present.contains(id))
+        return id;
+    QStringList names;
+    PropertyId captioned = PropertyId::NoProperty;
+    for (const PropertyId id : PropertySearch::captioned(text)) {
+        if (!present.contains(id))
+            continue;
+        captioned = id;
+        names.append(PropertiesNames::internalNameForType(id));
+    }
+    if (names.size() == 1)
+        return captioned;
+    if (names.size() > 1) {
+        return Failure{
+            WrongUsage, 0,
+            QStringLiteral("The caption \"%1\" stands for several properties of the cell: %2. Give "
+                           "a name.")
+                .arg(text, names.join(QLatin1String(", ")))};
+    }
+    return Failure{WrongUsage, 0,
+                   QStringLiteral("The cell has no property \"%1\".").arg(text) +
+                       NearestNames::question(text, PropertySearch::namesAndCaptions(present))};
+}
+
 class SetCommand : public Command
 {
 public:
     void declare(Arguments &arguments) override
     {
         m_cell.declare(arguments);
-        arguments.positionals("NAME=VALUE", &m_assignments, "Properties with their new values",
-                              {.isRequired = true});
+        arguments.positionals(
+            "NAME=VALUE", &m_assignments,
+            "Names or captions of properties with their new values, such as 'Precursor mass tolerance=5 ppm'",
+            {.isRequired = true});
         arguments.option("-o,--output", &m_output, "Where to write; - for standard output",
-                         {.isRequired = true, .kind = ValueKind::File});
+                         {.isRequired = true, .kind = ValueKind::File, .use = FileUse::WrittenAsTold});
     }
 
     int run(const GlobalOptions &options) override
@@ -56,7 +100,9 @@ private:
         const Outcome<FoundCell> cell = m_cell.find();
         if (cell.hasFailed())
             return cell.failure();
-        if (const Outcome<void> allowed = refuseNewer(cell->document); allowed.hasFailed())
+        const Outcome<void> allowed =
+            refuseNewer(cell->document, QStringLiteral("is not changed; use the software that wrote it"));
+        if (allowed.hasFailed())
             return allowed.failure();
         const Outcome<SettingsCell> settings = settingsOf(*cell);
         if (settings.hasFailed())
@@ -66,19 +112,6 @@ private:
         if (const Outcome<void> assigned = assignAll(cell->document, item.get()); assigned.hasFailed())
             return assigned.failure();
         return write(cell->place.replacedIn(cell->document, item->toJson(PropertyConversionFlag::KeepPaths)));
-    }
-
-    /// A document of a newer format may hold in this cell what this version doesn't know.
-    static Outcome<void> refuseNewer(const QJsonObject &document)
-    {
-        const PropertyEditorContent content(document);
-        const QVersionNumber version = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());
-        if (version.majorVersion() <= WflwMetaData::WORKFLOW_JSON_VERSION_MAJOR)
-            return {};
-        return Failure{Negative, 0,
-                       QStringLiteral("The document has the newer version %1 and is not changed; use the "
-                                      "software that wrote it.")
-                           .arg(version.toString())};
     }
 
     Outcome<void> assignAll(const QJsonObject &document, KeyValueItem *item)
@@ -99,13 +132,12 @@ private:
     Outcome<void> assign(const Assignment &assignment, PropertyEditorContent::ContentMode mode,
                          KeyValueItem *item)
     {
-        const PropertyId id = PropertiesNames::findPropertyForName(assignment.name);
-        const QString key = PropertiesNames::internalNameForType(id);
-        if (id == PropertyId::NoProperty || !item->contains(key))
-            return Failure{WrongUsage, 0,
-                           QStringLiteral("The cell has no property \"%1\".").arg(assignment.name)};
+        const Outcome<PropertyId> meant = propertyIn(*item, assignment.name);
+        if (meant.hasFailed())
+            return meant.failure();
+        const QString key = PropertiesNames::internalNameForType(*meant);
         const KProperty &property = item->propertySet()->property(key.toUtf8());
-        const Result<QVariant> value = PropertyText::toValue(id, assignment.text, property, mode);
+        const Result<QVariant> value = PropertyText::toValue(*meant, assignment.text, property, mode);
         if (value.hasError())
             return failureFrom(value.error(), Negative);
         if (!item->setValue(key, *value))

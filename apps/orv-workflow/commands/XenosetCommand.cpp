@@ -2,6 +2,7 @@
 #include "../ColumnChoice.h"
 #include "../CommonArguments.h"
 #include "../Console.h"
+#include "../FileIdentity.h"
 #include "../Inputs.h"
 #include "../Losses.h"
 #include "../Output.h"
@@ -84,16 +85,15 @@ public:
         m_columns.declare(arguments);
         arguments.option("-o,--output", &m_output,
                          "File to write (default: standard output), or with --all the folder",
-                         {.kind = ValueKind::File});
+                         {.kind = ValueKind::File, .use = FileUse::Written});
         declareJobs(arguments, &m_jobs);
     }
 
     int run(const GlobalOptions &options) override
     {
         if (m_sample.isEmpty() != m_all || (m_all && (m_output.isEmpty() || m_output == kStandardInput))) {
-            printRemark(QStringLiteral("xenoset"),
-                        QStringLiteral("Give --sample NAME, or --all with -o FOLDER."));
-            return WrongUsage;
+            return printWrongUsage(QStringLiteral("xenoset"),
+                                   QStringLiteral("Give --sample NAME, or --all with -o FOLDER."), options);
         }
         const Outcome<LoadedWorkflow> workflow = loadResolvedWorkflow(m_file);
         if (workflow.hasFailed())
@@ -148,11 +148,28 @@ private:
         }
         if (const Outcome<void> allowed = refuseClash(files); allowed.hasFailed())
             return allowed.failure();
+        if (const Outcome<void> allowed = refuseInputs(files); allowed.hasFailed())
+            return allowed.failure();
         if (!QDir().mkpath(folder.path())) {
             return Failure{BadOutput, int(ErrorCode::CannotOpenFile),
                            QStringLiteral("The folder \"%1\" can't be made.").arg(folder.path())};
         }
         return files;
+    }
+
+    [[nodiscard]] Outcome<void> refuseInputs(const Files &files) const
+    {
+        for (const ParameterFile &file : files) {
+            for (const QString &input : {workflowFileOf(m_file), m_database}) {
+                if (!input.isEmpty() && isSameFile(file.path, input)) {
+                    return Failure{WrongUsage, 0,
+                                   QStringLiteral("The parameter file of the sample \"%1\" would be written "
+                                                  "over \"%2\". Nothing was written; name another folder.")
+                                       .arg(file.sample, input)};
+                }
+            }
+        }
+        return {};
     }
 
     void make(Files &files, const GlobalOptions &options) const

@@ -4,13 +4,13 @@ namespace orv {
 
 const QLoggingCategory &propertyEditorLog()
 {
-    static const QLoggingCategory category("orv.property_editor");
+    static const QLoggingCategory category("orv.property_editor", QtWarningMsg);
     return category;
 }
 
 const QLoggingCategory &genericLog()
 {
-    static const QLoggingCategory category("orv.generic");
+    static const QLoggingCategory category("orv.generic", QtWarningMsg);
     return category;
 }
 

@@ -1,6 +1,7 @@
 #include "orv/propertyeditor/PropertyText.h"
 
 #include "PropertyValueForms.h"
+#include "ValueUnitText.h"
 
 #include <KProperty>
 #include <orv/core/JsonUtils.h>
@@ -101,13 +102,15 @@ Read toListValue(PropertyId id, const QString &text)
 
 Read readText(PropertyId id, const QString &text, const KProperty &property)
 {
+    if (!unitsOf(id).isEmpty())
+        return toValueWithUnit(id, text, property);
     switch (property.type()) {
     case KProperty::Bool:
         return toSwitch(text);
     case KProperty::Int:
-        return toInteger(text);
+        return toInteger(withoutShownUnit(text, property));
     case KProperty::Double:
-        return toNumber(text);
+        return toNumber(withoutShownUnit(text, property));
     case KProperty::ValueFromList:
         return toListValue(id, text);
     case PropertiesTraits::ResourceReferenceType:
@@ -167,6 +170,8 @@ std::optional<QStringList> objectionsTo(PropertyId id, const QVariant &value,
 
 QString legalValues(PropertyId id, const KProperty &property)
 {
+    if (!unitsOf(id).isEmpty())
+        return legalValuesWithUnit(id);
     switch (property.type()) {
     case KProperty::Bool:
         return tr("true or false");

@@ -26,6 +26,11 @@ QVersionNumber WflwMetaData::currentWorkflowVersion()
     return {WORKFLOW_JSON_VERSION_MAJOR, WORKFLOW_JSON_VERSION_MINOR, WORKFLOW_JSON_VERSION_PATCH};
 }
 
+bool WflwMetaData::isNewerThanCurrent(const QVersionNumber &version)
+{
+    return version > currentWorkflowVersion();
+}
+
 QList<QVersionNumber> WflwMetaData::specialVersions()
 {
     static const QList<QVersionNumber> versions = {QVersionNumber(3)};

@@ -14,7 +14,6 @@ namespace orv::PropertyEditor {
 
 namespace {
 
-constexpr QLatin1String kPrefix("Workflow validation:");
 
 /// Whether \a validator has nothing against the document.
 bool isPassed(const AbstractValidator &validator, CheckRun &run)
@@ -110,9 +109,9 @@ bool ContentValidator::validate(const Content &content, const QUrl &workflowBase
     warnings->removeDuplicates();
     errors->removeDuplicates();
     for (const QString &warning : std::as_const(*warnings))
-        qCWarning(propertyEditorLog).noquote() << kPrefix << warning;
+        qCWarning(propertyEditorLog).noquote() << kLogPrefix << warning;
     for (const QString &error : std::as_const(*errors))
-        qCCritical(propertyEditorLog).noquote() << kPrefix << error;
+        qCCritical(propertyEditorLog).noquote() << kLogPrefix << error;
     if (findings)
         *findings = run.findings();
     return failures == 0;

@@ -16,7 +16,8 @@ namespace orv::PropertyText {
 /// What \a property takes, for people: "a whole number in [0;100]", "one of: A, B". Ends without a full stop.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QString legalValues(PropertyId id, const KProperty &property);
 
-/// The value that \a text means for \a property, in the form that a property set holds: numbers as such, true
+/// The value that \a text means for \a property, in the form that a property set holds: numbers as such, with
+/// or without the unit that the property shows, values with a unit of their own as "5 ppm" or as JSON, true
 /// and false in any of the words that files know, a list's text, key or position, JSON for tables and other
 /// objects, texts of a checkable list separated by commas. InvalidContent, with the legal values as detail,
 /// for a text that means none and for a value that breaks the property's rule. Rules that ask the disk are

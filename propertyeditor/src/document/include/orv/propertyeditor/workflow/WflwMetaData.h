@@ -59,6 +59,10 @@ public:
 
     [[nodiscard]] static QVersionNumber currentWorkflowVersion();
 
+    /// Whether a document of \a version may hold what this software doesn't know, in whichever segment it is
+    /// newer. Writing over such a document would drop that.
+    [[nodiscard]] static bool isNewerThanCurrent(const QVersionNumber &version);
+
     /// Versions that need an upgrade whatever the other rules say.
     [[nodiscard]] static QList<QVersionNumber> specialVersions();
     /// Versions that can't be used at all.

@@ -26,6 +26,9 @@ class Content;
 class ORV_WORKFLOW_EXPORT ContentValidator
 {
 public:
+    /// What the log lines that repeat warnings and errors begin with.
+    static constexpr QLatin1String kLogPrefix{"Workflow validation:"};
+
     ContentValidator();
     ~ContentValidator();
     Q_DISABLE_COPY_MOVE(ContentValidator)

@@ -1,0 +1,43 @@
+#include "FileIdentity.h"
+
+#include "Inputs.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <sys/stat.h>
+
+namespace orv::cli {
+
+namespace {
+
+/// Where a write to \a path ends: what a chain of links that dangles points at.
+QString endOfLinks(QString path)
+{
+    constexpr int kMostLinks = 40;
+    for (int i = 0; i < kMostLinks && QFileInfo(path).isSymLink(); ++i)
+        path = QFileInfo(path).symLinkTarget();
+    return path;
+}
+
+} // namespace
+
+QString fileIdentity(const QString &path)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) == 0) {
+        return QStringLiteral("%1:%2").arg(quint64(status.st_dev)).arg(quint64(status.st_ino));
+    }
+    const QFileInfo info(QDir::cleanPath(QFileInfo(endOfLinks(path)).absoluteFilePath()));
+    const QString folder = info.path();
+    return folder == info.filePath() ? folder : fileIdentity(folder) + QLatin1Char('/') + info.fileName();
+}
+
+bool isSameFile(const QString &first, const QString &second)
+{
+    const bool isFile = first != kStandardInput && second != kStandardInput && QFileInfo(first).isFile();
+    return isFile && fileIdentity(first) == fileIdentity(second);
+}
+
+} // namespace orv::cli
