@@ -71,11 +71,20 @@ bool jsonIsAskedFor(int argc, char *argv[])
                        [](const char *argument) { return std::string_view(argument) == "--json"; });
 }
 
-/// For packagers: `orv-workflow --generate bash` and so on.
-bool generationIsAskedFor(int argc, char *argv[])
+/// For packagers: `orv-workflow --generate bash` and so on, and `orv-workflow --generate all FOLDER`. Nothing
+/// where something else is asked for.
+std::optional<int> generate(const cli::CommandLine &line, int argc, char *argv[])
 {
-    return argc == 3 && std::string_view(argv[1]) == "--generate" &&
-           cli::shellSupportKinds().contains(QString::fromLocal8Bit(argv[2]));
+    if (argc < 3 || std::string_view(argv[1]) != "--generate")
+        return {};
+    const QString kind = QString::fromLocal8Bit(argv[2]);
+    if (argc == 3 && cli::shellSupportKinds(line).contains(kind))
+        return cli::printText(cli::generateShellSupport(kind, line));
+    if (argc != 4 || kind != QLatin1String("all"))
+        return {};
+    const QString folder = QString::fromLocal8Bit(argv[3]);
+    const cli::Outcome<void> written = cli::writeShellSupport(folder, line);
+    return written.hasFailed() ? cli::printFailedCall(folder, written.failure(), {}) : cli::Done;
 }
 
 } // namespace
@@ -95,8 +104,8 @@ int main(int argc, char *argv[])
 
     Program program;
     declare(program);
-    if (generationIsAskedFor(argc, argv))
-        return cli::printText(cli::generateShellSupport(QString::fromLocal8Bit(argv[2]), program.line));
+    if (const std::optional<int> generated = generate(program.line, argc, argv))
+        return *generated;
     const cli::ParsedLine parsed = cli::parse(program.line, argc, argv);
     if (parsed.subcommand)
         return run(program, *parsed.subcommand);
