@@ -36,7 +36,9 @@ char toCapital(char letter)
 
 QString decoded(const QByteArray &header)
 {
-    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    // A byte order mark within the text is a character like any other.
+    QStringDecoder utf8(QStringDecoder::Utf8,
+                        QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     const QString text = utf8(header);
     return utf8.hasError() ? QString::fromLatin1(header) : text;
 }

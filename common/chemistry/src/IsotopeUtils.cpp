@@ -2,14 +2,14 @@
 
 #include "internal/Elements.h"
 #include "internal/IsotopeColumns.h"
+#include "internal/IsotopeDistribution.h"
 #include "internal/TableRows.h"
 #include "internal/Tables.h"
 
 #include <QCoreApplication>
 
-#include <pwiz/utility/chemistry/IsotopeCalculator.hpp>
-
 #include <cmath>
+#include <numeric>
 
 namespace orv::IsotopeUtils {
 
@@ -18,10 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-namespace chemistry = pwiz::chemistry;
-
-/// Peaks of one nominal mass differ by far less, those of the next by about 1 Da.
-constexpr double kPeakWidthDa = 0.2;
+constexpr double kMostLost = 1e-3;
 
 struct IsotopeUtilsTr
 {
@@ -108,31 +105,28 @@ Result<QList<IsotopePeak>> envelope(const ChemicalFormula &formula, double cutof
         return noEnvelope(formula, IsotopeUtilsTr::tr("The cutoff %1 isn't between 0 and 1.").arg(cutoff));
     if (formula.isEmpty())
         return noEnvelope(formula, IsotopeUtilsTr::tr("It is empty."));
-    chemistry::Formula composition;
-    double pureMassDa = 0.0;
+    Internal::IsotopeDistribution molecules;
     for (auto it = formula.counts().cbegin(); it != formula.counts().cend(); ++it) {
         if (it.value() < 0 || it.value() > ChemicalFormula::kMaximumCount)
             return noEnvelope(
                 formula, IsotopeUtilsTr::tr("There can't be %1 atoms of %2.").arg(it.value()).arg(it.key()));
         const Internal::Element &element = *Internal::findElement(it.key());
-        if (element.isotopes.size() == 1)
-            pureMassDa += static_cast<double>(it.value()) * element.monoisotopicMassDa;
-        else
-            composition[static_cast<chemistry::Element::Type>(element.type)] = static_cast<int>(it.value());
+        if (element.isotopes.isEmpty())
+            return noEnvelope(formula, IsotopeUtilsTr::tr("Nature has no isotopes of %1.").arg(it.key()));
+        molecules = molecules.with(Internal::IsotopeDistribution(element).times(it.value()));
     }
-    if (composition.data().empty())
-        return QList<IsotopePeak>{{pureMassDa, 1.0}};
-    try {
-        QList<IsotopePeak> peaks;
-        for (const chemistry::MassAbundance &peak :
-             chemistry::IsotopeCalculator(cutoff, kPeakWidthDa).distribution(composition))
-            peaks.append({peak.mass + pureMassDa, peak.abundance});
-        std::sort(peaks.begin(), peaks.end(),
-                  [](const IsotopePeak &a, const IsotopePeak &b) { return a.massDa < b.massDa; });
-        return peaks;
-    } catch (const std::exception &exception) {
-        return noEnvelope(formula, QString::fromUtf8(exception.what()));
+    const QList<IsotopePeak> peaks = molecules.peaks(cutoff);
+    const double kept =
+        std::accumulate(peaks.begin(), peaks.end(), 0.0,
+                        [](double sum, const IsotopePeak &peak) { return sum + peak.abundance; });
+    if (kept < 1.0 - kMostLost) {
+        return noEnvelope(formula,
+                          IsotopeUtilsTr::tr("The cutoff %1 would leave out %2 % of its molecules; choose a "
+                                             "smaller one.")
+                              .arg(cutoff)
+                              .arg((1.0 - kept) * 100.0, 0, 'f', 1));
     }
+    return peaks;
 }
 
 } // namespace orv::IsotopeUtils

@@ -2,7 +2,8 @@
 
 #include <QCoreApplication>
 
-#include <pwiz/data/proteome/Digestion.hpp>
+#include <algorithm>
+#include <utility>
 
 namespace orv {
 
@@ -87,6 +88,91 @@ Error checkInput(const QString &sequence, const DigestionLimits &limits)
     return Error::NoError;
 }
 
+/// The peptides between the places where a sequence is cut, and with ragged ends those within.
+class Cutting
+{
+public:
+    Cutting(const QString &sequence, std::vector<qsizetype> places, const DigestionLimits &limits)
+        : m_sequence(sequence)
+        , m_places(std::move(places))
+        , m_limits(limits)
+    {}
+
+    Result<QList<DigestedPeptide>> peptides()
+    {
+        size_t next = 1; // the first place behind the start
+        for (qsizetype start = 0; start < m_sequence.size(); ++start) {
+            while (m_places[next] <= start)
+                ++next;
+            addFrom(start, next);
+            if (m_letters > kMostLetters) {
+                return undigested(ProteinDigestionItemTr::tr(
+                    "There are too many peptides. Allow fewer missed cleavages or shorter peptides."));
+            }
+        }
+        return m_peptides;
+    }
+
+private:
+    using Specificity = DigestionSpecificity;
+
+    /// Whether peptides that begin there may end anywhere, at cuts alone, or not be.
+    [[nodiscard]] bool mayEndAnywhere(bool startIsCut) const
+    {
+        const Specificity wanted = m_limits.specificity;
+        return wanted == Specificity::NonSpecific || (startIsCut && (wanted == Specificity::SemiSpecific ||
+                                                                     wanted == Specificity::RaggedCTerminus));
+    }
+    [[nodiscard]] bool mayEndAtCuts(bool startIsCut) const
+    {
+        const Specificity wanted = m_limits.specificity;
+        return startIsCut || wanted == Specificity::SemiSpecific || wanted == Specificity::RaggedNTerminus;
+    }
+
+    void addFrom(qsizetype start, size_t next)
+    {
+        const bool startIsCut = m_places[next - 1] == start;
+        const bool anywhere = mayEndAnywhere(startIsCut);
+        if (!anywhere && !mayEndAtCuts(startIsCut))
+            return;
+        const qsizetype last = std::min(m_sequence.size(), start + qsizetype(m_limits.maximumLength));
+        int missed = 0;
+        for (size_t cut = next; cut < m_places.size() && missed <= m_limits.missedCleavages;
+             ++cut, ++missed) {
+            const qsizetype end = std::min(m_places[cut], last);
+            if (anywhere)
+                addUpTo(start, std::max(m_places[cut - 1], start), end, missed);
+            else if (m_places[cut] <= last)
+                add(start, m_places[cut], missed);
+            if (m_places[cut] >= last || m_letters > kMostLetters)
+                return;
+        }
+    }
+
+    /// All ends behind \a from up to \a to, with the cuts before the last piece missed.
+    void addUpTo(qsizetype start, qsizetype from, qsizetype to, int missed)
+    {
+        const qsizetype first = std::max(from + 1, start + qsizetype(m_limits.minimumLength));
+        for (qsizetype end = first; end <= to && m_letters <= kMostLetters; ++end)
+            add(start, end, missed);
+    }
+
+    void add(qsizetype start, qsizetype end, int missed)
+    {
+        const qsizetype length = end - start;
+        if (length < m_limits.minimumLength)
+            return;
+        m_letters += length;
+        m_peptides.append({m_sequence.mid(start, length), int(start), missed});
+    }
+
+    const QString &m_sequence;
+    const std::vector<qsizetype> m_places;
+    const DigestionLimits m_limits;
+    QList<DigestedPeptide> m_peptides;
+    qint64 m_letters = 0;
+};
+
 } // namespace
 
 Result<ProteinDigestionItem> ProteinDigestionItem::parse(const QString &text)
@@ -128,28 +214,21 @@ Result<QList<DigestedPeptide>> ProteinDigestionItem::digest(const QString &seque
                                                             const DigestionLimits &limits) const
 {
     ORV_RETURN_IF_ERROR(checkInput(sequence, limits));
-    namespace proteome = pwiz::proteome;
-    const QString rule = m_side == Side::CTerm ? QStringLiteral("(?<=[%1])") : QStringLiteral("(?=[%1])");
-    try {
-        const proteome::Digestion digestion(
-            proteome::Peptide(sequence.toStdString()), rule.arg(m_residues).toStdString(),
-            proteome::Digestion::Config(limits.missedCleavages, limits.minimumLength, limits.maximumLength,
-                                        proteome::Digestion::FullySpecific, false));
-        QList<DigestedPeptide> peptides;
-        qint64 letters = 0;
-        for (const proteome::DigestedPeptide &peptide : digestion) {
-            letters += static_cast<qint64>(peptide.sequence().size());
-            if (letters > kMostLetters) {
-                return undigested(ProteinDigestionItemTr::tr(
-                    "There are too many peptides. Allow fewer missed cleavages or shorter peptides."));
-            }
-            peptides.append({QString::fromStdString(peptide.sequence()), static_cast<int>(peptide.offset()),
-                             static_cast<int>(peptide.missedCleavages())});
-        }
-        return peptides;
-    } catch (const std::exception &exception) {
-        return undigested(QString::fromUtf8(exception.what()));
+    return Cutting(sequence, cutPlaces(sequence, limits.cutsBeforeProline), limits).peptides();
+}
+
+/// The places between residues where the enzyme cuts, as numbers of the residues behind them, with both ends.
+std::vector<qsizetype> ProteinDigestionItem::cutPlaces(const QString &sequence, bool cutsBeforeProline) const
+{
+    std::vector<qsizetype> places{0};
+    for (qsizetype place = 1; place < sequence.size(); ++place) {
+        const QChar residue = sequence.at(m_side == Side::CTerm ? place - 1 : place);
+        const bool isBarred = !cutsBeforeProline && sequence.at(place) == QLatin1Char('P');
+        if (m_residues.contains(residue) && !isBarred)
+            places.push_back(place);
     }
+    places.push_back(sequence.size());
+    return places;
 }
 
 } // namespace orv

@@ -11,6 +11,7 @@ namespace orv::msreader {
 namespace {
 
 constexpr qsizetype kMgfChunkBytes = 1 << 18;
+constexpr QByteArrayView kByteOrderMark("\xEF\xBB\xBF"); // some editors begin every text with it
 constexpr int kHighestLevel = 99;
 constexpr int kLevelOfFragments = 2;
 
@@ -169,6 +170,8 @@ private:
         ++m_line;
         if (!m_pieces.isEmpty())
             last = m_pieces += last;
+        if (m_line == 1 && last.startsWith(kByteOrderMark))
+            last = last.sliced(kByteOrderMark.size());
         *line = last.trimmed();
         return true;
     }

@@ -154,6 +154,9 @@ void TestFasta::oddTextsAreRead_data()
     QTest::newRow("no line feed at the end") << QByteArray(">a\nPEP\n>b\nTIDE") << two;
     QTest::newRow("CR at the end") << QByteArray(">a\nPEP\n>b\nTIDE\r") << two;
     QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBF>a\nPEP\n>b\nTIDE") << two;
+    QTest::newRow("byte order mark within a name") << QByteArray(">\xEF\xBB\xBF"
+                                                                 "a\nPEP\n")
+                                                   << QStringList{QChar(QChar::ByteOrderMark) + u"a=PEP"_s};
     QTest::newRow("blank lines") << QByteArray("\n \n>a\n\nPEP\n\n\n>b\nTIDE\n\n") << two;
     QTest::newRow("comments") << QByteArray("; by hand\n# PEFF\n>a\n;inside\nPEP\n>b\nTIDE\n#end") << two;
     QTest::newRow("several lines") << QByteArray(">a\nP\nE\nP\n>b\nTI\nDE\n") << two;

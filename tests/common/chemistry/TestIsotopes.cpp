@@ -23,6 +23,7 @@ private Q_SLOTS:
     void carbonDisulfideShowsItsSulfur();
     void theEnvelopeOfInsulinIsComplete();
     void elementsOfOneIsotopeShiftTheEnvelope();
+    void chloroformShowsItsChlorine();
     void formulasWithoutEnvelopeAreRefused_data();
     void formulasWithoutEnvelopeAreRefused();
 };
@@ -142,7 +143,7 @@ void TestIsotopes::theEnvelopeOfInsulinIsComplete()
         sum += peak.abundance;
         mean += peak.abundance * peak.massDa;
     }
-    QVERIFY2(sum > 0.97 && sum < 1.001, qPrintable(QString::number(sum)));
+    QVERIFY2(sum > 0.99999 && sum < 1.00001, qPrintable(QString::number(sum)));
     QVERIFY(std::abs(peaks->constFirst().massDa - insulin.monoisotopicMass()) < 0.01);
     QVERIFY(std::abs(mean / sum - insulin.averageMass()) < 0.2);
 }
@@ -170,8 +171,8 @@ void TestIsotopes::formulasWithoutEnvelopeAreRefused_data()
     QTest::addColumn<double>("cutoff");
     QTest::newRow("empty") << QString() << 1e-4;
     QTest::newRow("negative count") << u"C6H-1"_s << 1e-4;
-    QTest::newRow("as large as an antibody") << u"C6464H9950N1706O2014S44"_s << 1e-4;
-    QTest::newRow("element beyond the library's") << u"CHCl3"_s << 1e-4;
+    QTest::newRow("a cutoff that leaves nothing") << u"C6464H9950N1706O2014S44"_s << 0.5;
+    QTest::newRow("a cutoff that leaves out one in a hundred") << u"C6464H9950N1706O2014S44"_s << 1e-2;
     QTest::newRow("cutoff 0") << u"CH4"_s << 0.0;
     QTest::newRow("cutoff 1") << u"CH4"_s << 1.0;
     QTest::newRow("cutoff that is no number") << u"CH4"_s << qQNaN();
@@ -185,6 +186,23 @@ void TestIsotopes::formulasWithoutEnvelopeAreRefused()
         IsotopeUtils::envelope(ChemicalFormula::parse(formula).value(), cutoff);
     QVERIFY(peaks.hasError());
     QCOMPARE(peaks.error().code(), ErrorCode::InvalidContent);
+}
+
+void TestIsotopes::chloroformShowsItsChlorine()
+{
+    const Result<QList<IsotopePeak>> peaks =
+        IsotopeUtils::envelope(ChemicalFormula::parse(u"CCl3"_s).value());
+    ORV_VERIFY_OK(peaks);
+    // By hand from the compositions of IUPAC 1997: carbon 98.93 and 1.07 %, chlorine 75.78 and 24.22 %.
+    const double light = 0.9893 * 0.7578 * 0.7578 * 0.7578;
+    const double carbon13 = 0.0107 * 0.7578 * 0.7578 * 0.7578;
+    const double oneHeavy = 0.9893 * 3 * 0.2422 * 0.7578 * 0.7578;
+    QCOMPARE(peaks->size(), 8);
+    QVERIFY(std::abs(peaks->at(0).abundance - light) < 1e-6);
+    QVERIFY(std::abs(peaks->at(1).abundance - carbon13) < 1e-6);
+    QVERIFY(std::abs(peaks->at(2).abundance - oneHeavy) < 1e-6);
+    QVERIFY(std::abs(peaks->at(0).massDa - (12.0 + 3 * 34.968853)) < 1e-4);
+    QVERIFY(std::abs(peaks->at(2).massDa - (12.0 + 2 * 34.968853 + 36.965903)) < 1e-4);
 }
 
 ORV_REGISTER_TEST(TestIsotopes)

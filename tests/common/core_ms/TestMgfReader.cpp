@@ -99,6 +99,7 @@ private Q_SLOTS:
     void levelsAreTold();
     void queriesAreDescribed();
     void onlyPeaksAreCounted();
+    void aByteOrderMarkIsPassedOver();
     void linesEndInManyWays_data();
     void linesEndInManyWays();
     void filesOfOthersAreRead_data();
@@ -163,6 +164,19 @@ void TestMgfReader::onlyPeaksAreCounted()
     // The last number stands outside, and words that mean numbers to some aren't peaks to anyone.
     QCOMPARE(outcome.queries.size(), 1);
     QCOMPARE(outcome.queries.first().peaks, 3);
+}
+
+void TestMgfReader::aByteOrderMarkIsPassedOver()
+{
+    const QByteArray text = "\xEF\xBB\xBF" + query("PEPMASS=500\n");
+    for (const qint64 piece : {1, 2, 3, 1000}) {
+        SlowDevice device(text, piece, false);
+        const Outcome outcome = readAll(&device);
+        ORV_VERIFY_OK(outcome.error);
+        QCOMPARE(outcome.levels(), QList<int>{2});
+    }
+    // Elsewhere it is no part of a keyword.
+    QVERIFY(readAll("\n" + text).error.hasError());
 }
 
 void TestMgfReader::linesEndInManyWays_data()

@@ -4,6 +4,8 @@
 
 #include <pwiz/utility/chemistry/Chemistry.hpp>
 
+#include <array>
+
 namespace orv::Internal {
 
 namespace {
@@ -22,6 +24,16 @@ Element elementOf(const Library::Info::Record &record)
     return element;
 }
 
+struct Weight
+{
+    const char *symbol;
+    double averageMassDa;
+};
+
+// Standard atomic weights that were revised after the library's table: CIAAW, "Standard atomic weights", zinc
+// 2007, selenium 2013, molybdenum 2012.
+constexpr std::array kRevisedWeights = {Weight{"Zn", 65.38}, Weight{"Se", 78.971}, Weight{"Mo", 95.95}};
+
 QHash<QString, Element> readElements()
 {
     QHash<QString, Element> elements;
@@ -30,6 +42,8 @@ QHash<QString, Element> readElements()
         if (element.averageMassDa > 0.0)
             elements.insert(element.symbol, element);
     }
+    for (const Weight &weight : kRevisedWeights)
+        elements[QLatin1String(weight.symbol)].averageMassDa = weight.averageMassDa;
     elements.insert(QStringLiteral("D"), elements.value(QStringLiteral("_2H")));
     elements.insert(QStringLiteral("T"), elements.value(QStringLiteral("_3H")));
     return elements;

@@ -9,7 +9,7 @@
 namespace orv {
 
 /// How many atoms of each element something has, or differs by: counts may be negative. The elements, their
-/// masses and their isotopes are ProteoWizard's.
+/// masses and their isotopes are ProteoWizard's, but for three average masses that were revised since.
 ///
 ///     Result<ChemicalFormula> water = ChemicalFormula::parse(QStringLiteral("H2O"));
 ///     double massDa = water->monoisotopicMass(); // 18.0106

@@ -50,12 +50,13 @@ namespace IsotopeUtils {
 [[nodiscard]] ORV_WORKFLOW_EXPORT std::optional<double> naturalAbundancePercent(const QString &element,
                                                                                 int massNumber);
 
-/// The masses of neutral molecules of natural isotopes, lightest first; those closer than 0.2 Da are one
-/// peak. Combinations of an element's isotopes rarer than \a cutoff (above 0, below 1) are left out.
-/// InvalidContent for another cutoff, for an empty formula, for negative counts, and for what ProteoWizard
-/// can't do: elements beside C, H, N, O and S, and molecules beyond about 20 kDa.
+/// The masses of neutral molecules of natural isotopes, lightest first; molecules with the same number of
+/// nucleons are one peak at their mean mass, as no instrument parts them at these sizes. Abundances are right
+/// within one in a billion for every element and size. Peaks rarer than \a cutoff (above 0, below 1) are left
+/// out. InvalidContent for another cutoff, for an empty formula, for negative counts, for an element that
+/// nature doesn't have, and where what is left out would be more than 0.1 % of all molecules.
 [[nodiscard]] ORV_WORKFLOW_EXPORT Result<QList<IsotopePeak>> envelope(const ChemicalFormula &formula,
-                                                                      double cutoff = 1e-4);
+                                                                      double cutoff = 1e-8);
 
 } // namespace IsotopeUtils
 

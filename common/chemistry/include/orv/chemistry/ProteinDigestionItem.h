@@ -6,7 +6,20 @@
 #include <QList>
 #include <QString>
 
+#include <vector>
+
 namespace orv {
+
+/// How many ends of a peptide must lie where the enzyme cuts or the protein ends. Stored in files, never
+/// renumber.
+enum class DigestionSpecificity : int
+{
+    NonSpecific = 0,
+    SemiSpecific = 1,    ///< one of them
+    FullySpecific = 2,   ///< both
+    RaggedNTerminus = 3, ///< the last residue's
+    RaggedCTerminus = 4, ///< the first residue's
+};
 
 /// Which peptides of a digestion are wanted.
 struct ORV_WORKFLOW_EXPORT DigestionLimits
@@ -14,6 +27,8 @@ struct ORV_WORKFLOW_EXPORT DigestionLimits
     int missedCleavages = 0; ///< at most
     int minimumLength = 1;   ///< residues
     int maximumLength = 100000;
+    DigestionSpecificity specificity = DigestionSpecificity::FullySpecific;
+    bool cutsBeforeProline = true; ///< false for enzymes that leave the bond to a proline behind it alone
 };
 
 /// A piece of a digested protein.
@@ -31,9 +46,9 @@ struct ORV_WORKFLOW_EXPORT DigestedPeptide
 ///     Trypsin @ R,K | C-term
 ///
 /// A name, the residues (one capital letter each), and the side of the residue on which the chain is cut:
-/// "C-term" behind it, "N-term" before it. The rule is complete: what may stand on the other side of the cut
-/// has no say, so that this trypsin cuts before proline too. Blanks around the parts don't count. A plain
-/// value.
+/// "C-term" behind it, "N-term" before it. The text says nothing of what stands on the other side of the cut,
+/// so that this trypsin cuts before proline too unless the limits of a digestion forbid it. Blanks around the
+/// parts don't count. A plain value.
 class ORV_WORKFLOW_EXPORT ProteinDigestionItem
 {
 public:
@@ -66,6 +81,8 @@ public:
     bool operator==(const ProteinDigestionItem &) const = default;
 
 private:
+    [[nodiscard]] std::vector<qsizetype> cutPlaces(const QString &sequence, bool cutsBeforeProline) const;
+
     QString m_name;
     QString m_residues;
     Side m_side = Side::CTerm;
