@@ -488,6 +488,7 @@ void TestKeyValueItem::glycanDatabasesBecomeAbsoluteInACopy()
 void TestKeyValueItem::glycanDatabasesOfADocumentBecomeAbsolute()
 {
     PropertyEditorUtils::updateGlycanDatabasesToAbsolute(static_cast<Content *>(nullptr), {});
+    PropertyEditorUtils::updateGlycanDatabasesToAbsolute(static_cast<KeyValueItem *>(nullptr), {});
     const QJsonObject glycans{{u"glycans"_s, u"[human.txt] @ NGlycan"_s}};
     const QJsonObject document = Documents::document(
         {Documents::tab(u"Tab"_s, {u"Column"_s, u"Other"_s},

@@ -48,6 +48,11 @@ void setHandlerFactory(ResourceReference::Scheme scheme, const HandlerFactory &f
         all.factories.remove(scheme);
 }
 
+bool isBuiltIn(Scheme scheme)
+{
+    return scheme == Scheme::LocalFile && !factoryOf(scheme);
+}
+
 Result<ResourceHandlerSPtr> getHandler(const ResourceReferenceSPtr &reference)
 {
     if (!reference || reference->isEmpty())

@@ -13,6 +13,8 @@ using PropertyEditor::KeyValueItem;
 
 void PropertyEditorUtils::updateGlycanDatabasesToAbsolute(KeyValueItem *item, const QUrl &baseUrl)
 {
+    if (!item)
+        return;
     for (const PropertyId id : propertiesWithGlycanDatabases()) {
         if (!item->contains(id))
             continue;

@@ -2,9 +2,10 @@
 
 #include <orv/core_ms/MsDataAccessorsFactory.h>
 
-#include <QCoroFuture>
-#include <QCoroTask>
-#include <QObject>
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFutureWatcher>
+#include <QThreadPool>
 #include <QtConcurrentRun>
 
 namespace orv::PropertyEditor {
@@ -21,10 +22,27 @@ Result<bool> hasMs1Data(const QString &path)
     return hasData;
 }
 
-/// \a path is a copy: the coroutine outlives the call that started it.
-QCoro::Task<Result<bool>> co_hasMs1Data(QString path)
+/// Handles the events of this thread, but for what the user does, until \a future has ended; unlike an event
+/// loop that is executed, also after the application was told to quit.
+template<typename T>
+void handleEventsUntilFinished(const QFuture<T> &future)
 {
-    co_return co_await QtConcurrent::run(hasMs1Data, std::move(path));
+    if (!QCoreApplication::instance())
+        return;
+    QFutureWatcher<T> waker; // its event ends the wait for others
+    waker.setFuture(future);
+    QEventLoop loop;
+    while (!future.isFinished())
+        loop.processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+}
+
+/// On a thread of its own: those of the application's pool may all be waiting for checks like this.
+Result<bool> hasMs1DataByWorker(const QString &path)
+{
+    QThreadPool worker;
+    const QFuture<Result<bool>> future = QtConcurrent::run(&worker, hasMs1Data, path);
+    handleEventsUntilFinished(future);
+    return future.result();
 }
 
 } // namespace
@@ -42,7 +60,7 @@ QSet<BaseItemType> MGFValidator::documentsToCheck() const
 
 Error MGFValidator::validateSample(const QString &path) const
 {
-    Result<bool> hasData = QCoro::waitFor(co_hasMs1Data(path));
+    Result<bool> hasData = hasMs1DataByWorker(path);
     if (hasData.hasError())
         return hasData.ecatch();
     if (*hasData)

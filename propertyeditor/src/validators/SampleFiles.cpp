@@ -2,6 +2,7 @@
 
 #include <orv/core_ms/MsDataFileUtils.h>
 #include <orv/resources/ResourceHandlerUtils.h>
+#include <orv/resources/ResourceManager.h>
 
 #include <QtConcurrentMap>
 
@@ -16,6 +17,8 @@ constexpr qsizetype kWorthThreads = 32;
 
 void SampleFiles::lookAhead(const QList<ResourceReferenceSPtr> &references)
 {
+    if (!ResourceManager::isBuiltIn(ResourceReference::Scheme::LocalFile))
+        return; // a host's handler is asked on this thread alone
     QList<ResourceReferenceSPtr> unknown;
     QSet<ResourceReferenceKey> seen;
     for (const ResourceReferenceSPtr &reference : references) {

@@ -18,12 +18,12 @@ public:
     Q_DISABLE_COPY_MOVE(SampleFiles)
 
     /// Looks for all local files among \a references, several at a time. Others wait until they are asked
-    /// for.
+    /// for, and so do all where a host handles local files.
     void lookAhead(const QList<ResourceReferenceSPtr> &references);
 
-    /// ResourceHandlerUtils::exists of \a reference, which isn't null.
+    /// ResourceHandlerUtils::exists of \a reference, which fails for null.
     [[nodiscard]] Result<bool> exists(const ResourceReferenceSPtr &reference);
-    /// ResourceHandlerUtils::validateReference of \a reference, which isn't null.
+    /// ResourceHandlerUtils::validateReference of \a reference; null isn't valid.
     [[nodiscard]] bool isValid(const ResourceReferenceSPtr &reference);
     /// MsDataFileUtils::detectPossibleVendorFormats of \a path.
     [[nodiscard]] QSet<msreader::VendorDataFormat> possibleFormats(const QString &path);

@@ -115,6 +115,8 @@ void TalvanePathsValidator::checkTraces(CheckRun &run, const SamplesInput::Entry
         }
     }
     for (const ResourceReferenceSPtr &trace : sample.traces) {
+        if (!trace)
+            continue;
         switch (trace->scheme()) {
         case Scheme::ServerFile:
             PathRules::checkTraceType(run, *this, trace, QStringLiteral("tolq"), itemTypes, place);

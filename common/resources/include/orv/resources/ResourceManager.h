@@ -17,6 +17,10 @@ using HandlerFactory = std::function<Result<ResourceHandlerSPtr>(const ResourceR
 /// LocalFile then goes back to the handler of this module. Handlers that were made before stay as they are.
 ORV_WORKFLOW_EXPORT void setHandlerFactory(ResourceReference::Scheme scheme, const HandlerFactory &factory);
 
+/// Whether references of \a scheme are handled by this module itself, whose handlers may be used on several
+/// threads at once. One that a host registered is called on the thread that needs the answer.
+[[nodiscard]] ORV_WORKFLOW_EXPORT bool isBuiltIn(ResourceReference::Scheme scheme);
+
 /// The handler of \a reference, which fetches nothing by itself. Fails with InvalidContent for a null or
 /// empty reference, and for a scheme that nothing here is in charge of.
 [[nodiscard]] ORV_WORKFLOW_EXPORT Result<ResourceHandlerSPtr>

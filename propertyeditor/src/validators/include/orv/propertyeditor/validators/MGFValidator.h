@@ -4,8 +4,9 @@
 
 namespace orv::PropertyEditor {
 
-/// Refuses lists of peaks (.mgf) without spectra of level 1. The file is read on a worker thread, for which
-/// the check waits in a local event loop: the application object must be there.
+/// Refuses lists of peaks (.mgf) without spectra of level 1. The file is read on a thread of its own,
+/// until whose end the caller's thread handles events other than the user's, even when the application is
+/// told to quit meanwhile.
 class ORV_WORKFLOW_EXPORT MGFValidator : public SampleDataValidator
 {
 public:

@@ -15,7 +15,8 @@ namespace orv::PropertyEditor {
 class CheckRun;
 
 /// The rules about the files of samples, which differ between a workflow on a desktop and one on a server.
-/// May block on a disk or server; each resource is asked for once in a run. On the thread of the check.
+/// May block on a disk or server. A run remembers what it has learnt of a resource; only that a sample's file
+/// on a server exists is asked anew before it is used. On the thread of the check.
 class ORV_WORKFLOW_EXPORT PathsValidatorBase
 {
 public:
