@@ -46,8 +46,13 @@ private Q_SLOTS:
     void aCurrentDocumentNeedsNothing();
     void stepsAreToldWithTheirChanges();
     void aSettingThatLivesOnIsRenamed();
+    void everyCellTellsItsRenaming();
+    void anEqualNumberIsNoRenaming();
     void theTextIsStampedForTheUser();
     void lossesOfTheFirstLoadAreTold();
+    void whatIsNotChangedLosesNothing_data();
+    void whatIsNotChangedLosesNothing();
+    void aDocumentThatCannotBeLoadedIsNotHealedInSilence();
     void whatHasNoTabsIsNoWorkflow();
     void newerDocumentsAreRefusedWithTheirState();
     void aStepThatFailsIsTold();
@@ -86,6 +91,34 @@ void TestWorkflowUpgrade::aSettingThatLivesOnIsRenamed()
     QVERIFY(!changes.contains(u"removed EnableInSilico"_s));
 }
 
+void TestWorkflowUpgrade::everyCellTellsItsRenaming()
+{
+    QList<QJsonObject> cells;
+    for (const char *isOn : {"true", "false", "true"})
+        cells.append(cell(u"Senthia"_s, {{Id::EnableInSilico, QLatin1String(isOn)}}));
+    const QStringList changes =
+        changesOfStep(reportOf(document(WorkflowType::PeptideMap, cells, u"5.45.0"_s)), u"5.46.0"_s);
+    QCOMPARE(changes.count(u"renamed InSilicoMode"_s), 3);
+    QCOMPARE(changes.filter(u"EnableInSilico"_s), QStringList());
+    QCOMPARE(changes.count(u"added InSilicoMode"_s), 0);
+}
+
+void TestWorkflowUpgrade::anEqualNumberIsNoRenaming()
+{
+    const WorkflowUpgradeReport report =
+        reportOf(document(WorkflowType::DigestedOligo,
+                          {cell(u"Karvon"_s, {{Id::KarvonMachineType, 0, u"Instrument Parameters"_s},
+                                              {Id::KarvonRalmixMinScore, u"1"_s},
+                                              {Id::KarvonRalmixAutoScore, u"false"_s},
+                                              {Id::KarvonModText, QJsonObject()}})},
+                          u"5.22.0"_s));
+    ORV_VERIFY_OK(report.error);
+    const QStringList changes = changesOfStep(report, u"5.23.0"_s);
+    QVERIFY2(changes.contains(u"removed KarvonMachineType"_s), qPrintable(changes.join(u'\n')));
+    QVERIFY2(changes.contains(u"added KarvonMoleculeType"_s), qPrintable(changes.join(u'\n')));
+    QCOMPARE(changes.filter(u"renamed"_s), QStringList());
+}
+
 void TestWorkflowUpgrade::theTextIsStampedForTheUser()
 {
     const WorkflowUpgradeReport report =
@@ -104,6 +137,38 @@ void TestWorkflowUpgrade::lossesOfTheFirstLoadAreTold()
     const WorkflowUpgradeReport report = reportOf(document(WorkflowType::PeptideMap, {odd}, u"5.40.0"_s));
     QCOMPARE(report.lost.size(), 1);
     QVERIFY(report.lost.constFirst().what.contains(u"NoSuchSetting"_s));
+}
+
+void TestWorkflowUpgrade::whatIsNotChangedLosesNothing_data()
+{
+    QTest::addColumn<QString>("version");
+    QTest::newRow("current") << WflwMetaData::currentWorkflowVersion().toString();
+    QTest::newRow("of a later minor version") << u"5.48.0"_s;
+    QTest::newRow("of a step that fails") << u"5.25.0"_s;
+}
+
+void TestWorkflowUpgrade::whatIsNotChangedLosesNothing()
+{
+    QFETCH(QString, version);
+    QJsonObject odd = cell(u"Senthia"_s, {});
+    odd.insert(u"properties"_s, QJsonArray{QJsonObject{{u"name"_s, u"NoSuchSetting"_s}, {u"value"_s, 1}}});
+    const LogCapture log;
+    const WorkflowUpgradeReport report =
+        reportOf(document(WorkflowType::IntactMass, {samplesCell({u"a"_s}), odd}, version));
+    QVERIFY(!report.isChanged);
+    QCOMPARE(report.lost.size(), 0);
+}
+
+void TestWorkflowUpgrade::aDocumentThatCannotBeLoadedIsNotHealedInSilence()
+{
+    QJsonObject broken = document(WorkflowType::PeptideMap, {}, u"5.20.0"_s).document();
+    QJsonObject tab = Documents::tab(u"Map"_s, {u"Map"_s}, {});
+    tab.insert(u"cells"_s, QJsonObject{{u"0"_s, cell(u"Senthia"_s, {{Id::CreateXicCache, u"true"_s}})}});
+    broken.insert(u"tabs"_s, QJsonArray{tab});
+    const LogCapture log;
+    const WorkflowUpgradeReport report = WorkflowUpgrade::run(broken, {});
+    QVERIFY(report.error.hasError());
+    QVERIFY(!report.isChanged && report.upgraded.isEmpty());
 }
 
 void TestWorkflowUpgrade::whatHasNoTabsIsNoWorkflow()

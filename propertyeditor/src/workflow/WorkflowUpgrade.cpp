@@ -16,16 +16,18 @@ struct WorkflowUpgradeTr
     Q_DECLARE_TR_FUNCTIONS(WorkflowUpgrade)
 };
 
-QList<Loss> lossesOfLoad(const QJsonObject &document)
+/// What the first step can't take over from the document. Fails where the document can't be loaded, though
+/// its value form, which heals what it can't hold, may well be.
+Result<QList<Loss>> lossesOfLoad(const QJsonObject &document)
 {
     LossCollector collector;
     PropertyEditor::Content content;
     content.setLossObserver(&collector);
-    // A document that can't be loaded fails in the upgrade, where the error belongs.
     const Error error =
         content.assignFromJson(document, PropertyEditor::ValidationOption::SkipTypeValidation);
     content.setLossObserver(nullptr);
-    return error.hasError() ? QList<Loss>() : collector.losses();
+    ORV_RETURN_IF_ERROR(error);
+    return collector.losses();
 }
 
 /// Judges the document without a step.
@@ -71,8 +73,10 @@ WorkflowUpgradeReport run(const QJsonObject &document, const WorkflowUpgradeOpti
     report.error = begin(content, &report);
     if (report.error || report.from == WflwMetaData::currentWorkflowVersion())
         return report;
-    report.lost = lossesOfLoad(document);
-    report.error = takeSteps(content, options, &report);
+    const Result<QList<Loss>> lost = lossesOfLoad(document);
+    report.error = lost.hasError() ? lost.error() : takeSteps(content, options, &report);
+    if (report.isChanged)
+        report.lost = *lost;
     return report;
 }
 

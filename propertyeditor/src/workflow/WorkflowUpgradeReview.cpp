@@ -3,8 +3,13 @@
 #include <orv/propertyeditor/PropertySetCreator.h>
 #include <orv/propertyeditor/workflow/WorkflowDifferences.h>
 
+#include <QHash>
+#include <QSet>
+
 #include <algorithm>
 #include <array>
+#include <map>
+#include <tuple>
 
 namespace orv {
 
@@ -21,6 +26,7 @@ constexpr std::array kChangedMembers = {
     ChangedMember{QLatin1String(" / group"), WorkflowUpgradeChange::Kind::Moved},
     ChangedMember{QLatin1String(" / name"), WorkflowUpgradeChange::Kind::Renamed},
 };
+constexpr QLatin1String kPathSeparator(" / ");
 constexpr QLatin1String kPrioritySuffix(" / priority");
 
 /// Settings get their usual priority when they are next written, which nobody needs to review.
@@ -50,42 +56,63 @@ WorkflowUpgradeChange changeOf(const WorkflowDifference &difference)
     return change;
 }
 
-/// A switch that is on, "true" and 1 say the same.
-QJsonValue plainValue(const QJsonValue &value)
+/// A setting as a whole, of one cell.
+using SettingPlace = std::tuple<QString, QString, std::optional<qsizetype>, QString>;
+
+SettingPlace placeOf(const WorkflowDifference &difference, const QString &property)
 {
-    if (value.isBool())
-        return int(value.toBool());
-    if (value.toString() == QLatin1String("true"))
-        return 1;
-    return value.toString() == QLatin1String("false") ? QJsonValue(0) : value;
+    return {difference.tab, difference.column, difference.row, property};
 }
 
-/// Whether \a removed lives on as \a added: the same value in the same cell, as a setting or a number.
-bool isRenaming(const WorkflowDifference &removed, const WorkflowDifference &added)
+bool isWholeSetting(const WorkflowDifference &difference, WorkflowDifference::Kind kind)
 {
-    return removed.kind == WorkflowDifference::Kind::Removed &&
-           added.kind == WorkflowDifference::Kind::Added && !removed.property.isEmpty() &&
-           !added.property.isEmpty() && removed.tab == added.tab && removed.column == added.column &&
-           removed.row == added.row && plainValue(removed.left).isDouble() &&
-           plainValue(removed.left) == plainValue(added.right);
+    return difference.kind == kind && !difference.property.isEmpty() &&
+           difference.path.endsWith(kPathSeparator + difference.property);
 }
 
-QList<WorkflowUpgradeChange> changesOf(QList<WorkflowDifference> differences)
+/// The settings that a step removed and added, by those that it says are the same: for each number of what
+/// was removed that of what was added.
+QHash<qsizetype, qsizetype> renamingsAmong(const QList<WorkflowDifference> &differences,
+                                           const QList<WflwUpgradeRenaming> &renamed)
+{
+    QHash<qsizetype, qsizetype> found;
+    if (renamed.isEmpty())
+        return found;
+    std::map<SettingPlace, qsizetype> added;
+    for (qsizetype i = 0; i < differences.size(); ++i) {
+        if (isWholeSetting(differences.at(i), WorkflowDifference::Kind::Added))
+            added.insert({placeOf(differences.at(i), differences.at(i).property), i});
+    }
+    for (qsizetype i = 0; i < differences.size(); ++i) {
+        const WorkflowDifference &removed = differences.at(i);
+        const auto renaming = std::ranges::find(renamed, removed.property, &WflwUpgradeRenaming::from);
+        if (renaming == renamed.end() || !isWholeSetting(removed, WorkflowDifference::Kind::Removed))
+            continue;
+        if (const auto other = added.find(placeOf(removed, renaming->to)); other != added.end())
+            found.insert(i, other->second);
+    }
+    return found;
+}
+
+WorkflowUpgradeChange renaming(const WorkflowDifference &removed, const WorkflowDifference &added)
+{
+    return {WorkflowUpgradeChange::Kind::Renamed, added.path, added.property, removed.property,
+            added.property};
+}
+
+QList<WorkflowUpgradeChange> changesOf(QList<WorkflowDifference> differences,
+                                       const QList<WflwUpgradeRenaming> &renamed)
 {
     differences.removeIf(isUsualPriority);
+    const QHash<qsizetype, qsizetype> renamings = renamingsAmong(differences, renamed);
+    const QSet<qsizetype> toldAlready(renamings.begin(), renamings.end());
     QList<WorkflowUpgradeChange> changes;
     for (qsizetype i = 0; i < differences.size(); ++i) {
-        WorkflowUpgradeChange change = changeOf(differences.at(i));
-        const auto added =
-            std::find_if(differences.begin() + i, differences.end(), [&](const WorkflowDifference &other) {
-                return isRenaming(differences.at(i), other);
-            });
-        if (added != differences.end()) {
-            change = {WorkflowUpgradeChange::Kind::Renamed, added->path, added->property, change.property,
-                      added->property};
-            differences.erase(added);
-        }
-        changes.append(change);
+        const auto other = renamings.constFind(i);
+        if (other != renamings.cend())
+            changes.append(renaming(differences.at(i), differences.at(*other)));
+        else if (!toldAlready.contains(i))
+            changes.append(changeOf(differences.at(i)));
     }
     return changes;
 }
@@ -97,7 +124,8 @@ WorkflowUpgradeReview::~WorkflowUpgradeReview() = default;
 void WorkflowUpgradeReview::changed(const WflwUpgradeChange &change)
 {
     const QList<WorkflowUpgradeChange> changes =
-        changesOf(WorkflowDifferences::between(change.before.document(), change.after.document(), false));
+        changesOf(WorkflowDifferences::between(change.before.document(), change.after.document(), false),
+                  change.renamed);
     if (!changes.isEmpty())
         m_steps.append({change.version, changes});
 }

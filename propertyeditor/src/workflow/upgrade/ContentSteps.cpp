@@ -270,6 +270,7 @@ Error WflwUpgradeHelper::upgradeV_5_46_0(PropertyEditorContent *content)
         return working.ecatch();
     QList<KeyValueItem *> items = settingsItems(*working, {BaseItemType::Senthia});
     items.removeIf([](const KeyValueItem *item) { return !item->contains(PropertyId::EnableInSilico); });
+    working->tellRenamed(keyOf(PropertyId::EnableInSilico), keyOf(PropertyId::InSilicoMode));
     ORV_RETURN_IF_ERROR(editEach(items, &makeInSilicoMode, *working));
     return Error::NoError;
 }

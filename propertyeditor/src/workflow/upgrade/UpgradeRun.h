@@ -4,12 +4,14 @@
 
 #include <orv/core/Result.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
+#include <orv/propertyeditor/workflow/WflwUpgradeObserver.h>
 
 #include <QJsonObject>
 #include <QSet>
 #include <QStringList>
 
 #include <optional>
+#include <utility>
 
 namespace orv {
 
@@ -33,6 +35,11 @@ public:
     Result<PropertyEditor::Content> lend();
     /// Whatever was edited in it and not written doesn't show in the next loan.
     void takeBack();
+
+    /// What a step says of its edits.
+    void tellRenamed(const WflwUpgradeRenaming &renaming) { m_renamed.append(renaming); }
+    /// All that was said since this was last asked.
+    [[nodiscard]] QList<WflwUpgradeRenaming> takeRenamed() { return std::exchange(m_renamed, {}); }
 
     /// Replaces *document by what the lent tree \a working holds now.
     Error write(const PropertyEditor::Content &working, PropertyEditorContent *document);
@@ -68,6 +75,7 @@ private:
     /// a second time. Nothing as long as all cells have to be written.
     std::optional<QSet<qsizetype>> m_unsettled;
     bool m_writtenInFull = false;
+    QList<WflwUpgradeRenaming> m_renamed;
 };
 
 } // namespace orv

@@ -110,14 +110,14 @@ public:
             m_before = *content;
     }
 
-    void stepDone(const QVersionNumber &version)
+    void stepDone(const QVersionNumber &version, const QList<WflwUpgradeRenaming> &renamed)
     {
         if (!m_observer)
             return;
         const PropertyEditorContent before = m_before;
         m_before = *m_content;
         if (differ(before, m_before))
-            m_observer->changed({version, before, m_before});
+            m_observer->changed({version, before, m_before, renamed});
     }
 
 private:
@@ -166,11 +166,11 @@ public:
                                    .arg(version.toString(), step.version().toString()))
                     .ecatch();
             }
-            reporter.stepDone(step.version());
+            reporter.stepDone(step.version(), m_run.takeRenamed());
         }
         if (isBelowCurrent(*m_content)) {
             ORV_RETURN_IF_ERROR(m_helper->upgradeToCurrentWorkflowVersion(m_content));
-            reporter.stepDone(WflwMetaData::currentWorkflowVersion());
+            reporter.stepDone(WflwMetaData::currentWorkflowVersion(), m_run.takeRenamed());
         }
         return Error::NoError;
     }

@@ -34,4 +34,10 @@ Error WorkingContent::writeBack() const
     return Error::NoError;
 }
 
+void WorkingContent::tellRenamed(const QString &from, const QString &to) const
+{
+    if (m_loan)
+        m_loan->tellRenamed({from, to});
+}
+
 } // namespace orv

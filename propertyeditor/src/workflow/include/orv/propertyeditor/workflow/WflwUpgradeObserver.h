@@ -4,9 +4,19 @@
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 
 #include <QList>
+#include <QString>
 #include <QVersionNumber>
 
 namespace orv {
+
+/// A setting that a step gave another name, and perhaps another type of value.
+struct WflwUpgradeRenaming
+{
+    QString from; ///< internal names
+    QString to;
+
+    bool operator==(const WflwUpgradeRenaming &) const = default;
+};
 
 /// What one step of the upgrade chain did to a document. Stamps alone are no change.
 struct WflwUpgradeChange
@@ -14,6 +24,7 @@ struct WflwUpgradeChange
     QVersionNumber version; ///< of the step; the current version for the one that only brings it up to date
     PropertyEditorContent before;
     PropertyEditorContent after;
+    QList<WflwUpgradeRenaming> renamed = {}; ///< as the step tells
 };
 
 /// Hears of each step that changed something, once it has succeeded, so that a host can tell what an upgrade

@@ -35,7 +35,9 @@ struct ORV_WORKFLOW_EXPORT WorkflowUpgradeReport
     QStringList notes;
     bool isChanged = false;
     QList<WorkflowUpgradeStep> steps;
-    QList<Loss> lost;    ///< what the first load of the document drops; every step works on what is left
+    /// What the first load of the document drops; every step works on what is left. Empty for a document that
+    /// isn't changed, since nothing of it is lost.
+    QList<Loss> lost;
     QByteArray upgraded; ///< the text of the new document; empty when nothing is changed
     Error error;         ///< why there is none
 };

@@ -17,7 +17,7 @@ struct ORV_WORKFLOW_EXPORT WorkflowUpgradeChange
     {
         Added,
         Removed,
-        Renamed, ///< the setting has another name; `from` and `to` are the names
+        Renamed, ///< the step gave the setting another name; `from` and `to` are the names
         Moved,   ///< the setting has another group
         Changed,
     };

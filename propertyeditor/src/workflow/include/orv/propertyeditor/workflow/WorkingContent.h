@@ -30,6 +30,10 @@ public:
     /// written empty.
     Error writeBack() const;
 
+    /// Tells who reviews the upgrade that the setting \a from lives on as \a to in the cells that have the
+    /// one before this step and the other behind it; otherwise one was removed and another one added.
+    void tellRenamed(const QString &from, const QString &to) const;
+
 private:
     struct ORV_WORKFLOW_EXPORT Return
     {
