@@ -6,6 +6,8 @@
 #include <orv/propertyeditor/validators/FindingPlaces.h>
 #include <orv/propertyeditor/validators/Validators.h>
 #include <orv/propertyeditor/validators/WorkflowCheck.h>
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
+#include <orv/propertyeditor/workflow/WorkflowType.h>
 
 using namespace orv;
 using namespace orv::PropertyEditor;
@@ -51,10 +53,17 @@ private Q_SLOTS:
     void pathsCountFromTheFolder();
     void aSettingIsFoundInTheFile();
     void aSampleIsFoundInTheFile();
+    void samplesOfOneNameAreFoundEachByItself();
+    void whatTheDocumentHasInAnotherOrderIsFoundByName();
     void withoutAFileThereAreNamesAlone();
     void whatIsNotInTheFileStandsAtItsCell();
     void onlySearchesOfOneKindAreAskedForTheirVendors_data();
     void onlySearchesOfOneKindAreAskedForTheirVendors();
+    void whatCannotBeOpenedIsAnError_data();
+    void whatCannotBeOpenedIsAnError();
+    void anOutdatedDocumentIsCheckedAsUpgraded();
+    void anOutdatedDocumentThatCannotBeUpgradedIsAnError();
+    void aNewerDocumentIsCheckedAsItIs();
     void unevenTabsAreRefused();
     void aNameThatIsNoValidatorsIsRefused();
     void manySamplesAreLocatedInOneWalk();
@@ -101,6 +110,42 @@ void TestWorkflowCheck::aSampleIsFoundInTheFile()
     const LocatedFinding &second = report.findings.at(1);
     QCOMPARE(second.sample, u"b"_s);
     QCOMPARE(second.pointer, u"/tabs/0/cells/0/properties/0/value/Samples/1"_s);
+}
+
+void TestWorkflowCheck::samplesOfOneNameAreFoundEachByItself()
+{
+    const QJsonObject document = faultyDocument({u"a"_s, u"b"_s, u"a"_s, u"a"_s});
+    const WorkflowCheckReport report = reportOn(document, {u"Files"_s});
+    QStringList pointers;
+    QSet<qsizetype> lines;
+    for (const LocatedFinding &finding : report.findings) {
+        if (!finding.message.endsWith(u"\"a\" does not exist"_s))
+            continue;
+        pointers.append(finding.pointer);
+        lines.insert(finding.line.value_or(0));
+    }
+    const QString samples = u"/tabs/0/cells/0/properties/0/value/Samples/"_s;
+    QCOMPARE(pointers, (QStringList{samples + u'0', samples + u'2', samples + u'3'}));
+    QCOMPARE(lines.size(), 3);
+    const auto repeated =
+        std::ranges::find(report.findings, u"Duplicated sample names found: a,a"_s, &LocatedFinding::message);
+    QVERIFY(repeated != report.findings.end());
+    QCOMPARE(repeated->pointer, samples + u'2');
+}
+
+void TestWorkflowCheck::whatTheDocumentHasInAnotherOrderIsFoundByName()
+{
+    const QJsonObject document = faultyDocument({u"a"_s, u"b"_s});
+    Content content;
+    ProjectFixtures::load(&content, document);
+    FindingPlaces places(content, document);
+    const BaseItem *const table = content.findAllItems(BaseItemType::Samples).constFirst();
+    const auto pointerTo = [&](const QString &name, qsizetype row) {
+        return places.named({table, PropertyId::SamplesTable, name, row}).pointer;
+    };
+    QVERIFY(pointerTo(u"b"_s, 0).endsWith(u"/Samples/1"_s));
+    QVERIFY(pointerTo(u"b"_s, 7).endsWith(u"/Samples/1"_s));
+    QVERIFY(pointerTo(u"c"_s, 0).endsWith(u"/value"_s));
 }
 
 void TestWorkflowCheck::withoutAFileThereAreNamesAlone()
@@ -153,6 +198,69 @@ void TestWorkflowCheck::onlySearchesOfOneKindAreAskedForTheirVendors()
     const bool wasAsked = std::ranges::any_of(
         report.findings, [](const LocatedFinding &finding) { return finding.rule == u"SampleTypes"_s; });
     QCOMPARE(wasAsked, isAsked);
+}
+
+void TestWorkflowCheck::whatCannotBeOpenedIsAnError_data()
+{
+    QTest::addColumn<QJsonObject>("cell");
+    QTest::newRow("unknown cell") << step(u"Novelty"_s);
+    const QJsonObject entry{{u"name"_s, u"KarvonCentroidTopk"_s}, {u"value"_s, 5}};
+    QTest::newRow("setting of other cells")
+        << QJsonObject{{u"type"_s, u"Isotope"_s}, {u"properties"_s, QJsonArray{entry}}};
+}
+
+void TestWorkflowCheck::whatCannotBeOpenedIsAnError()
+{
+    QFETCH(QJsonObject, cell);
+    const LogCapture log;
+    const QJsonObject document = ProjectFixtures::document({step(u"Karvon"_s), cell});
+    const auto report = WorkflowCheck().run(WorkflowSource{document, {}}, kWorkflowFolder);
+    QVERIFY(report.hasError());
+    QVERIFY(!report.error().errorMessage().isEmpty());
+}
+
+void TestWorkflowCheck::anOutdatedDocumentIsCheckedAsUpgraded()
+{
+    const LogCapture log;
+    const QJsonObject document = ProjectFixtures::document(
+        {samplesCell({{u"a"_s, u"runs/a.raw"_s, {}, {}}}),
+         settings(u"Karvon"_s, {{PropertyId::KarvonCentroidTopk, -5}, {PropertyId::Samples, u"b"_s}})},
+        {{u"version"_s, u"5.40.0"_s}});
+    const auto report =
+        WorkflowCheck().run(WorkflowSource{document, Documents::toBytes(document)}, kWorkflowFolder);
+    ORV_VERIFY_OK(report);
+    QCOMPARE(report->version, QVersionNumber(5, 40, 0));
+    QCOMPARE(report->checkedVersion, WflwMetaData::currentWorkflowVersion());
+    const auto finding = std::ranges::find(report->findings, u"Builtin/range"_s, &LocatedFinding::rule);
+    QVERIFY(finding != report->findings.end());
+    QCOMPARE(finding->pointer, u"/tabs/0/cells/1/properties/0/value"_s);
+    QVERIFY(finding->line);
+}
+
+void TestWorkflowCheck::anOutdatedDocumentThatCannotBeUpgradedIsAnError()
+{
+    const LogCapture log;
+    const QJsonObject document =
+        ProjectFixtures::document({samplesCell({}), step(u"Senthia"_s)},
+                                  {{u"version"_s, u"5.25.0"_s},
+                                   {u"workflowType"_s, workflowTypeToString(WorkflowType::IntactMass)}});
+    const auto report = WorkflowCheck().run(WorkflowSource{document, {}}, kWorkflowFolder);
+    QVERIFY(report.hasError());
+    QCOMPARE(report.error().errorMessage(),
+             u"Workflow does not contain the expected trace peak option presets."_s);
+}
+
+void TestWorkflowCheck::aNewerDocumentIsCheckedAsItIs()
+{
+    const LogCapture log;
+    for (const QString &version : {u"5.48.0"_s, u"6.0.0"_s}) {
+        const QJsonObject document =
+            ProjectFixtures::document({step(u"Karvon"_s)}, {{u"version"_s, version}});
+        const auto report = WorkflowCheck().run(WorkflowSource{document, {}}, kWorkflowFolder);
+        ORV_VERIFY_OK(report);
+        QCOMPARE(report->checkedVersion.toString(), version);
+        QVERIFY(!report->isValid); // for want of samples
+    }
 }
 
 void TestWorkflowCheck::unevenTabsAreRefused()

@@ -3,7 +3,10 @@
 #include <orv/chemistry/MassUtils.h>
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QSet>
+
+#include <optional>
 
 namespace orv::MassUtils {
 
@@ -51,10 +54,20 @@ void checkSamples(const QString &row, const DeltaMass &mass, const QSet<int> &kn
     }
 }
 
-bool isRepeated(const DeltaMass &a, const DeltaMass &b)
+/// What makes two rows the same mass.
+struct MassKey
 {
-    return a.name == b.name && a.massDa == b.massDa && a.protein == b.protein && a.samplesIds == b.samplesIds;
-}
+    QString name;
+    std::optional<double> massDa;
+    QString protein;
+    QList<int> samplesIds;
+
+    bool operator==(const MassKey &) const = default;
+    friend size_t qHash(const MassKey &key, size_t seed = 0)
+    {
+        return qHashMulti(seed, key.name, key.massDa.value_or(0.0), key.protein, key.samplesIds);
+    }
+};
 
 } // namespace
 
@@ -65,7 +78,7 @@ bool validate(const QList<DeltaMass> &masses, const QList<int> &samplesIds, QStr
     QStringList foundWarnings;
     const QSet<int> known(samplesIds.begin(), samplesIds.end());
 
-    QMultiHash<QString, qsizetype> byName;
+    QHash<MassKey, qsizetype> seen;
     for (qsizetype i = 0; i < masses.size(); ++i) {
         const DeltaMass &mass = masses.at(i);
         if (mass.isEmpty())
@@ -76,13 +89,12 @@ bool validate(const QList<DeltaMass> &masses, const QList<int> &samplesIds, QStr
             foundWarnings.append(
                 MassTableCheckTr::tr("%1 has no name, so its matches can't be told apart.").arg(row));
         checkSamples(row, mass, known, &foundErrors, &foundWarnings);
-        const QList<qsizetype> namesakes = byName.values(mass.name);
-        const auto same = std::find_if(namesakes.begin(), namesakes.end(),
-                                       [&](qsizetype other) { return isRepeated(masses.at(other), mass); });
-        if (same != namesakes.end())
+        const MassKey key{mass.name, mass.massDa, mass.protein, mass.samplesIds};
+        const auto same = seen.constFind(key);
+        if (same != seen.cend())
             foundWarnings.append(MassTableCheckTr::tr("%1 repeats row %2.").arg(row).arg(*same + 1));
         else
-            byName.insert(mass.name, i);
+            seen.insert(key, i);
     }
     if (errors)
         errors->append(foundErrors);

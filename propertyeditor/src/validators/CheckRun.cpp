@@ -24,7 +24,7 @@ struct Fact
     friend size_t qHash(const Fact &fact, size_t seed = 0)
     {
         return qHashMulti(seed, int(fact.level), fact.message, fact.place.item, int(fact.place.property),
-                          fact.place.sample);
+                          fact.place.sample, fact.place.sampleRow.value_or(-1));
     }
 };
 

@@ -30,13 +30,13 @@ std::unique_ptr<PathsValidatorBase> createPathsValidator(PropertyEditorContent::
 void checkNameOfRow(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &sample,
                     qsizetype row)
 {
-    const FindingPlace place = PathRules::placeOf(table, sample);
+    const FindingPlace place = PathRules::placeOf(table, sample, row);
     if (sample.name.isEmpty()) {
-        run.error(QObject::tr("The sample name at row #%1 is empty").arg(row), place,
+        run.error(QObject::tr("The sample name at row #%1 is empty").arg(row + 1), place,
                   QObject::tr("Give the sample a name."));
     }
     if (sample.name.contains(QLatin1Char('"'))) {
-        run.error(QObject::tr("The sample at row #%1 contains illegal character: \"").arg(row), place,
+        run.error(QObject::tr("The sample at row #%1 contains illegal character: \"").arg(row + 1), place,
                   QObject::tr("Take the quotation mark out of the sample's name."));
     }
 }
@@ -46,17 +46,20 @@ void checkNames(CheckRun &run, const SamplesTableItem *table, const QList<Sample
     QSet<QString> seen;
     seen.reserve(samples.size());
     QStringList repeated;
+    std::optional<qsizetype> firstRepeated;
     for (qsizetype i = 0; i < samples.size(); ++i) {
         const SamplesInput::Entry &sample = samples.at(i);
-        checkNameOfRow(run, table, sample, i + 1);
-        if (seen.contains(sample.name))
+        checkNameOfRow(run, table, sample, i);
+        if (seen.contains(sample.name)) {
             repeated.append(sample.name);
+            firstRepeated = firstRepeated.value_or(i);
+        }
         seen.insert(sample.name);
     }
     if (repeated.isEmpty())
         return;
     run.error(QObject::tr("Duplicated sample names found: %1").arg(repeated.join(QLatin1Char(','))),
-              {table, PropertyId::SamplesTable, repeated.constFirst()},
+              {table, PropertyId::SamplesTable, repeated.constFirst(), firstRepeated},
               QObject::tr("Give each sample a name of its own."));
 }
 
@@ -97,9 +100,10 @@ void checkTable(CheckRun &run, const SamplesTableItem *table, const QSet<BaseIte
     } else {
         checkNames(run, table, samples);
         paths->checkSamplesPaths(run, samples, itemTypes);
-        for (const SamplesInput::Entry &sample : samples) {
-            for (const ResourceReferenceSPtr &reference : sample.extraReferences)
-                paths->checkReference(run, reference, PathRules::placeOf(table, sample));
+        for (qsizetype row = 0; row < samples.size(); ++row) {
+            const FindingPlace place = PathRules::placeOf(table, samples.at(row), row);
+            for (const ResourceReferenceSPtr &reference : samples.at(row).extraReferences)
+                paths->checkReference(run, reference, place);
         }
     }
     if (itemTypes.contains(BaseItemType::Intact) || itemTypes.contains(BaseItemType::Dravik))

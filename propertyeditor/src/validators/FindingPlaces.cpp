@@ -14,6 +14,12 @@ namespace orv::PropertyEditor {
 
 using namespace PropertyEditorStringConstants;
 
+namespace {
+
+constexpr QLatin1String kSamplesKey("Samples");
+
+} // namespace
+
 FindingPlaces::FindingPlaces(const Content &content, const QJsonObject &document)
     : m_document(document)
 {
@@ -32,18 +38,29 @@ FindingPlaces::FindingPlaces(const Content &content, const QJsonObject &document
 
 FindingPlaces::Entry FindingPlaces::entryOf(const QJsonObject &json, const QString &pointer)
 {
-    Entry entry{pointer, {}};
+    Entry entry{pointer, {}, {}};
     const QJsonValue value = json.value(VALUE_KEY);
     if (value.isUndefined())
         return entry;
     entry.pointer += QLatin1Char('/') + VALUE_KEY;
-    const QJsonArray samples = value.toObject().value(QLatin1String("Samples")).toArray();
-    for (qsizetype i = 0; i < samples.size(); ++i) {
-        const QString name = samples.at(i).toObject().value(QLatin1String("SampleName")).toString();
-        if (!entry.samples.contains(name))
-            entry.samples.insert(name, QStringLiteral("%1/Samples/%2").arg(entry.pointer).arg(i));
+    const QJsonArray samples = value.toObject().value(kSamplesKey).toArray();
+    for (qsizetype row = 0; row < samples.size(); ++row) {
+        const QString name = samples.at(row).toObject().value(QLatin1String("SampleName")).toString();
+        entry.samples.append(name);
+        if (!entry.rows.contains(name))
+            entry.rows.insert(name, row);
     }
     return entry;
+}
+
+/// The document may have its samples in an older form, or in another order than what was made of it.
+std::optional<qsizetype> FindingPlaces::rowOf(const FindingPlace &place, const Entry &entry)
+{
+    if (place.sampleRow && *place.sampleRow < entry.samples.size() &&
+        entry.samples.at(*place.sampleRow) == place.sample)
+        return place.sampleRow;
+    const auto first = entry.rows.constFind(place.sample);
+    return place.sample.isEmpty() || first == entry.rows.cend() ? std::nullopt : std::optional(*first);
 }
 
 FindingPlaces::Entries FindingPlaces::entriesOf(const Cell &cell, const BaseItem &item,
@@ -77,7 +94,8 @@ QString FindingPlaces::pointerOf(Cell &cell, const FindingPlace &place) const
     const auto entry = cell.entries->constFind(place.property);
     if (entry == cell.entries->cend())
         return pointer;
-    return place.sample.isEmpty() ? entry->pointer : entry->samples.value(place.sample, entry->pointer);
+    const std::optional<qsizetype> row = rowOf(place, *entry);
+    return row ? QStringLiteral("%1/%2/%3").arg(entry->pointer, kSamplesKey).arg(*row) : entry->pointer;
 }
 
 NamedPlace FindingPlaces::named(const FindingPlace &place)

@@ -30,6 +30,17 @@ QString missingHint(const ResourceReferenceSPtr &reference)
         .arg(ResourceReferenceUtils::toString(reference, true));
 }
 
+void checkTraces(CheckRun &run, const SamplesInput::Entry &sample, const FindingPlace &place)
+{
+    for (const ResourceReferenceSPtr &trace : sample.traces) {
+        if (checkExistence(run, trace))
+            continue;
+        run.error(QObject::tr("The traces path of the sample \"%1\" does not exist")
+                      .arg(ResourceReferenceUtils::toString(trace, true)),
+                  place, missingHint(trace));
+    }
+}
+
 } // namespace
 
 MirelPathsValidator::MirelPathsValidator(const SamplesTableItem *table)
@@ -39,40 +50,27 @@ MirelPathsValidator::MirelPathsValidator(const SamplesTableItem *table)
 void MirelPathsValidator::checkSamplesPaths(CheckRun &run, const QList<SamplesInput::Entry> &samples,
                                             const QSet<BaseItemType> &itemTypes)
 {
-    for (const SamplesInput::Entry &sample : samples)
-        checkSample(run, sample, itemTypes);
+    for (qsizetype row = 0; row < samples.size(); ++row)
+        checkSample(run, samples.at(row), PathRules::placeOf(m_table, samples.at(row), row), itemTypes);
 }
 
 void MirelPathsValidator::checkSample(CheckRun &run, const SamplesInput::Entry &sample,
-                                      const QSet<BaseItemType> &itemTypes)
+                                      const FindingPlace &place, const QSet<BaseItemType> &itemTypes)
 {
-    if (PathRules::reportEmptyPaths(run, m_table, sample) || sample.isMsFileExternal())
+    if (PathRules::reportEmptyPaths(run, sample, place) || sample.isMsFileExternal())
         return;
     if (sample.msFile && !checkExistence(run, sample.msFile)) {
-        run.error(QObject::tr("The sample path of the sample \"%1\" does not exist").arg(sample.name),
-                  PathRules::placeOf(m_table, sample), missingHint(sample.msFile));
+        run.error(QObject::tr("The sample path of the sample \"%1\" does not exist").arg(sample.name), place,
+                  missingHint(sample.msFile));
         return;
     }
-    checkTraces(run, sample);
+    checkTraces(run, sample, place);
     if (!PathRules::isMsFileOrProject(sample.msFile)) {
-        PathRules::reportWrongMsFile(run, m_table, sample);
+        PathRules::reportWrongMsFile(run, sample, place);
         return;
     }
-    for (const ResourceReferenceSPtr &trace : sample.traces) {
-        PathRules::checkTraceType(run, *this, trace, QStringLiteral("MS"), itemTypes,
-                                  PathRules::placeOf(m_table, sample));
-    }
-}
-
-void MirelPathsValidator::checkTraces(CheckRun &run, const SamplesInput::Entry &sample) const
-{
-    for (const ResourceReferenceSPtr &trace : sample.traces) {
-        if (checkExistence(run, trace))
-            continue;
-        run.error(QObject::tr("The traces path of the sample \"%1\" does not exist")
-                      .arg(ResourceReferenceUtils::toString(trace, true)),
-                  PathRules::placeOf(m_table, sample), missingHint(trace));
-    }
+    for (const ResourceReferenceSPtr &trace : sample.traces)
+        PathRules::checkTraceType(run, *this, trace, QStringLiteral("MS"), itemTypes, place);
 }
 
 bool MirelPathsValidator::checkReference(CheckRun &run, const ResourceReferenceSPtr &reference,
@@ -93,11 +91,13 @@ bool MirelPathsValidator::isMsReference(const ResourceReferenceSPtr &reference)
 void MirelPathsValidator::checkDocuments(CheckRun &run, const QList<SamplesInput::Entry> &samples)
 {
     PathRules::DocumentTypes types;
-    for (const SamplesInput::Entry &document : samples) {
-        if (PathRules::reportEmptyDocument(run, m_table, document))
+    for (qsizetype row = 0; row < samples.size(); ++row) {
+        const SamplesInput::Entry &document = samples.at(row);
+        const FindingPlace place = PathRules::placeOf(m_table, document, row);
+        if (PathRules::reportEmptyDocument(run, document, place))
             continue;
-        checkReference(run, document.msFile, PathRules::placeOf(m_table, document));
-        types.add(run, m_table, document);
+        checkReference(run, document.msFile, place);
+        types.add(run, document, place);
     }
     types.finish(run, m_table);
 }

@@ -43,7 +43,9 @@ void MsTracesValidator::check(CheckRun &run) const
     if (content.findAllItems({BaseItemType::Intact, BaseItemType::Dravik}).isEmpty())
         return;
     const TraceSampleIds traced = samplesWithTraces(table->tracesOptions().traces);
-    for (const SamplesInput::Entry &sample : table->content().samples.samples) {
+    const SamplesAndTracesContent imported = table->content();
+    for (qsizetype row = 0; row < imported.samples.samples.size(); ++row) {
+        const SamplesInput::Entry &sample = imported.samples.samples.at(row);
         if (traced.contains(sample.id) ||
             !MsDataFileUtils::hasMsExtension(ResourceReferenceUtils::localName(sample.msFile)))
             continue;
@@ -51,7 +53,7 @@ void MsTracesValidator::check(CheckRun &run) const
             validatorText(
                 "The sample with id \"%1\" has no MS traces selected. Please select at least one MS trace")
                 .arg(sample.id),
-            {table, PropertyId::SamplesTable, sample.name},
+            {table, PropertyId::SamplesTable, sample.name, row},
             validatorText("Import a trace of this sample, or remove the sample."));
     }
 }

@@ -14,17 +14,17 @@
 
 namespace orv::PropertyEditor::PathRules {
 
-FindingPlace placeOf(const SamplesTableItem *table, const SamplesInput::Entry &sample)
+FindingPlace placeOf(const SamplesTableItem *table, const SamplesInput::Entry &sample, qsizetype row)
 {
-    return {table, PropertyId::SamplesTable, sample.name};
+    return {table, PropertyId::SamplesTable, sample.name, row};
 }
 
-bool reportEmptyPaths(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &sample)
+bool reportEmptyPaths(CheckRun &run, const SamplesInput::Entry &sample, const FindingPlace &place)
 {
     if (sample.msFile || !sample.traces.isEmpty())
         return false;
     run.error(QObject::tr("The sample path and traces path of the sample \"%1\" are empty").arg(sample.name),
-              placeOf(table, sample), QObject::tr("Choose the file of this sample, or remove the sample."));
+              place, QObject::tr("Choose the file of this sample, or remove the sample."));
     return true;
 }
 
@@ -42,11 +42,11 @@ bool isMsFileOrProject(const ResourceReferenceSPtr &reference)
     }
 }
 
-void reportWrongMsFile(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &sample)
+void reportWrongMsFile(CheckRun &run, const SamplesInput::Entry &sample, const FindingPlace &place)
 {
     run.error(QObject::tr("The sample path of the sample \"%1\" should be MS file or project file")
                   .arg(sample.name),
-              placeOf(table, sample),
+              place,
               QObject::tr("\"%1\" is neither. Choose mass-spectrometry data, or a project to compare with.")
                   .arg(ResourceReferenceUtils::localName(sample.msFile)));
 }
@@ -78,16 +78,16 @@ void checkTraceType(CheckRun &run, PathsValidatorBase &paths, const ResourceRefe
     }
 }
 
-bool reportEmptyDocument(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &document)
+bool reportEmptyDocument(CheckRun &run, const SamplesInput::Entry &document, const FindingPlace &place)
 {
     if (document.msFile)
         return false;
-    run.error(QObject::tr("The document path with id \"%1\" is empty").arg(document.id),
-              placeOf(table, document), QObject::tr("Choose a document, or remove the row."));
+    run.error(QObject::tr("The document path with id \"%1\" is empty").arg(document.id), place,
+              QObject::tr("Choose a document, or remove the row."));
     return true;
 }
 
-void DocumentTypes::add(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &document)
+void DocumentTypes::add(CheckRun &run, const SamplesInput::Entry &document, const FindingPlace &place)
 {
     const ApplicationType type = FileTypeUtils::appType(document.msFile);
     const auto &supported = MultiDocumentReportConstants::SUPPORTED_APPLICATIONS;
@@ -101,7 +101,7 @@ void DocumentTypes::add(CheckRun &run, const SamplesTableItem *table, const Samp
         QObject::tr("The file path with id \"%1\" is not a correct document type. Allowed files are: %2")
             .arg(document.id)
             .arg(FileExtensionsNameFilter(allowed).fileMasks().join(QLatin1Char(' '))),
-        placeOf(table, document), QObject::tr("Choose the project of an analysis."));
+        place, QObject::tr("Choose the project of an analysis."));
 }
 
 void DocumentTypes::finish(CheckRun &run, const SamplesTableItem *table) const

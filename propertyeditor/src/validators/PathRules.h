@@ -14,15 +14,17 @@ class SamplesTableItem;
 /// Rules that files on a disk and on a server share. Texts are in the context QObject.
 namespace PathRules {
 
-[[nodiscard]] FindingPlace placeOf(const SamplesTableItem *table, const SamplesInput::Entry &sample);
+/// Of the sample that stands in that row of \a table.
+[[nodiscard]] FindingPlace placeOf(const SamplesTableItem *table, const SamplesInput::Entry &sample,
+                                   qsizetype row);
 
 /// Whether the sample has neither an MS file nor traces, which is an error.
-bool reportEmptyPaths(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &sample);
+bool reportEmptyPaths(CheckRun &run, const SamplesInput::Entry &sample, const FindingPlace &place);
 
 /// Whether \a reference is null, an MS file or a project that a sample may refer to.
 [[nodiscard]] bool isMsFileOrProject(const ResourceReferenceSPtr &reference);
 /// The error for one that isn't.
-void reportWrongMsFile(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &sample);
+void reportWrongMsFile(CheckRun &run, const SamplesInput::Entry &sample, const FindingPlace &place);
 
 /// Whether \a trace has a type that the document can take. \a word is what MS files are called there.
 void checkTraceType(CheckRun &run, PathsValidatorBase &paths, const ResourceReferenceSPtr &trace,
@@ -33,7 +35,7 @@ class DocumentTypes
 {
 public:
     /// Reports a document that a report can't be made of.
-    void add(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &document);
+    void add(CheckRun &run, const SamplesInput::Entry &document, const FindingPlace &place);
     /// Reports documents of several types.
     void finish(CheckRun &run, const SamplesTableItem *table) const;
 
@@ -42,7 +44,7 @@ private:
 };
 
 /// Whether the document has no path, which is an error.
-bool reportEmptyDocument(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &document);
+bool reportEmptyDocument(CheckRun &run, const SamplesInput::Entry &document, const FindingPlace &place);
 
 /// What to do about a reference that can't be used.
 [[nodiscard]] QString chooseAnotherHint();

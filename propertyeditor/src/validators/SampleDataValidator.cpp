@@ -25,10 +25,11 @@ void SampleDataValidator::check(CheckRun &run) const
         const auto *table = qobject_cast<const SamplesTableItem *>(item);
         if (!table)
             continue;
-        for (const SamplesInput::Entry &sample : table->samplesInput()) {
-            const Error error = checkSample(sample, run.files());
+        const QList<SamplesInput::Entry> samples = table->samplesInput();
+        for (qsizetype row = 0; row < samples.size(); ++row) {
+            const Error error = checkSample(samples.at(row), run.files());
             if (error) {
-                run.error(error.errorMessage(), {table, PropertyId::SamplesTable, sample.name},
+                run.error(error.errorMessage(), {table, PropertyId::SamplesTable, samples.at(row).name, row},
                           error.details().join(QLatin1Char(' ')));
             }
         }

@@ -43,7 +43,8 @@ bool SampleTypesValidator::checkSamples(CheckRun &run, const QList<SamplesInput:
                                         const SamplesTableItem *table) const
 {
     QSet<msreader::VendorDataFormat> formatsOfAll;
-    for (const SamplesInput::Entry &sample : samples) {
+    for (qsizetype row = 0; row < samples.size(); ++row) {
+        const SamplesInput::Entry &sample = samples.at(row);
         const QSet<msreader::VendorDataFormat> formats = detectPossibleSampleVendorFormats(sample);
         if (formats.isEmpty())
             continue;
@@ -54,7 +55,7 @@ bool SampleTypesValidator::checkSamples(CheckRun &run, const QList<SamplesInput:
         run.error(
             QObject::tr("Multi-vendor projects are not yet supported. Please ensure all samples belong to "
                         "the same vendor."),
-            {table, PropertyId::SamplesTable, sample.name},
+            {table, PropertyId::SamplesTable, sample.name, row},
             QObject::tr("Move this sample and others of its vendor to a workflow of their own."));
         return false;
     }

@@ -3,13 +3,15 @@
 #include "ValidatorHelpers.h"
 #include "ValidatorText.h"
 
-#include <orv/propertyeditor/PropertiesGetter.h>
+#include <orv/propertyeditor/SampleNames.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
 #include <orv/propertyeditor/validators/CheckRun.h>
 #include <orv/resources/FileTypeUtils.h>
 #include <orv/samples/SampleUtils.h>
+
+#include <QHash>
 
 #include <algorithm>
 
@@ -36,13 +38,37 @@ DocumentsOfType &documentsOfType(QList<DocumentsOfType> *groups, BaseItemType ty
     return groups->emplaceBack(DocumentsOfType{type});
 }
 
-bool hasSamples(const KeyValueItem &document, Samples samples)
+/// Which documents have samples. Many say the same of theirs, which is then found out once.
+class ChosenSamples
 {
-    const QStringList patterns = splitSamples(document.value(PropertyId::Samples).toString());
-    if (!patterns.isEmpty())
-        PropertiesGetter::filterOutNotMatchingSamples(patterns, &samples);
-    return !samples.isEmpty();
-}
+public:
+    explicit ChosenSamples(const Samples &samples)
+        : m_names(namesOf(samples))
+    {}
+
+    bool areThere(const KeyValueItem &document)
+    {
+        const QString text = document.value(PropertyId::Samples).toString();
+        const auto known = m_known.constFind(text);
+        if (known != m_known.cend())
+            return *known;
+        const QStringList patterns = splitSamples(text);
+        return *m_known.insert(text, patterns.isEmpty() || m_names.hasMatch(patterns));
+    }
+
+private:
+    static SampleNames namesOf(const Samples &samples)
+    {
+        QStringList names;
+        names.reserve(samples.size());
+        for (const SamplesInput::Entry &sample : samples)
+            names.append(sample.name);
+        return SampleNames(names);
+    }
+
+    const SampleNames m_names;
+    QHash<QString, bool> m_known; ///< by the text that chooses
+};
 
 bool isProjectToCompareWith(const SamplesInput::Entry &sample)
 {
@@ -102,16 +128,17 @@ void SamplesPatternValidator::check(CheckRun &run) const
         return;
     if (samples.size() == 1 && isProjectToCompareWith(samples.constFirst())) {
         run.error(validatorText("Reference sample requires at least one non-reference sample."),
-                  {table, PropertyId::SamplesTable, samples.constFirst().name},
+                  {table, PropertyId::SamplesTable, samples.constFirst().name, 0},
                   validatorText("Add the MS file of a sample that is compared with the project."));
         return;
     }
     QList<DocumentsOfType> groups;
+    ChosenSamples chosen(samples);
     for (const BaseItem *document : documents) {
         DocumentsOfType &group = documentsOfType(&groups, document->type());
         const auto *settings = qobject_cast<const KeyValueItem *>(document);
         if (settings) {
-            (hasSamples(*settings, samples) ? group.withSamples : group.withoutSamples).append(document);
+            (chosen.areThere(*settings) ? group.withSamples : group.withoutSamples).append(document);
             continue;
         }
         run.error(validatorText("Cannot handle a %1 document type").arg(document->typeString()),

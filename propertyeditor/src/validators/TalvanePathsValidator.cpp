@@ -47,20 +47,22 @@ TalvanePathsValidator::TalvanePathsValidator(const SamplesTableItem *table)
 void TalvanePathsValidator::checkSamplesPaths(CheckRun &run, const QList<SamplesInput::Entry> &samples,
                                               const QSet<BaseItemType> &itemTypes)
 {
-    for (const SamplesInput::Entry &sample : samples) {
-        if (PathRules::reportEmptyPaths(run, m_table, sample))
+    for (qsizetype row = 0; row < samples.size(); ++row) {
+        const SamplesInput::Entry &sample = samples.at(row);
+        const FindingPlace place = PathRules::placeOf(m_table, sample, row);
+        if (PathRules::reportEmptyPaths(run, sample, place))
             continue;
-        checkMsFile(run, sample);
-        checkTraces(run, sample, itemTypes);
+        checkMsFile(run, sample, place);
+        checkTraces(run, sample, place, itemTypes);
     }
 }
 
-void TalvanePathsValidator::checkMsFile(CheckRun &run, const SamplesInput::Entry &sample)
+void TalvanePathsValidator::checkMsFile(CheckRun &run, const SamplesInput::Entry &sample,
+                                        const FindingPlace &place)
 {
     const ResourceReferenceSPtr &file = sample.msFile;
     if (!file)
         return;
-    const FindingPlace place = PathRules::placeOf(m_table, sample);
     if (!run.files().isValid(file)) {
         run.error(QObject::tr("The sample path of the sample \"%1\" is invalid").arg(sample.name), place,
                   unknownHint(file));
@@ -87,13 +89,13 @@ void TalvanePathsValidator::checkMsFile(CheckRun &run, const SamplesInput::Entry
     case Scheme::ExternalDataSource:
         if (const QString path = edsReferenceFilePath(file).valueOr(QString());
             !MsDataFileUtils::hasMsExtension(path) && !PepmapTypesChecker::isPepmapFile(path))
-            PathRules::reportWrongMsFile(run, m_table, sample);
+            PathRules::reportWrongMsFile(run, sample, place);
         return;
     case Scheme::LocalFile:
         if (PathRules::isMsFileOrProject(file))
             requireExisting();
         else
-            PathRules::reportWrongMsFile(run, m_table, sample);
+            PathRules::reportWrongMsFile(run, sample, place);
         return;
     case Scheme::ManagedResource:
         requireExisting();
@@ -105,9 +107,8 @@ void TalvanePathsValidator::checkMsFile(CheckRun &run, const SamplesInput::Entry
 }
 
 void TalvanePathsValidator::checkTraces(CheckRun &run, const SamplesInput::Entry &sample,
-                                        const QSet<BaseItemType> &itemTypes)
+                                        const FindingPlace &place, const QSet<BaseItemType> &itemTypes)
 {
-    const FindingPlace place = PathRules::placeOf(m_table, sample);
     for (const ResourceReferenceSPtr &trace : sample.traces) {
         if (!run.files().isValid(trace)) {
             run.error(QObject::tr("The traces path of the sample \"%1\" is invalid").arg(sample.name), place,
@@ -161,9 +162,9 @@ bool TalvanePathsValidator::isMsReference(const ResourceReferenceSPtr &reference
 }
 
 /// Whether a look at the document's type makes sense.
-bool TalvanePathsValidator::checkDocumentReference(CheckRun &run, const SamplesInput::Entry &document)
+bool TalvanePathsValidator::checkDocumentReference(CheckRun &run, const SamplesInput::Entry &document,
+                                                   const FindingPlace &place)
 {
-    const FindingPlace place = PathRules::placeOf(m_table, document);
     if (!checkReference(run, document.msFile, place))
         return false;
     switch (document.msFile->scheme()) {
@@ -181,9 +182,12 @@ bool TalvanePathsValidator::checkDocumentReference(CheckRun &run, const SamplesI
 void TalvanePathsValidator::checkDocuments(CheckRun &run, const QList<SamplesInput::Entry> &samples)
 {
     PathRules::DocumentTypes types;
-    for (const SamplesInput::Entry &document : samples) {
-        if (!PathRules::reportEmptyDocument(run, m_table, document) && checkDocumentReference(run, document))
-            types.add(run, m_table, document);
+    for (qsizetype row = 0; row < samples.size(); ++row) {
+        const SamplesInput::Entry &document = samples.at(row);
+        const FindingPlace place = PathRules::placeOf(m_table, document, row);
+        if (!PathRules::reportEmptyDocument(run, document, place) &&
+            checkDocumentReference(run, document, place))
+            types.add(run, document, place);
     }
     types.finish(run, m_table);
 }

@@ -6,16 +6,21 @@
 #include <orv/propertyeditor/validators/ContentValidator.h>
 #include <orv/propertyeditor/validators/SampleTypesValidator.h>
 #include <orv/propertyeditor/validators/Validators.h>
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
 #include <orv/propertyeditor/workflow/WorkflowPaths.h>
+#include <orv/propertyeditor/workflow/WorkflowUpgrade.h>
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QJsonDocument>
 
 #include <memory>
 
 namespace orv::PropertyEditor {
 
 namespace {
+
+using State = WflwMetaData::WflwState;
 
 struct WorkflowCheckTr
 {
@@ -50,12 +55,53 @@ QList<LocatedFinding> located(const QList<Finding> &findings, const Content &con
     return result;
 }
 
+/// The document that is checked, and what becomes known of it on the way there.
+Result<QJsonObject> upToDate(const QJsonObject &document, const QUrl &baseUrl, WorkflowCheckReport *report)
+{
+    const PropertyEditorContent content(document);
+    report->version = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());
+    report->checkedVersion = report->version;
+    QStringList reasons;
+    const State state = WflwMetaData::checkWorkflowVersion(report->version, &content, &reasons);
+    const bool isNewer = report->version > WflwMetaData::currentWorkflowVersion();
+    if (state == State::UpToDate || isNewer)
+        return document;
+    WorkflowUpgradeReport upgrade =
+        WorkflowUpgrade::run(document, {.accessSampleData = false, .baseUrl = baseUrl});
+    if (upgrade.error)
+        return upgrade.error.ecatch();
+    report->checkedVersion = upgrade.to;
+    report->lost = upgrade.lost;
+    return QJsonDocument::fromJson(upgrade.upgraded).object();
+}
+
 } // namespace
 
 WorkflowCheck::WorkflowCheck(const QStringList &validators)
     : m_isDefault(validators.isEmpty())
     , m_validators(m_isDefault ? Validators::defaultNames() : validators)
 {}
+
+Result<WorkflowCheckReport> WorkflowCheck::run(const WorkflowSource &source, const QUrl &baseUrl) const
+{
+    WorkflowCheckReport known;
+    Result<QJsonObject> document = upToDate(source.document, baseUrl, &known);
+    if (document.hasError())
+        return document.ecatch();
+    LossCollector losses;
+    Content content;
+    content.setLossObserver(&losses);
+    const Error error = content.assignFromJson(*document);
+    content.setLossObserver(nullptr);
+    ORV_RETURN_IF_ERROR(error);
+    Result<WorkflowCheckReport> report = run(content, baseUrl, source);
+    if (report.hasError())
+        return report.ecatch();
+    report->version = known.version;
+    report->checkedVersion = known.checkedVersion;
+    report->lost = known.lost + losses.losses();
+    return report;
+}
 
 Result<WorkflowCheckReport> WorkflowCheck::run(const Content &content, const QUrl &baseUrl,
                                                const WorkflowSource &source) const

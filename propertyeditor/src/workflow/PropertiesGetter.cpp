@@ -1,10 +1,12 @@
 #include "PropertiesGetter_p.h"
+#include "SamplePattern.h"
 
 #include <orv/chemistry/ProteinAutoPopulateOptions.h>
 #include <orv/chemistry/ProteinGenerator.h>
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/AllowedProperties.h>
 #include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/SampleNames.h>
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/content/CellTypes.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
@@ -15,7 +17,6 @@
 #include <orv/table/CustomSettings.h>
 
 #include <QJsonArray>
-#include <QRegExp>
 
 #include <algorithm>
 #include <array>
@@ -82,43 +83,30 @@ QByteArray fastaText(const Molecules &molecules)
     return text;
 }
 
-using Wildcards = QList<QRegExp>;
-
-QRegExp wildcard(const QString &pattern)
+template<typename Entries>
+SampleNames namesOf(const Entries &entries)
 {
-    return QRegExp(pattern, Qt::CaseSensitive, QRegExp::Wildcard);
-}
-
-Wildcards wildcards(const QStringList &patterns)
-{
-    Wildcards expressions;
-    expressions.reserve(patterns.size());
-    for (const QString &pattern : patterns)
-        expressions.append(wildcard(pattern));
-    return expressions;
+    QStringList names;
+    names.reserve(entries.size());
+    for (const SamplesInput::Entry &entry : entries)
+        names.append(entry.name);
+    return SampleNames(names);
 }
 
 template<typename Entries>
 QStringList namesMatching(const Entries &entries, const QStringList &patterns)
 {
-    QStringList names;
-    for (const QRegExp &expression : wildcards(patterns)) {
-        for (const SamplesInput::Entry &entry : entries) {
-            if (expression.exactMatch(entry.name))
-                names.append(entry.name);
-        }
-    }
-    names.removeDuplicates();
-    return names;
+    return namesOf(entries).matching(patterns);
 }
 
+/// As often as they stand there.
 template<typename Entries>
-QStringList namesMatching(const Entries &entries, const QString &pattern)
+QStringList namesMatching(const Entries &entries, const QString &text)
 {
-    const QRegExp expression = wildcard(pattern);
+    SamplePattern pattern(text);
     QStringList names;
     for (const SamplesInput::Entry &entry : entries) {
-        if (expression.exactMatch(entry.name))
+        if (pattern.matches(entry.name))
             names.append(entry.name);
     }
     return names;
@@ -331,12 +319,9 @@ PropertiesGetter::samplesMatchingRegExp(const SamplesInput::SamplesArrayWithCust
 void PropertiesGetter::filterOutNotMatchingSamples(const QStringList &patterns,
                                                    QList<SamplesInput::Entry> *entries)
 {
-    const Wildcards expressions = wildcards(patterns);
-    entries->removeIf([&expressions](const SamplesInput::Entry &entry) {
-        return std::none_of(expressions.begin(), expressions.end(), [&entry](const QRegExp &expression) {
-            return expression.exactMatch(entry.name);
-        });
-    });
+    const QStringList matching = namesMatching(*entries, patterns);
+    const QSet<QString> names(matching.begin(), matching.end());
+    entries->removeIf([&names](const SamplesInput::Entry &entry) { return !names.contains(entry.name); });
 }
 
 } // namespace orv

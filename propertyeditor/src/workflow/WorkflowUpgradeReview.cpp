@@ -59,7 +59,7 @@ WorkflowUpgradeChange changeOf(const WorkflowDifference &difference)
 /// A setting as a whole, of one cell.
 using SettingPlace = std::tuple<QString, QString, std::optional<qsizetype>, QString>;
 
-SettingPlace placeOf(const WorkflowDifference &difference, const QString &property)
+SettingPlace settingPlace(const WorkflowDifference &difference, const QString &property)
 {
     return {difference.tab, difference.column, difference.row, property};
 }
@@ -81,14 +81,14 @@ QHash<qsizetype, qsizetype> renamingsAmong(const QList<WorkflowDifference> &diff
     std::map<SettingPlace, qsizetype> added;
     for (qsizetype i = 0; i < differences.size(); ++i) {
         if (isWholeSetting(differences.at(i), WorkflowDifference::Kind::Added))
-            added.insert({placeOf(differences.at(i), differences.at(i).property), i});
+            added.insert({settingPlace(differences.at(i), differences.at(i).property), i});
     }
     for (qsizetype i = 0; i < differences.size(); ++i) {
         const WorkflowDifference &removed = differences.at(i);
         const auto renaming = std::ranges::find(renamed, removed.property, &WflwUpgradeRenaming::from);
         if (renaming == renamed.end() || !isWholeSetting(removed, WorkflowDifference::Kind::Removed))
             continue;
-        if (const auto other = added.find(placeOf(removed, renaming->to)); other != added.end())
+        if (const auto other = added.find(settingPlace(removed, renaming->to)); other != added.end())
             found.insert(i, other->second);
     }
     return found;

@@ -6,6 +6,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 namespace orv::PropertyEditor {
 
 class BaseItem;
@@ -16,6 +18,8 @@ struct FindingPlace
     const BaseItem *item = nullptr; ///< of the checked content, which must outlive its use
     PropertyId property = PropertyId::NoProperty;
     QString sample; ///< its name
+    /// Of that sample in its table, counted from 0, by which samples of one name are told apart.
+    std::optional<qsizetype> sampleRow = {};
 
     bool operator==(const FindingPlace &) const = default;
 };

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QJsonObject>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -40,8 +41,9 @@ private:
     /// An entry of a cell's "properties".
     struct Entry
     {
-        QString pointer;                 ///< of its value, as far as it has one
-        QHash<QString, QString> samples; ///< pointers by name, to the first of a name
+        QString pointer;                ///< of its value, as far as it has one
+        QStringList samples;            ///< names, row by row
+        QHash<QString, qsizetype> rows; ///< by name, the first of a name
     };
     using Entries = QHash<PropertyId, Entry>;
 
@@ -55,6 +57,7 @@ private:
         std::optional<Entries> entries = {}; ///< read when they are first asked for
     };
 
+    [[nodiscard]] static std::optional<qsizetype> rowOf(const FindingPlace &place, const Entry &entry);
     [[nodiscard]] static Entry entryOf(const QJsonObject &json, const QString &pointer);
     [[nodiscard]] Entries entriesOf(const Cell &cell, const BaseItem &item, const QString &pointer) const;
     [[nodiscard]] QString pointerOf(Cell &cell, const FindingPlace &place) const;

@@ -21,8 +21,8 @@ public:
     bool isMsReference(const ResourceReferenceSPtr &reference) override;
 
 private:
-    void checkSample(CheckRun &run, const SamplesInput::Entry &sample, const QSet<BaseItemType> &itemTypes);
-    void checkTraces(CheckRun &run, const SamplesInput::Entry &sample) const;
+    void checkSample(CheckRun &run, const SamplesInput::Entry &sample, const FindingPlace &place,
+                     const QSet<BaseItemType> &itemTypes);
 
     const SamplesTableItem *m_table;
 };

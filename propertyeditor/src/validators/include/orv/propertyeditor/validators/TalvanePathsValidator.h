@@ -21,9 +21,11 @@ public:
     bool isMsReference(const ResourceReferenceSPtr &reference) override;
 
 private:
-    void checkMsFile(CheckRun &run, const SamplesInput::Entry &sample);
-    void checkTraces(CheckRun &run, const SamplesInput::Entry &sample, const QSet<BaseItemType> &itemTypes);
-    bool checkDocumentReference(CheckRun &run, const SamplesInput::Entry &document);
+    static void checkMsFile(CheckRun &run, const SamplesInput::Entry &sample, const FindingPlace &place);
+    void checkTraces(CheckRun &run, const SamplesInput::Entry &sample, const FindingPlace &place,
+                     const QSet<BaseItemType> &itemTypes);
+    bool checkDocumentReference(CheckRun &run, const SamplesInput::Entry &document,
+                                const FindingPlace &place);
 
     const SamplesTableItem *m_table;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <orv/core/LossObserver.h>
 #include <orv/core/Result.h>
 #include <orv/propertyeditor/validators/Finding.h>
 #include <orv/propertyeditor/validators/FindingPlaces.h>
@@ -10,6 +11,7 @@
 #include <QString>
 #include <QStringList>
 #include <QUrl>
+#include <QVersionNumber>
 
 #include <optional>
 
@@ -39,6 +41,9 @@ struct ORV_WORKFLOW_EXPORT WorkflowSource
 
 struct ORV_WORKFLOW_EXPORT WorkflowCheckReport
 {
+    QVersionNumber version;        ///< that the document tells; null where a loaded tree was checked
+    QVersionNumber checkedVersion; ///< that it was checked in; a later one if it was upgraded for the check
+    QList<Loss> lost;              ///< what the load, and before it the upgrade, dropped
     bool isValid = false;
     QStringList errors;
     QStringList warnings;
@@ -47,7 +52,7 @@ struct ORV_WORKFLOW_EXPORT WorkflowCheckReport
 
 /// Checks workflows as the window does before it uses them: a copy with absolute paths.
 /// \code
-///     const Result<WorkflowCheckReport> report = WorkflowCheck().run(content, folderUrl);
+///     const Result<WorkflowCheckReport> report = WorkflowCheck().run({document, text}, folderUrl);
 /// \endcode
 class ORV_WORKFLOW_EXPORT WorkflowCheck
 {
@@ -59,7 +64,13 @@ public:
     /// Those that run on every workflow, in their order.
     [[nodiscard]] const QStringList &validators() const { return m_validators; }
 
-    /// \a baseUrl is the workflow's folder, with a slash at its end. Fails for a document of which there is
+    /// Loads the document of \a source strictly, so that what can't be opened is told by an Error. An outdated
+    /// one is checked as it would be after its upgrade, which stays in memory and opens no samples' files: what
+    /// is wrong with these the check tells. Places are those of \a source. Fails for an upgrade that does. One
+    /// that is newer than this program is checked as it is.
+    [[nodiscard]] Result<WorkflowCheckReport> run(const WorkflowSource &source, const QUrl &baseUrl) const;
+
+    /// Checks a loaded tree. \a baseUrl is the workflow's folder, with a slash at its end. Fails for a document of which there is
     /// no such copy, and for a name that is no validator's. On the thread of the content.
     [[nodiscard]] Result<WorkflowCheckReport> run(const Content &content, const QUrl &baseUrl,
                                                   const WorkflowSource &source = {}) const;
