@@ -3,7 +3,6 @@
 #include "Failure.h"
 #include "Inputs.h"
 
-#include <orv/core/LossObserver.h>
 #include <orv/propertyeditor/validators/WorkflowCheck.h>
 
 #include <QString>
@@ -16,16 +15,18 @@ namespace orv::cli {
 
 using PropertyEditor::LocatedFinding;
 
-/// What the check of one input has found.
+/// What the check of one input has found; no report where it couldn't run.
 struct CheckAnswer
 {
     QString file;
-    std::optional<bool> isValid = {}; ///< unset where the check couldn't run
-    QStringList errors = {};
-    QStringList warnings = {};
-    QList<LocatedFinding> findings = {};
-    QList<Loss> lost = {};
+    std::optional<PropertyEditor::WorkflowCheckReport> report = {};
     std::optional<Failure> failure = {};
+
+    [[nodiscard]] bool isRefused() const { return report && !report->isValid; }
+    [[nodiscard]] QList<LocatedFinding> findings() const
+    {
+        return report ? report->findings : QList<LocatedFinding>();
+    }
 };
 
 /// How workflows are checked.
@@ -38,7 +39,8 @@ struct CheckOptions
 /// The short names of the validators that a check with these options runs, in their order.
 [[nodiscard]] QStringList validatorsOf(const CheckOptions &options);
 
-/// Checks a workflow as the window does before it is used: a copy with absolute paths.
+/// Checks a workflow as the window does before it is used: upgraded where it is outdated, and as a copy with
+/// absolute paths.
 [[nodiscard]] CheckAnswer checkWorkflow(const BatchInput &input, const CheckOptions &options);
 
 } // namespace orv::cli

@@ -75,7 +75,7 @@ void writeUnreadable(QXmlStreamWriter *xml, const CheckAnswer &answer)
 /// The names of the cases: all that ran, and what else was found.
 QStringList casesOf(const CheckAnswer &answer, QStringList validators)
 {
-    for (const LocatedFinding &finding : answer.findings) {
+    for (const LocatedFinding &finding : answer.findings()) {
         if (!validators.contains(validatorOf(finding)))
             validators.append(validatorOf(finding));
     }
@@ -86,7 +86,7 @@ void writeSuite(QXmlStreamWriter *xml, const CheckAnswer &answer, const QStringL
 {
     QHash<QString, QList<LocatedFinding>> findings;
     QSet<QString> failed;
-    for (const LocatedFinding &finding : answer.findings) {
+    for (const LocatedFinding &finding : answer.findings()) {
         findings[validatorOf(finding)].append(finding);
         if (finding.isError())
             failed.insert(validatorOf(finding));

@@ -73,7 +73,7 @@ QJsonObject checkReportSarif(const CheckAnswers &answers)
     for (const CheckAnswer &answer : answers) {
         if (answer.failure)
             notifications.append(notificationOf(answer));
-        for (const LocatedFinding &finding : answer.findings) {
+        for (const LocatedFinding &finding : answer.findings()) {
             if (!rules.contains(finding.rule))
                 rules.append(finding.rule);
             results.append(resultOf(answer.file, finding, rules.indexOf(finding.rule)));

@@ -37,13 +37,13 @@ QString counted(qsizetype count, const QString &one)
 
 QString heading(const CheckAnswer &answer)
 {
-    const QString verdict = *answer.isValid ? styled(QStringLiteral("valid"), Style::Good)
-                                            : styled(QStringLiteral("not valid"), Style::Bad);
+    const QString verdict = answer.report->isValid ? styled(QStringLiteral("valid"), Style::Good)
+                                                   : styled(QStringLiteral("not valid"), Style::Bad);
     QString text = styled(withoutControls(answer.file), Style::Heading) + QLatin1String(": ") + verdict;
-    if (!answer.errors.isEmpty())
-        text += QLatin1String(", ") + counted(answer.errors.size(), QStringLiteral("error"));
-    if (!answer.warnings.isEmpty())
-        text += QLatin1String(", ") + counted(answer.warnings.size(), QStringLiteral("warning"));
+    if (!answer.report->errors.isEmpty())
+        text += QLatin1String(", ") + counted(answer.report->errors.size(), QStringLiteral("error"));
+    if (!answer.report->warnings.isEmpty())
+        text += QLatin1String(", ") + counted(answer.report->warnings.size(), QStringLiteral("warning"));
     return text + QLatin1Char('\n');
 }
 
@@ -93,26 +93,34 @@ QString placeText(const LocatedFinding &finding)
 QJsonObject checkReportJson(const CheckAnswer &answer)
 {
     QJsonArray findings;
-    for (const LocatedFinding &finding : answer.findings)
+    for (const LocatedFinding &finding : answer.findings())
         findings.append(toJson(finding));
+    const PropertyEditor::WorkflowCheckReport report =
+        answer.report.value_or(PropertyEditor::WorkflowCheckReport());
     return {{QStringLiteral("file"), answer.file},
-            {QStringLiteral("valid"), answer.isValid ? QJsonValue(*answer.isValid) : QJsonValue()},
-            {QStringLiteral("errors"), QJsonArray::fromStringList(answer.errors)},
-            {QStringLiteral("warnings"), QJsonArray::fromStringList(answer.warnings)},
+            {QStringLiteral("valid"), answer.report ? QJsonValue(report.isValid) : QJsonValue()},
+            {QStringLiteral("checkedVersion"), textOrNull(report.checkedVersion.toString())},
+            {QStringLiteral("errors"), QJsonArray::fromStringList(report.errors)},
+            {QStringLiteral("warnings"), QJsonArray::fromStringList(report.warnings)},
             {QStringLiteral("findings"), findings},
-            {QStringLiteral("lost"), orv::cli::toJson(answer.lost)},
+            {QStringLiteral("lost"), orv::cli::toJson(report.lost)},
             {QStringLiteral("error"), errorJson(answer.failure)}};
 }
 
 QString checkReportText(const CheckAnswer &answer)
 {
-    if (!answer.isValid)
+    if (!answer.report)
         return {};
     QString text = heading(answer);
+    if (answer.report->checkedVersion != answer.report->version) {
+        text += QStringLiteral("  checked as it is after its upgrade from %1 to %2\n")
+                    .arg(answer.report->version.toString(), answer.report->checkedVersion.toString());
+    }
+    const QList<LocatedFinding> findings = answer.findings();
     qsizetype placeWidth = 0;
-    for (const LocatedFinding &finding : answer.findings)
+    for (const LocatedFinding &finding : findings)
         placeWidth = std::max(placeWidth, placeAndLine(finding).size());
-    for (const LocatedFinding &finding : answer.findings)
+    for (const LocatedFinding &finding : findings)
         text += findingLines(finding, placeWidth);
     return text;
 }

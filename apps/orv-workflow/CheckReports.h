@@ -12,7 +12,7 @@ namespace orv::cli {
 
 using CheckAnswers = std::vector<CheckAnswer>;
 
-/// {"file", "valid", "errors", "warnings", "findings", "lost", "error"}
+/// {"file", "valid", "checkedVersion", "errors", "warnings", "findings", "lost", "error"}
 [[nodiscard]] QJsonObject checkReportJson(const CheckAnswer &answer);
 /// For people: a heading, and below it the findings in columns. Nothing where the check couldn't run.
 [[nodiscard]] QString checkReportText(const CheckAnswer &answer);

@@ -104,13 +104,15 @@ private:
 
     [[nodiscard]] FileReport report(const CheckAnswer &answer) const
     {
-        FileReport report{.text = {}, .file = answer.file, .lost = answer.lost, .failure = answer.failure};
+        FileReport report{.text = {}, .file = answer.file, .lost = {}, .failure = answer.failure};
+        if (answer.report)
+            report.lost = answer.report->lost;
         report.text = isJson() ? QJsonDocument(checkReportJson(answer)).toJson()
                                : checkReportText(answer).toLocal8Bit();
-        report.verdict = !answer.isValid   ? QStringLiteral("not checked")
-                         : *answer.isValid ? QStringLiteral("valid")
-                                           : QStringLiteral("not valid");
-        report.exitCode = answer.isValid == false ? Negative : Done;
+        report.verdict = !answer.report       ? QStringLiteral("not checked")
+                         : answer.isRefused() ? QStringLiteral("not valid")
+                                              : QStringLiteral("valid");
+        report.exitCode = answer.isRefused() ? Negative : Done;
         return report;
     }
 

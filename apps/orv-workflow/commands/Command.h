@@ -60,6 +60,7 @@ std::unique_ptr<Command> createNewCommand();
 std::unique_ptr<Command> createPortableCommand();
 std::unique_ptr<Command> createPropertiesCommand();
 std::unique_ptr<Command> createReferencesCommand();
+std::unique_ptr<Command> createRelinkCommand();
 std::unique_ptr<Command> createSamplesCommand();
 std::unique_ptr<Command> createSchemaCommand();
 std::unique_ptr<Command> createSetCommand();
