@@ -62,6 +62,9 @@ QString checkRefusedJson(const QByteArray &bytes, const Error &error)
         error.details().size() < 2)
         return u"a refusal needs its code, a message, the place and a remedy"_s;
     const QJsonDocument document = QJsonDocument::fromJson(bytes);
+    const std::optional<JsonFault> fault = document.isNull() ? std::nullopt : findJsonFault(bytes);
+    if (fault && fault->kind == JsonFault::Kind::IllegalEscape)
+        return {};
     if (!document.isNull() && countMembers(rootOf(document)) == countMembersInText(bytes))
         return u"refused, though a plain parse keeps all members"_s;
     return {};
@@ -145,9 +148,10 @@ QString checkObjectFormWith(const QJsonObject &document, PropertyEditor::Validat
 
 QString checkJson(const QByteArray &bytes)
 {
-    if (const std::optional<DuplicateKey> duplicate = findDuplicateKey(bytes)) {
-        if (duplicate->offset < 0 || duplicate->offset >= bytes.size() || bytes[duplicate->offset] != '"')
-            return u"a repeated key doesn't begin where it is said to"_s;
+    if (const std::optional<JsonFault> fault = findJsonFault(bytes)) {
+        const char begin = fault->kind == JsonFault::Kind::IllegalEscape ? '\\' : '"';
+        if (fault->offset < 0 || fault->offset >= bytes.size() || bytes[fault->offset] != begin)
+            return u"a fault doesn't begin where it is said to"_s;
     }
     const Result<QJsonDocument> document = JsonUtils::documentFromJson(bytes);
     if (losesMarks(bytes))

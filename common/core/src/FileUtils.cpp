@@ -155,6 +155,18 @@ Error openRegular(const QString &path, QFile *file)
 
 } // namespace
 
+Error checkReadable(QByteArrayView bytes, qint64 maxSize)
+{
+    if (bytes.size() <= maxSize)
+        return Error::NoError;
+    const QLocale locale = QLocale::c();
+    return Error(ErrorCode::InvalidContent,
+                 FileUtilsTr::tr(
+                     "What is to be written is too large to be read again (%1, at most %2 are read)")
+                     .arg(locale.formattedDataSize(bytes.size()), locale.formattedDataSize(maxSize)))
+        .addDetail(FileUtilsTr::tr("Nothing was written. Remove what isn't needed, or divide it."));
+}
+
 Result<QByteArray> readBeginning(const QString &path, qint64 count)
 {
     QFile file;

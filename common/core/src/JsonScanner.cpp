@@ -60,14 +60,23 @@ constexpr std::array<bool, 256> structuralBytes()
 /// Most of a written document is white space, colons and numbers, none of which matters here.
 constexpr std::array<bool, 256> kStructural = structuralBytes();
 
+/// The escapes of a string.
+struct Escapes
+{
+    bool any = false;
+    const char *illegal = nullptr; ///< the backslash of the first that JSON doesn't know
+};
+
 /// The quotation mark that ends the string at \a p, or \a end.
-const char *endOfString(const char *p, const char *end, bool *escaped)
+const char *endOfString(const char *p, const char *end, Escapes *escapes)
 {
     for (; p != end && *p != '"'; ++p) {
         if (*p == '\\') {
-            *escaped = true;
+            escapes->any = true;
             if (++p == end)
                 return end;
+            if (!escapes->illegal && (*p == '\0' || !std::strchr("\"\\/bfnrtu", *p)))
+                escapes->illegal = p - 1;
         }
     }
     return p;
@@ -90,7 +99,7 @@ public:
         , m_end(json.data() + json.size())
     {}
 
-    std::optional<DuplicateKey> run()
+    std::optional<JsonFault> run()
     {
         const char *p = m_begin;
         while (true) {
@@ -101,10 +110,13 @@ public:
             const char c = *p++;
             if (c == '"') {
                 const char *const start = p;
-                bool escaped = false;
-                p = endOfString(start, m_end, &escaped);
-                if (m_keyExpected && !insertKey(start, p, escaped))
-                    return DuplicateKey{keyText(start, p, escaped), start - 1 - m_begin};
+                Escapes escapes;
+                p = endOfString(start, m_end, &escapes);
+                if (escapes.illegal)
+                    return illegalEscape(escapes.illegal);
+                if (m_keyExpected && !insertKey(start, p, escapes.any))
+                    return JsonFault{JsonFault::Kind::DuplicateKey, keyText(start, p, escapes.any),
+                                     start - 1 - m_begin};
                 m_keyExpected = false;
                 p += p != m_end;
             } else {
@@ -121,6 +133,17 @@ private:
         size_t firstKey;
         std::unique_ptr<QSet<QByteArrayView>> index = {}; ///< only for objects of many keys
     };
+
+    /// The backslash and the whole character behind it, which may have several bytes.
+    [[nodiscard]] JsonFault illegalEscape(const char *backslash) const
+    {
+        constexpr qsizetype kLongestCharacter = 4;
+        const QByteArrayView rest(backslash + 1,
+                                  std::min<qsizetype>(kLongestCharacter, m_end - backslash - 1));
+        QString character = QString::fromUtf8(rest);
+        character.truncate(character.isEmpty() || !character.at(0).isHighSurrogate() ? 1 : 2);
+        return {JsonFault::Kind::IllegalEscape, QLatin1Char('\\') + character, backslash - m_begin};
+    }
 
     void handle(char c)
     {
@@ -307,11 +330,11 @@ private:
     void readString()
     {
         const char *const start = m_position;
-        bool escaped = false;
-        const char *const end = endOfString(start, m_end, &escaped);
+        Escapes escapes;
+        const char *const end = endOfString(start, m_end, &escapes);
         if (m_keyExpected) {
             const Wanted *container = m_levels.back().wanted;
-            m_next = container ? container->member(keyText(start, end, escaped)) : nullptr;
+            m_next = container ? container->member(keyText(start, end, escapes.any)) : nullptr;
             m_keyExpected = false;
         } else {
             noteValue();
@@ -340,7 +363,7 @@ private:
 
 } // namespace
 
-std::optional<DuplicateKey> findDuplicateKey(QByteArrayView json)
+std::optional<JsonFault> findJsonFault(QByteArrayView json)
 {
     return Scanner(json).run();
 }

@@ -52,6 +52,38 @@ QString remedyFor(QJsonParseError::ParseError error, const QByteArray &json)
     }
 }
 
+struct FaultWords
+{
+    QString message; ///< %1 is the key or the escape
+    QString remedy;
+};
+
+FaultWords wordsFor(JsonFault::Kind kind)
+{
+    switch (kind) {
+    case JsonFault::Kind::DuplicateKey:
+        return {JsonUtilsTr::tr("the key \"%1\" stands twice in one object"),
+                JsonUtilsTr::tr("Only one of the two values could be kept; remove the wrong one.")};
+    case JsonFault::Kind::IllegalEscape:
+        return {JsonUtilsTr::tr("the escape %1 is none that JSON knows"),
+                JsonUtilsTr::tr("The backslash would be lost; to mean one, write \\\\. Look at the other "
+                                "backslashes too: \\t, \\n and the like are read as control characters.")};
+    }
+    Q_UNREACHABLE();
+}
+
+Result<QJsonDocument> parsed(const QByteArray &json)
+{
+    QJsonParseError parseError;
+    QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
+    if (parseError.error == QJsonParseError::NoError && !document.isNull())
+        return document;
+    Error error(ErrorCode::InvalidContent, parseError.errorString());
+    error.addDetail(placeText(json, parseError.offset));
+    error.addDetail(remedyFor(parseError.error, json));
+    return error;
+}
+
 template<typename T>
 Result<T> typedValue(const QJsonObject &object, const QString &key, QJsonValue::Type type,
                      T (*convert)(const QJsonValue &))
@@ -79,34 +111,44 @@ TextPosition positionOfOffset(QByteArrayView json, qsizetype offset)
     return position;
 }
 
+Error faultOf(const QByteArray &json)
+{
+    const std::optional<JsonFault> fault = findJsonFault(json);
+    if (!fault)
+        return Error::NoError;
+    const FaultWords words = wordsFor(fault->kind);
+    Error error(ErrorCode::InvalidContent, words.message.arg(fault->text));
+    error.addDetail(placeText(json, fault->offset));
+    error.addDetail(words.remedy);
+    return error;
+}
+
 Result<QJsonDocument> documentFromJson(const QByteArray &json)
 {
-    QJsonParseError parseError;
-    QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
-    if (parseError.error != QJsonParseError::NoError || document.isNull()) {
-        Error error(ErrorCode::InvalidContent, parseError.errorString());
-        error.addDetail(placeText(json, parseError.offset));
-        error.addDetail(remedyFor(parseError.error, json));
-        return error;
-    }
-    if (const std::optional<DuplicateKey> duplicate = findDuplicateKey(json)) {
-        Error error(ErrorCode::InvalidContent,
-                    JsonUtilsTr::tr("the key \"%1\" stands twice in one object").arg(duplicate->key));
-        error.addDetail(placeText(json, duplicate->offset));
-        error.addDetail(JsonUtilsTr::tr("Only one of the two values could be kept; remove the wrong one."));
-        return error;
-    }
+    Result<QJsonDocument> document = parsed(json);
+    if (document.hasError())
+        return document.ecatch();
+    ORV_RETURN_IF_ERROR(faultOf(json));
     return document;
 }
 
 Result<QJsonObject> objectFromJson(const QByteArray &json)
 {
-    Result<QJsonDocument> document = documentFromJson(json);
+    Result<DoubtfulObject> doubtful = doubtfulObjectFromJson(json);
+    if (doubtful.hasError())
+        return doubtful.ecatch();
+    ORV_RETURN_IF_ERROR(doubtful->fault);
+    return doubtful->object;
+}
+
+Result<DoubtfulObject> doubtfulObjectFromJson(const QByteArray &json)
+{
+    Result<QJsonDocument> document = parsed(json);
     if (document.hasError())
         return document.ecatch();
     if (!document->isObject())
         return Error(ErrorCode::InvalidContent, JsonUtilsTr::tr("The JSON document is not an object."));
-    return document->object();
+    return DoubtfulObject{document->object(), faultOf(json)};
 }
 
 Result<QJsonObject> objectValue(const QJsonObject &object, const QString &key)

@@ -94,6 +94,17 @@ QByteArray WflwMetaData::metaDataString(const KProperty &property)
     return JsonUtils::toCompactJson(stamped(object, {}));
 }
 
+Error WflwMetaData::faultInText(const QString &text)
+{
+    const QByteArray json = text.toUtf8();
+    if (QJsonDocument::fromJson(json).isNull())
+        return Error::NoError;
+    Error fault = JsonUtils::faultOf(json);
+    if (!fault)
+        return Error::NoError;
+    return fault.addDetail(tr("It stands within the text \"%1\".").arg(META_IN_JSON_KEY)).ecatch();
+}
+
 void WflwMetaData::setPresetMetaData(KPropertySet *set)
 {
     const QByteArray name(META_KEY.data(), META_KEY.size());

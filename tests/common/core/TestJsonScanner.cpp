@@ -27,6 +27,9 @@ private Q_SLOTS:
     void keysThatDifferPass();
     void aRepeatedKeyIsFoundWhereItStandsAgain_data();
     void aRepeatedKeyIsFoundWhereItStandsAgain();
+    void anUnknownEscapeIsFoundWhereItStands_data();
+    void anUnknownEscapeIsFoundWhereItStands();
+    void legalEscapesPass();
     void anyTextIsSurvived_data();
     void anyTextIsSurvived();
     void manyKeysTakeNoLongerThanTheirNumber();
@@ -62,8 +65,8 @@ void TestJsonScanner::keysThatDifferPass_data()
 void TestJsonScanner::keysThatDifferPass()
 {
     QFETCH(QByteArray, json);
-    const std::optional<DuplicateKey> duplicate = findDuplicateKey(json);
-    QVERIFY2(!duplicate, duplicate ? qPrintable(duplicate->key) : "");
+    const std::optional<JsonFault> duplicate = findJsonFault(json);
+    QVERIFY2(!duplicate, duplicate ? qPrintable(duplicate->text) : "");
 }
 
 void TestJsonScanner::aRepeatedKeyIsFoundWhereItStandsAgain_data()
@@ -98,11 +101,44 @@ void TestJsonScanner::aRepeatedKeyIsFoundWhereItStandsAgain_data()
 void TestJsonScanner::aRepeatedKeyIsFoundWhereItStandsAgain()
 {
     QFETCH(QByteArray, json);
-    const std::optional<DuplicateKey> duplicate = findDuplicateKey(json);
+    const std::optional<JsonFault> duplicate = findJsonFault(json);
     QVERIFY(duplicate.has_value());
-    QTEST(duplicate->key, "key");
+    QTEST(duplicate->text, "key");
     QCOMPARE(json.at(duplicate->offset), '"');
-    QVERIFY(!findDuplicateKey(json.left(duplicate->offset)));
+    QVERIFY(!findJsonFault(json.left(duplicate->offset)));
+}
+
+void TestJsonScanner::anUnknownEscapeIsFoundWhereItStands_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("escape");
+    QTest::addColumn<int>("offset");
+
+    QTest::newRow("a path typed by hand") << R"({"file":"D:\Data\run1.mzML"})"_ba << u"\\D"_s << 11;
+    QTest::newRow("in a key") << R"({"a\x":1})"_ba << u"\\x"_s << 3;
+    QTest::newRow("behind legal ones") << R"(["\n\t","\\\\","\q"])"_ba << u"\\q"_s << 16;
+    QTest::newRow("upper case U") << "[\"\\U0041\"]"_ba << u"\\U"_s << 2;
+    QTest::newRow("apostrophe") << "[\"it\\'s\"]"_ba << u"\\'"_s << 4;
+    QTest::newRow("a character of two bytes") << "[\"\\\xC3\xA4\"]"_ba << u"\\\u00e4"_s << 2;
+    QTest::newRow("a character of four bytes") << "[\"\\\xF0\x9F\xA7\xAA\"]"_ba << u"\\\U0001F9EA"_s << 2;
+    QTest::newRow("a zero byte") << QByteArray("[\"\\\0\"]", 6) << u"\\"_s + QChar(u'\0') << 2;
+    QTest::newRow("before a key that stands twice") << "{\"a\":\"\\D\",\"a\":1}"_ba << u"\\D"_s << 6;
+}
+
+void TestJsonScanner::anUnknownEscapeIsFoundWhereItStands()
+{
+    QFETCH(QByteArray, json);
+    QFETCH(QString, escape);
+    QFETCH(int, offset);
+    const std::optional<JsonFault> fault = findJsonFault(json);
+    QVERIFY(fault.has_value());
+    QCOMPARE(*fault, (JsonFault{JsonFault::Kind::IllegalEscape, escape, offset}));
+}
+
+void TestJsonScanner::legalEscapesPass()
+{
+    const QByteArray json = "[\"\\\"\\\\\\/\\b\\f\\n\\r\\t\\u00e4\\u00E4\", \"D:\\\\Data\"]";
+    QVERIFY(!findJsonFault(json));
 }
 
 void TestJsonScanner::anyTextIsSurvived_data()
@@ -122,7 +158,7 @@ void TestJsonScanner::anyTextIsSurvived_data()
 void TestJsonScanner::anyTextIsSurvived()
 {
     QFETCH(QByteArray, json);
-    const std::optional<DuplicateKey> duplicate = findDuplicateKey(json);
+    const std::optional<JsonFault> duplicate = findJsonFault(json);
     QVERIFY(!duplicate || duplicate->offset < json.size());
     QVERIFY(linesOfPointers(json, {u"/a/0/a"_s, u"/nothing"_s}).size() <= 1);
 }
@@ -130,7 +166,7 @@ void TestJsonScanner::anyTextIsSurvived()
 void TestJsonScanner::manyKeysTakeNoLongerThanTheirNumber()
 {
     // Compared by pairs, this would be 20,000,000,000 comparisons, and run into the time limit of the test.
-    QVERIFY(!findDuplicateKey(objectWithKeys(200000, "last")));
+    QVERIFY(!findJsonFault(objectWithKeys(200000, "last")));
 }
 
 void TestJsonScanner::pointersHaveLines_data()

@@ -22,6 +22,9 @@ private Q_SLOTS:
     void nestingIsBounded();
     void aHundredThousandOpenArraysNeitherCrashNorHang();
     void duplicateKeysAreRefusedWithTheirPlace();
+    void anUnknownEscapeIsRefusedWithItsPlaceAndTheRemedy();
+    void whatCannotBeTrustedIsReadOnRequest_data();
+    void whatCannotBeTrustedIsReadOnRequest();
     void anObjectIsWantedAtTheRoot_data();
     void anObjectIsWantedAtTheRoot();
     void membersOfTheWantedTypeAreGiven();
@@ -192,6 +195,39 @@ void TestJsonUtils::duplicateKeysAreRefusedWithTheirPlace()
     QCOMPARE(document.error().code(), ErrorCode::InvalidContent);
     QVERIFY(document.error().errorMessage().contains(u"\"tabs\""_s));
     QCOMPARE(document.error().details().first(), u"Line 3, column 3."_s);
+}
+
+void TestJsonUtils::anUnknownEscapeIsRefusedWithItsPlaceAndTheRemedy()
+{
+    const Result<QJsonObject> object = JsonUtils::objectFromJson("{\n  \"file\": \"D:\\Data\\run1.mzML\"\n}");
+    QVERIFY(object.hasError());
+    QCOMPARE(object.error().code(), ErrorCode::InvalidContent);
+    QCOMPARE(object.error().errorMessage(), u"the escape \\D is none that JSON knows"_s);
+    QCOMPARE(object.error().details().first(), u"Line 2, column 14."_s);
+    QVERIFY(object.error().details().last().contains(u"write \\\\"_s));
+}
+
+void TestJsonUtils::whatCannotBeTrustedIsReadOnRequest_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("fault");
+    QTest::addColumn<QString>("value");
+
+    QTest::newRow("sound") << R"({"a":"x"})"_ba << QString() << u"x"_s;
+    QTest::newRow("a key twice") << R"({"a":"x","a":"y"})"_ba << u"the key \"a\" stands twice in one object"_s
+                                 << u"y"_s;
+    QTest::newRow("an unknown escape")
+        << R"({"a":"\x"})"_ba << u"the escape \\x is none that JSON knows"_s << u"x"_s;
+}
+
+void TestJsonUtils::whatCannotBeTrustedIsReadOnRequest()
+{
+    QFETCH(QByteArray, json);
+    const Result<JsonUtils::DoubtfulObject> read = JsonUtils::doubtfulObjectFromJson(json);
+    ORV_VERIFY_OK(read);
+    QTEST(read->fault.errorMessage(), "fault");
+    QTEST(read->object.value("a"_L1).toString(), "value");
+    QCOMPARE(JsonUtils::objectFromJson(json).hasError(), read->fault.hasError());
 }
 
 void TestJsonUtils::anObjectIsWantedAtTheRoot_data()

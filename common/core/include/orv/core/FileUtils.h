@@ -4,6 +4,7 @@
 #include <orv/core/Result.h>
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QFileDevice>
 #include <QString>
 
@@ -22,6 +23,9 @@ inline constexpr qint64 kMaxFileSize = qint64(128) * 1024 * 1024;
 /// InvalidContent for a file larger than \a maxSize. Details name the reason and the remedy.
 [[nodiscard]] ORV_WORKFLOW_EXPORT Result<QByteArray> readFile(const QString &path,
                                                               qint64 maxSize = kMaxFileSize);
+
+/// InvalidContent for bytes that readFile would refuse as too many, before they are written.
+[[nodiscard]] ORV_WORKFLOW_EXPORT Error checkReadable(QByteArrayView bytes, qint64 maxSize = kMaxFileSize);
 
 /// The first \a count bytes of a regular file, all of them if it has fewer. Fails as readFile does for what
 /// can't be opened.

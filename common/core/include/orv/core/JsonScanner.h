@@ -11,18 +11,26 @@
 
 namespace orv {
 
-/// A key that stands twice in one object of a JSON text.
-struct DuplicateKey
+/// What QJsonDocument reads without a word, and as something else than was meant.
+struct JsonFault
 {
-    QString key;
-    qsizetype offset = 0; ///< byte offset of the second occurrence
+    enum class Kind
+    {
+        DuplicateKey, ///< a key that stands twice in one object: only one of the values would be kept
+        IllegalEscape ///< a backslash before a character that JSON doesn't escape: it would vanish
+    };
+
+    Kind kind = Kind::DuplicateKey;
+    QString text;         ///< the key, or the escape, backslash included
+    qsizetype offset = 0; ///< in bytes: of the key's second occurrence, or of the backslash
+
+    bool operator==(const JsonFault &) const = default;
 };
 
-/// Finds the first key that stands twice in one object of \a json, which must be well-formed JSON. Parsers
-/// silently keep one of the two, so a document would lose the other. Linear in time; memory grows with the
-/// keys of the objects that are open at one place. Byte order marks at the beginning of a key don't count, as
+/// The first fault of \a json, which QJsonDocument must have read. Linear in time; memory grows with the keys
+/// of the objects that are open at one place. Byte order marks at the beginning of a key don't count, as
 /// QJsonDocument drops them.
-[[nodiscard]] ORV_WORKFLOW_EXPORT std::optional<DuplicateKey> findDuplicateKey(QByteArrayView json);
+[[nodiscard]] ORV_WORKFLOW_EXPORT std::optional<JsonFault> findJsonFault(QByteArrayView json);
 
 /// The lines, counted from 1, on which the values begin that \a pointers (RFC 6901) name in \a json, which
 /// must be well-formed JSON. Pointers to nothing are absent. One walk over the text, however many there are.

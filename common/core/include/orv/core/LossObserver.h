@@ -2,6 +2,7 @@
 
 #include <orv/core/Export.h>
 
+#include <QJsonValue>
 #include <QList>
 #include <QString>
 
@@ -13,6 +14,11 @@ struct Loss
     QString path; ///< JSON pointer into the document, such as "/tabs/0/cells/2/extra"
     QString what;
     QString why;
+    /// Where a value isn't dropped but reads as another: the two. Undefined otherwise.
+    QJsonValue stored = QJsonValue::Undefined;
+    QJsonValue read = QJsonValue::Undefined;
+
+    [[nodiscard]] bool isChange() const { return !read.isUndefined(); }
 
     bool operator==(const Loss &) const = default;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <orv/core/Error.h>
 #include <orv/core/Export.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/workflow/WorkflowType.h>
@@ -87,6 +88,11 @@ public:
     /// The stamp of the object in a property's value, as compact JSON; other keys stay. A null property, or a
     /// value that is no JSON object, gives a fresh stamp. The stamp is that of the current user.
     [[nodiscard]] static QByteArray metaDataString(const KProperty &property);
+
+    /// What a "metadata" text, of the document or of a cell, would lose when it is read: a key that stands
+    /// twice, or an escape that JSON doesn't know. A success for any other text, one that is no JSON
+    /// included.
+    [[nodiscard]] static Error faultInText(const QString &text);
 
     /// Makes sure that \a set has its ":metadata" property, invisible and in the group "common", and restamps
     /// it. \a set must not be null and owns the property.
