@@ -3,6 +3,7 @@
 #include "internal/RowNodeObject.h"
 #include "internal/RowNodeReader.h"
 #include "internal/RowNodeWriter.h"
+#include "internal/Writable.h"
 
 namespace orv::rn {
 
@@ -31,6 +32,16 @@ QByteArray serialize(const RowNode *node, bool *ok)
     const bool written = node && writer.write(*node);
     setOk(ok, written);
     return written ? writer.takeText() : QByteArray();
+}
+
+bool canSerialize(const QVariant &entry)
+{
+    return Internal::isWritable(entry, Internal::kLevelsOfRowEntries);
+}
+
+bool canSerialize(const RowNode &node)
+{
+    return Internal::isWritable(node, kMaxNesting);
 }
 
 bool fromObject(const QJsonObject &object, RowNode *node)

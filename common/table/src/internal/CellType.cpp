@@ -2,6 +2,11 @@
 
 #include "CellPayloads.h"
 
+#include <orv/table/rn.h>
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -95,7 +100,7 @@ CellForm cellFormOf(const QVariant &value)
     case QMetaType::QVariantMap:
         return isPlainMap(*static_cast<const QVariantMap *>(data)) ? CellForm::Map : CellForm::Typed;
     default:
-        return CellForm::Typed;
+        return value.metaType() == QMetaType::fromType<rn::UnreadCell>() ? CellForm::Unread : CellForm::Typed;
     }
 }
 
@@ -112,6 +117,17 @@ const CellType *cellTypeNamed(QStringView name)
     const auto *const it = std::find_if(kCellTypes.begin(), kCellTypes.end(),
                                         [name](const CellType &type) { return type.name == name; });
     return it == kCellTypes.end() ? nullptr : it;
+}
+
+QVariant unreadCell(const QString &name, const QJsonValue &payload)
+{
+    static const bool converterRegistered =
+        QMetaType::registerConverter<rn::UnreadCell, QString>([](const rn::UnreadCell &cell) {
+            return QString::fromUtf8(
+                QJsonDocument(QJsonObject{{cell.type, cell.payload}}).toJson(QJsonDocument::Compact));
+        });
+    Q_UNUSED(converterRegistered)
+    return QVariant::fromValue(rn::UnreadCell{name, payload});
 }
 
 QVariant integerCell(qint64 number)

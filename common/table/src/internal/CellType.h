@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonValue>
 #include <QLatin1String>
 #include <QVariant>
 
@@ -15,7 +16,8 @@ enum class CellForm
     Text,
     List,
     Map,
-    Typed, ///< as payload of the type that cellTypeOf tells
+    Unread, ///< rn::UnreadCell
+    Typed,  ///< as payload of the type that cellTypeOf tells
 };
 
 /// A type whose values plain JSON can't tell from others: {"NAME": PAYLOAD}, where the payload is a value of
@@ -34,6 +36,18 @@ struct CellType
 /// Null when values of this type can't be written, or no type has that name.
 [[nodiscard]] const CellType *cellTypeOf(const QVariant &value);
 [[nodiscard]] const CellType *cellTypeNamed(QStringView name);
+
+[[nodiscard]] QVariant unreadCell(const QString &name, const QJsonValue &payload);
+
+/// The value of {"NAME": PAYLOAD}; an rn::UnreadCell where the type isn't known or has no such payload. \a
+/// json gives the payload as it stands.
+template<typename Json>
+[[nodiscard]] QVariant cellOfType(const QString &name, const QVariant &payload, Json json)
+{
+    QVariant value;
+    const CellType *type = cellTypeNamed(name);
+    return type && type->fromPayload(payload, &value) ? value : unreadCell(name, json());
+}
 
 /// Whether an object's first key may be that of a type.
 [[nodiscard]] inline bool isTypeName(QStringView key)

@@ -26,6 +26,7 @@ public:
     explicit JsonCursor(QByteArrayView json);
 
     [[nodiscard]] bool atEnd() const { return m_at == m_end; }
+    [[nodiscard]] const char *position() const { return m_at; }
     void skipBlanks();
     /// The next byte behind blanks, which stays; 0 at the end.
     [[nodiscard]] char peek();

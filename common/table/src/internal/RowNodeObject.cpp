@@ -2,6 +2,7 @@
 
 #include "CellType.h"
 #include "NodeKeys.h"
+#include "Writable.h"
 
 #include <orv/table/rn.h>
 
@@ -36,11 +37,10 @@ bool objectCell(const QJsonObject &object, int levels, QVariant *cell)
         if (!cellFromJson(it.value(), levels - 1, &map[it.key()]))
             return false;
     }
-    if (map.size() == 1 && isTypeName(map.firstKey())) {
-        const CellType *type = cellTypeNamed(map.firstKey());
-        return type && type->fromPayload(map.first(), cell);
-    }
-    *cell = map;
+    if (map.size() == 1 && isTypeName(map.firstKey()))
+        *cell = cellOfType(map.firstKey(), map.first(), [&object] { return object.begin().value(); });
+    else
+        *cell = map;
     return true;
 }
 
@@ -161,6 +161,11 @@ bool cellToJson(const QVariant &cell, int levels, QJsonValue *json)
     }
     case CellForm::Map:
         return mapToJson(cell.toMap(), levels, json);
+    case CellForm::Unread: {
+        const auto *const unread = static_cast<const rn::UnreadCell *>(cell.constData());
+        *json = QJsonObject{{unread->type, unread->payload}};
+        return isWritable(cell, levels);
+    }
     case CellForm::Typed:
         break;
     }

@@ -5,6 +5,9 @@
 
 #include <orv/table/rn.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
+
 namespace orv::Internal {
 
 // The functions below call each other as deep as the text nests; enter() bounds that.
@@ -159,11 +162,17 @@ bool RowNodeReader::readObject()
     if (!enter() || !m_cursor.take('{'))
         return false;
     QVariantMap map;
+    const char *payload = nullptr;
+    const char *payloadEnd = nullptr;
     if (!m_cursor.take('}')) {
         do {
             QString key;
-            if (!readKey(&key) || map.contains(key) || !readCell())
+            if (!readKey(&key) || map.contains(key))
                 return false;
+            payload = m_cursor.position();
+            if (!readCell())
+                return false;
+            payloadEnd = m_cursor.position();
             map.insert(key, m_stack.back());
             m_stack.pop_back();
         } while (m_cursor.take(','));
@@ -173,9 +182,10 @@ bool RowNodeReader::readObject()
     leave();
     if (map.size() != 1 || !isTypeName(map.firstKey()))
         return push(map);
-    QVariant value;
-    const CellType *type = cellTypeNamed(map.firstKey());
-    return type && type->fromPayload(map.first(), &value) && push(std::move(value));
+    return push(cellOfType(map.firstKey(), map.first(), [payload, payloadEnd] {
+        const QByteArray array = '[' + QByteArray(payload, payloadEnd - payload) + ']';
+        return QJsonDocument::fromJson(array).array().at(0);
+    }));
 }
 
 bool RowNodeReader::skipValue()

@@ -2,8 +2,9 @@
 
 #include "CellType.h"
 #include "NodeKeys.h"
+#include "Writable.h"
 
-#include <orv/table/rn.h>
+#include <QJsonDocument>
 
 #include <array>
 #include <charconv>
@@ -88,10 +89,19 @@ bool RowNodeWriter::writeCell(const QVariant &value)
                           [this](const QVariant &item) { return writeCell(item); });
     case CellForm::Map:
         return writeMap(*static_cast<const QVariantMap *>(data));
+    case CellForm::Unread:
+        return writeUnread(*static_cast<const rn::UnreadCell *>(data),
+                           isWritable(value, rn::kMaxNesting - m_depth));
     case CellForm::Typed:
         break;
     }
     return writeTyped(value);
+}
+
+bool RowNodeWriter::writeUnread(const rn::UnreadCell &cell, bool fits)
+{
+    m_text.append(QJsonDocument(QJsonObject{{cell.type, cell.payload}}).toJson(QJsonDocument::Compact));
+    return fits;
 }
 
 bool RowNodeWriter::writeMap(const QVariantMap &map)

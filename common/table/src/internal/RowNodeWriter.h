@@ -1,6 +1,7 @@
 #pragma once
 
 #include <orv/table/RowNode.h>
+#include <orv/table/rn.h>
 
 #include <QByteArray>
 
@@ -20,6 +21,7 @@ private:
     [[nodiscard]] bool writeArray(const List &list, WriteItem writeItem);
     [[nodiscard]] bool writeCell(const QVariant &value);
     [[nodiscard]] bool writeMap(const QVariantMap &map);
+    [[nodiscard]] bool writeUnread(const rn::UnreadCell &cell, bool fits);
     [[nodiscard]] bool writeTyped(const QVariant &value);
     void writeText(QStringView text);
     template<typename Number>
