@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QString>
 
+#include <optional>
+
 namespace orv {
 
 /// Holder that makes the enumeration known to the meta-object system.
@@ -47,6 +49,9 @@ public:
 };
 
 using BaseItemType = ORV_QEnumsBaseItemType::BaseItemType;
+
+/// The type of exactly that name.
+[[nodiscard]] ORV_WORKFLOW_EXPORT std::optional<BaseItemType> findBaseItemType(const QString &text);
 
 /// Unknown for an empty text, and, with a warning, for a text that is no type.
 [[nodiscard]] ORV_WORKFLOW_EXPORT BaseItemType baseItemTypeFromString(const QString &text);

@@ -2,6 +2,7 @@
 
 #include <orv/core/Export.h>
 
+#include <QJsonValue>
 #include <QString>
 
 namespace orv {
@@ -31,6 +32,11 @@ public:
 
     /// Tells the observer, if there is one, that the member \a key here is dropped.
     void lost(const QString &key, const QString &what, const QString &why) const;
+
+    /// Tells the observer, if there is one, that the member \a key here reads as another value than is
+    /// stored; without \a why both are named.
+    void changed(const QString &key, const QString &what, const QJsonValue &stored, const QJsonValue &read,
+                 const QString &why = {}) const;
 
     [[nodiscard]] bool isObserved() const { return m_observer; }
 

@@ -138,7 +138,7 @@ ORV_WORKFLOW_EXPORT void updateStoredSerializedGlycans(QJsonObject *object, cons
 /// document runs on its thread.
 [[nodiscard]] ORV_WORKFLOW_EXPORT bool projectFailedBefore(const QDir &dir, const QString &name,
                                                            const PropertyEditor::Content &content);
-/// The same for the workflow in a file; false, with a warning, if it can't be loaded.
+/// The same for the workflow in a file; what can't be loaded of it is compared as empty, with a warning.
 [[nodiscard]] ORV_WORKFLOW_EXPORT bool projectFailedBefore(const QDir &dir, const QString &name,
                                                            const QString &wflwFile);
 
