@@ -115,8 +115,15 @@ public:
     Error fill(const QJsonObject &cell)
     {
         m_itemType = baseItemTypeFromString(cell.value(TYPE_KEY).toString());
+        // Names of properties don't tell "Name" from "name": the cell's own members come first.
+        constexpr std::array kOwnMembers = {META_IN_JSON_KEY, NAME_KEY, TITLE_KEY, TYPE_KEY};
+        for (const QLatin1String key : kOwnMembers) {
+            if (cell.contains(key))
+                addHidden(key, cell.value(key));
+        }
         for (auto it = cell.begin(); it != cell.end(); ++it) {
-            if (it.key() != PROPERTIES_KEY || !it->isArray())
+            const bool isOwn = std::ranges::find(kOwnMembers, it.key()) != kOwnMembers.end();
+            if (!isOwn && (it.key() != PROPERTIES_KEY || !it->isArray()))
                 addHidden(it.key(), it.value());
         }
         const QJsonArray entries = cell.value(PROPERTIES_KEY).toArray();

@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFont>
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QPixmap>
 #include <QPoint>
 #include <QRect>
@@ -54,9 +55,18 @@ QJsonValue writeMap(const QVariant &value)
     return QJsonObject::fromVariantMap(value.toMap());
 }
 
+bool isReference(const QVariant &value)
+{
+    return value.metaType() == QMetaType::fromType<ResourceReferenceSPtr>();
+}
+
 // A value that no text stands for would come back as nothing.
 QJsonValue writeText(const QVariant &value)
 {
+    if (isReference(value)) {
+        const ResourceReferenceSPtr reference = value.value<ResourceReferenceSPtr>();
+        return reference ? reference->text() : QString();
+    }
     if (value.isValid() && !value.canConvert<QString>())
         return QJsonValue::Undefined;
     return value.toString();
@@ -184,7 +194,59 @@ QJsonValue writeReference(const KProperty &property, PropertyEditor::PropertyCon
     return resolves ? absolutePathOf(reference->text(), baseUrl) : reference->text();
 }
 
+bool isStorableObject(const QVariant &value)
+{
+    if (value.typeId() == QMetaType::QJsonObject)
+        return true;
+    const QByteArray text = value.toByteArray().trimmed();
+    return value.canConvert<QByteArray>() && (text.isEmpty() || QJsonDocument::fromJson(text).isObject());
+}
+
+bool isStorableReference(const QVariant &value)
+{
+    return isReference(value) || value.canConvert<QString>();
+}
+
+bool isStorableTextList(const QVariant &value)
+{
+    return value.canConvert<QStringList>();
+}
+
+bool isStorableText(const QVariant &value)
+{
+    return value.canConvert<QString>();
+}
+
+struct StorableType
+{
+    int type;
+    bool (*isStorable)(const QVariant &value);
+};
+
+constexpr std::array kStorableTypes = {
+    StorableType{KProperty::ValueFromList, &isStorableText},
+    StorableType{PropertiesTraits::ObjectType, &isStorableObject},
+    StorableType{PropertiesTraits::ResourceReferenceType, &isStorableReference},
+    StorableType{PropertiesTraits::CheckableListType, &isStorableTextList},
+};
+
 } // namespace
+
+bool PropertySetCreator::canStore(const KProperty &property)
+{
+    const QVariant value = property.value();
+    if (!value.isValid())
+        return true;
+    if (property.name().startsWith(':'))
+        return isStorableText(value);
+    const auto *const row = std::ranges::find(kStorableTypes, property.type(), &StorableType::type);
+    if (row != kStorableTypes.end())
+        return row->isStorable(value);
+    const bool isText = property.type() == KProperty::String && isReference(value);
+    if (property.type() < KProperty::UserDefined && !isText && !value.canConvert(QMetaType(property.type())))
+        return false;
+    return !valueToJson(property, PropertyEditor::PropertyConversionFlag::KeepPaths).isUndefined();
+}
 
 QJsonValue PropertySetCreator::valueToJson(const KProperty &property,
                                            PropertyEditor::PropertyConversionFlag flag)

@@ -113,6 +113,9 @@ public:
     [[nodiscard]] static QJsonValue valueToJson(const KProperty &property,
                                                 PropertyEditor::PropertyConversionFlag flag);
 
+    /// Whether a file can hold the value that \a property has: it would come back as that value.
+    [[nodiscard]] static bool canStore(const KProperty &property);
+
     [[nodiscard]] static Editor editorForProperty(PropertyId id);
 
     /// The texts of the properties whose value is one of a list, by position.
