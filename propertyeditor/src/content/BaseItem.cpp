@@ -1,5 +1,7 @@
 #include "orv/propertyeditor/content/BaseItem.h"
 
+#include "Announce.h"
+
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
@@ -59,7 +61,8 @@ Error BaseItem::assignFromJson(const QJsonObject &json, ValidationOptions option
     m_type = typeFromString(json.value(TYPE_KEY).toString());
     m_name = json.value(NAME_KEY).toString();
     m_title = json.value(TITLE_KEY).toString();
-    Q_EMIT changed();
+    if (!announce(this, [this] { Q_EMIT changed(); }))
+        return removedWhileLoading();
     return Error::NoError;
 }
 
@@ -67,6 +70,11 @@ Error BaseItem::load(const QJsonObject &json, ValidationOptions options, const L
 {
     Q_UNUSED(context)
     ORV_RETURN_IF_ERROR(assignFromJson(json, options));
+    return Error::NoError;
+}
+
+Error BaseItem::checkWritable() const
+{
     return Error::NoError;
 }
 

@@ -1,5 +1,6 @@
 #include "orv/propertyeditor/content/BaseTableItem.h"
 
+#include "Announce.h"
 #include "TableLosses.h"
 
 #include <orv/core/JsonUtils.h>
@@ -7,10 +8,37 @@
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+#include <orv/table/rn.h>
+
+#include <algorithm>
 
 namespace orv::PropertyEditor {
 
 using namespace PropertyEditorStringConstants;
+
+namespace {
+
+/// Where of a table the first value stands that a file can't hold.
+QString placeOfUnwritable(const RowNode &table)
+{
+    const auto isUnwritable = [](const QVariant &value) { return !rn::canSerialize(value); };
+    for (int row = 0; row < table.getChildListSize(); ++row) {
+        const VariantItems &cells = table.getChild(row)->data;
+        const auto found = std::ranges::find_if(cells, isUnwritable);
+        if (found == cells.end())
+            continue;
+        const int column = int(found - cells.begin());
+        return BaseTableItem::tr(
+                   "Row %1, column \"%2\": a file can't hold a value of the type %3. Store a text or "
+                   "a number instead.")
+            .arg(row + 1)
+            .arg(table.getNameFromColumnIndex(column), QString::fromLatin1(found->typeName()));
+    }
+    return BaseTableItem::tr(
+        "The names of its columns, or the rows within its rows, hold what a file can't.");
+}
+
+} // namespace
 
 BaseTableItem::BaseTableItem(BaseItemType type)
     : BaseTableItem(type, FurtherContent{})
@@ -47,9 +75,9 @@ bool BaseTableItem::addColumn(const QString &name)
     if (m_root.data.contains(name))
         return false;
     m_root.addDataToRootAndResizeChildren(name, QString(), true);
-    Q_EMIT columnAdded(columnCount() - 1);
-    Q_EMIT columnCountChanged(columnCount());
-    Q_EMIT changed();
+    announce(
+        this, [this] { Q_EMIT columnAdded(columnCount() - 1); },
+        [this] { Q_EMIT columnCountChanged(columnCount()); }, [this] { Q_EMIT changed(); });
     return true;
 }
 
@@ -63,9 +91,9 @@ bool BaseTableItem::removeColumn(const QString &name)
     if (!m_root.removeColumn(name))
         return false;
     // Listeners ask for the count; unlike addColumn, this doesn't announce it.
-    Q_EMIT columnRemoved(index);
-    Q_EMIT columnRemoved(name);
-    Q_EMIT changed();
+    announce(
+        this, [&] { Q_EMIT columnRemoved(index); }, [&] { Q_EMIT columnRemoved(name); },
+        [this] { Q_EMIT changed(); });
     return true;
 }
 
@@ -100,11 +128,15 @@ bool BaseTableItem::addRow(const QVariantList &values)
         return false;
     }
     const int last = rowCount() - 1;
-    if (!values.isEmpty() && !setRowValues(last, values))
+    const QPointer<BaseTableItem> alive(this);
+    const bool isSet = values.isEmpty() || setRowValues(last, values);
+    if (!alive)
+        return true;
+    if (!isSet)
         qCWarning(propertyEditorLog) << "Failed to set row values in" << propertyName() << "(not fatal)";
-    Q_EMIT rowAdded(last);
-    Q_EMIT rowCountChanged(rowCount());
-    Q_EMIT changed();
+    announce(
+        this, [&] { Q_EMIT rowAdded(last); }, [this] { Q_EMIT rowCountChanged(rowCount()); },
+        [this] { Q_EMIT changed(); });
     return true;
 }
 
@@ -115,9 +147,9 @@ bool BaseTableItem::removeRow(int index)
         return false;
     }
     m_root.deleteChild(index);
-    Q_EMIT rowRemoved(index);
-    Q_EMIT rowCountChanged(rowCount());
-    Q_EMIT changed();
+    announce(
+        this, [&] { Q_EMIT rowRemoved(index); }, [this] { Q_EMIT rowCountChanged(rowCount()); },
+        [this] { Q_EMIT changed(); });
     return true;
 }
 
@@ -130,12 +162,22 @@ bool BaseTableItem::setRowValues(int index, const QVariantList &values)
         qCWarning(propertyEditorLog) << "Record columns count mismatch in" << propertyName();
         return false;
     }
+    if (!std::ranges::all_of(values, [this](const QVariant &value) { return isStorable(value); }))
+        return false;
     const VariantItems data(values);
     row->setRowData(data);
     // Not the row's own data: who hears of it first may remove the row.
-    Q_EMIT rowChanged(index, data);
-    Q_EMIT changed();
+    announce(
+        this, [&] { Q_EMIT rowChanged(index, data); }, [this] { Q_EMIT changed(); });
     return true;
+}
+
+bool BaseTableItem::isStorable(const QVariant &value) const
+{
+    const bool isStorable = rn::canSerialize(value);
+    if (!isStorable)
+        qCWarning(propertyEditorLog) << "A file can't hold the value" << value << "in" << propertyName();
+    return isStorable;
 }
 
 const RowNode *BaseTableItem::rowOfCell(int row, int column) const
@@ -164,15 +206,17 @@ QVariant BaseTableItem::value(int row, int column) const
 
 bool BaseTableItem::setValue(int row, int column, const QVariant &value)
 {
-    if (!rowOfCell(row, column))
+    if (!rowOfCell(row, column) || !isStorable(value))
         return false;
     RowNode *node = m_root.getChild(row);
     // A row of a file may be shorter than the header.
     if (node->data.size() <= column)
         node->data.resize(columnCount());
-    node->getDataAt(column) = value;
-    Q_EMIT valueChanged(row, column, value);
-    Q_EMIT changed();
+    // A copy: the caller's value may lie in what a listener removes.
+    const QVariant stored = value;
+    node->getDataAt(column) = stored;
+    announce(
+        this, [&] { Q_EMIT valueChanged(row, column, stored); }, [this] { Q_EMIT changed(); });
     return true;
 }
 
@@ -267,8 +311,28 @@ Error BaseTableItem::load(const QJsonObject &json, ValidationOptions options, co
             tables.append(PropertyId::CustomColumns);
         reportTableLosses(context, json, {propertyId(), tables, m_further.objects, m_further.valueArrays});
     }
-    Q_EMIT reset();
+    return announceReset();
+}
+
+Error BaseTableItem::announceReset()
+{
+    if (!announce(this, [this] { Q_EMIT reset(); }))
+        return removedWhileLoading();
     return Error::NoError;
+}
+
+Error BaseTableItem::checkWritable() const
+{
+    return checkTable(m_root, propertyId());
+}
+
+Error BaseTableItem::checkTable(const RowNode &table, PropertyId id) const
+{
+    if (rn::canSerialize(table))
+        return Error::NoError;
+    Error error(ErrorCode::InvalidContent,
+                tr("The table \"%1\" can't be written.").arg(PropertiesNames::internalNameForType(id)));
+    return error.addDetail(placeOfUnwritable(table)).ecatch();
 }
 
 void BaseTableItem::setBaseUrl(const QUrl &url)

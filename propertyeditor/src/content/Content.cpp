@@ -1,5 +1,6 @@
 #include "orv/propertyeditor/content/Content.h"
 
+#include "Announce.h"
 #include "OwningList.h"
 
 #include <orv/core/FileUtils.h>
@@ -133,15 +134,20 @@ Error Content::assignFromJson(const QJsonObject &json, ValidationOptions options
             .addDetail(tr("A workflow has an array \"tabs\", but there is %1.")
                            .arg(JsonUtils::typeDescription(json.value(TABS_KEY).type())));
     }
+    ORV_RETURN_IF_ERROR(WflwMetaData::faultInText(json.value(META_IN_JSON_KEY).toString()));
     d->fileName.clear();
+    const QPointer<Content> alive(this);
     clear();
+    if (!alive)
+        return removedWhileLoading();
     assignMetaDataFromJsonObject(json);
     const LoadContext context(d->lossObserver);
     reportMalformedMetadata(json, context);
     reportUnknownDocumentMembers(json, context);
     ORV_RETURN_IF_ERROR(loadExtendedMetadata(json));
     ORV_RETURN_IF_ERROR(loadTabs(json, options));
-    Q_EMIT reset();
+    if (!announce(this, [this] { Q_EMIT reset(); }))
+        return removedWhileLoading();
     return Error::NoError;
 }
 
@@ -175,22 +181,16 @@ Error Content::loadTabs(const QJsonObject &json, ValidationOptions options)
         if (error.hasError())
             return error.addDetail(tr("Tab %1 (\"%2\").").arg(i + 1).arg(tab.value(NAME_KEY).toString()))
                 .ecatch();
-        adoptNewGroup(std::move(group));
+        if (!adoptNewGroup(std::move(group)))
+            return removedWhileLoading();
     }
     return Error::NoError;
 }
 
-QList<ExtendedMetadataSink *> Content::metadataSinks() const
+ExtendedMetadataSink *Content::metadataSink(BaseItemType type) const
 {
-    QList<ExtendedMetadataSink *> sinks;
-    for (const BaseItemType type : {BaseItemType::Samples, BaseItemType::IntactProteins}) {
-        const QList<BaseItem *> items = findAllItems(type);
-        if (items.isEmpty())
-            continue;
-        if (auto *sink = dynamic_cast<ExtendedMetadataSink *>(items.first()))
-            sinks.append(sink);
-    }
-    return sinks;
+    const QList<BaseItem *> items = findAllItems(type);
+    return items.isEmpty() ? nullptr : dynamic_cast<ExtendedMetadataSink *>(items.first());
 }
 
 void Content::setMetadataCache(const ExtendedMetadataInfo::MetadataCache &cache)
@@ -205,8 +205,16 @@ void Content::setMetadataMappingConnections(const QList<TalvaneMetadataMappingCo
 
 void Content::updateMetadataContent()
 {
-    updateMetadataContent(d->extendedMetadata.metadataMappingConnections(),
-                          generateMetadataMappings(d->extendedMetadata), metadataSinks());
+    const QList<TalvaneMetadataMappingConnection> connections =
+        d->extendedMetadata.metadataMappingConnections();
+    const QList<MetadataMapping> mappings = generateMetadataMappings(d->extendedMetadata);
+    const QPointer<Content> alive(this);
+    for (const BaseItemType type : {BaseItemType::Samples, BaseItemType::IntactProteins}) {
+        // Looked for when its turn comes: who hears of the one before may remove it, or the document.
+        ExtendedMetadataSink *const sink = alive ? metadataSink(type) : nullptr;
+        if (sink)
+            updateMetadataContent(connections, mappings, {sink});
+    }
 }
 
 void Content::assignMetaDataFromFile(const QString &fileName)
@@ -240,20 +248,12 @@ QJsonObject Content::toJsonObject(PropertyConversionFlag flag) const
             {EXTENDED_METADATA_IN_JSON_KEY, d->extendedMetadata.toJson()}};
 }
 
-bool Content::save(const QString &fileName) const
-{
-    QString deviceError;
-    const QByteArray json = toJson(PropertyConversionFlag::KeepPaths);
-    if (FileUtils::writeToFile(fileName, json, &deviceError) == QFileDevice::NoError)
-        return true;
-    qCWarning(propertyEditorLog) << "Cannot save content to the file" << fileName << ":" << deviceError;
-    return false;
-}
-
 void Content::clear()
 {
-    d->groups.clear();
-    d->baseUrl.clear();
+    // Who hears of the end of a tab may delete the document.
+    const QExplicitlySharedDataPointer<ContentData> kept = d;
+    kept->groups.clear();
+    kept->baseUrl.clear();
 }
 
 int Content::count() const
@@ -332,10 +332,9 @@ bool Content::removeGroup(int index)
         qCWarning(propertyEditorLog) << "The group for deletion is null";
         return false;
     }
-    Q_EMIT groupRemoved(index);
-    Q_EMIT groupRemoved(removed->name());
-    Q_EMIT groupRemoved(removed.get());
-    Q_EMIT groupCountChanged(count());
+    announce(
+        this, [&] { Q_EMIT groupRemoved(index); }, [&] { Q_EMIT groupRemoved(removed->name()); },
+        [&] { Q_EMIT groupRemoved(removed.get()); }, [this] { Q_EMIT groupCountChanged(count()); });
     return true;
 }
 
@@ -469,11 +468,11 @@ int Content::indexOf(const QString &name) const
     return d->groups.find([&name](const ItemGroup &group) { return group.name() == name; });
 }
 
-void Content::adoptNewGroup(std::unique_ptr<ItemGroup> group)
+bool Content::adoptNewGroup(std::unique_ptr<ItemGroup> group)
 {
     ItemGroup *const adopted = d->groups.append(std::move(group));
-    Q_EMIT groupAdded(adopted);
-    Q_EMIT groupCountChanged(count());
+    return announce(
+        this, [&] { Q_EMIT groupAdded(adopted); }, [this] { Q_EMIT groupCountChanged(count()); });
 }
 
 } // namespace orv::PropertyEditor

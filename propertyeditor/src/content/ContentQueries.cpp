@@ -14,6 +14,7 @@
 #include <orv/samples/SamplesIndex.h>
 
 #include <QHash>
+#include <QPointer>
 #include <QSet>
 
 namespace orv::PropertyEditor {
@@ -39,7 +40,7 @@ public:
 
     void add(const ResourceReferenceSPtr &reference)
     {
-        if (!reference || m_seen.contains(reference->text()))
+        if (!reference || reference->text().isEmpty() || m_seen.contains(reference->text()))
             return;
         m_seen.insert(reference->text());
         m_references.append(reference);
@@ -167,8 +168,10 @@ void Content::updateReferences(const QList<ReferenceMapping> &mappings)
         sampleUpdater.moveFileMetadata(ResourceReferenceUtils::toString(mapping.oldReference),
                                        ResourceReferenceUtils::toString(mapping.newReference));
     }
+    const QPointer<Content> alive(this);
     setSamplesAndTraces(samples);
-    setSequenceDatabaseItems(databases, 0);
+    if (alive)
+        setSequenceDatabaseItems(databases, 0);
 }
 
 SamplesTableItem *Content::samplesTable() const
@@ -213,9 +216,15 @@ QList<MetadataMapping> Content::generateMetadataMappings(const ExtendedMetadataI
     const QList<TalvaneMetadataMappingConnection> connections = info.metadataMappingConnections();
     const ExtendedMetadataInfo::MetadataCache cache = info.metadataCache();
     QList<MetadataMapping> mappings;
-    for (auto entry = cache.begin(); entry != cache.end(); ++entry) {
-        const QList<int> ids = samples.idsOfFile(entry.key().reference());
-        for (const TalvaneExtendedMetaDataValue &value : *entry) {
+    QList<ResourceReferenceKey> files = cache.keys();
+    // A hash has another order in each run, and what is made of the mappings is numbered in theirs.
+    std::ranges::sort(files, {}, [](const ResourceReferenceKey &key) {
+        return ResourceReferenceUtils::toString(key.reference());
+    });
+    for (const ResourceReferenceKey &file : std::as_const(files)) {
+        const QList<int> ids = samples.idsOfFile(file.reference());
+        const QList<TalvaneExtendedMetaDataValue> values = cache.value(file);
+        for (const TalvaneExtendedMetaDataValue &value : values) {
             for (const TalvaneMetadataMappingConnection &connection : connections) {
                 if (connection.attribute == value.attribute)
                     mappings.append({ids, value, connection.target});

@@ -1,5 +1,6 @@
 #include "orv/propertyeditor/content/ItemGroup.h"
 
+#include "Announce.h"
 #include "OwningList.h"
 
 #include <orv/core/Logging.h>
@@ -9,7 +10,6 @@
 
 #include <QCoreApplication>
 #include <QJsonArray>
-#include <QMetaEnum>
 
 #include <algorithm>
 #include <array>
@@ -103,7 +103,10 @@ Error ItemGroup::assignFromJson(const QJsonObject &json, ValidationOptions optio
                      QStringLiteral("JSON format is incorrect: columns || name || cells"));
     }
 
+    const QPointer<ItemGroup> alive(this);
     clear();
+    if (!alive)
+        return removedWhileLoading();
     d->name = nameValue.toString();
     reportUnknownTabMembers(json, context);
     if (columnNames.isEmpty()) {
@@ -125,7 +128,8 @@ Error ItemGroup::assignFromJson(const QJsonObject &json, ValidationOptions optio
             return error.addDetail(tr("Column %1 (\"%2\"), row %3.").arg(c + 1).arg(columnName).arg(row))
                 .ecatch();
         }
-        adoptNewSubGroup(std::move(subGroup), columns[c].type);
+        if (!adoptNewSubGroup(std::move(subGroup), columns[c].type))
+            return removedWhileLoading();
     }
     Q_EMIT reset();
     return Error::NoError;
@@ -225,12 +229,11 @@ QVariantList ItemGroup::findSubGroups(const QString &typeName) const
 {
     if (typeName.isEmpty())
         return {};
-    bool ok = false;
-    const int type = QMetaEnum::fromType<BaseItemType>().keyToValue(typeName.toUtf8().constData(), &ok);
-    if (!ok)
+    const std::optional<BaseItemType> type = findBaseItemType(typeName);
+    if (!type)
         return {};
     QVariantList found;
-    for (ItemSubGroup *subGroup : subGroups(BaseItemType(type)))
+    for (ItemSubGroup *subGroup : subGroups(*type))
         found.append(QVariant::fromValue(subGroup));
     return found;
 }
@@ -267,10 +270,9 @@ bool ItemGroup::removeSubGroup(int index)
         qCWarning(propertyEditorLog) << "The subgroup for deletion is null";
         return false;
     }
-    Q_EMIT subGroupRemoved(index);
-    Q_EMIT subGroupRemoved(removed->name());
-    Q_EMIT subGroupRemoved(removed.get());
-    Q_EMIT subGroupCountChanged(count());
+    announce(
+        this, [&] { Q_EMIT subGroupRemoved(index); }, [&] { Q_EMIT subGroupRemoved(removed->name()); },
+        [&] { Q_EMIT subGroupRemoved(removed.get()); }, [this] { Q_EMIT subGroupCountChanged(count()); });
     return true;
 }
 
@@ -288,7 +290,9 @@ bool ItemGroup::removeSubGroup(ItemSubGroup *subGroup)
 
 void ItemGroup::clear()
 {
-    d->subGroups.clear();
+    // Who hears of the end of a column may delete the tab.
+    const QExplicitlySharedDataPointer<Private> kept = d;
+    kept->subGroups.clear();
 }
 
 int ItemGroup::indexOf(const QString &name) const
@@ -296,12 +300,12 @@ int ItemGroup::indexOf(const QString &name) const
     return d->subGroups.find([&name](const ItemSubGroup &subGroup) { return subGroup.name() == name; });
 }
 
-void ItemGroup::adoptNewSubGroup(std::unique_ptr<ItemSubGroup> subGroup, BaseItemType type)
+bool ItemGroup::adoptNewSubGroup(std::unique_ptr<ItemSubGroup> subGroup, BaseItemType type)
 {
     subGroup->setType(type);
     ItemSubGroup *const adopted = d->subGroups.append(std::move(subGroup));
-    Q_EMIT subGroupAdded(adopted);
-    Q_EMIT subGroupCountChanged(count());
+    return announce(
+        this, [&] { Q_EMIT subGroupAdded(adopted); }, [this] { Q_EMIT subGroupCountChanged(count()); });
 }
 
 } // namespace orv::PropertyEditor

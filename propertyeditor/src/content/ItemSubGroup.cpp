@@ -1,5 +1,6 @@
 #include "orv/propertyeditor/content/ItemSubGroup.h"
 
+#include "Announce.h"
 #include "OwningList.h"
 
 #include <orv/core/Logging.h>
@@ -46,16 +47,21 @@ ItemSubGroup::~ItemSubGroup() = default;
 Error ItemSubGroup::assignFromJson(const QJsonArray &cells, const QString &name, ValidationOptions options,
                                    const LoadContext &context)
 {
+    const QPointer<ItemSubGroup> alive(this);
     clear();
+    if (!alive)
+        return removedWhileLoading();
     d->name = name;
     d->items.reserve(cells.size());
     for (qsizetype i = 0; i < cells.size(); ++i) {
         const QJsonObject cell = cells.at(i).toObject();
         if (cell.isEmpty())
             return Error(ErrorCode::MalformedStructure);
-        Result<BaseItem *> item = createItemFromJson(cell, options, context.element(i));
+        Result<std::unique_ptr<BaseItem>> item = createItemFromJson(cell, options, context.element(i));
         if (item.hasError())
             return item.ecatch();
+        if (!adoptNewItem(std::move(item).value()))
+            return removedWhileLoading();
     }
     Q_EMIT reset();
     return Error::NoError;
@@ -153,8 +159,8 @@ bool ItemSubGroup::removeItem(int index)
         qCWarning(propertyEditorLog) << "The item for deletion is null";
         return false;
     }
-    Q_EMIT itemRemoved(index);
-    Q_EMIT itemRemoved(removed.get());
+    announce(
+        this, [&] { Q_EMIT itemRemoved(index); }, [&] { Q_EMIT itemRemoved(removed.get()); });
     return true;
 }
 
@@ -166,7 +172,9 @@ bool ItemSubGroup::removeItem(BaseItem *item)
 
 void ItemSubGroup::clear()
 {
-    d->items.clear();
+    // Who hears of the end of an item may delete the column.
+    const QExplicitlySharedDataPointer<Private> kept = d;
+    kept->items.clear();
 }
 
 std::unique_ptr<BaseItem> ItemSubGroup::allocateNewItem(BaseItemType type)
@@ -178,14 +186,15 @@ std::unique_ptr<BaseItem> ItemSubGroup::allocateNewItem(BaseItemType type)
     return item;
 }
 
-void ItemSubGroup::adoptNewItem(std::unique_ptr<BaseItem> item)
+bool ItemSubGroup::adoptNewItem(std::unique_ptr<BaseItem> item)
 {
     BaseItem *const adopted = d->items.append(std::move(item));
-    Q_EMIT itemAdded(adopted);
+    return announce(this, [&] { Q_EMIT itemAdded(adopted); });
 }
 
-Result<BaseItem *> ItemSubGroup::createItemFromJson(const QJsonObject &json, ValidationOptions options,
-                                                    const LoadContext &context)
+Result<std::unique_ptr<BaseItem>> ItemSubGroup::createItemFromJson(const QJsonObject &json,
+                                                                   ValidationOptions options,
+                                                                   const LoadContext &context)
 {
     const QString typeText = json.value(TYPE_KEY).toString();
     const BaseItemType type = BaseItem::typeFromString(typeText);
@@ -197,9 +206,7 @@ Result<BaseItem *> ItemSubGroup::createItemFromJson(const QJsonObject &json, Val
         return Error(ErrorCode::InvalidContent, tr("Can't create item for \"%1\" type.").arg(typeText));
 
     ORV_RETURN_IF_ERROR(item->load(json, options, context));
-    BaseItem *const adopted = item.get();
-    adoptNewItem(std::move(item));
-    return adopted;
+    return item;
 }
 
 } // namespace orv::PropertyEditor

@@ -1,5 +1,7 @@
 #include "orv/propertyeditor/content/KeyValueItem.h"
 
+#include "Announce.h"
+
 #include <KPropertyListData>
 #include <KPropertySet>
 #include <orv/core/Logging.h>
@@ -11,6 +13,7 @@
 #include <orv/propertyeditor/content/CellTypes.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
 
 #include <QJsonDocument>
 
@@ -85,6 +88,8 @@ Error KeyValueItem::load(const QJsonObject &json, ValidationOptions options, con
         return Error(ErrorCode::MalformedStructure,
                      tr("Could not parse JSON. \"%1\" has unsupported format.").arg(PROPERTIES_KEY));
     }
+    // Each load renews the stamp in it, and so writes the text anew.
+    ORV_RETURN_IF_ERROR(WflwMetaData::faultInText(json.value(META_IN_JSON_KEY).toString()));
     ORV_RETURN_IF_ERROR(BaseItem::assignFromJson(json, options));
     m_set.reset();
     const bool skipsType = options.testFlag(ValidationOption::SkipTypeValidation);
@@ -112,8 +117,8 @@ void KeyValueItem::clear()
     if (count() == 0)
         return;
     m_set->clear();
-    Q_EMIT countChanged(count());
-    Q_EMIT changed();
+    announce(
+        this, [this] { Q_EMIT countChanged(count()); }, [this] { Q_EMIT changed(); });
 }
 
 int KeyValueItem::count() const
@@ -183,13 +188,14 @@ bool KeyValueItem::insert(const QString &key, const QString &group, const QVaria
         return false;
     }
     auto property = std::make_unique<KProperty>(key.toUtf8(), converted, QString(), QString(), type);
+    if (!isStorable(*property))
+        return false;
     const int position =
         keyBefore.isEmpty() ? -1 : KPropertySetUtils::propertyIndex(keyBefore, group, *m_set) + 1;
     KPropertySetUtils::insertInKPropertySet(group, property.release(), m_set.get(), position);
-    Q_EMIT inserted(key, value);
-    Q_EMIT inserted(key, group, value);
-    Q_EMIT countChanged(count());
-    Q_EMIT changed();
+    announce(
+        this, [&] { Q_EMIT inserted(key, value); }, [&] { Q_EMIT inserted(key, group, value); },
+        [this] { Q_EMIT countChanged(count()); }, [this] { Q_EMIT changed(); });
     return true;
 }
 
@@ -205,7 +211,10 @@ bool KeyValueItem::replace(const QString &key, const QString &newKey, const QVar
     const QByteArray name = key.toUtf8();
     if (!warnUnless(has(name), key))
         return false;
-    m_set->property(name) = KProperty(newKey.toUtf8(), value, QString(), QString(), type);
+    const KProperty replacement(newKey.toUtf8(), value, QString(), QString(), type);
+    if (!isStorable(replacement))
+        return false;
+    m_set->property(name) = replacement;
     Q_EMIT changed();
     return true;
 }
@@ -218,15 +227,16 @@ bool KeyValueItem::remove(const QString &key)
         return false;
     }
     m_set->removeProperty(name);
-    Q_EMIT removed(key);
-    Q_EMIT countChanged(count());
-    Q_EMIT changed();
+    announce(
+        this, [&] { Q_EMIT removed(key); }, [this] { Q_EMIT countChanged(count()); },
+        [this] { Q_EMIT changed(); });
     return true;
 }
 
 bool KeyValueItem::remove(const QStringList &keys)
 {
-    return std::ranges::all_of(keys, [this](const QString &key) { return remove(key); });
+    const QPointer<KeyValueItem> alive(this);
+    return std::ranges::all_of(keys, [&](const QString &key) { return alive && remove(key); });
 }
 
 bool KeyValueItem::setValue(PropertyId id, const QVariant &value)
@@ -243,18 +253,52 @@ bool KeyValueItem::setValue(const QString &key, const QVariant &value)
     if (property.type() == KProperty::ValueFromList)
         return setListValue(key, &property, value);
     const QVariant old = property.value();
-    setPlainValue(&property, value);
-    Q_EMIT valueChanged(key, value, old);
-    Q_EMIT changed();
+    // A copy: the caller's value may lie in what a listener removes.
+    const QVariant stored = value;
+    if (!setPlainValue(&property, stored))
+        return false;
+    announce(
+        this, [&] { Q_EMIT valueChanged(key, stored, old); }, [this] { Q_EMIT changed(); });
     return true;
 }
 
-void KeyValueItem::setPlainValue(KProperty *property, const QVariant &value)
+bool KeyValueItem::isStorable(const KProperty &property)
+{
+    const bool isStorable = PropertySetCreator::canStore(property);
+    if (!isStorable) {
+        qCWarning(propertyEditorLog) << "A file can't hold the value" << property.value() << "of"
+                                     << textOf(property);
+    }
+    return isStorable;
+}
+
+bool KeyValueItem::setPlainValue(KProperty *property, const QVariant &value)
 {
     constexpr int kFirstUserMetaType = QMetaType::User;
-    if (value.typeId() < kFirstUserMetaType && property->type() < KProperty::UserDefined)
-        property->setType(value.typeId());
+    const bool takesType = value.typeId() < kFirstUserMetaType && property->type() < KProperty::UserDefined;
+    const int type = takesType ? value.typeId() : property->type();
+    if (!isStorable(KProperty(property->name(), value, QString(), QString(), type)))
+        return false;
+    property->setType(type);
     property->setValue(value);
+    return true;
+}
+
+Error KeyValueItem::checkWritable() const
+{
+    if (!m_set)
+        return Error::NoError;
+    for (KPropertySetIterator it(*m_set); it.current(); ++it) {
+        const KProperty &property = *it.current();
+        if (!textOf(property).startsWith(QLatin1Char(':')) &&
+            PropertySetCreator::valueToJson(property, PropertyConversionFlag::KeepPaths).isUndefined()) {
+            return Error(ErrorCode::InvalidContent,
+                         tr("The property \"%1\" can't be written.").arg(textOf(property)))
+                .addDetail(tr("A file can't hold its value, which is of the type %1.")
+                               .arg(QString::fromLatin1(property.value().typeName())));
+        }
+    }
+    return Error::NoError;
 }
 
 bool KeyValueItem::setListValue(const QString &key, KProperty *property, const QVariant &value)
@@ -286,8 +330,8 @@ bool KeyValueItem::setListValue(const QString &key, KProperty *property, const Q
     const QVariant old = property->value();
     qCDebug(propertyEditorLog) << "Updating a list with new string value" << text << "from value: " << value;
     m_set->changeProperty(property->name(), text);
-    Q_EMIT valueChanged(key, text, old);
-    Q_EMIT changed();
+    announce(
+        this, [&] { Q_EMIT valueChanged(key, text, old); }, [this] { Q_EMIT changed(); });
     return true;
 }
 
@@ -304,105 +348,6 @@ bool KeyValueItem::setOption(const QString &key, const QByteArray &name, const Q
     m_set->property(property).setOption(name.constData(), value);
     Q_EMIT changed();
     return true;
-}
-
-QString KeyValueItem::group(const QString &key) const
-{
-    return m_set ? QString::fromUtf8(m_set->groupNameForProperty(key.toUtf8())) : QString();
-}
-
-QString KeyValueItem::group(PropertyId id) const
-{
-    return group(nameOf(id));
-}
-
-QString KeyValueItem::groupCaption(const QString &key) const
-{
-    return m_set ? m_set->groupCaption(m_set->groupNameForProperty(key.toUtf8())) : QString();
-}
-
-QString KeyValueItem::groupCaption(PropertyId id) const
-{
-    return groupCaption(nameOf(id));
-}
-
-QList<QByteArray> KeyValueItem::groupNames() const
-{
-    return m_set ? m_set->groupNames() : QList<QByteArray>();
-}
-
-bool KeyValueItem::hasGroup(const QString &name) const
-{
-    return groupNames().contains(name.toUtf8());
-}
-
-QList<QByteArray> KeyValueItem::properties(const QByteArray &groupName) const
-{
-    return m_set ? m_set->propertyNamesForGroup(groupName) : QList<QByteArray>();
-}
-
-bool KeyValueItem::setGroup(const QString &key, const QString &group)
-{
-    const QByteArray name = key.toUtf8();
-    if (!warnUnless(has(name), key))
-        return false;
-    const QString oldGroup = this->group(key);
-    if (group.isEmpty()) {
-        qCWarning(propertyEditorLog) << "Cannot move the property" << key << "to an empty group";
-        return false;
-    }
-    if (QString::fromUtf8(KPropertySetUtils::groupName(group)) == oldGroup) {
-        qCWarning(propertyEditorLog) << "Cannot move the property" << key << "to the same group";
-        return false;
-    }
-    auto copy = std::make_unique<KProperty>(m_set->property(name));
-    remove(key);
-    KPropertySetUtils::insertInKPropertySet(group, copy.release(), m_set.get(), -1);
-    Q_EMIT groupChanged(key, group, oldGroup);
-    Q_EMIT changed();
-    return true;
-}
-
-bool KeyValueItem::setGroupCaption(const QString &groupName, const QString &caption)
-{
-    if (!m_set)
-        return false;
-    m_set->setGroupCaption(groupName.toUtf8(), caption);
-    Q_EMIT changed();
-    return true;
-}
-
-bool KeyValueItem::removeGroup(const QString &name)
-{
-    QStringList keys;
-    for (const QByteArray &key : properties(name.toUtf8()))
-        keys.append(QString::fromUtf8(key));
-    return remove(keys);
-}
-
-void KeyValueItem::moveGroup(const QString &group, const QString &afterGroup)
-{
-    if (!m_set)
-        return;
-    struct Moved
-    {
-        QByteArray group;
-        std::unique_ptr<KProperty> property;
-    };
-    const QList<QByteArray> names = m_set->groupNames();
-    std::vector<Moved> moved;
-    for (qsizetype i = names.indexOf(afterGroup.toUtf8()) + 1; i < names.size(); ++i) {
-        const QByteArray &name = names.at(i);
-        if (m_set->groupCaption(name) == group)
-            continue;
-        for (const QByteArray &key : m_set->propertyNamesForGroup(name)) {
-            moved.push_back({name, std::make_unique<KProperty>(m_set->property(key))});
-            m_set->removeProperty(key);
-        }
-    }
-    for (Moved &entry : moved)
-        m_set->addProperty(entry.property.release(), entry.group);
-    Q_EMIT changed();
 }
 
 QMultiMap<PropertyId, QVariant> KeyValueItem::propertiesMap() const

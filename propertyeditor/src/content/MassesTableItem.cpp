@@ -170,9 +170,20 @@ QJsonObject MassesTableItem::toJson(PropertyConversionFlag flag) const
     return json;
 }
 
+Error MassesTableItem::checkWritable() const
+{
+    ORV_RETURN_IF_ERROR(BaseTableItem::checkWritable());
+    if (m_matchToleranceDefaulted)
+        return Error::NoError;
+    ORV_RETURN_IF_ERROR(checkTable(m_matchTolerance, PropertyId::MatchTolerance));
+    return Error::NoError;
+}
+
 Error MassesTableItem::load(const QJsonObject &json, ValidationOptions options, const LoadContext &context)
 {
+    // A load that fails leaves no tolerance, so none may be written.
     m_matchTolerance.clear();
+    m_matchToleranceDefaulted = true;
     ORV_RETURN_IF_ERROR(BaseTableItem::load(json, options, context));
     const QJsonObject entry = PropertyEditorJsonUtils::getPropertyWithType(json, PropertyId::MatchTolerance);
     if (!entry.isEmpty())
@@ -199,9 +210,9 @@ void MassesTableItem::reportDefaultedTolerance(const QJsonObject &json, const Lo
 
 void MassesTableItem::clear()
 {
-    BaseTableItem::clear();
     m_matchTolerance.clear();
     m_matchToleranceDefaulted = completeMatchTolerance(&m_matchTolerance);
+    BaseTableItem::clear();
 }
 
 } // namespace orv::PropertyEditor

@@ -47,9 +47,9 @@ Error OligoMassesTableItem::load(const QJsonObject &json, ValidationOptions opti
 
 void OligoMassesTableItem::clear()
 {
-    MassesTableItem::clear();
     m_tolerances = {};
     m_impurities = {};
+    MassesTableItem::clear();
 }
 
 } // namespace orv::PropertyEditor

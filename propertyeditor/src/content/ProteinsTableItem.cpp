@@ -48,8 +48,8 @@ Error ProteinsTableItem::load(const QJsonObject &json, ValidationOptions options
 
 void ProteinsTableItem::clear()
 {
-    BaseTableItem::clear();
     m_annotations.clear();
+    BaseTableItem::clear();
 }
 
 } // namespace orv::PropertyEditor

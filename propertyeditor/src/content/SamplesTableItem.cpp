@@ -51,14 +51,13 @@ Error SamplesTableItem::load(const QJsonObject &json, ValidationOptions options,
     loadCustomColumns(json);
     if (context.isObserved())
         reportTableLosses(context, json, {PropertyId::NoProperty, {}, {propertyId()}, {}});
-    Q_EMIT reset();
-    return Error::NoError;
+    return announceReset();
 }
 
 void SamplesTableItem::clear()
 {
-    BaseTableItem::clear();
     m_content = {};
+    BaseTableItem::clear();
 }
 
 } // namespace orv::PropertyEditor

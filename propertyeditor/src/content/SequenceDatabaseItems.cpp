@@ -75,7 +75,14 @@ Result<QList<SequenceDatabaseItem>> SequenceDatabaseItems::fromJson(const QJsonO
         return sequences.ecatch();
     QList<SequenceDatabaseItem> items;
     items.reserve(sequences->size());
-    for (const auto sequence : std::as_const(*sequences)) {
+    for (qsizetype i = 0; i < sequences->size(); ++i) {
+        const QJsonValue sequence = sequences->at(i);
+        if (!sequence.isObject()) {
+            return Error(ErrorCode::InvalidContent, tr("A row of the sequence databases is no object."))
+                .addDetail(tr("Element %1 of \"%2\" is %3; remove it, or restore the file from a copy.")
+                               .arg(i + 1)
+                               .arg(kSequences, JsonUtils::typeDescription(sequence.type())));
+        }
         Result<SequenceDatabaseItem> item = SequenceDatabaseItem::fromJson(sequence.toObject());
         if (item.hasError())
             return item.ecatch();

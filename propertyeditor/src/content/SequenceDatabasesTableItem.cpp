@@ -44,14 +44,13 @@ Error SequenceDatabasesTableItem::load(const QJsonObject &json, ValidationOption
     m_items = std::move(items).value();
     if (context.isObserved())
         reportTableLosses(context, json, {PropertyId::NoProperty, {}, {}, {}, {propertyId()}});
-    Q_EMIT reset();
-    return Error::NoError;
+    return announceReset();
 }
 
 void SequenceDatabasesTableItem::clear()
 {
-    BaseTableItem::clear();
     m_items.clear();
+    BaseTableItem::clear();
 }
 
 } // namespace orv::PropertyEditor

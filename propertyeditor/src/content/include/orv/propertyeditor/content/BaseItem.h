@@ -41,6 +41,9 @@ public:
     /// keeps \a context.
     virtual Error load(const QJsonObject &json, ValidationOptions options, const LoadContext &context);
 
+    /// Why toJson would write the cell without something that it holds; a success if it writes all.
+    [[nodiscard]] virtual Error checkWritable() const;
+
     [[nodiscard]] BaseItemType type() const { return m_type; }
     [[nodiscard]] QString typeString() const { return typeToString(m_type); }
     [[nodiscard]] QString name() const { return m_name; }

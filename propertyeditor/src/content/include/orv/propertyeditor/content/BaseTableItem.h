@@ -19,8 +19,8 @@ namespace orv::PropertyEditor {
 /// that orv/table/rn.h tells: \code
 ///     {"type": "Isotope", "properties": [{"name": "Isotope", "value": {"data": ["Name"], "children": []}}]}
 /// \endcode
-/// What changes the table answers false and logs a line where it can't; only changes that succeed are
-/// announced.
+/// What changes the table answers false and logs a line where it can't, which holds for values that a file
+/// can't hold; only changes that succeed are announced.
 class ORV_WORKFLOW_EXPORT BaseTableItem : public BaseItem
 {
     Q_OBJECT
@@ -52,7 +52,8 @@ public:
     /// The name must not be empty. Announces changed() alone.
     Q_INVOKABLE bool setColumnName(int index, const QString &name);
 
-    /// Appends a row. It stays blank if \a values are empty or not as many as there are columns.
+    /// Appends a row. It stays blank if \a values are empty, not as many as there are columns, or hold what a
+    /// file can't.
     Q_INVOKABLE bool addRow(const QVariantList &values);
     Q_INVOKABLE bool removeRow(int index);
     /// Replaces a row by as many values as there are columns.
@@ -66,6 +67,7 @@ public:
     /// MalformedStructure if the cell lacks its "properties" or its table. Then ends in reset().
     Error assignFromJson(const QJsonObject &json, ValidationOptions options) final;
     Error load(const QJsonObject &json, ValidationOptions options, const LoadContext &context) override;
+    [[nodiscard]] Error checkWritable() const override;
     /// Leaves no rows, no columns and no definitions of columns. Announces changed() alone.
     void clear() override;
     void setBaseUrl(const QUrl &url) override;
@@ -108,6 +110,12 @@ protected:
     /// log.
     static void resizeChildrenToMatchRoot(RowNode *node);
 
+    /// Why a file can't hold \a table, the value of the property \a id.
+    [[nodiscard]] Error checkTable(const RowNode &table, PropertyId id) const;
+
+    /// The end of a load: reset(), and an error if somebody who hears it deletes the item.
+    [[nodiscard]] Error announceReset();
+
     /// Appends an entry of "properties" to the cell \a json.
     static void appendProperty(QJsonObject *json, PropertyId id, const QJsonObject &value);
     /// A cell with the common keys and one entry of "properties" whose value is \a value.
@@ -127,6 +135,8 @@ protected:
 private:
     [[nodiscard]] QString propertyName() const;
     [[nodiscard]] bool isColumn(int index) const { return index >= 0 && index < columnCount(); }
+    /// False, with a warning, for what a file can't hold.
+    [[nodiscard]] bool isStorable(const QVariant &value) const;
     /// The row, or null with a warning where there is no such cell.
     [[nodiscard]] const RowNode *rowOfCell(int row, int column) const;
 

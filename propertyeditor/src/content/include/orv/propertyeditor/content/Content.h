@@ -60,9 +60,10 @@ public:
     Content &operator=(const Content &other);
     ~Content() override;
 
-    /// Loads a file. The tree is untouched when the file can't be read (CannotOpenFile) or holds no JSON
-    /// object (InvalidContent); after a later failure it holds the tabs read so far, and the object should be
-    /// discarded. The base URL becomes the URL of the file itself.
+    /// Loads a file. The tree is untouched when the file can't be read (CannotOpenFile), holds no JSON object
+    /// or has text of which something would be lost, its metadata included (InvalidContent); after a later
+    /// failure it holds the tabs read so far, and the object should be discarded. The base URL becomes the
+    /// URL of the file itself.
     Error assignFromFile(const QString &fileName, ValidationOptions options = {});
     Error assignFromJson(const QJsonObject &json, ValidationOptions options = {});
 
@@ -81,8 +82,16 @@ public:
     [[nodiscard]] QByteArray toJson(PropertyConversionFlag flag) const;
     /// The document that toJson writes, for those who would only parse the text.
     [[nodiscard]] QJsonObject toJsonObject(PropertyConversionFlag flag) const;
-    /// Writes toJson(KeepPaths), whole or not at all; false, with a warning, when the file can't be written.
+    /// Writes toJson(KeepPaths), whole or not at all; false, with a warning, for what can't be written.
     Q_INVOKABLE bool save(const QString &fileName) const;
+    /// The same, telling why. InvalidContent names the table or property of which something would be missing,
+    /// or tells that the document is larger than one that can be loaded; MalformedStructure names a tab whose
+    /// columns differ in height; CannotOpenFile is the file's. What stood in the file stays. \a error may be
+    /// null.
+    bool save(const QString &fileName, Error *error) const;
+
+    /// Why toJson would write the document without something that it holds; a success if it writes all.
+    [[nodiscard]] Error checkWritable() const;
 
     /// Deletes every tab and forgets the base URL; the metadata stay. Emits nothing.
     Q_INVOKABLE void clear();
@@ -186,10 +195,12 @@ private:
 
     Error loadExtendedMetadata(const QJsonObject &json);
     Error loadTabs(const QJsonObject &json, ValidationOptions options);
-    /// The first table of each kind that shows metadata.
-    [[nodiscard]] QList<ExtendedMetadataSink *> metadataSinks() const;
+    /// The first item of that type, if it takes metadata.
+    [[nodiscard]] ExtendedMetadataSink *metadataSink(BaseItemType type) const;
     [[nodiscard]] QList<MetadataMapping> generateMetadataMappings(const ExtendedMetadataInfo &info) const;
-    void adoptNewGroup(std::unique_ptr<ItemGroup> group);
+    /// False if somebody who hears of the tab deletes the document.
+    bool adoptNewGroup(std::unique_ptr<ItemGroup> group);
+    [[nodiscard]] Error write(const QString &fileName) const;
     [[nodiscard]] int indexOf(const QString &name) const;
 
     QExplicitlySharedDataPointer<ContentData> d;

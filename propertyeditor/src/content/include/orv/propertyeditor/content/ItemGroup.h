@@ -89,7 +89,8 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] int indexOf(const QString &name) const;
-    void adoptNewSubGroup(std::unique_ptr<ItemSubGroup> subGroup, BaseItemType type);
+    /// False if somebody who hears of the column deletes the tab.
+    bool adoptNewSubGroup(std::unique_ptr<ItemSubGroup> subGroup, BaseItemType type);
 
     class Private;
     QExplicitlySharedDataPointer<Private> d;

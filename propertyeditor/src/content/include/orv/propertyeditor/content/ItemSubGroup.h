@@ -76,9 +76,10 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] static std::unique_ptr<BaseItem> allocateNewItem(BaseItemType type);
-    void adoptNewItem(std::unique_ptr<BaseItem> item);
-    Result<BaseItem *> createItemFromJson(const QJsonObject &json, ValidationOptions options,
-                                          const LoadContext &context);
+    /// False if somebody who hears of the item deletes the column.
+    bool adoptNewItem(std::unique_ptr<BaseItem> item);
+    [[nodiscard]] static Result<std::unique_ptr<BaseItem>>
+    createItemFromJson(const QJsonObject &json, ValidationOptions options, const LoadContext &context);
 
     class Private;
     QExplicitlySharedDataPointer<Private> d;

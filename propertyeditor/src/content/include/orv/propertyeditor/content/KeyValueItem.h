@@ -17,7 +17,7 @@ namespace orv::PropertyEditor {
 
 /// A cell of settings: the typed properties of a search, analysis or report step. Keys are the internal names
 /// of the catalogue. A new item has no properties until a load has run. Mutators answer whether they did it
-/// and log why not.
+/// and log why not; they refuse values that a file can't hold.
 class ORV_WORKFLOW_EXPORT KeyValueItem : public BaseItem
 {
     Q_OBJECT
@@ -36,6 +36,7 @@ public:
     Error assignFromJson(const QJsonObject &json, ValidationOptions options) override;
     Error load(const QJsonObject &json, ValidationOptions options, const LoadContext &context) override;
     void setBaseUrl(const QUrl &url) override;
+    [[nodiscard]] Error checkWritable() const override;
     void clear() override;
 
     [[nodiscard]] int count() const;
@@ -111,7 +112,9 @@ private:
     [[nodiscard]] bool has(const QByteArray &name) const;
     [[nodiscard]] bool warnUnless(bool exists, const QString &key) const;
     bool setListValue(const QString &key, KProperty *property, const QVariant &value);
-    void setPlainValue(KProperty *property, const QVariant &value);
+    bool setPlainValue(KProperty *property, const QVariant &value);
+    /// False, with a warning, for a value that a file can't hold.
+    [[nodiscard]] static bool isStorable(const KProperty &property);
 
     std::unique_ptr<KPropertySet> m_set;
     QUrl m_baseUrl;

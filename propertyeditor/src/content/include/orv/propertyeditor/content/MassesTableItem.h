@@ -45,6 +45,7 @@ public:
 
     QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const override;
     Error load(const QJsonObject &json, ValidationOptions options, const LoadContext &context) override;
+    [[nodiscard]] Error checkWritable() const override;
     void clear() override;
 
 protected:

@@ -1,0 +1,62 @@
+#include <orv/core/FileUtils.h>
+#include <orv/core/Logging.h>
+#include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/content/Content.h>
+#include <orv/propertyeditor/content/ItemGroup.h>
+#include <orv/propertyeditor/content/ItemSubGroup.h>
+
+namespace orv::PropertyEditor {
+
+bool Content::save(const QString &fileName) const
+{
+    return save(fileName, nullptr);
+}
+
+bool Content::save(const QString &fileName, Error *error) const
+{
+    Error failure = write(fileName);
+    if (failure) {
+        qCWarning(propertyEditorLog) << "Cannot save content to the file" << fileName << ":"
+                                     << failure.details().value(0, failure.errorMessage());
+    }
+    const bool isSaved = !failure;
+    if (error)
+        *error = std::move(failure);
+    return isSaved;
+}
+
+Error Content::write(const QString &fileName) const
+{
+    ORV_RETURN_IF_ERROR(checkWritable());
+    const QByteArray json = toJson(PropertyConversionFlag::KeepPaths);
+    ORV_RETURN_IF_ERROR(FileUtils::checkReadable(json));
+    QString deviceError;
+    if (FileUtils::writeToFile(fileName, json, &deviceError) == QFileDevice::NoError)
+        return Error::NoError;
+    return Error(ErrorCode::CannotOpenFile, tr("Could not write the file: %1").arg(fileName))
+        .addDetail(deviceError)
+        .addDetail(tr("Nothing was changed. Save to another folder, or see that this one has room and can be "
+                      "written."));
+}
+
+Error Content::checkWritable() const
+{
+    for (const ItemGroup *group : groups()) {
+        for (const ItemSubGroup *subGroup : group->subGroups()) {
+            const QList<BaseItem *> items = subGroup->items();
+            for (qsizetype row = 0; row < items.size(); ++row) {
+                Error error = items.at(row)->checkWritable();
+                if (error.hasError()) {
+                    return error
+                        .addDetail(tr("Tab \"%1\", column \"%2\", row %3.")
+                                       .arg(group->name(), subGroup->name())
+                                       .arg(row + 1))
+                        .ecatch();
+                }
+            }
+        }
+    }
+    return Error::NoError;
+}
+
+} // namespace orv::PropertyEditor

@@ -1,0 +1,113 @@
+#include "Announce.h"
+
+#include <KPropertySet>
+#include <orv/core/Logging.h>
+#include <orv/propertyeditor/KPropertySetUtils.h>
+#include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/content/KeyValueItem.h>
+
+namespace orv::PropertyEditor {
+
+QString KeyValueItem::group(const QString &key) const
+{
+    return m_set ? QString::fromUtf8(m_set->groupNameForProperty(key.toUtf8())) : QString();
+}
+
+QString KeyValueItem::group(PropertyId id) const
+{
+    return group(PropertiesNames::internalNameForType(id));
+}
+
+QString KeyValueItem::groupCaption(const QString &key) const
+{
+    return m_set ? m_set->groupCaption(m_set->groupNameForProperty(key.toUtf8())) : QString();
+}
+
+QString KeyValueItem::groupCaption(PropertyId id) const
+{
+    return groupCaption(PropertiesNames::internalNameForType(id));
+}
+
+QList<QByteArray> KeyValueItem::groupNames() const
+{
+    return m_set ? m_set->groupNames() : QList<QByteArray>();
+}
+
+bool KeyValueItem::hasGroup(const QString &name) const
+{
+    return groupNames().contains(name.toUtf8());
+}
+
+QList<QByteArray> KeyValueItem::properties(const QByteArray &groupName) const
+{
+    return m_set ? m_set->propertyNamesForGroup(groupName) : QList<QByteArray>();
+}
+
+bool KeyValueItem::setGroup(const QString &key, const QString &group)
+{
+    const QByteArray name = key.toUtf8();
+    if (!warnUnless(has(name), key))
+        return false;
+    const QString oldGroup = this->group(key);
+    if (group.isEmpty()) {
+        qCWarning(propertyEditorLog) << "Cannot move the property" << key << "to an empty group";
+        return false;
+    }
+    if (QString::fromUtf8(KPropertySetUtils::groupName(group)) == oldGroup) {
+        qCWarning(propertyEditorLog) << "Cannot move the property" << key << "to the same group";
+        return false;
+    }
+    auto copy = std::make_unique<KProperty>(m_set->property(name));
+    const QPointer<KeyValueItem> alive(this);
+    remove(key);
+    if (!alive)
+        return false;
+    KPropertySetUtils::insertInKPropertySet(group, copy.release(), m_set.get(), -1);
+    announce(
+        this, [&] { Q_EMIT groupChanged(key, group, oldGroup); }, [this] { Q_EMIT changed(); });
+    return true;
+}
+
+bool KeyValueItem::setGroupCaption(const QString &groupName, const QString &caption)
+{
+    if (!m_set)
+        return false;
+    m_set->setGroupCaption(groupName.toUtf8(), caption);
+    Q_EMIT changed();
+    return true;
+}
+
+bool KeyValueItem::removeGroup(const QString &name)
+{
+    QStringList keys;
+    for (const QByteArray &key : properties(name.toUtf8()))
+        keys.append(QString::fromUtf8(key));
+    return remove(keys);
+}
+
+void KeyValueItem::moveGroup(const QString &group, const QString &afterGroup)
+{
+    if (!m_set)
+        return;
+    struct Moved
+    {
+        QByteArray group;
+        std::unique_ptr<KProperty> property;
+    };
+    const QList<QByteArray> names = m_set->groupNames();
+    std::vector<Moved> moved;
+    for (qsizetype i = names.indexOf(afterGroup.toUtf8()) + 1; i < names.size(); ++i) {
+        const QByteArray &name = names.at(i);
+        if (m_set->groupCaption(name) == group)
+            continue;
+        for (const QByteArray &key : m_set->propertyNamesForGroup(name)) {
+            moved.push_back({name, std::make_unique<KProperty>(m_set->property(key))});
+            m_set->removeProperty(key);
+        }
+    }
+    for (Moved &entry : moved)
+        m_set->addProperty(entry.property.release(), entry.group);
+    Q_EMIT changed();
+}
+
+} // namespace orv::PropertyEditor
