@@ -4,6 +4,7 @@
 #include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/validators/ContentValidator.h>
+#include <orv/propertyeditor/validators/DocumentFindings.h>
 #include <orv/propertyeditor/validators/SampleTypesValidator.h>
 #include <orv/propertyeditor/validators/Validators.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
@@ -43,7 +44,7 @@ void addLines(const QByteArray &text, QList<LocatedFinding> *findings)
 }
 
 QList<LocatedFinding> located(const QList<Finding> &findings, const Content &content,
-                              const WorkflowSource &source)
+                              const WorkflowSource &source, const QList<LocatedFinding> &further)
 {
     FindingPlaces places(content, source.document);
     QList<LocatedFinding> result;
@@ -51,6 +52,7 @@ QList<LocatedFinding> located(const QList<Finding> &findings, const Content &con
         result.append(LocatedFinding{
             places.named(finding.place), finding.level, finding.rule, finding.message, {}, finding.hint});
     }
+    result.append(further);
     addLines(source.text, &result);
     return result;
 }
@@ -125,7 +127,9 @@ Result<WorkflowCheckReport> WorkflowCheck::run(const Content &content, const QUr
     WorkflowCheckReport report;
     QList<Finding> findings;
     report.isValid = validator.validate(*copy, baseUrl, &report.warnings, &report.errors, &findings);
-    report.findings = located(findings, *copy, source);
+    report.findings =
+        located(findings, *copy, source,
+                m_isDefault ? DocumentFindings::of(content, source.document) : QList<LocatedFinding>());
     return report;
 }
 

@@ -69,10 +69,8 @@ bool projectFailedBefore(const QDir &dir, const QString &name, const Content &co
 bool projectFailedBefore(const QDir &dir, const QString &name, const QString &wflwFile)
 {
     Content content;
-    if (const Error error = load(wflwFile, &content)) {
+    if (const Error error = load(wflwFile, &content))
         warn("Cannot read a workflow:", error);
-        return false;
-    }
     return projectFailedBefore(dir, name, content);
 }
 

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace orv::ValueSchema {
 
@@ -48,14 +49,19 @@ QJsonObject with(QJsonObject schema, QLatin1String key, const QJsonValue &value)
     return schema;
 }
 
-/// The limits of a range rule. They hold for numbers alone, so a number as text passes.
-QJsonObject withRange(QJsonObject schema, PropertyId id)
+/// The limits of a range rule, if that is the setting's.
+std::optional<PropertyVerification::Range> rangeOf(PropertyId id)
 {
     const PropertiesCsvReader &catalogue = PropertiesCsvReader::instance();
     if (catalogue.verificationFunction(id).trimmed().compare(QLatin1String("range"), Qt::CaseInsensitive) !=
         0)
-        return schema;
-    const auto range = PropertyVerification::parseRange(catalogue.verificationParameters(id));
+        return {};
+    return PropertyVerification::parseRange(catalogue.verificationParameters(id));
+}
+
+QJsonObject withRange(QJsonObject schema, PropertyId id)
+{
+    const auto range = rangeOf(id);
     if (!range)
         return schema;
     schema.insert(range->lowInclusive ? QLatin1String("minimum") : QLatin1String("exclusiveMinimum"),
@@ -76,9 +82,18 @@ QJsonObject ofInteger(PropertyId id)
     return withRange(typed({"integer"}), id);
 }
 
+/// Engines read 0 from a number that is none in quotes. Limits hold for numbers alone, so words tell them.
 QJsonObject ofDouble(PropertyId id)
 {
-    return withRange(with(typed({"number", "string", "null"}), kPattern, kNumberPattern), id);
+    const QJsonObject schema = with(typed({"string"}), kPattern, kNumberPattern);
+    const auto range = rangeOf(id);
+    if (!range)
+        return schema;
+    return with(schema, kDescription,
+                QStringLiteral("A number in quotes, %1 %2 and %3 %4.")
+                    .arg(range->lowInclusive ? QLatin1String("at least") : QLatin1String("above"), range->low,
+                         range->highInclusive ? QLatin1String("at most") : QLatin1String("below"),
+                         range->high));
 }
 
 QJsonObject ofText(PropertyId id)

@@ -20,17 +20,9 @@ constexpr QLatin1String kSamplesArray("Samples");
 constexpr QLatin1String kSampleNameColumn("SampleName");
 constexpr QLatin1String kSequencesArray("sequences");
 
-/// A type by its exact name, without a word about others: foreign documents are shown too.
-std::optional<BaseItemType> knownType(const QString &text)
-{
-    bool ok = false;
-    const int value = QMetaEnum::fromType<BaseItemType>().keyToValue(text.toUtf8().constData(), &ok);
-    return ok ? std::optional(BaseItemType(value)) : std::nullopt;
-}
-
 const CellType *rowOf(const QString &type)
 {
-    const std::optional<BaseItemType> known = knownType(type);
+    const std::optional<BaseItemType> known = findBaseItemType(type);
     return known ? CellTypes::find(*known) : nullptr;
 }
 

@@ -1,6 +1,8 @@
 #include "orv/propertyeditor/workflow/WorkflowUpgrade.h"
 
 #include <orv/propertyeditor/content/Content.h>
+#include <orv/propertyeditor/content/DocumentStructure.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/workflow/WflwUpgrader.h>
 
 #include <QCoreApplication>
@@ -10,23 +12,25 @@ namespace orv::WorkflowUpgrade {
 namespace {
 
 using State = WflwMetaData::WflwState;
+using PropertyEditorStringConstants::META_IN_JSON_KEY;
 
 struct WorkflowUpgradeTr
 {
     Q_DECLARE_TR_FUNCTIONS(WorkflowUpgrade)
 };
 
-/// What the first step can't take over from the document. Fails where the document can't be loaded, though
-/// its value form, which heals what it can't hold, may well be.
-Result<QList<Loss>> lossesOfLoad(const QJsonObject &document)
+/// What the value form drops of the document, and the first load of what is left.
+QList<Loss> lossesOfLoad(const QJsonObject &document, const PropertyEditorContent &valueForm)
 {
     LossCollector collector;
+    DocumentStructure::reportLosses(document, &collector);
     PropertyEditor::Content content;
     content.setLossObserver(&collector);
+    // A document that can't be loaded fails in the upgrade, where the error belongs, unless a step mends it.
     const Error error =
-        content.assignFromJson(document, PropertyEditor::ValidationOption::SkipTypeValidation);
+        content.assignFromJson(valueForm.document(), PropertyEditor::ValidationOption::SkipTypeValidation);
     content.setLossObserver(nullptr);
-    ORV_RETURN_IF_ERROR(error);
+    Q_UNUSED(error)
     return collector.losses();
 }
 
@@ -70,13 +74,16 @@ WorkflowUpgradeReport run(const QJsonObject &document, const WorkflowUpgradeOpti
 {
     WorkflowUpgradeReport report;
     PropertyEditorContent content(document);
-    report.error = begin(content, &report);
+    report.error = WflwMetaData::faultInText(document.value(META_IN_JSON_KEY).toString());
+    if (!report.error)
+        report.error = begin(content, &report);
     if (report.error || report.from == WflwMetaData::currentWorkflowVersion())
         return report;
-    const Result<QList<Loss>> lost = lossesOfLoad(document);
-    report.error = lost.hasError() ? lost.error() : takeSteps(content, options, &report);
+    report.malformed = DocumentStructure::check(document);
+    const QList<Loss> lost = lossesOfLoad(document, content);
+    report.error = takeSteps(content, options, &report);
     if (report.isChanged)
-        report.lost = *lost;
+        report.lost = lost;
     return report;
 }
 

@@ -35,9 +35,10 @@ struct ORV_WORKFLOW_EXPORT WorkflowUpgradeReport
     QStringList notes;
     bool isChanged = false;
     QList<WorkflowUpgradeStep> steps;
-    /// What the first load of the document drops; every step works on what is left. Empty for a document that
+    /// What is dropped before the first step; every step works on what is left. Empty for a document that
     /// isn't changed, since nothing of it is lost.
     QList<Loss> lost;
+    Error malformed;     ///< of a document that is mended on the way: its only copy must not be written over
     QByteArray upgraded; ///< the text of the new document; empty when nothing is changed
     Error error;         ///< why there is none
 };
