@@ -39,6 +39,8 @@ private Q_SLOTS:
     void anEmptyTypeTextIsUnknownWithoutAWord();
     void anUnknownTypeTextIsLogged();
     void typeTextsAreCaseSensitive();
+    void otherFormsOfATypeTextAreNone_data();
+    void otherFormsOfATypeTextAreNone();
     void commonFieldsAreReadAndWritten();
     void absentFieldsReadAsEmptyAndAreNotWritten();
     void loadingOverwritesTheTypeGivenAtConstruction();
@@ -106,6 +108,25 @@ void TestBaseItem::typeTextsAreCaseSensitive()
     const LogCapture log;
     QCOMPARE(BaseItem::typeFromString(QStringLiteral("samples")), BaseItemType::Unknown);
     QCOMPARE(log.warnings().size(), 1);
+}
+
+void TestBaseItem::otherFormsOfATypeTextAreNone_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("qualified") << QStringLiteral("orv::ORV_QEnumsBaseItemType::Isotope");
+    QTest::newRow("qualified by its enumeration") << QStringLiteral("BaseItemType::Isotope");
+    QTest::newRow("behind a zero byte") << QStringLiteral("Isotope") + QChar(u'\0') + QLatin1Char('x');
+    QTest::newRow("with a blank") << QStringLiteral("Isotope ");
+    QTest::newRow("two at once") << QStringLiteral("Isotope|Masses");
+}
+
+void TestBaseItem::otherFormsOfATypeTextAreNone()
+{
+    const LogCapture log;
+    QFETCH(QString, text);
+    QCOMPARE(BaseItem::typeFromString(text), BaseItemType::Unknown);
+    QCOMPARE(log.warnings().size(), 1);
+    QVERIFY(!findBaseItemType(text));
 }
 
 void TestBaseItem::commonFieldsAreReadAndWritten()

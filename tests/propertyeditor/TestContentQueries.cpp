@@ -2,10 +2,12 @@
 #include "LogCapture.h"
 #include "OrvTest.h"
 
+#include <orv/chemistry/ProteinGenerator.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/ExtendedMetadataSink.h>
+#include <orv/propertyeditor/content/IntactProteinsTableItem.h>
 #include <orv/propertyeditor/content/ItemGroup.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/resources/ResourceReferenceUtils.h>
@@ -128,6 +130,8 @@ private Q_SLOTS:
     void theSecondDatabaseTableStays();
     void settingsKeepTheirReferences();
     void metadataReachTheirSamples();
+    void metadataComeInOneOrder();
+    void emptyReferencesAreNone();
     void eachSinkGetsWhatIsMeantForIt();
     void applicationsAreToldByTheirReferences();
     void coresFollowTheMode();
@@ -309,6 +313,41 @@ void TestContentQueries::metadataReachTheirSamples()
     content.setMetadataMappingConnections({});
     content.updateMetadataContent();
     QVERIFY(!content.samplesAndTraces().samples.samples.at(1).customValues.contains(u"temperature"_s));
+}
+
+void TestContentQueries::metadataComeInOneOrder()
+{
+    Content content;
+    load(&content, {Documents::cell(u"IntactProteins"_s)});
+    content.setMetadataMappingConnections({connection(u"chain"_s, MappingTarget::IntactProteins)});
+    ExtendedMetadataInfo::MetadataCache cache;
+    for (int i = 0; i < 40; ++i) {
+        TalvaneExtendedMetaDataValue value;
+        value.attribute = u"chain"_s;
+        value.value = QString(i + 1, u'A');
+        cache.insert(ResourceReferenceUtils::fromString(u"%1.raw"_s.arg(i, 2, 10, QLatin1Char('0'))),
+                     {value});
+    }
+    content.setMetadataCache(cache);
+    const LogCapture log;
+    content.updateMetadataContent();
+    const auto *proteins =
+        qobject_cast<IntactProteinsTableItem *>(content.findAllItems(BaseItemType::IntactProteins).first());
+    const Result<ProteinGenerator::InputOptions> options =
+        ProteinGenerator::parseInputOptions(proteins->root());
+    ORV_VERIFY_OK(options);
+    QCOMPARE(options->chains.size(), 40);
+    for (int i = 0; i < 40; ++i) {
+        QCOMPARE(options->chains.at(i).number, i + 1);
+        QCOMPARE(options->chains.at(i).sequence.size(), i + 1);
+    }
+}
+
+void TestContentQueries::emptyReferencesAreNone()
+{
+    Content content;
+    load(&content, {database({u"human.fasta"_s, u""_s}), settings(u"Karvon"_s, {entry(60, u""_s)})});
+    QCOMPARE(texts(content.allReferences()), QStringList(u"human.fasta"_s));
 }
 
 void TestContentQueries::eachSinkGetsWhatIsMeantForIt()

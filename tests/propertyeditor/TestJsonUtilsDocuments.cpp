@@ -78,8 +78,6 @@ void TestJsonUtilsDocuments::whatIsNoTableReadsAsAnEmptyOne_data()
     QTest::addColumn<QJsonObject>("object");
     QTest::newRow("data") << QJsonObject{{u"data"_s, u"text"_s}};
     QTest::newRow("rows") << QJsonObject{{u"data"_s, QJsonArray{u"a"_s}}, {u"children"_s, QJsonArray{5}}};
-    QTest::newRow("a cell of an unknown kind")
-        << QJsonObject{{u"data"_s, QJsonArray{QJsonObject{{u"$odd"_s, 1}}}}};
 }
 
 void TestJsonUtilsDocuments::whatIsNoTableReadsAsAnEmptyOne()

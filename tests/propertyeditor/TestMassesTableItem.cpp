@@ -34,6 +34,7 @@ private Q_SLOTS:
     void anIncompleteToleranceBecomesTheDefault();
     void aSecondLoadForgetsTheTolerance();
     void aFailedLoadPassesTheErrorOn();
+    void aFailedSecondLoadInventsNoTolerance();
     void aToleranceThatIsSetIsWritten();
     void aUnitThatIsSetIsWritten();
     void otherUnitsAreRefused_data();
@@ -148,6 +149,20 @@ void TestMassesTableItem::aFailedLoadPassesTheErrorOn()
     const Error error = item.assignFromJson(cell(u"Masses"_s, {tolerance(30.5, u"ppm"_s)}), {});
     QCOMPARE(error.code(), ErrorCode::MalformedStructure);
     QCOMPARE(error.errorMessage(), u"Could not parse JSON. Subobject \"MassTable\" is empty."_s);
+}
+
+void TestMassesTableItem::aFailedSecondLoadInventsNoTolerance()
+{
+    MassesTableItem item;
+    ORV_VERIFY_OK(item.assignFromJson(
+        cell(u"Masses"_s, {entry(u"MassTable"_s, node({})),
+                           entry(u"MatchTolerance"_s, node({u"Value"_s, u"Unit"_s}, {{5.0, u"ppm"_s}}))}),
+        {}));
+    const LogCapture log;
+    QVERIFY(item.assignFromJson(cell(u"Masses"_s, {}), {}).hasError());
+    QVERIFY(!item.hasMatchTolerance());
+    const QJsonArray entries = item.toJson(PropertyConversionFlag::KeepPaths)["properties"_L1].toArray();
+    QCOMPARE(entries.size(), 1);
 }
 
 void TestMassesTableItem::aToleranceThatIsSetIsWritten()

@@ -285,11 +285,12 @@ void TestPropertySetCreator::membersOfOtherTypesAreDroppedAndTold()
     LossCollector losses;
     const OwnedSet set = load(object, {}, PropertyEditor::LoadContext(&losses, u"/cell"_s));
     QVERIFY(set);
-    QCOMPARE(set->count(), 2); // ":Type" and ":metadata"
+    QCOMPARE(set->count(), 2); // ":type" and ":metadata"
+    QCOMPARE(set->propertyValue(":type"), QVariant(u"Karvon"_s));
     QStringList paths;
     for (const Loss &loss : losses.losses())
         paths.append(loss.path);
-    QCOMPARE(paths, QStringList({u"/cell/list"_s, u"/cell/nothing"_s, u"/cell/object"_s, u"/cell/type"_s}));
+    QCOMPARE(paths, QStringList({u"/cell/Type"_s, u"/cell/list"_s, u"/cell/nothing"_s, u"/cell/object"_s}));
 }
 
 void TestPropertySetCreator::entriesKeepGroupAndOrder()

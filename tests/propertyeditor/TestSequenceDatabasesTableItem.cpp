@@ -110,6 +110,8 @@ void TestSequenceDatabasesTableItem::otherValuesAreRefused_data()
     QTest::newRow("number") << QJsonValue(5);
     QTest::newRow("object without sequences") << QJsonValue(QJsonObject());
     QTest::newRow("sequences that are no array") << QJsonValue(QJsonObject{{u"sequences"_s, 1}});
+    QTest::newRow("rows that are no objects")
+        << QJsonValue(QJsonObject{{u"sequences"_s, QJsonArray{5, u"x"_s}}});
     QTest::newRow("broken row") << QJsonValue(
         QJsonObject{{u"sequences"_s, QJsonArray{QJsonObject{{u"id"_s, QJsonArray()}}}}});
 }

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void settingsAreExplained();
     void valuesHaveTheirForm_data();
     void valuesHaveTheirForm();
+    void doublesTellTheirLimits();
 };
 
 namespace {
@@ -143,16 +144,24 @@ void TestWorkflowSchema::valuesHaveTheirForm_data()
     const auto row = [](const char *what, const char *name, const char *key, const QJsonValue &expected) {
         QTest::newRow(what) << QString::fromLatin1(name) << QString::fromLatin1(key) << expected;
     };
-    row("numbers have their lower limit", "AlignmentTolerance", "minimum", 0);
-    row("numbers have their upper limit", "AlignmentTolerance", "maximum", 1000);
-    row("doubles may be texts", "AlignmentTolerance", "type",
-        QJsonArray{u"number"_s, u"string"_s, u"null"_s});
+    row("integers have their lower limit", "KarvonCentroidTopk", "minimum", 0);
+    row("doubles are texts alone, as engines read them", "AlignmentTolerance", "type", u"string"_s);
+    row("doubles have no limits that hold for numbers alone", "AlignmentTolerance", "maximum",
+        QJsonValue(QJsonValue::Undefined));
     row("switches may be anything that a switch reads", "AlignmentEnabled", "type",
         QJsonArray{u"string"_s, u"boolean"_s, u"number"_s, u"null"_s});
     row("texts are texts", "AdvancedConfiguration", "type", u"string"_s);
     row("objects may be texts", "KarvonPrecursorMassError", "type", QJsonArray{u"object"_s, u"string"_s});
     row("lists have texts and positions", "BpiPeakMethod", "enum",
         QJsonArray{u"Disable"_s, u"Enable"_s, 0, 1});
+}
+
+void TestWorkflowSchema::doublesTellTheirLimits()
+{
+    QVERIFY(valueOf(u"AlignmentTolerance"_s)
+                .value(u"description"_s)
+                .toString()
+                .endsWith(u"A number in quotes, at least 0 and at most 1000."_s));
 }
 
 void TestWorkflowSchema::valuesHaveTheirForm()

@@ -1,4 +1,5 @@
 // What an upgrade tells: state, steps to review, losses, notes and the new text.
+#include "LogCapture.h"
 #include "OrvTest.h"
 #include "TestData.h"
 #include "UpgradeDocuments.h"
@@ -52,7 +53,10 @@ private Q_SLOTS:
     void lossesOfTheFirstLoadAreTold();
     void whatIsNotChangedLosesNothing_data();
     void whatIsNotChangedLosesNothing();
-    void aDocumentThatCannotBeLoadedIsNotHealedInSilence();
+    void whatTheValueFormDropsIsTold_data();
+    void whatTheValueFormDropsIsTold();
+    void theModeOfOldDocumentsIsNotLost();
+    void faultyMetadataAreRefused();
     void whatHasNoTabsIsNoWorkflow();
     void newerDocumentsAreRefusedWithTheirState();
     void aStepThatFailsIsTold();
@@ -159,16 +163,58 @@ void TestWorkflowUpgrade::whatIsNotChangedLosesNothing()
     QCOMPARE(report.lost.size(), 0);
 }
 
-void TestWorkflowUpgrade::aDocumentThatCannotBeLoadedIsNotHealedInSilence()
+void TestWorkflowUpgrade::whatTheValueFormDropsIsTold_data()
 {
-    QJsonObject broken = document(WorkflowType::PeptideMap, {}, u"5.20.0"_s).document();
-    QJsonObject tab = Documents::tab(u"Map"_s, {u"Map"_s}, {});
-    tab.insert(u"cells"_s, QJsonObject{{u"0"_s, cell(u"Senthia"_s, {{Id::CreateXicCache, u"true"_s}})}});
-    broken.insert(u"tabs"_s, QJsonArray{tab});
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QJsonValue>("broken");
+    QTest::addColumn<QString>("path");
+    const QJsonObject settings = cell(u"Senthia"_s, {});
+    QTest::newRow("cells in an object")
+        << u"cells"_s << QJsonValue(QJsonObject{{u"0"_s, settings}}) << u"/tabs/0/cells"_s;
+    QTest::newRow("a cell that is a text")
+        << u"cells"_s << QJsonValue(QJsonArray{settings, u"x"_s}) << u"/tabs/0/cells/1"_s;
+    QTest::newRow("columns in a text") << u"columns"_s << QJsonValue(u"A"_s) << u"/tabs/0/columns"_s;
+    QTest::newRow("a name that is a number") << u"name"_s << QJsonValue(5) << u"/tabs/0/name"_s;
+}
+
+void TestWorkflowUpgrade::whatTheValueFormDropsIsTold()
+{
     const LogCapture log;
-    const WorkflowUpgradeReport report = WorkflowUpgrade::run(broken, {});
-    QVERIFY(report.error.hasError());
-    QVERIFY(!report.isChanged && report.upgraded.isEmpty());
+    QFETCH(QString, key);
+    QFETCH(QJsonValue, broken);
+    QFETCH(QString, path);
+    QJsonObject json = document(WorkflowType::PeptideMap, {cell(u"Senthia"_s, {})}, u"5.20.0"_s).document();
+    QJsonArray tabs = json["tabs"_L1].toArray();
+    QJsonObject tab = tabs.first().toObject();
+    tab.insert(key, broken);
+    tabs.replace(0, tab);
+    json.insert("tabs"_L1, tabs);
+    const WorkflowUpgradeReport report = WorkflowUpgrade::run(json, {.accessSampleData = false});
+    QCOMPARE(report.malformed.code(), ErrorCode::MalformedStructure);
+    QVERIFY(report.malformed.details().contains(u"Tab 1."_s));
+    QVERIFY(std::ranges::any_of(report.lost, [&path](const Loss &loss) { return loss.path == path; }));
+}
+
+void TestWorkflowUpgrade::theModeOfOldDocumentsIsNotLost()
+{
+    const UpgradeRuns::WithoutSampleFiles expected;
+    QJsonObject json = document(WorkflowType::PeptideMap, {cell(u"Senthia"_s, {})}, u"5.40.0"_s).document();
+    json.insert("projectCreationMode"_L1, 1);
+    const WorkflowUpgradeReport report = WorkflowUpgrade::run(json, {.accessSampleData = false});
+    QVERIFY(!report.error.hasError());
+    QVERIFY(!report.malformed.hasError());
+    QCOMPARE(report.lost.size(), 0);
+    QCOMPARE(PropertyEditorContent(report.upgraded).metadata()["contentMode"_L1].toInt(), 1);
+}
+
+void TestWorkflowUpgrade::faultyMetadataAreRefused()
+{
+    QJsonObject json = document(WorkflowType::PeptideMap, {cell(u"Senthia"_s, {})}, u"5.40.0"_s).document();
+    json.insert("metadata"_L1, uR"({"version":"5.40.0","icon":"D:\Data"})"_s);
+    const WorkflowUpgradeReport report = WorkflowUpgrade::run(json, {.accessSampleData = false});
+    QCOMPARE(report.error.code(), ErrorCode::InvalidContent);
+    QCOMPARE(report.error.errorMessage(), u"the escape \\D is none that JSON knows"_s);
+    QVERIFY(!report.isChanged);
 }
 
 void TestWorkflowUpgrade::whatHasNoTabsIsNoWorkflow()
