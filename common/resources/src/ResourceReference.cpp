@@ -3,6 +3,8 @@
 #include "internal/LocalPath.h"
 #include "internal/SchemeText.h"
 
+#include <orv/resources/ResourceReferenceUtils.h>
+
 #include <QCoreApplication>
 #include <QDir>
 
@@ -22,8 +24,8 @@ struct ResourceReferenceTr
 
 Error notAReference(const QString &text, const QString &reason)
 {
-    return Error(ErrorCode::InvalidContent,
-                 ResourceReferenceTr::tr("\"%1\" is not a reference to a file.").arg(text))
+    return Error(ErrorCode::InvalidContent, ResourceReferenceTr::tr("\"%1\" is not a reference to a file.")
+                                                .arg(ResourceReferenceUtils::withoutCredentials(text)))
         .addDetail(reason);
 }
 

@@ -5,6 +5,7 @@
 #include <orv/core/Logging.h>
 
 #include <QDir>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -15,6 +16,14 @@ QString toString(const ResourceReferenceSPtr &reference, bool readable)
     if (!reference)
         return {};
     return readable ? reference->readableText() : reference->text();
+}
+
+QString withoutCredentials(const QString &text)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral(R"((?:(\bunifi:/{1,3})[^/"<>\n]*|(\b[a-z][a-z0-9+.-]*://)[^/\s"<>]*)(?:@|%40))"),
+        QRegularExpression::CaseInsensitiveOption);
+    return QString(text).replace(pattern, QStringLiteral("\\1\\2"));
 }
 
 QStringList toStringList(const QList<ResourceReferenceSPtr> &references, bool readable)

@@ -20,7 +20,9 @@ bool checkExistence(CheckRun &run, const ResourceReferenceSPtr &reference)
     if (exists.hasError())
         qCWarning(propertyEditorLog).noquote() << exists.error().errorMessage();
     else if (!*exists)
-        qCWarning(propertyEditorLog) << "File" << reference->text() << "doesn't exist";
+        qCWarning(propertyEditorLog) << "File"
+                                     << ResourceReferenceUtils::withoutCredentials(reference->text())
+                                     << "doesn't exist";
     return exists.valueOr(false);
 }
 

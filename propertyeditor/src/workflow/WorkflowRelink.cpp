@@ -77,6 +77,11 @@ Error checkRules(const QList<WorkflowRelinkRule> &rules)
     return Error::NoError;
 }
 
+QString shown(const QString &text)
+{
+    return ResourceReferenceUtils::withoutCredentials(text);
+}
+
 /// A text of any setting is taken for a path if it begins with an absolute one.
 QList<WorkflowRelinkRule> rulesForAnyText(QList<WorkflowRelinkRule> rules)
 {
@@ -102,12 +107,13 @@ Result<WorkflowRelinkReport> run(const QJsonObject &document, const QList<Workfl
         const bool isPlain = kind == Kind::PlainText;
         const std::optional<QString> moved = isPlain ? absolutePaths.moved(text) : paths.moved(text);
         if (moved && *moved != text) {
-            report.relinked.append({place.path, place.pointer, text, *moved, resources.exist(kind, *moved)});
+            report.relinked.append(
+                {place.path, place.pointer, shown(text), shown(*moved), resources.exist(kind, *moved)});
             return moved;
         }
         const std::optional<bool> exists = isPlain ? true : resources.exist(kind, text);
         if (exists != true)
-            report.left.append({place.path, place.pointer, text, exists});
+            report.left.append({place.path, place.pointer, shown(text), exists});
         return std::optional<QString>();
     });
     report.document = walk.walk(document);

@@ -2,8 +2,12 @@
 
 #include <orv/propertyeditor/PropertySetCreator.h>
 #include <orv/propertyeditor/workflow/WorkflowDifferences.h>
+#include <orv/resources/ResourceReferenceUtils.h>
 
 #include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QSet>
 
 #include <algorithm>
@@ -37,10 +41,29 @@ bool isUsualPriority(const WorkflowDifference &difference)
            difference.right == QJsonValue(int(PropertySetCreator::Priority::High));
 }
 
+/// Old documents name servers with users and passwords, which nobody reviews.
+QJsonValue withoutCredentials(const QJsonValue &value)
+{
+    if (value.isString())
+        return ResourceReferenceUtils::withoutCredentials(value.toString());
+    if (!value.isArray() && !value.isObject())
+        return value;
+    // As a text, so that keys and values of any depth are cleaned alike.
+    const QJsonDocument document =
+        value.isArray() ? QJsonDocument(value.toArray()) : QJsonDocument(value.toObject());
+    const QString text = QString::fromUtf8(document.toJson(QJsonDocument::Compact));
+    const QString clean = ResourceReferenceUtils::withoutCredentials(text);
+    if (clean == text)
+        return value;
+    const QJsonDocument shown = QJsonDocument::fromJson(clean.toUtf8());
+    return value.isArray() ? QJsonValue(shown.array()) : QJsonValue(shown.object());
+}
+
 WorkflowUpgradeChange changeOf(const WorkflowDifference &difference)
 {
-    WorkflowUpgradeChange change{WorkflowUpgradeChange::Kind::Changed, difference.path, difference.property,
-                                 difference.left, difference.right};
+    WorkflowUpgradeChange change{
+        WorkflowUpgradeChange::Kind::Changed, ResourceReferenceUtils::withoutCredentials(difference.path),
+        difference.property, withoutCredentials(difference.left), withoutCredentials(difference.right)};
     if (difference.kind == WorkflowDifference::Kind::Added)
         change.kind = WorkflowUpgradeChange::Kind::Added;
     if (difference.kind == WorkflowDifference::Kind::Removed)

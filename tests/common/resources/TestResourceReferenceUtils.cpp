@@ -18,6 +18,9 @@ class TestResourceReferenceUtils : public OrvTest
 
 private Q_SLOTS:
     void noReferenceHasNoTextNameAndType();
+    void nobodySeesCredentials_data();
+    void nobodySeesCredentials();
+    void errorsHoldNoCredentials();
     void anEmptyTextGivesNoReference();
     void aTextThatIsNoReferenceIsLogged();
     void listsLeaveOutWhatIsNoReference();
@@ -36,6 +39,43 @@ void TestResourceReferenceUtils::noReferenceHasNoTextNameAndType()
     QCOMPARE(ResourceReferenceUtils::toString({}, true), QString());
     QCOMPARE(ResourceReferenceUtils::localName({}), QString());
     QCOMPARE(ResourceReferenceUtils::type({}), FileTypes::Invalid);
+}
+
+void TestResourceReferenceUtils::nobodySeesCredentials_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("old item") << u"unifi:/ann:pw@lab/Runs/inj"_s << u"unifi:/lab/Runs/inj"_s;
+    QTest::newRow("item") << u"unifi:/ann:pw@lab/{0b61}/Runs/inj"_s << u"unifi:/lab/{0b61}/Runs/inj"_s;
+    QTest::newRow("odd password") << u"UNIFI:/ann:p@ w:@lab/Runs/inj"_s << u"UNIFI:/lab/Runs/inj"_s;
+    QTest::newRow("encoded") << u"unifi:/ann%3Apw%40lab/Runs/inj"_s << u"unifi:/lab/Runs/inj"_s;
+    QTest::newRow("address") << u"see https://ann:pw@lab.example:50034/x."_s
+                             << u"see https://lab.example:50034/x."_s;
+    QTest::newRow("several") << u"unifi:/a:b@x/n and unifi:/c:d@y/n"_s << u"unifi:/x/n and unifi:/y/n"_s;
+    QTest::newRow("none") << u"unifi:/lab/Runs/a@b"_s << u"unifi:/lab/Runs/a@b"_s;
+    QTest::newRow("folders") << u"talvane:/ann@home/a.tolq"_s << u"talvane:/ann@home/a.tolq"_s;
+    QTest::newRow("path") << u"/home/ann@lab/a.raw"_s << u"/home/ann@lab/a.raw"_s;
+    QTest::newRow("file") << u"file:///home/ann@lab/a.raw"_s << u"file:///home/ann@lab/a.raw"_s;
+}
+
+void TestResourceReferenceUtils::nobodySeesCredentials()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, shown);
+    QCOMPARE(ResourceReferenceUtils::withoutCredentials(text), shown);
+    const Result<ResourceReferenceSPtr> reference = ResourceReference::fromString(text);
+    if (!reference.hasError() && (*reference)->isScheme(Scheme::UNIFI))
+        QVERIFY2(!(*reference)->readableText().contains(u"pw"_s), qPrintable((*reference)->readableText()));
+}
+
+void TestResourceReferenceUtils::errorsHoldNoCredentials()
+{
+    for (const QString &text : {u"unifi:/ann:pw@lab/{0b61"_s, u"service://ann:pw@lab/x"_s}) {
+        const Result<ResourceReferenceSPtr> reference = ResourceReference::fromString(text);
+        QVERIFY(reference.hasError());
+        const QStringList texts = reference.error().errorMessages() + reference.error().details();
+        QVERIFY2(!texts.join(u'|').contains(u"pw"_s), qPrintable(texts.join(u'|')));
+    }
 }
 
 void TestResourceReferenceUtils::anEmptyTextGivesNoReference()

@@ -3,6 +3,7 @@
 #include <orv/core/JsonUtils.h>
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 #include <array>
 
@@ -68,11 +69,18 @@ Error make(ErrorCode code, const char *message, const ServerSettings &server, co
         .addDetail(QString(advice).replace(QLatin1String("%2"), server.tokenVariable()));
 }
 
-/// A server may repeat what it was sent.
+/// A server may repeat what it was sent, in another case and with percent codes, also those of such codes.
 QString withoutToken(const ServerSettings &server, QString text)
 {
-    if (!server.token().isEmpty())
-        text.replace(QString::fromLatin1(server.token()), QLatin1String("..."));
+    QString pattern;
+    for (const char c : server.token()) {
+        pattern += QStringLiteral("(?:%1|%(?:25)*%2)")
+                       .arg(QRegularExpression::escape(QString(QLatin1Char(c))),
+                            QString::number(uchar(c), 16).rightJustified(2, u'0'));
+    }
+    if (!pattern.isEmpty())
+        text.replace(QRegularExpression(pattern, QRegularExpression::CaseInsensitiveOption),
+                     QStringLiteral("..."));
     return text;
 }
 

@@ -1,6 +1,7 @@
 #include "SchemeText.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
@@ -139,16 +140,25 @@ Result<Parts> readUnifi(const QString &rest)
     return Parts{server, decoded(tail.mid(2, end - 2)), folder, decoded(name)};
 }
 
-QString readableUnifi(const Parts &parts)
+QString writeOldUnifi(const Parts &parts)
 {
     const QString tail = parts.folder.isEmpty() ? parts.name : parts.folder + kSlash + parts.name;
     return parts.server + kSlash + tail;
 }
 
+/// Old documents may hold the user and the password with which a server was asked.
+QString readableUnifi(const Parts &parts)
+{
+    static const QRegularExpression atSign(QStringLiteral("@|%40"));
+    Parts shown = parts;
+    shown.server = parts.server.section(atSign, -1);
+    return writeOldUnifi(shown);
+}
+
 QString writeUnifi(const Parts &parts)
 {
     if (parts.id.isEmpty())
-        return readableUnifi(parts);
+        return writeOldUnifi(parts);
     return parts.server + QLatin1String("/{") + encoded(parts.id) + QLatin1String("}/") + parts.folder +
            kSlash + encoded(parts.name);
 }

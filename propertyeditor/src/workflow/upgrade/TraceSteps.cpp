@@ -64,16 +64,22 @@ public:
     [[nodiscard]] const QList<ResourceReferenceSPtr> &files() const { return m_corrected; }
 
 private:
+    /// The items of old documents can be asked for only when a later step has given them their identifiers.
+    static bool lacksIdentifier(const ResourceReference &reference)
+    {
+        return reference.isScheme(ResourceReference::Scheme::UNIFI) && reference.parts().id.isEmpty();
+    }
+
     Error correct(ResourceReferenceSPtr *file, SampleWithCustomColumns *sample)
     {
-        if (!*file || !m_known.contains(*file))
+        if (!*file || !m_known.contains(*file) || lacksIdentifier(**file))
             return Error::NoError;
         Result<ResourceReferenceSPtr> corrected = m_manager.validateAndCorrectFileReference(*file);
         if (corrected.hasError()) {
             const Error cause = corrected.ecatch();
             return failure(QObject::tr("Upgrade not possible. An error occured while trying to access the "
                                        "file: %1.")
-                               .arg((*file)->text()),
+                               .arg(ResourceReferenceUtils::withoutCredentials((*file)->text())),
                            (cause.errorMessages() + cause.details()).join(QLatin1Char(' ')));
         }
         sample->moveFileMetadata((*file)->text(), (*corrected)->text());

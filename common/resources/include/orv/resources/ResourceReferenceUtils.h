@@ -16,6 +16,9 @@ namespace orv::ResourceReferenceUtils {
 /// The stored form, or with \a readable the form for people; empty for a null reference.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QString toString(const ResourceReferenceSPtr &reference,
                                                    bool readable = false);
+/// \a text, which may hold several references or addresses, without the users and passwords in front of their
+/// servers, as old documents have them. For every text that people or logs get to see.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QString withoutCredentials(const QString &text);
 /// The texts of all references but null ones.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QStringList toStringList(const QList<ResourceReferenceSPtr> &references,
                                                            bool readable = false);
