@@ -2,12 +2,14 @@
 
 #include <orv/core/FileExtensionsNameFilter.h>
 #include <orv/core/FileNameUtils.h>
+#include <orv/core/FilePathUtils.h>
 #include <orv/core/JsonUtils.h>
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
+#include <orv/resources/ResourceHandlerUtils.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 
 #include <QCoreApplication>
@@ -80,6 +82,8 @@ QUrl sourceUrl(const ResourceReferenceSPtr &reference, const QUrl &baseUrl)
         return {};
     if (!reference->isScheme(ResourceReference::Scheme::LocalFile))
         return QUrl(text);
+    if (FilePathUtils::isUncPath(text))
+        return QUrl::fromLocalFile(ResourceHandlerUtils::fullPath(reference));
     if (!ResourceReferenceUtils::isRelative(reference))
         return QDir::isAbsolutePath(text) ? QUrl::fromLocalFile(text) : QUrl::fromUserInput(text);
     const QString path = ResourceReferenceUtils::resolved(reference, baseUrl)->text();
@@ -89,6 +93,8 @@ QUrl sourceUrl(const ResourceReferenceSPtr &reference, const QUrl &baseUrl)
 /// Where the glycan database is that the text in brackets names.
 QString glycanDatabasePath(const QString &text, const QUrl &baseUrl)
 {
+    if (FilePathUtils::isUncPath(text))
+        return FilePathUtils::withoutWinLongPathPrefix(text).replace(QLatin1Char('\\'), QLatin1Char('/'));
     const QDir base(QFileInfo(baseUrl.toLocalFile()).path());
     const QUrl url(text);
     if (url.isRelative())
@@ -107,6 +113,28 @@ QStringList textsInBrackets(const QString &text)
     texts.removeDuplicates();
     texts.removeAll(QString());
     return texts;
+}
+
+/// A name may look like another form, such as "file:a.xml", which a folder in front prevents.
+Result<ResourceReferenceSPtr> referenceToName(const QString &name)
+{
+    Result<ResourceReferenceSPtr> reference = ResourceReference::fromString(name);
+    if (reference.hasError() || (*reference)->text() != name ||
+        !(*reference)->isScheme(ResourceReference::Scheme::LocalFile))
+        reference = ResourceReference::fromString(QLatin1String("./") + name);
+    if (reference.hasError())
+        return reference.ecatch();
+    return reference;
+}
+
+void tellDangling(const Content &content, const QString &folder, PortableSaveObserver *observer)
+{
+    const QDir home(folder);
+    for (const ResourceReferenceSPtr &reference : content.allReferences()) {
+        if (ResourceReferenceUtils::isRelative(reference) &&
+            !QFileInfo::exists(home.filePath(ResourceHandlerUtils::fullPath(reference))))
+            observer->dangling(reference->text());
+    }
 }
 
 QString bracketed(const QString &text)
@@ -131,6 +159,8 @@ PortableSaveObserver::~PortableSaveObserver() = default;
 void PortableSaveObserver::copying(const QString & /*source*/, qint64 /*done*/, qint64 /*total*/) {}
 
 void PortableSaveObserver::copied(const QString & /*source*/, const QString & /*destination*/) {}
+
+void PortableSaveObserver::dangling(const QString & /*text*/) {}
 
 void PortableSaveObserver::failed(Side /*side*/) {}
 
@@ -230,6 +260,7 @@ bool WflwUtils::saveAsPortableWorkflow(const Content &content, const QString &fo
         target.observer->failed(Side::Destination);
         return false;
     }
+    tellDangling(*copy, folder, target.observer);
     return true;
 }
 
@@ -253,9 +284,14 @@ bool WflwUtils::copyReference(KeyValueItem *item, const QString &key, const Port
     if (!reference)
         return true;
     QString copy;
-    if (!copyFile(sourceUrl(reference, target.baseUrl), target, &copy, error))
+    const QUrl source = sourceUrl(reference, target.baseUrl);
+    if (source.isEmpty() && !reference->isEmpty()) {
+        reportNotValid(ResourceReferenceUtils::toString(reference, true), target, error);
         return false;
-    Result<ResourceReferenceSPtr> moved = ResourceReference::fromString(QFileInfo(copy).fileName());
+    }
+    if (!copyFile(source, target, &copy, error))
+        return false;
+    Result<ResourceReferenceSPtr> moved = referenceToName(QFileInfo(copy).fileName());
     if (moved.hasError()) {
         *error = moved.ecatch().errorMessage();
         target.observer->failed(Side::Source);
@@ -284,14 +320,19 @@ bool WflwUtils::copyGlycanDatabases(KeyValueItem *item, const QString &key, cons
     return true;
 }
 
+void WflwUtils::reportNotValid(const QString &text, const PortableFolder &target, QString *error)
+{
+    *error = tr("URL \"%1\" is not valid").arg(text);
+    target.observer->failed(Side::Source);
+}
+
 bool WflwUtils::copyFile(const QUrl &source, const PortableFolder &target, QString *destination,
                          QString *error)
 {
     if (source.isEmpty())
         return true;
     if (!source.isValid() || !source.isLocalFile()) {
-        *error = tr("URL \"%1\" is not valid").arg(source.toString());
-        target.observer->failed(Side::Source);
+        reportNotValid(source.toString(QUrl::RemoveUserInfo), target, error);
         return false;
     }
     const QString path = source.toLocalFile();

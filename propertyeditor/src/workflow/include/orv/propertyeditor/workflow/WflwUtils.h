@@ -30,6 +30,9 @@ public:
     /// Bytes of one file, again and again while it is copied.
     virtual void copying(const QString &source, qint64 done, qint64 total);
     virtual void copied(const QString &source, const QString &destination);
+    /// A file that isn't carried along, such as one of a sample, and that the workflow in the folder doesn't
+    /// find, as its path \a text is relative. Told once the folder is complete.
+    virtual void dangling(const QString &text);
     /// The save ends here; \a side tells whether a file that the workflow names is the cause, or the folder.
     virtual void failed(FileUtils::CopyFailure::Side side);
 };
@@ -77,6 +80,7 @@ private:
                               const PortableFolder &target, QString *error);
     static bool copyGlycanDatabases(PropertyEditor::KeyValueItem *item, const QString &key,
                                     const PortableFolder &target, QString *error);
+    static void reportNotValid(const QString &text, const PortableFolder &target, QString *error);
     static bool copyFile(const QUrl &source, const PortableFolder &target, QString *destination,
                          QString *error);
 };
