@@ -276,9 +276,11 @@ Error SqliteConnection::execute(const QString &statement, const QVariantList &va
 
 Result<bool> SqliteConnection::hasTable(const QString &table) const
 {
+    // A column that is hidden in the second way is computed whenever it is read.
     const auto found = rows(QStringLiteral("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ? "
-                                           "COLLATE NOCASE AND sql LIKE 'CREATE TABLE%' LIMIT 1"),
-                            {table});
+                                           "COLLATE NOCASE AND sql LIKE 'CREATE TABLE%' AND NOT EXISTS "
+                                           "(SELECT 1 FROM pragma_table_xinfo(?) WHERE hidden = 2) LIMIT 1"),
+                            {table, table});
     if (!found)
         return Error(found.error()).ecatch();
     return !found->isEmpty();

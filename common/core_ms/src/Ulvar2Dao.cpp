@@ -93,18 +93,30 @@ Error Ulvar2Dao::open(const QString &path)
     return cannotOpen(path, reason).ecatch();
 }
 
+/// Whether to read the records is to read what the file stores. A view or virtual table of that name, and a
+/// column whose values are computed as they are read, could keep SQLite busy without end.
+Error Ulvar2Dao::checkTable(QSqlQuery &query) const
+{
+    if (!query.exec(QStringLiteral("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = 'Info' "
+                                   "AND sql LIKE 'CREATE TABLE%'")))
+        return damaged(m_path, query.lastError().text());
+    if (!query.next())
+        return damaged(m_path, Ulvar2DaoTr::tr("It has no table \"Info\"."));
+    constexpr int computed = 2;
+    if (!query.exec(
+            QStringLiteral("SELECT 1 FROM pragma_table_xinfo('Info') WHERE hidden = %1").arg(computed)))
+        return damaged(m_path, query.lastError().text());
+    return query.next() ? damaged(m_path, Ulvar2DaoTr::tr("Its table \"Info\" has computed columns."))
+                        : Error();
+}
+
 Result<QList<InfoRecord>> Ulvar2Dao::readInfos() const
 {
     if (m_connection.isEmpty())
         return Error(ErrorCode::CannotOpenFile, Ulvar2DaoTr::tr("No Ulvar2 file is open."));
     QSqlQuery query(QSqlDatabase::database(m_connection, false));
     query.setForwardOnly(true);
-    // A view or virtual table of that name could compute without end.
-    if (!query.exec(QStringLiteral("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = 'Info' "
-                                   "AND sql LIKE 'CREATE TABLE%'")))
-        return damaged(m_path, query.lastError().text());
-    if (!query.next())
-        return damaged(m_path, Ulvar2DaoTr::tr("It has no table \"Info\"."));
+    ORV_RETURN_IF_ERROR(checkTable(query));
     if (!query.exec(QStringLiteral("SELECT substr(Key, 1, %1), substr(Value, 1, %1) FROM Info LIMIT %2")
                         .arg(kMostCharacters + 1)
                         .arg(kMostInfos + 1)))

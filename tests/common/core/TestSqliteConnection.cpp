@@ -396,6 +396,8 @@ void TestSqliteConnection::tablesAreFound_data()
     QTest::newRow("another case") << u"numbers"_s << true;
     QTest::newRow("view") << u"Views"_s << false;
     QTest::newRow("virtual") << u"Texts"_s << false;
+    QTest::newRow("computed") << u"Computed"_s << false;
+    QTest::newRow("computed once") << u"Stored"_s << true;
     QTest::newRow("none") << u"Nothing"_s << false;
     QTest::newRow("quote") << u"'; DROP TABLE Numbers"_s << false;
 }
@@ -407,6 +409,8 @@ void TestSqliteConnection::tablesAreFound()
         RawDatabase writer(at(u"a.db"_s));
         writer.run(u"CREATE VIEW Views AS SELECT * FROM Numbers"_s);
         writer.run(u"CREATE VIRTUAL TABLE Texts USING fts5(Word)"_s);
+        writer.run(u"CREATE TABLE Computed (A, B GENERATED ALWAYS AS (hex(zeroblob(400000000))) VIRTUAL)"_s);
+        writer.run(u"CREATE TABLE Stored (A, B GENERATED ALWAYS AS (A + 1) STORED)"_s);
     }
     auto connection = SqliteConnection::open(kPurpose, at(u"a.db"_s));
     ORV_VERIFY_OK(connection);

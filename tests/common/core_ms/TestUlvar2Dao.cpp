@@ -166,6 +166,9 @@ void TestUlvar2Dao::otherDatabasesAreRefused_data()
     QTest::newRow("an endless view") << QStringList{
         u"CREATE VIEW Info AS WITH RECURSIVE n(Key, Value) AS (SELECT 1, 1 UNION ALL SELECT Key "
         "+ 1, 1 FROM n) SELECT Key, Value FROM n WHERE Key < 0"_s};
+    QTest::newRow("a computed column") << QStringList{
+        u"CREATE TABLE Info (Key TEXT, Value TEXT GENERATED ALWAYS AS (hex(zeroblob(400000000))) VIRTUAL)"_s,
+        u"INSERT INTO Info (Key) VALUES ('a')"_s};
 }
 
 void TestUlvar2Dao::otherDatabasesAreRefused()

@@ -51,8 +51,8 @@ public:
                                                    const QVariantList &values = {}) const;
     Error execute(const QString &statement, const QVariantList &values = {}) const;
 
-    /// Whether there is a plain table of that name. A view or a virtual table is none, as reading it would
-    /// run what the file says.
+    /// Whether there is a plain table of that name. A view, a virtual table and one with computed columns are
+    /// none, as reading them would run what the file says.
     [[nodiscard]] Result<bool> hasTable(const QString &table) const;
     /// The names of its columns; empty for a table that isn't there.
     [[nodiscard]] Result<QStringList> columns(const QString &table) const;

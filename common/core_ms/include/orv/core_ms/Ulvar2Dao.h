@@ -6,6 +6,8 @@
 #include <QList>
 #include <QString>
 
+class QSqlQuery;
+
 namespace orv::ulvar2 {
 
 /// The key under which a file that was merged from others has the value "true".
@@ -37,12 +39,13 @@ public:
     /// SQLite database; details name the reason.
     [[nodiscard]] Error open(const QString &path);
 
-    /// The information records, in the file's order. InvalidContent for a database without their table, a
-    /// damaged one, and one beyond the bounds.
+    /// The information records, in the file's order. InvalidContent for a database without their table or
+    /// with one that computes them, a damaged one, and one beyond the bounds.
     [[nodiscard]] Result<QList<InfoRecord>> readInfos() const;
 
 private:
     void close();
+    [[nodiscard]] Error checkTable(QSqlQuery &query) const;
 
     QString m_path;
     QString m_connection; ///< empty while nothing is open
