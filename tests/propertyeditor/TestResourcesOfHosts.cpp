@@ -1,12 +1,14 @@
 #include "LogCapture.h"
 #include "OrvTest.h"
 #include "SampleTree.h"
+#include "ServerFixture.h"
 #include "ValidatorRun.h"
 
 #include <orv/propertyeditor/validators/FilesValidator.h>
 #include <orv/propertyeditor/validators/MirelPathsValidator.h>
 #include <orv/propertyeditor/validators/SampleTypesValidator.h>
 #include <orv/propertyeditor/validators/TalvanePathsValidator.h>
+#include <orv/remote/RemoteHandlers.h>
 #include <orv/resources/ResourceManager.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 
@@ -64,6 +66,7 @@ private Q_SLOTS:
     void anEmptyResourceHolds();
     void anEmptyDocumentIsTold();
     void sampleTypesAreCheckedWithoutWarnings();
+    void aSilentServerIsWaitedForOnceInACheck();
 };
 
 void TestResourcesOfHosts::cleanup()
@@ -135,6 +138,27 @@ void TestResourcesOfHosts::sampleTypesAreCheckedWithoutWarnings()
     QVERIFY(SampleTypesValidator().validateSamples({sampleWithoutResources()}, nullptr, &errors));
     QVERIFY(SampleTypesValidator().validateSamples({}, nullptr, &errors));
     QCOMPARE(errors, QList<QString>());
+}
+
+void TestResourcesOfHosts::aSilentServerIsWaitedForOnceInACheck()
+{
+    const LogCapture log;
+    ServerFixture fixture;
+    RemoteHandlers::install();
+    QList<Sample> samples;
+    for (int i = 0; i < 5; ++i)
+        samples.append({u"s%1"_s.arg(i), u"talvane:/lab/%1.tolq"_s.arg(i), {}, {}});
+    fixture.server.setAnswer("/api/1/files/metadata", {.manner = HttpTestServer::Manner::Silent});
+    Content content = contentOf({samplesCell(samples)});
+    content.setTalvaneContentMode();
+    QList<QString> warnings;
+    QList<QString> errors;
+    QVERIFY(!FilesValidator().validate(content, {}, &warnings, &errors));
+    for (const Scheme scheme :
+         {Scheme::ServerFile, Scheme::ExternalDataSource, Scheme::ManagedResource, Scheme::UNIFI})
+        ResourceManager::setHandlerFactory(scheme, {});
+    QCOMPARE(errors.size(), 5);
+    QCOMPARE(fixture.server.requests().size(), 1);
 }
 
 ORV_REGISTER_TEST(TestResourcesOfHosts)

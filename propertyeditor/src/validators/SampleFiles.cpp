@@ -1,6 +1,8 @@
 #include "SampleFiles.h"
 
+#include <orv/core/Logging.h>
 #include <orv/core_ms/MsDataFileUtils.h>
+#include <orv/remote/ServerSettings.h>
 #include <orv/resources/ResourceHandlerUtils.h>
 #include <orv/resources/ResourceManager.h>
 
@@ -12,6 +14,22 @@ namespace {
 
 /// Below it, threads cost more than they save.
 constexpr qsizetype kWorthThreads = 32;
+
+/// That is asked for what \a reference names; none where a disk is.
+std::optional<ServerSettings> serverOf(const ResourceReferenceSPtr &reference)
+{
+    if (!reference)
+        return {};
+    switch (reference->scheme()) {
+    case ResourceReference::Scheme::ServerFile:
+    case ResourceReference::Scheme::ManagedResource:
+        return ServerSettings::talvane();
+    case ResourceReference::Scheme::UNIFI:
+        return ServerSettings::unifi();
+    default:
+        return {};
+    }
+}
 
 } // namespace
 
@@ -37,12 +55,28 @@ void SampleFiles::lookAhead(const QList<ResourceReferenceSPtr> &references)
         m_exists.insert(unknown.at(i), answers.at(size_t(i)));
 }
 
+template<typename Ask>
+Result<bool> SampleFiles::asked(const ResourceReferenceSPtr &reference, Ask ask)
+{
+    const std::optional<ServerSettings> server = serverOf(reference);
+    if (!server)
+        return ask();
+    Result<bool> answer = false;
+    if (Error error = m_silentServers.ask(*server, [&]() -> Error {
+            answer = ask();
+            return answer.hasError() ? answer.error() : Error();
+        }))
+        return error.ecatch();
+    return answer;
+}
+
 Result<bool> SampleFiles::exists(const ResourceReferenceSPtr &reference)
 {
     const auto known = m_exists.constFind(reference);
     if (known != m_exists.cend())
         return *known;
-    return *m_exists.insert(reference, ResourceHandlerUtils::exists(reference));
+    return *m_exists.insert(reference,
+                            asked(reference, [&] { return ResourceHandlerUtils::exists(reference); }));
 }
 
 bool SampleFiles::isValid(const ResourceReferenceSPtr &reference)
@@ -50,7 +84,12 @@ bool SampleFiles::isValid(const ResourceReferenceSPtr &reference)
     const auto known = m_isValid.constFind(reference);
     if (known != m_isValid.cend())
         return *known;
-    return *m_isValid.insert(reference, ResourceHandlerUtils::validateReference(reference));
+    const Result<bool> exists = this->exists(reference);
+    if (exists.hasError())
+        qCWarning(propertyEditorLog).noquote() << exists.error().errorMessage();
+    else if (!*exists)
+        qCWarning(propertyEditorLog).noquote() << "There is no" << reference->readableText();
+    return *m_isValid.insert(reference, exists.valueOr(false));
 }
 
 QSet<msreader::VendorDataFormat> SampleFiles::possibleFormats(const QString &path)

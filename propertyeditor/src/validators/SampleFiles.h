@@ -2,6 +2,7 @@
 
 #include <orv/core/Result.h>
 #include <orv/core_ms/MsDataFormat.h>
+#include <orv/remote/SilentServers.h>
 #include <orv/resources/ResourceReferenceKey.h>
 
 #include <QHash>
@@ -29,6 +30,12 @@ public:
     [[nodiscard]] QSet<msreader::VendorDataFormat> possibleFormats(const QString &path);
 
 private:
+    /// What \a ask, a `Result<bool>()`, says of something that may lie on a server; a failure at once where
+    /// that server was silent before.
+    template<typename Ask>
+    Result<bool> asked(const ResourceReferenceSPtr &reference, Ask ask);
+
+    SilentServers m_silentServers;
     QHash<ResourceReferenceKey, Result<bool>> m_exists;
     QHash<ResourceReferenceKey, bool> m_isValid;
     QHash<QString, QSet<msreader::VendorDataFormat>> m_formats;

@@ -53,9 +53,11 @@ Error takeSteps(PropertyEditorContent &content, const WorkflowUpgradeOptions &op
 {
     WorkflowUpgradeReview review;
     QList<QString> notes;
-    ORV_RETURN_IF_ERROR(WflwUpgrader::upgradeWorkflow(
-        report->from, &content, &notes,
-        {.accessSampleData = options.accessSampleData, .observer = &review, .baseUrl = options.baseUrl}));
+    ORV_RETURN_IF_ERROR(WflwUpgrader::upgradeWorkflow(report->from, &content, &notes,
+                                                      {.accessSampleData = options.accessSampleData,
+                                                       .observer = &review,
+                                                       .baseUrl = options.baseUrl,
+                                                       .silentServers = options.silentServers}));
     report->notes = notes;
     report->steps = review.steps();
     report->to = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());

@@ -3,6 +3,8 @@
 #include "StepHelpers.h"
 
 #include <orv/propertyeditor/content/SamplesTableItem.h>
+#include <orv/remote/ServerSettings.h>
+#include <orv/remote/SilentServers.h>
 #include <orv/remote/TalvaneConnection.h>
 #include <orv/remote/TalvaneDownloadTolqMetadataTask.h>
 #include <orv/resources/ResourceReferenceUtils.h>
@@ -53,10 +55,11 @@ Error addMappings(const TalvaneWflwUpgradeHelper &helper, const ResourceReferenc
     if (found.hasError())
         return found.ecatch();
     if (!*found) {
-        return failure(QObject::tr("Upgrade not possible. A valid compatibility metadata not provided in the "
-                                   "Tolq file: %1")
-                           .arg(ResourceReferenceUtils::toString(reference)),
-                       TalvaneWflwUpgradeHelperTr::tr("Have the server process the sample again."));
+        return failure(
+            QObject::tr("Upgrade not possible. A valid compatibility metadata not provided in the "
+                        "Tolq file: %1")
+                .arg(ResourceReferenceUtils::withoutCredentials(ResourceReferenceUtils::toString(reference))),
+            TalvaneWflwUpgradeHelperTr::tr("Have the server process the sample again."));
     }
     mappings->insert(**found);
     return Error::NoError;
@@ -102,12 +105,18 @@ TalvaneWflwUpgradeHelper::getCompatibilityMetadata(const ResourceReferenceSPtr &
                                                    const QString &fileName) const
 {
     TalvaneDownloadTolqMetadataTask task({serverPath(*reference), fileName, kInterfaceVersion});
-    Result<void> sent = TalvaneConnection::instance()->sendRequest(&task);
-    if (sent.hasError())
-        return {sent.ecatch(), sent.warnings()};
-    BaseTask::waitForAllFinished(&task, -1);
-    if (Error error = task.error())
-        return {error.ecatch(), task.warnings()};
+    Warnings warnings;
+    Error error = silentServers().ask(ServerSettings::talvane(), [&]() -> Error {
+        Result<void> sent = TalvaneConnection::instance()->sendRequest(&task);
+        warnings = sent.warnings();
+        if (sent.hasError())
+            return sent.ecatch();
+        BaseTask::waitForAllFinished(&task, -1);
+        warnings = task.warnings();
+        return task.error();
+    });
+    if (error)
+        return {error.ecatch(), warnings};
     if (!task.metadata().hasTraceMappings())
         return std::optional<TraceMappings>();
     return std::optional(task.metadata().traceMappings());

@@ -6,6 +6,7 @@
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/SamplesTableItem.h>
 #include <orv/propertyeditor/workflow/WflwUpgradeHelper.h>
+#include <orv/remote/SilentServers.h>
 #include <orv/remote/UnifiGetItemFolderTask.h>
 #include <orv/remote/UnifiSettings.h>
 #include <orv/resources/ResourceManager.h>
@@ -112,14 +113,20 @@ Error rebuildReference(Sample *sample, const OldUnifiMetadata &old)
     return Error::NoError;
 }
 
-Error refreshMetadata(Sample *sample)
+Error refreshMetadata(Sample *sample, SilentServers &servers)
 {
     if (!UnifiSettings::load().isEnabled())
         return unifiIsOff(
             QObject::tr("Cannot update UNIFI sample metadata without UNIFI server being enabled."), *sample);
-    Result<QJsonObject> metadata = ResourceManager::retrieveMetadata(sample->msFile);
-    if (metadata.hasError()) {
-        const Error reason = metadata.ecatch();
+    QJsonObject metadata;
+    Error reason = servers.ask(UnifiSettings::load().server(), [&]() -> Error {
+        Result<QJsonObject> answer = ResourceManager::retrieveMetadata(sample->msFile);
+        if (answer.hasError())
+            return answer.ecatch();
+        metadata = *answer;
+        return Error::NoError;
+    });
+    if (reason) {
         Error error =
             failure(QObject::tr("Cannot update metadata of the sample %1 due to the following error:\n%2")
                         .arg(sample->name, reason.errorMessage()),
@@ -128,7 +135,7 @@ Error refreshMetadata(Sample *sample)
             error.addDetail(detail);
         return error;
     }
-    sample->fileMetadata.insert(ResourceReferenceUtils::toString(sample->msFile), *metadata);
+    sample->fileMetadata.insert(ResourceReferenceUtils::toString(sample->msFile), metadata);
     return Error::NoError;
 }
 
@@ -159,7 +166,7 @@ Error askForFolder(const QString &id, UnifiResourceMetadata::Item *item)
     return Error::NoError;
 }
 
-Error completeFolder(Sample *sample)
+Error completeFolder(Sample *sample, SilentServers &servers)
 {
     if (!UnifiSettings::load().isEnabled())
         return unifiIsOff(
@@ -170,7 +177,8 @@ Error completeFolder(Sample *sample)
         return missingMetadata(QObject::tr("Cannot update UNIFI reference without metadata."), *sample,
                                metadata.ecatch());
     const QString id = idOf(*sample, *metadata);
-    if (Error error = askForFolder(id, &metadata->item))
+    const auto ask = [&] { return askForFolder(id, &metadata->item); };
+    if (Error error = servers.ask(UnifiSettings::load().server(), ask))
         return error.addDetail(placeOf(*sample)).ecatch();
     Result<ResourceReferenceSPtr> reference = UnifiResourceReference::create(
         sample->msFile->parts().server, id, metadata->item.path, metadata->item.name);
@@ -213,7 +221,8 @@ Error WflwUpgradeHelper::upgradeV_5_16_1(PropertyEditorContent *content,
 
 Error WflwUpgradeHelper::upgradeV_5_18_0(PropertyEditorContent *content)
 {
-    return editUnifiSamples(createPecToUpgrade(content), refreshMetadata);
+    return editUnifiSamples(createPecToUpgrade(content),
+                            [this](Sample *sample) { return refreshMetadata(sample, silentServers()); });
 }
 
 Error WflwUpgradeHelper::upgradeV_5_25_0(PropertyEditorContent *content)
@@ -223,7 +232,8 @@ Error WflwUpgradeHelper::upgradeV_5_25_0(PropertyEditorContent *content)
 
 Error WflwUpgradeHelper::upgradeV_5_32_0(PropertyEditorContent *content)
 {
-    return editUnifiSamples(createPecToUpgrade(content), completeFolder);
+    return editUnifiSamples(createPecToUpgrade(content),
+                            [this](Sample *sample) { return completeFolder(sample, silentServers()); });
 }
 
 } // namespace orv

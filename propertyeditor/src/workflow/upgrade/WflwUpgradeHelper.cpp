@@ -30,6 +30,11 @@ QUrl WflwUpgradeHelper::baseUrl() const
     return d->baseUrl;
 }
 
+SilentServers &WflwUpgradeHelper::silentServers() const
+{
+    return *d->silentServers;
+}
+
 Error WflwUpgradeHelper::upgradeToCurrentWorkflowVersion(PropertyEditorContent *content)
 {
     return UpgradeSteps::readAndWrite(createPecToUpgrade(content));

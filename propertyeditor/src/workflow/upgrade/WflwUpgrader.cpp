@@ -138,17 +138,23 @@ bool isBelowCurrent(const PropertyEditorContent &content)
 class WflwUpgradeRunner
 {
 public:
-    WflwUpgradeRunner(WflwUpgradeHelper *helper, PropertyEditorContent *content, const QUrl &baseUrl)
+    WflwUpgradeRunner(WflwUpgradeHelper *helper, PropertyEditorContent *content,
+                      const WflwUpgradeOptions &options)
         : m_helper(helper)
         , m_content(content)
         , m_run(content)
         , m_outer(std::exchange(helper->d->run, &m_run))
-        , m_outerBaseUrl(std::exchange(helper->d->baseUrl, baseUrl))
-    {}
+        , m_outerBaseUrl(std::exchange(helper->d->baseUrl, options.baseUrl))
+        , m_outerSilentServers(helper->d->silentServers)
+    {
+        if (options.silentServers)
+            helper->d->silentServers = options.silentServers;
+    }
     ~WflwUpgradeRunner()
     {
         m_helper->d->run = m_outer;
         m_helper->d->baseUrl = m_outerBaseUrl;
+        m_helper->d->silentServers = m_outerSilentServers;
     }
     Q_DISABLE_COPY_MOVE(WflwUpgradeRunner)
 
@@ -181,6 +187,7 @@ private:
     UpgradeRun m_run;
     UpgradeRun *m_outer;
     QUrl m_outerBaseUrl;
+    SilentServers *m_outerSilentServers;
 };
 
 QList<WflwUpgradeStep> WflwUpgrader::steps()
@@ -218,7 +225,7 @@ Error WflwUpgrader::upgradeWorkflow(const QVersionNumber &version, PropertyEdito
     // Equal in the number of segments, too: 5.47 isn't 5.47.0.
     if (version == WflwMetaData::currentWorkflowVersion())
         return Error::NoError;
-    ORV_RETURN_IF_ERROR(WflwUpgradeRunner(helper, content, options.baseUrl).takeSteps(version, options));
+    ORV_RETURN_IF_ERROR(WflwUpgradeRunner(helper, content, options).takeSteps(version, options));
     if (notes)
         *notes = helper->notes();
     return Error::NoError;

@@ -15,6 +15,8 @@ QT_END_NAMESPACE
 
 namespace orv {
 
+class SilentServers;
+
 class PropertyEditorContent;
 class WorkingContent;
 
@@ -114,6 +116,8 @@ protected:
 
     /// From which relative files count; see WflwUpgradeOptions.
     [[nodiscard]] QUrl baseUrl() const;
+    /// Through which steps ask servers, so that none is waited for twice.
+    [[nodiscard]] SilentServers &silentServers() const;
 
 private:
     friend class WflwUpgradeRunner;

@@ -11,6 +11,7 @@
 namespace orv {
 
 class PropertyEditorContent;
+class SilentServers;
 class WflwUpgradeHelper;
 class WflwUpgradeObserver;
 
@@ -32,6 +33,9 @@ struct WflwUpgradeOptions
     /// The workflow's folder, with a slash at its end, from which relative files count where steps open them;
     /// empty for the current folder of the process. References keep their relative texts.
     QUrl baseUrl = {};
+    /// Of a run over several documents, which then waits for a silent server once; not owned. Null for a run
+    /// over this one.
+    SilentServers *silentServers = nullptr;
 };
 
 /// Brings documents of earlier format versions into the present form:

@@ -18,12 +18,15 @@
 
 namespace orv {
 
+class SilentServers;
+
 struct ORV_WORKFLOW_EXPORT WorkflowUpgradeOptions
 {
     bool accessSampleData = true;
     QUrl baseUrl =
         {}; ///< the workflow's folder, with a slash at its end, from which its relative files count
-    QString user = {}; ///< to stamp with; empty for the current one
+    QString user = {};                      ///< to stamp with; empty for the current one
+    SilentServers *silentServers = nullptr; ///< as in WflwUpgradeOptions
 };
 
 /// What became of one document. Nothing is written.
