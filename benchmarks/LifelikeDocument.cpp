@@ -82,7 +82,58 @@ QJsonObject settingsCellObject(int number)
     return cell(QStringLiteral("Karvon"), QStringLiteral("Step %1").arg(number), settings());
 }
 
+/// Names, by which others find a thing, and what a table is made of stay.
+QJsonValue wrongValue(const QString &key, const QJsonValue &value)
+{
+    static const QStringList kept{QStringLiteral("SamplesId"), QStringLiteral("SampleName"),
+                                  QStringLiteral("columns")};
+    if (kept.contains(key))
+        return value;
+    if (value.isDouble())
+        return -1e9;
+    if (value.isString())
+        return QStringLiteral("?/wrong/") + value.toString();
+    if (value.isArray()) {
+        QJsonArray array = value.toArray();
+        for (auto &&element : array)
+            element = wrongValue(key, element);
+        return array;
+    }
+    QJsonObject object = value.toObject();
+    for (auto it = object.begin(); it != object.end(); ++it)
+        it.value() = wrongValue(it.key(), it.value());
+    return value.isObject() ? QJsonValue(object) : value;
+}
+
+QJsonObject withWrongValues(QJsonObject cell)
+{
+    QJsonArray entries = cell.value(QStringLiteral("properties")).toArray();
+    for (auto &&element : entries) {
+        QJsonObject entry = element.toObject();
+        entry.insert(QStringLiteral("value"), wrongValue({}, entry.value(QStringLiteral("value"))));
+        element = entry;
+    }
+    cell.insert(QStringLiteral("properties"), entries);
+    return cell;
+}
+
 } // namespace
+
+QByteArray allWrong(const QByteArray &document)
+{
+    QJsonObject object = QJsonDocument::fromJson(document).object();
+    QJsonArray tabs = object.value(QStringLiteral("tabs")).toArray();
+    for (auto &&element : tabs) {
+        QJsonObject tab = element.toObject();
+        QJsonArray cells = tab.value(QStringLiteral("cells")).toArray();
+        for (auto &&cell : cells)
+            cell = withWrongValues(cell.toObject());
+        tab.insert(QStringLiteral("cells"), cells);
+        element = tab;
+    }
+    object.insert(QStringLiteral("tabs"), tabs);
+    return QJsonDocument(object).toJson();
+}
 
 QByteArray settingsCell()
 {

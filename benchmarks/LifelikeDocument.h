@@ -18,6 +18,10 @@ namespace Lifelike {
 /// The JSON text of a workflow with a table of \a count proteins of 60 to 800 residues.
 [[nodiscard]] QByteArray proteins(int count);
 
+/// The same \a document with all its values wrong: files that are missing, numbers out of range, texts that
+/// mean nothing, patterns that choose no sample.
+[[nodiscard]] QByteArray allWrong(const QByteArray &document);
+
 /// The JSON text of one such property cell.
 [[nodiscard]] QByteArray settingsCell();
 
