@@ -86,9 +86,9 @@ bool SampleFiles::isValid(const ResourceReferenceSPtr &reference)
         return *known;
     const Result<bool> exists = this->exists(reference);
     if (exists.hasError())
-        qCWarning(propertyEditorLog).noquote() << exists.error().errorMessage();
+        qCWarning(genericLog()).noquote() << exists.error().errorMessage();
     else if (!*exists)
-        qCWarning(propertyEditorLog).noquote() << "There is no" << reference->readableText();
+        qCWarning(genericLog()).noquote() << "There is no" << reference->readableText();
     return *m_isValid.insert(reference, exists.valueOr(false));
 }
 
