@@ -8,7 +8,9 @@
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QLoggingCategory>
 #include <QTemporaryDir>
 
@@ -64,11 +66,44 @@ void addDocument(const std::string &label, const QByteArray &bytes, const QStrin
     });
 }
 
+/// Cells of a type of a later version.
+QByteArray unknownCells(int count)
+{
+    const QJsonObject entry{{QStringLiteral("name"), QStringLiteral("KarvonCentroidWidthVal")},
+                            {QStringLiteral("value"), QStringLiteral("0.01")}};
+    QJsonArray cells;
+    for (int i = 0; i < count; ++i) {
+        cells.append(QJsonObject{{QStringLiteral("type"), QStringLiteral("Novelty")},
+                                 {QStringLiteral("name"), QString::number(i)},
+                                 {QStringLiteral("properties"), QJsonArray{entry}}});
+    }
+    const QJsonObject tab{{QStringLiteral("name"), QStringLiteral("Tab")},
+                          {QStringLiteral("columns"), QJsonArray{QStringLiteral("A")}},
+                          {QStringLiteral("cells"), cells}};
+    return QJsonDocument(QJsonObject{{QStringLiteral("tabs"), QJsonArray{tab}}}).toJson();
+}
+
+/// Linear when the ratio to the baseline is that of a tenth of the cells.
+void addUnknownCells(int count)
+{
+    const QByteArray bytes = unknownCells(count);
+    const std::string label = std::to_string(count) + " unknown cells";
+    add("load " + label + "/baseline", [=] { benchmark::DoNotOptimize(QJsonDocument::fromJson(bytes)); });
+    add("load " + label + "/object form", [=] {
+        Content content;
+        benchmark::DoNotOptimize(content
+                                     .assignFromJson(QJsonDocument::fromJson(bytes).object(),
+                                                     PropertyEditor::ValidationOption::SkipTypeValidation)
+                                     .hasError());
+    });
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    QLoggingCategory::setFilterRules(QStringLiteral("orv.*.debug=false"));
+    // Each unknown cell is told as a warning.
+    QLoggingCategory::setFilterRules(QStringLiteral("orv.*.debug=false\norv.*.warning=false"));
     const QTemporaryDir folder;
     struct Size
     {
@@ -84,5 +119,7 @@ int main(int argc, char *argv[])
             qFatal("The benchmark's file can't be written");
         addDocument(size.label, bytes, path);
     }
+    addUnknownCells(6000);
+    addUnknownCells(60000);
     return runRatioBenchmarks(argc, argv);
 }

@@ -71,7 +71,7 @@ void TestChangedValues::changedValuesAreTold_data()
     row("text that is a number", 0, 5, QString());
     row("checked texts that are numbers", kCheckable, QJsonArray{1}, QJsonArray{QString()});
     row("number of a list as words", kNumbered, u"Version 2"_s, 0);
-    row("number of a list with a fraction", kNumbered, 1.5, 1);
+    row("number of a list with a fraction", kNumbered, 1.5, 2);
     row("object as text that loses an escape", 67, uR"({"modifications":"D:\Data"})"_s,
         QJsonObject{{u"modifications"_s, u"D:Data"_s}});
     row("object that is a number", 67, 5, QJsonObject());

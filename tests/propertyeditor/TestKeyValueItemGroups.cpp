@@ -46,6 +46,7 @@ private Q_SLOTS:
     void aPropertyMovesToTheEndOfAnotherGroup();
     void movesThatMakeNoSenseAreRefused_data();
     void movesThatMakeNoSenseAreRefused();
+    void noPropertyTakesTheNameOfAnother();
     void aGroupGoesWithItsProperties();
     void groupsMove_data();
     void groupsMove();
@@ -115,6 +116,17 @@ void TestKeyValueItemGroups::movesThatMakeNoSenseAreRefused()
     QCOMPARE(log.warnings(), QStringList(warning));
     QCOMPARE(removed.count(), 0);
     QCOMPARE(order(*item), u"a@one b@two"_s);
+}
+
+void TestKeyValueItemGroups::noPropertyTakesTheNameOfAnother()
+{
+    const LogCapture log;
+    const auto item = grouped({u"One"_s, u"One"_s});
+    QVERIFY(!item->replace(u"a"_s, u"b"_s, 5, item->intType()));
+    QCOMPARE(order(*item), u"a@one b@one"_s);
+    QCOMPARE(log.warnings().size(), 1);
+    QVERIFY(item->replace(u"a"_s, u"A"_s, 5, item->intType()));
+    QVERIFY(item->replace(u"a"_s, u"c"_s, 5, item->intType()));
 }
 
 void TestKeyValueItemGroups::aGroupGoesWithItsProperties()

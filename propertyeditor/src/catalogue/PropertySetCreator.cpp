@@ -114,7 +114,8 @@ public:
 
     Error fill(const QJsonObject &cell)
     {
-        m_itemType = baseItemTypeFromString(cell.value(TYPE_KEY).toString());
+        // The cell told of an unknown type when it was made.
+        m_itemType = findBaseItemType(cell.value(TYPE_KEY).toString()).value_or(BaseItemType::Unknown);
         // Names of properties don't tell "Name" from "name": the cell's own members come first.
         constexpr std::array kOwnMembers = {META_IN_JSON_KEY, NAME_KEY, TITLE_KEY, TYPE_KEY};
         for (const QLatin1String key : kOwnMembers) {

@@ -15,7 +15,11 @@
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 
+#include <QJsonArray>
 #include <QJsonDocument>
+
+#include <algorithm>
+#include <utility>
 
 namespace orv::PropertyEditor {
 
@@ -27,6 +31,8 @@ QString nameOf(PropertyId id)
 {
     return PropertiesNames::internalNameForType(id);
 }
+
+constexpr const char *kStamp = ":metadata";
 
 QString textOf(const KProperty &property)
 {
@@ -49,11 +55,13 @@ KeyValueItem::~KeyValueItem() = default;
 
 QJsonObject KeyValueItem::toJson(PropertyConversionFlag flag) const
 {
-    if (!m_set)
+    if (!m_set && m_unread && flag == PropertyConversionFlag::KeepPaths)
+        return PropertySetCreator::propertySetToObject(*read(*m_unread), flag).value_or(QJsonObject());
+    if (!set())
         return {};
     if (flag == PropertyConversionFlag::AbsolutePaths && hasGlycanDatabase())
         return toJsonWithAbsoluteGlycans();
-    return PropertySetCreator::propertySetToObject(*m_set, flag).value_or(QJsonObject());
+    return PropertySetCreator::propertySetToObject(*set(), flag).value_or(QJsonObject());
 }
 
 bool KeyValueItem::hasGlycanDatabase() const
@@ -64,7 +72,7 @@ bool KeyValueItem::hasGlycanDatabase() const
 
 QJsonObject KeyValueItem::toJsonWithAbsoluteGlycans() const
 {
-    const KPropertySet copy(*m_set);
+    const KPropertySet copy(*set());
     for (const PropertyId id : PropertyEditorUtils::propertiesWithGlycanDatabases()) {
         KProperty &property = copy.property(nameOf(id).toUtf8());
         if (property.isNull())
@@ -92,23 +100,72 @@ Error KeyValueItem::load(const QJsonObject &json, ValidationOptions options, con
     ORV_RETURN_IF_ERROR(WflwMetaData::faultInText(json.value(META_IN_JSON_KEY).toString()));
     ORV_RETURN_IF_ERROR(BaseItem::assignFromJson(json, options));
     m_set.reset();
+    m_unread.reset();
     const bool skipsType = options.testFlag(ValidationOption::SkipTypeValidation);
     Result<KPropertySet *> set = PropertySetCreator::objectToPropertySet(
         json, skipsType ? std::nullopt : std::optional(type()), context);
     if (set.hasError())
         return set.ecatch();
     m_set.reset(*set);
+    if (skipsType && type() == BaseItemType::Unknown)
+        setAside(json);
     return Error::NoError;
+}
+
+// A document may have many cells of a later version, and nobody looks into them.
+void KeyValueItem::setAside(const QJsonObject &json)
+{
+    const qsizetype members = json.size() - 1 + (json.contains(META_IN_JSON_KEY) ? 0 : 1);
+    // Where something was dropped, another reading would tell of it again.
+    if (m_set->count() != members + json.value(PROPERTIES_KEY).toArray().size())
+        return;
+    m_unread = json;
+    m_unread->insert(META_IN_JSON_KEY, m_set->propertyValue(kStamp).toString());
+    m_set.reset();
+}
+
+std::unique_ptr<KPropertySet> KeyValueItem::read(const QJsonObject &json)
+{
+    Result<KPropertySet *> set = PropertySetCreator::objectToPropertySet(json, std::nullopt);
+    std::unique_ptr<KPropertySet> owned(set.hasError() ? new KPropertySet : *set);
+    // The stamp is that of the load.
+    owned->property(kStamp).setValue(json.value(META_IN_JSON_KEY).toString().toUtf8());
+    return owned;
+}
+
+KPropertySet *KeyValueItem::set() const
+{
+    if (!m_set && m_unread) {
+        m_set = read(*std::exchange(m_unread, std::nullopt));
+        applyBaseUrl();
+    }
+    return m_set.get();
+}
+
+bool KeyValueItem::mayHold(const QByteArray &name) const
+{
+    if (m_set || !m_unread || name.startsWith(':'))
+        return true;
+    const QJsonArray entries = m_unread->value(PROPERTIES_KEY).toArray();
+    return std::ranges::any_of(entries, [&name](const QJsonValue &entry) {
+        const PropertyId id =
+            PropertyEditorJsonUtils::findPropertyBackCompat(entry.toObject(), BaseItemType::Unknown);
+        return nameOf(id).toUtf8().compare(name, Qt::CaseInsensitive) == 0;
+    });
 }
 
 void KeyValueItem::setBaseUrl(const QUrl &url)
 {
     m_baseUrl = url;
-    if (!m_set)
-        return;
-    for (KPropertySetIterator it(*m_set); it.current(); ++it) {
+    if (m_set)
+        applyBaseUrl();
+}
+
+void KeyValueItem::applyBaseUrl() const
+{
+    for (KPropertySetIterator it(*set()); it.current(); ++it) {
         if (it.current()->type() == PropertiesTraits::ResourceReferenceType)
-            it.current()->setOption(kbaseUrl, url);
+            it.current()->setOption(kbaseUrl, m_baseUrl);
     }
 }
 
@@ -116,30 +173,30 @@ void KeyValueItem::clear()
 {
     if (count() == 0)
         return;
-    m_set->clear();
+    set()->clear();
     announce(
         this, [this] { Q_EMIT countChanged(count()); }, [this] { Q_EMIT changed(); });
 }
 
 int KeyValueItem::count() const
 {
-    return m_set ? m_set->count() : 0;
+    return set() ? set()->count() : 0;
 }
 
 QStringList KeyValueItem::keys() const
 {
     QStringList keys;
-    if (!m_set)
+    if (!set())
         return keys;
     keys.reserve(count());
-    for (KPropertySetIterator it(*m_set); it.current(); ++it)
+    for (KPropertySetIterator it(*set()); it.current(); ++it)
         keys.append(textOf(*it.current()));
     return keys;
 }
 
 bool KeyValueItem::has(const QByteArray &name) const
 {
-    return m_set && m_set->contains(name);
+    return mayHold(name) && set() && set()->contains(name);
 }
 
 bool KeyValueItem::contains(const QString &key) const
@@ -154,7 +211,8 @@ bool KeyValueItem::contains(PropertyId id) const
 
 QVariant KeyValueItem::value(const QString &key) const
 {
-    return m_set ? m_set->propertyValue(key.toUtf8()) : QVariant();
+    const QByteArray name = key.toUtf8();
+    return mayHold(name) && set() ? set()->propertyValue(name) : QVariant();
 }
 
 QVariant KeyValueItem::value(PropertyId id) const
@@ -165,7 +223,7 @@ QVariant KeyValueItem::value(PropertyId id) const
 int KeyValueItem::type(const QString &key) const
 {
     const QByteArray name = key.toUtf8();
-    return has(name) ? m_set->property(name).type() : 0;
+    return has(name) ? set()->property(name).type() : 0;
 }
 
 bool KeyValueItem::insert(const QString &key, const QVariant &value, int type)
@@ -176,7 +234,7 @@ bool KeyValueItem::insert(const QString &key, const QVariant &value, int type)
 bool KeyValueItem::insert(const QString &key, const QString &group, const QVariant &value, int type,
                           const QString &keyBefore)
 {
-    if (!m_set || contains(key))
+    if (!set() || contains(key))
         return false;
     if (key.isEmpty()) {
         qCWarning(propertyEditorLog) << "Cannot insert a property without a key";
@@ -191,8 +249,8 @@ bool KeyValueItem::insert(const QString &key, const QString &group, const QVaria
     if (!isStorable(*property))
         return false;
     const int position =
-        keyBefore.isEmpty() ? -1 : KPropertySetUtils::propertyIndex(keyBefore, group, *m_set) + 1;
-    KPropertySetUtils::insertInKPropertySet(group, property.release(), m_set.get(), position);
+        keyBefore.isEmpty() ? -1 : KPropertySetUtils::propertyIndex(keyBefore, group, *set()) + 1;
+    KPropertySetUtils::insertInKPropertySet(group, property.release(), set(), position);
     announce(
         this, [&] { Q_EMIT inserted(key, value); }, [&] { Q_EMIT inserted(key, group, value); },
         [this] { Q_EMIT countChanged(count()); }, [this] { Q_EMIT changed(); });
@@ -211,10 +269,14 @@ bool KeyValueItem::replace(const QString &key, const QString &newKey, const QVar
     const QByteArray name = key.toUtf8();
     if (!warnUnless(has(name), key))
         return false;
+    if (key.compare(newKey, Qt::CaseInsensitive) != 0 && has(newKey.toUtf8())) {
+        qCWarning(propertyEditorLog) << "Cannot give" << key << "the name of" << newKey << "which is there";
+        return false;
+    }
     const KProperty replacement(newKey.toUtf8(), value, QString(), QString(), type);
     if (!isStorable(replacement))
         return false;
-    m_set->property(name) = replacement;
+    set()->property(name) = replacement;
     Q_EMIT changed();
     return true;
 }
@@ -226,7 +288,7 @@ bool KeyValueItem::remove(const QString &key)
         qCWarning(propertyEditorLog) << "Cannot remove the non-existing key" << key;
         return false;
     }
-    m_set->removeProperty(name);
+    set()->removeProperty(name);
     announce(
         this, [&] { Q_EMIT removed(key); }, [this] { Q_EMIT countChanged(count()); },
         [this] { Q_EMIT changed(); });
@@ -249,7 +311,7 @@ bool KeyValueItem::setValue(const QString &key, const QVariant &value)
     const QByteArray name = key.toUtf8();
     if (!warnUnless(has(name), key))
         return false;
-    KProperty &property = m_set->property(name);
+    KProperty &property = set()->property(name);
     if (property.type() == KProperty::ValueFromList)
         return setListValue(key, &property, value);
     const QVariant old = property.value();
@@ -329,7 +391,7 @@ bool KeyValueItem::setListValue(const QString &key, KProperty *property, const Q
     }
     const QVariant old = property->value();
     qCDebug(propertyEditorLog) << "Updating a list with new string value" << text << "from value: " << value;
-    m_set->changeProperty(property->name(), text);
+    set()->changeProperty(property->name(), text);
     announce(
         this, [&] { Q_EMIT valueChanged(key, text, old); }, [this] { Q_EMIT changed(); });
     return true;
@@ -337,7 +399,7 @@ bool KeyValueItem::setListValue(const QString &key, KProperty *property, const Q
 
 QVariant KeyValueItem::option(const QString &key, const QByteArray &name) const
 {
-    return m_set ? m_set->property(key.toUtf8()).option(name.constData()) : QVariant();
+    return set() ? set()->property(key.toUtf8()).option(name.constData()) : QVariant();
 }
 
 bool KeyValueItem::setOption(const QString &key, const QByteArray &name, const QVariant &value)
@@ -345,7 +407,7 @@ bool KeyValueItem::setOption(const QString &key, const QByteArray &name, const Q
     const QByteArray property = key.toUtf8();
     if (!warnUnless(has(property), key))
         return false;
-    m_set->property(property).setOption(name.constData(), value);
+    set()->property(property).setOption(name.constData(), value);
     Q_EMIT changed();
     return true;
 }

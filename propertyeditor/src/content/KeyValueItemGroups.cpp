@@ -10,7 +10,7 @@ namespace orv::PropertyEditor {
 
 QString KeyValueItem::group(const QString &key) const
 {
-    return m_set ? QString::fromUtf8(m_set->groupNameForProperty(key.toUtf8())) : QString();
+    return set() ? QString::fromUtf8(set()->groupNameForProperty(key.toUtf8())) : QString();
 }
 
 QString KeyValueItem::group(PropertyId id) const
@@ -20,7 +20,7 @@ QString KeyValueItem::group(PropertyId id) const
 
 QString KeyValueItem::groupCaption(const QString &key) const
 {
-    return m_set ? m_set->groupCaption(m_set->groupNameForProperty(key.toUtf8())) : QString();
+    return set() ? set()->groupCaption(set()->groupNameForProperty(key.toUtf8())) : QString();
 }
 
 QString KeyValueItem::groupCaption(PropertyId id) const
@@ -30,7 +30,7 @@ QString KeyValueItem::groupCaption(PropertyId id) const
 
 QList<QByteArray> KeyValueItem::groupNames() const
 {
-    return m_set ? m_set->groupNames() : QList<QByteArray>();
+    return set() ? set()->groupNames() : QList<QByteArray>();
 }
 
 bool KeyValueItem::hasGroup(const QString &name) const
@@ -40,7 +40,7 @@ bool KeyValueItem::hasGroup(const QString &name) const
 
 QList<QByteArray> KeyValueItem::properties(const QByteArray &groupName) const
 {
-    return m_set ? m_set->propertyNamesForGroup(groupName) : QList<QByteArray>();
+    return set() ? set()->propertyNamesForGroup(groupName) : QList<QByteArray>();
 }
 
 bool KeyValueItem::setGroup(const QString &key, const QString &group)
@@ -57,12 +57,12 @@ bool KeyValueItem::setGroup(const QString &key, const QString &group)
         qCWarning(propertyEditorLog) << "Cannot move the property" << key << "to the same group";
         return false;
     }
-    auto copy = std::make_unique<KProperty>(m_set->property(name));
+    auto copy = std::make_unique<KProperty>(set()->property(name));
     const QPointer<KeyValueItem> alive(this);
     remove(key);
     if (!alive)
         return false;
-    KPropertySetUtils::insertInKPropertySet(group, copy.release(), m_set.get(), -1);
+    KPropertySetUtils::insertInKPropertySet(group, copy.release(), set(), -1);
     announce(
         this, [&] { Q_EMIT groupChanged(key, group, oldGroup); }, [this] { Q_EMIT changed(); });
     return true;
@@ -70,9 +70,9 @@ bool KeyValueItem::setGroup(const QString &key, const QString &group)
 
 bool KeyValueItem::setGroupCaption(const QString &groupName, const QString &caption)
 {
-    if (!m_set)
+    if (!set())
         return false;
-    m_set->setGroupCaption(groupName.toUtf8(), caption);
+    set()->setGroupCaption(groupName.toUtf8(), caption);
     Q_EMIT changed();
     return true;
 }
@@ -87,26 +87,26 @@ bool KeyValueItem::removeGroup(const QString &name)
 
 void KeyValueItem::moveGroup(const QString &group, const QString &afterGroup)
 {
-    if (!m_set)
+    if (!set())
         return;
     struct Moved
     {
         QByteArray group;
         std::unique_ptr<KProperty> property;
     };
-    const QList<QByteArray> names = m_set->groupNames();
+    const QList<QByteArray> names = set()->groupNames();
     std::vector<Moved> moved;
     for (qsizetype i = names.indexOf(afterGroup.toUtf8()) + 1; i < names.size(); ++i) {
         const QByteArray &name = names.at(i);
-        if (m_set->groupCaption(name) == group)
+        if (set()->groupCaption(name) == group)
             continue;
-        for (const QByteArray &key : m_set->propertyNamesForGroup(name)) {
-            moved.push_back({name, std::make_unique<KProperty>(m_set->property(key))});
-            m_set->removeProperty(key);
+        for (const QByteArray &key : set()->propertyNamesForGroup(name)) {
+            moved.push_back({name, std::make_unique<KProperty>(set()->property(key))});
+            set()->removeProperty(key);
         }
     }
     for (Moved &entry : moved)
-        m_set->addProperty(entry.property.release(), entry.group);
+        set()->addProperty(entry.property.release(), entry.group);
     Q_EMIT changed();
 }
 

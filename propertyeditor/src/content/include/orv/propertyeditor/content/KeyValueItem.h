@@ -10,6 +10,7 @@
 #include <QVariant>
 
 #include <memory>
+#include <optional>
 
 class KPropertySet;
 
@@ -96,7 +97,7 @@ public:
     Q_INVOKABLE int doubleType() const { return QMetaType::Double; }
 
     /// Null until a load has run. Owned by the item.
-    [[nodiscard]] const KPropertySet *propertySet() const { return m_set.get(); }
+    [[nodiscard]] const KPropertySet *propertySet() const { return set(); }
 
 Q_SIGNALS:
     void inserted(const QString &key, const QVariant &value);
@@ -116,7 +117,17 @@ private:
     /// False, with a warning, for a value that a file can't hold.
     [[nodiscard]] static bool isStorable(const KProperty &property);
 
-    std::unique_ptr<KPropertySet> m_set;
+    /// The properties, read now if they were set aside; null until a load has run.
+    [[nodiscard]] KPropertySet *set() const;
+    [[nodiscard]] static std::unique_ptr<KPropertySet> read(const QJsonObject &json);
+    /// Keeps the cell as it stands in place of its properties, which take a hundred times the memory.
+    void setAside(const QJsonObject &json);
+    /// False if there is no such property, without reading those that were set aside.
+    [[nodiscard]] bool mayHold(const QByteArray &name) const;
+    void applyBaseUrl() const;
+
+    mutable std::unique_ptr<KPropertySet> m_set;
+    mutable std::optional<QJsonObject> m_unread; ///< of a cell of an unknown type that nobody looked into
     QUrl m_baseUrl;
 };
 
