@@ -157,6 +157,12 @@ Outcome<WrittenDocument> DocumentTarget::write(const ChangedDocument &document, 
 {
     if (output.isEmpty() || (m_inPlace && !document.isChanged))
         return WrittenDocument{};
+    if (m_inPlace && document.malformed) {
+        Failure failure = failureFrom(document.malformed, Negative);
+        failure.message +=
+            QStringLiteral(" Not written over itself; mend it, or write to another file with -o.");
+        return failure;
+    }
     if (m_inPlace && !document.lost.isEmpty() && !m_acceptsLosses) {
         return Failure{
             Negative, 0,

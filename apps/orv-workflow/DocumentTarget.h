@@ -31,6 +31,7 @@ struct ChangedDocument
     QByteArray bytes; ///< the original where nothing is changed
     bool isChanged = false;
     QList<Loss> lost;
+    Error malformed = {}; ///< of a document that was mended on the way
 };
 
 /// Where a document went; empty texts where nothing was written.

@@ -5,6 +5,8 @@
 #include <orv/core/FileUtils.h>
 #include <orv/core/JsonUtils.h>
 #include <orv/core/PathUtils.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
 
 #include <QDir>
@@ -49,6 +51,15 @@ Result<QByteArray> readStream(const QString &argument)
 Result<QByteArray> readBytes(const QString &argument)
 {
     return isStream(argument) ? readStream(argument) : FileUtils::readFile(workflowFileOf(argument));
+}
+
+Failure noWorkflow(const Error &reason)
+{
+    Error error(reason.code(), QStringLiteral("The file is no workflow:"));
+    error.addDetail(reason.errorMessage());
+    for (const QString &detail : reason.details())
+        error.addDetail(detail);
+    return failureFrom(error, BadInput);
 }
 
 /// What a search of a folder found, in any order: its workflows, and what couldn't be looked into.
@@ -141,15 +152,27 @@ Outcome<FileText> readText(const QString &argument)
     const Result<QByteArray> bytes = readBytes(argument);
     if (bytes.hasError())
         return failureFrom(bytes.error(), BadInput);
-    Result<QJsonObject> document = JsonUtils::objectFromJson(*bytes);
-    if (document.hasError()) {
-        Error error(document.error().code(), QStringLiteral("The file is no workflow:"));
-        error.addDetail(document.error().errorMessage());
-        for (const QString &detail : document.error().details())
-            error.addDetail(detail);
-        return failureFrom(error, BadInput);
-    }
+    const Result<QJsonObject> document = JsonUtils::objectFromJson(*bytes);
+    if (document.hasError())
+        return noWorkflow(document.error());
     return FileText{*bytes, *document};
+}
+
+Outcome<DoubtfulText> readDoubtful(const QString &argument)
+{
+    const Result<QByteArray> bytes = readBytes(argument);
+    if (bytes.hasError())
+        return failureFrom(bytes.error(), BadInput);
+    const Result<JsonUtils::DoubtfulObject> read = JsonUtils::doubtfulObjectFromJson(*bytes);
+    if (read.hasError())
+        return noWorkflow(read.error());
+    DoubtfulText text{read->object, {}};
+    const QString metadata = read->object.value(PropertyEditorStringConstants::META_IN_JSON_KEY).toString();
+    if (read->fault)
+        text.fault = failureFrom(read->fault, Done);
+    else if (const Error fault = WflwMetaData::faultInText(metadata))
+        text.fault = failureFrom(fault, Done);
+    return text;
 }
 
 Outcome<QJsonObject> readDocument(const QString &argument)

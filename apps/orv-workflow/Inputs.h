@@ -36,6 +36,16 @@ struct FileText
 /// As readDocument, for those who tell places in the text.
 [[nodiscard]] Outcome<FileText> readText(const QString &argument);
 
+/// A workflow for those who show it and write nothing: read on behind a key that stands twice and an escape
+/// that JSON doesn't know.
+struct DoubtfulText
+{
+    QJsonObject document;
+    std::optional<Failure> fault; ///< why others refuse it, with the place
+};
+
+[[nodiscard]] Outcome<DoubtfulText> readDoubtful(const QString &argument);
+
 /// The JSON object of a workflow: from a file, a portable folder or standard input.
 [[nodiscard]] Outcome<QJsonObject> readDocument(const QString &argument);
 

@@ -1,6 +1,7 @@
 #include "Losses.h"
 
 #include "Failure.h"
+#include "ValueText.h"
 
 #include <QJsonObject>
 
@@ -8,8 +9,15 @@ namespace orv::cli {
 
 void printLosses(const QString &file, const QList<Loss> &lost)
 {
-    for (const Loss &loss : lost)
-        printRemark(file, QStringLiteral("lost: %1: %2: %3").arg(loss.path, loss.what, loss.why));
+    for (const Loss &loss : lost) {
+        const QString line = QStringLiteral("%1: %2: %3: %4")
+                                 .arg(loss.isChange() ? QStringLiteral("changed") : QStringLiteral("lost"),
+                                      loss.path, loss.what, loss.why);
+        printRemark(file,
+                    loss.isChange()
+                        ? QStringLiteral("%1 (%2 -> %3)").arg(line, oneLine(loss.stored), oneLine(loss.read))
+                        : line);
+    }
 }
 
 QJsonArray toJson(const QList<Loss> &lost)
@@ -18,7 +26,9 @@ QJsonArray toJson(const QList<Loss> &lost)
     for (const Loss &loss : lost) {
         array.append(QJsonObject{{QStringLiteral("path"), loss.path},
                                  {QStringLiteral("what"), loss.what},
-                                 {QStringLiteral("why"), loss.why}});
+                                 {QStringLiteral("why"), loss.why},
+                                 {QStringLiteral("stored"), orNull(loss.stored)},
+                                 {QStringLiteral("read"), orNull(loss.read)}});
     }
     return array;
 }

@@ -8,10 +8,10 @@
 
 namespace orv::cli {
 
-/// A line on standard error for everything that a load dropped.
+/// A line on standard error for everything that a load dropped or read as another value.
 void printLosses(const QString &file, const QList<Loss> &lost);
 
-/// [{"path", "what", "why"}]
+/// [{"path", "what", "why", "stored", "read"}]; the last two are null for what is dropped.
 [[nodiscard]] QJsonArray toJson(const QList<Loss> &lost);
 
 } // namespace orv::cli

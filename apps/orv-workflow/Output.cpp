@@ -26,6 +26,8 @@ Outcome<void> writeOutput(const QString &output, const QByteArray &bytes)
             return {};
         return Failure{BadOutput, 0, QStringLiteral("The standard output can't be written.")};
     }
+    if (const Error tooLarge = FileUtils::checkReadable(bytes))
+        return failureFrom(tooLarge, BadOutput);
     QString deviceError;
     return outcomeOf(FileUtils::writeToFile(output, bytes, &deviceError), deviceError);
 }

@@ -28,7 +28,8 @@ UpgradeAnswer upgradeWorkflow(const BatchInput &input, const UpgradeOptions &opt
     static_cast<WorkflowUpgradeReport &>(answer) =
         WorkflowUpgrade::run(read->document, {.accessSampleData = options.accessSampleData,
                                               .baseUrl = folderUrlOf(input.file),
-                                              .user = options.user});
+                                              .user = options.user,
+                                              .silentServers = options.silentServers});
     answer.original = read->bytes;
     if (!answer.isChanged)
         answer.upgraded = read->bytes;

@@ -4,6 +4,7 @@
 #include "Inputs.h"
 
 #include <orv/propertyeditor/workflow/WorkflowUpgrade.h>
+#include <orv/remote/SilentServers.h>
 
 #include <QByteArray>
 #include <QString>
@@ -15,7 +16,8 @@ namespace orv::cli {
 struct UpgradeOptions
 {
     bool accessSampleData = true;
-    QString user; ///< to stamp with; empty for the current one
+    QString user;                           ///< to stamp with; empty for the current one
+    SilentServers *silentServers = nullptr; ///< of the batch; not owned
 };
 
 /// What became of one document. Nothing is written yet.

@@ -88,6 +88,8 @@ private:
             return {lost, unevenFailure(tab->name())};
         if (const Outcome<void> allowed = refuseToLose(lost); allowed.hasFailed())
             return {lost, allowed.failure()};
+        if (const Error unwritable = content.checkWritable())
+            return {lost, failureFrom(unwritable, Negative)};
         return {lost, write(content).failureIfAny()};
     }
 

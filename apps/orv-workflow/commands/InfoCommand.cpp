@@ -19,16 +19,22 @@ struct InfoAnswer
     QString file;
     std::optional<WorkflowSummary> summary;
     std::optional<Failure> failure;
+    std::optional<Failure> fault = {}; ///< of a text that is shown all the same
 };
 
 InfoAnswer answerFor(const BatchInput &input)
 {
     if (input.failure)
         return {input.file, {}, input.failure};
-    const Outcome<QJsonObject> document = readDocument(input.file);
-    if (document.hasFailed())
-        return {input.file, {}, document.failure()};
-    return {input.file, WorkflowSummary::of(PropertyEditorContent(*document)), {}};
+    const Outcome<DoubtfulText> text = readDoubtful(input.file);
+    if (text.hasFailed())
+        return {input.file, {}, text.failure()};
+    return {input.file, WorkflowSummary::of(PropertyEditorContent(text->document)), {}, text->fault};
+}
+
+QString faultText(const InfoAnswer &answer)
+{
+    return answer.fault ? answer.fault->message : QString();
 }
 
 QJsonObject toJson(const InfoAnswer &answer)
@@ -36,6 +42,7 @@ QJsonObject toJson(const InfoAnswer &answer)
     QJsonObject json = answer.summary ? summaryToJson(*answer.summary) : emptySummaryJson();
     json.insert(QStringLiteral("file"), answer.file);
     json.insert(QStringLiteral("error"), errorJson(answer.failure));
+    json.insert(QStringLiteral("fault"), errorJson(answer.fault));
     return json;
 }
 
@@ -64,7 +71,7 @@ private:
         if (isJson)
             report.text = QJsonDocument(toJson(answer)).toJson();
         else if (answer.summary)
-            report.text = summaryToText(answer.file, *answer.summary).toLocal8Bit();
+            report.text = summaryToText(answer.file, *answer.summary, faultText(answer)).toLocal8Bit();
         report.verdict = answer.summary ? stateInWords(*answer.summary) : QStringLiteral("not readable");
         return report;
     }

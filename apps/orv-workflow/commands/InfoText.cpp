@@ -173,9 +173,11 @@ QString stateInWords(const WorkflowSummary &summary)
                                                                   : newer;
 }
 
-QString summaryToText(const QString &file, const WorkflowSummary &summary)
+QString summaryToText(const QString &file, const WorkflowSummary &summary, const QString &fault)
 {
     QString text = styled(withoutControls(file), Style::Heading) + QLatin1Char('\n');
+    text +=
+        fact(QStringLiteral("Fault"), fault.isEmpty() ? fault : styled(withoutControls(fault), Style::Bad));
     text += fact(QStringLiteral("Name"), withoutControls(summary.name));
     text += fact(QStringLiteral("Description"), withoutControls(summary.description.simplified()));
     const Style style = isNewer(summary) ? Style::Bad : rowOf(summary.state).style;

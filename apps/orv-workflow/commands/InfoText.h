@@ -17,7 +17,9 @@ namespace orv::cli {
 /// The state in a few words, for totals: "up to date".
 [[nodiscard]] QString stateInWords(const WorkflowSummary &summary);
 
-/// The summary for people: a heading, facts, and the tabs as a tree.
-[[nodiscard]] QString summaryToText(const QString &file, const WorkflowSummary &summary);
+/// The summary for people: a heading, facts, and the tabs as a tree. \a fault tells what is wrong with the
+/// text.
+[[nodiscard]] QString summaryToText(const QString &file, const WorkflowSummary &summary,
+                                    const QString &fault);
 
 } // namespace orv::cli

@@ -34,6 +34,13 @@ bool isOrHolds(const QString &folder, const QString &path)
     return path == folder || path.startsWith(folder + QLatin1Char('/'));
 }
 
+/// What the folder has, and what the workflow in it doesn't find there.
+struct Carried
+{
+    QStringList names;
+    QStringList dangling;
+};
+
 class SaveProgress : public PortableSaveObserver
 {
 public:
@@ -54,6 +61,8 @@ public:
         m_names.append(QFileInfo(destination).fileName());
     }
 
+    void dangling(const QString &text) override { m_dangling.append(text); }
+
     void failed(FileUtils::CopyFailure::Side side) override
     {
         m_bar.reset();
@@ -61,12 +70,14 @@ public:
     }
 
     [[nodiscard]] const QStringList &names() const { return m_names; }
+    [[nodiscard]] const QStringList &danglingTexts() const { return m_dangling; }
     [[nodiscard]] ExitCode exitCode() const { return m_exitCode; }
 
 private:
     const bool m_enabled;
     std::optional<Progress> m_bar;
     QStringList m_names;
+    QStringList m_dangling;
     ExitCode m_exitCode = BadOutput;
 };
 
@@ -83,15 +94,20 @@ public:
     int run(const GlobalOptions &options) override
     {
         const QString folder = targetFolder();
-        QStringList copied;
-        const Outcome<void> saved = save(folder, options, copied);
+        Carried carried;
+        const Outcome<void> saved = save(folder, options, &carried);
         const std::optional<Failure> &failure = saved.failureIfAny();
         if (failure)
             printFailure(failure->exitCode == BadOutput ? folder : m_file, *failure);
+        for (const QString &text : std::as_const(carried.dangling)) {
+            printRemark(
+                m_file,
+                QStringLiteral("\"%1\" isn't carried along, and isn't found from the folder.").arg(text));
+        }
         const int exitCode = failure ? failure->exitCode : Done;
         if (options.json)
-            return std::max(exitCode, printJson(report(folder, copied, failure)));
-        return failure ? exitCode : printText(text(folder, copied));
+            return std::max(exitCode, printJson(report(folder, carried, failure)));
+        return failure ? exitCode : printText(text(folder, carried));
     }
 
 private:
@@ -103,7 +119,7 @@ private:
         return WflwUtils::isMirelPortableWorkflow(folder) ? folder : folder + kPortableSuffix;
     }
 
-    Outcome<void> save(const QString &folder, const GlobalOptions &options, QStringList &copied) const
+    Outcome<void> save(const QString &folder, const GlobalOptions &options, Carried *carried) const
     {
         const Outcome<LoadedWorkflow> workflow = loadWorkflow(m_file);
         if (workflow.hasFailed())
@@ -115,7 +131,7 @@ private:
         SaveProgress progress(options.progress || standardErrorIsTerminal());
         const bool isSaved = WflwUtils::saveAsPortableWorkflow(*workflow->content, folder,
                                                                folderUrlOf(m_file), &error, &progress);
-        copied = progress.names();
+        *carried = {progress.names(), progress.danglingTexts()};
         if (isSaved)
             return {};
         if (error.isEmpty())
@@ -151,20 +167,21 @@ private:
                     .arg(folder, what)};
     }
 
-    static QJsonObject report(const QString &folder, const QStringList &copied,
+    static QJsonObject report(const QString &folder, const Carried &carried,
                               const std::optional<Failure> &failure)
     {
         const QString workflow = WflwUtils::workflowInPortableWorkflow(folder);
         return {{QStringLiteral("folder"), failure ? QJsonValue() : QJsonValue(folder)},
                 {QStringLiteral("workflow"), failure ? QJsonValue() : QJsonValue(workflow)},
-                {QStringLiteral("copied"), QJsonArray::fromStringList(copied)},
+                {QStringLiteral("copied"), QJsonArray::fromStringList(carried.names)},
+                {QStringLiteral("dangling"), QJsonArray::fromStringList(carried.dangling)},
                 {QStringLiteral("error"), errorJson(failure)}};
     }
 
-    static QString text(const QString &folder, const QStringList &copied)
+    static QString text(const QString &folder, const Carried &carried)
     {
         QString lines = withoutControls(WflwUtils::workflowInPortableWorkflow(folder)) + QLatin1Char('\n');
-        for (const QString &name : copied)
+        for (const QString &name : carried.names)
             lines += withoutControls(folder + QLatin1Char('/') + name) + QLatin1Char('\n');
         return lines;
     }

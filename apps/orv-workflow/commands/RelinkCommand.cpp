@@ -154,7 +154,8 @@ private:
         answer->changed = {.original = text->bytes,
                            .bytes = text->bytes,
                            .isChanged = !report->relinked.isEmpty(),
-                           .lost = {}};
+                           .lost = {},
+                           .malformed = {}};
         if (answer->changed.isChanged)
             answer->changed.bytes = QJsonDocument(report->document).toJson();
         return {};

@@ -111,6 +111,8 @@ private:
         printLosses(m_cell.file(), lost);
         if (const Outcome<void> assigned = assignAll(cell->document, item.get()); assigned.hasFailed())
             return assigned.failure();
+        if (const Error unwritable = item->checkWritable())
+            return failureFrom(unwritable, Negative);
         return write(cell->place.replacedIn(cell->document, item->toJson(PropertyConversionFlag::KeepPaths)));
     }
 

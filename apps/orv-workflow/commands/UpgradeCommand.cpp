@@ -35,12 +35,14 @@ protected:
     [[nodiscard]] FileReport report(const BatchInput &input, const QString &output,
                                     bool isJson) const override
     {
-        UpgradeAnswer answer = upgradeWorkflow(input, {.accessSampleData = !m_noSampleData, .user = m_user});
+        UpgradeAnswer answer = upgradeWorkflow(
+            input, {.accessSampleData = !m_noSampleData, .user = m_user, .silentServers = &m_silentServers});
         FileReport report{.text = {}, .file = input.file, .lost = answer.lost, .failure = answer.failure};
         WrittenDocument written;
         if (!answer.failure) {
             written =
-                write({answer.original, answer.upgraded, answer.isChanged, answer.lost}, output, &report);
+                write({answer.original, answer.upgraded, answer.isChanged, answer.lost, answer.malformed},
+                      output, &report);
             answer.failure = report.failure;
         }
         report.text = isJson ? QJsonDocument(upgradeReportJson(answer, written)).toJson()
@@ -53,6 +55,7 @@ protected:
 private:
     QString m_user;
     bool m_noSampleData = false;
+    mutable SilentServers m_silentServers;
 };
 
 } // namespace
