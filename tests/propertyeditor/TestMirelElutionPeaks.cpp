@@ -121,6 +121,8 @@ private Q_SLOTS:
     void allOldKeysAreRemovedAndNoOthers();
     void theTimeRangeIsReadAndRemoved_data();
     void theTimeRangeIsReadAndRemoved();
+    void aTimeRangeThatCannotBeHeldIsLeftOutWithAWarning_data();
+    void aTimeRangeThatCannotBeHeldIsLeftOutWithAWarning();
     void theAdvancedTextIsTaken();
     void retiredSettingsOfPeaksAreThoseOfTheCheck();
     void samplesAreReadByColumn();
@@ -257,6 +259,32 @@ void TestMirelElutionPeaks::theTimeRangeIsReadAndRemoved()
     const auto found = inputOf(item.get()).timeRangeOfInterest;
     QCOMPARE(found ? found->start.toString() + u' ' + found->end.toString() : QString(), range);
     QCOMPARE(keysOf(*item), QStringList());
+}
+
+void TestMirelElutionPeaks::aTimeRangeThatCannotBeHeldIsLeftOutWithAWarning_data()
+{
+    QTest::addColumn<QString>("start");
+    QTest::addColumn<QString>("end");
+    QTest::newRow("endless") << u"0"_s << u"inf"_s;
+    QTest::newRow("huge end") << u"0"_s << u"1e300"_s;
+    QTest::newRow("both huge") << u"1e300"_s << u"1e301"_s;
+    QTest::newRow("no number") << u"0"_s << u"nan"_s;
+    QTest::newRow("from no number") << u"nan"_s << u"5"_s;
+}
+
+void TestMirelElutionPeaks::aTimeRangeThatCannotBeHeldIsLeftOutWithAWarning()
+{
+    QFETCH(QString, start);
+    QFETCH(QString, end);
+    const auto item = itemWith({{u"InterestTimeStart"_s, start}, {u"InterestTimeEnd"_s, end}});
+    const LogCapture log;
+    QVERIFY(!inputOf(item.get()).timeRangeOfInterest);
+    QCOMPARE(keysOf(*item), QStringList());
+    QCOMPARE(log.warnings().size(), 1);
+    QVERIFY(log.warnings().first().contains(u"The time range of interest from %1 to %2 minutes"_s.arg(
+        start == u"1e300"_s ? u"1e+300"_s : start, end == u"1e300"_s   ? u"1e+300"_s
+                                                   : end == u"1e301"_s ? u"1e+301"_s
+                                                                       : end)));
 }
 
 void TestMirelElutionPeaks::theAdvancedTextIsTaken()

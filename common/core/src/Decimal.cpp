@@ -11,7 +11,8 @@ namespace {
 constexpr std::array<qint64, Decimal::kMaxDecimals + 1> kPowersOfTen = {
     1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000, 1000000000};
 
-constexpr double kLargestScaled = 9.0e18;
+constexpr int kMaxDigits = 18;
+constexpr double kTooLarge = 1e18;
 
 qint64 powerOfTen(int exponent)
 {
@@ -20,12 +21,15 @@ qint64 powerOfTen(int exponent)
 
 } // namespace
 
-Decimal::Decimal(double value, int decimals)
-    : m_decimals(std::clamp(decimals, 0, kMaxDecimals))
+std::optional<Decimal> Decimal::fromDouble(double value, int decimals)
 {
-    const double scaled = std::round(value * double(powerOfTen(m_decimals)));
-    if (std::isfinite(scaled) && std::abs(scaled) < kLargestScaled)
-        m_scaled = qint64(scaled);
+    Decimal result;
+    result.m_decimals = std::clamp(decimals, 0, kMaxDecimals);
+    const double scaled = std::round(value * double(powerOfTen(result.m_decimals)));
+    if (!std::isfinite(scaled) || std::abs(scaled) >= kTooLarge)
+        return {};
+    result.m_scaled = qint64(scaled);
+    return result;
 }
 
 std::optional<Decimal> Decimal::fromString(const QString &text)
@@ -39,7 +43,7 @@ std::optional<Decimal> Decimal::fromString(const QString &text)
         if (i == dot)
             continue;
         const char16_t unit = text[i].unicode();
-        if (unit < u'0' || unit > u'9' || ++digits > 18)
+        if (unit < u'0' || unit > u'9' || ++digits > kMaxDigits)
             return {};
         scaled = scaled * 10 + (unit - u'0');
         decimals += dot >= 0 && i > dot;

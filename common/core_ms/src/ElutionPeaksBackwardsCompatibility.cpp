@@ -80,8 +80,8 @@ struct Expert
 std::optional<Decimal> factorOf(const QString &text)
 {
     bool ok = false;
-    const Decimal factor(text.toDouble(&ok), kFactorDecimals);
-    return ok && Decimal() < factor ? std::optional(factor) : std::nullopt;
+    const std::optional<Decimal> factor = Decimal::fromDouble(text.toDouble(&ok), kFactorDecimals);
+    return ok && factor && Decimal() < *factor ? factor : std::nullopt;
 }
 
 Expert expertSettings(const QString &text)

@@ -1,13 +1,21 @@
 #include "orv/propertyeditor/workflow/MirelElutionPeaksBackwardsCompatibility.h"
 
+#include <orv/core/Logging.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
+
+#include <QCoreApplication>
 
 #include <array>
 
 namespace orv {
 
 namespace {
+
+struct MirelElutionPeaksTr
+{
+    Q_DECLARE_TR_FUNCTIONS(MirelElutionPeaksBackwardsCompatibility)
+};
 
 using Compatibility = ElutionPeaksBackwardsCompatibility;
 using PropertyEditor::KeyValueItem;
@@ -62,15 +70,27 @@ void takeOptions(QLatin1String prefix, KeyValueItem *item, Compatibility::OldPea
         removeIfThere(keyWithPrefix(i, prefix), item);
 }
 
+std::optional<ElutionPeaksOptions::TimeRange> timeRange(double startMinutes, double endMinutes)
+{
+    if (startMinutes < -kTimeTolerance || endMinutes < startMinutes)
+        return {};
+    const std::optional<Decimal> start = Decimal::fromDouble(startMinutes, kTimeDecimals);
+    const std::optional<Decimal> end = Decimal::fromDouble(endMinutes, kTimeDecimals);
+    if (start && end)
+        return ElutionPeaksOptions::TimeRange{*start, *end};
+    qCWarning(propertyEditorLog).noquote()
+        << MirelElutionPeaksTr::tr("The time range of interest from %1 to %2 minutes can't be held and is left "
+                                   "out; enter it in the peak presets of the table of samples.")
+               .arg(startMinutes)
+               .arg(endMinutes);
+    return {};
+}
+
 std::optional<ElutionPeaksOptions::TimeRange> takeTimeRange(KeyValueItem *item)
 {
     std::optional<ElutionPeaksOptions::TimeRange> range;
-    if (item->contains(kInterestTimeStart) && item->contains(kInterestTimeEnd)) {
-        const double start = item->value(kInterestTimeStart).toDouble();
-        const double end = item->value(kInterestTimeEnd).toDouble();
-        if (start >= -kTimeTolerance && end >= start)
-            range = {Decimal(start, kTimeDecimals), Decimal(end, kTimeDecimals)};
-    }
+    if (item->contains(kInterestTimeStart) && item->contains(kInterestTimeEnd))
+        range = timeRange(item->value(kInterestTimeStart).toDouble(), item->value(kInterestTimeEnd).toDouble());
     removeIfThere(kInterestTimeStart, item);
     removeIfThere(kInterestTimeEnd, item);
     return range;

@@ -104,7 +104,8 @@ private:
         preset.setName(text());
         if (number(2) == 0)
             preset.setTimeRange(
-                ElutionPeaksOptions::TimeRange{Decimal(number(99) / 7.0, number(5)), Decimal(number(99), 2)});
+                ElutionPeaksOptions::TimeRange{*Decimal::fromDouble(number(99) / 7.0, number(5)),
+                                               *Decimal::fromDouble(number(99), 2)});
         ElutionPeaksOptions::CreationOptions options;
         options.findsPeaks = number(2) == 0;
         options.smoothSigma = number(100) / 7.0;
@@ -113,7 +114,7 @@ private:
         options.smoothSigmaBaseline = number(100) / 7.0;
         options.autoCompute = ElutionPeaksOptions::AutoCompute(number(3));
         if (number(2) == 0)
-            options.peakWidthFactor = Decimal(number(100) / 7.0, number(5));
+            options.peakWidthFactor = Decimal::fromDouble(number(100) / 7.0, number(5));
         preset.setCreationOptions(options);
         return preset;
     }

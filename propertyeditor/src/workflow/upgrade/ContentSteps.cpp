@@ -52,7 +52,7 @@ Error addPeakWidthPreset(QList<ElutionPeaksOptions> *presets)
     presets->append(added);
     for (ElutionPeaksOptions &preset : *presets) {
         ElutionPeaksOptions::CreationOptions all = preset.creationOptions();
-        all.peakWidthFactor = Decimal(1.0, 2);
+        all.peakWidthFactor = Decimal::fromDouble(1.0, 2);
         preset.setCreationOptions(all);
     }
     return Error::NoError;

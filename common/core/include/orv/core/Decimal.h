@@ -16,9 +16,10 @@ public:
     static constexpr int kMaxDecimals = 9;
 
     Decimal() = default;
-    /// Rounds \a value half away from zero to \a decimals (0 to 9, clamped). A value that is not finite or
-    /// doesn't fit reads as 0.
-    Decimal(double value, int decimals);
+
+    /// Rounds \a value half away from zero to \a decimals (0 to 9, clamped). Nothing for a value that isn't
+    /// finite or has more than 18 digits with its decimals.
+    [[nodiscard]] static std::optional<Decimal> fromDouble(double value, int decimals);
 
     /// Parses "-12.50"; the count of decimals is that of the text. Nothing for any other text, more than 9
     /// decimals or more than 18 digits.
