@@ -5,7 +5,10 @@
 #include <kproperty_version.h>
 
 #include <QDate>
+#include <QDateTime>
+#include <QLineF>
 #include <QPoint>
+#include <QRectF>
 #include <QRegularExpression>
 #include <QSize>
 #include <QTest>
@@ -70,14 +73,20 @@ private Q_SLOTS:
     void builtInTypesAreQt6MetaTypes_data();
     void builtInTypesAreQt6MetaTypes();
     void captionIsOneLineAndKeepsItsFormForDisplaying();
-    void settingAnEqualValueChangesNothing_data();
-    void settingAnEqualValueChangesNothing();
+    void valuesAreStoredExactly_data();
+    void valuesAreStoredExactly();
+    void pointsAndSizesAreStoredExactly_data();
+    void pointsAndSizesAreStoredExactly();
+    void comparingGoesByMeaning_data();
+    void comparingGoesByMeaning();
     void oldValueIsThatBeforeTheFirstChange();
     void ignoreOldLeavesThePropertyUnmodified();
     void resetTakesBackAllChanges();
     void resetOfAnUnmodifiedPropertyDoesNothing();
     void smallDoublesAreStoredWithoutAPrecision();
-    void precisionLimitsWhatCountsAsAChange();
+    void precisionIsForShowingAlone_data();
+    void precisionIsForShowingAlone();
+    void composedEqualityStandsForValuesOfItsOwnType();
     void nullOptionUnsets_data();
     void nullOptionUnsets();
     void optionsAreInheritedFromParents();
@@ -117,6 +126,16 @@ void PropertyTest::aNullPropertyTakesNoValue()
     QVERIFY(!property.value().isValid());
     property.setName("named");
     QVERIFY(property.setValue(5));
+
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("without a name")));
+    KProperty nameless(QByteArray(), 5, QStringLiteral("Caption"));
+    QVERIFY(nameless.isNull());
+    QVERIFY(!nameless.value().isValid());
+    QCOMPARE(nameless.type(), int(KProperty::Int));
+    QCOMPARE(nameless.caption(), QStringLiteral("Caption"));
+    nameless.setName("named");
+    QVERIFY(!nameless.value().isValid());
+    QVERIFY(nameless.setValue(7));
 }
 
 void PropertyTest::typeComesFromTheValueUnlessGiven_data()
@@ -187,35 +206,107 @@ void PropertyTest::captionIsOneLineAndKeepsItsFormForDisplaying()
     QCOMPARE(property.captionOrName(), QStringLiteral("Allow Zero"));
 }
 
-void PropertyTest::settingAnEqualValueChangesNothing_data()
+void PropertyTest::valuesAreStoredExactly_data()
 {
     QTest::addColumn<QVariant>("stored");
     QTest::addColumn<QVariant>("given");
     QTest::addColumn<bool>("changes");
-    QTest::newRow("same") << QVariant(2) << QVariant(2) << false;
-    QTest::newRow("number as text") << QVariant(2) << QVariant(QStringLiteral("2")) << false;
-    QTest::newRow("text as number") << QVariant(QStringLiteral("2")) << QVariant(2) << false;
-    QTest::newRow("other number") << QVariant(2) << QVariant(3) << true;
-    QTest::newRow("text that is no number") << QVariant(0) << QVariant(QStringLiteral("x")) << true;
-    QTest::newRow("null text and empty text") << QVariant(QString()) << QVariant(QStringLiteral("")) << false;
-    QTest::newRow("nothing and empty text") << QVariant() << QVariant(QString()) << true;
-    QTest::newRow("value to nothing") << QVariant(1) << QVariant() << true;
-    QTest::newRow("zero to nothing") << QVariant(0.0) << QVariant() << true;
-    QTest::newRow("same list") << QVariant(QStringList{QStringLiteral("a")})
-                               << QVariant(QStringList{QStringLiteral("a")}) << false;
-    QTest::newRow("same size") << QVariant(QSize(1, 2)) << QVariant(QSize(1, 2)) << false;
+    const auto change = [](const char *name, const QVariant &stored, const QVariant &given) {
+        QTest::newRow(name) << stored << given << true;
+    };
+    const auto same = [](const char *name, const QVariant &stored, const QVariant &given) {
+        QTest::newRow(name) << stored << given << false;
+    };
+    same("same", 2, 2);
+    change("number as text", 2, QStringLiteral("2"));
+    change("text as number", QStringLiteral("300"), 300);
+    change("integer as double", 2, 2.0);
+    change("integer as long", 2, 2LL);
+    change("bool as integer", true, 1);
+    change("bytes as text", QByteArray("a"), QStringLiteral("a"));
+    change("other number", 2, 3);
+    change("text that is no number", 0, QStringLiteral("x"));
+    same("null text and empty text", QString(), QStringLiteral(""));
+    change("nothing and empty text", QVariant(), QString());
+    change("value to nothing", 1, QVariant());
+    change("zero to nothing", 0.0, QVariant());
+    change("no answer and no", QVariant(QMetaType::fromType<bool>()), false);
+    change("next double", 0.1 + 0.2, 0.3);
+    change("zero and less than any scale", 0.0, 1e-300);
+    change("zero and minus zero", 0.0, -0.0);
+    same("no number", qQNaN(), qQNaN());
+    same("same list", QStringList{QStringLiteral("a")}, QStringList{QStringLiteral("a")});
+    change("list with a number as text", QVariantList{1}, QVariantList{QStringLiteral("1")});
+    change("longer list", QVariantList{1}, QVariantList{1, 1});
+    change("map with an integer as double", QVariantMap{{QStringLiteral("k"), 1}},
+           QVariantMap{{QStringLiteral("k"), 1.0}});
+    change("map with another key", QVariantMap{{QStringLiteral("k"), 1}},
+           QVariantMap{{QStringLiteral("l"), 1}});
+    same("same hash", QVariantHash{{QStringLiteral("k"), 1.5}}, QVariantHash{{QStringLiteral("k"), 1.5}});
+    change("hash with another value", QVariantHash{{QStringLiteral("k"), 1.5}},
+           QVariantHash{{QStringLiteral("k"), QStringLiteral("1.5")}});
+    const QDateTime noon(QDate(2024, 2, 29), QTime(12, 0), Qt::UTC);
+    same("same time", noon, noon);
+    change("one moment in two zones", noon, noon.toOffsetFromUtc(3600));
 }
 
-void PropertyTest::settingAnEqualValueChangesNothing()
+void PropertyTest::valuesAreStoredExactly()
 {
     QFETCH(QVariant, stored);
     QFETCH(QVariant, given);
     QFETCH(bool, changes);
-    KProperty property("p", stored);
-    QCOMPARE(property.valueEqualsTo(given), !changes);
+    KProperty property("p", stored, QString(), QString(), KProperty::UserDefined);
     QCOMPARE(property.setValue(given), changes);
     QCOMPARE(property.isModified(), changes);
-    QCOMPARE(property.value(), changes ? given : stored);
+    QCOMPARE(property.value().metaType(), (changes ? given : stored).metaType());
+    QCOMPARE(property.value().isNull(), (changes ? given : stored).isNull());
+    QCOMPARE(property.value().toString(), (changes ? given : stored).toString());
+    QVERIFY(!property.setValue(property.value()));
+}
+
+void PropertyTest::pointsAndSizesAreStoredExactly_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<QVariant>("given");
+    QTest::newRow("point") << QVariant(QPointF(1.0, 1.0)) << QVariant(QPointF(1.0, 1.0 + 1e-14));
+    QTest::newRow("size") << QVariant(QSizeF(1.0, 1.0)) << QVariant(QSizeF(1.0 + 1e-14, 1.0));
+    QTest::newRow("rectangle") << QVariant(QRectF(0, 0, 1.0, 1.0))
+                               << QVariant(QRectF(0, 0, 1.0, 1.0 + 1e-14));
+    QTest::newRow("line") << QVariant(QLineF(0, 0, 1, 1)) << QVariant(QLineF(0, 0, 1, 1 + 1e-14));
+}
+
+void PropertyTest::pointsAndSizesAreStoredExactly()
+{
+    QFETCH(QVariant, stored);
+    QFETCH(QVariant, given);
+    KProperty property("p", stored);
+    QVERIFY(!property.setValue(stored));
+    QVERIFY(property.setValue(given));
+    QVERIFY(property.isModified());
+}
+
+void PropertyTest::comparingGoesByMeaning_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<QVariant>("given");
+    QTest::addColumn<bool>("equal");
+    QTest::newRow("same") << QVariant(2) << QVariant(2) << true;
+    QTest::newRow("number as text") << QVariant(2) << QVariant(QStringLiteral("2")) << true;
+    QTest::newRow("text as number") << QVariant(QStringLiteral("2")) << QVariant(2) << true;
+    QTest::newRow("other number") << QVariant(2) << QVariant(3) << false;
+    QTest::newRow("text that is no number") << QVariant(0) << QVariant(QStringLiteral("x")) << false;
+    QTest::newRow("null text and empty text") << QVariant(QString()) << QVariant(QStringLiteral("")) << true;
+    QTest::newRow("nothing and empty text") << QVariant() << QVariant(QString()) << false;
+    QTest::newRow("zero and nothing") << QVariant(0.0) << QVariant() << false;
+}
+
+void PropertyTest::comparingGoesByMeaning()
+{
+    QFETCH(QVariant, stored);
+    QFETCH(QVariant, given);
+    const KProperty property("p", stored);
+    QTEST(property.valueEqualsTo(given), "equal");
+    QTEST(property == KProperty("p", given), "equal");
 }
 
 void PropertyTest::oldValueIsThatBeforeTheFirstChange()
@@ -267,12 +358,37 @@ void PropertyTest::smallDoublesAreStoredWithoutAPrecision()
     QVERIFY(tolerance.setValue(0.0010000001));
 }
 
-void PropertyTest::precisionLimitsWhatCountsAsAChange()
+void PropertyTest::precisionIsForShowingAlone_data()
 {
-    KProperty property("p", 1.0);
-    property.setOption("precision", 3);
-    QVERIFY(!property.setValue(1.0004));
-    QVERIFY(property.setValue(1.0014));
+    QTest::addColumn<int>("precision");
+    QTest::addColumn<double>("stored");
+    QTest::addColumn<double>("given");
+    QTest::newRow("behind the decimals shown") << 2 << 0.01 << 0.01004;
+    QTest::newRow("second decimal of one") << 1 << 2.5 << 2.51;
+    QTest::newRow("next step, which truncation takes for the same") << 2 << 0.28 << 0.29;
+    QTest::newRow("no decimals") << 0 << 400.0 << 400.6;
+    QTest::newRow("third decimal of two") << 2 << 12.34 << 12.345;
+}
+
+void PropertyTest::precisionIsForShowingAlone()
+{
+    QFETCH(int, precision);
+    QFETCH(double, stored);
+    QFETCH(double, given);
+    KProperty property("p", stored);
+    property.setOption("precision", precision);
+    QVERIFY(!property.valueEqualsTo(given));
+    QVERIFY(property.setValue(given));
+    QCOMPARE(property.value().toDouble(), given);
+    QCOMPARE(property.oldValue().toDouble(), stored);
+}
+
+void PropertyTest::composedEqualityStandsForValuesOfItsOwnType()
+{
+    KProperty property("pair", QPoint(1, 2), QString(), QString(), kPairType);
+    QVERIFY(!property.setValue(QPoint(1, 2)));
+    QVERIFY(property.setValue(QPointF(1.0, 2.0)));
+    QCOMPARE(property.value().typeId(), int(QMetaType::QPointF));
 }
 
 void PropertyTest::nullOptionUnsets_data()

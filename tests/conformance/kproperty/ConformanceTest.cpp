@@ -26,12 +26,18 @@ const Difference kDifferences[] = {
      "equal "
      "and loses a change of a small tolerance; ours compares exactly and shows what is there."},
     {"empty-group", "A group whose properties are all hidden has no row in ours."},
+    {"exact-storing", "The original keeps 2 where the text \"2\" is set, since the one converts to the "
+                      "other; what is set is then "
+                      "not what is stored."},
     {"failed-conversion",
      "Qt 5 converts what it cannot convert to an empty text or zero, and so loses the change; Qt 6 refuses."},
     {"groups-hidden", "setGroupsVisible(false) is documented; the original shows the groups all the same."},
     {"late-addition",
      "The original's rows grow without a signal of its model, which views must not see; ours appear with the "
      "next changeSet()."},
+    {"precision-compares",
+     "The original takes doubles that agree in as many decimals as \"precision\" says for equal, cut and not "
+     "rounded, and drops the change; in ours the option is for showing."},
     {"preserve-selection",
      "The option PreservePreviousSelection is documented; the original does not remember."},
     {"read-only-data", "The original's model writes to read-only properties; ours refuses."},

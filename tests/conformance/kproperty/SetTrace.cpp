@@ -338,6 +338,10 @@ private:
     void changeContents(int operation, const QByteArray &name, const QByteArray &group, const QVariant &value)
     {
         KProperty &property = m_set[name];
+        const QVariant given = operation == 9 ? property.oldValue() : value;
+        if (operation <= 9 && Trace::isOtherOfEqualMeaning(property, given)) {
+            return;
+        }
         switch (operation) {
         case 6:
         case 7:

@@ -230,6 +230,13 @@ void differs(const char *name)
     s_mark = QByteArray("~") + name + "~ ";
 }
 
+bool isOtherOfEqualMeaning(const KProperty &property, const QVariant &value)
+{
+    const QVariant held = property.value();
+    return property.valueEqualsTo(value) &&
+           (QByteArray(held.typeName()) != value.typeName() || show(held) != show(value));
+}
+
 void line(const QString &text)
 {
     std::fputs(std::exchange(s_mark, QByteArray()).constData(), stdout);

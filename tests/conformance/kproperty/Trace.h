@@ -39,6 +39,9 @@ QString describeOrder(const KPropertySet &set);
 /// The order, groups and flags of a set.
 QString describe(const KPropertySet &set);
 
+/// True for a value that means what \a property holds, in another type: there the builds part.
+bool isOtherOfEqualMeaning(const KProperty &property, const QVariant &value);
+
 void line(const QString &text);
 /// The next line is one of the deliberate differences that the comparison knows under this name.
 void differs(const char *name);

@@ -107,7 +107,8 @@ public:
     /// A null property: no name, no value, type Auto.
     KProperty();
 
-    /// With type Auto the type is that of \a value. A \a parent takes ownership.
+    /// With type Auto the type is that of \a value. Without a \a name the property is null and takes no
+    /// value. A \a parent takes ownership.
     explicit KProperty(const QByteArray &name, const QVariant &value = QVariant(),
                        const QString &caption = QString(), const QString &description = QString(),
                        int type = Auto, KProperty *parent = nullptr);
@@ -171,11 +172,13 @@ public:
     Q_DECLARE_FLAGS(ValueOptions, ValueOption)
 
     /*! Stores \a value and tells the set. Children of a composed property follow.
-        Returns false when nothing changed: the property is null or has this value already. */
+        Returns false when nothing changed: the property is null or holds this very value already. A value of
+        another type is another value (2 and "2"), however alike both look, and so is one that differs only
+        behind the decimals that the option "precision" shows. A null and an empty text are one value. */
     bool setValue(const QVariant &value, ValueOptions options = ValueOptions());
 
-    /*! Text and number compare equal when the conversion of \a value to the stored type does.
-        Two doubles compare equal when they agree in as many decimals as the option "precision" says. */
+    /// True for what means the same: text and number compare equal when the conversion of \a value to the
+    /// stored type does. setValue() is stricter.
     bool valueEqualsTo(const QVariant &value, ValueOptions valueOptions = ValueOptions()) const;
 
     /// Takes back the changes since the property was last unmodified.
@@ -232,7 +235,7 @@ public:
     /*! Sets an option that editors read; a null \a val unsets it (an empty text is not null).
 
         min, max, minValueText: bounds of numbers, dates and times, and a text to show at the lower bound.
-        precision, step: decimals and step of doubles; step also for integers.
+        precision, step: decimals that are shown and step of doubles; step also for integers.
         prefix, suffix: texts around numbers, also in the children of points, sizes and rectangles.
         3State: a bool may be null; yesName, noName, 3rdStateName, nullName: texts of its states.
         extraValueAllowed: a list takes typed values that are not among its keys.
@@ -262,6 +265,7 @@ private:
     // A bool once stood where the options stand now; without this, old calls would compile and do otherwise.
     void setValue(const QVariant &value, bool a1, bool a2 = true) = delete;
 
+    bool holds(const QVariant &value, ValueOptions options) const;
     bool valueChangeAllowed(const QVariant &value, ValueOptions options) const;
     void copyValue(const KProperty &property);
 

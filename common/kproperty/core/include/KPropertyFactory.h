@@ -32,7 +32,8 @@ public:
     bool childValueChangedEnabled() const;
     void setChildValueChangedEnabled(bool set);
 
-    inline virtual bool valuesEqual(const QVariant &first, const QVariant &second) { return first == second; }
+    /// Exactly, type included. Values that Qt compares otherwise need an override.
+    virtual bool valuesEqual(const QVariant &first, const QVariant &second);
 
 protected:
     /// Puts \a value of \a child into the value of its parent. The child still has its former value.

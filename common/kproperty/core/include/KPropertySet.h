@@ -79,8 +79,8 @@ private:
     KProperty::resetValue() propertyReset after these. The destructor emits aboutToBeCleared,
     aboutToBeDeleted, aboutToBeCleared.
 
-    Lookups, additions and removals take time that does not grow with the set (removals: with its
-    logarithm). Use a set in one thread at a time. */
+    Lookups, additions, insertions and removals take time that does not grow with the set. Use a set in one
+   thread at a time. */
 class KPROPERTYCORE_EXPORT KPropertySet : public QObject
 {
     Q_OBJECT
@@ -117,7 +117,8 @@ public:
     QByteArray groupNameForProperty(const KProperty &property) const;
     /// In the order in which the groups came to be.
     QList<QByteArray> groupNames() const;
-    /// In the order of insertion, as the properties were called then; \a group in lower case.
+    /// In the order in which they stand, as the properties were called when they were added; \a group in
+    /// lower case.
     QList<QByteArray> propertyNamesForGroup(const QByteArray &group) const;
 
     /// Where a view stood when it last showed this set.
@@ -127,6 +128,17 @@ public:
     void debug() const;
 
     QMap<QByteArray, QVariant> propertyValues() const;
+
+    /// On which side of its neighbour a property is inserted.
+    enum class Side
+    {
+        Before,
+        Behind
+    };
+    /*! Adds \a property to the group of \a neighbour, right at that one's \a side both there and in the order
+        of the set; no other property is touched. Ownership and refusals are those of addProperty(). With a
+        \a neighbour that isn't in the set: a warning, and the property stands at the end of "common". */
+    void insertProperty(KProperty *property, const KProperty &neighbour, Side side);
 
     void clearModifiedFlags();
     bool isModified() const;

@@ -36,6 +36,13 @@ void writeChildren(KProperty *property, const QVariant &value, KProperty::ValueO
     composed->setValue(property, value, options | KProperty::ValueOption::IgnoreComposedProperty);
 }
 
+void warnOfNull(const QVariant &value)
+{
+    if (value.isValid()) {
+        qCWarning(kpropertyLog) << "A property without a name takes no value:" << value;
+    }
+}
+
 /// Storing what no editor of the property could show is legal, yet mostly a mistake of the caller.
 bool typesFit(const QVariant &stored, const QVariant &value)
 {
@@ -99,6 +106,10 @@ KProperty::KProperty(const QByteArray &name, const QVariant &value, const QStrin
         parent->d->addChild(parent, this);
     }
     d->createComposed(this);
+    if (isNull()) {
+        warnOfNull(value);
+        return;
+    }
     if (d->composed) {
         writeChildren(this, value, ValueOption::IgnoreOld);
     }
@@ -196,10 +207,10 @@ QVariant KProperty::oldValue() const
 bool KProperty::valueChangeAllowed(const QVariant &value, ValueOptions options) const
 {
     if (isNull()) {
-        qCWarning(kpropertyLog) << "A property without a name takes no value:" << value;
+        warnOfNull(value);
         return false;
     }
-    if (valueEqualsTo(value, options)) {
+    if (holds(value, options)) {
         return false;
     }
     if (!typesFit(d->value, value)) {
@@ -245,8 +256,15 @@ bool KProperty::valueEqualsTo(const QVariant &value, ValueOptions valueOptions) 
     if (d->composed && !(valueOptions & ValueOption::IgnoreComposedProperty)) {
         return d->composed->valuesEqual(d->value, value);
     }
-    const QVariant precision = option("precision");
-    return Internal::equalVariants(d->value, value, precision.isValid() ? precision.toInt() : -1);
+    return Internal::equalVariants(d->value, value);
+}
+
+bool KProperty::holds(const QVariant &value, ValueOptions options) const
+{
+    // A composed property knows values that Qt can't compare.
+    return Internal::identicalVariants(d->value, value) ||
+           (d->composed && !(options & ValueOption::IgnoreComposedProperty) &&
+            d->value.metaType() == value.metaType() && d->composed->valuesEqual(d->value, value));
 }
 
 void KProperty::resetValue()

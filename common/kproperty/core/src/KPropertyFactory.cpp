@@ -2,6 +2,7 @@
 
 #include "KPropertySet_p.h"
 #include "KProperty_p.h"
+#include "internal/VariantUtils.h"
 
 #include <QSet>
 
@@ -22,6 +23,11 @@ KComposedPropertyInterface::KComposedPropertyInterface(KProperty *parent)
 }
 
 KComposedPropertyInterface::~KComposedPropertyInterface() = default;
+
+bool KComposedPropertyInterface::valuesEqual(const QVariant &first, const QVariant &second)
+{
+    return Internal::identicalVariants(first, second);
+}
 
 void KComposedPropertyInterface::childValueChangedInternal(KProperty *child, const QVariant &value,
                                                            KProperty::ValueOptions valueOptions)

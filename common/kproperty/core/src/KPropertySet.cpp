@@ -43,7 +43,7 @@ int KPropertySet::count(const KPropertySelector &selector) const
 
 bool KPropertySet::isEmpty() const
 {
-    return d->properties.isEmpty();
+    return d->properties.empty();
 }
 
 bool KPropertySet::hasVisibleProperties() const
@@ -119,7 +119,7 @@ QByteArray KPropertySet::groupNameForProperty(const KProperty &property) const
 QList<QByteArray> KPropertySet::groupNames() const
 {
     QList<QByteArray> names;
-    names.reserve(d->groups.size());
+    names.reserve(static_cast<qsizetype>(d->groups.size()));
     for (const KPropertySetPrivate::Group &group : std::as_const(d->groups)) {
         names.append(group.name);
     }
@@ -128,9 +128,12 @@ QList<QByteArray> KPropertySet::groupNames() const
 
 QList<QByteArray> KPropertySet::propertyNamesForGroup(const QByteArray &group) const
 {
-    const auto sequence = d->groupByName.constFind(group);
-    return sequence == d->groupByName.cend() ? QList<QByteArray>()
-                                             : d->groups.value(*sequence).propertyNames.values();
+    const auto found = d->groupByName.constFind(group);
+    if (found == d->groupByName.cend()) {
+        return {};
+    }
+    const KPropertySetPrivate::Names &names = (*found)->propertyNames;
+    return QList<QByteArray>(names.cbegin(), names.cend());
 }
 
 QByteArray KPropertySet::previousSelection() const
@@ -168,6 +171,11 @@ bool KPropertySet::isModified() const
 void KPropertySet::addProperty(KProperty *property, const QByteArray &group)
 {
     d->addProperty(property, group);
+}
+
+void KPropertySet::insertProperty(KProperty *property, const KProperty &neighbour, Side side)
+{
+    d->insertProperty(property, neighbour, side);
 }
 
 void KPropertySet::removeProperty(KProperty *property)

@@ -30,7 +30,7 @@ public:
 
     void restart()
     {
-        properties = source->properties.values();
+        properties = QList<KProperty *>(source->properties.cbegin(), source->properties.cend());
         if (order != Order::Insertion) {
             sort();
         }

@@ -5,6 +5,7 @@
 
 #include <QPointer>
 
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -40,7 +41,7 @@ KProperty &KPropertySetPrivate::nullProperty() const
 QByteArray KPropertySetPrivate::groupNameOf(const KProperty *property) const
 {
     const auto it = entries.constFind(property);
-    return it == entries.cend() ? QByteArray() : groups.value(it->group).name;
+    return it == entries.cend() ? QByteArray() : it->group->name;
 }
 
 QString KPropertySetPrivate::groupCaption(const QByteArray &group) const
@@ -49,60 +50,88 @@ QString KPropertySetPrivate::groupCaption(const QByteArray &group) const
     return caption.isEmpty() ? QString::fromUtf8(group) : caption;
 }
 
-KPropertySetPrivate::Group &KPropertySetPrivate::groupNamed(const QByteArray &name, Sequence *sequence)
+KPropertySetPrivate::Groups::iterator KPropertySetPrivate::groupNamed(const QByteArray &name)
 {
     const QByteArray key = name.isEmpty() ? QByteArray(kCommonGroup) : name.toLower();
     const auto known = groupByName.constFind(key);
     if (known != groupByName.cend()) {
-        *sequence = *known;
-        return groups[*known];
+        return *known;
     }
-    *sequence = nextSequence++;
-    groupByName.insert(key, *sequence);
-    return *groups.insert(groups.cend(), *sequence, Group{key, {}});
+    return *groupByName.insert(key, groups.insert(groups.end(), Group{key, {}}));
+}
+
+bool KPropertySetPrivate::accepts(KProperty *property)
+{
+    if (!property) {
+        qCWarning(kpropertyLog) << "There is no property to add";
+        return false;
+    }
+    if (entries.contains(property) || m_refused.contains(property)) {
+        return false;
+    }
+    const bool isNameless = property->name().isEmpty();
+    if (isNameless) {
+        qCWarning(kpropertyLog) << "A property without a name is not added";
+    }
+    if (!isNameless && !byName.contains(property->name().toLower())) {
+        return true;
+    }
+    if (ownsProperties) {
+        m_refused.insert(property);
+    }
+    return false;
+}
+
+void KPropertySetPrivate::place(KProperty *property, Properties::iterator position, Groups::iterator group,
+                                Names::iterator name)
+{
+    const QByteArray key = property->name().toLower();
+    entries.insert(property, Entry{key, properties.insert(position, property), group,
+                                   group->propertyNames.insert(name, property->name())});
+    byName.insert(key, property);
+    property->d->set = q;
 }
 
 void KPropertySetPrivate::addProperty(KProperty *property, const QByteArray &group)
 {
-    if (!property) {
-        qCWarning(kpropertyLog) << "There is no property to add";
+    if (!accepts(property)) {
         return;
     }
-    if (entries.contains(property) || m_refused.contains(property)) {
+    const Groups::iterator target = groupNamed(group);
+    place(property, properties.end(), target, target->propertyNames.end());
+}
+
+void KPropertySetPrivate::insertProperty(KProperty *property, const KProperty &neighbour,
+                                         KPropertySet::Side side)
+{
+    if (!accepts(property)) {
         return;
     }
-    const QByteArray key = property->name().toLower();
-    if (key.isEmpty() || byName.contains(key)) {
-        if (key.isEmpty()) {
-            qCWarning(kpropertyLog) << "A property without a name is not added";
-        }
-        if (ownsProperties) {
-            m_refused.insert(property);
-        }
+    const auto found = entries.constFind(&neighbour);
+    if (found == entries.cend()) {
+        qCWarning(kpropertyLog) << "The set has no property" << neighbour.name() << "to insert"
+                                << property->name() << "at; it stands at the end";
+        addProperty(property, QByteArray());
         return;
     }
-    Entry entry{key, nextSequence++, 0};
-    Group &target = groupNamed(group, &entry.group);
-    target.propertyNames.insert(target.propertyNames.cend(), entry.position, property->name());
-    properties.insert(properties.cend(), entry.position, property);
-    byName.insert(key, property);
-    entries.insert(property, entry);
-    property->d->set = q;
+    const int step = side == KPropertySet::Side::Behind ? 1 : 0;
+    place(property, std::next(found->position, step), found->group, std::next(found->name, step));
 }
 
 bool KPropertySetPrivate::takeOut(KProperty *property)
 {
-    const Entry entry = entries.take(property);
-    if (entry.position == 0) {
+    const auto found = entries.constFind(property);
+    if (found == entries.cend()) {
         return false;
     }
-    properties.remove(entry.position);
+    const Entry entry = *found;
+    entries.erase(found);
+    properties.erase(entry.position);
     byName.remove(entry.key);
-    Group &group = groups[entry.group];
-    group.propertyNames.remove(entry.position);
-    if (group.propertyNames.isEmpty()) {
-        groupByName.remove(group.name);
-        groups.remove(entry.group);
+    entry.group->propertyNames.erase(entry.name);
+    if (entry.group->propertyNames.empty()) {
+        groupByName.remove(entry.group->name);
+        groups.erase(entry.group);
     }
     if (property->d->set == q) {
         property->d->set = nullptr;
@@ -123,7 +152,7 @@ void KPropertySetPrivate::removeProperty(KProperty *property)
 
 void KPropertySetPrivate::deleteAll()
 {
-    const QMap<Sequence, KProperty *> doomed = std::exchange(properties, {});
+    const Properties doomed = std::exchange(properties, {});
     entries.clear();
     byName.clear();
     groups.clear();

@@ -3,28 +3,32 @@
 #include "KPropertySet.h"
 
 #include <QHash>
-#include <QMap>
 #include <QSet>
+
+#include <list>
 
 class KPropertySetPrivate
 {
 public:
-    /// Orders properties and groups. Numbers are never used twice, so removing one moves no other.
-    using Sequence = quint64;
+    // Linked lists: whatever is added or removed in the middle, no other place moves.
+    using Properties = std::list<KProperty *>;
+    using Names = std::list<QByteArray>;
 
     struct Group
     {
         QByteArray name;
         /// As the properties were called when they were added: lookups go by that, renamed or not.
-        QMap<Sequence, QByteArray> propertyNames;
+        Names propertyNames;
     };
+    using Groups = std::list<Group>;
 
     struct Entry
     {
         /// The name at the time of addition: a property that is renamed is still found under it.
         QByteArray key;
-        Sequence position = 0;
-        Sequence group = 0;
+        Properties::iterator position;
+        Groups::iterator group;
+        Names::iterator name;
     };
 
     KPropertySetPrivate(KPropertySet *set, bool owner);
@@ -37,6 +41,7 @@ public:
     QString groupCaption(const QByteArray &group) const;
 
     void addProperty(KProperty *property, const QByteArray &group);
+    void insertProperty(KProperty *property, const KProperty &neighbour, KPropertySet::Side side);
     void removeProperty(KProperty *property);
     /// Takes a property out of all indexes without deleting it.
     bool takeOut(KProperty *property);
@@ -52,18 +57,22 @@ public:
     KPropertySet *const q;
     const bool ownsProperties;
     bool readOnly = false;
-    Sequence nextSequence = 1;
-    QMap<Sequence, KProperty *> properties;
+    Properties properties;
     QHash<QByteArray, KProperty *> byName;
     QHash<const KProperty *, Entry> entries;
-    QMap<Sequence, Group> groups;
-    QHash<QByteArray, Sequence> groupByName;
+    Groups groups;
+    QHash<QByteArray, Groups::iterator> groupByName;
     QHash<QByteArray, QString> groupCaptions;
     QHash<QByteArray, QString> groupIconNames;
     QByteArray previousSelection;
 
 private:
-    Group &groupNamed(const QByteArray &name, Sequence *sequence);
+    Groups::iterator groupNamed(const QByteArray &name);
+    /// False for what the set has already, and for what it keeps out of sight.
+    bool accepts(KProperty *property);
+    /// Before the given places.
+    void place(KProperty *property, Properties::iterator position, Groups::iterator group,
+               Names::iterator name);
     void deleteAll();
 
     /// Additions that were refused: owned, since the caller gave them away.

@@ -83,7 +83,7 @@ void ItemDelegate::releaseEditor()
 void ItemDelegate::restoreValue()
 {
     KProperty *const property = m_model->property(m_index);
-    if (!property || property->valueEqualsTo(m_valueBefore)) {
+    if (!property) {
         return;
     }
     if (m_modifiedBefore || property->oldValue() != m_valueBefore) {
