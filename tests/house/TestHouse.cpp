@@ -257,10 +257,8 @@ void TestHouse::aLongFileIsFound()
     const QTemporaryDir root;
     plant(root, {{u"common/core/src/Allowed.cpp"_s, QByteArray(HouseRules::kMaxLines, '\n')},
                  {u"common/core/src/Long.cpp"_s, QByteArray(HouseRules::kMaxLines + 1, '\n')}});
-    const QStringList violations = HouseRules(root.path()).filesThatAreTooLong();
-    QCOMPARE(violations.first(), u"common/core/src/Long.cpp has 601 lines, at most 600 are allowed"_s);
-    // The files that have a reason are missing in this tree, which is told too.
-    QVERIFY(violations.size() > 1 && violations[1].contains(u"needs no reason"_s));
+    QCOMPARE(HouseRules(root.path()).filesThatAreTooLong(),
+             QStringList(u"common/core/src/Long.cpp has 601 lines, at most 600 are allowed"_s));
 }
 
 ORV_REGISTER_TEST(TestHouse)

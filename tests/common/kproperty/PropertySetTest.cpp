@@ -47,6 +47,10 @@ class PropertySetTest : public QObject
 private Q_SLOTS:
     void init();
     void insertionOrderIsKeptAcrossGroups();
+    void aPropertyIsInsertedBesideAnother();
+    void insertionTouchesNoOtherProperty();
+    void insertionRefusesWhatAdditionRefuses();
+    void insertionBesideAStrangerStandsAtTheEnd();
     void ordersOfTheIterator();
     void iteratorSkipsWhatIsNotSelected();
     void iteratorDoesNotVisitLaterAdditions();
@@ -87,6 +91,79 @@ void PropertySetTest::insertionOrderIsKeptAcrossGroups()
     QCOMPARE(set.propertyNamesForGroup("second"), QByteArrayList({"Alpha", "beta"}));
     QCOMPARE(set.groupNameForProperty("BETA"), QByteArray("second"));
     QCOMPARE(set.count(), 4);
+}
+
+void PropertySetTest::aPropertyIsInsertedBesideAnother()
+{
+    KPropertySet set;
+    set.addProperty(new KProperty("a", 1), "first");
+    set.addProperty(new KProperty("x", 1), "second");
+    set.addProperty(new KProperty("b", 1), "first");
+    set.insertProperty(new KProperty("behind-a", 1), set["a"], KPropertySet::Side::Behind);
+    set.insertProperty(new KProperty("before-b", 1), set["b"], KPropertySet::Side::Before);
+    set.insertProperty(new KProperty("before-a", 1), set["a"], KPropertySet::Side::Before);
+    set.insertProperty(new KProperty("behind-b", 1), set["b"], KPropertySet::Side::Behind);
+    QCOMPARE(names(KPropertySetIterator(set)),
+             (QByteArrayList{"before-a", "a", "behind-a", "x", "before-b", "b", "behind-b"}));
+    QCOMPARE(set.propertyNamesForGroup("first"),
+             (QByteArrayList{"before-a", "a", "behind-a", "before-b", "b", "behind-b"}));
+    QCOMPARE(set.propertyNamesForGroup("second"), QByteArrayList{"x"});
+    QCOMPARE(set.groupNames(), (QByteArrayList{"first", "second"}));
+    QCOMPARE(set.groupNameForProperty("behind-a"), QByteArray("first"));
+    QVERIFY(set.contains("BEHIND-A"));
+    set.removeProperty("a");
+    set.removeProperty("behind-b");
+    QCOMPARE(names(KPropertySetIterator(set)),
+             (QByteArrayList{"before-a", "behind-a", "x", "before-b", "b"}));
+}
+
+void PropertySetTest::insertionTouchesNoOtherProperty()
+{
+    KPropertySet set;
+    fill(set);
+    QList<KProperty *> before;
+    for (KPropertySetIterator it(set); it.current(); ++it) {
+        before.append(it.current());
+    }
+    int deleted = 0;
+    connect(&set, &KPropertySet::aboutToDeleteProperty, this, [&deleted] { ++deleted; });
+    auto *const inserted = new KProperty("inserted", 1);
+    set.insertProperty(inserted, *before.at(1), KPropertySet::Side::Before);
+    int changes = 0;
+    connect(&set, &KPropertySet::propertyChanged, this, [&changes] { ++changes; });
+    inserted->setValue(2);
+    QCOMPARE(changes, 1);
+    before.insert(1, inserted);
+    QList<KProperty *> after;
+    for (KPropertySetIterator it(set); it.current(); ++it) {
+        after.append(it.current());
+    }
+    QCOMPARE(after, before);
+    QCOMPARE(deleted, 0);
+}
+
+void PropertySetTest::insertionRefusesWhatAdditionRefuses()
+{
+    KPropertySet set;
+    set.addProperty(new KProperty("a", 1));
+    set.insertProperty(new KProperty("A", 2), set["a"], KPropertySet::Side::Behind);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("without a name")));
+    set.insertProperty(new KProperty, set["a"], KPropertySet::Side::Behind);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("no property to add")));
+    set.insertProperty(nullptr, set["a"], KPropertySet::Side::Behind);
+    QCOMPARE(set.count(), 1);
+    QCOMPARE(set.propertyValue("a"), QVariant(1));
+}
+
+void PropertySetTest::insertionBesideAStrangerStandsAtTheEnd()
+{
+    KPropertySet set;
+    set.addProperty(new KProperty("a", 1), "first");
+    const KProperty stranger("a", 1);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("\"a\".*\"b\"")));
+    set.insertProperty(new KProperty("b", 1), stranger, KPropertySet::Side::Before);
+    QCOMPARE(names(KPropertySetIterator(set)), (QByteArrayList{"a", "b"}));
+    QCOMPARE(set.groupNameForProperty("b"), QByteArray("common"));
 }
 
 void PropertySetTest::ordersOfTheIterator()

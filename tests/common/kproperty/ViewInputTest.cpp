@@ -275,8 +275,10 @@ void ViewInputTest::selectButtonSendsTheEditEvent()
     QCOMPARE(events, 1);
     QCOMPARE(fixture.set.propertyValue("text"), QVariant(QByteArray("{}")));
     QCOMPARE(fixture.editor()->property("value").toString(), text("{}"));
+    fixture.type("x");
     fixture.press(Qt::Key_Escape);
-    QCOMPARE(fixture.set.propertyValue("text"), QVariant(text("abc")));
+    // What is typed later is taken back, the dialog's Ok isn't.
+    QCOMPARE(fixture.set.propertyValue("text"), QVariant(QByteArray("{}")));
 }
 
 void ViewInputTest::unansweredEditEventChangesNothing()

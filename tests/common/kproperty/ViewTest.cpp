@@ -17,7 +17,7 @@ private Q_SLOTS:
     void selectionIsPreservedByName();
     void unknownSelectionSelectsNothing();
     void clickOnAGroupCollapsesIt();
-    void toolTipsAreDescriptionsWhenAskedFor();
+    void toolTipsAreCaptionsAndDescriptions();
     void removedPropertyLosesItsRow();
     void removalOfTheEditedPropertyClosesItsEditor();
     void viewLetsGoOfAClearedSet();
@@ -114,13 +114,19 @@ void ViewTest::clickOnAGroupCollapsesIt()
     QVERIFY(fixture.view.isExpanded(group));
 }
 
-void ViewTest::toolTipsAreDescriptionsWhenAskedFor()
+void ViewTest::toolTipsAreCaptionsAndDescriptions()
 {
     Fixture fixture;
+    const auto tip = [&fixture](const char *name) { return fixture.index(name).data(Qt::ToolTipRole).toString(); };
+    QVERIFY(fixture.view.toolTipsVisible());
+    QCOMPARE(tip("number"), text("<b>Number</b><br>A number."));
+    QCOMPARE(tip("text"), text("<b>Text</b>"));
+    fixture.set["text"].setCaption(text("Width < 5\nand more"));
+    fixture.set["text"].setDescription(text("a < b & c\nnext"));
+    QCOMPARE(tip("text"), text("<b>Width &lt; 5<br>and more</b><br>a &lt; b &amp; c<br>next"));
+    QCOMPARE(fixture.index("text").siblingAtColumn(0).data(Qt::ToolTipRole).toString(), tip("text"));
+    fixture.view.setToolTipsVisible(false);
     QVERIFY(!fixture.index("number").data(Qt::ToolTipRole).isValid());
-    fixture.view.setToolTipsVisible(true);
-    QCOMPARE(fixture.index("number").data(Qt::ToolTipRole).toString(), text("A number."));
-    QVERIFY(!fixture.index("text").data(Qt::ToolTipRole).isValid());
 }
 
 void ViewTest::removedPropertyLosesItsRow()
@@ -191,11 +197,12 @@ void ViewTest::rowHeightFollowsTheLineOptions_data()
     QTest::addColumn<int>("expectedLines");
     QTest::newRow("one line") << 1 << QVariant() << QVariant() << 1;
     QTest::newRow("three lines") << 3 << QVariant() << QVariant() << 3;
-    QTest::newRow("long text") << 40 << QVariant() << QVariant() << 6;
+    QTest::newRow("long text") << 40 << QVariant() << QVariant() << 5;
     QTest::newRow("short text, minimum") << 1 << QVariant(3) << QVariant() << 3;
-    QTest::newRow("long text, maximum") << 9 << QVariant() << QVariant(2) << 2;
-    QTest::newRow("fixed") << 9 << QVariant(3) << QVariant(3) << 3;
-    QTest::newRow("maximum below minimum") << 9 << QVariant(4) << QVariant(2) << 4;
+    QTest::newRow("maximum, which bounds the editor alone") << 9 << QVariant() << QVariant(2) << 5;
+    QTest::newRow("fixed editor, shorter text") << 1 << QVariant(3) << QVariant(3) << 3;
+    QTest::newRow("fixed editor, longer text") << 9 << QVariant(3) << QVariant(3) << 5;
+    QTest::newRow("editor higher than five lines") << 9 << QVariant(7) << QVariant(7) << 7;
 }
 
 void ViewTest::rowHeightFollowsTheLineOptions()
@@ -231,13 +238,16 @@ void ViewTest::viewForEditorFindsTheView()
 void ViewTest::screenReaderFindsNamesAndValues()
 {
     Fixture fixture;
+    fixture.set.addProperty(new KProperty("empty", text(""), text("Empty")), "first");
+    fixture.view.changeSet(&fixture.set);
     QAccessibleInterface *const tree = QAccessible::queryAccessibleInterface(&fixture.view);
     QVERIFY(tree && tree->tableInterface());
     QStringList names;
     for (int i = 0; i < tree->childCount(); ++i) {
         names << tree->child(i)->text(QAccessible::Name);
     }
-    for (const char *expected : {"first", "Number", "5", "Text", "abc", "Size", "3x4"}) {
+    for (const char *expected : {"first", "Number: 5", "5", "Text: abc", "abc", "Fixed: fixed, read only",
+                                 "Size: 3x4", "3x4", "Empty: empty"}) {
         QVERIFY2(names.contains(text(expected)), expected);
     }
     const QModelIndex number = fixture.index("number");

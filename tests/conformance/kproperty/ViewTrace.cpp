@@ -36,16 +36,18 @@ const KProperty *propertyAt(const QModelIndex &index)
 void dumpRow(const KPropertyEditorView &view, const QModelIndex &name, int depth)
 {
     const QModelIndex value = name.sibling(name.row(), 1);
-    Trace::line(QStringLiteral("%1%2 | %3 | %4 flags=%5/%6 tip=%7/%8 %9%10")
+    Trace::line(QStringLiteral("%1%2 | %3 | %4 flags=%5/%6 %7%8")
                     .arg(QString(2 * depth + 2, QLatin1Char(' ')),
                          Trace::show(name.data(Qt::DisplayRole).toString()),
                          Trace::show(value.data(Qt::DisplayRole)), Trace::show(value.data(Qt::EditRole)),
-                         flagNames(name), flagNames(value), Trace::show(name.data(Qt::ToolTipRole)),
-                         Trace::show(value.data(Qt::ToolTipRole)),
+                         flagNames(name), flagNames(value),
                          view.model()->hasChildren(name)
                              ? (view.isExpanded(name) ? QStringLiteral("+") : QStringLiteral("-"))
                              : QString(),
                          QStringLiteral(" of ") + Trace::show(propertyAt(value))));
+    Trace::differs("tool-tips");
+    Trace::line(QStringLiteral("  tip=") + Trace::show(name.data(Qt::ToolTipRole)) + QLatin1Char('/') +
+                Trace::show(value.data(Qt::ToolTipRole)));
 }
 
 void dumpRows(const KPropertyEditorView &view, const QModelIndex &parent = QModelIndex(), int depth = 0)
@@ -132,6 +134,7 @@ void traceContents()
     GET(view.isValueSyncEnabled());
     GET(view.groupsVisible());
     GET(view.groupItemsExpanded());
+    Trace::differs("tool-tips");
     GET(view.toolTipsVisible());
     GET(view.propertySet() == nullptr);
     KPropertySet set;

@@ -13,6 +13,9 @@ class KPropertySet;
 
 /*! Shows and edits a property set: names on the left, values on the right, a header row per group.
 
+    The name column has a share of the width until the user moves the divider, which can be dragged in the
+   rows as well as in the header.
+
     Keyboard: F2, Enter or typing edits the current row, Enter commits, Escape takes back what was typed since
     the editor opened, Tab and Shift+Tab commit and edit the next or previous row, Ctrl+Z takes a modified
     value back to its old one; Left and Right collapse and expand, Ctrl+Enter commits a text of several lines.
@@ -77,7 +80,7 @@ public Q_SLOTS:
     /// For group rows that later calls of changeSet() make; true at first.
     void setGroupItemsExpanded(bool set);
 
-    /// Descriptions as tool tips; false at first.
+    /// Captions, in full, and descriptions as tool tips; true at first.
     void setToolTipsVisible(bool set);
 
 Q_SIGNALS:
@@ -91,10 +94,13 @@ protected:
     bool viewportEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 protected Q_SLOTS:
+    void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                     const QList<int> &roles = QList<int>()) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void commitData(QWidget *editor) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
@@ -110,7 +116,14 @@ private:
     void connectSet(KPropertySet *set);
     void letGoOfSet();
     void dropRow(const KProperty &property);
+    void scrollToCurrentLater();
+    void sizeColumns();
+    QRect dividerArea() const;
+    void drawGroup(QPainter *painter, const QStyleOptionViewItem &option, const QRect &row,
+                   const QModelIndex &index) const;
+    void drawGridLines(QPainter *painter, const QRect &row, const QModelIndex &index) const;
     void expandItems();
+    void expandChildren(const QModelIndex &index);
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
     void editNext(QAbstractItemDelegate::EndEditHint hint);
     void drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const override;

@@ -17,6 +17,8 @@ public:
     ~KPropertyIntSpinBox() override;
 
     QVariant value() const;
+    /// Refuses points and commas: a group of digits may be meant as decimals, and an integer has none.
+    QValidator::State validate(QString &input, int &position) const override;
 
 Q_SIGNALS:
     void commitData(QWidget *editor);
@@ -33,7 +35,9 @@ private:
 
 /*! Edits a double. Options as for integers, and precision.
 
-    Without a precision as many decimals are shown as the value has, at least two. */
+    As many decimals are shown as the value has, at least as many as the precision says (two without one), and
+    more may be typed: the precision limits what a cell shows, not what is stored. A point and a comma are
+   both read as the sign before the decimals, in every language; groups of digits aren't read. */
 class KPROPERTYWIDGETS_EXPORT KPropertyDoubleSpinBox : public QDoubleSpinBox
 {
     Q_OBJECT
@@ -44,6 +48,9 @@ public:
     ~KPropertyDoubleSpinBox() override;
 
     QString textFromValue(double value) const override;
+    double valueFromText(const QString &text) const override;
+    QValidator::State validate(QString &input, int &position) const override;
+    void fixup(QString &input) const override;
 
 Q_SIGNALS:
     void commitData(QWidget *editor);
@@ -56,7 +63,9 @@ protected Q_SLOTS:
 
 private:
     Q_DISABLE_COPY(KPropertyDoubleSpinBox)
-    bool m_hasPrecision = false;
+    bool readSeparators(QString *text) const;
+
+    int m_leastDecimals = 0;
 };
 
 /// For Int, UInt, LongLong and ULongLong; the last three have editors of 64 bits.

@@ -16,6 +16,9 @@ using Internal::ItemDelegate;
 
 namespace {
 
+constexpr int kLeastColumnWidth = 48;
+constexpr int kChangesOneByOne = 16;
+
 /// A selection is remembered by name, and only the set's own properties have names that are unique.
 QByteArray nameToRemember(const KProperty *property)
 {
@@ -50,7 +53,13 @@ KPropertyEditorView::KPropertyEditorView(QWidget *parent)
     setAccessibleName(tr("Properties"));
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(true);
-    header()->setMinimumSectionSize(48);
+    header()->setMinimumSectionSize(kLeastColumnWidth);
+    viewport()->setMouseTracking(true);
+    connect(header(), &QHeaderView::sectionResized, this, [this](int section, int, int width) {
+        if (section == EditorDataModel::NameColumn && !d->sizingColumns) {
+            d->nameWidth = width;
+        }
+    });
 }
 
 KPropertyEditorView::~KPropertyEditorView()
@@ -196,33 +205,65 @@ void KPropertyEditorView::dropRow(const KProperty &property)
         edited = edited->parent();
     }
     if (edited && d->delegate->editor()) {
-        closeEditor(d->delegate->editor(), QAbstractItemDelegate::NoHint);
+        closeEditor(d->delegate->editor(), QAbstractItemDelegate::RevertModelCache);
     }
+    // Scrolling to the row that becomes current lays all rows out, and once is enough for many removals.
+    const bool scrolls = hasAutoScroll();
+    const QModelIndex current = currentIndex();
+    setAutoScroll(false);
     d->model->removeProperty(&property);
+    setAutoScroll(scrolls);
+    if (scrolls && current != currentIndex()) {
+        scrollToCurrentLater();
+    }
+}
+
+void KPropertyEditorView::scrollToCurrentLater()
+{
+    if (d->scrollsLater) {
+        return;
+    }
+    d->scrollsLater = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            d->scrollsLater = false;
+            if (currentIndex().isValid()) {
+                scrollTo(currentIndex());
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 void KPropertyEditorView::expandItems()
 {
-    if (d->groupItemsExpanded && d->childItemsExpanded) {
-        expandAll();
-        return;
-    }
-    if (!d->groupItemsExpanded && !d->childItemsExpanded) {
-        return;
-    }
-    for (int row = 0; row < d->model->rowCount(); ++row) {
-        const QModelIndex index = d->model->index(row, 0);
+    const QAbstractItemModel *const rows = d->model;
+    for (int row = 0; row < rows->rowCount(); ++row) {
+        const QModelIndex index = rows->index(row, 0);
         if (!d->model->isGroup(index)) {
-            setExpanded(index, d->childItemsExpanded);
+            expandChildren(index);
             continue;
         }
-        setExpanded(index, d->groupItemsExpanded);
-        for (int child = 0; d->childItemsExpanded && child < d->model->rowCount(index); ++child) {
-            const QModelIndex property = d->model->index(child, 0, index);
-            if (d->model->rowCount(property) > 0) {
-                setExpanded(property, true);
-            }
+        if (d->groupItemsExpanded) {
+            expand(index);
         }
+        for (int child = 0; child < rows->rowCount(index); ++child) {
+            expandChildren(rows->index(child, 0, index));
+        }
+    }
+    executeDelayedItemsLayout();
+}
+
+/// The tree keeps an index for each row that it is told to expand, and removals move all of these: so none
+/// for rows without children.
+void KPropertyEditorView::expandChildren(const QModelIndex &index)
+{
+    if (!d->childItemsExpanded || d->model->rowCount(index) == 0) {
+        return;
+    }
+    expand(index);
+    for (int row = 0; row < d->model->rowCount(index); ++row) {
+        expandChildren(d->model->index(row, 0, index));
     }
 }
 
@@ -251,7 +292,7 @@ void KPropertyEditorView::slotSetWillBeDeleted()
 void KPropertyEditorView::letGoOfSet()
 {
     if (QWidget *const editor = d->delegate->editor()) {
-        closeEditor(editor, QAbstractItemDelegate::NoHint);
+        closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
     }
     changeSetInternal(nullptr, SetOption::None, QByteArray());
 }
@@ -261,6 +302,23 @@ void KPropertyEditorView::slotReadOnlyFlagChanged()
     acceptInput();
     d->model->refreshAll();
     viewport()->update();
+}
+
+void KPropertyEditorView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                                      const QList<int> &roles)
+{
+    if (d->changesInTurn == 0) {
+        QMetaObject::invokeMethod(
+            this, [this] { d->changesInTurn = 0; }, Qt::QueuedConnection);
+    }
+    // The tree looks through all rows for one that is out of sight. After a few changes it is cheaper to lay
+    // them out anew, once for all changes up to then.
+    if (++d->changesInTurn <= kChangesOneByOne) {
+        QTreeView::dataChanged(topLeft, bottomRight, roles);
+        return;
+    }
+    scheduleDelayedItemsLayout();
+    QAbstractItemView::dataChanged(topLeft, bottomRight, roles);
 }
 
 void KPropertyEditorView::slotPropertyChanged(KPropertySet &, KProperty &property)
@@ -299,13 +357,15 @@ void KPropertyEditorView::closeEditor(QWidget *editor, QAbstractItemDelegate::En
         return;
     }
     // Rows that were rebuilt meanwhile took the editor with them.
-    if (!d->delegate->editedIndex().isValid()) {
-        d->delegate->releaseEditor();
+    const bool isRow = d->delegate->editedIndex().isValid();
+    d->delegate->releaseEditor(hint == QAbstractItemDelegate::RevertModelCache
+                                   ? ItemDelegate::LateInput::Refused
+                                   : ItemDelegate::LateInput::Accepted);
+    if (!isRow) {
         return;
     }
     const QWidget *const focus = QApplication::focusWidget();
     const bool hadFocus = focus && (focus == editor || editor->isAncestorOf(focus));
-    d->delegate->releaseEditor();
     QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
     if (hadFocus) {
         setFocus();
@@ -348,7 +408,7 @@ void KPropertyEditorView::undo()
         return;
     }
     if (QWidget *const editor = d->delegate->editor()) {
-        closeEditor(editor, QAbstractItemDelegate::NoHint);
+        closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
     }
     // A child of a composed property has no set of its own: its parent tells of the change.
     if (property->parent() && property->parent()->composedProperty()) {

@@ -10,7 +10,17 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include <algorithm>
+#include <utility>
+
 using Internal::EditorDataModel;
+
+namespace {
+
+/// How far from the divider it can be taken hold of, in pixels.
+constexpr int kDividerReach = 3;
+
+} // namespace
 
 QRect KPropertyEditorView::revertButtonArea(const QModelIndex &index) const
 {
@@ -22,7 +32,8 @@ QRect KPropertyEditorView::revertButtonArea(const QModelIndex &index) const
     initViewItemOption(&option);
     const QRect cell = visualRect(index.siblingAtColumn(EditorDataModel::ValueColumn));
     const int width = Internal::Painting::revertButtonWidth(option);
-    return QRect(cell.right() - width + 1, cell.top(), width, cell.height());
+    const QRect behind(cell.right() - width + 1, cell.top(), width, cell.height());
+    return QStyle::visualRect(layoutDirection(), cell, behind);
 }
 
 bool KPropertyEditorView::withinRevertButtonArea(const QPoint &position, const QModelIndex &index) const
@@ -44,23 +55,60 @@ bool KPropertyEditorView::viewportEvent(QEvent *event)
     return QTreeView::viewportEvent(event);
 }
 
+QRect KPropertyEditorView::dividerArea() const
+{
+    // The left edge of the column on the right, whichever that is in this direction of reading.
+    const int right = isRightToLeft() ? EditorDataModel::NameColumn : EditorDataModel::ValueColumn;
+    return QRect(header()->sectionViewportPosition(right) - kDividerReach, 0, 2 * kDividerReach,
+                 viewport()->height());
+}
+
+void KPropertyEditorView::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPoint position = event->position().toPoint();
+    if (!d->movingDivider) {
+        const bool grabs = event->buttons() == Qt::NoButton && dividerArea().contains(position) &&
+                           d->property(indexAt(position));
+        if (grabs) {
+            viewport()->setCursor(Qt::SplitHCursor);
+        } else {
+            viewport()->unsetCursor();
+        }
+        QTreeView::mouseMoveEvent(event);
+        return;
+    }
+    const int width = viewport()->width();
+    const int wanted = isRightToLeft() ? width - position.x() : position.x();
+    const int least = header()->minimumSectionSize();
+    header()->resizeSection(EditorDataModel::NameColumn,
+                            std::clamp(wanted, least, std::max(least, width - least)));
+}
+
 void KPropertyEditorView::mousePressEvent(QMouseEvent *event)
 {
     d->pressed = QModelIndex();
+    const QPoint position = event->position().toPoint();
     // The press commits an open editor, and who hears of that may rebuild the rows.
-    const QPersistentModelIndex index = indexAt(event->position().toPoint());
+    const QPersistentModelIndex index = indexAt(position);
     if (event->button() != Qt::LeftButton || !index.isValid()) {
         QTreeView::mousePressEvent(event);
         return;
     }
     if (d->model->isGroup(index)) {
         acceptInput();
+        if (!index.isValid()) {
+            return;
+        }
         const QModelIndex group = QModelIndex(index).siblingAtColumn(0);
         setExpanded(group, !isExpanded(group));
         return;
     }
+    if (dividerArea().contains(position)) {
+        d->movingDivider = true;
+        return;
+    }
     QTreeView::mousePressEvent(event);
-    if (withinRevertButtonArea(event->position().toPoint(), index)) {
+    if (withinRevertButtonArea(position, index)) {
         setCurrentIndex(index);
         undo();
         return;
@@ -70,6 +118,9 @@ void KPropertyEditorView::mousePressEvent(QMouseEvent *event)
 
 void KPropertyEditorView::mouseReleaseEvent(QMouseEvent *event)
 {
+    if (std::exchange(d->movingDivider, false)) {
+        return;
+    }
     QTreeView::mouseReleaseEvent(event);
     const QModelIndex index = indexAt(event->position().toPoint());
     const bool clicked = event->button() == Qt::LeftButton && index.isValid() && d->pressed == index;
@@ -87,14 +138,25 @@ void KPropertyEditorView::mouseReleaseEvent(QMouseEvent *event)
     }
 }
 
+void KPropertyEditorView::sizeColumns()
+{
+    const int width = viewport()->width();
+    if (width <= 0) {
+        return;
+    }
+    constexpr int kShareInPercent = 45;
+    constexpr int kLargestShareInPercent = 75;
+    const int wanted =
+        std::min(d->nameWidth.value_or(width * kShareInPercent / 100), width * kLargestShareInPercent / 100);
+    d->sizingColumns = true;
+    header()->resizeSection(EditorDataModel::NameColumn, wanted);
+    d->sizingColumns = false;
+}
+
 void KPropertyEditorView::resizeEvent(QResizeEvent *event)
 {
     QTreeView::resizeEvent(event);
-    if (!d->columnsSized && viewport()->width() > 0) {
-        // Once: afterwards the user's own division stays.
-        d->columnsSized = true;
-        header()->resizeSection(EditorDataModel::NameColumn, viewport()->width() * 45 / 100);
-    }
+    sizeColumns();
 }
 
 void KPropertyEditorView::drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const
@@ -102,9 +164,23 @@ void KPropertyEditorView::drawBranches(QPainter *painter, const QRect &rect, con
     if (!d->property(index) || d->model->rowCount(index) == 0) {
         return;
     }
-    const int width = indentation();
-    const QRect last(rect.right() - width + 1, rect.top(), width, rect.height());
-    Internal::Painting::drawExpander(painter, last, palette(), isExpanded(index));
+    const QRect next(rect.right() - indentation() + 1, rect.top(), indentation(), rect.height());
+    Internal::Painting::drawExpander(painter, QStyle::visualRect(layoutDirection(), rect, next), palette(),
+                                     isExpanded(index));
+}
+
+void KPropertyEditorView::drawGroup(QPainter *painter, const QStyleOptionViewItem &option, const QRect &row,
+                                    const QModelIndex &index) const
+{
+    QStyleOptionViewItem groupOption(option);
+    initViewItemOption(&groupOption);
+    Internal::Painting::drawGroupRow(painter, groupOption, row, index);
+    const QRect expander(Internal::Painting::textMargin(), row.top(), 16, row.height());
+    Internal::Painting::drawExpander(painter, QStyle::visualRect(layoutDirection(), row, expander), palette(),
+                                     isExpanded(index));
+    if (hasFocus() && currentIndex().siblingAtColumn(0) == index.siblingAtColumn(0)) {
+        Internal::Painting::drawFocus(painter, row, palette());
+    }
 }
 
 void KPropertyEditorView::drawRow(QPainter *painter, const QStyleOptionViewItem &option,
@@ -112,12 +188,7 @@ void KPropertyEditorView::drawRow(QPainter *painter, const QStyleOptionViewItem 
 {
     const QRect row(0, option.rect.top(), viewport()->width(), option.rect.height());
     if (d->model->isGroup(index)) {
-        QStyleOptionViewItem groupOption(option);
-        initViewItemOption(&groupOption);
-        Internal::Painting::drawGroupRow(painter, groupOption, row, index);
-        Internal::Painting::drawExpander(painter,
-                                         QRect(Internal::Painting::textMargin(), row.top(), 16, row.height()),
-                                         palette(), isExpanded(index));
+        drawGroup(painter, option, row, index);
     } else {
         QTreeView::drawRow(painter, option, index);
         const QRect revert = revertButtonArea(index);
@@ -125,16 +196,20 @@ void KPropertyEditorView::drawRow(QPainter *painter, const QStyleOptionViewItem 
             Internal::Painting::drawRevertButton(painter, revert, palette());
         }
     }
-    if (!d->gridLineColor.isValid()) {
-        return;
+    if (d->gridLineColor.isValid()) {
+        drawGridLines(painter, row, index);
     }
+}
+
+void KPropertyEditorView::drawGridLines(QPainter *painter, const QRect &row, const QModelIndex &index) const
+{
     painter->save();
     QColor line = d->gridLineColor;
     line.setAlpha(110); // lines guide the eye, the texts are what one reads
     painter->setPen(line);
     painter->drawLine(row.bottomLeft(), row.bottomRight());
     if (!d->model->isGroup(index)) {
-        const int x = header()->sectionViewportPosition(EditorDataModel::ValueColumn) - 1;
+        const int x = dividerArea().center().x();
         painter->drawLine(x, row.top(), x, row.bottom());
     }
     painter->restore();

@@ -8,6 +8,8 @@
 #include <QPersistentModelIndex>
 #include <QPointer>
 
+#include <optional>
+
 class KPropertyEditorView::Private
 {
 public:
@@ -19,9 +21,15 @@ public:
     bool childItemsExpanded = true;
     bool groupItemsExpanded = true;
     bool groupsVisible = true;
-    bool toolTipsVisible = false;
+    /// What the user gave the name column, in pixels; before that it has a share of the width.
+    std::optional<int> nameWidth;
+    /// Signals of cells since the event loop last ran.
+    int changesInTurn = 0;
+    bool toolTipsVisible = true;
     bool valueSync = true;
-    bool columnsSized = false;
+    bool sizingColumns = false;
+    bool movingDivider = false;
+    bool scrollsLater = false;
     bool closing = false;
 
     [[nodiscard]] KProperty *property(const QModelIndex &index) const { return model->property(index); }

@@ -94,16 +94,21 @@ void KPropertyBoolEditor::slotValueChanged(bool)
 QRect KPropertyBoolEditor::indicatorRect(const QRect &r, const QWidget *widget)
 {
     const QStyle *const style = widget ? widget->style() : QApplication::style();
+    const Qt::LayoutDirection direction =
+        widget ? widget->layoutDirection() : QGuiApplication::layoutDirection();
     const int width = style->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, widget);
     const int height = style->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, widget);
-    return QRect(r.left() + Internal::Painting::textMargin(), r.top() + (r.height() - height) / 2, width,
-                 height);
+    const QRect box(r.left() + Internal::Painting::textMargin(), r.top() + (r.height() - height) / 2, width,
+                    height);
+    return QStyle::visualRect(direction, r, box);
 }
 
 void KPropertyBoolEditor::draw(QPainter *p, const QRect &r, const QVariant &value, const QString &text,
                                bool threeState)
 {
+    const auto *const widget = dynamic_cast<QWidget *>(p->device());
     QStyleOptionButton box;
+    box.palette = widget ? widget->palette() : QGuiApplication::palette();
     box.rect = indicatorRect(r);
     box.state = QStyle::State_Enabled;
     if (threeState && !value.isValid()) {
@@ -111,10 +116,15 @@ void KPropertyBoolEditor::draw(QPainter *p, const QRect &r, const QVariant &valu
     } else {
         box.state |= value.toBool() ? QStyle::State_On : QStyle::State_Off;
     }
+    QStyleOptionViewItem textOption;
+    textOption.direction = p->layoutDirection();
+    textOption.rect = r;
+    box.rect = QStyle::visualRect(QGuiApplication::layoutDirection(), r, box.rect);
+    Internal::Painting::placeInFront(&box.rect, &textOption);
     QApplication::style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, p);
-    const QRect textRect =
-        r.adjusted(box.rect.right() - r.left() + 1 + Internal::Painting::textMargin(), 0, 0, 0);
-    p->drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
+    Internal::Painting::drawBoxFrame(p, box.rect, box.palette);
+    p->drawText(textOption.rect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                p->fontMetrics().elidedText(text, Qt::ElideRight, textOption.rect.width()));
 }
 
 void KPropertyBoolEditor::paintEvent(QPaintEvent *event)

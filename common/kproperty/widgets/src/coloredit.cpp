@@ -110,16 +110,16 @@ void KPropertyColorComboDelegate::paint(QPainter *painter, const QStyleOptionVie
 {
     const QColor color = index.data(Qt::EditRole).value<QColor>();
     const int margin = Internal::Painting::textMargin();
-    const QRect box(option.rect.left() + margin, option.rect.top() + margin, kSwatchWidth,
-                    option.rect.height() - 2 * margin);
+    QStyleOptionViewItem text(option);
+    QRect box(option.rect.left() + margin, option.rect.top() + margin, kSwatchWidth,
+              option.rect.height() - 2 * margin);
+    Internal::Painting::placeInFront(&box, &text);
     painter->save();
     painter->setPen(option.palette.color(QPalette::Mid));
     painter->setBrush(color.isValid() ? QBrush(color)
                                       : QBrush(option.palette.color(QPalette::Mid), Qt::BDiagPattern));
     painter->drawRect(box);
     painter->restore();
-    QStyleOptionViewItem text(option);
-    text.rect.setLeft(box.right() + margin);
     Internal::Painting::drawText(painter, text,
                                  color.isValid() ? valueToString(color, QLocale()) : QString());
 }

@@ -99,11 +99,10 @@ void KPropertyLineStyleComboDelegate::paint(QPainter *painter, const QStyleOptio
     QStyleOptionViewItem text(option);
     if (style > Qt::NoPen && style < Qt::CustomDashLine) {
         const bool selected = option.state.testFlag(QStyle::State_Selected);
-        const QRect sample(option.rect.left() + margin, option.rect.top(), kSampleWidth,
-                           option.rect.height());
+        QRect sample(option.rect.left() + margin, option.rect.top(), kSampleWidth, option.rect.height());
+        Internal::Painting::placeInFront(&sample, &text);
         drawSample(painter, sample, style,
                    option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
-        text.rect.setLeft(sample.right() + margin);
     }
     Internal::Painting::drawText(painter, text, valueToString(index.data(Qt::EditRole), QLocale()));
 }

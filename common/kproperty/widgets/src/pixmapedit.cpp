@@ -130,9 +130,9 @@ void KPropertyPixmapDelegate::paint(QPainter *painter, const QStyleOptionViewIte
         const QRect room = option.rect.adjusted(margin, 2, -margin, -2);
         const QSize size =
             pixmap.size().scaled(qMin(room.width(), 3 * room.height()), room.height(), Qt::KeepAspectRatio);
-        const QRect target(room.left(), room.center().y() - size.height() / 2, size.width(), size.height());
+        QRect target(room.left(), room.center().y() - size.height() / 2, size.width(), size.height());
+        Internal::Painting::placeInFront(&target, &text);
         painter->drawPixmap(target, pixmap);
-        text.rect.setLeft(target.right());
     }
     Internal::Painting::drawText(painter, text, valueToString(pixmap, QLocale()));
 }

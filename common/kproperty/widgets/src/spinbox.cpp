@@ -59,6 +59,16 @@ QVariant KPropertyIntSpinBox::value() const
     return QSpinBox::value();
 }
 
+QValidator::State KPropertyIntSpinBox::validate(QString &input, int &position) const
+{
+    const Internal::NumberPart part(input, prefix(), suffix());
+    const QString number = input.mid(part.begin, part.end - part.begin);
+    const bool isSeparated = std::any_of(number.cbegin(), number.cend(), [this](QChar sign) {
+        return Internal::isNumberSeparator(sign, locale());
+    });
+    return isSeparated ? QValidator::Invalid : QSpinBox::validate(input, position);
+}
+
 void KPropertyIntSpinBox::setValue(const QVariant &value)
 {
     const QSignalBlocker blocker(this);
@@ -76,8 +86,8 @@ KPropertyDoubleSpinBox::KPropertyDoubleSpinBox(const KProperty &prop, QWidget *p
     Q_UNUSED(itemHeight)
     const NumberText text(prop);
     const int decimals = Internal::decimalsOf(prop);
-    m_hasPrecision = decimals >= 0;
-    setDecimals(m_hasPrecision ? decimals : kAllDecimals);
+    m_leastDecimals = decimals >= 0 ? decimals : Internal::kDefaultDecimals;
+    setDecimals(std::max(kAllDecimals, decimals));
     const auto [minimum, maximum] =
         rangeFor(doubleOption(prop, "min", KPROPERTY_MIN_PRECISE_DOUBLE),
                  doubleOption(prop, "max", KPROPERTY_MAX_PRECISE_DOUBLE), KPROPERTY_MIN_PRECISE_DOUBLE,
@@ -95,7 +105,40 @@ KPropertyDoubleSpinBox::~KPropertyDoubleSpinBox() = default;
 
 QString KPropertyDoubleSpinBox::textFromValue(double value) const
 {
-    return Internal::doubleText(value, m_hasPrecision ? decimals() : -1, locale());
+    return Internal::wholeDoubleText(value, m_leastDecimals, locale());
+}
+
+/// Puts the language's own sign before the decimals; false for groups of digits and for several signs.
+bool KPropertyDoubleSpinBox::readSeparators(QString *text) const
+{
+    const Internal::NumberPart part(*text, prefix(), suffix());
+    int count = 0;
+    for (qsizetype i = part.begin; i < part.end; ++i) {
+        if (Internal::isDecimalSign(text->at(i), locale())) {
+            text->replace(i, 1, locale().decimalPoint());
+            ++count;
+        } else if (Internal::isNumberSeparator(text->at(i), locale())) {
+            return false;
+        }
+    }
+    return count <= 1;
+}
+
+double KPropertyDoubleSpinBox::valueFromText(const QString &text) const
+{
+    QString number = text;
+    return readSeparators(&number) ? QDoubleSpinBox::valueFromText(number) : value();
+}
+
+QValidator::State KPropertyDoubleSpinBox::validate(QString &input, int &position) const
+{
+    return readSeparators(&input) ? QDoubleSpinBox::validate(input, position) : QValidator::Invalid;
+}
+
+void KPropertyDoubleSpinBox::fixup(QString &input) const
+{
+    // The base class would take a comma out as a sign between groups.
+    readSeparators(&input);
 }
 
 void KPropertyDoubleSpinBox::setValue(const QVariant &value)

@@ -6,6 +6,7 @@
 
 #include <QFont>
 #include <QIcon>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -25,6 +26,27 @@ QString caption(const KProperty &property)
 {
     const QString text = property.captionForDisplaying();
     return text.isEmpty() ? QString::fromLatin1(property.name()) : text;
+}
+
+QString asHtml(const QString &text)
+{
+    if (Qt::mightBeRichText(text)) {
+        return text;
+    }
+    return text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
+}
+
+/// The caption, which the column may cut, above the description.
+QString toolTip(const KProperty &property)
+{
+    const QString head = QLatin1String("<b>") + asHtml(caption(property).trimmed()) + QLatin1String("</b>");
+    const QString description = property.description();
+    return description.isEmpty() ? head : head + QLatin1String("<br>") + asHtml(description);
+}
+
+QString valueText(const KProperty &property)
+{
+    return KPropertyFactoryManager::self()->propertyValueToLocalizedString(&property);
 }
 
 QVariant iconData(const QString &name)
@@ -92,8 +114,9 @@ EditorDataModel::Node *EditorDataModel::addNode(Node *parent, KProperty *propert
     Node *const node = owned.get();
     node->parent = parent;
     node->property = property;
-    node->row = static_cast<int>(parent->children.size());
+    node->slot = parent->children.size();
     parent->children.push_back(std::move(owned));
+    parent->rows.append();
     if (!property) {
         return node;
     }
@@ -118,20 +141,21 @@ void EditorDataModel::forget(const Node &node)
 {
     m_nodes.remove(node.property);
     for (const std::unique_ptr<Node> &child : node.children) {
-        forget(*child);
+        if (child) {
+            forget(*child);
+        }
     }
 }
 
 void EditorDataModel::removeNode(Node *node)
 {
     Node *const parent = node->parent;
-    const int row = node->row;
+    const int row = parent->rows.rowOf(node->slot);
     beginRemoveRows(indexOf(parent, NameColumn), row, row);
     forget(*node);
-    parent->children.erase(parent->children.begin() + row);
-    for (std::size_t i = static_cast<std::size_t>(row); i < parent->children.size(); ++i) {
-        parent->children[i]->row = static_cast<int>(i);
-    }
+    parent->rows.remove(node->slot);
+    // The row is gone, its place stays empty.
+    parent->children[node->slot].reset();
     endRemoveRows();
 }
 
@@ -142,7 +166,7 @@ void EditorDataModel::removeProperty(const KProperty *property)
         return;
     }
     Node *const group = node->parent;
-    const bool isLast = group != m_root.get() && !group->property && group->children.size() == 1;
+    const bool isLast = group != m_root.get() && !group->property && group->rows.size() == 1;
     removeNode(isLast ? group : node);
 }
 
@@ -175,7 +199,8 @@ EditorDataModel::Node *EditorDataModel::nodeOf(const QModelIndex &index) const
 
 QModelIndex EditorDataModel::indexOf(const Node *node, int column) const
 {
-    return node == m_root.get() ? QModelIndex() : createIndex(node->row, column, node);
+    return node == m_root.get() ? QModelIndex()
+                                : createIndex(node->parent->rows.rowOf(node->slot), column, node);
 }
 
 KProperty *EditorDataModel::property(const QModelIndex &index) const
@@ -210,11 +235,10 @@ bool EditorDataModel::isReadOnly(const KProperty &property) const
 QModelIndex EditorDataModel::index(int row, int column, const QModelIndex &parent) const
 {
     const Node *const node = nodeOf(parent);
-    if (row < 0 || column < 0 || column >= ColumnCount || parent.column() > 0 ||
-        static_cast<std::size_t>(row) >= node->children.size()) {
+    if (row < 0 || column < 0 || column >= ColumnCount || parent.column() > 0 || row >= node->rows.size()) {
         return QModelIndex();
     }
-    return createIndex(row, column, node->children[static_cast<std::size_t>(row)].get());
+    return createIndex(row, column, node->children[node->rows.slotIn(row)].get());
 }
 
 QModelIndex EditorDataModel::parent(const QModelIndex &child) const
@@ -224,7 +248,7 @@ QModelIndex EditorDataModel::parent(const QModelIndex &child) const
 
 int EditorDataModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.column() > 0 ? 0 : static_cast<int>(nodeOf(parent)->children.size());
+    return parent.column() > 0 ? 0 : nodeOf(parent)->rows.size();
 }
 
 int EditorDataModel::columnCount(const QModelIndex &) const
@@ -250,13 +274,22 @@ QVariant EditorDataModel::groupData(const Node &node, int column, int role) cons
     }
 }
 
+QString EditorDataModel::spokenText(const KProperty &property) const
+{
+    const QString value = valueText(property);
+    const QString shown = value.isEmpty() ? tr("empty") : value;
+    return (isReadOnly(property) ? tr("%1: %2, read only") : tr("%1: %2"))
+        .arg(property.captionOrName(), shown);
+}
+
 QVariant EditorDataModel::nameData(const KProperty &property, int role) const
 {
     switch (role) {
     case Qt::DisplayRole:
         return caption(property);
     case Qt::AccessibleTextRole:
-        return property.captionOrName();
+        // The name is the cell that is current, so that this is what one hears.
+        return spokenText(property);
     case Qt::DecorationRole:
         return iconData(property.iconName());
     default:
@@ -269,7 +302,7 @@ QVariant EditorDataModel::valueData(const KProperty &property, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
-        return KPropertyFactoryManager::self()->propertyValueToLocalizedString(&property);
+        return valueText(property);
     case Qt::EditRole:
         return property.value();
     default:
@@ -286,7 +319,10 @@ QVariant EditorDataModel::data(const QModelIndex &index, int role) const
     if (!node.property) {
         return groupData(node, index.column(), role);
     }
-    if (role == Qt::AccessibleDescriptionRole || (role == Qt::ToolTipRole && m_toolTipsVisible)) {
+    if (role == Qt::ToolTipRole) {
+        return m_toolTipsVisible ? QVariant(toolTip(*node.property)) : QVariant();
+    }
+    if (role == Qt::AccessibleDescriptionRole) {
         const QString description = node.property->description();
         return description.isEmpty() ? QVariant() : QVariant(description);
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RowOrder.h"
+
 #include <QAbstractItemModel>
 #include <QHash>
 
@@ -45,6 +47,7 @@ public:
     [[nodiscard]] bool isGroup(const QModelIndex &index) const;
     [[nodiscard]] QModelIndex indexForProperty(const KProperty *property, Column column) const;
     [[nodiscard]] bool isReadOnly(const KProperty &property) const;
+    [[nodiscard]] KPropertySet *propertySet() const { return m_set; }
 
     [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
     [[nodiscard]] QModelIndex parent(const QModelIndex &child) const override;
@@ -61,8 +64,10 @@ private:
         Node *parent = nullptr;
         KProperty *property = nullptr;
         QByteArray group;
-        int row = 0;
+        /// The place among the children of the parent, which stays when others go.
+        std::size_t slot = 0;
         std::vector<std::unique_ptr<Node>> children;
+        RowOrder rows;
     };
 
     void build(Options options);
@@ -72,13 +77,14 @@ private:
     [[nodiscard]] Node *nodeOf(const QModelIndex &index) const;
     [[nodiscard]] QModelIndex indexOf(const Node *node, int column) const;
     [[nodiscard]] QVariant groupData(const Node &node, int column, int role) const;
+    [[nodiscard]] QString spokenText(const KProperty &property) const;
     [[nodiscard]] QVariant nameData(const KProperty &property, int role) const;
     [[nodiscard]] QVariant valueData(const KProperty &property, int role) const;
 
     std::unique_ptr<Node> m_root;
     QHash<const KProperty *, Node *> m_nodes;
     KPropertySet *m_set = nullptr;
-    bool m_toolTipsVisible = false;
+    bool m_toolTipsVisible = true;
 };
 
 } // namespace Internal

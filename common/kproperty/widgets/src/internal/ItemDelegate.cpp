@@ -16,6 +16,8 @@
 #include <QPixmap>
 #include <QPlainTextEdit>
 
+#include <algorithm>
+
 namespace Internal {
 
 namespace {
@@ -34,6 +36,12 @@ bool belongsToTextEdit(const QObject *object, const QEvent *event)
     const auto *const key = static_cast<const QKeyEvent *>(event);
     return (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) &&
            !key->modifiers().testFlag(Qt::ControlModifier);
+}
+
+bool scrolls(const QWidget *part)
+{
+    return qobject_cast<const QAbstractScrollArea *>(part) ||
+           qobject_cast<const QAbstractScrollArea *>(part->parentWidget());
 }
 
 /// Pictures have no equality, so that each would be a change when an editor is left.
@@ -74,20 +82,42 @@ QWidget *ItemDelegate::editor() const
     return m_editor;
 }
 
-void ItemDelegate::releaseEditor()
+QModelIndex ItemDelegate::editedIndex() const
 {
+    const Edited *const open = edited(m_editor);
+    return open ? QModelIndex(open->index) : QModelIndex();
+}
+
+ItemDelegate::Edited *ItemDelegate::edited(const QObject *editor) const
+{
+    const auto found = editor ? m_edited.find(editor) : m_edited.end();
+    return found == m_edited.end() ? nullptr : &*found;
+}
+
+void ItemDelegate::rememberState(Edited *edited, const KProperty &property) const
+{
+    edited->valueBefore = property.value();
+    edited->modifiedBefore = property.isModified();
+}
+
+void ItemDelegate::releaseEditor(LateInput late)
+{
+    if (Edited *const open = edited(m_editor)) {
+        open->takesLateInput = late == LateInput::Accepted;
+    }
     m_editor = nullptr;
-    m_index = QPersistentModelIndex();
 }
 
 void ItemDelegate::restoreValue()
 {
-    KProperty *const property = m_model->property(m_index);
-    if (!property) {
+    const Edited *const open = edited(m_editor);
+    KProperty *const property = m_model->property(editedIndex());
+    if (!open || !property) {
         return;
     }
-    if (m_modifiedBefore || property->oldValue() != m_valueBefore) {
-        property->setValue(m_valueBefore);
+    const QVariant before = open->valueBefore;
+    if (open->modifiedBefore || property->oldValue() != before) {
+        property->setValue(before);
     } else {
         property->resetValue();
     }
@@ -109,7 +139,7 @@ void ItemDelegate::paintValue(QPainter *painter, const QStyleOptionViewItem &opt
 {
     QStyleOptionViewItem valueOption(option);
     m_view->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &valueOption, painter, m_view);
-    if (m_editor && m_index == index) {
+    if (m_editor && editedIndex() == index) {
         return; // the editor covers the cell, at times with gaps through which the text would show
     }
     if (m_model->isReadOnly(property)) {
@@ -118,7 +148,7 @@ void ItemDelegate::paintValue(QPainter *painter, const QStyleOptionViewItem &opt
         const QColor grey = valueOption.palette.color(QPalette::Active, QPalette::PlaceholderText);
         valueOption.palette.setColor(QPalette::Disabled, QPalette::Text, grey);
     }
-    valueOption.rect.adjust(0, 0, property.isModified() ? -Painting::revertButtonWidth(option) : 0, 0);
+    valueOption.rect = Painting::besideRevertButton(option, property);
     painter->save();
     painter->setClipRect(valueOption.rect, Qt::IntersectClip);
     if (!KPropertyWidgetsPluginManager::self()->paint(property.type(), painter, valueOption, index)) {
@@ -181,10 +211,13 @@ QWidget *ItemDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
         return nullptr;
     }
     m_editor = editor;
-    m_index = index;
-    m_valueBefore = property->value();
-    m_modifiedBefore = property->isModified();
-    m_exchanged = QVariant();
+    Edited open;
+    open.index = index;
+    open.address = PropertyAddress(m_model->propertySet(), *property);
+    rememberState(&open, *property);
+    m_edited.insert(editor, open);
+    auto *const self = const_cast<ItemDelegate *>(this);
+    connect(editor, &QObject::destroyed, self, [self](const QObject *gone) { self->m_edited.remove(gone); });
     prepareEditor(editor, *property);
     return editor;
 }
@@ -199,7 +232,7 @@ void ItemDelegate::prepareEditor(QWidget *editor, const KProperty &property) con
     if (editor->metaObject()->indexOfSignal("commitData(QWidget*)") >= 0) {
         connect(editor, SIGNAL(commitData(QWidget *)), self, SLOT(editorChanged(QWidget *)));
     }
-    const auto selected = [self] { self->sendEditEvent(); };
+    const auto selected = [self, editor] { self->sendEditEvent(editor); };
     if (!applyStringOptions<KPropertyStringEditor>(editor, property, this, selected)) {
         applyStringOptions<KPropertyMultiLineStringEditor>(editor, property, this, selected);
     }
@@ -207,6 +240,19 @@ void ItemDelegate::prepareEditor(QWidget *editor, const KProperty &property) con
         focusWidget->setAccessibleName(property.captionOrName());
         focusWidget->setAccessibleDescription(property.description());
         focusWidget->installEventFilter(self);
+    }
+    watchMouse(editor);
+}
+
+void ItemDelegate::watchMouse(QWidget *editor) const
+{
+    auto *const self = const_cast<ItemDelegate *>(this);
+    const QList<QWidget *> parts = editor->findChildren<QWidget *>();
+    for (QWidget *part : parts) {
+        // Lists that drop down are windows of their own. What scrolls, scrolls.
+        if (part->window() == editor->window() && !scrolls(part)) {
+            part->installEventFilter(self);
+        }
     }
 }
 
@@ -219,14 +265,14 @@ void ItemDelegate::setEditorData(QWidget *editor, const QModelIndex &index) cons
     }
     // The value often comes from this editor; writing it back would move the cursor under the user's hands.
     const QVariant shown = editor->property(name.constData());
-    if (editor->property("kpropertyFilled").toBool() && property->valueEqualsTo(shown)) {
-        m_exchanged = shown;
-        return;
+    if (!editor->property("kpropertyFilled").toBool() || !property->valueEqualsTo(shown)) {
+        const QSignalBlocker blocker(editor);
+        editor->setProperty(name.constData(), property->value());
+        editor->setProperty("kpropertyFilled", true);
     }
-    const QSignalBlocker blocker(editor);
-    editor->setProperty(name.constData(), property->value());
-    editor->setProperty("kpropertyFilled", true);
-    m_exchanged = editor->property(name.constData());
+    if (Edited *const open = edited(editor)) {
+        open->exchanged = editor->property(name.constData());
+    }
 }
 
 void ItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
@@ -236,75 +282,139 @@ void ItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, cons
         return;
     }
     const QVariant value = editor->property(name.constData());
+    Edited *const open = edited(editor);
     // What an editor cannot show in full must survive that it is opened and left.
-    if (value == m_exchanged || isSamePixmap(value, index.data(Qt::EditRole))) {
+    if (!open || value == open->exchanged || isSamePixmap(value, index.data(Qt::EditRole))) {
         return;
     }
-    m_exchanged = value;
+    open->exchanged = value;
     model->setData(index, value, Qt::EditRole);
 }
 
 void ItemDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
                                         const QModelIndex &index) const
 {
-    QRect rect = option.rect;
     const KProperty *const property = m_model->property(index);
-    if (property && property->isModified()) {
-        rect.adjust(0, 0, -Painting::revertButtonWidth(option), 0);
+    if (!property) {
+        return;
+    }
+    QRect rect = Painting::besideRevertButton(option, *property);
+    if (property->option("multiLine").toBool()) {
+        rect.setHeight(std::min(rect.height(), Painting::editorHeight(option, *property)));
     }
     editor->setGeometry(rect);
 }
 
+QWidget *ItemDelegate::editorAround(QObject *object) const
+{
+    auto *const widget = qobject_cast<QWidget *>(object);
+    return widget && m_editor && (widget == m_editor || m_editor->isAncestorOf(widget)) ? m_editor.data()
+                                                                                        : nullptr;
+}
+
+/// Who scrolls past an editor doesn't mean to change its value. True for what the view is to have.
+bool ItemDelegate::filterMouse(QObject *object, QEvent *event) const
+{
+    Edited *const open = edited(editorAround(object));
+    if (!open || scrolls(static_cast<QWidget *>(object))) {
+        return false;
+    }
+    if (event->type() == QEvent::MouseButtonPress) {
+        open->wasClicked = true;
+    }
+    if (event->type() != QEvent::Wheel || open->wasClicked) {
+        return false;
+    }
+    event->ignore();
+    return true;
+}
+
+bool ItemDelegate::filterKey(QWidget *editor, int key)
+{
+    if (key == Qt::Key_Escape) {
+        restoreValue();
+    }
+    // What the "..." button does, for those who don't use a mouse.
+    const KProperty *const property = m_model->property(editedIndex());
+    if (key == Qt::Key_F4 && property && property->option("selectButton").toBool()) {
+        sendEditEvent(editor);
+        return true;
+    }
+    return false;
+}
+
 bool ItemDelegate::eventFilter(QObject *object, QEvent *event)
 {
-    if (belongsToTextEdit(object, event)) {
-        return false;
+    if (filterMouse(object, event)) {
+        return true;
     }
     QObject *target = object;
     if (m_editor && object == m_editor->focusProxy()) {
         target = m_editor;
     }
-    if (target == m_editor && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Escape) {
-            restoreValue();
-        }
-        // What the "..." button does, for those who don't use a mouse.
-        const KProperty *const property = m_model->property(m_index);
-        if (key == Qt::Key_F4 && property && property->option("selectButton").toBool()) {
-            sendEditEvent();
-            return true;
-        }
+    // Other parts of an editor are watched for the mouse alone.
+    if (target != m_editor && editorAround(target)) {
+        return false;
+    }
+    if (belongsToTextEdit(object, event)) {
+        return false;
+    }
+    if (target == m_editor && event->type() == QEvent::KeyPress &&
+        filterKey(m_editor, static_cast<QKeyEvent *>(event)->key())) {
+        return true;
     }
     return QStyledItemDelegate::eventFilter(target, event);
 }
 
 void ItemDelegate::editorChanged(QWidget *editor)
 {
-    const KProperty *const property = m_model->property(m_index);
+    Edited *const edits = edited(editor);
+    if (!edits) {
+        return;
+    }
+    if (editor != m_editor) {
+        takeLateInput(editor, edits);
+        return;
+    }
+    const KProperty *const property = m_model->property(edits->index);
     if (property && followsTyping(*property)) {
         Q_EMIT commitData(editor);
     }
 }
 
-void ItemDelegate::sendEditEvent()
+void ItemDelegate::takeLateInput(QWidget *editor, Edited *edited)
 {
-    const QPersistentModelIndex index = m_index;
-    const QPointer<QWidget> editor = m_editor;
-    KProperty *const property = m_model->property(index);
-    if (!property || !editor) {
+    const QVariant value = editor->property(userPropertyName(editor).constData());
+    KProperty *const property = edited->address.findEditable();
+    if (property && edited->takesLateInput && value != edited->exchanged) {
+        edited->exchanged = value;
+        property->setValue(value);
+    }
+}
+
+void ItemDelegate::sendEditEvent(QWidget *asking)
+{
+    const QPointer<QWidget> editor = asking;
+    const Edited *const edits = edited(asking);
+    KProperty *const property = edits ? m_model->property(edits->index) : nullptr;
+    if (!property) {
         return;
     }
+    const PropertyAddress address = edits->address;
     const QVariant value = editor->property(userPropertyName(editor).constData());
     KPropertyEditorItemEvent event(*property, QStringLiteral("edit"), {{QStringLiteral("value"), value}});
     Q_EMIT m_view->handlePropertyEditorItemEvent(&event);
-    // A dialog ran meanwhile: the row may be gone.
-    KProperty *const edited = m_model->property(index);
-    if (event.hasResult() && edited) {
-        edited->setValue(event.result());
-        if (editor) {
-            setEditorData(editor, index);
-        }
+    // A dialog ran meanwhile: the row, and even the property, may have been made anew.
+    KProperty *const asked = event.hasResult() ? address.findEditable() : nullptr;
+    if (!asked || !m_model->indexForProperty(asked, EditorDataModel::ValueColumn).isValid()) {
+        return;
+    }
+    asked->setValue(event.result());
+    Edited *const open = editor ? edited(editor) : nullptr;
+    if (open && open->index.isValid() && m_model->property(open->index) == address.find()) {
+        setEditorData(editor, open->index);
+        // The dialog's own Ok stands: Escape takes back what is typed after it.
+        rememberState(open, *m_model->property(open->index));
     }
 }
 

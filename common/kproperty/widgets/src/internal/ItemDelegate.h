@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PropertyAddress.h"
+
 #include <QHash>
 #include <QPersistentModelIndex>
 #include <QPointer>
@@ -13,7 +15,8 @@ namespace Internal {
 
 class EditorDataModel;
 
-/// Paints names and values, and owns the life of the one open editor.
+/// Paints names and values, and owns the life of the one open editor. Editors that were closed are remembered
+/// until they are deleted, since some tell what was typed only when they lose the focus.
 class ItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -23,10 +26,16 @@ public:
     ~ItemDelegate() override;
 
     [[nodiscard]] QWidget *editor() const;
-    [[nodiscard]] QModelIndex editedIndex() const { return m_index; }
-    /// The editor is closed; Qt deletes it later.
-    void releaseEditor();
-    /// Takes back what the open editor wrote since it was opened.
+    [[nodiscard]] QModelIndex editedIndex() const;
+
+    enum class LateInput
+    {
+        Accepted,
+        Refused
+    };
+    /// The editor is closed; Qt deletes it later. \a late says what becomes of what it tells after that.
+    void releaseEditor(LateInput late);
+    /// Takes back what the open editor wrote since it was opened, or since a dialog last gave an answer.
     void restoreValue();
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
@@ -45,7 +54,26 @@ public Q_SLOTS:
     void editorChanged(QWidget *editor);
 
 private:
-    void sendEditEvent();
+    struct Edited
+    {
+        QPersistentModelIndex index;
+        PropertyAddress address;
+        QVariant valueBefore;
+        /// What the editor showed when a value last went to it or came from it.
+        QVariant exchanged;
+        bool modifiedBefore = false;
+        bool wasClicked = false;
+        bool takesLateInput = true;
+    };
+
+    [[nodiscard]] Edited *edited(const QObject *editor) const;
+    void rememberState(Edited *edited, const KProperty &property) const;
+    [[nodiscard]] QWidget *editorAround(QObject *object) const;
+    void watchMouse(QWidget *editor) const;
+    [[nodiscard]] bool filterMouse(QObject *object, QEvent *event) const;
+    bool filterKey(QWidget *editor, int key);
+    void takeLateInput(QWidget *editor, Edited *edited);
+    void sendEditEvent(QWidget *asking);
     void paintName(QPainter *painter, const QStyleOptionViewItem &option, const KProperty &property,
                    const QModelIndex &index) const;
     void paintValue(QPainter *painter, const QStyleOptionViewItem &option, const KProperty &property,
@@ -57,11 +85,7 @@ private:
     const EditorDataModel *const m_model;
     // Written by createEditor(), which Qt declares const.
     mutable QPointer<QWidget> m_editor;
-    mutable QPersistentModelIndex m_index;
-    mutable QVariant m_valueBefore;
-    /// What the open editor showed when a value last went to it or came from it.
-    mutable QVariant m_exchanged;
-    mutable bool m_modifiedBefore = false;
+    mutable QHash<const QObject *, Edited> m_edited;
 };
 
 } // namespace Internal

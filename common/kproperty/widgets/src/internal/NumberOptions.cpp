@@ -8,7 +8,11 @@ namespace Internal {
 
 namespace {
 
-constexpr int kDefaultDecimals = 2;
+QLocale ungrouped(QLocale locale)
+{
+    locale.setNumberOptions(locale.numberOptions() | QLocale::OmitGroupSeparator);
+    return locale;
+}
 
 } // namespace
 
@@ -35,15 +39,36 @@ int decimalsOf(const KProperty &property)
 
 QString doubleText(double value, int decimals, const QLocale &locale)
 {
-    QLocale plain = locale;
-    plain.setNumberOptions(plain.numberOptions() | QLocale::OmitGroupSeparator);
-    if (decimals >= 0) {
-        return plain.toString(value, 'f', decimals);
-    }
+    return decimals < 0 ? wholeDoubleText(value, kDefaultDecimals, locale)
+                        : ungrouped(locale).toString(value, 'f', decimals);
+}
+
+QString wholeDoubleText(double value, int least, const QLocale &locale)
+{
+    const QLocale plain = ungrouped(locale);
     const QString shortest = plain.toString(value, 'f', QLocale::FloatingPointShortest);
     const qsizetype point = shortest.indexOf(plain.decimalPoint());
-    const qsizetype shown = point < 0 ? 0 : shortest.size() - point - 1;
-    return shown < kDefaultDecimals ? plain.toString(value, 'f', kDefaultDecimals) : shortest;
+    const qsizetype shown = point < 0 ? 0 : shortest.size() - point - plain.decimalPoint().size();
+    return shown < least ? plain.toString(value, 'f', least) : shortest;
+}
+
+NumberPart::NumberPart(const QString &text, const QString &prefix, const QString &suffix)
+    : begin(!prefix.isEmpty() && text.startsWith(prefix) ? prefix.size() : 0)
+    , end(text.size())
+{
+    if (!suffix.isEmpty() && text.endsWith(suffix)) {
+        end = std::max(begin, end - suffix.size());
+    }
+}
+
+bool isDecimalSign(QChar sign, const QLocale &locale)
+{
+    return sign == QLatin1Char('.') || sign == QLatin1Char(',') || locale.decimalPoint() == sign;
+}
+
+bool isNumberSeparator(QChar sign, const QLocale &locale)
+{
+    return isDecimalSign(sign, locale) || locale.groupSeparator() == sign;
 }
 
 } // namespace Internal

@@ -6,15 +6,35 @@
 #include <QModelIndex>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyle>
 
 #include <algorithm>
+#include <cstdlib>
+#include <utility>
 
 namespace Internal::Painting {
 
 namespace {
 
-/// Without maxHeight a long text takes at most so many lines of the tree.
-constexpr int kDefaultMaxLines = 6;
+/// What summaries of objects need: four lines, and one that counts the others.
+constexpr int kMaxLinesOfRow = 5;
+
+/// The colour of links, where that can be told from the background: dark palettes often keep the blue of light ones.
+QColor signColor(const QPalette &palette)
+{
+    constexpr int kLeastDifference = 80;
+    const QColor link = palette.color(QPalette::Link);
+    const int difference = qGray(link.rgb()) - qGray(palette.color(QPalette::Base).rgb());
+    return std::abs(difference) < kLeastDifference ? palette.color(QPalette::Text) : link;
+}
+
+/// \a percent of the first colour, the rest of the second.
+QColor mixed(const QColor &first, const QColor &second, int percent)
+{
+    const auto mix = [percent](int a, int b) { return (a * percent + b * (100 - percent)) / 100; };
+    return QColor(mix(first.red(), second.red()), mix(first.green(), second.green()),
+                  mix(first.blue(), second.blue()));
+}
 
 } // namespace
 
@@ -37,8 +57,51 @@ int linesForText(const KProperty &property, const QString &text)
 {
     const int lines = 1 + static_cast<int>(text.count(QLatin1Char('\n')));
     const int minimum = std::max(1, property.option("minHeight", 1).toInt());
-    const int maximum = std::max(minimum, property.option("maxHeight", kDefaultMaxLines).toInt());
-    return std::clamp(lines, minimum, maximum);
+    return std::clamp(lines, minimum, std::max(minimum, kMaxLinesOfRow));
+}
+
+int editorHeight(const QStyleOptionViewItem &option, const KProperty &property)
+{
+    const int least = std::max(1, property.option("minHeight", 1).toInt());
+    const QVariant most = property.option("maxHeight");
+    return most.isValid()
+               ? std::max(least, most.toInt()) * option.fontMetrics.lineSpacing() + 2 * verticalPadding()
+               : option.rect.height();
+}
+
+QRect besideRevertButton(const QStyleOptionViewItem &option, const KProperty &property)
+{
+    const int button = property.isModified() ? revertButtonWidth(option) : 0;
+    return QStyle::visualRect(option.direction, option.rect, option.rect.adjusted(0, 0, -button, 0));
+}
+
+void placeInFront(QRect *sign, QStyleOptionViewItem *option)
+{
+    const QRect text = option->rect.adjusted(sign->right() + textMargin() - option->rect.left(), 0, 0, 0);
+    *sign = QStyle::visualRect(option->direction, option->rect, *sign);
+    option->rect = QStyle::visualRect(option->direction, option->rect, text);
+}
+
+void drawFocus(QPainter *painter, const QRect &rect, const QPalette &palette)
+{
+    painter->save();
+    painter->setPen(QPen(palette.color(QPalette::Highlight), 2));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(rect.adjusted(1, 1, -1, -1));
+    painter->restore();
+}
+
+void drawBoxFrame(QPainter *painter, const QRect &box, const QPalette &palette)
+{
+    constexpr int kTextInPercent = 60;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    // A box that can't be ticked is greyed, not hidden.
+    painter->setOpacity(1.0);
+    painter->setPen(mixed(palette.color(QPalette::Text), palette.color(QPalette::Base), kTextInPercent));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(box.adjusted(0, 0, -1, -1));
+    painter->restore();
 }
 
 void drawText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text)
@@ -53,15 +116,18 @@ void drawText(QPainter *painter, const QStyleOptionViewItem &option, const QStri
     painter->save();
     painter->setFont(option.font);
     painter->setPen(option.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text));
-    const QStringList lines = text.split(QLatin1Char('\n'));
+    QStringList lines = text.split(QLatin1Char('\n'));
+    const int room =
+        std::max(1, (rect.height() + option.fontMetrics.leading()) / option.fontMetrics.lineSpacing());
+    if (lines.size() > room) {
+        lines = lines.first(room);
+        lines.last() += QChar(0x2026);
+    }
     int top = rect.top();
     if (lines.size() == 1) {
         top += (rect.height() - option.fontMetrics.height()) / 2;
     }
-    for (const QString &line : lines) {
-        if (top > rect.bottom()) {
-            break;
-        }
+    for (const QString &line : std::as_const(lines)) {
         const QString shown = option.fontMetrics.elidedText(line, Qt::ElideRight, rect.width());
         painter->drawText(QRect(rect.left(), top, rect.width(), option.fontMetrics.height()),
                           Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
@@ -81,7 +147,8 @@ void drawRevertButton(QPainter *painter, const QRect &rect, const QPalette &pale
     arc.arcTo(circle, 150, -270);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(palette.color(QPalette::Link), 1.6, Qt::SolidLine, Qt::RoundCap));
+    const QColor color = signColor(palette);
+    painter->setPen(QPen(color, 1.6, Qt::SolidLine, Qt::RoundCap));
     painter->drawPath(arc);
     const QPointF tip = QPainterPath(arc).pointAtPercent(0);
     const qreal head = size * 0.42;
@@ -89,13 +156,14 @@ void drawRevertButton(QPainter *painter, const QRect &rect, const QPalette &pale
     arrow.lineTo(tip + QPointF(head * 0.2, head * 0.75));
     arrow.lineTo(tip + QPointF(head * 0.85, -head * 0.35));
     arrow.closeSubpath();
-    painter->fillPath(arrow, palette.color(QPalette::Link));
+    painter->fillPath(arrow, color);
     painter->restore();
 }
 
 void drawExpander(QPainter *painter, const QRect &rect, const QPalette &palette, bool expanded)
 {
     const qreal size = 4.0;
+    const qreal onward = painter->layoutDirection() == Qt::RightToLeft ? -size / 2 : size / 2;
     const QPointF center = QRectF(rect).center();
     QPainterPath path;
     if (expanded) {
@@ -103,9 +171,9 @@ void drawExpander(QPainter *painter, const QRect &rect, const QPalette &palette,
         path.lineTo(center + QPointF(0, size / 2));
         path.lineTo(center + QPointF(size, -size / 2));
     } else {
-        path.moveTo(center + QPointF(-size / 2, -size));
-        path.lineTo(center + QPointF(size / 2, 0));
-        path.lineTo(center + QPointF(-size / 2, size));
+        path.moveTo(center + QPointF(-onward, -size));
+        path.lineTo(center + QPointF(onward, 0));
+        path.lineTo(center + QPointF(-onward, size));
     }
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
@@ -123,16 +191,20 @@ void drawGroupRow(QPainter *painter, const QStyleOptionViewItem &option, const Q
     font.setBold(true);
     painter->setFont(font);
     painter->setPen(option.palette.color(QPalette::ButtonText));
-    QRect text = row.adjusted(textMargin() + 16, 0, -textMargin(), 0);
+    QStyleOptionViewItem text(option);
+    text.rect = row.adjusted(textMargin(), 0, -textMargin(), 0);
+    QRect expander(text.rect.left(), row.top(), 16 - textMargin(), row.height());
+    placeInFront(&expander, &text);
     const QIcon icon = index.data(Qt::DecorationRole).value<QIcon>();
     if (!icon.isNull()) {
         const int size = option.fontMetrics.height();
-        icon.paint(painter, QRect(text.left(), text.center().y() - size / 2, size, size));
-        text.setLeft(text.left() + size + textMargin());
+        QRect place(text.rect.left(), text.rect.center().y() - size / 2, size, size);
+        placeInFront(&place, &text);
+        icon.paint(painter, place);
     }
-    const QString caption =
-        QFontMetrics(font).elidedText(index.data(Qt::DisplayRole).toString(), Qt::ElideRight, text.width());
-    painter->drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, caption);
+    const QString caption = QFontMetrics(font).elidedText(index.data(Qt::DisplayRole).toString(),
+                                                          Qt::ElideRight, text.rect.width());
+    painter->drawText(text.rect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, caption);
     painter->restore();
 }
 
