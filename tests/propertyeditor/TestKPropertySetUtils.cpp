@@ -39,7 +39,9 @@ private Q_SLOTS:
     void propertiesGoToTheirPosition();
     void propertiesBehindKeepWhatTheyHave();
     void theFrontOfAGroupKeepsItsCaption();
-    void listenersMayRemoveWhatIsMoved();
+    void nothingElseIsTouched();
+    void propertiesGoBehindAKey_data();
+    void propertiesGoBehindAKey();
 };
 
 void TestKPropertySetUtils::aGroupIsNamedByItsCaptionInLowerCase()
@@ -138,17 +140,46 @@ void TestKPropertySetUtils::theFrontOfAGroupKeepsItsCaption()
     QCOMPARE(set.groupCaption("instrument parameters"), u"Instrument Parameters"_s);
 }
 
-void TestKPropertySetUtils::listenersMayRemoveWhatIsMoved()
+void TestKPropertySetUtils::nothingElseIsTouched()
 {
     KPropertySet set;
     for (const char *name : {"a", "b", "c", "d"})
         add(&set, name, u"One"_s);
-    connect(&set, &KPropertySet::aboutToDeleteProperty, &set, [&set](KPropertySet &, KProperty &property) {
-        if (property.name() == "b")
-            set.removeProperty("c");
-    });
+    const KProperty *const last = &set.property("d");
+    int removals = 0;
+    connect(&set, &KPropertySet::aboutToDeleteProperty, &set, [&removals] { ++removals; });
     add(&set, "x", u"One"_s, 1);
-    QCOMPARE(order(set), QStringList({u"a@one"_s, u"x@one"_s, u"b@one"_s, u"d@one"_s}));
+    add(&set, "y", u"One"_s, 0);
+    QCOMPARE(removals, 0);
+    QCOMPARE(&set.property("d"), last);
+    QCOMPARE(order(set),
+             QStringList({u"y@one"_s, u"a@one"_s, u"x@one"_s, u"b@one"_s, u"c@one"_s, u"d@one"_s}));
+}
+
+void TestKPropertySetUtils::propertiesGoBehindAKey_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("first") << u"a"_s << u"One"_s << u"a@one x@one b@two c@one d@two"_s;
+    QTest::newRow("last of its group") << u"c"_s << u"one"_s << u"a@one b@two c@one x@one d@two"_s;
+    QTest::newRow("key of another group") << u"b"_s << u"One"_s << u"x@one a@one b@two c@one d@two"_s;
+    QTest::newRow("key in other letters") << u"C"_s << u"One"_s << u"x@one a@one b@two c@one d@two"_s;
+    QTest::newRow("no such key") << u"z"_s << u"Two"_s << u"a@one x@two b@two c@one d@two"_s;
+    QTest::newRow("new group") << u"a"_s << u"Three"_s << u"a@one b@two c@one d@two x@three"_s;
+}
+
+void TestKPropertySetUtils::propertiesGoBehindAKey()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, group);
+    KPropertySet set;
+    add(&set, "a", u"One"_s);
+    add(&set, "b", u"Two"_s);
+    add(&set, "c", u"One"_s);
+    add(&set, "d", u"Two"_s);
+    KPropertySetUtils::insertBehind(key, group, new KProperty("x", 1), &set);
+    QTEST(order(set).join(u' '), "expected");
 }
 
 ORV_REGISTER_TEST(TestKPropertySetUtils)

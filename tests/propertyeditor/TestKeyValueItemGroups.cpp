@@ -44,6 +44,10 @@ private Q_SLOTS:
     void groupsHaveNameAndCaption();
     void captionsChange();
     void aPropertyMovesToTheEndOfAnotherGroup();
+    void noKeyStandsTwice();
+    void whatIsSetIsStoredExactly();
+    void aListenerThatPutsTheKeyBackWins();
+    void aListenerThatLoadsAnotherCellWins();
     void movesThatMakeNoSenseAreRefused_data();
     void movesThatMakeNoSenseAreRefused();
     void noPropertyTakesTheNameOfAnother();
@@ -89,6 +93,70 @@ void TestKeyValueItemGroups::aPropertyMovesToTheEndOfAnotherGroup()
     QCOMPARE(counts.count(), 1);
     QCOMPARE(moved.count(), 1);
     QCOMPARE(moved.constFirst(), (QVariantList{u"a"_s, u"Two"_s, u"one"_s}));
+}
+
+void TestKeyValueItemGroups::noKeyStandsTwice()
+{
+    const auto item = grouped({u"One"_s, u"Two"_s});
+    const LogCapture log;
+    for (const QString &taken : {u"b"_s, u"B"_s, QString()}) {
+        QVERIFY(!item->replace(u"a"_s, taken, 5, item->intType()));
+        QCOMPARE(order(*item), u"a@one b@two"_s);
+    }
+    QCOMPARE(log.warnings().size(), 3);
+    QVERIFY(log.warnings().first().contains(u"Cannot give \"a\" the name of \"b\" which is there"_s));
+
+    // Also where the set doesn't find the name, since the property has it from another replacement.
+    QVERIFY(item->replace(u"a"_s, u"fresh"_s, 5, item->intType()));
+    QVERIFY(!item->replace(u"b"_s, u"FRESH"_s, 6, item->intType()));
+    QVERIFY(!item->insert(u"fresh"_s, 7, item->intType()));
+    QCOMPARE(item->keys(), (QStringList{u"fresh"_s, u"b"_s}));
+    QVERIFY(item->replace(u"a"_s, u"fresh"_s, 8, item->intType()));
+    QVERIFY(item->replace(u"b"_s, u"b"_s, 9, item->intType()));
+    QCOMPARE(item->value(u"a"_s), QVariant(8));
+    QCOMPARE(item->value(u"b"_s), QVariant(9));
+}
+
+void TestKeyValueItemGroups::whatIsSetIsStoredExactly()
+{
+    const auto item = grouped({u"One"_s});
+    QVERIFY(item->insert(u"width"_s, 0.01, item->doubleType()));
+    QVERIFY(item->setOption(u"width"_s, "precision", 2));
+    QVERIFY(item->setValue(u"width"_s, 0.01004));
+    QCOMPARE(item->value(u"width"_s), QVariant(0.01004));
+    QVERIFY(item->insert(u"text"_s, u"300"_s, item->stringType()));
+    QVERIFY(item->setValue(u"text"_s, 300));
+    QCOMPARE(item->value(u"text"_s).typeId(), int(QMetaType::Int));
+    QCOMPARE(item->KeyValueItem::type(u"text"_s), 2);
+}
+
+void TestKeyValueItemGroups::aListenerThatPutsTheKeyBackWins()
+{
+    const auto item = grouped({u"One"_s, u"Two"_s});
+    const QSignalSpy moved(item.get(), &KeyValueItem::groupChanged);
+    connect(item.get(), &KeyValueItem::removed, this,
+            [&item](const QString &key) { item->insert(key, u"One"_s, 99, item->intType(), {}); });
+    const LogCapture log;
+    QVERIFY(!item->setGroup(u"a"_s, u"Two"_s));
+    QCOMPARE(log.warnings().size(), 1);
+    QVERIFY(log.warnings().first().contains(u"Cannot move the property"_s));
+    QVERIFY(moved.isEmpty());
+    QCOMPARE(order(*item), u"b@two a@one"_s);
+    QCOMPARE(item->value(u"a"_s), QVariant(99));
+}
+
+void TestKeyValueItemGroups::aListenerThatLoadsAnotherCellWins()
+{
+    const auto item = grouped({u"One"_s, u"Two"_s});
+    connect(item.get(), &KeyValueItem::removed, this, [&item] {
+        const QJsonObject other{{u"type"_s, u"Karvon"_s}, {u"properties"_s, QJsonArray()}};
+        QVERIFY(!item->assignFromJson(other, {}));
+    });
+    const LogCapture log;
+    QVERIFY(!item->setGroup(u"a"_s, u"Two"_s));
+    QCOMPARE(log.warnings().size(), 1);
+    QVERIFY(!item->contains(u"a"_s));
+    QVERIFY(!item->contains(u"b"_s));
 }
 
 void TestKeyValueItemGroups::movesThatMakeNoSenseAreRefused_data()

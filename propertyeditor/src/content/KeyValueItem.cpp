@@ -101,6 +101,7 @@ Error KeyValueItem::load(const QJsonObject &json, ValidationOptions options, con
     ORV_RETURN_IF_ERROR(BaseItem::assignFromJson(json, options));
     m_set.reset();
     m_unread.reset();
+    m_hasRenamed = false;
     const bool skipsType = options.testFlag(ValidationOption::SkipTypeValidation);
     Result<KPropertySet *> set = PropertySetCreator::objectToPropertySet(
         json, skipsType ? std::nullopt : std::optional(type()), context);
@@ -174,6 +175,7 @@ void KeyValueItem::clear()
     if (count() == 0)
         return;
     set()->clear();
+    m_hasRenamed = false;
     announce(
         this, [this] { Q_EMIT countChanged(count()); }, [this] { Q_EMIT changed(); });
 }
@@ -197,6 +199,19 @@ QStringList KeyValueItem::keys() const
 bool KeyValueItem::has(const QByteArray &name) const
 {
     return mayHold(name) && set() && set()->contains(name);
+}
+
+const KProperty *KeyValueItem::holderOf(const QByteArray &name) const
+{
+    if (has(name))
+        return &set()->property(name);
+    if (!m_hasRenamed)
+        return nullptr;
+    for (KPropertySetIterator it(*set()); it.current(); ++it) {
+        if (it.current()->name().toLower() == name.toLower())
+            return it.current();
+    }
+    return nullptr;
 }
 
 bool KeyValueItem::contains(const QString &key) const
@@ -234,7 +249,7 @@ bool KeyValueItem::insert(const QString &key, const QVariant &value, int type)
 bool KeyValueItem::insert(const QString &key, const QString &group, const QVariant &value, int type,
                           const QString &keyBefore)
 {
-    if (!set() || contains(key))
+    if (!set() || holderOf(key.toUtf8()))
         return false;
     if (key.isEmpty()) {
         qCWarning(propertyEditorLog) << "Cannot insert a property without a key";
@@ -248,9 +263,10 @@ bool KeyValueItem::insert(const QString &key, const QString &group, const QVaria
     auto property = std::make_unique<KProperty>(key.toUtf8(), converted, QString(), QString(), type);
     if (!isStorable(*property))
         return false;
-    const int position =
-        keyBefore.isEmpty() ? -1 : KPropertySetUtils::propertyIndex(keyBefore, group, *set()) + 1;
-    KPropertySetUtils::insertInKPropertySet(group, property.release(), set(), position);
+    if (keyBefore.isEmpty())
+        KPropertySetUtils::insertInKPropertySet(group, property.release(), set(), -1);
+    else
+        KPropertySetUtils::insertBehind(keyBefore, group, property.release(), set());
     announce(
         this, [&] { Q_EMIT inserted(key, value); }, [&] { Q_EMIT inserted(key, group, value); },
         [this] { Q_EMIT countChanged(count()); }, [this] { Q_EMIT changed(); });
@@ -269,14 +285,18 @@ bool KeyValueItem::replace(const QString &key, const QString &newKey, const QVar
     const QByteArray name = key.toUtf8();
     if (!warnUnless(has(name), key))
         return false;
-    if (key.compare(newKey, Qt::CaseInsensitive) != 0 && has(newKey.toUtf8())) {
-        qCWarning(propertyEditorLog) << "Cannot give" << key << "the name of" << newKey << "which is there";
+    KProperty &property = set()->property(name);
+    const KProperty *namesake = holderOf(newKey.toUtf8());
+    if (newKey.isEmpty() || (namesake && namesake != &property)) {
+        qCWarning(propertyEditorLog) << "Cannot give" << key << "the name of" << newKey
+                                     << (newKey.isEmpty() ? "which is empty" : "which is there");
         return false;
     }
     const KProperty replacement(newKey.toUtf8(), value, QString(), QString(), type);
     if (!isStorable(replacement))
         return false;
-    set()->property(name) = replacement;
+    m_hasRenamed = m_hasRenamed || newKey != key;
+    property = replacement;
     Q_EMIT changed();
     return true;
 }

@@ -59,9 +59,15 @@ bool KeyValueItem::setGroup(const QString &key, const QString &group)
     }
     auto copy = std::make_unique<KProperty>(set()->property(name));
     const QPointer<KeyValueItem> alive(this);
+    const QPointer<KPropertySet> before(set());
     remove(key);
     if (!alive)
         return false;
+    // Who hears of the removal may put the key back, or give the cell another content: that stands.
+    if (!before || before != set() || has(name)) {
+        qCWarning(propertyEditorLog) << "Cannot move the property" << key << "changed by a listener";
+        return false;
+    }
     KPropertySetUtils::insertInKPropertySet(group, copy.release(), set(), -1);
     announce(
         this, [&] { Q_EMIT groupChanged(key, group, oldGroup); }, [this] { Q_EMIT changed(); });

@@ -21,9 +21,13 @@ namespace orv::KPropertySetUtils {
 
 /// Adds \a property, which \a set owns from here, to \a group at \a position among its properties, and right
 /// there in the order of the set; -1 and positions behind the last mean the end. A group that comes to be has
-/// \a group as its caption. A set can only append, so properties behind a position within the set are
-/// replaced by copies: pointers to them become invalid.
+/// \a group as its caption. No other property is touched.
 ORV_WORKFLOW_EXPORT void insertInKPropertySet(const QString &group, KProperty *property, KPropertySet *set,
                                               int position);
+
+/// The same, right behind the property \a key of \a group, or at the front of \a group if it has none of that
+/// name; in time that doesn't grow with the set where it has.
+ORV_WORKFLOW_EXPORT void insertBehind(const QString &key, const QString &group, KProperty *property,
+                                      KPropertySet *set);
 
 } // namespace orv::KPropertySetUtils

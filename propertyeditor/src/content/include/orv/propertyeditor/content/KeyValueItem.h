@@ -59,7 +59,7 @@ public:
                             const QString &keyBefore = {});
     Q_INVOKABLE bool insert(const QString &key, const QVariant &value, int type);
     /// Makes the property another one, without options, caption and a signal. It keeps its place, and the set
-    /// goes on finding it under \a key.
+    /// goes on finding it under \a key. False with a warning when another property is called \a newKey.
     bool replace(const QString &key, const QString &newKey, const QVariant &value, int type);
     Q_INVOKABLE bool remove(const QString &key);
     /// Stops at the first key that isn't there; what was removed stays removed.
@@ -80,7 +80,8 @@ public:
     [[nodiscard]] QList<QByteArray> groupNames() const;
     [[nodiscard]] bool hasGroup(const QString &name) const;
     [[nodiscard]] QList<QByteArray> properties(const QByteArray &groupName) const;
-    /// Moves the property to the end of \a group: it is removed and added anew.
+    /// Moves the property to the end of \a group: it is removed and added anew. False with a warning, too,
+    /// when who hears of the removal puts the key back or gives the cell another content; that stands then.
     Q_INVOKABLE bool setGroup(const QString &key, const QString &group);
     bool setGroupCaption(const QString &groupName, const QString &caption);
     bool removeGroup(const QString &name);
@@ -111,6 +112,8 @@ private:
     [[nodiscard]] bool hasGlycanDatabase() const;
     [[nodiscard]] QJsonObject toJsonWithAbsoluteGlycans() const;
     [[nodiscard]] bool has(const QByteArray &name) const;
+    /// The property that is found under \a name or is called so.
+    [[nodiscard]] const KProperty *holderOf(const QByteArray &name) const;
     [[nodiscard]] bool warnUnless(bool exists, const QString &key) const;
     bool setListValue(const QString &key, KProperty *property, const QVariant &value);
     bool setPlainValue(KProperty *property, const QVariant &value);
@@ -128,6 +131,8 @@ private:
 
     mutable std::unique_ptr<KPropertySet> m_set;
     mutable std::optional<QJsonObject> m_unread; ///< of a cell of an unknown type that nobody looked into
+    /// Whether a property may have another name than that under which the set finds it.
+    bool m_hasRenamed = false;
     QUrl m_baseUrl;
 };
 
