@@ -6,6 +6,7 @@
 #include "../Progress.h"
 #include "Command.h"
 
+#include <orv/propertyeditor/workflow/PortableSamples.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
 #include <orv/resources/ResourceHandlerUtils.h>
 #include <orv/resources/ResourceReferenceUtils.h>
@@ -44,8 +45,9 @@ struct Carried
 class SaveProgress : public PortableSaveObserver
 {
 public:
-    explicit SaveProgress(bool enabled)
-        : m_enabled(enabled)
+    SaveProgress(const QString &folder, bool enabled)
+        : m_folder(folder)
+        , m_enabled(enabled)
     {}
 
     void copying(const QString & /*source*/, qint64 done, qint64 total) override
@@ -58,7 +60,7 @@ public:
     void copied(const QString & /*source*/, const QString &destination) override
     {
         m_bar.reset();
-        m_names.append(QFileInfo(destination).fileName());
+        m_names.append(QDir(m_folder).relativeFilePath(QFileInfo(destination).absoluteFilePath()));
     }
 
     void dangling(const QString &text) override { m_dangling.append(text); }
@@ -74,6 +76,7 @@ public:
     [[nodiscard]] ExitCode exitCode() const { return m_exitCode; }
 
 private:
+    const QString m_folder;
     const bool m_enabled;
     std::optional<Progress> m_bar;
     QStringList m_names;
@@ -87,6 +90,8 @@ public:
     void declare(Arguments &arguments) override
     {
         declareWorkflow(arguments, &m_file);
+        arguments.flag("--with-samples", &m_withSamples,
+                       "Copy the samples' files into the folder, too, and name the copies");
         arguments.option("-o,--output", &m_folder, "The folder to write; .wflwp is added where it lacks",
                          {.isRequired = true, .kind = ValueKind::Folder, .use = FileUse::WrittenAsTold});
     }
@@ -128,15 +133,30 @@ private:
         if (const Outcome<void> allowed = refuseToWipe(folder, *workflow->content); allowed.hasFailed())
             return allowed.failure();
         QString error;
-        SaveProgress progress(options.progress || standardErrorIsTerminal());
+        SaveProgress progress(folder, options.progress || standardErrorIsTerminal());
         const bool isSaved = WflwUtils::saveAsPortableWorkflow(*workflow->content, folder,
                                                                folderUrlOf(m_file), &error, &progress);
         *carried = {progress.names(), progress.danglingTexts()};
         if (isSaved)
-            return {};
+            return m_withSamples ? carrySamples(folder, &progress, carried) : Outcome<void>();
         if (error.isEmpty())
             error = QStringLiteral("The workflow can't be written into the folder.");
         return Failure{progress.exitCode(), 0, error};
+    }
+
+    [[nodiscard]] Outcome<void> carrySamples(const QString &folder, SaveProgress *progress,
+                                             Carried *carried) const
+    {
+        const PortableSamples::Report report = PortableSamples::carry(folder, folderUrlOf(m_file), progress);
+        carried->names = progress->names();
+        if (report.error)
+            return failureFrom(report.error, progress->exitCode());
+        carried->dangling.removeIf([&report](const QString &text) { return report.carried.contains(text); });
+        for (const QString &text : report.missing) {
+            if (!carried->dangling.contains(text))
+                carried->dangling.append(text);
+        }
+        return {};
     }
 
     /// The save removes what stands at its target: not the workflow itself, nor a file that it refers to.
@@ -188,6 +208,7 @@ private:
 
     QString m_file;
     QString m_folder;
+    bool m_withSamples = false;
 };
 
 } // namespace
