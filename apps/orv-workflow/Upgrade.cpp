@@ -1,14 +1,34 @@
 #include "Upgrade.h"
 
+#include <orv/propertyeditor/workflow/WflwUpgrader.h>
+
+#include <algorithm>
+
 namespace orv::cli {
 
 namespace {
+
+/// Whether the step that failed is one that the upgrade may leave out.
+bool stoppedAtSamples(const Error &error)
+{
+    const QString details = error.details().join(QLatin1Char(' '));
+    const QList<WflwUpgradeStep> steps = WflwUpgrader::steps();
+    return std::ranges::any_of(steps, [&details](const WflwUpgradeStep &step) {
+        return step.needsSampleData &&
+               details.contains(QStringLiteral(" the step to %1.").arg(step.version.toString()));
+    });
+}
 
 Failure failureOf(const WorkflowUpgradeReport &report)
 {
     if (report.state == WflwMetaData::WflwState::NotSupported)
         return {Negative, 0, report.error.errorMessages().join(QLatin1Char(' '))};
-    return failureFrom(report.error, report.state ? Negative : BadInput);
+    Failure failure = failureFrom(report.error, report.state ? Negative : BadInput);
+    if (stoppedAtSamples(report.error)) {
+        failure.message += QStringLiteral(" It opens the samples' files: --no-sample-data leaves it out, and "
+                                          "orv-workflow relink finds files that have moved.");
+    }
+    return failure;
 }
 
 } // namespace
