@@ -28,7 +28,7 @@ private Q_SLOTS:
 
 namespace {
 
-QJsonObject document()
+QJsonObject savedDocument()
 {
     return Documents::document(
         {Documents::tab(u"Options"_s, {u"Oligo"_s, u"Search"_s},
@@ -47,7 +47,7 @@ void TestContentSaving::aSaveThatSucceedsHasNoError()
 {
     const QTemporaryDir folder;
     Content content;
-    ORV_VERIFY_OK(content.assignFromJson(document()));
+    ORV_VERIFY_OK(content.assignFromJson(savedDocument()));
     Error error(ErrorCode::InvalidContent);
     QVERIFY(content.save(folder.filePath(u"a.wflw"_s), &error));
     QVERIFY(!error.hasError());
@@ -60,7 +60,7 @@ void TestContentSaving::aTableThatCannotBeWrittenFailsTheSave()
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"a.wflw"_s);
     Content content;
-    ORV_VERIFY_OK(content.assignFromJson(document()));
+    ORV_VERIFY_OK(content.assignFromJson(savedDocument()));
     QVERIFY(content.save(path));
     const QByteArray before = bytesOf(path);
     auto *table = qobject_cast<IntactOptionsTableItem *>(content.group(0)->subGroup(0)->item(0));
@@ -84,7 +84,7 @@ void TestContentSaving::aFileThatCannotBeWrittenIsTold()
     const LogCapture log;
     const QTemporaryDir folder;
     Content content;
-    ORV_VERIFY_OK(content.assignFromJson(document()));
+    ORV_VERIFY_OK(content.assignFromJson(savedDocument()));
     Error error;
     QVERIFY(!content.save(folder.filePath(u"none/a.wflw"_s), &error));
     QCOMPARE(error.code(), ErrorCode::CannotOpenFile);
@@ -98,7 +98,7 @@ void TestContentSaving::whatCouldNotBeLoadedIsNotSaved()
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"a.wflw"_s);
     Content content;
-    ORV_VERIFY_OK(content.assignFromJson(document()));
+    ORV_VERIFY_OK(content.assignFromJson(savedDocument()));
     QVERIFY(content.save(path));
     const QByteArray before = bytesOf(path);
     content.setWorkflowName(QString(FileUtils::kMaxFileSize, u'a'));

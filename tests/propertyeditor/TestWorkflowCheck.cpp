@@ -30,7 +30,7 @@ QJsonObject faultyDocument(const QStringList &names)
 }
 
 /// The report on a document that was loaded from its text.
-WorkflowCheckReport reportOn(const QJsonObject &document, const QStringList &validators)
+WorkflowCheckReport checkReportOn(const QJsonObject &document, const QStringList &validators)
 {
     const LogCapture log;
     Content content;
@@ -73,7 +73,7 @@ void TestWorkflowCheck::withoutNamesTheDefaultSetRuns()
 {
     QCOMPARE(WorkflowCheck().validators(), Validators::defaultNames());
     QCOMPARE(WorkflowCheck({u"MzIdent"_s}).validators(), QStringList{u"MzIdent"_s});
-    const WorkflowCheckReport report = reportOn(faultyDocument({u"a"_s}), {});
+    const WorkflowCheckReport report = checkReportOn(faultyDocument({u"a"_s}), {});
     QVERIFY(!report.isValid);
     QVERIFY(report.errors.size() >= 2);
     QVERIFY(report.findings.size() >= report.errors.size());
@@ -81,7 +81,7 @@ void TestWorkflowCheck::withoutNamesTheDefaultSetRuns()
 
 void TestWorkflowCheck::pathsCountFromTheFolder()
 {
-    const WorkflowCheckReport report = reportOn(faultyDocument({u"a"_s}), {u"Files"_s});
+    const WorkflowCheckReport report = checkReportOn(faultyDocument({u"a"_s}), {u"Files"_s});
     QCOMPARE(report.findings.size(), 1);
     QVERIFY2(report.findings.constFirst().hint.contains(u"\"/nowhere/runs/a.raw\""_s),
              qPrintable(report.findings.constFirst().hint));
@@ -90,7 +90,7 @@ void TestWorkflowCheck::pathsCountFromTheFolder()
 void TestWorkflowCheck::aSettingIsFoundInTheFile()
 {
     const QJsonObject document = faultyDocument({u"a"_s});
-    const LocatedFinding finding = reportOn(document, {u"Builtin"_s}).findings.value(0);
+    const LocatedFinding finding = checkReportOn(document, {u"Builtin"_s}).findings.value(0);
     QVERIFY(finding.isError());
     QCOMPARE(finding.rule, u"Builtin/range"_s);
     QCOMPARE(finding.tab, u"Tab"_s);
@@ -105,7 +105,7 @@ void TestWorkflowCheck::aSettingIsFoundInTheFile()
 
 void TestWorkflowCheck::aSampleIsFoundInTheFile()
 {
-    const WorkflowCheckReport report = reportOn(faultyDocument({u"a"_s, u"b"_s}), {u"Files"_s});
+    const WorkflowCheckReport report = checkReportOn(faultyDocument({u"a"_s, u"b"_s}), {u"Files"_s});
     QCOMPARE(report.findings.size(), 2);
     const LocatedFinding &second = report.findings.at(1);
     QCOMPARE(second.sample, u"b"_s);
@@ -115,7 +115,7 @@ void TestWorkflowCheck::aSampleIsFoundInTheFile()
 void TestWorkflowCheck::samplesOfOneNameAreFoundEachByItself()
 {
     const QJsonObject document = faultyDocument({u"a"_s, u"b"_s, u"a"_s, u"a"_s});
-    const WorkflowCheckReport report = reportOn(document, {u"Files"_s});
+    const WorkflowCheckReport report = checkReportOn(document, {u"Files"_s});
     QStringList pointers;
     QSet<qsizetype> lines;
     for (const LocatedFinding &finding : report.findings) {
@@ -191,10 +191,10 @@ void TestWorkflowCheck::onlySearchesOfOneKindAreAskedForTheirVendors()
     QFETCH(QString, document);
     QFETCH(bool, isAsked);
     const WorkflowCheckReport report =
-        reportOn(ProjectFixtures::document(
-                     {samplesCell({{u"a"_s, u"/n/a.mzML"_s, {}, {}}, {u"b"_s, u"/n/b.mgf"_s, {}, {}}}),
-                      step(document)}),
-                 validators);
+        checkReportOn(ProjectFixtures::document(
+                          {samplesCell({{u"a"_s, u"/n/a.mzML"_s, {}, {}}, {u"b"_s, u"/n/b.mgf"_s, {}, {}}}),
+                           step(document)}),
+                      validators);
     const bool wasAsked = std::ranges::any_of(
         report.findings, [](const LocatedFinding &finding) { return finding.rule == u"SampleTypes"_s; });
     QCOMPARE(wasAsked, isAsked);
@@ -240,10 +240,9 @@ void TestWorkflowCheck::anOutdatedDocumentIsCheckedAsUpgraded()
 void TestWorkflowCheck::anOutdatedDocumentThatCannotBeUpgradedIsAnError()
 {
     const LogCapture log;
-    const QJsonObject document =
-        ProjectFixtures::document({samplesCell({}), step(u"Senthia"_s)},
-                                  {{u"version"_s, u"5.25.0"_s},
-                                   {u"workflowType"_s, workflowTypeToString(WorkflowType::IntactMass)}});
+    const QJsonObject document = ProjectFixtures::document(
+        {samplesCell({}), step(u"Senthia"_s)},
+        {{u"version"_s, u"5.25.0"_s}, {u"workflowType"_s, workflowTypeToString(WorkflowType::IntactMass)}});
     const auto report = WorkflowCheck().run(WorkflowSource{document, {}}, kWorkflowFolder);
     QVERIFY(report.hasError());
     QCOMPARE(report.error().errorMessage(),
@@ -289,7 +288,7 @@ void TestWorkflowCheck::manySamplesAreLocatedInOneWalk()
     QStringList names;
     for (int i = 0; i < kManySamples; ++i)
         names.append(u"lot %1"_s.arg(i));
-    const WorkflowCheckReport report = reportOn(faultyDocument(names), {u"Files"_s});
+    const WorkflowCheckReport report = checkReportOn(faultyDocument(names), {u"Files"_s});
     QCOMPARE(report.findings.size(), kManySamples);
     QVERIFY(report.findings.constLast().pointer.endsWith(u"/Samples/9999"_s));
 }
