@@ -40,13 +40,14 @@ private:
     [[nodiscard]] SampleNames namesIn(const QJsonObject &document) const
     {
         const QStringList patterns = m_patterns.isEmpty() ? QStringList{QStringLiteral("*")} : m_patterns;
-        SampleNames names;
-        for (const PropertiesGetter::CellData &cell :
-             PropertiesGetter(PropertyEditorContent(document)).samples()) {
-            names.all += PropertiesGetter::samplesMatchingRegExp(cell, QStringLiteral("*"));
-            names.matching += PropertiesGetter::samplesMatchingRegExp(cell, patterns);
-        }
-        return names;
+        // The samples of a workflow are those of its first table, as every other query has it.
+        const QList<PropertiesGetter::CellData> tables =
+            PropertiesGetter(PropertyEditorContent(document)).samples();
+        if (tables.isEmpty())
+            return {};
+        const PropertiesGetter::CellData &table = tables.constFirst();
+        return {PropertiesGetter::samplesMatchingRegExp(table, QStringLiteral("*")),
+                PropertiesGetter::samplesMatchingRegExp(table, patterns)};
     }
 
     static QJsonObject json(const SampleNames &names, const QJsonValue &error)

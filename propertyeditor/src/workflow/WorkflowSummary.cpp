@@ -8,6 +8,8 @@
 #include <QJsonArray>
 #include <QMetaEnum>
 
+#include <algorithm>
+
 namespace orv {
 
 using namespace PropertyEditorStringConstants;
@@ -85,7 +87,7 @@ WorkflowSummary::Cell summarizeCell(const QJsonObject &cell)
     return summary;
 }
 
-WorkflowSummary::Tab summarizeTab(const PropertyEditorContent::Tab &tab, WorkflowSummary &summary)
+WorkflowSummary::Tab summarizeTab(const PropertyEditorContent::Tab &tab)
 {
     WorkflowSummary::Tab result{tab.first, {}};
     for (const QString &name : tab.second.first)
@@ -98,11 +100,25 @@ WorkflowSummary::Tab summarizeTab(const PropertyEditorContent::Tab &tab, Workflo
         WorkflowSummary::Column &column = result.columns[i % columnCount];
         column.cells.append(summarizeCell(cell));
         column.type = column.cells.constLast().type;
-        if (column.type == PropertyEditor::BaseItem::typeToString(BaseItemType::Samples) &&
-            summary.samples.isEmpty())
-            summary.samples = sampleNames(cell);
     }
     return result;
+}
+
+/// The names in the first samples table of a tab, column by column as the loaded tree has them, even where it
+/// is empty; nothing without one.
+std::optional<QStringList> firstSamples(const WorkflowSummary::Tab &summary,
+                                        const PropertyEditorContent::Tab &tab)
+{
+    const QString type = PropertyEditor::BaseItem::typeToString(BaseItemType::Samples);
+    for (qsizetype column = 0; column < summary.columns.size(); ++column) {
+        const QList<WorkflowSummary::Cell> &cells = summary.columns.at(column).cells;
+        const auto found = std::ranges::find(cells, type, &WorkflowSummary::Cell::type);
+        if (found == cells.end())
+            continue;
+        const qsizetype row = std::distance(cells.begin(), found);
+        return sampleNames(RawCell::objectOf(tab.second.second.at(row * summary.columns.size() + column)));
+    }
+    return {};
 }
 
 } // namespace
@@ -119,14 +135,18 @@ WorkflowSummary WorkflowSummary::of(const PropertyEditorContent &content)
     summary.iconName = WflwMetaData::iconNameFromMetaDataObject(metadata);
     summary.workflowType = WflwMetaData::workflowType(metadata);
     summary.contentMode = int(WflwMetaData::contentMode(metadata));
+    std::optional<QStringList> samples;
     for (const PropertyEditorContent::Tab &tab : content.tabsAndContent()) {
-        summary.tabs.append(summarizeTab(tab, summary));
+        summary.tabs.append(summarizeTab(tab));
+        if (!samples)
+            samples = firstSamples(summary.tabs.constLast(), tab);
         for (const Column &column : summary.tabs.constLast().columns) {
             const CellType *row = rowOf(column.type);
             if (row && row->document)
                 summary.documents.append(column.type);
         }
     }
+    summary.samples = samples.value_or(QStringList());
     return summary;
 }
 

@@ -55,7 +55,7 @@ public:
     [[nodiscard]] QList<CellData> documents() const;
     /// The sequence databases, then the proteins: the first row of each such column.
     [[nodiscard]] QList<CellData> globals() const;
-    /// The samples tables.
+    /// The samples tables; the workflow's samples are those of the first.
     [[nodiscard]] QList<CellData> samples() const;
 
     /// The proteins as FASTA text in UTF-8, which begins with an empty line. The intact proteins come before
