@@ -26,7 +26,7 @@ int winMaxPathLength()
 
 bool isWinLongPath(const QString &path)
 {
-    return path.size() >= winMaxPathLength();
+    return path.size() > winMaxPathLength();
 }
 
 bool hasWinLongPathPrefix(const QString &path)

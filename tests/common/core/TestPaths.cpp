@@ -220,8 +220,8 @@ void TestPaths::theLongPathRulesOfWindowsHoldEverywhere_data()
     QTest::addColumn<bool>("hasPrefix");
 
     QTest::newRow("empty") << QString() << false << false;
-    QTest::newRow("259 characters") << QString(259, u'x') << false << false;
-    QTest::newRow("260 characters") << QString(260, u'x') << true << false;
+    QTest::newRow("260 characters") << QString(260, u'x') << false << false;
+    QTest::newRow("261 characters") << QString(261, u'x') << true << false;
     QTest::newRow("prefix") << uR"(\\?\C:\a)"_s << false << true;
     QTest::newRow("prefix with slashes") << u"//?/C:/a"_s << false << true;
     QTest::newRow("prefix inside") << uR"(C:\\?\a)"_s << false << false;

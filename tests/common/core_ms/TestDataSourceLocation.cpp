@@ -68,10 +68,10 @@ void TestDataSourceLocation::pathsAreChecked_data()
     QTest::newRow("empty") << QString() << u"Vendor file name is empty"_s;
     QTest::newRow("short") << u"/a.raw"_s << QString();
     QTest::newRow("not there") << u"/nowhere/a.raw"_s << QString();
-    QTest::newRow("the longest") << ofLength(u"/"_s, limit - 1) << QString();
-    QTest::newRow("too long") << ofLength(u"/"_s, limit) << tooLong;
+    QTest::newRow("the longest") << ofLength(u"/"_s, 260) << QString();
+    QTest::newRow("too long") << ofLength(u"/"_s, 261) << tooLong;
     QTest::newRow("far too long") << ofLength(u"C:\\"_s, 10 * limit) << tooLong;
-    QTest::newRow("long with the prefix") << ofLength(u"\\\\?\\C:\\"_s, limit) << QString();
+    QTest::newRow("long with the prefix") << ofLength(u"\\\\?\\C:\\"_s, 261) << QString();
     QTest::newRow("long with the other prefix") << ofLength(u"//?/C:/"_s, 10 * limit) << QString();
 }
 

@@ -8,10 +8,11 @@
 /// writes has to open on the other.
 namespace orv::FilePathUtils {
 
-/// MAX_PATH of the Windows API, which counts the terminating zero: 260 characters.
+/// MAX_PATH of the Windows API: 260 characters.
 [[nodiscard]] ORV_WORKFLOW_EXPORT int winMaxPathLength();
 
-/// Whether \a path has winMaxPathLength() characters or more, so that it needs the long-path prefix.
+/// Whether \a path has more than winMaxPathLength() characters, so that it needs the long-path prefix. A path
+/// of exactly that length passes.
 [[nodiscard]] ORV_WORKFLOW_EXPORT bool isWinLongPath(const QString &path);
 
 /// Whether \a path begins with "\\?\" (or with "//?/", its form with slashes).
