@@ -55,13 +55,13 @@ void updateList(KProperty *property, const QString &text)
     }
     bool ok = false;
     const int index = text.toInt(&ok, 10);
-    if (!ok)
-        qCCritical(propertyEditorLog()) << "List conversion for" << property->name() << "failed.";
     const QMap<PropertyId, QStringList> &lists = PropertySetCreator::listPropertiesData();
     if (const auto list = lists.constFind(id); list != lists.cend())
         property->setValue(list->value(index, QLatin1String("")));
     else if (ok)
         property->setValue(text);
+    else
+        qCCritical(propertyEditorLog()) << "List conversion for" << property->name() << "failed.";
 }
 
 void updateCheckableList(KProperty *property, const QString &text)
