@@ -28,7 +28,8 @@ protected:
     void declareMore(Arguments &arguments) override
     {
         arguments.flag("--no-sample-data", &m_noSampleData,
-                       "Leave out the two steps that open the samples' files");
+                       "Pass over the two steps 5.10.1 and 5.39.0, which open the samples' files; 5.6.0 "
+                       "opens them all the same");
         arguments.option("--user", &m_user, "The name to stamp with (default: the current user)");
     }
 

@@ -56,7 +56,8 @@ constexpr ApplicationTypes kEveryAnalysis = {App::Senthia, App::Karvon,         
 constexpr ApplicationTypes kWithProteins = {App::Senthia, App::Karvon, App::Dravik,
                                             App::Intact,  App::Oligo,  App::Ostrale};
 
-// Unknown cells are held as settings, and retired types whole, so that no document loses one.
+// Unknown cells are settings that are kept as they stand until somebody changes them, and retired types are
+// always kept whole.
 // clang-format off
 constexpr std::array kCellTypes = {
     settings(Type::Unknown),

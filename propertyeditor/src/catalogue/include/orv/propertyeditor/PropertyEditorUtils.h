@@ -132,7 +132,8 @@ public:
     getAdvancedConfigurationFromProject(const PropertyEditor::KeyValueItem *item);
 
     /// Rewrites the glycan databases that stand in square brackets in the glycan text of a property's value
-    /// \a json to absolute paths; without a base nothing changes. A relative path is a path, not a URL, so
+    /// \a json to absolute paths. The base is the URL of the workflow's folder, not of its file; without one
+    /// nothing changes. A relative path is a path, not a URL, so
     /// that "#", "?", "%" and blanks in names survive. An absolute one that begins with "/" and doesn't exist
     /// is looked for below the base, for portable folders name their files "file:///NAME".
     static void updateGlycanDatabaseToAbsolute(const QUrl &baseUrl, QJsonObject *json);
@@ -142,7 +143,7 @@ public:
     static void updateGlycanDatabasesToAbsolute(PropertyEditor::KeyValueItem *item, const QUrl &baseUrl);
     static void updateGlycanDatabasesToAbsolute(PropertyEditor::Content *content, const QUrl &baseUrl);
 
-    /// Tells \a property the base against which resolveGlycansStringsFromWflw resolves its paths.
+    /// Tells \a property the folder against which resolveGlycansStringsFromWflw resolves its paths.
     static void updateGlycanPropertyWithAbsolutePath(KProperty *property, const QUrl &baseUrl);
     /// The glycan text of a document with single backslashes and absolute paths.
     [[nodiscard]] static QString resolveGlycansStringsFromWflw(const QString &text,

@@ -4,8 +4,8 @@
 
 namespace orv::PropertyEditor {
 
-/// A cell that is kept whole without being understood: retired kinds survive a load and a save byte for
-/// byte, whatever the conversion flag.
+/// A cell that is kept whole without being understood: the object of a retired kind is the same after a
+/// load and a save, whatever the conversion flag.
 class ORV_WORKFLOW_EXPORT UnsupportedItem : public BaseItem
 {
     Q_OBJECT

@@ -19,7 +19,7 @@ class WflwUpgradeObserver;
 struct WflwUpgradeStep
 {
     QVersionNumber version; ///< the first in which documents have the new form
-    bool needsSampleData;   ///< the step opens the samples' files, and is passed over where it mustn't
+    bool needsSampleData;   ///< the step is passed over where the samples' files mustn't be opened
     /// Takes the step alone. \a initial is the document before the chain, of \a initialVersion.
     Error (*take)(WflwUpgradeHelper &helper, PropertyEditorContent *content,
                   const PropertyEditorContent &initial, const QVersionNumber &initialVersion);
@@ -58,9 +58,10 @@ public:
     /// current version is left alone.
     ///
     /// \a notes may be null; a run that succeeds replaces what it holds by what the user should know of.
-    /// Steps that open the samples' data files run only with \a accessSampleData. Some steps ask a server
-    /// when a sample lies there. A failure is that of a step; \a content is then as the step before left it,
-    /// and should be discarded.
+    /// Without \a accessSampleData the steps 5.10.1 and 5.39.0, which open the samples' files, are passed
+    /// over; 5.6.0 opens those of a document that old all the same. Some steps ask a server when a sample
+    /// lies there. A failure is that of a step; \a content is then as the step before left it, and should be
+    /// discarded.
     static Error upgradeWorkflow(const QVersionNumber &version, PropertyEditorContent *content,
                                  QList<QString> *notes, bool accessSampleData);
     /// The same; \a observer, which may be null, is told of each step that changed something.
