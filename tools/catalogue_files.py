@@ -20,7 +20,7 @@ DEFAULT_COLUMNS = ["internalNameV2", "reader", "kind", "default"]
 
 # Code of a reader, its enumerator in the program, and the types of rows that it serves.
 READERS = {
-    "S": ("String", ("QString", "multiLine")), "U": ("UpperLetters", ("QString",)), "B": ("Bool", ("bool",)),
+    "S": ("String", ("QString", "multiLine", "double")), "U": ("UpperLetters", ("QString",)), "B": ("Bool", ("bool",)),
     "D": ("Double", ("double",)), "P": ("Percent", ("double",)), "I": ("Int", ("int",)),
     "N": ("NonNegativeInt", ("int",)), "Q": ("IntPercent", ("int",)), "L": ("ListIndex", ("list",)),
     "T": ("ListText", ("list",)), "O": ("Object", ("object",)), "R": ("Resource", ("ResourceReference",)),

@@ -20,6 +20,11 @@ def ask(program, *names):
     return json.loads(result.stdout)
 
 
+# Files hold percent where these readers make a fraction of it, and the program shows what files hold.
+PERCENT_READERS = {"P", "Q"}
+DIGITS = 9
+
+
 class ProgramCheck:
     """Appends to the problems of a checker that has loaded the catalogue's files."""
 
@@ -61,6 +66,8 @@ class ProgramCheck:
         value, wanted = entry["default"], default.value()
         if default.kind == "double" and type(value) is int:
             value = float(value)  # JSON text has one kind of number: its type stands beside it
+        if default.reader in PERCENT_READERS:
+            value, wanted = round(value, DIGITS), round(wanted * 100, DIGITS)
         if default.kind == "ppm":
             wanted = {**wanted, "value": type(value["value"])(wanted["value"])}
         self.compare(number, "default", value, wanted)

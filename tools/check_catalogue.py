@@ -27,7 +27,7 @@ OPTIONS_OF_TYPE = {"double": NUMBER_OPTIONS | {"precision"}, "int": NUMBER_OPTIO
 # What a tooltip says for the unit that an editor shows behind the number.
 UNIT_WORDS = {"ppm": "ppm", "Da": "Da", "m/z": "m/z", "min": "minutes", "s": "seconds", "%": "percent",
               "counts": "counts", "counts·s": "counts times seconds", "°": "degrees", "MB": "megabytes",
-              "scans": "scans", "residues": "residues"}
+              "scans": "scans", "residues": "residues", "dpi": "dots per inch"}
 
 RANGE = re.compile(r"([\[\(])\s*([-0-9.]+)\s*;\s*([-0-9.]+)\s*([\]\)])")
 DIGESTION = re.compile(r"[^@|]+ @ [A-Z](,[A-Z])* \| [CN]-term")

@@ -31,7 +31,6 @@ private Q_SLOTS:
     void settingsCellsHoldEveryAllowedPropertyInOrder();
     void everySettingHoldsItsDefault_data();
     void everySettingHoldsItsDefault();
-    void filesHoldPercent();
     void theSingleDatabaseFileStandsNowhere();
     void tableCellsHoldTheirTable_data();
     void tableCellsHoldTheirTable();
@@ -141,21 +140,6 @@ void TestNewWorkflow::everySettingHoldsItsDefault()
         QVERIFY2(qFuzzyCompare(1 + read.toDouble(), 1 + features.defaultValue.toDouble()),
                  qPrintable(features.internalNameV2));
     }
-}
-
-void TestNewWorkflow::filesHoldPercent()
-{
-    int count = 0;
-    for (auto it = PropertiesNames::names()->begin(); it != PropertiesNames::names()->end(); ++it) {
-        const QChar reader = PropertiesNames::readerCode(it.key());
-        if (reader != u'P' && reader != u'Q')
-            continue;
-        ++count;
-        const double stored = NewWorkflow::storedDefault(it.key()).toVariant().toDouble();
-        QVERIFY2(qFuzzyCompare(1 + stored, 1 + 100 * it->defaultValue.toDouble()),
-                 qPrintable(it->internalNameV2));
-    }
-    QVERIFY(count > 0);
 }
 
 /// In a cell its name reads as the list of today.

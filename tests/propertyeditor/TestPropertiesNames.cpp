@@ -105,6 +105,9 @@ private Q_SLOTS:
     void defaultsPassTheirOwnRule();
     void defaultsLieInTheirList_data();
     void defaultsLieInTheirList();
+    void aResolutionIsANumberOfDots_data();
+    void aResolutionIsANumberOfDots();
+    void toleranceTipsOfTheSearchNameTheUnitsThatItKnows();
 };
 
 namespace {
@@ -412,6 +415,43 @@ void TestPropertiesNames::defaultsLieInTheirList()
     const QString held = property->value().toString();
     QVERIFY2(keys.contains(held) || (UserVisibleListConverter::isEditableList(id) && held.isEmpty()),
              qPrintable(held));
+}
+
+void TestPropertiesNames::aResolutionIsANumberOfDots_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<bool>("passes");
+    QTest::newRow("print") << QVariant(300.0) << true;
+    QTest::newRow("its default, a text") << QVariant(u"300"_s) << true;
+    QTest::newRow("least") << QVariant(1.0) << true;
+    QTest::newRow("most") << QVariant(2400.0) << true;
+    QTest::newRow("none") << QVariant(0.0) << false;
+    QTest::newRow("negative") << QVariant(-300.0) << false;
+    QTest::newRow("beyond the most") << QVariant(2401.0) << false;
+    QTest::newRow("nothing") << QVariant() << false;
+}
+
+void TestPropertiesNames::aResolutionIsANumberOfDots()
+{
+    QFETCH(QVariant, value);
+    QFETCH(bool, passes);
+    const VerificationFunction rule = PropertiesNames::names()->value(PropertyId(133)).verification;
+    QStringList errors;
+    QStringList warnings;
+    QCOMPARE(
+        rule(PropertyId(133), value, PropertyEditorContent::ContentMode::DesktopMode, &errors, &warnings),
+        passes);
+    const QString message = u"The value of \"Image resolution\" must be in range [1;2400]"_s;
+    QCOMPARE(errors, passes ? QStringList() : QStringList{message});
+}
+
+void TestPropertiesNames::toleranceTipsOfTheSearchNameTheUnitsThatItKnows()
+{
+    for (const int number : {55, 56, 80}) {
+        const QString tip = PropertiesNames::tooltipForType(PropertyId(number));
+        QVERIFY2(tip.contains(u"in ppm or Da as chosen"_s) && tip.contains(u"in mmu for ppm"_s),
+                 qPrintable(tip));
+    }
 }
 
 ORV_REGISTER_TEST(TestPropertiesNames)

@@ -1,5 +1,7 @@
+#include "LogCapture.h"
 #include "OrvTest.h"
 
+#include <KProperty>
 #include <orv/propertyeditor/LabelScripts.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/PropertySetCreator.h>
@@ -62,6 +64,10 @@ private Q_SLOTS:
     void textsThatAreNoReferenceGiveAnEmptyPointer_data();
     void textsThatAreNoReferenceGiveAnEmptyPointer();
     void aReferenceReaderFollowsTheTypeOfTheNameItFinds();
+    void storedDefaultsAreInTheUnitOfFiles_data();
+    void storedDefaultsAreInTheUnitOfFiles();
+    void aPropertyMadeOfItsStoredDefaultReadsAsTheDefault();
+    void whatIsNoPropertyHasNoStoredDefault();
 };
 
 void TestPropertyReaders::everyPropertyHasOneOfThirteenReaders()
@@ -273,6 +279,57 @@ void TestPropertyReaders::aReferenceReaderFollowsTheTypeOfTheNameItFinds()
     QCOMPARE(textOf(2, u"1.5"_s), u"1.5"_s);                                   // double
     QCOMPARE(textOf(67, QJsonObject{{u"modifications"_s, u"/m"_s}}), u"/m"_s); // object
     QCOMPARE(textOf(182, 0), PropertySetCreator::listPropertiesData().value(PropertyId(182)).at(0)); // list
+}
+
+void TestPropertyReaders::storedDefaultsAreInTheUnitOfFiles_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QJsonValue>("expected");
+    QTest::newRow("percent") << 12 << QJsonValue(u"0.5"_s);
+    QTest::newRow("little percent") << 302 << QJsonValue(u"0.005"_s);
+    QTest::newRow("whole percent") << 175 << QJsonValue(10);
+    QTest::newRow("percent that nobody divides") << 84 << QJsonValue(u"95"_s);
+    QTest::newRow("text for a number") << 108 << QJsonValue(u"0.2"_s);
+    QTest::newRow("number for a text") << 133 << QJsonValue(u"300"_s);
+    QTest::newRow("switch") << 1 << QJsonValue(u"true"_s);
+    QTest::newRow("position") << 8 << QJsonValue(1);
+}
+
+void TestPropertyReaders::storedDefaultsAreInTheUnitOfFiles()
+{
+    QFETCH(int, number);
+    QFETCH(QJsonValue, expected);
+    QCOMPARE(PropertySetCreator::storedDefault(PropertyId(number)), expected);
+}
+
+void TestPropertyReaders::aPropertyMadeOfItsStoredDefaultReadsAsTheDefault()
+{
+    int percents = 0;
+    for (int number = 0; number < kPropertyCount; ++number) {
+        const auto id = PropertyId(number);
+        const QChar reader = PropertiesNames::readerCode(id);
+        if (reader != u'P' && reader != u'Q' && reader != u'D' && reader != u'I')
+            continue;
+        percents += reader == u'P' || reader == u'Q' ? 1 : 0;
+        KProperty property;
+        QStringList errors;
+        QVERIFY(PropertySetCreator::modifyKProperty(id, PropertySetCreator::Priority::High,
+                                                    PropertySetCreator::storedDefault(id), &property,
+                                                    &errors));
+        const QJsonValue saved =
+            PropertySetCreator::valueToJson(property, PropertyEditor::PropertyConversionFlag::KeepPaths);
+        const double value = read(id, entry(id, saved)).toDouble();
+        const double expected = PropertiesNames::defaultValueForType(id).toDouble();
+        QVERIFY2(qAbs(value - expected) <= 1e-12, property.name().constData());
+    }
+    QCOMPARE(percents, 11);
+}
+
+void TestPropertyReaders::whatIsNoPropertyHasNoStoredDefault()
+{
+    const LogCapture log;
+    QVERIFY(PropertiesNames::defaultValueInFileUnit(PropertyId(kPropertyCount)).isNull());
+    QVERIFY(PropertySetCreator::storedDefault(PropertyId(kPropertyCount)).isUndefined());
 }
 
 ORV_REGISTER_TEST(TestPropertyReaders)

@@ -2,6 +2,7 @@
 
 #include <orv/propertyeditor/AllowedProperties.h>
 #include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/PropertySetCreator.h>
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/workflow/NewWorkflow.h>
@@ -132,7 +133,7 @@ void TestWorkflowSchema::settingsAreExplained()
     const QJsonObject value = valueOf(features.internalNameV2);
     QCOMPARE(value.value(u"title"_s).toString(), features.displayName);
     QVERIFY(value.value(u"description"_s).toString().startsWith(features.toolTip));
-    QCOMPARE(value.value(u"default"_s), NewWorkflow::storedDefault(id));
+    QCOMPARE(value.value(u"default"_s), PropertySetCreator::storedDefault(id));
     QVERIFY(value.contains(u"type"_s) || value.contains(u"enum"_s));
 }
 

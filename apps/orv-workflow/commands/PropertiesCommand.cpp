@@ -118,7 +118,7 @@ QJsonObject toJson(PropertyId id, const PropertyFeatures &features)
         {QStringLiteral("type"), int(PropertiesNames::valueTypeOfPropertyType(id))},
         {QStringLiteral("typeOptions"), options},
         {QStringLiteral("reader"), QString(PropertiesNames::readerCode(id))},
-        {QStringLiteral("default"), defaultOf(features.defaultValue)},
+        {QStringLiteral("default"), defaultOf(PropertiesNames::defaultValueInFileUnit(id))},
         {QStringLiteral("defaultType"),
          hasDefault ? QJsonValue(QString::fromLatin1(features.defaultValue.typeName())) : QJsonValue()},
         {QStringLiteral("editor"), editorOf(id)},
@@ -153,7 +153,7 @@ QString details(PropertyId id, const PropertyFeatures &features)
         add("Former name", features.internalNameV1);
     add("Meaning", features.toolTip);
     add("Type", features.typeName);
-    add("Default", textOf(defaultOf(features.defaultValue)));
+    add("Default", textOf(defaultOf(PropertiesNames::defaultValueInFileUnit(id))));
     add("Rule",
         (texts.verificationFunction(id) + QLatin1Char(' ') + texts.verificationParameters(id)).trimmed());
     add("Values", listText(listOf(id)));

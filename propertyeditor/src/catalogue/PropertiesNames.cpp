@@ -55,6 +55,14 @@ const PropertyFeatures &featuresFor(PropertyId id)
     return found == catalogue.cend() ? none : *found;
 }
 
+bool isPercentInFiles(PropertyId id)
+{
+    if (id < 0 || id >= kPropertyCount)
+        return false;
+    const PropertyReader reader = propertyRows().at(id).reader;
+    return reader == PropertyReader::Percent || reader == PropertyReader::IntPercent;
+}
+
 using Captions = QMap<PropertyId, QString>;
 
 const QMap<WorkflowType, Captions> &captionsByWorkflowType()
@@ -119,6 +127,13 @@ QString PropertiesNames::tooltipForType(PropertyId id)
 QVariant PropertiesNames::defaultValueForType(PropertyId id)
 {
     return featuresFor(id).defaultValue;
+}
+
+QVariant PropertiesNames::defaultValueInFileUnit(PropertyId id)
+{
+    constexpr double kPercent = 100;
+    const QVariant value = defaultValueForType(id);
+    return isPercentInFiles(id) ? value.toDouble() * kPercent : value;
 }
 
 QMap<QByteArray, QString> PropertiesNames::typeOptionsOfPropertyType(PropertyId id)

@@ -20,6 +20,7 @@
 #include <QUrl>
 
 #include <array>
+#include <memory>
 
 namespace orv {
 
@@ -246,6 +247,16 @@ bool PropertySetCreator::canStore(const KProperty &property)
     if (property.type() < KProperty::UserDefined && !isText && !value.canConvert(QMetaType(property.type())))
         return false;
     return !valueToJson(property, PropertyEditor::PropertyConversionFlag::KeepPaths).isUndefined();
+}
+
+QJsonValue PropertySetCreator::storedDefault(PropertyId id)
+{
+    const std::unique_ptr<KProperty> property(createDefaultProperty(id, Priority::Unset));
+    if (!property)
+        return QJsonValue::Undefined;
+    if (property->type() != KProperty::ValueFromList)
+        property->setValue(PropertiesNames::defaultValueInFileUnit(id), KProperty::ValueOption::IgnoreOld);
+    return valueToJson(*property, PropertyEditor::PropertyConversionFlag::KeepPaths);
 }
 
 QJsonValue PropertySetCreator::valueToJson(const KProperty &property,

@@ -1,6 +1,5 @@
 #include "orv/propertyeditor/workflow/NewWorkflow.h"
 
-#include <KProperty>
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/AllowedProperties.h>
 #include <orv/propertyeditor/PropertiesNames.h>
@@ -18,7 +17,6 @@
 #include <QJsonArray>
 
 #include <algorithm>
-#include <memory>
 
 namespace orv {
 
@@ -31,17 +29,10 @@ using Priority = PropertySetCreator::Priority;
 
 constexpr QLatin1String kTabName("Workflow");
 
-/// Readers of these codes turn the percent of files into fractions.
-bool isPercentInFiles(PropertyId id)
-{
-    const QChar reader = PropertiesNames::readerCode(id);
-    return reader == QLatin1Char('P') || reader == QLatin1Char('Q');
-}
-
 QJsonObject settingEntry(PropertyId id)
 {
     return {{NAME_KEY, PropertiesNames::internalNameForType(id)},
-            {VALUE_KEY, NewWorkflow::storedDefault(id)},
+            {VALUE_KEY, PropertySetCreator::storedDefault(id)},
             {PRIORITY_KEY, int(Priority::High)}};
 }
 
@@ -114,17 +105,6 @@ QList<PropertyId> NewWorkflow::settingsOf(BaseItemType type)
     QList<PropertyId> ids = allowedProperties(type).values();
     std::ranges::sort(ids);
     return ids;
-}
-
-QJsonValue NewWorkflow::storedDefault(PropertyId id)
-{
-    constexpr double kPercent = 100;
-    const std::unique_ptr<KProperty> property(PropertySetCreator::createDefaultProperty(id, Priority::High));
-    if (!property)
-        return QJsonValue::Undefined;
-    if (isPercentInFiles(id))
-        property->setValue(property->value().toDouble() * kPercent, KProperty::ValueOption::IgnoreOld);
-    return PropertySetCreator::valueToJson(*property, PropertyEditor::PropertyConversionFlag::KeepPaths);
 }
 
 QJsonObject NewWorkflow::defaultCell(BaseItemType type)

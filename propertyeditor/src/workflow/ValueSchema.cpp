@@ -265,7 +265,7 @@ QJsonObject ofSetting(PropertyId id)
     const int type = PropertiesNames::valueTypeOfPropertyType(id);
     const auto *const row = std::ranges::find(kTypes, type, &TypeRow::type);
     QJsonObject schema = explained(row == kTypes.end() ? QJsonObject() : row->schema(id), id);
-    if (const QJsonValue value = NewWorkflow::storedDefault(id); !value.isUndefined())
+    if (const QJsonValue value = PropertySetCreator::storedDefault(id); !value.isUndefined())
         schema.insert(QLatin1String("default"), value);
     return schema;
 }

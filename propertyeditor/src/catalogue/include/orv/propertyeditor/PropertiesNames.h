@@ -41,6 +41,8 @@ public:
 
     [[nodiscard]] static QString tooltipForType(PropertyId id);
     [[nodiscard]] static QVariant defaultValueForType(PropertyId id);
+    /// The default in the unit of files and rules: percent where readers make a fraction of it.
+    [[nodiscard]] static QVariant defaultValueInFileUnit(PropertyId id);
     [[nodiscard]] static QMap<QByteArray, QString> typeOptionsOfPropertyType(PropertyId id);
     [[nodiscard]] static QString valueTypeNameOfPropertyType(PropertyId id);
     [[nodiscard]] static KProperty::Type valueTypeOfPropertyType(PropertyId id);

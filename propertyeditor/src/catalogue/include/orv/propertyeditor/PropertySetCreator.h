@@ -89,7 +89,13 @@ public:
     propertySetToObject(const KPropertySet &set, PropertyEditor::PropertyConversionFlag flag);
 
     /// A property with its default, owned by the caller; null, with a log line, for an id that has no type.
+    /// The default is that of the catalogue, so a fraction where files have percent: a property to be saved
+    /// begins with modifyKProperty and storedDefault.
     [[nodiscard]] static KProperty *createDefaultProperty(PropertyId id, Priority priority);
+
+    /// The default of a property as files hold it: in percent where files have percent; undefined if it has
+    /// no stored form.
+    [[nodiscard]] static QJsonValue storedDefault(PropertyId id);
 
     /// Makes \a property the property \a id with the stored \a value; reasons for false are appended to
     /// \a errors.

@@ -25,10 +25,6 @@ namespace NewWorkflow {
 /// The settings of a new cell of that type by ascending id; none for a cell of tables.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QList<PropertyId> settingsOf(BaseItemType type);
 
-/// The default of a property as files hold it: in percent where files have percent; undefined if it has no
-/// stored form.
-[[nodiscard]] ORV_WORKFLOW_EXPORT QJsonValue storedDefault(PropertyId id);
-
 /// A cell with its default settings or tables; empty for Unknown.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QJsonObject defaultCell(BaseItemType type);
 
