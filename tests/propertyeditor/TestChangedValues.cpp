@@ -46,7 +46,7 @@ QList<Loss> lossesOf(const QJsonObject &entry)
     return losses.losses();
 }
 
-QJsonObject storedEntry(int number, const QJsonValue &value)
+QJsonObject changedEntry(int number, const QJsonValue &value)
 {
     return {{u"name"_s, PropertiesNames::internalNameForType(PropertyId(number))}, {u"value"_s, value}};
 }
@@ -82,7 +82,7 @@ void TestChangedValues::changedValuesAreTold()
     QFETCH(int, number);
     QFETCH(QJsonValue, stored);
     QFETCH(QJsonValue, read);
-    const QList<Loss> losses = lossesOf(storedEntry(number, stored));
+    const QList<Loss> losses = lossesOf(changedEntry(number, stored));
     QCOMPARE(losses.size(), 1);
     const Loss &loss = losses.constFirst();
     QCOMPARE(loss.path, u"/cell/properties/0/value"_s);
@@ -122,7 +122,7 @@ void TestChangedValues::keptValuesAreNot()
 {
     QFETCH(int, number);
     QFETCH(QJsonValue, stored);
-    const QList<Loss> losses = lossesOf(storedEntry(number, stored));
+    const QList<Loss> losses = lossesOf(changedEntry(number, stored));
     QVERIFY2(losses.isEmpty(), losses.isEmpty() ? "" : qPrintable(losses.constFirst().why));
 }
 
@@ -141,7 +141,7 @@ void TestChangedValues::oddMembersAreTold()
     QFETCH(QString, key);
     QFETCH(QJsonValue, stored);
     QFETCH(QJsonValue, read);
-    QJsonObject object = storedEntry(29, 5);
+    QJsonObject object = changedEntry(29, 5);
     object.insert(key, stored);
     const QList<Loss> losses = lossesOf(object);
     QCOMPARE(losses.size(), 1);
