@@ -1,7 +1,7 @@
-#include <orv/core/FileUtils.h>
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/content/Content.h>
+#include <orv/propertyeditor/content/DocumentSaving.h>
 #include <orv/propertyeditor/content/ItemGroup.h>
 #include <orv/propertyeditor/content/ItemSubGroup.h>
 
@@ -28,15 +28,7 @@ bool Content::save(const QString &fileName, Error *error) const
 Error Content::write(const QString &fileName) const
 {
     ORV_RETURN_IF_ERROR(checkWritable());
-    const QByteArray json = toJson(PropertyConversionFlag::KeepPaths);
-    ORV_RETURN_IF_ERROR(FileUtils::checkReadable(json));
-    QString deviceError;
-    if (FileUtils::writeToFile(fileName, json, &deviceError) == QFileDevice::NoError)
-        return Error::NoError;
-    return Error(ErrorCode::CannotOpenFile, tr("Could not write the file: %1").arg(fileName))
-        .addDetail(deviceError)
-        .addDetail(tr("Nothing was changed. Save to another folder, or see that this one has room and can be "
-                      "written."));
+    return DocumentSaving::write(fileName, toJson(PropertyConversionFlag::KeepPaths)).ecatch();
 }
 
 Error Content::checkWritable() const
