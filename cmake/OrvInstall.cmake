@@ -3,7 +3,10 @@ include(CMakePackageConfigHelpers)
 
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/OrvPropertyEditor")
 
-install(EXPORT OrvPropertyEditorTargets NAMESPACE Orv:: DESTINATION "${package_dir}")
+# One set for each component, so that who wants no editors needs no Qt Widgets.
+foreach(component IN ITEMS Workflow Editor)
+  install(EXPORT Orv${component}Targets NAMESPACE Orv:: DESTINATION "${package_dir}")
+endforeach()
 configure_package_config_file(
   "${CMAKE_CURRENT_LIST_DIR}/OrvPropertyEditorConfig.cmake.in"
   "${CMAKE_CURRENT_BINARY_DIR}/OrvPropertyEditorConfig.cmake"

@@ -26,9 +26,10 @@ function(orv_declare_library name pch)
   set_property(GLOBAL PROPERTY ${name}_PCH ${pch})
 endfunction()
 
-# orv_add_library(NAME [LINK ...]): the shared library that gathers the modules registered for it.
+# orv_add_library(NAME COMPONENT <component> [LINK ...]): the shared library that gathers the modules registered
+# for it, found by the component of the package.
 function(orv_add_library name)
-  cmake_parse_arguments(arg "" "" "LINK" ${ARGN})
+  cmake_parse_arguments(arg "" "COMPONENT" "LINK" ${ARGN})
   get_property(modules GLOBAL PROPERTY ${name}_MODULES)
   get_property(links GLOBAL PROPERTY ${name}_LINK)
   add_library(${name} SHARED)
@@ -44,7 +45,7 @@ function(orv_add_library name)
   target_link_options(${name} PRIVATE -Wl,--as-needed $<$<NOT:$<BOOL:${ORV_SANITIZE}>>:-Wl,--no-undefined>)
   set_target_properties(${name} PROPERTIES
     LINKER_LANGUAGE CXX VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
-  install(TARGETS ${name} EXPORT OrvPropertyEditorTargets
+  install(TARGETS ${name} EXPORT Orv${arg_COMPONENT}Targets
           LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endfunction()
 

@@ -1,4 +1,4 @@
-# Installs the library, moves the installed tree, and builds and runs a project against it as a user would.
+# Installs the library, moves the installed tree, and builds and runs projects against it as a user would.
 
 function(run)
   execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE output ERROR_VARIABLE errors RESULT_VARIABLE result)
@@ -18,11 +18,16 @@ if(NOT licence)
   message(FATAL_ERROR "The licence is not installed")
 endif()
 
-run("${CMAKE_COMMAND}" -S "${CONSUMER_DIR}" -B "${WORK_DIR}/build" -G "${GENERATOR}"
-  "-DCMAKE_PREFIX_PATH=${WORK_DIR}/moved" "-DCMAKE_CXX_COMPILER=${COMPILER}"
-  "-DCMAKE_BUILD_TYPE=${BUILD_TYPE}" "-DCMAKE_CXX_FLAGS=${FLAGS}")
-run("${CMAKE_COMMAND}" --build "${WORK_DIR}/build")
-run("${WORK_DIR}/build/list-tabs" "${WORKFLOW}")
+# Builds the example of that name, with further arguments for CMake.
+function(build_example name)
+  run("${CMAKE_COMMAND}" -S "${SOURCE_DIR}/examples/${name}" -B "${WORK_DIR}/${name}" -G "${GENERATOR}"
+    "-DCMAKE_PREFIX_PATH=${WORK_DIR}/moved" "-DCMAKE_CXX_COMPILER=${COMPILER}"
+    "-DCMAKE_BUILD_TYPE=${BUILD_TYPE}" "-DCMAKE_CXX_FLAGS=${FLAGS}" ${ARGN})
+  run("${CMAKE_COMMAND}" --build "${WORK_DIR}/${name}")
+endfunction()
+
+build_example(consumer)
+run("${WORK_DIR}/consumer/list-tabs" "${SOURCE_DIR}/examples/workflows/antibody_peptide_map.wflw")
 
 # Which version that is, other tests say.
 string(REGEX REPLACE "^Format version [0-9]+\\.[0-9]+\\.[0-9]+\n" "Format version\n" output "${output}")
@@ -42,13 +47,16 @@ if(NOT output STREQUAL expected)
   message(FATAL_ERROR "The consumer printed\n${output}\nbut should print\n${expected}")
 endif()
 
-execute_process(COMMAND "${WORK_DIR}/build/list-tabs" "${WORK_DIR}/missing.wflw"
+execute_process(COMMAND "${WORK_DIR}/consumer/list-tabs" "${WORK_DIR}/missing.wflw"
   OUTPUT_QUIET ERROR_VARIABLE errors RESULT_VARIABLE result)
 if(NOT result EQUAL 1 OR NOT errors MATCHES "Could not open the file: .*missing.wflw")
   message(FATAL_ERROR "A missing workflow gave ${result}: ${errors}")
 endif()
 
-run("${WORK_DIR}/build/choose-types" --list)
+run("${WORK_DIR}/consumer/choose-types" --list)
 if(NOT output MATCHES "^[0-9]+ types, checked: Karvon Samples\n$")
   message(FATAL_ERROR "The editors' example printed\n${output}")
 endif()
+
+include("${CMAKE_CURRENT_LIST_DIR}/HeadlessTest.cmake")
+include("${CMAKE_CURRENT_LIST_DIR}/ComponentsTest.cmake")
