@@ -1,5 +1,7 @@
 #include "Check.h"
 
+#include <orv/propertyeditor/validators/WorkflowFile.h>
+
 namespace orv::cli {
 
 namespace {
@@ -13,7 +15,7 @@ Outcome<WorkflowCheckReport> checkFile(const QString &file, const CheckOptions &
         return text.failure();
     const QUrl baseUrl = options.baseUrl.value_or(folderUrlOf(file));
     const Result<WorkflowCheckReport> report =
-        WorkflowCheck(options.validators).run(WorkflowSource{text->document, text->bytes}, baseUrl);
+        WorkflowFile({text->document, text->bytes}, baseUrl).check(options.validators);
     if (report.hasError())
         return failureFrom(report.error(), BadInput);
     return *report;

@@ -3,11 +3,24 @@
 #include "Inputs.h"
 
 #include <orv/propertyeditor/PropertyEditorUtils.h>
+#include <orv/propertyeditor/validators/WorkflowFile.h>
 #include <orv/propertyeditor/workflow/WorkflowPaths.h>
 
 namespace orv::cli {
 
-using PropertyEditor::Content;
+namespace {
+
+using namespace PropertyEditor;
+
+Outcome<LoadedWorkflow> loadFrom(const QJsonObject &document, const QUrl &folder)
+{
+    Result<LoadedContent> loaded = WorkflowFile({document, {}}, folder).load();
+    if (loaded.hasError())
+        return failureFrom(loaded.error(), BadInput);
+    return LoadedWorkflow{document, std::move(loaded->content), loaded->lost};
+}
+
+} // namespace
 
 Outcome<LoadedWorkflow> loadWorkflow(const QString &argument)
 {
@@ -19,25 +32,18 @@ Outcome<LoadedWorkflow> loadWorkflow(const QString &argument)
 
 Outcome<LoadedWorkflow> loadWorkflow(const QJsonObject &document)
 {
-    LoadedWorkflow workflow{document, std::make_unique<Content>(), {}};
-    LossCollector losses;
-    workflow.content->setLossObserver(&losses);
-    const Error error =
-        workflow.content->assignFromJson(document, PropertyEditor::ValidationOption::SkipTypeValidation);
-    workflow.content->setLossObserver(nullptr);
-    if (error.hasError())
-        return failureFrom(error, BadInput);
-    workflow.lost = losses.losses();
-    return workflow;
+    return loadFrom(document, {});
 }
 
 Outcome<LoadedWorkflow> loadResolvedWorkflow(const QString &argument)
 {
-    Outcome<LoadedWorkflow> workflow = loadWorkflow(argument);
+    const Outcome<QJsonObject> document = readDocument(argument);
+    if (document.hasFailed())
+        return document.failure();
+    const QUrl folder = folderUrlOf(argument);
+    Outcome<LoadedWorkflow> workflow = loadFrom(*document, folder);
     if (workflow.hasFailed())
         return workflow;
-    const QUrl folder = folderUrlOf(argument);
-    workflow->content->setBaseUrl(folder);
     WorkflowPaths::resolveSamples(workflow->content.get(), folder);
     PropertyEditorUtils::updateGlycanDatabasesToAbsolute(workflow->content.get(), folder);
     return workflow;
