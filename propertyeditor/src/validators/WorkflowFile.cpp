@@ -3,7 +3,6 @@
 #include <orv/core/FileUtils.h>
 #include <orv/core/JsonUtils.h>
 #include <orv/core/PathUtils.h>
-#include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/DocumentSaving.h>
 #include <orv/propertyeditor/content/DocumentStructure.h>
 #include <orv/propertyeditor/content/ItemGroup.h>

@@ -3,6 +3,7 @@
 #include <orv/core/Export.h>
 #include <orv/core/LossObserver.h>
 #include <orv/core/Result.h>
+#include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/ContentOptions.h>
 #include <orv/propertyeditor/validators/WorkflowCheck.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
@@ -19,8 +20,6 @@
 #include <memory>
 
 namespace orv::PropertyEditor {
-
-class Content;
 
 /// The tree of a document, and what its load dropped.
 struct ORV_WORKFLOW_EXPORT LoadedContent
