@@ -155,6 +155,9 @@ Outcome<FileText> readText(const QString &argument)
     const Result<QJsonObject> document = JsonUtils::objectFromJson(*bytes);
     if (document.hasError())
         return noWorkflow(document.error());
+    const QString metadata = document->value(PropertyEditorStringConstants::META_IN_JSON_KEY).toString();
+    if (const Error fault = WflwMetaData::faultInText(metadata))
+        return noWorkflow(fault);
     return FileText{*bytes, *document};
 }
 

@@ -2,8 +2,12 @@
 
 #include "Console.h"
 #include "Inputs.h"
+#include "NewerDocument.h"
 
 #include <orv/core/FileUtils.h>
+#include <orv/propertyeditor/workflow/WflwUtils.h>
+
+#include <QFileInfo>
 
 namespace orv::cli {
 
@@ -19,6 +23,25 @@ Outcome<void> outcomeOf(QFileDevice::FileError error, const QString &deviceError
 
 } // namespace
 
+namespace {
+
+/// A workflow of a newer format is never written over, whatever would take its place.
+Outcome<void> refuseNewerAt(const QString &output)
+{
+    if (!WflwUtils::isMirelWorkflow(output) || !QFileInfo(output).isFile())
+        return {};
+    const Outcome<DoubtfulText> present = readDoubtful(output);
+    if (present.hasFailed())
+        return {};
+    const Outcome<void> allowed =
+        refuseNewer(present->document, QStringLiteral("is not written over; name another output"));
+    if (!allowed.hasFailed())
+        return {};
+    return Failure{BadOutput, 0, allowed.failure().message};
+}
+
+} // namespace
+
 Outcome<void> writeOutput(const QString &output, const QByteArray &bytes)
 {
     if (output == kStandardInput) {
@@ -26,6 +49,8 @@ Outcome<void> writeOutput(const QString &output, const QByteArray &bytes)
             return {};
         return Failure{BadOutput, 0, QStringLiteral("The standard output can't be written.")};
     }
+    if (const Outcome<void> allowed = refuseNewerAt(output); allowed.hasFailed())
+        return allowed;
     if (const Error tooLarge = FileUtils::checkReadable(bytes))
         return failureFrom(tooLarge, BadOutput);
     QString deviceError;

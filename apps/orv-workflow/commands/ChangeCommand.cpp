@@ -5,6 +5,7 @@
 
 #include <orv/core/SysUtils.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace orv::cli {
@@ -42,8 +43,15 @@ int ChangeCommand::run(const GlobalOptions &options)
     // Standard output holds one document: the workflow or, where none was written, the report.
     const bool printsWorkflow = outputs.outputs.contains(QString(kStandardInput));
     const Form form = printsWorkflow ? Form::Silent : options.json ? Form::JsonArray : Form::Text;
-    return reportAll(inputs, m_jobs, options.progress || standardErrorIsTerminal(), form,
-                     [&](qsizetype i) { return report(inputs.at(i), outputs.outputs.at(i), options.json); });
+    QByteArray untold; // of the one document that should have been printed, and wasn't
+    const int exitCode =
+        reportAll(inputs, m_jobs, options.progress || standardErrorIsTerminal(), form, [&](qsizetype i) {
+            FileReport answer = report(inputs.at(i), outputs.outputs.at(i), options.json);
+            if (printsWorkflow && options.json && answer.failure)
+                untold = answer.text;
+            return answer;
+        });
+    return untold.isEmpty() ? exitCode : std::max(exitCode, printBytes("[\n" + untold + "]\n"));
 }
 
 WrittenDocument ChangeCommand::write(const ChangedDocument &document, const QString &output,

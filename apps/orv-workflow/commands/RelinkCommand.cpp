@@ -143,6 +143,8 @@ private:
             refuseNewer(text->document, QStringLiteral("is not changed; use the software that wrote it"));
         if (allowed.hasFailed())
             return allowed;
+        if (!text->document.value(QLatin1String("tabs")).isArray())
+            return Failure{BadInput, 0, QStringLiteral("The document has no tabs, so it is no workflow.")};
         QList<WorkflowRelinkRule> rules;
         for (qsizetype i = 0; i < m_from.size(); ++i)
             rules.append({m_from.at(i), m_to.at(i)});

@@ -1,3 +1,4 @@
+#include "../FileIdentity.h"
 #include "../Inputs.h"
 #include "../Losses.h"
 #include "../NewerDocument.h"
@@ -109,6 +110,12 @@ private:
             return settings.failure();
         const auto &[item, lost] = *settings;
         printLosses(m_cell.file(), lost);
+        if (!lost.isEmpty() && isSameFile(workflowFileOf(m_cell.file()), m_output)) {
+            return Failure{
+                Negative, 0,
+                QStringLiteral("Not written over itself, since something would be lost; name another "
+                               "output.")};
+        }
         if (const Outcome<void> assigned = assignAll(cell->document, item.get()); assigned.hasFailed())
             return assigned.failure();
         if (const Error unwritable = item->checkWritable())
