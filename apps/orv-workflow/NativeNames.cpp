@@ -33,7 +33,7 @@ size_t characterLength(std::string_view bytes)
 
 QString nameFromBytes(const char *bytes)
 {
-    const QString plain = QString::fromUtf8(bytes);
+    QString plain = QString::fromUtf8(bytes);
     if (plain.toUtf8() == bytes)
         return plain;
     QString name;

@@ -49,7 +49,7 @@ Outcome<void> writeOutput(const QString &output, const QByteArray &bytes)
             return {};
         return Failure{BadOutput, 0, QStringLiteral("The standard output can't be written.")};
     }
-    if (const Outcome<void> allowed = refuseNewerAt(output); allowed.hasFailed())
+    if (Outcome<void> allowed = refuseNewerAt(output); allowed.hasFailed())
         return allowed;
     if (const Error tooLarge = FileUtils::checkReadable(bytes))
         return failureFrom(tooLarge, BadOutput);

@@ -69,8 +69,7 @@ Outcome<void> writeShellSupport(const QString &folder, const CommandLine &line)
         const QString path = QDir(folder).filePath(pathOf(kind));
         if (!QDir().mkpath(QFileInfo(path).path()))
             return Failure{BadOutput, 0, QStringLiteral("The folder of \"%1\" can't be made.").arg(path)};
-        const Outcome<void> written =
-            writeReproducibleOutput(path, generateShellSupport(kind, line).toUtf8());
+        Outcome<void> written = writeReproducibleOutput(path, generateShellSupport(kind, line).toUtf8());
         if (written.hasFailed())
             return written;
     }

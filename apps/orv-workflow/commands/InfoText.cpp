@@ -164,7 +164,7 @@ QJsonObject emptySummaryJson()
 
 QString stateInWords(const WorkflowSummary &summary)
 {
-    const QString state = QLatin1String(rowOf(summary.state).words);
+    QString state = QLatin1String(rowOf(summary.state).words);
     if (!isNewer(summary))
         return state;
     const QString newer =

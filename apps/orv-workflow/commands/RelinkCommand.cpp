@@ -139,7 +139,7 @@ private:
         const Outcome<FileText> text = readText(answer->file);
         if (text.hasFailed())
             return text.failure();
-        const Outcome<void> allowed =
+        Outcome<void> allowed =
             refuseNewer(text->document, QStringLiteral("is not changed; use the software that wrote it"));
         if (allowed.hasFailed())
             return allowed;

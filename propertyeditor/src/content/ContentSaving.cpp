@@ -25,6 +25,26 @@ bool Content::save(const QString &fileName, Error *error) const
     return isSaved;
 }
 
+namespace {
+
+struct UnwritableRow
+{
+    qsizetype row = -1;
+    Error error;
+};
+
+UnwritableRow firstUnwritable(const ItemSubGroup &column)
+{
+    const QList<BaseItem *> items = column.items();
+    for (qsizetype row = 0; row < items.size(); ++row) {
+        if (Error error = items.at(row)->checkWritable(); error.hasError())
+            return {row, error};
+    }
+    return {};
+}
+
+} // namespace
+
 Error Content::write(const QString &fileName) const
 {
     ORV_RETURN_IF_ERROR(checkWritable());
@@ -35,16 +55,12 @@ Error Content::checkWritable() const
 {
     for (const ItemGroup *group : groups()) {
         for (const ItemSubGroup *subGroup : group->subGroups()) {
-            const QList<BaseItem *> items = subGroup->items();
-            for (qsizetype row = 0; row < items.size(); ++row) {
-                Error error = items.at(row)->checkWritable();
-                if (error.hasError()) {
-                    return error
-                        .addDetail(tr("Tab \"%1\", column \"%2\", row %3.")
-                                       .arg(group->name(), subGroup->name())
-                                       .arg(row + 1))
-                        .ecatch();
-                }
+            if (UnwritableRow found = firstUnwritable(*subGroup); found.error.hasError()) {
+                return found.error
+                    .addDetail(tr("Tab \"%1\", column \"%2\", row %3.")
+                                   .arg(group->name(), subGroup->name())
+                                   .arg(found.row + 1))
+                    .ecatch();
             }
         }
     }

@@ -346,7 +346,11 @@ bool KeyValueItem::setValue(const QString &key, const QVariant &value)
 
 bool KeyValueItem::isStorable(const KProperty &property)
 {
-    const bool isStorable = PropertySetCreator::canStore(property);
+    // Parameter files of the engine give a peak filter as bare text; saving tells of one that is left so.
+    const bool isBareText =
+        property.value().typeId() == QMetaType::QString &&
+        textOf(property) == PropertiesNames::internalNameForType(PropertyId::KarvonPeakFilterSelected);
+    const bool isStorable = isBareText || PropertySetCreator::canStore(property);
     if (!isStorable) {
         qCWarning(propertyEditorLog) << "A file can't hold the value" << property.value() << "of"
                                      << textOf(property);

@@ -94,7 +94,7 @@ MovedPaths::MovedPaths(const QList<WorkflowRelinkRule> &rules)
 
 std::optional<QString> MovedPaths::moved(const QString &text) const
 {
-    if (const std::optional<QString> path = movedPath(text))
+    if (std::optional<QString> path = movedPath(text))
         return path;
     if (!text.startsWith(kFileUrl, Qt::CaseInsensitive))
         return {};

@@ -88,7 +88,7 @@ private:
         if (const auto known = m_places.constFind(origin); known != m_places.cend())
             return *known;
         const QString subfolder = subfolderFor(QFileInfo(origin).path());
-        const QString place = subfolder + QLatin1Char('/') + QFileInfo(origin).fileName();
+        QString place = subfolder + QLatin1Char('/') + QFileInfo(origin).fileName();
         m_places.insert(origin, place);
         if (source.isDir())
             copyFolder(origin, QDir(m_folder).filePath(place));

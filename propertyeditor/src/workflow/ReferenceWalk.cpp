@@ -177,7 +177,7 @@ QJsonObject ReferenceWalk::walkSample(QJsonObject sample, const Place &place) co
 {
     QJsonObject metadata = sample.value(kFileMetadataKey).toObject();
     ReferenceWalk follower([this, &metadata](Kind kind, const Place &there, const QString &text) {
-        const std::optional<QString> moved = m_visit(kind, there, text);
+        std::optional<QString> moved = m_visit(kind, there, text);
         if (moved && metadata.contains(text))
             metadata.insert(*moved, metadata.take(text));
         return moved;
@@ -196,7 +196,8 @@ QJsonObject ReferenceWalk::walkSampleRows(QJsonObject root, const Place &place) 
 {
     const QJsonArray head = root.value(DATA).toArray();
     QJsonArray rows = root.value(CHILDREN).toArray();
-    const qsizetype nameColumn = std::ranges::find(head, QJsonValue(kSampleNameKey)) - head.begin();
+    const qsizetype nameColumn =
+        std::find(head.begin(), head.end(), QJsonValue(kSampleNameKey)) - head.begin();
     for (qsizetype i = 0; i < rows.size(); ++i) {
         QJsonObject row = rows.at(i).toObject();
         QJsonArray cells = row.value(DATA).toArray();

@@ -85,7 +85,7 @@ QJsonObject ofInteger(PropertyId id)
 /// Engines read 0 from a number that is none in quotes. Limits hold for numbers alone, so words tell them.
 QJsonObject ofDouble(PropertyId id)
 {
-    const QJsonObject schema = with(typed({"string"}), kPattern, kNumberPattern);
+    QJsonObject schema = with(typed({"string"}), kPattern, kNumberPattern);
     const auto range = rangeOf(id);
     if (!range)
         return schema;

@@ -105,7 +105,7 @@ Result<WorkflowRelinkReport> run(const QJsonObject &document, const QList<Workfl
     WorkflowRelinkReport report;
     const ReferenceWalk walk([&](Kind kind, const ReferenceWalk::Place &place, const QString &text) {
         const bool isPlain = kind == Kind::PlainText;
-        const std::optional<QString> moved = isPlain ? absolutePaths.moved(text) : paths.moved(text);
+        std::optional<QString> moved = isPlain ? absolutePaths.moved(text) : paths.moved(text);
         if (moved && *moved != text) {
             report.relinked.append(
                 {place.path, place.pointer, shown(text), shown(*moved), resources.exist(kind, *moved)});

@@ -124,7 +124,7 @@ bool KPropertySetPrivate::takeOut(KProperty *property)
     if (found == entries.cend()) {
         return false;
     }
-    const Entry entry = *found;
+    Entry entry = *found; // the erasure ends what was found
     entries.erase(found);
     properties.erase(entry.position);
     byName.remove(entry.key);

@@ -318,7 +318,9 @@ void KPropertyEditorView::dataChanged(const QModelIndex &topLeft, const QModelIn
         return;
     }
     scheduleDelayedItemsLayout();
-    QAbstractItemView::dataChanged(topLeft, bottomRight, roles);
+    // The tree's own would lay out every row at once.
+    QAbstractItemView::dataChanged(topLeft, bottomRight,
+                                   roles); // NOLINT(bugprone-parent-virtual-call): meant
 }
 
 void KPropertyEditorView::slotPropertyChanged(KPropertySet &, KProperty &property)
