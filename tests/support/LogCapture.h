@@ -5,7 +5,8 @@
 #include <QStringList>
 #include <QtGlobal>
 
-/// Collects the log lines of the library of all levels while it lives, in place of printing them. One at a time.
+/// Collects the log lines of the library of all levels while it lives, in place of printing them. One at a
+/// time.
 class LogCapture
 {
 public:

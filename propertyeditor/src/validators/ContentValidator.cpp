@@ -14,7 +14,6 @@ namespace orv::PropertyEditor {
 
 namespace {
 
-
 /// Whether \a validator has nothing against the document.
 bool isPassed(const AbstractValidator &validator, CheckRun &run)
 {

@@ -79,8 +79,9 @@ std::optional<ElutionPeaksOptions::TimeRange> timeRange(double startMinutes, dou
     if (start && end)
         return ElutionPeaksOptions::TimeRange{*start, *end};
     qCWarning(propertyEditorLog).noquote()
-        << MirelElutionPeaksTr::tr("The time range of interest from %1 to %2 minutes can't be held and is left "
-                                   "out; enter it in the peak presets of the table of samples.")
+        << MirelElutionPeaksTr::tr(
+               "The time range of interest from %1 to %2 minutes can't be held and is left "
+               "out; enter it in the peak presets of the table of samples.")
                .arg(startMinutes)
                .arg(endMinutes);
     return {};
@@ -90,7 +91,8 @@ std::optional<ElutionPeaksOptions::TimeRange> takeTimeRange(KeyValueItem *item)
 {
     std::optional<ElutionPeaksOptions::TimeRange> range;
     if (item->contains(kInterestTimeStart) && item->contains(kInterestTimeEnd))
-        range = timeRange(item->value(kInterestTimeStart).toDouble(), item->value(kInterestTimeEnd).toDouble());
+        range =
+            timeRange(item->value(kInterestTimeStart).toDouble(), item->value(kInterestTimeEnd).toDouble());
     removeIfThere(kInterestTimeStart, item);
     removeIfThere(kInterestTimeEnd, item);
     return range;

@@ -131,7 +131,7 @@ void TestElutionPeaks::allPresetsHaveTheTimeRange()
     Compatibility::Input input;
     for (const ElutionPeaksOptions &preset : outputOf(input).options.peaksOptions)
         QVERIFY(!preset.timeRange());
-    input.timeRangeOfInterest = 
+    input.timeRangeOfInterest =
         ElutionPeaksOptions::TimeRange{*Decimal::fromString(u"1.00"_s), *Decimal::fromString(u"25.50"_s)};
     for (const ElutionPeaksOptions &preset : outputOf(input).options.peaksOptions)
         QVERIFY(preset.timeRange() == input.timeRangeOfInterest);

@@ -177,8 +177,8 @@ void LateInputTest::typedTextIsKept()
 void LateInputTest::typedTextIsDropped_data()
 {
     QTest::addColumn<Act>("leave");
-    QTest::newRow("Escape")
-        << Act([](LateFixture &) { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); });
+    QTest::newRow("Escape") << Act(
+        [](LateFixture &) { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); });
     QTest::newRow("property made read-only") << Act([](LateFixture &f) {
         f.set["late"].setReadOnly(true);
         f.other->setFocus();

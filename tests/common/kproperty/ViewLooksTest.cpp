@@ -312,7 +312,8 @@ void ViewLooksTest::theWheelChangesNothingInAnEditorThatWasNotClicked()
     for (const char *name : {"number", "text"}) {
         fixture.open(name);
         QVERIFY(isEditing(fixture));
-        const QList<QWidget *> parts = fixture.editor()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        const QList<QWidget *> parts =
+            fixture.editor()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
         wheelOver(fixture.editor());
         for (QWidget *part : parts) {
             if (part->isVisible()) {

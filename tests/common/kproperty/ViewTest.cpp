@@ -117,7 +117,9 @@ void ViewTest::clickOnAGroupCollapsesIt()
 void ViewTest::toolTipsAreCaptionsAndDescriptions()
 {
     Fixture fixture;
-    const auto tip = [&fixture](const char *name) { return fixture.index(name).data(Qt::ToolTipRole).toString(); };
+    const auto tip = [&fixture](const char *name) {
+        return fixture.index(name).data(Qt::ToolTipRole).toString();
+    };
     QVERIFY(fixture.view.toolTipsVisible());
     QCOMPARE(tip("number"), text("<b>Number</b><br>A number."));
     QCOMPARE(tip("text"), text("<b>Text</b>"));

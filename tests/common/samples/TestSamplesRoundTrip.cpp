@@ -103,9 +103,8 @@ private:
         ElutionPeaksOptions preset;
         preset.setName(text());
         if (number(2) == 0)
-            preset.setTimeRange(
-                ElutionPeaksOptions::TimeRange{*Decimal::fromDouble(number(99) / 7.0, number(5)),
-                                               *Decimal::fromDouble(number(99), 2)});
+            preset.setTimeRange(ElutionPeaksOptions::TimeRange{
+                *Decimal::fromDouble(number(99) / 7.0, number(5)), *Decimal::fromDouble(number(99), 2)});
         ElutionPeaksOptions::CreationOptions options;
         options.findsPeaks = number(2) == 0;
         options.smoothSigma = number(100) / 7.0;

@@ -19,7 +19,8 @@ namespace {
 /// What summaries of objects need: four lines, and one that counts the others.
 constexpr int kMaxLinesOfRow = 5;
 
-/// The colour of links, where that can be told from the background: dark palettes often keep the blue of light ones.
+/// The colour of links, where that can be told from the background: dark palettes often keep the blue of
+/// light ones.
 QColor signColor(const QPalette &palette)
 {
     constexpr int kLeastDifference = 80;

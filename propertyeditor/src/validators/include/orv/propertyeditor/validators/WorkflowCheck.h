@@ -64,14 +64,15 @@ public:
     /// Those that run on every workflow, in their order.
     [[nodiscard]] const QStringList &validators() const { return m_validators; }
 
-    /// Loads the document of \a source strictly, so that what can't be opened is told by an Error. An outdated
-    /// one is checked as it would be after its upgrade, which stays in memory and opens no samples' files: what
-    /// is wrong with these the check tells. Places are those of \a source. Fails for an upgrade that does. One
-    /// that is newer than this program is checked as it is.
+    /// Loads the document of \a source strictly, so that what can't be opened is told by an Error. An
+    /// outdated one is checked as it would be after its upgrade, which stays in memory and opens no samples'
+    /// files: what is wrong with these the check tells. Places are those of \a source. Fails for an upgrade
+    /// that does. One that is newer than this program is checked as it is.
     [[nodiscard]] Result<WorkflowCheckReport> run(const WorkflowSource &source, const QUrl &baseUrl) const;
 
-    /// Checks a loaded tree. \a baseUrl is the workflow's folder, with a slash at its end. Fails for a document of which there is
-    /// no such copy, and for a name that is no validator's. On the thread of the content.
+    /// Checks a loaded tree. \a baseUrl is the workflow's folder, with a slash at its end. Fails for a
+    /// document of which there is no such copy, and for a name that is no validator's. On the thread of the
+    /// content.
     [[nodiscard]] Result<WorkflowCheckReport> run(const Content &content, const QUrl &baseUrl,
                                                   const WorkflowSource &source = {}) const;
 
