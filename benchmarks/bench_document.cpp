@@ -30,6 +30,16 @@ void add(const std::string &name, const std::function<void()> &work)
     })->Unit(benchmark::kMicrosecond);
 }
 
+void addLoad(const std::string &label, const QByteArray &bytes)
+{
+    const auto keep = [](auto &&value) { benchmark::DoNotOptimize(value); };
+    add("load " + label + "/baseline", [=] { keep(QJsonDocument::fromJson(bytes)); });
+    add("load " + label + "/object form", [=] {
+        Content content;
+        keep(content.assignFromJson(QJsonDocument::fromJson(bytes).object()).hasError());
+    });
+}
+
 void addDocument(const std::string &label, const QByteArray &bytes, const QString &file)
 {
     const auto keep = [](auto &&value) { benchmark::DoNotOptimize(value); };
@@ -39,12 +49,8 @@ void addDocument(const std::string &label, const QByteArray &bytes, const QStrin
     if (tree->assignFromJson(parsed->object()).hasError())
         qFatal("The benchmark's document can't be loaded");
 
-    add("load " + label + "/baseline", [=] { keep(QJsonDocument::fromJson(bytes)); });
+    addLoad(label, bytes);
     add("load " + label + "/value form", [=] { keep(PropertyEditorContent(bytes)); });
-    add("load " + label + "/object form", [=] {
-        Content content;
-        keep(content.assignFromJson(QJsonDocument::fromJson(bytes).object()).hasError());
-    });
     add("load file " + label + "/baseline", [=] {
         QFile device(file);
         if (device.open(QIODevice::ReadOnly))
@@ -119,6 +125,12 @@ int main(int argc, char *argv[])
             qFatal("The benchmark's file can't be written");
         addDocument(size.label, bytes, path);
     }
+    for (const auto &[label, steps] : {std::pair{"1,000 settings", 13}, std::pair{"10,000 settings", 127},
+                                       std::pair{"100,000 settings", 1266}})
+        addLoad(label, Lifelike::document(6, Lifelike::sized(steps)));
+    for (const auto &[label, samples] :
+         {std::pair{"1,000 samples", 1000}, std::pair{"100,000 samples", 100000}})
+        addLoad(label, Lifelike::document(Lifelike::sized(samples), 4));
     addUnknownCells(6000);
     addUnknownCells(60000);
     return runRatioBenchmarks(argc, argv);

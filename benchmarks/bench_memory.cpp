@@ -4,6 +4,7 @@
 #include "LifelikeDocument.h"
 
 #include <orv/propertyeditor/content/Content.h>
+#include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 
 #include <QCoreApplication>
@@ -13,6 +14,7 @@
 #include <QTemporaryDir>
 
 #include <cstdio>
+#include <string>
 
 using namespace orv;
 
@@ -43,6 +45,20 @@ bool loadObjectForm(const QByteArray &bytes)
     return !content.assignFromJson(QJsonDocument::fromJson(bytes).object()).hasError();
 }
 
+/// As a window that showed each cell.
+bool loadObjectFormAndProperties(const QByteArray &bytes)
+{
+    PropertyEditor::Content content;
+    if (content.assignFromJson(QJsonDocument::fromJson(bytes).object()).hasError())
+        return false;
+    for (const PropertyEditor::BaseItem *item : content.findAllItems(content.allItems())) {
+        const auto *settings = qobject_cast<const PropertyEditor::KeyValueItem *>(item);
+        if (settings && !settings->propertySet())
+            return false;
+    }
+    return true;
+}
+
 struct Case
 {
     const char *name;
@@ -54,6 +70,7 @@ const Case kCases[] = {
     {"bare parse", [](const QByteArray &bytes) { return !QJsonDocument::fromJson(bytes).isNull(); }},
     {"value form", loadValueForm},
     {"object form", loadObjectForm},
+    {"object form with all properties", loadObjectFormAndProperties},
     {"bare parse and write",
      [](const QByteArray &bytes) { return !QJsonDocument::fromJson(bytes).toJson().isEmpty(); }},
     {"value form, loaded and written",
@@ -87,19 +104,29 @@ int main(int argc, char *argv[])
     if (argc == 3)
         return runCase(QByteArray(argv[1]).toInt(), QFile::decodeName(argv[2]));
 
-    const QTemporaryDir folder;
-    const QByteArray bytes = Lifelike::document(100000, 40);
-    QFile file(folder.filePath(QStringLiteral("large.wflw")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("The benchmark's file can't be written");
-    file.close();
-
-    std::printf("peak memory for a document of %.1f MB, in kB; the ratio is to the bare parse\n",
-                double(bytes.size()) / 1e6);
-    const long bare = peakOfCase(1, file.fileName());
-    for (int i = 0; i < int(std::size(kCases)); ++i) {
-        const long peak = peakOfCase(i, file.fileName());
-        std::printf("%-36s %10ld %8.2f\n", kCases[i].name, peak, double(peak) / double(bare));
+    struct Document
+    {
+        const char *label;
+        int samples;
+        int steps;
+    };
+    constexpr int kSmall = 10;
+    const bool isForAMoment = Lifelike::isForAMoment();
+    std::printf("%-52s %10s %8s\n", "peak memory", "kB", "ratio");
+    for (const Document &document : {Document{"settings", 10, isForAMoment ? kSmall : 4500},
+                                     Document{"samples", isForAMoment ? kSmall : 150000, 4}}) {
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(QStringLiteral("large.wflw")));
+        const QByteArray bytes = Lifelike::document(document.samples, document.steps);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("The benchmark's file can't be written");
+        file.close();
+        const long bare = peakOfCase(1, file.fileName());
+        for (int i = 0; i < int(std::size(kCases)); ++i) {
+            const long peak = peakOfCase(i, file.fileName());
+            const std::string name = std::string(document.label) + ": " + kCases[i].name;
+            std::printf("%-52s %10ld %8.2f\n", name.c_str(), peak, double(peak) / double(bare));
+        }
     }
     return 0;
 }

@@ -26,6 +26,8 @@ HEADER_TEXT = """\
 
 #include <QObject>
 
+#include <bitset>
+
 namespace orv {{
 
 /// Holder that makes the enumeration known to the meta-object system.
@@ -48,6 +50,9 @@ using PropertyId = ORV_QEnumsPropertyId::PropertyId;
 
 /// The numbers run from 0 to one less than this.
 inline constexpr int kPropertyCount = {count};
+
+/// Some of the properties, by number.
+using PropertyIdSet = std::bitset<kPropertyCount>;
 
 }} // namespace orv
 """

@@ -95,6 +95,24 @@ QString checkReadBack(const QByteArray &written, const std::optional<BaseItemTyp
                                                        : u"a second write differs from the first"_s;
 }
 
+/// A cell that needn't be read has to be written as it stands, and has nothing to tell.
+QString checkStoredForm(const QJsonObject &cell, const std::optional<BaseItemType> &type)
+{
+    if (!PropertySetCreator::propertiesInStoredForm(cell, type))
+        return {};
+    LossCollector collector;
+    const auto loaded =
+        PropertySetCreator::objectToPropertySet(cell, type, PropertyEditor::LoadContext(&collector));
+    if (loaded.hasError())
+        return u"what needn't be read is refused: "_s + loaded.error().errorMessage();
+    const Set set(*loaded);
+    std::optional<QJsonObject> written = PropertySetCreator::propertySetToObject(*set, kKeepPaths);
+    if (!written || !collector.losses().isEmpty())
+        return u"what needn't be read loses something"_s;
+    written->insert(META_IN_JSON_KEY, cell.value(META_IN_JSON_KEY));
+    return *written == cell ? QString() : u"what needn't be read is written otherwise"_s;
+}
+
 QString checkWith(const QByteArray &bytes, const std::optional<BaseItemType> &type)
 {
     LossCollector collector;
@@ -104,6 +122,9 @@ QString checkWith(const QByteArray &bytes, const std::optional<BaseItemType> &ty
         return isRefusal(loaded.error()) ? QString() : u"a refusal needs its code and a message"_s;
     const Set set(*loaded);
     const QJsonObject cell = QJsonDocument::fromJson(bytes).object();
+    // Properties hold objects as texts, and their texts lose marks.
+    if (QString wrong = losesMarks(bytes) ? QString() : checkStoredForm(cell, type); !wrong.isEmpty())
+        return wrong;
     // Parts of an entry that is kept are told too.
     const QList<Loss> losses = collector.losses();
     const auto dropped = std::ranges::count_if(losses, [](const Loss &loss) {
@@ -145,16 +166,22 @@ const QList<PropertyId> &kindsOfProperties()
     return ids;
 }
 
-/// A cell in which each kind of property has what the text holds.
-QByteArray cellOfValues(const QByteArray &bytes)
+/// Cells in which each kind of property has what the text holds: each in one of its own, and all in the last.
+QList<QJsonObject> cellsOfValues(const QByteArray &bytes)
 {
     const QJsonDocument document = QJsonDocument::fromJson("[" + bytes + "]");
     const QJsonValue value =
         document.isNull() ? QJsonValue(QString::fromUtf8(bytes)) : document.array().first();
+    const auto cellOf = [](const QJsonArray &entries) {
+        return QJsonObject{{META_IN_JSON_KEY, u"{}"_s}, {TYPE_KEY, u"Karvon"_s}, {PROPERTIES_KEY, entries}};
+    };
+    QList<QJsonObject> cells;
     QJsonArray entries;
-    for (const QString &name : PropertiesNames::internalNamesForTypes(kindsOfProperties()))
-        entries.append(QJsonObject{{NAME_KEY, name}, {VALUE_KEY, value}});
-    return QJsonDocument(QJsonObject{{TYPE_KEY, u"Karvon"_s}, {PROPERTIES_KEY, entries}}).toJson();
+    for (const QString &name : PropertiesNames::internalNamesForTypes(kindsOfProperties())) {
+        entries.append(QJsonObject{{NAME_KEY, name}, {u"priority"_s, 1}, {VALUE_KEY, value}});
+        cells.append(cellOf({entries.last()}));
+    }
+    return cells << cellOf(entries);
 }
 
 } // namespace
@@ -169,7 +196,12 @@ QString checkPropertySet(const QByteArray &bytes)
         if (!wrong.isEmpty())
             return wrong;
     }
-    return checkWith(cellOfValues(bytes), {});
+    const QList<QJsonObject> cells = cellsOfValues(bytes);
+    for (const QJsonObject &cell : cells) {
+        if (QString wrong = losesMarks(bytes) ? QString() : checkStoredForm(cell, {}); !wrong.isEmpty())
+            return wrong;
+    }
+    return checkWith(QJsonDocument(cells.last()).toJson(), {});
 }
 
 } // namespace FormChecks

@@ -10,6 +10,7 @@
 
 #include <QHash>
 
+#include <array>
 #include <atomic>
 
 namespace orv {
@@ -50,9 +51,14 @@ Catalogue buildCatalogue()
 const PropertyFeatures &featuresFor(PropertyId id)
 {
     static const PropertyFeatures none;
-    const Catalogue &catalogue = *PropertiesNames::names();
-    const auto found = catalogue.constFind(id);
-    return found == catalogue.cend() ? none : *found;
+    static const std::array<const PropertyFeatures *, kPropertyCount> byNumber = [] {
+        std::array<const PropertyFeatures *, kPropertyCount> found{};
+        const Catalogue &catalogue = *PropertiesNames::names();
+        for (auto it = catalogue.cbegin(); it != catalogue.cend(); ++it)
+            found.at(size_t(it.key())) = &*it;
+        return found;
+    }();
+    return id >= 0 && id < kPropertyCount ? *byNumber[size_t(id)] : none;
 }
 
 bool isPercentInFiles(PropertyId id)

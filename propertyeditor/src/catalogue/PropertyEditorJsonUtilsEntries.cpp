@@ -34,7 +34,11 @@ QJsonObject customColumnsEntry(const QJsonObject &item)
 
 PropertyId findPropertyBackCompat(const QJsonObject &entry, BaseItemType itemType)
 {
-    const QString name = entry.value(NAME_KEY).toString();
+    return findPropertyBackCompat(entry.value(NAME_KEY).toString(), itemType);
+}
+
+PropertyId findPropertyBackCompat(const QString &name, BaseItemType itemType)
+{
     if (name == kSamples)
         return itemType == BaseItemType::Samples ? PropertyId::SamplesTable : PropertyId::Samples;
     const PropertyId id = PropertiesNames::findPropertyForName(name);

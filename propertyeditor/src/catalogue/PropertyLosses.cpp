@@ -142,8 +142,6 @@ void reportGroupAndPriority(const PropertyEditor::LoadContext &context, const QJ
 void reportEntryLosses(const PropertyEditor::LoadContext &context, const QJsonObject &entry,
                        const KProperty &property)
 {
-    if (!context.isObserved())
-        return;
     const QString name = entry.value(NAME_KEY).toString();
     reportValue(context, entry.value(VALUE_KEY), name, property);
     reportGroupAndPriority(context, entry, name, property);

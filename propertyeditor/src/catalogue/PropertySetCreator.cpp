@@ -1,5 +1,6 @@
 #include "orv/propertyeditor/PropertySetCreator.h"
 
+#include "PropertyKinds.h"
 #include "PropertyLosses.h"
 #include "PropertyValueForms.h"
 
@@ -88,13 +89,6 @@ int hiddenType(const QJsonValue &value)
     }
 }
 
-void setTexts(PropertyId id, const QString &name, KProperty *property)
-{
-    property->setName(name.toUtf8());
-    property->setCaption(PropertiesNames::displayNameForType(id));
-    property->setDescription(PropertiesNames::tooltipForType(id));
-}
-
 int priorityOf(const KProperty &property)
 {
     return property.option(kPriorityOption, int(PropertySetCreator::Priority::Unset)).toInt();
@@ -107,7 +101,7 @@ class SetFiller
 
 public:
     SetFiller(const std::optional<BaseItemType> &expected, const LoadContext &context, KPropertySet *set)
-        : m_expected(expected)
+        : m_allowed(expected ? &allowedProperties(*expected) : nullptr)
         , m_context(context)
         , m_set(set)
     {}
@@ -155,34 +149,39 @@ private:
     {
         const QJsonObject entry = value.toObject();
         const QString name = entry.value(NAME_KEY).toString();
-        const PropertyId id = PropertyEditorJsonUtils::findPropertyBackCompat(entry, m_itemType);
-        if (!isAllowed(id)) {
+        const PropertyId id = PropertyEditorJsonUtils::findPropertyBackCompat(name, m_itemType);
+        if (m_allowed && !m_allowed->contains(id) && WflwAdvancedSettings::isWorkflowVerificationEnabled())
             return Error(ErrorCode::InvalidContent, tr("Property \"%1\" is not supported.").arg(name));
-        }
         QStringList errors;
-        auto property = std::make_unique<KProperty>();
-        const QJsonValue priority = entry.value(QLatin1String(kPriorityOption));
-        const auto stored =
-            PropertySetCreator::Priority(priority.toInt(int(PropertySetCreator::Priority::High)));
-        if (!PropertySetCreator::modifyKProperty(id, stored, entry.value(VALUE_KEY), property.get(),
-                                                 &errors)) {
+        const int priority =
+            entry.value(QLatin1String(kPriorityOption)).toInt(int(PropertySetCreator::Priority::High));
+        std::unique_ptr<KProperty> property =
+            newProperty(id, PropertySetCreator::Priority(priority), entry.value(VALUE_KEY), &errors);
+        if (!property) {
             for (const QString &error : std::as_const(errors))
                 qCWarning(propertyEditorLog).noquote() << error;
             drop(index, name, errors.join(QLatin1Char(' ')), context);
-        } else if (m_set->contains(property->name())) {
+        } else if (m_seen.test(size_t(id))) {
             drop(index, name, tr("a setting of this name stands before it"), context);
         } else {
-            reportEntryLosses(context.element(index), entry, *property);
-            KPropertySetUtils::insertInKPropertySet(entry.value(GROUP_KEY).toString(), property.release(),
-                                                    m_set, -1);
+            m_seen.set(size_t(id));
+            if (context.isObserved())
+                reportEntryLosses(context.element(index), entry, *property);
+            addToGroup(entry.value(GROUP_KEY).toString(), std::move(property));
         }
         return Error::NoError;
     }
 
-    [[nodiscard]] bool isAllowed(PropertyId id) const
+    /// Neighbours mostly share a group, which then needn't be looked up.
+    void addToGroup(const QString &group, std::unique_ptr<KProperty> property)
     {
-        return !m_expected || (id != PropertyId::NoProperty && allowedProperties(*m_expected).contains(id)) ||
-               !WflwAdvancedSettings::isWorkflowVerificationEnabled();
+        if (m_lastGroupName.isEmpty() || group != m_lastGroup) {
+            m_lastGroup = group;
+            m_lastGroupName = KPropertySetUtils::groupName(group);
+            KPropertySetUtils::insertInKPropertySet(group, property.release(), m_set, -1);
+        } else {
+            m_set->addProperty(property.release(), m_lastGroupName);
+        }
     }
 
     static void drop(qsizetype index, const QString &name, const QString &why, const LoadContext &context)
@@ -191,33 +190,62 @@ private:
             context.lost(QString::number(index), tr("property \"%1\"").arg(name), why);
     }
 
-    const std::optional<BaseItemType> &m_expected;
+    const QSet<PropertyId> *m_allowed; ///< null where all are
     const LoadContext &m_context;
     KPropertySet *m_set;
+    /// No two properties have one name, in whatever case.
+    PropertyIdSet m_seen;
+    QString m_lastGroup;
+    QByteArray m_lastGroupName;
     BaseItemType m_itemType = BaseItemType::Unknown;
 };
 
-QString groupCaptionOf(const KProperty &property, const KPropertySet &set)
+/// Writes the entries of "properties" of a set.
+class EntryWriter
 {
-    const QString caption = set.groupCaption(set.groupNameForProperty(property));
-    return caption == set.groupCaption(kCommonGroup) ? QString() : caption;
-}
+public:
+    EntryWriter(const KPropertySet &set, PropertyConversionFlag flag)
+        : m_set(set)
+        , m_flag(flag)
+    {}
 
-/// The entry of "properties"; undefined if the value can't be stored.
-QJsonValue entryOf(const KProperty &property, const KPropertySet &set, PropertyConversionFlag flag)
-{
-    QJsonValue value = PropertySetCreator::valueToJson(property, flag);
-    const int priority = priorityOf(property);
-    const bool hasPriority = priority != int(PropertySetCreator::Priority::Unset);
-    if (value.isUndefined() || (!property.isVisible() && !hasPriority))
-        return value;
-    QJsonObject entry{{NAME_KEY, QString::fromUtf8(property.name())}, {VALUE_KEY, value}};
-    if (hasPriority)
-        entry.insert(QLatin1String(kPriorityOption), priority);
-    if (const QString group = groupCaptionOf(property, set); !group.isEmpty())
-        entry.insert(GROUP_KEY, group);
-    return entry;
-}
+    /// Undefined if the value can't be stored.
+    QJsonValue write(const KProperty &property)
+    {
+        QJsonValue value = PropertySetCreator::valueToJson(property, m_flag);
+        const int priority = priorityOf(property);
+        const bool hasPriority = priority != int(PropertySetCreator::Priority::Unset);
+        if (value.isUndefined() || (!property.isVisible() && !hasPriority))
+            return value;
+        QJsonObject entry;
+        if (const QString &caption = groupCaptionOf(property); !caption.isEmpty())
+            entry.insert(GROUP_KEY, caption);
+        entry.insert(NAME_KEY, QString::fromUtf8(property.name()));
+        if (hasPriority)
+            entry.insert(QLatin1String(kPriorityOption), priority);
+        entry.insert(VALUE_KEY, value);
+        return entry;
+    }
+
+private:
+    /// Empty for the group which has none. Neighbours mostly share a group.
+    const QString &groupCaptionOf(const KProperty &property)
+    {
+        const QByteArray name = m_set.groupNameForProperty(property);
+        if (name != m_groupName || m_groupName.isNull()) {
+            m_groupName = name;
+            m_caption = m_set.groupCaption(name);
+            if (m_caption == m_set.groupCaption(kCommonGroup))
+                m_caption.clear();
+        }
+        return m_caption;
+    }
+
+    const KPropertySet &m_set;
+    PropertyConversionFlag m_flag;
+    QByteArray m_groupName;
+    QString m_caption;
+};
 
 Error emptyCell(const QByteArray &json)
 {
@@ -271,13 +299,14 @@ std::optional<QJsonObject> PropertySetCreator::propertySetToObject(const KProper
 {
     QJsonObject cell;
     QJsonArray entries;
+    EntryWriter writer(set, flag);
     for (KPropertySetIterator it(set); it.current(); ++it) {
         const KProperty &property = *it.current();
         if (isHidden(property)) {
             cell.insert(QString::fromUtf8(property.name().mid(1)), property.value().toString());
             continue;
         }
-        const QJsonValue entry = entryOf(property, set, flag);
+        const QJsonValue entry = writer.write(property);
         if (entry.isUndefined()) {
             qCWarning(propertyEditorLog) << "Cannot store the value of" << property.name();
             return {};
@@ -295,7 +324,7 @@ KProperty *PropertySetCreator::createDefaultProperty(PropertyId id, Priority pri
         qCWarning(propertyEditorLog) << "Can't set type for property" << id;
         return nullptr;
     }
-    setTexts(id, PropertiesNames::internalNameForType(id), property.get());
+    setTexts(id, property.get());
     QVariant value = PropertiesNames::defaultValueForType(id);
     if (property->type() == KProperty::ValueFromList) {
         fillListData(id, property.get());
@@ -319,22 +348,7 @@ KProperty *PropertySetCreator::createDefaultProperty(PropertyId id, Priority pri
 bool PropertySetCreator::modifyKProperty(PropertyId id, Priority priority, const QJsonValue &value,
                                          KProperty *property, QList<QString> *errors)
 {
-    const QString name = PropertiesNames::internalNameForType(id);
-    if (name.isEmpty()) {
-        errors->append(tr("Cannot find an internal name of the property #%1").arg(id));
-        return false;
-    }
-    setTexts(id, name, property);
-    if (!setKPropertyType(id, property)) {
-        errors->append(tr("Cannot apply the type of %1").arg(name));
-        return false;
-    }
-    property->setOption(kPriorityOption, int(priority));
-    if (!setValueFromJson(id, value, property)) {
-        errors->append(tr("Cannot convert the value of %1").arg(name));
-        return false;
-    }
-    return true;
+    return makeOfKind(id, priority, property, errors) && readInto(id, value, property, errors);
 }
 
 bool PropertySetCreator::modifyKProperty(PropertyId id, Priority priority, KProperty *property,

@@ -29,6 +29,10 @@ void applyEditor(PropertySetCreator::Editor editor, KProperty *property);
 /// Keys and texts of the list of \a id, and whether others may be typed.
 void fillListData(PropertyId id, KProperty *property);
 
+/// Reads a stored value by the type that \a property has; false, with the property as it was, if it doesn't
+/// fit.
+bool setStoredValue(PropertyId id, const QJsonValue &value, KProperty *property);
+
 /// What a property with a list holds for \a value, which may be a text, a position or a number.
 [[nodiscard]] QString listText(PropertyId id, const QVariant &value, bool *ok);
 

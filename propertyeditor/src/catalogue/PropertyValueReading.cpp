@@ -1,3 +1,4 @@
+#include "PropertyKinds.h"
 #include "PropertyValueForms.h"
 
 #include <KProperty>
@@ -240,7 +241,7 @@ std::optional<QJsonObject> payloadOf(const QJsonValue &value)
     return object.isEmpty() || !nestsTooDeeply(text) ? std::optional(object) : std::nullopt;
 }
 
-ReadValue readObject(PropertyId id, const QJsonValue &value, KProperty *property)
+ReadValue readObject(PropertyId id, const QJsonValue &value)
 {
     const std::optional<QJsonObject> payload = payloadOf(value);
     if (!payload)
@@ -252,7 +253,6 @@ ReadValue readObject(PropertyId id, const QJsonValue &value, KProperty *property
             return value.toString();
         return QJsonDocument(object).toJson(QJsonDocument::Indented);
     }
-    applyEditor(editor, property);
     const QJsonValue inner = object.value(DATA);
     return QJsonDocument(inner.isObject() ? inner.toObject() : object).toJson(QJsonDocument::Indented);
 }
@@ -263,17 +263,15 @@ ReadValue readReference(const QJsonValue &value)
     return reference ? QVariant::fromValue(reference) : QVariant();
 }
 
-ReadValue readListValue(PropertyId id, const QJsonValue &value, KProperty *property)
+ReadValue readListValue(PropertyId id, const QJsonValue &value)
 {
-    fillListData(id, property);
     bool ok = false;
     const QString text = listText(id, value.toVariant(), &ok);
     return ok ? ReadValue(text) : std::nullopt;
 }
 
-ReadValue readCheckedTexts(PropertyId id, const QJsonValue &value, KProperty *property)
+ReadValue readCheckedTexts(const QJsonValue &value)
 {
-    property->setOption(OPTION_AVAILABLE_ITEMS.data(), UserVisibleListConverter::valuesForCheckableList(id));
     return PropertyEditorJsonUtils::jsonArrayToStringList(value.toArray());
 }
 
@@ -310,34 +308,48 @@ constexpr std::array kReaders = {
     TypeReader{KProperty::Cursor, &readCursor},
 };
 
-ReadValue readValue(PropertyId id, const QJsonValue &value, KProperty *property)
+ReadValue readValue(PropertyId id, const QJsonValue &value, const KProperty &property)
 {
-    switch (property->type()) {
+    switch (property.type()) {
     case KProperty::Bool:
-        return readSwitch(value, *property);
+        return readSwitch(value, property);
     case KProperty::ValueFromList:
-        return readListValue(id, value, property);
+        return readListValue(id, value);
     case PropertiesTraits::ObjectType:
-        return readObject(id, value, property);
+        return readObject(id, value);
     case PropertiesTraits::CheckableListType:
-        return readCheckedTexts(id, value, property);
+        return readCheckedTexts(value);
     default:
         break;
     }
-    const auto *const reader = std::ranges::find(kReaders, property->type(), &TypeReader::type);
+    const auto *const reader = std::ranges::find(kReaders, property.type(), &TypeReader::type);
     return reader == kReaders.end() ? readAny(value) : reader->read(value);
 }
 
 } // namespace
 
+std::optional<QVariant> PropertySetCreator::valueFromJson(PropertyId id, const QJsonValue &value)
+{
+    const KProperty *model = modelOf(id);
+    return model && !value.isUndefined() ? readValue(id, value, *model) : std::nullopt;
+}
+
+bool setStoredValue(PropertyId id, const QJsonValue &value, KProperty *property)
+{
+    if (value.isUndefined())
+        return false;
+    const ReadValue read = readValue(id, value, *property);
+    if (read)
+        property->setValue(*read, KProperty::ValueOption::IgnoreOld);
+    return read.has_value();
+}
+
 bool PropertySetCreator::setValueFromJson(PropertyId id, const QJsonValue &value, KProperty *property)
 {
     if (value.isUndefined())
         return false;
-    const ReadValue read = readValue(id, value, property);
-    if (read)
-        property->setValue(*read, KProperty::ValueOption::IgnoreOld);
-    return read.has_value();
+    applyListOrEditor(id, property);
+    return setStoredValue(id, value, property);
 }
 
 } // namespace orv

@@ -32,8 +32,6 @@ QString nameOf(PropertyId id)
     return PropertiesNames::internalNameForType(id);
 }
 
-constexpr const char *kStamp = ":metadata";
-
 QString textOf(const KProperty &property)
 {
     return QString::fromUtf8(property.name());
@@ -55,8 +53,10 @@ KeyValueItem::~KeyValueItem() = default;
 
 QJsonObject KeyValueItem::toJson(PropertyConversionFlag flag) const
 {
-    if (!m_set && m_unread && flag == PropertyConversionFlag::KeepPaths)
-        return PropertySetCreator::propertySetToObject(*read(*m_unread), flag).value_or(QJsonObject());
+    if (m_source && m_source->isStoredForm)
+        return flag == PropertyConversionFlag::AbsolutePaths ? sourceWithAbsolutePaths() : m_source->cell;
+    if (m_source && flag == PropertyConversionFlag::KeepPaths)
+        return PropertySetCreator::propertySetToObject(*read(m_source->cell), flag).value_or(QJsonObject());
     if (!set())
         return {};
     if (flag == PropertyConversionFlag::AbsolutePaths && hasGlycanDatabase())
@@ -75,14 +75,18 @@ QJsonObject KeyValueItem::toJsonWithAbsoluteGlycans() const
     const KPropertySet copy(*set());
     for (const PropertyId id : PropertyEditorUtils::propertiesWithGlycanDatabases()) {
         KProperty &property = copy.property(nameOf(id).toUtf8());
-        if (property.isNull())
-            continue;
-        QJsonObject object = PropertyEditorJsonUtils::variantToObject(property.value());
-        PropertyEditorUtils::updateGlycanDatabaseToAbsolute(m_baseUrl, &object);
-        property.setValue(QJsonDocument(object).toJson());
+        if (!property.isNull())
+            makeGlycansAbsolute(&property);
     }
     return PropertySetCreator::propertySetToObject(copy, PropertyConversionFlag::AbsolutePaths)
         .value_or(QJsonObject());
+}
+
+void KeyValueItem::makeGlycansAbsolute(KProperty *property) const
+{
+    QJsonObject object = PropertyEditorJsonUtils::variantToObject(property->value());
+    PropertyEditorUtils::updateGlycanDatabaseToAbsolute(m_baseUrl, &object);
+    property->setValue(QJsonDocument(object).toJson());
 }
 
 Error KeyValueItem::assignFromJson(const QJsonObject &json, ValidationOptions options)
@@ -100,59 +104,27 @@ Error KeyValueItem::load(const QJsonObject &json, ValidationOptions options, con
     ORV_RETURN_IF_ERROR(WflwMetaData::faultInText(json.value(META_IN_JSON_KEY).toString()));
     ORV_RETURN_IF_ERROR(BaseItem::assignFromJson(json, options));
     m_set.reset();
-    m_unread.reset();
+    m_source.reset();
     m_hasRenamed = false;
     const bool skipsType = options.testFlag(ValidationOption::SkipTypeValidation);
-    Result<KPropertySet *> set = PropertySetCreator::objectToPropertySet(
-        json, skipsType ? std::nullopt : std::optional(type()), context);
+    const std::optional<BaseItemType> expected = skipsType ? std::nullopt : std::optional(type());
+    if (const std::optional<PropertyIdSet> ids = PropertySetCreator::propertiesInStoredForm(json, expected)) {
+        const QByteArray stamp = json.value(META_IN_JSON_KEY).toString().toUtf8();
+        keepUnread(json, QString::fromUtf8(WflwMetaData::restamped(stamp)));
+        m_source->isStoredForm = true;
+        m_source->ids = *ids;
+        return Error::NoError;
+    }
+    Result<KPropertySet *> set = PropertySetCreator::objectToPropertySet(json, expected, context);
     if (set.hasError())
         return set.ecatch();
     m_set.reset(*set);
-    if (skipsType && type() == BaseItemType::Unknown)
-        setAside(json);
-    return Error::NoError;
-}
-
-// A document may have many cells of a later version, and nobody looks into them.
-void KeyValueItem::setAside(const QJsonObject &json)
-{
-    const qsizetype members = json.size() - 1 + (json.contains(META_IN_JSON_KEY) ? 0 : 1);
-    // Where something was dropped, another reading would tell of it again.
-    if (m_set->count() != members + json.value(PROPERTIES_KEY).toArray().size())
-        return;
-    m_unread = json;
-    m_unread->insert(META_IN_JSON_KEY, m_set->propertyValue(kStamp).toString());
-    m_set.reset();
-}
-
-std::unique_ptr<KPropertySet> KeyValueItem::read(const QJsonObject &json)
-{
-    Result<KPropertySet *> set = PropertySetCreator::objectToPropertySet(json, std::nullopt);
-    std::unique_ptr<KPropertySet> owned(set.hasError() ? new KPropertySet : *set);
-    // The stamp is that of the load.
-    owned->property(kStamp).setValue(json.value(META_IN_JSON_KEY).toString().toUtf8());
-    return owned;
-}
-
-KPropertySet *KeyValueItem::set() const
-{
-    if (!m_set && m_unread) {
-        m_set = read(*std::exchange(m_unread, std::nullopt));
-        applyBaseUrl();
+    // A document may have many cells of a later version, and nobody looks into them.
+    if (skipsType && type() == BaseItemType::Unknown && nothingWasDropped(json)) {
+        keepUnread(json, m_set->propertyValue(META_KEY.data()).toString());
+        m_set.reset();
     }
-    return m_set.get();
-}
-
-bool KeyValueItem::mayHold(const QByteArray &name) const
-{
-    if (m_set || !m_unread || name.startsWith(':'))
-        return true;
-    const QJsonArray entries = m_unread->value(PROPERTIES_KEY).toArray();
-    return std::ranges::any_of(entries, [&name](const QJsonValue &entry) {
-        const PropertyId id =
-            PropertyEditorJsonUtils::findPropertyBackCompat(entry.toObject(), BaseItemType::Unknown);
-        return nameOf(id).toUtf8().compare(name, Qt::CaseInsensitive) == 0;
-    });
+    return Error::NoError;
 }
 
 void KeyValueItem::setBaseUrl(const QUrl &url)
@@ -174,7 +146,7 @@ void KeyValueItem::clear()
 {
     if (count() == 0)
         return;
-    set()->clear();
+    editedSet()->clear();
     m_hasRenamed = false;
     announce(
         this, [this] { Q_EMIT countChanged(count()); }, [this] { Q_EMIT changed(); });
@@ -182,11 +154,13 @@ void KeyValueItem::clear()
 
 int KeyValueItem::count() const
 {
-    return set() ? set()->count() : 0;
+    return isUnread() ? int(unreadKeys().size()) : set() ? set()->count() : 0;
 }
 
 QStringList KeyValueItem::keys() const
 {
+    if (isUnread())
+        return unreadKeys();
     QStringList keys;
     if (!set())
         return keys;
@@ -198,6 +172,8 @@ QStringList KeyValueItem::keys() const
 
 bool KeyValueItem::has(const QByteArray &name) const
 {
+    if (const std::optional<PropertyId> id = unreadId(QString::fromUtf8(name)))
+        return m_source->ids.test(size_t(*id));
     return mayHold(name) && set() && set()->contains(name);
 }
 
@@ -226,6 +202,8 @@ bool KeyValueItem::contains(PropertyId id) const
 
 QVariant KeyValueItem::value(const QString &key) const
 {
+    if (const std::optional<PropertyId> id = unreadId(key))
+        return unreadValue(*id);
     const QByteArray name = key.toUtf8();
     return mayHold(name) && set() ? set()->propertyValue(name) : QVariant();
 }
@@ -264,9 +242,9 @@ bool KeyValueItem::insert(const QString &key, const QString &group, const QVaria
     if (!isStorable(*property))
         return false;
     if (keyBefore.isEmpty())
-        KPropertySetUtils::insertInKPropertySet(group, property.release(), set(), -1);
+        KPropertySetUtils::insertInKPropertySet(group, property.release(), editedSet(), -1);
     else
-        KPropertySetUtils::insertBehind(keyBefore, group, property.release(), set());
+        KPropertySetUtils::insertBehind(keyBefore, group, property.release(), editedSet());
     announce(
         this, [&] { Q_EMIT inserted(key, value); }, [&] { Q_EMIT inserted(key, group, value); },
         [this] { Q_EMIT countChanged(count()); }, [this] { Q_EMIT changed(); });
@@ -285,7 +263,7 @@ bool KeyValueItem::replace(const QString &key, const QString &newKey, const QVar
     const QByteArray name = key.toUtf8();
     if (!warnUnless(has(name), key))
         return false;
-    KProperty &property = set()->property(name);
+    KProperty &property = editedSet()->property(name);
     const KProperty *namesake = holderOf(newKey.toUtf8());
     if (newKey.isEmpty() || (namesake && namesake != &property)) {
         qCWarning(propertyEditorLog) << "Cannot give" << key << "the name of" << newKey
@@ -308,7 +286,7 @@ bool KeyValueItem::remove(const QString &key)
         qCWarning(propertyEditorLog) << "Cannot remove the non-existing key" << key;
         return false;
     }
-    set()->removeProperty(name);
+    editedSet()->removeProperty(name);
     announce(
         this, [&] { Q_EMIT removed(key); }, [this] { Q_EMIT countChanged(count()); },
         [this] { Q_EMIT changed(); });
@@ -331,7 +309,7 @@ bool KeyValueItem::setValue(const QString &key, const QVariant &value)
     const QByteArray name = key.toUtf8();
     if (!warnUnless(has(name), key))
         return false;
-    KProperty &property = set()->property(name);
+    KProperty &property = editedSet()->property(name);
     if (property.type() == KProperty::ValueFromList)
         return setListValue(key, &property, value);
     const QVariant old = property.value();
@@ -415,7 +393,7 @@ bool KeyValueItem::setListValue(const QString &key, KProperty *property, const Q
     }
     const QVariant old = property->value();
     qCDebug(propertyEditorLog) << "Updating a list with new string value" << text << "from value: " << value;
-    set()->changeProperty(property->name(), text);
+    editedSet()->changeProperty(property->name(), text);
     announce(
         this, [&] { Q_EMIT valueChanged(key, text, old); }, [this] { Q_EMIT changed(); });
     return true;
@@ -431,7 +409,7 @@ bool KeyValueItem::setOption(const QString &key, const QByteArray &name, const Q
     const QByteArray property = key.toUtf8();
     if (!warnUnless(has(property), key))
         return false;
-    set()->property(property).setOption(name.constData(), value);
+    editedSet()->property(property).setOption(name.constData(), value);
     Q_EMIT changed();
     return true;
 }

@@ -59,7 +59,7 @@ bool KeyValueItem::setGroup(const QString &key, const QString &group)
     }
     auto copy = std::make_unique<KProperty>(set()->property(name));
     const QPointer<KeyValueItem> alive(this);
-    const QPointer<KPropertySet> before(set());
+    const QPointer<KPropertySet> before(editedSet());
     remove(key);
     if (!alive)
         return false;
@@ -68,7 +68,7 @@ bool KeyValueItem::setGroup(const QString &key, const QString &group)
         qCWarning(propertyEditorLog) << "Cannot move the property" << key << "changed by a listener";
         return false;
     }
-    KPropertySetUtils::insertInKPropertySet(group, copy.release(), set(), -1);
+    KPropertySetUtils::insertInKPropertySet(group, copy.release(), editedSet(), -1);
     announce(
         this, [&] { Q_EMIT groupChanged(key, group, oldGroup); }, [this] { Q_EMIT changed(); });
     return true;
@@ -78,7 +78,7 @@ bool KeyValueItem::setGroupCaption(const QString &groupName, const QString &capt
 {
     if (!set())
         return false;
-    set()->setGroupCaption(groupName.toUtf8(), caption);
+    editedSet()->setGroupCaption(groupName.toUtf8(), caption);
     Q_EMIT changed();
     return true;
 }
@@ -108,11 +108,11 @@ void KeyValueItem::moveGroup(const QString &group, const QString &afterGroup)
             continue;
         for (const QByteArray &key : set()->propertyNamesForGroup(name)) {
             moved.push_back({name, std::make_unique<KProperty>(set()->property(key))});
-            set()->removeProperty(key);
+            editedSet()->removeProperty(key);
         }
     }
     for (Moved &entry : moved)
-        set()->addProperty(entry.property.release(), entry.group);
+        editedSet()->addProperty(entry.property.release(), entry.group);
     Q_EMIT changed();
 }
 

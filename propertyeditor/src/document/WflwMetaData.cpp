@@ -88,10 +88,12 @@ QJsonObject WflwMetaData::stamped(const QJsonObject &object, const QString &user
 
 QByteArray WflwMetaData::metaDataString(const KProperty &property)
 {
-    QJsonObject object;
-    if (!property.isNull())
-        object = QJsonDocument::fromJson(property.value().toByteArray()).object();
-    return JsonUtils::toCompactJson(stamped(object, {}));
+    return restamped(property.isNull() ? QByteArray() : property.value().toByteArray());
+}
+
+QByteArray WflwMetaData::restamped(const QByteArray &json)
+{
+    return JsonUtils::toCompactJson(stamped(QJsonDocument::fromJson(json).object(), {}));
 }
 
 Error WflwMetaData::faultInText(const QString &text)

@@ -52,6 +52,12 @@ bool typesFit(const QVariant &stored, const QVariant &value)
 
 } // namespace
 
+void KProperty::Private::setName(const QByteArray &given)
+{
+    name = given;
+    key = KPropertyKey(given);
+}
+
 void KProperty::Private::addChild(KProperty *self, KProperty *child)
 {
     if (!children) {
@@ -98,7 +104,7 @@ KProperty::KProperty(const QByteArray &name, const QVariant &value, const QStrin
                      const QString &description, int type, KProperty *parent)
     : d(std::make_unique<Private>())
 {
-    d->name = name;
+    d->setName(name);
     d->description = description;
     setCaption(caption);
     d->type = type == Auto ? value.typeId() : type;
@@ -149,7 +155,7 @@ QByteArray KProperty::name() const
 
 void KProperty::setName(const QByteArray &name)
 {
-    d->name = name;
+    d->setName(name);
 }
 
 QString KProperty::caption() const
@@ -441,6 +447,7 @@ KProperty &KProperty::operator=(const KProperty &property)
     }
     const Private &other = *property.d;
     d->name = other.name;
+    d->key = other.key;
     d->caption = other.caption;
     d->captionForDisplaying = other.captionForDisplaying;
     d->description = other.description;

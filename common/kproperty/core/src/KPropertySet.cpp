@@ -31,31 +31,31 @@ KPropertySet::~KPropertySet()
 
 int KPropertySet::count() const
 {
-    return static_cast<int>(d->properties.size());
+    return static_cast<int>(d->entries.size());
 }
 
 int KPropertySet::count(const KPropertySelector &selector) const
 {
     return static_cast<int>(
-        std::count_if(d->properties.cbegin(), d->properties.cend(),
-                      [&selector](const KProperty *property) { return selector(*property); }));
+        std::count_if(d->entries.cbegin(), d->entries.cend(),
+                      [&selector](const KPropertySetEntry &entry) { return selector(*entry.property); }));
 }
 
 bool KPropertySet::isEmpty() const
 {
-    return d->properties.empty();
+    return d->entries.empty();
 }
 
 bool KPropertySet::hasVisibleProperties() const
 {
-    return std::any_of(d->properties.cbegin(), d->properties.cend(),
-                       [](const KProperty *property) { return property->isVisible(); });
+    return std::any_of(d->entries.cbegin(), d->entries.cend(),
+                       [](const KPropertySetEntry &entry) { return entry.property->isVisible(); });
 }
 
 bool KPropertySet::hasProperties(const KPropertySelector &selector) const
 {
-    return std::any_of(d->properties.cbegin(), d->properties.cend(),
-                       [&selector](const KProperty *property) { return selector(*property); });
+    return std::any_of(d->entries.cbegin(), d->entries.cend(),
+                       [&selector](const KPropertySetEntry &entry) { return selector(*entry.property); });
 }
 
 bool KPropertySet::isReadOnly() const
@@ -132,8 +132,11 @@ QList<QByteArray> KPropertySet::propertyNamesForGroup(const QByteArray &group) c
     if (found == d->groupByName.cend()) {
         return {};
     }
-    const KPropertySetPrivate::Names &names = (*found)->propertyNames;
-    return QList<QByteArray>(names.cbegin(), names.cend());
+    QList<QByteArray> names;
+    for (const KPropertySetEntry *entry : std::as_const((*found)->entries)) {
+        names.append(entry->name);
+    }
+    return names;
 }
 
 QByteArray KPropertySet::previousSelection() const
@@ -149,23 +152,23 @@ void KPropertySet::debug() const
 QMap<QByteArray, QVariant> KPropertySet::propertyValues() const
 {
     QMap<QByteArray, QVariant> values;
-    for (const KProperty *property : std::as_const(d->properties)) {
-        values.insert(property->name(), property->value());
+    for (const KPropertySetEntry &entry : std::as_const(d->entries)) {
+        values.insert(entry.property->name(), entry.property->value());
     }
     return values;
 }
 
 void KPropertySet::clearModifiedFlags()
 {
-    for (KProperty *property : std::as_const(d->properties)) {
-        property->clearModifiedFlag();
+    for (const KPropertySetEntry &entry : std::as_const(d->entries)) {
+        entry.property->clearModifiedFlag();
     }
 }
 
 bool KPropertySet::isModified() const
 {
-    return std::any_of(d->properties.cbegin(), d->properties.cend(),
-                       [](const KProperty *property) { return property->isModified(); });
+    return std::any_of(d->entries.cbegin(), d->entries.cend(),
+                       [](const KPropertySetEntry &entry) { return entry.property->isModified(); });
 }
 
 void KPropertySet::addProperty(KProperty *property, const QByteArray &group)

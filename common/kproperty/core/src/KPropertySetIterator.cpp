@@ -30,7 +30,11 @@ public:
 
     void restart()
     {
-        properties = QList<KProperty *>(source->properties.cbegin(), source->properties.cend());
+        properties.clear();
+        properties.reserve(static_cast<qsizetype>(source->entries.size()));
+        for (const KPropertySetEntry &entry : source->entries) {
+            properties.append(entry.property);
+        }
         if (order != Order::Insertion) {
             sort();
         }

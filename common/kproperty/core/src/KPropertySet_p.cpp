@@ -28,7 +28,13 @@ KPropertySetPrivate::~KPropertySetPrivate()
 
 KProperty *KPropertySetPrivate::find(const QByteArray &name) const
 {
-    return byName.value(name.toLower());
+    const Entry *found = byName.value(KPropertyKey(name));
+    return found ? found->property : nullptr;
+}
+
+KPropertySetEntry *KPropertySetPrivate::entryOf(const KProperty *property) const
+{
+    return property->d->set == q ? property->d->entry : m_shared.value(property);
 }
 
 KProperty &KPropertySetPrivate::nullProperty() const
@@ -40,8 +46,8 @@ KProperty &KPropertySetPrivate::nullProperty() const
 
 QByteArray KPropertySetPrivate::groupNameOf(const KProperty *property) const
 {
-    const auto it = entries.constFind(property);
-    return it == entries.cend() ? QByteArray() : it->group->name;
+    const Entry *entry = property ? entryOf(property) : nullptr;
+    return entry ? entry->group->name : QByteArray();
 }
 
 QString KPropertySetPrivate::groupCaption(const QByteArray &group) const
@@ -52,12 +58,15 @@ QString KPropertySetPrivate::groupCaption(const QByteArray &group) const
 
 KPropertySetPrivate::Groups::iterator KPropertySetPrivate::groupNamed(const QByteArray &name)
 {
+    if (m_lastGroup != groups.end() && m_lastGroup->name == name) {
+        return m_lastGroup;
+    }
     const QByteArray key = name.isEmpty() ? QByteArray(kCommonGroup) : name.toLower();
     const auto known = groupByName.constFind(key);
-    if (known != groupByName.cend()) {
-        return *known;
-    }
-    return *groupByName.insert(key, groups.insert(groups.end(), Group{key, {}}));
+    m_lastGroup = known != groupByName.cend()
+                      ? *known
+                      : *groupByName.insert(key, groups.insert(groups.end(), Group{key, {}}));
+    return m_lastGroup;
 }
 
 bool KPropertySetPrivate::accepts(KProperty *property)
@@ -66,14 +75,14 @@ bool KPropertySetPrivate::accepts(KProperty *property)
         qCWarning(kpropertyLog) << "There is no property to add";
         return false;
     }
-    if (entries.contains(property) || m_refused.contains(property)) {
+    if (contains(property) || m_refused.contains(property)) {
         return false;
     }
     const bool isNameless = property->name().isEmpty();
     if (isNameless) {
         qCWarning(kpropertyLog) << "A property without a name is not added";
     }
-    if (!isNameless && !byName.contains(property->name().toLower())) {
+    if (!isNameless && !byName.contains(property->d->key)) {
         return true;
     }
     if (ownsProperties) {
@@ -82,14 +91,19 @@ bool KPropertySetPrivate::accepts(KProperty *property)
     return false;
 }
 
-void KPropertySetPrivate::place(KProperty *property, Properties::iterator position, Groups::iterator group,
-                                Names::iterator name)
+void KPropertySetPrivate::place(KProperty *property, Entries::iterator position, Groups::iterator group,
+                                std::list<const Entry *>::iterator positionInGroup)
 {
-    const QByteArray key = property->name().toLower();
-    entries.insert(property, Entry{key, properties.insert(position, property), group,
-                                   group->propertyNames.insert(name, property->name())});
-    byName.insert(key, property);
-    property->d->set = q;
+    KProperty::Private &known = *property->d;
+    if (known.set) {
+        known.set->d->m_shared.insert(property, known.entry);
+    }
+    const auto entry = entries.insert(position, Entry{property, known.key, known.name, {}, group, {}});
+    entry->position = entry;
+    entry->positionInGroup = group->entries.insert(positionInGroup, &*entry);
+    byName.insert(entry->key, &*entry);
+    known.set = q;
+    known.entry = &*entry;
 }
 
 void KPropertySetPrivate::addProperty(KProperty *property, const QByteArray &group)
@@ -98,7 +112,7 @@ void KPropertySetPrivate::addProperty(KProperty *property, const QByteArray &gro
         return;
     }
     const Groups::iterator target = groupNamed(group);
-    place(property, properties.end(), target, target->propertyNames.end());
+    place(property, entries.end(), target, target->entries.end());
 }
 
 void KPropertySetPrivate::insertProperty(KProperty *property, const KProperty &neighbour,
@@ -107,62 +121,71 @@ void KPropertySetPrivate::insertProperty(KProperty *property, const KProperty &n
     if (!accepts(property)) {
         return;
     }
-    const auto found = entries.constFind(&neighbour);
-    if (found == entries.cend()) {
+    const Entry *const found = entryOf(&neighbour);
+    if (!found) {
         qCWarning(kpropertyLog) << "The set has no property" << neighbour.name() << "to insert"
                                 << property->name() << "at; it stands at the end";
         addProperty(property, QByteArray());
         return;
     }
     const int step = side == KPropertySet::Side::Behind ? 1 : 0;
-    place(property, std::next(found->position, step), found->group, std::next(found->name, step));
+    place(property, std::next(found->position, step), found->group, std::next(found->positionInGroup, step));
 }
 
 bool KPropertySetPrivate::takeOut(KProperty *property)
 {
-    const auto found = entries.constFind(property);
-    if (found == entries.cend()) {
+    const Entry *const entry = entryOf(property);
+    if (!entry) {
         return false;
-    }
-    Entry entry = *found; // the erasure ends what was found
-    entries.erase(found);
-    properties.erase(entry.position);
-    byName.remove(entry.key);
-    entry.group->propertyNames.erase(entry.name);
-    if (entry.group->propertyNames.empty()) {
-        groupByName.remove(entry.group->name);
-        groups.erase(entry.group);
     }
     if (property->d->set == q) {
         property->d->set = nullptr;
+        property->d->entry = nullptr;
     }
+    m_shared.remove(property);
+    byName.remove(entry->key);
+    const Groups::iterator group = entry->group;
+    group->entries.erase(entry->positionInGroup);
+    if (group->entries.empty()) {
+        groupByName.remove(group->name);
+        if (m_lastGroup == group) {
+            m_lastGroup = groups.end();
+        }
+        groups.erase(group);
+    }
+    entries.erase(entry->position);
     return true;
 }
 
 void KPropertySetPrivate::removeProperty(KProperty *property)
 {
-    if (!property || !entries.contains(property)) {
+    if (!property || !contains(property)) {
         return;
     }
+    // Who hears of it may delete the property, or the set.
+    const QPointer<KPropertySet> guard(q);
+    const KProperty::Private::Watch watch(property->d.get());
     Q_EMIT q->aboutToDeleteProperty(*q, *property);
-    if (takeOut(property) && ownsProperties) {
+    if (guard && watch.isAlive() && takeOut(property) && ownsProperties) {
         delete property;
     }
 }
 
 void KPropertySetPrivate::deleteAll()
 {
-    const Properties doomed = std::exchange(properties, {});
-    entries.clear();
+    const Entries doomed = std::exchange(entries, {});
     byName.clear();
+    m_shared.clear();
     groups.clear();
+    m_lastGroup = groups.end();
     groupByName.clear();
-    for (KProperty *property : doomed) {
-        if (property->d->set == q) {
-            property->d->set = nullptr;
+    for (const Entry &entry : doomed) {
+        if (entry.property->d->set == q) {
+            entry.property->d->set = nullptr;
+            entry.property->d->entry = nullptr;
         }
         if (ownsProperties) {
-            delete property;
+            delete entry.property;
         }
     }
     qDeleteAll(std::exchange(m_refused, {}));
@@ -178,8 +201,8 @@ void KPropertySetPrivate::clear()
 
 void KPropertySetPrivate::copyFrom(const KPropertySetPrivate &other)
 {
-    for (KProperty *property : other.properties) {
-        addProperty(new KProperty(*property), other.groupNameOf(property));
+    for (const Entry &entry : other.entries) {
+        addProperty(new KProperty(*entry.property), entry.group->name);
     }
     groupCaptions = other.groupCaptions;
     groupIconNames = other.groupIconNames;
@@ -190,8 +213,9 @@ void KPropertySetPrivate::copyFrom(const KPropertySetPrivate &other)
 void KPropertySetPrivate::emitPropertyChanged(KPropertySet *set, KProperty *property)
 {
     const QPointer<KPropertySet> guard(set);
+    const KProperty::Private::Watch watch(property->d.get());
     Q_EMIT set->propertyChangedInternal(*set, *property);
-    if (guard && set->d->entries.contains(property)) {
+    if (guard && watch.isAlive() && set->d->contains(property)) {
         Q_EMIT set->propertyChanged(*set, *property);
     }
 }

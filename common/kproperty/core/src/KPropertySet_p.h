@@ -1,41 +1,49 @@
 #pragma once
 
 #include "KPropertySet.h"
+#include "KProperty_p.h"
 
 #include <QHash>
 #include <QSet>
 
 #include <list>
 
+struct KPropertySetEntry;
+
+struct KPropertySetGroup
+{
+    QByteArray name;
+    std::list<const KPropertySetEntry *> entries;
+};
+
+/// Where a property stands in a set. Linked lists: whatever is added or removed in the middle, no other place
+/// moves.
+struct KPropertySetEntry
+{
+    KProperty *property;
+    /// The names at the time of addition, in lower case and as written: a property that is renamed is still
+    /// found and listed under them.
+    KPropertyKey key;
+    QByteArray name;
+    std::list<KPropertySetEntry>::iterator position;
+    std::list<KPropertySetGroup>::iterator group;
+    std::list<const KPropertySetEntry *>::iterator positionInGroup;
+};
+
 class KPropertySetPrivate
 {
 public:
-    // Linked lists: whatever is added or removed in the middle, no other place moves.
-    using Properties = std::list<KProperty *>;
-    using Names = std::list<QByteArray>;
-
-    struct Group
-    {
-        QByteArray name;
-        /// As the properties were called when they were added: lookups go by that, renamed or not.
-        Names propertyNames;
-    };
-    using Groups = std::list<Group>;
-
-    struct Entry
-    {
-        /// The name at the time of addition: a property that is renamed is still found under it.
-        QByteArray key;
-        Properties::iterator position;
-        Groups::iterator group;
-        Names::iterator name;
-    };
+    using Entry = KPropertySetEntry;
+    using Entries = std::list<KPropertySetEntry>;
+    using Group = KPropertySetGroup;
+    using Groups = std::list<KPropertySetGroup>;
 
     KPropertySetPrivate(KPropertySet *set, bool owner);
     ~KPropertySetPrivate();
     Q_DISABLE_COPY_MOVE(KPropertySetPrivate)
 
     KProperty *find(const QByteArray &name) const;
+    bool contains(const KProperty *property) const { return entryOf(property); }
     KProperty &nullProperty() const;
     QByteArray groupNameOf(const KProperty *property) const;
     QString groupCaption(const QByteArray &group) const;
@@ -57,9 +65,8 @@ public:
     KPropertySet *const q;
     const bool ownsProperties;
     bool readOnly = false;
-    Properties properties;
-    QHash<QByteArray, KProperty *> byName;
-    QHash<const KProperty *, Entry> entries;
+    Entries entries;
+    QHash<KPropertyKey, Entry *> byName;
     Groups groups;
     QHash<QByteArray, Groups::iterator> groupByName;
     QHash<QByteArray, QString> groupCaptions;
@@ -68,13 +75,19 @@ public:
 
 private:
     Groups::iterator groupNamed(const QByteArray &name);
+    /// Null for what isn't in this set.
+    Entry *entryOf(const KProperty *property) const;
     /// False for what the set has already, and for what it keeps out of sight.
     bool accepts(KProperty *property);
     /// Before the given places.
-    void place(KProperty *property, Properties::iterator position, Groups::iterator group,
-               Names::iterator name);
+    void place(KProperty *property, Entries::iterator position, Groups::iterator group,
+               std::list<const Entry *>::iterator positionInGroup);
     void deleteAll();
 
+    /// The one that was asked for last, as its neighbours mostly are; end() if it is gone.
+    Groups::iterator m_lastGroup = groups.end();
+    /// Of properties that were added to another set since, which knows their place there.
+    QHash<const KProperty *, Entry *> m_shared;
     /// Additions that were refused: owned, since the caller gave them away.
     QSet<KProperty *> m_refused;
     mutable KProperty m_null;

@@ -4,7 +4,30 @@
 #include "KPropertyFactory.h"
 #include "KPropertyListData.h"
 
+#include <QHash>
 #include <QMap>
+
+struct KPropertySetEntry;
+
+/// A name in lower case, under which sets find a property, hashed once for all of them.
+struct KPropertyKey
+{
+    KPropertyKey() = default;
+    explicit KPropertyKey(const QByteArray &name)
+        : text(name.toLower())
+        , hash(qHash(text, QHashSeed::globalSeed()))
+    {}
+
+    bool operator==(const KPropertyKey &other) const { return hash == other.hash && text == other.text; }
+
+    QByteArray text;
+    size_t hash = 0;
+};
+
+inline size_t qHash(const KPropertyKey &key, size_t seed = 0)
+{
+    return key.hash ^ seed;
+}
 
 class KProperty::Private
 {
@@ -46,6 +69,7 @@ public:
     Q_DISABLE_COPY_MOVE(Private)
 
     QByteArray name;
+    KPropertyKey key;
     QString caption;
     QString captionForDisplaying;
     QString description;
@@ -60,6 +84,8 @@ public:
     KProperty *parent = nullptr;
     /// The set that hears of changes: the one that the property was added to last.
     KPropertySet *set = nullptr;
+    /// The place there.
+    KPropertySetEntry *entry = nullptr;
     Watch *watch = nullptr;
     int type = KProperty::Auto;
     KProperty::ValueSyncPolicy syncPolicy = KProperty::ValueSyncPolicy::Editor;
@@ -68,6 +94,7 @@ public:
     bool visible = true;
     bool storable = true;
 
+    void setName(const QByteArray &given);
     void addChild(KProperty *self, KProperty *child);
     void deleteChildren();
     /// Rows of children must go before the children do.

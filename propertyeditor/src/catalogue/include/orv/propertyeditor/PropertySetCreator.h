@@ -80,6 +80,12 @@ public:
                                                       const std::optional<BaseItemType> &type,
                                                       const PropertyEditor::LoadContext &context = {});
 
+    /// The properties of \a cell, if a set made of it would be written as what stands there, apart from the
+    /// stamp, and with nothing to report: such a cell needn't be read before somebody asks for a property.
+    /// Quick, and so nothing for some unusual cells of which that is true.
+    [[nodiscard]] static std::optional<PropertyIdSet>
+    propertiesInStoredForm(const QJsonObject &cell, const std::optional<BaseItemType> &type);
+
     /// Indented JSON text of a cell with the properties of \a set in their order. False if a value can't be
     /// stored, with \a json as it was.
     static bool propertySetToJson(const KPropertySet &set, QByteArray *json,
@@ -114,6 +120,9 @@ public:
     /// list and which editor go with it. False, with the property's value as it was, if the value doesn't
     /// fit.
     static bool setValueFromJson(PropertyId id, const QJsonValue &value, KProperty *property);
+
+    /// The value that a new property \a id has after setValueFromJson; nothing if the value doesn't fit.
+    [[nodiscard]] static std::optional<QVariant> valueFromJson(PropertyId id, const QJsonValue &value);
 
     /// The stored form of a property's value by its type; undefined if it has none.
     [[nodiscard]] static QJsonValue valueToJson(const KProperty &property,

@@ -5,6 +5,8 @@
 
 #include <QObject>
 
+#include <bitset>
+
 namespace orv {
 
 /// Holder that makes the enumeration known to the meta-object system.
@@ -333,5 +335,8 @@ using PropertyId = ORV_QEnumsPropertyId::PropertyId;
 
 /// The numbers run from 0 to one less than this.
 inline constexpr int kPropertyCount = 307;
+
+/// Some of the properties, by number.
+using PropertyIdSet = std::bitset<kPropertyCount>;
 
 } // namespace orv

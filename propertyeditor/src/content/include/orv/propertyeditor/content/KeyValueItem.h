@@ -98,7 +98,7 @@ public:
     Q_INVOKABLE int doubleType() const { return QMetaType::Double; }
 
     /// Null until a load has run. Owned by the item.
-    [[nodiscard]] const KPropertySet *propertySet() const { return set(); }
+    [[nodiscard]] const KPropertySet *propertySet() const { return editedSet(); }
 
 Q_SIGNALS:
     void inserted(const QString &key, const QVariant &value);
@@ -120,17 +120,39 @@ private:
     /// False, with a warning, for a value that a file can't hold.
     [[nodiscard]] static bool isStorable(const KProperty &property);
 
-    /// The properties, read now if they were set aside; null until a load has run.
-    [[nodiscard]] KPropertySet *set() const;
+    /// To look at: the properties, read now if nobody asked before; null until a load has run.
+    [[nodiscard]] const KPropertySet *set() const;
+    /// To change or to hand out: what is written comes from these properties from now on.
+    [[nodiscard]] KPropertySet *editedSet() const;
     [[nodiscard]] static std::unique_ptr<KPropertySet> read(const QJsonObject &json);
-    /// Keeps the cell as it stands in place of its properties, which take a hundred times the memory.
-    void setAside(const QJsonObject &json);
-    /// False if there is no such property, without reading those that were set aside.
+    /// Keeps the cell as it stands, which takes a tenth of the memory of its properties, until somebody asks.
+    void keepUnread(const QJsonObject &json, const QString &stamp);
+    [[nodiscard]] bool nothingWasDropped(const QJsonObject &json) const;
+    /// False if there is no such property, without reading those that nobody asked for.
     [[nodiscard]] bool mayHold(const QByteArray &name) const;
+    void makeGlycansAbsolute(KProperty *property) const;
+
+    /// Whether questions are answered from the source.
+    [[nodiscard]] bool isUnread() const;
+    /// The property that is called \a key, if questions about it are answered from the source.
+    [[nodiscard]] std::optional<PropertyId> unreadId(const QString &key) const;
+    [[nodiscard]] QStringList unreadKeys() const;
+    [[nodiscard]] QVariant unreadValue(PropertyId id) const;
+    [[nodiscard]] QJsonObject sourceWithAbsolutePaths() const;
     void applyBaseUrl() const;
 
     mutable std::unique_ptr<KPropertySet> m_set;
-    mutable std::optional<QJsonObject> m_unread; ///< of a cell of an unknown type that nobody looked into
+    /// What m_set is read from.
+    struct Source
+    {
+        QJsonObject cell; ///< with the stamp of its load
+        /// Whether a save writes the cell as it stands; it has no properties but these then, each once.
+        bool isStoredForm = false;
+        PropertyIdSet ids;
+        qsizetype lastRead = -1; ///< position of the entry that was asked for last
+    };
+    /// Absent once the properties may be others.
+    mutable std::optional<Source> m_source;
     /// Whether a property may have another name than that under which the set finds it.
     bool m_hasRenamed = false;
     QUrl m_baseUrl;

@@ -38,6 +38,9 @@ namespace orv::PropertyEditorJsonUtils {
 /// give today's property, so readers of raw cells ask here instead of comparing names.
 [[nodiscard]] ORV_WORKFLOW_EXPORT PropertyId findPropertyBackCompat(const QJsonObject &entry,
                                                                     BaseItemType itemType);
+/// The same by the entry's name.
+[[nodiscard]] ORV_WORKFLOW_EXPORT PropertyId findPropertyBackCompat(const QString &name,
+                                                                    BaseItemType itemType);
 
 /// The first entry of the cell \a item that is the property \a id; empty if there is none.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QJsonObject getPropertyWithType(const QJsonObject &item, PropertyId id);

@@ -88,6 +88,8 @@ public:
     /// The stamp of the object in a property's value, as compact JSON; other keys stay. A null property, or a
     /// value that is no JSON object, gives a fresh stamp. The stamp is that of the current user.
     [[nodiscard]] static QByteArray metaDataString(const KProperty &property);
+    /// The same for the JSON text of a stamp.
+    [[nodiscard]] static QByteArray restamped(const QByteArray &json);
 
     /// What a "metadata" text, of the document or of a cell, would lose when it is read: a key that stands
     /// twice, or an escape that JSON doesn't know. A success for any other text, one that is no JSON
