@@ -110,6 +110,13 @@ Result<ResourceReferenceSPtr> ResourceReference::fromString(const QString &text)
     return ResourceReferenceSPtr(new ResourceReference(Scheme::LocalFile, text, {}, LocalPath::key(text)));
 }
 
+bool ResourceReference::isReference(const QString &text)
+{
+    // Every other form has a colon behind a word, and a word has more than the one letter of a drive.
+    const bool isPath = text.indexOf(QLatin1Char(':'), 2) < 0;
+    return isPath ? !text.contains(QChar::Null) : !fromString(text).hasError();
+}
+
 Result<ResourceReferenceSPtr> ResourceReference::create(Scheme scheme, const Parts &parts)
 {
     const SchemeText::Row *row = SchemeText::rowOf(scheme);

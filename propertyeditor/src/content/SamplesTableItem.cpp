@@ -19,22 +19,30 @@ PropertyId SamplesTableItem::propertyId() const
     return PropertyId::SamplesTable;
 }
 
+void SamplesTableItem::changeContent(const std::function<void(SamplesAndTracesContent *content)> &change)
+{
+    SamplesAndTracesContent content = m_samples.take();
+    change(&content);
+    setContent(content);
+}
+
 void SamplesTableItem::reloadMetadata(const QList<MetadataMapping> &mappings,
                                       const QList<TalvaneMetadataMappingConnection> &connections)
 {
-    rebuildMetadataInSamples(connections, mappings, &m_content.samples);
-    Q_EMIT changed();
+    changeContent([&](SamplesAndTracesContent *content) {
+        rebuildMetadataInSamples(connections, mappings, &content->samples);
+    });
 }
 
 QJsonObject SamplesTableItem::toJson(PropertyConversionFlag flag) const
 {
     const bool resolves = flag == PropertyConversionFlag::AbsolutePaths && baseUrl().isValid();
-    return cellWithValue(flag, resolves ? m_content.resolved(baseUrl()).toJson() : m_content.toJson());
+    return cellWithValue(flag, resolves ? content().resolved(baseUrl()).toJson() : m_samples.toJson());
 }
 
 Error SamplesTableItem::load(const QJsonObject &json, ValidationOptions options, const LoadContext &context)
 {
-    m_content = {};
+    m_samples = {};
     ORV_RETURN_IF_ERROR(assignCommon(json, options));
     const QJsonObject entry = PropertyEditorJsonUtils::getPropertyWithType(json, propertyId());
     if (entry.isEmpty()) {
@@ -43,11 +51,10 @@ Error SamplesTableItem::load(const QJsonObject &json, ValidationOptions options,
                      tr("Could not parse JSON. Subobject \"%1\"is empty.")
                          .arg(PropertiesNames::internalNameForType(propertyId())));
     }
-    Result<SamplesAndTracesContent> content =
-        SamplesAndTracesContent::fromJson(PropertyEditorJsonUtils::propValueObject(entry));
-    if (content.hasError())
-        return content.ecatch();
-    m_content = std::move(content).value();
+    Result<StoredSamples> samples = StoredSamples::fromJson(PropertyEditorJsonUtils::propValueObject(entry));
+    if (samples.hasError())
+        return samples.ecatch();
+    m_samples = std::move(samples).value();
     loadCustomColumns(json);
     if (context.isObserved())
         reportTableLosses(context, json, {PropertyId::NoProperty, {}, {propertyId()}, {}});
@@ -56,7 +63,7 @@ Error SamplesTableItem::load(const QJsonObject &json, ValidationOptions options,
 
 void SamplesTableItem::clear()
 {
-    m_content = {};
+    m_samples = {};
     BaseTableItem::clear();
 }
 

@@ -82,6 +82,7 @@ void TestResourceReference::theTextTellsTheScheme()
     QFETCH(Scheme, scheme);
     const Result<ResourceReferenceSPtr> reference = ResourceReference::fromString(text);
     ORV_VERIFY_OK(reference);
+    QVERIFY(ResourceReference::isReference(text));
     QCOMPARE((*reference)->scheme(), scheme);
     for (Scheme other : {Scheme::ServerFile, Scheme::ExternalDataSource, Scheme::LocalFile,
                          Scheme::ManagedResource, Scheme::UNIFI})
@@ -175,6 +176,7 @@ void TestResourceReference::badTextsAreRefused()
     QFETCH(QString, reason);
     const Result<ResourceReferenceSPtr> reference = ResourceReference::fromString(text);
     QVERIFY(reference.hasError());
+    QVERIFY(!ResourceReference::isReference(text));
     QCOMPARE(reference.error().code(), ErrorCode::InvalidContent);
     QVERIFY(!reference.error().errorMessage().isEmpty());
     const QString details = reference.error().details().join(u' ');

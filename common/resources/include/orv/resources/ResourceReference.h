@@ -53,6 +53,9 @@ public:
     /// scheme. Any other text is a path.
     [[nodiscard]] static Result<ResourceReferenceSPtr> fromString(const QString &text);
 
+    /// Whether fromString would read \a text; far quicker where it is a path.
+    [[nodiscard]] static bool isReference(const QString &text);
+
     /// A reference to something on a server; the parts that the scheme needs must be there. LocalFile fails:
     /// a path has no parts. InvalidContent names the part.
     [[nodiscard]] static Result<ResourceReferenceSPtr> create(Scheme scheme, const Parts &parts);

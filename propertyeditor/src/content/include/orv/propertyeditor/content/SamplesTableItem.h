@@ -2,7 +2,9 @@
 
 #include <orv/propertyeditor/content/BaseTableItem.h>
 #include <orv/propertyeditor/content/ExtendedMetadataSink.h>
-#include <orv/samples/SamplesAndTracesContent.h>
+#include <orv/samples/StoredSamples.h>
+
+#include <functional>
 
 namespace orv::PropertyEditor {
 
@@ -16,20 +18,25 @@ public:
     SamplesTableItem();
     ~SamplesTableItem() override;
 
-    [[nodiscard]] const SamplesAndTracesContent &content() const { return m_content; }
+    [[nodiscard]] const SamplesAndTracesContent &content() const { return m_samples.content(); }
     /// Announces changed() alone.
     void setContent(const SamplesAndTracesContent &content)
     {
-        m_content = content;
+        m_samples = StoredSamples(content);
         Q_EMIT changed();
     }
 
-    [[nodiscard]] QList<SamplesInput::Entry> samplesInput() const { return m_content.samples.entries(); }
+    /// Lets \a change work on the content itself, which is quicker than on a copy of it where samples are
+    /// many, and announces changed() alone. While it works the item has no samples.
+    void changeContent(const std::function<void(SamplesAndTracesContent *content)> &change);
+
+    /// A copy of each sample; samplesWithCustomColumns() copies none.
+    [[nodiscard]] QList<SamplesInput::Entry> samplesInput() const { return content().samples.entries(); }
     [[nodiscard]] const SamplesInput::SamplesArrayWithCustomColumns &samplesWithCustomColumns() const
     {
-        return m_content.samples;
+        return content().samples;
     }
-    [[nodiscard]] const TraceImportAndProcessingOptions &tracesOptions() const { return m_content.options; }
+    [[nodiscard]] const TraceImportAndProcessingOptions &tracesOptions() const { return content().options; }
 
     [[nodiscard]] MappingTarget target() const override { return MappingTarget::Samples; }
     void reloadMetadata(const QList<MetadataMapping> &mappings,
@@ -46,7 +53,7 @@ protected:
     [[nodiscard]] PropertyId propertyId() const override;
 
 private:
-    SamplesAndTracesContent m_content;
+    StoredSamples m_samples;
 };
 
 } // namespace orv::PropertyEditor

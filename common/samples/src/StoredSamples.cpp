@@ -1,0 +1,48 @@
+#include "orv/samples/StoredSamples.h"
+
+#include "internal/WrittenForm.h"
+
+#include <utility>
+
+namespace orv {
+
+StoredSamples::StoredSamples(SamplesAndTracesContent content)
+    : m_content(std::move(content))
+{}
+
+Result<StoredSamples> StoredSamples::fromJson(const QJsonObject &json)
+{
+    StoredSamples samples;
+    if (WrittenForm::isSamplesTable(json)) {
+        samples.m_json = json;
+        return samples;
+    }
+    Result<SamplesAndTracesContent> content = SamplesAndTracesContent::fromJson(json);
+    if (content.hasError())
+        return content.ecatch();
+    samples.m_content = std::move(content).value();
+    return samples;
+}
+
+const SamplesAndTracesContent &StoredSamples::content() const
+{
+    if (!m_content) {
+        // A table of the written form can't fail to be read.
+        m_content =
+            m_json ? SamplesAndTracesContent::fromJson(*m_json).valueOr({}) : SamplesAndTracesContent();
+    }
+    return *m_content;
+}
+
+SamplesAndTracesContent StoredSamples::take()
+{
+    static_cast<void>(content());
+    return *std::exchange(*this, {}).m_content;
+}
+
+QJsonObject StoredSamples::toJson() const
+{
+    return m_json ? *m_json : content().toJson();
+}
+
+} // namespace orv
