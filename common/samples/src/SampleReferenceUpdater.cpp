@@ -2,26 +2,26 @@
 
 namespace orv {
 
-namespace {
-
-/// Takes the first place of \a old and puts it to those of \a now; nothing when there is none.
-template<typename Key, typename Place>
-std::optional<Place> moveFirst(QHash<Key, std::set<Place>> *places, const Key &old, const Key &now)
+/// Takes the first place of \a oldFile and puts it to those of \a newFile; nothing when there is none.
+template<typename Place>
+std::optional<Place> SampleReferenceUpdater::moveFirst(PlacesOfFiles<Place> *places,
+                                                       const ResourceReferenceSPtr &oldFile,
+                                                       const ResourceReferenceSPtr &newFile)
 {
-    const auto found = places->find(old);
-    if (found == places->end() || found->empty())
+    const auto found = places->find(oldFile);
+    if (found == places->end())
         return std::nullopt;
-    const Place place = *found->begin();
-    found->erase(found->begin());
-    (*places)[now].insert(place);
+    const Place place = found->takeFirst();
+    if (found->isEmpty())
+        places->erase(found);
+    (*places)[newFile].insert(place);
     return place;
 }
-
-} // namespace
 
 SampleReferenceUpdater::SampleReferenceUpdater(QList<SamplesInput::SampleWithCustomColumns> *samples)
     : m_samples(samples)
 {
+    m_files.reserve(samples->size());
     for (qsizetype i = 0; i < samples->size(); ++i) {
         const SamplesInput::Entry &sample = samples->at(i);
         m_files[sample.msFile].insert(i);
@@ -43,7 +43,7 @@ ResourceReferenceSPtr &SampleReferenceUpdater::at(const Companion &place)
 bool SampleReferenceUpdater::replaceFile(const ResourceReferenceSPtr &oldFile,
                                          const ResourceReferenceSPtr &newFile)
 {
-    const auto place = moveFirst<ResourceReferenceKey>(&m_files, oldFile, newFile);
+    const auto place = moveFirst(&m_files, oldFile, newFile);
     if (place)
         (*m_samples)[*place].msFile = newFile;
     return place.has_value();
@@ -54,7 +54,7 @@ bool SampleReferenceUpdater::replaceCompanion(const ResourceReferenceSPtr &oldFi
 {
     if (!oldFile || !newFile)
         return false;
-    const auto place = moveFirst<ResourceReferenceKey>(&m_companions, oldFile, newFile);
+    const auto place = moveFirst(&m_companions, oldFile, newFile);
     if (place)
         at(*place) = newFile;
     return place.has_value();

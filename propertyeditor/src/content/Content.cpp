@@ -118,11 +118,9 @@ Error Content::assignFromFile(const QString &fileName, ValidationOptions options
 
 Result<Content> Content::detachedCopy() const
 {
-    Result<QJsonObject> json = JsonUtils::objectFromJson(toJson(PropertyConversionFlag::KeepPaths));
-    if (json.hasError())
-        return json.ecatch();
     Content copy;
-    ORV_RETURN_IF_ERROR(copy.assignFromJson(*json, ValidationOption::SkipTypeValidation));
+    ORV_RETURN_IF_ERROR(copy.assignFromJson(toJsonObject(PropertyConversionFlag::KeepPaths),
+                                            ValidationOption::SkipTypeValidation));
     return copy;
 }
 

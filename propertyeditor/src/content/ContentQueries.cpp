@@ -97,6 +97,25 @@ private:
     QHash<ResourceReferenceKey, std::set<qsizetype>> m_places;
 };
 
+void swapReferences(const QList<ReferenceMapping> &mappings,
+                    QList<SamplesInput::SampleWithCustomColumns> *samples,
+                    QList<SequenceDatabaseItem> *databases)
+{
+    SampleReferenceUpdater sampleUpdater(samples);
+    DatabaseUpdater databaseUpdater(databases);
+    for (const ReferenceMapping &mapping : mappings) {
+        // Where there was no file none has moved.
+        if (!mapping.oldReference)
+            continue;
+        const bool bothSet = mapping.newReference != nullptr;
+        if (!sampleUpdater.replaceFile(mapping.oldReference, mapping.newReference) &&
+            !(bothSet && databaseUpdater.replace(mapping)))
+            sampleUpdater.replaceCompanion(mapping.oldReference, mapping.newReference);
+        sampleUpdater.moveFileMetadata(ResourceReferenceUtils::toString(mapping.oldReference),
+                                       ResourceReferenceUtils::toString(mapping.newReference));
+    }
+}
+
 } // namespace
 
 QList<BaseItemType> Content::findAllDocuments() const
@@ -153,23 +172,17 @@ QList<ResourceReferenceSPtr> Content::allReferences() const
 
 void Content::updateReferences(const QList<ReferenceMapping> &mappings)
 {
-    SamplesAndTracesContent samples = samplesAndTraces();
     QList<SequenceDatabaseItem> databases = sequenceDatabaseItems(0);
-    SampleReferenceUpdater sampleUpdater(&samples.samples.samples);
-    DatabaseUpdater databaseUpdater(&databases);
-    for (const ReferenceMapping &mapping : mappings) {
-        // Where there was no file none has moved.
-        if (!mapping.oldReference)
-            continue;
-        const bool bothSet = mapping.newReference != nullptr;
-        if (!sampleUpdater.replaceFile(mapping.oldReference, mapping.newReference) &&
-            !(bothSet && databaseUpdater.replace(mapping)))
-            sampleUpdater.replaceCompanion(mapping.oldReference, mapping.newReference);
-        sampleUpdater.moveFileMetadata(ResourceReferenceUtils::toString(mapping.oldReference),
-                                       ResourceReferenceUtils::toString(mapping.newReference));
-    }
+    const auto update = [&](SamplesAndTracesContent *samples) {
+        swapReferences(mappings, &samples->samples.samples, &databases);
+    };
     const QPointer<Content> alive(this);
-    setSamplesAndTraces(samples);
+    if (SamplesTableItem *item = samplesTable()) {
+        item->changeContent(update);
+    } else {
+        SamplesAndTracesContent none;
+        update(&none);
+    }
     if (alive)
         setSequenceDatabaseItems(databases, 0);
 }

@@ -17,7 +17,7 @@ void DeltaMassesValidator::check(CheckRun &run) const
     if (items.isEmpty())
         return;
     const SamplesTableItem *table = content.samplesTable();
-    if (!table || table->samplesInput().isEmpty()) {
+    if (!table || table->content().samples.samples.isEmpty()) {
         run.error(validatorText("The workflow doesn't have any samples"),
                   {table, PropertyId::SamplesTable, {}}, addSamplesHint());
         return;

@@ -33,7 +33,7 @@ void MsTracesValidator::check(CheckRun &run) const
 {
     const Content &content = run.content();
     const SamplesTableItem *table = content.samplesTable();
-    if (!table || table->samplesInput().isEmpty()) {
+    if (!table || table->content().samples.samples.isEmpty()) {
         const bool isReport = !content.findAllItems(BaseItemType::MultiDocReport).isEmpty();
         run.error(validatorText("The workflow doesn't have any %1")
                       .arg(isReport ? validatorText("documents") : validatorText("samples")),

@@ -25,7 +25,7 @@ void SampleDataValidator::check(CheckRun &run) const
         const auto *table = qobject_cast<const SamplesTableItem *>(item);
         if (!table)
             continue;
-        const QList<SamplesInput::Entry> samples = table->samplesInput();
+        const QList<SamplesInput::SampleWithCustomColumns> samples = table->content().samples.samples;
         for (qsizetype row = 0; row < samples.size(); ++row) {
             const Error error = checkSample(samples.at(row), run.files());
             if (error) {

@@ -19,7 +19,7 @@ namespace orv::PropertyEditor {
 
 namespace {
 
-using Samples = QList<SamplesInput::Entry>;
+using Samples = QList<SamplesInput::SampleWithCustomColumns>;
 
 /// The documents of one type, by the samples that they work on.
 struct DocumentsOfType
@@ -117,7 +117,7 @@ void SamplesPatternValidator::check(CheckRun &run) const
     if (!content.findAllItems(BaseItemType::MultiDocReport).isEmpty())
         return;
     const SamplesTableItem *table = content.samplesTable();
-    const Samples samples = table ? table->samplesInput() : Samples();
+    const Samples samples = table ? table->content().samples.samples : Samples();
     if (samples.isEmpty()) {
         run.error(validatorText("The workflow doesn't have any samples"),
                   {table, PropertyId::SamplesTable, {}}, addSamplesHint());

@@ -5,7 +5,10 @@
 #include <orv/samples/SamplesInput.h>
 
 #include <QHash>
+#include <QVarLengthArray>
 
+#include <algorithm>
+#include <optional>
 #include <set>
 #include <tuple>
 
@@ -42,11 +45,42 @@ private:
         }
     };
 
+    /// Places of which the first is taken first. Most files are at one place, which needs no memory of its
+    /// own.
+    template<typename Place>
+    class OrderedPlaces
+    {
+    public:
+        [[nodiscard]] bool isEmpty() const { return m_heap.isEmpty(); }
+        void insert(const Place &place)
+        {
+            m_heap.append(place);
+            std::push_heap(m_heap.begin(), m_heap.end(), isLater);
+        }
+        Place takeFirst()
+        {
+            std::pop_heap(m_heap.begin(), m_heap.end(), isLater);
+            const Place first = m_heap.last();
+            m_heap.removeLast();
+            return first;
+        }
+
+    private:
+        static bool isLater(const Place &a, const Place &b) { return b < a; }
+
+        QVarLengthArray<Place, 1> m_heap;
+    };
+    template<typename Place>
+    using PlacesOfFiles = QHash<ResourceReferenceKey, OrderedPlaces<Place>>;
+
+    template<typename Place>
+    static std::optional<Place> moveFirst(PlacesOfFiles<Place> *places, const ResourceReferenceSPtr &oldFile,
+                                          const ResourceReferenceSPtr &newFile);
     [[nodiscard]] ResourceReferenceSPtr &at(const Companion &place);
 
     QList<SamplesInput::SampleWithCustomColumns> *m_samples;
-    QHash<ResourceReferenceKey, std::set<qsizetype>> m_files;
-    QHash<ResourceReferenceKey, std::set<Companion>> m_companions;
+    PlacesOfFiles<qsizetype> m_files;
+    PlacesOfFiles<Companion> m_companions;
     QHash<QString, std::set<qsizetype>> m_metadata;
 };
 
