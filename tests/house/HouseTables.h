@@ -14,6 +14,7 @@ struct Floor
 inline constexpr std::array kFloors = {
     Floor{"common/core/", 0, "core"},
     Floor{"common/table/", 10, "table"},
+    Floor{"common/table_model/", 20, "table_model"},
     Floor{"common/resources/", 10, "resources"},
     Floor{"common/kproperty/", 10, "kproperty"},
     Floor{"common/samples/", 20, "samples"},

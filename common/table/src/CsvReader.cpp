@@ -39,12 +39,14 @@ QString decoded(QByteArrayView bytes)
 class CsvReader::Private
 {
 public:
-    Private(QIODevice *source, const Limits &maxima)
+    Private(QIODevice *source, const Limits &maxima, const Format &format)
         : device(source)
         , limits(maxima)
     {
         csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI);
         csv_set_space_func(&parser, nothingIsBlank);
+        csv_set_delim(&parser, static_cast<unsigned char>(format.separator));
+        csv_set_quote(&parser, static_cast<unsigned char>(format.quote));
     }
     ~Private() { csv_free(&parser); }
     Q_DISABLE_COPY_MOVE(Private)
@@ -219,7 +221,11 @@ CsvReader::CsvReader(QIODevice *device)
 {}
 
 CsvReader::CsvReader(QIODevice *device, const Limits &limits)
-    : d(std::make_unique<Private>(device, limits))
+    : CsvReader(device, limits, Format{})
+{}
+
+CsvReader::CsvReader(QIODevice *device, const Limits &limits, const Format &format)
+    : d(std::make_unique<Private>(device, limits, format))
 {}
 
 CsvReader::~CsvReader() = default;

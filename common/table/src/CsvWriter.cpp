@@ -8,9 +8,9 @@ namespace orv::CsvWriter {
 
 namespace {
 
-bool needsQuotes(const QByteArray &field)
+bool needsQuotes(const QByteArray &field, char separator)
 {
-    return field.contains(',') || field.contains('"') || field.contains('\n') || field.contains('\r');
+    return field.contains(separator) || field.contains('"') || field.contains('\n') || field.contains('\r');
 }
 
 QByteArray quoted(const QByteArray &field)
@@ -24,15 +24,15 @@ QByteArray quoted(const QByteArray &field)
 
 } // namespace
 
-QByteArray row(const QStringList &fields)
+QByteArray row(const QStringList &fields, char separator)
 {
     QByteArray bytes;
     const bool wouldBeNoRow = fields.size() == 1 && fields.constFirst().isEmpty();
     for (const QString &text : fields) {
         const QByteArray field = text.toUtf8();
         if (!bytes.isEmpty() || &text != &fields.constFirst())
-            bytes += ',';
-        bytes += needsQuotes(field) || wouldBeNoRow ? quoted(field) : field;
+            bytes += separator;
+        bytes += needsQuotes(field, separator) || wouldBeNoRow ? quoted(field) : field;
     }
     return bytes + "\r\n";
 }

@@ -66,7 +66,19 @@ private Q_SLOTS:
     void rowsBeforeAFaultAreGiven();
     void aFailureIsGivenAgain();
     void aDeviceThatFailsIsReported();
+    void otherSignsMayPartAndEncloseFields();
 };
+
+void TestCsvReader::otherSignsMayPartAndEncloseFields()
+{
+    QBuffer device;
+    device.setData("a;b,c;'d;''e'\n\"x\";y\n");
+    device.open(QIODevice::ReadOnly);
+    CsvReader reader(&device, {}, {.separator = ';', .quote = '\''});
+    QCOMPARE(reader.next().value()->fields, QStringList({u"a"_s, u"b,c"_s, u"d;'e"_s}));
+    QCOMPARE(reader.next().value()->fields, QStringList({u"\"x\""_s, u"y"_s}));
+    QVERIFY(!reader.next().value().has_value());
+}
 
 void TestCsvReader::fieldsAndRowsAreTold_data()
 {

@@ -17,7 +17,13 @@ private Q_SLOTS:
     void rowsAreWritten_data();
     void rowsAreWritten();
     void anyRowsReadBackEqual();
+    void anotherSeparatorMayPartFields();
 };
+
+void TestCsvWriter::anotherSeparatorMayPartFields()
+{
+    QCOMPARE(CsvWriter::row({u"a,b"_s, u"c\td"_s, QString()}, '\t'), "a,b\t\"c\td\"\t\r\n"_ba);
+}
 
 void TestCsvWriter::rowsAreWritten_data()
 {

@@ -19,8 +19,8 @@ struct CsvRow
     QStringList fields;
 };
 
-/// Reads comma-separated text (RFC 4180) row by row, so that a large file never stands in memory as a whole:
-/// \code
+/// Reads comma-separated text (RFC 4180), or text with other signs in place of comma and quote, row by row,
+/// so that a large file never stands in memory as a whole: \code
 ///     CsvReader reader(&file);
 ///     for (;;) {
 ///         Result<std::optional<CsvRow>> row = reader.next();
@@ -44,9 +44,17 @@ public:
         qsizetype rowFields = 1 << 14;
     };
 
+    /// What parts and encloses fields; both are ASCII and differ.
+    struct Format
+    {
+        char separator = ',';
+        char quote = '"';
+    };
+
     /// \a device is open for reading and outlives the reader.
     explicit CsvReader(QIODevice *device);
     CsvReader(QIODevice *device, const Limits &limits);
+    CsvReader(QIODevice *device, const Limits &limits, const Format &format);
     ~CsvReader();
     Q_DISABLE_COPY_MOVE(CsvReader)
 

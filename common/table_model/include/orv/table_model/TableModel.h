@@ -1,0 +1,72 @@
+#pragma once
+
+#include <orv/core/Export.h>
+#include <orv/table_model/TableFilter.h>
+#include <orv/table_model/TableSheet.h>
+
+#include <QAbstractTableModel>
+#include <QLocale>
+
+#include <memory>
+
+namespace orv {
+
+/// What a view sees of a TableSheet: its rows in an order of their own and through a filter, its texts as
+/// people of a locale read them. Sorting and filtering change nothing in the sheet. A row that was edited or
+/// added stays where it is until somebody sorts or filters again: nothing jumps while people type.
+class ORV_WORKFLOW_EXPORT TableModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Role
+    {
+        ProblemRole = Qt::UserRole, ///< why the cell isn't allowed, or an empty text
+        KindRole,                   ///< int(TableColumnKind)
+        KeptRole,                   ///< the text as the sheet keeps it
+    };
+
+    /// The sheet outlives the model.
+    explicit TableModel(TableSheet *sheet, QObject *parent = nullptr);
+    ~TableModel() override;
+
+    [[nodiscard]] TableSheet *sheet() const;
+
+    [[nodiscard]] QLocale locale() const;
+    void setLocale(const QLocale &locale);
+    [[nodiscard]] NumberText::DecimalSign decimalSign() const;
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    /// Takes a text as people type it.
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+    /// By the numbers of a numeric column, else by text with the numbers in it ("S2" before "S10"); what is
+    /// empty stands last. The order of the sheet for a \a column of -1.
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+    [[nodiscard]] int sortColumn() const;
+
+    [[nodiscard]] TableFilter filter() const;
+    void setFilter(const TableFilter &filter);
+    /// The filter looks into all columns but these.
+    void setHiddenColumns(const QList<int> &columns);
+
+    /// Whether each row stands where it stands in the sheet, so that it can be moved.
+    [[nodiscard]] bool isInSheetOrder() const;
+
+    [[nodiscard]] int sheetRow(int row) const;
+    /// -1 for a row that isn't shown.
+    [[nodiscard]] int rowOfSheetRow(int sheetRow) const;
+    [[nodiscard]] quint32 rowId(int row) const;
+    /// -1 for a row that isn't shown.
+    [[nodiscard]] int rowOfId(quint32 id) const;
+
+private:
+    class Private;
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace orv

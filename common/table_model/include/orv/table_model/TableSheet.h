@@ -1,0 +1,100 @@
+#pragma once
+
+#include <orv/core/Export.h>
+#include <orv/core/Result.h>
+#include <orv/table_model/TableColumn.h>
+
+#include <QList>
+#include <QObject>
+#include <QStringList>
+
+#include <memory>
+
+QT_FORWARD_DECLARE_CLASS(QUndoStack)
+
+namespace orv {
+
+/// A text for a cell. The place may lie behind the last row: the rows up to it are added.
+struct TableCellText
+{
+    int row = 0;
+    int column = 0;
+    QStringView text; ///< in the kept form; need not outlive the call that takes it
+};
+
+/// The rows of a table that people edit, with its history. Cells hold texts in the form that
+/// TableColumn::kept() makes; a text that isn't allowed may stand in a cell, which then has a problem. Every
+/// function that edits is one step of the history, and none where nothing changes. GUI thread.
+class ORV_WORKFLOW_EXPORT TableSheet : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit TableSheet(QList<TableColumn> columns, QObject *parent = nullptr);
+    ~TableSheet() override;
+
+    [[nodiscard]] const QList<TableColumn> &columns() const;
+    [[nodiscard]] int columnCount() const;
+    /// -1 for a name that no column has.
+    [[nodiscard]] int columnOf(const QString &name) const;
+
+    [[nodiscard]] int rowCount() const;
+    /// Valid until the next edit.
+    [[nodiscard]] QStringView text(int row, int column) const;
+    [[nodiscard]] QStringList texts(int row) const;
+    [[nodiscard]] QList<QStringList> allTexts() const;
+    [[nodiscard]] QString problem(int row, int column) const;
+
+    /// A number that stays with a row for the life of the sheet, wherever it is moved; also readable while
+    /// the row is removed.
+    [[nodiscard]] quint32 rowId(int row) const;
+    [[nodiscard]] const QList<quint32> &rowIds() const;
+    /// -1 for a row that isn't in the table.
+    [[nodiscard]] int rowOf(quint32 id) const;
+    [[nodiscard]] QStringView textOf(quint32 id, int column) const;
+
+    /// Undo and redo. Its steps name what was done.
+    [[nodiscard]] QUndoStack *history() const;
+
+    /// Replaces everything, and forgets the history. Rows may be ragged: what they lack is empty, and what
+    /// they have too much is left out. InvalidContent for more text than a table holds; the old rows stay.
+    [[nodiscard]] Error load(const QList<QStringList> &rows);
+
+    /// InvalidContent for more text than a table holds; nothing changes then.
+    [[nodiscard]] Error setCells(const QList<TableCellText> &cells, const QString &step);
+    [[nodiscard]] Error setText(int row, int column, QStringView kept);
+    /// Rows with the columns' default texts before the row \a at.
+    void insertRows(int at, int count);
+    /// Rows that may be ragged, as load() takes them, before the row \a at.
+    [[nodiscard]] Error insertRows(int at, const QList<QStringList> &rows, const QString &step);
+    /// Each copy stands below the last of \a rows.
+    void duplicateRows(const QList<int> &rows);
+    void removeRows(const QList<int> &rows);
+    /// \a rows, in the order that they have, come to stand before the row \a before, which counts in the
+    /// table as it is.
+    void moveRows(const QList<int> &rows, int before);
+    /// \a ids are those of all rows.
+    void setOrder(const QList<quint32> &ids);
+
+    /// How many cells have a problem among the rows that were looked at, and whether all were. Edits change
+    /// the number at once or leave rows to be looked at.
+    [[nodiscard]] int problemCount() const;
+    [[nodiscard]] bool areProblemsCounted() const;
+    /// Looks at so many rows at most, so that a window stays alive; emits problemsCounted() at the last one.
+    void countProblems(int rows);
+
+Q_SIGNALS:
+    void cellsChanged(const QList<quint32> &ids, int firstColumn, int lastColumn);
+    /// \a places are ascending and count with these rows in the table.
+    void rowsInserted(const QList<int> &places);
+    void rowsRemoved(const QList<quint32> &ids);
+    void rowsReordered();
+    void loaded();
+    void problemsCounted();
+
+private:
+    class Private;
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace orv

@@ -1,0 +1,159 @@
+#include "orv/table_model/TableColumn.h"
+
+#include <QColor>
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace orv {
+
+namespace {
+
+struct TableColumnTr
+{
+    Q_DECLARE_TR_FUNCTIONS(TableColumn)
+};
+
+QString numberOf(double bound)
+{
+    return QLocale::c().toString(bound, 'g', QLocale::FloatingPointShortest);
+}
+
+QString rangeProblem(const TableColumn &column, double number)
+{
+    const bool isBelow = column.minimum && number < *column.minimum;
+    const bool isAbove = column.maximum && number > *column.maximum;
+    if (!isBelow && !isAbove)
+        return {};
+    const QString unit = column.unit.isEmpty() ? QString() : u' ' + column.unit;
+    if (column.minimum && column.maximum)
+        return TableColumnTr::tr("Must lie between %1 and %2%3.")
+            .arg(numberOf(*column.minimum), numberOf(*column.maximum), unit);
+    return isBelow ? TableColumnTr::tr("Must be at least %1%2.").arg(numberOf(*column.minimum), unit)
+                   : TableColumnTr::tr("Must be at most %1%2.").arg(numberOf(*column.maximum), unit);
+}
+
+QString numberProblem(const TableColumn &column, QStringView kept)
+{
+    const std::optional<double> number = NumberText::value(kept);
+    if (!number && NumberText::isAmbiguous(kept)) {
+        QString whole = kept.toString();
+        return TableColumnTr::tr("May be %1 or %2; write it without a sign between thousands.")
+            .arg(QString(whole).remove(u','), QString(whole).replace(u',', u'.'));
+    }
+    if (!number)
+        return column.kind == TableColumnKind::Integer ? TableColumnTr::tr("Is not a whole number.")
+                                                       : TableColumnTr::tr("Is not a number.");
+    const bool isWhole = !kept.contains(u'.') && !kept.contains(u'e') && !kept.contains(u'E');
+    if (column.kind == TableColumnKind::Integer && !isWhole)
+        return TableColumnTr::tr("Must be a whole number.");
+    return rangeProblem(column, *number);
+}
+
+QString sequenceProblem(QStringView kept)
+{
+    const auto isAllowed = [](QChar c) {
+        return c.isLetter() || c.isDigit() || QStringView(u"()[]{}-_*.+:/").contains(c);
+    };
+    const auto odd = std::find_if_not(kept.cbegin(), kept.cend(), isAllowed);
+    return odd == kept.cend() ? QString()
+                              : TableColumnTr::tr("Position %1 holds \"%2\", which no sequence has.")
+                                    .arg(odd - kept.cbegin() + 1)
+                                    .arg(*odd);
+}
+
+QString kindProblem(const TableColumn &column, QStringView kept)
+{
+    switch (column.kind) {
+    case TableColumnKind::Integer:
+    case TableColumnKind::Number:
+        return numberProblem(column, kept);
+    case TableColumnKind::Choice:
+        return std::find(column.choices.cbegin(), column.choices.cend(), kept) != column.choices.cend()
+                   ? QString()
+                   : TableColumnTr::tr("Is none of: %1.").arg(column.choices.join(QStringLiteral(", ")));
+    case TableColumnKind::Sequence:
+        return sequenceProblem(kept);
+    case TableColumnKind::Color:
+        return QColor::isValidColor(kept.toString())
+                   ? QString()
+                   : TableColumnTr::tr("Is no colour; write it as #rrggbb or by its name.");
+    case TableColumnKind::Text:
+    case TableColumnKind::File:
+        break;
+    }
+    return {};
+}
+
+QString keptChoice(const QStringList &choices, QStringView typed)
+{
+    const QStringView wanted = typed.trimmed();
+    for (const QString &choice : choices) {
+        if (wanted.compare(choice, Qt::CaseInsensitive) == 0)
+            return choice;
+    }
+    return typed.toString();
+}
+
+QString keptSequence(QStringView typed)
+{
+    QString kept = typed.toString();
+    kept.removeIf([](QChar c) { return c.isSpace(); });
+    // Modifications stand in brackets and in mixed case.
+    return kept.contains(u'(') || kept.contains(u'[') ? kept : kept.toUpper();
+}
+
+} // namespace
+
+QString TableColumn::header() const
+{
+    return unit.isEmpty() ? title : TableColumnTr::tr("%1 (%2)").arg(title, unit);
+}
+
+bool TableColumn::isNumeric() const
+{
+    return kind == TableColumnKind::Integer || kind == TableColumnKind::Number;
+}
+
+QString TableColumn::kept(QStringView typed, NumberText::DecimalSign sign) const
+{
+    switch (kind) {
+    case TableColumnKind::Integer:
+    case TableColumnKind::Number:
+        return NumberText::canonical(typed, sign).value_or(typed.toString());
+    case TableColumnKind::Choice:
+        return keptChoice(choices, typed);
+    case TableColumnKind::Sequence:
+        return keptSequence(typed);
+    case TableColumnKind::File:
+    case TableColumnKind::Color:
+        return typed.trimmed().toString();
+    case TableColumnKind::Text:
+        break;
+    }
+    return typed.toString();
+}
+
+QString TableColumn::shown(QStringView kept, NumberText::DecimalSign sign) const
+{
+    return isNumeric() ? NumberText::shown(kept, sign) : kept.toString();
+}
+
+QString TableColumn::problem(QStringView kept) const
+{
+    if (kept.isEmpty())
+        return isRequired ? TableColumnTr::tr("Must not be empty.") : QString();
+    const QString ofKind = kindProblem(*this, kept);
+    return ofKind.isEmpty() && check ? check(kept) : ofKind;
+}
+
+bool TableColumn::isMeantBy(QStringView header) const
+{
+    const QStringView wanted = header.trimmed();
+    const auto is = [&](const QString &text) {
+        return !text.isEmpty() && wanted.compare(text, Qt::CaseInsensitive) == 0;
+    };
+    return is(title) || is(name) || is(this->header()) || is(QStringLiteral("%1 [%2]").arg(title, unit));
+}
+
+} // namespace orv

@@ -1,0 +1,414 @@
+#include "orv/table_model/TableSheet.h"
+
+#include "internal/TableEdit.h"
+#include "internal/TableOrder.h"
+#include "internal/TableProblems.h"
+
+#include <QCoreApplication>
+#include <QUndoStack>
+
+#include <algorithm>
+#include <numeric>
+
+namespace orv {
+
+namespace {
+
+struct TableSheetTr
+{
+    Q_DECLARE_TR_FUNCTIONS(TableSheet)
+};
+
+QList<int> ascendingRows(QList<int> rows, int rowCount)
+{
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    rows.removeIf([rowCount](int row) { return row < 0 || row >= rowCount; });
+    return rows;
+}
+
+QList<int> rowsFrom(int first, qsizetype count)
+{
+    QList<int> rows(count);
+    std::iota(rows.begin(), rows.end(), first);
+    return rows;
+}
+
+qsizetype unitsOf(const QList<QStringList> &rows)
+{
+    qsizetype units = 0;
+    for (const QStringList &row : rows) {
+        for (const QString &text : row)
+            units += text.size();
+    }
+    return units;
+}
+
+Error tooMuchText()
+{
+    Error error(ErrorCode::InvalidContent, TableSheetTr::tr("The table can't hold that much text."));
+    return error.addDetail(TableSheetTr::tr("Split it into several tables."));
+}
+
+} // namespace
+
+class TableSheet::Private
+{
+public:
+    Private(TableSheet *sheet, QList<TableColumn> columnsOfSheet)
+        : q(sheet)
+        , columns(std::move(columnsOfSheet))
+        , store(int(columns.size()))
+        , history(new QUndoStack(sheet))
+    {}
+
+    void push(QList<TableStep> steps, const QString &name);
+    void take(const TableStep &step);
+    void takeCells(const QList<TableCellChange> &cells);
+    void takeRows(const TableRowsChange &rows);
+
+    quint32 addRow(const QStringList &texts);
+    quint32 addDefaultRow();
+    [[nodiscard]] std::vector<TableSlot> keepAll(const QList<TableCellText> &cells);
+    [[nodiscard]] int problemsOfRow(quint32 id) const;
+
+    TableSheet *q;
+    QList<TableColumn> columns;
+    TableStore store;
+    TableOrder order;
+    TableProblems problems;
+    QUndoStack *history;
+    int lookedUpTo = 0;
+};
+
+void TableSheet::Private::push(QList<TableStep> steps, const QString &name)
+{
+    history->push(new TableEdit([this](const TableStep &step) { take(step); }, std::move(steps), name));
+}
+
+void TableSheet::Private::take(const TableStep &step)
+{
+    if (const auto *cells = std::get_if<QList<TableCellChange>>(&step)) {
+        takeCells(*cells);
+    } else if (const auto *rows = std::get_if<TableRowsChange>(&step)) {
+        takeRows(*rows);
+    } else {
+        order.assign(std::get<TableOrderChange>(step).after);
+        Q_EMIT q->rowsReordered();
+    }
+}
+
+void TableSheet::Private::takeCells(const QList<TableCellChange> &cells)
+{
+    QList<quint32> ids;
+    int first = int(columns.size());
+    int last = 0;
+    for (const TableCellChange &cell : cells) {
+        store.setSlot(cell.row, cell.column, cell.after);
+        first = std::min(first, cell.column);
+        last = std::max(last, cell.column);
+        if (ids.isEmpty() || ids.constLast() != cell.row) {
+            ids.append(cell.row);
+            problems.forget(cell.row);
+        }
+    }
+    Q_EMIT q->cellsChanged(ids, first, last);
+}
+
+void TableSheet::Private::takeRows(const TableRowsChange &rows)
+{
+    for (const quint32 row : rows.rows)
+        rows.isInsertion ? problems.enter(row) : problems.leave(row);
+    if (rows.isInsertion) {
+        order.insert(rows.places, rows.rows);
+        Q_EMIT q->rowsInserted(rows.places);
+    } else {
+        order.remove(rows.places);
+        Q_EMIT q->rowsRemoved(rows.rows);
+    }
+}
+
+quint32 TableSheet::Private::addRow(const QStringList &texts)
+{
+    const quint32 id = store.addRow();
+    problems.setRowCount(store.rowCount());
+    const qsizetype count = std::min(texts.size(), columns.size());
+    for (int column = 0; column < count; ++column)
+        store.setSlot(id, column, store.keep(texts[column]));
+    return id;
+}
+
+quint32 TableSheet::Private::addDefaultRow()
+{
+    QStringList texts;
+    for (const TableColumn &column : columns)
+        texts.append(column.defaultText);
+    return addRow(texts);
+}
+
+std::vector<TableSlot> TableSheet::Private::keepAll(const QList<TableCellText> &cells)
+{
+    // Texts of the table itself are found before the first new one moves it.
+    std::vector<TableSlot> kept(size_t(cells.size()));
+    for (size_t i = 0; i < kept.size(); ++i)
+        kept[i] = store.slotOf(cells[qsizetype(i)].text).value_or(TableSlot());
+    for (size_t i = 0; i < kept.size(); ++i) {
+        if (kept[i].size == 0)
+            kept[i] = store.keep(cells[qsizetype(i)].text);
+    }
+    return kept;
+}
+
+int TableSheet::Private::problemsOfRow(quint32 id) const
+{
+    int count = 0;
+    for (int column = 0; column < columns.size(); ++column)
+        count += columns[column].problem(store.text(id, column)).isEmpty() ? 0 : 1;
+    return count;
+}
+
+TableSheet::TableSheet(QList<TableColumn> columns, QObject *parent)
+    : QObject(parent)
+    , d(std::make_unique<Private>(this, std::move(columns)))
+{}
+
+TableSheet::~TableSheet() = default;
+
+const QList<TableColumn> &TableSheet::columns() const
+{
+    return d->columns;
+}
+
+int TableSheet::columnCount() const
+{
+    return int(d->columns.size());
+}
+
+int TableSheet::columnOf(const QString &name) const
+{
+    const auto found = std::find_if(d->columns.cbegin(), d->columns.cend(),
+                                    [&](const TableColumn &column) { return column.name == name; });
+    return found == d->columns.cend() ? -1 : int(found - d->columns.cbegin());
+}
+
+int TableSheet::rowCount() const
+{
+    return d->order.size();
+}
+
+QStringView TableSheet::text(int row, int column) const
+{
+    return d->store.text(d->order.at(row), column);
+}
+
+QStringList TableSheet::texts(int row) const
+{
+    QStringList texts;
+    for (int column = 0; column < columnCount(); ++column)
+        texts.append(text(row, column).toString());
+    return texts;
+}
+
+QList<QStringList> TableSheet::allTexts() const
+{
+    QList<QStringList> rows;
+    rows.reserve(rowCount());
+    for (int row = 0; row < rowCount(); ++row)
+        rows.append(texts(row));
+    return rows;
+}
+
+QString TableSheet::problem(int row, int column) const
+{
+    return d->columns[column].problem(text(row, column));
+}
+
+quint32 TableSheet::rowId(int row) const
+{
+    return d->order.at(row);
+}
+
+const QList<quint32> &TableSheet::rowIds() const
+{
+    return d->order.ids();
+}
+
+int TableSheet::rowOf(quint32 id) const
+{
+    return d->order.placeOf(id);
+}
+
+QStringView TableSheet::textOf(quint32 id, int column) const
+{
+    return d->store.text(id, column);
+}
+
+QUndoStack *TableSheet::history() const
+{
+    return d->history;
+}
+
+Error TableSheet::load(const QList<QStringList> &rows)
+{
+    if (unitsOf(rows) > TableStore::kMaxUnits)
+        return tooMuchText();
+    d->history->clear();
+    d->store = TableStore(columnCount());
+    d->store.reserveRows(rows.size());
+    d->problems = {};
+    d->lookedUpTo = 0;
+    QList<quint32> ids;
+    ids.reserve(rows.size());
+    for (const QStringList &row : rows) {
+        ids.append(d->addRow(row));
+        d->problems.enter(ids.constLast());
+    }
+    d->order.assign(std::move(ids));
+    Q_EMIT loaded();
+    return Error::NoError;
+}
+
+Error TableSheet::setCells(const QList<TableCellText> &cells, const QString &step)
+{
+    qsizetype units = 0;
+    int lastRow = -1;
+    for (const TableCellText &cell : cells) {
+        units += cell.text.size();
+        lastRow = std::max(lastRow, cell.row);
+    }
+    if (!d->store.hasRoom(units))
+        return tooMuchText();
+    const std::vector<TableSlot> kept = d->keepAll(cells);
+    const int oldCount = rowCount();
+    QList<quint32> newRows;
+    while (oldCount + newRows.size() <= lastRow)
+        newRows.append(d->addDefaultRow());
+    QList<TableCellChange> changes;
+    changes.reserve(cells.size());
+    for (qsizetype i = 0; i < cells.size(); ++i) {
+        const auto &[row, column, text] = cells[i];
+        if (row >= oldCount) {
+            d->store.setSlot(newRows[row - oldCount], column, kept[size_t(i)]);
+        } else if (const TableSlot before = d->store.slot(rowId(row), column);
+                   d->store.text(before) != d->store.text(kept[size_t(i)])) {
+            changes.append({rowId(row), column, before, kept[size_t(i)]});
+        }
+    }
+    QList<TableStep> steps;
+    if (!changes.isEmpty())
+        steps.append(std::move(changes));
+    if (!newRows.isEmpty())
+        steps.append(TableRowsChange{rowsFrom(oldCount, newRows.size()), std::move(newRows), true});
+    if (!steps.isEmpty())
+        d->push(std::move(steps), step);
+    return Error::NoError;
+}
+
+Error TableSheet::setText(int row, int column, QStringView kept)
+{
+    return setCells({{row, column, kept}}, tr("change %1").arg(d->columns[column].title));
+}
+
+void TableSheet::insertRows(int at, int count)
+{
+    if (count <= 0)
+        return;
+    QList<quint32> ids;
+    for (int i = 0; i < count; ++i)
+        ids.append(d->addDefaultRow());
+    const int place = std::clamp(at, 0, rowCount());
+    d->push({TableRowsChange{rowsFrom(place, count), ids, true}}, tr("add %n row(s)", nullptr, count));
+}
+
+Error TableSheet::insertRows(int at, const QList<QStringList> &rows, const QString &step)
+{
+    if (!d->store.hasRoom(unitsOf(rows)))
+        return tooMuchText();
+    if (rows.isEmpty())
+        return Error::NoError;
+    QList<quint32> ids;
+    ids.reserve(rows.size());
+    for (const QStringList &row : rows)
+        ids.append(d->addRow(row));
+    d->push({TableRowsChange{rowsFrom(std::clamp(at, 0, rowCount()), rows.size()), ids, true}}, step);
+    return Error::NoError;
+}
+
+void TableSheet::duplicateRows(const QList<int> &rows)
+{
+    const QList<int> originals = ascendingRows(rows, rowCount());
+    if (originals.isEmpty())
+        return;
+    QList<quint32> copies;
+    for (const int row : originals) {
+        copies.append(d->store.addRow());
+        for (int column = 0; column < columnCount(); ++column)
+            d->store.setSlot(copies.constLast(), column, d->store.slot(rowId(row), column));
+    }
+    d->problems.setRowCount(d->store.rowCount());
+    d->push({TableRowsChange{rowsFrom(originals.constLast() + 1, copies.size()), copies, true}},
+            tr("duplicate %n row(s)", nullptr, int(copies.size())));
+}
+
+void TableSheet::removeRows(const QList<int> &rows)
+{
+    const QList<int> places = ascendingRows(rows, rowCount());
+    if (places.isEmpty())
+        return;
+    QList<quint32> ids;
+    for (const int row : places)
+        ids.append(rowId(row));
+    d->push({TableRowsChange{places, ids, false}}, tr("remove %n row(s)", nullptr, int(ids.size())));
+}
+
+void TableSheet::moveRows(const QList<int> &rows, int before)
+{
+    const QList<int> moved = ascendingRows(rows, rowCount());
+    const QList<quint32> &old = d->order.ids();
+    QList<quint32> head;
+    QList<quint32> tail;
+    QList<quint32> middle;
+    auto next = moved.cbegin();
+    for (int row = 0; row < old.size(); ++row) {
+        const bool isMoved = next != moved.cend() && *next == row;
+        if (isMoved)
+            ++next;
+        (isMoved ? middle : row < before ? head : tail).append(old[row]);
+    }
+    const QList<quint32> after = head + middle + tail;
+    if (after != old)
+        d->push({TableOrderChange{old, after}}, tr("move %n row(s)", nullptr, int(moved.size())));
+}
+
+void TableSheet::setOrder(const QList<quint32> &ids)
+{
+    Q_ASSERT(ids.size() == rowCount());
+    if (ids != d->order.ids())
+        d->push({TableOrderChange{d->order.ids(), ids}}, tr("order the rows"));
+}
+
+int TableSheet::problemCount() const
+{
+    return d->problems.count();
+}
+
+bool TableSheet::areProblemsCounted() const
+{
+    return d->problems.unknownRows() == 0;
+}
+
+void TableSheet::countProblems(int rows)
+{
+    if (areProblemsCounted())
+        return;
+    for (int i = 0; i < std::min(rows, rowCount()) && !areProblemsCounted(); ++i) {
+        d->lookedUpTo = d->lookedUpTo + 1 < rowCount() ? d->lookedUpTo + 1 : 0;
+        const quint32 id = rowId(d->lookedUpTo);
+        if (!d->problems.isKnown(id))
+            d->problems.setCount(id, d->problemsOfRow(id));
+    }
+    if (areProblemsCounted())
+        Q_EMIT problemsCounted();
+}
+
+} // namespace orv

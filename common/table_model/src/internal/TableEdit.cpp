@@ -1,0 +1,54 @@
+#include "TableEdit.h"
+
+#include <algorithm>
+
+namespace orv {
+
+namespace {
+
+TableStep inverseOf(QList<TableCellChange> cells)
+{
+    for (TableCellChange &cell : cells)
+        std::swap(cell.before, cell.after);
+    // A cell that changed twice in a step has to go back in the other order.
+    std::reverse(cells.begin(), cells.end());
+    return cells;
+}
+
+TableStep inverseOf(TableRowsChange rows)
+{
+    rows.isInsertion = !rows.isInsertion;
+    return rows;
+}
+
+TableStep inverseOf(const TableOrderChange &order)
+{
+    return TableOrderChange{order.after, order.before};
+}
+
+} // namespace
+
+TableStep inverse(const TableStep &step)
+{
+    return std::visit([](const auto &change) { return inverseOf(change); }, step);
+}
+
+TableEdit::TableEdit(Take take, QList<TableStep> steps, const QString &text)
+    : QUndoCommand(text)
+    , m_take(std::move(take))
+    , m_steps(std::move(steps))
+{}
+
+void TableEdit::undo()
+{
+    for (auto step = m_steps.crbegin(); step != m_steps.crend(); ++step)
+        m_take(inverse(*step));
+}
+
+void TableEdit::redo()
+{
+    for (const TableStep &step : m_steps)
+        m_take(step);
+}
+
+} // namespace orv

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "TableStore.h"
+
+#include <QList>
+#include <QUndoCommand>
+
+#include <functional>
+#include <variant>
+
+namespace orv {
+
+struct TableCellChange
+{
+    quint32 row = 0; ///< its id
+    int column = 0;
+    TableSlot before;
+    TableSlot after;
+};
+
+/// Rows that come or go. What they hold lies in the store all the time.
+struct TableRowsChange
+{
+    QList<int> places; ///< ascending, with these rows in their places
+    QList<quint32> rows;
+    bool isInsertion = true;
+};
+
+struct TableOrderChange
+{
+    QList<quint32> before;
+    QList<quint32> after;
+};
+
+using TableStep = std::variant<QList<TableCellChange>, TableRowsChange, TableOrderChange>;
+
+/// The same step the other way.
+[[nodiscard]] TableStep inverse(const TableStep &step);
+
+/// One entry of a table's history.
+class TableEdit : public QUndoCommand
+{
+public:
+    /// \a take does a step; whoever owns the history outlives this.
+    using Take = std::function<void(const TableStep &)>;
+
+    TableEdit(Take take, QList<TableStep> steps, const QString &text);
+
+    void undo() override;
+    void redo() override;
+
+private:
+    Take m_take;
+    QList<TableStep> m_steps;
+};
+
+} // namespace orv

@@ -1,0 +1,37 @@
+#include "TableProblems.h"
+
+namespace orv {
+
+void TableProblems::enter(quint32 row)
+{
+    if (isKnown(row))
+        m_count += m_ofRows[row];
+    else
+        ++m_unknownRows;
+}
+
+void TableProblems::leave(quint32 row)
+{
+    if (isKnown(row))
+        m_count -= m_ofRows[row];
+    else
+        --m_unknownRows;
+}
+
+void TableProblems::forget(quint32 row)
+{
+    if (!isKnown(row))
+        return;
+    m_count -= m_ofRows[row];
+    m_ofRows[row] = kUnknown;
+    ++m_unknownRows;
+}
+
+void TableProblems::setCount(quint32 row, int problems)
+{
+    leave(row);
+    m_ofRows[row] = quint16(problems);
+    enter(row);
+}
+
+} // namespace orv

@@ -1,0 +1,34 @@
+#include "TableStore.h"
+
+#include <functional>
+
+namespace orv {
+
+quint32 TableStore::addRow()
+{
+    m_slots.resize(m_slots.size() + size_t(m_columns));
+    return m_rows++;
+}
+
+std::optional<TableSlot> TableStore::slotOf(QStringView text) const
+{
+    const char16_t *const begin = m_units.data();
+    const char16_t *const source = text.utf16();
+    const std::less<const char16_t *> isBefore;
+    if (m_units.empty() || text.isEmpty() || isBefore(source, begin) ||
+        !isBefore(source, begin + m_units.size()))
+        return std::nullopt;
+    return TableSlot{quint32(source - begin), quint32(text.size())};
+}
+
+TableSlot TableStore::keep(QStringView text)
+{
+    if (text.isEmpty())
+        return {};
+    Q_ASSERT(hasRoom(text.size()));
+    const auto at = quint32(m_units.size());
+    m_units.insert(m_units.end(), text.utf16(), text.utf16() + text.size());
+    return {at, quint32(text.size())};
+}
+
+} // namespace orv

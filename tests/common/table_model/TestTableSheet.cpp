@@ -1,0 +1,293 @@
+#include "OrvTest.h"
+#include "TableFixture.h"
+
+#include <QRandomGenerator>
+#include <QSignalSpy>
+
+using namespace orv;
+using namespace Qt::StringLiterals;
+using TableFixture::names;
+using TableFixture::rows;
+
+namespace {
+
+struct PeptideSheet : TableSheet
+{
+    PeptideSheet()
+        : TableSheet(TableFixture::columns())
+    {
+        if (load(TableFixture::peptides()).hasError())
+            qFatal("The fixture doesn't load");
+    }
+};
+
+/// One random edit; rows are few at times, so that all of them go.
+void editAtRandom(TableSheet &sheet, QRandomGenerator &random)
+{
+    const auto someRow = [&] { return int(random.bounded(std::max(1, sheet.rowCount()))); };
+    const auto someRows = [&] { return QList<int>{someRow(), someRow(), someRow()}; };
+    const auto someText = [&] {
+        return u"abcdefghij 0123456789,;"_s.mid(int(random.bounded(20)), int(random.bounded(9)));
+    };
+    const auto mustWork = [](const Error &error) {
+        if (error.hasError())
+            qFatal("An edit failed");
+    };
+    switch (random.bounded(7)) {
+    case 0: {
+        const QString text = someText();
+        mustWork(sheet.setText(someRow(), int(random.bounded(4)), text));
+        break;
+    }
+    case 1: {
+        const QString first = someText();
+        const QString second = someText();
+        const int row = someRow();
+        mustWork(sheet.setCells({{row, 0, first}, {row + 3, 2, second}, {row, 0, second}}, u"several"_s));
+        break;
+    }
+    case 2:
+        sheet.insertRows(someRow(), int(random.bounded(4)));
+        break;
+    case 3:
+        sheet.duplicateRows(someRows());
+        break;
+    case 4:
+        sheet.removeRows(someRows());
+        break;
+    case 5:
+        sheet.moveRows(someRows(), someRow());
+        break;
+    default: {
+        QList<quint32> ids = sheet.rowIds();
+        std::shuffle(ids.begin(), ids.end(), random);
+        sheet.setOrder(ids);
+    }
+    }
+}
+
+} // namespace
+
+class TestTableSheet : public OrvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void raggedRowsAreFilledAndCut();
+    void cellsAreChangedInOneStep();
+    void whatChangesNothingIsNoStep();
+    void cellsBelowTheEndMakeRows();
+    void textsOfTheTableItselfMayBeGiven();
+    void newRowsHaveDefaults();
+    void copiesStandBelow();
+    void removedRowsComeBackWhereTheyWere();
+    void rowsMoveTogether_data();
+    void rowsMoveTogether();
+    void rowsKeepTheirIds();
+    void loadingForgetsTheHistory();
+    void problemsAreCounted();
+    void randomEditsAreUndoneAndRedone_data();
+    void randomEditsAreUndoneAndRedone();
+};
+
+void TestTableSheet::raggedRowsAreFilledAndCut()
+{
+    TableSheet sheet(TableFixture::columns());
+    ORV_VERIFY_OK(sheet.load({{u"a"_s}, {u"b"_s, u"1"_s, u"2"_s, u"Positive"_s, u"too much"_s}}));
+    QCOMPARE(sheet.allTexts(), rows({"a - - -", "b 1 2 Positive"}));
+    QCOMPARE(sheet.columnOf(u"mass"_s), 1);
+    QCOMPARE(sheet.columnOf(u"Mass"_s), -1);
+}
+
+void TestTableSheet::cellsAreChangedInOneStep()
+{
+    PeptideSheet sheet;
+    const QSignalSpy changes(&sheet, &TableSheet::cellsChanged);
+    ORV_VERIFY_OK(sheet.setCells({{0, 1, u"1"}, {2, 3, u"Negative"}}, u"two cells"_s));
+    QCOMPARE(changes.size(), 1);
+    QCOMPARE(sheet.history()->undoText(), u"two cells"_s);
+    QCOMPARE(sheet.texts(0), TableFixture::row("alpha 1 2 Positive"));
+    QCOMPARE(sheet.texts(2), TableFixture::row("gamma 99 1 Negative"));
+    sheet.history()->undo();
+    QCOMPARE(sheet.allTexts(), TableFixture::peptides());
+    sheet.history()->redo();
+    QCOMPARE(sheet.text(0, 1), u"1");
+}
+
+void TestTableSheet::whatChangesNothingIsNoStep()
+{
+    PeptideSheet sheet;
+    ORV_VERIFY_OK(sheet.setText(0, 0, u"alpha"));
+    ORV_VERIFY_OK(sheet.insertRows(0, {}, u"nothing"_s));
+    sheet.insertRows(0, 0);
+    sheet.removeRows({-1, 99});
+    sheet.moveRows({1}, 1);
+    sheet.moveRows({1}, 2);
+    sheet.duplicateRows({});
+    sheet.setOrder(sheet.rowIds());
+    QCOMPARE(sheet.history()->count(), 0);
+}
+
+void TestTableSheet::cellsBelowTheEndMakeRows()
+{
+    PeptideSheet sheet;
+    ORV_VERIFY_OK(sheet.setCells({{6, 0, u"new"}}, u"below"_s));
+    QCOMPARE(sheet.rowCount(), 7);
+    QCOMPARE(sheet.texts(5), rows({"- - 2 -"})[0]);
+    QCOMPARE(sheet.texts(6), rows({"new - 2 -"})[0]);
+    sheet.history()->undo();
+    QCOMPARE(sheet.rowCount(), 5);
+}
+
+void TestTableSheet::textsOfTheTableItselfMayBeGiven()
+{
+    PeptideSheet sheet;
+    QList<TableCellText> cells;
+    const QString other(5000, u'x');
+    for (int row = 0; row < 5; ++row)
+        cells.append({row, 3, sheet.text(4 - row, 0)});
+    cells.append({0, 0, other});
+    ORV_VERIFY_OK(sheet.setCells(cells, u"turn"_s));
+    QCOMPARE(sheet.text(0, 3), u"S2");
+    QCOMPARE(sheet.text(4, 3), u"alpha");
+    QCOMPARE(sheet.text(0, 0), other);
+}
+
+void TestTableSheet::newRowsHaveDefaults()
+{
+    PeptideSheet sheet;
+    sheet.insertRows(1, 2);
+    QCOMPARE(names(sheet), TableFixture::rows({"alpha - - beta gamma S10 S2"})[0]);
+    QCOMPARE(sheet.texts(1), rows({"- - 2 -"})[0]);
+    QCOMPARE(sheet.history()->undoText(), u"add 2 row(s)"_s);
+}
+
+void TestTableSheet::copiesStandBelow()
+{
+    PeptideSheet sheet;
+    sheet.duplicateRows({2, 0});
+    QCOMPARE(names(sheet), TableFixture::row("alpha beta gamma alpha gamma S10 S2"));
+    ORV_VERIFY_OK(sheet.setText(3, 0, u"copy"));
+    QCOMPARE(sheet.text(0, 0), u"alpha");
+}
+
+void TestTableSheet::removedRowsComeBackWhereTheyWere()
+{
+    PeptideSheet sheet;
+    sheet.removeRows({4, 0, 2, 2});
+    QCOMPARE(names(sheet), TableFixture::row("beta S10"));
+    sheet.history()->undo();
+    QCOMPARE(sheet.allTexts(), TableFixture::peptides());
+    sheet.removeRows({0, 1, 2, 3, 4});
+    QCOMPARE(sheet.rowCount(), 0);
+}
+
+void TestTableSheet::rowsMoveTogether_data()
+{
+    QTest::addColumn<QList<int>>("moved");
+    QTest::addColumn<int>("before");
+    QTest::addColumn<QString>("order");
+    QTest::newRow("up") << QList<int>{2, 3} << 1 << u"alpha gamma S10 beta S2"_s;
+    QTest::newRow("down") << QList<int>{0} << 2 << u"beta alpha gamma S10 S2"_s;
+    QTest::newRow("to the end") << QList<int>{0, 2} << 5 << u"beta S10 S2 alpha gamma"_s;
+    QTest::newRow("apart") << QList<int>{0, 4} << 2 << u"beta alpha S2 gamma S10"_s;
+}
+
+void TestTableSheet::rowsMoveTogether()
+{
+    QFETCH(QList<int>, moved);
+    QFETCH(int, before);
+    QFETCH(QString, order);
+    PeptideSheet sheet;
+    sheet.moveRows(moved, before);
+    QCOMPARE(names(sheet), order.split(u' '));
+    sheet.history()->undo();
+    QCOMPARE(sheet.allTexts(), TableFixture::peptides());
+}
+
+void TestTableSheet::rowsKeepTheirIds()
+{
+    PeptideSheet sheet;
+    const quint32 gamma = sheet.rowId(2);
+    sheet.removeRows({0});
+    QCOMPARE(sheet.rowOf(gamma), 1);
+    sheet.moveRows({1}, 0);
+    QCOMPARE(sheet.rowOf(gamma), 0);
+    sheet.removeRows({0});
+    QCOMPARE(sheet.rowOf(gamma), -1);
+    QCOMPARE(sheet.textOf(gamma, 0), u"gamma");
+    sheet.history()->undo();
+    QCOMPARE(sheet.rowOf(gamma), 0);
+}
+
+void TestTableSheet::loadingForgetsTheHistory()
+{
+    PeptideSheet sheet;
+    sheet.removeRows({0});
+    ORV_VERIFY_OK(sheet.load(rows({"x 1 2 -"})));
+    QVERIFY(!sheet.history()->canUndo());
+    QCOMPARE(sheet.allTexts(), rows({"x 1 2 -"}));
+}
+
+void TestTableSheet::problemsAreCounted()
+{
+    PeptideSheet sheet;
+    const QSignalSpy counted(&sheet, &TableSheet::problemsCounted);
+    ORV_VERIFY_OK(sheet.setCells({{0, 0, u""}, {0, 1, u"9000"}, {1, 2, u"0"}}, u"wrong"_s));
+    QVERIFY(!sheet.areProblemsCounted());
+    sheet.countProblems(3);
+    QVERIFY(!sheet.areProblemsCounted());
+    sheet.countProblems(3);
+    QVERIFY(sheet.areProblemsCounted());
+    QCOMPARE(counted.size(), 1);
+    QCOMPARE(sheet.problemCount(), 3);
+    QCOMPARE(sheet.problem(0, 1), u"Must lie between 0 and 5000 Da."_s);
+    sheet.removeRows({0});
+    QCOMPARE(sheet.problemCount(), 1);
+    sheet.history()->undo();
+    QCOMPARE(sheet.problemCount(), 3);
+    sheet.history()->undo();
+    sheet.countProblems(100);
+    QCOMPARE(sheet.problemCount(), 0);
+}
+
+void TestTableSheet::randomEditsAreUndoneAndRedone_data()
+{
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed = 1; seed <= 20; ++seed)
+        QTest::addRow("seed %u", seed) << seed;
+}
+
+void TestTableSheet::randomEditsAreUndoneAndRedone()
+{
+    QFETCH(quint32, seed);
+    QRandomGenerator random(seed);
+    PeptideSheet sheet;
+    QList<QList<QStringList>> states = {sheet.allTexts()};
+    for (int edit = 0; edit < 60; ++edit) {
+        const int steps = sheet.history()->count();
+        editAtRandom(sheet, random);
+        if (sheet.history()->count() > steps)
+            states.append(sheet.allTexts());
+    }
+    for (int step = sheet.history()->count(); step-- > 0;) {
+        sheet.history()->undo();
+        QCOMPARE(sheet.allTexts(), states[step]);
+    }
+    for (int step = 1; step < states.size(); ++step) {
+        sheet.history()->redo();
+        QCOMPARE(sheet.allTexts(), states[step]);
+    }
+    int problems = 0;
+    for (int row = 0; row < sheet.rowCount(); ++row) {
+        for (int column = 0; column < 4; ++column)
+            problems += sheet.problem(row, column).isEmpty() ? 0 : 1;
+    }
+    while (!sheet.areProblemsCounted())
+        sheet.countProblems(7);
+    QCOMPARE(sheet.problemCount(), problems);
+}
+
+ORV_REGISTER_TEST(TestTableSheet)
+
+#include "TestTableSheet.moc"
