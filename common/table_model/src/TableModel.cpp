@@ -332,6 +332,31 @@ int TableModel::sortColumn() const
     return d->sortColumn;
 }
 
+void TableModel::keepOrder()
+{
+    if (d->sortColumn < 0)
+        return;
+    const QList<quint32> ids = std::exchange(d->sorted, {});
+    d->sortColumn = -1;
+    d->sheet->setOrder(ids);
+}
+
+QModelIndex TableModel::nextProblem(const QModelIndex &from, const QList<int> &columns, int step) const
+{
+    const qint64 width = columns.size();
+    const qint64 cells = width * rowCount();
+    const qint64 start = from.isValid()
+                             ? from.row() * width + std::max<qint64>(columns.indexOf(from.column()), 0)
+                             : (step > 0 ? -1 : 0);
+    for (qint64 i = 1; i <= cells; ++i) {
+        const qint64 at = (start + (step > 0 ? i : cells - i) + cells) % cells;
+        const QModelIndex cell = index(int(at / width), columns[at % width]);
+        if (!cell.data(ProblemRole).toString().isEmpty())
+            return cell;
+    }
+    return {};
+}
+
 TableFilter TableModel::filter() const
 {
     return d->filter;

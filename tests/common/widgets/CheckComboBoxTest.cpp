@@ -1,3 +1,5 @@
+#include "WidgetTest.h"
+
 #include <orv/widgets/QxtCheckComboBox.h>
 
 #include <QAbstractItemView>
@@ -5,7 +7,6 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QStandardItemModel>
-#include <QTest>
 
 namespace {
 
@@ -271,5 +272,5 @@ void CheckComboBoxTest::textFollowsSeparatorAndDefault()
     QCOMPARE(box.defaultText(), text("nothing checked"));
 }
 
-QTEST_MAIN(CheckComboBoxTest)
+WIDGET_REGISTER_TEST(CheckComboBoxTest)
 #include "CheckComboBoxTest.moc"

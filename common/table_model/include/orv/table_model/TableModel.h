@@ -49,6 +49,13 @@ public:
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
     [[nodiscard]] int sortColumn() const;
 
+    /// Puts the rows of the sheet into the order of the sorted column, in one step of its history.
+    void keepOrder();
+
+    /// The nearest cell with a problem behind \a from (before it for a \a step of -1), and from the other end
+    /// on; an invalid index for none. \a columns in the order in which they are shown.
+    [[nodiscard]] QModelIndex nextProblem(const QModelIndex &from, const QList<int> &columns, int step) const;
+
     [[nodiscard]] TableFilter filter() const;
     void setFilter(const TableFilter &filter);
     /// The filter looks into all columns but these.

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <orv/widgets/DialogAnswerer.h>
+#include <orv/widgets/Export.h>
+
+namespace orv {
+
+/// The one place where this system waits for a person: every box and every modal dialog comes through here.
+/// Where an answerer is installed it answers. On a platform without a screen and without an answerer nothing
+/// is shown either: a critical line goes to the log, and the most careful answer is given, so that a test
+/// fails and a run doesn't hang. GUI thread.
+namespace DialogService {
+
+/// The answerer in place of a person, or null. \a answerer isn't owned and must be uninstalled before it
+/// goes; returns the earlier one.
+ORV_PROPERTY_EDITOR_EXPORT DialogAnswerer *install(DialogAnswerer *answerer);
+
+/// What is answered in place of a person: nothing where somebody sits in front of a screen.
+[[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT std::optional<DialogAnswer>
+answerWithoutPerson(const DialogRequest &request);
+
+/// Shows a modal dialog and waits; whether it was accepted. A dialog that is destroyed meanwhile wasn't.
+[[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT bool exec(QDialog &dialog);
+
+} // namespace DialogService
+
+} // namespace orv

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <orv/widgets/Export.h>
+#include <orv/widgets/TableView.h>
+
+#include <QWidget>
+
+#include <memory>
+
+namespace orv {
+
+/// A table that people edit, with everything around it: a field that filters, the commands, a bar to find and
+/// replace, import and export, and a line that says what was done and how many cells aren't allowed.
+///
+/// \code
+///     TableSheet sheet(columns);
+///     TableEditor editor(&sheet);
+///     editor.setTitle(tr("Peptides"));
+/// \endcode
+/// GUI thread.
+class ORV_PROPERTY_EDITOR_EXPORT TableEditor : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// \a sheet outlives the editor.
+    explicit TableEditor(TableSheet *sheet, QWidget *parent = nullptr);
+    ~TableEditor() override;
+
+    [[nodiscard]] TableView *view() const;
+
+    /// What the table holds, for screen readers.
+    void setTitle(const QString &title);
+
+    /// Shows the import of a file; what can't be read is told in a box.
+    void importFile(const QString &path);
+    /// Writes the shown rows: with commas where the name ends with ".csv", else with tabulators.
+    void exportFile(const QString &path);
+
+private:
+    void build();
+    void chooseImport();
+    void chooseExport();
+    void applyFilter();
+    void say(const QString &text);
+    void showCounts();
+    void countOn();
+
+    class Private;
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace orv

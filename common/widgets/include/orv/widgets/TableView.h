@@ -1,0 +1,97 @@
+#pragma once
+
+#include <orv/table_model/TableModel.h>
+#include <orv/widgets/Export.h>
+
+#include <QTableView>
+
+#include <memory>
+
+namespace orv {
+
+/// The view of a table that people edit, with what their fingers know from spreadsheets: typing replaces,
+/// Enter goes down, Tab goes on and leaves the table at its last cell (Ctrl+Tab at any), blocks are copied
+/// and pasted as text, files are dropped. Every command is one QAction with its shortcut; the context menu
+/// shows them. GUI thread.
+class ORV_PROPERTY_EDITOR_EXPORT TableView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    enum class Command
+    {
+        Undo,
+        Redo,
+        Cut,
+        Copy,
+        CopyWithHeaders,
+        Paste,
+        Clear,
+        FillDown,
+        AddRow,
+        DuplicateRows,
+        RemoveRows,
+        MoveUp,
+        MoveDown,
+        KeepOrder,
+        Find,
+        Replace,
+        NextProblem,
+        PreviousProblem,
+        HideColumns,
+        ShowAllColumns,
+        Import,
+        Export,
+    };
+
+    /// \a sheet outlives the view.
+    explicit TableView(TableSheet *sheet, QWidget *parent = nullptr);
+    ~TableView() override;
+
+    [[nodiscard]] TableSheet *sheet() const;
+    [[nodiscard]] TableModel *tableModel() const;
+    [[nodiscard]] QAction *action(Command command) const;
+
+    /// What an empty table says; tells the ways to fill it at first.
+    [[nodiscard]] QString emptyText() const;
+    void setEmptyText(const QString &text);
+
+    /// The columns that aren't hidden, from the beginning of a line on.
+    [[nodiscard]] QList<int> shownColumns() const;
+    void setColumnShown(int column, bool isShown);
+    /// Makes columns as wide as their headers and first rows need.
+    void fitColumns();
+
+    /// Makes a cell the only selected one, and visible.
+    void goTo(const QModelIndex &index);
+
+Q_SIGNALS:
+    /// What a command has done or why it hasn't, for a line below the table.
+    void said(const QString &text);
+    void findWanted(bool withReplacement);
+    /// An empty path: one is to be chosen.
+    void importWanted(const QString &path);
+    void exportWanted();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
+    bool focusNextPrevChild(bool next) override;
+    void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    void setUpHeaders();
+    void showHeaderMenu(QPoint position);
+    void stepFrom(const QModelIndex &from, int rows, int columns);
+
+    class Private;
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace orv

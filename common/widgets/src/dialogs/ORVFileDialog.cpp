@@ -1,0 +1,119 @@
+#include "orv/widgets/ORVFileDialog.h"
+
+#include <orv/widgets/DialogService.h>
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPointer>
+
+#include <functional>
+
+namespace orv {
+
+namespace {
+
+struct FileQuestion
+{
+    DialogRequest::Kind kind;
+    QString title;
+    QString start;
+    FileExtensionsNameFilter filter;
+    FileSystemSettings::DirectoryLocation location;
+};
+
+QString startOf(const QString &path, const FileSystemSettings::DirectoryLocation &location)
+{
+    if (!path.isEmpty() && QFileInfo(path).isAbsolute())
+        return path;
+    return QDir(FileSystemSettings::folder(location)).filePath(path);
+}
+
+void prepare(QFileDialog &dialog, const FileQuestion &question)
+{
+    dialog.setWindowTitle(question.title);
+    const QFileInfo info(question.start);
+    dialog.setDirectory(info.isDir() ? question.start : info.absolutePath());
+    if (!info.isDir())
+        dialog.selectFile(info.fileName());
+    if (!question.filter.isEmpty())
+        dialog.setNameFilters(question.filter.nameFilters() << QFileDialog::tr("All Files (*)"));
+}
+
+QString pathFromPerson(QWidget *parent, const FileQuestion &question,
+                       const std::function<void(QFileDialog &)> &setUp)
+{
+    // The parent may go while the dialog waits, and takes it along.
+    const QPointer<QFileDialog> dialog = new QFileDialog(parent);
+    prepare(*dialog, question);
+    setUp(*dialog);
+    const bool isAccepted = dialog->exec() == QDialog::Accepted;
+    const QString path = dialog && isAccepted ? dialog->selectedFiles().value(0) : QString();
+    delete dialog;
+    return path;
+}
+
+QString askForPath(QWidget *parent, const FileQuestion &question,
+                   const std::function<void(QFileDialog &)> &setUp)
+{
+    DialogRequest request;
+    request.kind = question.kind;
+    request.title = question.title;
+    request.text = question.filter.nameFilters().join(u'\n');
+    request.startPath = question.start;
+    const std::optional<DialogAnswer> answer = DialogService::answerWithoutPerson(request);
+    const QString path = answer ? answer->path : pathFromPerson(parent, question, setUp);
+    if (path.isEmpty())
+        return {};
+    FileSystemSettings::rememberChosen(question.location, path);
+    return QDir::fromNativeSeparators(QFileInfo(path).absoluteFilePath());
+}
+
+QString firstSuffix(const FileExtensionsNameFilter &filter)
+{
+    return filter.isEmpty() ? QString() : FileTypes::suffixes(filter.types().constFirst()).value(0);
+}
+
+} // namespace
+
+QString ORVFileDialog::getOpenFileName(QWidget *parent, const QString &title, const QString &startPath,
+                                       const FileExtensionsNameFilter &filter,
+                                       const FileSystemSettings::DirectoryLocation &location)
+{
+    const FileQuestion question = {DialogRequest::Kind::OpenFile, title, startOf(startPath, location), filter,
+                                   location};
+    return askForPath(parent, question,
+                      [](QFileDialog &dialog) { dialog.setFileMode(QFileDialog::ExistingFile); });
+}
+
+QString ORVFileDialog::getSaveFileName(QWidget *parent, const QString &title, const QString &startPath,
+                                       const FileExtensionsNameFilter &filter,
+                                       const FileSystemSettings::DirectoryLocation &location,
+                                       OverwritePrompt prompt)
+{
+    const FileQuestion question = {DialogRequest::Kind::SaveFile, title, startOf(startPath, location), filter,
+                                   location};
+    const QString path = askForPath(parent, question, [&](QFileDialog &dialog) {
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setFileMode(QFileDialog::AnyFile);
+        dialog.setOption(QFileDialog::DontConfirmOverwrite, prompt == OverwritePrompt::Off);
+        // It asks about the name that will be written, so it has to know the suffix.
+        dialog.setDefaultSuffix(firstSuffix(filter));
+    });
+    const bool isComplete = path.isEmpty() || filter.isEmpty() || filter.matches(path);
+    return isComplete ? path : path + u'.' + firstSuffix(filter);
+}
+
+QString ORVFileDialog::getExistingDirectory(QWidget *parent, const QString &title, const QString &startPath,
+                                            FolderContent content,
+                                            const FileSystemSettings::DirectoryLocation &location)
+{
+    const FileQuestion question = {
+        DialogRequest::Kind::ChooseFolder, title, startOf(startPath, location), {}, location};
+    return askForPath(parent, question, [content](QFileDialog &dialog) {
+        dialog.setFileMode(QFileDialog::Directory);
+        dialog.setOption(QFileDialog::ShowDirsOnly, content == FolderContent::ShowDirsOnly);
+    });
+}
+
+} // namespace orv

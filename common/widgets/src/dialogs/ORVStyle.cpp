@@ -1,0 +1,162 @@
+#include "orv/widgets/ORVStyle.h"
+
+#include <orv/core/Settings.h>
+#include <orv/widgets/DialogService.h>
+
+#include <QAbstractButton>
+#include <QPointer>
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace orv {
+
+namespace {
+
+constexpr QLatin1String kStyleEnabled("ORV/StyleEnabled");
+
+struct BoxKind
+{
+    DialogRequest::Kind kind;
+    QMessageBox::Icon icon;
+};
+
+constexpr BoxKind kQuestionBox = {DialogRequest::Kind::Question, QMessageBox::Question};
+constexpr BoxKind kWarningBox = {DialogRequest::Kind::Warning, QMessageBox::Warning};
+constexpr BoxKind kCriticalBox = {DialogRequest::Kind::Critical, QMessageBox::Critical};
+constexpr BoxKind kInformationBox = {DialogRequest::Kind::Information, QMessageBox::Information};
+
+struct BoxContent
+{
+    QString title;
+    DisplayString text;
+    ORVStyle::Buttons buttons;
+    ORVStyle::ButtonTexts texts;
+    ORVStyle::Button defaultButton;
+    QString details;
+};
+
+std::optional<bool> &styleOverride()
+{
+    static std::optional<bool> isEnabled;
+    return isEnabled;
+}
+
+QString withoutMnemonic(QString text)
+{
+    return text.remove(u'&');
+}
+
+ORVStyle::Button escapeButton(const BoxContent &content)
+{
+    for (const ORVStyle::Button careful :
+         {QMessageBox::Cancel, QMessageBox::No, QMessageBox::Abort, QMessageBox::Close, QMessageBox::Ok}) {
+        if (content.buttons.testFlag(careful))
+            return careful;
+    }
+    return QMessageBox::NoButton;
+}
+
+void fillBox(QMessageBox &box, const BoxContent &content)
+{
+    box.setWindowTitle(content.title);
+    box.setTextFormat(content.text.isHtml() ? Qt::RichText : Qt::PlainText);
+    box.setText(content.text.text());
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    box.setStandardButtons(content.buttons);
+    for (auto text = content.texts.cbegin(); text != content.texts.cend(); ++text) {
+        if (QAbstractButton *const button = box.button(text.key()))
+            button->setText(text.value());
+    }
+    const ORVStyle::Button escape = escapeButton(content);
+    box.setEscapeButton(escape);
+    box.setDefaultButton(content.defaultButton != QMessageBox::NoButton ? content.defaultButton : escape);
+    if (!content.details.isEmpty())
+        box.setDetailedText(content.details);
+}
+
+DialogRequest requestOf(const BoxKind &kind, const QMessageBox &box, const BoxContent &content)
+{
+    DialogRequest request;
+    request.kind = kind.kind;
+    request.title = content.title;
+    request.text = content.text.toPlainText();
+    request.details = content.details;
+    for (const QAbstractButton *button : box.buttons()) {
+        if (box.standardButton(const_cast<QAbstractButton *>(button)) != QMessageBox::NoButton)
+            request.buttons.append(withoutMnemonic(button->text()));
+    }
+    if (const QPushButton *const button = box.defaultButton())
+        request.defaultButton = withoutMnemonic(button->text());
+    return request;
+}
+
+ORVStyle::Button buttonOf(const QMessageBox &box, const QString &text, ORVStyle::Button fallback)
+{
+    const QList<QAbstractButton *> buttons = box.buttons();
+    const auto found = std::find_if(buttons.cbegin(), buttons.cend(), [&](const QAbstractButton *button) {
+        return withoutMnemonic(button->text()) == text;
+    });
+    return found == buttons.cend() ? fallback : box.standardButton(*found);
+}
+
+ORVStyle::Button showBox(QWidget *parent, const BoxKind &kind, const BoxContent &content)
+{
+    // The parent may go while the box waits, and takes it along.
+    const QPointer<QMessageBox> box = new QMessageBox(parent);
+    box->setObjectName(QStringLiteral("messageBox"));
+    box->setIcon(kind.icon);
+    fillBox(*box, content);
+    ORVStyle::Button pressed = escapeButton(content);
+    if (const auto answer = DialogService::answerWithoutPerson(requestOf(kind, *box, content))) {
+        pressed = buttonOf(*box, answer->button, pressed);
+    } else {
+        const int result = box->exec();
+        if (box && result != QMessageBox::NoButton)
+            pressed = ORVStyle::Button(result);
+    }
+    delete box;
+    return pressed;
+}
+
+} // namespace
+
+ORVStyle::Button ORVStyle::question(QWidget *parent, const QString &title, const DisplayString &text,
+                                    Buttons buttons, const ButtonTexts &texts, Button defaultButton,
+                                    const QString &details)
+{
+    return showBox(parent, kQuestionBox, {title, text, buttons, texts, defaultButton, details});
+}
+
+ORVStyle::Button ORVStyle::warning(QWidget *parent, const QString &title, const DisplayString &text,
+                                   Buttons buttons, const ButtonTexts &texts, Button defaultButton,
+                                   const QString &details)
+{
+    return showBox(parent, kWarningBox, {title, text, buttons, texts, defaultButton, details});
+}
+
+ORVStyle::Button ORVStyle::critical(QWidget *parent, const QString &title, const DisplayString &text,
+                                    Buttons buttons, const ButtonTexts &texts, Button defaultButton,
+                                    const QString &details)
+{
+    return showBox(parent, kCriticalBox, {title, text, buttons, texts, defaultButton, details});
+}
+
+ORVStyle::Button ORVStyle::information(QWidget *parent, const QString &title, const DisplayString &text,
+                                       Buttons buttons, const ButtonTexts &texts, Button defaultButton,
+                                       const QString &details)
+{
+    return showBox(parent, kInformationBox, {title, text, buttons, texts, defaultButton, details});
+}
+
+bool ORVStyle::isEnabled()
+{
+    return styleOverride().value_or(as::value(kStyleEnabled, true).toBool());
+}
+
+void ORVStyle::setEnabled(std::optional<bool> isEnabled)
+{
+    styleOverride() = isEnabled;
+}
+
+} // namespace orv

@@ -1,0 +1,205 @@
+#include "CellEditors.h"
+
+#include <orv/widgets/DialogService.h>
+#include <orv/widgets/MeaningColors.h>
+#include <orv/widgets/ORVFileDialog.h>
+
+#include <QAccessible>
+#include <QColorDialog>
+#include <QFontDatabase>
+#include <QPainter>
+#include <QPointer>
+#include <QStyle>
+#include <QToolButton>
+#include <QToolTip>
+#include <QValidator>
+#include <QWheelEvent>
+
+namespace orv {
+
+namespace {
+
+struct CellEditorsTr
+{
+    Q_DECLARE_TR_FUNCTIONS(CellEditors)
+};
+
+/// Lets pass whatever may become a number in any way of writing one.
+class NumberCharacters : public QValidator
+{
+public:
+    using QValidator::QValidator;
+
+    State validate(QString &text, int & /*position*/) const override
+    {
+        const auto mayStand = [](QChar c) {
+            return c.isDigit() || c.isSpace() || QStringView(u"+-\u2212.,eE'\u2019").contains(c);
+        };
+        return std::all_of(text.cbegin(), text.cend(), mayStand) ? Acceptable : Invalid;
+    }
+};
+
+QString chooseFile(QWidget *parent, const QString &now)
+{
+    return ORVFileDialog::getOpenFileName(parent, CellEditorsTr::tr("Choose a File"), now);
+}
+
+QString chooseColor(QWidget *parent, const QString &now)
+{
+    const QPointer<QColorDialog> dialog = new QColorDialog(QColor(now), parent);
+    dialog->setWindowTitle(CellEditorsTr::tr("Choose a Colour"));
+    const bool isAccepted = DialogService::exec(*dialog);
+    const QString chosen = dialog && isAccepted ? dialog->currentColor().name() : QString();
+    delete dialog;
+    return chosen;
+}
+
+} // namespace
+
+QFont fixedWidthFont(const QFont &like)
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPointSizeF(like.pointSizeF() > 0 ? like.pointSizeF() : font.pointSizeF());
+    return font;
+}
+
+CellLineEdit::CellLineEdit(const TableColumn &column, NumberText::DecimalSign sign, QWidget *parent)
+    : QLineEdit(parent)
+    , m_column(column)
+    , m_sign(sign)
+{
+    setFrame(false);
+    setAccessibleName(column.header());
+    if (column.isNumeric()) {
+        setAlignment(Qt::AlignRight);
+        setValidator(new NumberCharacters(this));
+        setInputMethodHints(Qt::ImhFormattedNumbersOnly);
+    }
+    if (column.kind == TableColumnKind::Sequence)
+        setFont(fixedWidthFont(font()));
+    connect(this, &QLineEdit::textChanged, this, [this] { check(); });
+    check();
+}
+
+int CellLineEdit::signWidth() const
+{
+    return m_problem.isEmpty() ? 0 : fontMetrics().height();
+}
+
+void CellLineEdit::check()
+{
+    const QString problem = m_column.problem(m_column.kept(text(), m_sign));
+    const bool isNew = problem != m_problem;
+    m_problem = problem;
+    const bool isMirrored = isRightToLeft();
+    setTextMargins(isMirrored ? m_chooserWidth : signWidth(), 0, isMirrored ? signWidth() : m_chooserWidth,
+                   0);
+    setToolTip(problem);
+    setAccessibleDescription(problem);
+    if (isNew && isVisible())
+        tell();
+    update();
+}
+
+void CellLineEdit::tell()
+{
+    if (m_problem.isEmpty()) {
+        QToolTip::hideText();
+        return;
+    }
+    QToolTip::showText(mapToGlobal(rect().bottomLeft()), m_problem, this);
+    QAccessibleEvent event(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&event);
+}
+
+void CellLineEdit::paintEvent(QPaintEvent *event)
+{
+    QLineEdit::paintEvent(event);
+    if (m_problem.isEmpty())
+        return;
+    QPainter painter(this);
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    const QRect room = QRect(margin, 0, signWidth() - margin, height()).adjusted(0, margin, 0, -margin);
+    const QColor color = MeaningColors::error(palette());
+    MeaningColors::paintErrorSign(painter, QStyle::visualRect(layoutDirection(), rect(), room), color);
+}
+
+void CellLineEdit::addChooser(const QString &text,
+                              std::function<QString(QWidget *parent, const QString &now)> choose)
+{
+    auto *const button = new QToolButton(this);
+    button->setText(QStringLiteral("\u2026"));
+    button->setAccessibleName(text);
+    button->setToolTip(text);
+    button->setAutoRaise(true);
+    button->setCursor(Qt::ArrowCursor);
+    button->setFocusPolicy(Qt::NoFocus); // the line keeps it, or the cell would close
+    m_chooserWidth = button->sizeHint().width();
+    auto *const action = new QAction(text, this);
+    action->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Down));
+    action->setShortcutContext(Qt::WidgetShortcut);
+    addAction(action);
+    connect(button, &QToolButton::clicked, action, &QAction::trigger);
+    connect(action, &QAction::triggered, this, [this, choose = std::move(choose)] {
+        const QPointer<CellLineEdit> guard(this);
+        const QString chosen = choose(window(), this->text());
+        if (guard && !chosen.isEmpty())
+            setText(chosen);
+    });
+    check();
+    const auto place = [this, button] {
+        const QRect room(width() - m_chooserWidth, 0, m_chooserWidth, height());
+        button->setGeometry(QStyle::visualRect(layoutDirection(), rect(), room));
+    };
+    connect(this, &CellLineEdit::resized, button, place);
+    place();
+}
+
+void CellLineEdit::resizeEvent(QResizeEvent *event)
+{
+    QLineEdit::resizeEvent(event);
+    Q_EMIT resized();
+}
+
+CellChoiceBox::CellChoiceBox(const TableColumn &column, QWidget *parent)
+    : QComboBox(parent)
+{
+    setAccessibleName(column.header());
+    setFrame(false);
+    setFocusPolicy(Qt::StrongFocus);
+    if (!column.isRequired)
+        addItem(QString());
+    addItems(column.choices);
+}
+
+QString CellChoiceBox::text() const
+{
+    return currentText();
+}
+
+void CellChoiceBox::setText(const QString &text)
+{
+    // What isn't allowed is kept until somebody chooses.
+    if (findText(text) < 0)
+        insertItem(0, text);
+    setCurrentIndex(findText(text));
+}
+
+void CellChoiceBox::wheelEvent(QWheelEvent *event)
+{
+    event->ignore();
+}
+
+QWidget *createCellEditor(const TableColumn &column, NumberText::DecimalSign sign, QWidget *parent)
+{
+    if (column.kind == TableColumnKind::Choice)
+        return new CellChoiceBox(column, parent);
+    auto *const line = new CellLineEdit(column, sign, parent);
+    if (column.kind == TableColumnKind::File)
+        line->addChooser(CellEditorsTr::tr("Choose a file"), chooseFile);
+    if (column.kind == TableColumnKind::Color)
+        line->addChooser(CellEditorsTr::tr("Choose a colour"), chooseColor);
+    return line;
+}
+
+} // namespace orv

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <orv/table_model/TableColumn.h>
+
+#include <QComboBox>
+#include <QLineEdit>
+
+#include <functional>
+
+namespace orv {
+
+/// The text of one cell while it is typed. What can't be valid isn't accepted; what isn't valid yet has a
+/// sign and says why.
+class CellLineEdit : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    CellLineEdit(const TableColumn &column, NumberText::DecimalSign sign, QWidget *parent);
+
+    [[nodiscard]] QString problem() const { return m_problem; }
+    /// A button inside the line that finds a value elsewhere; nothing found leaves the text.
+    void addChooser(const QString &text, std::function<QString(QWidget *parent, const QString &now)> choose);
+
+Q_SIGNALS:
+    void resized();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void check();
+    void tell();
+    [[nodiscard]] int signWidth() const;
+
+    TableColumn m_column;
+    NumberText::DecimalSign m_sign;
+    QString m_problem;
+    int m_chooserWidth = 0;
+};
+
+/// One of a column's choices. The wheel passes by.
+class CellChoiceBox : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    CellChoiceBox(const TableColumn &column, QWidget *parent);
+
+    [[nodiscard]] QString text() const;
+    void setText(const QString &text);
+
+protected:
+    void wheelEvent(QWheelEvent *event) override;
+};
+
+/// The editor for a cell of this column.
+[[nodiscard]] QWidget *createCellEditor(const TableColumn &column, NumberText::DecimalSign sign,
+                                        QWidget *parent);
+
+/// Sequences stand in a fixed-width font.
+[[nodiscard]] QFont fixedWidthFont(const QFont &like);
+
+} // namespace orv

@@ -1,0 +1,393 @@
+#include "TableCommands.h"
+
+#include <orv/table_model/TableClipboard.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QMenu>
+#include <QSet>
+#include <QUndoStack>
+
+#include <algorithm>
+
+namespace orv {
+
+using Command = TableView::Command;
+
+struct TableCommandTable
+{
+    struct Row
+    {
+        Command command;
+        TableCommands::Handler handler;
+        const char *name;
+        const char *text;
+        const char *tip;
+        QKeySequence::StandardKey standard;
+        QKeyCombination keys; ///< where there is no standard
+        bool beginsGroup;
+    };
+
+    static const QList<Row> &rows();
+};
+
+// clang-format off
+const QList<TableCommandTable::Row> &TableCommandTable::rows()
+{
+    using C = TableCommands;
+    constexpr auto none = QKeySequence::UnknownKey;
+    static const QList<Row> table = {
+        {Command::Undo, &C::undo, "undo", QT_TRANSLATE_NOOP("TableCommands", "&Undo"), "", QKeySequence::Undo, Qt::Key_unknown, false},
+        {Command::Redo, &C::redo, "redo", QT_TRANSLATE_NOOP("TableCommands", "Re&do"), "", QKeySequence::Redo, Qt::Key_unknown, false},
+        {Command::Cut, &C::cut, "cut", QT_TRANSLATE_NOOP("TableCommands", "Cu&t"), "", QKeySequence::Cut, Qt::Key_unknown, true},
+        {Command::Copy, &C::copy, "copy", QT_TRANSLATE_NOOP("TableCommands", "&Copy"), "", QKeySequence::Copy, Qt::Key_unknown, false},
+        {Command::CopyWithHeaders, &C::copyWithHeaders, "copyWithHeaders", QT_TRANSLATE_NOOP("TableCommands", "Copy with &Headers"), "", none, Qt::CTRL | Qt::SHIFT | Qt::Key_C, false},
+        {Command::Paste, &C::paste, "paste", QT_TRANSLATE_NOOP("TableCommands", "&Paste"), QT_TRANSLATE_NOOP("TableCommands", "Paste cells from a spreadsheet"), QKeySequence::Paste, Qt::Key_unknown, false},
+        {Command::Clear, &C::clear, "clear", QT_TRANSLATE_NOOP("TableCommands", "C&lear Cells"), "", none, Qt::Key_Delete, false},
+        {Command::FillDown, &C::fillDown, "fillDown", QT_TRANSLATE_NOOP("TableCommands", "Fi&ll Down"), QT_TRANSLATE_NOOP("TableCommands", "Fill the selected cells with the topmost, or one cell with the cell above"), none, Qt::CTRL | Qt::Key_D, false},
+        {Command::AddRow, &C::addRow, "addRow", QT_TRANSLATE_NOOP("TableCommands", "&Add Row"), QT_TRANSLATE_NOOP("TableCommands", "Add a row below"), none, Qt::Key_Insert, true},
+        {Command::DuplicateRows, &C::duplicateRows, "duplicateRows", QT_TRANSLATE_NOOP("TableCommands", "Dupl&icate Rows"), "", none, Qt::CTRL | Qt::SHIFT | Qt::Key_D, false},
+        {Command::RemoveRows, &C::removeRows, "removeRows", QT_TRANSLATE_NOOP("TableCommands", "&Remove Rows"), "", none, Qt::CTRL | Qt::Key_Delete, false},
+        {Command::MoveUp, &C::moveUp, "moveUp", QT_TRANSLATE_NOOP("TableCommands", "Mo&ve Up"), "", none, Qt::ALT | Qt::Key_Up, false},
+        {Command::MoveDown, &C::moveDown, "moveDown", QT_TRANSLATE_NOOP("TableCommands", "Move Do&wn"), "", none, Qt::ALT | Qt::Key_Down, false},
+        {Command::KeepOrder, &C::keepOrder, "keepOrder", QT_TRANSLATE_NOOP("TableCommands", "&Keep This Order"), QT_TRANSLATE_NOOP("TableCommands", "Put the rows into the order in which they are shown"), none, Qt::Key_unknown, false},
+        {Command::Find, &C::find, "find", QT_TRANSLATE_NOOP("TableCommands", "&Find..."), "", QKeySequence::Find, Qt::Key_unknown, true},
+        {Command::Replace, &C::replace, "replace", QT_TRANSLATE_NOOP("TableCommands", "Find and R&eplace..."), "", none, Qt::CTRL | Qt::Key_H, false},
+        {Command::NextProblem, &C::nextProblem, "nextProblem", QT_TRANSLATE_NOOP("TableCommands", "&Next Problem"), QT_TRANSLATE_NOOP("TableCommands", "Go to the next cell that isn't allowed"), none, Qt::Key_F8, false},
+        {Command::PreviousProblem, &C::previousProblem, "previousProblem", QT_TRANSLATE_NOOP("TableCommands", "Previous Pro&blem"), "", none, Qt::SHIFT | Qt::Key_F8, false},
+        {Command::HideColumns, &C::hideColumns, "hideColumns", QT_TRANSLATE_NOOP("TableCommands", "Hide C&olumns"), "", none, Qt::Key_unknown, true},
+        {Command::ShowAllColumns, &C::showAllColumns, "showAllColumns", QT_TRANSLATE_NOOP("TableCommands", "&Show All Columns"), "", none, Qt::Key_unknown, false},
+        {Command::Import, &C::importFile, "import", QT_TRANSLATE_NOOP("TableCommands", "I&mport..."), QT_TRANSLATE_NOOP("TableCommands", "Add rows from a text file, such as CSV"), none, Qt::Key_unknown, true},
+        {Command::Export, &C::exportFile, "export", QT_TRANSLATE_NOOP("TableCommands", "E&xport..."), QT_TRANSLATE_NOOP("TableCommands", "Write the shown rows to a text file"), none, Qt::Key_unknown, false},
+    };
+    return table;
+}
+// clang-format on
+
+TableCommands::TableCommands(TableView *view)
+    : QObject(view)
+    , m_view(view)
+{
+    addActions();
+    QUndoStack *const history = view->sheet()->history();
+    connect(history, &QUndoStack::indexChanged, this, &TableCommands::update);
+    connect(view->tableModel(), &QAbstractItemModel::layoutChanged, this, &TableCommands::update);
+    connect(view->tableModel(), &QAbstractItemModel::modelReset, this, &TableCommands::update);
+    update();
+}
+
+void TableCommands::addActions()
+{
+    for (const TableCommandTable::Row &row : TableCommandTable::rows()) {
+        auto *const action = new QAction(tr(row.text), this);
+        action->setObjectName(QLatin1String(row.name));
+        if (*row.tip != '\0')
+            action->setToolTip(tr(row.tip));
+        if (row.standard != QKeySequence::UnknownKey)
+            action->setShortcuts(row.standard);
+        else if (row.keys.key() != Qt::Key_unknown)
+            action->setShortcut(QKeySequence(row.keys));
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        connect(action, &QAction::triggered, this, row.handler);
+        m_view->addAction(action);
+        m_actions.insert(int(row.command), action);
+    }
+}
+
+void TableCommands::fillMenu(QMenu *menu) const
+{
+    for (const TableCommandTable::Row &row : TableCommandTable::rows()) {
+        if (row.beginsGroup)
+            menu->addSeparator();
+        menu->addAction(action(row.command));
+    }
+}
+
+void TableCommands::update()
+{
+    const QUndoStack *const history = m_view->sheet()->history();
+    const bool hasSelection = m_view->selectionModel() && m_view->selectionModel()->hasSelection();
+    const auto setText = [](QAction *action, const QString &verb, const QString &what) {
+        action->setText(what.isEmpty() ? verb : tr("%1: %2").arg(verb, what));
+    };
+    action(Command::Undo)->setEnabled(history->canUndo());
+    setText(action(Command::Undo), tr("&Undo"), history->undoText());
+    action(Command::Redo)->setEnabled(history->canRedo());
+    setText(action(Command::Redo), tr("Re&do"), history->redoText());
+    for (const Command command : {Command::Cut, Command::Copy, Command::CopyWithHeaders, Command::Clear,
+                                  Command::FillDown, Command::DuplicateRows, Command::RemoveRows,
+                                  Command::MoveUp, Command::MoveDown, Command::HideColumns})
+        action(command)->setEnabled(hasSelection);
+    action(Command::KeepOrder)->setEnabled(m_view->tableModel()->sortColumn() >= 0);
+    action(Command::ShowAllColumns)
+        ->setEnabled(m_view->shownColumns().size() < m_view->sheet()->columnCount());
+}
+
+void TableCommands::tell(const Error &error)
+{
+    if (error.hasError())
+        Q_EMIT m_view->said((error.errorMessages() + error.details()).join(u' '));
+}
+
+QList<int> TableCommands::selectedRows() const
+{
+    QSet<int> rows;
+    const QItemSelection selection = m_view->selectionModel()->selection();
+    for (const QItemSelectionRange &range : selection) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.insert(row);
+    }
+    QList<int> sorted(rows.cbegin(), rows.cend());
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
+}
+
+QList<int> TableCommands::selectedSheetRows() const
+{
+    QList<int> rows = selectedRows();
+    for (int &row : rows)
+        row = m_view->tableModel()->sheetRow(row);
+    return rows;
+}
+
+QList<int> TableCommands::selectedColumns() const
+{
+    QList<int> columns = m_view->shownColumns();
+    const QItemSelection selection = m_view->selectionModel()->selection();
+    columns.removeIf([&](int column) {
+        return std::none_of(selection.cbegin(), selection.cend(), [column](const QItemSelectionRange &range) {
+            return range.left() <= column && column <= range.right();
+        });
+    });
+    return columns;
+}
+
+QList<TableCellText> TableCommands::editableCells(QStringView text) const
+{
+    QList<TableCellText> cells;
+    const QList<int> shown = m_view->shownColumns();
+    const QItemSelection selection = m_view->selectionModel()->selection();
+    for (const QItemSelectionRange &range : selection) {
+        for (int column = range.left(); column <= range.right(); ++column) {
+            if (!shown.contains(column) || m_view->sheet()->columns()[column].isReadOnly)
+                continue;
+            for (int row = range.top(); row <= range.bottom(); ++row)
+                cells.append({m_view->tableModel()->sheetRow(row), column, text});
+        }
+    }
+    return cells;
+}
+
+/// Undo and redo show what they did.
+void TableCommands::travel(bool isUndo)
+{
+    const TableModel *const model = m_view->tableModel();
+    QPersistentModelIndex touched;
+    const auto remember = [&](int row, int column) { touched = model->index(row, column); };
+    QObject context;
+    connect(model, &QAbstractItemModel::dataChanged, &context,
+            [&](const QModelIndex &topLeft) { remember(topLeft.row(), topLeft.column()); });
+    connect(model, &QAbstractItemModel::rowsInserted, &context, [&](const QModelIndex &, int first) {
+        remember(first, std::max(0, m_view->currentIndex().column()));
+    });
+    QUndoStack *const history = m_view->sheet()->history();
+    const QString what = isUndo ? history->undoText() : history->redoText();
+    isUndo ? history->undo() : history->redo();
+    if (touched.isValid())
+        m_view->goTo(touched);
+    Q_EMIT m_view->said(isUndo ? tr("Undone: %1").arg(what) : tr("Redone: %1").arg(what));
+}
+
+void TableCommands::undo()
+{
+    travel(true);
+}
+
+void TableCommands::redo()
+{
+    travel(false);
+}
+
+void TableCommands::copyCells(bool withHeaders)
+{
+    const QList<int> columns = selectedColumns();
+    QList<QStringList> rows;
+    if (withHeaders) {
+        QStringList header;
+        for (const int column : columns)
+            header.append(m_view->sheet()->columns()[column].header());
+        rows.append(header);
+    }
+    const QItemSelection selection = m_view->selectionModel()->selection();
+    const bool isBlock = selection.size() == 1;
+    for (const int row : selectedRows()) {
+        QStringList texts;
+        for (const int column : columns) {
+            const QModelIndex cell = m_view->tableModel()->index(row, column);
+            texts.append(isBlock || selection.contains(cell) ? cell.data().toString() : QString());
+        }
+        rows.append(texts);
+    }
+    QGuiApplication::clipboard()->setText(TableClipboard::format(rows));
+    Q_EMIT m_view->said(tr("%n row(s) copied", nullptr, int(rows.size()) - (withHeaders ? 1 : 0)));
+}
+
+void TableCommands::cut()
+{
+    copyCells(false);
+    tell(m_view->sheet()->setCells(editableCells({}), tr("cut cells")));
+}
+
+void TableCommands::clear()
+{
+    tell(m_view->sheet()->setCells(editableCells({}), tr("clear cells")));
+}
+
+void TableCommands::paste()
+{
+    const QList<int> shown = m_view->shownColumns();
+    const QList<int> rows = selectedRows();
+    const QList<int> columns = selectedColumns();
+    const qsizetype from = columns.isEmpty() ? 0 : shown.indexOf(columns.constFirst());
+    const int row = rows.isEmpty() ? m_view->tableModel()->rowCount() : rows.constFirst();
+    TableClipboard::Target target{row, shown.mid(from), {int(columns.size()), int(rows.size())}};
+    const Result<TableClipboard::Outcome> pasted =
+        TableClipboard::paste(*m_view->tableModel(), target, QGuiApplication::clipboard()->text());
+    if (pasted.hasError()) {
+        tell(pasted.error());
+        return;
+    }
+    if (pasted->rows > 0 && from < shown.size() && row < m_view->tableModel()->rowCount())
+        m_view->goTo(m_view->tableModel()->index(row, shown[from]));
+    QStringList told = {pasted->rows > 0 ? tr("%n row(s) pasted", nullptr, pasted->rows)
+                                         : tr("There are no cells to paste.")};
+    if (pasted->columnsLeftOut > 0)
+        told.append(tr("%n column(s) had no room and were left out", nullptr, pasted->columnsLeftOut));
+    if (pasted->readOnlyCells > 0)
+        told.append(tr("%n cell(s) can't be changed and were left", nullptr, pasted->readOnlyCells));
+    Q_EMIT m_view->said(told.join(QStringLiteral("; ")));
+}
+
+void TableCommands::fillDown()
+{
+    QList<TableCellText> cells;
+    const TableModel *const model = m_view->tableModel();
+    const QItemSelection selection = m_view->selectionModel()->selection();
+    for (const QItemSelectionRange &range : selection) {
+        const int source = range.height() > 1 ? range.top() : std::max(0, range.top() - 1);
+        for (int column = range.left(); column <= range.right(); ++column) {
+            if (m_view->isColumnHidden(column) || m_view->sheet()->columns()[column].isReadOnly)
+                continue;
+            const QStringView text = m_view->sheet()->textOf(model->rowId(source), column);
+            for (int row = source + 1; row <= range.bottom(); ++row)
+                cells.append({model->sheetRow(row), column, text});
+        }
+    }
+    tell(m_view->sheet()->setCells(cells, tr("fill down")));
+}
+
+void TableCommands::addRow()
+{
+    const QModelIndex current = m_view->currentIndex();
+    const int at =
+        current.isValid() ? m_view->tableModel()->sheetRow(current.row()) + 1 : m_view->sheet()->rowCount();
+    m_view->sheet()->insertRows(at, 1);
+    const int row = m_view->tableModel()->rowOfSheetRow(at);
+    const QList<int> shown = m_view->shownColumns();
+    if (row >= 0 && !shown.isEmpty())
+        m_view->goTo(m_view->tableModel()->index(row, shown.constFirst()));
+    m_view->setFocus();
+}
+
+void TableCommands::duplicateRows()
+{
+    m_view->sheet()->duplicateRows(selectedSheetRows());
+}
+
+void TableCommands::removeRows()
+{
+    const QList<int> rows = selectedRows();
+    const int column = m_view->currentIndex().column();
+    m_view->sheet()->removeRows(selectedSheetRows());
+    const int left = m_view->tableModel()->rowCount();
+    if (left > 0 && !rows.isEmpty())
+        m_view->goTo(m_view->tableModel()->index(std::min(rows.constFirst(), left - 1), std::max(0, column)));
+    Q_EMIT m_view->said(tr("%n row(s) removed; undo brings them back", nullptr, int(rows.size())));
+}
+
+void TableCommands::moveRows(int by)
+{
+    if (!m_view->tableModel()->isInSheetOrder()) {
+        Q_EMIT m_view->said(tr("Rows can be moved when all are shown in their own order: "
+                               "clear the filter and the sorting first."));
+        return;
+    }
+    const QList<int> rows = selectedSheetRows();
+    const bool hasRoom = !rows.isEmpty() && (by < 0 ? rows.constFirst() > 0
+                                                    : rows.constLast() + 1 < m_view->sheet()->rowCount());
+    if (hasRoom)
+        m_view->sheet()->moveRows(rows, by < 0 ? rows.constFirst() - 1 : rows.constLast() + 2);
+    m_view->scrollTo(m_view->currentIndex());
+}
+
+void TableCommands::keepOrder()
+{
+    m_view->tableModel()->keepOrder();
+    m_view->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+}
+
+void TableCommands::find()
+{
+    Q_EMIT m_view->findWanted(false);
+}
+
+void TableCommands::replace()
+{
+    Q_EMIT m_view->findWanted(true);
+}
+
+void TableCommands::goToProblem(int step)
+{
+    const QModelIndex found =
+        m_view->tableModel()->nextProblem(m_view->currentIndex(), m_view->shownColumns(), step);
+    if (!found.isValid()) {
+        Q_EMIT m_view->said(tr("All shown cells are in order."));
+        return;
+    }
+    m_view->goTo(found);
+    m_view->setFocus();
+    Q_EMIT m_view->said(tr("%1, row %2: %3")
+                            .arg(m_view->sheet()->columns()[found.column()].title)
+                            .arg(m_view->tableModel()->sheetRow(found.row()) + 1)
+                            .arg(found.data(TableModel::ProblemRole).toString()));
+}
+
+void TableCommands::hideColumns()
+{
+    const QList<int> columns = selectedColumns();
+    if (columns.size() == m_view->shownColumns().size()) {
+        Q_EMIT m_view->said(tr("One column has to stay."));
+        return;
+    }
+    for (const int column : columns)
+        m_view->setColumnShown(column, false);
+}
+
+void TableCommands::showAllColumns()
+{
+    for (int column = 0; column < m_view->sheet()->columnCount(); ++column)
+        m_view->setColumnShown(column, true);
+}
+
+void TableCommands::importFile()
+{
+    Q_EMIT m_view->importWanted({});
+}
+
+void TableCommands::exportFile()
+{
+    Q_EMIT m_view->exportWanted();
+}
+
+} // namespace orv

@@ -1,0 +1,135 @@
+#include "TableDelegate.h"
+
+#include "CellEditors.h"
+
+#include <orv/table_model/TableModel.h>
+#include <orv/widgets/MeaningColors.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace orv {
+
+namespace {
+
+const TableModel *tableModelOf(const QModelIndex &index)
+{
+    return qobject_cast<const TableModel *>(index.model());
+}
+
+bool hasProblem(const QModelIndex &index)
+{
+    return !index.data(TableModel::ProblemRole).toString().isEmpty();
+}
+
+TableColumnKind kindOf(const QModelIndex &index)
+{
+    return TableColumnKind(index.data(TableModel::KindRole).toInt());
+}
+
+QPixmap swatchOf(const QString &color, const QStyleOptionViewItem &option)
+{
+    const int side = option.fontMetrics.ascent();
+    const qreal ratio = option.widget ? option.widget->devicePixelRatioF() : 1;
+    QPixmap pixmap(QSize(side, side) * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(QColor(color));
+    QPainter painter(&pixmap);
+    painter.setPen(option.palette.color(QPalette::Mid));
+    painter.drawRect(0, 0, side - 1, side - 1);
+    return pixmap;
+}
+
+} // namespace
+
+void TableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    const TableColumnKind kind = kindOf(index);
+    option->textElideMode = kind == TableColumnKind::File ? Qt::ElideMiddle : Qt::ElideRight;
+    if (kind == TableColumnKind::Sequence) {
+        option->font = fixedWidthFont(option->font);
+        option->fontMetrics = QFontMetrics(option->font);
+    }
+    if (kind == TableColumnKind::Color && QColor::isValidColor(option->text)) {
+        option->icon = QIcon(swatchOf(option->text, *option));
+        option->decorationSize = QSize(option->fontMetrics.ascent(), option->fontMetrics.ascent());
+        option->features |= QStyleOptionViewItem::HasDecoration;
+    }
+}
+
+void TableDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const
+{
+    if (!hasProblem(index)) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
+    }
+    const int side = option.fontMetrics.height();
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    if (!isSelected)
+        painter->fillRect(option.rect, MeaningColors::errorBackground(option.palette));
+    else
+        painter->fillRect(option.rect, option.palette.highlight());
+    QStyleOptionViewItem text = option;
+    const QRect beside = option.rect.adjusted(side, 0, 0, 0);
+    text.rect = QStyle::visualRect(option.direction, option.rect, beside);
+    QStyledItemDelegate::paint(painter, text, index);
+    const int margin =
+        QApplication::style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
+    const QRect room(option.rect.left() + margin, option.rect.top(), side - margin, option.rect.height());
+    const QColor color =
+        isSelected ? option.palette.color(QPalette::HighlightedText) : MeaningColors::error(option.palette);
+    MeaningColors::paintErrorSign(
+        *painter, QStyle::visualRect(option.direction, option.rect, room).adjusted(0, margin, 0, -margin),
+        color);
+}
+
+QWidget *TableDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem & /*option*/,
+                                     const QModelIndex &index) const
+{
+    const TableModel *const model = tableModelOf(index);
+    if (!model)
+        return nullptr;
+    QWidget *const editor =
+        createCellEditor(model->sheet()->columns()[index.column()], model->decimalSign(), parent);
+    editor->setAutoFillBackground(true);
+    return editor;
+}
+
+void TableDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
+{
+    const QString text = index.data(Qt::EditRole).toString();
+    if (auto *const line = qobject_cast<CellLineEdit *>(editor)) {
+        // A change elsewhere in the row must not take what is being typed.
+        if (!line->isModified())
+            line->setText(text);
+    } else if (auto *const box = qobject_cast<CellChoiceBox *>(editor)) {
+        box->setText(text);
+    }
+}
+
+void TableDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
+{
+    if (const auto *const line = qobject_cast<CellLineEdit *>(editor))
+        model->setData(index, line->text());
+    else if (const auto *const box = qobject_cast<CellChoiceBox *>(editor))
+        model->setData(index, box->text());
+}
+
+bool TableDelegate::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *const editor = qobject_cast<QWidget *>(watched);
+    const bool isKey = event->type() == QEvent::KeyPress;
+    const int key = isKey ? static_cast<QKeyEvent *>(event)->key() : 0;
+    if (editor && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        Q_EMIT commitData(editor);
+        // The view takes this for a step to the cell below.
+        Q_EMIT closeEditor(editor, QAbstractItemDelegate::SubmitModelCache);
+        return true;
+    }
+    return QStyledItemDelegate::eventFilter(watched, event);
+}
+
+} // namespace orv

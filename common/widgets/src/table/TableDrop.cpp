@@ -1,0 +1,70 @@
+#include "TableDrop.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QMimeData>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace orv {
+
+namespace {
+
+struct TableDropTr
+{
+    Q_DECLARE_TR_FUNCTIONS(TableDrop)
+};
+
+bool takesFiles(const TableColumn &column)
+{
+    return column.kind == TableColumnKind::File && !column.isReadOnly;
+}
+
+bool isTextTable(const QString &path)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    return suffix == QLatin1String("csv") || suffix == QLatin1String("tsv") || suffix == QLatin1String("txt");
+}
+
+} // namespace
+
+TableDrop::TableDrop(const TableSheet &sheet, const QModelIndex &under, const QMimeData *data)
+    : m_files(localFiles(data))
+{
+    if (m_files.isEmpty())
+        return;
+    const QList<TableColumn> &columns = sheet.columns();
+    if (under.isValid() && takesFiles(columns[under.column()])) {
+        m_column = under.column();
+        m_cell = under;
+    } else if (m_files.size() == 1 && isTextTable(m_files.constFirst())) {
+        m_importPath = m_files.constFirst();
+    } else {
+        const auto found = std::find_if(columns.cbegin(), columns.cend(), takesFiles);
+        m_column = found == columns.cend() ? -1 : int(found - columns.cbegin());
+    }
+}
+
+QStringList TableDrop::localFiles(const QMimeData *data)
+{
+    QStringList files;
+    for (const QUrl &url : data->urls()) {
+        if (url.isLocalFile())
+            files.append(url.toLocalFile());
+    }
+    return files;
+}
+
+Error TableDrop::takeInto(TableSheet &sheet, const TableModel &model) const
+{
+    QList<TableCellText> cells;
+    for (qsizetype i = 0; i < m_files.size(); ++i) {
+        const int shown = m_cell.isValid() ? m_cell.row() + int(i) : model.rowCount() + int(i);
+        const int beyond = shown - model.rowCount();
+        cells.append({beyond < 0 ? model.sheetRow(shown) : sheet.rowCount() + beyond, m_column, m_files[i]});
+    }
+    return sheet.setCells(cells, TableDropTr::tr("drop %n file(s)", nullptr, int(m_files.size())));
+}
+
+} // namespace orv

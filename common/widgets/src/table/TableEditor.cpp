@@ -1,0 +1,233 @@
+#include "orv/widgets/TableEditor.h"
+
+#include "FindBar.h"
+
+#include <orv/core/FileUtils.h>
+#include <orv/table_model/TableExport.h>
+#include <orv/widgets/MeaningColors.h>
+#include <orv/widgets/ORVFileDialog.h>
+#include <orv/widgets/ORVStyle.h>
+#include <orv/widgets/TableImportDialog.h>
+
+#include <QAccessible>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QShortcut>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace orv {
+
+namespace {
+
+/// Rows looked at in one go, a few milliseconds.
+constexpr int kCountedRows = 2000;
+
+FileExtensionsNameFilter textTables()
+{
+    return {FileTypes::CSV, FileTypes::TXT};
+}
+
+} // namespace
+
+class TableEditor::Private
+{
+public:
+    TableSheet *sheet = nullptr;
+    TableView *view = nullptr;
+    FindBar *findBar = nullptr;
+    QLineEdit *filter = nullptr;
+    QToolButton *onlyProblems = nullptr;
+    QLabel *message = nullptr;
+    QLabel *counts = nullptr;
+    QTimer *counting = nullptr;
+};
+
+TableEditor::TableEditor(TableSheet *sheet, QWidget *parent)
+    : QWidget(parent)
+    , d(std::make_unique<Private>())
+{
+    d->sheet = sheet;
+    build();
+    d->counting = new QTimer(this);
+    d->counting->setInterval(0);
+    connect(d->counting, &QTimer::timeout, this, &TableEditor::countOn);
+    const auto recount = [this] {
+        if (!d->sheet->areProblemsCounted())
+            d->counting->start();
+        showCounts();
+    };
+    connect(sheet, &TableSheet::loaded, this, recount);
+    connect(sheet, &TableSheet::loaded, d->view, &TableView::fitColumns);
+    connect(sheet, &TableSheet::rowsInserted, this, recount);
+    connect(sheet, &TableSheet::rowsRemoved, this, recount);
+    connect(sheet, &TableSheet::cellsChanged, this, recount);
+    recount();
+}
+
+TableEditor::~TableEditor()
+{
+    // A cell that is being edited is taken while the view goes, when nothing here may be asked any more.
+    d->sheet->disconnect(this);
+    d->view->disconnect(this);
+}
+
+void TableEditor::build()
+{
+    d->view = new TableView(d->sheet);
+    d->filter = new QLineEdit;
+    d->filter->setObjectName(QStringLiteral("filter"));
+    d->filter->setPlaceholderText(tr("Filter rows"));
+    d->filter->setAccessibleName(tr("Filter rows"));
+    d->filter->setClearButtonEnabled(true);
+    d->onlyProblems = new QToolButton;
+    d->onlyProblems->setObjectName(QStringLiteral("onlyProblems"));
+    d->onlyProblems->setCheckable(true);
+    d->onlyProblems->setToolTip(tr("Show only rows with a cell that isn't allowed"));
+    auto *const top = new QHBoxLayout;
+    top->addWidget(d->filter, 1);
+    top->addWidget(d->onlyProblems);
+    auto *const bar = new QToolBar;
+    bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    using C = TableView::Command;
+    for (const C command :
+         {C::AddRow, C::DuplicateRows, C::RemoveRows, C::MoveUp, C::MoveDown, C::Find, C::Import, C::Export})
+        bar->addAction(d->view->action(command));
+    d->message = new QLabel;
+    d->message->setObjectName(QStringLiteral("message"));
+    d->message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    d->counts = new QLabel;
+    d->counts->setObjectName(QStringLiteral("counts"));
+    auto *const bottom = new QHBoxLayout;
+    bottom->addWidget(d->message, 1);
+    bottom->addWidget(d->counts);
+    d->findBar = new FindBar(d->view);
+    auto *const layout = new QVBoxLayout(this);
+    layout->addLayout(top);
+    layout->addWidget(bar);
+    layout->addWidget(d->view, 1);
+    layout->addWidget(d->findBar);
+    layout->addLayout(bottom);
+    setFocusProxy(d->view);
+    connect(d->filter, &QLineEdit::textChanged, this, &TableEditor::applyFilter);
+    connect(d->onlyProblems, &QToolButton::toggled, this, &TableEditor::applyFilter);
+    connect(d->view, &TableView::said, this, &TableEditor::say);
+    connect(d->view, &TableView::findWanted, d->findBar, &FindBar::begin);
+    connect(d->view, &TableView::exportWanted, this, &TableEditor::chooseExport);
+    connect(d->view, &TableView::importWanted, this,
+            [this](const QString &path) { path.isEmpty() ? chooseImport() : importFile(path); });
+}
+
+TableView *TableEditor::view() const
+{
+    return d->view;
+}
+
+void TableEditor::setTitle(const QString &title)
+{
+    d->view->setAccessibleName(title);
+    setAccessibleName(title);
+}
+
+void TableEditor::applyFilter()
+{
+    TableModel *const model = d->view->tableModel();
+    const QModelIndex before = d->view->currentIndex();
+    const quint32 row = before.isValid() ? model->rowId(before.row()) : 0;
+    model->setFilter({d->filter->text(), d->onlyProblems->isChecked()});
+    // Many rows at once reset the view; the current cell stays all the same while it is shown.
+    const int now = before.isValid() ? model->rowOfId(row) : -1;
+    if (now >= 0 && !d->view->currentIndex().isValid())
+        d->view->goTo(model->index(now, before.column()));
+    d->view->viewport()->update();
+    showCounts();
+}
+
+void TableEditor::say(const QString &text)
+{
+    d->message->setText(text);
+    d->message->setToolTip(text);
+    QAccessibleEvent event(d->message, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+void TableEditor::countOn()
+{
+    d->sheet->countProblems(kCountedRows);
+    if (d->sheet->areProblemsCounted())
+        d->counting->stop();
+    showCounts();
+}
+
+void TableEditor::showCounts()
+{
+    const int all = d->sheet->rowCount();
+    const int shown = d->view->tableModel()->rowCount();
+    const QLocale locale = this->locale();
+    d->counts->setText(shown == all ? tr("%n row(s)", nullptr, all)
+                                    : tr("%1 of %2 rows").arg(locale.toString(shown), locale.toString(all)));
+    const int problems = d->sheet->problemCount();
+    d->onlyProblems->setText(problems == 0 ? tr("No problems") : tr("%n problem(s)", nullptr, problems));
+    d->onlyProblems->setEnabled(problems > 0 || d->onlyProblems->isChecked());
+    QPalette colors = palette();
+    if (problems > 0)
+        colors.setColor(QPalette::ButtonText, MeaningColors::error(palette()));
+    d->onlyProblems->setPalette(colors);
+}
+
+void TableEditor::chooseImport()
+{
+    const QString path = ORVFileDialog::getOpenFileName(this, tr("Import a Text File"), {}, textTables());
+    if (!path.isEmpty())
+        importFile(path);
+}
+
+void TableEditor::importFile(const QString &path)
+{
+    const Result<QByteArray> bytes = FileUtils::readFile(path);
+    if (bytes.hasError()) {
+        ORVStyle::warning(this, tr("Import"), bytes.error().errorMessage(), QMessageBox::Ok, {},
+                          QMessageBox::NoButton, bytes.error().details().join(u'\n'));
+        return;
+    }
+    auto *const dialog =
+        new TableImportDialog(QFileInfo(path).fileName(), bytes.value(), d->sheet->columns(), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+        const QList<QStringList> rows = dialog->rows();
+        const int first = d->sheet->rowCount();
+        const Error error =
+            d->sheet->insertRows(first, rows, tr("import %n row(s)", nullptr, int(rows.size())));
+        say(error.hasError() ? error.errorMessage() : tr("%n row(s) imported", nullptr, int(rows.size())));
+        if (const int row = first < d->sheet->rowCount() ? d->view->tableModel()->rowOfSheetRow(first) : -1;
+            row >= 0)
+            d->view->goTo(d->view->tableModel()->index(row, d->view->shownColumns().value(0)));
+    });
+    dialog->open();
+}
+
+void TableEditor::chooseExport()
+{
+    const QString path = ORVFileDialog::getSaveFileName(this, tr("Export the Table"), {}, textTables());
+    if (!path.isEmpty())
+        exportFile(path);
+}
+
+void TableEditor::exportFile(const QString &path)
+{
+    const bool isCsv = path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive);
+    const auto separator = isCsv ? TableExport::Separator::Comma : TableExport::Separator::Tabulator;
+    const QByteArray text = TableExport::text(*d->view->tableModel(), d->view->shownColumns(), separator);
+    QString reason;
+    if (FileUtils::writeToFile(path, text, &reason) != QFileDevice::NoError)
+        ORVStyle::warning(this, tr("Export"), tr("Cannot write the file \"%1\": %2").arg(path, reason));
+    else
+        say(tr("%n row(s) written to %1", nullptr, d->view->tableModel()->rowCount())
+                .arg(QFileInfo(path).fileName()));
+}
+
+} // namespace orv

@@ -1,0 +1,296 @@
+#include "orv/widgets/TableView.h"
+
+#include "TableCommands.h"
+#include "TableDelegate.h"
+#include "TableDrop.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace orv {
+
+class TableView::Private
+{
+public:
+    TableSheet *sheet = nullptr;
+    TableModel *model = nullptr;
+    TableCommands *commands = nullptr;
+    QString emptyText;
+    QModelIndex dropCell; ///< only while something is dragged over
+};
+
+TableView::TableView(TableSheet *sheet, QWidget *parent)
+    : QTableView(parent)
+    , d(std::make_unique<Private>())
+{
+    d->sheet = sheet;
+    d->model = new TableModel(sheet, this);
+    d->model->setLocale(locale());
+    d->emptyText =
+        tr("There are no rows yet.\nPaste cells from a spreadsheet (Ctrl+V), drop or import a file, "
+           "or add a row (Insert).");
+    setModel(d->model);
+    setItemDelegate(new TableDelegate(this));
+    setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
+    setSelectionMode(ExtendedSelection);
+    setAcceptDrops(true);
+    setWordWrap(false);
+    setUpHeaders();
+    d->commands = new TableCommands(this);
+    fitColumns();
+}
+
+TableView::~TableView()
+{
+    delete std::exchange(d->commands, nullptr);
+}
+
+void TableView::setUpHeaders()
+{
+    QHeaderView *const header = horizontalHeader();
+    header->setSectionsMovable(true);
+    header->setHighlightSections(false);
+    header->setResizeContentsPrecision(100);
+    header->setSortIndicatorClearable(true);
+    header->setSortIndicator(-1, Qt::AscendingOrder);
+    setSortingEnabled(true);
+    header->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(header, &QWidget::customContextMenuRequested, this, &TableView::showHeaderMenu);
+    connect(d->model, &QAbstractItemModel::modelReset, this, [this] {
+        if (d->model->sortColumn() < 0)
+            horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    });
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + fontMetrics().height() / 2);
+    verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+}
+
+TableSheet *TableView::sheet() const
+{
+    return d->sheet;
+}
+
+TableModel *TableView::tableModel() const
+{
+    return d->model;
+}
+
+QAction *TableView::action(Command command) const
+{
+    return d->commands->action(command);
+}
+
+QString TableView::emptyText() const
+{
+    return d->emptyText;
+}
+
+void TableView::setEmptyText(const QString &text)
+{
+    d->emptyText = text;
+    viewport()->update();
+}
+
+QList<int> TableView::shownColumns() const
+{
+    QList<int> columns;
+    const QHeaderView *const header = horizontalHeader();
+    for (int visual = 0; visual < header->count(); ++visual) {
+        if (const int column = header->logicalIndex(visual); !header->isSectionHidden(column))
+            columns.append(column);
+    }
+    return columns;
+}
+
+void TableView::setColumnShown(int column, bool isShown)
+{
+    setColumnHidden(column, !isShown);
+    QList<int> hidden;
+    for (int i = 0; i < d->sheet->columnCount(); ++i) {
+        if (isColumnHidden(i))
+            hidden.append(i);
+    }
+    d->model->setHiddenColumns(hidden);
+    d->commands->update();
+}
+
+void TableView::fitColumns()
+{
+    resizeColumnsToContents();
+    // Room for the sign of a problem and for the sort indicator; nothing so wide that it hides the others.
+    const int sign = fontMetrics().height();
+    const int widest = fontMetrics().averageCharWidth() * 40;
+    for (int column = 0; column < d->sheet->columnCount(); ++column)
+        setColumnWidth(column, std::min(columnWidth(column) + sign, widest));
+}
+
+void TableView::goTo(const QModelIndex &index)
+{
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+    scrollTo(index);
+}
+
+void TableView::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    QPainter painter(viewport());
+    if (d->dropCell.isValid()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRect(visualRect(d->dropCell).adjusted(1, 1, -2, -2));
+    }
+    if (d->model->rowCount() > 0)
+        return;
+    const QString text = d->model->filter().isEmpty() ? d->emptyText : tr("No row matches the filter.");
+    const int margin = fontMetrics().height() * 2;
+    painter.setPen(palette().color(QPalette::Text));
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignCenter | Qt::TextWordWrap, text);
+}
+
+void TableView::stepFrom(const QModelIndex &from, int rows, int columns)
+{
+    const QList<int> shown = shownColumns();
+    const int row = std::clamp(from.row() + rows, 0, d->model->rowCount() - 1);
+    const qsizetype column =
+        std::clamp<qsizetype>(shown.indexOf(from.column()) + columns, 0, shown.size() - 1);
+    if (row >= 0 && !shown.isEmpty())
+        goTo(d->model->index(row, shown[column]));
+}
+
+void TableView::keyPressEvent(QKeyEvent *event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    if (isEnter && currentIndex().isValid() && state() != EditingState) {
+        stepFrom(currentIndex(), event->modifiers().testFlag(Qt::ShiftModifier) ? -1 : 1, 0);
+    } else if (isTab && event->modifiers().testFlag(Qt::ControlModifier)) {
+        QAbstractScrollArea::focusNextPrevChild(event->key() == Qt::Key_Tab);
+    } else {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+bool TableView::focusNextPrevChild(bool next)
+{
+    const QList<int> shown = shownColumns();
+    const QModelIndex current = currentIndex();
+    const bool isAtEdge =
+        !current.isValid() || shown.isEmpty() ||
+        (next ? current.row() == d->model->rowCount() - 1 && current.column() == shown.constLast()
+              : current.row() == 0 && current.column() == shown.constFirst());
+    // Not the item view's: it would begin anew at the first cell, and never let go.
+    return isAtEdge ? QAbstractScrollArea::focusNextPrevChild(next) : QTableView::focusNextPrevChild(next);
+}
+
+void TableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    const QPersistentModelIndex edited = currentIndex();
+    QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    if (!edited.isValid())
+        return;
+    const QList<int> shown = shownColumns();
+    const bool isLast = edited.column() == (shown.isEmpty() ? -1 : shown.constLast());
+    const bool isFirst = edited.column() == (shown.isEmpty() ? -1 : shown.constFirst());
+    switch (hint) {
+    case QAbstractItemDelegate::SubmitModelCache:
+        stepFrom(edited, 1, 0);
+        break;
+    case QAbstractItemDelegate::EditNextItem:
+        isLast ? stepFrom(edited, 1, -int(shown.size())) : stepFrom(edited, 0, 1);
+        break;
+    case QAbstractItemDelegate::EditPreviousItem:
+        isFirst ? stepFrom(edited, -1, int(shown.size())) : stepFrom(edited, 0, -1);
+        break;
+    case QAbstractItemDelegate::NoHint:
+    case QAbstractItemDelegate::RevertModelCache:
+        break;
+    }
+}
+
+void TableView::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
+{
+    QTableView::selectionChanged(selected, deselected);
+    if (d->commands)
+        d->commands->update();
+}
+
+void TableView::contextMenuEvent(QContextMenuEvent *event)
+{
+    auto *const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    d->commands->fillMenu(menu);
+    menu->popup(event->globalPos());
+}
+
+void TableView::showHeaderMenu(QPoint position)
+{
+    auto *const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const int clicked = horizontalHeader()->logicalIndexAt(position);
+    if (clicked >= 0) {
+        menu->addAction(tr("Sort &Ascending"), this,
+                        [this, clicked] { sortByColumn(clicked, Qt::AscendingOrder); });
+        menu->addAction(tr("Sort &Descending"), this,
+                        [this, clicked] { sortByColumn(clicked, Qt::DescendingOrder); });
+        menu->addAction(tr("&Own Order"), this, [this] { sortByColumn(-1, Qt::AscendingOrder); });
+        menu->addAction(action(Command::KeepOrder));
+        menu->addSeparator();
+    }
+    for (int column = 0; column < d->sheet->columnCount(); ++column) {
+        QAction *const shown = menu->addAction(d->sheet->columns()[column].header());
+        shown->setCheckable(true);
+        shown->setChecked(!isColumnHidden(column));
+        shown->setEnabled(isColumnHidden(column) || shownColumns().size() > 1);
+        connect(shown, &QAction::toggled, this, [this, column](bool on) { setColumnShown(column, on); });
+    }
+    menu->popup(horizontalHeader()->mapToGlobal(position));
+}
+
+void TableView::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (TableDrop::localFiles(event->mimeData()).isEmpty())
+        event->ignore();
+    else
+        event->acceptProposedAction();
+}
+
+void TableView::dragMoveEvent(QDragMoveEvent *event)
+{
+    const TableDrop drop(*d->sheet, indexAt(event->position().toPoint()), event->mimeData());
+    d->dropCell = drop.cell();
+    viewport()->update();
+    if (drop.isPossible())
+        event->acceptProposedAction();
+    else
+        event->ignore();
+}
+
+void TableView::dragLeaveEvent(QDragLeaveEvent * /*event*/)
+{
+    d->dropCell = {};
+    viewport()->update();
+}
+
+void TableView::dropEvent(QDropEvent *event)
+{
+    d->dropCell = {};
+    viewport()->update();
+    const TableDrop drop(*d->sheet, indexAt(event->position().toPoint()), event->mimeData());
+    if (!drop.isPossible()) {
+        event->ignore();
+        return;
+    }
+    event->acceptProposedAction();
+    if (!drop.importPath().isEmpty())
+        Q_EMIT importWanted(drop.importPath());
+    else
+        d->commands->tell(drop.takeInto(*d->sheet, *d->model));
+}
+
+} // namespace orv
