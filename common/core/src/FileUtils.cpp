@@ -1,5 +1,7 @@
 #include "orv/core/FileUtils.h"
 
+#include <orv/core/Logging.h>
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -9,8 +11,12 @@
 #include <atomic>
 #include <cerrno>
 #include <filesystem>
+#include <limits>
 #include <system_error>
 
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
 #ifdef Q_OS_LINUX
 #include <linux/fs.h>
 #include <sys/ioctl.h>
@@ -108,11 +114,73 @@ QString writeAll(QFile &file, QByteArrayView bytes)
     return {};
 }
 
+bool flushToDisk(const QFile &file)
+{
+#ifdef Q_OS_UNIX
+    return ::fsync(file.handle()) == 0;
+#else
+    Q_UNUSED(file)
+    return true;
+#endif
+}
+
 /// A name beside \a path that no other thread or program takes.
 QString nameBeside(const QString &path)
 {
     static std::atomic<quint32> count = 0;
     return QStringLiteral("%1.%2-%3").arg(path).arg(QCoreApplication::applicationPid()).arg(count++);
+}
+
+/// Whoever has linked copies of a folder, as backups are, wants them to stay; whoever has not shall hear why
+/// the names differ from now on.
+void warnOfOtherNames(const QString &path)
+{
+    const QFileInfo target(path);
+    if (!target.isFile())
+        return;
+    std::error_code error;
+    const auto names = std::filesystem::hard_link_count(target.filesystemCanonicalFilePath(), error);
+    if (!error && names > 1) {
+        qCWarning(genericLog).noquote()
+            << QStringLiteral("%1 is one of %2 names (hard links) of a file. It becomes a file of its own; "
+                              "the other names keep what was there.")
+                   .arg(path)
+                   .arg(names);
+    }
+}
+
+/// A file that can be written in a folder in which none can be made.
+bool allowsOnlyTheFile(const QString &path)
+{
+    const QFileInfo target(QFileInfo(path).canonicalFilePath());
+    return target.isFile() && target.isWritable() && !QFileInfo(target.path()).isWritable();
+}
+
+QFileDevice::FileError writeInPlace(const QString &path, const QByteArray &bytes, QString *errorText)
+{
+    const Result<QByteArray> old = readFile(path, std::numeric_limits<qint64>::max());
+    QFile file(path);
+    if (old.hasError() || !file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+        return failed(QFileDevice::OpenError, file.errorString(), errorText);
+    qCWarning(genericLog).noquote()
+        << QStringLiteral(
+               "%1 is written in place, as nothing can be made in its folder: if the program or the "
+               "machine stops now, the file may be cut short.")
+               .arg(path);
+    const auto write = [&file](const QByteArray &content) {
+        const QString reason = file.seek(0) ? writeAll(file, content) : file.errorString();
+        return !reason.isEmpty() || file.resize(content.size()) ? reason : file.errorString();
+    };
+    const QString reason = write(bytes);
+    if (reason.isEmpty())
+        return flushToDisk(file) ? QFileDevice::NoError
+                                 : failed(QFileDevice::WriteError, qt_error_string(errno), errorText);
+    const QString lost = write(*old);
+    return failed(QFileDevice::WriteError,
+                  lost.isEmpty()
+                      ? reason
+                      : FileUtilsTr::tr("%1 The old content couldn't be put back: %2").arg(reason, lost),
+                  errorText);
 }
 
 std::optional<CopyFailure> copyBytes(QFile &from, QFile &to, const CopyProgress &progress)
@@ -223,6 +291,9 @@ QFileDevice::FileError writeToFile(const QString &path, const QByteArray &bytes,
 {
     if (const QString refusal = refusalToWrite(path); !refusal.isEmpty())
         return failed(QFileDevice::OpenError, refusal, errorText);
+    warnOfOtherNames(path);
+    if (allowsOnlyTheFile(path))
+        return writeInPlace(path, bytes, errorText);
     QSaveFile file(path);
     errno = 0;
     // Without the flush a disk that is full shows only inside commit(), which renames the cut file all the

@@ -1,9 +1,12 @@
+#include "LogCapture.h"
 #include "OrvTest.h"
 #include "TestFiles.h"
 
 #include <orv/core/FileUtils.h>
 
 #include <QFileInfo>
+
+#include <filesystem>
 
 using namespace orv;
 using namespace TestFiles;
@@ -26,6 +29,9 @@ private Q_SLOTS:
     void unwritableTargetsAreRefused();
     void anEmptyNameIsRefused();
     void aPipeIsNotReplaced();
+    void aNameOfSeveralBecomesAFileOfItsOwn();
+    void aFileInAFolderWithoutPermissionIsWrittenInPlace_data();
+    void aFileInAFolderWithoutPermissionIsWrittenInPlace();
     void aFolderWithoutPermissionIsRefused();
     void aFullDiskLeavesTheOldFile_data();
     void aFullDiskLeavesTheOldFile();
@@ -153,10 +159,55 @@ void TestWriteFile::aPipeIsNotReplaced()
     QVERIFY(!QFileInfo(at(u"pipe"_s)).isFile());
 }
 
+void TestWriteFile::aNameOfSeveralBecomesAFileOfItsOwn()
+{
+    makeFile(at(u"a.wflw"_s), "old");
+    std::filesystem::create_hard_link(QFileInfo(at(u"a.wflw"_s)).filesystemFilePath(),
+                                      QFileInfo(at(u"b.wflw"_s)).filesystemFilePath());
+    const LogCapture log;
+    QCOMPARE(FileUtils::writeToFile(at(u"a.wflw"_s), "new"), QFileDevice::NoError);
+    QCOMPARE(bytesOf(at(u"a.wflw"_s)), "new"_ba);
+    QCOMPARE(bytesOf(at(u"b.wflw"_s)), "old"_ba);
+    QCOMPARE(
+        log.warnings(),
+        QStringList(u"%1 is one of 2 names (hard links) of a file. It becomes a file of its own; the other "
+                    "names keep what was there."_s.arg(at(u"a.wflw"_s))));
+}
+
+void TestWriteFile::aFileInAFolderWithoutPermissionIsWrittenInPlace_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("longer") << QByteArray(20000, 'n');
+    QTest::newRow("shorter") << "n"_ba;
+    QTest::newRow("empty") << ""_ba;
+}
+
+void TestWriteFile::aFileInAFolderWithoutPermissionIsWrittenInPlace()
+{
+    QFETCH(QByteArray, bytes);
+    makeFile(at(u"a.wflw"_s), QByteArray(1000, 'o'));
+    QVERIFY(QFile::setPermissions(at(u"a.wflw"_s), QFile::Permissions(0x6666)));
+    QVERIFY(QFile::setPermissions(m_dir->path(), QFile::Permissions(0x5555)));
+    const QString path = at(u"a.wflw"_s);
+    const int outcome = inChildProcess([&path, &bytes] {
+        if (!becomeNobody())
+            return Undone;
+        const LogCapture log;
+        if (FileUtils::writeToFile(path, bytes) != QFileDevice::NoError)
+            return Refused;
+        return log.warnings().join(u'|').contains(u"is written in place"_s) ? Succeeded : WrongError;
+    });
+    QVERIFY(QFile::setPermissions(m_dir->path(), QFile::Permissions(0x7755)));
+    if (outcome == kChildNotSupported || outcome == Undone)
+        QSKIP("Permissions don't bind this user, and no other user can be taken");
+    QCOMPARE(outcome, int(Succeeded));
+    QCOMPARE(bytesOf(path), bytes);
+}
+
 void TestWriteFile::aFolderWithoutPermissionIsRefused()
 {
     makeFile(at(u"a.wflw"_s), "old");
-    QVERIFY(QFile::setPermissions(at(u"a.wflw"_s), QFile::Permissions(0x6644)));
+    QVERIFY(QFile::setPermissions(at(u"a.wflw"_s), QFile::Permissions(0x4444)));
     QVERIFY(QFile::setPermissions(m_dir->path(), QFile::Permissions(0x5555)));
     const QString path = at(u"a.wflw"_s);
     const int outcome = inChildProcess([&path] {

@@ -33,8 +33,11 @@ inline constexpr qint64 kMaxFileSize = qint64(128) * 1024 * 1024;
 
 /// Replaces the file at \a path by \a bytes, whole or not at all: the bytes go to a file beside it, which is
 /// flushed and then renamed, so that an interrupted or failed write leaves the old file as it was. A link
-/// stays a link; a folder, pipe or device is refused. Answers QFileDevice::NoError (0) on success; otherwise
-/// \a errorText, when not null, receives the device's words.
+/// stays a link; of several names of one file (hard links) this one becomes a file of its own, with a warning
+/// in the log; a folder, pipe or device is refused. A file that can be written in a folder in which nothing
+/// can be made is written in place, with a warning of the risk: a write that fails puts the old content back,
+/// but an interrupted one leaves it cut. Answers QFileDevice::NoError (0) on success; otherwise \a errorText,
+/// when not null, receives the device's words.
 ORV_WORKFLOW_EXPORT QFileDevice::FileError writeToFile(const QString &path, const QByteArray &bytes,
                                                        QString *errorText = nullptr);
 
