@@ -8,7 +8,10 @@
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 
 #include <QDateTime>
+#include <QJsonArray>
 #include <QJsonDocument>
+
+#include <limits>
 
 using namespace orv;
 using namespace Qt::StringLiterals;
@@ -22,6 +25,10 @@ class TestWflwMetaData : public OrvTest
 private Q_SLOTS:
     void aDocumentIsNewerByAnySegment_data();
     void aDocumentIsNewerByAnySegment();
+    void versionsAreExact_data();
+    void versionsAreExact();
+    void whatIsNoVersionIsAFault_data();
+    void whatIsNoVersionIsAFault();
     void theCurrentVersion();
     void theVersionLists();
     void versionsAreJudged_data();
@@ -338,6 +345,65 @@ void TestWflwMetaData::aDocumentIsNewerByAnySegment()
     QFETCH(QString, version);
     QFETCH(bool, isNewer);
     QCOMPARE(WflwMetaData::isNewerThanCurrent(QVersionNumber::fromString(version)), isNewer);
+}
+
+void TestWflwMetaData::versionsAreExact_data()
+{
+    QTest::addColumn<QJsonValue>("stored");
+    QTest::addColumn<QVersionNumber>("version");
+    constexpr int kLargest = std::numeric_limits<int>::max();
+    QTest::newRow("text") << QJsonValue(u"5.9.1"_s) << QVersionNumber(5, 9, 1);
+    QTest::newRow("two segments") << QJsonValue(u"5.47"_s) << QVersionNumber(5, 47);
+    QTest::newRow("number") << QJsonValue(5) << QVersionNumber(5);
+    QTest::newRow("missing") << QJsonValue(QJsonValue::Undefined) << QVersionNumber(0);
+    QTest::newRow("null") << QJsonValue(QJsonValue::Null) << QVersionNumber(0);
+    QTest::newRow("large major") << QJsonValue(u"99999999999.1"_s) << QVersionNumber(kLargest, 1);
+    QTest::newRow("large minor") << QJsonValue(u"5.9999999999.0"_s) << QVersionNumber(5, kLargest, 0);
+    QTest::newRow("large number") << QJsonValue(99999999999.0) << QVersionNumber(kLargest);
+}
+
+void TestWflwMetaData::versionsAreExact()
+{
+    QFETCH(QJsonValue, stored);
+    QFETCH(QVersionNumber, version);
+    QJsonObject metadata;
+    if (!stored.isUndefined())
+        metadata.insert(u"version"_s, stored);
+    const Result<QVersionNumber> exact = WflwMetaData::exactVersion(metadata);
+    ORV_VERIFY_OK(exact.error());
+    QCOMPARE(*exact, version);
+    QCOMPARE(exact->segmentCount(), version.segmentCount());
+}
+
+void TestWflwMetaData::whatIsNoVersionIsAFault_data()
+{
+    QTest::addColumn<QJsonValue>("stored");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *name, const QJsonValue &stored, const QString &text) {
+        QTest::newRow(name) << stored << text;
+    };
+    row("a letter in front", u"v5.48.0"_s, u"v5.48.0"_s);
+    row("a letter behind", u"5.47.0b"_s, u"5.47.0b"_s);
+    row("commas", u"5,48,0"_s, u"5,48,0"_s);
+    row("blank", u"5.47.0 "_s, u"5.47.0 "_s);
+    row("empty", QString(), QString());
+    row("dot at the end", u"5.47."_s, u"5.47."_s);
+    row("other digits", u"\u0665.1"_s, u"\u0665.1"_s);
+    row("fraction", 5.48, u"5.48"_s);
+    row("negative", -5, u"-5"_s);
+    row("bool", true, u"true"_s);
+    row("list", QJsonArray{5, 47}, u"[5,47]"_s);
+}
+
+void TestWflwMetaData::whatIsNoVersionIsAFault()
+{
+    QFETCH(QJsonValue, stored);
+    QFETCH(QString, text);
+    const Result<QVersionNumber> exact = WflwMetaData::exactVersion({{u"version"_s, stored}});
+    QVERIFY(exact.hasError());
+    QCOMPARE(exact.error().code(), ErrorCode::InvalidContent);
+    QCOMPARE(exact.error().errorMessage(), u"The document's version \"%1\" is no version."_s.arg(text));
+    QCOMPARE(exact.error().details().value(0), u"It stands as \"version\" in the text \"metadata\"."_s);
 }
 
 ORV_REGISTER_TEST(TestWflwMetaData)

@@ -7,12 +7,53 @@
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
 #include <QDateTime>
+#include <QJsonArray>
 #include <QJsonDocument>
+#include <QLocale>
 #include <QMetaEnum>
+#include <QRegularExpression>
+
+#include <limits>
+#include <optional>
 
 namespace orv {
 
 using namespace PropertyEditorStringConstants;
+
+namespace {
+
+/// A number of a version, by its digits; the largest that a segment holds for what is larger.
+int saturatedSegment(const QString &digits)
+{
+    bool fits = false;
+    const int number = digits.toInt(&fits);
+    return fits ? number : std::numeric_limits<int>::max();
+}
+
+/// Numbers with dots between them; nothing for any other text.
+std::optional<QVersionNumber> exactVersionOf(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral(R"(\A[0-9]+(\.[0-9]+)*\z)"));
+    if (!form.match(text).hasMatch())
+        return {};
+    QList<int> segments;
+    for (const QString &digits : text.split(QLatin1Char('.')))
+        segments.append(saturatedSegment(digits));
+    return QVersionNumber(segments);
+}
+
+/// As it stands; of a number all its digits, of anything that holds no version its JSON.
+QString versionText(const QJsonValue &version)
+{
+    if (version.isString())
+        return version.toString();
+    if (version.isDouble())
+        return QString::number(version.toDouble(), 'f', QLocale::FloatingPointShortest);
+    const QByteArray array = QJsonDocument(QJsonArray{version}).toJson(QJsonDocument::Compact);
+    return QString::fromUtf8(array.mid(1, array.size() - 2));
+}
+
+} // namespace
 
 QString workflowAppTypeToString(WorkflowAppType type)
 {
@@ -158,6 +199,23 @@ QString WflwMetaData::versionFromMetaDataObject(const QJsonObject &object)
 QVersionNumber WflwMetaData::versionNumberFromMetaDataObject(const QJsonObject &object)
 {
     return QVersionNumber::fromString(versionFromMetaDataObject(object));
+}
+
+Result<QVersionNumber> WflwMetaData::exactVersion(const QJsonObject &object)
+{
+    const QJsonValue version = object.value(VERSION_KEY);
+    if (version.isUndefined() || version.isNull())
+        return QVersionNumber(0);
+    const QString text = versionText(version);
+    // As a number 5.4 may have been 5.40.
+    const bool isFraction = version.isDouble() && text.contains(QLatin1Char('.'));
+    if (const std::optional<QVersionNumber> exact = exactVersionOf(text); exact && !isFraction)
+        return *exact;
+    return Error(ErrorCode::InvalidContent, tr("The document's version \"%1\" is no version.").arg(text))
+        .addDetail(tr("It stands as \"%1\" in the text \"%2\".").arg(VERSION_KEY, META_IN_JSON_KEY))
+        .addDetail(tr("A version is numbers with dots between them, such as %1; write there which one the "
+                      "document has.")
+                       .arg(currentWorkflowVersion().toString()));
 }
 
 PropertyEditorContent::ContentMode WflwMetaData::contentMode(const QJsonObject &object)

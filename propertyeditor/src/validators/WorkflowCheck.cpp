@@ -61,7 +61,10 @@ QList<LocatedFinding> located(const QList<Finding> &findings, const Content &con
 Result<QJsonObject> upToDate(const QJsonObject &document, const QUrl &baseUrl, WorkflowCheckReport *report)
 {
     const PropertyEditorContent content(document);
-    report->version = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());
+    Result<QVersionNumber> version = WflwMetaData::exactVersion(content.metadata());
+    if (version.hasError())
+        return version.ecatch();
+    report->version = *version;
     report->checkedVersion = report->version;
     QStringList reasons;
     const State state = WflwMetaData::checkWorkflowVersion(report->version, &content, &reasons);

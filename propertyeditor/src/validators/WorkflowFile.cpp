@@ -26,9 +26,9 @@ struct WorkflowFileTr
     Q_DECLARE_TR_FUNCTIONS(WorkflowFile)
 };
 
-QVersionNumber versionOf(const QJsonObject &document)
+Result<QVersionNumber> versionOf(const QJsonObject &document)
 {
-    return WflwMetaData::versionNumberFromMetaDataObject(PropertyEditorContent(document).metadata());
+    return WflwMetaData::exactVersion(PropertyEditorContent(document).metadata());
 }
 
 /// Why text is no workflow, behind \a message.
@@ -91,16 +91,21 @@ QString WorkflowFile::fileAt(const QString &path)
 
 QVersionNumber WorkflowFile::version() const
 {
-    return versionOf(m_source.document);
+    return versionOf(m_source.document).valueOr(QVersionNumber());
 }
 
 WflwMetaData::WflwState WorkflowFile::state(QStringList *reasons) const
 {
     const PropertyEditorContent content(m_source.document);
     QStringList unheard;
-    return WflwMetaData::checkWorkflowVersion(
-        WflwMetaData::versionNumberFromMetaDataObject(content.metadata()), &content,
-        reasons ? reasons : &unheard);
+    if (!reasons)
+        reasons = &unheard;
+    const Result<QVersionNumber> version = WflwMetaData::exactVersion(content.metadata());
+    if (version.hasError()) {
+        *reasons += version.error().errorMessages() + version.error().details();
+        return WflwMetaData::WflwState::NotSupported;
+    }
+    return WflwMetaData::checkWorkflowVersion(*version, &content, reasons);
 }
 
 bool WorkflowFile::isNewer() const
@@ -113,6 +118,8 @@ Error WorkflowFile::fault() const
     const QString metadata =
         m_source.document.value(PropertyEditorStringConstants::META_IN_JSON_KEY).toString();
     ORV_RETURN_IF_ERROR(WflwMetaData::faultInText(metadata));
+    if (Result<QVersionNumber> version = versionOf(m_source.document); version.hasError())
+        return version.ecatch();
     return DocumentStructure::check(m_source.document);
 }
 
@@ -190,12 +197,16 @@ Error WorkflowFile::checkNewer(const QString &file) const
         return text.ecatch();
     // Whatever else stands there, and however odd it is, the host has chosen to replace it.
     const Result<JsonUtils::DoubtfulObject> there = JsonUtils::doubtfulObjectFromJson(*text);
-    const QVersionNumber version = there.hasError() ? QVersionNumber() : versionOf(there->object);
-    if (!WflwMetaData::isNewerThanCurrent(version))
+    if (there.hasError())
+        return Error::NoError;
+    Result<QVersionNumber> version = versionOf(there->object);
+    if (version.hasError())
+        return version.ecatch();
+    if (!WflwMetaData::isNewerThanCurrent(*version))
         return Error::NoError;
     return Error(ErrorCode::InvalidContent,
                  WorkflowFileTr::tr("The workflow has the newer version %1 and is not written over: %2")
-                     .arg(version.toString(), file))
+                     .arg(version->toString(), file))
         .addDetail(WorkflowFileTr::tr("Save to another file, or use the software that wrote it."));
 }
 

@@ -88,16 +88,18 @@ Error notSupported(const QVersionNumber &version, const QStringList &reasons)
 /// they would tell.
 Error bringUpToDate(PropertyEditorContent *document)
 {
-    const QVersionNumber version = WflwMetaData::versionNumberFromMetaDataObject(document->metadata());
+    Result<QVersionNumber> version = WflwMetaData::exactVersion(document->metadata());
+    if (version.hasError())
+        return version.ecatch();
     QStringList messages;
-    switch (WflwMetaData::checkWorkflowVersion(version, document, &messages)) {
+    switch (WflwMetaData::checkWorkflowVersion(*version, document, &messages)) {
     case WflwMetaData::WflwState::UpToDate:
         break;
     case WflwMetaData::WflwState::NeedsUpgrade:
-        ORV_RETURN_IF_ERROR(WflwUpgrader::upgradeWorkflow(version, document, nullptr, false));
+        ORV_RETURN_IF_ERROR(WflwUpgrader::upgradeWorkflow(*version, document, nullptr, false));
         break;
     case WflwMetaData::WflwState::NotSupported:
-        return notSupported(version, messages);
+        return notSupported(*version, messages);
     }
     return Error::NoError;
 }

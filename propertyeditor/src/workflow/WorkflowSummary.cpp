@@ -121,6 +121,18 @@ std::optional<QStringList> firstSamples(const WorkflowSummary::Tab &summary,
     return {};
 }
 
+void summarizeState(const PropertyEditorContent &content, WorkflowSummary *summary)
+{
+    const Result<QVersionNumber> version = WflwMetaData::exactVersion(content.metadata());
+    if (version.hasError()) {
+        summary->state = WflwMetaData::WflwState::NotSupported;
+        summary->messages = version.error().errorMessages() + version.error().details();
+        return;
+    }
+    summary->state = WflwMetaData::checkWorkflowVersion(*version, &content, &summary->messages);
+    summary->isNewer = WflwMetaData::isNewerThanCurrent(*version);
+}
+
 } // namespace
 
 WorkflowSummary WorkflowSummary::of(const PropertyEditorContent &content)
@@ -128,8 +140,7 @@ WorkflowSummary WorkflowSummary::of(const PropertyEditorContent &content)
     const QJsonObject metadata = content.metadata();
     WorkflowSummary summary;
     summary.version = WflwMetaData::versionFromMetaDataObject(metadata);
-    summary.state = WflwMetaData::checkWorkflowVersion(
-        WflwMetaData::versionNumberFromMetaDataObject(metadata), &content, &summary.messages);
+    summarizeState(content, &summary);
     summary.name = WflwMetaData::nameFromMetaDataObject(metadata);
     summary.description = WflwMetaData::descriptionFromMetaDataObject(metadata);
     summary.iconName = WflwMetaData::iconNameFromMetaDataObject(metadata);

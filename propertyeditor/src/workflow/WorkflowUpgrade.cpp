@@ -1,5 +1,6 @@
 #include "orv/propertyeditor/workflow/WorkflowUpgrade.h"
 
+#include <orv/propertyeditor/content/CellStamps.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/DocumentStructure.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
@@ -24,6 +25,7 @@ QList<Loss> lossesOfLoad(const QJsonObject &document, const PropertyEditorConten
 {
     LossCollector collector;
     DocumentStructure::reportLosses(document, &collector);
+    CellStamps::reportLosses(document, &collector);
     PropertyEditor::Content content;
     content.setLossObserver(&collector);
     // A document that can't be loaded fails in the upgrade, where the error belongs, unless a step mends it.
@@ -41,11 +43,24 @@ Error begin(const PropertyEditorContent &content, WorkflowUpgradeReport *report)
         return Error(ErrorCode::MalformedStructure,
                      WorkflowUpgradeTr::tr("The document has no tabs, so it is no workflow."));
     }
-    report->from = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());
+    Result<QVersionNumber> version = WflwMetaData::exactVersion(content.metadata());
+    if (version.hasError())
+        return version.ecatch();
+    report->from = *version;
     report->to = report->from;
     QStringList reasons;
     report->state = WflwMetaData::checkWorkflowVersion(report->from, &content, &reasons);
     return report->state == State::NotSupported ? Error(ErrorCode::InvalidContent, reasons) : Error();
+}
+
+/// Whether others can open what the upgrade has made, which itself passes over cells of unknown types.
+Error checkUsable(const QJsonObject &document)
+{
+    PropertyEditor::Content content;
+    Error error = content.assignFromJson(document);
+    if (error)
+        error.ecatch().addDetail(WorkflowUpgradeTr::tr("The upgraded document couldn't be opened."));
+    return error;
 }
 
 Error takeSteps(PropertyEditorContent &content, const WorkflowUpgradeOptions &options,
@@ -61,12 +76,11 @@ Error takeSteps(PropertyEditorContent &content, const WorkflowUpgradeOptions &op
     report->notes = notes;
     report->steps = review.steps();
     report->to = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());
-    // A document of a later minor version comes back as it was.
-    report->isChanged = report->to != report->from;
-    if (!report->isChanged)
-        return Error::NoError;
+    report->isChanged = true;
     content.setCustomUser(options.user);
     report->upgraded = content.toJson();
+    if (!report->malformed)
+        report->malformed = checkUsable(content.document());
     return Error::NoError;
 }
 
@@ -79,7 +93,8 @@ WorkflowUpgradeReport run(const QJsonObject &document, const WorkflowUpgradeOpti
     report.error = WflwMetaData::faultInText(document.value(META_IN_JSON_KEY).toString());
     if (!report.error)
         report.error = begin(content, &report);
-    if (report.error || report.from == WflwMetaData::currentWorkflowVersion())
+    if (report.error || report.from == WflwMetaData::currentWorkflowVersion() ||
+        WflwMetaData::isNewerThanCurrent(report.from))
         return report;
     report.malformed = DocumentStructure::check(document);
     const QList<Loss> lost = lossesOfLoad(document, content);

@@ -2,6 +2,7 @@
 
 #include <orv/core/Error.h>
 #include <orv/core/Export.h>
+#include <orv/core/Result.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/workflow/WorkflowType.h>
 
@@ -110,6 +111,12 @@ public:
     /// A text as it stands; any other value as its integer, so that a missing version reads "0".
     [[nodiscard]] static QString versionFromMetaDataObject(const QJsonObject &object);
     [[nodiscard]] static QVersionNumber versionNumberFromMetaDataObject(const QJsonObject &object);
+
+    /// The version for whoever decides what may be done to the document: a number that is too large for a
+    /// segment counts as the largest one, a missing version is 0. InvalidContent, with place and remedy, for
+    /// what isn't numbers with dots between them; such a document is of no known age and must not be written
+    /// over.
+    [[nodiscard]] static Result<QVersionNumber> exactVersion(const QJsonObject &object);
 
     /// 0 when absent; other numbers pass unchecked.
     [[nodiscard]] static PropertyEditorContent::ContentMode contentMode(const QJsonObject &object);

@@ -41,6 +41,7 @@ struct ORV_WORKFLOW_EXPORT WorkflowSummary
 
     QString version;
     WflwMetaData::WflwState state = WflwMetaData::WflwState::UpToDate;
+    bool isNewer = false; ///< in any segment than what this software writes
     QStringList messages; ///< why the document can't be used
     QString name;
     QString description;

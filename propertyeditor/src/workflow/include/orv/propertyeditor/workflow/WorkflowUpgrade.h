@@ -41,7 +41,9 @@ struct ORV_WORKFLOW_EXPORT WorkflowUpgradeReport
     /// What is dropped before the first step; every step works on what is left. Empty for a document that
     /// isn't changed, since nothing of it is lost.
     QList<Loss> lost;
-    Error malformed;     ///< of a document that is mended on the way: its only copy must not be written over
+    /// Of a document that is mended on the way, and of one that can't be opened afterwards, as it has cells
+    /// of a type that is unknown: its only copy must not be written over.
+    Error malformed;
     QByteArray upgraded; ///< the text of the new document; empty when nothing is changed
     Error error;         ///< why there is none
 };
