@@ -344,7 +344,8 @@ bool WflwUtils::copyFile(const QUrl &source, const PortableFolder &target, QStri
     if (failure) {
         *error = tr("Cannot copy %1 into %2")
                      .arg(QDir::toNativeSeparators(path), QDir::toNativeSeparators(*destination));
-        qCWarning(propertyEditorLog).noquote() << *error << failure->reason;
+        qCWarning(propertyEditorLog).noquote()
+            << "Cannot copy" << QDir::toNativeSeparators(path) << ":" << failure->reason;
         target.observer->failed(failure->side);
         return false;
     }
