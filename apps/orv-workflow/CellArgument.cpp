@@ -21,15 +21,16 @@ QString CellArgument::file() const
 
 Outcome<FoundCell> CellArgument::find() const
 {
-    const Outcome<QJsonObject> document = readDocument(file());
-    if (document.hasFailed())
-        return document.failure();
-    const Result<CellPlace> place = CellPlace::find(*document, m_tab, m_column, m_row);
+    const Outcome<FileText> text = readText(file());
+    if (text.hasFailed())
+        return text.failure();
+    const QJsonObject &document = text->document;
+    const Result<CellPlace> place = CellPlace::find(document, m_tab, m_column, m_row);
     if (place.hasError()) {
         const bool isBroken = place.error().code() == ErrorCode::MalformedStructure;
         return failureFrom(place.error(), isBroken ? BadInput : WrongUsage);
     }
-    return FoundCell{*document, *place, place->cellIn(*document)};
+    return FoundCell{text->bytes, document, *place, place->cellIn(document)};
 }
 
 } // namespace orv::cli

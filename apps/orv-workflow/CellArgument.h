@@ -5,6 +5,7 @@
 
 #include <orv/propertyeditor/content/CellPlace.h>
 
+#include <QByteArray>
 #include <QJsonObject>
 
 namespace orv::cli {
@@ -12,6 +13,7 @@ namespace orv::cli {
 /// A cell in a document that was read.
 struct FoundCell
 {
+    QByteArray bytes; ///< of the document
     QJsonObject document;
     CellPlace place;
     QJsonObject cell;

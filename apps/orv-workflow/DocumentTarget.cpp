@@ -2,9 +2,11 @@
 
 #include "FileIdentity.h"
 #include "Output.h"
+#include "ReferredFiles.h"
 
 #include <orv/core/FileNameUtils.h>
 #include <orv/core/FileUtils.h>
+#include <orv/core/JsonUtils.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -135,8 +137,10 @@ DocumentOutputs DocumentTarget::outputsOf(const QStringList &arguments, const QL
         result.outputs.append(output);
         if (output == kStandardInput)
             continue;
+        if (kind() == Kind::InPlace)
+            continue; // each input is its own output, and names of one file get a file each
         const QString identity = fileIdentity(output);
-        if (kind() == Kind::Output && inputOf.contains(identity)) {
+        if (inputOf.contains(identity)) {
             return refusal(input.file,
                            QStringLiteral("It would be written over \"%1\", which is an input of this call. "
                                           "Nothing was written; name another output, or use --in-place.")
@@ -153,22 +157,35 @@ DocumentOutputs DocumentTarget::outputsOf(const QStringList &arguments, const QL
     return result;
 }
 
-Outcome<WrittenDocument> DocumentTarget::write(const ChangedDocument &document, const QString &output) const
+Outcome<void> DocumentTarget::checkPlace(const ChangedDocument &document, const QString &output) const
 {
-    if (output.isEmpty() || (m_inPlace && !document.isChanged))
-        return WrittenDocument{};
-    if (m_inPlace && document.malformed) {
+    if (!m_inPlace) {
+        if (output == kStandardInput || !QFileInfo(output).isFile())
+            return {};
+        const Result<QJsonObject> source = JsonUtils::objectFromJson(document.original);
+        return source ? refuseReferred(*source, document.file, {output}) : Outcome<void>();
+    }
+    if (document.malformed) {
         Failure failure = failureFrom(document.malformed, Negative);
         failure.message +=
             QStringLiteral(" Not written over itself; mend it, or write to another file with -o.");
         return failure;
     }
-    if (m_inPlace && !document.lost.isEmpty() && !m_acceptsLosses) {
+    if (!document.lost.isEmpty() && !m_acceptsLosses) {
         return Failure{
             Negative, 0,
             QStringLiteral("Not written, since something would be lost. Write to another file with "
                            "-o, or agree with --accept-losses.")};
     }
+    return {};
+}
+
+Outcome<WrittenDocument> DocumentTarget::write(const ChangedDocument &document, const QString &output) const
+{
+    if (output.isEmpty() || (m_inPlace && !document.isChanged))
+        return WrittenDocument{};
+    if (const Outcome<void> allowed = checkPlace(document, output); allowed.hasFailed())
+        return allowed.failure();
     WrittenDocument written;
     if (m_keepsBackup) {
         const Outcome<QString> backup = keepBackup(output, document.original);

@@ -27,6 +27,7 @@ struct DocumentOutputs
 /// What became of one document, before anything is written.
 struct ChangedDocument
 {
+    QString file; ///< the input
     QByteArray original;
     QByteArray bytes; ///< the original where nothing is changed
     bool isChanged = false;
@@ -68,6 +69,8 @@ private:
     };
 
     [[nodiscard]] Kind kind() const;
+    /// Whether \a document may take the place of what stands at \a output.
+    [[nodiscard]] Outcome<void> checkPlace(const ChangedDocument &document, const QString &output) const;
     [[nodiscard]] QString outputOf(const BatchInput &input, bool isFolder) const;
 
     QString m_output;

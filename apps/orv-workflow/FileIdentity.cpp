@@ -34,6 +34,14 @@ QString fileIdentity(const QString &path)
     return folder == info.filePath() ? folder : fileIdentity(folder) + QLatin1Char('/') + info.fileName();
 }
 
+bool isSameOutput(const QString &first, const QString &second)
+{
+    const QFileInfo info(first);
+    const bool takesSeveral = first == kStandardInput || second == kStandardInput ||
+                              (info.exists() && !info.isFile() && !info.isDir());
+    return !takesSeveral && fileIdentity(first) == fileIdentity(second);
+}
+
 bool isSameFile(const QString &first, const QString &second)
 {
     const bool isFile = first != kStandardInput && second != kStandardInput && QFileInfo(first).isFile();

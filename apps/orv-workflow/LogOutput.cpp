@@ -8,6 +8,8 @@
 #include <QLoggingCategory>
 #include <QRegularExpression>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <map>
 #include <mutex>
@@ -17,12 +19,22 @@ namespace orv::cli {
 
 namespace {
 
+/// Lines about one document that differ in names and numbers alone.
+struct Kind
+{
+    QStringList shown;
+    qsizetype leftOut = 0;
+};
+
 struct Sink
 {
     std::mutex mutex;
     std::FILE *file = stderr;
-    bool repeatsFindings = false;
+    bool isVerbose = false;
+    bool hasFailed = false;                       ///< a line couldn't be written
     std::map<std::thread::id, QString> documents; ///< that the threads of a batch work on
+    std::map<QString, std::map<QString, Kind>>
+        kinds; ///< by document, then by what their lines have in common
 
     static Sink &instance()
     {
@@ -55,20 +67,57 @@ bool isCopyOfFinding(const QString &text)
            missingFile.match(text).hasMatch();
 }
 
+void print(Sink &sink, const QByteArray &head, const QString &document, const QString &text)
+{
+    const QString about = document.isEmpty() ? QString() : withoutControls(document) + QLatin1String(": ");
+    const int written = std::fprintf(sink.file, "%s: %s%s\n", head.constData(),
+                                     about.toLocal8Bit().constData(), text.toLocal8Bit().constData());
+    const bool isWritten = std::fflush(sink.file) == 0 && written >= 0;
+    sink.hasFailed = sink.hasFailed || (!isWritten && sink.file != stderr);
+}
+
+/// Whether the line says something that was said of the document before: documents are loaded several times
+/// on the way, and one may have thousands of cells that nobody knows.
+bool isLeftOut(Sink &sink, const QByteArray &head, const QString &document, const QString &text)
+{
+    constexpr qsizetype kMostOfOneKind = 5;
+    static const QRegularExpression particulars(QStringLiteral(R"("[^"]*"|[0-9]+)"));
+    Kind &kind = sink.kinds[document][QString::fromUtf8(head) + QLatin1String(": ") +
+                                      QString(text).replace(particulars, QStringLiteral("*"))];
+    if (kind.shown.contains(text))
+        return true;
+    if (kind.shown.size() >= kMostOfOneKind) {
+        ++kind.leftOut;
+        return true;
+    }
+    kind.shown.append(text);
+    return false;
+}
+
+void tellLeftOut(Sink &sink, const QString &document)
+{
+    for (const auto &[name, kind] : sink.kinds[document]) {
+        if (kind.leftOut == 0)
+            continue;
+        const qsizetype end = name.indexOf(QLatin1String(": "), name.indexOf(QLatin1String(": ")) + 2);
+        print(sink, name.left(end).toUtf8(), document,
+              QStringLiteral("%1 more lines such as: %2").arg(kind.leftOut).arg(kind.shown.constLast()));
+    }
+    sink.kinds.erase(document);
+}
+
 void writeLine(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
     Sink &sink = Sink::instance();
     const std::lock_guard lock(sink.mutex);
-    if (!sink.repeatsFindings && isCopyOfFinding(text))
+    if (!sink.isVerbose && isCopyOfFinding(text))
         return;
-    const auto document = sink.documents.find(std::this_thread::get_id());
-    const QString about = document == sink.documents.end()
-                              ? QString()
-                              : withoutControls(document->second) + QLatin1String(": ");
-    std::fprintf(sink.file, "%s: %s: %s%s\n", levelName(type),
-                 context.category ? context.category : "default", about.toLocal8Bit().constData(),
-                 text.toLocal8Bit().constData());
-    std::fflush(sink.file);
+    const auto found = sink.documents.find(std::this_thread::get_id());
+    const QString document = found == sink.documents.end() ? QString() : found->second;
+    const QByteArray head =
+        QByteArray(levelName(type)) + ": " + (context.category ? context.category : "default");
+    if (sink.isVerbose || !isLeftOut(sink, head, document, text))
+        print(sink, head, document, text);
 }
 
 QString filterRules(int verbosity)
@@ -91,7 +140,26 @@ LogAbout::~LogAbout()
 {
     Sink &sink = Sink::instance();
     const std::lock_guard lock(sink.mutex);
-    sink.documents.erase(std::this_thread::get_id());
+    const auto document = sink.documents.find(std::this_thread::get_id());
+    if (document == sink.documents.end())
+        return;
+    tellLeftOut(sink, document->second);
+    sink.documents.erase(document);
+}
+
+bool isLogLine(const QByteArray &line)
+{
+    constexpr std::array kTypes = {QtDebugMsg, QtInfoMsg, QtWarningMsg, QtCriticalMsg};
+    return std::ranges::any_of(
+        kTypes, [&line](QtMsgType type) { return line.startsWith(levelName(type) + QByteArray(": ")); });
+}
+
+bool finishLog()
+{
+    Sink &sink = Sink::instance();
+    const std::lock_guard lock(sink.mutex);
+    tellLeftOut(sink, {});
+    return !sink.hasFailed;
 }
 
 bool installLogOutput(int verbosity, const QString &fileName)
@@ -102,7 +170,7 @@ bool installLogOutput(int verbosity, const QString &fileName)
             return false;
         Sink::instance().file = file;
     }
-    Sink::instance().repeatsFindings = verbosity > 0;
+    Sink::instance().isVerbose = verbosity > 0;
     QLoggingCategory::setFilterRules(filterRules(verbosity));
     qInstallMessageHandler(writeLine);
     return true;

@@ -41,6 +41,12 @@ QList<GivenPath> pathsIn(const QList<Argument> &arguments)
     return paths;
 }
 
+bool isClash(const GivenPath &other, const GivenPath &output)
+{
+    return other.use == FileUse::Read ? isSameFile(workflowFileOf(other.path), output.path)
+                                      : isSameOutput(workflowFileOf(other.path), output.path);
+}
+
 std::optional<PathRefusal> refusedName(const QList<Argument> &arguments)
 {
     for (const Argument &argument : arguments) {
@@ -70,7 +76,7 @@ std::optional<PathRefusal> refusedPath(const QList<Argument> &arguments)
         for (const GivenPath &input : paths) {
             if (&input == &output || (input.use == FileUse::Written && &input < &output))
                 continue;
-            if (isSameFile(workflowFileOf(input.path), output.path)) {
+            if (isClash(input, output)) {
                 return PathRefusal{output.path,
                                    {WrongUsage, 0,
                                     QStringLiteral("It would be written over \"%1\", which this call uses, "

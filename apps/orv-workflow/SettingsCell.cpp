@@ -8,6 +8,11 @@ using namespace PropertyEditorStringConstants;
 using PropertyEditor::KeyValueItem;
 using PropertyEditor::LoadContext;
 
+QString pointerOf(const CellPlace &place)
+{
+    return QStringLiteral("/tabs/%1/cells/%2").arg(place.tab).arg(place.cell);
+}
+
 Outcome<SettingsCell> settingsOf(const FoundCell &found)
 {
     const BaseItemType type = baseItemTypeFromString(found.cell.value(TYPE_KEY).toString());
@@ -20,8 +25,7 @@ Outcome<SettingsCell> settingsOf(const FoundCell &found)
     }
     LossCollector losses;
     SettingsCell settings{std::make_unique<KeyValueItem>(type), {}};
-    const LoadContext context(&losses,
-                              QStringLiteral("/tabs/%1/cells/%2").arg(found.place.tab).arg(found.place.cell));
+    const LoadContext context(&losses, pointerOf(found.place));
     if (const Error error = settings.item->load(found.cell, {}, context); error.hasError())
         return failureFrom(error, BadInput);
     settings.lost = losses.losses();

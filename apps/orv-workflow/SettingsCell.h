@@ -16,6 +16,9 @@ struct SettingsCell
     QList<Loss> lost;
 };
 
+/// The JSON pointer of a cell.
+[[nodiscard]] QString pointerOf(const CellPlace &place);
+
 /// The found cell as settings; a cell of another kind is a negative answer.
 [[nodiscard]] Outcome<SettingsCell> settingsOf(const FoundCell &found);
 

@@ -79,6 +79,13 @@ QString headline(const UpgradeAnswer &answer, const WrittenDocument &written)
 
 } // namespace
 
+std::optional<Failure> faultOf(const UpgradeAnswer &answer)
+{
+    if (!answer.isChanged || !answer.malformed)
+        return {};
+    return failureFrom(answer.malformed, Negative);
+}
+
 QJsonObject upgradeReportJson(const UpgradeAnswer &answer, const WrittenDocument &written)
 {
     QJsonArray steps;
@@ -95,6 +102,7 @@ QJsonObject upgradeReportJson(const UpgradeAnswer &answer, const WrittenDocument
             {QStringLiteral("changed"), answer.isChanged},
             {QStringLiteral("steps"), steps},
             {QStringLiteral("lost"), orv::cli::toJson(answer.lost)},
+            {QStringLiteral("fault"), errorJson(faultOf(answer))},
             {QStringLiteral("error"),
              answer.failure ? QJsonValue(orv::cli::toJson(*answer.failure)) : QJsonValue()}};
 }
@@ -107,6 +115,8 @@ QString upgradeReportText(const UpgradeAnswer &answer, const WrittenDocument &wr
         for (const WorkflowUpgradeChange &change : step.changes)
             text += lineOf(change);
     }
+    if (const std::optional<Failure> fault = faultOf(answer); fault && !answer.failure)
+        text += withoutControls(QStringLiteral("  fault: %1").arg(fault->message)) + QLatin1Char('\n');
     for (const QString &note : answer.notes)
         text += withoutControls(QStringLiteral("  note: %1").arg(note)) + QLatin1Char('\n');
     return text;

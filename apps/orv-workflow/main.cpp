@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 #include "ExitCode.h"
 #include "Failure.h"
+#include "LogChecks.h"
 #include "LogOutput.h"
 #include "PathChecks.h"
 #include "ShellSupport.h"
@@ -57,11 +58,18 @@ int run(const Program &program, size_t subcommand)
         program.line.arguments.list() + program.line.subcommands.at(subcommand).arguments.list();
     if (const auto refused = cli::refusedPath(arguments))
         return cli::printFailedCall(refused->path, refused->failure, options);
+    if (const auto refused = cli::refusedLog(options.logFile, arguments))
+        return cli::printFailedCall(refused->path, refused->failure, options);
     if (!cli::installLogOutput(options.verbosity, options.logFile)) {
         return cli::printFailedCall(
             options.logFile, {cli::BadOutput, 0, QStringLiteral("The log file can't be opened.")}, options);
     }
-    return program.commands.at(subcommand)->run(options);
+    const int exitCode = program.commands.at(subcommand)->run(options);
+    if (cli::finishLog())
+        return exitCode;
+    cli::printFailure(options.logFile, {cli::BadOutput, 0,
+                                        QStringLiteral("The log file can't be written; lines are missing.")});
+    return std::max<int>(exitCode, cli::BadOutput);
 }
 
 /// When the line can't be parsed, too.

@@ -5,9 +5,11 @@
 #include "../Losses.h"
 #include "../NewerDocument.h"
 #include "../Output.h"
+#include "../ReferredFiles.h"
 #include "Command.h"
 
 #include <orv/core/LossObserver.h>
+#include <orv/propertyeditor/content/CellStamps.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/ItemGroup.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
@@ -78,6 +80,8 @@ private:
             return {{}, document.failure()};
         if (const Outcome<void> allowed = refuseToDropNewer(*document); allowed.hasFailed())
             return {{}, allowed.failure()};
+        if (const Outcome<void> allowed = refuseReferred(*document, m_file, {m_output}); allowed.hasFailed())
+            return {{}, allowed.failure()};
 
         Content content;
         QList<Loss> lost;
@@ -90,7 +94,7 @@ private:
             return {lost, allowed.failure()};
         if (const Error unwritable = content.checkWritable())
             return {lost, failureFrom(unwritable, Negative)};
-        return {lost, write(content).failureIfAny()};
+        return {lost, write(*document, content).failureIfAny()};
     }
 
     Error load(const QJsonObject &json, Content &content, QList<Loss> &lost) const
@@ -106,6 +110,9 @@ private:
             return error;
 
         // The value form mends and drops without a word: only the load above tells what the document loses.
+        LossCollector stamps;
+        CellStamps::reportLosses(json, &stamps);
+        lost += stamps.losses();
         if (!content.metadata().contains(PropertyEditorStringConstants::CONTENT_MODE_KEY))
             lost.removeIf([](const Loss &loss) { return loss.path == kLegacyModePath; });
         return content.assignFromJson(stamped(json), validation);
@@ -150,14 +157,16 @@ private:
                     .arg(tab)};
     }
 
-    Outcome<void> write(Content &content) const
+    Outcome<void> write(const QJsonObject &source, Content &content) const
     {
         auto flag = PropertyEditor::PropertyConversionFlag::KeepPaths;
         if (m_absolutePaths) {
             content.setBaseUrl(folderUrlOf(m_file));
             flag = PropertyEditor::PropertyConversionFlag::AbsolutePaths;
         }
-        return writeOutput(m_output, content.toJson(flag));
+        const QJsonObject json = content.toJsonObject(flag);
+        return writeOutput(m_output,
+                           QJsonDocument(m_stamp ? json : CellStamps::restored(json, source)).toJson());
     }
 
     [[nodiscard]] QJsonObject toJson(const Conversion &conversion) const

@@ -1,6 +1,7 @@
 #include "../CommonArguments.h"
 #include "../Inputs.h"
 #include "../Output.h"
+#include "../ReferredFiles.h"
 #include "Command.h"
 
 #include <orv/propertyeditor/PropertiesGetter.h>
@@ -35,6 +36,8 @@ private:
         const Outcome<QJsonObject> document = readDocument(m_file);
         if (document.hasFailed())
             return document.failure();
+        if (Outcome<void> allowed = refuseReferred(*document, m_file, {m_output}); allowed.hasFailed())
+            return allowed;
         const PropertiesGetter getter{PropertyEditorContent(*document)};
         const QByteArray text = getter.fastaContent();
         if (text.isEmpty())

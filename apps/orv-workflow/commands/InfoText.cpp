@@ -32,11 +32,6 @@ const StateRow &rowOf(WflwMetaData::WflwState state)
     return kStates.at(size_t(state));
 }
 
-bool isNewer(const WorkflowSummary &summary)
-{
-    return WflwMetaData::isNewerThanCurrent(QVersionNumber::fromString(summary.version));
-}
-
 QJsonValue countToJson(const std::optional<qsizetype> &count)
 {
     return count ? QJsonValue(*count) : QJsonValue(QJsonValue::Null);
@@ -140,7 +135,7 @@ QJsonObject summaryToJson(const WorkflowSummary &summary)
         tabs.append(tabToJson(tab));
     return {{QStringLiteral("version"), summary.version},
             {QStringLiteral("state"), QLatin1String(rowOf(summary.state).name)},
-            {QStringLiteral("newer"), isNewer(summary)},
+            {QStringLiteral("newer"), summary.isNewer},
             {QStringLiteral("messages"), QJsonArray::fromStringList(summary.messages)},
             {QStringLiteral("name"), summary.name},
             {QStringLiteral("description"), summary.description},
@@ -165,7 +160,7 @@ QJsonObject emptySummaryJson()
 QString stateInWords(const WorkflowSummary &summary)
 {
     QString state = QLatin1String(rowOf(summary.state).words);
-    if (!isNewer(summary))
+    if (!summary.isNewer)
         return state;
     const QString newer =
         QStringLiteral("newer than this program (%1)").arg(WflwMetaData::currentWorkflowVersion().toString());
@@ -180,7 +175,7 @@ QString summaryToText(const QString &file, const WorkflowSummary &summary, const
         fact(QStringLiteral("Fault"), fault.isEmpty() ? fault : styled(withoutControls(fault), Style::Bad));
     text += fact(QStringLiteral("Name"), withoutControls(summary.name));
     text += fact(QStringLiteral("Description"), withoutControls(summary.description.simplified()));
-    const Style style = isNewer(summary) ? Style::Bad : rowOf(summary.state).style;
+    const Style style = summary.isNewer ? Style::Bad : rowOf(summary.state).style;
     text +=
         fact(QStringLiteral("Version"), QStringLiteral("%1, %2").arg(withoutControls(summary.version),
                                                                      styled(stateInWords(summary), style)));

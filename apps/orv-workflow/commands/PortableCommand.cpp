@@ -7,9 +7,9 @@
 #include "Command.h"
 
 #include <orv/propertyeditor/workflow/PortableSamples.h>
+#include <orv/propertyeditor/workflow/PortableTarget.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
-#include <orv/resources/ResourceHandlerUtils.h>
-#include <orv/resources/ResourceReferenceUtils.h>
+#include <orv/propertyeditor/workflow/WorkflowReferences.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -38,6 +38,7 @@ bool isOrHolds(const QString &folder, const QString &path)
 /// What the folder has, and what the workflow in it doesn't find there.
 struct Carried
 {
+    QList<Loss> lost;
     QStringList names;
     QStringList dangling;
 };
@@ -102,6 +103,8 @@ public:
         Carried carried;
         const Outcome<void> saved = save(folder, options, &carried);
         const std::optional<Failure> &failure = saved.failureIfAny();
+        if (!options.json)
+            printLosses(m_file, carried.lost);
         if (failure)
             printFailure(failure->exitCode == BadOutput ? folder : m_file, *failure);
         for (const QString &text : std::as_const(carried.dangling)) {
@@ -129,19 +132,46 @@ private:
         const Outcome<LoadedWorkflow> workflow = loadWorkflow(m_file);
         if (workflow.hasFailed())
             return workflow.failure();
-        printLosses(m_file, workflow->lost);
-        if (const Outcome<void> allowed = refuseToWipe(folder, *workflow->content); allowed.hasFailed())
+        carried->lost = workflow->lost;
+        if (const Outcome<void> allowed = refuseToWipe(folder, workflow->document); allowed.hasFailed())
             return allowed.failure();
+        if (const Error foreign = PortableTarget::checkReplaceable(folder))
+            return failureFrom(foreign, BadOutput);
+        PortableTarget target(folder);
+        if (const Error unready = target.prepare())
+            return failureFrom(unready, BadOutput);
+        SaveProgress progress(target.stagedFolder(), options.progress || standardErrorIsTerminal());
+        if (Outcome<void> filled = fill(target, *workflow->content, &progress, carried); filled.hasFailed())
+            return filled;
+        if (const Error notReplaced = target.commit())
+            return failureFrom(notReplaced, BadOutput);
+        // Where the folder was made, files beside its place weren't found.
+        carried->dangling.removeIf(
+            [&folder](const QString &text) { return QFileInfo::exists(QDir(folder).filePath(text)); });
+        return {};
+    }
+
+    Outcome<void> fill(const PortableTarget &target, const PropertyEditor::Content &content,
+                       SaveProgress *progress, Carried *carried) const
+    {
         QString error;
-        SaveProgress progress(folder, options.progress || standardErrorIsTerminal());
-        const bool isSaved = WflwUtils::saveAsPortableWorkflow(*workflow->content, folder,
-                                                               folderUrlOf(m_file), &error, &progress);
-        *carried = {progress.names(), progress.danglingTexts()};
-        if (isSaved)
-            return m_withSamples ? carrySamples(folder, &progress, carried) : Outcome<void>();
-        if (error.isEmpty())
-            error = QStringLiteral("The workflow can't be written into the folder.");
-        return Failure{progress.exitCode(), 0, error};
+        const bool isSaved = WflwUtils::saveAsPortableWorkflow(content, target.stagedFolder(),
+                                                               folderUrlOf(m_file), &error, progress);
+        if (!isSaved) {
+            if (error.isEmpty())
+                error = QStringLiteral("The workflow can't be written into the folder.");
+            return Failure{progress->exitCode(), 0, target.asInPlace(error)};
+        }
+        carried->names = progress->names();
+        carried->dangling = progress->danglingTexts();
+        if (!m_withSamples)
+            return {};
+        Outcome<void> carriedAlong = carrySamples(target.stagedFolder(), progress, carried);
+        if (!carriedAlong.hasFailed())
+            return {};
+        Failure failure = carriedAlong.failure();
+        failure.message = target.asInPlace(failure.message);
+        return failure;
     }
 
     [[nodiscard]] Outcome<void> carrySamples(const QString &folder, SaveProgress *progress,
@@ -159,9 +189,8 @@ private:
         return {};
     }
 
-    /// The save removes what stands at its target: not the workflow itself, nor a file that it refers to.
-    [[nodiscard]] Outcome<void> refuseToWipe(const QString &folder,
-                                             const PropertyEditor::Content &content) const
+    /// What stands at the target goes: not the workflow itself, nor a file that it refers to.
+    [[nodiscard]] Outcome<void> refuseToWipe(const QString &folder, const QJsonObject &document) const
     {
         const QString target = realPath(folder);
         const QUrl base = folderUrlOf(m_file);
@@ -171,10 +200,10 @@ private:
             if (isOrHolds(target, home) || isInside)
                 return refusal(folder, QStringLiteral("the workflow's own folder"));
         }
-        for (const ResourceReferenceSPtr &reference : content.allReferences()) {
-            const QString path =
-                ResourceHandlerUtils::fullPath(ResourceReferenceUtils::resolved(reference, base));
-            if (!path.isEmpty() && isOrHolds(target, realPath(path)))
+        if (!QFileInfo::exists(target))
+            return {};
+        for (const QString &path : WorkflowReferences::localPaths(document, base)) {
+            if (QFileInfo::exists(path) && isOrHolds(target, realPath(path)))
                 return refusal(folder, path);
         }
         return {};
@@ -191,11 +220,13 @@ private:
                               const std::optional<Failure> &failure)
     {
         const QString workflow = WflwUtils::workflowInPortableWorkflow(folder);
-        return {{QStringLiteral("folder"), failure ? QJsonValue() : QJsonValue(folder)},
-                {QStringLiteral("workflow"), failure ? QJsonValue() : QJsonValue(workflow)},
-                {QStringLiteral("copied"), QJsonArray::fromStringList(carried.names)},
-                {QStringLiteral("dangling"), QJsonArray::fromStringList(carried.dangling)},
-                {QStringLiteral("error"), errorJson(failure)}};
+        return {
+            {QStringLiteral("folder"), failure ? QJsonValue() : QJsonValue(folder)},
+            {QStringLiteral("workflow"), failure ? QJsonValue() : QJsonValue(workflow)},
+            {QStringLiteral("copied"), QJsonArray::fromStringList(failure ? QStringList() : carried.names)},
+            {QStringLiteral("lost"), orv::cli::toJson(carried.lost)},
+            {QStringLiteral("dangling"), QJsonArray::fromStringList(carried.dangling)},
+            {QStringLiteral("error"), errorJson(failure)}};
     }
 
     static QString text(const QString &folder, const Carried &carried)

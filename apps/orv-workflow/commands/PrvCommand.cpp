@@ -2,6 +2,7 @@
 #include "../CommonArguments.h"
 #include "../Losses.h"
 #include "../Output.h"
+#include "../ReferredFiles.h"
 #include "Command.h"
 
 #include <orv/propertyeditor/engine/PreviewPreset.h>
@@ -32,6 +33,9 @@ public:
         const Outcome<LoadedWorkflow> workflow = loadResolvedWorkflow(m_file);
         if (workflow.hasFailed())
             return printFailedCall(m_file, workflow.failure(), options);
+        if (const Outcome<void> allowed = refuseReferred(workflow->document, m_file, {m_output});
+            allowed.hasFailed())
+            return printFailedCall(m_file, allowed.failure(), options);
         printLosses(m_file, workflow->lost);
         const Outcome<QList<ChosenCell>> cells =
             m_columns.cells(*workflow, {BaseItemType::Preview, BaseItemType::TrenqPreview});

@@ -3,6 +3,7 @@
 #include "../ValueText.h"
 #include "ChangeCommand.h"
 
+#include <orv/core/JsonMerge.h>
 #include <orv/propertyeditor/workflow/WorkflowRelink.h>
 
 #include <QJsonArray>
@@ -153,13 +154,14 @@ private:
         if (report.hasError())
             return failureFrom(report.error(), BadInput);
         answer->report = *report;
-        answer->changed = {.original = text->bytes,
+        answer->changed = {.file = answer->file,
+                           .original = text->bytes,
                            .bytes = text->bytes,
                            .isChanged = !report->relinked.isEmpty(),
                            .lost = {},
                            .malformed = {}};
         if (answer->changed.isChanged)
-            answer->changed.bytes = QJsonDocument(report->document).toJson();
+            answer->changed.bytes = mergedJson(text->bytes, report->document);
         return {};
     }
 

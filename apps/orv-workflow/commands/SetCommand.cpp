@@ -3,18 +3,21 @@
 #include "../Losses.h"
 #include "../NewerDocument.h"
 #include "../Output.h"
+#include "../ReferredFiles.h"
 #include "../SettingsCell.h"
 #include "Command.h"
 
 #include <KPropertySet>
+#include <orv/core/JsonMerge.h>
 #include <orv/core/NearestNames.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/PropertySearch.h>
 #include <orv/propertyeditor/PropertyText.h>
+#include <orv/propertyeditor/content/CellStamps.h>
+#include <orv/propertyeditor/content/LoadContext.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 
 #include <QFileInfo>
-#include <QJsonDocument>
 
 namespace orv::cli {
 
@@ -105,10 +108,13 @@ private:
             refuseNewer(cell->document, QStringLiteral("is not changed; use the software that wrote it"));
         if (allowed.hasFailed())
             return allowed.failure();
+        if (Outcome<void> free = refuseReferred(cell->document, m_cell.file(), {m_output}); free.hasFailed())
+            return free;
         const Outcome<SettingsCell> settings = settingsOf(*cell);
         if (settings.hasFailed())
             return settings.failure();
-        const auto &[item, lost] = *settings;
+        const auto &[item, lostByLoad] = *settings;
+        const QList<Loss> lost = lostByLoad + lossesOfStamp(*cell);
         printLosses(m_cell.file(), lost);
         if (!lost.isEmpty() && isSameFile(workflowFileOf(m_cell.file()), m_output)) {
             return Failure{
@@ -120,7 +126,15 @@ private:
             return assigned.failure();
         if (const Error unwritable = item->checkWritable())
             return failureFrom(unwritable, Negative);
-        return write(cell->place.replacedIn(cell->document, item->toJson(PropertyConversionFlag::KeepPaths)));
+        return write(*cell, item->toJson(PropertyConversionFlag::KeepPaths));
+    }
+
+    static QList<Loss> lossesOfStamp(const FoundCell &found)
+    {
+        LossCollector losses;
+        CellStamps::reportUnreadable(found.cell,
+                                     PropertyEditor::LoadContext(&losses, pointerOf(found.place)));
+        return losses.losses();
     }
 
     Outcome<void> assignAll(const QJsonObject &document, KeyValueItem *item)
@@ -155,9 +169,12 @@ private:
         return {};
     }
 
-    [[nodiscard]] Outcome<void> write(const QJsonObject &document) const
+    [[nodiscard]] Outcome<void> write(const FoundCell &found, const QJsonObject &cell) const
     {
-        return writeOutput(m_output, QJsonDocument(document).toJson());
+        // A load renews the stamp; it is right where something was changed.
+        if (CellStamps::differsInStampAlone(found.cell, cell))
+            return writeOutput(m_output, found.bytes);
+        return writeOutput(m_output, mergedJson(found.bytes, found.place.replacedIn(found.document, cell)));
     }
 
     [[nodiscard]] QJsonObject report(const std::optional<Failure> &failure) const

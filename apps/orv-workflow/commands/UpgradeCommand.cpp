@@ -14,6 +14,8 @@ QString verdictOf(const UpgradeAnswer &answer)
         return QStringLiteral("not upgraded");
     if (!answer.isChanged)
         return QStringLiteral("in need of no upgrade");
+    if (faultOf(answer))
+        return QStringLiteral("upgraded with faults");
     return answer.lost.isEmpty() ? QStringLiteral("upgraded") : QStringLiteral("upgraded with losses");
 }
 
@@ -41,15 +43,15 @@ protected:
         FileReport report{.text = {}, .file = input.file, .lost = answer.lost, .failure = answer.failure};
         WrittenDocument written;
         if (!answer.failure) {
-            written =
-                write({answer.original, answer.upgraded, answer.isChanged, answer.lost, answer.malformed},
-                      output, &report);
+            written = write({input.file, answer.original, answer.upgraded, answer.isChanged, answer.lost,
+                             answer.malformed},
+                            output, &report);
             answer.failure = report.failure;
         }
         report.text = isJson ? QJsonDocument(upgradeReportJson(answer, written)).toJson()
                              : upgradeReportText(answer, written).toLocal8Bit();
         report.verdict = verdictOf(answer);
-        report.exitCode = answer.lost.isEmpty() ? Done : Negative;
+        report.exitCode = answer.lost.isEmpty() && !faultOf(answer) ? Done : Negative;
         return report;
     }
 

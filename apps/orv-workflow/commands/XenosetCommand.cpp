@@ -7,6 +7,7 @@
 #include "../Losses.h"
 #include "../Output.h"
 #include "../Progress.h"
+#include "../ReferredFiles.h"
 #include "Command.h"
 
 #include <orv/core/FileNameUtils.h>
@@ -125,6 +126,9 @@ private:
                                .arg(cells->size())};
         }
         const QString path = m_output == kStandardInput ? QString() : m_output;
+        if (const Outcome<void> allowed = refuseReferred(workflow.document, m_file, {path});
+            allowed.hasFailed())
+            return allowed.failure();
         return Files{{m_sample, cells->first().column, creatorOf(workflow, cells->first()), path, {}}};
     }
 
@@ -148,7 +152,7 @@ private:
         }
         if (const Outcome<void> allowed = refuseClash(files); allowed.hasFailed())
             return allowed.failure();
-        if (const Outcome<void> allowed = refuseInputs(files); allowed.hasFailed())
+        if (const Outcome<void> allowed = refuseInputs(files, workflow.document); allowed.hasFailed())
             return allowed.failure();
         if (!QDir().mkpath(folder.path())) {
             return Failure{BadOutput, int(ErrorCode::CannotOpenFile),
@@ -157,9 +161,11 @@ private:
         return files;
     }
 
-    [[nodiscard]] Outcome<void> refuseInputs(const Files &files) const
+    [[nodiscard]] Outcome<void> refuseInputs(const Files &files, const QJsonObject &document) const
     {
+        QStringList outputs;
         for (const ParameterFile &file : files) {
+            outputs.append(file.path);
             for (const QString &input : {workflowFileOf(m_file), m_database}) {
                 if (!input.isEmpty() && isSameFile(file.path, input)) {
                     return Failure{WrongUsage, 0,
@@ -169,7 +175,7 @@ private:
                 }
             }
         }
-        return {};
+        return refuseReferred(document, m_file, outputs);
     }
 
     void make(Files &files, const GlobalOptions &options) const
