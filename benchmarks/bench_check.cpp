@@ -6,6 +6,7 @@
 
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/validators/ContentValidator.h>
+#include <orv/propertyeditor/workflow/WorkflowPaths.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -22,7 +23,6 @@ using namespace orv;
 using namespace Qt::StringLiterals;
 using PropertyEditor::Content;
 using PropertyEditor::ContentValidator;
-using PropertyEditor::PropertyConversionFlag;
 
 namespace {
 
@@ -67,13 +67,10 @@ qsizetype check(const QJsonObject &document, const QUrl &folder)
     Content content;
     if (content.assignFromJson(document, PropertyEditor::ValidationOption::SkipTypeValidation).hasError())
         qFatal("The benchmark's document can't be loaded");
-    content.setBaseUrl(folder);
-    Content copy;
-    const QJsonObject absolute = content.toJsonObject(PropertyConversionFlag::AbsolutePaths);
-    if (copy.assignFromJson(absolute, PropertyEditor::ValidationOption::SkipTypeValidation).hasError())
-        qFatal("The benchmark's copy can't be loaded");
-    copy.setBaseUrl(folder);
-    return findingsOf(copy);
+    const Result<Content> copy = WorkflowPaths::absoluteCopy(content, folder);
+    if (copy.hasError())
+        qFatal("The benchmark's document can't be copied");
+    return findingsOf(*copy);
 }
 
 void addDocuments(const QString &folder)

@@ -271,7 +271,11 @@ QByteArray mergedJson(const QByteArray &text, const QJsonObject &wanted)
     if (begin < 0 || end <= begin)
         return QJsonDocument(wanted).toJson();
     const QByteArrayView root = QByteArrayView(text).sliced(begin, end - begin);
-    return text.first(begin) + Merger().merged(root, present, wanted, QByteArray("\n")) + text.sliced(end);
+    QByteArray merged =
+        text.first(begin) + Merger().merged(root, present, wanted, QByteArray("\n")) + text.sliced(end);
+    // Form is worth keeping, content is a duty.
+    const bool isWanted = QJsonDocument::fromJson(merged).object() == wanted;
+    return isWanted ? merged : QJsonDocument(wanted).toJson();
 }
 
 } // namespace orv

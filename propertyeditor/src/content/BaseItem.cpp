@@ -3,6 +3,7 @@
 #include "Announce.h"
 
 #include <orv/core/Logging.h>
+#include <orv/propertyeditor/content/CellTypes.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
 #include <QMetaEnum>
@@ -76,6 +77,17 @@ Error BaseItem::load(const QJsonObject &json, ValidationOptions options, const L
 Error BaseItem::checkWritable() const
 {
     return Error::NoError;
+}
+
+Result<std::unique_ptr<BaseItem>> BaseItem::copied(PropertyConversionFlag flag) const
+{
+    const QJsonObject json = toJson(flag);
+    const CellType *row = CellTypes::find(m_type);
+    if (json.isEmpty() || !row)
+        return Error(ErrorCode::MalformedStructure);
+    std::unique_ptr<BaseItem> copy = row->create(m_type);
+    ORV_RETURN_IF_ERROR(copy->load(json, ValidationOption::SkipTypeValidation, {}));
+    return copy;
 }
 
 void BaseItem::setBaseUrl(const QUrl &url)

@@ -116,11 +116,18 @@ Error Content::assignFromFile(const QString &fileName, ValidationOptions options
     return Error::NoError;
 }
 
-Result<Content> Content::detachedCopy() const
+Result<Content> Content::detachedCopy(PropertyConversionFlag flag) const
 {
     Content copy;
-    ORV_RETURN_IF_ERROR(copy.assignFromJson(toJsonObject(PropertyConversionFlag::KeepPaths),
-                                            ValidationOption::SkipTypeValidation));
+    copy.d->metadata = d->metadata;
+    copy.d->extendedMetadata = d->extendedMetadata;
+    copy.d->groups.reserve(count());
+    for (const auto &each : d->groups) {
+        auto group = std::make_unique<ItemGroup>();
+        if (Error error = group->assignCopy(*each, flag); error.hasError())
+            return error.addDetail(tr("Tab \"%1\".").arg(each->name())).ecatch();
+        copy.adoptNewGroup(std::move(group));
+    }
     return copy;
 }
 

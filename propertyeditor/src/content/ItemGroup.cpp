@@ -135,6 +135,26 @@ Error ItemGroup::assignFromJson(const QJsonObject &json, ValidationOptions optio
     return Error::NoError;
 }
 
+Error ItemGroup::assignCopy(const ItemGroup &other, PropertyConversionFlag flag)
+{
+    if (!other.isRectangle())
+        return Error(ErrorCode::MalformedStructure, QStringLiteral("The columns differ in height"));
+    const QPointer<ItemGroup> alive(this);
+    clear();
+    if (!alive)
+        return removedWhileLoading();
+    d->name = other.d->name;
+    d->subGroups.reserve(other.count());
+    for (const auto &each : other.d->subGroups) {
+        auto subGroup = std::make_unique<ItemSubGroup>();
+        ORV_RETURN_IF_ERROR(subGroup->assignCopy(*each, flag));
+        if (!adoptNewSubGroup(std::move(subGroup), each->type()))
+            return removedWhileLoading();
+    }
+    Q_EMIT reset();
+    return Error::NoError;
+}
+
 QJsonObject ItemGroup::toJson(PropertyConversionFlag flag) const
 {
     QJsonArray names;

@@ -67,6 +67,25 @@ Error ItemSubGroup::assignFromJson(const QJsonArray &cells, const QString &name,
     return Error::NoError;
 }
 
+Error ItemSubGroup::assignCopy(const ItemSubGroup &other, PropertyConversionFlag flag)
+{
+    const QPointer<ItemSubGroup> alive(this);
+    clear();
+    if (!alive)
+        return removedWhileLoading();
+    d->name = other.d->name;
+    d->items.reserve(other.count());
+    for (const auto &each : other.d->items) {
+        Result<std::unique_ptr<BaseItem>> item = each->copied(flag);
+        if (item.hasError())
+            return item.ecatch();
+        if (!adoptNewItem(std::move(item).value()))
+            return removedWhileLoading();
+    }
+    Q_EMIT reset();
+    return Error::NoError;
+}
+
 QJsonArray ItemSubGroup::toJson(PropertyConversionFlag flag) const
 {
     QJsonArray cells;

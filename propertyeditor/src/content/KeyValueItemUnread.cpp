@@ -149,6 +149,18 @@ QVariant KeyValueItem::unreadValue(PropertyId id) const
     return {};
 }
 
+Result<std::unique_ptr<BaseItem>> KeyValueItem::copied(PropertyConversionFlag flag) const
+{
+    if (!m_source || !m_source->isStoredForm)
+        return BaseItem::copied(flag);
+    auto copy = std::make_unique<KeyValueItem>(type());
+    Source source = *m_source;
+    source.cell = toJson(flag);
+    ORV_RETURN_IF_ERROR(copy->BaseItem::assignFromJson(source.cell, ValidationOption::SkipTypeValidation));
+    copy->m_source = std::move(source);
+    return std::unique_ptr<BaseItem>(std::move(copy));
+}
+
 QJsonObject KeyValueItem::sourceWithAbsolutePaths() const
 {
     QJsonObject cell = m_source->cell;

@@ -16,15 +16,15 @@ struct WorkflowPathsTr
     Q_DECLARE_TR_FUNCTIONS(WorkflowPaths)
 };
 
-/// The document as it is written with absolute paths. The tree keeps the base that it has.
-QJsonObject absoluteJson(const Content &content, const QUrl &baseUrl)
+/// The tree keeps the base that it has.
+Result<Content> copyWithBase(const Content &content, const QUrl &baseUrl)
 {
     Content view(content);
     const QUrl baseBefore = view.baseUrl();
     view.setBaseUrl(baseUrl);
-    QJsonObject json = view.toJsonObject(PropertyConversionFlag::AbsolutePaths);
+    Result<Content> copy = view.detachedCopy(PropertyConversionFlag::AbsolutePaths);
     view.setBaseUrl(baseBefore);
-    return json;
+    return copy;
 }
 
 } // namespace
@@ -37,10 +37,9 @@ Result<Content> absoluteCopy(const Content &content, const QUrl &baseUrl)
                                          "rectangle. Add the missing cells or remove the others.")
                          .arg(uneven->name()));
     }
-    Content copy;
-    ORV_RETURN_IF_ERROR(
-        copy.assignFromJson(absoluteJson(content, baseUrl), ValidationOption::SkipTypeValidation));
-    copy.setBaseUrl(baseUrl);
+    Result<Content> copy = copyWithBase(content, baseUrl);
+    if (!copy.hasError())
+        copy->setBaseUrl(baseUrl);
     return copy;
 }
 

@@ -2,6 +2,7 @@
 
 #include <orv/core/Error.h>
 #include <orv/core/Export.h>
+#include <orv/core/Result.h>
 #include <orv/propertyeditor/content/BaseItemType.h>
 #include <orv/propertyeditor/content/ContentOptions.h>
 #include <orv/propertyeditor/content/LoadContext.h>
@@ -12,6 +13,8 @@
 #include <QString>
 #include <QStringList>
 #include <QUrl>
+
+#include <memory>
 
 namespace orv::PropertyEditor {
 
@@ -43,6 +46,9 @@ public:
 
     /// Why toJson would write the cell without something that it holds; a success if it writes all.
     [[nodiscard]] virtual Error checkWritable() const;
+
+    /// A new item with what toJson(\a flag) writes, without a base URL. Fails as a load of that would.
+    [[nodiscard]] virtual Result<std::unique_ptr<BaseItem>> copied(PropertyConversionFlag flag) const;
 
     [[nodiscard]] BaseItemType type() const { return m_type; }
     [[nodiscard]] QString typeString() const { return typeToString(m_type); }

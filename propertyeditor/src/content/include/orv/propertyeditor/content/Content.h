@@ -68,8 +68,10 @@ public:
     Error assignFromJson(const QJsonObject &json, ValidationOptions options = {});
 
     /// A document of its own with the same content, cells of unknown types included; changes to one don't
-    /// show in the other. It has no file name and no base URL.
-    [[nodiscard]] Result<Content> detachedCopy() const;
+    /// show in the other. It has no file name and no base URL, and with absolute paths those that toJson
+    /// would write. Fails where a file couldn't hold the document: the columns of a tab differ in height.
+    [[nodiscard]] Result<Content>
+    detachedCopy(PropertyConversionFlag flag = PropertyConversionFlag::KeepPaths) const;
 
     /// Load the metadata document alone; the tree stays. A file that can't be read leaves empty metadata.
     void assignMetaDataFromFile(const QString &fileName);

@@ -45,6 +45,10 @@ public:
     /// before it. Cells without a column to lie in are malformed.
     Error assignFromJson(const QJsonObject &json, ValidationOptions options, const LoadContext &context = {});
 
+    /// Replaces the tab by a copy of \a other, of which a file can hold all; malformed (code 1) if it isn't a
+    /// rectangle.
+    Error assignCopy(const ItemGroup &other, PropertyConversionFlag flag);
+
     /// The tab as the format has it: a rectangle of the first column's height. A column that is shorter
     /// can't be written so, and gives an empty object; what a longer one has more is left out.
     [[nodiscard]] QJsonObject toJson(PropertyConversionFlag flag) const;

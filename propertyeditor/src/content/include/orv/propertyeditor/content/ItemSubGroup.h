@@ -40,6 +40,8 @@ public:
     /// Replaces the items. On failure the cells before the bad one stay.
     Error assignFromJson(const QJsonArray &cells, const QString &name, ValidationOptions options,
                          const LoadContext &context = {});
+    /// The same with copies of the items of \a other.
+    Error assignCopy(const ItemSubGroup &other, PropertyConversionFlag flag);
     [[nodiscard]] QJsonArray toJson(PropertyConversionFlag flag) const;
     void setBaseUrl(const QUrl &url);
 

@@ -38,6 +38,7 @@ public:
     Error load(const QJsonObject &json, ValidationOptions options, const LoadContext &context) override;
     void setBaseUrl(const QUrl &url) override;
     [[nodiscard]] Error checkWritable() const override;
+    [[nodiscard]] Result<std::unique_ptr<BaseItem>> copied(PropertyConversionFlag flag) const override;
     void clear() override;
 
     [[nodiscard]] int count() const;
