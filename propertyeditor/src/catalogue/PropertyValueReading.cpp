@@ -1,3 +1,4 @@
+#include "GuiValues.h"
 #include "PropertyKinds.h"
 #include "PropertyValueForms.h"
 
@@ -10,13 +11,8 @@
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 
-#include <QColor>
-#include <QCursor>
-#include <QFont>
-#include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QPixmap>
 #include <QPoint>
 #include <QRect>
 #include <QSize>
@@ -164,50 +160,39 @@ ReadValue readLineStyle(const QJsonValue &value)
     return readEnumerator(value, Qt::CustomDashLine);
 }
 
-bool readFontSize(const QString &text, QFont *font)
+bool readFontSize(const QString &text, GuiValues::Font *font)
 {
-    const bool inPixels = text.endsWith(kPixelSuffix);
-    const bool hasSuffix = inPixels || text.endsWith(kPointSuffix);
+    font->isInPixels = text.endsWith(kPixelSuffix);
+    const bool hasSuffix = font->isInPixels || text.endsWith(kPointSuffix);
     bool ok = false;
-    const double size = QStringView(text).chopped(hasSuffix ? kPixelSuffix.size() : 0).toDouble(&ok);
-    if (!ok || !(size > 0) || !fits<int>(size))
-        return false;
-    if (inPixels)
-        font->setPixelSize(std::max(1, int(size)));
-    else
-        font->setPointSizeF(size);
-    return true;
+    font->size = QStringView(text).chopped(hasSuffix ? kPixelSuffix.size() : 0).toDouble(&ok);
+    return ok && font->size > 0 && fits<int>(font->size);
+}
+
+/// None for an invalid value.
+ReadValue madeOf(const QVariant &value)
+{
+    return value.isValid() ? ReadValue(value) : std::nullopt;
 }
 
 ReadValue readFont(const QJsonValue &value)
 {
-    if (!value.isObject())
-        return {};
     const QJsonObject object = value.toObject();
-    QFont font;
-    if (!readFontSize(object.value(kFontSize).toVariant().toString(), &font))
+    GuiValues::Font font;
+    if (!value.isObject() || !readFontSize(object.value(kFontSize).toVariant().toString(), &font))
         return {};
-    font.setFamily(object.value(kFontFamily).toString());
-    font.setBold(readBool(object.value(kFontBold)));
-    font.setItalic(readBool(object.value(kFontItalic)));
-    font.setStrikeOut(readBool(object.value(kFontStrikeOut)));
-    font.setUnderline(readBool(object.value(kFontUnderline)));
-    return font;
-}
-
-/// Pictures and cursors belong to a screen; a program without one can't hold them.
-bool hasScreen()
-{
-    return qobject_cast<QGuiApplication *>(QCoreApplication::instance());
+    font.family = object.value(kFontFamily).toString();
+    font.isBold = readBool(object.value(kFontBold));
+    font.isItalic = readBool(object.value(kFontItalic));
+    font.isStrikeOut = readBool(object.value(kFontStrikeOut));
+    font.isUnderline = readBool(object.value(kFontUnderline));
+    return guiValues() ? madeOf(guiValues()->font(font)) : std::nullopt;
 }
 
 ReadValue readPixmap(const QJsonValue &value)
 {
     const QByteArray bytes = QByteArray::fromBase64(value.toString().toLatin1());
-    if (!hasScreen())
-        return {};
-    QPixmap pixmap;
-    return pixmap.loadFromData(bytes) ? ReadValue(pixmap) : std::nullopt;
+    return guiValues() ? madeOf(guiValues()->pixmap(bytes)) : std::nullopt;
 }
 
 ReadValue readColor(const QJsonValue &value)
@@ -215,15 +200,14 @@ ReadValue readColor(const QJsonValue &value)
     const QString name = value.toString();
     if (name.isEmpty())
         return QVariant();
-    const QColor color(name);
-    return color.isValid() ? ReadValue(color) : std::nullopt;
+    return guiValues() ? madeOf(guiValues()->color(name)) : std::nullopt;
 }
 
 ReadValue readCursor(const QJsonValue &value)
 {
     constexpr int kHighestShape = 25;
-    const ReadValue shape = hasScreen() ? readEnumerator(value, kHighestShape) : std::nullopt;
-    return shape ? ReadValue(QCursor(Qt::CursorShape(shape->toInt()))) : std::nullopt;
+    const ReadValue shape = readEnumerator(value, kHighestShape);
+    return shape && guiValues() ? madeOf(guiValues()->cursor(shape->toInt())) : std::nullopt;
 }
 
 ReadValue readAny(const QJsonValue &value)

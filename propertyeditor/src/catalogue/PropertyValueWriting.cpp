@@ -1,3 +1,4 @@
+#include "GuiValues.h"
 #include "PropertyValueForms.h"
 
 #include <KProperty>
@@ -8,12 +9,9 @@
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/resources/ResourceReferenceUtils.h>
 
-#include <QBuffer>
 #include <QDir>
-#include <QFont>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QPixmap>
 #include <QPoint>
 #include <QRect>
 #include <QSize>
@@ -121,22 +119,19 @@ QJsonValue writePointF(const QVariant &value)
 
 QJsonValue writeFont(const QVariant &value)
 {
-    const auto font = value.value<QFont>();
-    const bool inPixels = font.pixelSize() > 0;
-    const QString size = inPixels ? QString::number(font.pixelSize()) + kPixelSuffix
-                                  : QString::number(font.pointSizeF()) + kPointSuffix;
-    return QJsonObject{{kFontFamily, font.family()},       {kFontBold, font.bold()},
-                       {kFontItalic, font.italic()},       {kFontStrikeOut, font.strikeOut()},
-                       {kFontUnderline, font.underline()}, {kFontSize, size}};
+    if (!guiValues())
+        return QJsonValue::Undefined;
+    const GuiValues::Font font = guiValues()->fontOf(value);
+    const QString size = QString::number(font.size) + (font.isInPixels ? kPixelSuffix : kPointSuffix);
+    return QJsonObject{{kFontFamily, font.family},         {kFontBold, font.isBold},
+                       {kFontItalic, font.isItalic},       {kFontStrikeOut, font.isStrikeOut},
+                       {kFontUnderline, font.isUnderline}, {kFontSize, size}};
 }
 
 QJsonValue writePixmap(const QVariant &value)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    if (!buffer.open(QIODevice::WriteOnly) || !value.value<QPixmap>().save(&buffer, "PNG"))
-        return QJsonValue::Undefined;
-    return QString::fromLatin1(bytes.toBase64());
+    const QByteArray png = guiValues() ? guiValues()->pngOf(value) : QByteArray();
+    return png.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QString::fromLatin1(png.toBase64());
 }
 
 struct TypeWriter

@@ -2,27 +2,24 @@
 
 #include <QHash>
 
-#include <pwiz/utility/chemistry/Chemistry.hpp>
-
 #include <array>
 
 namespace orv::Internal {
 
 namespace {
 
-namespace Library = pwiz::chemistry::Element;
-
-Element elementOf(const Library::Info::Record &record)
+struct IsotopeRow
 {
-    Element element;
-    element.symbol = QString::fromStdString(record.symbol);
-    element.type = record.type;
-    element.monoisotopicMassDa = record.monoisotope.mass;
-    element.averageMassDa = record.atomicWeight;
-    for (const pwiz::chemistry::MassAbundance &isotope : record.isotopes)
-        element.isotopes.append({isotope.mass, isotope.abundance});
-    return element;
-}
+    const char *symbol;
+    double monoisotopicMassDa;
+    double averageMassDa;
+    double massDa;
+    double abundance;
+};
+
+constexpr IsotopeRow kIsotopes[] = {
+#include "Isotopes.inc"
+};
 
 struct Weight
 {
@@ -37,10 +34,12 @@ constexpr std::array kRevisedWeights = {Weight{"Zn", 65.38}, Weight{"Se", 78.971
 QHash<QString, Element> readElements()
 {
     QHash<QString, Element> elements;
-    for (int type = Library::C; type <= Library::_3H; ++type) {
-        const Element element = elementOf(Library::Info::record(static_cast<Library::Type>(type)));
-        if (element.averageMassDa > 0.0)
-            elements.insert(element.symbol, element);
+    for (const IsotopeRow &row : kIsotopes) {
+        Element &element = elements[QLatin1String(row.symbol)];
+        element.symbol = QLatin1String(row.symbol);
+        element.monoisotopicMassDa = row.monoisotopicMassDa;
+        element.averageMassDa = row.averageMassDa;
+        element.isotopes.append({row.massDa, row.abundance});
     }
     for (const Weight &weight : kRevisedWeights)
         elements[QLatin1String(weight.symbol)].averageMassDa = weight.averageMassDa;

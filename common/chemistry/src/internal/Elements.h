@@ -15,14 +15,12 @@ struct Element
     };
 
     QString symbol;
-    int type = 0;                    ///< the library's number
     double monoisotopicMassDa = 0.0; ///< of the most abundant isotope
     double averageMassDa = 0.0;
     QList<Isotope> isotopes;
 };
 
-/// Null for a symbol that is no element, or one whose mass isn't known. Elements are read from the library
-/// once, on first use, so that threads share nothing of its own.
+/// Null for a symbol that is no element, or one whose mass isn't known.
 [[nodiscard]] const Element *findElement(const QString &symbol);
 
 } // namespace orv::Internal

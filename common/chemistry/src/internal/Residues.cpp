@@ -4,15 +4,11 @@
 
 #include <QCoreApplication>
 
-#include <pwiz/data/proteome/AminoAcid.hpp>
-
 #include <array>
 
 namespace orv::Internal {
 
 namespace {
-
-namespace AminoAcid = pwiz::proteome::AminoAcid;
 
 struct ResiduesTr
 {
@@ -27,18 +23,25 @@ struct Residue
     ChemicalFormula formula;
 };
 
-/// By letter. The library has formulas for ambiguous letters too, which are guesses.
+struct ResidueRow
+{
+    char letter;
+    const char *formula;
+};
+
+constexpr ResidueRow kResidues[] = {
+#include "Residues.inc"
+};
+
+/// By letter.
 const std::array<Residue, kLetters> &residues()
 {
     static const std::array<Residue, kLetters> table = [] {
         std::array<Residue, kLetters> residues;
-        for (int type = AminoAcid::Alanine; type <= AminoAcid::Selenocysteine; ++type) {
-            const AminoAcid::Info::Record &record =
-                AminoAcid::Info::record(static_cast<AminoAcid::Type>(type));
-            Residue &residue = residues.at(static_cast<size_t>(record.symbol - 'A'));
+        for (const ResidueRow &row : kResidues) {
+            Residue &residue = residues.at(static_cast<size_t>(row.letter - 'A'));
             residue.known = true;
-            residue.formula =
-                ChemicalFormula::parse(QString::fromStdString(record.residueFormula.formula())).value();
+            residue.formula = ChemicalFormula::parse(QString::fromLatin1(row.formula)).value();
         }
         return residues;
     }();
