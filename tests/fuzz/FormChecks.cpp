@@ -63,7 +63,7 @@ QString checkRefusedJson(const QByteArray &bytes, const Error &error)
         return u"a refusal needs its code, a message, the place and a remedy"_s;
     const QJsonDocument document = QJsonDocument::fromJson(bytes);
     const std::optional<JsonFault> fault = document.isNull() ? std::nullopt : findJsonFault(bytes);
-    if (fault && fault->kind == JsonFault::Kind::IllegalEscape)
+    if (fault && fault->kind != JsonFault::Kind::DuplicateKey)
         return {};
     if (!document.isNull() && countMembers(rootOf(document)) == countMembersInText(bytes))
         return u"refused, though a plain parse keeps all members"_s;
@@ -149,8 +149,10 @@ QString checkObjectFormWith(const QJsonObject &document, PropertyEditor::Validat
 QString checkJson(const QByteArray &bytes)
 {
     if (const std::optional<JsonFault> fault = findJsonFault(bytes)) {
-        const char begin = fault->kind == JsonFault::Kind::IllegalEscape ? '\\' : '"';
-        if (fault->offset < 0 || fault->offset >= bytes.size() || bytes[fault->offset] != begin)
+        const QByteArrayView begins = fault->kind == JsonFault::Kind::IllegalEscape  ? "\\"
+                                      : fault->kind == JsonFault::Kind::DuplicateKey ? "\""
+                                                                                     : "-.0123456789";
+        if (fault->offset < 0 || fault->offset >= bytes.size() || !begins.contains(bytes[fault->offset]))
             return u"a fault doesn't begin where it is said to"_s;
     }
     const Result<QJsonDocument> document = JsonUtils::documentFromJson(bytes);

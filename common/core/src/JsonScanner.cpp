@@ -52,12 +52,12 @@ constexpr qsizetype kMarkSize = 3;
 constexpr std::array<bool, 256> structuralBytes()
 {
     std::array<bool, 256> table{};
-    for (const char c : {'{', '}', '[', ']', ',', '"'})
+    for (const char c : {'{', '}', '[', ']', ',', '"', '.'})
         table[static_cast<unsigned char>(c)] = true;
     return table;
 }
 
-/// Most of a written document is white space, colons and numbers, none of which matters here.
+/// Most of a written document is white space, colons and digits, none of which matters here.
 constexpr std::array<bool, 256> kStructural = structuralBytes();
 
 /// The escapes of a string.
@@ -119,6 +119,9 @@ public:
                                      start - 1 - m_begin};
                 m_keyExpected = false;
                 p += p != m_end;
+            } else if (c == '.') {
+                if (!isDigit(p - 2) || !isDigit(p))
+                    return illegalNumber(p - 1);
             } else {
                 handle(c);
             }
@@ -133,6 +136,23 @@ private:
         size_t firstKey;
         std::unique_ptr<QSet<QByteArrayView>> index = {}; ///< only for objects of many keys
     };
+
+    [[nodiscard]] bool isDigit(const char *p) const
+    {
+        return p >= m_begin && p < m_end && *p >= '0' && *p <= '9';
+    }
+
+    [[nodiscard]] JsonFault illegalNumber(const char *point) const
+    {
+        const auto isPart = [](char c) { return !std::strchr(" \t\r\n,:[]{}\"", c); };
+        const char *begin = point;
+        while (begin > m_begin && isPart(begin[-1]))
+            --begin;
+        const char *end = point;
+        while (end < m_end && isPart(*end))
+            ++end;
+        return {JsonFault::Kind::IllegalNumber, QString::fromUtf8(begin, end - begin), begin - m_begin};
+    }
 
     /// The backslash and the whole character behind it, which may have several bytes.
     [[nodiscard]] JsonFault illegalEscape(const char *backslash) const

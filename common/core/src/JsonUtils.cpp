@@ -68,6 +68,9 @@ FaultWords wordsFor(JsonFault::Kind kind)
         return {JsonUtilsTr::tr("the escape %1 is none that JSON knows"),
                 JsonUtilsTr::tr("The backslash would be lost; to mean one, write \\\\. Look at the other "
                                 "backslashes too: \\t, \\n and the like are read as control characters.")};
+    case JsonFault::Kind::IllegalNumber:
+        return {JsonUtilsTr::tr("the number %1 is none that JSON knows"),
+                JsonUtilsTr::tr("A point has digits on both sides: write 0.5 and 1.0.")};
     }
     Q_UNREACHABLE();
 }

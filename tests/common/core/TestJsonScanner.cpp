@@ -30,6 +30,9 @@ private Q_SLOTS:
     void anUnknownEscapeIsFoundWhereItStands_data();
     void anUnknownEscapeIsFoundWhereItStands();
     void legalEscapesPass();
+    void aPointWithoutDigitsIsFoundWhereItStands_data();
+    void aPointWithoutDigitsIsFoundWhereItStands();
+    void legalNumbersPass();
     void anyTextIsSurvived_data();
     void anyTextIsSurvived();
     void manyKeysTakeNoLongerThanTheirNumber();
@@ -133,6 +136,32 @@ void TestJsonScanner::anUnknownEscapeIsFoundWhereItStands()
     const std::optional<JsonFault> fault = findJsonFault(json);
     QVERIFY(fault.has_value());
     QCOMPARE(*fault, (JsonFault{JsonFault::Kind::IllegalEscape, escape, offset}));
+}
+
+void TestJsonScanner::aPointWithoutDigitsIsFoundWhereItStands_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("number");
+    QTest::addColumn<int>("offset");
+    QTest::newRow("none behind") << R"({"a":1.})"_ba << u"1."_s << 5;
+    QTest::newRow("none before") << R"({"a":[2.5, .5]})"_ba << u".5"_s << 11;
+    QTest::newRow("negative") << R"([-.5])"_ba << u"-.5"_s << 1;
+    QTest::newRow("exponent behind") << R"([1.e5])"_ba << u"1.e5"_s << 1;
+}
+
+void TestJsonScanner::aPointWithoutDigitsIsFoundWhereItStands()
+{
+    QFETCH(QByteArray, json);
+    QFETCH(QString, number);
+    QFETCH(int, offset);
+    const std::optional<JsonFault> fault = findJsonFault(json);
+    QVERIFY(fault.has_value());
+    QCOMPARE(*fault, (JsonFault{JsonFault::Kind::IllegalNumber, number, offset}));
+}
+
+void TestJsonScanner::legalNumbersPass()
+{
+    QVERIFY(!findJsonFault(R"({"a.":[0.5,-1.25e-3,1E5,12],"b":"1. .5","\u002e":"."})"));
 }
 
 void TestJsonScanner::legalEscapesPass()

@@ -16,13 +16,14 @@ struct JsonFault
 {
     enum class Kind
     {
-        DuplicateKey, ///< a key that stands twice in one object: only one of the values would be kept
-        IllegalEscape ///< a backslash before a character that JSON doesn't escape: it would vanish
+        DuplicateKey,  ///< a key that stands twice in one object: only one of the values would be kept
+        IllegalEscape, ///< a backslash before a character that JSON doesn't escape: it would vanish
+        IllegalNumber  ///< a point that has no digit on one side: other programs refuse it
     };
 
     Kind kind = Kind::DuplicateKey;
-    QString text;         ///< the key, or the escape, backslash included
-    qsizetype offset = 0; ///< in bytes: of the key's second occurrence, or of the backslash
+    QString text;         ///< the key, the escape, backslash included, or the number
+    qsizetype offset = 0; ///< in bytes: of the key's second occurrence, the backslash or the number
 
     bool operator==(const JsonFault &) const = default;
 };
