@@ -116,6 +116,8 @@ void TestPropertyText::otherTextsAreRefused_data()
     row(67, u"[1]"_s);
     row(67, u"{"_s);
     row(67, u"{\"a\":"_s.repeated(600) + u'1' + u"}"_s.repeated(600)); // no document could hold it
+    row(36, u"NaN"_s);                                                 // a number that is stored as a text
+    row(36, u"1e999"_s);
     row(60, u"gopher://x"_s);
     for (const QString &tolerance : {u"-5 ppm"_s, u"5 mmu"_s, u"5 ppb"_s, u"10001 ppm"_s, u"ppm"_s,
                                      u"5 5 ppm"_s, u"nan Da"_s, QString(), uR"({"unit":"mmu","value":5})"_s,

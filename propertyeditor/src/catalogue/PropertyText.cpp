@@ -82,6 +82,22 @@ Read toCheckedTexts(PropertyId id, const QString &text)
     return chosen;
 }
 
+/// Whether the texts of a setting stand for numbers, as its default does.
+bool meansNumber(PropertyId id)
+{
+    bool isNumber = false;
+    const QVariant byDefault = PropertiesNames::defaultValueForType(id);
+    if (byDefault.typeId() == QMetaType::QString)
+        byDefault.toString().toDouble(&isNumber);
+    return isNumber;
+}
+
+/// Some such settings take lists of numbers, too.
+Read toText(PropertyId id, const QString &text)
+{
+    return meansNumber(id) && !std::isfinite(text.trimmed().toDouble()) ? std::nullopt : Read(text);
+}
+
 /// A text or key that users see or files hold, or a position in the list.
 Read toListValue(PropertyId id, const QString &text)
 {
@@ -120,7 +136,7 @@ Read readText(PropertyId id, const QString &text, const KProperty &property)
     case PropertiesTraits::CheckableListType:
         return toCheckedTexts(id, text);
     default:
-        return text;
+        return toText(id, text);
     }
 }
 
@@ -189,7 +205,7 @@ QString legalValues(PropertyId id, const KProperty &property)
         return tr("any of these, separated by commas: %1")
             .arg(UserVisibleListConverter::valuesForCheckableList(id).join(QLatin1String(", ")));
     default:
-        return tr("a text");
+        return meansNumber(id) ? tr("a number") : tr("a text");
     }
 }
 

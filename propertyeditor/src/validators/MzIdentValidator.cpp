@@ -43,7 +43,8 @@ void MzIdentValidator::check(CheckRun &run) const
         return;
     }
     for (const ColumnSettings &found : settingsInColumns(content, {BaseItemType::Karvon})) {
-        if (!isProject(*found.item, table) || found.item->value(PropertyId::KarvonExportMzIdentML).toBool())
+        // The pattern last: it is tested on every sample.
+        if (found.item->value(PropertyId::KarvonExportMzIdentML).toBool() || !isProject(*found.item, table))
             continue;
         run.error(QStringLiteral(
                       "There is a Karvon project with \"Export mzIdentML\" property unchecked or missing.\n"
