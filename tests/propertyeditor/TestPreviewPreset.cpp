@@ -56,6 +56,8 @@ private Q_SLOTS:
     void anyHeadIsRead();
     void windowsLineEndsAreRead();
     void aLongLineWithoutSignIsPassedOverAtOnce();
+    void aTextWithoutAKnownLineIsNone_data();
+    void aTextWithoutAKnownLineIsNone();
     void aFileThatCannotBeReadFails_data();
     void aFileThatCannotBeReadFails();
     void propertiesPassThroughTheirMap();
@@ -230,6 +232,26 @@ void TestPreviewPreset::aLongLineWithoutSignIsPassedOverAtOnce()
 {
     QVERIFY(PresetContent::fromFileContent(QByteArray(4'000'000, 'a')) == PresetContent());
     QVERIFY(PresetContent::fromFileContent("==" + QByteArray(4'000'000, 'a')) == PresetContent());
+}
+
+void TestPreviewPreset::aTextWithoutAKnownLineIsNone_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<bool>("isFileContent");
+    QTest::newRow("own file")
+        << PreviewPreset::Content().convertToFileContent(PreviewPreset::Content::WithHeader).toUtf8() << true;
+    QTest::newRow("one key without a value") << "x\nFirstK=\r\n"_ba << true;
+    QTest::newRow("empty") << ""_ba << false;
+    QTest::newRow("other keys") << "[a]\nPath=/x\nfirstk=1\n"_ba << false;
+    QTest::newRow("key in a comment") << "#FirstK=\nFirstK"_ba << false;
+    QTest::newRow("binary") << QByteArray(100, '\0') << false;
+}
+
+void TestPreviewPreset::aTextWithoutAKnownLineIsNone()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(bool, isFileContent);
+    QCOMPARE(PreviewPreset::Content::isFileContent(text), isFileContent);
 }
 
 void TestPreviewPreset::aFileThatCannotBeReadFails_data()

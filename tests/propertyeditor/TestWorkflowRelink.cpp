@@ -121,6 +121,12 @@ void TestWorkflowRelink::wholeNamesOfAPathMove_data()
     QTest::newRow("root") << u"/a.raw"_s << u"/"_s << u"/mnt"_s << u"/mnt/a.raw"_s;
     QTest::newRow("relative") << u"runs/a.raw"_s << u"runs"_s << u"../data"_s << u"../data/a.raw"_s;
     QTest::newRow("relative, longer name") << u"runs2/a.raw"_s << u"runs"_s << u"x"_s << u"runs2/a.raw"_s;
+    QTest::newRow("in the workflow's own folder") << u"./data/a.raw"_s << u"data"_s << u"d"_s << u"d/a.raw"_s;
+    QTest::newRow("own folder in the rule") << u"data/a.raw"_s << u".//data"_s << u"d"_s << u"d/a.raw"_s;
+    QTest::newRow("own folder alone") << u"./a.raw"_s << u"."_s << u"d"_s << u"d/a.raw"_s;
+    QTest::newRow("own folder in neither") << u"a.raw"_s << u"."_s << u"d"_s << u"a.raw"_s;
+    QTest::newRow("rule that keeps all")
+        << u"D:\\data\\a.raw"_s << u"D:/data"_s << u"D:/data"_s << u"D:\\data\\a.raw"_s;
     QTest::newRow("server") << u"talvane:/lab/x/a.tolq"_s << u"talvane:/lab"_s << u"talvane:/archive"_s
                             << u"talvane:/archive/x/a.tolq"_s;
     QTest::newRow("file URL") << u"file:///data/lot%201/a.raw"_s << u"/data/lot 1"_s << u"/mnt/lot 2"_s

@@ -206,6 +206,19 @@ PresetContent PresetContent::fromFileContent(const QByteArray &text)
     return content;
 }
 
+bool PresetContent::isFileContent(const QByteArray &text)
+{
+    const auto isKeyIn = [](const QByteArray &key, const auto &rows) {
+        return std::ranges::any_of(rows, [&key](const auto &row) { return QLatin1String(key) == row.key; });
+    };
+    const QList<QByteArray> lines = text.split('\n');
+    return std::ranges::any_of(lines, [&isKeyIn](const QByteArray &line) {
+        const QByteArray key = line.left(line.indexOf('='));
+        return line.contains('=') &&
+               (isKeyIn(key, kPaths) || isKeyIn(key, kSettings) || isKeyIn(key, kFixed));
+    });
+}
+
 QString PresetContent::convertToFileContent(ConvertMode mode) const
 {
     QString text;

@@ -33,6 +33,16 @@ bool hasBackslashSeparators(const QString &path)
     return !path.startsWith(kSlash) || FilePathUtils::isUncPath(path);
 }
 
+/// "data" for "./data"; "." and whatever else begins otherwise as it is.
+QString withoutOwnFolder(const QString &path)
+{
+    qsizetype begin = 0;
+    while (begin + 1 < path.size() && path.at(begin) == QLatin1Char('.') &&
+           isPathSeparator(path.at(begin + 1)))
+        begin = endOfSeparators(path, begin + 1);
+    return begin < path.size() ? path.mid(begin) : path;
+}
+
 /// As the new beginning separates its names; with slashes where it has none.
 QString separatedLike(const QString &beginning, const QString &path, QString rest)
 {
@@ -87,7 +97,7 @@ bool PathNames::startWith(const PathNames &other) const
 MovedPaths::MovedPaths(const QList<WorkflowRelinkRule> &rules)
 {
     for (const WorkflowRelinkRule &rule : rules)
-        m_rules.append({PathNames(rule.from), rule.to});
+        m_rules.append({PathNames(withoutOwnFolder(rule.from)), rule.to, rule.from == rule.to});
     std::ranges::stable_sort(m_rules, std::ranges::greater(),
                              [](const Rule &rule) { return rule.from.count(); });
 }
@@ -107,11 +117,19 @@ std::optional<QString> MovedPaths::moved(const QString &text) const
 
 std::optional<QString> MovedPaths::movedPath(const QString &path) const
 {
-    const PathNames names(path);
-    const auto rule =
-        std::ranges::find_if(m_rules, [&names](const Rule &one) { return names.startWith(one.from); });
+    const auto ruleFor = [this](const PathNames &names) {
+        return std::ranges::find_if(m_rules, [&names](const Rule &one) { return names.startWith(one.from); });
+    };
+    PathNames names(path);
+    auto rule = ruleFor(names);
+    if (rule == m_rules.end()) {
+        names = PathNames(withoutOwnFolder(path));
+        rule = ruleFor(names);
+    }
     if (rule == m_rules.end())
         return {};
+    if (rule->keepsAll)
+        return path;
     return joined(rule->to, separatedLike(rule->to, path, names.behind(rule->from.count())));
 }
 

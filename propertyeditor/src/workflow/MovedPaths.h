@@ -44,6 +44,7 @@ private:
     {
         PathNames from;
         QString to;
+        bool keepsAll; ///< both texts are the same
     };
 
     [[nodiscard]] std::optional<QString> movedPath(const QString &path) const;

@@ -86,6 +86,9 @@ public:
         /// The same of the text in a file, of which nothing is refused: other lines and keys are passed over,
         /// and a value that is no number reads as 0.
         [[nodiscard]] static Content fromFileContent(const QByteArray &text);
+        /// Whether a line of \a text begins with a key of the format and "=": any other text isn't such a
+        /// file.
+        [[nodiscard]] static bool isFileContent(const QByteArray &text);
 
         /// 20 lines, below the name of the format and the time. Values aren't escaped: a line break in one
         /// ends its line.
