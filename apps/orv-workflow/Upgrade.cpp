@@ -1,5 +1,7 @@
 #include "Upgrade.h"
 
+#include <orv/propertyeditor/PropertiesGetter.h>
+#include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/workflow/WflwUpgrader.h>
 
 #include <algorithm>
@@ -19,14 +21,22 @@ bool stoppedAtSamples(const Error &error)
     });
 }
 
-Failure failureOf(const WorkflowUpgradeReport &report)
+bool hasSamples(const QJsonObject &document)
+{
+    return !PropertiesGetter(PropertyEditorContent(document)).samples().isEmpty();
+}
+
+Failure failureOf(const WorkflowUpgradeReport &report, const QJsonObject &document)
 {
     if (report.state == WflwMetaData::WflwState::NotSupported)
         return {Negative, 0, report.error.errorMessages().join(QLatin1Char(' '))};
     Failure failure = failureFrom(report.error, report.state ? Negative : BadInput);
     if (stoppedAtSamples(report.error)) {
-        failure.message += QStringLiteral(" It opens the samples' files: --no-sample-data leaves it out, and "
-                                          "orv-workflow relink finds files that have moved.");
+        failure.message +=
+            hasSamples(document)
+                ? QStringLiteral(" It opens the samples' files: --no-sample-data leaves it out, "
+                                 "and orv-workflow relink finds files that have moved.")
+                : QStringLiteral(" It is for the samples' files: --no-sample-data leaves it out.");
     }
     return failure;
 }
@@ -54,7 +64,7 @@ UpgradeAnswer upgradeWorkflow(const BatchInput &input, const UpgradeOptions &opt
     if (!answer.isChanged)
         answer.upgraded = read->bytes;
     if (answer.error)
-        answer.failure = failureOf(answer);
+        answer.failure = failureOf(answer, read->document);
     return answer;
 }
 

@@ -14,6 +14,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <array>
 #include <csignal>
 #include <string_view>
 
@@ -75,8 +76,13 @@ int run(const Program &program, size_t subcommand)
 /// When the line can't be parsed, too.
 bool jsonIsAskedFor(int argc, char *argv[])
 {
-    return std::any_of(argv + 1, argv + argc,
-                       [](const char *argument) { return std::string_view(argument) == "--json"; });
+    constexpr std::array<std::string_view, 5> kOff = {"false", "off", "no", "disable", "0"};
+    constexpr std::string_view kWithValue = "--json=";
+    return std::any_of(argv + 1, argv + argc, [&](std::string_view argument) {
+        const bool isOn = argument.starts_with(kWithValue) &&
+                          std::ranges::find(kOff, argument.substr(kWithValue.size())) == kOff.end();
+        return argument == "--json" || isOn;
+    });
 }
 
 /// For packagers: `orv-workflow --generate bash` and so on, and `orv-workflow --generate all FOLDER`. Nothing

@@ -40,8 +40,12 @@ DetectAnswer answerFor(const QString &path, bool byName)
     std::sort(formats.begin(), formats.end());
     for (VendorDataFormat format : std::as_const(formats))
         answer.formats.append(msreader::vendorDataFormatToString(format));
-    if (const Error error = DataSourceLocation::checkValidVendorFilePath(location.localPath))
+    if (const Error error = DataSourceLocation::checkValidVendorFilePath(location.localPath)) {
         answer.failure = failureFrom(error, Negative);
+    } else if (!byName && !QFileInfo::exists(path)) {
+        answer.failure = Failure{Negative, int(ErrorCode::CannotOpenFile),
+                                 QStringLiteral("There is no such file or folder.")};
+    }
     return answer;
 }
 

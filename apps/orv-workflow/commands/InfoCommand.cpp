@@ -29,7 +29,10 @@ InfoAnswer answerFor(const BatchInput &input)
     const Outcome<DoubtfulText> text = readDoubtful(input.file);
     if (text.hasFailed())
         return {input.file, {}, text.failure()};
-    return {input.file, WorkflowSummary::of(PropertyEditorContent(text->document)), {}, text->fault};
+    std::optional<Failure> fault = text->fault;
+    if (!fault && !text->document.value(QLatin1String("tabs")).isArray())
+        fault = Failure{Done, 0, QStringLiteral("The document has no tabs, so it is no workflow.")};
+    return {input.file, WorkflowSummary::of(PropertyEditorContent(text->document)), {}, fault};
 }
 
 QString faultText(const InfoAnswer &answer)

@@ -1,7 +1,9 @@
 #include "../Console.h"
 #include "../Failure.h"
+#include "../Outcome.h"
 #include "Command.h"
 
+#include <orv/core/FileUtils.h>
 #include <orv/propertyeditor/engine/PreviewPreset.h>
 
 namespace orv::cli {
@@ -60,15 +62,28 @@ public:
 
     int run(const GlobalOptions &options) override
     {
-        const Result<PreviewPreset::Content> content = PreviewPreset::Content::fromPreviewPresetFile(m_path);
-        if (!content.hasError())
+        const Outcome<PreviewPreset::Content> content = read();
+        if (!content.hasFailed())
             return options.json ? printJson(toJson(*content)) : printText(toText(*content));
-        const Failure failure = failureFrom(content.error(), BadInput);
+        const Failure &failure = content.failure();
         return printFailedCall(m_path, failure, {{QStringLiteral("error"), orv::cli::toJson(failure)}},
                                options);
     }
 
 private:
+    [[nodiscard]] Outcome<PreviewPreset::Content> read() const
+    {
+        const Result<PreviewPreset::Content> content = PreviewPreset::Content::fromPreviewPresetFile(m_path);
+        if (content.hasError())
+            return failureFrom(content.error(), BadInput);
+        const Result<QByteArray> text = FileUtils::readFile(m_path);
+        if (text && PreviewPreset::Content::isFileContent(*text))
+            return *content;
+        return Failure{BadInput, int(ErrorCode::InvalidContent),
+                       QStringLiteral("The file holds no line of a parameter file, such as "
+                                      "\"DigestLetters=RK\"; name a file that the preview engine reads.")};
+    }
+
     QString m_path;
 };
 

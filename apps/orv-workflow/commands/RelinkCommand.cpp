@@ -108,12 +108,19 @@ protected:
 
     [[nodiscard]] Outcome<void> checkUsage() const override
     {
-        if (m_from.size() == m_to.size() && !m_from.contains(QString()))
+        if (m_from.size() != m_to.size()) {
+            return Failure{WrongUsage, 0,
+                           QStringLiteral("Every --from needs a --to; there are %1 and %2.")
+                               .arg(m_from.size())
+                               .arg(m_to.size())};
+        }
+        if (!m_from.contains(QString()) && !m_to.contains(QString()))
             return {};
-        return Failure{WrongUsage, 0,
-                       QStringLiteral("Every --from needs a text and a --to; there are %1 and %2.")
-                           .arg(m_from.size())
-                           .arg(m_to.size())};
+        return Failure{
+            WrongUsage, 0,
+            QStringLiteral("The text of %1 is empty; name what references begin with, \".\" for the "
+                           "workflow's own folder.")
+                .arg(m_from.contains(QString()) ? QStringLiteral("--from") : QStringLiteral("--to"))};
     }
 
     [[nodiscard]] FileReport report(const BatchInput &input, const QString &output,

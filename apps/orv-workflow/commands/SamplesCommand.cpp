@@ -32,6 +32,11 @@ public:
         const Outcome<QJsonObject> document = readDocument(m_file);
         if (document.hasFailed())
             return printFailedCall(m_file, document.failure(), json({}, toJson(document.failure())), options);
+        if (!document->value(QLatin1String("tabs")).isArray()) {
+            const Failure failure{BadInput, 0,
+                                  QStringLiteral("The document has no tabs, so it is no workflow.")};
+            return printFailedCall(m_file, failure, json({}, toJson(failure)), options);
+        }
         const SampleNames names = namesIn(*document);
         return options.json ? printJson(json(names, {})) : printText(text(names.matching));
     }
