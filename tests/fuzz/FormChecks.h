@@ -22,6 +22,10 @@ namespace FormChecks {
 /// Comma-separated text reads the same in pieces of any size, and its rows read back from what is written.
 [[nodiscard]] QString checkCsv(const QByteArray &bytes);
 
+/// Text of the clipboard and of files becomes cells that read back as they are written; a paste is undone and
+/// redone whole, and what an import lets pass is allowed.
+[[nodiscard]] QString checkTableText(const QByteArray &bytes);
+
 /// The table of samples is refused with a word, or written as it was; after a change it reads back as
 /// written.
 [[nodiscard]] QString checkSamples(const QByteArray &bytes);

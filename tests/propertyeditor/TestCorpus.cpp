@@ -34,6 +34,8 @@ private Q_SLOTS:
     void tablesAreRefusedOrReadBackEqual() { run(FormChecks::checkRowNode); }
     void commaSeparatedTextReadsTheSameInPieces_data() { addFiles(); }
     void commaSeparatedTextReadsTheSameInPieces() { run(FormChecks::checkCsv); }
+    void textOfTablesBecomesCellsAndBack_data() { addFiles(); }
+    void textOfTablesBecomesCellsAndBack() { run(FormChecks::checkTableText); }
     void samplesAreRefusedOrReadBackEqual_data() { addFiles(); }
     void samplesAreRefusedOrReadBackEqual() { run(FormChecks::checkSamples); }
     void referencesAreRefusedOrSurviveTheirText_data() { addFiles(); }
@@ -83,7 +85,7 @@ void TestCorpus::everyFuzzerHasSeeds_data()
     QTest::addColumn<QString>("folder");
     for (const char *folder :
          {"chemistry", "csv", "fasta", "json", "mgf", "object_form", "property_set", "prv", "reference",
-          "row_node", "rules", "samples", "value_form", "vendor_paths", "xenoset"})
+          "row_node", "rules", "samples", "table_text", "value_form", "vendor_paths", "xenoset"})
         QTest::newRow(folder) << QString::fromLatin1(folder);
 }
 

@@ -203,7 +203,7 @@ Result<Outcome> Pasting::run()
     m_outcome.columnsLeftOut = std::max(0, width - int(m_targets.size()));
     for (int row = 0; row < m_outcome.rows; ++row)
         pasteRow(row, m_firstRow + row % rows, across);
-    Error error = m_model.sheet()->setCells(m_cells, TableClipboardTr::tr("paste %n row(s)", nullptr, rows));
+    Error error = m_model.sheet()->setCells(m_cells, TableClipboardTr::tr("paste"));
     if (error.hasError())
         return error.ecatch();
     return m_outcome;

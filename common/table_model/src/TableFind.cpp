@@ -46,8 +46,7 @@ Result<int> replaceIn(const TableModel &model, const TableSearch &search, const 
         const QString &text = texts.emplace_back(replaced(model, search, cell, replacement));
         changes.append({model.sheetRow(cell.row()), cell.column(), text});
     }
-    Error error = model.sheet()->setCells(
-        changes, TableFindTr::tr("replace in %n cell(s)", nullptr, int(changes.size())));
+    Error error = model.sheet()->setCells(changes, TableFindTr::tr("replace"));
     if (error.hasError())
         return error.ecatch();
     return int(changes.size());

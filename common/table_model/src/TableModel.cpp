@@ -16,6 +16,13 @@ struct TableModelTr
     Q_DECLARE_TR_FUNCTIONS(TableModel)
 };
 
+/// Numbers stand at the right from right to left too, as their digits run the same way.
+QVariant alignmentOf(const TableColumn &column)
+{
+    const Qt::Alignment ofNumbers = Qt::AlignRight | Qt::AlignAbsolute;
+    return QVariant::fromValue((column.isNumeric() ? ofNumbers : Qt::AlignLeft) | Qt::AlignVCenter);
+}
+
 /// Up to here rows come and go one run at a time, so that views keep what they know; more are quicker anew.
 constexpr qsizetype kMaxRuns = 64;
 
@@ -271,7 +278,7 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
         return problem.isEmpty() ? column.shown(kept, d->sign) : problem;
     }
     case Qt::TextAlignmentRole:
-        return QVariant::fromValue((column.isNumeric() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+        return alignmentOf(column);
     default:
         return {};
     }
@@ -305,7 +312,7 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
     case Qt::AccessibleDescriptionRole:
         return column.explanation.isEmpty() ? column.header() : column.explanation;
     case Qt::TextAlignmentRole:
-        return QVariant::fromValue((column.isNumeric() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+        return alignmentOf(column);
     default:
         return {};
     }

@@ -317,7 +317,7 @@ void TableSheet::insertRows(int at, int count)
     for (int i = 0; i < count; ++i)
         ids.append(d->addDefaultRow());
     const int place = std::clamp(at, 0, rowCount());
-    d->push({TableRowsChange{rowsFrom(place, count), ids, true}}, tr("add %n row(s)", nullptr, count));
+    d->push({TableRowsChange{rowsFrom(place, count), ids, true}}, tr("add rows"));
 }
 
 Error TableSheet::insertRows(int at, const QList<QStringList> &rows, const QString &step)
@@ -347,7 +347,7 @@ void TableSheet::duplicateRows(const QList<int> &rows)
     }
     d->problems.setRowCount(d->store.rowCount());
     d->push({TableRowsChange{rowsFrom(originals.constLast() + 1, copies.size()), copies, true}},
-            tr("duplicate %n row(s)", nullptr, int(copies.size())));
+            tr("duplicate rows"));
 }
 
 void TableSheet::removeRows(const QList<int> &rows)
@@ -358,7 +358,7 @@ void TableSheet::removeRows(const QList<int> &rows)
     QList<quint32> ids;
     for (const int row : places)
         ids.append(rowId(row));
-    d->push({TableRowsChange{places, ids, false}}, tr("remove %n row(s)", nullptr, int(ids.size())));
+    d->push({TableRowsChange{places, ids, false}}, tr("remove rows"));
 }
 
 void TableSheet::moveRows(const QList<int> &rows, int before)
@@ -377,7 +377,7 @@ void TableSheet::moveRows(const QList<int> &rows, int before)
     }
     const QList<quint32> after = head + middle + tail;
     if (after != old)
-        d->push({TableOrderChange{old, after}}, tr("move %n row(s)", nullptr, int(moved.size())));
+        d->push({TableOrderChange{old, after}}, tr("move rows"));
 }
 
 void TableSheet::setOrder(const QList<quint32> &ids)

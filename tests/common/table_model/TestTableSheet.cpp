@@ -159,7 +159,7 @@ void TestTableSheet::newRowsHaveDefaults()
     sheet.insertRows(1, 2);
     QCOMPARE(names(sheet), TableFixture::rows({"alpha - - beta gamma S10 S2"})[0]);
     QCOMPARE(sheet.texts(1), rows({"- - 2 -"})[0]);
-    QCOMPARE(sheet.history()->undoText(), u"add 2 row(s)"_s);
+    QCOMPARE(sheet.history()->undoText(), u"add rows"_s);
 }
 
 void TestTableSheet::copiesStandBelow()

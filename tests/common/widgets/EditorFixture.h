@@ -2,6 +2,7 @@
 
 #include <orv/widgets/TableEditor.h>
 
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>

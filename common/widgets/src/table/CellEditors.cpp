@@ -56,6 +56,11 @@ QString chooseColor(QWidget *parent, const QString &now)
 
 } // namespace
 
+bool runsLeftToRight(TableColumnKind kind)
+{
+    return kind != TableColumnKind::Text && kind != TableColumnKind::Choice;
+}
+
 QFont fixedWidthFont(const QFont &like)
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -70,6 +75,8 @@ CellLineEdit::CellLineEdit(const TableColumn &column, NumberText::DecimalSign si
 {
     setFrame(false);
     setAccessibleName(column.header());
+    if (runsLeftToRight(column.kind))
+        setLayoutDirection(Qt::LeftToRight);
     if (column.isNumeric()) {
         setAlignment(Qt::AlignRight);
         setValidator(new NumberCharacters(this));

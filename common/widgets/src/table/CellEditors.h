@@ -59,6 +59,9 @@ protected:
 [[nodiscard]] QWidget *createCellEditor(const TableColumn &column, NumberText::DecimalSign sign,
                                         QWidget *parent);
 
+/// Whether the text of such a cell runs from left to right in every language: numbers, paths, sequences.
+[[nodiscard]] bool runsLeftToRight(TableColumnKind kind);
+
 /// Sequences stand in a fixed-width font.
 [[nodiscard]] QFont fixedWidthFont(const QFont &like);
 

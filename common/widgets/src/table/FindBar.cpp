@@ -148,7 +148,7 @@ void FindBar::replaceAll()
     const Result<int> replaced =
         TableFind::replaceAll(*m_view->tableModel(), search(), m_replacement->text());
     Q_EMIT m_view->said(replaced.hasError() ? replaced.error().errorMessage()
-                                            : tr("Replaced in %n cell(s)", nullptr, replaced.value()));
+                                            : tr("Cells changed: %1").arg(replaced.value()));
     tellCount();
 }
 
@@ -157,8 +157,8 @@ void FindBar::tellCount()
     const int count = TableFind::count(*m_view->tableModel(), search(), kCountedCells);
     m_count->setText(m_text->text().isEmpty() ? QString()
                      : count == 0             ? tr("Nothing found")
-                     : count == kCountedCells ? tr("%1 or more cells").arg(count)
-                                              : tr("%n cell(s)", nullptr, count));
+                     : count == kCountedCells ? tr("Cells: %1 or more").arg(count)
+                                              : tr("Cells: %1").arg(count));
 }
 
 } // namespace orv

@@ -4,11 +4,10 @@
 
 namespace orv {
 
-ImportPreviewModel::ImportPreviewModel(const TableImport *import, const QList<TableColumn> *columns,
-                                       QObject *parent)
+ImportPreviewModel::ImportPreviewModel(SharedImport import, QList<TableColumn> columns, QObject *parent)
     : QAbstractTableModel(parent)
-    , m_import(import)
-    , m_columns(columns)
+    , m_import(std::move(import))
+    , m_columns(std::move(columns))
 {}
 
 void ImportPreviewModel::refresh()
@@ -41,9 +40,9 @@ QVariant ImportPreviewModel::data(const QModelIndex &index, int role) const
     case Qt::AccessibleDescriptionRole:
         return m_import->problem(record, index.column());
     case TableModel::KindRole:
-        return int(column < 0 ? TableColumnKind::Text : m_columns->at(column).kind);
+        return int(column < 0 ? TableColumnKind::Text : m_columns.at(column).kind);
     case Qt::TextAlignmentRole: {
-        const bool isNumeric = column >= 0 && m_columns->at(column).isNumeric();
+        const bool isNumeric = column >= 0 && m_columns.at(column).isNumeric();
         return QVariant::fromValue((isNumeric ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     }
     default:
@@ -60,9 +59,9 @@ QVariant ImportPreviewModel::headerData(int section, Qt::Orientation orientation
     return section == 0 ? QVariant(tr("Goes to")) : QVariant(m_import->record(section - 1).line);
 }
 
-ImportProblemModel::ImportProblemModel(const TableImport *import, QObject *parent)
+ImportProblemModel::ImportProblemModel(SharedImport import, QObject *parent)
     : QAbstractTableModel(parent)
-    , m_import(import)
+    , m_import(std::move(import))
 {}
 
 void ImportProblemModel::refresh()

@@ -4,7 +4,12 @@
 
 #include <QAbstractTableModel>
 
+#include <memory>
+
 namespace orv {
+
+/// Views ask their models to the last, when the dialog has forgotten everything.
+using SharedImport = std::shared_ptr<const TableImport>;
 
 /// What an import would take, with the fields in columns. The first row is for the choice where each goes.
 class ImportPreviewModel : public QAbstractTableModel
@@ -12,7 +17,7 @@ class ImportPreviewModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    ImportPreviewModel(const TableImport *import, const QList<TableColumn> *columns, QObject *parent);
+    ImportPreviewModel(SharedImport import, QList<TableColumn> columns, QObject *parent);
 
     /// After the format or the mapping has changed.
     void refresh();
@@ -23,8 +28,8 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    const TableImport *m_import;
-    const QList<TableColumn> *m_columns;
+    SharedImport m_import;
+    QList<TableColumn> m_columns;
 };
 
 /// What is wrong with the fields of an import.
@@ -33,7 +38,7 @@ class ImportProblemModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    ImportProblemModel(const TableImport *import, QObject *parent);
+    ImportProblemModel(SharedImport import, QObject *parent);
 
     void refresh();
 
@@ -43,7 +48,7 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    const TableImport *m_import;
+    SharedImport m_import;
 };
 
 } // namespace orv

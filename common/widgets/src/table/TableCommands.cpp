@@ -230,7 +230,7 @@ void TableCommands::copyCells(bool withHeaders)
         rows.append(texts);
     }
     QGuiApplication::clipboard()->setText(TableClipboard::format(rows));
-    Q_EMIT m_view->said(tr("%n row(s) copied", nullptr, int(rows.size()) - (withHeaders ? 1 : 0)));
+    Q_EMIT m_view->said(tr("Rows copied: %1").arg(rows.size() - (withHeaders ? 1 : 0)));
 }
 
 void TableCommands::cut()
@@ -260,13 +260,13 @@ void TableCommands::paste()
     }
     if (pasted->rows > 0 && from < shown.size() && row < m_view->tableModel()->rowCount())
         m_view->goTo(m_view->tableModel()->index(row, shown[from]));
-    QStringList told = {pasted->rows > 0 ? tr("%n row(s) pasted", nullptr, pasted->rows)
+    QStringList told = {pasted->rows > 0 ? tr("Rows pasted: %1.").arg(pasted->rows)
                                          : tr("There are no cells to paste.")};
     if (pasted->columnsLeftOut > 0)
-        told.append(tr("%n column(s) had no room and were left out", nullptr, pasted->columnsLeftOut));
+        told.append(tr("Columns left out, as there is no room: %1.").arg(pasted->columnsLeftOut));
     if (pasted->readOnlyCells > 0)
-        told.append(tr("%n cell(s) can't be changed and were left", nullptr, pasted->readOnlyCells));
-    Q_EMIT m_view->said(told.join(QStringLiteral("; ")));
+        told.append(tr("Cells left, as they can't be changed: %1.").arg(pasted->readOnlyCells));
+    Q_EMIT m_view->said(told.join(u' '));
 }
 
 void TableCommands::fillDown()
@@ -313,7 +313,7 @@ void TableCommands::removeRows()
     const int left = m_view->tableModel()->rowCount();
     if (left > 0 && !rows.isEmpty())
         m_view->goTo(m_view->tableModel()->index(std::min(rows.constFirst(), left - 1), std::max(0, column)));
-    Q_EMIT m_view->said(tr("%n row(s) removed; undo brings them back", nullptr, int(rows.size())));
+    Q_EMIT m_view->said(tr("Rows removed: %1. Undo brings them back.").arg(rows.size()));
 }
 
 void TableCommands::moveRows(int by)

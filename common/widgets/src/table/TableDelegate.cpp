@@ -28,6 +28,9 @@ TableColumnKind kindOf(const QModelIndex &index)
     return TableColumnKind(index.data(TableModel::KindRole).toInt());
 }
 
+constexpr QChar kLeftToRight(0x2066);
+constexpr QChar kEndOfDirection(0x2069);
+
 QPixmap swatchOf(const QString &color, const QStyleOptionViewItem &option)
 {
     const int side = option.fontMetrics.ascent();
@@ -47,13 +50,16 @@ void TableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIn
 {
     QStyledItemDelegate::initStyleOption(option, index);
     const TableColumnKind kind = kindOf(index);
+    const QString color = option->text;
     option->textElideMode = kind == TableColumnKind::File ? Qt::ElideMiddle : Qt::ElideRight;
     if (kind == TableColumnKind::Sequence) {
         option->font = fixedWidthFont(option->font);
         option->fontMetrics = QFontMetrics(option->font);
     }
-    if (kind == TableColumnKind::Color && QColor::isValidColor(option->text)) {
-        option->icon = QIcon(swatchOf(option->text, *option));
+    if (option->direction == Qt::RightToLeft && runsLeftToRight(kind))
+        option->text = kLeftToRight + option->text + kEndOfDirection;
+    if (kind == TableColumnKind::Color && QColor::isValidColor(color)) {
+        option->icon = QIcon(swatchOf(color, *option));
         option->decorationSize = QSize(option->fontMetrics.ascent(), option->fontMetrics.ascent());
         option->features |= QStyleOptionViewItem::HasDecoration;
     }

@@ -64,7 +64,7 @@ Error TableDrop::takeInto(TableSheet &sheet, const TableModel &model) const
         const int beyond = shown - model.rowCount();
         cells.append({beyond < 0 ? model.sheetRow(shown) : sheet.rowCount() + beyond, m_column, m_files[i]});
     }
-    return sheet.setCells(cells, TableDropTr::tr("drop %n file(s)", nullptr, int(m_files.size())));
+    return sheet.setCells(cells, TableDropTr::tr("drop files"));
 }
 
 } // namespace orv

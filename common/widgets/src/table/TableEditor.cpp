@@ -168,10 +168,11 @@ void TableEditor::showCounts()
     const int all = d->sheet->rowCount();
     const int shown = d->view->tableModel()->rowCount();
     const QLocale locale = this->locale();
-    d->counts->setText(shown == all ? tr("%n row(s)", nullptr, all)
-                                    : tr("%1 of %2 rows").arg(locale.toString(shown), locale.toString(all)));
+    d->counts->setText(shown == all ? tr("Rows: %1").arg(locale.toString(all))
+                                    : tr("Rows: %1 of %2").arg(locale.toString(shown), locale.toString(all)));
     const int problems = d->sheet->problemCount();
-    d->onlyProblems->setText(problems == 0 ? tr("No problems") : tr("%n problem(s)", nullptr, problems));
+    d->onlyProblems->setText(problems == 0 ? tr("No problems")
+                                           : tr("Problems: %1").arg(locale.toString(problems)));
     d->onlyProblems->setEnabled(problems > 0 || d->onlyProblems->isChecked());
     QPalette colors = palette();
     if (problems > 0)
@@ -200,9 +201,8 @@ void TableEditor::importFile(const QString &path)
     connect(dialog, &QDialog::accepted, this, [this, dialog] {
         const QList<QStringList> rows = dialog->rows();
         const int first = d->sheet->rowCount();
-        const Error error =
-            d->sheet->insertRows(first, rows, tr("import %n row(s)", nullptr, int(rows.size())));
-        say(error.hasError() ? error.errorMessage() : tr("%n row(s) imported", nullptr, int(rows.size())));
+        const Error error = d->sheet->insertRows(first, rows, tr("import"));
+        say(error.hasError() ? error.errorMessage() : tr("Rows imported: %1").arg(rows.size()));
         if (const int row = first < d->sheet->rowCount() ? d->view->tableModel()->rowOfSheetRow(first) : -1;
             row >= 0)
             d->view->goTo(d->view->tableModel()->index(row, d->view->shownColumns().value(0)));
@@ -226,8 +226,9 @@ void TableEditor::exportFile(const QString &path)
     if (FileUtils::writeToFile(path, text, &reason) != QFileDevice::NoError)
         ORVStyle::warning(this, tr("Export"), tr("Cannot write the file \"%1\": %2").arg(path, reason));
     else
-        say(tr("%n row(s) written to %1", nullptr, d->view->tableModel()->rowCount())
-                .arg(QFileInfo(path).fileName()));
+        say(tr("Rows written to %1: %2")
+                .arg(QFileInfo(path).fileName())
+                .arg(d->view->tableModel()->rowCount()));
 }
 
 } // namespace orv

@@ -47,11 +47,13 @@ class TableImportDialog::Private
 public:
     Private(const QByteArray &bytes, const QList<TableColumn> &columnsOfTable)
         : columns(columnsOfTable)
-        , import(bytes, columns)
+        , shared(std::make_shared<TableImport>(bytes, columns))
+        , import(*shared)
     {}
 
     QList<TableColumn> columns;
-    TableImport import;
+    std::shared_ptr<TableImport> shared;
+    TableImport &import;
     QComboBox *separator = nullptr;
     QComboBox *quote = nullptr;
     QComboBox *decimalSign = nullptr;
@@ -104,7 +106,7 @@ void TableImportDialog::build()
     buildFormat(layout);
     auto *const splitter = new QSplitter(Qt::Vertical);
     splitter->setChildrenCollapsible(false);
-    d->previewModel = new ImportPreviewModel(&d->import, &d->columns, this);
+    d->previewModel = new ImportPreviewModel(d->shared, d->columns, this);
     d->preview = new QTableView;
     d->preview->setObjectName(QStringLiteral("importPreview"));
     d->preview->setAccessibleName(tr("Preview"));
@@ -113,6 +115,7 @@ void TableImportDialog::build()
     d->preview->setEditTriggers(QAbstractItemView::NoEditTriggers);
     d->preview->setTabKeyNavigation(false);
     d->preview->setWordWrap(false);
+    d->preview->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     d->preview->verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
     splitter->addWidget(d->preview);
     d->problemPane = new QWidget;
@@ -175,7 +178,7 @@ void TableImportDialog::buildProblems(QBoxLayout *layout)
     d->problemText->setWordWrap(true);
     d->problemText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     layout->addWidget(d->problemText);
-    d->problemModel = new ImportProblemModel(&d->import, this);
+    d->problemModel = new ImportProblemModel(d->shared, this);
     d->problems = new QTableView;
     d->problems->setObjectName(QStringLiteral("importProblems"));
     d->problems->setAccessibleName(tr("Problems"));
@@ -185,6 +188,7 @@ void TableImportDialog::buildProblems(QBoxLayout *layout)
     d->problems->setTabKeyNavigation(false);
     d->problems->setWordWrap(false);
     d->problems->verticalHeader()->hide();
+    d->problems->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     d->problems->horizontalHeader()->setStretchLastSection(true);
     layout->addWidget(d->problems, 1);
     d->takeFaulty = new QCheckBox(tr("&Take rows with problems too, and mark their cells"));
@@ -279,11 +283,11 @@ void TableImportDialog::showState()
     d->takeFaulty->setVisible(faulty > 0);
     QStringList texts;
     if (fault.hasError()) {
-        const QString told = (fault.errorMessages() + fault.details()).join(QStringLiteral(" · "));
+        const QString told = (fault.errorMessages() + fault.details()).join(u' ');
         texts.append(tr("The file can't be read to its end: %1").arg(told));
     }
     if (faulty > 0)
-        texts.append(tr("%n row(s) have problems.", nullptr, faulty));
+        texts.append(tr("Rows with problems: %1.").arg(faulty));
     if (d->import.problemCount() > d->import.problems().size())
         texts.append(tr("The first %1 of %2 problems are listed.")
                          .arg(d->import.problems().size())
@@ -291,7 +295,7 @@ void TableImportDialog::showState()
     d->problemText->setText(texts.join(u' '));
     const int taken = d->import.recordCount() - (d->takeFaulty->isChecked() ? 0 : faulty);
     const bool isAnyMapped = d->import.mapping().count(-1) < d->import.mapping().size();
-    d->accept->setText(tr("Import %n Row(s)", nullptr, taken));
+    d->accept->setText(tr("Import Rows (%1)").arg(locale().toString(taken)));
     d->accept->setEnabled(taken > 0 && isAnyMapped);
 }
 

@@ -1,0 +1,32 @@
+#include "orv/widgets/CoreMainWindow.h"
+
+namespace orv {
+
+namespace {
+
+QList<CoreMainWindow *> &mainWindows()
+{
+    static QList<CoreMainWindow *> windows;
+    return windows;
+}
+
+} // namespace
+
+CoreMainWindow::CoreMainWindow(const ApplicationInfo &info, QWidget *parent)
+    : QMainWindow(parent)
+    , m_info(info)
+{
+    mainWindows().append(this);
+}
+
+CoreMainWindow::~CoreMainWindow()
+{
+    mainWindows().removeOne(this);
+}
+
+CoreMainWindow *CoreMainWindow::getMainWindow()
+{
+    return mainWindows().isEmpty() ? nullptr : mainWindows().constLast();
+}
+
+} // namespace orv
