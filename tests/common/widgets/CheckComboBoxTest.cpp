@@ -10,7 +10,7 @@
 
 namespace {
 
-QString text(const char *utf8)
+QString utf8Text(const char *utf8)
 {
     return QString::fromUtf8(utf8);
 }
@@ -19,7 +19,7 @@ QStringList texts(std::initializer_list<const char *> items)
 {
     QStringList result;
     for (const char *item : items) {
-        result << text(item);
+        result << utf8Text(item);
     }
     return result;
 }
@@ -71,7 +71,7 @@ private Q_SLOTS:
 void CheckComboBoxTest::init()
 {
     // Offscreen there is no window manager to raise a list and no keyboard to grab.
-    QTest::failOnWarning(QRegularExpression(text("^(?!This plugin does not support)")));
+    QTest::failOnWarning(QRegularExpression(utf8Text("^(?!This plugin does not support)")));
 }
 
 void CheckComboBoxTest::nothingIsCheckedAtFirst()
@@ -80,7 +80,7 @@ void CheckComboBoxTest::nothingIsCheckedAtFirst()
     QVERIFY(box.checkedItems().isEmpty());
     QCOMPARE(box.itemCheckState(0), Qt::Unchecked);
     QCOMPARE(box.itemData(0, Qt::CheckStateRole), QVariant(Qt::Unchecked));
-    QCOMPARE(box.separator(), text(", "));
+    QCOMPARE(box.separator(), utf8Text(", "));
 }
 
 void CheckComboBoxTest::checkedItemsComeInTheOrderOfTheRows()
@@ -202,7 +202,7 @@ void CheckComboBoxTest::removedRowsAreNoLongerChecked()
 void CheckComboBoxTest::ownModelIsFollowed()
 {
     QStandardItemModel model;
-    auto *const item = new QStandardItem(text("x"));
+    auto *const item = new QStandardItem(utf8Text("x"));
     item->setCheckable(true);
     model.appendRow(item);
     Box box;
@@ -219,7 +219,7 @@ void CheckComboBoxTest::checkedRowsOfAModelMayComeLater()
     Box box;
     box.setModel(&model);
     const QSignalSpy spy(&box, &QxtCheckComboBox::checkedItemsChanged);
-    auto *const item = new QStandardItem(text("x"));
+    auto *const item = new QStandardItem(utf8Text("x"));
     item->setCheckable(true);
     item->setCheckState(Qt::Checked);
     model.appendRow(item);
@@ -230,13 +230,13 @@ void CheckComboBoxTest::checkedRowsOfAModelMayComeLater()
 void CheckComboBoxTest::screenReaderHearsTheCheckedTexts()
 {
     Box box;
-    box.setDefaultText(text("nothing checked"));
+    box.setDefaultText(utf8Text("nothing checked"));
     QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(&box);
     QVERIFY(accessible);
     QCOMPARE(accessible->role(), QAccessible::ComboBox);
-    QCOMPARE(accessible->text(QAccessible::Value), text("nothing checked"));
+    QCOMPARE(accessible->text(QAccessible::Value), utf8Text("nothing checked"));
     box.setCheckedItems(texts({"a", "c"}));
-    QCOMPARE(accessible->text(QAccessible::Value), text("a, c"));
+    QCOMPARE(accessible->text(QAccessible::Value), utf8Text("a, c"));
     QCOMPARE(accessible->childCount(), 1);
     QCOMPARE(accessible->indexOfChild(accessible->child(0)), 0);
     accessible->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
@@ -251,7 +251,7 @@ void CheckComboBoxTest::typingAndWheelChangeNothing()
     Box box;
     box.setCheckedItems(texts({"a"}));
     box.hidePopup();
-    QTest::keyClicks(&box, text("b"));
+    QTest::keyClicks(&box, utf8Text("b"));
     QTest::keyClick(&box, Qt::Key_End);
     QCOMPARE(box.checkedItems(), texts({"a"}));
     QCOMPARE(box.currentIndex(), -1);
@@ -261,15 +261,15 @@ void CheckComboBoxTest::textFollowsSeparatorAndDefault()
 {
     Box box;
     const QImage empty = box.grab().toImage();
-    box.setDefaultText(text("nothing checked"));
+    box.setDefaultText(utf8Text("nothing checked"));
     const QImage withDefault = box.grab().toImage();
     QVERIFY(withDefault != empty);
     box.setCheckedItems(texts({"a", "b"}));
     const QImage checked = box.grab().toImage();
     QVERIFY(checked != withDefault);
-    box.setSeparator(text(" + "));
+    box.setSeparator(utf8Text(" + "));
     QVERIFY(box.grab().toImage() != checked);
-    QCOMPARE(box.defaultText(), text("nothing checked"));
+    QCOMPARE(box.defaultText(), utf8Text("nothing checked"));
 }
 
 WIDGET_REGISTER_TEST(CheckComboBoxTest)
