@@ -44,6 +44,7 @@ private Q_SLOTS:
     void editedRowsStayWhereTheyAre();
     void filtersKeepRowsThatHoldAllWords_data();
     void filtersKeepRowsThatHoldAllWords();
+    void wordsDontReachOverCells();
     void aShorterFilterBringsRowsBack();
     void filterAndOrderGoTogether();
     void onlyRowsWithProblemsCanBeShown();
@@ -192,6 +193,20 @@ void TestTableModel::filtersKeepRowsThatHoldAllWords()
     p.model.setLocale(QLocale(locale));
     p.model.setFilter({text});
     QCOMPARE(names(p.model), found.split(u' '));
+}
+
+void TestTableModel::wordsDontReachOverCells()
+{
+    Peptides p;
+    p.model.setFilter({u"a5"_s});
+    QCOMPARE(p.model.rowCount(), 0);
+    ORV_VERIFY_OK(p.sheet.setText(1, 0, u"xA5ng\u00C4"));
+    p.model.setFilter({u"a5"_s});
+    QCOMPARE(names(p.model), QStringList(u"xA5ng\u00C4"_s));
+    p.model.setFilter({u"\u00E4"_s});
+    QCOMPARE(p.model.rowCount(), 1);
+    p.model.setFilter({u"gamma 99"_s});
+    QCOMPARE(names(p.model), row("gamma"));
 }
 
 void TestTableModel::aShorterFilterBringsRowsBack()

@@ -33,17 +33,25 @@ public:
     [[nodiscard]] bool matches(quint32 rowId) const;
 
 private:
+    struct Column
+    {
+        int index = 0;
+        bool isNumeric = false;
+    };
+
     struct Word
     {
-        QString text;
+        QString text;      ///< without regard to case
         QString inNumbers; ///< as it stands in the kept form of numbers
     };
 
     [[nodiscard]] bool hasWord(quint32 rowId, const Word &word) const;
+    [[nodiscard]] bool hasWordInACell(quint32 rowId, const QString &word, qsizetype first,
+                                      qsizetype end) const;
 
     const TableSheet &m_sheet;
     QList<Word> m_words;
-    QList<int> m_columns;
+    QList<Column> m_columns;
     bool m_isOnlyProblems;
 };
 
