@@ -11,7 +11,6 @@
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 #include <QTableWidget>
-#include <QUndoStack>
 
 #include <functional>
 
@@ -123,9 +122,14 @@ void addFilter()
         for (const QString &key : keys)
             model->setFilter({key, false});
     });
-    add("filter, first key/baseline", [plain, proxy] { proxy->setFilterFixedString(QStringLiteral("421")); },
+    add(
+        "filter, first key/baseline", [plain, proxy] { proxy->setFilterFixedString(QStringLiteral("421")); },
         [proxy] { proxy->setFilterFixedString(QString()); });
-    add("filter, first key/TableModel", [sheet, model] { model->setFilter({QStringLiteral("421"), false}); },
+    add(
+        "filter, first key/TableModel",
+        [sheet, model] {
+            model->setFilter({QStringLiteral("421"), false});
+        },
         [model] { model->setFilter({}); });
 }
 

@@ -5,8 +5,6 @@
 #include <orv/table_model/TableImport.h>
 #include <orv/table_model/TableModel.h>
 
-#include <QUndoStack>
-
 using namespace orv;
 using namespace Qt::StringLiterals;
 

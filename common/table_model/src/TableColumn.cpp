@@ -1,6 +1,5 @@
 #include "orv/table_model/TableColumn.h"
 
-#include <QColor>
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -62,6 +61,16 @@ QString sequenceProblem(QStringView kept)
                                     .arg(*odd);
 }
 
+/// "#rrggbb", or with eight digits and the opacity first. Qt Gui knows more forms, and takes long to load.
+bool isColor(QStringView kept)
+{
+    const auto isHexDigit = [](QChar c) {
+        return (c >= u'0' && c <= u'9') || (c.toLower() >= u'a' && c.toLower() <= u'f');
+    };
+    return (kept.size() == 7 || kept.size() == 9) && kept[0] == u'#' &&
+           std::all_of(kept.cbegin() + 1, kept.cend(), isHexDigit);
+}
+
 QString kindProblem(const TableColumn &column, QStringView kept)
 {
     switch (column.kind) {
@@ -75,9 +84,7 @@ QString kindProblem(const TableColumn &column, QStringView kept)
     case TableColumnKind::Sequence:
         return sequenceProblem(kept);
     case TableColumnKind::Color:
-        return QColor::isValidColor(kept.toString())
-                   ? QString()
-                   : TableColumnTr::tr("Is no colour; write it as #rrggbb or by its name.");
+        return isColor(kept) ? QString() : TableColumnTr::tr("Is no colour; write it as #rrggbb.");
     case TableColumnKind::Text:
     case TableColumnKind::File:
         break;

@@ -5,7 +5,6 @@
 #include "internal/TableProblems.h"
 
 #include <QCoreApplication>
-#include <QUndoStack>
 
 #include <algorithm>
 #include <numeric>
@@ -59,7 +58,7 @@ public:
         : q(sheet)
         , columns(std::move(columnsOfSheet))
         , store(int(columns.size()))
-        , history(new QUndoStack(sheet))
+        , history(new TableHistory(sheet))
     {}
 
     void push(QList<TableStep> steps, const QString &name);
@@ -77,13 +76,14 @@ public:
     TableStore store;
     TableOrder order;
     TableProblems problems;
-    QUndoStack *history;
+    TableHistory *history;
     int lookedUpTo = 0;
 };
 
 void TableSheet::Private::push(QList<TableStep> steps, const QString &name)
 {
-    history->push(new TableEdit([this](const TableStep &step) { take(step); }, std::move(steps), name));
+    history->push(
+        std::make_unique<TableEdit>([this](const TableStep &step) { take(step); }, std::move(steps), name));
 }
 
 void TableSheet::Private::take(const TableStep &step)
@@ -243,7 +243,7 @@ QStringView TableSheet::textOf(quint32 id, int column) const
     return d->store.text(id, column);
 }
 
-QUndoStack *TableSheet::history() const
+TableHistory *TableSheet::history() const
 {
     return d->history;
 }

@@ -2,8 +2,6 @@
 
 #include <orv/table_model/TableModel.h>
 
-#include <QUndoStack>
-
 /// A small table of peptides as the tests use it.
 namespace TableFixture {
 

@@ -67,8 +67,7 @@ void TestTableColumn::problemsSayWhatIsAllowed_data()
     QTest::newRow("odd letter") << K::Sequence << u"PEP?IDE"_s
                                 << u"Position 4 holds \"?\", which no sequence has."_s;
     QTest::newRow("colour") << K::Color << u"#ff8800"_s << QString();
-    QTest::newRow("no colour") << K::Color << u"reddish"_s
-                               << u"Is no colour; write it as #rrggbb or by its name."_s;
+    QTest::newRow("no colour") << K::Color << u"reddish"_s << u"Is no colour; write it as #rrggbb."_s;
 }
 
 void TestTableColumn::problemsSayWhatIsAllowed()

@@ -34,18 +34,18 @@ TableStep inverse(const TableStep &step)
 }
 
 TableEdit::TableEdit(Take take, QList<TableStep> steps, const QString &text)
-    : QUndoCommand(text)
-    , m_take(std::move(take))
+    : m_take(std::move(take))
     , m_steps(std::move(steps))
+    , m_text(text)
 {}
 
-void TableEdit::undo()
+void TableEdit::undo() const
 {
     for (auto step = m_steps.crbegin(); step != m_steps.crend(); ++step)
         m_take(inverse(*step));
 }
 
-void TableEdit::redo()
+void TableEdit::redo() const
 {
     for (const TableStep &step : m_steps)
         m_take(step);

@@ -3,7 +3,7 @@
 #include "TableStore.h"
 
 #include <QList>
-#include <QUndoCommand>
+#include <QString>
 
 #include <functional>
 #include <variant>
@@ -38,7 +38,7 @@ using TableStep = std::variant<QList<TableCellChange>, TableRowsChange, TableOrd
 [[nodiscard]] TableStep inverse(const TableStep &step);
 
 /// One entry of a table's history.
-class TableEdit : public QUndoCommand
+class TableEdit
 {
 public:
     /// \a take does a step; whoever owns the history outlives this.
@@ -46,12 +46,14 @@ public:
 
     TableEdit(Take take, QList<TableStep> steps, const QString &text);
 
-    void undo() override;
-    void redo() override;
+    [[nodiscard]] const QString &text() const { return m_text; }
+    void undo() const;
+    void redo() const;
 
 private:
     Take m_take;
     QList<TableStep> m_steps;
+    QString m_text;
 };
 
 } // namespace orv

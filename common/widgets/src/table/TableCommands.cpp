@@ -7,7 +7,6 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QSet>
-#include <QUndoStack>
 
 #include <algorithm>
 
@@ -70,8 +69,8 @@ TableCommands::TableCommands(TableView *view)
     , m_view(view)
 {
     addActions();
-    QUndoStack *const history = view->sheet()->history();
-    connect(history, &QUndoStack::indexChanged, this, &TableCommands::update);
+    TableHistory *const history = view->sheet()->history();
+    connect(history, &TableHistory::indexChanged, this, &TableCommands::update);
     connect(view->tableModel(), &QAbstractItemModel::layoutChanged, this, &TableCommands::update);
     connect(view->tableModel(), &QAbstractItemModel::modelReset, this, &TableCommands::update);
     update();
@@ -106,7 +105,7 @@ void TableCommands::fillMenu(QMenu *menu) const
 
 void TableCommands::update()
 {
-    const QUndoStack *const history = m_view->sheet()->history();
+    const TableHistory *const history = m_view->sheet()->history();
     const bool hasSelection = m_view->selectionModel() && m_view->selectionModel()->hasSelection();
     const auto setText = [](QAction *action, const QString &verb, const QString &what) {
         action->setText(what.isEmpty() ? verb : tr("%1: %2").arg(verb, what));
@@ -191,7 +190,7 @@ void TableCommands::travel(bool isUndo)
     connect(model, &QAbstractItemModel::rowsInserted, &context, [&](const QModelIndex &, int first) {
         remember(first, std::max(0, m_view->currentIndex().column()));
     });
-    QUndoStack *const history = m_view->sheet()->history();
+    TableHistory *const history = m_view->sheet()->history();
     const QString what = isUndo ? history->undoText() : history->redoText();
     isUndo ? history->undo() : history->redo();
     if (touched.isValid())

@@ -21,7 +21,7 @@ enum class TableColumnKind
     Choice,   ///< one of the column's choices
     File,     ///< a path or another reference to a file
     Sequence, ///< of amino acids or nucleotides, shown in a fixed-width font
-    Color,    ///< "#rrggbb" or a colour's name
+    Color,    ///< "#rrggbb", or "#aarrggbb" with its opacity
 };
 
 /// A column of a table: what it holds, what it is called and what may stand in it. A plain value.

@@ -3,14 +3,13 @@
 #include <orv/core/Export.h>
 #include <orv/core/Result.h>
 #include <orv/table_model/TableColumn.h>
+#include <orv/table_model/TableHistory.h>
 
 #include <QList>
 #include <QObject>
 #include <QStringList>
 
 #include <memory>
-
-QT_FORWARD_DECLARE_CLASS(QUndoStack)
 
 namespace orv {
 
@@ -54,7 +53,7 @@ public:
     [[nodiscard]] QStringView textOf(quint32 id, int column) const;
 
     /// Undo and redo. Its steps name what was done.
-    [[nodiscard]] QUndoStack *history() const;
+    [[nodiscard]] TableHistory *history() const;
 
     /// Replaces everything, and forgets the history. Rows may be ragged: what they lack is empty, and what
     /// they have too much is left out. InvalidContent for more text than a table holds; the old rows stay.

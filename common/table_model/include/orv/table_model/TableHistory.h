@@ -1,0 +1,52 @@
+#pragma once
+
+#include <orv/core/Export.h>
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+namespace orv {
+
+class TableEdit;
+
+/// The steps of a table, back and forth. Qt's own history lies in Qt Gui, which takes longer to load than all
+/// else that a program without a screen needs. GUI thread, or the one of the sheet.
+class ORV_WORKFLOW_EXPORT TableHistory : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit TableHistory(QObject *parent = nullptr);
+    ~TableHistory() override;
+
+    [[nodiscard]] int count() const { return int(m_edits.size()); }
+    /// How many of them are done; undo takes the last of these back.
+    [[nodiscard]] int index() const { return m_index; }
+    [[nodiscard]] bool canUndo() const { return m_index > 0; }
+    [[nodiscard]] bool canRedo() const { return m_index < count(); }
+    /// What the step was called, empty for none.
+    [[nodiscard]] QString undoText() const;
+    [[nodiscard]] QString redoText() const;
+
+    /// Nothing happens where there is no step.
+    void undo();
+    void redo();
+    void clear();
+
+    /// Does the step and forgets those that were undone.
+    void push(std::unique_ptr<TableEdit> edit);
+
+Q_SIGNALS:
+    void indexChanged();
+
+private:
+    void moveTo(int index);
+
+    std::vector<std::unique_ptr<TableEdit>> m_edits;
+    int m_index = 0;
+};
+
+} // namespace orv
