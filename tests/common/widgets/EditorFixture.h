@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
-#include <QUndoStack>
 
 /// A table of samples as a person has it on the screen.
 namespace EditorFixture {

@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QUuid>
 
 using namespace orv;
 using EditorFixture::Editor;
@@ -49,6 +50,7 @@ private Q_SLOTS:
     void movingWaitsForTheOwnOrder();
     void columnsSortByAClick();
     void columnsHideAndComeBack();
+    void layoutsAreRememberedByKind();
     void rowsAreFiltered();
     void problemsAreCountedAndVisited();
     void wordsAreFoundAndReplaced();
@@ -323,6 +325,29 @@ void TableEditorTest::columnsHideAndComeBack()
     QCOMPARE(e.sheet.texts(0).mid(0, 3), text("x 500.25 9").split(u' '));
     e.view()->action(TableView::Command::ShowAllColumns)->trigger();
     QCOMPARE(e.view()->shownColumns().size(), 7);
+}
+
+void TableEditorTest::layoutsAreRememberedByKind()
+{
+    const QString kind = QUuid::createUuid().toString(QUuid::Id128); // settings outlive a run
+    {
+        Editor e;
+        e.editor.setKind(kind);
+        e.view()->setColumnWidth(1, 222);
+        e.view()->setColumnShown(2, false);
+        e.view()->horizontalHeader()->moveSection(0, 1);
+        e.view()->sortByColumn(1, Qt::AscendingOrder);
+    }
+    Editor again;
+    again.editor.setKind(kind);
+    QCOMPARE(again.view()->columnWidth(1), 222);
+    QCOMPARE(again.view()->shownColumns(), QList<int>({1, 0, 3, 4, 5, 6}));
+    QVERIFY(again.view()->tableModel()->isInSheetOrder());
+    QVERIFY(!again.sheet.load(EditorFixture::rows()).hasError());
+    QCOMPARE(again.view()->columnWidth(1), 222);
+    Editor other;
+    other.editor.setKind(text("another"));
+    QCOMPARE(other.view()->shownColumns().size(), 7);
 }
 
 void TableEditorTest::rowsAreFiltered()

@@ -3,6 +3,7 @@
 #include "FindBar.h"
 
 #include <orv/core/FileUtils.h>
+#include <orv/core/Settings.h>
 #include <orv/table_model/TableExport.h>
 #include <orv/widgets/MeaningColors.h>
 #include <orv/widgets/ORVFileDialog.h>
@@ -11,6 +12,7 @@
 
 #include <QAccessible>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -32,6 +34,14 @@ FileExtensionsNameFilter textTables()
     return {FileTypes::CSV, FileTypes::TXT};
 }
 
+QString namesOfColumns(const TableSheet &sheet)
+{
+    QStringList names;
+    for (const TableColumn &column : sheet.columns())
+        names.append(column.name);
+    return names.join(u' ');
+}
+
 } // namespace
 
 class TableEditor::Private
@@ -45,6 +55,7 @@ public:
     QLabel *message = nullptr;
     QLabel *counts = nullptr;
     QTimer *counting = nullptr;
+    QString settingsKey; ///< empty while nothing is remembered
 };
 
 TableEditor::TableEditor(TableSheet *sheet, QWidget *parent)
@@ -74,6 +85,7 @@ TableEditor::~TableEditor()
     // A cell that is being edited is taken while the view goes, when nothing here may be asked any more.
     d->sheet->disconnect(this);
     d->view->disconnect(this);
+    keepLayout();
 }
 
 void TableEditor::build()
@@ -131,6 +143,35 @@ void TableEditor::setTitle(const QString &title)
 {
     d->view->setAccessibleName(title);
     setAccessibleName(title);
+}
+
+void TableEditor::setKind(const QString &kind)
+{
+    d->settingsKey = QStringLiteral("Tables/%1/Columns").arg(kind);
+    restoreLayout();
+}
+
+/// The state of a header fits the columns that it was taken of, so their names stand in front.
+void TableEditor::keepLayout()
+{
+    if (d->settingsKey.isEmpty())
+        return;
+    const QByteArray state = d->view->horizontalHeader()->saveState().toBase64();
+    as::setValue(d->settingsKey, QStringList({namesOfColumns(*d->sheet), QString::fromLatin1(state)}));
+}
+
+void TableEditor::restoreLayout()
+{
+    const QStringList kept = as::value(d->settingsKey, QStringList()).toStringList();
+    if (kept.size() != 2 || kept[0] != namesOfColumns(*d->sheet))
+        return;
+    QHeaderView *const header = d->view->horizontalHeader();
+    header->restoreState(QByteArray::fromBase64(kept[1].toLatin1()));
+    header->setSortIndicator(-1, Qt::AscendingOrder);
+    for (int column = 0; column < d->sheet->columnCount(); ++column)
+        d->view->setColumnShown(column, !d->view->isColumnHidden(column));
+    // What somebody has set isn't fitted anew when rows are loaded.
+    disconnect(d->sheet, &TableSheet::loaded, d->view, &TableView::fitColumns);
 }
 
 void TableEditor::applyFilter()

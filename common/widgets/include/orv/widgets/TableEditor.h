@@ -32,6 +32,9 @@ public:
     /// What the table holds, for screen readers.
     void setTitle(const QString &title);
 
+    /// Tables of one \a kind remember widths, order and hidden columns from one run to the next.
+    void setKind(const QString &kind);
+
     /// Shows the import of a file; what can't be read is told in a box.
     void importFile(const QString &path);
     /// Writes the shown rows: with commas where the name ends with ".csv", else with tabulators.
@@ -45,6 +48,8 @@ private:
     void say(const QString &text);
     void showCounts();
     void countOn();
+    void keepLayout();
+    void restoreLayout();
 
     class Private;
     const std::unique_ptr<Private> d;
