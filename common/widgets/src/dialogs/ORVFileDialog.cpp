@@ -48,7 +48,7 @@ QString pathFromPerson(QWidget *parent, const FileQuestion &question,
     prepare(*dialog, question);
     setUp(*dialog);
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
-    const QString path = dialog && isAccepted ? dialog->selectedFiles().value(0) : QString();
+    QString path = dialog && isAccepted ? dialog->selectedFiles().value(0) : QString();
     delete dialog;
     return path;
 }

@@ -49,7 +49,7 @@ QString chooseColor(QWidget *parent, const QString &now)
     const QPointer<QColorDialog> dialog = new QColorDialog(QColor(now), parent);
     dialog->setWindowTitle(CellEditorsTr::tr("Choose a Colour"));
     const bool isAccepted = DialogService::exec(*dialog);
-    const QString chosen = dialog && isAccepted ? dialog->currentColor().name() : QString();
+    QString chosen = dialog && isAccepted ? dialog->currentColor().name() : QString();
     delete dialog;
     return chosen;
 }
