@@ -108,7 +108,9 @@ FileType typeOfPath(const QString &path)
     return row == kRows.end() ? Invalid : row->type;
 }
 
-QStringList msDataSuffixes()
+namespace {
+
+const QStringList &knownMsDataSuffixes()
 {
     static const QStringList suffixes =
         QStringLiteral("d raw wiff wiff2 lcd mbi mzml mzxml mgf tolq ulvar2 csv2d data.cut msfaux msfaux2")
@@ -116,9 +118,16 @@ QStringList msDataSuffixes()
     return suffixes;
 }
 
+} // namespace
+
+QStringList msDataSuffixes()
+{
+    return knownMsDataSuffixes();
+}
+
 bool hasMsDataSuffix(const QString &path)
 {
-    const QStringList suffixes = msDataSuffixes();
+    const QStringList &suffixes = knownMsDataSuffixes();
     return std::any_of(suffixes.begin(), suffixes.end(),
                        [&path](const QString &suffix) { return PathUtils::hasExtension(path, suffix); });
 }

@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QHash>
 
 #include <algorithm>
 
@@ -68,6 +69,13 @@ QString keyOf(const SchemeText::Row &row, Parts parts)
     return QChar::Null + withWord(row, row.write(parts));
 }
 
+/// With one seed for the whole run, whatever is done to that of Qt.
+size_t hashOf(const QString &key)
+{
+    static const size_t seed = QHashSeed::globalSeed();
+    return qHash(key, seed);
+}
+
 } // namespace
 
 ResourceReference::ResourceReference(Scheme scheme, QString text, Parts parts, QString key)
@@ -75,6 +83,7 @@ ResourceReference::ResourceReference(Scheme scheme, QString text, Parts parts, Q
     , m_text(std::move(text))
     , m_parts(std::move(parts))
     , m_key(std::move(key))
+    , m_keyHash(hashOf(m_key))
 {}
 
 Result<ResourceReferenceSPtr> ResourceReference::fromString(const QString &text)

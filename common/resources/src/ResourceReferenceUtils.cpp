@@ -66,9 +66,9 @@ QList<ResourceReferenceSPtr> fromStringList(const QStringList &texts)
 
 bool compare(const ResourceReferenceSPtr &a, const ResourceReferenceSPtr &b)
 {
-    if (!a || !b)
-        return !a && !b;
-    return a->key() == b->key();
+    if (!a || !b || a == b)
+        return a == b;
+    return a->keyHash() == b->keyHash() && a->key() == b->key();
 }
 
 bool contains(const QList<ResourceReferenceSPtr> &references, const ResourceReferenceSPtr &reference)

@@ -38,7 +38,9 @@ void SampleFiles::lookAhead(const QList<ResourceReferenceSPtr> &references)
     if (!ResourceManager::isBuiltIn(ResourceReference::Scheme::LocalFile))
         return; // a host's handler is asked on this thread alone
     QList<ResourceReferenceSPtr> unknown;
+    unknown.reserve(references.size());
     QSet<ResourceReferenceKey> seen;
+    seen.reserve(references.size());
     for (const ResourceReferenceSPtr &reference : references) {
         if (!reference || !reference->isScheme(ResourceReference::Scheme::LocalFile) ||
             m_exists.contains(reference) || seen.contains(reference))

@@ -14,6 +14,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <optional>
 
 namespace orv::PropertyEditor {
 
@@ -42,8 +43,9 @@ DocumentsOfType &documentsOfType(QList<DocumentsOfType> *groups, BaseItemType ty
 class ChosenSamples
 {
 public:
+    /// \a samples must outlive the object.
     explicit ChosenSamples(const Samples &samples)
-        : m_names(namesOf(samples))
+        : m_samples(samples)
     {}
 
     bool areThere(const KeyValueItem &document)
@@ -53,21 +55,25 @@ public:
         if (known != m_known.cend())
             return *known;
         const QStringList patterns = splitSamples(text);
-        return *m_known.insert(text, patterns.isEmpty() || m_names.hasMatch(patterns));
+        return *m_known.insert(text, patterns.isEmpty() || names().hasMatch(patterns));
     }
 
 private:
-    static SampleNames namesOf(const Samples &samples)
+    const SampleNames &names()
     {
-        QStringList names;
-        names.reserve(samples.size());
-        for (const SamplesInput::Entry &sample : samples)
-            names.append(sample.name);
-        return SampleNames(names);
+        if (!m_names) {
+            QStringList names;
+            names.reserve(m_samples.size());
+            for (const SamplesInput::Entry &sample : m_samples)
+                names.append(sample.name);
+            m_names.emplace(names);
+        }
+        return *m_names;
     }
 
-    const SampleNames m_names;
-    QHash<QString, bool> m_known; ///< by the text that chooses
+    const Samples &m_samples;
+    std::optional<SampleNames> m_names; ///< most documents take all samples, and need no names
+    QHash<QString, bool> m_known;       ///< by the text that chooses
 };
 
 bool isProjectToCompareWith(const SamplesInput::Entry &sample)

@@ -66,8 +66,9 @@ bool hasBackslashSeparators(const QString &path)
 QString withSlashes(const QString &path)
 {
     const QString plain = FilePathUtils::withoutWinLongPathPrefix(path);
-    return hasBackslashSeparators(plain) ? QString(plain).replace(QLatin1Char('\\'), QLatin1Char('/'))
-                                         : plain;
+    const QLatin1Char backslash('\\');
+    const bool separates = plain.contains(backslash) && hasBackslashSeparators(plain);
+    return separates ? QString(plain).replace(backslash, QLatin1Char('/')) : plain;
 }
 
 QString lastName(const QString &path)

@@ -79,6 +79,8 @@ public:
     /// trailing separators don't count, nor case in paths with a drive letter or a server's share. Links are
     /// not followed. Fit for hashing.
     [[nodiscard]] const QString &key() const { return m_key; }
+    /// A hash of the key, another one in each run of a program.
+    [[nodiscard]] size_t keyHash() const { return m_keyHash; }
 
 private:
     ResourceReference(Scheme scheme, QString text, Parts parts, QString key);
@@ -87,6 +89,7 @@ private:
     const QString m_text;
     const Parts m_parts;
     const QString m_key;
+    const size_t m_keyHash;
 };
 
 } // namespace orv

@@ -24,7 +24,7 @@ public:
     }
     friend size_t qHash(const ResourceReferenceKey &key, size_t seed = 0)
     {
-        return key.m_reference ? qHash(key.m_reference->key(), seed) : seed;
+        return key.m_reference ? qHash(key.m_reference->keyHash(), seed) : seed;
     }
 
 private:
