@@ -81,37 +81,87 @@ QJsonObject writeFileMetadata(const QHash<QString, QJsonObject> &metadata, const
     return json;
 }
 
-Result<Entry> readEntry(const QJsonObject &json, QStringList *unreadable)
+/// What an entry is read from.
+struct EntryMembers
+{
+    int id = 0;
+    QString name;
+    QString path;
+    QStringList traces;
+    QStringList extraReferences;
+    bool isReference = false;
+    QString timeUnit;
+    QString digestion;
+    QString sampleType;
+    QJsonObject metadata;
+    QJsonObject fileMetadata;
+};
+
+Result<EntryMembers> readMembers(const QJsonObject &json)
 {
     MemberReader reader(json);
-    Entry entry;
-    entry.stored = json;
-    entry.id = reader.integer(kId, 0);
-    entry.name = reader.text(kName);
-    entry.msFile = referencesOf({reader.text(pathKey(reader))}, unreadable).value(0);
-    entry.traces = referencesOf(textsOf(&reader, kTraces, kOldTraces), unreadable);
-    entry.extraReferences = referencesOf(textsOf(&reader, kExtraReferences, kOldExtraReferences), unreadable);
-    entry.isReference = reader.flag(kReference, false);
-    entry.timeUnit = reader.text(kTimeUnit);
-    entry.digestion = reader.text(kDigestion);
-    entry.sampleType = reader.text(kSampleType);
+    EntryMembers members;
+    members.id = reader.integer(kId, 0);
+    members.name = reader.text(kName);
+    members.path = reader.text(pathKey(reader));
+    members.traces = textsOf(&reader, kTraces, kOldTraces);
+    members.extraReferences = textsOf(&reader, kExtraReferences, kOldExtraReferences);
+    members.isReference = reader.flag(kReference, false);
+    members.timeUnit = reader.text(kTimeUnit);
+    members.digestion = reader.text(kDigestion);
+    members.sampleType = reader.text(kSampleType);
     // Trees of rows have a text here, which says nothing that is asked of it.
-    entry.metadata = json.value(kMetadata).toObject();
-    entry.fileMetadata = readFileMetadata(reader.object(kFileMetadata));
+    members.metadata = json.value(kMetadata).toObject();
+    members.fileMetadata = reader.object(kFileMetadata);
     ORV_RETURN_IF_ERROR(reader.error());
+    return members;
+}
+
+Entry entryOf(const EntryMembers &members, QStringList *unreadable)
+{
+    Entry entry;
+    entry.id = members.id;
+    entry.name = members.name;
+    entry.msFile = referencesOf({members.path}, unreadable).value(0);
+    entry.traces = referencesOf(members.traces, unreadable);
+    entry.extraReferences = referencesOf(members.extraReferences, unreadable);
+    entry.isReference = members.isReference;
+    entry.timeUnit = members.timeUnit;
+    entry.digestion = members.digestion;
+    entry.sampleType = members.sampleType;
+    entry.metadata = members.metadata;
+    entry.fileMetadata = readFileMetadata(members.fileMetadata);
     return entry;
+}
+
+/// Whether \a texts are those of the references that \a stored is read as. The text of a reference is read as
+/// itself, so that none has to be made where the texts are the same.
+bool areTextsOf(const QStringList &texts, const QStringList &stored)
+{
+    QStringList unreadable;
+    return texts == stored ||
+           texts == ResourceReferenceUtils::toStringList(referencesOf(stored, &unreadable));
 }
 
 template<typename OldKeys>
 void storeReferences(QJsonObject *json, QLatin1String key, const OldKeys &oldKeys,
-                     const QList<ResourceReferenceSPtr> &now, const QList<ResourceReferenceSPtr> &before)
+                     const QList<ResourceReferenceSPtr> &now, const QStringList &stored)
 {
     const QStringList texts = ResourceReferenceUtils::toStringList(now);
-    if (texts == ResourceReferenceUtils::toStringList(before))
+    if (areTextsOf(texts, stored))
         return;
     for (QLatin1String old : oldKeys)
         json->remove(old);
     json->insert(key, QJsonArray::fromStringList(texts));
+}
+
+void storePath(QJsonObject *json, QLatin1String key, const ResourceReferenceSPtr &now, const QString &stored)
+{
+    const QString path = ResourceReferenceUtils::toString(now);
+    QStringList unreadable;
+    if (path != stored &&
+        path != ResourceReferenceUtils::toString(referencesOf({stored}, &unreadable).value(0)))
+        json->insert(key, path);
 }
 
 } // namespace
@@ -119,29 +169,28 @@ void storeReferences(QJsonObject *json, QLatin1String key, const OldKeys &oldKey
 Result<Entry> Entry::fromJson(const QJsonObject &json)
 {
     QStringList unreadable;
-    Result<Entry> entry = readEntry(json, &unreadable);
-    if (entry.hasError())
-        return entry.ecatch();
+    Result<EntryMembers> members = readMembers(json);
+    if (members.hasError())
+        return members.ecatch();
+    Entry entry = entryOf(*members, &unreadable);
+    entry.stored = json;
     for (const QString &text : std::as_const(unreadable)) {
         qCWarning(genericLog()).noquote()
             << SamplesInputTr::tr("The sample \"%1\" refers to \"%2\", which is no reference to a file.")
-                   .arg(entry->name, text);
+                   .arg(entry.name, text);
     }
     return entry;
 }
 
 QJsonObject Entry::toJson() const
 {
-    QStringList unreadable;
-    const Entry before = readEntry(stored, &unreadable).valueOr({});
+    const EntryMembers before = readMembers(stored).valueOr({});
     QJsonObject json = stored;
     if (id != before.id || !json.contains(kId))
         json.insert(kId, id);
     if (name != before.name || !json.contains(kName))
         json.insert(kName, name);
-    const QString path = ResourceReferenceUtils::toString(msFile);
-    storeChange(&json, pathKey(MemberReader(stored)), path, ResourceReferenceUtils::toString(before.msFile),
-                path);
+    storePath(&json, pathKey(MemberReader(stored)), msFile, before.path);
     storeReferences(&json, kTraces, kOldTraces, traces, before.traces);
     storeReferences(&json, kExtraReferences, kOldExtraReferences, extraReferences, before.extraReferences);
     storeChange(&json, kReference, isReference, before.isReference, isReference);
@@ -149,7 +198,7 @@ QJsonObject Entry::toJson() const
     storeChange(&json, kDigestion, digestion, before.digestion, digestion);
     storeChange(&json, kSampleType, sampleType, before.sampleType, sampleType);
     storeChange(&json, kMetadata, metadata, before.metadata, metadata);
-    storeChange(&json, kFileMetadata, fileMetadata, before.fileMetadata,
+    storeChange(&json, kFileMetadata, fileMetadata, readFileMetadata(before.fileMetadata),
                 writeFileMetadata(fileMetadata, stored.value(kFileMetadata).toObject()));
     return json;
 }
