@@ -1,5 +1,6 @@
 #include "Upgrade.h"
 
+#include <orv/core/JsonNumbers.h>
 #include <orv/propertyeditor/PropertiesGetter.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/workflow/WflwUpgrader.h>
@@ -63,6 +64,8 @@ UpgradeAnswer upgradeWorkflow(const BatchInput &input, const UpgradeOptions &opt
     answer.original = read->bytes;
     if (!answer.isChanged)
         answer.upgraded = read->bytes;
+    else
+        answer.lost += lossesOfNumbers(read->bytes);
     if (answer.error)
         answer.failure = failureOf(answer, read->document);
     return answer;

@@ -8,6 +8,7 @@
 #include "../ReferredFiles.h"
 #include "Command.h"
 
+#include <orv/core/JsonNumbers.h>
 #include <orv/core/LossObserver.h>
 #include <orv/propertyeditor/content/CellStamps.h>
 #include <orv/propertyeditor/content/Content.h>
@@ -75,17 +76,19 @@ public:
 private:
     [[nodiscard]] Conversion convert() const
     {
-        const Outcome<QJsonObject> document = readDocument(m_file);
-        if (document.hasFailed())
-            return {{}, document.failure()};
-        if (const Outcome<void> allowed = refuseToDropNewer(*document); allowed.hasFailed())
+        const Outcome<FileText> text = readText(m_file);
+        if (text.hasFailed())
+            return {{}, text.failure()};
+        const QJsonObject &document = text->document;
+        if (const Outcome<void> allowed = refuseToDropNewer(document); allowed.hasFailed())
             return {{}, allowed.failure()};
-        if (const Outcome<void> allowed = refuseReferred(*document, m_file, {m_output}); allowed.hasFailed())
+        if (const Outcome<void> allowed = refuseReferred(document, m_file, {m_output}); allowed.hasFailed())
             return {{}, allowed.failure()};
 
         Content content;
         QList<Loss> lost;
-        const Error error = load(*document, content, lost);
+        const Error error = load(document, content, lost);
+        lost += lossesOfNumbers(text->bytes);
         if (error.hasError())
             return {lost, failureFrom(error, BadInput)};
         if (const PropertyEditor::ItemGroup *tab = content.firstUnevenGroup())
@@ -94,7 +97,7 @@ private:
             return {lost, allowed.failure()};
         if (const Error unwritable = content.checkWritable())
             return {lost, failureFrom(unwritable, Negative)};
-        return {lost, write(*document, content).failureIfAny()};
+        return {lost, write(document, content).failureIfAny()};
     }
 
     Error load(const QJsonObject &json, Content &content, QList<Loss> &lost) const

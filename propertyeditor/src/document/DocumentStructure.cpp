@@ -125,6 +125,10 @@ void reportMetadata(const LoadContext &context, const QJsonObject &document)
     if (!isAbsent && !QJsonDocument::fromJson(metadata.toString().toUtf8()).isObject())
         context.lost(META_IN_JSON_KEY, DocumentStructureTr::tr("the metadata of the document"),
                      DocumentStructureTr::tr("they are not the JSON text of an object"));
+    const QJsonValue mode = document.value(PROJECT_CREATION_MODE_KEY);
+    if (!mode.isUndefined() && mode.toInt(-1) != mode.toInt(0))
+        context.lost(PROJECT_CREATION_MODE_KEY, DocumentStructureTr::tr("the mode of the document"),
+                     DocumentStructureTr::tr("it is no whole number"));
     const QJsonValue extended = document.value(EXTENDED_METADATA_IN_JSON_KEY);
     if (!extended.isUndefined() && !extended.isObject())
         context.lost(EXTENDED_METADATA_IN_JSON_KEY,
