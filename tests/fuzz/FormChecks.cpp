@@ -149,10 +149,12 @@ QString checkObjectFormWith(const QJsonObject &document, PropertyEditor::Validat
 QString checkJson(const QByteArray &bytes)
 {
     if (const std::optional<JsonFault> fault = findJsonFault(bytes)) {
-        const QByteArrayView begins = fault->kind == JsonFault::Kind::IllegalEscape  ? "\\"
-                                      : fault->kind == JsonFault::Kind::DuplicateKey ? "\""
-                                                                                     : "-.0123456789";
-        if (fault->offset < 0 || fault->offset >= bytes.size() || !begins.contains(bytes[fault->offset]))
+        // What is no JSON at all has no numbers: any text may surround its points.
+        const QByteArrayView begin = fault->kind == JsonFault::Kind::IllegalEscape  ? "\\"
+                                     : fault->kind == JsonFault::Kind::DuplicateKey ? "\""
+                                                                                    : "";
+        if (fault->offset < 0 || fault->offset >= bytes.size() ||
+            !QByteArrayView(bytes).sliced(fault->offset).startsWith(begin))
             return u"a fault doesn't begin where it is said to"_s;
     }
     const Result<QJsonDocument> document = JsonUtils::documentFromJson(bytes);
