@@ -92,7 +92,9 @@ void reportEntry(const LoadContext &context, const QJsonObject &entry, PropertyI
 
 bool isKept(PropertyId id, const TableContent &content)
 {
-    return id == content.table || content.furtherTables.contains(id) || content.objects.contains(id) ||
+    // A cell without a table of its own doesn't keep what nobody knows.
+    const bool isTable = id == content.table && id != PropertyId::NoProperty;
+    return isTable || content.furtherTables.contains(id) || content.objects.contains(id) ||
            content.anyForm.contains(id);
 }
 

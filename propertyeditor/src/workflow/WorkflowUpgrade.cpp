@@ -1,5 +1,7 @@
 #include "orv/propertyeditor/workflow/WorkflowUpgrade.h"
 
+#include "OldSampleLosses.h"
+
 #include <orv/propertyeditor/content/CellStamps.h>
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/DocumentStructure.h>
@@ -33,6 +35,16 @@ QList<Loss> lossesOfLoad(const QJsonObject &document, const PropertyEditorConten
         content.assignFromJson(valueForm.document(), PropertyEditor::ValidationOption::SkipTypeValidation);
     content.setLossObserver(nullptr);
     Q_UNUSED(error)
+    return collector.losses();
+}
+
+/// What the step that makes samples of rows doesn't read.
+QList<Loss> lossesOfRows(const QJsonObject &document, const QVersionNumber &version)
+{
+    const QVersionNumber firstWithoutRows(5, 6, 0);
+    LossCollector collector;
+    if (version < firstWithoutRows)
+        reportOldSampleLosses(document, &collector);
     return collector.losses();
 }
 
@@ -97,7 +109,7 @@ WorkflowUpgradeReport run(const QJsonObject &document, const WorkflowUpgradeOpti
         WflwMetaData::isNewerThanCurrent(report.from))
         return report;
     report.malformed = DocumentStructure::check(document);
-    const QList<Loss> lost = lossesOfLoad(document, content);
+    const QList<Loss> lost = lossesOfLoad(document, content) + lossesOfRows(document, report.from);
     report.error = takeSteps(content, options, &report);
     if (report.isChanged)
         report.lost = lost;
