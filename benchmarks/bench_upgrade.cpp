@@ -99,6 +99,10 @@ void add(const std::string &group, const QByteArray &bytes)
 {
     const auto document = std::make_shared<PropertyEditorContent>(bytes);
     benchmark::RegisterBenchmark((group + "/baseline").c_str(), [bytes](benchmark::State &state) {
+        for ([[maybe_unused]] auto iteration : state)
+            benchmark::DoNotOptimize(QJsonDocument::fromJson(bytes).toJson());
+    })->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark((group + "/load and write").c_str(), [bytes](benchmark::State &state) {
         for ([[maybe_unused]] auto iteration : state) {
             Content content;
             if (content.assignFromJson(QJsonDocument::fromJson(bytes).object(),

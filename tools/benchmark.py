@@ -19,6 +19,7 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PAGE = ROOT / "docs/performance.md"
 TOLERANCE = 1.5
+SPECIAL = re.compile(r"[][.^$*+?(){}|\\]")
 FIGURE = re.compile(r"^(.+?)\s+[\d.]+\s+([\d.]+)$")
 
 
@@ -36,7 +37,7 @@ def rows_of(sections, short):
 def run(program, figures, short):
     """The figures that the program prints, by name."""
     # The baseline of each figure is the one of its group.
-    groups = sorted({re.escape(name.rsplit("/", 1)[0]) for name in figures if "/" in name})
+    groups = sorted({SPECIAL.sub(r"\\\g<0>", name.rsplit("/", 1)[0]) for name in figures if "/" in name})
     command = [program]
     if groups:
         command.append(f"--benchmark_filter=^({'|'.join(groups)})/")
