@@ -12,8 +12,8 @@ namespace {
 constexpr std::array<char16_t, 128> foldedAscii()
 {
     std::array<char16_t, 128> table = {};
-    for (char16_t c = 0; c < table.size(); ++c)
-        table[c] = c >= u'A' && c <= u'Z' ? char16_t(c + (u'a' - u'A')) : c;
+    for (std::size_t c = 0; c < table.size(); ++c)
+        table[c] = char16_t(c >= u'A' && c <= u'Z' ? c + (u'a' - u'A') : c);
     return table;
 }
 
@@ -61,8 +61,8 @@ QString foldedText(QString text)
 
 } // namespace
 
-TableRowMatcher::TableRowMatcher(const TableSheet &sheet, const TableFilter &filter, QList<int> columns,
-                                 NumberText::DecimalSign sign)
+TableRowMatcher::TableRowMatcher(const TableSheet &sheet, const TableFilter &filter,
+                                 const QList<int> &columns, NumberText::DecimalSign sign)
     : m_sheet(sheet)
     , m_isOnlyProblems(filter.isOnlyProblems)
 {

@@ -54,8 +54,7 @@ const PropertyIdSet &propertiesWithPaths()
 
 void KeyValueItem::keepUnread(const QJsonObject &json, const QString &stamp)
 {
-    m_source.emplace();
-    m_source->cell = json;
+    m_source = Source{json, false, {}, -1};
     m_source->cell.insert(META_IN_JSON_KEY, stamp);
 }
 

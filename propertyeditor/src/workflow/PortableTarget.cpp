@@ -159,7 +159,7 @@ std::error_code putInPlace(const std::filesystem::path &staged, const std::files
 
 } // namespace
 
-PortableTarget::PortableTarget(QString folder)
+PortableTarget::PortableTarget(const QString &folder)
     : m_folder(QDir::cleanPath(folder))
 {}
 

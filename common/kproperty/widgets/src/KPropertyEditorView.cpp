@@ -319,8 +319,8 @@ void KPropertyEditorView::dataChanged(const QModelIndex &topLeft, const QModelIn
     }
     scheduleDelayedItemsLayout();
     // The tree's own would lay out every row at once.
-    QAbstractItemView::dataChanged(topLeft, bottomRight,
-                                   roles); // NOLINT(bugprone-parent-virtual-call): meant
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): meant
+    QAbstractItemView::dataChanged(topLeft, bottomRight, roles);
 }
 
 void KPropertyEditorView::slotPropertyChanged(KPropertySet &, KProperty &property)

@@ -41,8 +41,8 @@ TableEdit::TableEdit(Take take, QList<TableStep> steps, const QString &text)
 
 void TableEdit::undo() const
 {
-    for (auto step = m_steps.crbegin(); step != m_steps.crend(); ++step)
-        m_take(inverse(*step));
+    for (qsizetype i = m_steps.size(); i > 0; --i)
+        m_take(inverse(m_steps.at(i - 1)));
 }
 
 void TableEdit::redo() const

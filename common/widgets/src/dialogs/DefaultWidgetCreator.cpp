@@ -64,9 +64,9 @@ std::unique_ptr<IFileAccessor> fileAccessor(FileAccessorType type)
     return accessor ? std::move(accessor) : std::make_unique<LocalFileAccessor>();
 }
 
-void setFileAccessorCreator(FileAccessorType type, FileAccessorCreator create)
+void setFileAccessorCreator(FileAccessorType type, const FileAccessorCreator &create)
 {
-    accessorCreators().insert(type, std::move(create));
+    accessorCreators().insert(type, create);
 }
 
 } // namespace orv::DefaultWidgetCreator

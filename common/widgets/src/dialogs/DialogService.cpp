@@ -32,7 +32,7 @@ DialogAnswerer *install(DialogAnswerer *answerer)
 std::optional<DialogAnswer> answerWithoutPerson(const DialogRequest &request)
 {
     if (installed()) {
-        if (const std::optional<DialogAnswer> answer = installed()->answer(request))
+        if (std::optional<DialogAnswer> answer = installed()->answer(request))
             return answer;
     } else if (hasScreen()) {
         return std::nullopt;

@@ -81,7 +81,7 @@ QString ProgressOutput::detailText(qint64 elapsedMs) const
 {
     if (m_count == 0)
         return {};
-    const QString count = tr("%1 of %2").arg(locale().toString(m_done), locale().toString(m_count));
+    QString count = tr("%1 of %2").arg(locale().toString(m_done), locale().toString(m_count));
     if (m_done == 0 || m_done >= m_count)
         return count;
     const qint64 leftMs = elapsedMs * (m_count - m_done) / m_done;

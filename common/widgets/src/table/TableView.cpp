@@ -170,7 +170,7 @@ void TableView::keyPressEvent(QKeyEvent *event)
     if (isEnter && currentIndex().isValid() && state() != EditingState) {
         stepFrom(currentIndex(), event->modifiers().testFlag(Qt::ShiftModifier) ? -1 : 1, 0);
     } else if (isTab && event->modifiers().testFlag(Qt::ControlModifier)) {
-        QAbstractScrollArea::focusNextPrevChild(event->key() == Qt::Key_Tab);
+        leave(event->key() == Qt::Key_Tab);
     } else {
         QTableView::keyPressEvent(event);
     }
@@ -184,8 +184,14 @@ bool TableView::focusNextPrevChild(bool next)
         !current.isValid() || shown.isEmpty() ||
         (next ? current.row() == d->model->rowCount() - 1 && current.column() == shown.constLast()
               : current.row() == 0 && current.column() == shown.constFirst());
-    // Not the item view's: it would begin anew at the first cell, and never let go.
-    return isAtEdge ? QAbstractScrollArea::focusNextPrevChild(next) : QTableView::focusNextPrevChild(next);
+    return isAtEdge ? leave(next) : QTableView::focusNextPrevChild(next);
+}
+
+bool TableView::leave(bool next)
+{
+    // The item view's own would begin anew at the first cell, and never let go.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): meant
+    return QAbstractScrollArea::focusNextPrevChild(next);
 }
 
 void TableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)

@@ -27,7 +27,7 @@ struct TableFilter
 class ORV_WORKFLOW_EXPORT TableRowMatcher
 {
 public:
-    TableRowMatcher(const TableSheet &sheet, const TableFilter &filter, QList<int> columns,
+    TableRowMatcher(const TableSheet &sheet, const TableFilter &filter, const QList<int> &columns,
                     NumberText::DecimalSign sign);
 
     [[nodiscard]] bool matches(quint32 rowId) const;

@@ -17,6 +17,7 @@ using FileAccessorCreator = std::function<std::unique_ptr<IFileAccessor>()>;
 fileAccessor(FileAccessorType type = FileAccessorType::Local);
 
 /// Makes fileAccessor() use \a create for \a type; an empty function brings the own one back.
-ORV_PROPERTY_EDITOR_EXPORT void setFileAccessorCreator(FileAccessorType type, FileAccessorCreator create);
+ORV_PROPERTY_EDITOR_EXPORT void setFileAccessorCreator(FileAccessorType type,
+                                                       const FileAccessorCreator &create);
 
 } // namespace orv::DefaultWidgetCreator

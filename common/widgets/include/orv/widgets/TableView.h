@@ -89,6 +89,8 @@ private:
     void setUpHeaders();
     void showHeaderMenu(QPoint position);
     void stepFrom(const QModelIndex &from, int rows, int columns);
+    /// Moves the focus out of the table.
+    bool leave(bool next);
 
     class Private;
     const std::unique_ptr<Private> d;

@@ -148,9 +148,9 @@ private:
     {
         QJsonObject cell; ///< with the stamp of its load
         /// Whether a save writes the cell as it stands; it has no properties but these then, each once.
-        bool isStoredForm = false;
+        bool isStoredForm;
         PropertyIdSet ids;
-        qsizetype lastRead = -1; ///< position of the entry that was asked for last
+        qsizetype lastRead; ///< position of the entry that was asked for last; -1 before
     };
     /// Absent once the properties may be others.
     mutable std::optional<Source> m_source;

@@ -25,7 +25,7 @@ class ORV_WORKFLOW_EXPORT PortableTarget
 {
 public:
     /// \a folder is where the portable folder is to be in the end.
-    explicit PortableTarget(QString folder);
+    explicit PortableTarget(const QString &folder);
     /// Removes what wasn't brought into its place.
     ~PortableTarget();
     Q_DISABLE_COPY_MOVE(PortableTarget)
