@@ -35,6 +35,8 @@ private Q_SLOTS:
     void whatIsInStoredFormIsWrittenAsItStands();
     void questionsAreAnsweredAsByTheProperties();
     void pathsAreMadeAbsoluteAsByTheProperties();
+    void aBaseOutlastsALoad_data();
+    void aBaseOutlastsALoad();
     void editsAreWritten_data();
     void editsAreWritten();
     void whoeverTakesThePropertiesMayChangeThem();
@@ -319,6 +321,26 @@ void TestStoredForm::pathsAreMadeAbsoluteAsByTheProperties()
     const QJsonArray entries = absolute.value(u"properties"_s).toArray();
     QVERIFY(QJsonDocument(entries.at(2).toObject()).toJson().contains("/lab/study/lists/n.txt"));
     QCOMPARE(withoutStamp(unread->toJson(PropertyConversionFlag::KeepPaths)), withoutStamp(storedCell()));
+}
+
+void TestStoredForm::aBaseOutlastsALoad_data()
+{
+    QTest::addColumn<QJsonObject>("cell");
+    QTest::newRow("as a save writes it") << storedCell();
+    QJsonObject other = storedCell();
+    other.insert(u"zoom"_s, u"2"_s);
+    QTest::newRow("with another member") << other;
+}
+
+void TestStoredForm::aBaseOutlastsALoad()
+{
+    QFETCH(QJsonObject, cell);
+    KeyValueItem item(BaseItemType::Karvon);
+    item.setBaseUrl(QUrl::fromLocalFile(u"/lab/study/"_s));
+    ORV_VERIFY_OK(item.assignFromJson(cell, {}));
+    const QJsonArray entries =
+        item.toJson(PropertyConversionFlag::AbsolutePaths).value(u"properties"_s).toArray();
+    QCOMPARE(entries.at(1).toObject().value(u"value"_s), QJsonValue(u"/lab/study/data/a.ini"_s));
 }
 
 void TestStoredForm::editsAreWritten_data()

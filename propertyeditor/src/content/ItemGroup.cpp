@@ -148,7 +148,10 @@ Error ItemGroup::assignCopy(const ItemGroup &other, PropertyConversionFlag flag)
     for (const auto &each : other.d->subGroups) {
         auto subGroup = std::make_unique<ItemSubGroup>();
         ORV_RETURN_IF_ERROR(subGroup->assignCopy(*each, flag));
-        if (!adoptNewSubGroup(std::move(subGroup), each->type()))
+        // As when the document is read from its file.
+        const BaseItemType type =
+            each->isEmpty() ? BaseItemType::Unknown : each->item(each->count() - 1)->type();
+        if (!adoptNewSubGroup(std::move(subGroup), type))
             return removedWhileLoading();
     }
     Q_EMIT reset();

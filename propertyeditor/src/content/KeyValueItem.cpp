@@ -124,6 +124,8 @@ Error KeyValueItem::load(const QJsonObject &json, ValidationOptions options, con
         keepUnread(json, m_set->propertyValue(META_KEY.data()).toString());
         m_set.reset();
     }
+    if (m_set && !m_baseUrl.isEmpty())
+        applyBaseUrl();
     return Error::NoError;
 }
 

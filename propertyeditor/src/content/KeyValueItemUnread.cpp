@@ -7,6 +7,7 @@
 #include <orv/propertyeditor/content/KeyValueItem.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
 
 #include <QJsonArray>
 
@@ -155,6 +156,9 @@ Result<std::unique_ptr<BaseItem>> KeyValueItem::copied(PropertyConversionFlag fl
     auto copy = std::make_unique<KeyValueItem>(type());
     Source source = *m_source;
     source.cell = toJson(flag);
+    // As a load does it, which other copies go through.
+    const QByteArray stamp = source.cell.value(META_IN_JSON_KEY).toString().toUtf8();
+    source.cell.insert(META_IN_JSON_KEY, QString::fromUtf8(WflwMetaData::restamped(stamp)));
     ORV_RETURN_IF_ERROR(copy->BaseItem::assignFromJson(source.cell, ValidationOption::SkipTypeValidation));
     copy->m_source = std::move(source);
     return std::unique_ptr<BaseItem>(std::move(copy));

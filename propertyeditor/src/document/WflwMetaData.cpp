@@ -30,8 +30,8 @@ int saturatedSegment(const QString &digits)
     return fits ? number : std::numeric_limits<int>::max();
 }
 
-/// Numbers with dots between them; nothing for any other text.
-std::optional<QVersionNumber> exactVersionOf(const QString &text)
+/// The numbers of a text that is numbers with dots between them; none for any other text.
+QList<int> exactSegmentsOf(const QString &text)
 {
     static const QRegularExpression form(QStringLiteral(R"(\A[0-9]+(\.[0-9]+)*\z)"));
     if (!form.match(text).hasMatch())
@@ -39,7 +39,7 @@ std::optional<QVersionNumber> exactVersionOf(const QString &text)
     QList<int> segments;
     for (const QString &digits : text.split(QLatin1Char('.')))
         segments.append(saturatedSegment(digits));
-    return QVersionNumber(segments);
+    return segments;
 }
 
 /// As it stands; of a number all its digits, of anything that holds no version its JSON.
@@ -209,8 +209,9 @@ Result<QVersionNumber> WflwMetaData::exactVersion(const QJsonObject &object)
     const QString text = versionText(version);
     // As a number 5.4 may have been 5.40.
     const bool isFraction = version.isDouble() && text.contains(QLatin1Char('.'));
-    if (const std::optional<QVersionNumber> exact = exactVersionOf(text); exact && !isFraction)
-        return *exact;
+    const QList<int> segments = exactSegmentsOf(text);
+    if (!segments.isEmpty() && !isFraction)
+        return QVersionNumber(segments);
     return Error(ErrorCode::InvalidContent, tr("The document's version \"%1\" is no version.").arg(text))
         .addDetail(tr("It stands as \"%1\" in the text \"%2\".").arg(VERSION_KEY, META_IN_JSON_KEY))
         .addDetail(tr("A version is numbers with dots between them, such as %1; write there which one the "

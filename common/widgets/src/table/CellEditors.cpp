@@ -131,6 +131,14 @@ void CellLineEdit::paintEvent(QPaintEvent *event)
     MeaningColors::paintErrorSign(painter, QStyle::visualRect(layoutDirection(), rect(), room), color);
 }
 
+void CellLineEdit::takeChosen(const std::function<QString(QWidget *parent, const QString &now)> &choose)
+{
+    const QPointer<CellLineEdit> guard(this);
+    const QString chosen = choose(window(), text());
+    if (guard && !chosen.isEmpty())
+        setText(chosen);
+}
+
 void CellLineEdit::addChooser(const QString &text,
                               std::function<QString(QWidget *parent, const QString &now)> choose)
 {
@@ -147,12 +155,7 @@ void CellLineEdit::addChooser(const QString &text,
     action->setShortcutContext(Qt::WidgetShortcut);
     addAction(action);
     connect(button, &QToolButton::clicked, action, &QAction::trigger);
-    connect(action, &QAction::triggered, this, [this, choose = std::move(choose)] {
-        const QPointer<CellLineEdit> guard(this);
-        const QString chosen = choose(window(), this->text());
-        if (guard && !chosen.isEmpty())
-            setText(chosen);
-    });
+    connect(action, &QAction::triggered, this, [this, choose = std::move(choose)] { takeChosen(choose); });
     check();
     const auto place = [this, button] {
         const QRect room(width() - m_chooserWidth, 0, m_chooserWidth, height());

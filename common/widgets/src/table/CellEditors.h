@@ -32,6 +32,7 @@ protected:
 private:
     void check();
     void tell();
+    void takeChosen(const std::function<QString(QWidget *parent, const QString &now)> &choose);
     [[nodiscard]] int signWidth() const;
 
     TableColumn m_column;
