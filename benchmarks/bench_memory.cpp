@@ -114,7 +114,9 @@ int main(int argc, char *argv[])
     const bool isForAMoment = Lifelike::isForAMoment();
     std::printf("%-52s %10s %8s\n", "peak memory", "kB", "ratio");
     for (const Document &document : {Document{"settings", 10, isForAMoment ? kSmall : 4500},
-                                     Document{"samples", isForAMoment ? kSmall : 150000, 4}}) {
+                                     Document{"samples", isForAMoment ? kSmall : 150000, 4},
+                                     Document{"6 MB of settings", 10, isForAMoment ? kSmall : 450},
+                                     Document{"6 MB of samples", isForAMoment ? kSmall : 15000, 4}}) {
         const QTemporaryDir folder;
         QFile file(folder.filePath(QStringLiteral("large.wflw")));
         const QByteArray bytes = Lifelike::document(document.samples, document.steps);

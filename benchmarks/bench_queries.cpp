@@ -1,4 +1,5 @@
-// What is asked of a whole document, on 1,000 samples and on 10,000: linear questions take ten times as long.
+// What is asked of a whole document, on 1,000, 10,000 and 100,000 samples: linear questions take ten times as long
+// each time.
 // And a document of 20,000 proteins against the bare parse.
 
 #include "LifelikeDocument.h"
@@ -89,6 +90,7 @@ int main(int argc, char *argv[])
     QLoggingCategory::setFilterRules(QStringLiteral("orv.*.debug=false"));
     addQueries(1'000, "baseline");
     addQueries(10'000, "10,000 samples");
+    addQueries(Lifelike::sized(100'000), "100,000 samples");
 
     const QByteArray proteins = Lifelike::proteins(20'000);
     add("load 20,000 proteins/baseline", [=] { keep(QJsonDocument::fromJson(proteins)); });

@@ -30,13 +30,13 @@ std::unique_ptr<PathsValidatorBase> createPathsValidator(PropertyEditorContent::
 void checkNameOfRow(CheckRun &run, const SamplesTableItem *table, const SamplesInput::Entry &sample,
                     qsizetype row)
 {
-    const FindingPlace place = PathRules::placeOf(table, sample, row);
     if (sample.name.isEmpty()) {
-        run.error(QObject::tr("The sample name at row #%1 is empty").arg(row + 1), place,
-                  QObject::tr("Give the sample a name."));
+        run.error(QObject::tr("The sample name at row #%1 is empty").arg(row + 1),
+                  PathRules::placeOf(table, sample, row), QObject::tr("Give the sample a name."));
     }
     if (sample.name.contains(QLatin1Char('"'))) {
-        run.error(QObject::tr("The sample at row #%1 contains illegal character: \"").arg(row + 1), place,
+        run.error(QObject::tr("The sample at row #%1 contains illegal character: \"").arg(row + 1),
+                  PathRules::placeOf(table, sample, row),
                   QObject::tr("Take the quotation mark out of the sample's name."));
     }
 }
@@ -50,11 +50,12 @@ void checkNames(CheckRun &run, const SamplesTableItem *table, const QList<Sample
     for (qsizetype i = 0; i < samples.size(); ++i) {
         const SamplesInput::Entry &sample = samples.at(i);
         checkNameOfRow(run, table, sample, i);
-        if (seen.contains(sample.name)) {
+        const qsizetype seenBefore = seen.size();
+        seen.insert(sample.name);
+        if (seen.size() == seenBefore) {
             repeated.append(sample.name);
             firstRepeated = firstRepeated.value_or(i);
         }
-        seen.insert(sample.name);
     }
     if (repeated.isEmpty())
         return;
@@ -101,9 +102,8 @@ void checkTable(CheckRun &run, const SamplesTableItem *table, const QSet<BaseIte
         checkNames(run, table, samples);
         paths->checkSamplesPaths(run, samples, itemTypes);
         for (qsizetype row = 0; row < samples.size(); ++row) {
-            const FindingPlace place = PathRules::placeOf(table, samples.at(row), row);
             for (const ResourceReferenceSPtr &reference : samples.at(row).extraReferences)
-                paths->checkReference(run, reference, place);
+                paths->checkReference(run, reference, PathRules::placeOf(table, samples.at(row), row));
         }
     }
     if (itemTypes.contains(BaseItemType::Intact) || itemTypes.contains(BaseItemType::Dravik))

@@ -43,10 +43,12 @@ void SampleFiles::lookAhead(const QList<ResourceReferenceSPtr> &references)
     seen.reserve(references.size());
     for (const ResourceReferenceSPtr &reference : references) {
         if (!reference || !reference->isScheme(ResourceReference::Scheme::LocalFile) ||
-            m_exists.contains(reference) || seen.contains(reference))
+            m_exists.contains(reference))
             continue;
+        const qsizetype seenBefore = seen.size();
         seen.insert(reference);
-        unknown.append(reference);
+        if (seen.size() > seenBefore)
+            unknown.append(reference);
     }
     if (unknown.size() < kWorthThreads)
         return;
