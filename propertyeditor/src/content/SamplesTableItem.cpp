@@ -40,6 +40,19 @@ QJsonObject SamplesTableItem::toJson(PropertyConversionFlag flag) const
     return cellWithValue(flag, resolves ? content().resolved(baseUrl()).toJson() : m_samples.toJson());
 }
 
+Result<std::unique_ptr<BaseItem>> SamplesTableItem::copied(PropertyConversionFlag flag) const
+{
+    // What was read once can be read again; only samples that somebody set have to prove it.
+    if (!m_samples.isAsRead())
+        return BaseItem::copied(flag);
+    const bool resolves = flag == PropertyConversionFlag::AbsolutePaths && baseUrl().isValid();
+    auto copy = std::make_unique<SamplesTableItem>();
+    ORV_RETURN_IF_ERROR(copy->load(cellWithValue(flag, SamplesAndTracesContent().toJson()),
+                                   ValidationOption::SkipTypeValidation, {}));
+    copy->m_samples = resolves ? StoredSamples(content().resolved(baseUrl())) : m_samples;
+    return Result<std::unique_ptr<BaseItem>>(std::move(copy));
+}
+
 Error SamplesTableItem::load(const QJsonObject &json, ValidationOptions options, const LoadContext &context)
 {
     m_samples = {};

@@ -28,6 +28,8 @@ public:
     [[nodiscard]] const SamplesAndTracesContent &content() const;
     /// The content, of which this object keeps nothing: it can be changed without being copied.
     [[nodiscard]] SamplesAndTracesContent take();
+    /// Whether it is what was read, unchanged.
+    [[nodiscard]] bool isAsRead() const { return m_json.has_value(); }
     /// What content().toJson() answers.
     [[nodiscard]] QJsonObject toJson() const;
 

@@ -44,6 +44,7 @@ public:
 
     /// With absolute paths, relative files of the samples get them.
     QJsonObject toJson(orv::PropertyEditor::PropertyConversionFlag flag) const override;
+    [[nodiscard]] Result<std::unique_ptr<BaseItem>> copied(PropertyConversionFlag flag) const override;
     /// MalformedStructure if the cell lacks its "properties" or its samples, and the error of a sample that
     /// can't be read.
     Error load(const QJsonObject &json, ValidationOptions options, const LoadContext &context) override;
