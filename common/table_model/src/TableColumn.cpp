@@ -1,5 +1,7 @@
 #include "orv/table_model/TableColumn.h"
 
+#include <orv/table_model/SequenceText.h>
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -102,14 +104,6 @@ QString keptChoice(const QStringList &choices, QStringView typed)
     return typed.toString();
 }
 
-QString keptSequence(QStringView typed)
-{
-    QString kept = typed.toString();
-    kept.removeIf([](QChar c) { return c.isSpace(); });
-    // Modifications stand in brackets and in mixed case.
-    return kept.contains(u'(') || kept.contains(u'[') ? kept : kept.toUpper();
-}
-
 } // namespace
 
 QString TableColumn::header() const
@@ -131,7 +125,7 @@ QString TableColumn::kept(QStringView typed, NumberText::DecimalSign sign) const
     case TableColumnKind::Choice:
         return keptChoice(choices, typed);
     case TableColumnKind::Sequence:
-        return keptSequence(typed);
+        return SequenceText::plain(typed);
     case TableColumnKind::File:
     case TableColumnKind::Color:
         return typed.trimmed().toString();

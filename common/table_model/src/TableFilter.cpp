@@ -64,6 +64,7 @@ QString foldedText(QString text)
 TableRowMatcher::TableRowMatcher(const TableSheet &sheet, const TableFilter &filter,
                                  const QList<int> &columns, NumberText::DecimalSign sign)
     : m_sheet(sheet)
+    , m_indexes(columns)
     , m_isOnlyProblems(filter.isOnlyProblems)
 {
     for (const int column : columns)
@@ -78,12 +79,9 @@ TableRowMatcher::TableRowMatcher(const TableSheet &sheet, const TableFilter &fil
 
 bool TableRowMatcher::matches(quint32 rowId) const
 {
-    const auto hasProblem = [&](const Column &column) {
-        return !m_sheet.columns()[column.index].problem(m_sheet.textOf(rowId, column.index)).isEmpty();
-    };
     return std::all_of(m_words.cbegin(), m_words.cend(),
                        [&](const Word &word) { return hasWord(rowId, word); }) &&
-           (!m_isOnlyProblems || std::any_of(m_columns.cbegin(), m_columns.cend(), hasProblem));
+           (!m_isOnlyProblems || m_sheet.hasProblem(rowId, m_indexes));
 }
 
 /// Cells that were loaded together lie together: most rows are one stretch, which is looked through at once

@@ -1,7 +1,9 @@
 #include "orv/table_model/TableModel.h"
 
-#include "internal/TableOrder.h"
+#include "internal/TableModelPrivate.h"
 #include "internal/TableSort.h"
+
+#include <orv/table_model/SequenceText.h>
 
 #include <QCoreApplication>
 
@@ -23,195 +25,7 @@ QVariant alignmentOf(const TableColumn &column)
     return QVariant::fromValue((column.isNumeric() ? ofNumbers : Qt::AlignLeft) | Qt::AlignVCenter);
 }
 
-/// Up to here rows come and go one run at a time, so that views keep what they know; more are quicker anew.
-constexpr qsizetype kMaxRuns = 64;
-
-QList<int> places(const RowRun &run)
-{
-    QList<int> rows;
-    for (int row = run.first; row <= run.last; ++row)
-        rows.append(row);
-    return rows;
-}
-
 } // namespace
-
-class TableModel::Private
-{
-public:
-    Private(TableModel *model, TableSheet *ofModel)
-        : q(model)
-        , sheet(ofModel)
-    {}
-
-    void follow();
-    void reload();
-    void insert(const QList<int> &rowsOfSheet);
-    void remove(const QList<quint32> &ids);
-    void tellChanged(const QList<quint32> &ids, int firstColumn, int lastColumn);
-    void reorder();
-
-    [[nodiscard]] QList<quint32> filtered(const QList<quint32> &ids) const;
-    void show(QList<quint32> ids);
-    void permute(TableOrder next);
-    void removeRun(const RowRun &run);
-    void insertRun(const RowRun &run, const TableOrder &next);
-
-    TableModel *q;
-    TableSheet *sheet;
-    QLocale locale;
-    NumberText::DecimalSign sign = NumberText::signOf(QLocale());
-    TableOrder shown;
-    QList<quint32> sorted; ///< all rows, while sortColumn isn't -1
-    int sortColumn = -1;
-    TableFilter filter;
-    QList<int> hiddenColumns;
-    bool isNarrowingAllowed = false; ///< what isn't shown can't match a longer text
-};
-
-void TableModel::Private::follow()
-{
-    QObject::connect(sheet, &TableSheet::loaded, q, [this] { reload(); });
-    QObject::connect(sheet, &TableSheet::rowsInserted, q, [this](const QList<int> &rows) { insert(rows); });
-    QObject::connect(sheet, &TableSheet::rowsRemoved, q, [this](const QList<quint32> &ids) { remove(ids); });
-    QObject::connect(sheet, &TableSheet::rowsReordered, q, [this] { reorder(); });
-    QObject::connect(
-        sheet, &TableSheet::cellsChanged, q,
-        [this](const QList<quint32> &ids, int first, int last) { tellChanged(ids, first, last); });
-}
-
-void TableModel::Private::reload()
-{
-    q->beginResetModel();
-    sortColumn = -1;
-    sorted.clear();
-    isNarrowingAllowed = false;
-    shown.assign(filtered(sheet->rowIds()));
-    q->endResetModel();
-}
-
-void TableModel::Private::insert(const QList<int> &rowsOfSheet)
-{
-    isNarrowingAllowed = false;
-    QList<quint32> next = shown.ids();
-    if (sortColumn < 0) {
-        next.clear();
-        auto inserted = rowsOfSheet.cbegin();
-        for (int row = 0; row < sheet->rowCount(); ++row) {
-            const bool isNew = inserted != rowsOfSheet.cend() && *inserted == row;
-            if (isNew)
-                ++inserted;
-            if (isNew || shown.placeOf(sheet->rowId(row)) >= 0)
-                next.append(sheet->rowId(row));
-        }
-    } else {
-        for (const int row : rowsOfSheet) {
-            sorted.append(sheet->rowId(row));
-            next.append(sheet->rowId(row));
-        }
-    }
-    show(std::move(next));
-}
-
-void TableModel::Private::remove(const QList<quint32> &ids)
-{
-    const auto isGone = [this](quint32 id) { return sheet->rowOf(id) < 0; };
-    sorted.removeIf(isGone);
-    QList<quint32> next = shown.ids();
-    if (!ids.isEmpty())
-        next.removeIf(isGone);
-    show(std::move(next));
-}
-
-void TableModel::Private::tellChanged(const QList<quint32> &ids, int firstColumn, int lastColumn)
-{
-    isNarrowingAllowed = false;
-    int first = shown.size();
-    int last = -1;
-    for (const quint32 id : ids) {
-        if (const int row = shown.placeOf(id); row >= 0) {
-            first = std::min(first, row);
-            last = std::max(last, row);
-        }
-    }
-    if (last >= 0)
-        Q_EMIT q->dataChanged(q->index(first, firstColumn), q->index(last, lastColumn));
-}
-
-void TableModel::Private::reorder()
-{
-    if (sortColumn < 0) {
-        QList<quint32> next;
-        std::copy_if(sheet->rowIds().cbegin(), sheet->rowIds().cend(), std::back_inserter(next),
-                     [this](quint32 id) { return shown.placeOf(id) >= 0; });
-        show(std::move(next));
-    }
-    if (shown.size() > 0)
-        Q_EMIT q->headerDataChanged(Qt::Vertical, 0, shown.size() - 1);
-}
-
-QList<quint32> TableModel::Private::filtered(const QList<quint32> &ids) const
-{
-    if (filter.isEmpty())
-        return ids;
-    QList<int> columns;
-    for (int column = 0; column < sheet->columnCount(); ++column) {
-        if (!hiddenColumns.contains(column))
-            columns.append(column);
-    }
-    const TableRowMatcher matcher(*sheet, filter, columns, sign);
-    QList<quint32> result;
-    std::copy_if(ids.cbegin(), ids.cend(), std::back_inserter(result),
-                 [&](quint32 id) { return matcher.matches(id); });
-    return result;
-}
-
-void TableModel::Private::show(QList<quint32> ids)
-{
-    if (ids == shown.ids())
-        return;
-    TableOrder next;
-    next.assign(std::move(ids));
-    const QList<RowRun> going = runsMissingIn(next, shown);
-    const QList<RowRun> coming = runsMissingIn(shown, next);
-    if (going.isEmpty() && coming.isEmpty()) {
-        permute(std::move(next));
-    } else if (going.size() + coming.size() > kMaxRuns || !hasCommonRowsInOneOrder(shown, next)) {
-        q->beginResetModel();
-        shown = std::move(next);
-        q->endResetModel();
-    } else {
-        std::for_each(going.crbegin(), going.crend(), [this](const RowRun &run) { removeRun(run); });
-        for (const RowRun &run : coming)
-            insertRun(run, next);
-    }
-}
-
-void TableModel::Private::permute(TableOrder next)
-{
-    Q_EMIT q->layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
-    const QModelIndexList before = q->persistentIndexList();
-    QModelIndexList after;
-    for (const QModelIndex &index : before)
-        after.append(q->index(next.placeOf(shown.at(index.row())), index.column()));
-    shown = std::move(next);
-    q->changePersistentIndexList(before, after);
-    Q_EMIT q->layoutChanged({}, QAbstractItemModel::VerticalSortHint);
-}
-
-void TableModel::Private::removeRun(const RowRun &run)
-{
-    q->beginRemoveRows({}, run.first, run.last);
-    shown.remove(places(run));
-    q->endRemoveRows();
-}
-
-void TableModel::Private::insertRun(const RowRun &run, const TableOrder &next)
-{
-    q->beginInsertRows({}, run.first, run.last);
-    shown.insert(places(run), next.ids().sliced(run.first, run.last - run.first + 1));
-    q->endInsertRows();
-}
 
 TableModel::TableModel(TableSheet *sheet, QObject *parent)
     : QAbstractTableModel(parent)
@@ -272,11 +86,9 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
         return int(column.kind);
     case ProblemRole:
     case Qt::AccessibleDescriptionRole:
-        return column.problem(kept);
-    case Qt::ToolTipRole: {
-        const QString problem = column.problem(kept);
-        return problem.isEmpty() ? column.shown(kept, d->sign) : problem;
-    }
+        return d->sheet->problemOf(d->shown.at(index.row()), index.column());
+    case Qt::ToolTipRole:
+        return d->toolTip(index);
     case Qt::TextAlignmentRole:
         return alignmentOf(column);
     default:
@@ -355,11 +167,17 @@ QModelIndex TableModel::nextProblem(const QModelIndex &from, const QList<int> &c
     const qint64 start = from.isValid()
                              ? from.row() * width + std::max<qint64>(columns.indexOf(from.column()), 0)
                              : (step > 0 ? -1 : 0);
-    for (qint64 i = 1; i <= cells; ++i) {
+    for (qint64 i = 1; i <= cells;) {
         const qint64 at = (start + (step > 0 ? i : cells - i) + cells) % cells;
-        const QModelIndex cell = index(int(at / width), columns[at % width]);
-        if (!cell.data(ProblemRole).toString().isEmpty())
+        const auto row = int(at / width);
+        const QModelIndex cell = index(row, columns[at % width]);
+        if (!d->sheet->problemOf(rowId(row), cell.column()).isEmpty())
             return cell;
+        // Most rows are in order, and rules look at a row as a whole.
+        const bool isRowDone = i == 1 || (step > 0 ? at % width == 0 : at % width == width - 1);
+        i += isRowDone && !d->sheet->hasProblem(rowId(row), columns)
+                 ? (step > 0 ? width - at % width : at % width + 1)
+                 : 1;
     }
     return {};
 }

@@ -1,8 +1,6 @@
 #include "orv/table_model/TableSheet.h"
 
-#include "internal/TableEdit.h"
-#include "internal/TableOrder.h"
-#include "internal/TableProblems.h"
+#include "internal/TableSheetPrivate.h"
 
 #include <QCoreApplication>
 
@@ -51,122 +49,6 @@ Error tooMuchText()
 
 } // namespace
 
-class TableSheet::Private
-{
-public:
-    Private(TableSheet *sheet, QList<TableColumn> columnsOfSheet)
-        : q(sheet)
-        , columns(std::move(columnsOfSheet))
-        , store(int(columns.size()))
-        , history(new TableHistory(sheet))
-    {}
-
-    void push(QList<TableStep> steps, const QString &name);
-    void take(const TableStep &step);
-    void takeCells(const QList<TableCellChange> &cells);
-    void takeRows(const TableRowsChange &rows);
-
-    quint32 addRow(const QStringList &texts);
-    quint32 addDefaultRow();
-    [[nodiscard]] std::vector<TableSlot> keepAll(const QList<TableCellText> &cells);
-    [[nodiscard]] int problemsOfRow(quint32 id) const;
-
-    TableSheet *q;
-    QList<TableColumn> columns;
-    TableStore store;
-    TableOrder order;
-    TableProblems problems;
-    TableHistory *history;
-    int lookedUpTo = 0;
-};
-
-void TableSheet::Private::push(QList<TableStep> steps, const QString &name)
-{
-    history->push(
-        std::make_unique<TableEdit>([this](const TableStep &step) { take(step); }, std::move(steps), name));
-}
-
-void TableSheet::Private::take(const TableStep &step)
-{
-    if (const auto *cells = std::get_if<QList<TableCellChange>>(&step)) {
-        takeCells(*cells);
-    } else if (const auto *rows = std::get_if<TableRowsChange>(&step)) {
-        takeRows(*rows);
-    } else {
-        order.assign(std::get<TableOrderChange>(step).after);
-        Q_EMIT q->rowsReordered();
-    }
-}
-
-void TableSheet::Private::takeCells(const QList<TableCellChange> &cells)
-{
-    QList<quint32> ids;
-    int first = int(columns.size());
-    int last = 0;
-    for (const TableCellChange &cell : cells) {
-        store.setSlot(cell.row, cell.column, cell.after);
-        first = std::min(first, cell.column);
-        last = std::max(last, cell.column);
-        if (ids.isEmpty() || ids.constLast() != cell.row) {
-            ids.append(cell.row);
-            problems.forget(cell.row);
-        }
-    }
-    Q_EMIT q->cellsChanged(ids, first, last);
-}
-
-void TableSheet::Private::takeRows(const TableRowsChange &rows)
-{
-    for (const quint32 row : rows.rows)
-        rows.isInsertion ? problems.enter(row) : problems.leave(row);
-    if (rows.isInsertion) {
-        order.insert(rows.places, rows.rows);
-        Q_EMIT q->rowsInserted(rows.places);
-    } else {
-        order.remove(rows.places);
-        Q_EMIT q->rowsRemoved(rows.rows);
-    }
-}
-
-quint32 TableSheet::Private::addRow(const QStringList &texts)
-{
-    const quint32 id = store.addRow();
-    problems.setRowCount(store.rowCount());
-    const qsizetype count = std::min(texts.size(), columns.size());
-    for (int column = 0; column < count; ++column)
-        store.setSlot(id, column, store.keep(texts[column]));
-    return id;
-}
-
-quint32 TableSheet::Private::addDefaultRow()
-{
-    QStringList texts;
-    for (const TableColumn &column : columns)
-        texts.append(column.defaultText);
-    return addRow(texts);
-}
-
-std::vector<TableSlot> TableSheet::Private::keepAll(const QList<TableCellText> &cells)
-{
-    // Texts of the table itself are found before the first new one moves it.
-    std::vector<TableSlot> kept(size_t(cells.size()));
-    for (size_t i = 0; i < kept.size(); ++i)
-        kept[i] = store.slotOf(cells[qsizetype(i)].text).value_or(TableSlot());
-    for (size_t i = 0; i < kept.size(); ++i) {
-        if (kept[i].size == 0)
-            kept[i] = store.keep(cells[qsizetype(i)].text);
-    }
-    return kept;
-}
-
-int TableSheet::Private::problemsOfRow(quint32 id) const
-{
-    int count = 0;
-    for (int column = 0; column < columns.size(); ++column)
-        count += columns[column].problem(store.text(id, column)).isEmpty() ? 0 : 1;
-    return count;
-}
-
 TableSheet::TableSheet(QList<TableColumn> columns, QObject *parent)
     : QObject(parent)
     , d(std::make_unique<Private>(this, std::move(columns)))
@@ -189,6 +71,23 @@ int TableSheet::columnOf(const QString &name) const
     const auto found = std::find_if(d->columns.cbegin(), d->columns.cend(),
                                     [&](const TableColumn &column) { return column.name == name; });
     return found == d->columns.cend() ? -1 : int(found - d->columns.cbegin());
+}
+
+const QList<TableRowRule> &TableSheet::rowRules() const
+{
+    return d->checks.rules();
+}
+
+void TableSheet::setRowRules(QList<TableRowRule> rules)
+{
+    d->checks.setRules(std::move(rules));
+    Q_EMIT problemsChanged(rowIds());
+}
+
+void TableSheet::checkAnew()
+{
+    d->checks.forgetCounts();
+    Q_EMIT problemsChanged(rowIds());
 }
 
 int TableSheet::rowCount() const
@@ -220,7 +119,22 @@ QList<QStringList> TableSheet::allTexts() const
 
 QString TableSheet::problem(int row, int column) const
 {
-    return d->columns[column].problem(text(row, column));
+    return problemOf(rowId(row), column);
+}
+
+QString TableSheet::problemOf(quint32 id, int column) const
+{
+    return d->checks.problem(id, column, d->store.text(id, column));
+}
+
+QString TableSheet::problemOf(quint32 id, int column, QStringView kept) const
+{
+    return d->checks.problem(id, column, kept);
+}
+
+bool TableSheet::hasProblem(quint32 id, const QList<int> &columns) const
+{
+    return d->checks.hasProblem(id, columns);
 }
 
 quint32 TableSheet::rowId(int row) const
@@ -255,13 +169,14 @@ Error TableSheet::load(const QList<QStringList> &rows)
     d->history->clear();
     d->store = TableStore(columnCount());
     d->store.reserveRows(rows.size());
-    d->problems = {};
+    d->order.assign({});
+    d->checks.clear();
     d->lookedUpTo = 0;
     QList<quint32> ids;
     ids.reserve(rows.size());
     for (const QStringList &row : rows) {
         ids.append(d->addRow(row));
-        d->problems.enter(ids.constLast());
+        d->checks.enter(ids.constLast());
     }
     d->order.assign(std::move(ids));
     Q_EMIT loaded();
@@ -345,7 +260,7 @@ void TableSheet::duplicateRows(const QList<int> &rows)
         for (int column = 0; column < columnCount(); ++column)
             d->store.setSlot(copies.constLast(), column, d->store.slot(rowId(row), column));
     }
-    d->problems.setRowCount(d->store.rowCount());
+    d->checks.addedToStore();
     d->push({TableRowsChange{rowsFrom(originals.constLast() + 1, copies.size()), copies, true}},
             tr("duplicate rows"));
 }
@@ -389,12 +304,12 @@ void TableSheet::setOrder(const QList<quint32> &ids)
 
 int TableSheet::problemCount() const
 {
-    return d->problems.count();
+    return d->checks.counts().count();
 }
 
 bool TableSheet::areProblemsCounted() const
 {
-    return d->problems.unknownRows() == 0;
+    return d->checks.counts().unknownRows() == 0;
 }
 
 void TableSheet::countProblems(int rows)
@@ -404,8 +319,8 @@ void TableSheet::countProblems(int rows)
     for (int i = 0; i < std::min(rows, rowCount()) && !areProblemsCounted(); ++i) {
         d->lookedUpTo = d->lookedUpTo + 1 < rowCount() ? d->lookedUpTo + 1 : 0;
         const quint32 id = rowId(d->lookedUpTo);
-        if (!d->problems.isKnown(id))
-            d->problems.setCount(id, d->problemsOfRow(id));
+        if (!d->checks.counts().isKnown(id))
+            d->checks.count(id);
     }
     if (areProblemsCounted())
         Q_EMIT problemsCounted();

@@ -27,6 +27,13 @@ void TableProblems::forget(quint32 row)
     ++m_unknownRows;
 }
 
+void TableProblems::forgetAll(int rowsInTable)
+{
+    m_ofRows.assign(m_ofRows.size(), kUnknown);
+    m_count = 0;
+    m_unknownRows = rowsInTable;
+}
+
 void TableProblems::setCount(quint32 row, int problems)
 {
     leave(row);

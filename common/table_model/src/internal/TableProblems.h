@@ -18,6 +18,7 @@ public:
     void enter(quint32 row);
     void leave(quint32 row);
     void forget(quint32 row);
+    void forgetAll(int rowsInTable);
     void setCount(quint32 row, int problems);
 
 private:

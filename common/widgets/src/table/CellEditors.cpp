@@ -3,10 +3,10 @@
 #include <orv/widgets/DialogService.h>
 #include <orv/widgets/MeaningColors.h>
 #include <orv/widgets/ORVFileDialog.h>
+#include <orv/widgets/SequencePainting.h>
 
 #include <QAccessible>
 #include <QColorDialog>
-#include <QFontDatabase>
 #include <QPainter>
 #include <QPointer>
 #include <QStyle>
@@ -61,17 +61,12 @@ bool runsLeftToRight(TableColumnKind kind)
     return kind != TableColumnKind::Text && kind != TableColumnKind::Choice;
 }
 
-QFont fixedWidthFont(const QFont &like)
-{
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPointSizeF(like.pointSizeF() > 0 ? like.pointSizeF() : font.pointSizeF());
-    return font;
-}
-
-CellLineEdit::CellLineEdit(const TableColumn &column, NumberText::DecimalSign sign, QWidget *parent)
+CellLineEdit::CellLineEdit(const TableColumn &column, NumberText::DecimalSign sign, CellCheck problemOf,
+                           QWidget *parent)
     : QLineEdit(parent)
     , m_column(column)
     , m_sign(sign)
+    , m_problemOf(std::move(problemOf))
 {
     setFrame(false);
     setAccessibleName(column.header());
@@ -83,7 +78,7 @@ CellLineEdit::CellLineEdit(const TableColumn &column, NumberText::DecimalSign si
         setInputMethodHints(Qt::ImhFormattedNumbersOnly);
     }
     if (column.kind == TableColumnKind::Sequence)
-        setFont(fixedWidthFont(font()));
+        setFont(SequencePainting::fontLike(font()));
     connect(this, &QLineEdit::textChanged, this, [this] { check(); });
     check();
 }
@@ -95,7 +90,7 @@ int CellLineEdit::signWidth() const
 
 void CellLineEdit::check()
 {
-    const QString problem = m_column.problem(m_column.kept(text(), m_sign));
+    const QString problem = m_problemOf(m_column.kept(text(), m_sign));
     const bool isNew = problem != m_problem;
     m_problem = problem;
     const bool isMirrored = isRightToLeft();
@@ -200,11 +195,12 @@ void CellChoiceBox::wheelEvent(QWheelEvent *event)
     event->ignore();
 }
 
-QWidget *createCellEditor(const TableColumn &column, NumberText::DecimalSign sign, QWidget *parent)
+QWidget *createCellEditor(const TableColumn &column, NumberText::DecimalSign sign, const CellCheck &problemOf,
+                          QWidget *parent)
 {
     if (column.kind == TableColumnKind::Choice)
         return new CellChoiceBox(column, parent);
-    auto *const line = new CellLineEdit(column, sign, parent);
+    auto *const line = new CellLineEdit(column, sign, problemOf, parent);
     if (column.kind == TableColumnKind::File)
         line->addChooser(CellEditorsTr::tr("Choose a file"), chooseFile);
     if (column.kind == TableColumnKind::Color)

@@ -9,6 +9,9 @@
 
 namespace orv {
 
+/// Why a cell may not hold a kept text, or an empty text.
+using CellCheck = std::function<QString(QStringView kept)>;
+
 /// The text of one cell while it is typed. What can't be valid isn't accepted; what isn't valid yet has a
 /// sign and says why.
 class CellLineEdit : public QLineEdit
@@ -16,9 +19,12 @@ class CellLineEdit : public QLineEdit
     Q_OBJECT
 
 public:
-    CellLineEdit(const TableColumn &column, NumberText::DecimalSign sign, QWidget *parent);
+    CellLineEdit(const TableColumn &column, NumberText::DecimalSign sign, CellCheck problemOf,
+                 QWidget *parent);
 
     [[nodiscard]] QString problem() const { return m_problem; }
+    /// After other cells have changed.
+    void check();
     /// A button inside the line that finds a value elsewhere; nothing found leaves the text.
     void addChooser(const QString &text, std::function<QString(QWidget *parent, const QString &now)> choose);
 
@@ -30,13 +36,13 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void check();
     void tell();
     void takeChosen(const std::function<QString(QWidget *parent, const QString &now)> &choose);
     [[nodiscard]] int signWidth() const;
 
     TableColumn m_column;
     NumberText::DecimalSign m_sign;
+    CellCheck m_problemOf;
     QString m_problem;
     int m_chooserWidth = 0;
 };
@@ -58,12 +64,9 @@ protected:
 
 /// The editor for a cell of this column.
 [[nodiscard]] QWidget *createCellEditor(const TableColumn &column, NumberText::DecimalSign sign,
-                                        QWidget *parent);
+                                        const CellCheck &problemOf, QWidget *parent);
 
 /// Whether the text of such a cell runs from left to right in every language: numbers, paths, sequences.
 [[nodiscard]] bool runsLeftToRight(TableColumnKind kind);
-
-/// Sequences stand in a fixed-width font.
-[[nodiscard]] QFont fixedWidthFont(const QFont &like);
 
 } // namespace orv

@@ -186,7 +186,11 @@ void TableCommands::travel(bool isUndo)
     const auto remember = [&](int row, int column) { touched = model->index(row, column); };
     QObject context;
     connect(model, &QAbstractItemModel::dataChanged, &context,
-            [&](const QModelIndex &topLeft) { remember(topLeft.row(), topLeft.column()); });
+            [&](const QModelIndex &topLeft, const QModelIndex &, const QList<int> &roles) {
+                // Where only a problem came or went, nothing was edited.
+                if (roles.isEmpty())
+                    remember(topLeft.row(), topLeft.column());
+            });
     connect(model, &QAbstractItemModel::rowsInserted, &context, [&](const QModelIndex &, int first) {
         remember(first, std::max(0, m_view->currentIndex().column()));
     });

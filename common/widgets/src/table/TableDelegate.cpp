@@ -4,10 +4,12 @@
 
 #include <orv/table_model/TableModel.h>
 #include <orv/widgets/MeaningColors.h>
+#include <orv/widgets/SequencePainting.h>
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
 
 namespace orv {
 
@@ -26,6 +28,14 @@ bool hasProblem(const QModelIndex &index)
 TableColumnKind kindOf(const QModelIndex &index)
 {
     return TableColumnKind(index.data(TableModel::KindRole).toInt());
+}
+
+/// More than the widest screen shows; laying out a text of megabytes takes seconds.
+constexpr qsizetype kPaintedUnits = 2000;
+
+int contentMargin(const QStyleOptionViewItem &option)
+{
+    return QApplication::style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
 }
 
 constexpr QChar kLeftToRight(0x2066);
@@ -49,11 +59,13 @@ QPixmap swatchOf(const QString &color, const QStyleOptionViewItem &option)
 void TableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
+    if (option->text.size() > kPaintedUnits)
+        option->text = option->text.first(kPaintedUnits) + QStringLiteral("\u2026");
     const TableColumnKind kind = kindOf(index);
     const QString color = option->text;
     option->textElideMode = kind == TableColumnKind::File ? Qt::ElideMiddle : Qt::ElideRight;
     if (kind == TableColumnKind::Sequence) {
-        option->font = fixedWidthFont(option->font);
+        option->font = SequencePainting::fontLike(option->font);
         option->fontMetrics = QFontMetrics(option->font);
     }
     if (option->direction == Qt::RightToLeft && runsLeftToRight(kind))
@@ -65,11 +77,47 @@ void TableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIn
     }
 }
 
+QSize TableDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QSize size = QStyledItemDelegate::sizeHint(option, index);
+    if (kindOf(index) == TableColumnKind::Sequence)
+        size.setWidth(
+            SequencePainting::width(index.data().toString(), SequencePainting::fontLike(option.font)) +
+            2 * contentMargin(option));
+    return size;
+}
+
+void TableDelegate::paintContent(QPainter *painter, const QStyleOptionViewItem &option,
+                                 const QModelIndex &index) const
+{
+    if (kindOf(index) != TableColumnKind::Sequence) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
+    }
+    QStyleOptionViewItem frame = option;
+    initStyleOption(&frame, index);
+    frame.text.clear();
+    QApplication::style()->drawControl(QStyle::CE_ItemViewItem, &frame, painter, frame.widget);
+    const QString sequence = index.data().toString();
+    const int margin = contentMargin(option);
+    QRect room = option.rect.adjusted(margin, 0, -margin, 0);
+    const int width = SequencePainting::width(sequence, frame.font);
+    if (option.direction == Qt::RightToLeft && width < room.width())
+        room.setLeft(room.right() + 1 - width);
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    const QPalette::ColorGroup group = !option.state.testFlag(QStyle::State_Enabled)  ? QPalette::Disabled
+                                       : !option.state.testFlag(QStyle::State_Active) ? QPalette::Inactive
+                                                                                      : QPalette::Active;
+    SequencePainting::paint(
+        *painter, room, sequence, frame.font,
+        option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text));
+}
+
 void TableDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const
 {
     if (!hasProblem(index)) {
-        QStyledItemDelegate::paint(painter, option, index);
+        paintContent(painter, option, index);
         return;
     }
     const int side = option.fontMetrics.height();
@@ -81,9 +129,8 @@ void TableDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     QStyleOptionViewItem text = option;
     const QRect beside = option.rect.adjusted(side, 0, 0, 0);
     text.rect = QStyle::visualRect(option.direction, option.rect, beside);
-    QStyledItemDelegate::paint(painter, text, index);
-    const int margin =
-        QApplication::style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
+    paintContent(painter, text, index);
+    const int margin = contentMargin(option);
     const QRect room(option.rect.left() + margin, option.rect.top(), side - margin, option.rect.height());
     const QColor color =
         isSelected ? option.palette.color(QPalette::HighlightedText) : MeaningColors::error(option.palette);
@@ -98,8 +145,12 @@ QWidget *TableDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
     const TableModel *const model = tableModelOf(index);
     if (!model)
         return nullptr;
+    const CellCheck problemOf = [sheet = QPointer(model->sheet()), row = model->rowId(index.row()),
+                                 column = index.column()](QStringView kept) {
+        return sheet ? sheet->problemOf(row, column, kept) : QString();
+    };
     QWidget *const editor =
-        createCellEditor(model->sheet()->columns()[index.column()], model->decimalSign(), parent);
+        createCellEditor(model->sheet()->columns()[index.column()], model->decimalSign(), problemOf, parent);
     editor->setAutoFillBackground(true);
     return editor;
 }
@@ -111,6 +162,7 @@ void TableDelegate::setEditorData(QWidget *editor, const QModelIndex &index) con
         // A change elsewhere in the row must not take what is being typed.
         if (!line->isModified())
             line->setText(text);
+        line->check();
     } else if (auto *const box = qobject_cast<CellChoiceBox *>(editor)) {
         box->setText(text);
     }

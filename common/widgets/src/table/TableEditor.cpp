@@ -77,6 +77,7 @@ TableEditor::TableEditor(TableSheet *sheet, QWidget *parent)
     connect(sheet, &TableSheet::rowsInserted, this, recount);
     connect(sheet, &TableSheet::rowsRemoved, this, recount);
     connect(sheet, &TableSheet::cellsChanged, this, recount);
+    connect(sheet, &TableSheet::problemsChanged, this, recount);
     recount();
 }
 
@@ -236,8 +237,8 @@ void TableEditor::importFile(const QString &path)
                           QMessageBox::NoButton, bytes.error().details().join(u'\n'));
         return;
     }
-    auto *const dialog =
-        new TableImportDialog(QFileInfo(path).fileName(), bytes.value(), d->sheet->columns(), this);
+    auto *const dialog = new TableImportDialog(QFileInfo(path).fileName(), bytes.value(),
+                                               TableImportTarget::of(*d->sheet), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog] {
         const QList<QStringList> rows = dialog->rows();

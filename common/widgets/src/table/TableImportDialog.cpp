@@ -45,9 +45,9 @@ void choose(QComboBox *box, T value)
 class TableImportDialog::Private
 {
 public:
-    Private(const QByteArray &bytes, const QList<TableColumn> &columnsOfTable)
-        : columns(columnsOfTable)
-        , shared(std::make_shared<TableImport>(bytes, columns))
+    Private(const QByteArray &bytes, const TableImportTarget &target)
+        : columns(target.columns)
+        , shared(std::make_shared<TableImport>(bytes, target))
         , import(*shared)
     {}
 
@@ -71,9 +71,9 @@ public:
 };
 
 TableImportDialog::TableImportDialog(const QString &name, const QByteArray &bytes,
-                                     const QList<TableColumn> &columns, QWidget *parent)
+                                     const TableImportTarget &target, QWidget *parent)
     : QDialog(parent)
-    , d(std::make_unique<Private>(bytes, columns))
+    , d(std::make_unique<Private>(bytes, target))
 {
     setWindowTitle(tr("Import %1").arg(name));
     setObjectName(QStringLiteral("TableImportDialog"));

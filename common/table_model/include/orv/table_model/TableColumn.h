@@ -44,6 +44,7 @@ struct ORV_WORKFLOW_EXPORT TableColumn
     QString fileFilter = {};  ///< of a file dialog, such as "FASTA (*.fasta)"
     bool isRequired = false;
     bool isReadOnly = false;
+    bool isUnique = false; ///< no two rows hold the same; empty cells and other spellings of it don't count
     /// A rule of its own: why a text that passed the others isn't allowed, or an empty text. Called often.
     std::function<QString(QStringView text)> check = {};
 
@@ -58,7 +59,7 @@ struct ORV_WORKFLOW_EXPORT TableColumn
     /// What people see of a kept text.
     [[nodiscard]] QString shown(QStringView kept, NumberText::DecimalSign sign) const;
 
-    /// Why \a kept may not stand here and what is allowed, or an empty text.
+    /// Why \a kept may not stand here and what is allowed, or an empty text. Knows no other cells.
     [[nodiscard]] QString problem(QStringView kept) const;
 
     /// Whether a header of a pasted or imported text means this column: its title with or without the unit,

@@ -52,6 +52,7 @@ private:
     const TableSheet &m_sheet;
     QList<Word> m_words;
     QList<Column> m_columns;
+    QList<int> m_indexes;
     bool m_isOnlyProblems;
 };
 

@@ -4,13 +4,33 @@
 #include <orv/core/Result.h>
 #include <orv/table/CsvReader.h>
 #include <orv/table_model/TableColumn.h>
+#include <orv/table_model/TableRowRule.h>
 #include <orv/table_model/TextFormat.h>
 
 #include <QByteArray>
+#include <QHash>
 #include <QList>
 #include <QStringList>
 
 namespace orv {
+
+class TableSheet;
+
+/// What a file comes into. A plain value.
+struct ORV_WORKFLOW_EXPORT TableImportTarget
+{
+    TableImportTarget(QList<TableColumn> ofTable,
+                      QList<TableRowRule> ofRows = {}) // implicit: columns will do
+        : columns(std::move(ofTable))
+        , rules(std::move(ofRows))
+    {}
+
+    QList<TableColumn> columns;
+    QList<TableRowRule> rules;
+    QHash<int, QHash<QString, int>> taken; ///< by unique column: what rows hold, and the row
+
+    [[nodiscard]] static TableImportTarget of(const TableSheet &sheet);
+};
 
 /// Why a field of a file may not stand in its column.
 struct TableImportProblem
@@ -27,7 +47,7 @@ struct TableImportProblem
 /// detected, where its fields go, what is wrong with them.
 ///
 /// \code
-///     TableImport import(bytes, sheet.columns());
+///     TableImport import(bytes, TableImportTarget::of(sheet));
 ///     if (!import.fault().hasError())
 ///         sheet.insertRows(sheet.rowCount(), import.rows(TableImport::Faulty::LeaveOut), tr("import"));
 /// \endcode
@@ -46,7 +66,7 @@ public:
     static constexpr int kListedProblems = 1000;
 
     /// Detects the format and reads everything.
-    TableImport(QByteArray bytes, QList<TableColumn> columns);
+    TableImport(QByteArray bytes, TableImportTarget target);
 
     [[nodiscard]] const TableTextFormat &format() const { return m_format; }
     /// Reads everything anew and guesses the mapping.
@@ -68,7 +88,8 @@ public:
     [[nodiscard]] const QList<TableImportProblem> &problems() const { return m_problems; }
     [[nodiscard]] int problemCount() const { return m_problemCount; }
     [[nodiscard]] int faultyRecordCount() const { return int(m_faultyRecords.size()); }
-    /// Why a field may not stand in its column, or an empty text.
+    /// Why a field may not stand in its column, or an empty text: rules of the column and of the row, and
+    /// what the table or an earlier record holds already.
     [[nodiscard]] QString problem(int record, int field) const;
 
     /// In the kept form, for TableSheet::insertRows().
@@ -81,17 +102,23 @@ private:
     void guessMapping();
     void findProblems();
     void findProblemsOf(int record);
-    void addProblem(int record, int field, const QString &reason);
+    void addProblem(int record, int field, const QString &column, const QString &reason);
+    void noteUniques(int record, const QStringList &texts);
+    [[nodiscard]] QString fieldProblem(int record, int field) const;
+    [[nodiscard]] QList<TableRowProblem> rowProblems(int record, const QStringList &texts) const;
+    [[nodiscard]] QString uniqueProblem(int record, int column, const QString &text) const;
+    [[nodiscard]] QStringList texts(int record) const;
 
     QByteArray m_bytes;
-    QList<TableColumn> m_columns;
+    TableImportTarget m_target;
     TableTextFormat m_format;
     Error m_fault;
     QList<CsvRow> m_records;
     QStringList m_fieldNames;
     QList<int> m_mapping;
     QList<TableImportProblem> m_problems;
-    QList<int> m_faultyRecords; ///< ascending
+    QList<int> m_faultyRecords;              ///< ascending
+    QHash<int, QHash<QString, int>> m_first; ///< by unique column: texts and the first record that holds it
     int m_problemCount = 0;
 };
 

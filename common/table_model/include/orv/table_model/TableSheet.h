@@ -4,6 +4,7 @@
 #include <orv/core/Result.h>
 #include <orv/table_model/TableColumn.h>
 #include <orv/table_model/TableHistory.h>
+#include <orv/table_model/TableRowRule.h>
 
 #include <QList>
 #include <QObject>
@@ -37,12 +38,24 @@ public:
     /// -1 for a name that no column has.
     [[nodiscard]] int columnOf(const QString &name) const;
 
+    /// Rules across the cells of a row; none at first.
+    [[nodiscard]] const QList<TableRowRule> &rowRules() const;
+    void setRowRules(QList<TableRowRule> rules);
+    /// What the rules look at beside the table has changed: everything is checked anew.
+    void checkAnew();
+
     [[nodiscard]] int rowCount() const;
     /// Valid until the next edit.
     [[nodiscard]] QStringView text(int row, int column) const;
     [[nodiscard]] QStringList texts(int row) const;
     [[nodiscard]] QList<QStringList> allTexts() const;
+    /// Why the text of a cell may not stand there, or an empty text: by the rules of its column, of its row,
+    /// or because another row holds the same.
     [[nodiscard]] QString problem(int row, int column) const;
+    [[nodiscard]] QString problemOf(quint32 id, int column) const;
+    /// What it would be if the cell held \a kept.
+    [[nodiscard]] QString problemOf(quint32 id, int column, QStringView kept) const;
+    [[nodiscard]] bool hasProblem(quint32 id, const QList<int> &columns) const;
 
     /// A number that stays with a row for the life of the sheet, wherever it is moved; also readable while
     /// the row is removed.
@@ -88,6 +101,9 @@ Q_SIGNALS:
     void rowsInserted(const QList<int> &places);
     void rowsRemoved(const QList<quint32> &ids);
     void rowsReordered();
+    /// Cells in these rows may have other problems than before, though they hold the same. Behind the signal
+    /// of the edit; rows that aren't in the table any more may be among them.
+    void problemsChanged(const QList<quint32> &ids);
     void loaded();
     void problemsCounted();
 

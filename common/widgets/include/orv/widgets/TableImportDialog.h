@@ -19,7 +19,7 @@ class ORV_PROPERTY_EDITOR_EXPORT TableImportDialog : public QDialog
 
 public:
     /// \a name is that of the file, for the title.
-    TableImportDialog(const QString &name, const QByteArray &bytes, const QList<TableColumn> &columns,
+    TableImportDialog(const QString &name, const QByteArray &bytes, const TableImportTarget &target,
                       QWidget *parent = nullptr);
     ~TableImportDialog() override;
 

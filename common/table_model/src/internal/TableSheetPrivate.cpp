@@ -1,0 +1,102 @@
+#include "TableSheetPrivate.h"
+
+#include <algorithm>
+
+namespace orv {
+
+TableSheet::Private::Private(TableSheet *sheet, QList<TableColumn> columnsOfSheet)
+    : q(sheet)
+    , columns(std::move(columnsOfSheet))
+    , store(int(columns.size()))
+    , history(new TableHistory(sheet))
+{}
+
+void TableSheet::Private::push(QList<TableStep> steps, const QString &name)
+{
+    history->push(
+        std::make_unique<TableEdit>([this](const TableStep &step) { take(step); }, std::move(steps), name));
+}
+
+void TableSheet::Private::take(const TableStep &step)
+{
+    if (const auto *cells = std::get_if<QList<TableCellChange>>(&step)) {
+        takeCells(*cells);
+    } else if (const auto *rows = std::get_if<TableRowsChange>(&step)) {
+        takeRows(*rows);
+    } else {
+        order.assign(std::get<TableOrderChange>(step).after);
+        Q_EMIT q->rowsReordered();
+    }
+}
+
+void TableSheet::Private::takeCells(const QList<TableCellChange> &cells)
+{
+    QList<quint32> ids;
+    int first = int(columns.size());
+    int last = 0;
+    for (const TableCellChange &cell : cells) {
+        checks.beforeChange(cell.row, cell.column);
+        store.setSlot(cell.row, cell.column, cell.after);
+        checks.afterChange(cell.row, cell.column);
+        first = std::min(first, cell.column);
+        last = std::max(last, cell.column);
+        if (ids.isEmpty() || ids.constLast() != cell.row)
+            ids.append(cell.row);
+    }
+    Q_EMIT q->cellsChanged(ids, first, last);
+    tellTouched();
+}
+
+void TableSheet::Private::takeRows(const TableRowsChange &rows)
+{
+    for (const quint32 row : rows.rows)
+        rows.isInsertion ? checks.enter(row) : checks.leave(row);
+    if (rows.isInsertion) {
+        order.insert(rows.places, rows.rows);
+        Q_EMIT q->rowsInserted(rows.places);
+    } else {
+        order.remove(rows.places);
+        Q_EMIT q->rowsRemoved(rows.rows);
+    }
+    tellTouched();
+}
+
+void TableSheet::Private::tellTouched()
+{
+    const QList<quint32> ids = checks.takeTouched();
+    if (!ids.isEmpty())
+        Q_EMIT q->problemsChanged(ids);
+}
+
+quint32 TableSheet::Private::addRow(const QStringList &texts)
+{
+    const quint32 id = store.addRow();
+    checks.addedToStore();
+    const qsizetype count = std::min(texts.size(), columns.size());
+    for (int column = 0; column < count; ++column)
+        store.setSlot(id, column, store.keep(texts[column]));
+    return id;
+}
+
+quint32 TableSheet::Private::addDefaultRow()
+{
+    QStringList texts;
+    for (const TableColumn &column : columns)
+        texts.append(column.defaultText);
+    return addRow(texts);
+}
+
+std::vector<TableSlot> TableSheet::Private::keepAll(const QList<TableCellText> &cells)
+{
+    // Texts of the table itself are found before the first new one moves it.
+    std::vector<TableSlot> kept(size_t(cells.size()));
+    for (size_t i = 0; i < kept.size(); ++i)
+        kept[i] = store.slotOf(cells[qsizetype(i)].text).value_or(TableSlot());
+    for (size_t i = 0; i < kept.size(); ++i) {
+        if (kept[i].size == 0)
+            kept[i] = store.keep(cells[qsizetype(i)].text);
+    }
+    return kept;
+}
+
+} // namespace orv
