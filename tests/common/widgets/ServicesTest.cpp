@@ -7,7 +7,6 @@
 #include <orv/widgets/FileChooserDialogManager.h>
 #include <orv/widgets/HostServices.h>
 #include <orv/widgets/JavaChecker.h>
-#include <orv/widgets/ProgressOutputUtils.h>
 #include <orv/widgets/TargetProjectPathChooserDialog.h>
 
 #include <QDialogButtonBox>
@@ -52,25 +51,6 @@ struct FakeJava
     QString earlier;
 };
 
-/// Work whose time the test tells.
-struct Work
-{
-    explicit Work(bool isCancellable)
-        : progress(u"Opening the workflow..."_s, nullptr, isCancellable, [this] { return now; })
-    {
-        progress.setCount(10);
-    }
-    void stepAt(qint64 time, int done)
-    {
-        now = time;
-        progress.setDone(done);
-    }
-    QString detail() { return progress.findChild<QLabel *>(u"detail"_s)->text(); }
-
-    qint64 now = 0;
-    ProgressOutput progress;
-};
-
 } // namespace
 
 class ServicesTest : public WidgetTest
@@ -78,10 +58,6 @@ class ServicesTest : public WidgetTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void shortWorkShowsNothing();
-    void longWorkShowsCountAndTimeLeft();
-    void workIsCancelledWhereThatIsAllowed();
-    void workThatMayNotStopGoesOn();
     void resultsThatExistAreKeptReplacedOrSkipped();
     void projectsGoToAFolderThatExists();
     void filesAreSavedThroughAnAccessor();
@@ -94,48 +70,6 @@ private Q_SLOTS:
     void hostsHearOfTheDocument();
     void tabsHaveTheTitleOfTheirWindow();
 };
-
-void ServicesTest::shortWorkShowsNothing()
-{
-    Work work(true);
-    work.stepAt(100, 5);
-    work.stepAt(299, 10);
-    QVERIFY(!work.progress.isVisible());
-}
-
-void ServicesTest::longWorkShowsCountAndTimeLeft()
-{
-    Work work(false);
-    work.stepAt(2000, 2);
-    QVERIFY(work.progress.isVisible());
-    QCOMPARE(work.detail(), u"2 of 10, about 8 s left"_s);
-    work.stepAt(2010, 3);
-    QCOMPARE(work.detail(), u"2 of 10, about 8 s left"_s);
-    work.stepAt(600000, 5);
-    QCOMPARE(work.detail(), u"5 of 10, about 10 min left"_s);
-    work.stepAt(700000, 10);
-    QCOMPARE(work.detail(), u"10 of 10"_s);
-}
-
-void ServicesTest::workIsCancelledWhereThatIsAllowed()
-{
-    Work work(true);
-    work.stepAt(500, 1);
-    QTest::mouseClick(work.progress.findChild<QPushButton *>(), Qt::LeftButton);
-    QVERIFY(work.progress.isCancelled());
-    QVERIFY(work.progress.isVisible());
-    QCOMPARE(work.detail(), u"Stopping..."_s);
-}
-
-void ServicesTest::workThatMayNotStopGoesOn()
-{
-    Work work(false);
-    work.stepAt(500, 1);
-    QVERIFY(!work.progress.findChild<QPushButton *>()->isVisible());
-    QTest::keyClick(&work.progress, Qt::Key_Escape);
-    QVERIFY(!work.progress.isCancelled());
-    QVERIFY(work.progress.isVisible());
-}
 
 void ServicesTest::resultsThatExistAreKeptReplacedOrSkipped()
 {

@@ -3,6 +3,7 @@
 #include <orv/core/Logging.h>
 
 #include <QDialog>
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QPointer>
 
@@ -53,6 +54,11 @@ bool exec(QDialog &dialog)
     const QPointer<QDialog> guard(&dialog);
     const int result = dialog.exec();
     return guard && result == QDialog::Accepted;
+}
+
+void wait(QEventLoop &loop)
+{
+    loop.exec();
 }
 
 } // namespace orv::DialogService

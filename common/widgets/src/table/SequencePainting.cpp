@@ -68,29 +68,32 @@ int width(QStringView sequence, const QFont &font)
     return int(std::ceil(width));
 }
 
-void paint(QPainter &painter, const QRect &room, QStringView sequence, const QFont &font, const QColor &color)
+void paint(QPainter &painter, const QRect &place, QStringView sequence, const QFont &font,
+           const QColor &color)
 {
     const BlockMetrics metrics(font);
     const QString more = QStringLiteral("\u2026");
     const qreal letter = std::max(1.0, metrics.letters.averageCharWidth());
-    const auto atMost = qsizetype(room.width() / letter / SequenceText::kBlock) + 2;
+    const auto atMost = qsizetype(place.width() / letter / SequenceText::kBlock) + 2;
     const qreal baseline =
-        room.top() + (room.height() - metrics.letters.height()) / 2 + metrics.letters.ascent();
-    const qreal end = room.left() + room.width();
-    qreal x = room.left();
+        place.top() + (place.height() - metrics.letters.height()) / 2 + metrics.letters.ascent();
+    const qreal end = place.left() + place.width();
+    qreal x = place.left();
     painter.save();
-    painter.setClipRect(room, Qt::IntersectClip);
+    painter.setClipRect(place, Qt::IntersectClip);
     painter.setPen(color);
     painter.setFont(font);
     qsizetype done = 0;
     for (const SequenceText::Block &block : SequenceText::blocks(sequence, atMost)) {
         done += block.text.size();
         const bool isLast = done == sequence.size();
-        const auto fitting = qsizetype((end - x) / letter) - (isLast ? 0 : 1);
-        const QStringView text = block.text.first(std::clamp<qsizetype>(fitting, 0, block.text.size()));
+        const auto room = qsizetype((end - x) / letter);
+        const bool isWhole = isLast ? block.text.size() <= room : block.text.size() < room;
+        const QStringView text =
+            isWhole ? block.text : block.text.first(std::clamp<qsizetype>(room - 1, 0, block.text.size()));
         painter.drawText(QPointF(x, baseline), text.toString());
         x += letter * qreal(text.size());
-        if (text.size() < block.text.size()) {
+        if (!isWhole) {
             painter.drawText(QPointF(x, baseline), more);
             break;
         }

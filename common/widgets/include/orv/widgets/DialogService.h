@@ -3,6 +3,8 @@
 #include <orv/widgets/DialogAnswerer.h>
 #include <orv/widgets/Export.h>
 
+QT_FORWARD_DECLARE_CLASS(QEventLoop)
+
 namespace orv {
 
 /// The one place where this system waits for a person: every box and every modal dialog comes through here.
@@ -21,6 +23,9 @@ answerWithoutPerson(const DialogRequest &request);
 
 /// Shows a modal dialog and waits; whether it was accepted. A dialog that is destroyed meanwhile wasn't.
 [[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT bool exec(QDialog &dialog);
+
+/// Waits in a loop that work quits while its progress is shown. It asks nothing, so no answerer hears of it.
+ORV_PROPERTY_EDITOR_EXPORT void wait(QEventLoop &loop);
 
 } // namespace DialogService
 

@@ -2,56 +2,82 @@
 
 #include <orv/widgets/Export.h>
 
-#include <QDialog>
+#include <QPointer>
+#include <QString>
 
 #include <functional>
 #include <memory>
 
-QT_FORWARD_DECLARE_CLASS(QLabel)
-QT_FORWARD_DECLARE_CLASS(QProgressBar)
-QT_FORWARD_DECLARE_CLASS(QPushButton)
+QT_FORWARD_DECLARE_CLASS(QWidget)
 
 namespace orv {
 
-/// A window that shows how far some work is, which its caller does in steps. It appears when the work has
-/// taken 300 ms, and never for shorter work; while it shows, each step lets the application draw and hear the
-/// Cancel button, and nothing else of it can be used. It goes with its owner. GUI thread.
-class ORV_PROPERTY_EDITOR_EXPORT ProgressOutput : public QDialog
+class ProgressState;
+class ProgressWindow;
+
+/// What a work tells about itself while it runs, and hears. Any thread.
+class ORV_PROPERTY_EDITOR_EXPORT ProgressReporter
 {
-    Q_OBJECT
-
 public:
-    static constexpr int kDelayMs = 300;
-
-    /// Milliseconds from any beginning.
-    using Clock = std::function<qint64()>;
-
-    /// A null \a clock is that of the system.
-    ProgressOutput(const QString &text, QWidget *parent, bool isCancellable, Clock clock = {});
+    explicit ProgressReporter(std::shared_ptr<ProgressState> state);
 
     void setText(const QString &text);
     /// How many steps there are; 0 for a work of unknown size.
     void setCount(int count);
     /// So many steps are done. Called as often as one likes.
     void setDone(int done);
-    [[nodiscard]] bool isCancelled() const { return m_isCancelled; }
-
-    void reject() override;
+    /// Whether somebody wants it to stop at the next good place.
+    [[nodiscard]] bool isCancelled() const;
 
 private:
-    void build(const QString &text, bool isCancellable);
-    [[nodiscard]] QString detailText(qint64 elapsedMs) const;
+    std::shared_ptr<ProgressState> m_state;
+};
 
-    Clock m_clock;
-    QLabel *m_text = nullptr;
-    QLabel *m_detail = nullptr;
-    QProgressBar *m_bar = nullptr;
-    QPushButton *m_cancel = nullptr;
-    qint64 m_beginMs = 0;
-    qint64 m_drawnMs = -1;
-    int m_count = 0;
-    int m_done = 0;
-    bool m_isCancelled = false;
+/// A window that shows how far some work is. From its construction on nothing else of the application can be
+/// used; it appears when 300 ms have passed, never for shorter work, and goes with this object. Events are
+/// handled while run() or runInSlices() waits, or another loop that waits for a server.
+///
+/// \code
+///     const auto progress = ProgressOutputUtils::createAndShowProgress(tr("Checking..."), this, false);
+///     progress->run([&](ProgressReporter &) { findings = validate(copy); });
+/// \endcode
+/// GUI thread.
+class ORV_PROPERTY_EDITOR_EXPORT ProgressOutput
+{
+public:
+    static constexpr int kDelayMs = 300;
+
+    enum class Outcome
+    {
+        Done,
+        Cancelled, ///< somebody wanted it to stop; what was done is the work's to say
+    };
+
+    /// Milliseconds from any beginning.
+    using Clock = std::function<qint64()>;
+    using Work = std::function<void(ProgressReporter &reporter)>;
+    /// Does a few milliseconds of a work; false when nothing is left to do.
+    using Slice = std::function<bool(ProgressReporter &reporter)>;
+
+    /// When \a parent goes before this, the work is told to stop. A null \a clock is that of the system.
+    ProgressOutput(const QString &text, QWidget *parent, bool isCancellable, Clock clock = {});
+    ~ProgressOutput();
+    Q_DISABLE_COPY_MOVE(ProgressOutput)
+
+    /// Does \a work on a thread of its own, and waits for it in the modal loop. Waits for its end in any
+    /// case, also when the application is told to quit.
+    Outcome run(const Work &work);
+
+    /// Does a work that has to stay on this thread, slice by slice between events, until the last one or
+    /// until somebody wants it to stop.
+    Outcome runInSlices(const Slice &slice);
+
+    /// For a work that is done while another loop waits.
+    [[nodiscard]] ProgressReporter reporter() const;
+
+private:
+    std::shared_ptr<ProgressState> m_state;
+    QPointer<ProgressWindow> m_window;
 };
 
 namespace ProgressOutputUtils {

@@ -19,8 +19,8 @@ namespace orv::SequencePainting {
 /// How much room the beginning of a sequence takes, up to some 40 blocks.
 [[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT int width(QStringView sequence, const QFont &font);
 
-/// What doesn't fit into \a room ends with an ellipsis.
-ORV_PROPERTY_EDITOR_EXPORT void paint(QPainter &painter, const QRect &room, QStringView sequence,
+/// What doesn't fit into \a place ends with an ellipsis.
+ORV_PROPERTY_EDITOR_EXPORT void paint(QPainter &painter, const QRect &place, QStringView sequence,
                                       const QFont &font, const QColor &color);
 
 } // namespace orv::SequencePainting

@@ -1,0 +1,273 @@
+#include "WidgetTest.h"
+
+#include <orv/widgets/ProgressOutputUtils.h>
+
+#include <QDialog>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSemaphore>
+#include <QThread>
+#include <QWindow>
+
+using namespace orv;
+using namespace Qt::StringLiterals;
+using Outcome = ProgressOutput::Outcome;
+
+namespace {
+
+QDialog *progressWindow()
+{
+    const QWidgetList windows = QApplication::allWidgets();
+    for (QWidget *window : windows) {
+        if (window->objectName() == u"ProgressOutput"_s)
+            return qobject_cast<QDialog *>(window);
+    }
+    return nullptr;
+}
+
+bool isOnScreen()
+{
+    const QDialog *const window = progressWindow();
+    return window && window->isVisible() && !window->testAttribute(Qt::WA_DontShowOnScreen);
+}
+
+QString progressDetail()
+{
+    return progressWindow()->findChild<QLabel *>(u"detail"_s)->text();
+}
+
+/// Work whose time the test tells.
+struct TimedWork
+{
+    explicit TimedWork(bool isCancellable, QWidget *parent = nullptr)
+        : progress(u"Opening the workflow..."_s, parent, isCancellable, [this] { return now; })
+    {}
+
+    qint64 now = 0;
+    int slices = 0;
+    ProgressOutput progress;
+};
+
+void later(const std::function<void()> &what)
+{
+    QMetaObject::invokeMethod(qApp, what, Qt::QueuedConnection);
+}
+
+} // namespace
+
+class ProgressTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shortWorkShowsNothing();
+    void longWorkShowsCountAndTimeLeft();
+    void workOfUnknownSizeShowsThatItRuns();
+    void workIsCancelledWhereThatIsAllowed();
+    void workThatMayNotStopGoesOn();
+    void eventsAreHandledWhileAThreadWorks();
+    void aThreadHearsThatItShallStop();
+    void nothingElseCanBeUsedFromTheBeginning();
+    void slicesEndWithTheirParent();
+    void aThreadIsWaitedForWhenItsParentGoes();
+    void aThreadIsWaitedForWhenTheApplicationQuits();
+    void theWindowGoesWithThePointer();
+};
+
+void ProgressTest::shortWorkShowsNothing()
+{
+    TimedWork work(true);
+    bool hasBeenSeen = false;
+    const Outcome outcome = work.progress.runInSlices([&](ProgressReporter &reporter) {
+        work.now += 99;
+        reporter.setDone(++work.slices);
+        hasBeenSeen = hasBeenSeen || isOnScreen();
+        return work.slices < 3;
+    });
+    QCOMPARE(outcome, Outcome::Done);
+    QCOMPARE(work.slices, 3);
+    QVERIFY(!hasBeenSeen);
+    QVERIFY(!isOnScreen());
+}
+
+void ProgressTest::longWorkShowsCountAndTimeLeft()
+{
+    TimedWork work(false);
+    work.progress.reporter().setCount(1000);
+    QStringList shown;
+    const QList<std::pair<int, int>> steps = {
+        {2000, 200}, {2010, 300}, {600000, 500}, {700000, 1000}, {0, 0}};
+    (void)work.progress.runInSlices([&](ProgressReporter &reporter) {
+        if (work.slices > 0)
+            shown.append(isOnScreen() ? progressDetail() : u"nothing"_s);
+        const auto [time, done] = steps[work.slices];
+        work.now = time;
+        reporter.setDone(done);
+        return ++work.slices < steps.size();
+    });
+    QCOMPARE(shown, QStringList({u"200 of 1,000, about 8 s left"_s, u"200 of 1,000, about 8 s left"_s,
+                                 u"500 of 1,000, about 10 min left"_s, u"1,000 of 1,000"_s}));
+}
+
+void ProgressTest::workOfUnknownSizeShowsThatItRuns()
+{
+    TimedWork work(false);
+    (void)work.progress.runInSlices([&](ProgressReporter &reporter) {
+        reporter.setText(u"Reading..."_s);
+        work.now = 400;
+        return ++work.slices < 2;
+    });
+    QCOMPARE(progressWindow()->findChild<QProgressBar *>()->maximum(), 0);
+    QCOMPARE(progressWindow()->findChild<QProgressBar *>()->accessibleName(), u"Reading..."_s);
+    QCOMPARE(progressDetail(), QString());
+}
+
+void ProgressTest::workIsCancelledWhereThatIsAllowed()
+{
+    TimedWork work(true);
+    QString detail;
+    const Outcome outcome = work.progress.runInSlices([&](ProgressReporter &reporter) {
+        work.now += 500;
+        if (++work.slices == 2) {
+            QTest::mouseClick(progressWindow()->findChild<QPushButton *>(), Qt::LeftButton);
+            detail = progressDetail();
+            return reporter.isCancelled();
+        }
+        return work.slices < 10;
+    });
+    QCOMPARE(outcome, Outcome::Cancelled);
+    QCOMPARE(work.slices, 2);
+    QCOMPARE(detail, u"Stopping..."_s);
+}
+
+void ProgressTest::workThatMayNotStopGoesOn()
+{
+    TimedWork work(false);
+    const Outcome outcome = work.progress.runInSlices([&](ProgressReporter &) {
+        work.now += 500;
+        if (++work.slices == 2) {
+            QTest::keyClick(progressWindow(), Qt::Key_Escape);
+            progressWindow()->close();
+        }
+        return work.slices < 4;
+    });
+    QCOMPARE(outcome, Outcome::Done);
+    QCOMPARE(work.slices, 4);
+    QVERIFY(isOnScreen());
+    QVERIFY(!progressWindow()->findChild<QPushButton *>()->isVisible());
+}
+
+void ProgressTest::eventsAreHandledWhileAThreadWorks()
+{
+    ProgressOutput progress(u"Checking..."_s, nullptr, false);
+    QSemaphore event;
+    const QThread *worker = nullptr;
+    later([&] { event.release(); });
+    const Outcome outcome = progress.run([&](ProgressReporter &) {
+        worker = QThread::currentThread();
+        event.acquire();
+    });
+    QCOMPARE(outcome, Outcome::Done);
+    QVERIFY(worker != QThread::currentThread());
+}
+
+void ProgressTest::aThreadHearsThatItShallStop()
+{
+    TimedWork work(true);
+    work.now = 1000;
+    bool hasStopped = false;
+    later([] { QTest::keyClick(progressWindow(), Qt::Key_Escape); });
+    const Outcome outcome = work.progress.run([&](ProgressReporter &reporter) {
+        while (!reporter.isCancelled())
+            QThread::yieldCurrentThread();
+        hasStopped = true;
+    });
+    QVERIFY(hasStopped);
+    QCOMPARE(outcome, Outcome::Cancelled);
+}
+
+void ProgressTest::nothingElseCanBeUsedFromTheBeginning()
+{
+    QPushButton other(u"Other"_s);
+    other.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&other));
+    int clicks = 0;
+    connect(&other, &QPushButton::clicked, this, [&] { ++clicks; });
+    const QPoint place = other.rect().center();
+    {
+        const ProgressOutput progress(u"Checking..."_s, &other, false);
+        QTest::mouseClick(other.windowHandle(), Qt::LeftButton, {}, place);
+        QCOMPARE(clicks, 0);
+        QVERIFY(!isOnScreen());
+    }
+    QTest::mouseClick(other.windowHandle(), Qt::LeftButton, {}, place);
+    QCOMPARE(clicks, 1);
+}
+
+void ProgressTest::slicesEndWithTheirParent()
+{
+    auto *const parent = new QWidget;
+    TimedWork work(false, parent);
+    const Outcome outcome = work.progress.runInSlices([&](ProgressReporter &) {
+        work.now += 500;
+        if (++work.slices == 2)
+            delete parent;
+        return true;
+    });
+    QCOMPARE(outcome, Outcome::Cancelled);
+    QCOMPARE(work.slices, 2);
+    QCOMPARE(work.progress.runInSlices([&](ProgressReporter &) { return ++work.slices < 5; }),
+             Outcome::Cancelled);
+    QCOMPARE(work.slices, 2);
+}
+
+void ProgressTest::aThreadIsWaitedForWhenItsParentGoes()
+{
+    auto *const parent = new QWidget;
+    auto progress = std::make_unique<ProgressOutput>(u"Checking..."_s, parent, false);
+    bool hasEnded = false;
+    later([&] {
+        delete parent;
+        progress.reset();
+    });
+    const Outcome outcome = progress->run([&](ProgressReporter &reporter) {
+        while (!reporter.isCancelled())
+            QThread::yieldCurrentThread();
+        hasEnded = true;
+    });
+    QVERIFY(hasEnded);
+    QCOMPARE(outcome, Outcome::Cancelled);
+}
+
+void ProgressTest::aThreadIsWaitedForWhenTheApplicationQuits()
+{
+    bool hasEnded = false;
+    Outcome outcome = Outcome::Done;
+    later([&] {
+        ProgressOutput progress(u"Checking..."_s, nullptr, false);
+        later([] { QCoreApplication::quit(); });
+        outcome = progress.run([&](ProgressReporter &reporter) {
+            while (!reporter.isCancelled())
+                QThread::yieldCurrentThread();
+            hasEnded = true;
+        });
+    });
+    QCoreApplication::exec();
+    QVERIFY(hasEnded);
+    QCOMPARE(outcome, Outcome::Cancelled);
+}
+
+void ProgressTest::theWindowGoesWithThePointer()
+{
+    auto progress =
+        ProgressOutputUtils::createAndShowProgress(u"Checking workflow content..."_s, nullptr, false);
+    QVERIFY(progressWindow());
+    progress.reset();
+    QVERIFY(!progressWindow());
+    QVERIFY(!QApplication::activeModalWidget());
+}
+
+WIDGET_REGISTER_TEST(ProgressTest)
+
+#include "ProgressTest.moc"
