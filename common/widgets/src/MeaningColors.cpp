@@ -20,6 +20,16 @@ QColor error(const QPalette &palette)
     return isDark(palette) ? QColor(0xFF, 0x9A, 0x90) : QColor(0xB0, 0x1E, 0x1A);
 }
 
+QColor warning(const QPalette &palette)
+{
+    return isDark(palette) ? QColor(0xFF, 0xC8, 0x70) : QColor(0x85, 0x53, 0x00);
+}
+
+QColor changed(const QPalette &palette)
+{
+    return isDark(palette) ? QColor(0x8F, 0xBE, 0xFF) : QColor(0x1D, 0x5B, 0xB8);
+}
+
 QColor errorBackground(const QPalette &palette)
 {
     const QColor base = palette.color(QPalette::Base);

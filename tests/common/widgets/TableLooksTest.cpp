@@ -83,6 +83,8 @@ void TableLooksTest::colorsOfMeaningStandOut()
     QVERIFY2(contrast(sign, base) >= 4.5, qPrintable(QString::number(contrast(sign, base))));
     QVERIFY2(contrast(sign, behind) >= 4.5, qPrintable(QString::number(contrast(sign, behind))));
     QVERIFY2(contrast(ink, behind) >= 4.5, qPrintable(QString::number(contrast(ink, behind))));
+    QVERIFY(contrast(MeaningColors::warning(palette), base) >= 4.5);
+    QVERIFY(contrast(MeaningColors::changed(palette), base) >= 4.5);
 }
 
 void TableLooksTest::aWrongCellHasASignAndABackground()
@@ -124,8 +126,9 @@ void TableLooksTest::everythingHasRoomInHalfASmallWindow()
     for (const QWidget *child : children) {
         const bool isControl =
             qobject_cast<const QAbstractButton *>(child) || qobject_cast<const QLineEdit *>(child);
-        // A tool bar keeps what has no room in a menu at its end.
-        if (!isControl || !child->isVisible() || qobject_cast<const QToolBar *>(child->parentWidget()))
+        // A tool bar keeps what has no room in a menu at its end; a line places its signs itself.
+        if (!isControl || !child->isVisible() || qobject_cast<const QToolBar *>(child->parentWidget()) ||
+            qobject_cast<const QLineEdit *>(child->parentWidget()))
             continue;
         const QRect place(child->mapTo(&e.editor, QPoint()), child->size());
         QVERIFY2(e.editor.rect().contains(place), qPrintable(child->objectName()));

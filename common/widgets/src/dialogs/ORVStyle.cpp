@@ -2,10 +2,12 @@
 
 #include <orv/core/Settings.h>
 #include <orv/widgets/DialogService.h>
+#include <orv/widgets/Icons.h>
 
 #include <QAbstractButton>
 #include <QPointer>
 #include <QPushButton>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -18,13 +20,15 @@ constexpr QLatin1String kStyleEnabled("ORV/StyleEnabled");
 struct BoxKind
 {
     DialogRequest::Kind kind;
-    QMessageBox::Icon icon;
+    QMessageBox::Icon icon; ///< for sounds and screen readers
+    IconName drawing;
 };
 
-constexpr BoxKind kQuestionBox = {DialogRequest::Kind::Question, QMessageBox::Question};
-constexpr BoxKind kWarningBox = {DialogRequest::Kind::Warning, QMessageBox::Warning};
-constexpr BoxKind kCriticalBox = {DialogRequest::Kind::Critical, QMessageBox::Critical};
-constexpr BoxKind kInformationBox = {DialogRequest::Kind::Information, QMessageBox::Information};
+constexpr BoxKind kQuestionBox = {DialogRequest::Kind::Question, QMessageBox::Question, IconName::Question};
+constexpr BoxKind kWarningBox = {DialogRequest::Kind::Warning, QMessageBox::Warning, IconName::Warning};
+constexpr BoxKind kCriticalBox = {DialogRequest::Kind::Critical, QMessageBox::Critical, IconName::Error};
+constexpr BoxKind kInformationBox = {DialogRequest::Kind::Information, QMessageBox::Information,
+                                     IconName::Information};
 
 struct BoxContent
 {
@@ -106,6 +110,8 @@ ORVStyle::Button showBox(QWidget *parent, const BoxKind &kind, const BoxContent 
     const QPointer<QMessageBox> box = new QMessageBox(parent);
     box->setObjectName(QStringLiteral("messageBox"));
     box->setIcon(kind.icon);
+    const int side = box->style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, box);
+    box->setIconPixmap(Icons::icon(kind.drawing).pixmap(QSize(side, side), box->devicePixelRatioF()));
     fillBox(*box, content);
     ORVStyle::Button pressed = escapeButton(content);
     if (const auto answer = DialogService::answerWithoutPerson(requestOf(kind, *box, content))) {

@@ -55,6 +55,7 @@ private:
     friend struct TableCommandTable;
 
     void addActions();
+    static void setTip(QAction *action);
     void copyCells(bool withHeaders);
     void moveRows(int by);
     void goToProblem(int step);

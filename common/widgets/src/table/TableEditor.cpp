@@ -5,6 +5,7 @@
 #include <orv/core/FileUtils.h>
 #include <orv/core/Settings.h>
 #include <orv/table_model/TableExport.h>
+#include <orv/widgets/Icons.h>
 #include <orv/widgets/MeaningColors.h>
 #include <orv/widgets/ORVFileDialog.h>
 #include <orv/widgets/ORVStyle.h>
@@ -104,12 +105,9 @@ void TableEditor::build()
     auto *const top = new QHBoxLayout;
     top->addWidget(d->filter, 1);
     top->addWidget(d->onlyProblems);
-    auto *const bar = new QToolBar;
-    bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    using C = TableView::Command;
-    for (const C command :
-         {C::AddRow, C::DuplicateRows, C::RemoveRows, C::MoveUp, C::MoveDown, C::Find, C::Import, C::Export})
-        bar->addAction(d->view->action(command));
+    d->filter->addAction(Icons::icon(IconName::Filter), QLineEdit::LeadingPosition);
+    d->onlyProblems->setIcon(Icons::icon(IconName::Warning));
+    d->onlyProblems->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     d->message = new QLabel;
     d->message->setObjectName(QStringLiteral("message"));
     d->message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -121,7 +119,7 @@ void TableEditor::build()
     d->findBar = new FindBar(d->view);
     auto *const layout = new QVBoxLayout(this);
     layout->addLayout(top);
-    layout->addWidget(bar);
+    layout->addWidget(buildToolBar());
     layout->addWidget(d->view, 1);
     layout->addWidget(d->findBar);
     layout->addLayout(bottom);
@@ -133,6 +131,27 @@ void TableEditor::build()
     connect(d->view, &TableView::exportWanted, this, &TableEditor::chooseExport);
     connect(d->view, &TableView::importWanted, this,
             [this](const QString &path) { path.isEmpty() ? chooseImport() : importFile(path); });
+}
+
+QToolBar *TableEditor::buildToolBar()
+{
+    auto *const bar = new QToolBar;
+    bar->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    bar->setIconSize(QSize(side, side));
+    using C = TableView::Command;
+    const QList<QList<C>> groups = {{C::AddRow, C::DuplicateRows, C::RemoveRows},
+                                    {C::MoveUp, C::MoveDown},
+                                    {C::Undo, C::Redo},
+                                    {C::Find},
+                                    {C::Import, C::Export}};
+    for (const QList<C> &group : groups) {
+        if (!bar->actions().isEmpty())
+            bar->addSeparator();
+        for (const C command : group)
+            bar->addAction(d->view->action(command));
+    }
+    return bar;
 }
 
 TableView *TableEditor::view() const

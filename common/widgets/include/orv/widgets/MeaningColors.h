@@ -15,6 +15,10 @@ namespace orv::MeaningColors {
 /// Of text and signs on the palette's base, with a contrast of at least 4.5 to it.
 [[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT QColor error(const QPalette &palette);
 
+/// The same of what may be wrong, and of what differs from its default or from the file.
+[[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT QColor warning(const QPalette &palette);
+[[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT QColor changed(const QPalette &palette);
+
 /// Behind text of something wrong; text of the palette keeps its contrast on it.
 [[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT QColor errorBackground(const QPalette &palette);
 

@@ -7,6 +7,8 @@
 
 #include <memory>
 
+QT_FORWARD_DECLARE_CLASS(QToolBar)
+
 namespace orv {
 
 /// A table that people edit, with everything around it: a field that filters, the commands, a bar to find and
@@ -42,6 +44,7 @@ public:
 
 private:
     void build();
+    [[nodiscard]] QToolBar *buildToolBar();
     void chooseImport();
     void chooseExport();
     void applyFilter();
