@@ -18,7 +18,9 @@ function(orv_add_module name)
   target_precompile_headers(${name} REUSE_FROM ${pch})
   set_property(GLOBAL APPEND PROPERTY ${arg_LIBRARY}_MODULES ${name})
   set_property(GLOBAL APPEND PROPERTY ${arg_LIBRARY}_LINK ${arg_LINK})
-  install(DIRECTORY "${include_dir}/" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+  if(arg_HEADERS)
+    install(DIRECTORY "${include_dir}/" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+  endif()
 endfunction()
 
 # orv_declare_library(NAME PCH): the precompiled header that the modules of a shared library read.

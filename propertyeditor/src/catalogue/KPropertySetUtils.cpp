@@ -25,6 +25,14 @@ QByteArray groupName(const QString &group)
     return group.isEmpty() ? QByteArray(kCommonGroup) : group.toLower().toUtf8();
 }
 
+QStringList groupCaptions(const KPropertySet &set)
+{
+    QStringList captions;
+    for (const QByteArray &name : set.groupNames())
+        captions.append(set.groupCaption(name));
+    return captions;
+}
+
 int propertyIndex(const QString &key, const QString &group, const KPropertySet &set)
 {
     return int(set.propertyNamesForGroup(groupName(group)).indexOf(key.toUtf8()));

@@ -48,6 +48,8 @@ constexpr std::array kIcons = {
     IconRow{IconName::Open, "open", nullptr},
     IconRow{IconName::Save, "save", nullptr},
     IconRow{IconName::Edit, "edit", nullptr},
+    IconRow{IconName::ExpandAll, "expand-all", nullptr},
+    IconRow{IconName::CollapseAll, "collapse-all", nullptr},
     IconRow{IconName::Error, "error", &MeaningColors::error},
     IconRow{IconName::Warning, "warning", &MeaningColors::warning},
     IconRow{IconName::Question, "question", nullptr},

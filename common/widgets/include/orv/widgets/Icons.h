@@ -38,6 +38,8 @@ enum class IconName
     Open,
     Save,
     Edit,
+    ExpandAll,
+    CollapseAll,
     Error,
     Warning,
     Question,

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 class KProperty;
 class KPropertySet;
@@ -14,6 +15,9 @@ namespace orv::KPropertySetUtils {
 /// The name under which a set knows the group that users see as \a group: that text in lower case, and
 /// "common" for an empty one.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QByteArray groupName(const QString &group);
+
+/// What users see as the groups of \a set, in their order.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QStringList groupCaptions(const KPropertySet &set);
 
 /// The position of the property \a key among those of \a group, or -1 if it isn't there.
 [[nodiscard]] ORV_WORKFLOW_EXPORT int propertyIndex(const QString &key, const QString &group,

@@ -1,0 +1,58 @@
+#include "GenericEditorText.h"
+
+#include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+#include <orv/propertyeditor/editors/OrvGenericEditorObjectManager.h>
+
+#include <KProperty.h>
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+
+namespace orv::GenericEditorText {
+
+namespace {
+
+constexpr int kLinesOfCell = 4;
+
+QString editorTr(const char *text)
+{
+    return QCoreApplication::translate("OrvGenericEditor", text);
+}
+
+/// The first lines of \a text. The number of those that are left out is one less than there are: files of
+/// screen pictures and reports have it so.
+QString shortened(const QString &text)
+{
+    const qsizetype breaks = text.count(u'\n');
+    if (breaks <= kLinesOfCell)
+        return text;
+    qsizetype end = -1;
+    for (int line = 0; line < kLinesOfCell; ++line)
+        end = text.indexOf(u'\n', end + 1);
+    return text.left(end) + editorTr("...\n[%1 more line(s)]").arg(breaks - kLinesOfCell);
+}
+
+} // namespace
+
+QString textOf(const KProperty &property, Place place)
+{
+    const auto editor =
+        PropertySetCreator::Editor(property.option(PropertyEditorStringConstants::OPTION_EDITOR.data()).toInt());
+    const auto object = OrvGenericEditorObjectManager::instance()->getGenericEditorObject(editor);
+    const QString text =
+        (object ? object->toString(objectOf(property.value())) : editorTr("Unknown editor")).trimmed();
+    return place == Place::Cell ? shortened(text) : text;
+}
+
+QJsonObject objectOf(const QVariant &value)
+{
+    return PropertyEditorJsonUtils::variantToObject(value);
+}
+
+QVariant valueOf(const QJsonObject &object)
+{
+    return QJsonDocument(object).toJson();
+}
+
+} // namespace orv::GenericEditorText

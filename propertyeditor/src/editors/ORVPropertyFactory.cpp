@@ -1,0 +1,26 @@
+#include "orv/propertyeditor/editors/ORVPropertyFactory.h"
+
+#include <orv/propertyeditor/PropertiesTraits.h>
+#include <orv/propertyeditor/editors/OrvGenericDelegate.h>
+
+#include <KPropertyWidgetsPluginManager.h>
+
+namespace orv {
+
+ORVPropertyFactory::ORVPropertyFactory()
+{
+    addEditor(PropertiesTraits::ObjectType, new OrvGenericDelegate);
+}
+
+ORVPropertyFactory::~ORVPropertyFactory() = default;
+
+void ORVPropertyFactory::init()
+{
+    static bool isRegistered = false;
+    if (isRegistered)
+        return;
+    isRegistered = true;
+    KPropertyWidgetsPluginManager::self()->registerFactory(new ORVPropertyFactory);
+}
+
+} // namespace orv

@@ -1,0 +1,126 @@
+#include "orv/propertyeditor/editors/OrvGenericEditor.h"
+
+#include "GenericEditorText.h"
+#include "OrvGenericEditorPrivate.h"
+
+#include <orv/propertyeditor/editors/OrvGenericEditorObjectManager.h>
+#include <orv/propertyeditor/editors/ValueUnitValidator.h>
+#include <orv/widgets/ORVStyle.h>
+
+#include <KProperty.h>
+#include <KPropertyEditorItemEvent.h>
+#include <KPropertyEditorView.h>
+#include <KPropertyUtils.h>
+
+#include <QSignalBlocker>
+
+#include <limits>
+
+namespace orv {
+
+namespace {
+
+QByteArray nameOf(const KProperty *property)
+{
+    return property ? property->name() : QByteArray();
+}
+
+} // namespace
+
+OrvGenericEditorPrivate::OrvGenericEditorPrivate(PropertySetCreator::Editor type, const QByteArray &propertyName,
+                                                 QWidget *owner)
+    : editorType(type)
+    , object(OrvGenericEditorObjectManager::instance()->getGenericEditorObject(type))
+    , m_owner(owner)
+    , m_propertyName(propertyName)
+{
+    if (KPropertyEditorView *view = KPropertyUtils::viewForEditor(owner)) {
+        connect(view, &KPropertyEditorView::handlePropertyEditorItemEvent, this,
+                &OrvGenericEditorPrivate::handleItemEvent);
+    }
+}
+
+OrvGenericEditorPrivate::~OrvGenericEditorPrivate() = default;
+
+QString OrvGenericEditorPrivate::text() const
+{
+    return object ? object->toString(GenericEditorText::objectOf(value)).trimmed() : QString();
+}
+
+void OrvGenericEditorPrivate::handleItemEvent(KPropertyEditorItemEvent *event)
+{
+    if (!event->property() || event->property()->name() != m_propertyName ||
+        event->name() != QLatin1String("edit") || !m_owner)
+        return;
+    if (!object) {
+        ORVStyle::warning(m_owner, {}, OrvGenericEditor::tr("Unknown editor type: #%1").arg(int(editorType)),
+                          QMessageBox::Ok);
+        return;
+    }
+    // While the dialog is open, the editor may be closed and the property may go.
+    const QPointer<OrvGenericEditorPrivate> self(this);
+    const QSharedPointer<IGenericEditorObject> kept = object;
+    const KProperty property(*event->property());
+    QJsonObject edited = GenericEditorText::objectOf(m_owner->property("value"));
+    if (kept->handleEditObject(&edited, property, m_owner) && self)
+        event->setResult(GenericEditorText::valueOf(edited));
+}
+
+OrvGenericEditor::OrvGenericEditor(PropertySetCreator::Editor editorType, KProperty *property,
+                                   QWidget *parent)
+    : KPropertyStringEditor(parent)
+    , d(std::make_unique<OrvGenericEditorPrivate>(editorType, nameOf(property), this))
+{
+    if (editorType != PropertySetCreator::Editor::ValueUnit || !property)
+        return;
+    constexpr double kMost = std::numeric_limits<double>::max();
+    setValidator(new ValueUnitValidator(property->option("min", -kMost).toDouble(),
+                                        property->option("max", kMost).toDouble(), this));
+    connect(this, &QLineEdit::editingFinished, this, &OrvGenericEditor::commitText);
+}
+
+OrvGenericEditor::~OrvGenericEditor() = default;
+
+QVariant OrvGenericEditor::value() const
+{
+    return d->value;
+}
+
+void OrvGenericEditor::setValue(const QVariant &value)
+{
+    d->value = value;
+    const QSignalBlocker blocker(this);
+    setText(d->text());
+}
+
+void OrvGenericEditor::commitText()
+{
+    // The text shows fewer digits than the value may have: what nobody typed in stays.
+    if (!d->object || text() == d->text())
+        return;
+    d->value = GenericEditorText::valueOf(d->object->fromString(text()));
+    Q_EMIT commitData(this);
+}
+
+OrvGenericMultiLineEditor::OrvGenericMultiLineEditor(PropertySetCreator::Editor editorType,
+                                                     KProperty *property, QWidget *parent)
+    : KPropertyMultiLineStringEditor(parent)
+    , d(std::make_unique<OrvGenericEditorPrivate>(editorType, nameOf(property), this))
+{
+    setReadOnly(true);
+}
+
+OrvGenericMultiLineEditor::~OrvGenericMultiLineEditor() = default;
+
+QVariant OrvGenericMultiLineEditor::value() const
+{
+    return d->value;
+}
+
+void OrvGenericMultiLineEditor::setValue(const QVariant &value)
+{
+    d->value = value;
+    KPropertyMultiLineStringEditor::setValue(d->text());
+}
+
+} // namespace orv

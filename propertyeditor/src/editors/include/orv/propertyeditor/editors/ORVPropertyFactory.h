@@ -1,0 +1,20 @@
+#pragma once
+
+#include <orv/widgets/Export.h>
+
+#include <KPropertyWidgetsFactory.h>
+
+namespace orv {
+
+/// The editors of this system's own types of properties. GUI thread.
+class ORV_PROPERTY_EDITOR_EXPORT ORVPropertyFactory : public KPropertyWidgetsFactory
+{
+public:
+    ORVPropertyFactory();
+    ~ORVPropertyFactory() override;
+
+    /// Registers one factory for the process; later calls do nothing.
+    static void init();
+};
+
+} // namespace orv

@@ -1,0 +1,78 @@
+#include "ColumnMenu.h"
+
+#include "GridIcons.h"
+
+#include <KPropertySet.h>
+
+namespace orv {
+
+namespace {
+
+constexpr char kLogicalIndex[] = "logicalIndex";
+
+QString menuTr(const char *text)
+{
+    return QCoreApplication::translate("PropertyGridWidget", text);
+}
+
+} // namespace
+
+ColumnMenu::ColumnMenu(QWidget *parent)
+    : QMenu(parent)
+{
+    m_fold = addCommand(menuTr("Expand all"), {}, &ColumnMenu::foldRequested);
+    m_fold->setVisible(false);
+    addSeparator();
+    addCommand(menuTr("Remove"), GridIcons::icon(IconName::Remove, ":/icons/delete", "edit-delete"),
+               &ColumnMenu::removeRequested);
+    addCommand(menuTr("Rename"), GridIcons::icon(IconName::Edit, ":/icons/modify", "edit-rename"),
+               &ColumnMenu::renameRequested);
+    addCommand(menuTr("Create copy"), {}, &ColumnMenu::copyRequested);
+    m_moveLeft = addAction(menuTr("Move left"), this, [this] { Q_EMIT moveRequested(index(), -1); });
+    m_moveRight = addAction(menuTr("Move right"), this, [this] { Q_EMIT moveRequested(index(), 1); });
+    addSeparator();
+    const QIcon open = GridIcons::icon(IconName::Open, nullptr, "document-open");
+    m_karvon = addCommand(menuTr("Load xenoset ..."), open, &ColumnMenu::karvonRequested);
+    m_preview = addCommand(menuTr("Load prv..."), open, &ColumnMenu::previewRequested);
+}
+
+ColumnMenu::~ColumnMenu() = default;
+
+QAction *ColumnMenu::addCommand(const QString &text, const QIcon &icon, void (ColumnMenu::*requested)(int))
+{
+    return addAction(icon, text, this, [this, requested] { Q_EMIT (this->*requested)(index()); });
+}
+
+int ColumnMenu::index() const
+{
+    bool ok = false;
+    const int index = property(kLogicalIndex).toInt(&ok);
+    return ok ? index : -1;
+}
+
+void ColumnMenu::setIndex(int index)
+{
+    setProperty(kLogicalIndex, index);
+}
+
+void ColumnMenu::prepare(int count, GridPropertyEditorView *column)
+{
+    m_moveLeft->setVisible(index() != 0);
+    m_moveRight->setVisible(index() != count - 1);
+    const KPropertySet *set = column ? column->propertySet() : nullptr;
+    if (set && !set->isEmpty()) {
+        m_fold->setVisible(set->groupNames().size() >= 2);
+        const bool isExpanded = column->isExpanded();
+        m_fold->setText(isExpanded ? menuTr("Collapse all") : menuTr("Expand all"));
+        m_fold->setIcon(isExpanded
+                            ? GridIcons::icon(IconName::CollapseAll, ":/icons/collapse.png", "view-list-details")
+                            : GridIcons::icon(IconName::ExpandAll, ":/icons/expand.png", "view-list-tree"));
+    }
+    if (column) {
+        const BaseItemType type = column->documentType();
+        m_karvon->setVisible(type == BaseItemType::Karvon);
+        m_preview->setVisible(type == BaseItemType::Preview || type == BaseItemType::TrenqPreview);
+    }
+}
+
+} // namespace orv

@@ -1,0 +1,62 @@
+#include "orv/propertyeditor/grid/EditableTabBar.h"
+
+#include <QShortcut>
+
+namespace orv {
+
+EditableTabBar::EditableTabBar(QWidget *parent)
+    : QTabBar(parent)
+{
+    connect(this, &QTabBar::tabBarDoubleClicked, this, &EditableTabBar::onTabBarDoubleClicked);
+}
+
+EditableTabBar::~EditableTabBar() = default;
+
+void EditableTabBar::setEditorMode(GridPropertyEditorView::EditorMode mode)
+{
+    m_isEditable = mode == GridPropertyEditorView::EditorMode::Designer;
+    setMovable(m_isEditable);
+}
+
+void EditableTabBar::onTabBarDoubleClicked(int index)
+{
+    if (index < 0 || index >= count() || !m_isEditable || tabRect(index).isNull())
+        return;
+    delete m_editor;
+    auto *editor = new QLineEdit(tabText(index), this);
+    m_editor = editor;
+    editor->setAccessibleName(tr("Title of the tab"));
+    editor->setGeometry(tabRect(index));
+    editor->selectAll();
+    editor->show();
+    editor->setFocus(Qt::OtherFocusReason);
+    // Enter and the loss of focus both tell that editing is finished.
+    connect(
+        editor, &QLineEdit::editingFinished, this, [this, index] { commitTitle(index); },
+        Qt::SingleShotConnection);
+    connect(this, &QTabBar::currentChanged, editor, [this] { dropTitle(); }, Qt::SingleShotConnection);
+    auto *cancel = new QShortcut(QKeySequence::Cancel, editor);
+    cancel->setContext(Qt::WidgetShortcut);
+    connect(cancel, &QShortcut::activated, this, &EditableTabBar::dropTitle);
+}
+
+void EditableTabBar::dropTitle()
+{
+    if (m_editor)
+        m_editor->deleteLater();
+    m_editor = nullptr;
+}
+
+void EditableTabBar::commitTitle(int index)
+{
+    if (!m_editor)
+        return;
+    const QString text = m_editor->text();
+    dropTitle();
+    if (text.isEmpty() || index >= count() || text == tabText(index))
+        return;
+    setTabText(index, text);
+    Q_EMIT titleEdited(index);
+}
+
+} // namespace orv

@@ -1,0 +1,86 @@
+#include "orv/propertyeditor/grid/KPropertyCustomEditorView.h"
+
+#include <orv/core/FileTypes.h>
+#include <orv/propertyeditor/PropertiesTraits.h>
+#include <orv/resources/ResourceReference.h>
+
+#include <KProperty.h>
+#include <KPropertyUtils.h>
+
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QUrl>
+
+namespace orv {
+
+namespace {
+
+bool isReference(const KProperty *property)
+{
+    return property && property->type() == PropertiesTraits::ResourceReferenceType;
+}
+
+/// Whether the options of the reference \a property let it hold \a file.
+bool takesFile(const KProperty &property, const QFileInfo &file)
+{
+    const QStringList types = property.option("ext").toString().split(u';', Qt::SkipEmptyParts);
+    if (types.isEmpty())
+        return true;
+    const QString mode = property.option("fileMode").toString().toLower();
+    if (mode == QLatin1String("dirsonly"))
+        return file.isDir();
+    if (mode != QLatin1String("existingfile"))
+        return false;
+    return file.isFile() &&
+           FileTypes::fileSuffixesFromExtensionTypes(types).contains(file.suffix(), Qt::CaseInsensitive);
+}
+
+} // namespace
+
+KPropertyCustomEditorView::KPropertyCustomEditorView(QWidget *parent)
+    : KPropertyEditorView(parent)
+{
+    setHeaderHidden(true);
+    setGridLineColor(QColor());
+    setAcceptDrops(true);
+}
+
+KPropertyCustomEditorView::~KPropertyCustomEditorView() = default;
+
+void KPropertyCustomEditorView::dragEnterEvent(QDragEnterEvent *event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.isEmpty() || !urls.constFirst().isLocalFile()) {
+        event->ignore();
+        return;
+    }
+    m_dragged = QFileInfo(urls.constFirst().toLocalFile());
+    event->acceptProposedAction();
+}
+
+void KPropertyCustomEditorView::dragMoveEvent(QDragMoveEvent *event)
+{
+    const KProperty *property = KPropertyUtils::propertyForIndex(indexAt(event->position().toPoint()));
+    if (isReference(property) && takesFile(*property, m_dragged))
+        event->acceptProposedAction();
+    else
+        event->ignore();
+}
+
+void KPropertyCustomEditorView::dropEvent(QDropEvent *event)
+{
+    KProperty *property = KPropertyUtils::propertyForIndex(indexAt(event->position().toPoint()));
+    if (!property) {
+        event->ignore();
+        return;
+    }
+    event->acceptProposedAction();
+    if (!isReference(property))
+        return;
+    const Result<ResourceReferenceSPtr> reference =
+        ResourceReference::fromString(m_dragged.absoluteFilePath());
+    if (reference && *reference)
+        property->setValue(QVariant::fromValue(*reference));
+}
+
+} // namespace orv

@@ -1,0 +1,167 @@
+#include "orv/propertyeditor/grid/KPropertyViewItem.h"
+
+#include <orv/core/Logging.h>
+#include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/PropertySetCreator.h>
+#include <orv/propertyeditor/grid/GridItemManager.h>
+#include <orv/propertyeditor/grid/GridPropertyEditorView.h>
+#include <orv/resources/ResourceReferenceUtils.h>
+#include <orv/samples/SampleUtils.h>
+#include <orv/samples/SamplesInput.h>
+
+#include <KProperty.h>
+#include <KPropertySet.h>
+
+#include <QJsonDocument>
+#include <QSet>
+
+namespace orv {
+
+namespace {
+
+constexpr PropertyId kDisulfides = PropertyId(131);
+constexpr PropertyId kProteins = PropertyId(253);
+constexpr PropertyId kSamplesTable = PropertyId(265);
+constexpr PropertyId kSamplesOfStep = PropertyId(266);
+constexpr PropertyId kTheoreticalTable = PropertyId(271);
+
+/// Files by the names of their samples; of samples of one name the last one's.
+QHash<QString, QString> pathsByName(const QVariant &samples)
+{
+    const auto entries = samples.value<QList<SamplesInput::Entry>>();
+    QHash<QString, QString> paths;
+    paths.reserve(entries.size());
+    for (const SamplesInput::Entry &entry : entries) {
+        if (!entry.name.isEmpty())
+            paths.insert(entry.name, ResourceReferenceUtils::toString(entry.msFile));
+    }
+    return paths;
+}
+
+/// The names that samples went by once, as they are called now.
+class SampleRenaming
+{
+public:
+    explicit SampleRenaming(const GridMessage &message)
+        : m_before(pathsByName(message.previousValue))
+        , m_now(pathsByName(message.value))
+    {
+        m_nameByPath.reserve(m_now.size());
+        for (auto sample = m_now.cbegin(); sample != m_now.cend(); ++sample) {
+            if (!m_nameByPath.contains(sample.value()))
+                m_nameByPath.insert(sample.value(), sample.key());
+        }
+    }
+
+    /// \a names with those of removed samples gone and those of renamed ones changed.
+    [[nodiscard]] QStringList follow(const QStringList &names) const
+    {
+        QStringList followed;
+        followed.reserve(names.size());
+        for (const QString &name : names) {
+            const auto before = m_before.constFind(name);
+            if (before == m_before.cend() || m_now.contains(name))
+                followed.append(name);
+            else if (const auto now = m_nameByPath.constFind(*before); now != m_nameByPath.cend())
+                followed.append(*now);
+        }
+        return followed;
+    }
+
+private:
+    QHash<QString, QString> m_before;
+    QHash<QString, QString> m_now;
+    QHash<QString, QString> m_nameByPath;
+};
+
+} // namespace
+
+KPropertyViewItem::KPropertyViewItem(GridCommunicationManager *manager)
+    : KPropertyViewItem(manager, nullptr)
+{}
+
+KPropertyViewItem::KPropertyViewItem(GridCommunicationManager *manager, GridPropertyEditorView *view)
+    : GridCommunicative(manager)
+    , m_view(view)
+    , m_ownsView(!view)
+{
+    if (!m_view)
+        m_view = new GridPropertyEditorView;
+    connect(m_view, &GridPropertyEditorView::contentEdited, this, [this] { tellEdited(); });
+}
+
+KPropertyViewItem::~KPropertyViewItem()
+{
+    // Where it is shown, it belongs to what shows it.
+    if (m_ownsView && m_view && !m_view->parent())
+        delete m_view;
+}
+
+QWidget *KPropertyViewItem::widget()
+{
+    return m_view;
+}
+
+bool KPropertyViewItem::validate(QStringList *warnings, QStringList *, QStringList *,
+                                 WidgetValidationType) const
+{
+    return !m_view || m_view->validate(warnings);
+}
+
+Error KPropertyViewItem::setContentInternal()
+{
+    if (!m_view)
+        return notInitialized();
+    return m_view->setPropertiesFromSerializedJson(QJsonDocument(storedContent()).toJson());
+}
+
+QJsonObject KPropertyViewItem::content() const
+{
+    if (!m_view)
+        return {};
+    QJsonObject object;
+    if (const KPropertySet *set = m_view->propertySet()) {
+        const auto written =
+            PropertySetCreator::propertySetToObject(*set, PropertyEditor::PropertyConversionFlag::KeepPaths);
+        if (!written)
+            qCCritical(propertyEditorLog) << "A setting of the column" << name() << "can't be stored";
+        object = written.value_or(storedContent());
+    }
+    IGridItem::content(&object);
+    return object;
+}
+
+void KPropertyViewItem::messageReceived(const GridMessage &message)
+{
+    if (message.type == kSamplesTable)
+        followSamples(message);
+    else if (message.type == kDisulfides || message.type == kProteins)
+        followTable(message);
+}
+
+void KPropertyViewItem::followTable(const GridMessage &message)
+{
+    static const QByteArray name = PropertiesNames::internalNameForType(kTheoreticalTable).toUtf8();
+    KPropertySet *set = m_view ? m_view->propertySet() : nullptr;
+    if (set && set->contains(name))
+        set->property(name).setOption(PropertiesNames::internalNameForType(message.type).toUtf8().constData(),
+                                      message.value);
+}
+
+void KPropertyViewItem::followSamples(const GridMessage &message)
+{
+    KPropertySet *set = m_view ? m_view->propertySet() : nullptr;
+    const QByteArray name = PropertiesNames::displayNameForType(kSamplesOfStep).toUtf8();
+    if (!set || !set->contains(name))
+        return;
+    KProperty &property = set->property(name);
+    const QStringList names = splitSamples(property.value().toString());
+    property.setValue(joinSamples(SampleRenaming(message).follow(names)));
+}
+
+IGridItem *KPropertyItemCreator::createGridItem() const
+{
+    return new KPropertyViewItem(GridItemManager::instance()->communicationManager());
+}
+
+} // namespace orv

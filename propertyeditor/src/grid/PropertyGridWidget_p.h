@@ -1,0 +1,60 @@
+#pragma once
+
+#include "orv/propertyeditor/grid/PropertyGridWidget.h"
+
+#include "ColumnMenu.h"
+
+#include <QJsonObject>
+#include <QList>
+#include <QPointer>
+
+QT_FORWARD_DECLARE_CLASS(QScrollArea)
+
+namespace orv {
+
+class PropertySplitterWidget;
+
+class PropertyGridWidget::Private
+{
+public:
+    Private(PropertyGridWidget *grid, const QStringList &columns);
+    ~Private();
+    Q_DISABLE_COPY_MOVE(Private)
+
+    void layOut();
+    Error appendData(const VariantItems &cells);
+    void appendColumn(BaseItemType type, const QString &name, bool withDefaultContent);
+    void removeColumn(int index);
+    void renameColumn(int index, const QString &name);
+    void copyColumn(int index);
+    [[nodiscard]] QList<QPointer<GridPropertyEditorView>> views() const;
+
+    QSplitter *splitter;
+    QStringList columnNames;
+    QList<IGridItem *> items;
+    QHBoxLayout *buttonsLayout;
+    ColumnMenu *columnMenu;
+    QScrollArea *scrollArea = nullptr;
+    QWidget *scrollContent = nullptr;
+    GridPropertyEditorView::PropertiesViewMode propertiesViewMode =
+        GridPropertyEditorView::PropertiesViewMode::Basic;
+    GridPropertyEditorView::EditorMode editorMode = GridPropertyEditorView::EditorMode::Designer;
+    Error error;
+
+private:
+    void connectMenu();
+    void prepareMenu();
+    void askForName(int index);
+    void moveColumn(int index, int by);
+    [[nodiscard]] GridPropertyEditorView *viewAt(int index) const;
+    [[nodiscard]] PropertySplitterWidget *columnAt(int index) const;
+    [[nodiscard]] QString nameOfCopy(const QString &name) const;
+
+    Result<QJsonObject> parsedCell(const QVariant &cell) const;
+    Result<IGridItem *> createGridItem(const QVariant &cell);
+    Error createAndAdoptGridItem(const QVariant &cell, const QString &name);
+
+    PropertyGridWidget *q;
+};
+
+} // namespace orv

@@ -1,0 +1,66 @@
+#include "TreePlace.h"
+
+#include <KProperty.h>
+#include <KPropertyEditorView.h>
+#include <KPropertyUtils.h>
+
+#include <QScrollBar>
+
+namespace orv {
+
+namespace {
+
+/// Calls \a visit with each group row of \a view.
+template<typename Visit>
+void forEachGroup(const KPropertyEditorView &view, Visit visit)
+{
+    const QAbstractItemModel *model = view.model();
+    for (int row = 0; model && row < model->rowCount(); ++row) {
+        const QModelIndex index = model->index(row, 0);
+        if (!KPropertyUtils::propertyForIndex(index))
+            visit(index);
+    }
+}
+
+QModelIndex indexOf(const QAbstractItemModel &model, const QByteArray &name, const QModelIndex &parent = {})
+{
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, 0, parent);
+        const KProperty *property = KPropertyUtils::propertyForIndex(index);
+        if (property && property->name() == name)
+            return index;
+        if (!property) {
+            if (const QModelIndex found = indexOf(model, name, index); found.isValid())
+                return found;
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+TreePlace::TreePlace(const KPropertyEditorView &view)
+    : m_scroll(view.verticalScrollBar()->value())
+{
+    forEachGroup(view, [&](const QModelIndex &group) {
+        m_isExpanded.insert(group.data().toString(), view.isExpanded(group));
+    });
+    if (const KProperty *property = KPropertyUtils::propertyForIndex(view.currentIndex()))
+        m_current = property->name();
+}
+
+void TreePlace::restore(KPropertyEditorView *view, const QByteArray &current) const
+{
+    forEachGroup(*view, [&](const QModelIndex &group) {
+        view->setExpanded(group, m_isExpanded.value(group.data().toString(), true));
+    });
+    const QByteArray &name = current.isEmpty() ? m_current : current;
+    const QModelIndex index = name.isEmpty() || !view->model() ? QModelIndex() : indexOf(*view->model(), name);
+    if (index.isValid())
+        view->setCurrentIndex(index);
+    view->verticalScrollBar()->setValue(m_scroll);
+    if (index.isValid() && !current.isEmpty())
+        view->scrollTo(index);
+}
+
+} // namespace orv

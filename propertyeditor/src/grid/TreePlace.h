@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+
+class KPropertyEditorView;
+
+namespace orv {
+
+/// Where a person stands in a tree of settings: folds, scroll position and current property. Taken before the
+/// tree is built anew, and gone back to after.
+class TreePlace
+{
+public:
+    explicit TreePlace(const KPropertyEditorView &view);
+
+    /// What isn't there any more is passed over; \a current, if given, is gone to in place of the old one.
+    void restore(KPropertyEditorView *view, const QByteArray &current = {}) const;
+
+private:
+    QHash<QString, bool> m_isExpanded; ///< by caption of the group
+    QByteArray m_current;
+    int m_scroll = 0;
+};
+
+} // namespace orv

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <orv/propertyeditor/grid/GridPropertyEditorView.h>
+#include <orv/widgets/Export.h>
+
+#include <QLineEdit>
+#include <QPointer>
+#include <QTabBar>
+
+namespace orv {
+
+/// Tabs whose titles designers of workflows edit in place, by a double click, and move by dragging.
+class ORV_PROPERTY_EDITOR_EXPORT EditableTabBar : public QTabBar
+{
+    Q_OBJECT
+
+public:
+    explicit EditableTabBar(QWidget *parent = nullptr);
+    ~EditableTabBar() override;
+
+    void setEditorMode(GridPropertyEditorView::EditorMode mode);
+
+Q_SIGNALS:
+    /// A person gave the tab another title.
+    void titleEdited(int index);
+
+public Q_SLOTS:
+    void onTabBarDoubleClicked(int index);
+
+private:
+    void commitTitle(int index);
+    void dropTitle();
+
+    QPointer<QLineEdit> m_editor;
+    bool m_isEditable = false;
+};
+
+} // namespace orv

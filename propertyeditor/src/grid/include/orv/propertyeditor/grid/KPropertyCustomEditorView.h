@@ -1,0 +1,30 @@
+#pragma once
+
+#include <orv/widgets/Export.h>
+
+#include <KPropertyEditorView.h>
+
+#include <QFileInfo>
+
+namespace orv {
+
+/// The tree of a column of settings: takes a file or folder of the desktop where it is dropped on the row of a
+/// reference, if the reference can hold it. GUI thread.
+class ORV_PROPERTY_EDITOR_EXPORT KPropertyCustomEditorView : public KPropertyEditorView
+{
+    Q_OBJECT
+
+public:
+    explicit KPropertyCustomEditorView(QWidget *parent = nullptr);
+    ~KPropertyCustomEditorView() override;
+
+protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    QFileInfo m_dragged;
+};
+
+} // namespace orv
