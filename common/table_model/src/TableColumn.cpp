@@ -94,6 +94,47 @@ QString kindProblem(const TableColumn &column, QStringView kept)
     return {};
 }
 
+QString rangeHelp(const TableColumn &column)
+{
+    const bool isWhole = column.kind == TableColumnKind::Integer;
+    const QString unit = column.unit.isEmpty() ? QString() : u' ' + column.unit;
+    const QString low = column.minimum ? numberOf(*column.minimum) : QString();
+    const QString high = column.maximum ? numberOf(*column.maximum) : QString();
+    if (column.minimum && column.maximum)
+        return (isWhole ? TableColumnTr::tr("A whole number between %1 and %2%3.")
+                        : TableColumnTr::tr("A number between %1 and %2%3."))
+            .arg(low, high, unit);
+    if (column.minimum)
+        return (isWhole ? TableColumnTr::tr("A whole number of at least %1%2.")
+                        : TableColumnTr::tr("A number of at least %1%2."))
+            .arg(low, unit);
+    if (column.maximum)
+        return (isWhole ? TableColumnTr::tr("A whole number of at most %1%2.")
+                        : TableColumnTr::tr("A number of at most %1%2."))
+            .arg(high, unit);
+    return isWhole ? TableColumnTr::tr("A whole number.") : TableColumnTr::tr("A number.");
+}
+
+QString kindHelp(const TableColumn &column)
+{
+    switch (column.kind) {
+    case TableColumnKind::Integer:
+    case TableColumnKind::Number:
+        return rangeHelp(column);
+    case TableColumnKind::Choice:
+        return TableColumnTr::tr("One of: %1.").arg(column.choices.join(QStringLiteral(", ")));
+    case TableColumnKind::File:
+        return TableColumnTr::tr("A file; it can be dropped here.");
+    case TableColumnKind::Sequence:
+        return TableColumnTr::tr("A sequence; blanks and positions between its letters don't count.");
+    case TableColumnKind::Color:
+        return TableColumnTr::tr("A colour, written as #rrggbb.");
+    case TableColumnKind::Text:
+        break;
+    }
+    return {};
+}
+
 QString keptChoice(const QStringList &choices, QStringView typed)
 {
     const QStringView wanted = typed.trimmed();
@@ -114,6 +155,19 @@ QString TableColumn::header() const
 bool TableColumn::isNumeric() const
 {
     return kind == TableColumnKind::Integer || kind == TableColumnKind::Number;
+}
+
+QString TableColumn::help() const
+{
+    QStringList sentences = {explanation, kindHelp(*this)};
+    if (isRequired)
+        sentences.append(TableColumnTr::tr("Must not be empty."));
+    if (isUnique)
+        sentences.append(TableColumnTr::tr("Must not repeat."));
+    if (isReadOnly)
+        sentences.append(TableColumnTr::tr("Can't be changed."));
+    sentences.removeAll(QString());
+    return sentences.join(u' ');
 }
 
 QString TableColumn::kept(QStringView typed, NumberText::DecimalSign sign) const

@@ -120,6 +120,8 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
     switch (role) {
     case Qt::DisplayRole:
         return column.header();
+    case Qt::WhatsThisRole:
+        return column.help();
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
         return column.explanation.isEmpty() ? column.header() : column.explanation;

@@ -1,5 +1,7 @@
 #include "orv/widgets/CoreMainWindow.h"
 
+#include <orv/widgets/ControlHelp.h>
+
 namespace orv {
 
 namespace {
@@ -17,6 +19,7 @@ CoreMainWindow::CoreMainWindow(const ApplicationInfo &info, QWidget *parent)
     , m_info(info)
 {
     mainWindows().append(this);
+    ControlHelp::install();
 }
 
 CoreMainWindow::~CoreMainWindow()

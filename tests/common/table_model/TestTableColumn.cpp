@@ -27,6 +27,8 @@ private Q_SLOTS:
     void emptyCellsAreAllowedUnlessRequired();
     void aRuleOfTheColumnComesLast();
     void keptFormsFollowTheKind();
+    void helpSaysWhatMayStandThere_data();
+    void helpSaysWhatMayStandThere();
 };
 
 void TestTableColumn::headersCarryTheUnit()
@@ -111,6 +113,43 @@ void TestTableColumn::keptFormsFollowTheKind()
     QCOMPARE(columnOf(TableColumnKind::Number).kept(u"1,50", DecimalSign::Comma), u"1.50"_s);
     QCOMPARE(columnOf(TableColumnKind::Number).kept(u"about 2", DecimalSign::Comma), u"about 2"_s);
     QCOMPARE(columnOf(TableColumnKind::Text).kept(u" a ", DecimalSign::Comma), u" a "_s);
+}
+
+void TestTableColumn::helpSaysWhatMayStandThere_data()
+{
+    QTest::addColumn<TableColumnKind>("kind");
+    QTest::addColumn<std::optional<double>>("lowest");
+    QTest::addColumn<std::optional<double>>("highest");
+    QTest::addColumn<QString>("help");
+    using K = TableColumnKind;
+    using Bound = std::optional<double>;
+    QTest::newRow("text") << K::Text << Bound() << Bound() << QString();
+    QTest::newRow("number") << K::Number << Bound() << Bound() << u"A number."_s;
+    QTest::newRow("range") << K::Number << Bound(0.5) << Bound(9) << u"A number between 0.5 and 9 ppm."_s;
+    QTest::newRow("lowest") << K::Integer << Bound(1) << Bound() << u"A whole number of at least 1 ppm."_s;
+    QTest::newRow("highest") << K::Number << Bound() << Bound(9) << u"A number of at most 9 ppm."_s;
+    QTest::newRow("choice") << K::Choice << Bound() << Bound() << u"One of: a, b."_s;
+    QTest::newRow("colour") << K::Color << Bound() << Bound() << u"A colour, written as #rrggbb."_s;
+}
+
+void TestTableColumn::helpSaysWhatMayStandThere()
+{
+    QFETCH(TableColumnKind, kind);
+    QFETCH(std::optional<double>, lowest);
+    QFETCH(std::optional<double>, highest);
+    QFETCH(QString, help);
+    TableColumn column = columnOf(kind);
+    column.choices = {u"a"_s, u"b"_s};
+    column.minimum = lowest;
+    column.maximum = highest;
+    QCOMPARE(column.help(), help);
+    column.explanation = u"How wide it is."_s;
+    column.isRequired = true;
+    column.isUnique = true;
+    column.isReadOnly = true;
+    const QString told = help.isEmpty() ? QString() : help + u' ';
+    QCOMPARE(column.help(),
+             u"How wide it is. "_s + told + u"Must not be empty. Must not repeat. Can't be changed."_s);
 }
 
 ORV_REGISTER_TEST(TestTableColumn)

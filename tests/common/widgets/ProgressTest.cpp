@@ -96,8 +96,7 @@ void ProgressTest::longWorkShowsCountAndTimeLeft()
     TimedWork work(false);
     work.progress.reporter().setCount(10);
     QStringList shown;
-    const QList<std::pair<int, int>> steps = {
-        {2000, 2}, {2010, 3}, {600000, 5}, {700000, 10}, {0, 0}};
+    const QList<std::pair<int, int>> steps = {{2000, 2}, {2010, 3}, {600000, 5}, {700000, 10}, {0, 0}};
     (void)work.progress.runInSlices([&](ProgressReporter &reporter) {
         if (work.slices > 0)
             shown.append(isOnScreen() ? progressDetail() : u"nothing"_s);

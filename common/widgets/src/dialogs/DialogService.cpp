@@ -1,8 +1,11 @@
 #include "orv/widgets/DialogService.h"
 
 #include <orv/core/Logging.h>
+#include <orv/widgets/ControlHelp.h>
 
+#include <QAbstractButton>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QPointer>
@@ -42,8 +45,19 @@ std::optional<DialogAnswer> answerWithoutPerson(const DialogRequest &request)
     return DialogAnswer();
 }
 
+void prepare(QDialog &dialog)
+{
+    ControlHelp::install();
+    const QList<QDialogButtonBox *> boxes = dialog.findChildren<QDialogButtonBox *>();
+    for (const QDialogButtonBox *box : boxes) {
+        for (QAbstractButton *button : box->buttons())
+            button->setIcon({});
+    }
+}
+
 bool exec(QDialog &dialog)
 {
+    prepare(dialog);
     DialogRequest request;
     request.kind = DialogRequest::Kind::Dialog;
     request.title = dialog.windowTitle();

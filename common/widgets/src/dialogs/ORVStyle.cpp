@@ -113,6 +113,7 @@ ORVStyle::Button showBox(QWidget *parent, const BoxKind &kind, const BoxContent 
     const int side = box->style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, box);
     box->setIconPixmap(Icons::icon(kind.drawing).pixmap(QSize(side, side), box->devicePixelRatioF()));
     fillBox(*box, content);
+    DialogService::prepare(*box);
     ORVStyle::Button pressed = escapeButton(content);
     if (const auto answer = DialogService::answerWithoutPerson(requestOf(kind, *box, content))) {
         pressed = buttonOf(*box, answer->button, pressed);

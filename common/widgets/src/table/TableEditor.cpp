@@ -5,6 +5,7 @@
 #include <orv/core/FileUtils.h>
 #include <orv/core/Settings.h>
 #include <orv/table_model/TableExport.h>
+#include <orv/widgets/DialogService.h>
 #include <orv/widgets/Icons.h>
 #include <orv/widgets/MeaningColors.h>
 #include <orv/widgets/ORVFileDialog.h>
@@ -106,7 +107,6 @@ void TableEditor::build()
     top->addWidget(d->filter, 1);
     top->addWidget(d->onlyProblems);
     d->filter->addAction(Icons::icon(IconName::Filter), QLineEdit::LeadingPosition);
-    d->onlyProblems->setIcon(Icons::icon(IconName::Warning));
     d->onlyProblems->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     d->message = new QLabel;
     d->message->setObjectName(QStringLiteral("message"));
@@ -234,6 +234,7 @@ void TableEditor::showCounts()
     const int problems = d->sheet->problemCount();
     d->onlyProblems->setText(problems == 0 ? tr("No problems")
                                            : tr("Problems: %1").arg(locale.toString(problems)));
+    d->onlyProblems->setIcon(problems == 0 ? QIcon() : Icons::icon(IconName::Problem));
     d->onlyProblems->setEnabled(problems > 0 || d->onlyProblems->isChecked());
     QPalette colors = palette();
     if (problems > 0)
@@ -268,6 +269,7 @@ void TableEditor::importFile(const QString &path)
             row >= 0)
             d->view->goTo(d->view->tableModel()->index(row, d->view->shownColumns().value(0)));
     });
+    DialogService::prepare(*dialog);
     dialog->open();
 }
 

@@ -4,6 +4,8 @@
 #include "TableDelegate.h"
 #include "TableDrop.h"
 
+#include <orv/widgets/ControlHelp.h>
+
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -43,6 +45,7 @@ TableView::TableView(TableSheet *sheet, QWidget *parent)
     setWordWrap(false);
     setUpHeaders();
     d->commands = new TableCommands(this);
+    ControlHelp::install();
     fitColumns();
 }
 

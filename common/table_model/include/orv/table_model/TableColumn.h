@@ -52,6 +52,9 @@ struct ORV_WORKFLOW_EXPORT TableColumn
     [[nodiscard]] QString header() const;
     [[nodiscard]] bool isNumeric() const;
 
+    /// What the column holds and what may stand in it, in sentences for people who ask for help.
+    [[nodiscard]] QString help() const;
+
     /// The form in which the table keeps what a person typed or pasted: digits with a point, choices as they
     /// are spelt, sequences without blanks and in upper case. What can't be valid is kept as it is.
     [[nodiscard]] QString kept(QStringView typed, NumberText::DecimalSign sign) const;

@@ -21,6 +21,10 @@ ORV_PROPERTY_EDITOR_EXPORT DialogAnswerer *install(DialogAnswerer *answerer);
 [[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT std::optional<DialogAnswer>
 answerWithoutPerson(const DialogRequest &request);
 
+/// What every dialog has in common, before it is shown: F1 explains its controls, and its buttons have words
+/// alone. exec() does it itself.
+ORV_PROPERTY_EDITOR_EXPORT void prepare(QDialog &dialog);
+
 /// Shows a modal dialog and waits; whether it was accepted. A dialog that is destroyed meanwhile wasn't.
 [[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT bool exec(QDialog &dialog);
 

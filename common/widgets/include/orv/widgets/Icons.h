@@ -40,6 +40,7 @@ enum class IconName
     Edit,
     ExpandAll,
     CollapseAll,
+    Problem, ///< of a cell or a field that isn't allowed
     Error,
     Warning,
     Question,

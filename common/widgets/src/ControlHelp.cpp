@@ -1,0 +1,134 @@
+#include "orv/widgets/ControlHelp.h"
+
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QWhatsThis>
+
+#include <algorithm>
+
+namespace orv::ControlHelp {
+
+namespace {
+
+struct ControlHelpTr
+{
+    Q_DECLARE_TR_FUNCTIONS(ControlHelp)
+};
+
+QString asMarkup(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? text : text.toHtmlEscaped().replace(u'\n', QStringLiteral("<br/>"));
+}
+
+QString paragraph(const QString &text)
+{
+    return text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(asMarkup(text));
+}
+
+QString heading(const QString &text)
+{
+    return text.isEmpty() ? QString() : QStringLiteral("<p><b>%1</b></p>").arg(text.toHtmlEscaped());
+}
+
+QString firstTold(std::initializer_list<QString> texts)
+{
+    const auto told =
+        std::find_if(texts.begin(), texts.end(), [](const QString &text) { return !text.isEmpty(); });
+    return told == texts.end() ? QString() : *told;
+}
+
+QString ownText(const QWidget &control)
+{
+    return firstTold({control.whatsThis(), control.toolTip(), control.accessibleDescription()});
+}
+
+QString nameOf(const QWidget &control)
+{
+    QAccessibleInterface *const accessible =
+        QAccessible::queryAccessibleInterface(const_cast<QWidget *>(&control));
+    return accessible ? accessible->text(QAccessible::Name).remove(u'&') : control.accessibleName();
+}
+
+/// The view that this is, or is part of, as its editors are.
+const QAbstractItemView *viewOf(const QWidget *control)
+{
+    for (const QWidget *at = control; at && !at->isWindow(); at = at->parentWidget()) {
+        if (const auto *const view = qobject_cast<const QAbstractItemView *>(at))
+            return view;
+    }
+    return qobject_cast<const QAbstractItemView *>(control);
+}
+
+QString cellExplanation(const QModelIndex &cell)
+{
+    if (!cell.isValid())
+        return {};
+    const auto header = [&](int role) {
+        return cell.model()->headerData(cell.column(), Qt::Horizontal, role).toString();
+    };
+    const QString told = firstTold(
+        {cell.data(Qt::WhatsThisRole).toString(), header(Qt::WhatsThisRole), header(Qt::ToolTipRole)});
+    if (told.isEmpty())
+        return {};
+    const QString problem = cell.data(Qt::AccessibleDescriptionRole).toString();
+    return heading(header(Qt::DisplayRole)) + paragraph(told) +
+           paragraph(problem.isEmpty() ? QString() : ControlHelpTr::tr("This cell: %1").arg(problem));
+}
+
+/// Hears the key before the control that has the focus.
+class HelpKey : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress || !watched->isWidgetType() ||
+            !static_cast<QKeyEvent *>(event)->matches(QKeySequence::HelpContents))
+            return false;
+        QWidget *const control = QApplication::focusWidget();
+        const QString text = control ? explanation(control) : QString();
+        if (text.isEmpty())
+            return false;
+        const QAbstractItemView *const view = viewOf(control);
+        const QRect place =
+            view && view->currentIndex().isValid() ? view->visualRect(view->currentIndex()) : control->rect();
+        const QWidget *const area = view ? view->viewport() : control;
+        QWhatsThis::showText(area->mapToGlobal(place.bottomLeft()), text, control);
+        return true;
+    }
+};
+
+} // namespace
+
+void install()
+{
+    const QString name = QStringLiteral("orvHelpKey");
+    if (!qApp || qApp->findChild<QObject *>(name, Qt::FindDirectChildrenOnly))
+        return;
+    auto *const key = new HelpKey(qApp);
+    key->setObjectName(name);
+    qApp->installEventFilter(key);
+}
+
+QString explanation(const QWidget *control)
+{
+    if (!control)
+        return {};
+    if (const QAbstractItemView *const view = viewOf(control)) {
+        if (const QString ofCell = cellExplanation(view->currentIndex()); !ofCell.isEmpty())
+            return ofCell;
+    }
+    for (const QWidget *at = control; at; at = at->parentWidget()) {
+        if (const QString text = ownText(*at); !text.isEmpty())
+            return heading(nameOf(*control)) + paragraph(text);
+        // The list of a combo box is a window, but part of it.
+        if (at->isWindow() && at->windowType() != Qt::Popup)
+            break;
+    }
+    return {};
+}
+
+} // namespace orv::ControlHelp

@@ -1,0 +1,149 @@
+#include "EditorFixture.h"
+#include "WidgetTest.h"
+
+#include <orv/widgets/ControlHelp.h>
+#include <orv/widgets/DialogAnswerer.h>
+#include <orv/widgets/DialogService.h>
+
+#include <QComboBox>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QWhatsThis>
+
+using namespace orv;
+using EditorFixture::Editor;
+using EditorFixture::text;
+
+namespace {
+
+bool isHelpShown()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.cbegin(), windows.cend(), [](const QWidget *window) {
+        return window->isVisible() && window->inherits("QWhatsThat");
+    });
+}
+
+/// What F1 shows with the focus where it is, and that it does show it.
+QString helpByKey()
+{
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
+    const bool isShown = isHelpShown();
+    QWhatsThis::hideText();
+    return isShown ? ControlHelp::explanation(QApplication::focusWidget()) : QString();
+}
+
+} // namespace
+
+class ControlHelpTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cellsTellWhatTheirColumnHolds();
+    void cellsTellWhatIsWrongWithThem();
+    void editorsOfCellsTellTheSame();
+    void fieldsTellTheirTipUnderTheirName();
+    void partsTellWhatTheWholeTells();
+    void textsFromFilesAreNoMarkup();
+    void whatTellsNothingLeavesTheKey();
+    void dialogsAnswerTheKeyToo();
+};
+
+void ControlHelpTest::cellsTellWhatTheirColumnHolds()
+{
+    Editor e;
+    e.click(0, 1);
+    QCOMPARE(helpByKey(), text("<p><b>Mass (Da)</b></p><p>A number between 0 and 10000 Da.</p>"));
+    e.click(0, 3);
+    QCOMPARE(helpByKey(), text("<p><b>Mode</b></p><p>One of: Positive, Negative.</p>"));
+}
+
+void ControlHelpTest::cellsTellWhatIsWrongWithThem()
+{
+    Editor e;
+    QVERIFY(!e.sheet.setText(0, 0, u"").hasError());
+    e.click(0, 0);
+    QCOMPARE(helpByKey(),
+             text("<p><b>Name</b></p><p>Must not be empty.</p><p>This cell: Must not be empty.</p>"));
+}
+
+void ControlHelpTest::editorsOfCellsTellTheSame()
+{
+    Editor e;
+    e.click(1, 1);
+    e.key(Qt::Key_F2);
+    QVERIFY(QApplication::focusWidget() != e.view());
+    QVERIFY(helpByKey().startsWith(text("<p><b>Mass (Da)</b></p>")));
+    e.key(Qt::Key_Escape);
+}
+
+void ControlHelpTest::fieldsTellTheirTipUnderTheirName()
+{
+    Editor e;
+    auto *const filter = e.editor.findChild<QLineEdit *>(text("filter"));
+    filter->setFocus();
+    filter->setToolTip(text("Words that a row must hold"));
+    QCOMPARE(helpByKey(), text("<p><b>Filter rows</b></p><p>Words that a row must hold</p>"));
+    filter->setWhatsThis(text("More about it"));
+    QCOMPARE(helpByKey(), text("<p><b>Filter rows</b></p><p>More about it</p>"));
+}
+
+void ControlHelpTest::partsTellWhatTheWholeTells()
+{
+    QWidget window;
+    QComboBox box(&window);
+    box.addItem(text("one"));
+    box.setWhatsThis(text("A choice"));
+    window.show();
+    QVERIFY(ControlHelp::explanation(box.view()).endsWith(text("<p>A choice</p>")));
+}
+
+void ControlHelpTest::textsFromFilesAreNoMarkup()
+{
+    QWidget field;
+    field.setAccessibleName(text("a < b"));
+    field.setToolTip(text("c < d\nand more"));
+    QCOMPARE(ControlHelp::explanation(&field), text("<p><b>a &lt; b</b></p><p>c &lt; d<br/>and more</p>"));
+}
+
+void ControlHelpTest::whatTellsNothingLeavesTheKey()
+{
+    QWidget window;
+    QLineEdit line(&window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    line.setFocus();
+    QTest::keyClick(&line, Qt::Key_F1);
+    QVERIFY(!isHelpShown());
+    QCOMPARE(ControlHelp::explanation(nullptr), QString());
+}
+
+void ControlHelpTest::dialogsAnswerTheKeyToo()
+{
+    ScriptedAnswerer answers;
+    answers.expectDialog(text("Tolerance"), [](QDialog &dialog) {
+        dialog.show();
+        (void)QTest::qWaitForWindowActive(&dialog);
+        dialog.findChild<QLineEdit *>()->setFocus();
+        const auto *const buttons = dialog.findChild<QDialogButtonBox *>();
+        return helpByKey() == text("<p><b>Width:</b></p><p>In ppm</p>") &&
+               buttons->button(QDialogButtonBox::Ok)->icon().isNull();
+    });
+    QDialog dialog;
+    dialog.setWindowTitle(text("Tolerance"));
+    auto *const layout = new QFormLayout(&dialog);
+    auto *const line = new QLineEdit;
+    line->setToolTip(text("In ppm"));
+    layout->addRow(text("&Width:"), line);
+    layout->addRow(new QDialogButtonBox(QDialogButtonBox::Ok));
+    QVERIFY(DialogService::exec(dialog));
+    QVERIFY(answers.isDone());
+}
+
+WIDGET_REGISTER_TEST(ControlHelpTest)
+
+#include "ControlHelpTest.moc"
