@@ -170,10 +170,11 @@ QStringView Pasting::kept(const TableColumn &column, QStringView typed)
 
 void Pasting::pasteField(int row, int column, QStringView typed)
 {
-    if (m_columns[column].isReadOnly)
+    if (m_columns[column].isReadOnly) {
         ++m_outcome.readOnlyCells;
-    else
+    } else {
         m_cells.append({row, column, kept(m_columns[column], typed)});
+    }
 }
 
 void Pasting::pasteRow(int row, qsizetype from, int repetitions)
@@ -198,6 +199,8 @@ Result<Outcome> Pasting::run()
                            m_target.selected.width() % width == 0 && !m_target.selected.isEmpty();
     const int down = fitsOften ? m_target.selected.height() / rows : 1;
     const int across = fitsOften ? m_target.selected.width() / width : 1;
+    if (Error error = m_model.sheet()->checkRoom(m_grid.text.size() * down * across); error.hasError())
+        return error.ecatch();
     m_cells.reserve(m_grid.fields.size() * down * across);
     m_outcome.rows = rows * down;
     m_outcome.columnsLeftOut = std::max(0, width - int(m_targets.size()));

@@ -35,11 +35,26 @@ QString replaced(const TableModel &model, const TableSearch &search, const QMode
     return model.sheet()->columns()[cell.column()].kept(shown, model.decimalSign());
 }
 
+/// A long text in many cells would fill the memory before the sheet refuses it.
+Error checkRoom(const TableModel &model, const TableSearch &search, const QModelIndexList &cells,
+                const QString &replacement)
+{
+    qsizetype units = 0;
+    for (const QModelIndex &cell : cells) {
+        const QString shown = cell.data().toString();
+        const auto sensitivity = search.isCaseSensitive ? Qt::CaseSensitive : Qt::CaseInsensitive;
+        units += shown.size() + shown.count(search.text, sensitivity) * replacement.size();
+    }
+    return model.sheet()->checkRoom(units);
+}
+
 Result<int> replaceIn(const TableModel &model, const TableSearch &search, const QModelIndexList &cells,
                       const QString &replacement)
 {
     std::deque<QString> texts;
     QList<TableCellText> changes;
+    if (Error error = checkRoom(model, search, cells, replacement); error.hasError())
+        return error.ecatch();
     for (const QModelIndex &cell : cells) {
         if (!cell.flags().testFlag(Qt::ItemIsEditable))
             continue;

@@ -2,6 +2,8 @@
 
 #include "internal/TableEdit.h"
 
+#include <QPointer>
+
 namespace orv {
 
 TableHistory::TableHistory(QObject *parent)
@@ -20,32 +22,34 @@ QString TableHistory::redoText() const
     return canRedo() ? m_edits[size_t(m_index)]->text() : QString();
 }
 
-void TableHistory::moveTo(int index)
-{
-    if (std::exchange(m_index, index) != index)
-        Q_EMIT indexChanged();
-}
-
+// The index moves first: a step that a listener takes meanwhile then stands behind this one.
 void TableHistory::undo()
 {
     if (!canUndo())
         return;
-    m_edits[size_t(m_index) - 1]->undo();
-    moveTo(m_index - 1);
+    const std::shared_ptr<TableEdit> edit = m_edits[size_t(--m_index)];
+    const QPointer<TableHistory> guard(this);
+    edit->undo();
+    if (guard)
+        Q_EMIT indexChanged();
 }
 
 void TableHistory::redo()
 {
     if (!canRedo())
         return;
-    m_edits[size_t(m_index)]->redo();
-    moveTo(m_index + 1);
+    const std::shared_ptr<TableEdit> edit = m_edits[size_t(m_index++)];
+    const QPointer<TableHistory> guard(this);
+    edit->redo();
+    if (guard)
+        Q_EMIT indexChanged();
 }
 
 void TableHistory::clear()
 {
     m_edits.clear();
-    moveTo(0);
+    if (std::exchange(m_index, 0) != 0)
+        Q_EMIT indexChanged();
 }
 
 void TableHistory::push(std::unique_ptr<TableEdit> edit)

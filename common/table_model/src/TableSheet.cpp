@@ -3,6 +3,7 @@
 #include "internal/TableSheetPrivate.h"
 
 #include <QCoreApplication>
+#include <QPointer>
 
 #include <algorithm>
 #include <numeric>
@@ -166,7 +167,10 @@ Error TableSheet::load(const QList<QStringList> &rows)
 {
     if (unitsOf(rows) > TableStore::kMaxUnits)
         return tooMuchText();
+    const QPointer<TableSheet> guard(this);
     d->history->clear();
+    if (!guard)
+        return Error::NoError;
     d->store = TableStore(columnCount());
     d->store.reserveRows(rows.size());
     d->order.assign({});
@@ -181,6 +185,11 @@ Error TableSheet::load(const QList<QStringList> &rows)
     d->order.assign(std::move(ids));
     Q_EMIT loaded();
     return Error::NoError;
+}
+
+Error TableSheet::checkRoom(qsizetype units) const
+{
+    return d->store.hasRoom(units) ? Error::NoError : tooMuchText();
 }
 
 Error TableSheet::setCells(const QList<TableCellText> &cells, const QString &step)

@@ -2,6 +2,8 @@
 #include "TableFixture.h"
 
 #include <QAbstractItemModelTester>
+#include <QRandomGenerator>
+#include <QSet>
 #include <QSignalSpy>
 
 using namespace orv;
@@ -52,6 +54,9 @@ private Q_SLOTS:
     void editsOfTheSheetAreFollowed();
     void rowsThatStayKeepTheirPersistentIndex();
     void manyRowsComeAndGoAtOnce();
+    void aSheetThatGoesLeavesItsColumns();
+    void anyOrderOfEditsFiltersAndSortsFits_data();
+    void anyOrderOfEditsFiltersAndSortsFits();
 };
 
 void TestTableModel::cellsAreSeenInTheLocale()
@@ -303,6 +308,84 @@ void TestTableModel::manyRowsComeAndGoAtOnce()
     QVERIFY(resets.size() > 0);
     p.sheet.history()->undo();
     QCOMPARE(p.model.rowCount(), 0);
+}
+
+void TestTableModel::aSheetThatGoesLeavesItsColumns()
+{
+    auto sheet = std::make_unique<TableSheet>(TableFixture::columns());
+    ORV_VERIFY_OK(sheet->load(TableFixture::peptides()));
+    TableModel model(sheet.get());
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    model.sort(1);
+    const QPersistentModelIndex cell = model.index(0, 0);
+    sheet.reset();
+    QVERIFY(!cell.isValid());
+    QCOMPARE(model.rowCount(), 0);
+    QCOMPARE(model.columnCount(), 4);
+    model.setFilter({u"a"_s, true});
+    model.sort(-1);
+    model.sheet()->insertRows(0, 1);
+    QCOMPARE(model.sheet()->rowCount(), 1);
+}
+
+void TestTableModel::anyOrderOfEditsFiltersAndSortsFits_data()
+{
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed = 1; seed <= 20; ++seed)
+        QTest::addRow("seed %u", seed) << seed;
+}
+
+void TestTableModel::anyOrderOfEditsFiltersAndSortsFits()
+{
+    QFETCH(quint32, seed);
+    QRandomGenerator random(seed);
+    Peptides p;
+    const auto some = [&](int below) { return int(random.bounded(std::max(1, below))); };
+    for (int step = 0; step < 120; ++step) {
+        const int rowsOfSheet = p.sheet.rowCount();
+        const int rowsShown = p.model.rowCount();
+        switch (some(9)) {
+        case 0:
+            p.model.sort(some(5) - 1, some(2) ? Qt::AscendingOrder : Qt::DescendingOrder);
+            break;
+        case 1:
+            p.model.setFilter(
+                {QStringList({u"a"_s, u"pos 2"_s, u"zz"_s, QString()}).at(some(4)), some(4) == 0});
+            break;
+        case 2:
+            p.sheet.duplicateRows({some(rowsOfSheet), some(rowsOfSheet)});
+            break;
+        case 3:
+            p.sheet.removeRows({some(rowsOfSheet), some(rowsOfSheet)});
+            break;
+        case 4:
+            p.sheet.moveRows({some(rowsOfSheet)}, some(rowsOfSheet));
+            break;
+        case 5:
+            p.sheet.history()->undo();
+            break;
+        case 6:
+            p.sheet.history()->redo();
+            break;
+        case 7:
+            p.model.keepOrder();
+            break;
+        default:
+            if (rowsShown > 0)
+                QVERIFY(p.model.setData(p.model.index(some(rowsShown), some(4)), QString::number(some(30))));
+        }
+        QSet<quint32> shown;
+        for (int row = 0; row < p.model.rowCount(); ++row) {
+            QVERIFY(p.model.sheetRow(row) >= 0);
+            QCOMPARE(p.model.index(row, 0).data().toString(), p.sheet.text(p.model.sheetRow(row), 0));
+            shown.insert(p.model.rowId(row));
+        }
+        QCOMPARE(shown.size(), p.model.rowCount());
+    }
+    p.model.setFilter({});
+    QCOMPARE(p.model.rowCount(), p.sheet.rowCount());
+    p.model.sort(-1);
+    QCOMPARE(TableFixture::seen(p.model), p.sheet.allTexts());
 }
 
 ORV_REGISTER_TEST(TestTableModel)

@@ -1,8 +1,15 @@
 #include "OrvTest.h"
 #include "TableFixture.h"
 
+#include <orv/table_model/TableClipboard.h>
+#include <orv/table_model/TableFind.h>
+
+#include <QPointer>
 #include <QRandomGenerator>
+#include <QSignalMapper>
 #include <QSignalSpy>
+
+#include <functional>
 
 using namespace orv;
 using namespace Qt::StringLiterals;
@@ -86,6 +93,10 @@ private Q_SLOTS:
     void rowsKeepTheirIds();
     void loadingForgetsTheHistory();
     void problemsAreCounted();
+    void listenersMayEditInBetween();
+    void listenersMayDeleteTheSheet_data();
+    void listenersMayDeleteTheSheet();
+    void tooMuchTextChangesNothing();
     void randomEditsAreUndoneAndRedone_data();
     void randomEditsAreUndoneAndRedone();
 };
@@ -249,6 +260,89 @@ void TestTableSheet::problemsAreCounted()
     sheet.history()->undo();
     sheet.countProblems(100);
     QCOMPARE(sheet.problemCount(), 0);
+}
+
+void TestTableSheet::listenersMayEditInBetween()
+{
+    PeptideSheet sheet;
+    const QList<QStringList> before = sheet.allTexts();
+    connect(&sheet, &TableSheet::cellsChanged, &sheet, [&sheet](const QList<quint32> &, int first) {
+        if (first == 1)
+            ORV_VERIFY_OK(sheet.setText(0, 3, sheet.text(0, 1)));
+    });
+    ORV_VERIFY_OK(sheet.setCells({{0, 1, u"7"}, {6, 0, u"new"}}, u"two steps"_s));
+    QCOMPARE(sheet.texts(0), TableFixture::row("alpha 7 2 7"));
+    QCOMPARE(sheet.rowCount(), 7);
+    QCOMPARE(sheet.history()->count(), 2);
+    sheet.history()->undo();
+    QCOMPARE(sheet.text(0, 3), u"Positive");
+    // The listener answers this step, too, and the undone one is gone.
+    sheet.history()->undo();
+    QCOMPARE(sheet.texts(0), TableFixture::row("alpha 500.25 2 500.25"));
+    QCOMPARE(sheet.history()->count(), 1);
+    sheet.history()->undo();
+    QCOMPARE(sheet.allTexts(), before);
+}
+
+void TestTableSheet::listenersMayDeleteTheSheet_data()
+{
+    QTest::addColumn<QByteArray>("signal");
+    for (const char *signal :
+         {SIGNAL(cellsChanged(QList<quint32>, int, int)), SIGNAL(rowsInserted(QList<int>)),
+          SIGNAL(rowsRemoved(QList<quint32>)), SIGNAL(rowsReordered()), SIGNAL(loaded()),
+          SIGNAL(problemsChanged(QList<quint32>)), SIGNAL(problemsCounted())})
+        QTest::newRow(signal) << QByteArray(signal);
+    QTest::newRow("indexChanged") << QByteArray();
+}
+
+void TestTableSheet::listenersMayDeleteTheSheet()
+{
+    QFETCH(QByteArray, signal);
+    using Edit = std::function<void(TableSheet &)>;
+    const auto mustBeFine = [](const Error &error) { QVERIFY(!error.hasError()); };
+    const QList<Edit> edits = {[&](TableSheet &s) {
+                                   mustBeFine(s.setCells({{0, 0, u"x"}, {9, 1, u"3"}}, u"s"_s));
+                               },
+                               [&](TableSheet &s) { s.history()->undo(); },
+                               [&](TableSheet &s) { s.history()->redo(); },
+                               [&](TableSheet &s) {
+                                   s.removeRows({0, 2});
+                               },
+                               [&](TableSheet &s) { s.duplicateRows({0}); },
+                               [&](TableSheet &s) { s.moveRows({0}, 3); },
+                               [&](TableSheet &s) { s.countProblems(100); },
+                               [&](TableSheet &s) { s.checkAnew(); },
+                               [&](TableSheet &s) { mustBeFine(s.load(TableFixture::peptides())); }};
+    for (const Edit &edit : edits) {
+        QPointer<TableSheet> sheet = new PeptideSheet;
+        sheet->insertRows(0, 1);
+        sheet->history()->undo();
+        const auto die = [&sheet] { delete sheet; };
+        QSignalMapper mapper;
+        mapper.setMapping(sheet, 1);
+        mapper.setMapping(sheet->history(), 1);
+        if (signal.isEmpty())
+            connect(sheet->history(), SIGNAL(indexChanged()), &mapper, SLOT(map()));
+        else
+            connect(sheet, signal.constData(), &mapper, SLOT(map()));
+        connect(&mapper, &QSignalMapper::mappedInt, &mapper, die);
+        edit(*sheet);
+        delete sheet;
+    }
+}
+
+void TestTableSheet::tooMuchTextChangesNothing()
+{
+    TableSheet sheet(TableFixture::columns());
+    ORV_VERIFY_OK(sheet.load(QList<QStringList>(2000, {u"a"_s})));
+    const TableModel model(&sheet);
+    const QString much = QString(1 << 20, u'b');
+    const Result<int> replaced = TableFind::replaceAll(model, {.text = u"a"_s, .columns = {0}}, much);
+    QCOMPARE(replaced.error().errorMessage(), u"The table can't hold that much text."_s);
+    const auto pasted = TableClipboard::paste(model, {0, {3}, {1, 2000}}, much);
+    QCOMPARE(pasted.error().errorMessage(), u"The table can't hold that much text."_s);
+    QCOMPARE(sheet.text(1999, 0), u"a");
+    QCOMPARE(sheet.history()->count(), 0);
 }
 
 void TestTableSheet::randomEditsAreUndoneAndRedone_data()

@@ -166,11 +166,17 @@ void ServicesTest::referencesAreChosen()
     options.start = chosen;
     QVERIFY(!FileChooserDialogManager::showFileChooser(options, nullptr));
     QCOMPARE(answers.transcript().value(1).startPath, folder.filePath(u"a.fasta"_s));
-    FileChooserDialogManager::setChooser([chosen](const FileChooserDialogOptions &, QWidget *, int page) {
+    QString place;
+    FileChooserDialogManager::setChooser([&](const FileChooserDialogOptions &, QWidget *, int page,
+                                             const FileSystemSettings::DirectoryLocation &location) {
+        FileChooserDialogManager::setChooser({});
+        place = location.name;
         return page == 2 ? chosen : ResourceReferenceSPtr();
     });
-    QCOMPARE(FileChooserDialogManager::showFileChooser(options, nullptr, 2), chosen);
-    FileChooserDialogManager::setChooser({});
+    QCOMPARE(FileChooserDialogManager::showFileChooser(options, nullptr, 2,
+                                                       FileSystemSettings::NewProjectLocation),
+             chosen);
+    QCOMPARE(place, u"NewProjectLocation"_s);
 }
 
 void ServicesTest::theMainWindowTellsTheApplication()

@@ -41,14 +41,15 @@ TableEdit::TableEdit(Take take, QList<TableStep> steps, const QString &text)
 
 void TableEdit::undo() const
 {
+    QList<TableStep> steps;
     for (qsizetype i = m_steps.size(); i > 0; --i)
-        m_take(inverse(m_steps.at(i - 1)));
+        steps.append(inverse(m_steps.at(i - 1)));
+    m_take(steps);
 }
 
 void TableEdit::redo() const
 {
-    for (const TableStep &step : m_steps)
-        m_take(step);
+    m_take(m_steps);
 }
 
 } // namespace orv

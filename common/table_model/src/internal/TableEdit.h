@@ -41,8 +41,8 @@ using TableStep = std::variant<QList<TableCellChange>, TableRowsChange, TableOrd
 class TableEdit
 {
 public:
-    /// \a take does a step; whoever owns the history outlives this.
-    using Take = std::function<void(const TableStep &)>;
+    /// Does steps one after the other; whoever owns the history outlives this.
+    using Take = std::function<void(const QList<TableStep> &)>;
 
     TableEdit(Take take, QList<TableStep> steps, const QString &text);
 

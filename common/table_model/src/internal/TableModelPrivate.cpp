@@ -26,6 +26,8 @@ QList<int> places(const RowRun &run)
 
 void TableModel::Private::follow()
 {
+    QObject::connect(sheet, &QObject::destroyed, q,
+                     [this, columns = sheet->columns()] { goOnWithoutSheet(columns); });
     QObject::connect(sheet, &TableSheet::loaded, q, [this] { reload(); });
     QObject::connect(sheet, &TableSheet::rowsInserted, q, [this](const QList<int> &rows) { insert(rows); });
     QObject::connect(sheet, &TableSheet::rowsRemoved, q, [this](const QList<quint32> &ids) { remove(ids); });
@@ -37,6 +39,13 @@ void TableModel::Private::follow()
         tellChanged(ids, 0, sheet->columnCount() - 1,
                     {ProblemRole, Qt::ToolTipRole, Qt::AccessibleDescriptionRole});
     });
+}
+
+/// Views ask on until they go themselves.
+void TableModel::Private::goOnWithoutSheet(const QList<TableColumn> &columns)
+{
+    sheet = new TableSheet(columns, q);
+    reload();
 }
 
 void TableModel::Private::reload()

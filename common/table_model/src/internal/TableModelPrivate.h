@@ -16,6 +16,7 @@ public:
     {}
 
     void follow();
+    void goOnWithoutSheet(const QList<TableColumn> &columns);
     void reload();
     void insert(const QList<int> &rowsOfSheet);
     void remove(const QList<quint32> &ids);

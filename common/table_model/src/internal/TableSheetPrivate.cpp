@@ -1,5 +1,7 @@
 #include "TableSheetPrivate.h"
 
+#include <QPointer>
+
 #include <algorithm>
 
 namespace orv {
@@ -13,59 +15,68 @@ TableSheet::Private::Private(TableSheet *sheet, QList<TableColumn> columnsOfShee
 
 void TableSheet::Private::push(QList<TableStep> steps, const QString &name)
 {
-    history->push(
-        std::make_unique<TableEdit>([this](const TableStep &step) { take(step); }, std::move(steps), name));
+    history->push(std::make_unique<TableEdit>([this](const QList<TableStep> &taken) { take(taken); },
+                                              std::move(steps), name));
 }
 
-void TableSheet::Private::take(const TableStep &step)
+void TableSheet::Private::take(const QList<TableStep> &steps)
+{
+    for (const TableStep &step : steps)
+        change(step);
+    const QList<quint32> touched = checks.takeTouched();
+    const QPointer<TableSheet> guard(q);
+    for (const TableStep &step : steps) {
+        if (guard)
+            tell(step);
+    }
+    if (guard && !touched.isEmpty())
+        Q_EMIT q->problemsChanged(touched);
+}
+
+void TableSheet::Private::change(const TableStep &step)
 {
     if (const auto *cells = std::get_if<QList<TableCellChange>>(&step)) {
-        takeCells(*cells);
+        for (const TableCellChange &cell : *cells) {
+            checks.beforeChange(cell.row, cell.column);
+            store.setSlot(cell.row, cell.column, cell.after);
+            checks.afterChange(cell.row, cell.column);
+        }
     } else if (const auto *rows = std::get_if<TableRowsChange>(&step)) {
-        takeRows(*rows);
+        for (const quint32 row : rows->rows)
+            rows->isInsertion ? checks.enter(row) : checks.leave(row);
+        if (rows->isInsertion)
+            order.insert(rows->places, rows->rows);
+        else
+            order.remove(rows->places);
     } else {
         order.assign(std::get<TableOrderChange>(step).after);
-        Q_EMIT q->rowsReordered();
     }
 }
 
-void TableSheet::Private::takeCells(const QList<TableCellChange> &cells)
+void TableSheet::Private::tell(const TableStep &step) const
+{
+    if (const auto *cells = std::get_if<QList<TableCellChange>>(&step))
+        tellCells(*cells);
+    else if (const auto *rows = std::get_if<TableRowsChange>(&step); !rows)
+        Q_EMIT q->rowsReordered();
+    else if (rows->isInsertion)
+        Q_EMIT q->rowsInserted(rows->places);
+    else
+        Q_EMIT q->rowsRemoved(rows->rows);
+}
+
+void TableSheet::Private::tellCells(const QList<TableCellChange> &cells) const
 {
     QList<quint32> ids;
     int first = int(columns.size());
     int last = 0;
     for (const TableCellChange &cell : cells) {
-        checks.beforeChange(cell.row, cell.column);
-        store.setSlot(cell.row, cell.column, cell.after);
-        checks.afterChange(cell.row, cell.column);
         first = std::min(first, cell.column);
         last = std::max(last, cell.column);
         if (ids.isEmpty() || ids.constLast() != cell.row)
             ids.append(cell.row);
     }
     Q_EMIT q->cellsChanged(ids, first, last);
-    tellTouched();
-}
-
-void TableSheet::Private::takeRows(const TableRowsChange &rows)
-{
-    for (const quint32 row : rows.rows)
-        rows.isInsertion ? checks.enter(row) : checks.leave(row);
-    if (rows.isInsertion) {
-        order.insert(rows.places, rows.rows);
-        Q_EMIT q->rowsInserted(rows.places);
-    } else {
-        order.remove(rows.places);
-        Q_EMIT q->rowsRemoved(rows.rows);
-    }
-    tellTouched();
-}
-
-void TableSheet::Private::tellTouched()
-{
-    const QList<quint32> ids = checks.takeTouched();
-    if (!ids.isEmpty())
-        Q_EMIT q->problemsChanged(ids);
 }
 
 quint32 TableSheet::Private::addRow(const QStringList &texts)

@@ -18,14 +18,15 @@ public:
     Private(TableSheet *sheet, QList<TableColumn> columnsOfSheet);
 
     void push(QList<TableStep> steps, const QString &name);
-    void take(const TableStep &step);
-    void takeCells(const QList<TableCellChange> &cells);
-    void takeRows(const TableRowsChange &rows);
+    /// Everything is changed before anybody hears of it, so that listeners may edit or delete the sheet.
+    void take(const QList<TableStep> &steps);
+    void change(const TableStep &step);
+    void tell(const TableStep &step) const;
 
     quint32 addRow(const QStringList &texts);
     quint32 addDefaultRow();
     [[nodiscard]] std::vector<TableSlot> keepAll(const QList<TableCellText> &cells);
-    void tellTouched();
+    void tellCells(const QList<TableCellChange> &cells) const;
 
     TableSheet *q;
     QList<TableColumn> columns;

@@ -32,7 +32,10 @@ public:
         if (path.isEmpty())
             return {};
         Result<ResourceReferenceSPtr> reference = ResourceReference::fromString(path);
-        return DestinationFileLocation(reference.hasError() ? ResourceReferenceSPtr() : *reference);
+        if (!reference.hasError())
+            return DestinationFileLocation(*reference);
+        reference.ecatch();
+        return {};
     }
 
     Error saveFile(const DestinationFileLocation &destination,

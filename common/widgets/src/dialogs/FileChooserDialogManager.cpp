@@ -24,16 +24,19 @@ Chooser &hostChooser()
 ResourceReferenceSPtr showFileChooser(const FileChooserDialogOptions &options, QWidget *parent, int page,
                                       const FileSystemSettings::DirectoryLocation &location)
 {
-    if (hostChooser())
-        return hostChooser()(options, parent, page);
+    if (const Chooser chooser = hostChooser())
+        return chooser(options, parent, page, location);
     const bool isLocal = options.start && options.start->isScheme(ResourceReference::Scheme::LocalFile);
     const QString title = options.title.isEmpty() ? FileChooserTr::tr("Choose a File") : options.title;
     const QString path = ORVFileDialog::getOpenFileName(
         parent, title, isLocal ? options.start->text() : QString(), options.filter.types, location);
     if (path.isEmpty())
         return {};
-    const Result<ResourceReferenceSPtr> reference = ResourceReference::fromString(path);
-    return reference.hasError() ? ResourceReferenceSPtr() : reference.value();
+    Result<ResourceReferenceSPtr> reference = ResourceReference::fromString(path);
+    if (!reference.hasError())
+        return *reference;
+    reference.ecatch();
+    return {};
 }
 
 void setChooser(Chooser chooser)

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 
 namespace orv {
@@ -136,20 +137,26 @@ void FindBar::go(TableFind::Direction direction)
 
 void FindBar::replaceOne()
 {
+    const QPointer<FindBar> guard(this);
     const Result<int> replaced =
         TableFind::replace(*m_view->tableModel(), search(), m_view->currentIndex(), m_replacement->text());
-    if (replaced.hasError())
+    if (guard && replaced.hasError())
         Q_EMIT m_view->said(replaced.error().errorMessage());
-    go(TableFind::Direction::Forward);
+    if (guard)
+        go(TableFind::Direction::Forward);
 }
 
 void FindBar::replaceAll()
 {
+    const QPointer<FindBar> guard(this);
     const Result<int> replaced =
         TableFind::replaceAll(*m_view->tableModel(), search(), m_replacement->text());
+    if (!guard)
+        return;
     Q_EMIT m_view->said(replaced.hasError() ? replaced.error().errorMessage()
                                             : tr("Cells changed: %1").arg(replaced.value()));
-    tellCount();
+    if (guard)
+        tellCount();
 }
 
 void FindBar::tellCount()

@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QMenu>
+#include <QPointer>
 #include <QSet>
 
 #include <algorithm>
@@ -143,6 +144,14 @@ void TableCommands::tell(const Error &error)
         Q_EMIT m_view->said((error.errorMessages() + error.details()).join(u' '));
 }
 
+void TableCommands::edit(const QList<TableCellText> &cells, const QString &step)
+{
+    const QPointer<TableCommands> guard(this);
+    const Error error = m_view->sheet()->setCells(cells, step);
+    if (guard)
+        tell(error);
+}
+
 QList<int> TableCommands::selectedRows() const
 {
     QSet<int> rows;
@@ -210,7 +219,10 @@ void TableCommands::travel(bool isUndo)
     });
     TableHistory *const history = m_view->sheet()->history();
     const QString what = isUndo ? history->undoText() : history->redoText();
+    const QPointer<TableCommands> guard(this);
     isUndo ? history->undo() : history->redo();
+    if (!guard)
+        return;
     if (touched.isValid())
         m_view->goTo(touched);
     Q_EMIT m_view->said(isUndo ? tr("Undone: %1").arg(what) : tr("Redone: %1").arg(what));
@@ -237,13 +249,20 @@ void TableCommands::copyCells(bool withHeaders)
         rows.append(header);
     }
     const QItemSelection selection = m_view->selectionModel()->selection();
-    const bool isBlock = selection.size() == 1;
+    const int width = m_view->tableModel()->columnCount();
+    QSet<qint64> selected; // sorting may leave a range for each row
+    for (const QItemSelectionRange &range : selection) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            for (int column = range.left(); column <= range.right(); ++column)
+                selected.insert(qint64(row) * width + column);
+        }
+    }
     for (const int row : selectedRows()) {
         QStringList texts;
-        for (const int column : columns) {
-            const QModelIndex cell = m_view->tableModel()->index(row, column);
-            texts.append(isBlock || selection.contains(cell) ? cell.data().toString() : QString());
-        }
+        for (const int column : columns)
+            texts.append(selected.contains(qint64(row) * width + column)
+                             ? m_view->tableModel()->index(row, column).data().toString()
+                             : QString());
         rows.append(texts);
     }
     QGuiApplication::clipboard()->setText(TableClipboard::format(rows));
@@ -252,13 +271,15 @@ void TableCommands::copyCells(bool withHeaders)
 
 void TableCommands::cut()
 {
+    const QPointer<TableCommands> guard(this);
     copyCells(false);
-    tell(m_view->sheet()->setCells(editableCells({}), tr("cut cells")));
+    if (guard)
+        edit(editableCells({}), tr("cut cells"));
 }
 
 void TableCommands::clear()
 {
-    tell(m_view->sheet()->setCells(editableCells({}), tr("clear cells")));
+    edit(editableCells({}), tr("clear cells"));
 }
 
 void TableCommands::paste()
@@ -269,8 +290,11 @@ void TableCommands::paste()
     const qsizetype from = columns.isEmpty() ? 0 : shown.indexOf(columns.constFirst());
     const int row = rows.isEmpty() ? m_view->tableModel()->rowCount() : rows.constFirst();
     TableClipboard::Target target{row, shown.mid(from), {int(columns.size()), int(rows.size())}};
+    const QPointer<TableCommands> guard(this);
     const Result<TableClipboard::Outcome> pasted =
         TableClipboard::paste(*m_view->tableModel(), target, QGuiApplication::clipboard()->text());
+    if (!guard)
+        return;
     if (pasted.hasError()) {
         tell(pasted.error());
         return;
@@ -301,7 +325,7 @@ void TableCommands::fillDown()
                 cells.append({model->sheetRow(row), column, text});
         }
     }
-    tell(m_view->sheet()->setCells(cells, tr("fill down")));
+    edit(cells, tr("fill down"));
 }
 
 void TableCommands::addRow()
@@ -309,7 +333,10 @@ void TableCommands::addRow()
     const QModelIndex current = m_view->currentIndex();
     const int at =
         current.isValid() ? m_view->tableModel()->sheetRow(current.row()) + 1 : m_view->sheet()->rowCount();
+    const QPointer<TableCommands> guard(this);
     m_view->sheet()->insertRows(at, 1);
+    if (!guard)
+        return;
     const int row = m_view->tableModel()->rowOfSheetRow(at);
     const QList<int> shown = m_view->shownColumns();
     if (row >= 0 && !shown.isEmpty())
@@ -326,7 +353,10 @@ void TableCommands::removeRows()
 {
     const QList<int> rows = selectedRows();
     const int column = m_view->currentIndex().column();
+    const QPointer<TableCommands> guard(this);
     m_view->sheet()->removeRows(selectedSheetRows());
+    if (!guard)
+        return;
     const int left = m_view->tableModel()->rowCount();
     if (left > 0 && !rows.isEmpty())
         m_view->goTo(m_view->tableModel()->index(std::min(rows.constFirst(), left - 1), std::max(0, column)));
@@ -341,17 +371,21 @@ void TableCommands::moveRows(int by)
         return;
     }
     const QList<int> rows = selectedSheetRows();
+    const QPointer<TableCommands> guard(this);
     const bool hasRoom = !rows.isEmpty() && (by < 0 ? rows.constFirst() > 0
                                                     : rows.constLast() + 1 < m_view->sheet()->rowCount());
     if (hasRoom)
         m_view->sheet()->moveRows(rows, by < 0 ? rows.constFirst() - 1 : rows.constLast() + 2);
-    m_view->scrollTo(m_view->currentIndex());
+    if (guard)
+        m_view->scrollTo(m_view->currentIndex());
 }
 
 void TableCommands::keepOrder()
 {
+    const QPointer<TableCommands> guard(this);
     m_view->tableModel()->keepOrder();
-    m_view->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    if (guard)
+        m_view->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
 }
 
 void TableCommands::find()

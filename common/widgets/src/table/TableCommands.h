@@ -56,6 +56,7 @@ private:
 
     void addActions();
     static void setTip(QAction *action);
+    void edit(const QList<TableCellText> &cells, const QString &step);
     void copyCells(bool withHeaders);
     void moveRows(int by);
     void goToProblem(int step);

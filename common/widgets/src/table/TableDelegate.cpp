@@ -54,7 +54,14 @@ QPixmap swatchOf(const QString &color, const QStyleOptionViewItem &option)
     return pixmap;
 }
 
+constexpr const char *kCellProperty = "orvCell";
+
 } // namespace
+
+QPersistentModelIndex TableDelegate::cellOf(const QWidget *editor)
+{
+    return editor ? editor->property(kCellProperty).value<QPersistentModelIndex>() : QPersistentModelIndex();
+}
 
 void TableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
 {
@@ -152,6 +159,7 @@ QWidget *TableDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
     QWidget *const editor =
         createCellEditor(model->sheet()->columns()[index.column()], model->decimalSign(), problemOf, parent);
     editor->setAutoFillBackground(true);
+    editor->setProperty(kCellProperty, QVariant::fromValue(QPersistentModelIndex(index)));
     return editor;
 }
 
@@ -176,18 +184,34 @@ void TableDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, con
         model->setData(index, box->text());
 }
 
+/// Whoever hears of the edit may take the table away.
+void TableDelegate::take(QWidget *editor, EndEditHint hint)
+{
+    const QPointer<TableDelegate> guard(this);
+    const QPointer<QWidget> open(editor);
+    Q_EMIT commitData(editor);
+    if (guard && open)
+        Q_EMIT closeEditor(editor, hint);
+}
+
 bool TableDelegate::eventFilter(QObject *watched, QEvent *event)
 {
     auto *const editor = qobject_cast<QWidget *>(watched);
     const bool isKey = event->type() == QEvent::KeyPress;
-    const int key = isKey ? static_cast<QKeyEvent *>(event)->key() : 0;
-    if (editor && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
-        Q_EMIT commitData(editor);
-        // The view takes this for a step to the cell below.
-        Q_EMIT closeEditor(editor, QAbstractItemDelegate::SubmitModelCache);
+    switch (editor && isKey ? static_cast<QKeyEvent *>(event)->key() : 0) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        take(editor, SubmitModelCache); // the view takes this for a step to the cell below
         return true;
+    case Qt::Key_Tab:
+        take(editor, EditNextItem);
+        return true;
+    case Qt::Key_Backtab:
+        take(editor, EditPreviousItem);
+        return true;
+    default:
+        return QStyledItemDelegate::eventFilter(watched, event);
     }
-    return QStyledItemDelegate::eventFilter(watched, event);
 }
 
 } // namespace orv

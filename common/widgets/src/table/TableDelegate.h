@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPersistentModelIndex>
 #include <QStyledItemDelegate>
 
 namespace orv {
@@ -12,6 +13,9 @@ class TableDelegate : public QStyledItemDelegate
 
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    /// The cell that an editor was made for; an invalid index when its row is gone.
+    [[nodiscard]] static QPersistentModelIndex cellOf(const QWidget *editor);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
@@ -26,6 +30,7 @@ protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:
+    void take(QWidget *editor, EndEditHint hint);
     void paintContent(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
 };
 

@@ -49,7 +49,8 @@ QString namesOfColumns(const TableSheet &sheet)
 class TableEditor::Private
 {
 public:
-    TableSheet *sheet = nullptr;
+    [[nodiscard]] TableSheet *sheet() const { return view->sheet(); }
+
     TableView *view = nullptr;
     FindBar *findBar = nullptr;
     QLineEdit *filter = nullptr;
@@ -64,13 +65,12 @@ TableEditor::TableEditor(TableSheet *sheet, QWidget *parent)
     : QWidget(parent)
     , d(std::make_unique<Private>())
 {
-    d->sheet = sheet;
-    build();
+    build(sheet);
     d->counting = new QTimer(this);
     d->counting->setInterval(0);
     connect(d->counting, &QTimer::timeout, this, &TableEditor::countOn);
     const auto recount = [this] {
-        if (!d->sheet->areProblemsCounted())
+        if (!d->sheet()->areProblemsCounted())
             d->counting->start();
         showCounts();
     };
@@ -86,14 +86,14 @@ TableEditor::TableEditor(TableSheet *sheet, QWidget *parent)
 TableEditor::~TableEditor()
 {
     // A cell that is being edited is taken while the view goes, when nothing here may be asked any more.
-    d->sheet->disconnect(this);
+    d->sheet()->disconnect(this);
     d->view->disconnect(this);
     keepLayout();
 }
 
-void TableEditor::build()
+void TableEditor::build(TableSheet *sheet)
 {
-    d->view = new TableView(d->sheet);
+    d->view = new TableView(sheet);
     d->filter = new QLineEdit;
     d->filter->setObjectName(QStringLiteral("filter"));
     d->filter->setPlaceholderText(tr("Filter rows"));
@@ -177,21 +177,21 @@ void TableEditor::keepLayout()
     if (d->settingsKey.isEmpty())
         return;
     const QByteArray state = d->view->horizontalHeader()->saveState().toBase64();
-    as::setValue(d->settingsKey, QStringList({namesOfColumns(*d->sheet), QString::fromLatin1(state)}));
+    as::setValue(d->settingsKey, QStringList({namesOfColumns(*d->sheet()), QString::fromLatin1(state)}));
 }
 
 void TableEditor::restoreLayout()
 {
     const QStringList kept = as::value(d->settingsKey, QStringList()).toStringList();
-    if (kept.size() != 2 || kept[0] != namesOfColumns(*d->sheet))
+    if (kept.size() != 2 || kept[0] != namesOfColumns(*d->sheet()))
         return;
     QHeaderView *const header = d->view->horizontalHeader();
     header->restoreState(QByteArray::fromBase64(kept[1].toLatin1()));
     header->setSortIndicator(-1, Qt::AscendingOrder);
-    for (int column = 0; column < d->sheet->columnCount(); ++column)
+    for (int column = 0; column < d->sheet()->columnCount(); ++column)
         d->view->setColumnShown(column, !d->view->isColumnHidden(column));
     // What somebody has set isn't fitted anew when rows are loaded.
-    disconnect(d->sheet, &TableSheet::loaded, d->view, &TableView::fitColumns);
+    disconnect(d->sheet(), &TableSheet::loaded, d->view, &TableView::fitColumns);
 }
 
 void TableEditor::applyFilter()
@@ -218,20 +218,23 @@ void TableEditor::say(const QString &text)
 
 void TableEditor::countOn()
 {
-    d->sheet->countProblems(kCountedRows);
-    if (d->sheet->areProblemsCounted())
+    const QPointer<TableEditor> guard(this);
+    d->sheet()->countProblems(kCountedRows);
+    if (!guard)
+        return;
+    if (d->sheet()->areProblemsCounted())
         d->counting->stop();
     showCounts();
 }
 
 void TableEditor::showCounts()
 {
-    const int all = d->sheet->rowCount();
+    const int all = d->sheet()->rowCount();
     const int shown = d->view->tableModel()->rowCount();
     const QLocale locale = this->locale();
     d->counts->setText(shown == all ? tr("Rows: %1").arg(locale.toString(all))
                                     : tr("Rows: %1 of %2").arg(locale.toString(shown), locale.toString(all)));
-    const int problems = d->sheet->problemCount();
+    const int problems = d->sheet()->problemCount();
     d->onlyProblems->setText(problems == 0 ? tr("No problems")
                                            : tr("Problems: %1").arg(locale.toString(problems)));
     d->onlyProblems->setIcon(problems == 0 ? QIcon() : Icons::icon(IconName::Problem));
@@ -244,8 +247,9 @@ void TableEditor::showCounts()
 
 void TableEditor::chooseImport()
 {
+    const QPointer<TableEditor> guard(this);
     const QString path = ORVFileDialog::getOpenFileName(this, tr("Import a Text File"), {}, textTables());
-    if (!path.isEmpty())
+    if (guard && !path.isEmpty())
         importFile(path);
 }
 
@@ -258,14 +262,17 @@ void TableEditor::importFile(const QString &path)
         return;
     }
     auto *const dialog = new TableImportDialog(QFileInfo(path).fileName(), bytes.value(),
-                                               TableImportTarget::of(*d->sheet), this);
+                                               TableImportTarget::of(*d->sheet()), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog] {
         const QList<QStringList> rows = dialog->rows();
-        const int first = d->sheet->rowCount();
-        const Error error = d->sheet->insertRows(first, rows, tr("import"));
+        const int first = d->sheet()->rowCount();
+        const QPointer<TableEditor> guard(this);
+        const Error error = d->sheet()->insertRows(first, rows, tr("import"));
+        if (!guard)
+            return;
         say(error.hasError() ? error.errorMessage() : tr("Rows imported: %1").arg(rows.size()));
-        if (const int row = first < d->sheet->rowCount() ? d->view->tableModel()->rowOfSheetRow(first) : -1;
+        if (const int row = first < d->sheet()->rowCount() ? d->view->tableModel()->rowOfSheetRow(first) : -1;
             row >= 0)
             d->view->goTo(d->view->tableModel()->index(row, d->view->shownColumns().value(0)));
     });
@@ -275,8 +282,9 @@ void TableEditor::importFile(const QString &path)
 
 void TableEditor::chooseExport()
 {
+    const QPointer<TableEditor> guard(this);
     const QString path = ORVFileDialog::getSaveFileName(this, tr("Export the Table"), {}, textTables());
-    if (!path.isEmpty())
+    if (guard && !path.isEmpty())
         exportFile(path);
 }
 

@@ -6,6 +6,7 @@
 
 #include <orv/widgets/ControlHelp.h>
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -20,7 +21,6 @@ namespace orv {
 class TableView::Private
 {
 public:
-    TableSheet *sheet = nullptr;
     TableModel *model = nullptr;
     TableCommands *commands = nullptr;
     QString emptyText;
@@ -31,7 +31,6 @@ TableView::TableView(TableSheet *sheet, QWidget *parent)
     : QTableView(parent)
     , d(std::make_unique<Private>())
 {
-    d->sheet = sheet;
     d->model = new TableModel(sheet, this);
     d->model->setLocale(locale());
     d->emptyText =
@@ -76,7 +75,7 @@ void TableView::setUpHeaders()
 
 TableSheet *TableView::sheet() const
 {
-    return d->sheet;
+    return d->model->sheet();
 }
 
 TableModel *TableView::tableModel() const
@@ -115,7 +114,7 @@ void TableView::setColumnShown(int column, bool isShown)
 {
     setColumnHidden(column, !isShown);
     QList<int> hidden;
-    for (int i = 0; i < d->sheet->columnCount(); ++i) {
+    for (int i = 0; i < d->model->sheet()->columnCount(); ++i) {
         if (isColumnHidden(i))
             hidden.append(i);
     }
@@ -129,7 +128,7 @@ void TableView::fitColumns()
     // Room for the sign of a problem and for the sort indicator; nothing so wide that it hides the others.
     const int sign = fontMetrics().height();
     const int widest = fontMetrics().averageCharWidth() * 40;
-    for (int column = 0; column < d->sheet->columnCount(); ++column)
+    for (int column = 0; column < d->model->sheet()->columnCount(); ++column)
         setColumnWidth(column, std::min(columnWidth(column) + sign, widest));
 }
 
@@ -179,6 +178,16 @@ void TableView::keyPressEvent(QKeyEvent *event)
     }
 }
 
+/// Dead keys send a letter without composing it first; the base then opens the editor and drops the letter.
+void TableView::inputMethodEvent(QInputMethodEvent *event)
+{
+    const bool wasEditing = state() == EditingState;
+    QTableView::inputMethodEvent(event);
+    QWidget *const editor = state() == EditingState ? indexWidget(currentIndex()) : nullptr;
+    if (editor && !wasEditing && event->preeditString().isEmpty())
+        QApplication::sendEvent(editor, event);
+}
+
 bool TableView::focusNextPrevChild(bool next)
 {
     const QList<int> shown = shownColumns();
@@ -195,6 +204,14 @@ bool TableView::leave(bool next)
     // The item view's own would begin anew at the first cell, and never let go.
     // NOLINTNEXTLINE(bugprone-parent-virtual-call): meant
     return QAbstractScrollArea::focusNextPrevChild(next);
+}
+
+/// The base goes on with the editor afterwards, which whoever hears of the edit may have taken away.
+void TableView::commitData(QWidget *editor)
+{
+    const QPersistentModelIndex cell = TableDelegate::cellOf(editor);
+    if (cell.isValid() && itemDelegate())
+        itemDelegate()->setModelData(editor, d->model, cell);
 }
 
 void TableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
@@ -251,8 +268,8 @@ void TableView::showHeaderMenu(QPoint position)
         menu->addAction(action(Command::KeepOrder));
         menu->addSeparator();
     }
-    for (int column = 0; column < d->sheet->columnCount(); ++column) {
-        QAction *const shown = menu->addAction(d->sheet->columns()[column].header());
+    for (int column = 0; column < d->model->sheet()->columnCount(); ++column) {
+        QAction *const shown = menu->addAction(d->model->sheet()->columns()[column].header());
         shown->setCheckable(true);
         shown->setChecked(!isColumnHidden(column));
         shown->setEnabled(isColumnHidden(column) || shownColumns().size() > 1);
@@ -271,7 +288,7 @@ void TableView::dragEnterEvent(QDragEnterEvent *event)
 
 void TableView::dragMoveEvent(QDragMoveEvent *event)
 {
-    const TableDrop drop(*d->sheet, indexAt(event->position().toPoint()), event->mimeData());
+    const TableDrop drop(*d->model->sheet(), indexAt(event->position().toPoint()), event->mimeData());
     d->dropCell = drop.cell();
     viewport()->update();
     if (drop.isPossible())
@@ -290,7 +307,7 @@ void TableView::dropEvent(QDropEvent *event)
 {
     d->dropCell = {};
     viewport()->update();
-    const TableDrop drop(*d->sheet, indexAt(event->position().toPoint()), event->mimeData());
+    const TableDrop drop(*d->model->sheet(), indexAt(event->position().toPoint()), event->mimeData());
     if (!drop.isPossible()) {
         event->ignore();
         return;
@@ -299,7 +316,7 @@ void TableView::dropEvent(QDropEvent *event)
     if (!drop.importPath().isEmpty())
         Q_EMIT importWanted(drop.importPath());
     else
-        d->commands->tell(drop.takeInto(*d->sheet, *d->model));
+        d->commands->tell(drop.takeInto(*d->model->sheet(), *d->model));
 }
 
 } // namespace orv

@@ -31,7 +31,8 @@ public:
     [[nodiscard]] QString undoText() const;
     [[nodiscard]] QString redoText() const;
 
-    /// Nothing happens where there is no step.
+    /// Nothing happens where there is no step. Who hears of a step may take further ones, and may delete the
+    /// sheet.
     void undo();
     void redo();
     void clear();
@@ -43,9 +44,7 @@ Q_SIGNALS:
     void indexChanged();
 
 private:
-    void moveTo(int index);
-
-    std::vector<std::unique_ptr<TableEdit>> m_edits;
+    std::vector<std::shared_ptr<TableEdit>> m_edits;
     int m_index = 0;
 };
 

@@ -26,7 +26,7 @@ public:
         KeptRole,                   ///< the text as the sheet keeps it
     };
 
-    /// The sheet outlives the model.
+    /// Where \a sheet goes before the model, an empty one with its columns takes its place.
     explicit TableModel(TableSheet *sheet, QObject *parent = nullptr);
     ~TableModel() override;
 

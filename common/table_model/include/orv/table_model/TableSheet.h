@@ -72,6 +72,9 @@ public:
     /// they have too much is left out. InvalidContent for more text than a table holds; the old rows stay.
     [[nodiscard]] Error load(const QList<QStringList> &rows);
 
+    /// InvalidContent where so many UTF-16 units more can't be held: for texts that aren't made then.
+    [[nodiscard]] Error checkRoom(qsizetype units) const;
+
     /// InvalidContent for more text than a table holds; nothing changes then.
     [[nodiscard]] Error setCells(const QList<TableCellText> &cells, const QString &step);
     [[nodiscard]] Error setText(int row, int column, QStringView kept);

@@ -37,7 +37,8 @@ showFileChooser(const FileChooserDialogOptions &options, QWidget *parent, int pa
 /// A chooser of the host, which knows its servers; an empty function brings back the own one, which knows the
 /// disks of this computer.
 using Chooser =
-    std::function<ResourceReferenceSPtr(const FileChooserDialogOptions &options, QWidget *parent, int page)>;
+    std::function<ResourceReferenceSPtr(const FileChooserDialogOptions &options, QWidget *parent, int page,
+                                        const FileSystemSettings::DirectoryLocation &location)>;
 ORV_PROPERTY_EDITOR_EXPORT void setChooser(Chooser chooser);
 
 } // namespace FileChooserDialogManager

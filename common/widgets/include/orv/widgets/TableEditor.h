@@ -25,7 +25,7 @@ class ORV_PROPERTY_EDITOR_EXPORT TableEditor : public QWidget
     Q_OBJECT
 
 public:
-    /// \a sheet outlives the editor.
+    /// Where \a sheet goes first, an empty one with its columns takes its place.
     explicit TableEditor(TableSheet *sheet, QWidget *parent = nullptr);
     ~TableEditor() override;
 
@@ -43,7 +43,7 @@ public:
     void exportFile(const QString &path);
 
 private:
-    void build();
+    void build(TableSheet *sheet);
     [[nodiscard]] QToolBar *buildToolBar();
     void chooseImport();
     void chooseExport();

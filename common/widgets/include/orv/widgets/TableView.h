@@ -44,7 +44,7 @@ public:
         Export,
     };
 
-    /// \a sheet outlives the view.
+    /// Where \a sheet goes first, an empty one with its columns takes its place.
     explicit TableView(TableSheet *sheet, QWidget *parent = nullptr);
     ~TableView() override;
 
@@ -76,7 +76,9 @@ Q_SIGNALS:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void commitData(QWidget *editor) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
     bool focusNextPrevChild(bool next) override;
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
