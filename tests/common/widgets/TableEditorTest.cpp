@@ -49,6 +49,7 @@ private Q_SLOTS:
     void rowsAreAddedDuplicatedMovedAndRemoved();
     void movingWaitsForTheOwnOrder();
     void columnsSortByAClick();
+    void columnsSortByKeyboard();
     void columnsHideAndComeBack();
     void layoutsAreRememberedByKind();
     void rowsAreFiltered();
@@ -309,6 +310,25 @@ void TableEditorTest::columnsSortByAClick()
     QVERIFY(e.view()->tableModel()->isInSheetOrder());
 }
 
+void TableEditorTest::columnsSortByKeyboard()
+{
+    Editor e;
+    const auto shown = [&] {
+        return e.at(0, 0).data().toString() + e.at(1, 0).data().toString() + e.at(2, 0).data().toString();
+    };
+    e.click(0, 1);
+    e.key(Qt::Key_Up, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(shown(), text("gammaalphabeta"));
+    QCOMPARE(e.message(), text("Sorted by \"Mass\", ascending."));
+    QCOMPARE(e.current(), QPoint(1, 1));
+    e.key(Qt::Key_Down, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(shown(), text("betaalphagamma"));
+    QVERIFY(e.view()->horizontalHeader()->sortIndicatorSection() == 1);
+    e.key(Qt::Key_0, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(shown(), text("alphabetagamma"));
+    QVERIFY(!e.view()->action(TableView::Command::OwnOrder)->isEnabled());
+}
+
 void TableEditorTest::columnsHideAndComeBack()
 {
     Editor e;
@@ -455,16 +475,22 @@ void TableEditorTest::everyCommandHasATextAndAName()
     Editor e;
     QSet<QString> names;
     QSet<QKeySequence> keys;
+    QSet<QChar> mnemonics;
     for (const QAction *action : e.view()->actions()) {
         QVERIFY(!action->text().isEmpty());
         QVERIFY2(!names.contains(action->objectName()), qPrintable(action->objectName()));
         names.insert(action->objectName());
+        if (const qsizetype mark = action->text().indexOf(u'&'); mark >= 0) {
+            const QChar letter = action->text().at(mark + 1).toLower();
+            QVERIFY2(!mnemonics.contains(letter), qPrintable(action->text()));
+            mnemonics.insert(letter);
+        }
         for (const QKeySequence &key : action->shortcuts()) {
             QVERIFY2(!keys.contains(key), qPrintable(key.toString()));
             keys.insert(key);
         }
     }
-    QCOMPARE(names.size(), 22);
+    QCOMPARE(names.size(), 25);
 }
 
 WIDGET_REGISTER_TEST(TableEditorTest)

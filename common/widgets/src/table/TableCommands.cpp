@@ -84,7 +84,9 @@ void TableCommands::update()
                                   Command::FillDown, Command::DuplicateRows, Command::RemoveRows,
                                   Command::MoveUp, Command::MoveDown, Command::HideColumns})
         action(command)->setEnabled(hasSelection);
-    action(Command::KeepOrder)->setEnabled(m_view->tableModel()->sortColumn() >= 0);
+    const bool isSorted = m_view->tableModel()->sortColumn() >= 0;
+    action(Command::OwnOrder)->setEnabled(isSorted);
+    action(Command::KeepOrder)->setEnabled(isSorted);
     action(Command::ShowAllColumns)
         ->setEnabled(m_view->shownColumns().size() < m_view->sheet()->columnCount());
 }
@@ -329,6 +331,24 @@ void TableCommands::moveRows(int by)
         m_view->sheet()->moveRows(rows, by < 0 ? rows.constFirst() - 1 : rows.constLast() + 2);
     if (guard)
         m_view->scrollTo(m_view->currentIndex());
+}
+
+void TableCommands::sort(Qt::SortOrder order)
+{
+    const int column = m_view->currentIndex().column();
+    if (column < 0)
+        return;
+    m_view->sortByColumn(column, order);
+    m_view->scrollTo(m_view->currentIndex());
+    const QString title = m_view->sheet()->columns()[column].title;
+    Q_EMIT m_view->said(order == Qt::AscendingOrder ? tr("Sorted by \"%1\", ascending.").arg(title)
+                                                    : tr("Sorted by \"%1\", descending.").arg(title));
+}
+
+void TableCommands::ownOrder()
+{
+    m_view->sortByColumn(-1, Qt::AscendingOrder);
+    m_view->scrollTo(m_view->currentIndex());
 }
 
 void TableCommands::keepOrder()

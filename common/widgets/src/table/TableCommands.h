@@ -42,6 +42,9 @@ private:
     void removeRows();
     void moveUp() { moveRows(-1); }
     void moveDown() { moveRows(1); }
+    void sortAscending() { sort(Qt::AscendingOrder); }
+    void sortDescending() { sort(Qt::DescendingOrder); }
+    void ownOrder();
     void keepOrder();
     void find();
     void replace();
@@ -58,6 +61,7 @@ private:
     static void setTip(QAction *action);
     void edit(const QList<TableCellText> &cells, const QString &step);
     void copyCells(bool withHeaders);
+    void sort(Qt::SortOrder order);
     void moveRows(int by);
     void goToProblem(int step);
     void travel(bool isUndo);

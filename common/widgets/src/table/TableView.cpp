@@ -5,6 +5,7 @@
 #include "TableDrop.h"
 
 #include <orv/widgets/ControlHelp.h>
+#include <orv/widgets/Icons.h>
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -260,11 +261,11 @@ void TableView::showHeaderMenu(QPoint position)
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const int clicked = horizontalHeader()->logicalIndexAt(position);
     if (clicked >= 0) {
-        menu->addAction(tr("Sort &Ascending"), this,
+        menu->addAction(Icons::icon(IconName::SortAscending), tr("Sort &Ascending"), this,
                         [this, clicked] { sortByColumn(clicked, Qt::AscendingOrder); });
-        menu->addAction(tr("Sort &Descending"), this,
+        menu->addAction(Icons::icon(IconName::SortDescending), tr("Sort &Descending"), this,
                         [this, clicked] { sortByColumn(clicked, Qt::DescendingOrder); });
-        menu->addAction(tr("&Own Order"), this, [this] { sortByColumn(-1, Qt::AscendingOrder); });
+        menu->addAction(action(Command::OwnOrder));
         menu->addAction(action(Command::KeepOrder));
         menu->addSeparator();
     }
