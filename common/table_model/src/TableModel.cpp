@@ -85,8 +85,13 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
     case KindRole:
         return int(column.kind);
     case ProblemRole:
-    case Qt::AccessibleDescriptionRole:
         return d->sheet->problemOf(d->shown.at(index.row()), index.column());
+    case NoteRole:
+        return d->noteOf(index);
+    case Qt::AccessibleDescriptionRole: {
+        const QString problem = d->sheet->problemOf(d->shown.at(index.row()), index.column());
+        return problem.isEmpty() ? d->noteOf(index) : problem;
+    }
     case Qt::ToolTipRole:
         return d->toolTip(index);
     case Qt::TextAlignmentRole:
@@ -204,6 +209,19 @@ void TableModel::setHiddenColumns(const QList<int> &columns)
 {
     d->hiddenColumns = columns;
     d->isNarrowingAllowed = false;
+}
+
+void TableModel::setNotes(Notes notes)
+{
+    d->notes = std::move(notes);
+    tellNotesChanged();
+}
+
+void TableModel::tellNotesChanged()
+{
+    if (d->shown.size() > 0 && columnCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(d->shown.size() - 1, columnCount() - 1),
+                           {NoteRole, Qt::ToolTipRole, Qt::AccessibleDescriptionRole});
 }
 
 bool TableModel::isInSheetOrder() const

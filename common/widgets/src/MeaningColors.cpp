@@ -39,6 +39,15 @@ QColor errorBackground(const QPalette &palette)
             mixed(base.blue(), sign.blue())};
 }
 
+QColor quiet(const QPalette &palette)
+{
+    const QColor base = palette.color(QPalette::Base);
+    const QColor text = palette.color(QPalette::Text);
+    const auto mixed = [](int of, int with) { return (of + with * 2) / 3; };
+    return {mixed(base.red(), text.red()), mixed(base.green(), text.green()),
+            mixed(base.blue(), text.blue())};
+}
+
 void paintErrorSign(QPainter &painter, const QRect &room, const QColor &color)
 {
     const qreal size = std::min(room.width(), room.height());

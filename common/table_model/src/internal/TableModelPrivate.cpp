@@ -129,7 +129,9 @@ QString TableModel::Private::toolTip(const QModelIndex &index) const
         const QString lines = SequenceText::lines(kept, 3, kToolTipLines);
         return QStringLiteral("<p>%1</p><pre>%2</pre>").arg(problem.toHtmlEscaped(), lines.toHtmlEscaped());
     }
-    return problem.isEmpty() ? column.shown(kept.first(std::min(kept.size(), kToolTipUnits)), sign) : problem;
+    const QString text = column.shown(kept.first(std::min(kept.size(), kToolTipUnits)), sign);
+    const QString note = noteOf(index);
+    return !problem.isEmpty() ? problem : note.isEmpty() ? text : text + u'\n' + note;
 }
 
 QList<quint32> TableModel::Private::filtered(const QList<quint32> &ids) const

@@ -22,6 +22,10 @@ public:
     void remove(const QList<quint32> &ids);
     void tellChanged(const QList<quint32> &ids, int firstColumn, int lastColumn, const QList<int> &roles);
     void reorder();
+    [[nodiscard]] QString noteOf(const QModelIndex &index) const
+    {
+        return notes ? notes(shown.at(index.row()), index.column()) : QString();
+    }
     [[nodiscard]] QString toolTip(const QModelIndex &index) const;
 
     [[nodiscard]] QList<quint32> filtered(const QList<quint32> &ids) const;
@@ -39,6 +43,7 @@ public:
     int sortColumn = -1;
     TableFilter filter;
     QList<int> hiddenColumns;
+    Notes notes;
     bool isNarrowingAllowed = false; ///< what isn't shown can't match a longer text
 };
 

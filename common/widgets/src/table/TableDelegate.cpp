@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QPointer>
 
+#include <algorithm>
+
 namespace orv {
 
 namespace {
@@ -55,6 +57,28 @@ QPixmap swatchOf(const QString &color, const QStyleOptionViewItem &option)
 }
 
 constexpr const char *kCellProperty = "orvCell";
+/// Paints what is known of a cell at its end, and tells the room that stays for its text.
+QRect paintNote(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    const QString note = index.data(TableModel::NoteRole).toString();
+    const int margin = option.fontMetrics.averageCharWidth();
+    const int width =
+        std::min(option.fontMetrics.horizontalAdvance(note) + 2 * margin, option.rect.width() / 2);
+    if (note.isEmpty() || width < 4 * margin)
+        return option.rect;
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    const QRect room(option.rect.right() - width, option.rect.top(), width, option.rect.height());
+    const QRect shown = QStyle::visualRect(option.direction, option.rect, room);
+    if (isSelected)
+        painter->fillRect(shown, option.palette.highlight());
+    painter->save();
+    painter->setPen(isSelected ? option.palette.color(QPalette::HighlightedText)
+                               : MeaningColors::quiet(option.palette));
+    const QString text = option.fontMetrics.elidedText(note, Qt::ElideRight, width - margin);
+    painter->drawText(shown.adjusted(0, 0, -margin, 0), Qt::AlignRight | Qt::AlignVCenter, text);
+    painter->restore();
+    return QStyle::visualRect(option.direction, option.rect, option.rect.adjusted(0, 0, -width, 0));
+}
 
 } // namespace
 
@@ -124,7 +148,9 @@ void TableDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const
 {
     if (!hasProblem(index)) {
-        paintContent(painter, option, index);
+        QStyleOptionViewItem beside = option;
+        beside.rect = paintNote(painter, option, index);
+        paintContent(painter, beside, index);
         return;
     }
     const int side = option.fontMetrics.height();

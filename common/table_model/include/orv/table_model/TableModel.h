@@ -7,6 +7,7 @@
 #include <QAbstractTableModel>
 #include <QLocale>
 
+#include <functional>
 #include <memory>
 
 namespace orv {
@@ -24,6 +25,7 @@ public:
         ProblemRole = Qt::UserRole, ///< why the cell isn't allowed, or an empty text
         KindRole,                   ///< int(TableColumnKind)
         KeptRole,                   ///< the text as the sheet keeps it
+        NoteRole,                   ///< what is known of the cell beyond its text, in a few words
     };
 
     /// Where \a sheet goes before the model, an empty one with its columns takes its place.
@@ -60,6 +62,13 @@ public:
     void setFilter(const TableFilter &filter);
     /// The filter looks into all columns but these.
     void setHiddenColumns(const QList<int> &columns);
+
+    /// What is known of a cell beyond its text, such as the format of a file, shown quietly beside it; an
+    /// empty text for nothing. Asked for what is seen, so it must be quick; after a change of what is known
+    /// somebody calls tellNotesChanged().
+    using Notes = std::function<QString(quint32 rowId, int column)>;
+    void setNotes(Notes notes);
+    void tellNotesChanged();
 
     /// Whether each row stands where it stands in the sheet, so that it can be moved.
     [[nodiscard]] bool isInSheetOrder() const;

@@ -22,6 +22,9 @@ namespace orv::MeaningColors {
 /// Behind text of something wrong; text of the palette keeps its contrast on it.
 [[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT QColor errorBackground(const QPalette &palette);
 
+/// Of text on the palette's base that may be overlooked, with a contrast of at least 4.5 to it.
+[[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT QColor quiet(const QPalette &palette);
+
 /// The sign of something wrong, as high as \a room.
 ORV_PROPERTY_EDITOR_EXPORT void paintErrorSign(QPainter &painter, const QRect &room, const QColor &color);
 
