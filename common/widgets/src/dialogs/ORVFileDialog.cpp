@@ -40,21 +40,21 @@ void prepare(QFileDialog &dialog, const FileQuestion &question)
         dialog.setNameFilters(question.filter.nameFilters() << QFileDialog::tr("All Files (*)"));
 }
 
-QString pathFromPerson(QWidget *parent, const FileQuestion &question,
-                       const std::function<void(QFileDialog &)> &setUp)
+QStringList pathsFromPerson(QWidget *parent, const FileQuestion &question,
+                            const std::function<void(QFileDialog &)> &setUp)
 {
     // The parent may go while the dialog waits, and takes it along.
     const QPointer<QFileDialog> dialog = new QFileDialog(parent);
     prepare(*dialog, question);
     setUp(*dialog);
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
-    QString path = dialog && isAccepted ? dialog->selectedFiles().value(0) : QString();
+    QStringList paths = dialog && isAccepted ? dialog->selectedFiles() : QStringList();
     delete dialog;
-    return path;
+    return paths;
 }
 
-QString askForPath(QWidget *parent, const FileQuestion &question,
-                   const std::function<void(QFileDialog &)> &setUp)
+QStringList askForPaths(QWidget *parent, const FileQuestion &question,
+                        const std::function<void(QFileDialog &)> &setUp)
 {
     DialogRequest request;
     request.kind = question.kind;
@@ -62,11 +62,20 @@ QString askForPath(QWidget *parent, const FileQuestion &question,
     request.text = question.filter.nameFilters().join(u'\n');
     request.startPath = question.start;
     const std::optional<DialogAnswer> answer = DialogService::answerWithoutPerson(request);
-    const QString path = answer ? answer->path : pathFromPerson(parent, question, setUp);
-    if (path.isEmpty())
+    QStringList paths =
+        answer ? answer->path.split(u'\n', Qt::SkipEmptyParts) : pathsFromPerson(parent, question, setUp);
+    if (paths.isEmpty())
         return {};
-    FileSystemSettings::rememberChosen(question.location, path);
-    return QDir::fromNativeSeparators(QFileInfo(path).absoluteFilePath());
+    FileSystemSettings::rememberChosen(question.location, paths.constFirst());
+    for (QString &path : paths)
+        path = QDir::fromNativeSeparators(QFileInfo(path).absoluteFilePath());
+    return paths;
+}
+
+QString askForPath(QWidget *parent, const FileQuestion &question,
+                   const std::function<void(QFileDialog &)> &setUp)
+{
+    return askForPaths(parent, question, setUp).value(0);
 }
 
 QString firstSuffix(const FileExtensionsNameFilter &filter)
@@ -84,6 +93,16 @@ QString ORVFileDialog::getOpenFileName(QWidget *parent, const QString &title, co
                                    location};
     return askForPath(parent, question,
                       [](QFileDialog &dialog) { dialog.setFileMode(QFileDialog::ExistingFile); });
+}
+
+QStringList ORVFileDialog::getOpenFileNames(QWidget *parent, const QString &title, const QString &startPath,
+                                            const FileExtensionsNameFilter &filter,
+                                            const FileSystemSettings::DirectoryLocation &location)
+{
+    const FileQuestion question = {DialogRequest::Kind::OpenFile, title, startOf(startPath, location), filter,
+                                   location};
+    return askForPaths(parent, question,
+                       [](QFileDialog &dialog) { dialog.setFileMode(QFileDialog::ExistingFiles); });
 }
 
 QString ORVFileDialog::getSaveFileName(QWidget *parent, const QString &title, const QString &startPath,

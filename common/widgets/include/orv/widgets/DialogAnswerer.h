@@ -42,7 +42,7 @@ struct DialogRequest
 struct DialogAnswer
 {
     QString button; ///< the text of a button; of a Kind::Dialog "OK" accepts, all others reject
-    QString path;   ///< of file dialogs; empty cancels
+    QString path;   ///< of file dialogs; empty cancels; one a line where several may be chosen
 };
 
 /// Answers boxes and dialogs in place of a person, for tests and automation. While one is installed, nothing

@@ -34,6 +34,12 @@ public:
         const FileExtensionsNameFilter &filter = {},
         const FileSystemSettings::DirectoryLocation &location = FileSystemSettings::DefaultLocation);
 
+    /// As many as were chosen; none when it was cancelled.
+    [[nodiscard]] static QStringList getOpenFileNames(
+        QWidget *parent, const QString &title, const QString &startPath = {},
+        const FileExtensionsNameFilter &filter = {},
+        const FileSystemSettings::DirectoryLocation &location = FileSystemSettings::DefaultLocation);
+
     /// The name gets the filter's first suffix where it has none of the filter's.
     [[nodiscard]] static QString getSaveFileName(
         QWidget *parent, const QString &title, const QString &startPath = {},

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QFrame>
+#include <QString>
+
+QT_FORWARD_DECLARE_CLASS(QLabel)
+
+namespace orv {
+
+/// A line in a window that says what is wrong with what it shows; hidden while there is nothing to say.
+class NoticeBar : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit NoticeBar(QWidget *parent = nullptr);
+
+    /// Plain text; an empty one hides the bar.
+    void setText(const QString &text);
+    [[nodiscard]] QString text() const;
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void paintSign();
+
+    QLabel *m_sign;
+    QLabel *m_text;
+};
+
+} // namespace orv

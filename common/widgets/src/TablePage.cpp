@@ -1,0 +1,43 @@
+#include "TablePage.h"
+
+#include <orv/table_model/TableExport.h>
+#include <orv/widgets/TableEditor.h>
+
+namespace orv::TablePage {
+
+TableEditor *editorOf(const std::shared_ptr<TableSheet> &sheet, const QString &title, const QString &kind)
+{
+    auto *const editor = new TableEditor(sheet.get());
+    editor->setTitle(title);
+    editor->setKind(kind);
+    QObject::connect(editor, &QObject::destroyed, [sheet] {});
+    return editor;
+}
+
+QString textOf(const TableEditor *editor)
+{
+    if (!editor)
+        return {};
+    const TableView *const view = editor->view();
+    const QByteArray rows =
+        TableExport::text(*view->tableModel(), view->shownColumns(), TableExport::Separator::Tabulator);
+    return view->accessibleName() + u'\n' + QString::fromUtf8(rows);
+}
+
+void tellAfterEvents(const TableSheet &sheet, QObject *context, const std::function<void()> &tell)
+{
+    const auto isTelling = std::make_shared<bool>(false);
+    QObject::connect(sheet.history(), &TableHistory::indexChanged, context, [=] {
+        if (std::exchange(*isTelling, true))
+            return;
+        QMetaObject::invokeMethod(
+            context,
+            [=] {
+                *isTelling = false;
+                tell();
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+} // namespace orv::TablePage

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <orv/table_model/TableSheet.h>
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+QT_FORWARD_DECLARE_CLASS(QObject)
+
+namespace orv {
+
+class TableEditor;
+
+/// What widgets around one table share.
+namespace TablePage {
+
+/// The editor of a sheet, which holds it until it has gone. Tables of one \a kind remember their columns.
+[[nodiscard]] TableEditor *editorOf(const std::shared_ptr<TableSheet> &sheet, const QString &title,
+                                    const QString &kind);
+
+/// The title, the header and the rows that are shown, for screen readers and reports; empty for null.
+[[nodiscard]] QString textOf(const TableEditor *editor);
+
+/// Calls \a tell once for all steps that one event does, behind it: whoever listens may do anything, closing
+/// the window included, which must not happen inside of a cell's editor.
+void tellAfterEvents(const TableSheet &sheet, QObject *context, const std::function<void()> &tell);
+
+} // namespace TablePage
+
+} // namespace orv

@@ -1,0 +1,449 @@
+#include "orv/widgets/SamplesAndTracesInputWidget.h"
+
+#include "../NoticeBar.h"
+#include "../TablePage.h"
+#include "ColumnDialog.h"
+#include "SampleDrop.h"
+#include "SampleModes.h"
+
+#include <orv/core_ms/SampleFileChecker.h>
+#include <orv/core_ms/SampleFileFinder.h>
+#include <orv/resources/ResourceReferenceUtils.h>
+#include <orv/samples/SamplesAndTracesTables.h>
+#include <orv/widgets/DialogService.h>
+#include <orv/widgets/ORVFileDialog.h>
+#include <orv/widgets/ORVStyle.h>
+#include <orv/widgets/TableEditor.h>
+
+#include <QCheckBox>
+#include <QFutureWatcher>
+#include <QMenu>
+#include <QPointer>
+#include <QPromise>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <thread>
+
+namespace orv {
+
+namespace {
+
+using Found = SampleFileFinder::Found;
+
+bool isEmptyColumn(const TableSheet &sheet, int column)
+{
+    for (int row = 0; row < sheet.rowCount(); ++row) {
+        const QStringView text = sheet.text(row, column);
+        if (!text.isEmpty() && text != sheet.columns()[column].defaultText)
+            return false;
+    }
+    return true;
+}
+
+/// Nobody waits for the thread, as a folder on a network drive may never be read.
+QFuture<Found> findInBackground(const QStringList &paths)
+{
+    auto promise = std::make_shared<QPromise<Found>>();
+    QFuture<Found> future = promise->future();
+    promise->start();
+    std::thread([promise, paths] {
+        promise->addResult(SampleFileFinder::find(paths));
+        promise->finish();
+    }).detach();
+    return future;
+}
+
+} // namespace
+
+class SamplesAndTracesInputWidget::Private
+{
+public:
+    SamplesAndTracesTables *tables = nullptr;
+    SampleFileChecker *checker = nullptr;
+    NoticeBar *notice = nullptr;
+    QToolBar *bar = nullptr;
+    QMenu *columnMenu = nullptr;
+    QSplitter *splitter = nullptr;
+    QTabWidget *pane = nullptr;
+    QPointer<TableEditor> samples;
+    QPointer<TableEditor> traces;
+    QPointer<TableEditor> presets;
+    QCheckBox *onlySelected = nullptr;
+    QList<SamplesInput::Mode> modes;
+    QUrl baseUrl;
+    QFutureWatcher<Found> *search = nullptr;
+    QStringList waiting; ///< paths for the next search
+    int calls = 0;       ///< of functions that tell of changes themselves
+    bool isTelling = false;
+};
+
+SamplesAndTracesInputWidget::SamplesAndTracesInputWidget(QWidget *parent)
+    : SamplesAndTracesInputWidget(new SampleFileChecker, parent)
+{}
+
+SamplesAndTracesInputWidget::SamplesAndTracesInputWidget(SampleFileChecker *checker, QWidget *parent)
+    : QWidget(parent)
+    , d(std::make_unique<Private>())
+{
+    d->tables = new SamplesAndTracesTables(this);
+    d->checker = checker;
+    checker->setParent(this);
+    d->search = new QFutureWatcher<Found>(this);
+    build();
+    connect(d->tables, &SamplesAndTracesTables::sheetsChanged, this, [this] {
+        buildSamples();
+        buildTraces();
+    });
+    connect(d->tables, &SamplesAndTracesTables::samplesChanged, this, &SamplesAndTracesInputWidget::hear);
+    connect(d->checker, &SampleFileChecker::answered, this, [this] {
+        if (d->samples)
+            d->samples->view()->tableModel()->tellNotesChanged();
+    });
+    connect(d->search, &QFutureWatcher<Found>::finished, this, [this] {
+        const Found found = d->search->result();
+        const Result<int> added = d->tables->addFiles(found.samples);
+        QStringList said = {added.hasError() ? added.error().errorMessage()
+                                             : tr("%n sample(s) added.", nullptr, *added)};
+        if (!found.leftOut.isEmpty())
+            said.append(tr("Without samples: %1").arg(found.leftOut.join(QLatin1String(", "))));
+        if (found.isCut)
+            said.append(tr("There were too many files or folders to look into all."));
+        say(said.join(u' '));
+        searchNext();
+    });
+    buildSamples();
+    buildTraces();
+}
+
+SamplesAndTracesInputWidget::~SamplesAndTracesInputWidget()
+{
+    d->tables->disconnect(this);
+    d->checker->disconnect(this);
+    d->search->disconnect(this);
+    // Tables take what is being typed while they go; then everything else is still there.
+    delete d->samples;
+    delete d->traces;
+    delete d->presets;
+}
+
+void SamplesAndTracesInputWidget::build()
+{
+    d->notice = new NoticeBar;
+    d->bar = new QToolBar;
+    d->bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    d->splitter = new QSplitter(Qt::Vertical);
+    d->splitter->setChildrenCollapsible(false);
+    d->pane = new QTabWidget;
+    d->pane->setObjectName(QStringLiteral("tracesPane"));
+    d->pane->setAccessibleName(tr("Traces and peak options"));
+    d->onlySelected = new QCheckBox(tr("&Only traces of the selected samples"));
+    d->onlySelected->setObjectName(QStringLiteral("onlySelected"));
+    d->onlySelected->setToolTip(tr("Hides traces that none of the samples selected above uses"));
+    connect(d->onlySelected, &QCheckBox::toggled, this, &SamplesAndTracesInputWidget::showTracesOfSelected);
+    addCommands();
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(d->notice);
+    layout->addWidget(d->bar);
+    layout->addWidget(d->splitter, 1);
+    d->splitter->addWidget(d->pane);
+}
+
+void SamplesAndTracesInputWidget::addCommands()
+{
+    const auto add = [this](const char *name, const QString &text, const QString &tip, auto handler) {
+        QAction *const action = d->bar->addAction(text, this, handler);
+        action->setObjectName(QLatin1String(name));
+        action->setToolTip(tip);
+        d->bar->widgetForAction(action)->setObjectName(QLatin1String(name));
+    };
+    add("addFiles", tr("Add &Files..."), tr("Add files as samples"),
+        &SamplesAndTracesInputWidget::chooseFiles);
+    add("addFolder", tr("Add Fol&der..."),
+        tr("Add a folder of a vendor as one sample, or all samples that a folder holds"),
+        &SamplesAndTracesInputWidget::chooseFolder);
+    add("nameByFiles", tr("Name by F&iles"), tr("Give samples without a name that of their file"), [this] {
+        const Result<int> named = d->tables->nameByFiles();
+        say(named.hasError() ? named.error().errorMessage() : tr("%n sample(s) named.", nullptr, *named));
+    });
+    add("checkFiles", tr("Check Fi&les"), tr("Look again whether the files are there"), [this] {
+        d->checker->forget();
+        d->samples->view()->tableModel()->tellNotesChanged();
+    });
+    auto *const columns = new QToolButton;
+    columns->setObjectName(QStringLiteral("columns"));
+    columns->setText(tr("Colu&mns"));
+    columns->setToolTip(tr("Add or remove columns of your own, such as \"Condition\""));
+    columns->setPopupMode(QToolButton::InstantPopup);
+    d->columnMenu = new QMenu(columns);
+    columns->setMenu(d->columnMenu);
+    d->bar->addWidget(columns);
+}
+
+void SamplesAndTracesInputWidget::buildSamples()
+{
+    TableEditor *const before = d->samples;
+    d->samples = TablePage::editorOf(d->tables->samples(), tr("Samples"), QStringLiteral("Samples"));
+    TableView *const view = d->samples->view();
+    view->setEmptyText(tr("There are no samples yet.\nDrop files or folders here, add them with \"Add "
+                          "Files\", or paste rows from a spreadsheet."));
+    view->tableModel()->setNotes([this](quint32 row, int column) { return noteOnSample(row, column); });
+    auto *const drop = new SampleDrop(view);
+    connect(drop, &SampleDrop::pathsCame, this, &SamplesAndTracesInputWidget::addPaths);
+    connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &SamplesAndTracesInputWidget::showTracesOfSelected);
+    d->splitter->insertWidget(0, d->samples);
+    d->splitter->setStretchFactor(0, 3);
+    d->samples->setEnabled(!d->tables->isUnreadable());
+    if (before) {
+        // It may be the one that a person is just typing in.
+        before->hide();
+        before->deleteLater();
+    }
+    d->columnMenu->clear();
+    d->columnMenu->addAction(tr("&Add Column..."), this, &SamplesAndTracesInputWidget::askForColumn);
+    for (const QString &name : d->tables->customColumns().customColumnNames())
+        d->columnMenu->addAction(tr("Remove \"%1\"").arg(QString(name).replace(u'&', QLatin1String("&&"))),
+                                 this, [this, name] { askToRemove(name); });
+    showColumns();
+    setFocusProxy(d->samples);
+}
+
+void SamplesAndTracesInputWidget::buildTraces()
+{
+    for (const QPointer<TableEditor> &before : {d->traces, d->presets}) {
+        if (before)
+            before->deleteLater();
+    }
+    d->traces = TablePage::editorOf(d->tables->traces(), tr("Traces"), QStringLiteral("Traces"));
+    d->presets = TablePage::editorOf(d->tables->presets(), tr("Peak options"), QStringLiteral("PeakOptions"));
+    d->traces->view()->setEmptyText(tr("No traces are chosen yet. Add a row for each trace."));
+    TableModel *const model = d->traces->view()->tableModel();
+    const int samples = d->traces->view()->sheet()->columnOf(QStringLiteral("samplesIds"));
+    model->setNotes([this, samples](quint32 row, int column) {
+        return column == samples ? d->tables->namesOfSamples(d->tables->traces()->textOf(row, column))
+                                 : QString();
+    });
+    connect(model, &QAbstractItemModel::rowsInserted, this,
+            &SamplesAndTracesInputWidget::showTracesOfSelected);
+    connect(model, &QAbstractItemModel::modelReset, this, &SamplesAndTracesInputWidget::showTracesOfSelected);
+    auto *const page = new QWidget;
+    auto *const layout = new QVBoxLayout(page);
+    d->onlySelected->setParent(page);
+    layout->addWidget(d->onlySelected);
+    layout->addWidget(d->traces);
+    const int current = d->pane->currentIndex();
+    while (d->pane->count() > 0) {
+        QWidget *const old = d->pane->widget(0);
+        d->pane->removeTab(0);
+        old->deleteLater();
+    }
+    d->pane->addTab(page, tr("&Traces"));
+    d->pane->addTab(d->presets, tr("&Peak Options"));
+    d->pane->setCurrentIndex(std::max(current, 0));
+    d->pane->setEnabled(!d->tables->isUnreadable());
+    showTracesOfSelected();
+}
+
+QJsonObject SamplesAndTracesInputWidget::jsonContent() const
+{
+    return d->tables->jsonContent();
+}
+
+Error SamplesAndTracesInputWidget::setFromJsonContent(const QJsonObject &json)
+{
+    ++d->calls;
+    Error error = d->tables->setJsonContent(json);
+    --d->calls;
+    showNotice(error);
+    Q_EMIT samplesChanged(samplesInput());
+    return error.hasError() ? error.ecatch() : Error::NoError;
+}
+
+void SamplesAndTracesInputWidget::showNotice(const Error &error)
+{
+    d->notice->setText(error.hasError() ? tr("The samples can't be shown, and stay as they are: %1 %2")
+                                              .arg(error.errorMessage(), error.details().join(u' '))
+                                        : QString());
+}
+
+QList<SamplesInput::Entry> SamplesAndTracesInputWidget::samplesInput() const
+{
+    return d->tables->entries();
+}
+
+void SamplesAndTracesInputWidget::addNewSampleFiles(const QList<SamplePathAndName> &files)
+{
+    ++d->calls;
+    const Result<int> added = d->tables->addFiles(files);
+    --d->calls;
+    say(added.hasError() ? added.error().errorMessage() : tr("%n sample(s) added.", nullptr, *added));
+    if (!added.hasError() && *added > 0)
+        Q_EMIT samplesChanged(samplesInput());
+}
+
+bool SamplesAndTracesInputWidget::validate(QStringList *warnings, QStringList *errors,
+                                           QStringList *details) const
+{
+    return d->tables->validate(warnings, errors, details);
+}
+
+void SamplesAndTracesInputWidget::setModes(const QList<SamplesInput::Mode> &modes)
+{
+    d->modes = modes;
+    showColumns();
+}
+
+void SamplesAndTracesInputWidget::setBaseUrl(const QUrl &baseUrl)
+{
+    d->baseUrl = baseUrl;
+    d->samples->view()->tableModel()->tellNotesChanged();
+}
+
+QString SamplesAndTracesInputWidget::plainText() const
+{
+    QStringList texts = {d->notice->text(), TablePage::textOf(d->samples), TablePage::textOf(d->traces),
+                         TablePage::textOf(d->presets)};
+    texts.removeAll(QString());
+    return texts.join(u'\n');
+}
+
+/// What nobody needs is hidden while it is empty: nothing that a document holds may be out of sight.
+void SamplesAndTracesInputWidget::showColumns()
+{
+    const QStringList unneeded = SampleModes::unneededColumns(d->modes);
+    const TableSheet *const sheet = d->samples->view()->sheet();
+    for (const QString &name : SampleModes::unneededColumns({SamplesInput::Mode::MultiDocReport})) {
+        const int column = sheet->columnOf(name);
+        d->samples->view()->setColumnShown(column,
+                                           !unneeded.contains(name) || !isEmptyColumn(*sheet, column));
+    }
+    const bool hasTraces = d->tables->traces()->rowCount() > 0 || d->tables->presets()->rowCount() > 0;
+    d->pane->setVisible(hasTraces || SampleModes::needTraces(d->modes));
+}
+
+void SamplesAndTracesInputWidget::showTracesOfSelected()
+{
+    if (!d->traces || !d->samples)
+        return;
+    const TableModel *const samples = d->samples->view()->tableModel();
+    QList<int> ids;
+    for (const QItemSelectionRange &range : d->samples->view()->selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            ids.append(d->tables->sampleIdOfRow(samples->rowId(row)));
+    }
+    const bool isAll = !d->onlySelected->isChecked() || ids.isEmpty();
+    const TableModel *const traces = d->traces->view()->tableModel();
+    for (int row = 0; row < traces->rowCount(); ++row)
+        d->traces->view()->setRowHidden(row, !isAll && !d->tables->isTraceOf(traces->sheetRow(row), ids));
+}
+
+QString SamplesAndTracesInputWidget::noteOnSample(quint32 row, int column) const
+{
+    const TableSheet *const sheet = d->samples->view()->sheet();
+    const int place = sheet->rowOf(row);
+    const QList<SamplesInput::Entry> &entries = d->tables->entries();
+    if (place < 0 || place >= entries.size())
+        return {};
+    const SamplesInput::Entry &entry = entries[place];
+    if (column == 0)
+        return tr("id %1").arg(entry.id);
+    if (sheet->columns()[column].kind != TableColumnKind::File)
+        return {};
+    const auto answer = d->checker->answer(ResourceReferenceUtils::resolved(entry.msFile, d->baseUrl));
+    return answer ? answer->text : QString();
+}
+
+void SamplesAndTracesInputWidget::addPaths(const QStringList &paths)
+{
+    d->waiting += paths;
+    searchNext();
+}
+
+/// One search at a time: a drive that never answers keeps one thread.
+void SamplesAndTracesInputWidget::searchNext()
+{
+    if (d->waiting.isEmpty() || d->search->isRunning())
+        return;
+    say(tr("Looking for samples..."));
+    d->search->setFuture(findInBackground(std::exchange(d->waiting, {})));
+}
+
+void SamplesAndTracesInputWidget::chooseFiles()
+{
+    const QPointer<SamplesAndTracesInputWidget> self = this;
+    const QStringList paths = ORVFileDialog::getOpenFileNames(this, tr("Add Files"));
+    if (self && !paths.isEmpty())
+        addPaths(paths);
+}
+
+void SamplesAndTracesInputWidget::chooseFolder()
+{
+    const QPointer<SamplesAndTracesInputWidget> self = this;
+    const QString path = ORVFileDialog::getExistingDirectory(this, tr("Add Folder"));
+    if (self && !path.isEmpty())
+        addPaths({path});
+}
+
+void SamplesAndTracesInputWidget::askForColumn()
+{
+    const QPointer<ColumnDialog> dialog = new ColumnDialog(d->tables->customColumns(), this);
+    const bool isAccepted = DialogService::exec(*dialog);
+    // The widget may have gone with the dialog meanwhile.
+    if (!dialog)
+        return;
+    const SamplesInput::CustomColumn column = dialog->column();
+    dialog->deleteLater();
+    if (!isAccepted)
+        return;
+    if (const Error error = d->tables->addCustomColumn(column); error.hasError())
+        say(error.errorMessage());
+    else
+        say(tr("Column \"%1\" added.").arg(column.name));
+}
+
+void SamplesAndTracesInputWidget::askToRemove(const QString &column)
+{
+    const QPointer<SamplesAndTracesInputWidget> self = this;
+    // A column doesn't come back by undo.
+    if (d->tables->hasValues(column)) {
+        const auto answer = ORVStyle::question(
+            this, tr("Remove Column"),
+            tr("The column \"%1\" holds values, which can't be brought back. Remove it?").arg(column),
+            QMessageBox::Yes | QMessageBox::Cancel, {{QMessageBox::Yes, tr("Remove")}});
+        if (!self || answer != QMessageBox::Yes)
+            return;
+    }
+    if (!d->tables->removeCustomColumn(column))
+        return;
+    say(tr("Column \"%1\" removed.").arg(column));
+    Q_EMIT removeCustomColumn(column);
+}
+
+/// A listener may do anything, closing the window included, which must not happen inside of a cell's editor.
+void SamplesAndTracesInputWidget::hear()
+{
+    if (d->traces)
+        d->traces->view()->tableModel()->tellNotesChanged();
+    if (d->calls > 0 || std::exchange(d->isTelling, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            d->isTelling = false;
+            Q_EMIT samplesChanged(samplesInput());
+        },
+        Qt::QueuedConnection);
+}
+
+void SamplesAndTracesInputWidget::say(const QString &text)
+{
+    if (d->samples)
+        Q_EMIT d->samples->view()->said(text);
+}
+
+} // namespace orv
