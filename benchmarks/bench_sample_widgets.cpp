@@ -1,0 +1,110 @@
+// Widgets of samples against the item widgets that one would take for them otherwise.
+
+#include "LifelikeDocument.h"
+#include "RatioReporter.h"
+
+#include <orv/samples/SamplesAndTracesTables.h>
+#include <orv/table_model/TableSheet.h>
+#include <orv/widgets/SamplesAndTracesInputWidget.h>
+#include <orv/widgets/TableEditor.h>
+
+#include <QApplication>
+#include <QJsonArray>
+#include <QTableWidget>
+
+#include <functional>
+
+using namespace orv;
+
+namespace {
+
+constexpr int kColumns = 10;
+
+int sampleCount()
+{
+    return Lifelike::isForAMoment() ? 200 : 10000;
+}
+
+QJsonObject contentOf(int count)
+{
+    QJsonArray samples;
+    for (int i = 0; i < count; ++i) {
+        samples.append(QJsonObject{
+            {QStringLiteral("SamplesId"), i + 1},
+            {QStringLiteral("SampleName"), QStringLiteral("Plate %1 well %2").arg(i / 96).arg(i % 96)},
+            {QStringLiteral("SamplePath"), QStringLiteral("/data/plate%1/run%2.raw").arg(i / 96).arg(i)},
+            {QStringLiteral("Condition"), QStringLiteral("dose %1").arg(i % 5)},
+            {QStringLiteral("Replicate"), QString::number(i % 3)}});
+    }
+    return {{QStringLiteral("Samples"), samples}};
+}
+
+void add(const char *name, const std::function<void()> &work)
+{
+    benchmark::RegisterBenchmark(name, [work](benchmark::State &state) {
+        for ([[maybe_unused]] auto iteration : state)
+            work();
+    })->Unit(benchmark::kMicrosecond);
+}
+
+void showInItems(const QJsonArray &samples)
+{
+    QTableWidget table(int(samples.size()), kColumns);
+    for (int row = 0; row < samples.size(); ++row) {
+        const QJsonObject sample = samples[row].toObject();
+        int column = 0;
+        for (auto it = sample.begin(); it != sample.end(); ++it)
+            table.setItem(row, column++, new QTableWidgetItem(it->toVariant().toString()));
+        for (; column < kColumns; ++column)
+            table.setItem(row, column, new QTableWidgetItem(QString()));
+    }
+    table.resize(1000, 700);
+    table.show();
+    benchmark::DoNotOptimize(table.grab());
+}
+
+void showInWidget(const QJsonObject &content)
+{
+    SamplesAndTracesInputWidget widget;
+    if (widget.setFromJsonContent(content).hasError())
+        qFatal("The samples don't load");
+    widget.resize(1000, 700);
+    widget.show();
+    benchmark::DoNotOptimize(widget.grab());
+}
+
+void addFirstFrame()
+{
+    const auto content = std::make_shared<QJsonObject>(contentOf(sampleCount()));
+    add("samples, first frame/baseline",
+        [content] { showInItems(content->value(QStringLiteral("Samples")).toArray()); });
+    add("samples, first frame/SamplesAndTracesInputWidget", [content] { showInWidget(*content); });
+}
+
+/// One edit with all that hears of it, among few and among many samples.
+void addEdit(const char *name, int count)
+{
+    const auto tables = std::make_shared<SamplesAndTracesTables>();
+    if (tables->setJsonContent(contentOf(count)).hasError())
+        qFatal("The samples don't load");
+    const auto told = std::make_shared<QList<SamplesInput::Entry>>();
+    QObject::connect(tables.get(), &SamplesAndTracesTables::samplesChanged, tables.get(),
+                     [told, all = tables.get()] { *told = all->entries(); });
+    const auto run = std::make_shared<int>(0);
+    add(name, [tables, run] {
+        if (tables->samples()->setText(7, 0, QString::number(++*run)).hasError())
+            qFatal("No room");
+        tables->samples()->history()->undo();
+    });
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QApplication application(argc, argv);
+    addFirstFrame();
+    addEdit("samples, an edit and its undo/baseline", 100);
+    addEdit("samples, an edit and its undo/among 10,000", sampleCount());
+    return runRatioBenchmarks(argc, argv);
+}
