@@ -34,14 +34,23 @@ SamplesAndTracesTables::Sheet sheetOf(const std::shared_ptr<RecordSheet<Record>>
 constexpr qsizetype kListedCells = 50;
 constexpr qsizetype kListedNames = 8;
 
-void findProblems(const TableSheet &sheet, const QString &table, QStringList *places)
+enum class AcrossRows
+{
+    Yes,
+    No, ///< names that two samples have are marked, and a warning
+};
+
+void findProblems(const TableSheet &sheet, const QString &table, AcrossRows isAcrossRows, QStringList *places)
 {
     for (int row = 0; row < sheet.rowCount(); ++row) {
         for (int column = 0; column < sheet.columnCount(); ++column) {
             // What is missing is told in one line for all samples.
             if (sheet.text(row, column).isEmpty())
                 continue;
-            if (const QString problem = sheet.problem(row, column); !problem.isEmpty())
+            const QString problem = isAcrossRows == AcrossRows::Yes
+                                        ? sheet.problem(row, column)
+                                        : sheet.columns()[column].problem(sheet.text(row, column));
+            if (!problem.isEmpty())
                 places->append(SamplesAndTracesTables::tr("%1, row %2, %3: %4")
                                    .arg(table)
                                    .arg(row + 1)
@@ -227,6 +236,7 @@ void SamplesAndTracesTables::Private::readPresetNames()
     const int column = sheet->columnOf(TraceColumns::kPresetName);
     for (int row = 0; row < sheet->rowCount(); ++row)
         presetNames->insert(sheet->text(row, column).toString());
+    traces->sheet()->checkAnew();
 }
 
 Error SamplesAndTracesTables::Private::load(const SamplesAndTracesContent &next)
@@ -241,6 +251,9 @@ Error SamplesAndTracesTables::Private::load(const SamplesAndTracesContent &next)
     presets = nextPresets;
     presetNames = names;
     content = next;
+    const TableSheet &sheet = *presets->sheet();
+    presets->sheet()->setRowRules(
+        {TableRules::inOrder(sheet.columns(), TraceColumns::kStart, TraceColumns::kEnd)});
     readPresetNames();
     connect(presets->sheet()->history(), &TableHistory::indexChanged, q, [this] { readPresetNames(); });
     return Error::NoError;
@@ -406,9 +419,9 @@ bool SamplesAndTracesTables::removeCustomColumn(const QString &name)
 bool SamplesAndTracesTables::validate(QStringList *warnings, QStringList *errors, QStringList *details) const
 {
     QStringList places;
-    findProblems(*d->samples->sheet(), tr("Samples"), &places);
-    findProblems(*d->traces->sheet(), tr("Traces"), &places);
-    findProblems(*d->presets->sheet(), tr("Peak options"), &places);
+    findProblems(*d->samples->sheet(), tr("Samples"), AcrossRows::No, &places);
+    findProblems(*d->traces->sheet(), tr("Traces"), AcrossRows::Yes, &places);
+    findProblems(*d->presets->sheet(), tr("Peak options"), AcrossRows::Yes, &places);
     if (!places.isEmpty() && errors)
         errors->append(
             tr("%n cell(s) of the samples hold what isn't allowed there.", nullptr, int(places.size())));

@@ -1,12 +1,12 @@
 #include "NoticeBar.h"
 
-#include <orv/widgets/MeaningColors.h>
+#include <orv/widgets/Icons.h>
 
 #include <QAccessible>
-#include <QEvent>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
-#include <QPainter>
+#include <QStyle>
 
 namespace orv {
 
@@ -23,7 +23,8 @@ NoticeBar::NoticeBar(QWidget *parent)
     auto *const layout = new QHBoxLayout(this);
     layout->addWidget(m_sign);
     layout->addWidget(m_text, 1);
-    paintSign();
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    m_sign->setPixmap(Icons::icon(IconName::Error).pixmap(QSize(side, side), devicePixelRatioF()));
     hide();
 }
 
@@ -41,25 +42,6 @@ void NoticeBar::setText(const QString &text)
 QString NoticeBar::text() const
 {
     return m_text->text();
-}
-
-void NoticeBar::changeEvent(QEvent *event)
-{
-    QFrame::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
-        paintSign();
-}
-
-void NoticeBar::paintSign()
-{
-    const int side = fontMetrics().height();
-    QPixmap pixmap(QSize(side, side) * devicePixelRatioF());
-    pixmap.setDevicePixelRatio(devicePixelRatioF());
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    MeaningColors::paintErrorSign(painter, QRect(0, 0, side, side), MeaningColors::error(palette()));
-    painter.end();
-    m_sign->setPixmap(pixmap);
 }
 
 } // namespace orv

@@ -19,12 +19,7 @@ public:
     void setText(const QString &text);
     [[nodiscard]] QString text() const;
 
-protected:
-    void changeEvent(QEvent *event) override;
-
 private:
-    void paintSign();
-
     QLabel *m_sign;
     QLabel *m_text;
 };

@@ -258,6 +258,7 @@ PresetColumn presetNameColumn()
     TableColumn column = described(kPresetName, TraceColumnsTr::tr("Name"), TableColumnKind::Text,
                                    TraceColumnsTr::tr("By which traces name these options."));
     column.isRequired = true;
+    column.isUnique = true;
     return {column, [](const Preset &preset) { return preset.name(); },
             [](Preset *preset, const QString &text) { preset->setName(text); }};
 }
@@ -310,10 +311,10 @@ RecordSheet<Preset>::Columns ofPresets()
     interval.unit = Tr::tr("min");
     return {
         presetNameColumn(),
-        timeColumn(described(QLatin1String("start"), Tr::tr("From"), Kind::Number,
+        timeColumn(described(kStart, Tr::tr("From"), Kind::Number,
                              Tr::tr("Where peaks begin to be looked for; empty for the whole trace.")),
                    &Preset::TimeRange::start),
-        timeColumn(described(QLatin1String("end"), Tr::tr("To"), Kind::Number,
+        timeColumn(described(kEnd, Tr::tr("To"), Kind::Number,
                              Tr::tr("Where peaks end to be looked for; empty for the whole trace.")),
                    &Preset::TimeRange::end),
         flagColumn(described(QLatin1String("findsPeaks"), Tr::tr("Find peaks"), Kind::Choice,

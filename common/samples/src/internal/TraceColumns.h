@@ -14,6 +14,8 @@ namespace orv::TraceColumns {
 inline constexpr QLatin1String kSamples("samplesIds");
 inline constexpr QLatin1String kPreset("peaksOptions");
 inline constexpr QLatin1String kPresetName("name");
+inline constexpr QLatin1String kStart("start");
+inline constexpr QLatin1String kEnd("end");
 
 using PresetNames = std::shared_ptr<QSet<QString>>;
 

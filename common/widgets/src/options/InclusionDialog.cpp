@@ -92,6 +92,9 @@ InclusionDialog::InclusionDialog(QWidget *parent)
     , d(std::make_unique<Private>())
 {
     setWindowTitle(tr("Inclusion List"));
+    TableSheet *const sheet = d->table->sheet();
+    sheet->setRowRules(
+        {TableRules::inOrder(sheet->columns(), QStringLiteral("start"), QStringLiteral("end"))});
     d->editor = TablePage::editorOf({d->table, d->table->sheet()}, tr("Inclusion list"),
                                     QStringLiteral("InclusionList"));
     // What couldn't be read the next time isn't given back.

@@ -78,6 +78,16 @@ QList<TableColumn> optionColumns(const QString &adduct)
     return columns;
 }
 
+QList<TableRowRule> optionRules(const QList<TableColumn> &columns)
+{
+    using TableRules::Bounds;
+    using TableRules::inOrder;
+    return {
+        inOrder(columns, QStringLiteral("MinimumMz"), QStringLiteral("MaximumMz"), Bounds::MustDiffer),
+        inOrder(columns, QStringLiteral("MinimumMass"), QStringLiteral("MaximumMass"), Bounds::MustDiffer),
+        inOrder(columns, QStringLiteral("MinimumCharge"), QStringLiteral("MaximumCharge"))};
+}
+
 /// One message a line, whatever it holds.
 QString linesOf(const QStringList &messages)
 {
@@ -138,6 +148,7 @@ OptionsWidgetBase::~OptionsWidgetBase()
 void OptionsWidgetBase::show(const RowNode &table)
 {
     d->fault = d->table.load(table);
+    d->table.sheet()->setRowRules(optionRules(d->table.sheet()->columns()));
     d->unshown = d->fault.hasError() ? table : RowNode();
     d->notice->setText(
         d->fault.hasError()

@@ -4,10 +4,12 @@
 #include "../TablePage.h"
 
 #include <orv/table_model/RowNodeSheet.h>
+#include <orv/widgets/Icons.h>
 #include <orv/widgets/ORVFileDialog.h>
 #include <orv/widgets/TableEditor.h>
 
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -50,7 +52,7 @@ void CustomFieldsImportWidget::build()
     d->fields->setObjectName(QStringLiteral("fields"));
     d->fields->setTextFormat(Qt::PlainText);
     d->fields->setWordWrap(true);
-    auto *const import = new QPushButton(tr("&Import Text File..."));
+    auto *const import = new QPushButton(Icons::icon(IconName::Import), tr("&Import Text File..."));
     import->setObjectName(QStringLiteral("importCsv"));
     import->setToolTip(tr("Replace the table by a CSV file of samples and proteins"));
     connect(import, &QPushButton::clicked, this, &CustomFieldsImportWidget::chooseFile);

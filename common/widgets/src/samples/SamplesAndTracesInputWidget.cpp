@@ -11,12 +11,14 @@
 #include <orv/resources/ResourceReferenceUtils.h>
 #include <orv/samples/SamplesAndTracesTables.h>
 #include <orv/widgets/DialogService.h>
+#include <orv/widgets/Icons.h>
 #include <orv/widgets/ORVFileDialog.h>
 #include <orv/widgets/ORVStyle.h>
 #include <orv/widgets/TableEditor.h>
 
 #include <QCheckBox>
 #include <QFutureWatcher>
+#include <QIcon>
 #include <QMenu>
 #include <QPointer>
 #include <QPromise>
@@ -134,7 +136,7 @@ void SamplesAndTracesInputWidget::build()
 {
     d->notice = new NoticeBar;
     d->bar = new QToolBar;
-    d->bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    d->bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     d->splitter = new QSplitter(Qt::Vertical);
     d->splitter->setChildrenCollapsible(false);
     d->pane = new QTabWidget;
@@ -155,27 +157,32 @@ void SamplesAndTracesInputWidget::build()
 
 void SamplesAndTracesInputWidget::addCommands()
 {
-    const auto add = [this](const char *name, const QString &text, const QString &tip, auto handler) {
-        QAction *const action = d->bar->addAction(text, this, handler);
+    const auto add = [this](const char *name, IconName icon, const QString &text, const QString &tip,
+                            auto handler) {
+        QAction *const action = d->bar->addAction(Icons::icon(icon), text, this, handler);
         action->setObjectName(QLatin1String(name));
         action->setToolTip(tip);
         d->bar->widgetForAction(action)->setObjectName(QLatin1String(name));
     };
-    add("addFiles", tr("Add &Files..."), tr("Add files as samples"),
+    add("addFiles", IconName::Add, tr("Add &Files..."), tr("Add files as samples"),
         &SamplesAndTracesInputWidget::chooseFiles);
-    add("addFolder", tr("Add Fol&der..."),
+    add("addFolder", IconName::Open, tr("Add Fol&der..."),
         tr("Add a folder of a vendor as one sample, or all samples that a folder holds"),
         &SamplesAndTracesInputWidget::chooseFolder);
-    add("nameByFiles", tr("Name by F&iles"), tr("Give samples without a name that of their file"), [this] {
-        const Result<int> named = d->tables->nameByFiles();
-        say(named.hasError() ? named.error().errorMessage() : tr("%n sample(s) named.", nullptr, *named));
-    });
-    add("checkFiles", tr("Check Fi&les"), tr("Look again whether the files are there"), [this] {
-        d->checker->forget();
-        d->samples->view()->tableModel()->tellNotesChanged();
-    });
+    add("nameByFiles", IconName::Edit, tr("Name by F&iles"),
+        tr("Give samples without a name that of their file"), [this] {
+            const Result<int> named = d->tables->nameByFiles();
+            say(named.hasError() ? named.error().errorMessage() : tr("%n sample(s) named.", nullptr, *named));
+        });
+    add("checkFiles", IconName::Find, tr("Check Fi&les"), tr("Look again whether the files are there"),
+        [this] {
+            d->checker->forget();
+            d->samples->view()->tableModel()->tellNotesChanged();
+        });
     auto *const columns = new QToolButton;
     columns->setObjectName(QStringLiteral("columns"));
+    columns->setIcon(Icons::icon(IconName::Columns));
+    columns->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     columns->setText(tr("Colu&mns"));
     columns->setToolTip(tr("Add or remove columns of your own, such as \"Condition\""));
     columns->setPopupMode(QToolButton::InstantPopup);

@@ -91,7 +91,7 @@ Result<SamplesProteinsCsv> SamplesProteinsCsv::read(const QString &path)
     Result<QByteArray> bytes = FileUtils::readFile(path);
     if (bytes.hasError())
         return bytes.ecatch();
-    TableImport import(*bytes, {});
+    TableImport import(*bytes, QList<TableColumn>());
     if (!import.format().hasHeader) {
         TableTextFormat format = import.format();
         format.hasHeader = true;

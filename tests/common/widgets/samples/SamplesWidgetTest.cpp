@@ -406,10 +406,11 @@ void SamplesWidgetTest::everythingIsReachedAndNamed()
         reached.insert(at);
     for (QAbstractButton *const button : widget.findChildren<QAbstractButton *>()) {
         if (!button->isVisibleTo(&widget) || button->objectName().startsWith(u"qt_"_s) ||
-            button->inherits("QTableCornerButton"))
+            button->inherits("QLineEditIconButton") || button->inherits("QTableCornerButton"))
             continue;
         QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(button);
-        QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), qPrintable(button->objectName()));
+        QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(),
+                 qPrintable(QLatin1String(button->metaObject()->className()) + button->toolTip()));
         QVERIFY2(reached.contains(button) || button->focusPolicy() == Qt::NoFocus,
                  qPrintable(button->objectName()));
         QVERIFY2(!button->toolTip().isEmpty(), qPrintable(button->text()));
