@@ -170,7 +170,7 @@ QStringView Pasting::kept(const TableColumn &column, QStringView typed)
 
 void Pasting::pasteField(int row, int column, QStringView typed)
 {
-    if (m_columns[column].isReadOnly) {
+    if (!m_columns[column].isEditable()) {
         ++m_outcome.readOnlyCells;
     } else {
         m_cells.append({row, column, kept(m_columns[column], typed)});

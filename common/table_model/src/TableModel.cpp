@@ -141,7 +141,7 @@ Qt::ItemFlags TableModel::flags(const QModelIndex &index) const
 {
     if (!index.isValid())
         return Qt::NoItemFlags;
-    const bool isEditable = !d->sheet->columns()[index.column()].isReadOnly;
+    const bool isEditable = d->sheet->columns()[index.column()].isEditable();
     const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
     return isEditable ? flags | Qt::ItemIsEditable : flags;
 }

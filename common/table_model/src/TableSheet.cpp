@@ -171,7 +171,7 @@ Error TableSheet::load(const QList<QStringList> &rows)
     d->history->clear();
     if (!guard)
         return Error::NoError;
-    d->store = TableStore(columnCount());
+    d->store.clear();
     d->store.reserveRows(rows.size());
     d->order.assign({});
     d->checks.clear();
@@ -319,6 +319,14 @@ int TableSheet::problemCount() const
 bool TableSheet::areProblemsCounted() const
 {
     return d->checks.counts().unknownRows() == 0;
+}
+
+void TableSheet::deriveAnew()
+{
+    d->store.deriveAnew();
+    d->checks.clearUniques();
+    d->checks.forgetCounts();
+    Q_EMIT derivedAnew();
 }
 
 void TableSheet::countProblems(int rows)

@@ -124,11 +124,16 @@ void TableChecks::count(quint32 row)
     m_counts.setCount(row, int(std::count(marked.cbegin(), marked.cend(), true)));
 }
 
+void TableChecks::clearUniques()
+{
+    m_uniques.clear();
+    m_hasUniques = false;
+}
+
 void TableChecks::clear()
 {
     m_counts = {};
-    m_uniques.clear();
-    m_hasUniques = false;
+    clearUniques();
     m_touched.clear();
 }
 

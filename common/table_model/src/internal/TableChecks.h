@@ -33,6 +33,8 @@ public:
     /// All rows are to be looked at anew.
     void forgetCounts();
 
+    /// Texts have changed that nobody edited.
+    void clearUniques();
     /// The store was emptied; its rows come anew.
     void clear();
     /// The store has new rows, which aren't in the table yet.

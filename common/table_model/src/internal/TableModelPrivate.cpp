@@ -35,6 +35,8 @@ void TableModel::Private::follow()
     QObject::connect(
         sheet, &TableSheet::cellsChanged, q,
         [this](const QList<quint32> &ids, int first, int last) { tellChanged(ids, first, last, {}); });
+    QObject::connect(sheet, &TableSheet::derivedAnew, q,
+                     [this] { tellChanged(sheet->rowIds(), 0, sheet->columnCount() - 1, {}); });
     QObject::connect(sheet, &TableSheet::problemsChanged, q, [this](const QList<quint32> &ids) {
         tellChanged(ids, 0, sheet->columnCount() - 1,
                     {ProblemRole, Qt::ToolTipRole, Qt::AccessibleDescriptionRole});

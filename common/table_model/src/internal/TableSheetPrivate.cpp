@@ -9,7 +9,7 @@ namespace orv {
 TableSheet::Private::Private(TableSheet *sheet, QList<TableColumn> columnsOfSheet)
     : q(sheet)
     , columns(std::move(columnsOfSheet))
-    , store(int(columns.size()))
+    , store(columns)
     , history(new TableHistory(sheet))
 {}
 
@@ -75,6 +75,10 @@ void TableSheet::Private::tellCells(const QList<TableCellChange> &cells) const
         last = std::max(last, cell.column);
         if (ids.isEmpty() || ids.constLast() != cell.row)
             ids.append(cell.row);
+    }
+    if (store.hasDerived()) {
+        first = 0;
+        last = int(columns.size()) - 1;
     }
     Q_EMIT q->cellsChanged(ids, first, last);
 }

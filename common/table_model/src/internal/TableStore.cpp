@@ -4,6 +4,30 @@
 
 namespace orv {
 
+TableStore::TableStore(const QList<TableColumn> &columns)
+    : m_derived(columns)
+    , m_columns(int(columns.size()))
+{}
+
+void TableStore::clear()
+{
+    m_derived.forgetAll();
+    m_units.clear();
+    m_units.shrink_to_fit();
+    m_slots.clear();
+    m_rows = 0;
+}
+
+QStringView TableStore::derivedText(quint32 row, int column) const
+{
+    if (const QString *const known = m_derived.find(row, column))
+        return *known;
+    QStringList texts;
+    for (int other = 0; other < m_columns; ++other)
+        texts.append(m_derived.has(other) ? QString() : text(slot(row, other)).toString());
+    return m_derived.keep(row, column, m_derived.derive(column, texts));
+}
+
 quint32 TableStore::addRow()
 {
     m_slots.resize(m_slots.size() + size_t(m_columns));

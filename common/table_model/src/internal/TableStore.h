@@ -1,7 +1,10 @@
 #pragma once
 
+#include "TableDerived.h"
+
 #include <QStringView>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -25,9 +28,10 @@ public:
     /// What one table holds at most, in UTF-16 units: 1 GiB.
     static constexpr qsizetype kMaxUnits = qsizetype(1) << 29;
 
-    explicit TableStore(int columns)
-        : m_columns(columns)
-    {}
+    explicit TableStore(const QList<TableColumn> &columns);
+
+    /// No rows afterwards.
+    void clear();
 
     quint32 addRow();
     void reserveRows(qsizetype rows) { m_slots.reserve(size_t(rows) * size_t(m_columns)); }
@@ -48,8 +52,19 @@ public:
     }
 
     [[nodiscard]] TableSlot slot(quint32 row, int column) const { return m_slots[index(row, column)]; }
-    void setSlot(quint32 row, int column, TableSlot slot) { m_slots[index(row, column)] = slot; }
-    [[nodiscard]] QStringView text(quint32 row, int column) const { return text(slot(row, column)); }
+    void setSlot(quint32 row, int column, TableSlot slot)
+    {
+        m_slots[index(row, column)] = slot;
+        m_derived.forget(row);
+    }
+    /// Of a derived column what follows from the row.
+    [[nodiscard]] QStringView text(quint32 row, int column) const
+    {
+        return m_derived.has(column) ? derivedText(row, column) : text(slot(row, column));
+    }
+
+    [[nodiscard]] bool hasDerived() const { return !m_derived.isEmpty(); }
+    void deriveAnew() { m_derived.forgetAll(); }
 
 private:
     [[nodiscard]] size_t index(quint32 row, int column) const
@@ -57,6 +72,9 @@ private:
         return size_t(row) * size_t(m_columns) + size_t(column);
     }
 
+    [[nodiscard]] QStringView derivedText(quint32 row, int column) const;
+
+    mutable TableDerived m_derived; ///< made when somebody asks
     std::vector<char16_t> m_units;
     std::vector<TableSlot> m_slots;
     int m_columns;

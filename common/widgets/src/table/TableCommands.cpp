@@ -145,7 +145,7 @@ QList<TableCellText> TableCommands::editableCells(QStringView text) const
     const QItemSelection selection = m_view->selectionModel()->selection();
     for (const QItemSelectionRange &range : selection) {
         for (int column = range.left(); column <= range.right(); ++column) {
-            if (!shown.contains(column) || m_view->sheet()->columns()[column].isReadOnly)
+            if (!shown.contains(column) || !m_view->sheet()->columns()[column].isEditable())
                 continue;
             for (int row = range.top(); row <= range.bottom(); ++row)
                 cells.append({m_view->tableModel()->sheetRow(row), column, text});
@@ -271,7 +271,7 @@ void TableCommands::fillDown()
     for (const QItemSelectionRange &range : selection) {
         const int source = range.height() > 1 ? range.top() : std::max(0, range.top() - 1);
         for (int column = range.left(); column <= range.right(); ++column) {
-            if (m_view->isColumnHidden(column) || m_view->sheet()->columns()[column].isReadOnly)
+            if (m_view->isColumnHidden(column) || !m_view->sheet()->columns()[column].isEditable())
                 continue;
             const QStringView text = m_view->sheet()->textOf(model->rowId(source), column);
             for (int row = source + 1; row <= range.bottom(); ++row)

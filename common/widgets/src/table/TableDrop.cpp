@@ -18,7 +18,7 @@ struct TableDropTr
 
 bool takesFiles(const TableColumn &column)
 {
-    return column.kind == TableColumnKind::File && !column.isReadOnly;
+    return column.kind == TableColumnKind::File && column.isEditable();
 }
 
 bool isTextTable(const QString &path)

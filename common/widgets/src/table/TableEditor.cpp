@@ -80,6 +80,7 @@ TableEditor::TableEditor(TableSheet *sheet, QWidget *parent)
     connect(sheet, &TableSheet::rowsRemoved, this, recount);
     connect(sheet, &TableSheet::cellsChanged, this, recount);
     connect(sheet, &TableSheet::problemsChanged, this, recount);
+    connect(sheet, &TableSheet::derivedAnew, this, recount);
     recount();
 }
 

@@ -47,10 +47,15 @@ struct ORV_WORKFLOW_EXPORT TableColumn
     bool isUnique = false; ///< no two rows hold the same; empty cells and other spellings of it don't count
     /// A rule of its own: why a text that passed the others isn't allowed, or an empty text. Called often.
     std::function<QString(QStringView text)> check = {};
+    /// Makes the kept text from the others of its row, as TableSheet::texts() has them; those of derived
+    /// columns are empty there. Nobody edits such a cell, and nothing keeps it. Asked when a cell is first
+    /// looked at, and again after the row has changed.
+    std::function<QString(const QStringList &texts)> derive = {};
 
     /// "Mass (Da)".
     [[nodiscard]] QString header() const;
     [[nodiscard]] bool isNumeric() const;
+    [[nodiscard]] bool isEditable() const { return !isReadOnly && !derive; }
 
     /// What the column holds and what may stand in it, in sentences for people who ask for help.
     [[nodiscard]] QString help() const;

@@ -95,6 +95,8 @@ public:
     /// the number at once or leave rows to be looked at.
     [[nodiscard]] int problemCount() const;
     [[nodiscard]] bool areProblemsCounted() const;
+    /// What derived texts and rules of columns go by, beside their row, has changed.
+    void deriveAnew();
     /// Looks at so many rows at most, so that a window stays alive; emits problemsCounted() at the last one.
     void countProblems(int rows);
 
@@ -108,6 +110,7 @@ Q_SIGNALS:
     /// of the edit; rows that aren't in the table any more may be among them.
     void problemsChanged(const QList<quint32> &ids);
     void loaded();
+    void derivedAnew();
     void problemsCounted();
 
 private:

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <orv/core/Export.h>
+#include <orv/core/Result.h>
+#include <orv/table/RowNode.h>
+#include <orv/table_model/TableSheet.h>
+
+#include <QHash>
+#include <QStringList>
+
+namespace orv {
+
+/// Shows the table of a RowNode in a sheet and gives it back with what was edited there. Whatever nobody
+/// edited comes back as it was: types of cells, columns that the sheet doesn't have, rows below rows.
+///
+///     TableSheet sheet(columns);
+///     RowNodeBinding rows(&sheet);
+///     ORV_RETURN_IF_ERROR(rows.load(table));
+///     ...
+///     const RowNode edited = rows.table();
+///
+/// Columns are found by their names. GUI thread, or the one of the sheet.
+class ORV_WORKFLOW_EXPORT RowNodeBinding
+{
+public:
+    /// The sheet outlives this. \a lists are the columns whose cells hold lists of whole numbers, shown with
+    /// commas between. A cell in a new row or column is a number where the column is numeric and the text is
+    /// one, else a text.
+    explicit RowNodeBinding(TableSheet *sheet, QStringList lists = {});
+
+    /// Replaces all rows and forgets the history.
+    [[nodiscard]] Error load(const RowNode &table);
+
+    [[nodiscard]] RowNode table() const;
+
+    /// The columns that hold something and that the sheet doesn't have.
+    [[nodiscard]] QStringList columnsNotShown() const;
+    /// How many rows lie below rows, where the sheet shows none.
+    [[nodiscard]] int rowsNotShown() const;
+
+    /// What a cell shows of a value: numbers with all their digits and a point, lists with commas.
+    [[nodiscard]] static QString textOf(const QVariant &value);
+
+private:
+    [[nodiscard]] QVariant valueOf(int column, QStringView text) const;
+    /// The place in \a table of each column of the sheet; missing ones that \a areNeeded are added.
+    [[nodiscard]] QList<int> placesIn(RowNode *table, const QList<bool> &areNeeded) const;
+    [[nodiscard]] QList<bool> neededColumns() const;
+    [[nodiscard]] bool isEdited(int row, int column, const RowNode &original, int place) const;
+
+    TableSheet *m_sheet;
+    QStringList m_lists;
+    RowNode m_original;
+    QHash<quint32, int> m_rows; ///< of the original, by id
+};
+
+} // namespace orv
