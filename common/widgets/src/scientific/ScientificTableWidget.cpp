@@ -1,0 +1,159 @@
+#include "orv/widgets/ScientificTableWidget.h"
+
+#include <orv/table_model/TableModel.h>
+#include <orv/widgets/TableEditor.h>
+
+#include <QAccessible>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace orv {
+
+class ScientificTableWidget::Private
+{
+public:
+    explicit Private(QList<TableColumn> columns)
+        : sheet(std::move(columns))
+    {}
+
+    TableSheet sheet;
+    TableEditor *editor = nullptr;
+    QLabel *header = nullptr;
+    QLabel *note = nullptr;
+    QVBoxLayout *layout = nullptr;
+    int above = 1;
+    bool isTelling = false;
+};
+
+ScientificTableWidget::ScientificTableWidget(QList<TableColumn> columns, const QString &title,
+                                             const QString &kind, QWidget *parent)
+    : QWidget(parent)
+    , d(std::make_unique<Private>(std::move(columns)))
+{
+    d->header = new QLabel(title);
+    d->header->setObjectName(QStringLiteral("header"));
+    QFont bold = d->header->font();
+    bold.setBold(true);
+    d->header->setFont(bold);
+    d->editor = new TableEditor(&d->sheet);
+    d->editor->setTitle(title);
+    d->editor->setKind(kind);
+    d->editor->layout()->setContentsMargins({});
+    d->note = new QLabel;
+    d->note->setObjectName(QStringLiteral("note"));
+    d->note->setWordWrap(true);
+    d->note->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    d->note->hide();
+    d->layout = new QVBoxLayout(this);
+    d->layout->addWidget(d->header);
+    d->layout->addWidget(d->editor, 1);
+    d->layout->addWidget(d->note);
+    setAccessibleName(title);
+    setFocusProxy(d->editor);
+    connect(&d->sheet, &TableSheet::loaded, this, &ScientificTableWidget::tellEdited);
+    connect(&d->sheet, &TableSheet::rowsReordered, this, &ScientificTableWidget::tellEdited);
+    connect(&d->sheet, &TableSheet::cellsChanged, this, &ScientificTableWidget::tellEdited);
+    connect(&d->sheet, &TableSheet::rowsInserted, this, &ScientificTableWidget::tellEdited);
+    connect(&d->sheet, &TableSheet::rowsRemoved, this, &ScientificTableWidget::tellEdited);
+}
+
+ScientificTableWidget::~ScientificTableWidget()
+{
+    d->sheet.disconnect(this);
+    // It reads the sheet, which goes with d.
+    delete d->editor;
+}
+
+TableSheet *ScientificTableWidget::sheet() const
+{
+    return &d->sheet;
+}
+
+TableEditor *ScientificTableWidget::editor() const
+{
+    return d->editor;
+}
+
+TableView *ScientificTableWidget::view() const
+{
+    return d->editor->view();
+}
+
+TableModel *ScientificTableWidget::model() const
+{
+    return d->editor->view()->tableModel();
+}
+
+void ScientificTableWidget::hideHeader()
+{
+    d->header->hide();
+}
+
+QString ScientificTableWidget::toPlainText() const
+{
+    QStringList parts = {d->header->text(), textOf(*model())};
+    if (!note().isEmpty())
+        parts.append(note());
+    return parts.join(u'\n');
+}
+
+QString ScientificTableWidget::textOf(const TableModel &model)
+{
+    QStringList lines;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < model.columnCount(); ++column) {
+            const QModelIndex index = model.index(row, column);
+            const QString text = index.data().toString();
+            const QString problem = index.data(TableModel::ProblemRole).toString();
+            if (text.isEmpty() && problem.isEmpty())
+                continue;
+            const QString title = model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+            cells.append(problem.isEmpty() ? tr("%1: %2").arg(title, text)
+                                           : tr("%1: %2 (%3)").arg(title, text, problem));
+        }
+        lines.append(tr("Row %1. %2").arg(model.sheetRow(row) + 1).arg(cells.join(QLatin1String("; "))));
+    }
+    return lines.isEmpty() ? tr("No rows.") : lines.join(u'\n');
+}
+
+QString ScientificTableWidget::note() const
+{
+    return d->note->text();
+}
+
+void ScientificTableWidget::insertAbove(QWidget *widget)
+{
+    d->layout->insertWidget(d->above++, widget);
+}
+
+void ScientificTableWidget::insertBelow(QWidget *widget)
+{
+    d->layout->insertWidget(d->layout->count() - 1, widget);
+}
+
+void ScientificTableWidget::setNote(const QString &text)
+{
+    if (text == d->note->text())
+        return;
+    d->note->setText(text);
+    d->note->setAccessibleName(text);
+    d->note->setVisible(!text.isEmpty());
+    QAccessibleEvent event(d->note, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+void ScientificTableWidget::tellEdited()
+{
+    if (std::exchange(d->isTelling, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            d->isTelling = false;
+            Q_EMIT edited();
+        },
+        Qt::QueuedConnection);
+}
+
+} // namespace orv
