@@ -113,7 +113,7 @@ QString lines(QStringView sequence, int blocksPerLine, int atMostLines)
     return count < all.size() ? text + QStringLiteral("\n...") : text;
 }
 
-QString plain(QStringView typed)
+QString plain(QStringView typed, LetterCase letterCase)
 {
     QString kept;
     kept.reserve(typed.size());
@@ -130,7 +130,7 @@ QString plain(QStringView typed)
             kept += word;
         at = end + 1;
     }
-    return hasModifications ? kept : kept.toUpper();
+    return hasModifications || letterCase == LetterCase::Kept ? kept : kept.toUpper();
 }
 
 } // namespace orv::SequenceText

@@ -179,7 +179,8 @@ QString TableColumn::kept(QStringView typed, NumberText::DecimalSign sign) const
     case TableColumnKind::Choice:
         return keptChoice(choices, typed);
     case TableColumnKind::Sequence:
-        return SequenceText::plain(typed);
+        return SequenceText::plain(typed, isCaseKept ? SequenceText::LetterCase::Kept
+                                                     : SequenceText::LetterCase::Capital);
     case TableColumnKind::File:
     case TableColumnKind::Color:
         return typed.trimmed().toString();

@@ -30,13 +30,12 @@ ScientificTableWidget::ScientificTableWidget(QList<TableColumn> columns, const Q
     : QWidget(parent)
     , d(std::make_unique<Private>(std::move(columns)))
 {
-    d->header = new QLabel(title);
+    d->header = new QLabel;
     d->header->setObjectName(QStringLiteral("header"));
     QFont bold = d->header->font();
     bold.setBold(true);
     d->header->setFont(bold);
     d->editor = new TableEditor(&d->sheet);
-    d->editor->setTitle(title);
     d->editor->setKind(kind);
     d->editor->layout()->setContentsMargins({});
     d->note = new QLabel;
@@ -48,7 +47,7 @@ ScientificTableWidget::ScientificTableWidget(QList<TableColumn> columns, const Q
     d->layout->addWidget(d->header);
     d->layout->addWidget(d->editor, 1);
     d->layout->addWidget(d->note);
-    setAccessibleName(title);
+    setTitle(title);
     setFocusProxy(d->editor);
     connect(&d->sheet, &TableSheet::loaded, this, &ScientificTableWidget::tellEdited);
     connect(&d->sheet, &TableSheet::rowsReordered, this, &ScientificTableWidget::tellEdited);
@@ -82,6 +81,13 @@ TableView *ScientificTableWidget::view() const
 TableModel *ScientificTableWidget::model() const
 {
     return d->editor->view()->tableModel();
+}
+
+void ScientificTableWidget::setTitle(const QString &title)
+{
+    d->header->setText(title);
+    d->editor->setTitle(title);
+    setAccessibleName(title);
 }
 
 void ScientificTableWidget::hideHeader()

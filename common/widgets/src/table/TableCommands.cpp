@@ -244,8 +244,12 @@ void TableCommands::paste()
     const int row = rows.isEmpty() ? m_view->tableModel()->rowCount() : rows.constFirst();
     TableClipboard::Target target{row, shown.mid(from), {int(columns.size()), int(rows.size())}};
     const QPointer<TableCommands> guard(this);
-    const Result<TableClipboard::Outcome> pasted =
-        TableClipboard::paste(*m_view->tableModel(), target, QGuiApplication::clipboard()->text());
+    const QString text = QGuiApplication::clipboard()->text();
+    if (const auto read = m_view->readText(text.toUtf8())) {
+        insertRead(*read, row);
+        return;
+    }
+    const Result<TableClipboard::Outcome> pasted = TableClipboard::paste(*m_view->tableModel(), target, text);
     if (!guard)
         return;
     if (pasted.hasError()) {
@@ -261,6 +265,22 @@ void TableCommands::paste()
     if (pasted->readOnlyCells > 0)
         told.append(tr("Cells left, as they can't be changed: %1.").arg(pasted->readOnlyCells));
     Q_EMIT m_view->said(told.join(u' '));
+}
+
+void TableCommands::insertRead(const Result<QList<QStringList>> &read, int row)
+{
+    if (read.hasError()) {
+        Q_EMIT m_view->said((read.error().errorMessages() + read.error().details()).join(u' '));
+        return;
+    }
+    TableSheet *const sheet = m_view->sheet();
+    const int at =
+        row < m_view->tableModel()->rowCount() ? m_view->tableModel()->sheetRow(row) : sheet->rowCount();
+    if (const Error error = sheet->insertRows(at, *read, tr("paste")); error.hasError()) {
+        tell(error);
+        return;
+    }
+    Q_EMIT m_view->said(tr("Rows pasted: %1.").arg(read->size()));
 }
 
 void TableCommands::fillDown()

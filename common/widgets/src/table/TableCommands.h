@@ -35,6 +35,8 @@ private:
     void copy() { copyCells(false); }
     void copyWithHeaders() { copyCells(true); }
     void paste();
+    /// Rows that a reader of texts has made, before a shown row.
+    void insertRead(const Result<QList<QStringList>> &read, int row);
     void clear();
     void fillDown();
     void addRow();

@@ -21,10 +21,16 @@ bool takesFiles(const TableColumn &column)
     return column.kind == TableColumnKind::File && column.isEditable();
 }
 
-bool isTextTable(const QString &path)
+bool isTextTable(const QString &path, const QList<TableColumn> &columns)
 {
+    static const QStringList tables = {QStringLiteral("csv"), QStringLiteral("tsv"), QStringLiteral("txt")};
+    static const QStringList sequences = {QStringLiteral("fasta"), QStringLiteral("fa"),
+                                          QStringLiteral("faa"), QStringLiteral("fas")};
     const QString suffix = QFileInfo(path).suffix().toLower();
-    return suffix == QLatin1String("csv") || suffix == QLatin1String("tsv") || suffix == QLatin1String("txt");
+    const bool hasSequences = std::any_of(columns.cbegin(), columns.cend(), [](const TableColumn &column) {
+        return column.kind == TableColumnKind::Sequence;
+    });
+    return tables.contains(suffix) || (hasSequences && sequences.contains(suffix));
 }
 
 } // namespace
@@ -38,7 +44,7 @@ TableDrop::TableDrop(const TableSheet &sheet, const QModelIndex &under, const QM
     if (under.isValid() && takesFiles(columns[under.column()])) {
         m_column = under.column();
         m_cell = under;
-    } else if (m_files.size() == 1 && isTextTable(m_files.constFirst())) {
+    } else if (m_files.size() == 1 && isTextTable(m_files.constFirst(), columns)) {
         m_importPath = m_files.constFirst();
     } else {
         const auto found = std::find_if(columns.cbegin(), columns.cend(), takesFiles);

@@ -262,6 +262,10 @@ void TableEditor::importFile(const QString &path)
                           QMessageBox::NoButton, bytes.error().details().join(u'\n'));
         return;
     }
+    if (const auto read = d->view->readText(bytes.value())) {
+        importRead(path, *read);
+        return;
+    }
     auto *const dialog = new TableImportDialog(QFileInfo(path).fileName(), bytes.value(),
                                                TableImportTarget::of(*d->sheet()), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -279,6 +283,18 @@ void TableEditor::importFile(const QString &path)
     });
     DialogService::prepare(*dialog);
     dialog->open();
+}
+
+void TableEditor::importRead(const QString &path, const Result<QList<QStringList>> &read)
+{
+    if (read.hasError()) {
+        ORVStyle::warning(this, tr("Import"), read.error().errorMessage(), QMessageBox::Ok, {},
+                          QMessageBox::NoButton, read.error().details().join(u'\n'));
+        return;
+    }
+    const Error error = d->sheet->insertRows(d->sheet->rowCount(), *read, tr("import"));
+    say(error.hasError() ? error.errorMessage()
+                         : tr("Rows imported from %1: %2").arg(QFileInfo(path).fileName()).arg(read->size()));
 }
 
 void TableEditor::chooseExport()

@@ -25,6 +25,7 @@ public:
     TableModel *model = nullptr;
     TableCommands *commands = nullptr;
     QString emptyText;
+    TextReader reader;
     QModelIndex dropCell; ///< only while something is dragged over
 };
 
@@ -87,6 +88,16 @@ TableModel *TableView::tableModel() const
 QAction *TableView::action(Command command) const
 {
     return d->commands->action(command);
+}
+
+void TableView::setTextReader(TextReader reader)
+{
+    d->reader = std::move(reader);
+}
+
+std::optional<Result<QList<QStringList>>> TableView::readText(const QByteArray &text) const
+{
+    return d->reader ? d->reader(text) : std::nullopt;
 }
 
 QString TableView::emptyText() const

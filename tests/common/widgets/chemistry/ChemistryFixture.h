@@ -180,6 +180,7 @@ inline QStringList controlsWithoutNames(const QWidget *root)
     for (const QWidget *const widget : root->findChildren<QWidget *>()) {
         const bool isControl = widget->focusPolicy() != Qt::NoFocus && widget->isEnabled() &&
                                !widget->objectName().startsWith(u"qt_") &&
+                               !widget->inherits("QComboBoxListView") &&
                                !qobject_cast<const QLabel *>(widget);
         const QString word = widget->property("text").toString();
         if (isControl && widget->accessibleName().isEmpty() && word.isEmpty())

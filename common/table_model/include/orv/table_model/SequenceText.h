@@ -32,8 +32,15 @@ struct Block
 [[nodiscard]] ORV_WORKFLOW_EXPORT QString lines(QStringView sequence, int blocksPerLine = 6,
                                                 int atMostLines = 1000);
 
+enum class LetterCase
+{
+    Capital,
+    Kept, ///< of nucleotides, whose small letters name other blocks
+};
+
 /// What a person typed or pasted, without blanks and without the positions between blocks, in upper case
 /// unless modifications stand in it, whose case tells.
-[[nodiscard]] ORV_WORKFLOW_EXPORT QString plain(QStringView typed);
+[[nodiscard]] ORV_WORKFLOW_EXPORT QString plain(QStringView typed,
+                                                LetterCase letterCase = LetterCase::Capital);
 
 } // namespace orv::SequenceText

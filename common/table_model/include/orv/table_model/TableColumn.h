@@ -44,7 +44,8 @@ struct ORV_WORKFLOW_EXPORT TableColumn
     QString fileFilter = {};  ///< of a file dialog, such as "FASTA (*.fasta)"
     bool isRequired = false;
     bool isReadOnly = false;
-    bool isUnique = false; ///< no two rows hold the same; empty cells and other spellings of it don't count
+    bool isUnique = false;   ///< no two rows hold the same; empty cells and other spellings of it don't count
+    bool isCaseKept = false; ///< of sequences, whose letters are made capital else
     /// A rule of its own: why a text that passed the others isn't allowed, or an empty text. Called often.
     std::function<QString(QStringView text)> check = {};
     /// Makes the kept text from the others of its row, as TableSheet::texts() has them; those of derived

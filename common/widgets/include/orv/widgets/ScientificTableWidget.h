@@ -24,6 +24,9 @@ class ORV_PROPERTY_EDITOR_EXPORT ScientificTableWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// \a kind is that of TableEditor::setKind().
+    ScientificTableWidget(QList<TableColumn> columns, const QString &title, const QString &kind,
+                          QWidget *parent = nullptr);
     ~ScientificTableWidget() override;
 
     [[nodiscard]] TableSheet *sheet() const;
@@ -31,6 +34,7 @@ public:
     [[nodiscard]] TableView *view() const;
     [[nodiscard]] TableModel *model() const;
 
+    void setTitle(const QString &title);
     /// For a place that has a heading of its own.
     void hideHeader();
 
@@ -41,6 +45,7 @@ public:
 
     /// What the widget holds and can't show, empty for nothing.
     [[nodiscard]] QString note() const;
+    void setNote(const QString &text);
 
 Q_SIGNALS:
     /// What the widget holds isn't what it held. Comes from the event loop, once for all edits before it, so
@@ -48,14 +53,9 @@ Q_SIGNALS:
     void edited();
 
 protected:
-    /// \a kind is that of TableEditor::setKind().
-    ScientificTableWidget(QList<TableColumn> columns, const QString &title, const QString &kind,
-                          QWidget *parent);
-
     /// Takes the place between heading and table, and below the table.
     void insertAbove(QWidget *widget);
     void insertBelow(QWidget *widget);
-    void setNote(const QString &text);
     /// Emits edited() from the event loop.
     void tellEdited();
 

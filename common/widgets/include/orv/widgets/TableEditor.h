@@ -46,6 +46,7 @@ private:
     void build(TableSheet *sheet);
     [[nodiscard]] QToolBar *buildToolBar();
     void chooseImport();
+    void importRead(const QString &path, const Result<QList<QStringList>> &read);
     void chooseExport();
     void applyFilter();
     void say(const QString &text);

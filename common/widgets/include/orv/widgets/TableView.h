@@ -3,9 +3,12 @@
 #include <orv/table_model/TableModel.h>
 #include <orv/widgets/Export.h>
 
+#include <QByteArray>
 #include <QTableView>
 
+#include <functional>
 #include <memory>
+#include <optional>
 
 namespace orv {
 
@@ -51,6 +54,10 @@ public:
     explicit TableView(TableSheet *sheet, QWidget *parent = nullptr);
     ~TableView() override;
 
+    /// Rows of the sheet from a text that has them in another form than columns, such as FASTA; nothing for a
+    /// text of any other form.
+    using TextReader = std::function<std::optional<Result<QList<QStringList>>>(const QByteArray &text)>;
+
     [[nodiscard]] TableSheet *sheet() const;
     [[nodiscard]] TableModel *tableModel() const;
     [[nodiscard]] QAction *action(Command command) const;
@@ -58,6 +65,10 @@ public:
     /// What an empty table says; tells the ways to fill it at first.
     [[nodiscard]] QString emptyText() const;
     void setEmptyText(const QString &text);
+
+    /// Asked first for every text that is pasted, dropped or imported.
+    void setTextReader(TextReader reader);
+    [[nodiscard]] std::optional<Result<QList<QStringList>>> readText(const QByteArray &text) const;
 
     /// The columns that aren't hidden, from the beginning of a line on.
     [[nodiscard]] QList<int> shownColumns() const;
