@@ -1,5 +1,6 @@
 // Writes one table of what ProteoWizard knows as rows of C++: proteowizard_tables TABLE FILE.
 
+#include <pwiz/data/common/Unimod.hpp>
 #include <pwiz/data/common/cv.hpp>
 #include <pwiz/data/proteome/AminoAcid.hpp>
 #include <pwiz/utility/chemistry/Chemistry.hpp>
@@ -10,6 +11,7 @@
 #include <fstream>
 #include <limits>
 #include <string>
+#include <string_view>
 
 namespace {
 
@@ -68,6 +70,51 @@ void writeChromatogramTerms(std::ostream &out)
     }
 }
 
+namespace Unimod = pwiz::data::unimod;
+
+/// The residues and ends that a modification is seen on, with commas between: those that Unimod shows to
+/// everybody, or those that it hides from most people.
+std::string sitesOf(const Unimod::Modification &modification, bool areHidden)
+{
+    constexpr std::string_view kResidues = "ACDEFGHIKLMNPQRSTUVWY";
+    std::string sites;
+    const auto add = [&sites](const std::string &site) {
+        const bool isNew = ("," + sites + ",").find("," + site + ",") == std::string::npos;
+        if (isNew)
+            sites += (sites.empty() ? "" : ",") + site;
+    };
+    for (const Unimod::Modification::Specificity &specificity : modification.specificities) {
+        // The library's own comparison with a name calls itself for ever in C++20.
+        const bool isExchange = specificity.classification.value() ==
+                                Unimod::Classification(Unimod::Classification::Substitution).value();
+        if (specificity.hidden != areHidden || isExchange)
+            continue;
+        for (const char residue : kResidues) {
+            if (specificity.site == Unimod::site(residue))
+                add(std::string(1, residue));
+        }
+        if (specificity.site == Unimod::site('n'))
+            add("NTerm");
+        if (specificity.site == Unimod::site('c'))
+            add("CTerm");
+    }
+    return sites;
+}
+
+/// What Unimod shows to everybody, and of the others what it approved; no exchanges of residues.
+void writeModifications(std::ostream &out)
+{
+    for (const Unimod::Modification &modification : Unimod::modifications()) {
+        std::string sites = sitesOf(modification, false);
+        if (sites.empty() && modification.approved)
+            sites = sitesOf(modification, true);
+        if (sites.empty())
+            continue;
+        out << "{\"" << modification.name << "\", \"" << modification.deltaComposition.formula() << "\", \""
+            << sites << "\"},\n";
+    }
+}
+
 struct Table
 {
     const char *name;
@@ -78,6 +125,7 @@ constexpr std::array kTables = {
     Table{"Isotopes", writeIsotopes},
     Table{"Residues", writeResidues},
     Table{"ChromatogramTerms", writeChromatogramTerms},
+    Table{"Modifications", writeModifications},
 };
 
 bool write(const std::string &name, const char *path)

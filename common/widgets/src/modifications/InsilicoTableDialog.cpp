@@ -1,0 +1,261 @@
+#include "orv/widgets/InsilicoTableDialog.h"
+
+#include "../proteins/DigestBar.h"
+#include "../proteins/ProteinDigest.h"
+#include "../scientific/SequenceColumns.h"
+#include "ProteinChecks.h"
+
+#include <orv/chemistry/ChemistryConstants.h>
+#include <orv/chemistry/DisulfideUtils.h>
+#include <orv/chemistry/ProteinGenerator.h>
+#include <orv/table_model/RowNodeBinding.h>
+#include <orv/widgets/ScientificTableWidget.h>
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QListView>
+#include <QPushButton>
+#include <QSet>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace orv {
+
+namespace {
+
+constexpr int kProteinAt = 1;
+constexpr int kBeginAt = 2;
+
+QList<TableColumn> peptideColumns(const std::shared_ptr<SequenceSource> &source)
+{
+    using Kind = TableColumnKind;
+    const auto ofProtein = [](const QStringList &) { return ChainType::Protein; };
+    TableColumn sequence{.name = QStringLiteral("Sequence"),
+                         .title = InsilicoTableDialog::tr("Sequence"),
+                         .kind = Kind::Sequence};
+    sequence.isRequired = true;
+    sequence.explanation = InsilicoTableDialog::tr("Residues in one-letter code.");
+    sequence.check = [source](QStringView text) {
+        return source->problemOf(text.toString(), ChainType::Protein);
+    };
+    TableColumn protein{.name = QStringLiteral("Protein"), .title = InsilicoTableDialog::tr("Protein")};
+    protein.explanation = InsilicoTableDialog::tr("Protein that the peptide is a piece of.");
+    TableColumn begin{.name = QStringLiteral("Begin"),
+                      .title = InsilicoTableDialog::tr("First residue"),
+                      .kind = Kind::Integer};
+    begin.minimum = 1;
+    begin.explanation = InsilicoTableDialog::tr("Place of the first residue in the protein, counted from 1.");
+    TableColumn modifications{.name = QStringLiteral("Modifications"),
+                              .title = InsilicoTableDialog::tr("Modifications")};
+    modifications.explanation = InsilicoTableDialog::tr("Modifications that the peptide carries.");
+    TableColumn bonds{.name = QStringLiteral("Disulfides"),
+                      .title = InsilicoTableDialog::tr("Disulfide bonds")};
+    bonds.explanation = InsilicoTableDialog::tr("Bonds of cysteines of the peptide.");
+    TableColumn charge{
+        .name = QStringLiteral("Charge"), .title = InsilicoTableDialog::tr("Charge"), .kind = Kind::Integer};
+    charge.explanation = InsilicoTableDialog::tr("Charge in which the peptide is looked for; empty for any.");
+    TableColumn time{.name = QStringLiteral("RetentionTime"),
+                     .title = InsilicoTableDialog::tr("Retention time"),
+                     .unit = InsilicoTableDialog::tr("min"),
+                     .kind = Kind::Number};
+    time.minimum = 0;
+    time.explanation = InsilicoTableDialog::tr("Expected retention time in minutes.");
+    return {sequence,
+            protein,
+            begin,
+            modifications,
+            bonds,
+            charge,
+            time,
+            sequenceFigureColumn(SequenceFigure::Length, source, 0, ofProtein),
+            sequenceFigureColumn(SequenceFigure::MonoisotopicMass, source, 0, ofProtein),
+            sequenceFigureColumn(SequenceFigure::AverageMass, source, 0, ofProtein)};
+}
+
+QList<ProteinChecks::Protein> proteinsOf(const RowNode &table)
+{
+    QList<ProteinChecks::Protein> proteins;
+    for (int row = 0; row < table.getChildListSize(); ++row) {
+        const auto cell = [&](QLatin1String column) {
+            return RowNodeBinding::textOf(table.getChild(row)->data.value(table.data.indexOf(column)));
+        };
+        const QString accession = cell(kProteinAccessionName);
+        proteins.append({accession.isEmpty() ? cell(kProteinAliasName) : accession,
+                         ProteinGenerator::cleanSequence(cell(kProteinSequence), ChainType::Protein)});
+    }
+    return proteins;
+}
+
+/// "C22-C96, C140-LC C214" for the bonds that begin or end in a stretch of a protein.
+QString bondsIn(const QList<Disulfide::Bond> &bonds, const QString &protein, int first, int last)
+{
+    QStringList texts;
+    for (const Disulfide::Bond &bond : bonds) {
+        const auto isInside = [&](const QString &chain, int position) {
+            return chain == protein && position >= first && position <= last;
+        };
+        if (!isInside(bond.firstChain, bond.firstPosition) &&
+            !isInside(bond.secondChain, bond.secondPosition))
+            continue;
+        const auto endOf = [&](const QString &chain, int position) {
+            const QString cysteine = u'C' + QString::number(position);
+            return chain == protein ? cysteine : chain + u' ' + cysteine;
+        };
+        texts.append(endOf(bond.firstChain, bond.firstPosition) + u'-' +
+                     endOf(bond.secondChain, bond.secondPosition));
+    }
+    return texts.join(QLatin1String(", "));
+}
+
+QString keyOf(const QStringList &peptide)
+{
+    return peptide[0] + u'\n' + peptide[kProteinAt] + u'\n' + peptide[kBeginAt];
+}
+
+} // namespace
+
+class InsilicoTableDialog::Private
+{
+public:
+    std::shared_ptr<SequenceSource> source = std::make_shared<SequenceSource>();
+    QList<Disulfide::Bond> bonds;
+    ScientificTableWidget *table = nullptr;
+    std::unique_ptr<RowNodeBinding> rows;
+    ProteinChecks *proteins = nullptr;
+    DigestBar *digest = nullptr;
+    QLabel *state = nullptr;
+    QHash<quint32, QStringList> digested; ///< rows that a digest has made, with what it wrote
+};
+
+InsilicoTableDialog::InsilicoTableDialog(const RowNode &proteins, const RowNode &disulfides, QWidget *parent)
+    : QDialog(parent)
+    , d(std::make_unique<Private>())
+{
+    setWindowTitle(tr("Theoretical Peptides"));
+    setObjectName(QStringLiteral("InsilicoTableDialog"));
+    const auto bonds = Disulfide::DisulfideUtils::bondsFromRowNode(disulfides);
+    build(proteins);
+    if (bonds.hasError())
+        d->state->setText((bonds.error().errorMessages() + bonds.error().details()).join(u' '));
+    else
+        d->bonds = *bonds;
+}
+
+InsilicoTableDialog::~InsilicoTableDialog() = default;
+
+void InsilicoTableDialog::build(const RowNode &proteins)
+{
+    d->table = new ScientificTableWidget(peptideColumns(d->source), tr("Theoretical peptides"),
+                                         QStringLiteral("InsilicoPeptides"));
+    d->table->setObjectName(QStringLiteral("peptides"));
+    d->rows = std::make_unique<RowNodeBinding>(d->table->sheet());
+    d->proteins = new ProteinChecks(proteinsOf(proteins), this);
+    d->digest = new DigestBar;
+    d->state = new QLabel;
+    d->state->setObjectName(QStringLiteral("state"));
+    d->state->setWordWrap(true);
+    auto *const list = new QListView;
+    list->setObjectName(QStringLiteral("proteins"));
+    list->setAccessibleName(tr("Proteins that are digested"));
+    list->setToolTip(tr("Check the proteins whose peptides are expected."));
+    list->setModel(d->proteins);
+    list->setUniformItemSizes(true);
+    auto *const all = new QPushButton(tr("&All Proteins"));
+    all->setObjectName(QStringLiteral("allProteins"));
+    all->setAutoDefault(false);
+    auto *const left = new QWidget;
+    auto *const leftLayout = new QVBoxLayout(left);
+    leftLayout->setContentsMargins({});
+    leftLayout->addWidget(list, 1);
+    leftLayout->addWidget(all);
+    auto *const splitter = new QSplitter;
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(left);
+    splitter->addWidget(d->table);
+    splitter->setStretchFactor(1, 3);
+    auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    auto *const layout = new QVBoxLayout(this);
+    layout->addWidget(d->digest);
+    layout->addWidget(splitter, 1);
+    layout->addWidget(d->state);
+    layout->addWidget(buttons);
+    connect(all, &QPushButton::clicked, d->proteins, [proteins = d->proteins] { proteins->checkAll(true); });
+    connect(d->proteins, &ProteinChecks::checkedChanged, this, &InsilicoTableDialog::digest);
+    connect(d->digest, &DigestBar::edited, this, &InsilicoTableDialog::digest);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    constexpr int kLetters = 130;
+    resize(fontMetrics().averageCharWidth() * kLetters, fontMetrics().height() * 36);
+}
+
+RowNode InsilicoTableDialog::insilicoPeptides() const
+{
+    return d->rows->table();
+}
+
+void InsilicoTableDialog::setInsilicoPeptides(const RowNode &peptides)
+{
+    d->digested.clear();
+    const Error error = d->rows->load(peptides);
+    const QStringList columns = d->rows->columnsNotShown();
+    d->table->setNote(
+        error.hasError() ? error.errorMessage()
+        : columns.isEmpty()
+            ? QString()
+            : tr("These columns are kept but not shown: %1.").arg(columns.join(QLatin1String(", "))));
+}
+
+void InsilicoTableDialog::digest()
+{
+    if (!d->digest->rule())
+        return; // what is typed is no rule yet
+    TableSheet *const sheet = d->table->sheet();
+    QList<int> old;
+    QSet<QString> present;
+    for (int row = 0; row < sheet->rowCount(); ++row) {
+        const QStringList texts = sheet->texts(row);
+        const auto made = d->digested.constFind(sheet->rowId(row));
+        // A row that somebody has edited is theirs.
+        if (made != d->digested.cend() && *made == texts.mid(0, made->size()))
+            old.append(row);
+        else
+            present.insert(keyOf(texts));
+    }
+    QList<QStringList> rows;
+    bool isCut = false;
+    for (const ProteinChecks::Protein &protein : d->proteins->checked()) {
+        for (const DigestedPeptide &peptide :
+             digestOfProtein(protein.sequence, d->digest->rule(), d->digest->limits(), kMostPeptides)) {
+            const int begin = peptide.offset + 1;
+            const QStringList row = {
+                peptide.sequence,
+                protein.name,
+                QString::number(begin),
+                QString(),
+                bondsIn(d->bonds, protein.name, begin, peptide.offset + int(peptide.sequence.size())),
+                QString(),
+                QString()};
+            isCut = isCut || rows.size() >= kMostPeptides;
+            if (!isCut && !present.contains(keyOf(row)))
+                rows.append(row);
+        }
+    }
+    sheet->removeRows(old);
+    d->digested.clear();
+    const int first = sheet->rowCount();
+    const Error error = sheet->insertRows(first, rows, tr("digest"));
+    for (int row = first; row < sheet->rowCount(); ++row)
+        d->digested.insert(sheet->rowId(row), rows[row - first]);
+    d->state->setText(error.hasError() ? error.errorMessage()
+                      : isCut
+                          ? tr("There are more peptides than %1; choose fewer proteins or missed cleavages.")
+                                .arg(kMostPeptides)
+                          : tr("Peptides of the digest: %1").arg(rows.size()));
+}
+
+QString InsilicoTableDialog::toPlainText() const
+{
+    return d->table->toPlainText() + u'\n' + d->state->text();
+}
+
+} // namespace orv
