@@ -94,6 +94,15 @@ RowNode IGridItem::rowNodeForType(PropertyId id) const
     return propValueToRowNode(getPropertyWithType(m_content, id));
 }
 
+QJsonObject IGridItem::contentWith(const QList<std::pair<PropertyId, QJsonObject>> &values) const
+{
+    QJsonObject json = m_content;
+    for (const auto &[id, value] : values)
+        json = PropertyEditorJsonUtils::updatePropertyValue(json, id, value);
+    content(&json);
+    return json;
+}
+
 Error IGridItem::notInitialized()
 {
     return Error(ErrorCode::MalformedStructure, GridItemTr::tr("The object is not initialized."));

@@ -10,6 +10,7 @@
 
 #include <QHash>
 #include <QJsonObject>
+#include <QList>
 #include <QMap>
 #include <QMetaType>
 #include <QPointer>
@@ -18,6 +19,7 @@
 #include <QVariant>
 
 #include <memory>
+#include <utility>
 
 QT_FORWARD_DECLARE_CLASS(QWidget)
 
@@ -76,6 +78,8 @@ protected:
     [[nodiscard]] QHash<QString, QMetaType::Type> customColumnTypes() const;
     /// The table that the stored object has under \a id; an empty one if there is none.
     [[nodiscard]] RowNode rowNodeForType(PropertyId id) const;
+    /// The stored object with other values of its entries, stamped.
+    [[nodiscard]] QJsonObject contentWith(const QList<std::pair<PropertyId, QJsonObject>> &values) const;
     /// What setContentInternal gives without a widget.
     [[nodiscard]] static Error notInitialized();
 
