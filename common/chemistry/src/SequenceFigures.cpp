@@ -52,7 +52,7 @@ int unitsOf(const QString &sequence, ChainType type)
     return units;
 }
 
-QString textOf(const Error &error)
+QString reasonOf(const Error &error)
 {
     return error.details().isEmpty() ? error.errorMessage() : error.details().join(u' ');
 }
@@ -72,7 +72,7 @@ SequenceFigures SequenceFigures::of(const QString &sequence, ChainType type, con
     }
     const Result<ChemicalFormula> formula = factory.formula(clean, type);
     if (formula.hasError()) {
-        figures.problem = textOf(formula.error());
+        figures.problem = reasonOf(formula.error());
         return figures;
     }
     figures.formula = *formula;
@@ -93,7 +93,7 @@ DigestFigures DigestFigures::of(const QString &sequence, const ProteinDigestionI
     const Result<QList<DigestedPeptide>> pieces = rule.digest(clean, whole);
     const Result<QList<DigestedPeptide>> seen = rule.digest(clean, limits);
     if (pieces.hasError() || seen.hasError()) {
-        figures.problem = textOf(pieces.hasError() ? pieces.error() : seen.error());
+        figures.problem = reasonOf(pieces.hasError() ? pieces.error() : seen.error());
         return figures;
     }
     for (const DigestedPeptide &piece : *pieces)

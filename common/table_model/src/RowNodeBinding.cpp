@@ -29,7 +29,7 @@ QVariant listOf(QStringView text)
     return numbers;
 }
 
-QVariant numberOf(TableColumnKind kind, QStringView text)
+QVariant cellNumberOf(TableColumnKind kind, QStringView text)
 {
     const std::optional<double> number = NumberText::value(text);
     if (!number)
@@ -107,7 +107,7 @@ QVariant RowNodeBinding::valueOf(int column, QStringView text) const
                                               : QVariant(QString());
     if (m_lists.contains(shown.name))
         return listOf(text);
-    return shown.isNumeric() ? numberOf(shown.kind, text) : QVariant(text.toString());
+    return shown.isNumeric() ? cellNumberOf(shown.kind, text) : QVariant(text.toString());
 }
 
 bool RowNodeBinding::isEdited(int row, int column, const RowNode &original, int place) const

@@ -14,43 +14,43 @@ namespace orv {
 
 namespace {
 
-constexpr int kFormulaAt = 2;
+constexpr int kOptionFormulaAt = 2;
 
 using OptionRecords = RecordBinding<GlycanOption>;
 
-struct KindRow
+struct OptionKindRow
 {
     GlycanOptionKind kind;
     QLatin1String text;
 };
 
 // As the kinds stand in files.
-constexpr std::array kKinds = {
-    KindRow{GlycanOptionKind::Moiety, QLatin1String("Moiety")},
-    KindRow{GlycanOptionKind::Label, QLatin1String("Label")},
-    KindRow{GlycanOptionKind::Adduct, QLatin1String("Adduct")},
-    KindRow{GlycanOptionKind::Derivatization, QLatin1String("Derivatization")},
+constexpr std::array kOptionKinds = {
+    OptionKindRow{GlycanOptionKind::Moiety, QLatin1String("Moiety")},
+    OptionKindRow{GlycanOptionKind::Label, QLatin1String("Label")},
+    OptionKindRow{GlycanOptionKind::Adduct, QLatin1String("Adduct")},
+    OptionKindRow{GlycanOptionKind::Derivatization, QLatin1String("Derivatization")},
 };
 
 constexpr QLatin1String kAll("all");
 constexpr QLatin1String kSome("some");
 
-QString textOfKind(const GlycanOption &option)
+QString textOfOptionKind(const GlycanOption &option)
 {
-    return std::find_if(kKinds.begin(), kKinds.end(),
-                        [&](const KindRow &row) { return row.kind == option.kind; })
+    return std::find_if(kOptionKinds.begin(), kOptionKinds.end(),
+                        [&](const OptionKindRow &row) { return row.kind == option.kind; })
         ->text;
 }
 
-void setKind(GlycanOption *option, QStringView text)
+void setOptionKind(GlycanOption *option, QStringView text)
 {
-    for (const KindRow &row : kKinds) {
+    for (const OptionKindRow &row : kOptionKinds) {
         if (text == row.text)
             option->kind = row.kind;
     }
 }
 
-void setFormula(GlycanOption *option, QStringView text)
+void setOptionFormula(GlycanOption *option, QStringView text)
 {
     const Result<ChemicalFormula> formula = ChemicalFormula::parse(text.toString());
     if (!formula.hasError())
@@ -60,11 +60,11 @@ void setFormula(GlycanOption *option, QStringView text)
 QList<OptionRecords::Field> optionFields()
 {
     return {
-        {QStringLiteral("Kind"), textOfKind, setKind},
+        {QStringLiteral("Kind"), textOfOptionKind, setOptionKind},
         {QStringLiteral("Name"), [](const GlycanOption &option) { return option.name; },
          [](GlycanOption *option, QStringView text) { option->name = text.toString(); }},
         {QStringLiteral("Formula"), [](const GlycanOption &option) { return option.formula.toString(); },
-         setFormula},
+         setOptionFormula},
         {QStringLiteral("Complete"),
          [](const GlycanOption &option) { return QString(option.complete ? kAll : kSome); },
          [](GlycanOption *option, QStringView text) { option->complete = text != kSome; }},
@@ -79,7 +79,7 @@ TableColumn massOfFormula(const char *name, const QString &title, bool isAverage
                        .kind = TableColumnKind::Number};
     column.explanation = GlycanOptionsWidget::tr("Mass of the formula in Da.");
     column.derive = [isAverage](const QStringList &texts) {
-        const Result<ChemicalFormula> formula = ChemicalFormula::parse(texts[kFormulaAt]);
+        const Result<ChemicalFormula> formula = ChemicalFormula::parse(texts[kOptionFormulaAt]);
         if (formula.hasError() || formula->isEmpty())
             return QString();
         return isAverage ? textOfAverageMass(formula->averageMass())
@@ -93,9 +93,9 @@ QList<TableColumn> optionColumns()
     TableColumn kind{.name = QStringLiteral("Kind"),
                      .title = GlycanOptionsWidget::tr("Kind"),
                      .kind = TableColumnKind::Choice};
-    for (const KindRow &row : kKinds)
+    for (const OptionKindRow &row : kOptionKinds)
         kind.choices.append(row.text);
-    kind.defaultText = kKinds.front().text;
+    kind.defaultText = kOptionKinds.front().text;
     kind.isRequired = true;
     kind.explanation = GlycanOptionsWidget::tr(
         "A monosaccharide, a label, an adduct that carries a charge, or a derivatisation.");

@@ -16,12 +16,12 @@ constexpr int kCompositionAt = 1;
 
 using GlycanRecords = RecordBinding<Glycan>;
 
-QString textOfNumber(std::optional<double> number)
+QString textOfGlycanNumber(std::optional<double> number)
 {
     return number ? RowNodeBinding::textOf(*number) : QString();
 }
 
-void setNumber(std::optional<double> *number, QStringView text)
+void setGlycanNumber(std::optional<double> *number, QStringView text)
 {
     if (text.isEmpty())
         number->reset();
@@ -29,7 +29,7 @@ void setNumber(std::optional<double> *number, QStringView text)
         *number = read;
 }
 
-QString problemOfComposition(QStringView text)
+QString problemOfGlycan(QStringView text)
 {
     if (text.trimmed().isEmpty())
         return {};
@@ -44,16 +44,16 @@ QList<GlycanRecords::Field> glycanFields()
          [](Glycan *glycan, QStringView text) { glycan->name = text.toString(); }},
         {QStringLiteral("Composition"), [](const Glycan &glycan) { return glycan.composition; },
          [](Glycan *glycan, QStringView text) {
-             if (problemOfComposition(text).isEmpty())
+             if (problemOfGlycan(text).isEmpty())
                  glycan->composition = text.toString();
          }},
-        {QStringLiteral("Mass"), [](const Glycan &glycan) { return textOfNumber(glycan.massDa); },
-         [](Glycan *glycan, QStringView text) { setNumber(&glycan->massDa, text); }},
+        {QStringLiteral("Mass"), [](const Glycan &glycan) { return textOfGlycanNumber(glycan.massDa); },
+         [](Glycan *glycan, QStringView text) { setGlycanNumber(&glycan->massDa, text); }},
         {QStringLiteral("Label"), [](const Glycan &glycan) { return glycan.label; },
          [](Glycan *glycan, QStringView text) { glycan->label = text.toString(); }},
         {QStringLiteral("RetentionTime"),
-         [](const Glycan &glycan) { return textOfNumber(glycan.retentionTimeMinutes); },
-         [](Glycan *glycan, QStringView text) { setNumber(&glycan->retentionTimeMinutes, text); }},
+         [](const Glycan &glycan) { return textOfGlycanNumber(glycan.retentionTimeMinutes); },
+         [](Glycan *glycan, QStringView text) { setGlycanNumber(&glycan->retentionTimeMinutes, text); }},
     };
 }
 
@@ -84,7 +84,7 @@ QList<TableColumn> GlycanTableWidget::Shared::columns(const std::shared_ptr<Shar
     name.explanation = tr("What the glycan is called, such as G0F.");
     TableColumn composition{.name = QStringLiteral("Composition"), .title = tr("Composition")};
     composition.explanation = tr("Monosaccharides with their counts, such as HexNAc(4)Hex(3)Fuc(1).");
-    composition.check = problemOfComposition;
+    composition.check = problemOfGlycan;
     TableColumn mass{
         .name = QStringLiteral("Mass"), .title = tr("Mass"), .unit = tr("Da"), .kind = Kind::Number};
     mass.explanation =

@@ -32,7 +32,7 @@ std::optional<ChemicalFormula> formulaOfGlycan(const QString &composition)
     return formula.hasError() ? std::nullopt : std::optional(*formula);
 }
 
-QList<TableColumn> databaseColumns()
+QList<TableColumn> glycanDatabaseColumns()
 {
     TableColumn path{.name = QStringLiteral("path"),
                      .title = GlycansDialog::tr("Glycan database"),
@@ -113,7 +113,7 @@ GlycansDialog::~GlycansDialog()
 
 void GlycansDialog::build()
 {
-    d->databases = new ScientificTableWidget(databaseColumns(), tr("Glycan databases"),
+    d->databases = new ScientificTableWidget(glycanDatabaseColumns(), tr("Glycan databases"),
                                              QStringLiteral("GlycanDatabases"));
     d->databases->setObjectName(QStringLiteral("databases"));
     d->compositions = new ScientificTableWidget(compositionColumns(), tr("Compositions"),
@@ -153,7 +153,7 @@ void GlycansDialog::build()
         connect(table->sheet(), &TableSheet::rowsReordered, this, &GlycansDialog::takeTables);
     }
     connect(d->edit, &QPlainTextEdit::textChanged, this, &GlycansDialog::takeText);
-    constexpr int kLetters = 100;
+    constexpr int kLetters = 130;
     resize(fontMetrics().averageCharWidth() * kLetters, fontMetrics().height() * 40);
 }
 

@@ -10,6 +10,7 @@
 #include <orv/chemistry/ProteinGenerator.h>
 #include <orv/table_model/RowNodeBinding.h>
 #include <orv/widgets/ScientificTableWidget.h>
+#include <orv/widgets/TableView.h>
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -23,8 +24,8 @@ namespace orv {
 
 namespace {
 
-constexpr int kProteinAt = 1;
-constexpr int kBeginAt = 2;
+constexpr int kPeptideProteinAt = 1;
+constexpr int kPeptideBeginAt = 2;
 
 QList<TableColumn> peptideColumns(const std::shared_ptr<SequenceSource> &source)
 {
@@ -109,7 +110,7 @@ QString bondsIn(const QList<Disulfide::Bond> &bonds, const QString &protein, int
 
 QString keyOf(const QStringList &peptide)
 {
-    return peptide[0] + u'\n' + peptide[kProteinAt] + u'\n' + peptide[kBeginAt];
+    return peptide[0] + u'\n' + peptide[kPeptideProteinAt] + u'\n' + peptide[kPeptideBeginAt];
 }
 
 } // namespace
@@ -172,7 +173,10 @@ void InsilicoTableDialog::build(const RowNode &proteins)
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(left);
     splitter->addWidget(d->table);
-    splitter->setStretchFactor(1, 3);
+    splitter->setStretchFactor(0, 1);
+    splitter->setStretchFactor(1, 5);
+    list->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+    left->setMinimumWidth(fontMetrics().averageCharWidth() * 28);
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(d->digest);
@@ -184,7 +188,7 @@ void InsilicoTableDialog::build(const RowNode &proteins)
     connect(d->digest, &DigestBar::edited, this, &InsilicoTableDialog::digest);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    constexpr int kLetters = 130;
+    constexpr int kLetters = 190;
     resize(fontMetrics().averageCharWidth() * kLetters, fontMetrics().height() * 36);
 }
 
@@ -244,6 +248,8 @@ void InsilicoTableDialog::digest()
     d->digested.clear();
     const int first = sheet->rowCount();
     const Error error = sheet->insertRows(first, rows, tr("digest"));
+    if (first == 0)
+        d->table->view()->fitColumns();
     for (int row = first; row < sheet->rowCount(); ++row)
         d->digested.insert(sheet->rowId(row), rows[row - first]);
     d->state->setText(error.hasError() ? error.errorMessage()

@@ -20,20 +20,21 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QTabWidget>
+#include <QToolBar>
 #include <QVBoxLayout>
 
 namespace orv {
 
 namespace {
 
-constexpr int kMassAt = 1;
+constexpr int kModificationMassAt = 1;
 constexpr int kUseAt = 3;
 
 Modification modificationOf(const QStringList &texts)
 {
     Modification modification;
     modification.name = texts[0].trimmed();
-    modification.mass = texts[kMassAt].trimmed();
+    modification.mass = texts[kModificationMassAt].trimmed();
     modification.residues = texts[2].trimmed();
     modification.use = Modification::useFromString(texts[kUseAt]).value_or(Modification::Use::Fixed);
     const bool isFixed = modification.use == Modification::Use::Fixed;
@@ -41,7 +42,7 @@ Modification modificationOf(const QStringList &texts)
     return modification;
 }
 
-QStringList textsOf(const Modification &modification)
+QStringList textsOfModification(const Modification &modification)
 {
     const bool isFixed = modification.use == Modification::Use::Fixed;
     return {modification.name, modification.mass, modification.residues,
@@ -49,7 +50,7 @@ QStringList textsOf(const Modification &modification)
             isFixed ? QString() : QString::number(modification.limit)};
 }
 
-QString problemOfMass(QStringView text)
+QString problemOfModificationMass(QStringView text)
 {
     Modification modification;
     modification.mass = text.toString();
@@ -67,7 +68,7 @@ QList<TableColumn> modificationColumns()
     TableColumn mass{.name = QStringLiteral("mass"),
                      .title = ModificationsDialog::tr("Mass (Da) or formula")};
     mass.isRequired = true;
-    mass.check = problemOfMass;
+    mass.check = problemOfModificationMass;
     mass.explanation = ModificationsDialog::tr(
         "What the modification adds: a mass in Da with its sign, or a formula such as C2H3NO.");
     TableColumn residues{.name = QStringLiteral("residues"), .title = ModificationsDialog::tr("Residues")};
@@ -198,7 +199,7 @@ void ModificationsDialog::build()
     connect(sheet, &TableSheet::rowsRemoved, this, &ModificationsDialog::takeTable);
     connect(sheet, &TableSheet::rowsReordered, this, &ModificationsDialog::takeTable);
     connect(d->edit, &QPlainTextEdit::textChanged, this, &ModificationsDialog::takeText);
-    constexpr int kLetters = 110;
+    constexpr int kLetters = 150;
     resize(fontMetrics().averageCharWidth() * kLetters, fontMetrics().height() * 42);
 }
 
@@ -209,6 +210,9 @@ void ModificationsDialog::buildCommon()
                                           QStringLiteral("CommonModifications"), group);
     d->common->setObjectName(QStringLiteral("common"));
     d->common->hideHeader();
+    // The list is there to be chosen from.
+    for (QToolBar *const bar : d->common->findChildren<QToolBar *>())
+        bar->hide();
     (void)d->common->sheet()->load(commonRows()).ecatch();
     auto *const add = new QPushButton(tr("&Add to the Table"));
     add->setObjectName(QStringLiteral("addCommon"));
@@ -230,8 +234,8 @@ void ModificationsDialog::addCommon()
         Modification modification{texts[0], texts[1], texts[3], Modification::Use::Common, 1};
         if (!modification.mass.startsWith(u'-'))
             modification.mass.prepend(u'+');
-        if (!rows.contains(textsOf(modification)))
-            rows.append(textsOf(modification));
+        if (!rows.contains(textsOfModification(modification)))
+            rows.append(textsOfModification(modification));
     }
     TableSheet *const sheet = d->table->sheet();
     if (const Error error = sheet->insertRows(sheet->rowCount(), rows, tr("add common modifications"));
@@ -261,7 +265,7 @@ void ModificationsDialog::showTable()
     d->lines.clear();
     for (const ModificationText::Line &line : lines) {
         const QStringList texts =
-            line.problem.isEmpty() ? textsOf(line.modification) : QStringList{line.text};
+            line.problem.isEmpty() ? textsOfModification(line.modification) : QStringList{line.text};
         // Ids of a new load begin at 0.
         d->lines.insert(quint32(rows.size()), {texts, line.text});
         rows.append(texts);
@@ -282,7 +286,7 @@ void ModificationsDialog::takeTable()
         const bool isUnedited =
             known != d->lines.cend() && known->first == texts.mid(0, known->first.size()) &&
             texts.mid(known->first.size(), kUseAt + 2 - known->first.size()).join(QString()).isEmpty();
-        const bool isEmpty = texts[0].isEmpty() && texts[kMassAt].isEmpty() && texts[2].isEmpty();
+        const bool isEmpty = texts[0].isEmpty() && texts[kModificationMassAt].isEmpty() && texts[2].isEmpty();
         if (isUnedited)
             lines.append(known->second);
         else if (!isEmpty)

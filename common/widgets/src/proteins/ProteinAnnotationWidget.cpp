@@ -8,13 +8,13 @@ namespace orv {
 
 namespace {
 
-constexpr int kProteinAt = 0;
-constexpr int kBeginAt = 2;
-constexpr int kEndAt = 3;
+constexpr int kAnnotatedAt = 0;
+constexpr int kFirstResidueAt = 2;
+constexpr int kLastResidueAt = 3;
 
 using AnnotationRecords = RecordBinding<ProteinAnnotationEntry>;
 
-void setPlace(int *place, QStringView text)
+void setResidue(int *place, QStringView text)
 {
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
@@ -32,13 +32,13 @@ QList<AnnotationRecords::Field> annotationFields()
          [](Entry *entry, QStringView text) { entry->name = text.toString(); }},
         {QStringLiteral("begin"), [](const Entry &entry) { return QString::number(entry.begin); },
          [](Entry *entry, QStringView text) {
-             setPlace(&entry->begin, text);
+             setResidue(&entry->begin, text);
              // A stretch that ends before it begins can't be read back.
              entry->end = std::max(entry->end, entry->begin);
          }},
         {QStringLiteral("end"), [](const Entry &entry) { return QString::number(entry.end); },
          [](Entry *entry, QStringView text) {
-             setPlace(&entry->end, text);
+             setResidue(&entry->end, text);
              entry->end = std::max(entry->end, entry->begin);
          }},
         {QStringLiteral("colour"), [](const Entry &entry) { return entry.colour; },
@@ -60,9 +60,9 @@ struct ProteinAnnotationWidget::Shared
 
 QString ProteinAnnotationWidget::Shared::residuesOf(const QStringList &texts) const
 {
-    const QString sequence = sequences.value(texts[kProteinAt]);
-    const int begin = texts[kBeginAt].toInt();
-    const int end = texts[kEndAt].toInt();
+    const QString sequence = sequences.value(texts[kAnnotatedAt]);
+    const int begin = texts[kFirstResidueAt].toInt();
+    const int end = texts[kLastResidueAt].toInt();
     if (sequence.isEmpty())
         return {};
     if (begin < 1 || begin > end)

@@ -24,9 +24,9 @@ namespace orv {
 
 namespace {
 
-constexpr int kNameAt = 0;
+constexpr int kAccessionAt = 0;
 constexpr int kAliasAt = 1;
-constexpr int kSequenceAt = 2;
+constexpr int kProteinSequenceAt = 2;
 constexpr int kAverageAt = 5;
 
 } // namespace
@@ -58,7 +58,7 @@ QList<TableColumn> proteinColumns(const std::shared_ptr<ProteinTableShared> &sha
     for (const SequenceFigure figure :
          {SequenceFigure::Length, SequenceFigure::MonoisotopicMass, SequenceFigure::AverageMass,
           SequenceFigure::CleavageSites, SequenceFigure::Coverage, SequenceFigure::Formula})
-        columns.append(sequenceFigureColumn(figure, shared->source, kSequenceAt, typeOf));
+        columns.append(sequenceFigureColumn(figure, shared->source, kProteinSequenceAt, typeOf));
     return columns;
 }
 
@@ -141,7 +141,7 @@ void ProteinTableWidget::build()
     d->pages->setMinimumHeight(fontMetrics().height() * 8);
     d->pages->setMaximumHeight(fontMetrics().height() * 16);
     insertBelow(d->pages);
-    const FastaColumns columns{sheet()->columnCount(), kNameAt, kAliasAt, kSequenceAt};
+    const FastaColumns columns{sheet()->columnCount(), kAccessionAt, kAliasAt, kProteinSequenceAt};
     view()->setTextReader([columns](const QByteArray &text) { return readFastaRows(text, columns); });
     view()->setEmptyText(view()->emptyText() + u'\n' + tr("Or paste or drop sequences as FASTA."));
     connect(d->digest, &DigestBar::edited, this, &ProteinTableWidget::takeDigest);
@@ -169,6 +169,7 @@ void ProteinTableWidget::addFromRowNode(const RowNode &table)
     if (const int rows = d->rows.rowsNotShown(); rows > 0)
         notes.append(tr("Rows below other rows are kept but not shown: %1.").arg(rows));
     setNote(notes.join(u' '));
+    d->treeView->refreshDelegates();
 }
 
 ProteinTreeTable *ProteinTableWidget::proteinTreeTable() const
@@ -197,6 +198,9 @@ void ProteinTableWidget::setAverageMassVisible(bool isVisible)
 {
     d->isAverageMassVisible = isVisible;
     view()->setColumnShown(kAverageAt, isVisible);
+    // Columns that were hidden had no room when the others were fitted.
+    if (isVisible)
+        view()->resizeColumnToContents(kAverageAt);
 }
 
 void ProteinTableWidget::setFastaCheckerRule(bool isMassNeeded)
@@ -242,10 +246,10 @@ QHash<QString, QString> ProteinTableWidget::sequences() const
 {
     QHash<QString, QString> sequences;
     for (int row = 0; row < sheet()->rowCount(); ++row) {
-        const QStringView accession = sheet()->text(row, kNameAt);
+        const QStringView accession = sheet()->text(row, kAccessionAt);
         const QString name = (accession.isEmpty() ? sheet()->text(row, kAliasAt) : accession).toString();
-        sequences.insert(name, ProteinGenerator::cleanSequence(sheet()->text(row, kSequenceAt).toString(),
-                                                               d->shared->type));
+        sequences.insert(name, ProteinGenerator::cleanSequence(
+                                   sheet()->text(row, kProteinSequenceAt).toString(), d->shared->type));
     }
     return sequences;
 }
@@ -260,11 +264,11 @@ void ProteinTableWidget::showCurrent()
 {
     const QModelIndex current = view()->currentIndex();
     const int row = current.isValid() ? model()->sheetRow(current.row()) : -1;
-    const QString name = row < 0 ? QString() : sheet()->text(row, kNameAt).toString();
+    const QString name = row < 0 ? QString() : sheet()->text(row, kAccessionAt).toString();
     const QString sequence =
-        row < 0
-            ? QString()
-            : ProteinGenerator::cleanSequence(sheet()->text(row, kSequenceAt).toString(), d->shared->type);
+        row < 0 ? QString()
+                : ProteinGenerator::cleanSequence(sheet()->text(row, kProteinSequenceAt).toString(),
+                                                  d->shared->type);
     const SequenceFigures figures = SequenceFigures::of(sequence, d->shared->type);
     SequenceView::Marks marks;
     marks.unknown = figures.unknownPlaces;

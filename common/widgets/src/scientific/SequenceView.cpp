@@ -36,6 +36,9 @@ SequenceView::SequenceView(QWidget *parent)
 {
     setObjectName(QStringLiteral("sequence"));
     setAccessibleName(tr("Sequence"));
+    setToolTip(
+        tr("Underlined: the enzyme cuts behind the residue. Waves: the letter has no mass. Coloured: the "
+           "residue belongs to an annotation."));
     setReadOnly(true);
     setTabChangesFocus(true);
     setTextInteractionFlags(Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
@@ -76,7 +79,12 @@ void SequenceView::showSequence(const QString &sequence, const Marks &marks)
         constexpr int kThin = 70;
         color.setAlpha(kThin);
         format.setBackground(color);
-        addMark(&selections, stretch.first, stretch.last, format);
+        // Positions between lines have no part in it.
+        for (int first = stretch.first; first <= stretch.last;) {
+            const int last = std::min(stretch.last, first - first % kLettersInLine + kLettersInLine - 1);
+            addMark(&selections, first, last, format);
+            first = last + 1;
+        }
     }
     QTextCharFormat cut;
     cut.setFontWeight(QFont::Bold);
