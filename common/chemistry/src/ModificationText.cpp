@@ -122,6 +122,8 @@ Result<Modification> Modification::fromString(const QString &line)
     modification.residues = line.mid(at + 1, bar - at - 1).trimmed();
     if (modification.name.isEmpty())
         return badModification(ModificationTextTr::tr("It has no name."));
+    if (modification.name.startsWith(u'%'))
+        return badModification(ModificationTextTr::tr("A name that begins with \"%\" makes it a comment."));
     if (!modification.massDa())
         return badModification(
             ModificationTextTr::tr("\"%1\" is neither a mass in Da nor a formula.").arg(modification.mass));

@@ -57,7 +57,7 @@ TolerancesWidget::TolerancesWidget(QWidget *parent)
     layout->addRow(tr("&Impurities:"), m_impurities);
     setAccessibleName(tr("Mass tolerances"));
     for (UnitField *const field : {m_product, m_impurities})
-        connect(field, &UnitField::edited, this, &TolerancesWidget::edited);
+        connect(field, &UnitField::edited, this, &TolerancesWidget::edited, Qt::QueuedConnection);
     setData({});
 }
 

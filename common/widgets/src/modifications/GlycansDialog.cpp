@@ -194,16 +194,16 @@ void GlycansDialog::takeTables()
     QStringList paths;
     for (const QStringList &row : d->databases->sheet()->allTexts()) {
         if (!row[0].trimmed().isEmpty())
-            paths.append(row[0]);
+            paths.append(QString(row[0]).replace(u'\n', u' '));
     }
     const TableSheet *const sheet = d->compositions->sheet();
     QStringList lines;
     for (int row = 0; row < sheet->rowCount(); ++row) {
-        const QString composition = sheet->text(row, 0).toString();
-        const QString place = sheet->text(row, 1).toString();
+        const QString composition = sheet->text(row, 0).toString().simplified();
+        const QString place = sheet->text(row, 1).toString().simplified();
         const QString before = d->lines.value(sheet->rowId(row));
-        if (!before.isEmpty() && GlycanText::compositionOf(before) == composition &&
-            GlycanText::placeOf(before) == place)
+        if (!before.isEmpty() && GlycanText::compositionOf(before).simplified() == composition &&
+            GlycanText::placeOf(before).simplified() == place)
             lines.append(before);
         else if (!composition.trimmed().isEmpty())
             lines.append(place.isEmpty() ? composition : composition + QLatin1String(" @ ") + place);

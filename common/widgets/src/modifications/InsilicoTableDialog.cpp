@@ -228,6 +228,8 @@ void InsilicoTableDialog::digest()
     QList<QStringList> rows;
     bool isCut = false;
     for (const ProteinChecks::Protein &protein : d->proteins->checked()) {
+        if (isCut)
+            break;
         for (const DigestedPeptide &peptide :
              digestOfProtein(protein.sequence, d->digest->rule(), d->digest->limits(), kMostPeptides)) {
             const int begin = peptide.offset + 1;

@@ -33,9 +33,10 @@ constexpr int kUseAt = 3;
 Modification modificationOf(const QStringList &texts)
 {
     Modification modification;
-    modification.name = texts[0].trimmed();
-    modification.mass = texts[kModificationMassAt].trimmed();
-    modification.residues = texts[2].trimmed();
+    // A line holds one modification, whatever was pasted.
+    modification.name = texts[0].simplified();
+    modification.mass = texts[kModificationMassAt].simplified();
+    modification.residues = texts[2].simplified();
     modification.use = Modification::useFromString(texts[kUseAt]).value_or(Modification::Use::Fixed);
     const bool isFixed = modification.use == Modification::Use::Fixed;
     modification.limit = isFixed ? 0 : std::max(1, texts[kUseAt + 1].toInt());

@@ -142,7 +142,8 @@ void ProteinInputWidgetBase::build()
                                sheet->columnOf(QStringLiteral("Sequence"))};
     d->pages[0].widget->view()->setTextReader(
         [columns](const QByteArray &text) { return readFastaRows(text, columns); });
-    connect(d->source, &QComboBox::currentIndexChanged, this, &ProteinInputWidgetBase::edited);
+    connect(d->source, &QComboBox::currentIndexChanged, this, &ProteinInputWidgetBase::edited,
+            Qt::QueuedConnection);
     followChains();
 }
 
@@ -244,7 +245,6 @@ void ProteinInputWidgetBase::loadFromCsv(const RowNode &root)
     // What the file holds isn't what a document held.
     d->original = d->shown;
     setProteinDataSource(source);
-    Q_EMIT edited();
 }
 
 void ProteinInputWidgetBase::updateSamplesIds(const QList<SamplesInput::Entry> &entries)

@@ -92,6 +92,7 @@ void ModificationDialogsTest::linesThatAreNoneSayWhy_data()
     QTest::newRow("no residue") << text("a / 1 @ M,m | fixed") << text("\"m\" is no residue");
     QTest::newRow("no use") << text("a / 1 @ M | often") << text("stands \"often\"");
     QTest::newRow("counted fixed") << text("a / 1 @ M | fixed2") << text("stands \"fixed2\"");
+    QTest::newRow("comment") << text("%a / 1 @ M | fixed") << text("makes it a comment");
     QTest::newRow("none") << text("a / 1 @ M | common0") << text("stands \"common0\"");
 }
 

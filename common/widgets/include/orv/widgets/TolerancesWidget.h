@@ -27,6 +27,7 @@ public:
     [[nodiscard]] QString toPlainText() const;
 
 Q_SIGNALS:
+    /// Comes from the event loop.
     void edited();
 
 private:
