@@ -292,7 +292,7 @@ void TableEditor::importRead(const QString &path, const Result<QList<QStringList
                           QMessageBox::NoButton, read.error().details().join(u'\n'));
         return;
     }
-    const Error error = d->sheet->insertRows(d->sheet->rowCount(), *read, tr("import"));
+    const Error error = d->sheet()->insertRows(d->sheet()->rowCount(), *read, tr("import"));
     say(error.hasError() ? error.errorMessage()
                          : tr("Rows imported from %1: %2").arg(QFileInfo(path).fileName()).arg(read->size()));
 }
