@@ -147,10 +147,10 @@ void RowBindingsTest::refusedTextsLeaveARecord()
 {
     TableSheet sheet(bindingColumns());
     RecordBinding<DeltaMass> records(&sheet, {{text("Name"), [](const DeltaMass &mass) { return mass.name; },
-                                             [](DeltaMass *mass, QStringView cell) {
-                                                 if (cell != u"refused")
-                                                     mass->name = cell.toString();
-                                             }}});
+                                               [](DeltaMass *mass, QStringView cell) {
+                                                   if (cell != u"refused")
+                                                       mass->name = cell.toString();
+                                               }}});
     DeltaMass mass;
     mass.name = text("kept");
     mass.otherCells = {{text("Other"), 7}};
