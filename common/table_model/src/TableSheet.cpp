@@ -288,6 +288,8 @@ void TableSheet::removeRows(const QList<int> &rows)
 void TableSheet::moveRows(const QList<int> &rows, int before)
 {
     const QList<int> moved = ascendingRows(rows, rowCount());
+    if (moved.isEmpty())
+        return;
     const QList<quint32> &old = d->order.ids();
     QList<quint32> head;
     QList<quint32> tail;
@@ -307,7 +309,8 @@ void TableSheet::moveRows(const QList<int> &rows, int before)
 void TableSheet::setOrder(const QList<quint32> &ids)
 {
     Q_ASSERT(ids.size() == rowCount());
-    if (ids != d->order.ids())
+    // Empty lists can't be compared: one of them may have no memory at all.
+    if (!ids.isEmpty() && ids != d->order.ids())
         d->push({TableOrderChange{d->order.ids(), ids}}, tr("order the rows"));
 }
 

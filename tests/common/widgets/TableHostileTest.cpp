@@ -66,6 +66,7 @@ private Q_SLOTS:
     void aComposedLetterReplacesACell();
     void scatteredCellsAreCopiedInTheirPlaces();
     void hugeAndOddTextsAreShown();
+    void lookingIntoHugeAndOddTextsChangesNothing();
     void rowsVanishUnderAnOpenEditor();
 };
 
@@ -191,6 +192,39 @@ void TableHostileTest::hugeAndOddTextsAreShown()
     }
     QCOMPARE(e.sheet.text(0, 0), huge);
     QCOMPARE(e.sheet.text(1, 0), QString(3, QChar::Null));
+}
+
+void TableHostileTest::lookingIntoHugeAndOddTextsChangesNothing()
+{
+    Editor e;
+    const QStringList texts = {text("A(x)").repeated(20000),
+                               QString(3, QChar::Null),
+                               text("two\nlines\r\nand\ttab"),
+                               text("  blanks  "),
+                               QString(QChar(0xD800)),
+                               text("1,234"),
+                               text("peptide")};
+    for (int column = 0; column < e.sheet.columnCount(); ++column) {
+        for (const QString &odd : texts) {
+            QVERIFY(!e.sheet.setText(0, column, odd).hasError());
+            const int steps = e.sheet.history()->count();
+            e.click(0, column);
+            e.key(Qt::Key_F2);
+            QVERIFY(QApplication::focusWidget() != e.view());
+            e.key(Qt::Key_Return);
+            QCOMPARE(e.sheet.text(0, column), odd);
+            QCOMPARE(e.sheet.history()->count(), steps);
+        }
+    }
+    e.click(1, 0);
+    QVERIFY(!e.sheet.setText(1, 0, texts[0]).hasError());
+    e.key(Qt::Key_F2);
+    e.key(Qt::Key_End);
+    e.type("y");
+    e.key(Qt::Key_Return);
+    QCOMPARE(e.sheet.text(1, 0), texts[0] + u'y');
+    QVERIFY(!e.sheet.setText(0, 4, QString(3000000, u'(')).hasError());
+    QVERIFY(e.at(0, 4).data(Qt::ToolTipRole).toString().size() < 20000);
 }
 
 void TableHostileTest::rowsVanishUnderAnOpenEditor()

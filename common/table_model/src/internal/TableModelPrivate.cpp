@@ -12,7 +12,7 @@ namespace {
 constexpr qsizetype kMaxRuns = 64;
 
 constexpr int kToolTipLines = 20;
-constexpr qsizetype kToolTipUnits = 1000;
+constexpr qsizetype kToolTipUnits = 2000;
 
 QList<int> places(const RowRun &run)
 {
@@ -128,7 +128,10 @@ QString TableModel::Private::toolTip(const QModelIndex &index) const
     const QStringView kept = sheet->textOf(id, index.column());
     const QString problem = sheet->problemOf(id, index.column());
     if (column.kind == TableColumnKind::Sequence && !kept.isEmpty()) {
-        const QString lines = SequenceText::lines(kept, 3, kToolTipLines);
+        const QStringView beginning = kept.first(std::min(kept.size(), kToolTipUnits));
+        QString lines = SequenceText::lines(beginning, 3, kToolTipLines);
+        if (beginning.size() < kept.size() && !lines.endsWith(QStringLiteral("...")))
+            lines += QStringLiteral("...");
         return QStringLiteral("<p>%1</p><pre>%2</pre>").arg(problem.toHtmlEscaped(), lines.toHtmlEscaped());
     }
     const QString text = column.shown(kept.first(std::min(kept.size(), kToolTipUnits)), sign);
@@ -154,7 +157,8 @@ QList<quint32> TableModel::Private::filtered(const QList<quint32> &ids) const
 
 void TableModel::Private::show(QList<quint32> ids)
 {
-    if (ids == shown.ids())
+    const bool isNothing = ids.isEmpty() && shown.size() == 0;
+    if (isNothing || ids == shown.ids())
         return;
     TableOrder next;
     next.assign(std::move(ids));

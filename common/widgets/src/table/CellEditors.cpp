@@ -15,6 +15,8 @@
 #include <QValidator>
 #include <QWheelEvent>
 
+#include <limits>
+
 namespace orv {
 
 namespace {
@@ -69,6 +71,7 @@ CellLineEdit::CellLineEdit(const TableColumn &column, NumberText::DecimalSign si
     , m_problemOf(std::move(problemOf))
 {
     setFrame(false);
+    setMaxLength(std::numeric_limits<int>::max()); // else the end of a protein is cut
     setAccessibleName(column.header());
     if (runsLeftToRight(column.kind))
         setLayoutDirection(Qt::LeftToRight);
@@ -130,8 +133,10 @@ void CellLineEdit::takeChosen(const std::function<QString(QWidget *parent, const
 {
     const QPointer<CellLineEdit> guard(this);
     const QString chosen = choose(window(), text());
-    if (guard && !chosen.isEmpty())
-        setText(chosen);
+    if (!guard || chosen.isEmpty())
+        return;
+    setText(chosen);
+    setModified(true);
 }
 
 void CellLineEdit::addChooser(const QString &text,

@@ -204,7 +204,9 @@ void TableDelegate::setEditorData(QWidget *editor, const QModelIndex &index) con
 
 void TableDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
-    if (const auto *const line = qobject_cast<CellLineEdit *>(editor))
+    const auto *const line = qobject_cast<CellLineEdit *>(editor);
+    // What was only looked at may have lost what a line can't show.
+    if (line && line->isModified())
         model->setData(index, line->text());
     else if (const auto *const box = qobject_cast<CellChoiceBox *>(editor))
         model->setData(index, box->text());
