@@ -59,6 +59,13 @@ void findProblems(const TableSheet &sheet, const QString &table, AcrossRows isAc
     }
 }
 
+/// What can't be shown must not give way to what somebody adds.
+Error unreadable()
+{
+    Error error(ErrorCode::InvalidContent, SamplesAndTracesTables::tr("The samples can't be read."));
+    return error.addDetail(SamplesAndTracesTables::tr("Nothing can be changed while they stay as they are."));
+}
+
 QString nameOfFile(const QString &reference)
 {
     return SampleUtils::sampleNameWithoutMsExtensionSuffix(
@@ -345,6 +352,8 @@ bool SamplesAndTracesTables::isUnreadable() const
 
 Result<int> SamplesAndTracesTables::addFiles(const QList<SamplePathAndName> &files)
 {
+    if (isUnreadable())
+        return unreadable();
     QSet<QString> known;
     const auto keyOf = [](const ResourceReferenceSPtr &file, const QString &name) {
         return (file ? file->key() : QString()) + QChar(u'\0') + name;
@@ -402,6 +411,8 @@ bool SamplesAndTracesTables::hasValues(const QString &customColumn) const
 
 Error SamplesAndTracesTables::addCustomColumn(const SamplesInput::CustomColumn &column)
 {
+    if (isUnreadable())
+        return unreadable();
     CustomColumns columns = customColumns();
     if (!columns.addCustomColumn(column)) {
         Error error(ErrorCode::InvalidContent, tr("A column can't be called \"%1\".").arg(column.name));

@@ -1,6 +1,7 @@
 #include "orv/table_model/NumberText.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace orv::NumberText {
 
@@ -156,6 +157,13 @@ QString shown(QStringView text, DecimalSign sign)
     if (sign == DecimalSign::Comma && isCanonical(text))
         result.replace(u'.', u',');
     return result;
+}
+
+QString fromDouble(double number)
+{
+    const double size = std::abs(number);
+    const bool isReadable = size == 0 || (size >= 1e-6 && size < 1e15);
+    return QString::number(number, isReadable ? 'f' : 'g', QLocale::FloatingPointShortest);
 }
 
 } // namespace orv::NumberText

@@ -30,7 +30,7 @@ bool isNumber(const QVariant &cell)
 QString textOfCell(const QVariant &cell)
 {
     if (cell.typeId() == QMetaType::Double)
-        return QString::number(cell.toDouble(), 'g', QLocale::FloatingPointShortest);
+        return NumberText::fromDouble(cell.toDouble());
     if (cell.typeId() == QMetaType::Float)
         return QString::number(cell.toFloat(), 'g', QLocale::FloatingPointShortest);
     if (cell.canConvert<QString>())

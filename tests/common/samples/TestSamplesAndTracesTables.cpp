@@ -308,6 +308,9 @@ void TestSamplesAndTracesTables::whatIsNoContentComesBack()
     QVERIFY(tables.isUnreadable());
     QCOMPARE(tables.samples()->rowCount(), 0);
     QCOMPARE(tables.jsonContent(), odd);
+    QVERIFY(tables.addFiles({{u"/d/x.raw"_s, {}}}).hasError());
+    QVERIFY(tables.addCustomColumn({u"c"_s, u"text"_s, {}, {}}).hasError());
+    QCOMPARE(tables.jsonContent(), odd);
     QStringList errors;
     QVERIFY(!tables.validate(nullptr, &errors, nullptr));
     QCOMPARE(errors, QStringList(u"The samples can't be read."_s));

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void aCommaThatMayPartThousandsIsTold();
     void digitsAreShownAsTheyAreKept();
     void valuesAreThoseOfTheKeptForm();
+    void numbersAreWrittenToBeRead();
     void localesTellTheirSign();
 };
 
@@ -105,6 +106,17 @@ void TestNumberText::valuesAreThoseOfTheKeptForm()
     QCOMPARE(NumberText::value(u"1,5"), std::nullopt);
     QCOMPARE(NumberText::value(u"1e999"), std::nullopt);
     QCOMPARE(NumberText::value(u"nan"), std::nullopt);
+}
+
+void TestNumberText::numbersAreWrittenToBeRead()
+{
+    QCOMPARE(NumberText::fromDouble(200000), u"200000"_s);
+    QCOMPARE(NumberText::fromDouble(-0.1), u"-0.1"_s);
+    QCOMPARE(NumberText::fromDouble(0), u"0"_s);
+    QCOMPARE(NumberText::fromDouble(524.265), u"524.265"_s);
+    QCOMPARE(NumberText::fromDouble(1e22), u"1e+22"_s);
+    QCOMPARE(NumberText::fromDouble(2.5e-9), u"2.5e-09"_s);
+    QVERIFY(NumberText::isCanonical(NumberText::fromDouble(1e22)));
 }
 
 void TestNumberText::localesTellTheirSign()

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void bothDecimalSignsMayBeTyped();
     void lookingIntoACellChangesNothing();
     void wrongCellsSayWhy();
+    void notesStandBesideCells();
     void headersHaveUnitsAndExplanations();
     void readOnlyColumnsTakeNoEdit();
     void columnsSortByWhatTheyHold_data();
@@ -103,6 +104,23 @@ void TestTableModel::wrongCellsSayWhy()
     QCOMPARE(cell.data(Qt::ToolTipRole).toString(), u"Is not a number."_s);
     QCOMPARE(cell.data(Qt::AccessibleDescriptionRole).toString(), u"Is not a number."_s);
     QCOMPARE(p.model.index(1, 1).data(TableModel::ProblemRole).toString(), QString());
+}
+
+void TestTableModel::notesStandBesideCells()
+{
+    Peptides p;
+    const QModelIndex cell = p.model.index(1, 0);
+    const QString text = cell.data().toString();
+    QSignalSpy changes(&p.model, &QAbstractItemModel::dataChanged);
+    p.model.setNotes([&](quint32 row, int column) {
+        return row == p.sheet.rowId(1) && column == 0 ? u"known"_s : QString();
+    });
+    QCOMPARE(changes.size(), 1);
+    QCOMPARE(cell.data(TableModel::NoteRole).toString(), u"known"_s);
+    QCOMPARE(cell.data(Qt::ToolTipRole).toString(), text + u"\nknown"_s);
+    QCOMPARE(cell.data(Qt::AccessibleDescriptionRole).toString(), u"known"_s);
+    QCOMPARE(cell.data().toString(), text);
+    QCOMPARE(p.model.index(0, 0).data(TableModel::NoteRole).toString(), QString());
 }
 
 void TestTableModel::headersHaveUnitsAndExplanations()

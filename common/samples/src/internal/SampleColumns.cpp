@@ -122,7 +122,7 @@ QString customText(const QVariant &value, const TableColumn &column)
     if (column.kind == TableColumnKind::Choice && value.typeId() == QMetaType::Bool)
         return yesOrNo(value.toBool());
     if (value.typeId() == QMetaType::Double)
-        return QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest);
+        return NumberText::fromDouble(value.toDouble());
     return value.toString();
 }
 

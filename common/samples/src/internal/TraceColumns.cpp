@@ -47,7 +47,7 @@ QString typeText(TraceType type)
 {
     const auto *const found =
         std::find_if(kTypes.begin(), kTypes.end(), [type](const TypeName &row) { return row.type == type; });
-    return found == kTypes.end() ? QString::number(int(type)) : TraceColumnsTr::tr(found->name);
+    return found == kTypes.end() ? NumberText::fromDouble(int(type)) : TraceColumnsTr::tr(found->name);
 }
 
 TraceType typeOf(const QString &text, TraceType before)
@@ -162,16 +162,15 @@ using Options = Preset::CreationOptions;
 PresetColumn numberColumn(TableColumn column, double Options::*member)
 {
     column.minimum = 0;
-    column.defaultText = QString::number(Options().*member, 'g', QLocale::FloatingPointShortest);
-    return {column,
-            [member](const Preset &preset) {
-                return QString::number(preset.creationOptions().*member, 'g', QLocale::FloatingPointShortest);
-            },
-            [member](Preset *preset, const QString &text) {
-                Options options = preset->creationOptions();
-                options.*member = NumberText::value(text).value_or(options.*member);
-                preset->setCreationOptions(options);
-            }};
+    column.defaultText = QString::number(Options().*member);
+    return {
+        column,
+        [member](const Preset &preset) { return NumberText::fromDouble(preset.creationOptions().*member); },
+        [member](Preset *preset, const QString &text) {
+            Options options = preset->creationOptions();
+            options.*member = NumberText::value(text).value_or(options.*member);
+            preset->setCreationOptions(options);
+        }};
 }
 
 PresetColumn flagColumn(const TableColumn &column, bool Options::*member)

@@ -17,7 +17,7 @@ using InclusionColumn = RecordColumn<InclusionItem>;
 
 QString shortest(double number)
 {
-    return QString::number(number, 'g', QLocale::FloatingPointShortest);
+    return NumberText::fromDouble(number);
 }
 
 InclusionColumn mzColumn()

@@ -42,8 +42,7 @@ constexpr std::array kOptionNumbers = {
 QString defaultOf(const NumberRow &row)
 {
     const IntactOptions options;
-    return row.charge ? QString::number(options.*row.charge)
-                      : QString::number(options.*row.number, 'g', QLocale::FloatingPointShortest);
+    return row.charge ? NumberText::fromDouble(options.*row.charge) : QString::number(options.*row.number);
 }
 
 QString adductProblem(QStringView text)

@@ -3,6 +3,7 @@
 #include <orv/widgets/TableEditor.h>
 
 #include <QDialogButtonBox>
+#include <QHeaderView>
 #include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -51,6 +52,7 @@ QDialogButtonBox *layOutTableDialog(QDialog *dialog, TableEditor *editor, const 
     layout->addWidget(editor, 1);
     layout->addWidget(buttons);
     TableView *const view = editor->view();
+    view->horizontalHeader()->setStretchLastSection(true);
     QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, [dialog, view, check] {
         // A cell that is being edited gives its text when it loses the focus.
         view->setFocus();

@@ -16,6 +16,7 @@
 #include <orv/widgets/ORVStyle.h>
 #include <orv/widgets/TableEditor.h>
 
+#include <QAction>
 #include <QCheckBox>
 #include <QFutureWatcher>
 #include <QIcon>
@@ -69,6 +70,7 @@ public:
     NoticeBar *notice = nullptr;
     QToolBar *bar = nullptr;
     QMenu *columnMenu = nullptr;
+    QAction *showTraces = nullptr;
     QSplitter *splitter = nullptr;
     QTabWidget *pane = nullptr;
     QPointer<TableEditor> samples;
@@ -137,6 +139,8 @@ void SamplesAndTracesInputWidget::build()
     d->notice = new NoticeBar;
     d->bar = new QToolBar;
     d->bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    d->bar->setIconSize({side, side});
     d->splitter = new QSplitter(Qt::Vertical);
     d->splitter->setChildrenCollapsible(false);
     d->pane = new QTabWidget;
@@ -189,6 +193,13 @@ void SamplesAndTracesInputWidget::addCommands()
     d->columnMenu = new QMenu(columns);
     columns->setMenu(d->columnMenu);
     d->bar->addWidget(columns);
+    d->showTraces = d->bar->addAction(tr("T&races"));
+    d->showTraces->setObjectName(QStringLiteral("showTraces"));
+    d->showTraces->setCheckable(true);
+    d->showTraces->setToolTip(tr("Show the traces of the samples, and how peaks are found in them"));
+    d->bar->widgetForAction(d->showTraces)->setObjectName(QStringLiteral("showTraces"));
+    d->pane->hide();
+    connect(d->showTraces, &QAction::toggled, d->pane, &QWidget::setVisible);
 }
 
 void SamplesAndTracesInputWidget::buildSamples()
@@ -203,14 +214,17 @@ void SamplesAndTracesInputWidget::buildSamples()
     connect(drop, &SampleDrop::pathsCame, this, &SamplesAndTracesInputWidget::addPaths);
     connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &SamplesAndTracesInputWidget::showTracesOfSelected);
-    d->splitter->insertWidget(0, d->samples);
-    d->splitter->setStretchFactor(0, 3);
-    d->samples->setEnabled(!d->tables->isUnreadable());
+    const QList<int> sizes = d->splitter->sizes();
     if (before) {
         // It may be the one that a person is just typing in.
+        before->setParent(this);
         before->hide();
         before->deleteLater();
     }
+    d->splitter->insertWidget(0, d->samples);
+    d->splitter->setSizes(before && sizes.value(0) > 0 ? sizes : QList<int>{600, 400});
+    d->samples->setEnabled(!d->tables->isUnreadable());
+    d->bar->setEnabled(!d->tables->isUnreadable());
     d->columnMenu->clear();
     d->columnMenu->addAction(tr("&Add Column..."), this, &SamplesAndTracesInputWidget::askForColumn);
     for (const QString &name : d->tables->customColumns().customColumnNames())
@@ -330,7 +344,8 @@ void SamplesAndTracesInputWidget::showColumns()
                                            !unneeded.contains(name) || !isEmptyColumn(*sheet, column));
     }
     const bool hasTraces = d->tables->traces()->rowCount() > 0 || d->tables->presets()->rowCount() > 0;
-    d->pane->setVisible(hasTraces || SampleModes::needTraces(d->modes));
+    d->showTraces->setVisible(hasTraces || SampleModes::needTraces(d->modes));
+    d->showTraces->setChecked(d->showTraces->isVisible() && (hasTraces || d->showTraces->isChecked()));
 }
 
 void SamplesAndTracesInputWidget::showTracesOfSelected()

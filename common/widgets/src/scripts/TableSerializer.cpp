@@ -22,7 +22,7 @@ constexpr QChar kIsText = u'\'';
 QString cellText(const QVariant &cell)
 {
     if (cell.typeId() == QMetaType::Double)
-        return QString::number(cell.toDouble(), 'g', QLocale::FloatingPointShortest);
+        return NumberText::fromDouble(cell.toDouble());
     const QString text = cell.toString();
     const bool isText = cell.typeId() == QMetaType::QString;
     return isText && (NumberText::isCanonical(text) || text.startsWith(kIsText)) ? kIsText + text : text;

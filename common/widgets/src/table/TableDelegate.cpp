@@ -35,6 +35,9 @@ TableColumnKind kindOf(const QModelIndex &index)
 /// More than the widest screen shows; laying out a text of megabytes takes seconds.
 constexpr qsizetype kPaintedUnits = 2000;
 
+/// What a column of files is wide enough for at least.
+constexpr int kFileCharacters = 36;
+
 int contentMargin(const QStyleOptionViewItem &option)
 {
     return QApplication::style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
@@ -115,6 +118,12 @@ QSize TableDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIn
         size.setWidth(
             SequencePainting::width(index.data().toString(), SequencePainting::fontLike(option.font)) +
             2 * contentMargin(option));
+    const int character = option.fontMetrics.averageCharWidth();
+    if (const QString note = index.data(TableModel::NoteRole).toString(); !note.isEmpty())
+        size.rwidth() += option.fontMetrics.horizontalAdvance(note) + 3 * character;
+    // Paths are long, and what is known of a file comes later.
+    if (kindOf(index) == TableColumnKind::File)
+        size.setWidth(std::max(size.width(), character * kFileCharacters));
     return size;
 }
 

@@ -329,10 +329,13 @@ void SamplesWidgetTest::modesHideEmptyColumns()
     QVERIFY(!isHidden("Traces"));
     // Intact has no use for it, but a sample has a value in it.
     QVERIFY(!isHidden("Digestion"));
-    QVERIFY(widget.findChild<QTabWidget *>(u"tracesPane"_s)->isVisible());
+    auto *const pane = widget.findChild<QTabWidget *>(u"tracesPane"_s);
+    QVERIFY(!pane->isVisible());
+    Hands::press(widget, "showTraces");
+    QVERIFY(pane->isVisible());
     widget.setModes({SamplesInput::Mode::Karvon});
     QVERIFY(!isHidden("ExtraReferences"));
-    QVERIFY(!widget.findChild<QTabWidget *>(u"tracesPane"_s)->isVisible());
+    QVERIFY(!pane->isVisible());
     widget.setModes({SamplesInput::Mode::Karvon, SamplesInput::Mode::Intact});
     QVERIFY(!isHidden("Traces"));
 }

@@ -35,6 +35,10 @@ enum class DecimalSign
 /// The number of a kept form; nothing for any other text and for what no double holds.
 [[nodiscard]] ORV_WORKFLOW_EXPORT std::optional<double> value(QStringView text);
 
+/// The kept form of a number, with as few digits as tell it from others, and without an exponent where that
+/// can be read.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QString fromDouble(double number);
+
 /// A kept form as people of that sign read it: the same digits.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QString shown(QStringView text, DecimalSign sign);
 
