@@ -47,8 +47,12 @@ void add(const char *name, const std::function<void()> &work)
     })->Unit(benchmark::kMicrosecond);
 }
 
-void showInItems(const QJsonArray &samples)
+/// Reads the samples, as any widget of them must, and shows their members.
+void showInItems(const QJsonObject &content)
 {
+    const auto read = SamplesAndTracesContent::fromJson(content);
+    benchmark::DoNotOptimize(read);
+    const QJsonArray samples = content.value(QStringLiteral("Samples")).toArray();
     QTableWidget table(int(samples.size()), kColumns);
     for (int row = 0; row < samples.size(); ++row) {
         const QJsonObject sample = samples[row].toObject();
@@ -76,8 +80,7 @@ void showInWidget(const QJsonObject &content)
 void addFirstFrame()
 {
     const auto content = std::make_shared<QJsonObject>(contentOf(sampleCount()));
-    add("samples, first frame/baseline",
-        [content] { showInItems(content->value(QStringLiteral("Samples")).toArray()); });
+    add("samples, first frame/baseline", [content] { showInItems(*content); });
     add("samples, first frame/SamplesAndTracesInputWidget", [content] { showInWidget(*content); });
 }
 

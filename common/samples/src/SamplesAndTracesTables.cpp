@@ -83,7 +83,7 @@ public:
 
     [[nodiscard]] Error load(const SamplesAndTracesContent &next);
     [[nodiscard]] Error loadSamples(const QList<Sample> &records, const CustomColumns &columns);
-    void use(const std::shared_ptr<SampleSheet> &next);
+    void use(const std::shared_ptr<SampleSheet> &next, const QList<Sample> &records);
     void follow(const std::shared_ptr<SampleSheet> &sheet);
     void readAllEntries();
     void readEntries(const QList<quint32> &rows);
@@ -143,11 +143,12 @@ Error SamplesAndTracesTables::Private::loadSamples(const QList<Sample> &records,
     const auto next = std::make_shared<SampleSheet>(SampleColumns::columns(columns),
                                                     [this](quint32 row) { return freshSample(row); });
     ORV_RETURN_IF_ERROR(next->load(records));
-    use(next);
+    use(next, records);
     return Error::NoError;
 }
 
-void SamplesAndTracesTables::Private::use(const std::shared_ptr<SampleSheet> &next)
+void SamplesAndTracesTables::Private::use(const std::shared_ptr<SampleSheet> &next,
+                                          const QList<Sample> &records)
 {
     if (samples)
         samples->sheet()->disconnect(q);
@@ -155,7 +156,10 @@ void SamplesAndTracesTables::Private::use(const std::shared_ptr<SampleSheet> &ne
         samples->sheet()->history()->disconnect(q);
     earlier = std::exchange(samples, next);
     follow(next);
-    readAllEntries();
+    // Nobody has edited them yet, so there is nothing to be taken from the table.
+    places.clear();
+    rows = next->sheet()->rowIds();
+    entries = QList<Entry>(records.begin(), records.end());
 }
 
 void SamplesAndTracesTables::Private::follow(const std::shared_ptr<SampleSheet> &followed)

@@ -5,10 +5,13 @@
 
 namespace orv::TablePage {
 
-TableEditor *editorOf(const std::shared_ptr<TableSheet> &sheet, const QString &title, const QString &kind)
+TableEditor *editorOf(const std::shared_ptr<TableSheet> &sheet, const QString &title, const QString &kind,
+                      const TableModel::Notes &notes)
 {
     auto *const editor = new TableEditor(sheet.get());
     editor->setTitle(title);
+    editor->view()->tableModel()->setNotes(notes);
+    editor->view()->fitColumns();
     editor->setKind(kind);
     QObject::connect(editor, &QObject::destroyed, [sheet] {});
     return editor;

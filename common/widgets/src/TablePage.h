@@ -1,6 +1,6 @@
 #pragma once
 
-#include <orv/table_model/TableSheet.h>
+#include <orv/table_model/TableModel.h>
 
 #include <QString>
 
@@ -16,9 +16,10 @@ class TableEditor;
 /// What widgets around one table share.
 namespace TablePage {
 
-/// The editor of a sheet, which holds it until it has gone. Tables of one \a kind remember their columns.
+/// The editor of a sheet, which holds it until it has gone. Tables of one \a kind remember their columns; at
+/// first these are wide enough for the notes, too.
 [[nodiscard]] TableEditor *editorOf(const std::shared_ptr<TableSheet> &sheet, const QString &title,
-                                    const QString &kind);
+                                    const QString &kind, const TableModel::Notes &notes = {});
 
 /// The title, the header and the rows that are shown, for screen readers and reports; empty for null.
 [[nodiscard]] QString textOf(const TableEditor *editor);

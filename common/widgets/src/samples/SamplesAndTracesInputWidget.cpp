@@ -205,11 +205,11 @@ void SamplesAndTracesInputWidget::addCommands()
 void SamplesAndTracesInputWidget::buildSamples()
 {
     TableEditor *const before = d->samples;
-    d->samples = TablePage::editorOf(d->tables->samples(), tr("Samples"), QStringLiteral("Samples"));
+    d->samples = TablePage::editorOf(d->tables->samples(), tr("Samples"), QStringLiteral("Samples"),
+                                     [this](quint32 row, int column) { return noteOnSample(row, column); });
     TableView *const view = d->samples->view();
     view->setEmptyText(tr("There are no samples yet.\nDrop files or folders here, add them with \"Add "
                           "Files\", or paste rows from a spreadsheet."));
-    view->tableModel()->setNotes([this](quint32 row, int column) { return noteOnSample(row, column); });
     auto *const drop = new SampleDrop(view);
     connect(drop, &SampleDrop::pathsCame, this, &SamplesAndTracesInputWidget::addPaths);
     connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -366,7 +366,7 @@ void SamplesAndTracesInputWidget::showTracesOfSelected()
 
 QString SamplesAndTracesInputWidget::noteOnSample(quint32 row, int column) const
 {
-    const TableSheet *const sheet = d->samples->view()->sheet();
+    const SamplesAndTracesTables::Sheet sheet = d->tables->samples();
     const int place = sheet->rowOf(row);
     const QList<SamplesInput::Entry> &entries = d->tables->entries();
     if (place < 0 || place >= entries.size())
