@@ -53,7 +53,7 @@ QString adductProblem(QStringView text)
                : QString();
 }
 
-QList<TableColumn> optionColumns(const QString &adduct)
+QList<TableColumn> deconvolutionColumns(const QString &adduct)
 {
     using Tr = OptionsWidgetBase;
     TableColumn name{.name = QStringLiteral("Name"), .title = Tr::tr("Name")};
@@ -77,7 +77,7 @@ QList<TableColumn> optionColumns(const QString &adduct)
     return columns;
 }
 
-QList<TableRowRule> optionRules(const QList<TableColumn> &columns)
+QList<TableRowRule> deconvolutionRules(const QList<TableColumn> &columns)
 {
     using TableRules::Bounds;
     using TableRules::inOrder;
@@ -88,7 +88,7 @@ QList<TableRowRule> optionRules(const QList<TableColumn> &columns)
 }
 
 /// One message a line, whatever it holds.
-QString linesOf(const QStringList &messages)
+QString htmlLinesOf(const QStringList &messages)
 {
     QStringList lines;
     for (const QString &message : messages)
@@ -104,7 +104,7 @@ public:
     Private(QString titleOfTable, QString kindOfTable, const QString &adduct)
         : title(std::move(titleOfTable))
         , kind(std::move(kindOfTable))
-        , table(optionColumns(adduct))
+        , table(deconvolutionColumns(adduct))
     {}
 
     [[nodiscard]] bool validate(QStringList *errors, QStringList *warnings) const
@@ -147,7 +147,7 @@ OptionsWidgetBase::~OptionsWidgetBase()
 void OptionsWidgetBase::show(const RowNode &table)
 {
     d->fault = d->table.load(table);
-    d->table.sheet()->setRowRules(optionRules(d->table.sheet()->columns()));
+    d->table.sheet()->setRowRules(deconvolutionRules(d->table.sheet()->columns()));
     d->unshown = d->fault.hasError() ? table : RowNode();
     d->notice->setText(
         d->fault.hasError()
@@ -170,7 +170,7 @@ RowNode OptionsWidgetBase::getFromUI(QString *error, QString *warning) const
     if (error)
         *error = d->fault.hasError() ? d->fault.errorMessage().toHtmlEscaped() : QString();
     if (warning)
-        *warning = linesOf(problems + warnings);
+        *warning = htmlLinesOf(problems + warnings);
     return d->fault.hasError() ? d->unshown : d->table.table();
 }
 
@@ -185,9 +185,9 @@ bool OptionsWidgetBase::validateUiValues(QString *errors, QString *warnings) con
     QStringList foundWarnings;
     const bool isValid = d->validate(&foundErrors, &foundWarnings);
     if (errors)
-        *errors = linesOf(foundErrors);
+        *errors = htmlLinesOf(foundErrors);
     if (warnings)
-        *warnings = linesOf(foundWarnings);
+        *warnings = htmlLinesOf(foundWarnings);
     return isValid;
 }
 

@@ -39,7 +39,7 @@ void takeFasta(SequenceDatabaseItem *item, const QString &text)
     *item = SequenceDatabaseItem::fromJson(json).valueOr(*item);
 }
 
-DatabaseSheet::Columns databaseColumns()
+DatabaseSheet::Columns sequenceDatabaseColumns()
 {
     using Tr = SequenceDatabasesWidget;
     TableColumn file{.name = kFasta, .title = Tr::tr("FASTA file"), .kind = TableColumnKind::File};
@@ -90,8 +90,8 @@ SequenceDatabasesWidget::SequenceDatabasesWidget(QWidget *parent)
     : QWidget(parent)
     , d(std::make_unique<Private>())
 {
-    d->table =
-        std::make_shared<DatabaseSheet>(databaseColumns(), [this](quint32 row) { return d->fresh(row); });
+    d->table = std::make_shared<DatabaseSheet>(sequenceDatabaseColumns(),
+                                               [this](quint32 row) { return d->fresh(row); });
     d->checker = new SampleFileChecker(this);
     d->notice = new NoticeBar;
     d->editor = TablePage::editorOf({d->table, d->table->sheet()}, tr("Sequence databases"),
