@@ -1,6 +1,5 @@
-// What is asked of a whole document, on 1,000, 10,000 and 100,000 samples: linear questions take ten times as long
-// each time.
-// And a document of 20,000 proteins against the bare parse.
+// What is asked of a whole document, on 1,000, 10,000 and 100,000 samples: linear questions take ten times as
+// long each time. And a document of 20,000 proteins against the bare parse.
 
 #include "LifelikeDocument.h"
 #include "RatioReporter.h"

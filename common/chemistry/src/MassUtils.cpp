@@ -71,8 +71,9 @@ RowNode deltaMassesToRowNode(const QList<DeltaMass> &masses)
         const QVariant massCell = mass.massDa || mass.unreadableMass.isEmpty()
                                       ? Internal::cellOf(mass.massDa)
                                       : QVariant(mass.unreadableMass);
-        rows.addRow({mass.id, mass.name, massCell, mass.protein, Internal::cellOf(mass.samplesIds)},
-                    mass.otherCells);
+        // A list without samples is a list.
+        const QVariantList samples(mass.samplesIds.begin(), mass.samplesIds.end());
+        rows.addRow({mass.id, mass.name, massCell, mass.protein, samples}, mass.otherCells);
     }
     return table;
 }

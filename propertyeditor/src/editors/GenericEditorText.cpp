@@ -1,10 +1,9 @@
 #include "GenericEditorText.h"
 
+#include <KProperty.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/editors/OrvGenericEditorObjectManager.h>
-
-#include <KProperty.h>
 
 #include <QCoreApplication>
 #include <QJsonDocument>
@@ -37,8 +36,8 @@ QString shortened(const QString &text)
 
 QString textOf(const KProperty &property, Place place)
 {
-    const auto editor =
-        PropertySetCreator::Editor(property.option(PropertyEditorStringConstants::OPTION_EDITOR.data()).toInt());
+    const auto editor = PropertySetCreator::Editor(
+        property.option(PropertyEditorStringConstants::OPTION_EDITOR.data()).toInt());
     const auto object = OrvGenericEditorObjectManager::instance()->getGenericEditorObject(editor);
     const QString text =
         (object ? object->toString(objectOf(property.value())) : editorTr("Unknown editor")).trimmed();

@@ -1,9 +1,8 @@
 #include "orv/propertyeditor/editors/ORVPropertyFactory.h"
 
+#include <KPropertyWidgetsPluginManager.h>
 #include <orv/propertyeditor/PropertiesTraits.h>
 #include <orv/propertyeditor/editors/OrvGenericDelegate.h>
-
-#include <KPropertyWidgetsPluginManager.h>
 
 namespace orv {
 

@@ -2,12 +2,11 @@
 
 #include "GenericEditorText.h"
 
+#include <KProperty.h>
+#include <KPropertyUtils.h>
 #include <orv/propertyeditor/PropertySetCreator.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/editors/OrvGenericEditor.h>
-
-#include <KProperty.h>
-#include <KPropertyUtils.h>
 
 namespace orv {
 

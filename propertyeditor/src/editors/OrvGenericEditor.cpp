@@ -3,14 +3,13 @@
 #include "GenericEditorText.h"
 #include "OrvGenericEditorPrivate.h"
 
-#include <orv/propertyeditor/editors/OrvGenericEditorObjectManager.h>
-#include <orv/propertyeditor/editors/ValueUnitValidator.h>
-#include <orv/widgets/ORVStyle.h>
-
 #include <KProperty.h>
 #include <KPropertyEditorItemEvent.h>
 #include <KPropertyEditorView.h>
 #include <KPropertyUtils.h>
+#include <orv/propertyeditor/editors/OrvGenericEditorObjectManager.h>
+#include <orv/propertyeditor/editors/ValueUnitValidator.h>
+#include <orv/widgets/ORVStyle.h>
 
 #include <QSignalBlocker>
 
@@ -27,8 +26,8 @@ QByteArray nameOf(const KProperty *property)
 
 } // namespace
 
-OrvGenericEditorPrivate::OrvGenericEditorPrivate(PropertySetCreator::Editor type, const QByteArray &propertyName,
-                                                 QWidget *owner)
+OrvGenericEditorPrivate::OrvGenericEditorPrivate(PropertySetCreator::Editor type,
+                                                 const QByteArray &propertyName, QWidget *owner)
     : editorType(type)
     , object(OrvGenericEditorObjectManager::instance()->getGenericEditorObject(type))
     , m_owner(owner)

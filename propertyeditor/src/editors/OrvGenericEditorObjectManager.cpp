@@ -1,6 +1,6 @@
 #include "orv/propertyeditor/editors/OrvGenericEditorObjectManager.h"
 
-#include "DefaultEditorObjects.h"
+#include <orv/propertyeditor/editors/DefaultEditorObjects.h>
 
 namespace orv {
 

@@ -40,7 +40,7 @@ ColumnMenu::~ColumnMenu() = default;
 
 QAction *ColumnMenu::addCommand(const QString &text, const QIcon &icon, void (ColumnMenu::*requested)(int))
 {
-    return addAction(icon, text, this, [this, requested] { Q_EMIT (this->*requested)(index()); });
+    return addAction(icon, text, this, [this, requested] { Q_EMIT(this->*requested)(index()); });
 }
 
 int ColumnMenu::index() const
@@ -64,9 +64,9 @@ void ColumnMenu::prepare(int count, GridPropertyEditorView *column)
         m_fold->setVisible(set->groupNames().size() >= 2);
         const bool isExpanded = column->isExpanded();
         m_fold->setText(isExpanded ? menuTr("Collapse all") : menuTr("Expand all"));
-        m_fold->setIcon(isExpanded
-                            ? GridIcons::icon(IconName::CollapseAll, ":/icons/collapse.png", "view-list-details")
-                            : GridIcons::icon(IconName::ExpandAll, ":/icons/expand.png", "view-list-tree"));
+        m_fold->setIcon(
+            isExpanded ? GridIcons::icon(IconName::CollapseAll, ":/icons/collapse.png", "view-list-details")
+                       : GridIcons::icon(IconName::ExpandAll, ":/icons/expand.png", "view-list-tree"));
     }
     if (column) {
         const BaseItemType type = column->documentType();

@@ -21,7 +21,8 @@ public:
     [[nodiscard]] int index() const;
     void setIndex(int index);
 
-    /// Shows what fits a column of \a count whose widget is \a column; null for a column that has no settings.
+    /// Shows what fits a column of \a count whose widget is \a column; null for a column that has no
+    /// settings.
     void prepare(int count, GridPropertyEditorView *column);
 
 Q_SIGNALS:

@@ -34,7 +34,8 @@ void EditableTabBar::onTabBarDoubleClicked(int index)
     connect(
         editor, &QLineEdit::editingFinished, this, [this, index] { commitTitle(index); },
         Qt::SingleShotConnection);
-    connect(this, &QTabBar::currentChanged, editor, [this] { dropTitle(); }, Qt::SingleShotConnection);
+    connect(
+        this, &QTabBar::currentChanged, editor, [this] { dropTitle(); }, Qt::SingleShotConnection);
     auto *cancel = new QShortcut(QKeySequence::Cancel, editor);
     cancel->setContext(Qt::WidgetShortcut);
     connect(cancel, &QShortcut::activated, this, &EditableTabBar::dropTitle);

@@ -14,9 +14,9 @@ namespace {
 
 /// Columns of settings, in the order in which they register.
 constexpr BaseItemType kSettingsTypes[] = {
-    BaseItemType::Unknown,      BaseItemType::Senthia, BaseItemType::Dravik,  BaseItemType::Karvon,
-    BaseItemType::Preview,      BaseItemType::TrenqPreview, BaseItemType::Intact,  BaseItemType::Oligo,
-    BaseItemType::Ostrale,      BaseItemType::MultiDocReport, BaseItemType::Trenq, BaseItemType::CaldrinDIA,
+    BaseItemType::Unknown, BaseItemType::Senthia,        BaseItemType::Dravik, BaseItemType::Karvon,
+    BaseItemType::Preview, BaseItemType::TrenqPreview,   BaseItemType::Intact, BaseItemType::Oligo,
+    BaseItemType::Ostrale, BaseItemType::MultiDocReport, BaseItemType::Trenq,  BaseItemType::CaldrinDIA,
 };
 
 GridItemManager *&customManager()
@@ -69,7 +69,8 @@ IGridItem *GridItemManager::createItem(BaseItemType type) const
     if (row == d->creators.end() || !row->second) {
         qCDebug(propertyEditorLog) << "Creator not registered for type " << int(type);
         const auto settings = d->creators.find(BaseItemType::Unknown);
-        return settings == d->creators.end() || !settings->second ? nullptr : settings->second->createGridItem();
+        return settings == d->creators.end() || !settings->second ? nullptr
+                                                                  : settings->second->createGridItem();
     }
     IGridItem *item = row->second->createGridItem();
     if (item)

@@ -1,7 +1,9 @@
+#include "GridIcons.h"
 #include "GridPropertyEditorView_p.h"
 
-#include "GridIcons.h"
-
+#include <KProperty.h>
+#include <KPropertySet.h>
+#include <KPropertyUtils.h>
 #include <orv/core/FileUtils.h>
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/KPropertySetUtils.h>
@@ -18,10 +20,6 @@
 #include <orv/widgets/DialogService.h>
 #include <orv/widgets/ORVFileDialog.h>
 #include <orv/widgets/ORVStyle.h>
-
-#include <KProperty.h>
-#include <KPropertySet.h>
-#include <KPropertyUtils.h>
 
 #include <QHBoxLayout>
 #include <QMetaEnum>
@@ -117,7 +115,8 @@ void GridPropertyEditorView::Private::makeButtons()
     for (const Row &row : rows) {
         auto *button = new QPushButton(q);
         button->setFlat(true);
-        button->setIcon(GridIcons::icon(row.drawing, row.icon, ORVStyle::isEnabled() ? row.themeIcon : nullptr));
+        button->setIcon(
+            GridIcons::icon(row.drawing, row.icon, ORVStyle::isEnabled() ? row.themeIcon : nullptr));
         button->setToolTip(tr(row.toolTip));
         button->setAccessibleName(tr(row.toolTip));
         connect(button, &QPushButton::clicked, q, [this, clicked = row.clicked] { (this->*clicked)(); });
@@ -217,7 +216,8 @@ void GridPropertyEditorView::Private::openClicked()
     if (!self)
         return;
     if (error.hasError())
-        qCWarning(propertyEditorLog).noquote() << "Can't open the preset" << path << ":" << error.errorMessage();
+        qCWarning(propertyEditorLog).noquote()
+            << "Can't open the preset" << path << ":" << error.errorMessage();
     q->setBaseUrlForRelativeUrls(baseUrl);
     if (!error.hasError())
         Q_EMIT q->contentEdited();
@@ -240,7 +240,8 @@ void GridPropertyEditorView::Private::saveClicked()
     }
     QString errorText;
     if (FileUtils::writeToFile(path, bytes, &errorText) != QFileDevice::NoError) {
-        qCWarning(propertyEditorLog).noquote() << "Can't write property set to file" << path << ":" << errorText;
+        qCWarning(propertyEditorLog).noquote()
+            << "Can't write property set to file" << path << ":" << errorText;
         warn(q, title, viewTr("Cannot save to file \"%1\": %2").arg(path, errorText));
     }
 }
@@ -293,9 +294,8 @@ void GridPropertyEditorView::Private::modifyProperty()
         return;
     auto property = std::make_unique<KProperty>();
     QStringList errors;
-    if (!PropertySetCreator::modifyKProperty(dialog.propertyId(),
-                                             PropertySetCreator::Priority(dialog.priority()), property.get(),
-                                             &errors)) {
+    if (!PropertySetCreator::modifyKProperty(
+            dialog.propertyId(), PropertySetCreator::Priority(dialog.priority()), property.get(), &errors)) {
         ORVStyle::critical(
             q, {}, DisplayString::html(viewTr("Failed to modify the property:<br>%1").arg(htmlList(errors))),
             QMessageBox::Ok);

@@ -1,11 +1,10 @@
 #include "orv/propertyeditor/grid/KPropertyCustomEditorView.h"
 
+#include <KProperty.h>
+#include <KPropertyUtils.h>
 #include <orv/core/FileTypes.h>
 #include <orv/propertyeditor/PropertiesTraits.h>
 #include <orv/resources/ResourceReference.h>
-
-#include <KProperty.h>
-#include <KPropertyUtils.h>
 
 #include <QDragEnterEvent>
 #include <QMimeData>

@@ -1,5 +1,7 @@
 #include "orv/propertyeditor/grid/KPropertyViewItem.h"
 
+#include <KProperty.h>
+#include <KPropertySet.h>
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/PropertySetCreator.h>
@@ -8,9 +10,6 @@
 #include <orv/resources/ResourceReferenceUtils.h>
 #include <orv/samples/SampleUtils.h>
 #include <orv/samples/SamplesInput.h>
-
-#include <KProperty.h>
-#include <KPropertySet.h>
 
 #include <QJsonDocument>
 #include <QSet>

@@ -77,8 +77,7 @@ Error PropertyGridWidget::Private::appendData(const VariantItems &cells)
 {
     const bool isDesigner = editorMode == GridPropertyEditorView::EditorMode::Designer;
     if (cells.isEmpty()) {
-        return isDesigner ? Error()
-                          : Error(ErrorCode::MalformedStructure, gridTr("No items to load."));
+        return isDesigner ? Error() : Error(ErrorCode::MalformedStructure, gridTr("No items to load."));
     }
     if (columnNames.isEmpty()) {
         return isDesigner ? Error() : Error(ErrorCode::MalformedStructure, gridTr("No columns added."));
@@ -111,8 +110,7 @@ Result<IGridItem *> PropertyGridWidget::Private::createGridItem(const QVariant &
         return Error(ErrorCode::InvalidContent, gridTr("Type \"%1\" is not supported.").arg(typeText));
     std::unique_ptr<IGridItem> item(GridItemManager::instance()->createItem(type));
     if (!item) {
-        return Error(ErrorCode::InvalidContent,
-                     gridTr("Can't create item for \"%1\" type.").arg(typeText));
+        return Error(ErrorCode::InvalidContent, gridTr("Can't create item for \"%1\" type.").arg(typeText));
     }
     auto *view = qobject_cast<GridPropertyEditorView *>(item->widget());
     if (view)

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "orv/propertyeditor/grid/PropertyGridWidget.h"
-
 #include "ColumnMenu.h"
+#include "orv/propertyeditor/grid/PropertyGridWidget.h"
 
 #include <QJsonObject>
 #include <QList>

@@ -55,7 +55,8 @@ void TreePlace::restore(KPropertyEditorView *view, const QByteArray &current) co
         view->setExpanded(group, m_isExpanded.value(group.data().toString(), true));
     });
     const QByteArray &name = current.isEmpty() ? m_current : current;
-    const QModelIndex index = name.isEmpty() || !view->model() ? QModelIndex() : indexOf(*view->model(), name);
+    const QModelIndex index =
+        name.isEmpty() || !view->model() ? QModelIndex() : indexOf(*view->model(), name);
     if (index.isValid())
         view->setCurrentIndex(index);
     view->verticalScrollBar()->setValue(m_scroll);

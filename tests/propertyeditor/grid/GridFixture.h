@@ -11,6 +11,8 @@
 #include <orv/propertyeditor/grid/KPropertyViewItem.h>
 
 #include <QApplication>
+#include <QComboBox>
+#include <QDialog>
 #include <QJsonDocument>
 #include <QTest>
 
@@ -86,6 +88,11 @@ inline QModelIndex indexOf(const QAbstractItemView &view, const char *name, cons
             return found;
     }
     return {};
+}
+
+inline QComboBox *combo(const QDialog &dialog, const char *name)
+{
+    return dialog.findChild<QComboBox *>(text(name));
 }
 
 /// A column on the screen with a bus of its own.

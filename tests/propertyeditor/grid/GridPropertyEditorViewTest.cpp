@@ -39,11 +39,6 @@ void click(const GridPropertyEditorView &view, const char *toolTip)
     QTest::mouseClick(button(view, toolTip), Qt::LeftButton);
 }
 
-QComboBox *combo(const QDialog &dialog, const char *name)
-{
-    return dialog.findChild<QComboBox *>(text(name));
-}
-
 void choose(const QDialog &dialog, const char *comboName, const QVariant &data)
 {
     combo(dialog, comboName)->setCurrentIndex(combo(dialog, comboName)->findData(data));
@@ -101,7 +96,6 @@ private Q_SLOTS:
     void savingWhereNothingCanBe();
     void addingAProperty();
     void addingAnAdvancedPropertyInBasicMode();
-    void propertiesCantBeAddedTwice();
     void cancelChangesNothing();
     void modifyingAProperty();
     void modifyingToAnotherTypeTakesItsDefault();
@@ -112,7 +106,6 @@ private Q_SLOTS:
     void previewPresets();
     void filesThatAreNoPreviewPreset();
     void filesAreDroppedOnReferencesAlone();
-    void theDialogOffersWhatTheTypeAllows();
 };
 
 void GridPropertyEditorViewTest::bothLayouts_data()
@@ -393,21 +386,6 @@ void GridPropertyEditorViewTest::addingAnAdvancedPropertyInBasicMode()
     QVERIFY(indexOf(*column.view->editorView(), "KarvonCentroidTopk").isValid());
 }
 
-void GridPropertyEditorViewTest::propertiesCantBeAddedTwice()
-{
-    PropertySelectionDialog dialog(0, BaseItemType::Database);
-    QPushButton *ok = dialog.findChild<QDialogButtonBox *>(text("buttonBox"))->button(QDialogButtonBox::Ok);
-    QVERIFY(ok->isEnabled());
-    dialog.enableProperties({}, false);
-    QVERIFY(ok->isEnabled());
-    dialog.enableProperties({"SequenceDatabases"}, false);
-    QCOMPARE(combo(dialog, "comboProperty")->currentIndex(), -1);
-    QCOMPARE(dialog.propertyId(), PropertyId::NoProperty);
-    QVERIFY(!ok->isEnabled());
-    dialog.enableProperties({"SequenceDatabases"}, true);
-    QCOMPARE(int(dialog.propertyId()), 268);
-}
-
 void GridPropertyEditorViewTest::cancelChangesNothing()
 {
     Column column;
@@ -580,29 +558,6 @@ void GridPropertyEditorViewTest::filesAreDroppedOnReferencesAlone()
     column.property("KarvonLayout").setOption("ext", QString());
     QVERIFY(takes(column, "KarvonLayout", other));
     QCOMPARE(valueIn(column.item.content(), "KarvonLayout").toString(), other);
-}
-
-void GridPropertyEditorViewTest::theDialogOffersWhatTheTypeAllows()
-{
-    PropertySelectionDialog dialog(0, BaseItemType::Karvon);
-    const QComboBox *properties = combo(dialog, "comboProperty");
-    QVERIFY(properties->findData(60) >= 0);
-    QVERIFY(properties->findData(1) < 0);
-    QStringList texts;
-    for (int row = 0; row < properties->count(); ++row)
-        texts.append(properties->itemText(row));
-    QStringList sorted = texts;
-    sorted.sort();
-    QCOMPARE(texts, sorted);
-    const QComboBox *priorities = combo(dialog, "comboPriority");
-    QCOMPARE(priorities->itemText(0), text("High"));
-    QCOMPARE(priorities->itemData(0).toInt(), 1);
-    QCOMPARE(priorities->itemText(1), text("Medium"));
-    QCOMPARE(priorities->itemText(2), text("Low"));
-    QCOMPARE(priorities->itemData(2).toInt(), 3);
-    dialog.setGroups({text("b"), text("a")});
-    QCOMPARE(combo(dialog, "comboGroup")->itemText(0), text("a"));
-    QCOMPARE(PropertySelectionDialog(1, BaseItemType::Karvon).windowTitle(), text("Modify property"));
 }
 
 WIDGET_REGISTER_TEST(GridPropertyEditorViewTest)

@@ -62,6 +62,8 @@ public:
 
 QJsonObject defaultCell(BaseItemType type)
 {
+    if (type == BaseItemType::Samples || type == BaseItemType::Database)
+        return Documents::cell(PropertyEditor::BaseItem::typeToString(type));
     QJsonObject cell = PropertyEditorJsonUtils::defaultJsonContents(type);
     cell.insert(text("type"), PropertyEditor::BaseItem::typeToString(type));
     return cell;
@@ -153,7 +155,11 @@ void TableItemsTest::cellsOfExamplesComeBack_data()
         QFile document(folder.filePath(file));
         QVERIFY(document.open(QIODevice::ReadOnly));
         int number = 0;
-        for (const auto tab : Documents::parse(document.readAll()).value(text("tabs")).toArray()) {
+        const QJsonObject content = Documents::parse(document.readAll());
+        // A window shows documents of the present version alone.
+        if (!content.value(text("metadata")).toString().contains(text("5.47.0")))
+            continue;
+        for (const auto tab : content.value(text("tabs")).toArray()) {
             for (const auto cell : tab[text("cells")].toArray())
                 QTest::newRow(qPrintable(text("%1 %2").arg(file).arg(number++))) << cell.toObject();
         }
@@ -187,7 +193,7 @@ void TableItemsTest::cellsOfExamplesComeBack()
 void TableItemsTest::defaultCellsComeBack_data()
 {
     QTest::addColumn<int>("number");
-    for (int number : {4, 5, 6, 7, 9, 11, 12, 13, 14, 16, 18, 19, 21, 22})
+    for (int number : {4, 5, 6, 7, 9, 11, 12, 13, 14, 16, 18, 19, 21})
         QTest::addRow("%d", number) << number;
 }
 
@@ -398,8 +404,6 @@ void TableItemsTest::importsReachSamplesAndProteins()
     QCOMPARE(widget->samplesInput().size(), 2);
     QCOMPARE(widget->samplesInput().constFirst().name, text("first"));
     QVERIFY(bytes(proteins.content()).contains("PEPTIDEK"));
-    const QJsonObject content = imported.content();
-    Q_UNUSED(content)
 }
 
 void TableItemsTest::headersOfRetiredCells_data()

@@ -141,7 +141,7 @@ GlycanOptionsWidget::GlycanOptionsWidget(QWidget *parent)
     : ScientificTableWidget(optionColumns(), tr("Glycan options"), QStringLiteral("GlycanOptions"), parent)
     , d(std::make_unique<Private>(sheet()))
 {
-    connect(this, &ScientificTableWidget::edited, this, &GlycanOptionsWidget::tellLeftOut);
+    connect(this, &ScientificTableWidget::contentChanged, this, &GlycanOptionsWidget::tellLeftOut);
 }
 
 GlycanOptionsWidget::~GlycanOptionsWidget() = default;

@@ -141,7 +141,7 @@ void DisulfideWidget::build()
     connect(sheet(), &TableSheet::cellsChanged, this, &DisulfideWidget::draw);
     connect(sheet(), &TableSheet::rowsInserted, this, &DisulfideWidget::draw);
     connect(sheet(), &TableSheet::rowsRemoved, this, &DisulfideWidget::draw);
-    connect(this, &ScientificTableWidget::edited, this, [this] {
+    connect(this, &ScientificTableWidget::contentChanged, this, [this] {
         if (d->loading > 0)
             d->isChanged = true;
         else
@@ -256,7 +256,7 @@ void DisulfideWidget::endPresetLoading()
     if (d->loading == 0 || --d->loading > 0)
         return;
     if (std::exchange(d->isChanged, false))
-        tellEdited();
+        tellChanged();
 }
 
 QString DisulfideWidget::toPlainText() const

@@ -24,7 +24,8 @@ ProteinOptionsWidget::ProteinOptionsWidget(QWidget *parent)
     layout->addWidget(splitter);
     setFocusProxy(m_table);
     connect(m_table, &ProteinTableWidget::proteinsChanged, this, &ProteinOptionsWidget::passSequences);
-    connect(m_annotations, &ScientificTableWidget::edited, this, &ProteinOptionsWidget::passAnnotations);
+    connect(m_annotations, &ScientificTableWidget::contentChanged, this,
+            &ProteinOptionsWidget::passAnnotations);
 }
 
 void ProteinOptionsWidget::passSequences()

@@ -150,7 +150,7 @@ void ProteinTableWidget::build()
     connect(model(), &QAbstractItemModel::dataChanged, this, &ProteinTableWidget::showCurrent);
     connect(model(), &QAbstractItemModel::modelReset, this, &ProteinTableWidget::showCurrent);
     connect(model(), &QAbstractItemModel::rowsRemoved, this, &ProteinTableWidget::showCurrent);
-    connect(this, &ScientificTableWidget::edited, this, &ProteinTableWidget::proteinsChanged);
+    connect(this, &ScientificTableWidget::contentChanged, this, &ProteinTableWidget::proteinsChanged);
 }
 
 RowNode ProteinTableWidget::rowNode() const

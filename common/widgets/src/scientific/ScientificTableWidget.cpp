@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QLabel>
+#include <QPointer>
 #include <QVBoxLayout>
 
 namespace orv {
@@ -23,6 +24,7 @@ public:
     QVBoxLayout *layout = nullptr;
     int above = 1;
     bool isTelling = false;
+    bool isEdited = false; ///< by hand, since that was told
 };
 
 ScientificTableWidget::ScientificTableWidget(QList<TableColumn> columns, const QString &title,
@@ -49,7 +51,7 @@ ScientificTableWidget::ScientificTableWidget(QList<TableColumn> columns, const Q
     d->layout->addWidget(d->note);
     setTitle(title);
     setFocusProxy(d->editor);
-    connect(&d->sheet, &TableSheet::loaded, this, &ScientificTableWidget::tellEdited);
+    connect(&d->sheet, &TableSheet::loaded, this, &ScientificTableWidget::tellChanged);
     connect(&d->sheet, &TableSheet::rowsReordered, this, &ScientificTableWidget::tellEdited);
     connect(&d->sheet, &TableSheet::cellsChanged, this, &ScientificTableWidget::tellEdited);
     connect(&d->sheet, &TableSheet::rowsInserted, this, &ScientificTableWidget::tellEdited);
@@ -151,13 +153,23 @@ void ScientificTableWidget::setNote(const QString &text)
 
 void ScientificTableWidget::tellEdited()
 {
+    d->isEdited = true;
+    tellChanged();
+}
+
+void ScientificTableWidget::tellChanged()
+{
     if (std::exchange(d->isTelling, true))
         return;
     QMetaObject::invokeMethod(
         this,
         [this] {
             d->isTelling = false;
-            Q_EMIT edited();
+            const bool isEdited = std::exchange(d->isEdited, false);
+            const QPointer<ScientificTableWidget> self(this);
+            Q_EMIT contentChanged();
+            if (self && isEdited)
+                Q_EMIT edited();
         },
         Qt::QueuedConnection);
 }

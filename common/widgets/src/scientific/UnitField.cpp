@@ -29,7 +29,7 @@ UnitField::UnitField(const TableColumn &column, const QStringList &units, QWidge
         m_unit->setObjectName(column.name + QStringLiteral("Unit"));
         m_unit->setFocusPolicy(Qt::StrongFocus);
         layout->addWidget(m_unit);
-        connect(m_unit, &QComboBox::currentTextChanged, this, &UnitField::edited);
+        connect(m_unit, &QComboBox::activated, this, &UnitField::edited);
     }
     setTitle(column.title);
 }

@@ -1,7 +1,6 @@
-#include "../DefaultEditorObjects.h"
-
 #include "ValueUnitEditorObject.h"
 
+#include <orv/propertyeditor/editors/DefaultEditorObjects.h>
 #include <orv/propertyeditor/editors/OrvGenericEditorObjectManager.h>
 
 namespace orv {

@@ -1,8 +1,7 @@
 #include "ValueUnitDialog.h"
 
-#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
-
 #include <KProperty.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
 #include <QComboBox>
 #include <QDialogButtonBox>

@@ -2,12 +2,11 @@
 
 #include "ValueUnitDialog.h"
 
+#include <KProperty.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/table_model/NumberText.h>
 #include <orv/widgets/CoreMainWindow.h>
 #include <orv/widgets/DialogService.h>
-
-#include <KProperty.h>
 
 #include <QLocale>
 

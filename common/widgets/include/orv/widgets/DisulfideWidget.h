@@ -40,7 +40,7 @@ public:
     [[nodiscard]] QString toPlainText() const override;
 
 Q_SIGNALS:
-    /// As edited(), but for the loading of presets.
+    /// As contentChanged(), but for the loading of presets.
     void disulfideDataChanged();
 
 private:

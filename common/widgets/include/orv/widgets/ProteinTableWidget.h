@@ -61,7 +61,7 @@ public:
     [[nodiscard]] QString toPlainText() const override;
 
 Q_SIGNALS:
-    /// As edited(); others may emit it, too, to have everybody look at the proteins again.
+    /// As contentChanged(); others may emit it, too, to have everybody look at the proteins again.
     void proteinsChanged();
 
 private:

@@ -48,16 +48,20 @@ public:
     void setNote(const QString &text);
 
 Q_SIGNALS:
-    /// What the widget holds isn't what it held. Comes from the event loop, once for all edits before it, so
-    /// that a listener may do anything, even destroy the widget.
+    /// What the widget holds isn't what it held, by a person's hand or a load. Comes from the event loop,
+    /// once for all changes before it, so that a listener may do anything, even destroy the widget.
+    void contentChanged();
+    /// The same behind it, for what a person did.
     void edited();
 
 protected:
     /// Takes the place between heading and table, and below the table.
     void insertAbove(QWidget *widget);
     void insertBelow(QWidget *widget);
-    /// Emits edited() from the event loop.
+    /// Emits both signals from the event loop.
     void tellEdited();
+    /// Emits contentChanged() alone from the event loop.
+    void tellChanged();
 
 private:
     class Private;

@@ -18,8 +18,8 @@ public:
     virtual ~IGenericEditorObject();
     Q_DISABLE_COPY_MOVE(IGenericEditorObject)
 
-    /// The text in the tree, of several lines where need be. Never fails: says what is wrong with a value that
-    /// can't be read.
+    /// The text in the tree, of several lines where need be. Never fails: says what is wrong with a value
+    /// that can't be read.
     [[nodiscard]] virtual QString toString(const QJsonObject &value) const = 0;
     /// The value of a typed text, else of JSON text; empty where \a text is neither.
     [[nodiscard]] virtual QJsonObject fromString(const QString &text) const = 0;

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <orv/widgets/Export.h>
-
 #include <KPropertyWidgetsFactory.h>
+#include <orv/widgets/Export.h>
 
 namespace orv {
 

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <orv/propertyeditor/PropertySetCreator.h>
-#include <orv/widgets/Export.h>
-
 #include <KPropertyMultiLineStringEditor.h>
 #include <KPropertyStringEditor.h>
+#include <orv/propertyeditor/PropertySetCreator.h>
+#include <orv/widgets/Export.h>
 
 #include <QVariant>
 
@@ -14,8 +13,8 @@ namespace orv {
 
 class OrvGenericEditorPrivate;
 
-/// Edits a structured value in a line: by a dialog, and where its text can be typed (a value with its unit) in
-/// the line itself. The value is the JSON bytes of the object. GUI thread.
+/// Edits a structured value in a line: by a dialog, and where its text can be typed (a value with its unit)
+/// in the line itself. The value is the JSON bytes of the object. GUI thread.
 class ORV_PROPERTY_EDITOR_EXPORT OrvGenericEditor : public KPropertyStringEditor
 {
     Q_OBJECT

@@ -16,8 +16,8 @@ class IGridItemCreator;
 /// \code
 ///     GridItemManager::instance()->registerCreators();
 /// \endcode
-/// An application with columns of its own derives a manager, whose registerCreators() adds them, and installs it
-/// with setCustomManager() before anything else. GUI thread.
+/// An application with columns of its own derives a manager, whose registerCreators() adds them, and installs
+/// it with setCustomManager() before anything else. GUI thread.
 class ORV_PROPERTY_EDITOR_EXPORT GridItemManager
 {
 public:

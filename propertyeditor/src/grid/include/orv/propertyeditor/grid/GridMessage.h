@@ -9,7 +9,8 @@ namespace orv {
 
 class GridCommunicative;
 
-/// What one column tells the others: the new state of the setting or table that the kind names. A plain value.
+/// What one column tells the others: the new state of the setting or table that the kind names. A plain
+/// value.
 struct GridMessage
 {
     /// Doesn't hear its own message. May have gone when a message is kept.

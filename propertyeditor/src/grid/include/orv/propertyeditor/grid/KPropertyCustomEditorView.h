@@ -1,15 +1,14 @@
 #pragma once
 
-#include <orv/widgets/Export.h>
-
 #include <KPropertyEditorView.h>
+#include <orv/widgets/Export.h>
 
 #include <QFileInfo>
 
 namespace orv {
 
-/// The tree of a column of settings: takes a file or folder of the desktop where it is dropped on the row of a
-/// reference, if the reference can hold it. GUI thread.
+/// The tree of a column of settings: takes a file or folder of the desktop where it is dropped on the row of
+/// a reference, if the reference can hold it. GUI thread.
 class ORV_PROPERTY_EDITOR_EXPORT KPropertyCustomEditorView : public KPropertyEditorView
 {
     Q_OBJECT

@@ -10,8 +10,8 @@ namespace orv {
 
 class GridPropertyEditorView;
 
-/// A column of settings. Follows renamed and removed samples in the choice of samples that a step works on, and
-/// the tables that the theoretical peptides are made of.
+/// A column of settings. Follows renamed and removed samples in the choice of samples that a step works on,
+/// and the tables that the theoretical peptides are made of.
 class ORV_PROPERTY_EDITOR_EXPORT KPropertyViewItem : public GridCommunicative, public IGridItem
 {
     Q_OBJECT

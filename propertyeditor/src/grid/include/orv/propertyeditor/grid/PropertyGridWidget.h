@@ -32,7 +32,8 @@ public:
     create(const QStringList &columns, const VariantItems &cells, QWidget *parent = nullptr);
     ~PropertyGridWidget() override;
 
-    /// With default content a column stands there; without it only its name, for cells that are appended next.
+    /// With default content a column stands there; without it only its name, for cells that are appended
+    /// next.
     void appendColumn(BaseItemType type, const QString &name, bool withDefaultContent);
     /// One column for each cell, named by position. MalformedStructure for no cells or no columns, unless
     /// designers edit; InvalidContent for a cell that is no JSON, has an unknown type or can't be made, and
