@@ -23,7 +23,7 @@ SamplePathAndName sampleOf(const QString &path)
 QStringList entriesOf(const QString &folder)
 {
     QStringList names = QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::NoSort);
-    QCollator collator(QLocale(QLocale::English));
+    QCollator collator{QLocale(QLocale::English)};
     collator.setNumericMode(true);
     std::sort(names.begin(), names.end(), collator);
     return names;

@@ -85,6 +85,8 @@ public:
     [[nodiscard]] Error loadSamples(const QList<Sample> &records, const CustomColumns &columns);
     void use(const std::shared_ptr<SampleSheet> &next, const QList<Sample> &records);
     void follow(const std::shared_ptr<SampleSheet> &sheet);
+    /// What listeners hear of a sample: without its custom columns.
+    [[nodiscard]] Entry entryOf(quint32 row) const;
     void readAllEntries();
     void readEntries(const QList<quint32> &rows);
     void insertEntries(const QList<int> &newRows);
@@ -178,6 +180,12 @@ void SamplesAndTracesTables::Private::follow(const std::shared_ptr<SampleSheet> 
     });
 }
 
+Entry SamplesAndTracesTables::Private::entryOf(quint32 row) const
+{
+    const Sample sample = samples->recordOf(row);
+    return static_cast<const Entry &>(sample);
+}
+
 void SamplesAndTracesTables::Private::readAllEntries()
 {
     places.clear();
@@ -185,7 +193,7 @@ void SamplesAndTracesTables::Private::readAllEntries()
     entries.clear();
     entries.reserve(rows.size());
     for (const quint32 row : std::as_const(rows))
-        entries.append(samples->recordOf(row));
+        entries.append(entryOf(row));
 }
 
 void SamplesAndTracesTables::Private::readEntries(const QList<quint32> &changed)
@@ -193,7 +201,7 @@ void SamplesAndTracesTables::Private::readEntries(const QList<quint32> &changed)
     isChanged = true;
     for (const quint32 row : changed) {
         if (const int place = samples->sheet()->rowOf(row); place >= 0 && place < entries.size())
-            entries[place] = samples->recordOf(row);
+            entries[place] = entryOf(row);
     }
 }
 
@@ -208,7 +216,7 @@ void SamplesAndTracesTables::Private::insertEntries(const QList<int> &newRows)
     qsizetype old = 0;
     for (int row = 0; row < now.size(); ++row) {
         const bool isNew = place != newRows.cend() && *place == row;
-        next.append(isNew ? Entry(samples->recordOf(now[row])) : entries[old++]);
+        next.append(isNew ? entryOf(now[row]) : entries[old++]);
         if (isNew)
             ++place;
     }

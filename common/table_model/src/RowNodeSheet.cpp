@@ -32,7 +32,7 @@ QString textOfCell(const QVariant &cell)
     if (cell.typeId() == QMetaType::Double)
         return NumberText::fromDouble(cell.toDouble());
     if (cell.typeId() == QMetaType::Float)
-        return QString::number(cell.toFloat(), 'g', QLocale::FloatingPointShortest);
+        return QString::number(cell.toDouble(), 'g', QLocale::FloatingPointShortest);
     if (cell.canConvert<QString>())
         return cell.toString();
     const QJsonValue json = QJsonValue::fromVariant(cell);

@@ -247,7 +247,7 @@ QList<TableRowProblem> TableImport::rowProblems(int record, const QStringList &t
 QString TableImport::problem(int record, int field) const
 {
     const int column = m_mapping.value(field, -1);
-    const QString ofField = fieldProblem(record, field);
+    QString ofField = fieldProblem(record, field);
     if (column < 0 || !ofField.isEmpty())
         return ofField;
     for (const TableRowProblem &problem : rowProblems(record, texts(record))) {

@@ -118,7 +118,7 @@ QString explanation(const QWidget *control)
     if (!control)
         return {};
     if (const QAbstractItemView *const view = viewOf(control)) {
-        if (const QString ofCell = cellExplanation(view->currentIndex()); !ofCell.isEmpty())
+        if (QString ofCell = cellExplanation(view->currentIndex()); !ofCell.isEmpty())
             return ofCell;
     }
     for (const QWidget *at = control; at; at = at->parentWidget()) {

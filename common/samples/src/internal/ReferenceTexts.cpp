@@ -43,7 +43,7 @@ QString problem(QStringView text)
 QString problemOfList(QStringView text)
 {
     for (const QString &part : splitSamples(text.toString())) {
-        if (const QString reason = problem(part); !reason.isEmpty())
+        if (QString reason = problem(part); !reason.isEmpty())
             return reason;
     }
     return {};

@@ -82,13 +82,13 @@ QString TableChecks::uniqueProblem(quint32 row, int column, QStringView text) co
 
 QString TableChecks::problem(quint32 row, int column, QStringView text) const
 {
-    const QString ofColumn = m_columns[column].problem(text);
+    QString ofColumn = m_columns[column].problem(text);
     if (!ofColumn.isEmpty())
         return ofColumn;
     if (!m_rules.isEmpty()) {
         QList<QStringView> all = texts(row);
         all[column] = text;
-        if (const QString ofRow = ruleProblem(all, column); !ofRow.isEmpty())
+        if (QString ofRow = ruleProblem(all, column); !ofRow.isEmpty())
             return ofRow;
     }
     return uniqueProblem(row, column, text);

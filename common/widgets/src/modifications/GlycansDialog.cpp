@@ -258,7 +258,7 @@ QString GlycansDialog::getGlycansFromUser(const QString &strings, QWidget *paren
     const QPointer<GlycansDialog> dialog = new GlycansDialog(parent);
     dialog->setText(strings);
     const bool isAccepted = DialogService::exec(*dialog) && dialog;
-    const QString edited = isAccepted ? dialog->text() : strings;
+    QString edited = isAccepted ? dialog->text() : strings;
     delete dialog;
     if (ok)
         *ok = isAccepted;

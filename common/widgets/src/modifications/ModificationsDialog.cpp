@@ -343,7 +343,7 @@ QString ModificationsDialog::getModificationsFromUser(const QString &text, QWidg
     const QPointer<ModificationsDialog> dialog = new ModificationsDialog(parent);
     dialog->setText(text);
     const bool isAccepted = DialogService::exec(*dialog) && dialog;
-    const QString edited = isAccepted ? dialog->text() : text;
+    QString edited = isAccepted ? dialog->text() : text;
     delete dialog;
     if (ok)
         *ok = isAccepted;

@@ -168,7 +168,7 @@ QString PeakFilterDialog::getPeakFilterFromUser(const QString &text, QWidget *pa
     const bool isAccepted = DialogService::exec(*dialog) && dialog;
     if (ok)
         *ok = isAccepted;
-    const QString edited = isAccepted ? dialog->peakFilter() : text;
+    QString edited = isAccepted ? dialog->peakFilter() : text;
     delete dialog;
     return edited;
 }
