@@ -89,7 +89,9 @@ public:
             !static_cast<QKeyEvent *>(event)->matches(QKeySequence::HelpContents))
             return false;
         QWidget *const control = QApplication::focusWidget();
-        const QString text = control ? explanation(control) : QString();
+        if (!control)
+            return false;
+        const QString text = explanation(control);
         if (text.isEmpty())
             return false;
         const QAbstractItemView *const view = viewOf(control);

@@ -203,7 +203,7 @@ void PropertyGridWidget::Private::renameColumn(int index, const QString &name)
 
 QString PropertyGridWidget::Private::nameOfCopy(const QString &name) const
 {
-    const QString copy = name + gridTr(" - copy");
+    QString copy = name + gridTr(" - copy");
     if (!columnNames.contains(copy))
         return copy;
     const QRegularExpression numbered(QRegularExpression::escape(copy) + QStringLiteral(" (\\d+)$"));
