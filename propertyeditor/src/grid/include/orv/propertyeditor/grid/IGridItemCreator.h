@@ -2,6 +2,8 @@
 
 #include <orv/widgets/Export.h>
 
+#include <QtGlobal>
+
 namespace orv {
 
 class IGridItem;
