@@ -31,8 +31,8 @@ bool isAdvanced(const KProperty &property)
 bool isGlycanDatabase(const KProperty &property)
 {
     static const QByteArray names[] = {
-        PropertiesNames::internalNameForType(PropertyId(58)).toUtf8(),
-        PropertiesNames::internalNameForType(PropertyId(165)).toUtf8(),
+        PropertiesNames::internalNameForType(PropertyId::KarvonGlycanText).toUtf8(),
+        PropertiesNames::internalNameForType(PropertyId::InSilicoGlycans).toUtf8(),
     };
     return property.type() == PropertiesTraits::ObjectType &&
            (property.name() == names[0] || property.name() == names[1]);

@@ -18,12 +18,6 @@ namespace orv {
 
 namespace {
 
-constexpr PropertyId kDisulfides = PropertyId(131);
-constexpr PropertyId kProteins = PropertyId(253);
-constexpr PropertyId kSamplesTable = PropertyId(265);
-constexpr PropertyId kSamplesOfStep = PropertyId(266);
-constexpr PropertyId kTheoreticalTable = PropertyId(271);
-
 /// Files by the names of their samples; of samples of one name the last one's.
 QHash<QString, QString> pathsByName(const QVariant &samples)
 {
@@ -132,15 +126,16 @@ QJsonObject KPropertyViewItem::content() const
 
 void KPropertyViewItem::messageReceived(const GridMessage &message)
 {
-    if (message.type == kSamplesTable)
+    if (message.type == PropertyId::SamplesTable)
         followSamples(message);
-    else if (message.type == kDisulfides || message.type == kProteins)
+    else if (message.type == PropertyId::Disulfide || message.type == PropertyId::Proteins)
         followTable(message);
 }
 
 void KPropertyViewItem::followTable(const GridMessage &message)
 {
-    static const QByteArray name = PropertiesNames::internalNameForType(kTheoreticalTable).toUtf8();
+    static const QByteArray name =
+        PropertiesNames::internalNameForType(PropertyId::TheoreticalPeptides).toUtf8();
     KPropertySet *set = m_view ? m_view->propertySet() : nullptr;
     if (set && set->contains(name))
         set->property(name).setOption(PropertiesNames::internalNameForType(message.type).toUtf8().constData(),
@@ -150,7 +145,7 @@ void KPropertyViewItem::followTable(const GridMessage &message)
 void KPropertyViewItem::followSamples(const GridMessage &message)
 {
     KPropertySet *set = m_view ? m_view->propertySet() : nullptr;
-    const QByteArray name = PropertiesNames::displayNameForType(kSamplesOfStep).toUtf8();
+    const QByteArray name = PropertiesNames::displayNameForType(PropertyId::Samples).toUtf8();
     if (!set || !set->contains(name))
         return;
     KProperty &property = set->property(name);

@@ -104,6 +104,7 @@ private Q_SLOTS:
     void xenosetsGiveValuesAlone();
     void filesThatAreNoXenoset();
     void previewPresets();
+    void previewPresetsNeedASet();
     void filesThatAreNoPreviewPreset();
     void filesAreDroppedOnReferencesAlone();
 };
@@ -264,7 +265,7 @@ void GridPropertyEditorViewTest::openingAPreset()
     const QString path = folder.filePath(text("search.ptcell"));
     write(path, bytes(settingsCell("Karvon", {setting("KarvonLayout", text("other.ini"))})));
     Column column;
-    column.view->setBaseUrlForRelativeUrls(QUrl(text("file:///work/")));
+    column.view->setBaseUrlForRelativeUrls(QUrl(text("file:///data/")));
     column.view->setEditorMode(EditorMode::Designer);
     int edits = 0;
     connect(column.item.edits(), &GridItemEdits::edited, this, [&] { ++edits; });
@@ -274,7 +275,7 @@ void GridPropertyEditorViewTest::openingAPreset()
     QVERIFY(answers.isDone());
     QVERIFY(answers.transcript().constFirst().text.contains(text("*.ptcell")));
     QVERIFY(!column.set().contains("KarvonDebugMode"));
-    QCOMPARE(column.property("KarvonLayout").option("baseUrl").toUrl(), QUrl(text("file:///work/")));
+    QCOMPARE(column.property("KarvonLayout").option("baseUrl").toUrl(), QUrl(text("file:///data/")));
     QCOMPARE(edits, 1);
 }
 
@@ -507,6 +508,30 @@ void GridPropertyEditorViewTest::filesThatAreNoXenoset()
 }
 
 void GridPropertyEditorViewTest::previewPresets()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(text("preview.prv"));
+    write(path, "DigestLetters=RK\nWildcard=1\nFragType=2\nCysMod=Carbamidomethyl / 57.021464\n");
+    GridPropertyEditorView view;
+    view.setDocumentType(BaseItemType::Preview);
+    const QJsonArray before{setting("PreviewDigestLetters", text("K")),
+                            setting("PreviewWildcard", text("false")), setting("PreviewFragType", 0),
+                            setting("Samples", text("*"))};
+    QVERIFY(!view.setPropertiesFromSerializedJson(bytes(settingsCell("Preview", before))).hasError());
+    ScriptedAnswerer answers;
+    answers.expectPath(text("Open preview"), path);
+    view.loadPreviewParameters(nullptr);
+    QVERIFY(answers.isDone());
+    QByteArray written;
+    QVERIFY(PropertySetCreator::propertySetToJson(*view.propertySet(), &written,
+                                                  PropertyEditor::PropertyConversionFlag::KeepPaths));
+    const QJsonArray expected{setting("PreviewDigestLetters", text("RK")),
+                              setting("PreviewWildcard", text("true")), setting("PreviewFragType", 2),
+                              setting("Samples", text("*"))};
+    QCOMPARE(Documents::parse(written).value(text("properties")).toArray(), expected);
+}
+
+void GridPropertyEditorViewTest::previewPresetsNeedASet()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(text("preview.prv"));

@@ -101,6 +101,7 @@ private Q_SLOTS:
     void withoutAWidgetTheContentIsGone();
     void savingAsksNothing_data();
     void savingAsksNothing();
+    void aMissingDatabaseStopsAProjectAlone();
     void newMassColumnsLearnTheSamples();
     void newColumnsOfOligonucleotidesDont();
     void samplesTellWhatTheyWereBefore();
@@ -288,6 +289,22 @@ void TableItemsTest::savingAsksNothing()
     QStringList details;
     QVERIFY(item->validate(&warnings, &errors, &details, WidgetValidationType::SaveWorkflow));
     QVERIFY(warnings.isEmpty() && errors.isEmpty() && details.isEmpty());
+}
+
+void TableItemsTest::aMissingDatabaseStopsAProjectAlone()
+{
+    SequenceDatabasesViewItem item;
+    const QJsonObject cell =
+        settingsCell("Database", {setting("SequenceDatabases", text("/no/such/file.fasta"))});
+    QVERIFY(!item.setContent(cell).hasError());
+    QStringList warnings;
+    QStringList errors;
+    QStringList details;
+    QVERIFY(item.validate(&warnings, &errors, &details, WidgetValidationType::SaveWorkflow));
+    QVERIFY(errors.isEmpty());
+    QVERIFY(!item.validate(&warnings, &errors, &details, WidgetValidationType::ProjectCreation));
+    QCOMPARE(errors.size(), 1);
+    QVERIFY(errors.constFirst().contains(text("file.fasta")));
 }
 
 void TableItemsTest::newMassColumnsLearnTheSamples()
