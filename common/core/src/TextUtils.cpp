@@ -15,7 +15,8 @@ QString headed(const QString &heading, const QStringList &texts)
 {
     if (texts.isEmpty())
         return {};
-    return QStringLiteral("<b>%1</b>").arg(heading.toHtmlEscaped()) + stringListToHtmlList(texts);
+    const QString list = stringListToHtmlList(texts);
+    return heading.isEmpty() ? list : QStringLiteral("<b>%1</b>").arg(heading.toHtmlEscaped()) + list;
 }
 
 } // namespace
@@ -41,6 +42,16 @@ QString errorsListToHtmlList(const QStringList &errors)
 QString warningsListToHtmlList(const QStringList &warnings)
 {
     return headed(TextUtilsTr::tr("%n warning(s)", nullptr, int(warnings.size())), warnings);
+}
+
+QString errorsListToHtmlList(const QStringList &errors, const QString &heading)
+{
+    return headed(heading, errors);
+}
+
+QString warningsListToHtmlList(const QStringList &warnings, const QString &heading)
+{
+    return headed(heading, warnings);
 }
 
 } // namespace orv::TextUtils

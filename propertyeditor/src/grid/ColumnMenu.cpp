@@ -1,8 +1,7 @@
 #include "ColumnMenu.h"
 
-#include "GridIcons.h"
-
 #include <KPropertySet.h>
+#include <orv/widgets/Icons.h>
 
 namespace orv {
 
@@ -23,15 +22,15 @@ ColumnMenu::ColumnMenu(QWidget *parent)
     m_fold = addCommand(menuTr("Expand all"), {}, &ColumnMenu::foldRequested);
     m_fold->setVisible(false);
     addSeparator();
-    addCommand(menuTr("Remove"), GridIcons::icon(IconName::Remove, ":/icons/delete", "edit-delete"),
+    addCommand(menuTr("Remove"), Icons::hostIcon(IconName::Remove, ":/icons/delete", "edit-delete"),
                &ColumnMenu::removeRequested);
-    addCommand(menuTr("Rename"), GridIcons::icon(IconName::Edit, ":/icons/modify", "edit-rename"),
+    addCommand(menuTr("Rename"), Icons::hostIcon(IconName::Edit, ":/icons/modify", "edit-rename"),
                &ColumnMenu::renameRequested);
     addCommand(menuTr("Create copy"), {}, &ColumnMenu::copyRequested);
     m_moveLeft = addAction(menuTr("Move left"), this, [this] { Q_EMIT moveRequested(index(), -1); });
     m_moveRight = addAction(menuTr("Move right"), this, [this] { Q_EMIT moveRequested(index(), 1); });
     addSeparator();
-    const QIcon open = GridIcons::icon(IconName::Open, nullptr, "document-open");
+    const QIcon open = Icons::hostIcon(IconName::Open, nullptr, "document-open");
     m_karvon = addCommand(menuTr("Load xenoset ..."), open, &ColumnMenu::karvonRequested);
     m_preview = addCommand(menuTr("Load prv..."), open, &ColumnMenu::previewRequested);
 }
@@ -65,8 +64,8 @@ void ColumnMenu::prepare(int count, GridPropertyEditorView *column)
         const bool isExpanded = column->isExpanded();
         m_fold->setText(isExpanded ? menuTr("Collapse all") : menuTr("Expand all"));
         m_fold->setIcon(
-            isExpanded ? GridIcons::icon(IconName::CollapseAll, ":/icons/collapse.png", "view-list-details")
-                       : GridIcons::icon(IconName::ExpandAll, ":/icons/expand.png", "view-list-tree"));
+            isExpanded ? Icons::hostIcon(IconName::CollapseAll, ":/icons/collapse.png", "view-list-details")
+                       : Icons::hostIcon(IconName::ExpandAll, ":/icons/expand.png", "view-list-tree"));
     }
     if (column) {
         const BaseItemType type = column->documentType();

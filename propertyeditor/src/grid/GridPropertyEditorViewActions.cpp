@@ -1,4 +1,3 @@
-#include "GridIcons.h"
 #include "GridPropertyEditorView_p.h"
 
 #include <KProperty.h>
@@ -18,6 +17,7 @@
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 #include <orv/widgets/DefaultWidgetCreator.h>
 #include <orv/widgets/DialogService.h>
+#include <orv/widgets/Icons.h>
 #include <orv/widgets/ORVFileDialog.h>
 #include <orv/widgets/ORVStyle.h>
 
@@ -116,7 +116,7 @@ void GridPropertyEditorView::Private::makeButtons()
         auto *button = new QPushButton(q);
         button->setFlat(true);
         button->setIcon(
-            GridIcons::icon(row.drawing, row.icon, ORVStyle::isEnabled() ? row.themeIcon : nullptr));
+            Icons::hostIcon(row.drawing, row.icon, ORVStyle::isEnabled() ? row.themeIcon : nullptr));
         button->setToolTip(tr(row.toolTip));
         button->setAccessibleName(tr(row.toolTip));
         connect(button, &QPushButton::clicked, q, [this, clicked = row.clicked] { (this->*clicked)(); });

@@ -51,6 +51,12 @@ constexpr std::array kIcons = {
     IconRow{IconName::Open, "open", nullptr},
     IconRow{IconName::Save, "save", nullptr},
     IconRow{IconName::Edit, "edit", nullptr},
+    IconRow{IconName::Properties, "properties", nullptr},
+    IconRow{IconName::Upgrade, "upgrade", nullptr},
+    IconRow{IconName::Portable, "portable", nullptr},
+    IconRow{IconName::BasicView, "basic-view", nullptr},
+    IconRow{IconName::AdvancedView, "advanced-view", nullptr},
+    IconRow{IconName::User, "user", nullptr},
     IconRow{IconName::ExpandAll, "expand-all", nullptr},
     IconRow{IconName::CollapseAll, "collapse-all", nullptr},
     IconRow{IconName::Problem, "problem", &MeaningColors::error},
@@ -76,6 +82,15 @@ QIcon icon(IconName name)
     if (!file.open(QIODevice::ReadOnly))
         return {};
     return QIcon(new PaletteIconEngine(file.readAll(), row.color));
+}
+
+QIcon hostIcon(IconName name, const char *resource, const char *themeName)
+{
+    const QLatin1String theme(themeName ? themeName : "");
+    if (!theme.isEmpty() && QIcon::hasThemeIcon(theme))
+        return QIcon::fromTheme(theme);
+    const QString file = QLatin1String(resource ? resource : "");
+    return !file.isEmpty() && QFile::exists(file) ? QIcon(file) : icon(name);
 }
 
 QColor colorOf(IconName name, const QPalette &palette)

@@ -18,4 +18,10 @@ namespace orv::TextUtils {
 /// The list under a heading that says that these are warnings; empty for an empty list.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QString warningsListToHtmlList(const QStringList &warnings);
 
+// The same under a plain text, or under none where it is empty.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QString errorsListToHtmlList(const QStringList &errors,
+                                                               const QString &heading);
+[[nodiscard]] ORV_WORKFLOW_EXPORT QString warningsListToHtmlList(const QStringList &warnings,
+                                                                 const QString &heading);
+
 } // namespace orv::TextUtils

@@ -41,6 +41,12 @@ enum class IconName
     Open,
     Save,
     Edit,
+    Properties,
+    Upgrade,
+    Portable,
+    BasicView,
+    AdvancedView,
+    User,
     ExpandAll,
     CollapseAll,
     Problem, ///< of a cell or a field that isn't allowed
@@ -56,6 +62,11 @@ enum class IconName
 namespace Icons {
 
 [[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT QIcon icon(IconName name);
+
+/// The icon that the application gives, by its theme or by a resource of that name; without either the own
+/// one. Both texts may be null.
+[[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT QIcon hostIcon(IconName name, const char *resource,
+                                                        const char *themeName = nullptr);
 
 /// What icon() draws with in a palette while it can be used.
 [[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT QColor colorOf(IconName name, const QPalette &palette);

@@ -1,0 +1,152 @@
+#include "PropertyEditorWindowForm.h"
+#include "orv/propertyeditor/window/PropertyEditorWindow.h"
+
+#include <orv/core/Logging.h>
+#include <orv/core/LossObserver.h>
+#include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
+#include <orv/propertyeditor/grid/EditableTabWidget.h>
+#include <orv/propertyeditor/window/PropertyEditorWindowJsonFile.h>
+#include <orv/propertyeditor/window/PropertyEditorWindowPrivate.h>
+#include <orv/propertyeditor/window/WorkflowTabs.h>
+#include <orv/widgets/ORVFileDialog.h>
+#include <orv/widgets/ORVStyle.h>
+
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QPointer>
+
+namespace orv {
+
+using PropertyEditor::Content;
+using PropertyEditor::PropertyConversionFlag;
+
+namespace {
+
+/// The document as it is written: with absolute paths.
+struct WorkflowToSave
+{
+    PropertyEditorContent content;
+    QStringList losses; ///< what isn't in it any more
+};
+
+Result<WorkflowToSave> withAbsolutePaths(const PropertyEditorContent &shown, const QUrl &baseUrl)
+{
+    LossCollector losses;
+    Content content;
+    content.setLossObserver(&losses);
+    Error error = content.assignFromJson(shown.toJsonObject());
+    content.setLossObserver(nullptr);
+    if (error.hasError())
+        return error.ecatch();
+    content.setBaseUrl(baseUrl);
+    ORV_RETURN_IF_ERROR(content.checkWritable());
+    WorkflowToSave saved{PropertyEditorContent(content.toJsonObject(PropertyConversionFlag::AbsolutePaths)),
+                         {}};
+    for (const Loss &loss : losses.losses())
+        saved.losses.append(QStringLiteral("%1: %2: %3").arg(loss.path, loss.what, loss.why));
+    return saved;
+}
+
+QString detailsOf(const Error &error)
+{
+    return (error.errorMessages() + error.details()).join(u'\n');
+}
+
+} // namespace
+
+bool PropertyEditorWindow::saveWorkflowAs()
+{
+    const QPointer<PropertyEditorWindow> self(this);
+    if (!verifyWidgetsContentAndShowDialog(WidgetValidationType::SaveWorkflow) || !self)
+        return false;
+    const QString path = ORVFileDialog::getSaveFileName(
+        this, tr("Save Workflow"), WflwMetaData::nameFromMetaDataObject(d->workflowMetadata()),
+        {MirelFileTypes::WFLW});
+    return self && !path.isEmpty() && saveWorkflowToJSON(path);
+}
+
+bool PropertyEditorWindow::acceptsLosses(const QStringList &losses)
+{
+    if (losses.isEmpty())
+        return true;
+    const QPointer<PropertyEditorWindow> self(this);
+    const auto answer = ORVStyle::warning(
+        this, tr("Save Workflow"),
+        tr("Something of the workflow isn't known to this application and would not be saved. Save without "
+           "it?"),
+        QMessageBox::Save | QMessageBox::Cancel, {}, QMessageBox::Cancel, losses.join(u'\n'));
+    return self && answer == QMessageBox::Save;
+}
+
+bool PropertyEditorWindow::saveWorkflowToJSON(const QString &path)
+{
+    const auto fail = [this](const Error &error) {
+        ORVStyle::critical(this, {}, tr("Failed to save the workflow"), QMessageBox::Ok, {},
+                           QMessageBox::NoButton, detailsOf(error));
+        return false;
+    };
+    const PropertyEditorContent shown = content();
+    QJsonObject metadata = shown.metadata();
+    WflwMetaData::setNameInMetaDataObject(&metadata, QFileInfo(path).completeBaseName());
+    const Result<WorkflowToSave> saved = withAbsolutePaths(
+        {shown.tabsAndContent(), metadata, shown.extendedMetadataInfo()}, d->workflowBaseUrl());
+    if (saved.hasError())
+        return fail(saved.error());
+    if (!acceptsLosses(saved->losses))
+        return false;
+    PropertyEditorWindowJsonFile file(path);
+    if (!file.saveTabsToJson(saved->content))
+        return fail(file.error());
+    reload(saved->content, path);
+    return true;
+}
+
+void PropertyEditorWindow::reload(const PropertyEditorContent &written, const QString &path)
+{
+    const QPointer<PropertyEditorWindow> self(this);
+    const int tab = d->m_form->tabWidget->currentIndex();
+    clear();
+    if (!self)
+        return;
+    if (const Error error = setContent(written)) {
+        qCCritical(propertyEditorLog).noquote()
+            << "What was saved can't be shown" << path << error.errorMessage();
+    }
+    if (!self)
+        return;
+    d->m_form->tabWidget->setCurrentIndex(tab);
+    d->setWorkflowMetadata(written.metadata());
+    d->setWorkflowFilePath(path);
+    d->updateBaseUrlForRelativeUrls();
+    d->collapseAllKPropertyViews();
+    d->updateLastSavedWorkflow();
+}
+
+bool PropertyEditorWindow::hasUnsavedChanges() const
+{
+    const bool isNew = d->workflowFilePath().isNull();
+    if (d->m_projectCreationStarted || (isNew && d->m_tabs->count() == 0))
+        return false;
+    QJsonObject saved = d->getLastSavedWorkflow();
+    if (saved.isEmpty()) {
+        PropertyEditorContent content;
+        if (PropertyEditorWindowJsonFile(d->workflowFilePath()).loadTabsFromJson(&content))
+            saved = content.document();
+    }
+    return !PropertyEditorJsonUtils::compareWorkflows(saved, content().toJsonObject(), false);
+}
+
+void PropertyEditorWindow::closeEvent(QCloseEvent *event)
+{
+    const QPointer<PropertyEditorWindow> self(this);
+    if (hasUnsavedChanges()) {
+        const auto answer = ORVStyle::question(this, tr("Unsaved changes"),
+                                               tr("There are some unsaved changes. Do you want to save ?"),
+                                               QMessageBox::Yes | QMessageBox::No);
+        if (self && answer == QMessageBox::Yes)
+            saveWorkflowAs();
+    }
+    event->accept();
+}
+
+} // namespace orv

@@ -1,0 +1,183 @@
+#include "orv/propertyeditor/window/WorkflowTabs.h"
+
+#include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/grid/EditableTabBar.h>
+#include <orv/propertyeditor/grid/EditableTabWidget.h>
+#include <orv/propertyeditor/grid/IGridItem.h>
+#include <orv/propertyeditor/grid/PropertyGridWidget.h>
+#include <orv/widgets/SamplesAndTracesInputWidget.h>
+#include <orv/widgets/SequenceDatabasesWidget.h>
+
+namespace orv {
+
+using PropertyEditor::BaseItem;
+
+WorkflowTabs::WorkflowTabs(EditableTabWidget *tabs, QObject *parent)
+    : QObject(parent)
+    , m_tabs(tabs)
+{
+    connect(tabs->editableTabBar(), &EditableTabBar::titleEdited, this, &WorkflowTabs::edited);
+    connect(tabs->editableTabBar(), &QTabBar::tabMoved, this, &WorkflowTabs::edited);
+}
+
+Error WorkflowTabs::add(const QString &name, const QStringList &columns, const VariantItems &cells)
+{
+    Result<std::unique_ptr<PropertyGridWidget>> created = PropertyGridWidget::create(columns, cells, nullptr);
+    if (created.hasError())
+        return created.ecatch();
+    const QPointer<PropertyGridWidget> grid = created->release();
+    if (m_prepare)
+        m_prepare(*grid);
+    m_tabs->addTab(grid, name);
+    grid->setPropertiesViewMode(m_propertiesViewMode);
+    grid->setEditorMode(m_editorMode);
+    connect(grid, &PropertyGridWidget::itemAdded, this, &WorkflowTabs::columnsChanged);
+    connect(grid, &PropertyGridWidget::itemRemoved, this, &WorkflowTabs::columnsChanged);
+    connect(grid, &PropertyGridWidget::contentEdited, this, &WorkflowTabs::edited);
+    Q_EMIT columnsChanged();
+    return Error::NoError;
+}
+
+void WorkflowTabs::remove(int index)
+{
+    QWidget *widget = m_tabs->widget(index);
+    if (!widget)
+        return;
+    m_tabs->removeTab(index);
+    widget->disconnect(this);
+    widget->deleteLater();
+    Q_EMIT columnsChanged();
+}
+
+Error WorkflowTabs::replaceCurrent(const PropertyEditorContent::Tab &tab)
+{
+    m_tabs->setTabText(m_tabs->currentIndex(), tab.first);
+    const QPointer<PropertyGridWidget> grid = currentGrid();
+    if (!grid)
+        return Error::NoError;
+    const QPointer<WorkflowTabs> self(this);
+    const auto &[columns, cells] = tab.second;
+    grid->removeAllColumns();
+    for (const QString &column : columns) {
+        if (grid)
+            grid->appendColumn(BaseItem::typeFromString(column), column, false);
+    }
+    Error error = grid ? grid->appendData(cells) : Error(Error::NoError);
+    if (grid)
+        collapseAll(*grid);
+    if (self)
+        Q_EMIT columnsChanged();
+    return error.hasError() ? error.ecatch() : error;
+}
+
+PropertyEditorContent::Tab WorkflowTabs::read(int index) const
+{
+    const PropertyGridWidget *shown = grid(index);
+    return {m_tabs->tabText(index), {shown->columnNames(), shown->cells()}};
+}
+
+PropertyEditorContent::Tabs WorkflowTabs::tabs() const
+{
+    PropertyEditorContent::Tabs tabs;
+    for (int i = 0; i < m_tabs->count(); ++i) {
+        if (grid(i))
+            tabs.append(read(i));
+    }
+    return tabs;
+}
+
+PropertyEditorContent::Tabs WorkflowTabs::currentTab() const
+{
+    return currentGrid() ? PropertyEditorContent::Tabs{read(m_tabs->currentIndex())}
+                         : PropertyEditorContent::Tabs();
+}
+
+int WorkflowTabs::count() const
+{
+    return m_tabs->count();
+}
+
+PropertyGridWidget *WorkflowTabs::grid(int index) const
+{
+    return qobject_cast<PropertyGridWidget *>(m_tabs->widget(index));
+}
+
+PropertyGridWidget *WorkflowTabs::currentGrid() const
+{
+    return grid(m_tabs->currentIndex());
+}
+
+QList<QPointer<PropertyGridWidget>> WorkflowTabs::grids() const
+{
+    QList<QPointer<PropertyGridWidget>> grids;
+    for (int i = 0; i < m_tabs->count(); ++i) {
+        if (PropertyGridWidget *shown = grid(i))
+            grids.append(shown);
+    }
+    return grids;
+}
+
+QList<IGridItem *> WorkflowTabs::items() const
+{
+    QList<IGridItem *> items;
+    for (const PropertyGridWidget *shown : grids())
+        items += shown->items();
+    return items;
+}
+
+bool WorkflowTabs::validate(QStringList *warnings, QStringList *errors, QStringList *details,
+                            WidgetValidationType type) const
+{
+    bool isValid = true;
+    for (const QPointer<PropertyGridWidget> &shown : grids())
+        isValid = (!shown || shown->validate(warnings, errors, details, type)) && isValid;
+    return isValid;
+}
+
+void WorkflowTabs::setEditorMode(EditorMode mode)
+{
+    m_editorMode = mode;
+    m_tabs->editableTabBar()->setEditorMode(mode);
+    for (PropertyGridWidget *shown : grids())
+        shown->setEditorMode(mode);
+}
+
+void WorkflowTabs::setPropertiesViewMode(PropertiesViewMode mode)
+{
+    m_propertiesViewMode = mode;
+    for (PropertyGridWidget *shown : grids())
+        shown->setPropertiesViewMode(mode);
+}
+
+void WorkflowTabs::setBaseUrl(const QUrl &url)
+{
+    for (PropertyGridWidget *shown : grids())
+        setBaseUrl(*shown, url);
+}
+
+void WorkflowTabs::setBaseUrl(PropertyGridWidget &grid, const QUrl &url)
+{
+    grid.updateBaseUrlForRelativeUrls(url);
+    for (IGridItem *item : grid.items()) {
+        if (auto *samples = qobject_cast<SamplesAndTracesInputWidget *>(item->widget()))
+            samples->setBaseUrl(url);
+        else if (auto *databases = qobject_cast<SequenceDatabasesWidget *>(item->widget()))
+            databases->setBaseUrl(url);
+    }
+}
+
+void WorkflowTabs::collapseAll()
+{
+    for (const PropertyGridWidget *shown : grids())
+        collapseAll(*shown);
+}
+
+void WorkflowTabs::collapseAll(const PropertyGridWidget &grid)
+{
+    for (IGridItem *item : grid.items()) {
+        if (auto *view = qobject_cast<GridPropertyEditorView *>(item->widget()))
+            view->collapseAll();
+    }
+}
+
+} // namespace orv
