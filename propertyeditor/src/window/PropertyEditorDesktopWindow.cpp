@@ -1,5 +1,7 @@
 #include "orv/propertyeditor/window/PropertyEditorDesktopWindow.h"
 
+#include "LossTexts.h"
+
 #include <orv/propertyeditor/workflow/PortableTarget.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
 #include <orv/widgets/CoreMainWindow.h>
@@ -41,7 +43,9 @@ PropertyEditorDesktopWindow::PropertyEditorDesktopWindow(CoreMainWindow *mainWin
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setFocusPolicy(Qt::TabFocus);
     connect(button, &QToolButton::clicked, this, &PropertyEditorDesktopWindow::savePortableWorkflow);
-    toolBar()->insertWidget(toolBar()->actions().value(2), button);
+    const QList<QAction *> actions = toolBar()->actions();
+    toolBar()->insertWidget(actions.at(2), button);
+    setTabOrder(toolBar()->widgetForAction(actions.at(1)), button);
     desktop()->m_savePortableButton = button;
 }
 
@@ -99,10 +103,19 @@ void PropertyEditorDesktopWindow::writePortableWorkflow(const QString &path)
     WflwMetaData::setNameInMetaDataObject(&metadata, QFileInfo(path).completeBaseName());
     dFunc()->setWorkflowMetadata(metadata);
     Content content;
-    if (const Error error = content.assignFromJson(this->content().toJsonObject())) {
+    LossCollector losses;
+    content.setLossObserver(&losses);
+    const Error unreadable = content.assignFromJson(this->content().toJsonObject());
+    content.setLossObserver(nullptr);
+    if (unreadable.hasError()) {
         dFunc()->setWorkflowMetadata(before);
         ORVStyle::critical(this, {},
-                           tr("Cannot handle the specified workflow: %1").arg(error.errorMessage()));
+                           tr("Cannot handle the specified workflow: %1").arg(unreadable.errorMessage()));
+        return;
+    }
+    if (!acceptsLosses(textsOf(losses.losses()))) {
+        if (self)
+            dFunc()->setWorkflowMetadata(before);
         return;
     }
     const QJsonObject document = content.toJsonObject(PropertyConversionFlag::KeepPaths);

@@ -39,8 +39,7 @@ PropertyEditorWindow::PropertyEditorWindow(QWidget *parent, PropertyEditorWindow
     d->m_form->setupUi(this);
     d->m_tabs = new WorkflowTabs(d->m_form->tabWidget, state);
     d->m_tabs->setPrepare([state](PropertyGridWidget &grid) { state->setupToolbar(&grid); });
-    connect(d->m_tabs, &WorkflowTabs::columnsChanged, state,
-            [state] { state->updateDependentWidgets(); });
+    connect(d->m_tabs, &WorkflowTabs::columnsChanged, state, [state] { state->updateDependentWidgets(); });
     ORVPropertyFactory::init();
     setupTabButtons();
     connect(d->m_form->pushCreateProject, &QPushButton::clicked, this,

@@ -1,11 +1,12 @@
+#include "LossTexts.h"
 #include "orv/propertyeditor/window/PropertyEditorWindow.h"
 
 #include <orv/core/Logging.h>
 #include <orv/core/TextUtils.h>
-#include <orv/propertyeditor/content/RawCell.h>
 #include <orv/propertyeditor/window/PropertyEditorDirLocations.h>
 #include <orv/propertyeditor/window/PropertyEditorWindowJsonFile.h>
 #include <orv/propertyeditor/window/PropertyEditorWindowPrivate.h>
+#include <orv/propertyeditor/window/ProteinTabs.h>
 #include <orv/propertyeditor/workflow/WflwUpgrader.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
 #include <orv/widgets/CoreMainWindow.h>
@@ -145,7 +146,7 @@ OpenStatus PropertyEditorWindow::openWorkflow(PropertyEditorContent *content,
     if (const std::optional<OpenStatus> refusal = applyUpgrade(content, path, &upgrade))
         return *refusal;
     tellDocumentType(*content);
-    return self ? show(*content) : OpenStatus::NotOpened;
+    return self ? display(*content) : OpenStatus::NotOpened;
 }
 
 /// What keeps the document from being opened, before anything is changed.
@@ -246,7 +247,7 @@ void PropertyEditorWindow::saveUpgraded(const PropertyEditorContent &content, co
     error.ecatch();
 }
 
-OpenStatus PropertyEditorWindow::show(const PropertyEditorContent &content)
+OpenStatus PropertyEditorWindow::display(const PropertyEditorContent &content)
 {
     const QPointer<PropertyEditorWindow> self(this);
     if (const Error error = setContent(content)) {
@@ -284,6 +285,7 @@ void PropertyEditorWindow::parseExtendedMetadata(const PropertyEditorContent &co
     if (info.hasError()) {
         qCCritical(propertyEditorLog).noquote()
             << "Unable to parse extended metadata" << info.error().errorMessage();
+        d->m_lost.append(tr("The metadata of the server can't be read: %1").arg(info.error().errorMessage()));
     }
     d->setExtendedMetadataInfo(info.valueOr(ExtendedMetadataInfo()));
 }
@@ -292,9 +294,13 @@ Error PropertyEditorWindow::setContent(const PropertyEditorContent &content)
 {
     const QPointer<PropertyEditorWindow> self(this);
     const PropertyEditorContent copy = inDesktopForm(content);
+    const QString path = d->workflowFilePath();
     PropertyEditorContent::Tabs tabs = copy.tabsAndContent();
+    d->m_lost.clear();
     parseExtendedMetadata(copy);
-    const Result<bool> showsNewProteins = d->shouldDisplayNewProteinWidget(copy);
+    LossCollector losses;
+    const Result<bool> showsNewProteins = ProteinTabs::areBuiltFromChains(copy, &losses);
+    d->m_lost += textsOf(losses.losses());
     if (showsNewProteins.hasError())
         clear();
     else if (*showsNewProteins)
@@ -309,6 +315,8 @@ Error PropertyEditorWindow::setContent(const PropertyEditorContent &content)
         ORV_RETURN_IF_ERROR(gone());
         if (error.hasError()) {
             clear();
+            if (self)
+                d->setWorkflowFilePath(path);
             return error.ecatch();
         }
     }

@@ -258,7 +258,8 @@ bool PropertyEditorWindowPrivate::verifyWidgetsContent(QStringList *warnings, QS
 bool PropertyEditorWindowPrivate::verifyWorkflowReferences(const PropertyEditorContent &content) const
 {
     Content document;
-    if (const Error error = document.assignFromJson(content.document(), PropertyEditor::ValidationOption::SkipTypeValidation))
+    if (const Error error =
+            document.assignFromJson(content.document(), PropertyEditor::ValidationOption::SkipTypeValidation))
         qCWarning(propertyEditorLog).noquote() << "Not all references are known" << error.errorMessage();
     const QList<ResourceReferenceSPtr> unsupported = ResourceReferenceUtils::unsupportedReferences(
         document.allReferences(), PropertyEditorUtils::supportedReferences(q->workflowAppType()));

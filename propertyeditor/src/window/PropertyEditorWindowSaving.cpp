@@ -1,8 +1,8 @@
+#include "LossTexts.h"
 #include "PropertyEditorWindowForm.h"
 #include "orv/propertyeditor/window/PropertyEditorWindow.h"
 
 #include <orv/core/Logging.h>
-#include <orv/core/LossObserver.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/grid/EditableTabWidget.h>
 #include <orv/propertyeditor/window/PropertyEditorWindowJsonFile.h>
@@ -42,8 +42,7 @@ Result<WorkflowToSave> withAbsolutePaths(const PropertyEditorContent &shown, con
     ORV_RETURN_IF_ERROR(content.checkWritable());
     WorkflowToSave saved{PropertyEditorContent(content.toJsonObject(PropertyConversionFlag::AbsolutePaths)),
                          {}};
-    for (const Loss &loss : losses.losses())
-        saved.losses.append(QStringLiteral("%1: %2: %3").arg(loss.path, loss.what, loss.why));
+    saved.losses = textsOf(losses.losses());
     return saved;
 }
 
@@ -67,14 +66,15 @@ bool PropertyEditorWindow::saveWorkflowAs()
 
 bool PropertyEditorWindow::acceptsLosses(const QStringList &losses)
 {
-    if (losses.isEmpty())
+    const QStringList lost = d->m_lost + losses;
+    if (lost.isEmpty())
         return true;
     const QPointer<PropertyEditorWindow> self(this);
     const auto answer = ORVStyle::warning(
         this, tr("Save Workflow"),
         tr("Something of the workflow isn't known to this application and would not be saved. Save without "
            "it?"),
-        QMessageBox::Save | QMessageBox::Cancel, {}, QMessageBox::Cancel, losses.join(u'\n'));
+        QMessageBox::Save | QMessageBox::Cancel, {}, QMessageBox::Cancel, lost.join(u'\n'));
     return self && answer == QMessageBox::Save;
 }
 

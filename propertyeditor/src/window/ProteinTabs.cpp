@@ -42,9 +42,10 @@ void changeCell(QVariant *cell)
 
 } // namespace
 
-Result<bool> areBuiltFromChains(const PropertyEditorContent &content)
+Result<bool> areBuiltFromChains(const PropertyEditorContent &content, LossObserver *losses)
 {
     Content document;
+    document.setLossObserver(losses);
     if (Error error = document.assignFromJson(content.document()))
         return error.ecatch();
     const QSet<BaseItemType> types = document.allItems();

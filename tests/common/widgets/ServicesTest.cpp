@@ -1,3 +1,4 @@
+#include "FakeJava.h"
 #include "WidgetTest.h"
 
 #include <orv/core/Settings.h>
@@ -30,26 +31,6 @@ void writeText(const QString &path, const QByteArray &text)
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
         qFatal("Cannot write the file");
 }
-
-/// A Java runtime that says this about itself.
-struct FakeJava
-{
-    explicit FakeJava(const QByteArray &script)
-        : earlier(qEnvironmentVariable("JAVA_HOME"))
-    {
-        QDir(home.path()).mkdir(u"bin"_s);
-        const QString program = home.filePath(u"bin/java"_s);
-        writeText(program, "#!/bin/sh\n" + script);
-        QFile::setPermissions(program,
-                              QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-        qputenv("JAVA_HOME", home.path().toLocal8Bit());
-    }
-    ~FakeJava() { qputenv("JAVA_HOME", earlier.toLocal8Bit()); }
-    Q_DISABLE_COPY_MOVE(FakeJava)
-
-    QTemporaryDir home;
-    QString earlier;
-};
 
 } // namespace
 

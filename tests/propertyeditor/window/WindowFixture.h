@@ -12,8 +12,11 @@
 #include <orv/propertyeditor/grid/PropertyGridWidget.h>
 #include <orv/propertyeditor/window/PropertyEditorDesktopWindow.h>
 #include <orv/widgets/DialogAnswerer.h>
+#include <orv/widgets/DialogService.h>
 
+#include <QDir>
 #include <QFile>
+#include <QPointer>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -113,7 +116,8 @@ inline QJsonObject previewCell()
 }
 
 /// One tab with a column for each cell, named after its type.
-inline QJsonObject documentOf(const QList<QJsonObject> &cells, const QJsonObject &metadata = WindowFixture::metadata())
+inline QJsonObject documentOf(const QList<QJsonObject> &cells,
+                              const QJsonObject &metadata = WindowFixture::metadata())
 {
     QStringList columns;
     QJsonArray array;
@@ -138,11 +142,44 @@ inline QString write(const QTemporaryDir &folder, const char *name, const QJsonO
     return write(folder, name, Documents::toBytes(document));
 }
 
+/// Closes the window for good while it asks.
+class Destroyer : public orv::DialogAnswerer
+{
+public:
+    Destroyer(Window *window, const QString &title, const QString &button)
+        : m_window(window)
+        , m_title(title)
+        , m_button(button)
+        , m_earlier(orv::DialogService::install(this))
+    {}
+    ~Destroyer() override { orv::DialogService::install(m_earlier); }
+
+    /// Null once it has gone.
+    [[nodiscard]] Window *window() const { return m_window; }
+
+    std::optional<orv::DialogAnswer> answer(const orv::DialogRequest &request) override
+    {
+        if (request.title == m_title)
+            delete m_window;
+        const bool isUpgrade = request.title == text("Workflow upgrade") && m_title != request.title;
+        const QString button = isUpgrade && m_title == text("Save upgraded workflow") ? m_button
+                               : isUpgrade                                            ? text("Apply")
+                                                                                      : m_button;
+        return orv::DialogAnswer{button, QDir::tempPath() + text("/destroyed.wflw")};
+    }
+
+private:
+    QPointer<Window> m_window;
+    QString m_title;
+    QString m_button;
+    orv::DialogAnswerer *m_earlier;
+};
+
 /// What people were asked: a line for each box, its text without markup, buttons (the default one in
 /// brackets) and details.
 inline QStringList transcriptOf(const orv::ScriptedAnswerer &answers)
 {
-    constexpr std::array kinds{"question", "warning",       "critical",     "information",
+    constexpr std::array kinds{"question",  "warning",   "critical",      "information",
                                "open file", "save file", "choose folder", "dialog"};
     QStringList lines;
     for (const orv::DialogRequest &request : answers.transcript()) {

@@ -19,12 +19,10 @@ namespace {
 
 const QJsonObject &peptideMetadata()
 {
-    static const QJsonObject metadata{{u"name"_s, u"Antibody"_s},
-                                      {u"description"_s, u"Two lines\nof text"_s},
-                                      {u"icon"_s, u"peptide"_s},
-                                      {u"workflowType"_s, u"PeptideMap"_s},
-                                      {u"version"_s, u"5.47.0"_s},
-                                      {u"created"_s, u"2020-01-01T00:00:00"_s}};
+    static const QJsonObject metadata{
+        {u"name"_s, u"Antibody"_s},  {u"description"_s, u"Two lines\nof text"_s},
+        {u"icon"_s, u"peptide"_s},   {u"workflowType"_s, u"PeptideMap"_s},
+        {u"version"_s, u"5.47.0"_s}, {u"created"_s, u"2020-01-01T00:00:00"_s}};
     return metadata;
 }
 
@@ -90,10 +88,10 @@ void WorkflowPropertiesDialogTest::designersSeeTypeAndVersion()
     WorkflowPropertiesDialog dialog(peptideMetadata());
     dialog.show();
     const auto areVisible = [&dialog](bool isVisible) {
-        return part<QLabel>(dialog, u"labelVersionTitle"_s)->isVisible() == isVisible
-               && part<QLabel>(dialog, u"labelVersion"_s)->isVisible() == isVisible
-               && part<QLabel>(dialog, u"labelType"_s)->isVisible() == isVisible
-               && part<QComboBox>(dialog, u"comboTypes"_s)->isVisible() == isVisible;
+        return part<QLabel>(dialog, u"labelVersionTitle"_s)->isVisible() == isVisible &&
+               part<QLabel>(dialog, u"labelVersion"_s)->isVisible() == isVisible &&
+               part<QLabel>(dialog, u"labelType"_s)->isVisible() == isVisible &&
+               part<QComboBox>(dialog, u"comboTypes"_s)->isVisible() == isVisible;
     };
     QVERIFY(areVisible(false));
     dialog.setDesignerModeEnabled(true);

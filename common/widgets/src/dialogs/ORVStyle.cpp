@@ -116,7 +116,8 @@ ORVStyle::Button showBox(QWidget *parent, const BoxKind &kind, const BoxContent 
     DialogService::prepare(*box);
     ORVStyle::Button pressed = escapeButton(content);
     if (const auto answer = DialogService::answerWithoutPerson(requestOf(kind, *box, content))) {
-        pressed = buttonOf(*box, answer->button, pressed);
+        if (box)
+            pressed = buttonOf(*box, answer->button, pressed);
     } else {
         const int result = box->exec();
         if (box && result != QMessageBox::NoButton)

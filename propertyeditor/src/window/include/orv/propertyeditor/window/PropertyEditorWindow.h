@@ -120,6 +120,8 @@ protected:
     /// Shows what the checks found; whether one may go on.
     [[nodiscard]] bool checkContent(const PropertyEditor::Content &content, const QString &title);
     [[nodiscard]] bool verifyWidgetsContentAndShowDialog(WidgetValidationType type);
+    /// Asks whether to save without \a losses and what the load lost; true where there are none.
+    [[nodiscard]] bool acceptsLosses(const QStringList &losses);
     /// Writes the workflow and goes on with what was written.
     bool saveWorkflowToJSON(const QString &path);
     OpenStatus openWorkflow(PropertyEditorContent *content);
@@ -155,12 +157,11 @@ private:
                                                          Upgrade *upgrade);
     void runUpgrade(PropertyEditorContent *content, Upgrade *upgrade);
     void saveUpgraded(const PropertyEditorContent &content, const QString &path);
-    [[nodiscard]] OpenStatus show(const PropertyEditorContent &content);
+    [[nodiscard]] OpenStatus display(const PropertyEditorContent &content);
     [[nodiscard]] PropertyEditorContent inDesktopForm(const PropertyEditorContent &content) const;
     void parseExtendedMetadata(const PropertyEditorContent &content);
     [[nodiscard]] Result<PropertyEditor::Content> contentForHandOver(const QString &title);
     [[nodiscard]] bool isJavaUsable();
-    [[nodiscard]] bool acceptsLosses(const QStringList &losses);
     void reload(const PropertyEditorContent &written, const QString &path);
     [[nodiscard]] bool hasUnsavedChanges() const;
 

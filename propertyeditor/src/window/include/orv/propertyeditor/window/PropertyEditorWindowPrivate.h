@@ -143,6 +143,7 @@ private:
     QJsonObject m_workflowMetadata;
     QJsonObject m_lastSavedWorkflow;
     ExtendedMetadataInfo m_extendedMetadataInfo;
+    QStringList m_lost; ///< what the document on the screen lacks of the one that was loaded
     bool m_projectCreationStarted = false;
 };
 

@@ -1,0 +1,149 @@
+#include "WidgetTest.h"
+#include "WindowFixture.h"
+
+#include <KProperty.h>
+#include <KPropertySet.h>
+
+#include <QFileInfo>
+
+using namespace orv;
+using namespace WindowFixture;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kOpened = PropertyEditorWindow::OpenStatus::Opened;
+
+void editSamples(Window &window, const QString &samples)
+{
+    auto *view = qobject_cast<GridPropertyEditorView *>(window.grid(0)->items().first()->widget());
+    view->propertySet()->property("Samples").setValue(samples);
+}
+
+} // namespace
+
+class ClosingTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void newWindowsCloseAtOnce();
+    void unchangedDocumentsCloseAtOnce();
+    void changesAreAskedFor();
+    void savingWhileClosing();
+    void cancelledSavesCloseAllTheSame();
+    void tabsWithoutAFileAreChanges();
+    void projectsWereHandedOver();
+    void refusedUpgradesCountAsChanges();
+};
+
+void ClosingTest::newWindowsCloseAtOnce()
+{
+    const ScriptedAnswerer answers;
+    Window window;
+    window.show();
+    QVERIFY(window.close());
+    QVERIFY(answers.transcript().isEmpty());
+}
+
+void ClosingTest::unchangedDocumentsCloseAtOnce()
+{
+    const QTemporaryDir folder;
+    const ScriptedAnswerer answers;
+    Window window;
+    window.show();
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", documentOf({karvonCell()}))), kOpened);
+    QVERIFY(window.close());
+    QVERIFY(answers.transcript().isEmpty());
+}
+
+void ClosingTest::changesAreAskedFor()
+{
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    Window window;
+    window.show();
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", documentOf({karvonCell()}))), kOpened);
+    editSamples(window, u"one"_s);
+    answers.expectBox(u"Unsaved changes"_s, u"No"_s);
+    QVERIFY(window.close());
+    QCOMPARE(transcriptOf(answers),
+             QStringList{u"question | Unsaved changes | There are some unsaved changes. Do you want to "
+                         "save ? | Yes [No]"_s});
+}
+
+void ClosingTest::savingWhileClosing()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"b.wflw"_s);
+    ScriptedAnswerer answers;
+    Window window;
+    window.show();
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", documentOf({karvonCell()}))), kOpened);
+    editSamples(window, u"one"_s);
+    answers.expectBox(u"Unsaved changes"_s, u"Yes"_s);
+    answers.expectPath(u"Save Workflow"_s, path);
+    QVERIFY(window.close());
+    QVERIFY(!window.isVisible());
+    QVERIFY(TestData::read(path).contains("\"one\""));
+}
+
+void ClosingTest::cancelledSavesCloseAllTheSame()
+{
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    Window window;
+    window.show();
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", documentOf({karvonCell()}))), kOpened);
+    editSamples(window, u"one"_s);
+    answers.expectBox(u"Unsaved changes"_s, u"Yes"_s);
+    answers.expectPath(u"Save Workflow"_s, {});
+    QVERIFY(window.close());
+    QVERIFY(answers.isDone());
+}
+
+void ClosingTest::tabsWithoutAFileAreChanges()
+{
+    ScriptedAnswerer answers;
+    const LogCapture log;
+    Window window;
+    window.show();
+    QVERIFY(!window.addTabWithColumns(u"Search"_s, {u"A"_s}, {Documents::toBytes(karvonCell())}).hasError());
+    QVERIFY(window.state().workflowFilePath().isNull());
+    answers.expectBox(u"Unsaved changes"_s, u"No"_s);
+    QVERIFY(window.close());
+    QVERIFY(answers.isDone());
+}
+
+void ClosingTest::projectsWereHandedOver()
+{
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    Window window;
+    window.show();
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", documentOf({previewCell()}))), kOpened);
+    answers.expectBox(u"Project creation"_s, u"OK"_s);
+    const LogCapture log;
+    QTest::mouseClick(&window.button("pushCreateProject"), Qt::LeftButton);
+    window.tabs().setTabText(0, u"Edited"_s);
+    QVERIFY(window.close());
+    QVERIFY(answers.isDone());
+}
+
+void ClosingTest::refusedUpgradesCountAsChanges()
+{
+    const QTemporaryDir folder;
+    const LogCapture log;
+    ScriptedAnswerer answers;
+    Window window;
+    window.show();
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", documentOf({karvonCell()}))), kOpened);
+    answers.expectBox(u"Workflow upgrade"_s, u"Cancel"_s);
+    window.openWorkflow(write(folder, "old.wflw", documentOf({karvonCell()}, metadata("5.46.0"))));
+    answers.expectBox(u"Unsaved changes"_s, u"No"_s);
+    QVERIFY(window.close());
+    QVERIFY(answers.isDone());
+}
+
+WIDGET_REGISTER_TEST(ClosingTest)
+#include "ClosingTest.moc"

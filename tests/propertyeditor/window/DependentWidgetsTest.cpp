@@ -1,0 +1,192 @@
+#include "WidgetTest.h"
+#include "WindowFixture.h"
+
+#include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/window/ProteinTabs.h>
+#include <orv/widgets/ProteinAnnotationWidget.h>
+#include <orv/widgets/ProteinInputWidgetBase.h>
+#include <orv/widgets/ProteinOptionsWidget.h>
+#include <orv/widgets/ProteinTableWidget.h>
+#include <orv/widgets/ProteinTreeTable.h>
+#include <orv/widgets/SamplesAndTracesInputWidget.h>
+
+#include <QSignalSpy>
+
+using namespace orv;
+using namespace WindowFixture;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kOpened = PropertyEditorWindow::OpenStatus::Opened;
+
+QJsonObject tableCell(const char *type)
+{
+    if (qstrcmp(type, "Proteins") != 0)
+        return Documents::cell(text(type));
+    return settingsCell(
+        type, {setting(type, QJsonObject{{text("data"), QJsonArray()}, {text("children"), QJsonArray()}})});
+}
+
+template<class Widget>
+Widget *shown(Window &window)
+{
+    for (int i = 0; i < window.tabs().count(); ++i) {
+        for (IGridItem *item : window.grid(i)->items()) {
+            if (auto *widget = qobject_cast<Widget *>(item->widget()))
+                return widget;
+        }
+    }
+    return nullptr;
+}
+
+QString typeOf(const PropertyEditorContent::Tabs &tabs, int cell)
+{
+    return Documents::parse(tabs.first().second.second.at(cell).toByteArray())[u"type"_s].toString();
+}
+
+} // namespace
+
+class DependentWidgetsTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void averageMassesFollowTheDocuments();
+    void annotationsNeedAPeptideMap();
+    void intactWorkflowsShowChains();
+    void withAPeptideMapProteinsStay();
+    void brokenCellsStay();
+    void chainsAreRenamed();
+    void samplesAreForwarded();
+    void removedColumnsAreForwarded();
+    void theLastSamplesCount();
+    void tableOfProteinsIsToldOnce();
+};
+
+void DependentWidgetsTest::averageMassesFollowTheDocuments()
+{
+    Window window;
+    window.show();
+    QCOMPARE(window.openWorkflow(documentOf(
+                 {tableCell("Proteins"), settingsCell("Intact", {}), settingsCell("Senthia", {})})),
+             kOpened);
+    auto *proteins = shown<ProteinOptionsWidget>(window);
+    QVERIFY(proteins);
+    QVERIFY(proteins->proteinTableWidget()->proteinTreeTable()->showsAverageMass());
+    window.grid(0)->removeColumn(1);
+    const LogCapture log;
+    QVERIFY(!proteins->proteinTableWidget()->proteinTreeTable()->showsAverageMass());
+    window.grid(0)->appendColumn(BaseItemType::Oligo, u"Oligo"_s, true);
+    QVERIFY(proteins->proteinTableWidget()->proteinTreeTable()->showsAverageMass());
+}
+
+void DependentWidgetsTest::annotationsNeedAPeptideMap()
+{
+    Window window;
+    window.show();
+    QCOMPARE(window.openWorkflow(documentOf({tableCell("Proteins"), karvonCell()})), kOpened);
+    auto *proteins = shown<ProteinOptionsWidget>(window);
+    QVERIFY(!proteins->proteinAnnotationWidget()->isVisibleTo(proteins));
+    const LogCapture log;
+    window.grid(0)->appendColumn(BaseItemType::Senthia, u"Map"_s, true);
+    QVERIFY(proteins->proteinAnnotationWidget()->isVisibleTo(proteins));
+    window.grid(0)->removeColumn(2);
+    QVERIFY(!proteins->proteinAnnotationWidget()->isVisibleTo(proteins));
+}
+
+void DependentWidgetsTest::intactWorkflowsShowChains()
+{
+    Window window;
+    QCOMPARE(window.openWorkflow(documentOf({tableCell("Proteins"), settingsCell("Intact", {})})), kOpened);
+    QVERIFY(shown<ProteinInputWidgetBase>(window));
+    QVERIFY(!shown<ProteinOptionsWidget>(window));
+    QCOMPARE(typeOf(window.content().tabsAndContent(), 0), u"IntactProteins"_s);
+}
+
+void DependentWidgetsTest::withAPeptideMapProteinsStay()
+{
+    Window window;
+    QCOMPARE(window.openWorkflow(documentOf(
+                 {tableCell("Proteins"), settingsCell("Intact", {}), settingsCell("Senthia", {})})),
+             kOpened);
+    QVERIFY(shown<ProteinOptionsWidget>(window));
+    QCOMPARE(typeOf(window.content().tabsAndContent(), 0), u"Proteins"_s);
+}
+
+void DependentWidgetsTest::brokenCellsStay()
+{
+    const LogCapture log;
+    PropertyEditorContent::Tabs tabs{
+        {u"Tab"_s, {{u"A"_s, u"B"_s}, {QByteArray("{broken"), QByteArray("{}")}}}};
+    const PropertyEditorContent::Tabs before = tabs;
+    ProteinTabs::changeToIntactProteins(&tabs);
+    QCOMPARE(tabs, before);
+    QCOMPARE(log.warnings().size(), 1);
+    QVERIFY(log.warnings().first().startsWith(u"Json parsing error: "_s));
+    QVERIFY(log.warnings().first().endsWith(u"{broken"_s));
+}
+
+void DependentWidgetsTest::chainsAreRenamed()
+{
+    const QByteArray cell = R"({"name": "P", "properties": [{"name": "Proteins", "value": {"a": 1}},
+        {"name": "Samples", "value": "*"}], "type": "Proteins"})";
+    PropertyEditorContent::Tabs tabs{{u"Tab"_s, {{u"A"_s}, {cell}}}};
+    ProteinTabs::changeToIntactProteins(&tabs);
+    QCOMPARE(tabs.first().second.second.at(0).toByteArray(),
+             QByteArray(R"({"name":"P","properties":[{"name":"IntactProteins","value":{"a":1}},)"
+                        R"({"name":"Samples","value":"*"}],"type":"IntactProteins"})"));
+}
+
+void DependentWidgetsTest::samplesAreForwarded()
+{
+    Window window;
+    QCOMPARE(window.openWorkflow(documentOf({tableCell("Samples"), karvonCell()})), kOpened);
+    const QSignalSpy told(&window.state(), &PropertyEditorWindowPrivate::samplesChanged);
+    window.state().connectGridWidgets();
+    SamplePathAndName sample;
+    sample.name = u"one"_s;
+    sample.path = u"/data/one.mzML"_s;
+    shown<SamplesAndTracesInputWidget>(window)->addNewSampleFiles({sample});
+    QCOMPARE(told.size(), 0);
+    QCoreApplication::processEvents();
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.first().first().value<QList<SamplesInput::Entry>>().size(), 1);
+}
+
+void DependentWidgetsTest::removedColumnsAreForwarded()
+{
+    Window window;
+    QCOMPARE(window.openWorkflow(documentOf({tableCell("Samples")})), kOpened);
+    const QSignalSpy told(&window.state(), &PropertyEditorWindowPrivate::removeCustomColumn);
+    Q_EMIT shown<SamplesAndTracesInputWidget>(window)->removeCustomColumn(u"Batch"_s);
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.first().first().toString(), u"Batch"_s);
+}
+
+void DependentWidgetsTest::theLastSamplesCount()
+{
+    Window window;
+    QCOMPARE(window.openWorkflow(documentOf({tableCell("Samples"), tableCell("Samples")})), kOpened);
+    const QSignalSpy told(&window.state(), &PropertyEditorWindowPrivate::removeCustomColumn);
+    auto *first = qobject_cast<SamplesAndTracesInputWidget *>(window.grid(0)->items().at(0)->widget());
+    auto *last = qobject_cast<SamplesAndTracesInputWidget *>(window.grid(0)->items().at(1)->widget());
+    Q_EMIT first->removeCustomColumn(u"A"_s);
+    Q_EMIT last->removeCustomColumn(u"B"_s);
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.first().first().toString(), u"B"_s);
+}
+
+void DependentWidgetsTest::tableOfProteinsIsToldOnce()
+{
+    Window window;
+    QCOMPARE(window.openWorkflow(documentOf({tableCell("Proteins")})), kOpened);
+    const QSignalSpy told(shown<ProteinOptionsWidget>(window)->proteinTableWidget(),
+                          &ProteinTableWidget::proteinsChanged);
+    const LogCapture log;
+    window.grid(0)->appendColumn(BaseItemType::Karvon, u"Search"_s, true);
+    QCOMPARE(told.size(), 1);
+}
+
+WIDGET_REGISTER_TEST(DependentWidgetsTest)
+#include "DependentWidgetsTest.moc"

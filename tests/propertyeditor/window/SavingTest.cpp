@@ -1,0 +1,218 @@
+#include "WidgetTest.h"
+#include "WindowFixture.h"
+
+#include <KProperty.h>
+#include <KPropertySet.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace orv;
+using namespace WindowFixture;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kOpened = PropertyEditorWindow::OpenStatus::Opened;
+
+QJsonObject twoTabs()
+{
+    QJsonObject document = documentOf({karvonCell()});
+    QJsonArray tabs = document[u"tabs"_s].toArray();
+    tabs.append(Documents::tab(u"Views"_s, {u"Preview"_s}, {previewCell()}));
+    document[u"tabs"_s] = tabs;
+    return document;
+}
+
+} // namespace
+
+class SavingTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void nameFollowsTheFile();
+    void theWindowGoesOnWithWhatWasWritten();
+    void relativePathsBecomeAbsolute();
+    void nothingChosenSavesNothing();
+    void failedWritesLeaveTheWindow();
+    void newerFilesAreNotReplaced();
+    void unknownEntriesAreAskedFor();
+    void portableFoldersAreWritten();
+    void portableFailuresAreTold();
+    void portableSavesOverTheirOwnFolder();
+};
+
+void SavingTest::nameFollowsTheFile()
+{
+    const QTemporaryDir folder;
+    Window window;
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", twoTabs())), kOpened);
+    const QString path = folder.filePath(u"b.c.wflw"_s);
+    QVERIFY(window.saveWorkflowToJSON(path));
+    const PropertyEditorContent written(TestData::read(path));
+    QCOMPARE(WflwMetaData::nameFromMetaDataObject(written.metadata()), u"b.c"_s);
+    QCOMPARE(WflwMetaData::nameFromMetaDataObject(window.state().workflowMetadata()), u"b.c"_s);
+    QCOMPARE(WflwMetaData::versionFromMetaDataObject(written.metadata()), u"5.47.0"_s);
+}
+
+void SavingTest::theWindowGoesOnWithWhatWasWritten()
+{
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    Window window;
+    window.show();
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", twoTabs())), kOpened);
+    window.tabs().setCurrentIndex(1);
+    const QPointer<PropertyGridWidget> before = window.grid(1);
+    const QString path = folder.filePath(u"b.wflw"_s);
+    answers.expectPath(u"Save Workflow"_s, path);
+    window.click("Save Workflow...");
+    QVERIFY(answers.transcript().last().startPath.endsWith(u"/Mixture"_s));
+    QCOMPARE(answers.transcript().last().text, u"Workflow (*.wflw)"_s);
+    QCOMPARE(window.tabs().currentIndex(), 1);
+    QCOMPARE(window.windowTitle(), QDir::toNativeSeparators(path) + u" - Project Creation"_s);
+    QVERIFY(window.grid(1) != before);
+    QVERIFY(window.close());
+    QVERIFY(answers.isDone());
+}
+
+void SavingTest::relativePathsBecomeAbsolute()
+{
+    const QTemporaryDir folder;
+    write(folder, "layout.ini", QByteArray("[View]"));
+    Window window;
+    const QJsonObject document = documentOf({karvonCell({setting("KarvonLayout", u"layout.ini"_s)})});
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", document)), kOpened);
+    QVERIFY(QDir(folder.path()).mkdir(u"other"_s));
+    const QString path = folder.filePath(u"other/b.wflw"_s);
+    QVERIFY(window.saveWorkflowToJSON(path));
+    QVERIFY2(TestData::read(path).contains((folder.path() + u"/layout.ini"_s).toUtf8()),
+             TestData::read(path).constData());
+}
+
+void SavingTest::nothingChosenSavesNothing()
+{
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    Window window;
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", twoTabs())), kOpened);
+    answers.expectPath(u"Save Workflow"_s, {});
+    QVERIFY(!window.saveWorkflowAs());
+    QVERIFY(window.windowTitle().contains(u"a.wflw"_s));
+}
+
+void SavingTest::failedWritesLeaveTheWindow()
+{
+    const LogCapture log;
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    Window window;
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", twoTabs())), kOpened);
+    const QPointer<PropertyGridWidget> before = window.grid(0);
+    const QString title = window.windowTitle();
+    answers.expectBox({}, u"OK"_s);
+    QVERIFY(!window.saveWorkflowToJSON(folder.filePath(u"no/such/b.wflw"_s)));
+    QCOMPARE(answers.transcript().first().kind, DialogRequest::Kind::Critical);
+    QCOMPARE(answers.transcript().first().text, u"Failed to save the workflow"_s);
+    QVERIFY(answers.transcript().first().details.contains(u"no/such/b.wflw"_s));
+    QCOMPARE(window.windowTitle(), title);
+    QCOMPARE(window.grid(0), before);
+    QCOMPARE(WflwMetaData::nameFromMetaDataObject(window.state().workflowMetadata()), u"Mixture"_s);
+}
+
+void SavingTest::newerFilesAreNotReplaced()
+{
+    const LogCapture log;
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    Window window;
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", twoTabs())), kOpened);
+    const QString newer = write(folder, "b.wflw", documentOf({karvonCell()}, metadata("5.48.0")));
+    const QByteArray before = TestData::read(newer);
+    answers.expectBox({}, u"OK"_s);
+    QVERIFY(!window.saveWorkflowToJSON(newer));
+    QCOMPARE(TestData::read(newer), before);
+    QVERIFY(answers.transcript().first().details.contains(u"5.48.0"_s));
+}
+
+void SavingTest::unknownEntriesAreAskedFor()
+{
+    const as::ScopedOverride tolerant(as::kWorkflowVerificationEnabled, false);
+    const LogCapture log;
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    Window window;
+    const QJsonObject document =
+        documentOf({karvonCell({setting("OfAnotherApplication", u"worth keeping"_s)})});
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", document)), kOpened);
+    const QString path = folder.filePath(u"b.wflw"_s);
+    answers.expectBox(u"Save Workflow"_s, u"Cancel"_s);
+    QVERIFY(!window.saveWorkflowToJSON(path));
+    QVERIFY(!QFileInfo::exists(path));
+    QVERIFY(answers.transcript().first().details.contains(u"OfAnotherApplication"_s));
+    answers.expectBox(u"Save Workflow"_s, u"Save"_s);
+    QVERIFY(window.saveWorkflowToJSON(path));
+    QVERIFY(QFileInfo::exists(path));
+}
+
+void SavingTest::portableFoldersAreWritten()
+{
+    const QTemporaryDir folder;
+    write(folder, "layout.ini", QByteArray("[View]"));
+    ScriptedAnswerer answers;
+    Window window;
+    window.show();
+    const QJsonObject document = documentOf({karvonCell({setting("KarvonLayout", u"layout.ini"_s)})});
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", document)), kOpened);
+    const QString target = folder.filePath(u"b.wflwp"_s);
+    answers.expectPath(u"Save As Portable Workflow"_s, target);
+    window.click("Save As Portable Workflow...");
+    QVERIFY(answers.isDone());
+    QVERIFY(answers.transcript().first().startPath.endsWith(u"/Mixture"_s));
+    QCOMPARE(window.state().workflowFilePath(), target + u"/b.wflw"_s);
+    QVERIFY(window.windowTitle().endsWith(QDir::toNativeSeparators(u"b.wflwp/b.wflw - Project Creation"_s)));
+    QVERIFY(QFileInfo::exists(target + u"/layout.ini"_s));
+    QCOMPARE(WflwMetaData::nameFromMetaDataObject(window.state().workflowMetadata()), u"b"_s);
+    QCOMPARE(window.tabs().count(), 1);
+}
+
+void SavingTest::portableFailuresAreTold()
+{
+    const LogCapture log;
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    Window window;
+    window.show();
+    const QJsonObject document = documentOf({karvonCell({setting("KarvonLayout", u"missing.ini"_s)})});
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", document)), kOpened);
+    answers.expectPath(u"Save As Portable Workflow"_s, folder.filePath(u"b.wflwp"_s));
+    answers.expectBox({}, u"OK"_s);
+    window.click("Save As Portable Workflow...");
+    QVERIFY(answers.isDone());
+    QVERIFY2(answers.transcript().last().text.contains(u"missing.ini"_s),
+             qPrintable(answers.transcript().last().text));
+    QVERIFY(window.windowTitle().contains(u"a.wflw"_s));
+    QVERIFY(!QFileInfo::exists(folder.filePath(u"b.wflwp"_s)));
+}
+
+void SavingTest::portableSavesOverTheirOwnFolder()
+{
+    const QTemporaryDir folder;
+    write(folder, "layout.ini", QByteArray("[View]"));
+    ScriptedAnswerer answers;
+    Window window;
+    window.show();
+    const QJsonObject document = documentOf({karvonCell({setting("KarvonLayout", u"layout.ini"_s)})});
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", document)), kOpened);
+    const QString target = folder.filePath(u"b.wflwp"_s);
+    for (int i = 0; i < 2; ++i) {
+        answers.expectPath(u"Save As Portable Workflow"_s, target);
+        window.click("Save As Portable Workflow...");
+    }
+    QVERIFY(answers.isDone());
+    QCOMPARE(TestData::read(target + u"/layout.ini"_s), QByteArray("[View]"));
+}
+
+WIDGET_REGISTER_TEST(SavingTest)
+#include "SavingTest.moc"

@@ -1,0 +1,297 @@
+#include "WidgetTest.h"
+#include "WindowFixture.h"
+
+#include <orv/propertyeditor/window/PropertyEditorWindowJsonFile.h>
+#include <orv/widgets/SamplesAndTracesInputWidget.h>
+
+#include <QComboBox>
+#include <QDialog>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QSignalSpy>
+
+using namespace orv;
+using namespace WindowFixture;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kOpened = PropertyEditorWindow::OpenStatus::Opened;
+
+QStringList titles(Window &window)
+{
+    QStringList titles;
+    for (int i = 0; i < window.tabs().count(); ++i)
+        titles.append(window.tabs().tabText(i));
+    return titles;
+}
+
+/// A window in designer mode with two tabs.
+struct Designed
+{
+    Designed()
+    {
+        window.state().setEditorMode(GridPropertyEditorView::EditorMode::Designer);
+        window.show();
+        for (const char *title : {"Search", "Views"}) {
+            const Error error =
+                window.addTabWithColumns(text(title), {u"First"_s}, {Documents::toBytes(karvonCell())});
+            if (error.hasError())
+                qFatal("The fixture doesn't load: %s", qPrintable(error.errorMessage()));
+        }
+    }
+
+    Window window;
+    ScriptedAnswerer answers;
+};
+
+} // namespace
+
+class WindowTabsTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tabsAreAddedByName();
+    void currentTabIsRemovedOnlyIfWanted();
+    void withoutTabsNothingIsAsked();
+    void columnsAreAppended();
+    void buttonsOfATab();
+    void rowsComeByFeature();
+    void presetsReplaceTheCurrentTab();
+    void presetsThatCannotBeReadChangeNothing();
+    void presetsAreSaved();
+    void presetsWithoutATab();
+    void otherTabsAreNotSaved();
+    void brokenCellsAddNoTab();
+    void currentTabContent();
+    void clearingKeepsMetadata();
+    void emptyWorkflows();
+    void listenersMayCloseTheWindow();
+};
+
+void WindowTabsTest::tabsAreAddedByName()
+{
+    Designed designed;
+    designed.answers.expectDialog(u"Add tab"_s, [](QDialog &) { return false; });
+    designed.window.click("Add tab");
+    QCOMPARE(titles(designed.window), (QStringList{u"Search"_s, u"Views"_s}));
+    designed.answers.expectDialog(u"Add tab"_s, [](QDialog &dialog) {
+        QTest::keyClicks(dialog.findChild<QLineEdit *>(), u"Reports"_s);
+        return true;
+    });
+    designed.window.click("Add tab");
+    QCOMPARE(titles(designed.window), (QStringList{u"Search"_s, u"Views"_s, u"Reports"_s}));
+    QVERIFY(designed.window.grid(2)->items().isEmpty());
+}
+
+void WindowTabsTest::currentTabIsRemovedOnlyIfWanted()
+{
+    Designed designed;
+    designed.window.tabs().setCurrentIndex(0);
+    designed.answers.expectBox(u"Removing tab"_s, u"No"_s);
+    designed.window.click("Remove current tab");
+    QCOMPARE(titles(designed.window), (QStringList{u"Search"_s, u"Views"_s}));
+    designed.answers.expectBox(u"Removing tab"_s, u"Yes"_s);
+    designed.window.click("Remove current tab");
+    QCOMPARE(titles(designed.window), QStringList{u"Views"_s});
+    QCOMPARE(transcriptOf(designed.answers).last(),
+             u"question | Removing tab | Are you sure you want to remove current tab? | Yes [No]"_s);
+    QVERIFY(designed.answers.isDone());
+}
+
+void WindowTabsTest::withoutTabsNothingIsAsked()
+{
+    const ScriptedAnswerer answers;
+    Window window;
+    window.removeCurrentTab();
+    window.appendRow();
+    QVERIFY(answers.transcript().isEmpty());
+}
+
+void WindowTabsTest::columnsAreAppended()
+{
+    const LogCapture log;
+    Designed designed;
+    designed.window.tabs().setCurrentIndex(1);
+    designed.answers.expectDialog(u"Add column"_s, [](QDialog &dialog) {
+        auto *types = dialog.findChild<QComboBox *>();
+        QTest::keyClicks(dialog.findChild<QLineEdit *>(), u"Files"_s);
+        types->setCurrentText(u"Samples"_s);
+        return types->currentText() == u"Samples"_s;
+    });
+    for (QToolButton *button : designed.window.grid(1)->findChildren<QToolButton *>()) {
+        if (button->text() == u"Append column"_s)
+            QTest::mouseClick(button, Qt::LeftButton);
+    }
+    QVERIFY(designed.answers.isDone());
+    QCOMPARE(designed.window.grid(1)->columnNames(), (QStringList{u"First"_s, u"Files"_s}));
+    QCOMPARE(designed.window.grid(1)->items().last()->type(), BaseItemType::Samples);
+    QCOMPARE(designed.window.grid(0)->items().size(), 1);
+}
+
+void WindowTabsTest::buttonsOfATab()
+{
+    Designed designed;
+    const QHBoxLayout *row = designed.window.grid(0)->buttonsLayout();
+    QStringList captions;
+    for (int i = 0; i < row->count(); ++i) {
+        if (const auto *button = qobject_cast<QToolButton *>(row->itemAt(i)->widget())) {
+            captions.append(button->text());
+            QCOMPARE(button->toolTip(), button->text());
+        }
+    }
+    QCOMPARE(captions, (QStringList{u"Append column"_s, u"Open Tab Preset..."_s, u"Save Tab Preset..."_s}));
+    QVERIFY(row->itemAt(row->count() - 1)->spacerItem());
+    QVERIFY(row->itemAt(0)->widget() != designed.window.grid(1)->buttonsLayout()->itemAt(0)->widget());
+}
+
+void WindowTabsTest::rowsComeByFeature()
+{
+    const as::ScopedOverride rows(as::kMultiRowEnabled, true);
+    Designed designed;
+    const auto *button =
+        qobject_cast<QToolButton *>(designed.window.grid(0)->buttonsLayout()->itemAt(1)->widget());
+    QCOMPARE(button->text(), u"Append row"_s);
+    designed.window.appendRow();
+    QCOMPARE(designed.window.grid(0)->items().size(), 1);
+}
+
+void WindowTabsTest::presetsReplaceTheCurrentTab()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.ptab"_s);
+    QVERIFY(PropertyEditorWindowJsonFile(path).saveTabToJson(
+        PropertyEditorContent(documentOf({previewCell(), karvonCell()}))));
+    Designed designed;
+    designed.window.tabs().setCurrentIndex(0);
+    designed.answers.expectPath(u"Open Tab"_s, path);
+    QVERIFY(designed.window.openTabPreset());
+    QCOMPARE(titles(designed.window), (QStringList{u"Analysis"_s, u"Views"_s}));
+    QCOMPARE(designed.window.grid(0)->columnNames(), (QStringList{u"Preview"_s, u"Karvon"_s}));
+    QCOMPARE(designed.window.grid(0)->items().first()->type(), BaseItemType::Preview);
+    QCOMPARE(designed.answers.transcript().last().text, u"Tab preset (*.ptab)"_s);
+}
+
+void WindowTabsTest::presetsThatCannotBeReadChangeNothing()
+{
+    const LogCapture log;
+    const QTemporaryDir folder;
+    Designed designed;
+    designed.answers.expectPath(u"Open Tab"_s, {});
+    QVERIFY(!designed.window.openTabPreset());
+    designed.answers.expectPath(u"Open Tab"_s, folder.filePath(u"missing.ptab"_s));
+    QVERIFY(!designed.window.openTabPreset());
+    QCOMPARE(titles(designed.window), (QStringList{u"Search"_s, u"Views"_s}));
+    QCOMPARE(designed.window.grid(0)->columnNames(), QStringList{u"First"_s});
+}
+
+void WindowTabsTest::presetsAreSaved()
+{
+    const QTemporaryDir folder;
+    Designed designed;
+    designed.window.tabs().setCurrentIndex(1);
+    designed.answers.expectPath(u"Save tab to file"_s, folder.filePath(u"b.ptab"_s));
+    QVERIFY(designed.window.saveTabPreset());
+    const QJsonObject preset = Documents::parse(TestData::read(folder.filePath(u"b.ptab"_s)));
+    QCOMPARE(preset[u"name"_s].toString(), u"Views"_s);
+    QCOMPARE(preset[u"columns"_s].toArray(), QJsonArray{u"First"_s});
+}
+
+void WindowTabsTest::presetsWithoutATab()
+{
+    const LogCapture log;
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    Window window;
+    answers.expectPath(u"Open Tab"_s, folder.filePath(u"a.ptab"_s));
+    QVERIFY(!window.openTabPreset());
+    answers.expectPath(u"Save tab to file"_s, folder.filePath(u"a.ptab"_s));
+    QVERIFY(!window.saveTabPreset());
+    QCOMPARE(log.warnings(), QStringList{u"There is no content"_s});
+}
+
+void WindowTabsTest::otherTabsAreNotSaved()
+{
+    Designed designed;
+    designed.window.tabs().insertTab(1, new QWidget, u"Help"_s);
+    const PropertyEditorContent::Tabs tabs = designed.window.content().tabsAndContent();
+    QCOMPARE(tabs.size(), 2);
+    QCOMPARE(tabs.at(1).first, u"Views"_s);
+    designed.window.tabs().setCurrentIndex(1);
+    QVERIFY(designed.window.currentTabContent().tabsAndContent().isEmpty());
+    QVERIFY(!designed.window.state().currentTabHasWidget());
+    designed.window.state().setEditorMode(GridPropertyEditorView::EditorMode::User);
+}
+
+void WindowTabsTest::brokenCellsAddNoTab()
+{
+    const LogCapture log;
+    Window window;
+    const Error error = window.addTabWithColumns(u"Search"_s, {u"First"_s}, {QByteArray("{")});
+    QVERIFY(error.hasError());
+    QCOMPARE(window.tabs().count(), 0);
+}
+
+void WindowTabsTest::currentTabContent()
+{
+    Designed designed;
+    designed.window.tabs().setCurrentIndex(1);
+    const PropertyEditorContent content = designed.window.currentTabContent();
+    QCOMPARE(content.tabsAndContent().size(), 1);
+    QCOMPARE(content.tabsAndContent().first().first, u"Views"_s);
+    QCOMPARE(content.metadata(), QJsonObject());
+    designed.window.clear();
+    QVERIFY(designed.window.currentTabContent().tabsAndContent().isEmpty());
+}
+
+void WindowTabsTest::clearingKeepsMetadata()
+{
+    Window window;
+    QCOMPARE(window.openWorkflow(documentOf({karvonCell()})), kOpened);
+    const QJsonObject saved = window.state().getLastSavedWorkflow();
+    QVERIFY(!saved.isEmpty());
+    window.clear();
+    QCOMPARE(window.tabs().count(), 0);
+    QCOMPARE(window.windowTitle(), u"Project Creation"_s);
+    QCOMPARE(window.state().workflowFilePath(), QString());
+    QVERIFY(window.state().workflowBaseUrl().isEmpty());
+    QCOMPARE(window.state().workflowMetadata(), metadata());
+    QCOMPARE(window.state().getLastSavedWorkflow(), saved);
+}
+
+void WindowTabsTest::emptyWorkflows()
+{
+    Window window;
+    QCOMPARE(window.openWorkflow(documentOf({karvonCell()})), kOpened);
+    window.createEmptyWorkflow();
+    QCOMPARE(window.tabs().count(), 0);
+    QCOMPARE(window.state().workflowMetadata(), QJsonObject());
+    QCOMPARE(window.windowTitle(), u"Project Creation"_s);
+    QVERIFY(!window.state().workflowFilePath().isNull());
+}
+
+void WindowTabsTest::listenersMayCloseTheWindow()
+{
+    const LogCapture log;
+    auto *window = new Window;
+    const QPointer<Window> guard(window);
+    connect(&window->tabs(), &QTabWidget::currentChanged, window, [guard](int index) {
+        if (index == 1)
+            delete guard;
+    });
+    QJsonObject document = documentOf({karvonCell()});
+    QJsonArray tabs = document[u"tabs"_s].toArray();
+    tabs.append(Documents::tab(u"Second"_s, {u"A"_s}, {karvonCell()}));
+    document[u"tabs"_s] = tabs;
+    connect(&window->tabs(), &QTabWidget::currentChanged, window, [guard] {
+        if (guard && guard->tabs().count() == 1)
+            guard->deleteLater();
+    });
+    window->openWorkflow(document);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!guard);
+}
+
+WIDGET_REGISTER_TEST(WindowTabsTest)
+#include "WindowTabsTest.moc"
