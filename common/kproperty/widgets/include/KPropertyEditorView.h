@@ -54,6 +54,16 @@ public:
     bool groupItemsExpanded() const;
     bool toolTipsVisible() const;
 
+    /// Says at the row of \a property, in words for people, what its value doesn't tell: a sign in the cell,
+    /// the text in the tool tip and for screen readers. It stays until the value changes, an editor of the
+    /// row is left other than by Escape, or another set comes; an empty text takes it away.
+    void setRemark(const KProperty &property, const QString &text);
+    QString remark(const KProperty &property) const;
+
+    /// For editors of this view that put back what a person typed: the remark why. Also for closed ones, as
+    /// long as they exist; after Escape nothing is said.
+    void refuseInput(const QWidget *editor, const QString &reason);
+
 public Q_SLOTS:
     /// Builds the tree anew, also for the same set. An open editor commits first.
     void changeSet(KPropertySet *set, SetOptions options = SetOption::None);
@@ -117,6 +127,8 @@ private:
     void letGoOfSet();
     void dropRow(const KProperty &property);
     void scrollToCurrentLater();
+    void announceRemark(const KProperty &property);
+    void endRemark(const QWidget *editor);
     void sizeColumns();
     QRect dividerArea() const;
     void drawGroup(QPainter *painter, const QStyleOptionViewItem &option, const QRect &row,

@@ -325,11 +325,13 @@ void KPropertyEditorView::dataChanged(const QModelIndex &topLeft, const QModelIn
 
 void KPropertyEditorView::slotPropertyChanged(KPropertySet &, KProperty &property)
 {
+    d->model->setRemark(&property, QString());
     d->model->refresh(&property);
 }
 
 void KPropertyEditorView::slotPropertyReset(KPropertySet &, KProperty &property)
 {
+    d->model->setRemark(&property, QString());
     d->model->refresh(&property);
     updateEditorGeometries();
 }
@@ -360,6 +362,7 @@ void KPropertyEditorView::closeEditor(QWidget *editor, QAbstractItemDelegate::En
     }
     // Rows that were rebuilt meanwhile took the editor with them.
     const bool isRow = d->delegate->editedIndex().isValid();
+    const QPointer<QWidget> closed = editor;
     d->delegate->releaseEditor(hint == QAbstractItemDelegate::RevertModelCache
                                    ? ItemDelegate::LateInput::Refused
                                    : ItemDelegate::LateInput::Accepted);
@@ -372,6 +375,8 @@ void KPropertyEditorView::closeEditor(QWidget *editor, QAbstractItemDelegate::En
     if (hadFocus) {
         setFocus();
     }
+    // By now the editor has told what it had to tell.
+    endRemark(closed);
     if (hint == QAbstractItemDelegate::EditNextItem || hint == QAbstractItemDelegate::EditPreviousItem) {
         editNext(hint);
     }

@@ -36,12 +36,30 @@ QString asHtml(const QString &text)
     return text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
 }
 
-/// The caption, which the column may cut, above the description.
-QString toolTip(const KProperty &property)
+/// Remarks quote what people type, which is never markup.
+QString remarkAsHtml(const QString &remark)
 {
-    const QString head = QLatin1String("<b>") + asHtml(caption(property).trimmed()) + QLatin1String("</b>");
+    return remark.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
+}
+
+/// The caption, which the column may cut, above what is remarked and the description.
+QString toolTip(const KProperty &property, const QString &remark)
+{
+    QStringList lines = {QLatin1String("<b>") + asHtml(caption(property).trimmed()) + QLatin1String("</b>")};
+    if (!remark.isEmpty()) {
+        lines.append(remarkAsHtml(remark));
+    }
+    if (const QString description = property.description(); !description.isEmpty()) {
+        lines.append(asHtml(description));
+    }
+    return lines.join(QLatin1String("<br>"));
+}
+
+QString spokenDescription(const KProperty &property, const QString &remark)
+{
     const QString description = property.description();
-    return description.isEmpty() ? head : head + QLatin1String("<br>") + asHtml(description);
+    return remark.isEmpty() || description.isEmpty() ? remark + description
+                                                     : remark + QLatin1Char('\n') + description;
 }
 
 QString valueText(const KProperty &property)
@@ -66,13 +84,49 @@ EditorDataModel::~EditorDataModel() = default;
 void EditorDataModel::setSet(KPropertySet *set, Options options)
 {
     beginResetModel();
+    const QHash<QByteArray, QString> kept = set == m_set ? remarks() : QHash<QByteArray, QString>();
     m_set = set;
     m_nodes.clear();
     m_root = std::make_unique<Node>();
     if (m_set) {
         build(options);
     }
+    for (auto it = kept.cbegin(); it != kept.cend(); ++it) {
+        if (Node *const node = m_nodes.value(&m_set->property(it.key()))) {
+            node->remark = it.value();
+        }
+    }
     endResetModel();
+}
+
+QHash<QByteArray, QString> EditorDataModel::remarks() const
+{
+    QHash<QByteArray, QString> remarks;
+    for (auto it = m_nodes.cbegin(); it != m_nodes.cend(); ++it) {
+        // Names of children aren't unique.
+        if (!it.value()->remark.isEmpty() && !it.key()->parent()) {
+            remarks.insert(it.key()->name(), it.value()->remark);
+        }
+    }
+    return remarks;
+}
+
+void EditorDataModel::setRemark(const KProperty *property, const QString &text)
+{
+    Node *const node = m_nodes.value(property);
+    if (!node || node->remark == text) {
+        return;
+    }
+    node->remark = text;
+    const QModelIndex name = indexOf(node, NameColumn);
+    const QList<int> roles = {Qt::ToolTipRole, Qt::AccessibleDescriptionRole};
+    Q_EMIT dataChanged(name, name.siblingAtColumn(ValueColumn), roles);
+}
+
+QString EditorDataModel::remark(const KProperty *property) const
+{
+    const Node *const node = m_nodes.value(property);
+    return node ? node->remark : QString();
 }
 
 void EditorDataModel::build(Options options)
@@ -320,10 +374,12 @@ QVariant EditorDataModel::data(const QModelIndex &index, int role) const
         return groupData(node, index.column(), role);
     }
     if (role == Qt::ToolTipRole) {
-        return m_toolTipsVisible ? QVariant(toolTip(*node.property)) : QVariant();
+        return m_toolTipsVisible       ? QVariant(toolTip(*node.property, node.remark))
+               : node.remark.isEmpty() ? QVariant()
+                                       : QVariant(remarkAsHtml(node.remark));
     }
     if (role == Qt::AccessibleDescriptionRole) {
-        const QString description = node.property->description();
+        const QString description = spokenDescription(*node.property, node.remark);
         return description.isEmpty() ? QVariant() : QVariant(description);
     }
     return index.column() == NameColumn ? nameData(*node.property, role) : valueData(*node.property, role);

@@ -39,6 +39,10 @@ public:
     void setSet(KPropertySet *set, Options options);
     void setToolTipsVisible(bool visible);
     void removeProperty(const KProperty *property);
+    /// A sentence at the row of \a property; an empty one takes it away. Rows that are made anew for the same
+    /// set keep theirs.
+    void setRemark(const KProperty *property, const QString &text);
+    [[nodiscard]] QString remark(const KProperty *property) const;
     /// Tells views that the value of \a property or of its children changed.
     void refresh(const KProperty *property);
     void refreshAll();
@@ -64,12 +68,14 @@ private:
         Node *parent = nullptr;
         KProperty *property = nullptr;
         QByteArray group;
+        QString remark;
         /// The place among the children of the parent, which stays when others go.
         std::size_t slot = 0;
         std::vector<std::unique_ptr<Node>> children;
         RowOrder rows;
     };
 
+    [[nodiscard]] QHash<QByteArray, QString> remarks() const;
     void build(Options options);
     Node *addNode(Node *parent, KProperty *property);
     void forget(const Node &node);

@@ -108,6 +108,27 @@ void ItemDelegate::releaseEditor(LateInput late)
     m_editor = nullptr;
 }
 
+KProperty *ItemDelegate::propertyFor(const QWidget *editor) const
+{
+    const Edited *const edits = edited(editor);
+    return edits && edits->takesLateInput ? edits->address.findEditable() : nullptr;
+}
+
+bool ItemDelegate::endsRemark(const QWidget *editor) const
+{
+    const Edited *const edits = edited(editor);
+    return edits && edits->endsRemark;
+}
+
+void ItemDelegate::keepRemark(const KProperty &property)
+{
+    for (Edited &edits : m_edited) {
+        if (edits.address.find() == &property) {
+            edits.endsRemark = false;
+        }
+    }
+}
+
 void ItemDelegate::restoreValue()
 {
     const Edited *const open = edited(m_editor);
@@ -149,12 +170,24 @@ void ItemDelegate::paintValue(QPainter *painter, const QStyleOptionViewItem &opt
         valueOption.palette.setColor(QPalette::Disabled, QPalette::Text, grey);
     }
     valueOption.rect = Painting::besideRevertButton(option, property);
+    if (!m_model->remark(&property).isEmpty()) {
+        paintRemarkSign(painter, &valueOption);
+    }
     painter->save();
     painter->setClipRect(valueOption.rect, Qt::IntersectClip);
     if (!KPropertyWidgetsPluginManager::self()->paint(property.type(), painter, valueOption, index)) {
         Painting::drawText(painter, valueOption, index.data(Qt::DisplayRole).toString());
     }
     painter->restore();
+}
+
+void ItemDelegate::paintRemarkSign(QPainter *painter, QStyleOptionViewItem *option) const
+{
+    const int size = option->fontMetrics.height();
+    QRect sign(option->rect.left() + Painting::textMargin(), option->rect.top() + Painting::verticalPadding(),
+               size, size);
+    Painting::placeInFront(&sign, option);
+    m_view->style()->standardIcon(QStyle::SP_MessageBoxWarning, option, m_view).paint(painter, sign);
 }
 
 void ItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
@@ -215,6 +248,7 @@ QWidget *ItemDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
     open.index = index;
     open.address = PropertyAddress(m_model->propertySet(), *property);
     rememberState(&open, *property);
+    open.endsRemark = !m_model->remark(property).isEmpty();
     m_edited.insert(editor, open);
     auto *const self = const_cast<ItemDelegate *>(this);
     connect(editor, &QObject::destroyed, self, [self](const QObject *gone) { self->m_edited.remove(gone); });
@@ -225,8 +259,10 @@ QWidget *ItemDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
 void ItemDelegate::prepareEditor(QWidget *editor, const KProperty &property) const
 {
     editor->setAutoFillBackground(true);
+    const QString description = m_model->data(editedIndex(), Qt::AccessibleDescriptionRole).toString();
+    editor->setToolTip(m_model->remark(&property).toHtmlEscaped());
     editor->setAccessibleName(property.captionOrName());
-    editor->setAccessibleDescription(property.description());
+    editor->setAccessibleDescription(description);
     auto *const self = const_cast<ItemDelegate *>(this);
     // By name: the editor may be of any class that has the signal.
     if (editor->metaObject()->indexOfSignal("commitData(QWidget*)") >= 0) {
@@ -238,7 +274,7 @@ void ItemDelegate::prepareEditor(QWidget *editor, const KProperty &property) con
     }
     if (QWidget *const focusWidget = editor->focusProxy()) {
         focusWidget->setAccessibleName(property.captionOrName());
-        focusWidget->setAccessibleDescription(property.description());
+        focusWidget->setAccessibleDescription(description);
         focusWidget->installEventFilter(self);
     }
     watchMouse(editor);

@@ -35,6 +35,12 @@ public:
     };
     /// The editor is closed; Qt deletes it later. \a late says what becomes of what it tells after that.
     void releaseEditor(LateInput late);
+    /// The property that \a editor edits or edited; null when it is gone, and when what the editor tells is
+    /// refused.
+    [[nodiscard]] KProperty *propertyFor(const QWidget *editor) const;
+    /// Whether the row of \a editor had a remark when it opened, and no new one came since.
+    [[nodiscard]] bool endsRemark(const QWidget *editor) const;
+    void keepRemark(const KProperty &property);
     /// Takes back what the open editor wrote since it was opened, or since a dialog last gave an answer.
     void restoreValue();
 
@@ -64,6 +70,7 @@ private:
         bool modifiedBefore = false;
         bool wasClicked = false;
         bool takesLateInput = true;
+        bool endsRemark = false;
     };
 
     [[nodiscard]] Edited *edited(const QObject *editor) const;
@@ -76,6 +83,7 @@ private:
     void sendEditEvent(QWidget *asking);
     void paintName(QPainter *painter, const QStyleOptionViewItem &option, const KProperty &property,
                    const QModelIndex &index) const;
+    void paintRemarkSign(QPainter *painter, QStyleOptionViewItem *option) const;
     void paintValue(QPainter *painter, const QStyleOptionViewItem &option, const KProperty &property,
                     const QModelIndex &index) const;
     void prepareEditor(QWidget *editor, const KProperty &property) const;

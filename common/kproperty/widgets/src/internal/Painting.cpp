@@ -129,7 +129,7 @@ void drawText(QPainter *painter, const QStyleOptionViewItem &option, const QStri
         top += (rect.height() - option.fontMetrics.height()) / 2;
     }
     for (const QString &line : std::as_const(lines)) {
-        const QString shown = option.fontMetrics.elidedText(line, Qt::ElideRight, rect.width());
+        const QString shown = option.fontMetrics.elidedText(line, option.textElideMode, rect.width());
         painter->drawText(QRect(rect.left(), top, rect.width(), option.fontMetrics.height()),
                           Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
         top += option.fontMetrics.lineSpacing();

@@ -26,7 +26,7 @@ void placeInFront(QRect *sign, QStyleOptionViewItem *option);
 void drawFocus(QPainter *painter, const QRect &rect, const QPalette &palette);
 /// The frame of a check box, which styles draw too faint to be seen in dark colours.
 void drawBoxFrame(QPainter *painter, const QRect &box, const QPalette &palette);
-/// Text of one or several lines. What has no room, at the end of a line or below, is an ellipsis.
+/// Text of one or several lines. What has no room, in a line where the option says or below, is an ellipsis.
 void drawText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text);
 void drawRevertButton(QPainter *painter, const QRect &rect, const QPalette &palette);
 void drawGroupRow(QPainter *painter, const QStyleOptionViewItem &option, const QRect &row,
