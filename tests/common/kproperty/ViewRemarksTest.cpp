@@ -42,7 +42,7 @@ private:
         if (text() != text().toLower()) {
             const QString typed = text();
             setText(m_value);
-            KPropertyUtils::viewForEditor(this)->refuseInput(
+            KPropertyUtils::viewForEditor(this)->setRemark(
                 this, QStringLiteral("\"%1\" was not taken: <b> is no small letter.").arg(typed));
             return;
         }
@@ -247,8 +247,8 @@ void ViewRemarksTest::propertiesMayGo()
     f.typeAndLeave("Loud", Qt::Key_Return);
     QWidget *const editor = f.open();
     f.set.removeProperty("picky");
-    f.view.refuseInput(editor, text("too late"));
-    f.view.refuseInput(nullptr, text("nobody"));
+    f.view.setRemark(editor, text("too late"));
+    f.view.setRemark(static_cast<QWidget *>(nullptr), text("nobody"));
     const KProperty stranger("picky", text("x"));
     f.view.setRemark(stranger, text("not shown"));
     QCOMPARE(f.view.remark(stranger), QString());

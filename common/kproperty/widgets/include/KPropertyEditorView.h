@@ -60,9 +60,9 @@ public:
     void setRemark(const KProperty &property, const QString &text);
     QString remark(const KProperty &property) const;
 
-    /// For editors of this view that put back what a person typed: the remark why. Also for closed ones, as
-    /// long as they exist; after Escape nothing is said.
-    void refuseInput(const QWidget *editor, const QString &reason);
+    /// The same for what \a editor of this view edits or edited: why a text was put back, say. Nothing is
+    /// said after Escape.
+    void setRemark(const QWidget *editor, const QString &text);
 
 public Q_SLOTS:
     /// Builds the tree anew, also for the same set. An open editor commits first.

@@ -21,10 +21,10 @@ QString KPropertyEditorView::remark(const KProperty &property) const
     return d->model->remark(&property);
 }
 
-void KPropertyEditorView::refuseInput(const QWidget *editor, const QString &reason)
+void KPropertyEditorView::setRemark(const QWidget *editor, const QString &text)
 {
     if (const KProperty *const property = d->delegate->propertyFor(editor)) {
-        setRemark(*property, reason);
+        setRemark(*property, text);
     }
 }
 

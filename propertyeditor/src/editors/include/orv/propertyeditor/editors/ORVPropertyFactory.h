@@ -5,7 +5,8 @@
 
 namespace orv {
 
-/// The editors of this system's own types of properties. GUI thread.
+/// The editors of this system's own types of properties. References are edited in the form for the server
+/// where the main window at construction is that of the server's application. GUI thread.
 class ORV_PROPERTY_EDITOR_EXPORT ORVPropertyFactory : public KPropertyWidgetsFactory
 {
 public:
