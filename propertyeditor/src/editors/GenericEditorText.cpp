@@ -1,7 +1,6 @@
 #include "GenericEditorText.h"
 
 #include <KProperty.h>
-#include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/editors/OrvGenericEditorObjectManager.h>
 
@@ -46,7 +45,10 @@ QString textOf(const KProperty &property, Place place)
 
 QJsonObject objectOf(const QVariant &value)
 {
-    return PropertyEditorJsonUtils::variantToObject(value);
+    if (value.typeId() == QMetaType::QJsonObject)
+        return value.toJsonObject();
+    // Each time a cell is drawn is no occasion to log what stands in it.
+    return QJsonDocument::fromJson(value.toByteArray()).object();
 }
 
 QVariant valueOf(const QJsonObject &object)
