@@ -11,6 +11,7 @@
 #include <orv/propertyeditor/editors/ValueUnitValidator.h>
 #include <orv/widgets/ORVStyle.h>
 
+#include <QFocusEvent>
 #include <QSignalBlocker>
 
 #include <limits>
@@ -90,6 +91,24 @@ void OrvGenericEditor::setValue(const QVariant &value)
     d->value = value;
     const QSignalBlocker blocker(this);
     setText(d->text());
+}
+
+QString OrvGenericEditor::refusal() const
+{
+    const auto *expected = qobject_cast<const ValueUnitValidator *>(validator());
+    return tr("\"%1\" was not taken: type %2.").arg(text(), expected ? expected->expectation() : QString());
+}
+
+void OrvGenericEditor::focusOutEvent(QFocusEvent *event)
+{
+    const bool isRefused =
+        event->reason() != Qt::PopupFocusReason && !hasAcceptableInput() && text() != d->text();
+    if (isRefused) {
+        if (KPropertyEditorView *view = KPropertyUtils::viewForEditor(this))
+            view->setRemark(this, refusal());
+        setText(d->text());
+    }
+    KPropertyStringEditor::focusOutEvent(event);
 }
 
 void OrvGenericEditor::commitText()

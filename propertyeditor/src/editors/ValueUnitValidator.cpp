@@ -1,8 +1,10 @@
 #include "orv/propertyeditor/editors/ValueUnitValidator.h"
 
+#include <QLocale>
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <limits>
 
 namespace orv {
 
@@ -27,6 +29,21 @@ QValidator::State ValueUnitValidator::validate(QString &input, int &) const
     QString unit = parts.value(1);
     int ignored = 0;
     return std::min(m_number.validate(number, ignored), m_unit.validate(unit, ignored));
+}
+
+QString ValueUnitValidator::expectation() const
+{
+    constexpr double kMost = std::numeric_limits<double>::max();
+    const QLocale locale;
+    const QString least = locale.toString(m_number.bottom(), 'g', QLocale::FloatingPointShortest);
+    const QString most = locale.toString(m_number.top(), 'g', QLocale::FloatingPointShortest);
+    const QString form =
+        tr("a number with at most two decimals, a blank, and Da, ppm or mmu, as in \"10 ppm\"");
+    if (m_number.bottom() == -kMost && m_number.top() == kMost)
+        return form;
+    if (m_number.top() == kMost)
+        return tr("%1; the least number is %2").arg(form, least);
+    return tr("%1; the number is from %2 to %3").arg(form, least, most);
 }
 
 } // namespace orv

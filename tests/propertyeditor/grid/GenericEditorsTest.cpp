@@ -1,4 +1,5 @@
 #include "GridFixture.h"
+#include "LeavingWays.h"
 #include "WidgetTest.h"
 
 #include <KPropertyWidgetsPluginManager.h>
@@ -83,7 +84,10 @@ private Q_SLOTS:
     void aLookAtAValueLeavesItsDigits();
     void typedValuesAreTaken_data();
     void typedValuesAreTaken();
+    void invalidTextsGoBack_data();
     void invalidTextsGoBack();
+    void anEmptyValueIsLeftByEveryKey_data();
+    void anEmptyValueIsLeftByEveryKey();
     void theValidatorSaysTheWeaker_data();
     void theValidatorSaysTheWeaker();
     void theDialogEditsAValue();
@@ -217,17 +221,45 @@ void GenericEditorsTest::typedValuesAreTaken()
              QJsonValue(QJsonObject{{text("value"), value}, {text("unit"), unit}}));
 }
 
+void GenericEditorsTest::invalidTextsGoBack_data()
+{
+    LeavingWays::addRows();
+}
+
 void GenericEditorsTest::invalidTextsGoBack()
 {
+    QFETCH(LeavingWays::Way, way);
     Column column;
-    QWidget *editor = openEditor(column, "KarvonFragmentMassError");
-    static_cast<QLineEdit *>(editor)->selectAll();
-    QTest::keyClicks(editor, text("12 pp"));
-    QTest::keyClick(editor, Qt::Key_Return);
-    column.select("Samples");
+    KPropertyCustomEditorView &tree = *column.view->editorView();
+    column.property("KarvonFragmentMassError").setOption("min", 0.0);
+    column.property("KarvonFragmentMassError").setOption("max", 0.5);
+    QVERIFY(LeavingWays::open(tree, "KarvonFragmentMassError"));
+    LeavingWays::type(text("12 pp"));
+    QVERIFY(LeavingWays::leave(tree, way));
+    QCOMPARE(
+        tree.remark(column.property("KarvonFragmentMassError")),
+        text("\"12 pp\" was not taken: type a number with at most two decimals, a blank, and Da, ppm or mmu, "
+             "as in \"10 ppm\"; the number is from 0 to 0.5."));
     QCOMPARE(valueIn(column.item.content(), "KarvonFragmentMassError"),
              QJsonValue(valueWithUnit(10.1234, "ppm")));
     QCOMPARE(shown(column, "KarvonFragmentMassError"), text("10.12 ppm"));
+}
+
+void GenericEditorsTest::anEmptyValueIsLeftByEveryKey_data()
+{
+    LeavingWays::addRows();
+}
+
+void GenericEditorsTest::anEmptyValueIsLeftByEveryKey()
+{
+    QFETCH(LeavingWays::Way, way);
+    Column column(settingsCell(
+        "Karvon", {setting("KarvonFragmentMassError", QJsonObject()), setting("Samples", text("one"))}));
+    KPropertyCustomEditorView &tree = *column.view->editorView();
+    QVERIFY(LeavingWays::open(tree, "KarvonFragmentMassError"));
+    QVERIFY(LeavingWays::leave(tree, way));
+    QCOMPARE(valueIn(column.item.content(), "KarvonFragmentMassError"), QJsonValue(QJsonObject()));
+    QCOMPARE(tree.remark(column.property("KarvonFragmentMassError")), QString());
 }
 
 void GenericEditorsTest::theValidatorSaysTheWeaker_data()

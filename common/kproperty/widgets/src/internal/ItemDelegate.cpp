@@ -11,12 +11,15 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMetaProperty>
 #include <QPainter>
 #include <QPixmap>
 #include <QPlainTextEdit>
+#include <QValidator>
 
 #include <algorithm>
+#include <optional>
 
 namespace Internal {
 
@@ -36,6 +39,35 @@ bool belongsToTextEdit(const QObject *object, const QEvent *event)
     const auto *const key = static_cast<const QKeyEvent *>(event);
     return (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) &&
            !key->modifiers().testFlag(Qt::ControlModifier);
+}
+
+/// How an editor closes at \a key.
+std::optional<QAbstractItemDelegate::EndEditHint> endHint(int key)
+{
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return QAbstractItemDelegate::NoHint;
+    case Qt::Key_Tab:
+        return QAbstractItemDelegate::EditNextItem;
+    case Qt::Key_Backtab:
+        return QAbstractItemDelegate::EditPreviousItem;
+    default:
+        return std::nullopt;
+    }
+}
+
+/// False for a line whose validator refuses its text and can't mend it.
+bool hasAcceptableInput(QWidget *editor)
+{
+    auto *const line = qobject_cast<QLineEdit *>(editor);
+    if (!line || line->hasAcceptableInput() || !line->validator()) {
+        return true;
+    }
+    QString mended = line->text();
+    int position = line->cursorPosition();
+    line->validator()->fixup(mended);
+    return line->validator()->validate(mended, position) == QValidator::Acceptable;
 }
 
 bool scrolls(const QWidget *part)
@@ -369,6 +401,11 @@ bool ItemDelegate::filterKey(QWidget *editor, int key)
 {
     if (key == Qt::Key_Escape) {
         restoreValue();
+    }
+    if (const std::optional<EndEditHint> hint = endHint(key); hint && !hasAcceptableInput(editor)) {
+        // Qt would keep the line open, and with it those who use no mouse.
+        Q_EMIT closeEditor(editor, *hint);
+        return true;
     }
     // What the "..." button does, for those who don't use a mouse.
     const KProperty *const property = m_model->property(editedIndex());

@@ -30,8 +30,13 @@ public:
 public Q_SLOTS:
     void setValue(const QVariant &value);
 
+protected:
+    /// A text that is no value goes back, and the row says why.
+    void focusOutEvent(QFocusEvent *event) override;
+
 private:
     void commitText();
+    [[nodiscard]] QString refusal() const;
 
     const std::unique_ptr<OrvGenericEditorPrivate> d;
 };

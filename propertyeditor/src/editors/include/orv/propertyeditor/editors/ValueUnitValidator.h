@@ -20,6 +20,8 @@ public:
 
     /// What is said less of number and unit.
     [[nodiscard]] State validate(QString &input, int &position) const override;
+    /// What it takes, for people, without a full stop.
+    [[nodiscard]] QString expectation() const;
 
 private:
     QDoubleValidator m_number;
