@@ -4,8 +4,10 @@
 #include <KPropertyWidgetsPluginManager.h>
 
 #include <QAccessible>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <QToolTip>
 
 namespace {
 
@@ -133,6 +135,7 @@ private Q_SLOTS:
     void withoutToolTipsItIsToldAllTheSame();
     void screenReadersReadIt();
     void aSignStandsInTheCell();
+    void aCutValueStandsInTheToolTip();
 };
 
 void ViewRemarksTest::initTestCase()
@@ -287,6 +290,25 @@ void ViewRemarksTest::aSignStandsInTheCell()
     QVERIFY(f.view.viewport()->grab(cell).toImage() != plain);
     f.view.setRemark(f.set["picky"], QString());
     QCOMPARE(f.view.viewport()->grab(cell).toImage(), plain);
+}
+
+void ViewRemarksTest::aCutValueStandsInTheToolTip()
+{
+    PickyFixture f;
+    const auto shownAt = [&f](int column) {
+        const QPoint place = f.view.visualRect(f.cell(column)).center();
+        QHelpEvent event(QEvent::ToolTip, place, f.view.viewport()->mapToGlobal(place));
+        QApplication::sendEvent(f.view.viewport(), &event);
+        return QToolTip::text();
+    };
+    QCOMPARE(shownAt(1), text("<b>Picky</b><br>Small letters."));
+    f.set.changeProperty("picky", text("/a/<b>").repeated(30));
+    QVERIFY2(shownAt(1).startsWith(text("<b>Picky</b><br>Small letters.<hr>/&#8203;a/&#8203;&lt;b&gt;/")),
+             qPrintable(shownAt(1)));
+    QCOMPARE(shownAt(0), text("<b>Picky</b><br>Small letters."));
+    f.set.changeProperty("picky", text("x").repeated(1'000'000));
+    QVERIFY(shownAt(1).size() < 3000);
+    QToolTip::hideText();
 }
 
 QTEST_MAIN(ViewRemarksTest)

@@ -142,6 +142,7 @@ private:
     void drawRow(QPainter *painter, const QStyleOptionViewItem &option,
                  const QModelIndex &index) const override;
     bool withinRevertButtonArea(const QPoint &position, const QModelIndex &index) const;
+    QString cutValue(const QModelIndex &index) const;
     QRect revertButtonArea(const QModelIndex &index) const;
     void undo();
 

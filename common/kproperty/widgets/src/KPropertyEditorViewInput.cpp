@@ -41,6 +41,26 @@ bool KPropertyEditorView::withinRevertButtonArea(const QPoint &position, const Q
     return revertButtonArea(index).contains(position);
 }
 
+/// The value of a cell that is too narrow for it, for the end of its tool tip; empty for others.
+QString KPropertyEditorView::cutValue(const QModelIndex &index) const
+{
+    constexpr int kMostCharacters = 2000;
+    if (!d->toolTipsVisible || !d->property(index) || index.column() != EditorDataModel::ValueColumn) {
+        return QString();
+    }
+    const QString value = index.data(Qt::DisplayRole).toString().left(kMostCharacters);
+    const int room = visualRect(index).width() - 2 * Internal::Painting::textMargin();
+    const QStringList lines = value.split(QLatin1Char('\n'));
+    const bool isCut = std::any_of(lines.cbegin(), lines.cend(), [this, room](const QString &line) {
+        return fontMetrics().horizontalAdvance(line) > room;
+    });
+    // Paths have no blanks at which a tool tip could break them.
+    return isCut ? QLatin1String("<hr>") + value.toHtmlEscaped()
+                                               .replace(QLatin1Char('/'), QLatin1String("/&#8203;"))
+                                               .replace(QLatin1Char('\n'), QLatin1String("<br>"))
+                 : QString();
+}
+
 bool KPropertyEditorView::viewportEvent(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip) {
@@ -49,6 +69,11 @@ bool KPropertyEditorView::viewportEvent(QEvent *event)
         const QRect revert = revertButtonArea(index);
         if (revert.contains(help->pos())) {
             QToolTip::showText(help->globalPos(), tr("Undo changes"), viewport(), revert);
+            return true;
+        }
+        if (const QString cut = cutValue(index); !cut.isEmpty()) {
+            const QString toolTip = index.data(Qt::ToolTipRole).toString();
+            QToolTip::showText(help->globalPos(), toolTip + cut, viewport(), visualRect(index));
             return true;
         }
     }
