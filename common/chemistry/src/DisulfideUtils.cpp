@@ -41,9 +41,10 @@ bool isEmptyRow(const Internal::TableReader &rows, int row)
                        [&](QLatin1String column) { return Internal::isEmptyCell(rows.cell(row, column)); });
 }
 
-QString faultOf(const Cysteine &cysteine, const QHash<QString, QString> &sequences)
+} // namespace
+
+QString faultOfEnd(const QString &chain, int position, const QHash<QString, QString> &sequences)
 {
-    const auto &[chain, position] = cysteine;
     const auto sequence = sequences.constFind(chain);
     if (sequence == sequences.cend())
         return DisulfideUtilsTr::tr("there is no chain \"%1\".").arg(chain);
@@ -56,8 +57,6 @@ QString faultOf(const Cysteine &cysteine, const QHash<QString, QString> &sequenc
     }
     return {};
 }
-
-} // namespace
 
 RowNode defaultRowNode()
 {
@@ -103,7 +102,7 @@ bool validate(const QList<Bond> &bonds, const QHash<QString, QString> &sequences
         const Bond &bond = bonds.at(i);
         for (const Cysteine &end : {Cysteine(bond.firstChain, bond.firstPosition),
                                     Cysteine(bond.secondChain, bond.secondPosition)}) {
-            QString fault = faultOf(end, sequences);
+            QString fault = faultOfEnd(end.first, end.second, sequences);
             if (fault.isEmpty() && bound.contains(end)) {
                 fault = DisulfideUtilsTr::tr("cysteine %1 of the chain \"%2\" stands in two bonds.")
                             .arg(end.second)

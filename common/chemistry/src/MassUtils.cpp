@@ -8,6 +8,8 @@
 
 #include <QCoreApplication>
 
+#include <array>
+
 namespace orv::MassUtils {
 
 namespace MassColumns = Internal::MassColumns;
@@ -17,6 +19,38 @@ namespace {
 struct MassUtilsTr
 {
     Q_DECLARE_TR_FUNCTIONS(MassUtils)
+};
+
+using MassCell = Internal::ValueCell<DeltaMass>;
+
+void readMass(DeltaMass *mass, const QVariant &cell)
+{
+    mass->massDa = Internal::numberOf(cell);
+    mass->unreadableMass = mass->massDa || Internal::isEmptyCell(cell) ? QString() : cell.toString();
+}
+
+QVariant massCellOf(const DeltaMass &mass)
+{
+    return mass.massDa || mass.unreadableMass.isEmpty() ? Internal::cellOf(mass.massDa)
+                                                        : QVariant(mass.unreadableMass);
+}
+
+// In the order of the columns.
+constexpr std::array kMassCells = {
+    MassCell{kId, [](DeltaMass *mass, const QVariant &cell) { mass->id = Internal::intOf(cell).value_or(0); },
+             [](const DeltaMass &mass) { return QVariant(mass.id); }},
+    MassCell{MassColumns::kName, [](DeltaMass *mass, const QVariant &cell) { mass->name = cell.toString(); },
+             [](const DeltaMass &mass) { return QVariant(mass.name); }},
+    MassCell{MassColumns::kMass, readMass, massCellOf},
+    MassCell{MassColumns::kProtein,
+             [](DeltaMass *mass, const QVariant &cell) { mass->protein = cell.toString(); },
+             [](const DeltaMass &mass) { return QVariant(mass.protein); }},
+    MassCell{MassColumns::kSamplesIds,
+             [](DeltaMass *mass, const QVariant &cell) { mass->samplesIds = Internal::intsOf(cell); },
+             // A list without samples is a list.
+             [](const DeltaMass &mass) {
+                 return QVariant(QVariantList(mass.samplesIds.begin(), mass.samplesIds.end()));
+             }},
 };
 
 } // namespace
@@ -48,14 +82,7 @@ QList<DeltaMass> deltaMassesFromRowNode(const RowNode &table)
     masses.reserve(rows.rowCount());
     for (int i = 0; i < rows.rowCount(); ++i) {
         DeltaMass mass;
-        const QVariant massCell = rows.cell(i, MassColumns::kMass);
-        mass.id = Internal::intOf(rows.cell(i, kId)).value_or(0);
-        mass.name = rows.text(i, MassColumns::kName);
-        mass.massDa = Internal::numberOf(massCell);
-        if (!mass.massDa && !Internal::isEmptyCell(massCell))
-            mass.unreadableMass = massCell.toString();
-        mass.protein = rows.text(i, MassColumns::kProtein);
-        mass.samplesIds = Internal::intsOf(rows.cell(i, MassColumns::kSamplesIds));
+        Internal::readCells(rows, i, kMassCells, &mass);
         mass.otherCells = rows.otherCells(i);
         masses.append(mass);
     }
@@ -67,14 +94,8 @@ RowNode deltaMassesToRowNode(const QList<DeltaMass> &masses)
     RowNode table = Internal::tableOf(
         {kId, MassColumns::kName, MassColumns::kMass, MassColumns::kProtein, MassColumns::kSamplesIds});
     Internal::TableWriter rows(&table);
-    for (const DeltaMass &mass : masses) {
-        const QVariant massCell = mass.massDa || mass.unreadableMass.isEmpty()
-                                      ? Internal::cellOf(mass.massDa)
-                                      : QVariant(mass.unreadableMass);
-        // A list without samples is a list.
-        const QVariantList samples(mass.samplesIds.begin(), mass.samplesIds.end());
-        rows.addRow({mass.id, mass.name, massCell, mass.protein, samples}, mass.otherCells);
-    }
+    for (const DeltaMass &mass : masses)
+        rows.addRow(Internal::writtenCells(mass, kMassCells), mass.otherCells);
     return table;
 }
 

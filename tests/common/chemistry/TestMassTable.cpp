@@ -19,6 +19,7 @@ private Q_SLOTS:
     void massesThatStandAsTextAreNumbers_data();
     void massesThatStandAsTextAreNumbers();
     void whatIsNoNumberIsKept();
+    void cellsOfAnyTypeAreKept();
     void defaultRowsAreEmptyMasses();
     void theIdColumnIsWrittenAndCanBeRemoved();
     void inventedMassesReadBackEqual();
@@ -82,6 +83,22 @@ void TestMassTable::whatIsNoNumberIsKept()
     QCOMPARE(masses[0].unreadableMass, u"12,5"_s);
     QCOMPARE(masses[1].unreadableMass, u"nan"_s);
     QCOMPARE(MassUtils::deltaMassesFromRowNode(MassUtils::deltaMassesToRowNode(masses)), masses);
+}
+
+void TestMassTable::cellsOfAnyTypeAreKept()
+{
+    const RowNode table = tableOf(R"({"data":["Id","Name","Mass","Protein","SamplesIds"],"children":[
+        {"data":[0,5,[1.5],true,"all"]},{"data":["x",[1]," 2.5 ",[],[1,"x"]]}]})");
+    const QList<DeltaMass> masses = MassUtils::deltaMassesFromRowNode(table);
+    QCOMPARE(masses[1].massDa, 2.5);
+    QCOMPARE(masses[1].samplesIds, QList<int>({1}));
+    QVERIFY(MassUtils::deltaMassesToRowNode(masses) == table);
+    DeltaMass edited = masses[1];
+    edited.massDa = 3;
+    edited.samplesIds = {2};
+    const RowNode back = MassUtils::deltaMassesToRowNode({edited});
+    QCOMPARE(back.getChild(0)->getDataAt(u"Mass"_s), QVariant(3.0));
+    QCOMPARE(back.getChild(0)->getDataAt(u"SamplesIds"_s), QVariant(QVariantList{2}));
 }
 
 void TestMassTable::defaultRowsAreEmptyMasses()

@@ -53,6 +53,45 @@ private:
     RowNode *m_table;
 };
 
+/// How a value gives and takes the cell of a column that it knows.
+template<typename Value>
+struct ValueCell
+{
+    QLatin1String column;
+    void (*read)(Value *value, const QVariant &cell);
+    QVariant (*written)(const Value &value);
+};
+
+/// Reads the cells of a row; what the value would write otherwise stays in its cellsAsRead.
+template<typename Value, typename Cells>
+void readCells(const TableReader &rows, int row, const Cells &cells, Value *value)
+{
+    for (const ValueCell<Value> &one : cells) {
+        const QVariant cell = rows.cell(row, one.column);
+        one.read(value, cell);
+        if (cell.isValid() && (one.written(*value) != cell || one.written(*value).typeId() != cell.typeId()))
+            value->cellsAsRead.insert(one.column, cell);
+    }
+}
+
+/// The cells of a value, as they were read where that means what the value holds now.
+template<typename Value, typename Cells>
+[[nodiscard]] VariantItems writtenCells(const Value &value, const Cells &cells)
+{
+    VariantItems items;
+    for (const ValueCell<Value> &one : cells) {
+        QVariant cell = one.written(value);
+        if (const auto asRead = value.cellsAsRead.constFind(one.column); asRead != value.cellsAsRead.cend()) {
+            Value again;
+            one.read(&again, *asRead);
+            if (one.written(again) == cell)
+                cell = *asRead;
+        }
+        items.append(cell);
+    }
+    return items;
+}
+
 /// Whether a cell holds nothing: no value, or blank text.
 [[nodiscard]] bool isEmptyCell(const QVariant &cell);
 

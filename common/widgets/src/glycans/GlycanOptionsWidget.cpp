@@ -2,7 +2,7 @@
 
 #include "../scientific/SequenceColumns.h"
 
-#include <orv/table_model/RecordBinding.h>
+#include <orv/table_model/RecordSheet.h>
 
 #include <QCoreApplication>
 #include <QSet>
@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kOptionFormulaAt = 2;
 
-using OptionRecords = RecordBinding<GlycanOption>;
+using OptionRecords = RecordSheet<GlycanOption>;
 
 struct OptionKindRow
 {
@@ -167,7 +167,7 @@ void GlycanOptionsWidget::setOptions(const GlycanOptions &options)
 {
     const Error error = d->options.load(options.options());
     d->loaded = error.hasError() ? d->loaded : options.options();
-    setNote(error.hasError() ? error.errorMessage() : QString());
+    noteLoad(error);
 }
 
 void GlycanOptionsWidget::tellLeftOut()

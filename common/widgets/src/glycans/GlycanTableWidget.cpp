@@ -5,7 +5,7 @@
 #include <orv/chemistry/DetachedGlycanUtils.h>
 #include <orv/chemistry/GlycanComposition.h>
 #include <orv/table_model/NumberText.h>
-#include <orv/table_model/RecordBinding.h>
+#include <orv/table_model/RecordSheet.h>
 #include <orv/table_model/RowNodeBinding.h>
 
 namespace orv {
@@ -14,19 +14,35 @@ namespace {
 
 constexpr int kCompositionAt = 1;
 
-using GlycanRecords = RecordBinding<Glycan>;
+using GlycanRecords = RecordSheet<Glycan>;
 
-QString textOfGlycanNumber(std::optional<double> number)
+/// A member that a cell may not be able to fill.
+GlycanRecords::Field numberField(const QString &column, std::optional<double> Glycan::*member)
 {
-    return number ? RowNodeBinding::textOf(*number) : QString();
+    return {column,
+            [column, member](const Glycan &glycan) {
+                return glycan.*member ? RowNodeBinding::textOf(*(glycan.*member))
+                                      : RowNodeBinding::textOf(glycan.cellsAsRead.value(column));
+            },
+            [column, member](Glycan *glycan, const QString &text) {
+                glycan->*member = NumberText::value(text);
+                glycan->cellsAsRead.remove(column);
+                if (!text.isEmpty() && !(glycan->*member))
+                    glycan->cellsAsRead.insert(column, text);
+            }};
 }
 
-void setGlycanNumber(std::optional<double> *number, QStringView text)
+GlycanRecords::Field textField(const QString &column, QString Glycan::*member)
 {
-    if (text.isEmpty())
-        number->reset();
-    else if (const std::optional<double> read = NumberText::value(text))
-        *number = read;
+    return {column,
+            [column, member](const Glycan &glycan) {
+                return (glycan.*member).isEmpty() ? RowNodeBinding::textOf(glycan.cellsAsRead.value(column))
+                                                  : glycan.*member;
+            },
+            [column, member](Glycan *glycan, const QString &text) {
+                glycan->*member = text;
+                glycan->cellsAsRead.remove(column);
+            }};
 }
 
 QString problemOfGlycan(QStringView text)
@@ -39,22 +55,11 @@ QString problemOfGlycan(QStringView text)
 
 QList<GlycanRecords::Field> glycanFields()
 {
-    return {
-        {QStringLiteral("Name"), [](const Glycan &glycan) { return glycan.name; },
-         [](Glycan *glycan, QStringView text) { glycan->name = text.toString(); }},
-        {QStringLiteral("Composition"), [](const Glycan &glycan) { return glycan.composition; },
-         [](Glycan *glycan, QStringView text) {
-             if (problemOfGlycan(text).isEmpty())
-                 glycan->composition = text.toString();
-         }},
-        {QStringLiteral("Mass"), [](const Glycan &glycan) { return textOfGlycanNumber(glycan.massDa); },
-         [](Glycan *glycan, QStringView text) { setGlycanNumber(&glycan->massDa, text); }},
-        {QStringLiteral("Label"), [](const Glycan &glycan) { return glycan.label; },
-         [](Glycan *glycan, QStringView text) { glycan->label = text.toString(); }},
-        {QStringLiteral("RetentionTime"),
-         [](const Glycan &glycan) { return textOfGlycanNumber(glycan.retentionTimeMinutes); },
-         [](Glycan *glycan, QStringView text) { setGlycanNumber(&glycan->retentionTimeMinutes, text); }},
-    };
+    return {textField(QStringLiteral("Name"), &Glycan::name),
+            textField(QStringLiteral("Composition"), &Glycan::composition),
+            numberField(QStringLiteral("Mass"), &Glycan::massDa),
+            textField(QStringLiteral("Label"), &Glycan::label),
+            numberField(QStringLiteral("RetentionTime"), &Glycan::retentionTimeMinutes)};
 }
 
 } // namespace
@@ -148,7 +153,7 @@ GlycanTable GlycanTableWidget::table() const
 void GlycanTableWidget::setTable(const GlycanTable &table)
 {
     const Error error = d->glycans.load(table.glycans());
-    setNote(error.hasError() ? error.errorMessage() : QString());
+    noteLoad(error);
 }
 
 void GlycanTableWidget::setGlycanOptions(const GlycanOptions &options)

@@ -12,9 +12,20 @@ namespace {
 constexpr int kElementAt = 1;
 constexpr int kMassNumberAt = 2;
 
-std::optional<double> abundanceOf(const QStringList &texts)
+std::optional<double> abundanceOf(QStringView element, QStringView massNumber)
 {
-    return IsotopeUtils::naturalAbundancePercent(texts[kElementAt].trimmed(), texts[kMassNumberAt].toInt());
+    return IsotopeUtils::naturalAbundancePercent(element.trimmed().toString(), massNumber.toInt());
+}
+
+QList<TableRowProblem> problemsOfIsotope(const QList<QStringView> &texts)
+{
+    const QStringView element = texts[kElementAt];
+    const QStringView massNumber = texts[kMassNumberAt];
+    if (element.isEmpty() || massNumber.isEmpty() || abundanceOf(element, massNumber))
+        return {};
+    return {
+        {kMassNumberAt,
+         IsotopeTableWidget::tr("There is no natural isotope \"%1\" of \"%2\".").arg(massNumber, element)}};
 }
 
 QList<TableColumn> isotopeColumns()
@@ -46,18 +57,10 @@ QList<TableColumn> isotopeColumns()
     natural.explanation = IsotopeTableWidget::tr("Share of the element's atoms in nature, in percent.");
     natural.derive = [](const QStringList &texts) {
         constexpr int kDigits = 4;
-        const std::optional<double> abundance = abundanceOf(texts);
+        const std::optional<double> abundance = abundanceOf(texts[kElementAt], texts[kMassNumberAt]);
         return abundance ? QString::number(*abundance, 'f', kDigits) : QString();
     };
-    TableColumn state{.name = QStringLiteral("state"), .title = IsotopeTableWidget::tr("State")};
-    state.explanation = IsotopeTableWidget::tr("Why there is no such isotope.");
-    state.derive = [](const QStringList &texts) {
-        return abundanceOf(texts) ? QString()
-                                  : IsotopeTableWidget::tr("There is no natural isotope \"%1\" of \"%2\".")
-                                        .arg(texts[kMassNumberAt], texts[kElementAt]);
-    };
-    state.check = [](QStringView text) { return text.toString(); };
-    return {name, element, massNumber, enrichment, natural, state};
+    return {name, element, massNumber, enrichment, natural};
 }
 
 } // namespace
@@ -76,6 +79,7 @@ IsotopeTableWidget::IsotopeTableWidget(QWidget *parent)
     : ScientificTableWidget(isotopeColumns(), tr("Isotopes"), QStringLiteral("Isotopes"), parent)
     , d(std::make_unique<Private>(sheet()))
 {
+    sheet()->setRowRules({problemsOfIsotope});
     setIsotopeList(IsotopeUtils::defaultRowNode());
 }
 
@@ -89,11 +93,7 @@ RowNode IsotopeTableWidget::isotopeList() const
 void IsotopeTableWidget::setIsotopeList(const RowNode &isotopes)
 {
     const Error error = d->rows.load(isotopes);
-    const QStringList columns = d->rows.columnsNotShown();
-    setNote(error.hasError() ? error.errorMessage()
-            : columns.isEmpty()
-                ? QString()
-                : tr("These columns are kept but not shown: %1.").arg(columns.join(QLatin1String(", "))));
+    noteLoad(error, d->rows.noteOnUnshown());
 }
 
 } // namespace orv

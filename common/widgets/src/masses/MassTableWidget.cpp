@@ -7,7 +7,7 @@
 #include <orv/chemistry/MassTolerance.h>
 #include <orv/chemistry/MassUtils.h>
 #include <orv/table_model/NumberText.h>
-#include <orv/table_model/RecordBinding.h>
+#include <orv/table_model/RecordSheet.h>
 #include <orv/table_model/RowNodeBinding.h>
 
 #include <QHBoxLayout>
@@ -22,31 +22,60 @@ namespace {
 constexpr int kMassAt = 1;
 constexpr int kSamplesIdsAt = 3;
 
-using MassRecords = RecordBinding<DeltaMass>;
+using MassRecords = RecordSheet<DeltaMass>;
 
-void setMassOf(DeltaMass *mass, QStringView text)
+void setMassOf(DeltaMass *mass, const QString &text)
 {
     mass->massDa = NumberText::value(text);
-    mass->unreadableMass = mass->massDa ? QString() : text.toString();
+    mass->unreadableMass = mass->massDa ? QString() : text;
+    mass->cellsAsRead.remove(QStringLiteral("Mass"));
 }
 
 QString textOfMass(const DeltaMass &mass)
 {
-    return mass.massDa ? RowNodeBinding::textOf(*mass.massDa) : mass.unreadableMass;
+    return mass.massDa ? RowNodeBinding::textOf(*mass.massDa)
+           : !mass.unreadableMass.isEmpty()
+               ? mass.unreadableMass
+               : RowNodeBinding::textOf(mass.cellsAsRead.value(QStringLiteral("Mass")));
+}
+
+/// What holds more than ids is shown as it stands.
+QString textOfSamples(const DeltaMass &mass)
+{
+    const auto asRead = mass.cellsAsRead.constFind(QStringLiteral("SamplesIds"));
+    const QString text = asRead == mass.cellsAsRead.cend() ? QString() : RowNodeBinding::textOf(*asRead);
+    return !text.isEmpty() && SampleNames::idsOf(text) == mass.samplesIds
+               ? text
+               : SampleNames::textOf(mass.samplesIds);
+}
+
+void setSamplesOf(DeltaMass *mass, const QString &text)
+{
+    mass->samplesIds = SampleNames::idsOf(text);
+    mass->cellsAsRead.remove(QStringLiteral("SamplesIds"));
+    if (SampleNames::textOf(mass->samplesIds) != text)
+        mass->cellsAsRead.insert(QStringLiteral("SamplesIds"), text);
+}
+
+MassRecords::Field massTextField(const QString &column, QString DeltaMass::*member)
+{
+    return {column,
+            [column, member](const DeltaMass &mass) {
+                return (mass.*member).isEmpty() ? RowNodeBinding::textOf(mass.cellsAsRead.value(column))
+                                                : mass.*member;
+            },
+            [column, member](DeltaMass *mass, const QString &text) {
+                mass->*member = text;
+                mass->cellsAsRead.remove(column);
+            }};
 }
 
 QList<MassRecords::Field> massFields()
 {
-    return {
-        {QStringLiteral("Name"), [](const DeltaMass &mass) { return mass.name; },
-         [](DeltaMass *mass, QStringView text) { mass->name = text.toString(); }},
-        {QStringLiteral("Mass"), textOfMass, setMassOf},
-        {QStringLiteral("Protein"), [](const DeltaMass &mass) { return mass.protein; },
-         [](DeltaMass *mass, QStringView text) { mass->protein = text.toString(); }},
-        {QStringLiteral("SamplesIds"),
-         [](const DeltaMass &mass) { return SampleNames::textOf(mass.samplesIds); },
-         [](DeltaMass *mass, QStringView text) { mass->samplesIds = SampleNames::idsOf(text); }},
-    };
+    return {massTextField(QStringLiteral("Name"), &DeltaMass::name),
+            {QStringLiteral("Mass"), textOfMass, setMassOf},
+            massTextField(QStringLiteral("Protein"), &DeltaMass::protein),
+            {QStringLiteral("SamplesIds"), textOfSamples, setSamplesOf}};
 }
 
 } // namespace
@@ -165,7 +194,7 @@ QList<DeltaMass> MassTableWidget::masses() const
 void MassTableWidget::setMasses(const QList<DeltaMass> &masses)
 {
     const Error error = d->masses.load(masses);
-    setNote(error.hasError() ? error.errorMessage() : QString());
+    noteLoad(error);
 }
 
 RowNode MassTableWidget::massTolerance() const

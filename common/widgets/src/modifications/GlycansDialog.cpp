@@ -5,18 +5,9 @@
 #include <orv/chemistry/DetachedGlycanUtils.h>
 #include <orv/chemistry/GlycanOptions.h>
 #include <orv/chemistry/GlycanText.h>
-#include <orv/widgets/DialogService.h>
-#include <orv/widgets/MeaningColors.h>
 #include <orv/widgets/ScientificTableWidget.h>
 
-#include <QDialogButtonBox>
-#include <QFontDatabase>
-#include <QLabel>
-#include <QPlainTextEdit>
-#include <QPointer>
 #include <QSplitter>
-#include <QTabWidget>
-#include <QVBoxLayout>
 
 namespace orv {
 
@@ -88,109 +79,51 @@ class GlycansDialog::Private
 public:
     ScientificTableWidget *databases = nullptr;
     ScientificTableWidget *compositions = nullptr;
-    QPlainTextEdit *edit = nullptr;
-    QLabel *problem = nullptr;
-    QString text;
-    bool isPassing = false; ///< from tables to text or back
-    QStringList lines;      ///< of compositions, by id of their row as they were read
+    QStringList lines; ///< of compositions, by id of their row as they were read
 };
 
 GlycansDialog::GlycansDialog(QWidget *parent)
-    : QDialog(parent)
+    : TextTablesDialog(parent)
     , d(std::make_unique<Private>())
 {
     setWindowTitle(tr("Glycans"));
     setObjectName(QStringLiteral("GlycansDialog"));
-    build();
-    setText({});
-}
-
-GlycansDialog::~GlycansDialog()
-{
-    d->databases->sheet()->disconnect(this);
-    d->compositions->sheet()->disconnect(this);
-}
-
-void GlycansDialog::build()
-{
     d->databases = new ScientificTableWidget(glycanDatabaseColumns(), tr("Glycan databases"),
                                              QStringLiteral("GlycanDatabases"));
     d->databases->setObjectName(QStringLiteral("databases"));
     d->compositions = new ScientificTableWidget(compositionColumns(), tr("Compositions"),
                                                 QStringLiteral("GlycanCompositions"));
     d->compositions->setObjectName(QStringLiteral("compositions"));
-    auto *const tables = new QSplitter(Qt::Vertical);
-    tables->setChildrenCollapsible(false);
-    tables->addWidget(d->databases);
-    tables->addWidget(d->compositions);
-    tables->setStretchFactor(1, 2);
-    d->edit = new QPlainTextEdit;
-    d->edit->setObjectName(QStringLiteral("text"));
-    d->edit->setAccessibleName(tr("Text of the glycans"));
-    d->edit->setToolTip(tr("Files of databases in square brackets and compositions, one in a line. Lines "
-                           "that begin with % are comments."));
-    d->edit->setTabChangesFocus(true);
-    d->edit->setLineWrapMode(QPlainTextEdit::NoWrap);
-    d->edit->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    d->problem = new QLabel;
-    d->problem->setObjectName(QStringLiteral("problem"));
-    d->problem->setWordWrap(true);
-    auto *const pages = new QTabWidget;
-    pages->setAccessibleName(tr("Tables and text"));
-    pages->addTab(tables, tr("&Tables"));
-    pages->addTab(d->edit, tr("Te&xt"));
-    auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    auto *const layout = new QVBoxLayout(this);
-    layout->addWidget(pages, 1);
-    layout->addWidget(d->problem);
-    layout->addWidget(buttons);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    for (const ScientificTableWidget *const table : {d->databases, d->compositions}) {
-        connect(table->sheet(), &TableSheet::cellsChanged, this, &GlycansDialog::takeTables);
-        connect(table->sheet(), &TableSheet::rowsInserted, this, &GlycansDialog::takeTables);
-        connect(table->sheet(), &TableSheet::rowsRemoved, this, &GlycansDialog::takeTables);
-        connect(table->sheet(), &TableSheet::rowsReordered, this, &GlycansDialog::takeTables);
-    }
-    connect(d->edit, &QPlainTextEdit::textChanged, this, &GlycansDialog::takeText);
-    constexpr int kLetters = 130;
-    resize(fontMetrics().averageCharWidth() * kLetters, fontMetrics().height() * 40);
+    auto *const page = new QSplitter(Qt::Vertical);
+    page->setChildrenCollapsible(false);
+    page->addWidget(d->databases);
+    page->addWidget(d->compositions);
+    page->setStretchFactor(1, 2);
+    build({.pages = tr("Tables and text"),
+           .tablePage = tr("&Tables"),
+           .text = tr("Text of the glycans"),
+           .textTip = tr("Files of databases in square brackets and compositions, one in a line. Lines that "
+                         "begin with % are comments.")},
+          page, {d->databases, d->compositions});
 }
 
-QString GlycansDialog::text() const
-{
-    return d->text;
-}
+GlycansDialog::~GlycansDialog() = default;
 
-void GlycansDialog::setText(const QString &text)
-{
-    d->text = text;
-    d->isPassing = true;
-    d->edit->setPlainText(text);
-    showTables();
-    d->isPassing = false;
-    showState();
-}
-
-void GlycansDialog::showTables()
+void GlycansDialog::showTables(const QString &text)
 {
     QList<QStringList> paths;
-    for (const QString &path : GlycanText::databases(d->text))
+    for (const QString &path : GlycanText::databases(text))
         paths.append({path});
-    d->lines = GlycanText::compositions(d->text);
+    d->lines = GlycanText::compositions(text);
     QList<QStringList> rows;
     for (const QString &line : std::as_const(d->lines))
         rows.append({GlycanText::compositionOf(line), GlycanText::placeOf(line)});
-    const Error databases = d->databases->sheet()->load(paths);
-    const Error compositions = d->compositions->sheet()->load(rows);
-    d->databases->setNote(databases.hasError() ? databases.errorMessage() : QString());
-    d->compositions->setNote(compositions.hasError() ? compositions.errorMessage() : QString());
+    d->databases->noteLoad(d->databases->sheet()->load(paths));
+    d->compositions->noteLoad(d->compositions->sheet()->load(rows));
 }
 
-void GlycansDialog::takeTables()
+QString GlycansDialog::withTables(const QString &text) const
 {
-    if (d->isPassing)
-        return;
     QStringList paths;
     for (const QStringList &row : d->databases->sheet()->allTexts()) {
         if (!row[0].trimmed().isEmpty())
@@ -205,64 +138,26 @@ void GlycansDialog::takeTables()
         if (!before.isEmpty() && GlycanText::compositionOf(before).simplified() == composition &&
             GlycanText::placeOf(before).simplified() == place)
             lines.append(before);
-        else if (!composition.trimmed().isEmpty())
+        else if (!composition.isEmpty())
             lines.append(place.isEmpty() ? composition : composition + QLatin1String(" @ ") + place);
     }
-    d->text = GlycanText::withCompositions(GlycanText::withDatabases(d->text, paths), lines);
-    d->isPassing = true;
-    d->edit->setPlainText(d->text);
-    d->isPassing = false;
-    showState();
+    return GlycanText::withCompositions(GlycanText::withDatabases(text, paths), lines);
 }
 
-void GlycansDialog::takeText()
+QStringList GlycansDialog::problemsOf(const QString &text) const
 {
-    if (d->isPassing)
-        return;
-    d->text = d->edit->toPlainText();
-    d->isPassing = true;
-    showTables();
-    d->isPassing = false;
-    showState();
-}
-
-void GlycansDialog::showState()
-{
-    QString problem;
-    int count = 0;
-    for (const QString &line : GlycanText::compositions(d->text)) {
+    QStringList problems;
+    for (const QString &line : GlycanText::compositions(text)) {
         const QString fault = GlycanText::problemOfComposition(GlycanText::compositionOf(line));
-        if (!fault.isEmpty() && ++count == 1)
-            problem = tr("\"%1\": %2").arg(line.trimmed(), fault);
+        if (!fault.isEmpty())
+            problems.append(tr("\"%1\": %2").arg(line.trimmed(), fault));
     }
-    if (count > 1)
-        problem += u' ' + tr("Lines that can't be read: %1.").arg(count);
-    QPalette colors = d->problem->palette();
-    colors.setColor(QPalette::WindowText, MeaningColors::error(palette()));
-    d->problem->setPalette(colors);
-    d->problem->setText(problem);
-    d->problem->setVisible(!problem.isEmpty());
-    d->edit->setAccessibleDescription(problem);
-}
-
-QString GlycansDialog::toPlainText() const
-{
-    QStringList parts = {d->databases->toPlainText(), d->compositions->toPlainText()};
-    if (!d->problem->text().isEmpty())
-        parts.append(d->problem->text());
-    return parts.join(u'\n');
+    return problems;
 }
 
 QString GlycansDialog::getGlycansFromUser(const QString &strings, QWidget *parent, bool *ok)
 {
-    const QPointer<GlycansDialog> dialog = new GlycansDialog(parent);
-    dialog->setText(strings);
-    const bool isAccepted = DialogService::exec(*dialog) && dialog;
-    QString edited = isAccepted ? dialog->text() : strings;
-    delete dialog;
-    if (ok)
-        *ok = isAccepted;
-    return edited;
+    return ask(new GlycansDialog(parent), strings, ok);
 }
 
 } // namespace orv

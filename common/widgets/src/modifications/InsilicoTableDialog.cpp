@@ -201,12 +201,7 @@ void InsilicoTableDialog::setInsilicoPeptides(const RowNode &peptides)
 {
     d->digested.clear();
     const Error error = d->rows->load(peptides);
-    const QStringList columns = d->rows->columnsNotShown();
-    d->table->setNote(
-        error.hasError() ? error.errorMessage()
-        : columns.isEmpty()
-            ? QString()
-            : tr("These columns are kept but not shown: %1.").arg(columns.join(QLatin1String(", "))));
+    d->table->noteLoad(error, d->rows->noteOnUnshown());
 }
 
 void InsilicoTableDialog::digest()

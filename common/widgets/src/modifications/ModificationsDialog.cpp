@@ -5,21 +5,12 @@
 #include <orv/chemistry/CommonModifications.h>
 #include <orv/chemistry/ModificationText.h>
 #include <orv/table_model/TableModel.h>
-#include <orv/widgets/DialogService.h>
-#include <orv/widgets/MeaningColors.h>
 #include <orv/widgets/ScientificTableWidget.h>
 #include <orv/widgets/TableEditor.h>
 
-#include <QDialogButtonBox>
-#include <QFontDatabase>
 #include <QGroupBox>
 #include <QItemSelectionModel>
-#include <QLabel>
-#include <QPlainTextEdit>
-#include <QPointer>
 #include <QPushButton>
-#include <QSplitter>
-#include <QTabWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -35,6 +26,9 @@ Modification modificationOf(const QStringList &texts)
     Modification modification;
     // A line holds one modification, whatever was pasted.
     modification.name = texts[0].simplified();
+    // As a comment it would be lost to the table.
+    while (modification.name.startsWith(u'%'))
+        modification.name.remove(0, 1);
     modification.mass = texts[kModificationMassAt].simplified();
     modification.residues = texts[2].simplified();
     modification.use = Modification::useFromString(texts[kUseAt]).value_or(Modification::Use::Fixed);
@@ -51,31 +45,35 @@ QStringList textsOfModification(const Modification &modification)
             isFixed ? QString() : QString::number(modification.limit)};
 }
 
-QString problemOfModificationMass(QStringView text)
+/// Why one part of a modification may not stand, by the reader of whole lines.
+QString problemOfPart(QString Modification::*part, QStringView text)
 {
-    Modification modification;
-    modification.mass = text.toString();
-    return text.trimmed().isEmpty() || modification.massDa()
-               ? QString()
-               : ModificationsDialog::tr("Is neither a mass in Da nor a formula.");
+    if (text.trimmed().isEmpty())
+        return {};
+    Modification sound{QStringLiteral("A"), QStringLiteral("1"), QStringLiteral("C"),
+                       Modification::Use::Fixed, 0};
+    sound.*part = text.toString().simplified();
+    const Result<Modification> read = Modification::fromString(sound.toString());
+    if (read.hasError())
+        return read.error().details().join(u' ');
+    const bool isSame = *read == sound;
+    return isSame ? QString()
+                  : ModificationsDialog::tr("The signs \"/\", \"@\" and \"|\" part what a line holds.");
+}
+
+TableColumn partColumn(const char *name, const QString &title, const QString &explanation,
+                       QString Modification::*part)
+{
+    TableColumn column{.name = QString::fromLatin1(name), .title = title};
+    column.isRequired = true;
+    column.explanation = explanation;
+    column.check = [part](QStringView text) { return problemOfPart(part, text); };
+    return column;
 }
 
 QList<TableColumn> modificationColumns()
 {
     using Kind = TableColumnKind;
-    TableColumn name{.name = QStringLiteral("name"), .title = ModificationsDialog::tr("Name")};
-    name.isRequired = true;
-    name.explanation = ModificationsDialog::tr("By which results name the modification.");
-    TableColumn mass{.name = QStringLiteral("mass"),
-                     .title = ModificationsDialog::tr("Mass (Da) or formula")};
-    mass.isRequired = true;
-    mass.check = problemOfModificationMass;
-    mass.explanation = ModificationsDialog::tr(
-        "What the modification adds: a mass in Da with its sign, or a formula such as C2H3NO.");
-    TableColumn residues{.name = QStringLiteral("residues"), .title = ModificationsDialog::tr("Residues")};
-    residues.isRequired = true;
-    residues.explanation =
-        ModificationsDialog::tr("Letters of residues, NTerm or CTerm, with commas between.");
     TableColumn use{
         .name = QStringLiteral("use"), .title = ModificationsDialog::tr("Kind"), .kind = Kind::Choice};
     for (const Modification::Use one :
@@ -99,14 +97,19 @@ QList<TableColumn> modificationColumns()
     monoisotopic.derive = [](const QStringList &texts) {
         return textOfMonoisotopicMass(modificationOf(texts).massDa());
     };
-    TableColumn state{.name = QStringLiteral("state"), .title = ModificationsDialog::tr("State")};
-    state.explanation = ModificationsDialog::tr("Why the row is no modification yet.");
-    state.derive = [](const QStringList &texts) {
-        const auto read = Modification::fromString(modificationOf(texts).toString());
-        return read.hasError() ? read.error().details().join(u' ') : QString();
-    };
-    state.check = [](QStringView text) { return text.toString(); };
-    return {name, mass, residues, use, limit, monoisotopic, state};
+    return {partColumn("name", ModificationsDialog::tr("Name"),
+                       ModificationsDialog::tr("By which results name the modification."),
+                       &Modification::name),
+            partColumn("mass", ModificationsDialog::tr("Mass (Da) or formula"),
+                       ModificationsDialog::tr("What the modification adds: a mass in Da with its sign, or a "
+                                               "formula such as C2H3NO."),
+                       &Modification::mass),
+            partColumn("residues", ModificationsDialog::tr("Residues"),
+                       ModificationsDialog::tr("Letters of residues, NTerm or CTerm, with commas between."),
+                       &Modification::residues),
+            use,
+            limit,
+            monoisotopic};
 }
 
 QList<TableColumn> commonColumns()
@@ -140,71 +143,30 @@ class ModificationsDialog::Private
 public:
     ScientificTableWidget *table = nullptr;
     ScientificTableWidget *common = nullptr;
-    QPlainTextEdit *edit = nullptr;
-    QLabel *problem = nullptr;
-    QString text;
-    bool isPassing = false;                            ///< from table to text or back
     QHash<quint32, QPair<QStringList, QString>> lines; ///< the line of each row, as it was read
 };
 
 ModificationsDialog::ModificationsDialog(QWidget *parent)
-    : QDialog(parent)
+    : TextTablesDialog(parent)
     , d(std::make_unique<Private>())
 {
     setWindowTitle(tr("Modifications"));
     setObjectName(QStringLiteral("ModificationsDialog"));
-    build();
-    setText({});
-}
-
-ModificationsDialog::~ModificationsDialog()
-{
-    d->table->sheet()->disconnect(this);
-}
-
-void ModificationsDialog::build()
-{
     d->table = new ScientificTableWidget(modificationColumns(), tr("Modifications"),
                                          QStringLiteral("Modifications"));
     d->table->setObjectName(QStringLiteral("modifications"));
-    d->edit = new QPlainTextEdit;
-    d->edit->setObjectName(QStringLiteral("text"));
-    d->edit->setAccessibleName(tr("Text of the modifications"));
-    d->edit->setToolTip(tr("One modification in a line: name / mass in Da @ residues | fixed, common1 or "
-                           "rare1. Lines that begin with % are comments."));
-    d->edit->setTabChangesFocus(true);
-    d->edit->setLineWrapMode(QPlainTextEdit::NoWrap);
-    d->edit->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    d->problem = new QLabel;
-    d->problem->setObjectName(QStringLiteral("problem"));
-    d->problem->setWordWrap(true);
-    buildCommon();
-    auto *const pages = new QTabWidget;
-    pages->setAccessibleName(tr("Table and text"));
-    pages->addTab(d->table, tr("&Table"));
-    pages->addTab(d->edit, tr("Te&xt"));
-    auto *const splitter = new QSplitter(Qt::Vertical);
-    splitter->setChildrenCollapsible(false);
-    splitter->addWidget(pages);
-    splitter->addWidget(d->common->parentWidget());
-    auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    auto *const layout = new QVBoxLayout(this);
-    layout->addWidget(splitter, 1);
-    layout->addWidget(d->problem);
-    layout->addWidget(buttons);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    const TableSheet *const sheet = d->table->sheet();
-    connect(sheet, &TableSheet::cellsChanged, this, &ModificationsDialog::takeTable);
-    connect(sheet, &TableSheet::rowsInserted, this, &ModificationsDialog::takeTable);
-    connect(sheet, &TableSheet::rowsRemoved, this, &ModificationsDialog::takeTable);
-    connect(sheet, &TableSheet::rowsReordered, this, &ModificationsDialog::takeTable);
-    connect(d->edit, &QPlainTextEdit::textChanged, this, &ModificationsDialog::takeText);
-    constexpr int kLetters = 150;
-    resize(fontMetrics().averageCharWidth() * kLetters, fontMetrics().height() * 42);
+    build(
+        {.pages = tr("Table and text"),
+         .tablePage = tr("&Table"),
+         .text = tr("Text of the modifications"),
+         .textTip = tr("One modification in a line: name / mass in Da @ residues | fixed, common1 or rare1. "
+                       "Lines that begin with % are comments.")},
+        d->table, {d->table}, newCommonList());
 }
 
-void ModificationsDialog::buildCommon()
+ModificationsDialog::~ModificationsDialog() = default;
+
+QWidget *ModificationsDialog::newCommonList()
 {
     auto *const group = new QGroupBox(tr("Common modifications (%1)").arg(CommonModifications::source()));
     d->common = new ScientificTableWidget(commonColumns(), tr("Common modifications"),
@@ -224,6 +186,7 @@ void ModificationsDialog::buildCommon()
     layout->addWidget(add, 0, Qt::AlignRight);
     connect(add, &QPushButton::clicked, this, &ModificationsDialog::addCommon);
     connect(d->common->view(), &QAbstractItemView::doubleClicked, this, &ModificationsDialog::addCommon);
+    return group;
 }
 
 void ModificationsDialog::addCommon()
@@ -244,41 +207,22 @@ void ModificationsDialog::addCommon()
         d->table->setNote(error.errorMessage());
 }
 
-QString ModificationsDialog::text() const
-{
-    return d->text;
-}
-
-void ModificationsDialog::setText(const QString &text)
-{
-    d->text = text;
-    d->isPassing = true;
-    d->edit->setPlainText(text);
-    showTable();
-    d->isPassing = false;
-    showState();
-}
-
-void ModificationsDialog::showTable()
+void ModificationsDialog::showTables(const QString &text)
 {
     QList<QStringList> rows;
-    const QList<ModificationText::Line> lines = ModificationText::lines(d->text);
     d->lines.clear();
-    for (const ModificationText::Line &line : lines) {
+    for (const ModificationText::Line &line : ModificationText::lines(text)) {
         const QStringList texts =
             line.problem.isEmpty() ? textsOfModification(line.modification) : QStringList{line.text};
         // Ids of a new load begin at 0.
         d->lines.insert(quint32(rows.size()), {texts, line.text});
         rows.append(texts);
     }
-    const Error error = d->table->sheet()->load(rows);
-    d->table->setNote(error.hasError() ? error.errorMessage() : QString());
+    d->table->noteLoad(d->table->sheet()->load(rows));
 }
 
-void ModificationsDialog::takeTable()
+QString ModificationsDialog::withTables(const QString &text) const
 {
-    if (d->isPassing)
-        return;
     const TableSheet *const sheet = d->table->sheet();
     QStringList lines;
     for (int row = 0; row < sheet->rowCount(); ++row) {
@@ -293,61 +237,24 @@ void ModificationsDialog::takeTable()
         else if (!isEmpty)
             lines.append(modificationOf(texts).toString());
     }
-    d->text = ModificationText::withLines(d->text, lines);
-    d->isPassing = true;
-    d->edit->setPlainText(d->text);
-    d->isPassing = false;
-    showState();
+    return ModificationText::withLines(text, lines);
 }
 
-void ModificationsDialog::takeText()
-{
-    if (d->isPassing)
-        return;
-    d->text = d->edit->toPlainText();
-    d->isPassing = true;
-    showTable();
-    d->isPassing = false;
-    showState();
-}
-
-void ModificationsDialog::showState()
+QStringList ModificationsDialog::problemsOf(const QString &text) const
 {
     QStringList problems;
-    for (const ModificationText::Line &line : ModificationText::lines(d->text)) {
+    for (const ModificationText::Line &line : ModificationText::lines(text)) {
         if (!line.problem.isEmpty())
             problems.append(tr("Line %1: %2").arg(line.number).arg(line.problem));
     }
-    if (d->text.count(ModificationText::customMarker(), Qt::CaseInsensitive) > 1)
+    if (text.count(ModificationText::customMarker(), Qt::CaseInsensitive) > 1)
         problems.append(tr("\"%1\" may stand only once.").arg(ModificationText::customMarker()));
-    constexpr int kShown = 3;
-    const qsizetype more = problems.size() - kShown;
-    QString text = problems.mid(0, kShown).join(u'\n');
-    if (more > 0)
-        text += u'\n' + tr("and further problems: %1").arg(more);
-    QPalette colors = d->problem->palette();
-    colors.setColor(QPalette::WindowText, MeaningColors::error(palette()));
-    d->problem->setPalette(colors);
-    d->problem->setText(text);
-    d->problem->setVisible(!text.isEmpty());
-    d->edit->setAccessibleDescription(text);
-}
-
-QString ModificationsDialog::toPlainText() const
-{
-    return d->table->toPlainText() + (d->problem->text().isEmpty() ? QString() : u'\n' + d->problem->text());
+    return problems;
 }
 
 QString ModificationsDialog::getModificationsFromUser(const QString &text, QWidget *parent, bool *ok)
 {
-    const QPointer<ModificationsDialog> dialog = new ModificationsDialog(parent);
-    dialog->setText(text);
-    const bool isAccepted = DialogService::exec(*dialog) && dialog;
-    QString edited = isAccepted ? dialog->text() : text;
-    delete dialog;
-    if (ok)
-        *ok = isAccepted;
-    return edited;
+    return ask(new ModificationsDialog(parent), text, ok);
 }
 
 } // namespace orv

@@ -152,7 +152,7 @@ void OptionsWidgetBase::show(const RowNode &table)
     d->notice->setText(
         d->fault.hasError()
             ? tr("The options can't be shown, and stay as they are: %1").arg(d->fault.errorMessage())
-            : QString());
+            : d->table.noteOnUnshown());
     if (d->editor)
         d->editor->deleteLater();
     d->editor = TablePage::editorOf(d->table.sheet(), d->title, d->kind);

@@ -129,14 +129,19 @@ QList<TableColumn> chainColumns(const std::shared_ptr<ChainTables> &tables)
     for (const SequenceFigure figure : {SequenceFigure::Length, SequenceFigure::MonoisotopicMass,
                                         SequenceFigure::AverageMass, SequenceFigure::Formula})
         columns.append(sequenceFigureColumn(figure, tables->source, kChainSequenceAt, chainTypeOf));
-    TableColumn state{.name = QStringLiteral("state"), .title = ChainColumnsTr::tr("State")};
-    state.explanation = ChainColumnsTr::tr("Why the chain has no mass.");
-    state.derive = [tables](const QStringList &texts) {
-        return tables->source->problemOf(texts[kChainSequenceAt], chainTypeOf(texts));
-    };
-    state.check = [](QStringView text) { return text.toString(); };
-    columns.append(state);
     return columns;
+}
+
+TableRowRule chainRule(const std::shared_ptr<ChainTables> &tables)
+{
+    return [tables](const QList<QStringView> &texts) {
+        QStringList chain(kChainSequenceAt + 1);
+        chain[kTypeAt] = texts[kTypeAt].toString();
+        const QString problem =
+            tables->source->problemOf(texts[kChainSequenceAt].toString(), chainTypeOf(chain));
+        return problem.isEmpty() ? QList<TableRowProblem>()
+                                 : QList<TableRowProblem>{{kChainSequenceAt, problem}};
+    };
 }
 
 QList<TableColumn> builtProteinColumns(const std::shared_ptr<ChainTables> &tables)

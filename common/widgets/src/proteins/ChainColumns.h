@@ -27,6 +27,8 @@ struct ChainTables
 };
 
 [[nodiscard]] QList<TableColumn> chainColumns(const std::shared_ptr<ChainTables> &tables);
+/// Marks sequences that have no mass.
+[[nodiscard]] TableRowRule chainRule(const std::shared_ptr<ChainTables> &tables);
 [[nodiscard]] QList<TableColumn> builtProteinColumns(const std::shared_ptr<ChainTables> &tables);
 [[nodiscard]] QList<TableColumn> buildingBlockColumns();
 

@@ -34,21 +34,27 @@ struct DisulfideWidget::Shared
     QStringList names; ///< in the order of the proteins
     QHash<QString, QString> sequences;
 
-    [[nodiscard]] QString problemOf(const QStringList &texts) const;
+    [[nodiscard]] QList<TableRowProblem> problemsOf(const QList<QStringView> &texts) const;
     [[nodiscard]] QString distanceOf(const QStringList &texts) const;
     [[nodiscard]] static QList<TableColumn> columns(const std::shared_ptr<Shared> &shared);
 };
 
-QString DisulfideWidget::Shared::problemOf(const QStringList &texts) const
+QList<TableRowProblem> DisulfideWidget::Shared::problemsOf(const QList<QStringView> &texts) const
 {
+    QList<TableRowProblem> problems;
     if (sequences.isEmpty())
-        return {};
-    const Disulfide::Bond bond{
-        texts[kFirstChainAt], texts[kFirstAt].toInt(), texts[kSecondChainAt], texts[kSecondAt].toInt(), {}};
-    QStringList warnings;
-    (void)Disulfide::DisulfideUtils::validate({bond}, sequences, &warnings);
-    // Behind "Disulfide bond 1: ", as each row is asked alone.
-    return warnings.isEmpty() ? QString() : warnings.constFirst().section(QLatin1String(": "), 1);
+        return problems;
+    for (const auto &[chainAt, positionAt] :
+         {std::pair(kFirstChainAt, kFirstAt), std::pair(kSecondChainAt, kSecondAt)}) {
+        const QString chain = texts[chainAt].toString();
+        const QString fault =
+            Disulfide::DisulfideUtils::faultOfEnd(chain, texts[positionAt].toInt(), sequences);
+        if (!fault.isEmpty() && !chain.isEmpty())
+            problems.append({sequences.contains(chain) ? positionAt : chainAt, fault});
+    }
+    if (texts[kFirstChainAt] == texts[kSecondChainAt] && texts[kFirstAt] == texts[kSecondAt])
+        problems.append({kSecondAt, tr("The bond leads to the cysteine from which it comes.")});
+    return problems;
 }
 
 QString DisulfideWidget::Shared::distanceOf(const QStringList &texts) const
@@ -78,16 +84,9 @@ QList<TableColumn> DisulfideWidget::Shared::columns(const std::shared_ptr<Shared
     TableColumn span{.name = QStringLiteral("span"), .title = tr("Spans")};
     span.explanation = tr("How far the cysteines lie apart. Follows from their places.");
     span.derive = [shared](const QStringList &texts) { return shared->distanceOf(texts); };
-    TableColumn state{.name = QStringLiteral("state"), .title = tr("State")};
-    state.explanation = tr("Why the bond isn't possible in these proteins.");
-    state.derive = [shared](const QStringList &texts) { return shared->problemOf(texts); };
-    state.check = [](QStringView text) { return text.toString(); };
-    return {chain("FirstChain", tr("First protein")),
-            position("FirstPosition", tr("First cysteine")),
-            chain("SecondChain", tr("Second protein")),
-            position("SecondPosition", tr("Second cysteine")),
-            span,
-            state};
+    return {chain("FirstChain", tr("First protein")), position("FirstPosition", tr("First cysteine")),
+            chain("SecondChain", tr("Second protein")), position("SecondPosition", tr("Second cysteine")),
+            span};
 }
 
 class DisulfideWidget::Private
@@ -115,6 +114,7 @@ DisulfideWidget::DisulfideWidget(const std::shared_ptr<Shared> &shared, QWidget 
     , d(std::make_unique<Private>(sheet(), shared))
 {
     build();
+    sheet()->setRowRules({[shared](const QList<QStringView> &texts) { return shared->problemsOf(texts); }});
     setOptionsToUI(Disulfide::DisulfideUtils::defaultRowNode());
     draw();
 }
@@ -157,11 +157,7 @@ RowNode DisulfideWidget::getOptionsFromUI() const
 void DisulfideWidget::setOptionsToUI(const RowNode &bonds)
 {
     const Error error = d->rows.load(bonds);
-    const QStringList columns = d->rows.columnsNotShown();
-    setNote(error.hasError() ? error.errorMessage()
-            : columns.isEmpty()
-                ? QString()
-                : tr("These columns are kept but not shown: %1.").arg(columns.join(QLatin1String(", "))));
+    noteLoad(error, d->rows.noteOnUnshown());
 }
 
 void DisulfideWidget::setProteinData(const RowNode &proteins)

@@ -1,7 +1,7 @@
 #include "orv/widgets/ProteinAnnotationWidget.h"
 
 #include <orv/table_model/NumberText.h>
-#include <orv/table_model/RecordBinding.h>
+#include <orv/table_model/RecordSheet.h>
 #include <orv/widgets/TableEditor.h>
 
 namespace orv {
@@ -12,7 +12,7 @@ constexpr int kAnnotatedAt = 0;
 constexpr int kFirstResidueAt = 2;
 constexpr int kLastResidueAt = 3;
 
-using AnnotationRecords = RecordBinding<ProteinAnnotationEntry>;
+using AnnotationRecords = RecordSheet<ProteinAnnotationEntry>;
 
 void setResidue(int *place, QStringView text)
 {
@@ -138,7 +138,7 @@ QList<ProteinAnnotationEntry> ProteinAnnotationWidget::allAnnotations() const
 void ProteinAnnotationWidget::addAnnotations(const QList<ProteinAnnotationEntry> &annotations)
 {
     const Error error = d->annotations.load(annotations);
-    setNote(error.hasError() ? error.errorMessage() : QString());
+    noteLoad(error);
 }
 
 void ProteinAnnotationWidget::setAsDigestedOligoProject(bool isOligo)

@@ -71,18 +71,10 @@ void ProteinInputWidgetBase::Private::Page::load(const RowNode &root)
 {
     const RowNode *const node = tableIn(root, table);
     const Error error = rows->load(node ? *node : RowNode());
-    QStringList unshown = rows->columnsNotShown();
-    // Those follow from the sequence, or tell where a chain came from.
-    unshown.removeIf([](const QString &name) {
-        return name == QLatin1String("MonoisotopicMass") || name == QLatin1String("AverageMass") ||
-               name == kisCustom;
-    });
     loaded = rows->table();
-    const QString kept =
-        unshown.isEmpty()
-            ? QString()
-            : tr("These columns are kept but not shown: %1.").arg(unshown.join(QLatin1String(", ")));
-    widget->setNote(error.hasError() ? error.errorMessage() : kept);
+    // Those follow from the sequence, or tell where a chain came from.
+    widget->noteLoad(error, rows->noteOnUnshown({QStringLiteral("MonoisotopicMass"),
+                                                 QStringLiteral("AverageMass"), QString(kisCustom)}));
 }
 
 ProteinInputWidgetBase::ProteinInputWidgetBase(QWidget *parent)
@@ -126,6 +118,7 @@ void ProteinInputWidgetBase::build()
     };
     make(d->pages[0], kChains, chainColumns(d->tables), tr("Chains"), {});
     d->tables->chains = d->pages[0].widget->sheet();
+    d->tables->chains->setRowRules({chainRule(d->tables)});
     make(d->pages[1], kProteins, builtProteinColumns(d->tables), tr("Proteins"),
          {QStringLiteral("ChainNumbers"), QStringLiteral("SamplesIds")});
     make(d->pages[2], kBuildingBlocks, buildingBlockColumns(), tr("Building blocks"), {});

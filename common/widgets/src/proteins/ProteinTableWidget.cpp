@@ -161,14 +161,7 @@ RowNode ProteinTableWidget::rowNode() const
 void ProteinTableWidget::addFromRowNode(const RowNode &table)
 {
     const Error error = d->rows.load(table);
-    QStringList notes;
-    if (error.hasError())
-        notes.append(error.errorMessage());
-    if (const QStringList columns = d->rows.columnsNotShown(); !columns.isEmpty())
-        notes.append(tr("These columns are kept but not shown: %1.").arg(columns.join(QLatin1String(", "))));
-    if (const int rows = d->rows.rowsNotShown(); rows > 0)
-        notes.append(tr("Rows below other rows are kept but not shown: %1.").arg(rows));
-    setNote(notes.join(u' '));
+    noteLoad(error, d->rows.noteOnUnshown());
     d->treeView->refreshDelegates();
 }
 

@@ -100,6 +100,8 @@ void CustomFieldsImportWidget::setTableContent(const RowNode &table)
     d->isShown = !error.hasError();
     d->unshown = error.hasError() ? table : RowNode();
     showError(error);
+    if (!error.hasError())
+        d->notice->setText(d->table.noteOnUnshown());
     showTable();
 }
 

@@ -151,6 +151,11 @@ void ScientificTableWidget::setNote(const QString &text)
     QAccessible::updateAccessibility(&event);
 }
 
+void ScientificTableWidget::noteLoad(const Error &error, const QString &unshown)
+{
+    setNote(error.hasError() ? (QStringList(error.errorMessage()) + error.details()).join(u' ') : unshown);
+}
+
 void ScientificTableWidget::tellEdited()
 {
     d->isEdited = true;

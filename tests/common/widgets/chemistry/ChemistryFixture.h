@@ -173,6 +173,12 @@ inline QString shown(orv::ScientificTableWidget *widget, int row, const char *co
     return at(widget, row, column).data().toString();
 }
 
+/// Why a cell may not hold what it holds, or nothing.
+inline QString problem(orv::ScientificTableWidget *widget, int row, const char *column)
+{
+    return at(widget, row, column).data(orv::TableModel::ProblemRole).toString();
+}
+
 /// What a screen reader has to be told and isn't, by class and object name.
 inline QStringList controlsWithoutNames(const QWidget *root)
 {

@@ -114,11 +114,14 @@ void DisulfideWidgetTest::impossibleBondsAreMarkedAndValidated()
     QVERIFY(!widget.validate(&warnings));
     QCOMPARE(warnings,
              QStringList({text("Disulfide bond 1: residue 3 of the chain \"HC\" is A and no cysteine.")}));
-    QCOMPARE(at(&widget, 0, "state").data(TableModel::ProblemRole).toString(),
+    QCOMPARE(problem(&widget, 0, "FirstPosition"),
              text("residue 3 of the chain \"HC\" is A and no cysteine."));
+    QCOMPARE(problem(&widget, 0, "SecondPosition"), QString());
     show(&widget);
     typeInto(&widget, 0, "FirstPosition", "2");
-    QCOMPARE(shown(&widget, 0, "state"), QString());
+    QCOMPARE(problem(&widget, 0, "FirstPosition"), QString());
+    typeInto(&widget, 0, "SecondChain", "XC");
+    QCOMPARE(problem(&widget, 0, "SecondChain"), text("there is no chain \"XC\"."));
     widget.setOptionsToUI(bondsOf(R"({"data":["HC","two","LC",3],"children":[]})"));
     QVERIFY(!widget.validate(&warnings));
     QVERIFY(warnings.constLast().contains(text("\"two\" is no position")));

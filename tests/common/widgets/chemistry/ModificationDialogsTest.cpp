@@ -166,9 +166,15 @@ void ModificationDialogsTest::tableAndTextFollowEachOther()
     typeInto(table, 2, "name", "Water");
     typeInto(table, 2, "mass", "H2O");
     QCOMPARE(shown(table, 2, "monoisotopic"), text("18.0106"));
-    QVERIFY(!shown(table, 2, "state").isEmpty());
+    QVERIFY(!problem(table, 2, "residues").isEmpty());
+    typeInto(table, 2, "residues", "S,m");
+    QVERIFY(problem(table, 2, "residues").contains(text("\"m\" is no residue")));
     typeInto(table, 2, "residues", "S");
-    QCOMPARE(shown(table, 2, "state"), QString());
+    QCOMPARE(problem(table, 2, "residues"), QString());
+    typeInto(table, 2, "name", "%Water");
+    QVERIFY(problem(table, 2, "name").contains(text("makes it a comment")));
+    QVERIFY(dialog.text().contains(text("\nWater / H2O @ S | common1\n")));
+    typeInto(table, 2, "name", "Water");
     QVERIFY(dialog.text().contains(text("common1 \nWater / H2O @ S | common1\nenable_rps")));
     dialog.findChild<QTabWidget *>()->setCurrentIndex(1);
     editOf(dialog)->setFocus();

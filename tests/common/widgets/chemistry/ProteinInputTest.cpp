@@ -116,11 +116,11 @@ void ProteinInputTest::buildingBlocksCountAtOnce()
     ProteinInputWidgetBase widget;
     widget.addFromRowNode(nodeOf(R"({"data":["Chains"],"children":[{"data":["Sequence","Type"],"children":[
         {"data":["A[Zr]","RNA"],"children":[]}]}]})"));
-    QVERIFY(!shown(widget.chains(), 0, "state").isEmpty());
+    QVERIFY(!problem(widget.chains(), 0, "Sequence").isEmpty());
     TableSheet *const blocks = widget.buildingBlocks()->sheet();
     QVERIFY(!blocks->insertRows(0, {{text("Z"), text("new base"), text("Base"), text("C5H4N5")}}, text("add"))
                  .hasError());
-    QCOMPARE(shown(widget.chains(), 0, "state"), QString());
+    QCOMPARE(problem(widget.chains(), 0, "Sequence"), QString());
     QVERIFY(!shown(widget.chains(), 0, "monoisotopic").isEmpty());
 }
 

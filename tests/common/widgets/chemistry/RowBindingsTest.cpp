@@ -2,8 +2,8 @@
 #include "WidgetTest.h"
 
 #include <orv/chemistry/DeltaMass.h>
-#include <orv/table_model/RecordBinding.h>
-#include <orv/table_model/RowNodeBinding.h>
+#include <orv/table_model/RecordSheet.h>
+#include <orv/table_model/RowNodeSheet.h>
 
 using namespace orv;
 using namespace ChemistryFixture;
@@ -34,6 +34,10 @@ private Q_SLOTS:
     void editedCellsHaveTheirColumnsType();
     void newRowsAndColumnsAreAdded();
     void removedRowsComeBackWhole();
+    void tablesOfTheirOwnColumnsComeBackAsTheyWere();
+    void cellsBeyondTheHeaderStayThere();
+    void columnsOfOneNameAreToldApart();
+    void numbersStayNumbers();
     void whatIsntShownIsTold();
     void derivedCellsFollowTheirRow();
     void derivedCellsAreNotEdited();
@@ -51,6 +55,61 @@ void RowBindingsTest::whatNobodyEditedComesBackAsItWas()
         QVERIFY(!rows.load(table).hasError());
         QVERIFY2(rows.table() == table, qPrintable(text("table %1").arg(i)));
     }
+}
+
+void RowBindingsTest::tablesOfTheirOwnColumnsComeBackAsTheyWere()
+{
+    QRandomGenerator random(20240512);
+    for (int i = 0; i < 300; ++i) {
+        const RowNode table = randomTable(random, {text("Name"), text("Mass"), text("Mass")});
+        RowNodeSheet rows(bindingColumns());
+        QVERIFY(!rows.load(table).hasError());
+        QVERIFY2(rows.table() == table, qPrintable(text("table %1").arg(i)));
+        if (rows.sheet()->rowCount() == 0 || rows.sheet()->columnCount() == 0)
+            continue;
+        QVERIFY(!rows.sheet()->setText(0, 0, u"new").hasError());
+        QVERIFY(!(rows.table() == table));
+        rows.sheet()->history()->undo();
+        QVERIFY2(rows.table() == table, qPrintable(text("table %1").arg(i)));
+    }
+}
+
+void RowBindingsTest::cellsBeyondTheHeaderStayThere()
+{
+    TableSheet sheet(bindingColumns());
+    RowNodeBinding rows(&sheet);
+    QVERIFY(!rows.load(nodeOf(R"({"data":["Name"],"children":[
+        {"data":["a",7,[8]],"children":[]},{"data":["b"],"children":[]}]})"))
+                 .hasError());
+    QCOMPARE(sheet.texts(0), QStringList({text("a"), QString(), QString(), QString()}));
+    QVERIFY(!sheet.setText(1, 1, u"2.5").hasError());
+    QCOMPARE(objectOf(rows.table()), objectOf(nodeOf(R"({"data":["Name","Mass"],"children":[
+        {"data":["a",null,7,[8]],"children":[]},{"data":["b",2.5],"children":[]}]})")));
+}
+
+void RowBindingsTest::columnsOfOneNameAreToldApart()
+{
+    RowNodeSheet rows(bindingColumns());
+    QVERIFY(!rows.load(nodeOf(R"({"data":["Mass","Mass"],"children":[{"data":[1,2],"children":[]}]})"))
+                 .hasError());
+    QVERIFY(!rows.sheet()->setText(0, 1, u"x").hasError());
+    QCOMPARE(objectOf(rows.table()),
+             objectOf(nodeOf(R"({"data":["Mass","Mass"],"children":[{"data":[1,"x"],"children":[]}]})")));
+    QVERIFY(rows.sheet()->columns()[0].isNumeric());
+    QVERIFY(!rows.sheet()->columns()[1].isNumeric());
+}
+
+void RowBindingsTest::numbersStayNumbers()
+{
+    RowNodeSheet rows;
+    QVERIFY(!rows.load(nodeOf(R"({"data":["Plate","Ids"],"children":[
+        {"data":[1500000,[1,2]],"children":[]}]})"))
+                 .hasError());
+    QCOMPARE(rows.sheet()->texts(0), QStringList({text("1500000"), text("1, 2")}));
+    QVERIFY(!rows.sheet()->setText(0, 0, u"96").hasError());
+    QVERIFY(!rows.sheet()->setText(0, 1, u"3").hasError());
+    QCOMPARE(objectOf(rows.table()), objectOf(nodeOf(R"({"data":["Plate","Ids"],"children":[
+        {"data":[96,[3]],"children":[]}]})")));
 }
 
 void RowBindingsTest::editedCellsHaveTheirColumnsType()
@@ -98,10 +157,16 @@ void RowBindingsTest::whatIsntShownIsTold()
     TableSheet sheet(bindingColumns());
     RowNodeBinding rows(&sheet);
     QVERIFY(!rows.load(nodeOf(R"({"data":["Name","Other","Empty"],"children":[
-        {"data":["a",1,""],"children":[{"data":["x"],"children":[]}]}]})"))
+        {"data":["a",1,"","beyond",null],"children":[{"data":["x"],"children":[]}]}]})"))
                  .hasError());
     QCOMPARE(rows.columnsNotShown(), QStringList({text("Other")}));
     QCOMPARE(rows.rowsNotShown(), 1);
+    QCOMPARE(rows.cellsBeyondHeader(), 1);
+    QCOMPARE(
+        rows.noteOnUnshown(),
+        text("These columns are kept but not shown: Other. Rows below other rows are kept but not shown: 1. "
+             "Cells without a column are kept but not shown: 1."));
+    QVERIFY(!rows.noteOnUnshown({text("Other")}).contains(text("columns")));
 }
 
 void RowBindingsTest::derivedCellsFollowTheirRow()
@@ -146,11 +211,11 @@ void RowBindingsTest::derivedCellsSortAndFilter()
 void RowBindingsTest::refusedTextsLeaveARecord()
 {
     TableSheet sheet(bindingColumns());
-    RecordBinding<DeltaMass> records(&sheet, {{text("Name"), [](const DeltaMass &mass) { return mass.name; },
-                                               [](DeltaMass *mass, QStringView cell) {
-                                                   if (cell != u"refused")
-                                                       mass->name = cell.toString();
-                                               }}});
+    RecordSheet<DeltaMass> records(&sheet, {{text("Name"), [](const DeltaMass &mass) { return mass.name; },
+                                             [](DeltaMass *mass, QStringView cell) {
+                                                 if (cell != u"refused")
+                                                     mass->name = cell.toString();
+                                             }}});
     DeltaMass mass;
     mass.name = text("kept");
     mass.otherCells = {{text("Other"), 7}};

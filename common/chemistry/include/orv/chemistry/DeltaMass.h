@@ -21,6 +21,8 @@ struct ORV_WORKFLOW_EXPORT DeltaMass
     QString protein;                    ///< to which it belongs, empty for all
     QList<int> samplesIds;              ///< to which it belongs, empty for all
     QMap<QString, QVariant> otherCells; ///< of columns that this version doesn't know, written back
+    QMap<QString, QVariant> cellsAsRead =
+        {}; ///< cells that mean less than they hold, by column; written back
 
     /// Nothing is filled in, but perhaps an id.
     [[nodiscard]] bool isEmpty() const;

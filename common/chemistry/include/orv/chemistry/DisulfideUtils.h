@@ -36,6 +36,10 @@ namespace DisulfideUtils {
 [[nodiscard]] ORV_WORKFLOW_EXPORT Result<QList<Bond>> bondsFromRowNode(const RowNode &table);
 [[nodiscard]] ORV_WORKFLOW_EXPORT RowNode bondsToRowNode(const QList<Bond> &bonds);
 
+/// Why a bond can't end at this residue, or nothing: a part of a sentence.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QString faultOfEnd(const QString &chain, int position,
+                                                     const QHash<QString, QString> &sequences);
+
 /// Whether the bonds are possible in \a sequences, which are known by the names of their chains: each end is
 /// a cysteine, and none stands in two bonds. Every fault is appended to \a warnings, which may be null.
 ORV_WORKFLOW_EXPORT bool validate(const QList<Bond> &bonds, const QHash<QString, QString> &sequences,

@@ -17,11 +17,13 @@ namespace orv {
 struct ORV_WORKFLOW_EXPORT Glycan
 {
     QString name;
-    QString composition;          ///< as GlycanComposition reads it, or empty
+    QString composition;          ///< for GlycanComposition, which may refuse it; or empty
     std::optional<double> massDa; ///< of the neutral, unlabelled glycan; unset: follows from the composition
     QString label;                ///< name of the label at its reducing end, empty for none
     std::optional<double> retentionTimeMinutes;
     QMap<QString, QVariant> otherCells; ///< of columns that this version doesn't know, written back
+    QMap<QString, QVariant> cellsAsRead =
+        {}; ///< cells that mean less than they hold, by column; written back
 
     bool operator==(const Glycan &) const = default;
 };
@@ -35,8 +37,7 @@ public:
         : m_glycans(std::move(glycans))
     {}
 
-    /// InvalidContent with the row as detail for a mass or time that is no number, and for a composition that
-    /// can't be read.
+    /// No cell is refused: what is no number or no composition stays in its row, and is written back.
     [[nodiscard]] static Result<GlycanTable> fromRowNode(const RowNode &table);
     [[nodiscard]] RowNode toRowNode() const;
 

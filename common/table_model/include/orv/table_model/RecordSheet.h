@@ -2,21 +2,31 @@
 
 #include <orv/table_model/TableSheet.h>
 
-#include <QHash>
 #include <QList>
 #include <QString>
 
 #include <functional>
+#include <memory>
 #include <utility>
 
 namespace orv {
 
-/// A column of a table of records: how it looks, and how a record gives its text and takes an edited one.
+/// How a record gives the text of a column and takes an edited one.
+template<typename Record>
+struct RecordField
+{
+    QString column; ///< its name
+    /// In the kept form where it can be; what isn't allowed in the column is given as it is.
+    std::function<QString(const Record &record)> text;
+    /// A text that is refused leaves the record as it was; the cell keeps it, with its mark.
+    std::function<void(Record *record, const QString &text)> take;
+};
+
+/// The same of a column that is made for it.
 template<typename Record>
 struct RecordColumn
 {
     TableColumn column;
-    /// In the kept form where it can be; what isn't allowed in the column is given as it is.
     std::function<QString(const Record &record)> text;
     std::function<void(Record *record, const QString &text)> take;
 };
@@ -29,24 +39,38 @@ struct RecordColumn
 ///     ORV_RETURN_IF_ERROR(table.load(items));
 ///     TableEditor editor(table.sheet());
 /// \endcode
-/// GUI thread.
+/// GUI thread, or the one of the sheet.
 template<typename Record>
 class RecordSheet
 {
 public:
+    using Field = RecordField<Record>;
     using Columns = QList<RecordColumn<Record>>;
     /// Makes the record of a row that was added; asked again, it gives the same for one row.
     using Fresh = std::function<Record(quint32 rowId)>;
 
-    explicit RecordSheet(
-        Columns columns, Fresh fresh = [](quint32) { return Record(); })
-        : m_columns(std::move(columns))
+    /// With a sheet of its own.
+    explicit RecordSheet(const Columns &columns, Fresh fresh = blank())
+        : m_fields(fieldsOf(columns))
         , m_fresh(std::move(fresh))
-        , m_sheet(tableColumns(m_columns))
-    {}
+        , m_own(std::make_unique<TableSheet>(tableColumns(columns)))
+        , m_sheet(m_own.get())
+    {
+        findPlaces();
+    }
 
-    [[nodiscard]] TableSheet *sheet() { return &m_sheet; }
-    [[nodiscard]] const TableSheet *sheet() const { return &m_sheet; }
+    /// On a sheet that outlives this and has a column for each field; it may have others, such as derived
+    /// ones.
+    RecordSheet(TableSheet *sheet, QList<Field> fields, Fresh fresh = blank())
+        : m_fields(std::move(fields))
+        , m_fresh(std::move(fresh))
+        , m_sheet(sheet)
+    {
+        findPlaces();
+    }
+
+    [[nodiscard]] TableSheet *sheet() { return m_sheet; }
+    [[nodiscard]] const TableSheet *sheet() const { return m_sheet; }
 
     /// Replaces everything, and forgets the history. As TableSheet::load().
     [[nodiscard]] Error load(const QList<Record> &records)
@@ -56,14 +80,9 @@ public:
         for (const Record &record : records)
             rows.append(textsOf(record));
         const QList<Record> before = std::exchange(m_loaded, records);
-        const QHash<quint32, qsizetype> placesBefore = std::exchange(m_places, {});
-        m_places.reserve(records.size());
         // Listeners to the load ask for records.
-        for (qsizetype i = 0; i < records.size(); ++i)
-            m_places.insert(quint32(i), i);
-        if (Error error = m_sheet.load(rows); error.hasError()) {
+        if (Error error = m_sheet->load(rows); error.hasError()) {
             m_loaded = before;
-            m_places = placesBefore;
             return error.ecatch();
         }
         return Error::NoError;
@@ -72,46 +91,58 @@ public:
     /// The cells of new rows for TableSheet::insertRows().
     [[nodiscard]] QStringList textsOf(const Record &record) const
     {
-        QStringList texts;
-        texts.reserve(m_columns.size());
-        for (const RecordColumn<Record> &column : m_columns)
-            texts.append(column.text(record));
+        QStringList texts(m_sheet->columnCount());
+        for (qsizetype i = 0; i < m_fields.size(); ++i)
+            texts[m_places[i]] = m_fields[i].text(record);
         return texts;
     }
 
     /// The record as it was loaded, or made for a row that was added.
     [[nodiscard]] Record baseOf(quint32 rowId) const
     {
-        const auto place = m_places.constFind(rowId);
-        return place != m_places.cend() ? m_loaded[*place] : m_fresh(rowId);
+        // Ids of a load begin at 0.
+        return rowId < quint32(m_loaded.size()) ? m_loaded[rowId] : m_fresh(rowId);
     }
     [[nodiscard]] Record recordOf(quint32 rowId) const
     {
         const Record base = baseOf(rowId);
         Record record = base;
-        for (int i = 0; i < m_columns.size(); ++i) {
-            const QStringView text = m_sheet.textOf(rowId, i);
-            if (m_columns[i].text(base) != text)
-                m_columns[i].take(&record, text.toString());
+        for (qsizetype i = 0; i < m_fields.size(); ++i) {
+            const QStringView text = m_sheet->textOf(rowId, m_places[i]);
+            if (m_fields[i].text(base) != text)
+                m_fields[i].take(&record, text.toString());
         }
         return record;
     }
-    [[nodiscard]] Record record(int row) const { return recordOf(m_sheet.rowId(row)); }
+    [[nodiscard]] Record record(int row) const { return recordOf(m_sheet->rowId(row)); }
 
     /// In the order of the sheet.
     [[nodiscard]] QList<Record> records() const
     {
         QList<Record> records;
-        records.reserve(m_sheet.rowCount());
-        for (const quint32 id : m_sheet.rowIds())
+        records.reserve(m_sheet->rowCount());
+        for (const quint32 id : m_sheet->rowIds())
             records.append(recordOf(id));
         return records;
     }
 
     /// Whether something was done since the load that hasn't been undone.
-    [[nodiscard]] bool isEdited() const { return m_sheet.history()->index() > 0; }
+    [[nodiscard]] bool isEdited() const { return m_sheet->history()->index() > 0; }
 
 private:
+    static Fresh blank()
+    {
+        return [](quint32) { return Record(); };
+    }
+
+    static QList<Field> fieldsOf(const Columns &columns)
+    {
+        QList<Field> fields;
+        for (const RecordColumn<Record> &column : columns)
+            fields.append({column.column.name, column.text, column.take});
+        return fields;
+    }
+
     static QList<TableColumn> tableColumns(const Columns &columns)
     {
         QList<TableColumn> result;
@@ -120,11 +151,18 @@ private:
         return result;
     }
 
-    Columns m_columns;
+    void findPlaces()
+    {
+        for (qsizetype i = 0; i < m_fields.size(); ++i)
+            m_places.append(m_own ? int(i) : m_sheet->columnOf(m_fields[i].column));
+    }
+
+    QList<Field> m_fields;
+    QList<int> m_places; ///< of the fields in the sheet
     Fresh m_fresh;
-    TableSheet m_sheet;
-    QList<Record> m_loaded;
-    QHash<quint32, qsizetype> m_places; ///< in the loaded ones, by row
+    std::unique_ptr<TableSheet> m_own; ///< null on the sheet of somebody else
+    TableSheet *m_sheet;
+    QList<Record> m_loaded; ///< by id of their rows
 };
 
 } // namespace orv

@@ -1,16 +1,14 @@
 #pragma once
 
 #include <orv/core/Export.h>
-#include <orv/table/RowNode.h>
-#include <orv/table_model/RecordSheet.h>
+#include <orv/table_model/RowNodeBinding.h>
 
 #include <memory>
 
 namespace orv {
 
-/// A table of JSON, whatever it holds, as a table that people edit. Columns that a program knows look as it
-/// says; all others, cells of any type and what rows have beyond their header come back as they were. GUI
-/// thread.
+/// A table of JSON, whatever it holds, in a sheet of its own that has the columns of the table. Columns that
+/// a program knows look as it says. What nobody edited comes back as RowNodeBinding tells. GUI thread.
 class ORV_WORKFLOW_EXPORT RowNodeSheet
 {
 public:
@@ -23,18 +21,17 @@ public:
     /// Shows the columns of \a table and behind them the known ones that it lacks. As TableSheet::load(); the
     /// old table stays on a failure.
     [[nodiscard]] Error load(const RowNode &table);
-    /// The table as it was loaded while nothing is edited; a known column that it lacked is added with the
-    /// first text in it.
+    /// As RowNodeBinding::table().
     [[nodiscard]] RowNode table() const;
 
-    [[nodiscard]] bool isEdited() const { return m_rows->isEdited(); }
+    /// As RowNodeBinding::noteOnUnshown().
+    [[nodiscard]] QString noteOnUnshown() const;
 
 private:
-    using Rows = RecordSheet<RowNode>;
-    [[nodiscard]] Rows::Columns columnsFor(const VariantItems &header) const;
+    struct Rows;
+    [[nodiscard]] std::shared_ptr<Rows> rowsFor(const VariantItems &header) const;
 
     QList<TableColumn> m_known;
-    RowNode m_loaded;
     std::shared_ptr<Rows> m_rows;
 };
 

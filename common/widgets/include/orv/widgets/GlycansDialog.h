@@ -1,17 +1,12 @@
 #pragma once
 
-#include <orv/widgets/Export.h>
-
-#include <QDialog>
-#include <QString>
-
-#include <memory>
+#include <orv/widgets/TextTablesDialog.h>
 
 namespace orv {
 
-/// The glycans of a search: files of databases, compositions with their masses, and the text that is stored;
-/// each follows the others. GUI thread.
-class ORV_PROPERTY_EDITOR_EXPORT GlycansDialog : public QDialog
+/// The glycans of a search: files of databases, compositions with their masses, and the text that is stored.
+/// GUI thread.
+class ORV_PROPERTY_EDITOR_EXPORT GlycansDialog : public TextTablesDialog
 {
     Q_OBJECT
 
@@ -23,19 +18,12 @@ public:
     /// when it was not. \a ok may be null.
     [[nodiscard]] static QString getGlycansFromUser(const QString &strings, QWidget *parent, bool *ok);
 
-    /// Unedited, the text that was set: comments stay where they are.
-    [[nodiscard]] QString text() const;
-    void setText(const QString &text);
-
-    [[nodiscard]] QString toPlainText() const;
+protected:
+    void showTables(const QString &text) override;
+    [[nodiscard]] QString withTables(const QString &text) const override;
+    [[nodiscard]] QStringList problemsOf(const QString &text) const override;
 
 private:
-    void build();
-    void showTables();
-    void takeTables();
-    void takeText();
-    void showState();
-
     class Private;
     const std::unique_ptr<Private> d;
 };

@@ -1,20 +1,15 @@
 #pragma once
 
-#include <orv/widgets/Export.h>
-
-#include <QDialog>
-#include <QString>
-
-#include <memory>
+#include <orv/widgets/TextTablesDialog.h>
 
 namespace orv {
 
-/// The modifications of a search as a table and as the text that is stored; each follows the other.
-/// Well-known modifications are chosen from a list that can be searched. GUI thread.
+/// The modifications of a search as a table and as the text that is stored. Well-known modifications are
+/// chosen from a list that can be searched. GUI thread.
 ///
 ///     bool ok = false;
 ///     const QString edited = ModificationsDialog::getModificationsFromUser(text, this, &ok);
-class ORV_PROPERTY_EDITOR_EXPORT ModificationsDialog : public QDialog
+class ORV_PROPERTY_EDITOR_EXPORT ModificationsDialog : public TextTablesDialog
 {
     Q_OBJECT
 
@@ -26,19 +21,13 @@ public:
     /// when it was not. \a ok may be null.
     [[nodiscard]] static QString getModificationsFromUser(const QString &text, QWidget *parent, bool *ok);
 
-    /// Unedited, the text that was set: comments and lines of other meaning stay where they are.
-    [[nodiscard]] QString text() const;
-    void setText(const QString &text);
-
-    [[nodiscard]] QString toPlainText() const;
+protected:
+    void showTables(const QString &text) override;
+    [[nodiscard]] QString withTables(const QString &text) const override;
+    [[nodiscard]] QStringList problemsOf(const QString &text) const override;
 
 private:
-    void build();
-    void buildCommon();
-    void showTable();
-    void takeTable();
-    void takeText();
-    void showState();
+    [[nodiscard]] QWidget *newCommonList();
     void addCommon();
 
     class Private;

@@ -46,6 +46,8 @@ public:
     /// What the widget holds and can't show, empty for nothing.
     [[nodiscard]] QString note() const;
     void setNote(const QString &text);
+    /// Tells why a table wasn't taken, or else what of it isn't shown.
+    void noteLoad(const Error &error, const QString &unshown = {});
 
 Q_SIGNALS:
     /// What the widget holds isn't what it held, by a person's hand or a load. Comes from the event loop,
