@@ -2,9 +2,13 @@
 
 namespace orv {
 
-IGridItem *ProteinsItemCreatorBase::createGridItem() const
+IGridItem *TalkingItemCreator::createGridItem() const
 {
-    GridCommunicationManager *bus = GridItemManager::instance()->communicationManager();
+    return createGridItemOn(GridItemManager::instance()->communicationManager());
+}
+
+IGridItem *ProteinsItemCreatorBase::createGridItemOn(GridCommunicationManager *bus) const
+{
     if (m_id == PropertyId::OligoMolecules)
         return new OligoProteinsItem(bus);
     return new IntactProteinsItem(bus);

@@ -36,6 +36,11 @@ public:
 
 IGridItemCreator::~IGridItemCreator() = default;
 
+IGridItem *IGridItemCreator::createGridItemOn(GridCommunicationManager *) const
+{
+    return createGridItem();
+}
+
 GridItemManager::GridItemManager()
     : d(new Private)
 {
@@ -63,16 +68,18 @@ void GridItemManager::registerCreator(BaseItemType type, IGridItemCreator *creat
     d->creators[type] = QSharedPointer<IGridItemCreator>(creator);
 }
 
-IGridItem *GridItemManager::createItem(BaseItemType type) const
+IGridItem *GridItemManager::createItem(BaseItemType type, GridCommunicationManager *bus) const
 {
+    const auto create = [bus](const IGridItemCreator &creator) {
+        return bus ? creator.createGridItemOn(bus) : creator.createGridItem();
+    };
     const auto row = d->creators.find(type);
     if (row == d->creators.end() || !row->second) {
         qCDebug(propertyEditorLog) << "Creator not registered for type " << int(type);
         const auto settings = d->creators.find(BaseItemType::Unknown);
-        return settings == d->creators.end() || !settings->second ? nullptr
-                                                                  : settings->second->createGridItem();
+        return settings == d->creators.end() || !settings->second ? nullptr : create(*settings->second);
     }
-    IGridItem *item = row->second->createGridItem();
+    IGridItem *item = create(*row->second);
     if (item)
         item->setType(type);
     return item;

@@ -153,9 +153,9 @@ void KPropertyViewItem::followSamples(const GridMessage &message)
     property.setValue(joinSamples(SampleRenaming(message).follow(names)));
 }
 
-IGridItem *KPropertyItemCreator::createGridItem() const
+IGridItem *KPropertyItemCreator::createGridItemOn(GridCommunicationManager *bus) const
 {
-    return new KPropertyViewItem(GridItemManager::instance()->communicationManager());
+    return new KPropertyViewItem(bus);
 }
 
 } // namespace orv

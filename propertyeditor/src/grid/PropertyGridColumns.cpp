@@ -108,7 +108,7 @@ Result<IGridItem *> PropertyGridWidget::Private::createGridItem(const QVariant &
     const BaseItemType type = BaseItem::typeFromString(typeText);
     if (type == BaseItemType::Unknown && WflwAdvancedSettings::isWorkflowVerificationEnabled())
         return Error(ErrorCode::InvalidContent, gridTr("Type \"%1\" is not supported.").arg(typeText));
-    std::unique_ptr<IGridItem> item(GridItemManager::instance()->createItem(type));
+    std::unique_ptr<IGridItem> item(GridItemManager::instance()->createItem(type, bus));
     if (!item) {
         return Error(ErrorCode::InvalidContent, gridTr("Can't create item for \"%1\" type.").arg(typeText));
     }

@@ -14,19 +14,23 @@ namespace orv {
 
 using EditorMode = GridPropertyEditorView::EditorMode;
 
-Result<std::unique_ptr<PropertyGridWidget>>
-PropertyGridWidget::create(const QStringList &columns, const VariantItems &cells, QWidget *parent)
+Result<std::unique_ptr<PropertyGridWidget>> PropertyGridWidget::create(const QStringList &columns,
+                                                                       const VariantItems &cells,
+                                                                       QWidget *parent,
+                                                                       GridCommunicationManager *bus)
 {
-    std::unique_ptr<PropertyGridWidget> grid(new PropertyGridWidget(columns, cells, parent));
+    std::unique_ptr<PropertyGridWidget> grid(new PropertyGridWidget(columns, cells, parent, bus));
     if (grid->d->error.hasError())
         return grid->d->error.ecatch();
     return grid;
 }
 
-PropertyGridWidget::PropertyGridWidget(const QStringList &columns, const VariantItems &cells, QWidget *parent)
+PropertyGridWidget::PropertyGridWidget(const QStringList &columns, const VariantItems &cells, QWidget *parent,
+                                       GridCommunicationManager *bus)
     : QWidget(parent)
     , d(std::make_unique<Private>(this, columns))
 {
+    d->bus = bus;
     d->error = appendData(cells);
     d->layOut();
     for (int i = 0; i < d->splitter->count(); ++i)

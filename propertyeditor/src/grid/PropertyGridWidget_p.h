@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ColumnMenu.h"
+#include "orv/propertyeditor/grid/GridCommunicationManager.h"
 #include "orv/propertyeditor/grid/PropertyGridWidget.h"
 
 #include <QJsonObject>
@@ -29,6 +30,7 @@ public:
     [[nodiscard]] QList<QPointer<GridPropertyEditorView>> views() const;
 
     QSplitter *splitter;
+    QPointer<GridCommunicationManager> bus; ///< null for that of all grids
     QStringList columnNames;
     QList<IGridItem *> items;
     QHBoxLayout *buttonsLayout;

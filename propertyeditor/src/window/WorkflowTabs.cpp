@@ -22,7 +22,8 @@ WorkflowTabs::WorkflowTabs(EditableTabWidget *tabs, QObject *parent)
 
 Error WorkflowTabs::add(const QString &name, const QStringList &columns, const VariantItems &cells)
 {
-    Result<std::unique_ptr<PropertyGridWidget>> created = PropertyGridWidget::create(columns, cells, nullptr);
+    Result<std::unique_ptr<PropertyGridWidget>> created =
+        PropertyGridWidget::create(columns, cells, nullptr, &m_bus);
     if (created.hasError())
         return created.ecatch();
     const QPointer<PropertyGridWidget> grid = created->release();

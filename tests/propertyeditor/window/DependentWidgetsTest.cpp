@@ -1,6 +1,8 @@
 #include "WidgetTest.h"
 #include "WindowFixture.h"
 
+#include <KProperty.h>
+#include <KPropertySet.h>
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/window/ProteinTabs.h>
 #include <orv/widgets/ProteinAnnotationWidget.h>
@@ -62,6 +64,7 @@ private Q_SLOTS:
     void removedColumnsAreForwarded();
     void theLastSamplesCount();
     void tableOfProteinsIsToldOnce();
+    void documentsDontHearEachOther();
 };
 
 void DependentWidgetsTest::averageMassesFollowTheDocuments()
@@ -186,6 +189,27 @@ void DependentWidgetsTest::tableOfProteinsIsToldOnce()
     const LogCapture log;
     window.grid(0)->appendColumn(BaseItemType::Karvon, u"Search"_s, true);
     QCOMPARE(told.size(), 1);
+}
+
+void DependentWidgetsTest::documentsDontHearEachOther()
+{
+    const QJsonObject samples = Documents::parse(R"({"Samples": [{"SampleName": "one", "SamplesId": 1}]})");
+    const QJsonObject document = documentOf({settingsCell("Samples", {setting("SamplesTable", samples)}),
+                                             settingsCell("Karvon", {setting("Samples", u"one"_s)})});
+    Window first;
+    Window second;
+    QCOMPARE(first.openWorkflow(document), kOpened);
+    QCOMPARE(second.openWorkflow(document), kOpened);
+    auto *table = shown<SamplesAndTracesInputWidget>(first);
+    QByteArray renamed = QJsonDocument(table->jsonContent()).toJson();
+    renamed.replace("\"one\"", "\"two\"");
+    QVERIFY(!table->setFromJsonContent(Documents::parse(renamed)).hasError());
+    const auto pattern = [](Window &window) {
+        auto *view = qobject_cast<GridPropertyEditorView *>(window.grid(0)->items().at(1)->widget());
+        return view->propertySet()->property("Samples").value().toString();
+    };
+    QCOMPARE(pattern(first), u"two"_s);
+    QCOMPARE(pattern(second), u"one"_s);
 }
 
 WIDGET_REGISTER_TEST(DependentWidgetsTest)

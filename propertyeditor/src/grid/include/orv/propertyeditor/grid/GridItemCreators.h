@@ -17,14 +17,13 @@
 
 namespace orv {
 
-/// Makes items on the bus of the manager.
 template<class Item>
-class BusItemCreator : public IGridItemCreator
+class BusItemCreator : public TalkingItemCreator
 {
 public:
-    [[nodiscard]] IGridItem *createGridItem() const override
+    [[nodiscard]] IGridItem *createGridItemOn(GridCommunicationManager *bus) const override
     {
-        return new Item(GridItemManager::instance()->communicationManager());
+        return new Item(bus);
     }
 };
 
@@ -37,13 +36,13 @@ public:
 };
 
 /// Makes columns of chains whose table stands in a property.
-class ORV_PROPERTY_EDITOR_EXPORT ProteinsItemCreatorBase : public IGridItemCreator
+class ORV_PROPERTY_EDITOR_EXPORT ProteinsItemCreatorBase : public TalkingItemCreator
 {
 public:
     explicit ProteinsItemCreatorBase(PropertyId id)
         : m_id(id)
     {}
-    [[nodiscard]] IGridItem *createGridItem() const override;
+    [[nodiscard]] IGridItem *createGridItemOn(GridCommunicationManager *bus) const override;
 
 private:
     PropertyId m_id;

@@ -38,7 +38,8 @@ public:
 
     /// Owned by the caller. Of a type without a creator it is a column of settings, which keeps the type that
     /// its cell has.
-    [[nodiscard]] IGridItem *createItem(BaseItemType type) const;
+    /// With a \a bus its columns talk over that one, with null over the manager's.
+    [[nodiscard]] IGridItem *createItem(BaseItemType type, GridCommunicationManager *bus = nullptr) const;
 
     /// The bus of items that aren't given another one.
     [[nodiscard]] GridCommunicationManager *communicationManager() const;

@@ -6,6 +6,7 @@
 
 namespace orv {
 
+class GridCommunicationManager;
 class IGridItem;
 
 /// Makes grid items of one kind. Holds nothing but what tells the kind.
@@ -18,6 +19,17 @@ public:
 
     /// Owned by the caller; null where the kind can't be made.
     [[nodiscard]] virtual IGridItem *createGridItem() const = 0;
+    /// The same for columns that talk over \a bus alone, such as those of one of several documents. Creators
+    /// that don't override it make items on the bus that they know.
+    [[nodiscard]] virtual IGridItem *createGridItemOn(GridCommunicationManager *bus) const;
+};
+
+/// Makes items that talk over the bus of the manager, unless they are given another one.
+class ORV_PROPERTY_EDITOR_EXPORT TalkingItemCreator : public IGridItemCreator
+{
+public:
+    [[nodiscard]] IGridItem *createGridItem() const override;
+    [[nodiscard]] IGridItem *createGridItemOn(GridCommunicationManager *bus) const override = 0;
 };
 
 } // namespace orv

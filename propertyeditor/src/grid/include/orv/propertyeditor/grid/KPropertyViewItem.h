@@ -43,11 +43,10 @@ private:
     bool m_ownsView = false;
 };
 
-/// On the bus of the manager.
-class ORV_PROPERTY_EDITOR_EXPORT KPropertyItemCreator : public IGridItemCreator
+class ORV_PROPERTY_EDITOR_EXPORT KPropertyItemCreator : public TalkingItemCreator
 {
 public:
-    [[nodiscard]] IGridItem *createGridItem() const override;
+    [[nodiscard]] IGridItem *createGridItemOn(GridCommunicationManager *bus) const override;
 };
 
 } // namespace orv

@@ -19,6 +19,7 @@ QT_FORWARD_DECLARE_CLASS(QSplitter)
 
 namespace orv {
 
+class GridCommunicationManager;
 class IGridItem;
 
 /// What a tab shows: a row of columns, each a title above the widget of its grid item. GUI thread.
@@ -27,9 +28,11 @@ class ORV_PROPERTY_EDITOR_EXPORT PropertyGridWidget : public QWidget
     Q_OBJECT
 
 public:
-    /// The grid of a tab in the value form: as many \a cells as \a columns. Fails as appendData does.
+    /// The grid of a tab in the value form: as many \a cells as \a columns. Fails as appendData does. Its
+    /// columns talk over \a bus, which isn't owned, or over that of all grids without one.
     [[nodiscard]] static Result<std::unique_ptr<PropertyGridWidget>>
-    create(const QStringList &columns, const VariantItems &cells, QWidget *parent = nullptr);
+    create(const QStringList &columns, const VariantItems &cells, QWidget *parent = nullptr,
+           GridCommunicationManager *bus = nullptr);
     ~PropertyGridWidget() override;
 
     /// With default content a column stands there; without it only its name, for cells that are appended
@@ -72,7 +75,8 @@ Q_SIGNALS:
     void contentEdited();
 
 private:
-    PropertyGridWidget(const QStringList &columns, const VariantItems &cells, QWidget *parent);
+    PropertyGridWidget(const QStringList &columns, const VariantItems &cells, QWidget *parent,
+                       GridCommunicationManager *bus);
 
     class Private;
     const std::unique_ptr<Private> d;

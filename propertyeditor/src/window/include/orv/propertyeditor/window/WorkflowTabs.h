@@ -2,6 +2,7 @@
 
 #include <orv/core/Error.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
+#include <orv/propertyeditor/grid/GridCommunicationManager.h>
 #include <orv/propertyeditor/grid/GridPropertyEditorView.h>
 #include <orv/propertyeditor/grid/WidgetValidationType.h>
 #include <orv/widgets/Export.h>
@@ -20,7 +21,8 @@ class IGridItem;
 class PropertyGridWidget;
 
 /// The tabs of a document on the screen: made from the value form and read back. A tab that shows something
-/// else than a PropertyGridWidget is passed over by every function but remove(). GUI thread.
+/// else than a PropertyGridWidget is passed over by every function but remove(). Columns talk to those of the
+/// same document alone. GUI thread.
 class ORV_PROPERTY_EDITOR_EXPORT WorkflowTabs : public QObject
 {
     Q_OBJECT
@@ -82,6 +84,7 @@ private:
     [[nodiscard]] PropertyEditorContent::Tab read(int index) const;
 
     EditableTabWidget *m_tabs;
+    GridCommunicationManager m_bus; ///< of this document alone
     Prepare m_prepare;
     EditorMode m_editorMode = EditorMode::User;
     PropertiesViewMode m_propertiesViewMode = PropertiesViewMode::Basic;
