@@ -5,6 +5,8 @@
 #include <KPropertySet.h>
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/window/ProteinTabs.h>
+#include <orv/widgets/GlycanOptionsWidget.h>
+#include <orv/widgets/GlycanTableWidget.h>
 #include <orv/widgets/ProteinAnnotationWidget.h>
 #include <orv/widgets/ProteinInputWidgetBase.h>
 #include <orv/widgets/ProteinOptionsWidget.h>
@@ -65,6 +67,11 @@ private Q_SLOTS:
     void theLastSamplesCount();
     void tableOfProteinsIsToldOnce();
     void documentsDontHearEachOther();
+    void tabsHaveTheTitleOfTheCurrentWindow();
+    void removedColumnsAreToldAgainAfterEachConnection();
+    void importsAreCheckedForIntactAnalyses_data();
+    void importsAreCheckedForIntactAnalyses();
+    void glycansFollowTheirOptions();
 };
 
 void DependentWidgetsTest::averageMassesFollowTheDocuments()
@@ -210,6 +217,80 @@ void DependentWidgetsTest::documentsDontHearEachOther()
     };
     QCOMPARE(pattern(first), u"two"_s);
     QCOMPARE(pattern(second), u"one"_s);
+}
+
+void DependentWidgetsTest::tabsHaveTheTitleOfTheCurrentWindow()
+{
+    const LogCapture log;
+    Window first;
+    QCOMPARE(first.openWorkflow(documentOf({karvonCell()}, metadata("5.47.0", "First"))), kOpened);
+    QCOMPARE(first.tabs().windowTitle(), u"First - Project Creation"_s);
+    QVERIFY(log.texts(QtDebugMsg).contains(u"Updating dependent widgets"_s));
+    const Window second;
+    first.grid(0)->appendColumn(BaseItemType::Karvon, u"Search"_s, true);
+    QCOMPARE(first.tabs().windowTitle(), second.windowTitle());
+}
+
+void DependentWidgetsTest::removedColumnsAreToldAgainAfterEachConnection()
+{
+    Window window;
+    QCOMPARE(window.openWorkflow(documentOf({tableCell("Samples")})), kOpened);
+    const QSignalSpy told(&window.state(), &PropertyEditorWindowPrivate::removeCustomColumn);
+    window.state().connectGridWidgets();
+    Q_EMIT shown<SamplesAndTracesInputWidget>(window)->removeCustomColumn(u"Batch"_s);
+    QCOMPARE(told.size(), 2);
+}
+
+void DependentWidgetsTest::importsAreCheckedForIntactAnalyses_data()
+{
+    QTest::addColumn<QByteArray>("document");
+    QTest::addColumn<bool>("isChecked");
+    QTest::newRow("intact") << QByteArray("Intact") << true;
+    QTest::newRow("oligonucleotides") << QByteArray("Oligo") << true;
+    QTest::newRow("search") << QByteArray("Karvon") << false;
+}
+
+void DependentWidgetsTest::importsAreCheckedForIntactAnalyses()
+{
+    QFETCH(const QByteArray, document);
+    QFETCH(const bool, isChecked);
+    const QTemporaryDir folder;
+    const QString csv = write(folder, "a.csv", QByteArray("Sample,Mass\none,18.0\n"));
+    ScriptedAnswerer answers;
+    Window window;
+    const QJsonObject table{{u"data"_s, QJsonArray()}, {u"children"_s, QJsonArray()}};
+    const QJsonObject value{{u"header"_s, table}, {u"table"_s, table}};
+    QCOMPARE(
+        window.openWorkflow(documentOf({settingsCell("SamplesProteins", {setting("SamplesProteins", value)}),
+                                        settingsCell(document.constData(), {})})),
+        kOpened);
+    auto *item = dynamic_cast<SamplesProteinsTableItem *>(window.grid(0)->items().first());
+    if (isChecked)
+        answers.expectBox(u"Import"_s, u"OK"_s);
+    item->importCSV(csv);
+    QVERIFY(answers.isDone());
+    const QJsonArray rows = window.content()
+                                .document()[u"tabs"_s][0][u"cells"_s][0][u"properties"_s][0][u"value"_s]
+                                           [u"table"_s][u"children"_s]
+                                .toArray();
+    QCOMPARE(rows.isEmpty(), isChecked);
+}
+
+void DependentWidgetsTest::glycansFollowTheirOptions()
+{
+    const QString path = TestData::examplePath(u"workflows/released_glycans.wflw"_s);
+    const LogCapture log;
+    ScriptedAnswerer answers;
+    answers.expectBox(u"Workflow upgrade"_s, u"Apply"_s);
+    Window window;
+    QCOMPARE(window.openWorkflow(path), kOpened);
+    auto *options = shown<GlycanOptionsWidget>(window);
+    auto *glycans = shown<GlycanTableWidget>(window);
+    QVERIFY(options && glycans);
+    const QString before = glycans->toPlainText();
+    options->setOptions(GlycanOptions());
+    QCoreApplication::processEvents();
+    QVERIFY(glycans->toPlainText() != before);
 }
 
 WIDGET_REGISTER_TEST(DependentWidgetsTest)

@@ -99,6 +99,7 @@ private Q_SLOTS:
     void widgetWarningsNameThePurpose();
     void pathsByDocuments_data();
     void pathsByDocuments();
+    void unmergedSearchesGoToAFolder();
     void missingDocumentsAreTold();
     void windowsMayGoMeanwhile();
 };
@@ -291,6 +292,38 @@ void HandOverTest::pathsByDocuments()
     QTEST(int(path.kind()), "kind");
     answers.expectPath(title, {});
     QVERIFY(ProjectOutput::askForPath(nullptr, documents, {}, nullptr).isEmpty());
+}
+
+void HandOverTest::unmergedSearchesGoToAFolder()
+{
+    const QTemporaryDir folder;
+    Content content;
+    for (const bool isMerged : {false, true}) {
+        const QJsonObject merge = setting("MergeKarvonResults", isMerged ? u"true"_s : u"false"_s);
+        QVERIFY(!content.assignFromJson(documentOf({karvonCell({merge})})).hasError());
+        ScriptedAnswerer answers;
+        if (isMerged) {
+            answers.expectPath(u"Save project as"_s, folder.filePath(u"a.karvon"_s));
+        } else {
+            answers.expectDialog(u"Save Projects"_s, [&folder](QDialog &dialog) {
+                dialog.findChild<QLineEdit *>()->setText(folder.path());
+                return true;
+            });
+        }
+        DuplicateFilePolicy policy = DuplicateFilePolicy::Overwrite;
+        const Path path =
+            ProjectOutput::askForPath(nullptr, content.findAllDocuments(), content.findProjects(), &policy);
+        QVERIFY2(answers.isDone(), qPrintable(transcriptOf(answers).join(u'\n')));
+        QCOMPARE(path.isFile(), isMerged);
+        QCOMPARE(path.isEmpty(), false);
+        QCOMPARE(policy, isMerged ? DuplicateFilePolicy::Overwrite : DuplicateFilePolicy::KeepBoth);
+    }
+    ScriptedAnswerer answers;
+    const QJsonObject alone = setting("MergeKarvonResults", u"false"_s);
+    QVERIFY(!content.assignFromJson(documentOf({karvonCell({alone})})).hasError());
+    answers.expectDialog(u"Save Projects"_s, [](QDialog &) { return false; });
+    QVERIFY(ProjectOutput::askForPath(nullptr, content.findAllDocuments(), content.findProjects(), nullptr)
+                .isEmpty());
 }
 
 void HandOverTest::missingDocumentsAreTold()

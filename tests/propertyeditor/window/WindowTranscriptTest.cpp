@@ -169,6 +169,28 @@ void WindowTranscriptTest::opening()
         scene.opened(scene.file("a.wflw", documentOf({karvonCell()}, metadata("5.46.0"))));
         lines += scene.lines();
     }
+    {
+        Scene scene("a version of fewer numbers");
+        scene.answers.expectBox(u"Workflow upgrade"_s, u"Apply"_s);
+        scene.opened(scene.file("a.wflw", documentOf({karvonCell()}, metadata("5.47"))));
+        lines += scene.lines();
+    }
+    {
+        Scene scene("an upgrade that fails, to be saved");
+        scene.answers.expectBox(u"Workflow upgrade"_s, u"Apply and save..."_s);
+        scene.answers.expectBox(u"Workflow updating failed"_s, u"Yes"_s);
+        scene.opened(scene.file("a.wflw", documentOf({karvonCell()}, metadata("5.38.0"))));
+        lines += scene.lines();
+    }
+    {
+        Scene scene("an upgrade that tells of changes");
+        scene.answers.expectBox(u"Workflow upgrade"_s, u"Cancel"_s);
+        scene.opened(TestData::examplePath(u"workflows/released_glycans.wflw"_s));
+        QStringList found = scene.lines();
+        found.replaceInStrings(QDir::toNativeSeparators(TestData::examplePath(u"workflows"_s)),
+                               u"EXAMPLES"_s);
+        lines += found;
+    }
     for (const char *answer : {"No", "Yes"}) {
         Scene scene("an upgrade that fails");
         scene.answers.expectBox(u"Workflow upgrade"_s, u"Apply"_s);
