@@ -1,0 +1,229 @@
+#include "orv/propertyeditor/engine/RunFolder.h"
+
+#include <orv/core/FileNameUtils.h>
+#include <orv/core/FileUtils.h>
+#include <orv/project/ProjectCreationStatusFile.h>
+#include <orv/propertyeditor/PropertiesGetter.h>
+#include <orv/propertyeditor/content/Content.h>
+#include <orv/propertyeditor/content/ItemGroup.h>
+#include <orv/propertyeditor/content/ItemSubGroup.h>
+#include <orv/propertyeditor/content/KeyValueItem.h>
+#include <orv/propertyeditor/engine/KarvonPresetCreator.h>
+#include <orv/propertyeditor/engine/PreviewPreset.h>
+#include <orv/resources/ResourceReferenceUtils.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QLockFile>
+#include <QSet>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace orv {
+
+using PropertyEditor::Content;
+using PropertyEditor::KeyValueItem;
+
+namespace {
+
+struct RunFolderTr
+{
+    Q_DECLARE_TR_FUNCTIONS(RunFolder)
+};
+
+constexpr QLatin1String kLockName(".lock");
+
+/// A file of the run that is still to be made.
+struct RunFile
+{
+    QString name;
+    std::function<QByteArray()> make;
+    bool isJob = false;
+};
+
+class RunPlan
+{
+public:
+    explicit RunPlan(const Content &content, const QJsonObject &document)
+        : m_content(content)
+        , m_document(document)
+        , m_samples(content.sampleNames())
+    {}
+
+    /// \a folder is where the run will be found.
+    Result<QList<RunFile>> files(const QString &folder)
+    {
+        m_folder = folder;
+        m_files = {{RunFolder::kWorkflowName, [this] { return QJsonDocument(m_document).toJson(); }}};
+        addSequences();
+        for (const PropertyEditor::ItemGroup *group : m_content.groups()) {
+            for (const PropertyEditor::ItemSubGroup *column : group->subGroups()) {
+                for (const PropertyEditor::BaseItem *cell : column->items()) {
+                    if (const auto *item = qobject_cast<const KeyValueItem *>(cell))
+                        addParameters(*item, column->name());
+                }
+            }
+        }
+        QSet<QString> names;
+        for (const RunFile &file : std::as_const(m_files)) {
+            if (names.contains(file.name.toLower())) {
+                return Error(ErrorCode::InvalidContent,
+                             RunFolderTr::tr("Two samples or columns would share the parameter file \"%1\". "
+                                             "Give them names that differ.")
+                                 .arg(file.name));
+            }
+            names.insert(file.name.toLower());
+        }
+        return m_files;
+    }
+
+private:
+    void addSequences()
+    {
+        const QByteArray fasta = PropertiesGetter(PropertyEditorContent(m_document)).fastaContent();
+        if (!fasta.isEmpty()) {
+            m_files.append({RunFolder::kSequencesName, [fasta] { return fasta; }});
+            m_database = QDir(m_folder).filePath(RunFolder::kSequencesName);
+            return;
+        }
+        for (const SequenceDatabaseItem &database : m_content.sequenceDatabaseItems(0)) {
+            if (m_database.isEmpty())
+                m_database = ResourceReferenceUtils::toString(database.fastaReference(), true);
+        }
+    }
+
+    void addParameters(const KeyValueItem &item, const QString &column)
+    {
+        const bool isSearch = item.type() == BaseItemType::Karvon;
+        const bool isPreview =
+            item.type() == BaseItemType::Preview || item.type() == BaseItemType::TrenqPreview;
+        if (!isSearch && !isPreview)
+            return;
+        const auto creator = std::make_shared<const KarvonPresetCreator>(m_content, item);
+        const auto properties = PreviewPreset::MirelProperties::fromPropertiesMap(item.propertiesMap());
+        for (const QString &name : std::as_const(m_samples)) {
+            const QString base = FileNameUtils::nameFromText(name + u'.' + column);
+            const QString database = m_database;
+            if (isSearch) {
+                m_files.append(
+                    {base + QLatin1String(".xenoset"),
+                     [creator, name, database] { return creator->presetForSample(name, database); }, true});
+                continue;
+            }
+            const QString results = QDir(m_folder).filePath(base);
+            m_files.append({base + QLatin1String(".prv"),
+                            [creator, name, database, results, properties] {
+                                const QString spectra = creator->spectraFileOf(name).valueOr(QString());
+                                return PreviewPreset::createPresetContentFromWorkflow(spectra, database,
+                                                                                      results, properties)
+                                    .toUtf8();
+                            },
+                            true});
+        }
+    }
+
+    const Content &m_content;
+    QJsonObject m_document;
+    QStringList m_samples;
+    QString m_folder;
+    QString m_database;
+    QList<RunFile> m_files;
+};
+
+Error writeFile(const QString &path, const QByteArray &bytes)
+{
+    QString reason;
+    if (FileUtils::writeReproducibleFile(path, bytes, &reason) == QFileDevice::NoError)
+        return Error::NoError;
+    return Error(ErrorCode::CannotOpenFile, RunFolderTr::tr("Could not write the file: %1").arg(path))
+        .addDetail(reason);
+}
+
+Error writeStatus(const QString &folder, const QList<RunFile> &files)
+{
+    QList<ProjectCreationStatusFile::Job> jobs;
+    for (const RunFile &file : files) {
+        if (file.isJob)
+            jobs.append({file.name, ProjectCreationStatusFile::JobState::Queued});
+    }
+    ProjectCreationStatusFile status;
+    status.setJobs(jobs);
+    return status.write(ProjectCreationStatusFile::statusFilePath(folder)).ecatch();
+}
+
+/// Where runs to one place are made, each in a folder of its own.
+QString stagingPattern(const QFileInfo &place)
+{
+    return QStringLiteral(".%1-").arg(place.fileName());
+}
+
+/// What was killed holds its lock no more.
+void sweep(const QFileInfo &place)
+{
+    const QDir parent = place.dir();
+    const QStringList left =
+        parent.entryList({stagingPattern(place) + u'*'}, QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot);
+    for (const QString &name : left) {
+        QLockFile lock(parent.filePath(name) + u'/' + kLockName);
+        lock.setStaleLockTime(0);
+        if (lock.tryLock(0)) {
+            lock.unlock();
+            QDir(parent.filePath(name)).removeRecursively();
+        }
+    }
+}
+
+/// False when it was stopped.
+Result<bool> writeFiles(const QList<RunFile> &files, const QString &folder,
+                        const RunFolder::Progress &progress)
+{
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        if (progress && !progress(int(i), int(files.size()), files.at(i).name))
+            return false;
+        ORV_RETURN_IF_ERROR(writeFile(QDir(folder).filePath(files.at(i).name), files.at(i).make()));
+    }
+    ORV_RETURN_IF_ERROR(writeStatus(folder, files));
+    return !progress || progress(int(files.size()), int(files.size()), {});
+}
+
+} // namespace
+
+Result<QString> RunFolder::write(const QJsonObject &document, const QString &folder, const Progress &progress)
+{
+    const QFileInfo place(QDir::cleanPath(QFileInfo(folder).absoluteFilePath()));
+    if (place.exists() || place.isSymLink()) {
+        return Error(ErrorCode::InvalidContent,
+                     RunFolderTr::tr("The folder exists already: %1").arg(place.filePath()))
+            .addDetail(RunFolderTr::tr("Choose another name, or remove it."));
+    }
+    Content content;
+    ORV_RETURN_IF_ERROR(content.assignFromJson(document));
+    RunPlan plan(content, document);
+    Result<QList<RunFile>> files = plan.files(place.filePath());
+    if (files.hasError())
+        return files.ecatch();
+    QDir().mkpath(place.path());
+    sweep(place);
+    QTemporaryDir staging(place.dir().filePath(stagingPattern(place) + QLatin1String("XXXXXX")));
+    QLockFile lock(staging.filePath(kLockName));
+    const QString run = staging.filePath(QStringLiteral("run"));
+    if (!staging.isValid() || !lock.tryLock(0) || !QDir().mkdir(run)) {
+        return Error(ErrorCode::CannotOpenFile,
+                     RunFolderTr::tr("Nothing can be written in the folder: %1").arg(place.path()))
+            .addDetail(staging.errorString());
+    }
+    Result<bool> isComplete = writeFiles(*files, run, progress);
+    if (isComplete.hasError())
+        return isComplete.ecatch();
+    if (!*isComplete)
+        return QString();
+    if (!QDir().rename(run, place.filePath())) {
+        return Error(ErrorCode::CannotOpenFile,
+                     RunFolderTr::tr("The folder can't be made: %1").arg(place.filePath()));
+    }
+    return place.filePath();
+}
+
+} // namespace orv
