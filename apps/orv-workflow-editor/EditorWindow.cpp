@@ -1,0 +1,177 @@
+#include "EditorWindow.h"
+
+#include "RecentFiles.h"
+#include "Runs.h"
+
+#include <orv/core/Settings.h>
+#include <orv/propertyeditor/workflow/WflwUtils.h>
+#include <orv/widgets/CoreMainWindow.h>
+#include <orv/widgets/ORVFileDialog.h>
+#include <orv/widgets/ORVStyle.h>
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDesktopServices>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QPointer>
+#include <QUrl>
+
+namespace orv {
+
+namespace {
+
+constexpr QLatin1String kGeometry("Editor/WindowGeometry");
+
+QStringList workflowsIn(const QMimeData &data)
+{
+    QStringList paths;
+    for (const QUrl &url : data.urls()) {
+        const QString path = url.toLocalFile();
+        if (WflwUtils::isMirelWorkflow(path) || WflwUtils::isMirelPortableWorkflow(path))
+            paths.append(path);
+    }
+    return paths;
+}
+
+} // namespace
+
+EditorWindow::EditorWindow(CoreMainWindow *mainWindow)
+    : PropertyEditorDesktopWindow(mainWindow)
+    , m_mainWindow(mainWindow)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAcceptDrops(true);
+    buildFileMenu();
+    buildHelpMenu();
+    restoreGeometry(as::value(kGeometry).toByteArray());
+    connect(this, &PropertyEditorWindow::sendToProcessing, this, &EditorWindow::run);
+    connect(this, &PropertyEditorWindow::openProject, this,
+            [](const QString &folder) { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); });
+}
+
+void EditorWindow::buildFileMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&File"));
+    const auto add = [this, menu](const QString &text, QKeySequence::StandardKey key, auto slot) {
+        QAction *action = menu->addAction(text);
+        action->setShortcuts(key);
+        connect(action, &QAction::triggered, this, slot);
+    };
+    add(tr("&New Window"), QKeySequence::New, [this] { (new EditorWindow(m_mainWindow))->show(); });
+    add(tr("&Open..."), QKeySequence::Open, [this] { selectAndOpenWorkflow(); });
+    QMenu *recent = menu->addMenu(tr("Open &Recent"));
+    connect(recent, &QMenu::aboutToShow, this, [this, recent] { fillRecentMenu(recent); });
+    menu->addSeparator();
+    add(tr("&Save As..."), QKeySequence::Save, [this] { saveWorkflowAs(); });
+    add(tr("Workflow &Properties..."), QKeySequence::UnknownKey, [this] { openWorkflowProperties(); });
+    menu->addSeparator();
+    add(tr("Create Pro&ject..."), QKeySequence::UnknownKey, [this] { createProjectClicked(); });
+    menu->addSeparator();
+    add(tr("&Close"), QKeySequence::Close, [this] { close(); });
+    add(tr("&Quit"), QKeySequence::Quit, [] { QApplication::closeAllWindows(); });
+}
+
+void EditorWindow::fillRecentMenu(QMenu *menu)
+{
+    menu->clear();
+    const QStringList files = RecentFiles::all();
+    for (const QString &path : files)
+        connect(menu->addAction(path), &QAction::triggered, this, [this, path] { openBesides(path); });
+    if (files.isEmpty())
+        menu->addAction(tr("No workflow was opened yet"))->setEnabled(false);
+    else
+        connect(menu->addAction(tr("&Forget These")), &QAction::triggered, this, &RecentFiles::clear);
+}
+
+void EditorWindow::buildHelpMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&Help"));
+    connect(menu->addAction(tr("&About ORV Workflow Editor")), &QAction::triggered, this,
+            &EditorWindow::showAbout);
+}
+
+void EditorWindow::showAbout()
+{
+    const QString text =
+        tr("ORV Workflow Editor %1\nFormat version %2 of workflows\nLGPL-2.1-or-later\n\nQt %3 (LGPL-3.0)\n"
+           "ProteoWizard (Apache-2.0)\nQCoro (MIT)\nQuaZip (LGPL-2.1)\nlibcsv (LGPL-2.1)")
+            .arg(QApplication::applicationVersion(), WflwMetaData::currentWorkflowVersion().toString(),
+                 QLatin1String(qVersion()));
+    ORVStyle::information(this, tr("About ORV Workflow Editor"), text);
+}
+
+bool EditorWindow::isPristine() const
+{
+    return dFunc()->workflowFilePath().isNull() && content().tabsAndContent().isEmpty();
+}
+
+void EditorWindow::openBesides(const QString &path)
+{
+    auto *window = isPristine() ? this : new EditorWindow(m_mainWindow);
+    window->show();
+    window->openWorkflow(path);
+}
+
+PropertyEditorWindow::OpenStatus EditorWindow::selectAndOpenWorkflow()
+{
+    return PropertyEditorDesktopWindow::selectAndOpenWorkflow();
+}
+
+PropertyEditorWindow::OpenStatus EditorWindow::openWorkflow(const QString &filePath,
+                                                            const ResourceReferenceSPtr &folderToPreselect)
+{
+    const QPointer<EditorWindow> self(this);
+    const OpenStatus status = PropertyEditorDesktopWindow::openWorkflow(filePath, folderToPreselect);
+    if (self && status == OpenStatus::Opened)
+        RecentFiles::add(filePath);
+    return status;
+}
+
+void EditorWindow::run(const PropertyEditor::Content &content, const Path &outputPath,
+                       DuplicateFilePolicy policy)
+{
+    const QPointer<EditorWindow> self(this);
+    QElapsedTimer clock;
+    clock.start();
+    const Runs::Outcome outcome = Runs::write(content, outputPath, content.name(), policy, this);
+    if (!self)
+        return;
+    if (outcome.error.hasError()) {
+        ORVStyle::critical(this, tr("Project creation"), outcome.error.errorMessage(), QMessageBox::Ok, {},
+                           QMessageBox::NoButton, outcome.error.details().join(u'\n'));
+    }
+    if (self)
+        Q_EMIT projectCreationFinished(outcome.error, outcome.folders, clock.elapsed());
+    for (const QString &folder : outcome.folders) {
+        if (self)
+            Q_EMIT openProject(folder);
+    }
+}
+
+void EditorWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!workflowsIn(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void EditorWindow::dropEvent(QDropEvent *event)
+{
+    const QPointer<EditorWindow> self(this);
+    const QStringList paths = workflowsIn(*event->mimeData());
+    event->acceptProposedAction();
+    for (const QString &path : paths) {
+        if (self)
+            openBesides(path);
+    }
+}
+
+void EditorWindow::closeEvent(QCloseEvent *event)
+{
+    as::setValue(kGeometry, saveGeometry());
+    PropertyEditorDesktopWindow::closeEvent(event);
+}
+
+} // namespace orv

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QStringList>
+
+/// The workflows that were opened last, the latest first, remembered from one run to the next.
+namespace orv::RecentFiles {
+
+inline constexpr int kMost = 10;
+
+/// Those that are still there.
+[[nodiscard]] QStringList all();
+void add(const QString &path);
+void clear();
+
+} // namespace orv::RecentFiles

@@ -1,0 +1,55 @@
+#include "EditorWindow.h"
+
+#include <orv/propertyeditor/grid/GridItemCreators.h>
+#include <orv/widgets/CoreMainWindow.h>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+namespace {
+
+/// The columns that the library leaves to its hosts.
+void registerCreators()
+{
+    using namespace orv;
+    GridItemManager *manager = GridItemManager::instance();
+    manager->registerCreators();
+    manager->registerCreator(BaseItemType::SamplesProteins, new SamplesProteinsTableItemCreator);
+    manager->registerCreator(BaseItemType::IntactOptions, new IntactOptionsItemCreator);
+    manager->registerCreator(BaseItemType::OligoOptions, new OligoOptionsItemCreator);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("ORV"));
+    QApplication::setApplicationName(QStringLiteral("orv-workflow-editor"));
+    QApplication::setApplicationDisplayName(QStringLiteral("ORV Workflow Editor"));
+    QApplication::setApplicationVersion(QStringLiteral(ORV_VERSION));
+    QTranslator qtTexts;
+    if (qtTexts.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&qtTexts);
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QApplication::translate("main", "Views, edits, checks and upgrades mass-spectrometry workflows."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("files"),
+                                 QApplication::translate("main", "Workflows to open, a window each."),
+                                 QStringLiteral("[FILE...]"));
+    parser.process(application);
+
+    registerCreators();
+    orv::CoreMainWindow mainWindow;
+    auto *window = new orv::EditorWindow(&mainWindow);
+    window->show();
+    for (const QString &file : parser.positionalArguments())
+        window->openBesides(file);
+    return QApplication::exec();
+}

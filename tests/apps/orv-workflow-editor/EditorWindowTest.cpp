@@ -1,0 +1,283 @@
+#include "EditorWindow.h"
+
+#include "RecentFiles.h"
+#include "TestData.h"
+#include "WidgetTest.h"
+
+#include <orv/core/Settings.h>
+#include <orv/propertyeditor/grid/GridItemCreators.h>
+#include <orv/widgets/CoreMainWindow.h>
+#include <orv/widgets/DialogAnswerer.h>
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QDropEvent>
+#include <QFile>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTemporaryDir>
+
+using namespace orv;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kOpened = PropertyEditorWindow::OpenStatus::Opened;
+
+QString intactExample()
+{
+    return TestData::examplePath(u"workflows/intact_mass_check.wflw"_s);
+}
+
+QAction *command(const QWidget &window, const QString &text)
+{
+    for (QAction *action : window.findChildren<QAction *>()) {
+        if (action->text() == text)
+            return action;
+    }
+    qFatal("There is no command \"%s\"", qPrintable(text));
+}
+
+QList<EditorWindow *> openWindows()
+{
+    QList<EditorWindow *> windows;
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *window = qobject_cast<EditorWindow *>(widget); window && window->isVisible())
+            windows.append(window);
+    }
+    return windows;
+}
+
+/// Catches what would be shown to a person by the desktop.
+class Desktop : public QObject
+{
+    Q_OBJECT
+
+public:
+    Desktop() { QDesktopServices::setUrlHandler(u"file"_s, this, "show"); }
+    ~Desktop() override { QDesktopServices::unsetUrlHandler(u"file"_s); }
+
+    QStringList shown;
+
+public Q_SLOTS:
+    void show(const QUrl &url) { shown.append(url.toLocalFile()); }
+};
+
+} // namespace
+
+class EditorWindowTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+    void filesAreRemembered();
+    void missingFilesAreForgotten();
+    void emptyWindowsAreUsed();
+    void fullWindowsStay();
+    void filesAreDropped();
+    void otherDropsAreRefused();
+    void projectsAreWrittenAndShown();
+    void existingRunsAreKept();
+    void failedRunsAreTold();
+    void aboutTellsVersions();
+    void mnemonicsDiffer();
+    void geometryIsRemembered();
+
+private:
+    void open();
+
+    std::unique_ptr<CoreMainWindow> m_main;
+    QPointer<EditorWindow> m_window;
+};
+
+void EditorWindowTest::initTestCase()
+{
+    GridItemManager *manager = GridItemManager::instance();
+    manager->registerCreators();
+    manager->registerCreator(BaseItemType::IntactOptions, new IntactOptionsItemCreator);
+}
+
+void EditorWindowTest::open()
+{
+    RecentFiles::clear();
+    as::setValue(u"Editor/WindowGeometry"_s, {});
+    m_main = std::make_unique<CoreMainWindow>();
+    m_window = new EditorWindow(m_main.get());
+    m_window->show();
+    (void)QTest::qWaitForWindowActive(m_window);
+}
+
+void EditorWindowTest::cleanup()
+{
+    for (EditorWindow *window : openWindows())
+        delete window;
+    delete m_window;
+}
+
+void EditorWindowTest::filesAreRemembered()
+{
+    open();
+    QCOMPARE(m_window->openWorkflow(intactExample()), kOpened);
+    QCOMPARE(RecentFiles::all(), QStringList{intactExample()});
+    const QTemporaryDir folder;
+    QList<QString> expected{intactExample()};
+    for (int i = 0; i < 12; ++i) {
+        const QString path = folder.filePath(u"%1.wflw"_s.arg(i));
+        QVERIFY(QFile::copy(intactExample(), path));
+        RecentFiles::add(path);
+        expected.prepend(path);
+    }
+    QCOMPARE(RecentFiles::all(), expected.mid(0, 10));
+    RecentFiles::add(expected.at(3));
+    QCOMPARE(RecentFiles::all().first(), expected.at(3));
+    QCOMPARE(RecentFiles::all().size(), 10);
+}
+
+void EditorWindowTest::missingFilesAreForgotten()
+{
+    open();
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.wflw"_s);
+    QVERIFY(QFile::copy(intactExample(), path));
+    RecentFiles::add(path);
+    RecentFiles::add(folder.filePath(u"none.wflw"_s));
+    QCOMPARE(RecentFiles::all(), QStringList{path});
+    QVERIFY(QFile::remove(path));
+    QCOMPARE(RecentFiles::all(), QStringList());
+}
+
+void EditorWindowTest::emptyWindowsAreUsed()
+{
+    open();
+    m_window->openBesides(intactExample());
+    QCOMPARE(openWindows().size(), 1);
+    QVERIFY(m_window->windowTitle().contains(u"intact_mass_check.wflw"_s));
+}
+
+void EditorWindowTest::fullWindowsStay()
+{
+    open();
+    m_window->openBesides(intactExample());
+    m_window->openBesides(TestData::examplePath(u"workflows/de_novo_antibody.wflw"_s));
+    QCOMPARE(openWindows().size(), 2);
+    QVERIFY(m_window->windowTitle().contains(u"intact_mass_check.wflw"_s));
+}
+
+void EditorWindowTest::filesAreDropped()
+{
+    open();
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(intactExample()), QUrl::fromLocalFile(u"/tmp/other.txt"_s)});
+    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(m_window, &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(m_window, &drop);
+    QCOMPARE(openWindows().size(), 1);
+    QVERIFY(m_window->windowTitle().contains(u"intact_mass_check.wflw"_s));
+}
+
+void EditorWindowTest::otherDropsAreRefused()
+{
+    open();
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(u"/tmp/other.txt"_s)});
+    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    enter.ignore();
+    QApplication::sendEvent(m_window, &enter);
+    QVERIFY(!enter.isAccepted());
+}
+
+void EditorWindowTest::projectsAreWrittenAndShown()
+{
+    open();
+    const Desktop desktop;
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    QCOMPARE(m_window->openWorkflow(intactExample()), kOpened);
+    const QSignalSpy finished(m_window, &PropertyEditorWindow::projectCreationFinished);
+    answers.expectPath(u"Save project as"_s, folder.filePath(u"mab.intact"_s));
+    QTest::mouseClick(m_window->findChild<QPushButton *>(u"pushCreateProject"_s), Qt::LeftButton);
+    QVERIFY(answers.isDone());
+    const QString run = folder.filePath(u"mab.intact.run"_s);
+    QCOMPARE(finished.size(), 1);
+    QVERIFY(!finished.first().at(0).value<Error>().hasError());
+    QCOMPARE(finished.first().at(1).toStringList(), QStringList{run});
+    QCOMPARE(desktop.shown, QStringList{run});
+    QVERIFY(TestData::read(run + u"/workflow.wflw"_s)
+                .contains(TestData::examplePath(u"workflows/data/"_s).toUtf8()));
+}
+
+void EditorWindowTest::existingRunsAreKept()
+{
+    open();
+    const Desktop desktop;
+    const QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir(u"mab.intact.run"_s));
+    ScriptedAnswerer answers;
+    QCOMPARE(m_window->openWorkflow(intactExample()), kOpened);
+    answers.expectPath(u"Save project as"_s, folder.filePath(u"mab.intact"_s));
+    QVERIFY(m_window->createProjectClicked());
+    QVERIFY(QDir(folder.filePath(u"mab.intact.run"_s)).isEmpty());
+    QCOMPARE(desktop.shown, QStringList{folder.filePath(u"mab.intact (2).run"_s)});
+}
+
+void EditorWindowTest::failedRunsAreTold()
+{
+    open();
+    const Desktop desktop;
+    ScriptedAnswerer answers;
+    QCOMPARE(m_window->openWorkflow(intactExample()), kOpened);
+    const QSignalSpy finished(m_window, &PropertyEditorWindow::projectCreationFinished);
+    answers.expectPath(u"Save project as"_s, u"/proc/none/mab.intact"_s);
+    answers.expectBox(u"Project creation"_s, u"OK"_s);
+    QVERIFY(m_window->createProjectClicked());
+    QVERIFY(answers.isDone());
+    QVERIFY(finished.first().at(0).value<Error>().hasError());
+    QVERIFY(desktop.shown.isEmpty());
+}
+
+void EditorWindowTest::aboutTellsVersions()
+{
+    open();
+    ScriptedAnswerer answers;
+    answers.expectBox(u"About ORV Workflow Editor"_s, u"OK"_s);
+    command(*m_window, u"&About ORV Workflow Editor"_s)->trigger();
+    QVERIFY(answers.transcript().first().text.contains(u"5.47.0"_s));
+    QVERIFY(answers.transcript().first().text.contains(QLatin1String(qVersion())));
+}
+
+void EditorWindowTest::mnemonicsDiffer()
+{
+    open();
+    for (const QMenu *menu : m_window->menuBar()->findChildren<QMenu *>()) {
+        QSet<QChar> letters;
+        for (const QAction *action : menu->actions()) {
+            const qsizetype mark = action->text().indexOf(u'&');
+            if (mark < 0)
+                continue;
+            const QChar letter = action->text().at(mark + 1).toLower();
+            QVERIFY2(!letters.contains(letter), qPrintable(action->text()));
+            letters.insert(letter);
+        }
+    }
+}
+
+void EditorWindowTest::geometryIsRemembered()
+{
+    open();
+    m_window->resize(900, 555);
+    m_window->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!m_window);
+    m_window = new EditorWindow(m_main.get());
+    QCOMPARE(m_window->size(), QSize(900, 555));
+}
+
+WIDGET_REGISTER_TEST(EditorWindowTest)
+#include "EditorWindowTest.moc"
