@@ -9,6 +9,7 @@
 #include <orv/table_model/NumberText.h>
 #include <orv/table_model/RecordSheet.h>
 #include <orv/table_model/RowNodeBinding.h>
+#include <orv/widgets/TableView.h>
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -21,6 +22,7 @@ namespace {
 
 constexpr int kMassAt = 1;
 constexpr int kSamplesIdsAt = 3;
+constexpr int kWindowAt = 5;
 
 using MassRecords = RecordSheet<DeltaMass>;
 
@@ -135,6 +137,7 @@ public:
     MassRecords masses;
     RowNode tolerance;
     UnitField *toleranceField = nullptr;
+    QWidget *toleranceRow = nullptr;
 };
 
 MassTableWidget::MassTableWidget(QWidget *parent)
@@ -164,15 +167,15 @@ void MassTableWidget::build()
     column.isRequired = true;
     column.explanation = tr("Largest difference between a measured and an expected mass, in Dalton or ppm.");
     d->toleranceField = new UnitField(column, MassUtils::possibleMassToleranceUnits());
-    auto *const row = new QWidget;
-    auto *const layout = new QHBoxLayout(row);
+    d->toleranceRow = new QWidget;
+    auto *const layout = new QHBoxLayout(d->toleranceRow);
     layout->setContentsMargins({});
     auto *const label = new QLabel(tr("Match &tolerance:"));
     label->setBuddy(d->toleranceField);
     layout->addWidget(label);
     layout->addWidget(d->toleranceField);
     layout->addStretch(1);
-    insertAbove(row);
+    insertAbove(d->toleranceRow);
     connect(d->toleranceField, &UnitField::edited, this, [this] {
         takeTolerance();
         tellEdited();
@@ -227,6 +230,12 @@ void MassTableWidget::setMassTolerance(const RowNode &tolerance)
     takeTolerance();
 }
 
+void MassTableWidget::setMassToleranceVisible(bool isVisible)
+{
+    d->toleranceRow->setVisible(isVisible);
+    view()->setColumnShown(kWindowAt, isVisible);
+}
+
 void MassTableWidget::updateSamplesIds(const QList<SamplesInput::Entry> &entries)
 {
     d->shared->samples->set(entries);
@@ -244,6 +253,8 @@ bool MassTableWidget::validate(const QList<DeltaMass> &masses, const QList<Sampl
 
 QString MassTableWidget::toPlainText() const
 {
+    if (d->toleranceRow->isHidden())
+        return ScientificTableWidget::toPlainText();
     return ScientificTableWidget::toPlainText() + u'\n' +
            tr("Match tolerance: %1 %2").arg(d->toleranceField->text(), d->toleranceField->unit());
 }

@@ -34,6 +34,8 @@ public:
     /// The table of one row that MassUtils::matchToleranceToRowNode() makes; unedited, the one that was set.
     [[nodiscard]] RowNode massTolerance() const;
     void setMassTolerance(const RowNode &tolerance);
+    /// For a place whose masses have no tolerance; the one that was set stays.
+    void setMassToleranceVisible(bool isVisible);
 
     /// The samples that rows may be for. Ids that aren't among them are marked.
     void updateSamplesIds(const QList<SamplesInput::Entry> &entries);
