@@ -3,6 +3,7 @@
 #include <KPropertyEditorItemEvent>
 #include <KPropertyStringEditor>
 
+#include <QDialog>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -36,6 +37,7 @@ private Q_SLOTS:
     void editorsDieWithTheirRows();
     void multiLineTakesEnterAndCommitsOnCtrlEnter();
     void selectButtonSendsTheEditEvent();
+    void anEditorStaysOpenBehindItsDialog();
     void unansweredEditEventChangesNothing();
     void changeSetWithinAChangeIsSafe();
     void changeSetWithinAnEditEventIsSafe();
@@ -279,6 +281,30 @@ void ViewInputTest::selectButtonSendsTheEditEvent()
     fixture.press(Qt::Key_Escape);
     // What is typed later is taken back, the dialog's Ok isn't.
     QCOMPARE(fixture.set.propertyValue("text"), QVariant(QByteArray("{}")));
+}
+
+void ViewInputTest::anEditorStaysOpenBehindItsDialog()
+{
+    Fixture fixture;
+    fixture.set["text"].setOption("selectButton", true);
+    fixture.open("text");
+    bool isOpen = false;
+    connect(&fixture.view, &KPropertyEditorView::handlePropertyEditorItemEvent, this,
+            [&](KPropertyEditorItemEvent *event) {
+                const QPointer<QDialog> dialog = new QDialog(fixture.editor());
+                dialog->setModal(true);
+                dialog->show();
+                dialog->activateWindow();
+                QVERIFY(QTest::qWaitFor([&] { return QApplication::activeWindow() == dialog; }));
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+                isOpen = !dialog.isNull();
+                delete dialog;
+                event->setResult(text("answer"));
+            });
+    fixture.press(Qt::Key_F4);
+    QVERIFY(isOpen);
+    QVERIFY(fixture.editor());
+    QCOMPARE(fixture.set.propertyValue("text"), QVariant(text("answer")));
 }
 
 void ViewInputTest::unansweredEditEventChangesNothing()

@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace Internal {
 
@@ -421,6 +422,11 @@ bool ItemDelegate::eventFilter(QObject *object, QEvent *event)
     if (filterMouse(object, event)) {
         return true;
     }
+    // A dialog that the editor opens takes the focus. Closed, the editor would take along what it is parent
+    // of.
+    if (m_isAsking && event->type() == QEvent::FocusOut) {
+        return false;
+    }
     QObject *target = object;
     if (m_editor && object == m_editor->focusProxy()) {
         target = m_editor;
@@ -476,7 +482,13 @@ void ItemDelegate::sendEditEvent(QWidget *asking)
     const PropertyAddress address = edits->address;
     const QVariant value = editor->property(userPropertyName(editor).constData());
     KPropertyEditorItemEvent event(*property, QStringLiteral("edit"), {{QStringLiteral("value"), value}});
+    const QPointer<ItemDelegate> self(this);
+    const bool wasAsking = std::exchange(m_isAsking, true);
     Q_EMIT m_view->handlePropertyEditorItemEvent(&event);
+    if (!self) {
+        return;
+    }
+    m_isAsking = wasAsking;
     // A dialog ran meanwhile: the row, and even the property, may have been made anew.
     KProperty *const asked = event.hasResult() ? address.findEditable() : nullptr;
     if (!asked || !m_model->indexForProperty(asked, EditorDataModel::ValueColumn).isValid()) {

@@ -91,6 +91,7 @@ private:
 
     KPropertyEditorView *const m_view;
     const EditorDataModel *const m_model;
+    bool m_isAsking = false; ///< while a dialog of an editor runs
     // Written by createEditor(), which Qt declares const.
     mutable QPointer<QWidget> m_editor;
     mutable QHash<const QObject *, Edited> m_edited;

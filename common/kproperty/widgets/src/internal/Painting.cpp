@@ -19,6 +19,9 @@ namespace {
 /// What summaries of objects need: four lines, and one that counts the others.
 constexpr int kMaxLinesOfRow = 5;
 
+/// More than the widest screen shows; measuring millions of letters would stop the window.
+constexpr int kMostLetters = 4000;
+
 /// The colour of links, where that can be told from the background: dark palettes often keep the blue of
 /// light ones.
 QColor signColor(const QPalette &palette)
