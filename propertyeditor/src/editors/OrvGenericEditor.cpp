@@ -25,6 +25,13 @@ QByteArray nameOf(const KProperty *property)
     return property ? property->name() : QByteArray();
 }
 
+/// The editor is for reading; the dialog shows all of a text that nobody would read here.
+QString readable(const QString &text)
+{
+    constexpr qsizetype kMostLetters = 20'000;
+    return text.size() <= kMostLetters ? text : text.left(kMostLetters) + u'\u2026';
+}
+
 } // namespace
 
 OrvGenericEditorPrivate::OrvGenericEditorPrivate(PropertySetCreator::Editor type,
@@ -50,19 +57,24 @@ QString OrvGenericEditorPrivate::text() const
 void OrvGenericEditorPrivate::handleItemEvent(KPropertyEditorItemEvent *event)
 {
     if (!event->property() || event->property()->name() != m_propertyName ||
-        event->name() != QLatin1String("edit") || !m_owner)
+        event->name() != QLatin1String("edit"))
+        return;
+    // An editor that was closed lives on for a moment beside the one that asks.
+    if (!m_owner || m_owner->isHidden())
         return;
     if (!object) {
         ORVStyle::warning(m_owner, {}, OrvGenericEditor::tr("Unknown editor type: #%1").arg(int(editorType)),
                           QMessageBox::Ok);
         return;
     }
-    // While the dialog is open, the editor may be closed and the property may go.
-    const QPointer<OrvGenericEditorPrivate> self(this);
+    // While the dialog is open, the editor may be closed and the property may go: after it, only the event
+    // stands. Its sender looks for the property.
     const QSharedPointer<IGenericEditorObject> kept = object;
     const KProperty property(*event->property());
-    QJsonObject edited = GenericEditorText::objectOf(m_owner->property("value"));
-    if (kept->handleEditObject(&edited, property, m_owner) && self)
+    const QJsonObject before = GenericEditorText::objectOf(m_owner->property("value"));
+    QJsonObject edited = before;
+    // The same object in other bytes would be a change that nobody made.
+    if (kept->handleEditObject(&edited, property, m_owner) && edited != before)
         event->setResult(GenericEditorText::valueOf(edited));
 }
 
@@ -116,7 +128,13 @@ void OrvGenericEditor::commitText()
     // The text shows fewer digits than the value may have: what nobody typed in stays.
     if (!d->object || text() == d->text())
         return;
-    d->value = GenericEditorText::valueOf(d->object->fromString(text()));
+    // What the validator took and the object can't read would be no value at all.
+    const QJsonObject typed = d->object->fromString(text());
+    if (typed.isEmpty()) {
+        setText(d->text());
+        return;
+    }
+    d->value = GenericEditorText::valueOf(typed);
     Q_EMIT commitData(this);
 }
 
@@ -138,7 +156,7 @@ QVariant OrvGenericMultiLineEditor::value() const
 void OrvGenericMultiLineEditor::setValue(const QVariant &value)
 {
     d->value = value;
-    KPropertyMultiLineStringEditor::setValue(d->text());
+    KPropertyMultiLineStringEditor::setValue(readable(d->text()));
 }
 
 } // namespace orv

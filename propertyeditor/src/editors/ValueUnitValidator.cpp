@@ -1,5 +1,7 @@
 #include "orv/propertyeditor/editors/ValueUnitValidator.h"
 
+#include <orv/propertyeditor/editors/ValueUnitInput.h>
+
 #include <QLocale>
 #include <QRegularExpression>
 
@@ -18,7 +20,7 @@ ValueUnitValidator::~ValueUnitValidator() = default;
 
 QValidator::State ValueUnitValidator::validate(QString &input, int &) const
 {
-    const QStringList parts = input.split(u' ', Qt::SkipEmptyParts);
+    const QStringList parts = ValueUnitInput::partsOf(input);
     if (parts.size() > 2)
         return Invalid;
     // The one decimal sign that stands in the number may be that of another country.

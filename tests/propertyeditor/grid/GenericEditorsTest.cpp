@@ -299,7 +299,7 @@ void GenericEditorsTest::theDialogEditsAValue()
         auto *value = dialog.findChild<QDoubleSpinBox *>(text("ValueSpinBox"));
         auto *unit = dialog.findChild<QComboBox *>(text("UnitComboBox"));
         const bool isFilled =
-            value->value() == 10.12 && unit->currentText() == text("ppm") && unit->count() == 3;
+            value->value() == 10.1234 && unit->currentText() == text("ppm") && unit->count() == 3;
         value->setValue(0.5);
         unit->setCurrentText(text("Da"));
         return isFilled;
