@@ -1,14 +1,15 @@
-#include "ValueUnitDialog.h"
+#include "orv/propertyeditor/editors/ValueUnitDialog.h"
 
 #include <KProperty.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
 #include <QComboBox>
-#include <QDialogButtonBox>
-#include <QDoubleSpinBox>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <spinbox.h>
 
 #include <limits>
 
@@ -24,23 +25,25 @@ constexpr QLatin1String kUnitKey("unit");
 
 ValueUnitDialog::ValueUnitDialog(const KProperty &property, QWidget *parent)
     : IGenericEditorDialog(parent)
-    , m_value(new QDoubleSpinBox(this))
+    , m_value(new KPropertyDoubleSpinBox(property, this, 0))
     , m_unit(new QComboBox(this))
 {
     constexpr double kMost = std::numeric_limits<double>::max();
     m_value->setObjectName(QStringLiteral("ValueSpinBox"));
     m_value->setAccessibleName(tr("Value"));
     m_value->setRange(property.option("min", -kMost).toDouble(), property.option("max", kMost).toDouble());
+    m_value->installEventFilter(this);
     m_unit->setObjectName(QStringLiteral("UnitComboBox"));
     m_unit->setAccessibleName(tr("Unit"));
     m_unit->addItems({QStringLiteral("Da"), QStringLiteral("ppm"), QStringLiteral("mmu")});
+    m_unit->installEventFilter(this);
     auto *fields = new QHBoxLayout;
     fields->addWidget(m_value, 1);
     fields->addWidget(m_unit);
-    auto *buttons = new QHBoxLayout;
     auto *ok = new QPushButton(tr("Ok"), this);
     auto *cancel = new QPushButton(tr("Cancel"), this);
     ok->setDefault(true);
+    auto *buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(ok);
     buttons->addWidget(cancel);
@@ -55,22 +58,31 @@ ValueUnitDialog::~ValueUnitDialog() = default;
 
 QJsonObject ValueUnitDialog::data() const
 {
-    if (m_value->value() == m_shownValue && m_unit->currentText() == m_shownUnit)
-        return m_data;
     QJsonObject changed = m_data;
-    if (m_value->value() != m_shownValue)
-        changed.insert(VALUE_KEY, m_value->value());
-    changed.insert(kUnitKey, m_unit->currentText());
+    if (m_value->QDoubleSpinBox::value() != m_shownValue)
+        changed.insert(VALUE_KEY, m_value->QDoubleSpinBox::value());
+    if (m_unit->currentIndex() != m_shownUnit)
+        changed.insert(kUnitKey, m_unit->currentText());
     return changed;
 }
 
 void ValueUnitDialog::setData(const QJsonObject &value)
 {
     m_data = value;
-    m_value->setValue(value.value(VALUE_KEY).toDouble(0.0));
-    m_unit->setCurrentIndex(std::max(0, m_unit->findText(value.value(kUnitKey).toString())));
-    m_shownValue = m_value->value();
-    m_shownUnit = m_unit->currentText();
+    const QString unit = value.value(kUnitKey).toString();
+    m_value->setValue(value.value(VALUE_KEY).toVariant().toDouble());
+    // A unit that isn't offered stands there until another one is chosen.
+    m_unit->setPlaceholderText(unit);
+    m_unit->setCurrentIndex(m_unit->findText(unit, Qt::MatchFixedString));
+    m_shownValue = m_value->QDoubleSpinBox::value();
+    m_shownUnit = m_unit->currentIndex();
+    m_value->selectAll();
+}
+
+bool ValueUnitDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    // Who scrolls over a field doesn't mean to change it.
+    return event->type() == QEvent::Wheel || IGenericEditorDialog::eventFilter(watched, event);
 }
 
 } // namespace orv

@@ -1,13 +1,14 @@
-#include "ValueUnitEditorObject.h"
+#include "orv/propertyeditor/editors/ValueUnitEditorObject.h"
 
-#include "ValueUnitDialog.h"
+#include "OwnDialog.h"
+#include "ValueText.h"
 
 #include <KProperty.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
-#include <orv/table_model/NumberText.h>
-#include <orv/widgets/CoreMainWindow.h>
-#include <orv/widgets/DialogService.h>
+#include <orv/propertyeditor/editors/ValueUnitDialog.h>
+#include <orv/propertyeditor/editors/ValueUnitInput.h>
 
+#include <QCoreApplication>
 #include <QLocale>
 
 namespace orv {
@@ -16,46 +17,48 @@ using PropertyEditorStringConstants::VALUE_KEY;
 
 namespace {
 
+struct ValueUnitTr
+{
+    Q_DECLARE_TR_FUNCTIONS(ValueUnitEditorObject)
+};
+
 constexpr QLatin1String kUnit("unit");
 constexpr int kDecimals = 2;
-
-std::optional<double> numberOf(const QString &text)
-{
-    const QLocale locale;
-    if (const auto canonical = NumberText::canonical(text, NumberText::signOf(locale)))
-        return NumberText::value(*canonical);
-    bool ok = false;
-    const double number = locale.toDouble(text, &ok);
-    return ok ? std::optional(number) : std::nullopt;
-}
 
 } // namespace
 
 QString ValueUnitEditorObject::toString(const QJsonObject &value) const
 {
-    if (value.isEmpty())
+    if (ValueText::isUnset(value))
         return {};
-    return QStringLiteral("%1 %2").arg(QLocale().toString(value.value(VALUE_KEY).toDouble(), 'f', kDecimals),
+    bool ok = true;
+    const QJsonValue stored = value.value(VALUE_KEY);
+    const double number = stored.isUndefined() ? 0.0 : stored.toVariant().toDouble(&ok);
+    if (!ok)
+        return ValueText::errorText(ValueUnitTr::tr("The value is no number."), value);
+    return QStringLiteral("%1 %2").arg(QLocale().toString(number, 'f', kDecimals),
                                        value.value(kUnit).toString());
 }
 
 QJsonObject ValueUnitEditorObject::fromString(const QString &text) const
 {
-    const QStringList parts = text.trimmed().split(u' ', Qt::SkipEmptyParts);
-    const std::optional<double> number = parts.size() == 2 ? numberOf(parts.constFirst()) : std::nullopt;
+    const QStringList parts = ValueUnitInput::partsOf(text);
+    const std::optional<double> number =
+        parts.size() == 2 ? ValueUnitInput::numberOf(parts.constFirst()) : std::nullopt;
     if (!number)
         return {};
     return {{VALUE_KEY, *number}, {kUnit, parts.at(1)}};
 }
 
-bool ValueUnitEditorObject::handleEditObject(QJsonObject *value, const KProperty &property, QWidget *) const
+bool ValueUnitEditorObject::handleEditObject(QJsonObject *value, const KProperty &property,
+                                             QWidget *parent) const
 {
-    ValueUnitDialog dialog(property, CoreMainWindow::getMainWindow());
-    dialog.setWindowTitle(property.caption());
-    dialog.setData(*value);
-    if (!DialogService::exec(dialog))
+    OwnDialog dialog(new ValueUnitDialog(property, windowForDialog(parent)));
+    dialog->setWindowTitle(property.caption());
+    dialog->setData(*value);
+    if (!dialog.exec())
         return false;
-    *value = dialog.data();
+    *value = dialog->data();
     return true;
 }
 

@@ -4,14 +4,14 @@
 
 namespace orv {
 
-/// A number with its unit: {"value": 10.5, "unit": "ppm"}.
-class ValueUnitEditorObject : public IGenericEditorObject
+/// The precursors to which a search is limited, in the form of InclusionList.
+class ORV_PROPERTY_EDITOR_EXPORT InclusionEditorObject : public IGenericEditorObject
 {
 public:
-    /// With two decimals, as people of the default locale write them.
     [[nodiscard]] QString toString(const QJsonObject &value) const override;
-    /// Number and unit apart by a blank; either decimal sign.
+    /// Of the text that toString() gives, or of JSON text.
     [[nodiscard]] QJsonObject fromString(const QString &text) const override;
+    /// What can't be read is told in a box, and the dialog opens empty.
     bool handleEditObject(QJsonObject *value, const KProperty &property, QWidget *parent) const override;
 };
 

@@ -3,13 +3,13 @@
 #include <orv/propertyeditor/editors/IGenericEditorDialog.h>
 
 QT_FORWARD_DECLARE_CLASS(QComboBox)
-QT_FORWARD_DECLARE_CLASS(QDoubleSpinBox)
 class KProperty;
+class KPropertyDoubleSpinBox;
 
 namespace orv {
 
 /// Edits a number with its unit.
-class ValueUnitDialog : public IGenericEditorDialog
+class ORV_PROPERTY_EDITOR_EXPORT ValueUnitDialog : public IGenericEditorDialog
 {
     Q_OBJECT
 
@@ -22,12 +22,15 @@ public:
     [[nodiscard]] QJsonObject data() const override;
     void setData(const QJsonObject &value) override;
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
-    QDoubleSpinBox *m_value;
+    KPropertyDoubleSpinBox *m_value;
     QComboBox *m_unit;
     QJsonObject m_data;
     double m_shownValue = 0;
-    QString m_shownUnit;
+    int m_shownUnit = 0;
 };
 
 } // namespace orv

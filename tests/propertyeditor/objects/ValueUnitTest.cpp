@@ -1,0 +1,382 @@
+#include "ObjectsFixture.h"
+#include "WidgetTest.h"
+
+#include <orv/propertyeditor/editors/ValueUnitDialog.h>
+#include <orv/propertyeditor/editors/ValueUnitEditorObject.h>
+#include <orv/propertyeditor/editors/ValueUnitValidator.h>
+
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+
+using namespace orv;
+using namespace GridFixture;
+using namespace ObjectsFixture;
+
+namespace {
+
+const char kSetting[] = "KarvonFragmentMassError";
+
+QJsonObject valueWithUnit(double value, const char *unit)
+{
+    return {{text("unit"), text(unit)}, {text("value"), value}};
+}
+
+} // namespace
+
+/// A number with its unit, typed in the row and in its dialog.
+class ValueUnitTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { startApplication(); }
+    void cleanup() { QLocale::setDefault(QLocale::c()); }
+    void textsAreNumberAndUnit_data();
+    void textsAreNumberAndUnit();
+    void everyLocaleReadsWhatItWrites();
+    void eitherSignIsReadInEveryLocale();
+    void everyWayTakesATypedValue_data() { LeavingWays::addRows(); }
+    void everyWayTakesATypedValue();
+    void everyWayLeavesWhatNobodyTyped_data() { LeavingWays::addRows(); }
+    void everyWayLeavesWhatNobodyTyped();
+    void aHalfTypedTextGoesBackAndSaysWhy_data();
+    void aHalfTypedTextGoesBackAndSaysWhy();
+    void groupsOfDigitsCanBeEdited();
+    void theValidatorKnowsBothSigns_data();
+    void theValidatorKnowsBothSigns();
+    void theValidatorKeepsTheLimits();
+    void theDialogHasTheLimitsOfTheSetting();
+    void theDialogWithoutLimitsTakesEveryNumber();
+    void theDialogStartsAtZero();
+    void theDialogTakesTypedValues_data();
+    void theDialogTakesTypedValues();
+    void theUnitAloneChanges();
+    void anUnknownUnitStays();
+    void anUntouchedDialogLeavesTheValue_data();
+    void anUntouchedDialogLeavesTheValue();
+    void theWheelChangesNothing();
+    void enterAccepts();
+};
+
+void ValueUnitTest::textsAreNumberAndUnit_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QJsonObject>("expected");
+    QTest::newRow("number and unit") << text("10 Da") << valueWithUnit(10, "Da");
+    QTest::newRow("blanks around") << text("  10   Da ") << valueWithUnit(10, "Da");
+    QTest::newRow("negative") << text("-0.5 mmu") << valueWithUnit(-0.5, "mmu");
+    QTest::newRow("a unit that is none") << text("1 kg") << valueWithUnit(1, "kg");
+    QTest::newRow("no blank") << text("10Da") << QJsonObject();
+    QTest::newRow("three parts") << text("10 Da x") << QJsonObject();
+    QTest::newRow("no number") << text("ten Da") << QJsonObject();
+    QTest::newRow("number alone") << text("10") << QJsonObject();
+    QTest::newRow("nothing") << QString() << QJsonObject();
+}
+
+void ValueUnitTest::textsAreNumberAndUnit()
+{
+    QFETCH(QString, typed);
+    QFETCH(QJsonObject, expected);
+    QCOMPARE(ValueUnitEditorObject().fromString(typed), expected);
+}
+
+void ValueUnitTest::everyLocaleReadsWhatItWrites()
+{
+    const ValueUnitEditorObject editorObject;
+    const auto locales =
+        QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory);
+    QVERIFY(locales.size() > 300);
+    for (const QLocale &locale : locales) {
+        QLocale::setDefault(locale);
+        const ValueUnitValidator validator(-1e6, 1e6);
+        for (const double number : {0.0, 0.25, -3.5, 12.34, 9000.0, 123456.78}) {
+            QString shown = editorObject.toString(valueWithUnit(number, "ppm"));
+            const QString where = locale.name() + u' ' + shown;
+            QVERIFY2(editorObject.fromString(shown) == valueWithUnit(number, "ppm"), qPrintable(where));
+            int position = 0;
+            QVERIFY2(validator.validate(shown, position) == QValidator::Acceptable, qPrintable(where));
+        }
+    }
+}
+
+void ValueUnitTest::eitherSignIsReadInEveryLocale()
+{
+    const ValueUnitEditorObject editorObject;
+    const auto locales =
+        QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory);
+    for (const QLocale &locale : locales) {
+        QLocale::setDefault(locale);
+        const ValueUnitValidator validator(0, 1000);
+        for (const char *typed : {"0.43 Da", "0,43 Da", "12.5 Da", "12,5 Da"}) {
+            QString input = text(typed);
+            const double expected = QByteArray(typed).replace(',', '.').replace(" Da", "").toDouble();
+            int position = 0;
+            QVERIFY2(validator.validate(input, position) == QValidator::Acceptable,
+                     qPrintable(locale.name()));
+            QVERIFY2(editorObject.fromString(text(typed)) == valueWithUnit(expected, "Da"),
+                     qPrintable(locale.name() + u' ' + text(typed)));
+        }
+    }
+}
+
+void ValueUnitTest::everyWayTakesATypedValue()
+{
+    QFETCH(LeavingWays::Way, way);
+    Row row(kSetting, valueWithUnit(10.1234, "ppm"));
+    QVERIFY(LeavingWays::open(row.tree(), kSetting));
+    LeavingWays::type(text("0,43 Da"));
+    QVERIFY(LeavingWays::leave(row.tree(), way));
+    QCOMPARE(row.stored(), QJsonValue(valueWithUnit(0.43, "Da")));
+    QCOMPARE(row.shown(), text("0.43 Da"));
+    QCOMPARE(row.edits.size(), 1);
+    QVERIFY(row.tree().remark(row.property()).isEmpty());
+}
+
+void ValueUnitTest::everyWayLeavesWhatNobodyTyped()
+{
+    QFETCH(LeavingWays::Way, way);
+    Row row(kSetting, valueWithUnit(10.1234, "ppm"));
+    const QByteArray before = row.bytes();
+    QVERIFY(LeavingWays::open(row.tree(), kSetting));
+    QVERIFY(LeavingWays::leave(row.tree(), way));
+    QCOMPARE(row.bytes(), before);
+    QCOMPARE(row.edits.size(), 0);
+}
+
+void ValueUnitTest::aHalfTypedTextGoesBackAndSaysWhy_data()
+{
+    LeavingWays::addRows();
+}
+
+void ValueUnitTest::aHalfTypedTextGoesBackAndSaysWhy()
+{
+    QFETCH(LeavingWays::Way, way);
+    Row row(kSetting, valueWithUnit(10.1234, "ppm"));
+    const QByteArray before = row.bytes();
+    QVERIFY(LeavingWays::open(row.tree(), kSetting));
+    LeavingWays::type(text("12 pp"));
+    QVERIFY(LeavingWays::leave(row.tree(), way));
+    QCOMPARE(row.bytes(), before);
+    QCOMPARE(row.shown(), text("10.12 ppm"));
+    QCOMPARE(row.edits.size(), 0);
+    const QString why = row.tree().remark(row.property());
+    QVERIFY2(why.contains(text("12 pp")) && why.contains(text("mmu")), qPrintable(why));
+    const QModelIndex cell = LeavingWays::rowOf(row.tree(), kSetting);
+    QVERIFY(cell.data(Qt::ToolTipRole).toString().contains(why.toHtmlEscaped()));
+
+    QVERIFY(LeavingWays::open(row.tree(), kSetting));
+    LeavingWays::type(text("12 ppm"));
+    QVERIFY(LeavingWays::leave(row.tree(), LeavingWays::Way::Tab));
+    QCOMPARE(row.stored(), QJsonValue(valueWithUnit(12, "ppm")));
+    QVERIFY(row.tree().remark(row.property()).isEmpty());
+}
+
+void ValueUnitTest::groupsOfDigitsCanBeEdited()
+{
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    Row row("PeptideMassMax", valueWithUnit(9000, "Da"));
+    QCOMPARE(row.shown(), text("9,000.00 Da"));
+    QVERIFY(LeavingWays::open(row.tree(), "PeptideMassMax"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Home);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right, Qt::ShiftModifier);
+    QTest::keyClicks(QApplication::focusWidget(), text("8"));
+    QVERIFY(LeavingWays::leave(row.tree(), LeavingWays::Way::Enter));
+    QCOMPARE(row.stored(), QJsonValue(valueWithUnit(8000, "Da")));
+}
+
+void ValueUnitTest::theValidatorKnowsBothSigns_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("state");
+    const QLocale german(QLocale::German, QLocale::Germany);
+    QTest::newRow("point") << QLocale::c() << text("1.25 Da") << int(QValidator::Acceptable);
+    QTest::newRow("comma") << QLocale::c() << text("1,25 Da") << int(QValidator::Acceptable);
+    QTest::newRow("German point") << german << text("1.25 mmu") << int(QValidator::Acceptable);
+    QTest::newRow("German comma") << german << text("1,25 mmu") << int(QValidator::Acceptable);
+    QTest::newRow("three decimals") << german << text("1,255 Da") << int(QValidator::Invalid);
+    QTest::newRow("the number is weaker") << german << text("- Da") << int(QValidator::Intermediate);
+    QTest::newRow("the unit is weaker") << german << text("1 p") << int(QValidator::Intermediate);
+    QTest::newRow("one invalid") << german << text("x Da") << int(QValidator::Invalid);
+    QTest::newRow("the other invalid") << german << text("1 DA") << int(QValidator::Invalid);
+    QTest::newRow("three parts") << german << text("1 Da x") << int(QValidator::Invalid);
+}
+
+void ValueUnitTest::theValidatorKnowsBothSigns()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(QString, typed);
+    QFETCH(int, state);
+    QLocale::setDefault(locale);
+    int position = 0;
+    const QString before = typed;
+    QCOMPARE(int(ValueUnitValidator(-10, 10).validate(typed, position)), state);
+    QCOMPARE(typed, before);
+}
+
+void ValueUnitTest::theValidatorKeepsTheLimits()
+{
+    const ValueUnitValidator validator(0, 100);
+    int position = 0;
+    QString within = text("100 ppm");
+    QString above = text("100.01 ppm");
+    QString below = text("-1 ppm");
+    QCOMPARE(validator.validate(within, position), QValidator::Acceptable);
+    QVERIFY(validator.validate(above, position) != QValidator::Acceptable);
+    QCOMPARE(validator.validate(below, position), QValidator::Invalid);
+}
+
+void ValueUnitTest::theDialogHasTheLimitsOfTheSetting()
+{
+    Row row(kSetting, valueWithUnit(10.1234, "ppm"));
+    ScriptedAnswerer answers;
+    double least = -1;
+    double most = -1;
+    answers.expectDialog(row.caption(), [&](QDialog &dialog) {
+        least = dialog.findChild<QDoubleSpinBox *>(text("ValueSpinBox"))->minimum();
+        most = dialog.findChild<QDoubleSpinBox *>(text("ValueSpinBox"))->maximum();
+        return false;
+    });
+    row.property().setOption("selectButton", true);
+    QVERIFY(row.pressButton());
+    QCOMPARE(least, 0.0);
+    QCOMPARE(most, 10000.0);
+}
+
+void ValueUnitTest::theDialogWithoutLimitsTakesEveryNumber()
+{
+    ValueUnitDialog dialog(KProperty("any"), nullptr);
+    for (const double number : {1e300, -1e300, 0.125}) {
+        dialog.setData(valueWithUnit(number, "mmu"));
+        QCOMPARE(dialog.findChild<QDoubleSpinBox *>(text("ValueSpinBox"))->value(), number);
+        QCOMPARE(dialog.findChild<QComboBox *>(text("UnitComboBox"))->currentText(), text("mmu"));
+        QCOMPARE(dialog.data(), valueWithUnit(number, "mmu"));
+    }
+    QVERIFY(dialog.sizeHint().width() < 600);
+}
+
+void ValueUnitTest::theDialogStartsAtZero()
+{
+    ValueUnitDialog dialog(KProperty("any"), nullptr);
+    dialog.setData({{text("unit"), text("Da")}});
+    QCOMPARE(dialog.findChild<QDoubleSpinBox *>(text("ValueSpinBox"))->value(), 0.0);
+}
+
+void ValueUnitTest::theDialogTakesTypedValues_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("typed");
+    const QLocale german(QLocale::German, QLocale::Germany);
+    QTest::newRow("point") << QLocale::c() << text("0.435");
+    QTest::newRow("comma") << QLocale::c() << text("0,435");
+    QTest::newRow("German point") << german << text("0.435");
+    QTest::newRow("German comma") << german << text("0,435");
+}
+
+void ValueUnitTest::theDialogTakesTypedValues()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(QString, typed);
+    QLocale::setDefault(locale);
+    Row row(kSetting, valueWithUnit(10.1234, "ppm"));
+    row.property().setOption("selectButton", true);
+    ScriptedAnswerer answers;
+    answers.expectDialog(row.caption(), [&](QDialog &dialog) {
+        if (!show(dialog))
+            return false;
+        dialog.findChild<QDoubleSpinBox *>()->setFocus();
+        LeavingWays::type(typed);
+        return pressOk(dialog);
+    });
+    QVERIFY(row.pressButton());
+    QVERIFY(answers.isDone());
+    QCOMPARE(row.stored(), QJsonValue(valueWithUnit(0.435, "ppm")));
+    QCOMPARE(row.edits.size(), 1);
+}
+
+void ValueUnitTest::theUnitAloneChanges()
+{
+    Row row(kSetting, valueWithUnit(10.1234, "ppm"));
+    row.property().setOption("selectButton", true);
+    ScriptedAnswerer answers;
+    QStringList units;
+    answers.expectDialog(row.caption(), [&](QDialog &dialog) {
+        auto *unit = dialog.findChild<QComboBox *>(text("UnitComboBox"));
+        for (int i = 0; i < unit->count(); ++i)
+            units.append(unit->itemText(i));
+        if (!show(dialog))
+            return false;
+        unit->setFocus();
+        QTest::keyClick(unit, Qt::Key_Home);
+        return pressOk(dialog);
+    });
+    QVERIFY(row.pressButton());
+    QCOMPARE(units, QStringList({text("Da"), text("ppm"), text("mmu")}));
+    QCOMPARE(row.stored(), QJsonValue(valueWithUnit(10.1234, "Da")));
+}
+
+void ValueUnitTest::anUnknownUnitStays()
+{
+    ValueUnitDialog dialog(KProperty("any"), nullptr);
+    dialog.setData(valueWithUnit(5, "kg"));
+    QCOMPARE(dialog.data(), valueWithUnit(5, "kg"));
+    dialog.findChild<QDoubleSpinBox *>()->stepUp();
+    QCOMPARE(dialog.data(), valueWithUnit(5.01, "kg"));
+    dialog.setData(valueWithUnit(5, "da"));
+    QCOMPARE(dialog.findChild<QComboBox *>()->currentText(), text("Da"));
+    QCOMPARE(dialog.data(), valueWithUnit(5, "da"));
+}
+
+void ValueUnitTest::anUntouchedDialogLeavesTheValue_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::newRow("many digits") << QByteArray(R"({"unit":"ppm","value":10.123456789012345})");
+    QTest::newRow("beyond the limit") << QByteArray(R"({"unit":"ppm","value":123456})");
+    QTest::newRow("as text") << QByteArray(R"({"unit":"ppm","value":"7"})");
+    QTest::newRow("another unit") << QByteArray(R"({"unit":"kg","value":7})");
+    QTest::newRow("more members") << QByteArray(R"({"from":1,"unit":"Da","value":7})");
+    QTest::newRow("nothing") << QByteArray("{}");
+}
+
+void ValueUnitTest::anUntouchedDialogLeavesTheValue()
+{
+    QFETCH(QByteArray, value);
+    Row row(kSetting, object(value));
+    row.property().setOption("selectButton", true);
+    const QByteArray before = row.bytes();
+    ScriptedAnswerer answers;
+    expectUntouched(&answers, row.caption());
+    QVERIFY(row.pressButton());
+    QVERIFY(answers.isDone());
+    QCOMPARE(row.bytes(), before);
+    QCOMPARE(row.edits.size(), 0);
+}
+
+void ValueUnitTest::theWheelChangesNothing()
+{
+    ValueUnitDialog dialog(KProperty("any"), nullptr);
+    dialog.setData(valueWithUnit(5, "ppm"));
+    QVERIFY(ObjectsFixture::show(dialog));
+    for (QWidget *field : {static_cast<QWidget *>(dialog.findChild<QDoubleSpinBox *>()),
+                           static_cast<QWidget *>(dialog.findChild<QComboBox *>())}) {
+        QWheelEvent turn(field->rect().center(), field->mapToGlobal(field->rect().center()), {}, {0, 120},
+                         Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(field, &turn);
+    }
+    QCOMPARE(dialog.data(), valueWithUnit(5, "ppm"));
+}
+
+void ValueUnitTest::enterAccepts()
+{
+    ValueUnitDialog dialog(KProperty("any"), nullptr);
+    dialog.setData(valueWithUnit(5, "ppm"));
+    QVERIFY(ObjectsFixture::show(dialog));
+    LeavingWays::type(text("6"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QCOMPARE(dialog.data(), valueWithUnit(6, "ppm"));
+}
+
+WIDGET_REGISTER_TEST(ValueUnitTest)
+#include "ValueUnitTest.moc"
