@@ -166,6 +166,8 @@ Result<InclusionItem> itemFromLine(const QString &line)
 
 QString toString(const QJsonObject &object)
 {
+    if (object.value(kListKey).isString())
+        return object.value(kListKey).toString();
     QStringList lines;
     const QJsonArray list = object.value(kListKey).toArray();
     for (const auto element : list) {
@@ -209,6 +211,8 @@ Result<QList<InclusionItem>> toVector(const QJsonObject &object)
 {
     if (!object.contains(kListKey))
         return QList<InclusionItem>();
+    if (object.value(kListKey).isString())
+        return toVector(toJson(object.value(kListKey).toString()));
     Result<QJsonArray> list = JsonUtils::arrayValue(object, kListKey);
     if (list.hasError())
         return list.ecatch();

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void unknownMembersSurviveTheList();
     void badElementsAreRefusedWithTheirPlace_data();
     void badElementsAreRefusedWithTheirPlace();
+    void aTextInPlaceOfTheListIsRead();
     void elementsThatCannotBeWrittenAreLogged();
     void aListThatIsTooLongIsRefused();
 };
@@ -188,6 +189,19 @@ void TestInclusionList::badElementsAreRefusedWithTheirPlace()
     QCOMPARE(items.error().code(), ErrorCode::InvalidContent);
     QVERIFY(items.error().details().join(u' ').contains(u"entry 2"_s));
     QVERIFY(InclusionList::toVector(object(R"({"inclusion":{}})")).hasError());
+}
+
+void TestInclusionList::aTextInPlaceOfTheListIsRead()
+{
+    const QJsonObject json = object(R"({"inclusion":"500,2\n600"})");
+    const Result<QList<InclusionItem>> items = InclusionList::toVector(json);
+    QVERIFY(!items.hasError());
+    QCOMPARE(items->size(), 2);
+    QCOMPARE(items->at(0).charge, 2);
+    QCOMPARE(items->at(1).mz, 600.0);
+    QCOMPARE(InclusionList::toString(json), u"500,2\n600"_s);
+    QVERIFY(InclusionList::toVector(object(R"({"inclusion":""})")).valueOr({InclusionItem()}).isEmpty());
+    QVERIFY(InclusionList::toVector(object(R"({"inclusion":"no number"})")).hasError());
 }
 
 void TestInclusionList::elementsThatCannotBeWrittenAreLogged()

@@ -33,7 +33,7 @@ struct ORV_WORKFLOW_EXPORT InclusionItem
 ///     740.4014
 ///
 /// As object it has the array "inclusion" of objects with the members "mz", "charge", "start", "end" and
-/// "name". Stateless, any thread.
+/// "name"; where the text stands in its place, that is read. Stateless, any thread.
 namespace InclusionList {
 
 /// Longest list.
