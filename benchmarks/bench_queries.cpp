@@ -18,12 +18,25 @@ using PropertyEditor::Content;
 
 namespace {
 
-void add(const std::string &name, const std::function<void()> &work)
+/// Work of this many samples takes long enough to be measured once, and so long that nine times are too many.
+constexpr int kLongWork = 100'000;
+constexpr int kRunsOfLongWork = 3;
+
+enum class Length
 {
-    benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State &state) {
+    Short,
+    Long,
+};
+
+void add(const std::string &name, const std::function<void()> &work, Length length = Length::Short)
+{
+    auto *const one = benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State &state) {
         for ([[maybe_unused]] auto iteration : state)
             work();
-    })->Unit(benchmark::kMicrosecond);
+    });
+    one->Unit(benchmark::kMicrosecond);
+    if (length == Length::Long)
+        one->Iterations(1)->Repetitions(kRunsOfLongWork);
 }
 
 template<typename T>
@@ -72,14 +85,18 @@ void addQueries(int samples, const std::string &label)
     const auto content = std::make_shared<Content>(load(bytes));
     const auto moves = std::make_shared<Moves>(*content);
     const auto value = std::make_shared<PropertyEditorContent>(bytes);
-    add("allReferences/" + label, [=] { keep(content->allReferences()); });
-    add("updateReferences of all/" + label, [=] { content->updateReferences(moves->next()); });
-    add("findProjects/" + label, [=] { keep(content->findProjects()); });
-    add("samplesMatchingRegExp/" + label, [=] {
+    const Length length = samples < kLongWork ? Length::Short : Length::Long;
+    const auto ask = [&](const std::string &what, const std::function<void()> &work) {
+        add(what + "/" + label, work, length);
+    };
+    ask("allReferences", [=] { keep(content->allReferences()); });
+    ask("updateReferences of all", [=] { content->updateReferences(moves->next()); });
+    ask("findProjects", [=] { keep(content->findProjects()); });
+    ask("samplesMatchingRegExp", [=] {
         const PropertiesGetter getter(*value);
         keep(PropertiesGetter::samplesMatchingRegExp(getter.samples().constFirst(), QStringLiteral("*7")));
     });
-    add("detachedCopy/" + label, [=] { keep(content->detachedCopy().hasError()); });
+    ask("detachedCopy", [=] { keep(content->detachedCopy().hasError()); });
 }
 
 } // namespace
