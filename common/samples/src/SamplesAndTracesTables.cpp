@@ -9,6 +9,7 @@
 #include <orv/table_model/TableSheet.h>
 
 #include <QCoreApplication>
+#include <QPointer>
 
 #include <algorithm>
 #include <limits>
@@ -93,6 +94,7 @@ public:
     void removeEntries();
     void reorderEntries();
     void readPresetNames();
+    [[nodiscard]] TableCodes codes() const;
     [[nodiscard]] Sample freshSample(quint32 row);
     [[nodiscard]] Error replaceColumns(const CustomColumns &columns, const QList<Sample> &records);
     [[nodiscard]] QStringList sampleRow(const SamplePathAndName &file) const;
@@ -248,6 +250,14 @@ void SamplesAndTracesTables::Private::reorderEntries()
     entries = std::move(next);
 }
 
+TableCodes SamplesAndTracesTables::Private::codes() const
+{
+    TableCodes codes;
+    for (const Entry &entry : entries)
+        codes.list.append({QString::number(entry.id), entry.name});
+    return codes;
+}
+
 void SamplesAndTracesTables::Private::readPresetNames()
 {
     presetNames->clear();
@@ -261,7 +271,8 @@ void SamplesAndTracesTables::Private::readPresetNames()
 Error SamplesAndTracesTables::Private::load(const SamplesAndTracesContent &next)
 {
     const auto names = std::make_shared<QSet<QString>>();
-    const auto nextTraces = std::make_shared<TraceSheet>(TraceColumns::ofTraces(names));
+    const auto nextTraces = std::make_shared<TraceSheet>(TraceColumns::ofTraces(
+        names, [tables = QPointer(q)] { return tables ? tables->d->codes() : TableCodes(); }));
     const auto nextPresets = std::make_shared<PresetSheet>(TraceColumns::ofPresets());
     ORV_RETURN_IF_ERROR(nextTraces->load(next.options.traces.list()));
     ORV_RETURN_IF_ERROR(nextPresets->load(next.options.peaksOptions));

@@ -83,6 +83,8 @@ RowNodeBinding::RowNodeBinding(TableSheet *sheet, QStringList lists)
 
 QString RowNodeBinding::textOf(const QVariant &value)
 {
+    if (value.isNull())
+        return {};
     if (value.typeId() == QMetaType::Double || value.typeId() == QMetaType::Float)
         return NumberText::fromDouble(value.toDouble());
     if (isListVariant(value)) {
@@ -103,19 +105,15 @@ QString RowNodeBinding::textOf(const QVariant &value)
 Error RowNodeBinding::load(const RowNode &table)
 {
     const QList<int> places = placesOfColumns(m_sheet->columns(), table.data);
-    QList<QStringList> rows;
-    rows.reserve(table.getChildListSize());
-    for (int row = 0; row < table.getChildListSize(); ++row) {
-        QStringList texts;
-        texts.reserve(places.size());
-        for (const int place : places)
-            texts.append(place < 0 ? QString() : textOf(table.getChild(row)->data.value(place)));
-        rows.append(texts);
-    }
     // Who hears of the load may ask for the table already.
     RowNode before = std::exchange(m_original, table);
     const QList<int> placesBefore = std::exchange(m_places, places);
-    Error error = m_sheet->load(rows);
+    Error error = m_sheet->load(m_original.getChildListSize(), [this](int row, QStringList *texts) {
+        for (int column = 0; column < m_places.size(); ++column) {
+            if (m_places[column] >= 0)
+                (*texts)[column] = textOf(m_original.getChild(row)->data.value(m_places[column]));
+        }
+    });
     if (error.hasError()) {
         m_original = std::move(before);
         m_places = placesBefore;

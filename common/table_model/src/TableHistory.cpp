@@ -52,6 +52,14 @@ void TableHistory::clear()
         Q_EMIT indexChanged();
 }
 
+qsizetype TableHistory::heldBytes() const
+{
+    qsizetype bytes = 0;
+    for (const std::shared_ptr<TableEdit> &edit : m_edits)
+        bytes += edit->heldBytes();
+    return bytes;
+}
+
 void TableHistory::push(std::unique_ptr<TableEdit> edit)
 {
     m_edits.resize(size_t(m_index));

@@ -25,6 +25,15 @@ QVariant alignmentOf(const TableColumn &column)
     return QVariant::fromValue((column.isNumeric() ? ofNumbers : Qt::AlignLeft) | Qt::AlignVCenter);
 }
 
+/// With its unit, which some explanations leave to the header.
+QString explanationOf(const TableColumn &column)
+{
+    if (column.explanation.isEmpty())
+        return column.header();
+    return column.explanation.contains(column.unit) ? column.explanation
+                                                    : column.header() + u'\n' + column.explanation;
+}
+
 } // namespace
 
 TableModel::TableModel(TableSheet *sheet, QObject *parent)
@@ -129,7 +138,7 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
         return column.help();
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
-        return column.explanation.isEmpty() ? column.header() : column.explanation;
+        return explanationOf(column);
     case Qt::TextAlignmentRole:
         return alignmentOf(column);
     default:

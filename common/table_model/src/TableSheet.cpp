@@ -32,13 +32,19 @@ QList<int> rowsFrom(int first, qsizetype count)
     return rows;
 }
 
+qsizetype unitsOf(const QStringList &texts)
+{
+    qsizetype units = 0;
+    for (const QString &text : texts)
+        units += text.size();
+    return units;
+}
+
 qsizetype unitsOf(const QList<QStringList> &rows)
 {
     qsizetype units = 0;
-    for (const QStringList &row : rows) {
-        for (const QString &text : row)
-            units += text.size();
-    }
+    for (const QStringList &row : rows)
+        units += unitsOf(row);
     return units;
 }
 
@@ -165,24 +171,35 @@ TableHistory *TableSheet::history() const
 
 Error TableSheet::load(const QList<QStringList> &rows)
 {
-    if (unitsOf(rows) > TableStore::kMaxUnits)
-        return tooMuchText();
+    return load(int(rows.size()), [&](int row, QStringList *texts) { *texts = rows[row]; });
+}
+
+Error TableSheet::load(int rowCount, const RowSource &source)
+{
+    TableStore next(d->columns);
+    next.reserveRows(rowCount);
+    const QStringList none(columnCount());
+    for (int row = 0; row < rowCount; ++row) {
+        QStringList texts = none;
+        source(row, &texts);
+        if (!next.hasRoom(unitsOf(texts)))
+            return tooMuchText();
+        next.addRow(texts);
+    }
     const QPointer<TableSheet> guard(this);
     d->history->clear();
     if (!guard)
         return Error::NoError;
-    d->store.clear();
-    d->store.reserveRows(rows.size());
-    d->order.assign({});
+    d->store = std::move(next);
     d->checks.clear();
+    d->checks.addedToStore();
     d->lookedUpTo = 0;
-    QList<quint32> ids;
-    ids.reserve(rows.size());
-    for (const QStringList &row : rows) {
-        ids.append(d->addRow(row));
-        d->checks.enter(ids.constLast());
-    }
-    d->order.assign(std::move(ids));
+    const QList<int> places = rowsFrom(0, rowCount);
+    const QList<quint32> ids(places.begin(), places.end());
+    d->order.assign({});
+    for (const quint32 id : ids)
+        d->checks.enter(id);
+    d->order.assign(ids);
     Q_EMIT loaded();
     return Error::NoError;
 }
@@ -303,7 +320,7 @@ void TableSheet::moveRows(const QList<int> &rows, int before)
     }
     const QList<quint32> after = head + middle + tail;
     if (after != old)
-        d->push({TableOrderChange{old, after}}, tr("move rows"));
+        d->push({orderChange(old, after)}, tr("move rows"));
 }
 
 void TableSheet::setOrder(const QList<quint32> &ids)
@@ -311,7 +328,12 @@ void TableSheet::setOrder(const QList<quint32> &ids)
     Q_ASSERT(ids.size() == rowCount());
     // Empty lists can't be compared: one of them may have no memory at all.
     if (!ids.isEmpty() && ids != d->order.ids())
-        d->push({TableOrderChange{d->order.ids(), ids}}, tr("order the rows"));
+        d->push({orderChange(d->order.ids(), ids)}, tr("order the rows"));
+}
+
+qsizetype TableSheet::heldBytes() const
+{
+    return d->store.heldBytes() + rowCount() * qsizetype(sizeof(quint32)) + d->history->heldBytes();
 }
 
 int TableSheet::problemCount() const

@@ -1,5 +1,7 @@
 #include "NoticeBar.h"
 
+#include "LongText.h"
+
 #include <orv/widgets/Icons.h>
 
 #include <QAccessible>
@@ -30,8 +32,8 @@ NoticeBar::NoticeBar(QWidget *parent)
 
 void NoticeBar::setText(const QString &text)
 {
-    m_text->setText(text);
-    m_text->setAccessibleName(text);
+    m_text->setText(beginningOf(text));
+    m_text->setAccessibleName(m_text->text());
     setVisible(!text.isEmpty());
     if (text.isEmpty())
         return;

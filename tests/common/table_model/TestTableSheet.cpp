@@ -80,6 +80,9 @@ class TestTableSheet : public OrvTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void memoryGrowsByWhatWasEditedWhateverTheRows();
+    void undoAndRedoHoldNothingMore();
+    void loadsRowByRow();
     void raggedRowsAreFilledAndCut();
     void cellsAreChangedInOneStep();
     void whatChangesNothingIsNoStep();
@@ -100,6 +103,81 @@ private Q_SLOTS:
     void randomEditsAreUndoneAndRedone_data();
     void randomEditsAreUndoneAndRedone();
 };
+
+namespace {
+
+QList<QStringList> manyPeptides(int count)
+{
+    QList<QStringList> many;
+    for (int row = 0; row < count; ++row)
+        many.append({u"p%1"_s.arg(row), u"500.25"_s, u"2"_s, u"Positive"_s});
+    return many;
+}
+
+/// Edits of a few rows, each kind of step once.
+void editFewRows(TableSheet *sheet)
+{
+    QVERIFY(!sheet->setText(7, 0, u"a name of twenty un.").hasError());
+    sheet->moveRows({5}, 4);
+    sheet->removeRows({3});
+    QVERIFY(!sheet->insertRows(9, {{u"new"_s, u"1"_s}}, u"add"_s).hasError());
+    sheet->duplicateRows({2});
+    sheet->moveRows({1, 2}, 6);
+}
+
+} // namespace
+
+void TestTableSheet::memoryGrowsByWhatWasEditedWhateverTheRows()
+{
+    QList<qsizetype> growths;
+    for (const int count : {20, 20'000}) {
+        TableSheet sheet(TableFixture::columns());
+        QVERIFY(!sheet.load(manyPeptides(count)).hasError());
+        const qsizetype before = sheet.heldBytes();
+        editFewRows(&sheet);
+        growths.append(sheet.heldBytes() - before);
+    }
+    QCOMPARE(growths[0], growths[1]);
+    QVERIFY2(growths[0] > 40 && growths[0] < 2000, qPrintable(QString::number(growths[0])));
+}
+
+void TestTableSheet::undoAndRedoHoldNothingMore()
+{
+    TableSheet sheet(TableFixture::columns());
+    QVERIFY(!sheet.load(manyPeptides(100)).hasError());
+    editFewRows(&sheet);
+    const qsizetype before = sheet.heldBytes();
+    const QList<QStringList> edited = sheet.allTexts();
+    for (int round = 0; round < 50; ++round) {
+        while (sheet.history()->canUndo())
+            sheet.history()->undo();
+        QCOMPARE(sheet.allTexts(), manyPeptides(100));
+        while (sheet.history()->canRedo())
+            sheet.history()->redo();
+    }
+    QCOMPARE(sheet.allTexts(), edited);
+    QCOMPARE(sheet.heldBytes(), before);
+}
+
+void TestTableSheet::loadsRowByRow()
+{
+    PeptideSheet sheet;
+    QVERIFY(!sheet.setText(0, 0, u"edited").hasError());
+    QSignalSpy loads(&sheet, &TableSheet::loaded);
+    // The rows that are there may be asked for meanwhile.
+    QVERIFY(!sheet
+                 .load(3,
+                       [&](int row, QStringList *texts) {
+                           QCOMPARE(texts->size(), 4);
+                           (*texts)[0] = sheet.text(row, 0).toString();
+                       })
+                 .hasError());
+    QCOMPARE(sheet.allTexts(), (QList<QStringList>{{u"edited"_s, QString(), QString(), QString()},
+                                                   {u"beta"_s, QString(), QString(), QString()},
+                                                   {u"gamma"_s, QString(), QString(), QString()}}));
+    QCOMPARE(loads.size(), 1);
+    QCOMPARE(sheet.history()->count(), 0);
+}
 
 void TestTableSheet::raggedRowsAreFilledAndCut()
 {

@@ -101,13 +101,19 @@ QString samplesProblem(QStringView text)
     return {};
 }
 
-TraceColumn samplesColumn()
+TraceColumn samplesColumn(const SampleCodes &samples)
 {
     TableColumn column =
         described(kSamples, TraceColumnsTr::tr("Samples"), TableColumnKind::Text,
                   TraceColumnsTr::tr("\"%1\", or the ids of samples, separated by \";\".").arg(allSamples()));
     column.defaultText = allSamples();
     column.check = samplesProblem;
+    column.codes = [samples] {
+        TableCodes codes = samples();
+        codes.separator = QStringLiteral("; ");
+        codes.none = allSamples();
+        return codes;
+    };
     return {column, [](const Trace &trace) { return samplesText(trace.samplesIds()); },
             [](Trace *trace, const QString &text) {
                 if (text.compare(allSamples(), Qt::CaseInsensitive) == 0)
@@ -281,7 +287,7 @@ QList<int> idsIn(QStringView text)
     return ids;
 }
 
-RecordSheet<Trace>::Columns ofTraces(const PresetNames &presets)
+RecordSheet<Trace>::Columns ofTraces(const PresetNames &presets, const SampleCodes &samples)
 {
     using Tr = TraceColumnsTr;
     const TableColumn use = described(QLatin1String("imported"), Tr::tr("Use"), TableColumnKind::Choice,
@@ -296,7 +302,7 @@ RecordSheet<Trace>::Columns ofTraces(const PresetNames &presets)
                    &TraceInfo::channelName),
         infoColumn(QLatin1String("channelId"), Tr::tr("Channel id"),
                    Tr::tr("By which the reader of the file finds the trace."), &TraceInfo::channelId),
-        samplesColumn(),
+        samplesColumn(samples),
         presetColumn(presets),
     };
 }

@@ -19,8 +19,12 @@ inline constexpr QLatin1String kEnd("end");
 
 using PresetNames = std::shared_ptr<QSet<QString>>;
 
+/// The samples that there are to choose from.
+using SampleCodes = std::function<TableCodes()>;
+
 /// \a presets are those that a trace may name; who changes them has the table looked at again.
-[[nodiscard]] RecordSheet<TracesImportList::Entry>::Columns ofTraces(const PresetNames &presets);
+[[nodiscard]] RecordSheet<TracesImportList::Entry>::Columns ofTraces(const PresetNames &presets,
+                                                                     const SampleCodes &samples);
 [[nodiscard]] RecordSheet<ElutionPeaksOptions>::Columns ofPresets();
 
 /// What the column of samples holds for all samples.

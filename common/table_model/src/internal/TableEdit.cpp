@@ -15,6 +15,21 @@ TableStep inverseOf(QList<TableCellChange> cells)
     return cells;
 }
 
+qsizetype heldBytesOf(const QList<TableCellChange> &cells)
+{
+    return cells.size() * qsizetype(sizeof(TableCellChange));
+}
+
+qsizetype heldBytesOf(const TableRowsChange &rows)
+{
+    return rows.rows.size() * qsizetype(sizeof(int) + sizeof(quint32));
+}
+
+qsizetype heldBytesOf(const TableOrderChange &order)
+{
+    return 2 * order.after.size() * qsizetype(sizeof(quint32));
+}
+
 TableStep inverseOf(TableRowsChange rows)
 {
     rows.isInsertion = !rows.isInsertion;
@@ -23,10 +38,24 @@ TableStep inverseOf(TableRowsChange rows)
 
 TableStep inverseOf(const TableOrderChange &order)
 {
-    return TableOrderChange{order.after, order.before};
+    return TableOrderChange{order.first, order.after, order.before};
 }
 
 } // namespace
+
+TableOrderChange orderChange(const QList<quint32> &before, const QList<quint32> &after)
+{
+    const auto first = std::mismatch(before.cbegin(), before.cend(), after.cbegin()).first - before.cbegin();
+    const auto last = before.crend() - std::mismatch(before.crbegin(), before.crend(), after.crbegin()).first;
+    const qsizetype size = std::max<qsizetype>(last - first, 0);
+    return {int(first), before.mid(first, size), after.mid(first, size)};
+}
+
+QList<quint32> withChange(QList<quint32> order, const TableOrderChange &change)
+{
+    std::copy(change.after.cbegin(), change.after.cend(), order.begin() + change.first);
+    return order;
+}
 
 TableStep inverse(const TableStep &step)
 {
@@ -38,6 +67,15 @@ TableEdit::TableEdit(Take take, QList<TableStep> steps, const QString &text)
     , m_steps(std::move(steps))
     , m_text(text)
 {}
+
+qsizetype TableEdit::heldBytes() const
+{
+    qsizetype bytes = qsizetype(sizeof(TableEdit));
+    for (const TableStep &step : m_steps)
+        bytes += qsizetype(sizeof(TableStep)) +
+                 std::visit([](const auto &change) { return heldBytesOf(change); }, step);
+    return bytes;
+}
 
 void TableEdit::undo() const
 {

@@ -26,11 +26,17 @@ struct TableRowsChange
     bool isInsertion = true;
 };
 
+/// From the first to the last place where rows stand otherwise.
 struct TableOrderChange
 {
+    int first = 0;
     QList<quint32> before;
     QList<quint32> after;
 };
+
+/// From one order of the same rows to another.
+[[nodiscard]] TableOrderChange orderChange(const QList<quint32> &before, const QList<quint32> &after);
+[[nodiscard]] QList<quint32> withChange(QList<quint32> order, const TableOrderChange &change);
 
 using TableStep = std::variant<QList<TableCellChange>, TableRowsChange, TableOrderChange>;
 
@@ -49,6 +55,8 @@ public:
     [[nodiscard]] const QString &text() const { return m_text; }
     void undo() const;
     void redo() const;
+
+    [[nodiscard]] qsizetype heldBytes() const;
 
 private:
     Take m_take;

@@ -49,7 +49,7 @@ void TableSheet::Private::change(const TableStep &step)
         else
             order.remove(rows->places);
     } else {
-        order.assign(std::get<TableOrderChange>(step).after);
+        order.assign(withChange(order.ids(), std::get<TableOrderChange>(step)));
     }
 }
 
@@ -85,11 +85,8 @@ void TableSheet::Private::tellCells(const QList<TableCellChange> &cells) const
 
 quint32 TableSheet::Private::addRow(const QStringList &texts)
 {
-    const quint32 id = store.addRow();
+    const quint32 id = store.addRow(texts);
     checks.addedToStore();
-    const qsizetype count = std::min(texts.size(), columns.size());
-    for (int column = 0; column < count; ++column)
-        store.setSlot(id, column, store.keep(texts[column]));
     return id;
 }
 

@@ -1,5 +1,6 @@
 #include "TableStore.h"
 
+#include <algorithm>
 #include <functional>
 
 namespace orv {
@@ -8,15 +9,6 @@ TableStore::TableStore(const QList<TableColumn> &columns)
     : m_derived(columns)
     , m_columns(int(columns.size()))
 {}
-
-void TableStore::clear()
-{
-    m_derived.forgetAll();
-    m_units.clear();
-    m_units.shrink_to_fit();
-    m_slots.clear();
-    m_rows = 0;
-}
 
 QStringView TableStore::derivedText(quint32 row, int column) const
 {
@@ -32,6 +24,15 @@ quint32 TableStore::addRow()
 {
     m_slots.resize(m_slots.size() + size_t(m_columns));
     return m_rows++;
+}
+
+quint32 TableStore::addRow(const QStringList &texts)
+{
+    const quint32 row = addRow();
+    const int count = std::min(int(texts.size()), m_columns);
+    for (int column = 0; column < count; ++column)
+        m_slots[index(row, column)] = keep(texts[column]);
+    return row;
 }
 
 std::optional<TableSlot> TableStore::slotOf(QStringView text) const

@@ -30,10 +30,9 @@ public:
 
     explicit TableStore(const QList<TableColumn> &columns);
 
-    /// No rows afterwards.
-    void clear();
-
     quint32 addRow();
+    /// What there is too much of is left out; there is room for the texts.
+    quint32 addRow(const QStringList &texts);
     void reserveRows(qsizetype rows) { m_slots.reserve(size_t(rows) * size_t(m_columns)); }
     [[nodiscard]] quint32 rowCount() const { return m_rows; }
 
@@ -61,6 +60,11 @@ public:
     [[nodiscard]] QStringView text(quint32 row, int column) const
     {
         return m_derived.has(column) ? derivedText(row, column) : text(slot(row, column));
+    }
+
+    [[nodiscard]] qsizetype heldBytes() const
+    {
+        return qsizetype(m_units.size() * sizeof(char16_t) + m_slots.size() * sizeof(TableSlot));
     }
 
     [[nodiscard]] bool hasDerived() const { return !m_derived.isEmpty(); }

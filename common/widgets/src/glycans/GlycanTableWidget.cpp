@@ -1,5 +1,6 @@
 #include "orv/widgets/GlycanTableWidget.h"
 
+#include "../scientific/AsReadFields.h"
 #include "../scientific/SequenceColumns.h"
 
 #include <orv/chemistry/DetachedGlycanUtils.h>
@@ -32,19 +33,6 @@ GlycanRecords::Field numberField(const QString &column, std::optional<double> Gl
             }};
 }
 
-GlycanRecords::Field textField(const QString &column, QString Glycan::*member)
-{
-    return {column,
-            [column, member](const Glycan &glycan) {
-                return (glycan.*member).isEmpty() ? RowNodeBinding::textOf(glycan.cellsAsRead.value(column))
-                                                  : glycan.*member;
-            },
-            [column, member](Glycan *glycan, const QString &text) {
-                glycan->*member = text;
-                glycan->cellsAsRead.remove(column);
-            }};
-}
-
 QString problemOfGlycan(QStringView text)
 {
     if (text.trimmed().isEmpty())
@@ -55,10 +43,10 @@ QString problemOfGlycan(QStringView text)
 
 QList<GlycanRecords::Field> glycanFields()
 {
-    return {textField(QStringLiteral("Name"), &Glycan::name),
-            textField(QStringLiteral("Composition"), &Glycan::composition),
+    return {textFieldOf(QStringLiteral("Name"), &Glycan::name),
+            textFieldOf(QStringLiteral("Composition"), &Glycan::composition),
             numberField(QStringLiteral("Mass"), &Glycan::massDa),
-            textField(QStringLiteral("Label"), &Glycan::label),
+            textFieldOf(QStringLiteral("Label"), &Glycan::label),
             numberField(QStringLiteral("RetentionTime"), &Glycan::retentionTimeMinutes)};
 }
 

@@ -1,5 +1,6 @@
 #include "orv/widgets/MassTableWidget.h"
 
+#include "../scientific/AsReadFields.h"
 #include "../scientific/SampleNames.h"
 #include "../scientific/UnitField.h"
 
@@ -59,24 +60,11 @@ void setSamplesOf(DeltaMass *mass, const QString &text)
         mass->cellsAsRead.insert(QStringLiteral("SamplesIds"), text);
 }
 
-MassRecords::Field massTextField(const QString &column, QString DeltaMass::*member)
-{
-    return {column,
-            [column, member](const DeltaMass &mass) {
-                return (mass.*member).isEmpty() ? RowNodeBinding::textOf(mass.cellsAsRead.value(column))
-                                                : mass.*member;
-            },
-            [column, member](DeltaMass *mass, const QString &text) {
-                mass->*member = text;
-                mass->cellsAsRead.remove(column);
-            }};
-}
-
 QList<MassRecords::Field> massFields()
 {
-    return {massTextField(QStringLiteral("Name"), &DeltaMass::name),
+    return {textFieldOf(QStringLiteral("Name"), &DeltaMass::name),
             {QStringLiteral("Mass"), textOfMass, setMassOf},
-            massTextField(QStringLiteral("Protein"), &DeltaMass::protein),
+            textFieldOf(QStringLiteral("Protein"), &DeltaMass::protein),
             {QStringLiteral("SamplesIds"), textOfSamples, setSamplesOf}};
 }
 

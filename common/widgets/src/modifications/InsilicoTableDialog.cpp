@@ -3,7 +3,7 @@
 #include "../proteins/DigestBar.h"
 #include "../proteins/ProteinDigest.h"
 #include "../scientific/SequenceColumns.h"
-#include "ProteinChecks.h"
+#include "../table/CheckList.h"
 
 #include <orv/chemistry/ChemistryConstants.h>
 #include <orv/chemistry/DisulfideUtils.h>
@@ -73,9 +73,15 @@ QList<TableColumn> peptideColumns(const std::shared_ptr<SequenceSource> &source)
             sequenceFigureColumn(SequenceFigure::AverageMass, source, 0, ofProtein)};
 }
 
-QList<ProteinChecks::Protein> proteinsOf(const RowNode &table)
+struct DigestibleProtein
 {
-    QList<ProteinChecks::Protein> proteins;
+    QString name;
+    QString sequence;
+};
+
+QList<DigestibleProtein> proteinsOf(const RowNode &table)
+{
+    QList<DigestibleProtein> proteins;
     for (int row = 0; row < table.getChildListSize(); ++row) {
         const auto cell = [&](QLatin1String column) {
             return RowNodeBinding::textOf(table.getChild(row)->data.value(table.data.indexOf(column)));
@@ -122,7 +128,8 @@ public:
     QList<Disulfide::Bond> bonds;
     ScientificTableWidget *table = nullptr;
     std::unique_ptr<RowNodeBinding> rows;
-    ProteinChecks *proteins = nullptr;
+    QList<DigestibleProtein> proteins;
+    CheckList *checks = nullptr;
     DigestBar *digest = nullptr;
     QLabel *state = nullptr;
     QHash<quint32, QStringList> digested; ///< rows that a digest has made, with what it wrote
@@ -150,20 +157,26 @@ void InsilicoTableDialog::build(const RowNode &proteins)
                                          QStringLiteral("InsilicoPeptides"));
     d->table->setObjectName(QStringLiteral("peptides"));
     d->rows = std::make_unique<RowNodeBinding>(d->table->sheet());
-    d->proteins = new ProteinChecks(proteinsOf(proteins), this);
+    d->proteins = proteinsOf(proteins);
+    QList<CheckList::Line> lines;
+    for (const DigestibleProtein &protein : std::as_const(d->proteins))
+        lines.append({protein.name, tr("%1: %2 residues").arg(protein.name).arg(protein.sequence.size())});
+    d->checks = new CheckList(lines, this);
     d->digest = new DigestBar;
     d->state = new QLabel;
     d->state->setObjectName(QStringLiteral("state"));
     d->state->setWordWrap(true);
+    d->state->setTextFormat(Qt::PlainText);
     auto *const list = new QListView;
     list->setObjectName(QStringLiteral("proteins"));
     list->setAccessibleName(tr("Proteins that are digested"));
     list->setToolTip(tr("Check the proteins whose peptides are expected."));
-    list->setModel(d->proteins);
+    list->setModel(d->checks);
     list->setUniformItemSizes(true);
     auto *const all = new QPushButton(tr("&All Proteins"));
     all->setObjectName(QStringLiteral("allProteins"));
     all->setAutoDefault(false);
+    all->setToolTip(tr("Checks every protein."));
     auto *const left = new QWidget;
     auto *const leftLayout = new QVBoxLayout(left);
     leftLayout->setContentsMargins({});
@@ -183,8 +196,8 @@ void InsilicoTableDialog::build(const RowNode &proteins)
     layout->addWidget(splitter, 1);
     layout->addWidget(d->state);
     layout->addWidget(buttons);
-    connect(all, &QPushButton::clicked, d->proteins, [proteins = d->proteins] { proteins->checkAll(true); });
-    connect(d->proteins, &ProteinChecks::checkedChanged, this, &InsilicoTableDialog::digest);
+    connect(all, &QPushButton::clicked, d->checks, &CheckList::checkAll);
+    connect(d->checks, &CheckList::checkedChanged, this, &InsilicoTableDialog::digest);
     connect(d->digest, &DigestBar::edited, this, &InsilicoTableDialog::digest);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -222,7 +235,8 @@ void InsilicoTableDialog::digest()
     }
     QList<QStringList> rows;
     bool isCut = false;
-    for (const ProteinChecks::Protein &protein : d->proteins->checked()) {
+    for (const int checked : d->checks->checkedRows()) {
+        const DigestibleProtein &protein = d->proteins[checked];
         if (isCut)
             break;
         for (const DigestedPeptide &peptide :

@@ -1,5 +1,7 @@
 #include "orv/widgets/TextTablesDialog.h"
 
+#include "../LongText.h"
+
 #include <orv/widgets/DialogService.h>
 #include <orv/widgets/MeaningColors.h>
 #include <orv/widgets/ScientificTableWidget.h>
@@ -65,6 +67,7 @@ void TextTablesDialog::build(const Words &words, QWidget *page, const QList<Scie
     d->problem = new QLabel;
     d->problem->setObjectName(QStringLiteral("problem"));
     d->problem->setWordWrap(true);
+    d->problem->setTextFormat(Qt::PlainText);
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(splitter, 1);
@@ -127,7 +130,7 @@ void TextTablesDialog::showProblems()
     constexpr int kShown = 3;
     const QStringList problems = problemsOf(d->text);
     const qsizetype more = problems.size() - kShown;
-    QString text = problems.mid(0, kShown).join(u'\n');
+    QString text = beginningOf(problems.mid(0, kShown).join(u'\n'));
     if (more > 0)
         text += u'\n' + tr("and further problems: %1").arg(more);
     QPalette colors = d->problem->palette();

@@ -14,14 +14,32 @@ ExtendedTreeView::ExtendedTreeView(QWidget *parent)
     setSelectionMode(ExtendedSelection);
     setAlternatingRowColors(true);
     header()->setStretchLastSection(false);
+    // Wide enough for what is seen.
+    header()->setResizeContentsPrecision(0);
 }
 
 void ExtendedTreeView::refreshDelegates()
 {
     scheduleDelayedItemsLayout();
+    m_areColumnsFitted = false;
+    if (isVisible())
+        fitColumns();
+    viewport()->update();
+}
+
+void ExtendedTreeView::fitColumns()
+{
     for (int column = 0; model() && column < model()->columnCount(); ++column)
         resizeColumnToContents(column);
-    viewport()->update();
+    m_areColumnsFitted = true;
+}
+
+/// On a page that nobody opens, rows that are calculated stay uncalculated.
+void ExtendedTreeView::showEvent(QShowEvent *event)
+{
+    QTreeView::showEvent(event);
+    if (!m_areColumnsFitted)
+        fitColumns();
 }
 
 QString ExtendedTreeView::toPlainText() const

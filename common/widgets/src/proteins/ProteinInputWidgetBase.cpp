@@ -200,7 +200,7 @@ RowNode ProteinInputWidgetBase::getOptionsFromUI() const
     RowNode root = d->shown;
     for (const Private::Page &page : d->pages) {
         RowNode table = page.rows->table();
-        if (table == page.loaded)
+        if (!page.rows->isEdited() || table == page.loaded)
             continue;
         isEdited = true;
         if (page.table == kChains)

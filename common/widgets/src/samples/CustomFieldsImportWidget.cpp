@@ -1,5 +1,6 @@
 #include "orv/widgets/CustomFieldsImportWidget.h"
 
+#include "../LongText.h"
 #include "../NoticeBar.h"
 #include "../TablePage.h"
 
@@ -83,10 +84,14 @@ void CustomFieldsImportWidget::showHeader()
         QStringList words = d->header.getChild(i)->getRowDataToStringList();
         words.removeAll(QString());
         const QString name = words.isEmpty() ? QString() : words.takeFirst();
-        fields.append(words.isEmpty() ? name : tr("%1 (%2)").arg(name, words.join(QLatin1String(", "))));
+        const QString field =
+            words.isEmpty() ? name : tr("%1 (%2)").arg(name, words.join(QLatin1String(", ")));
+        constexpr qsizetype kFieldUnits = 120;
+        fields.append(beginningOf(field, kFieldUnits));
     }
-    d->fields->setText(fields.isEmpty() ? tr("No fields yet. Import a text file with a column for each.")
-                                        : tr("Fields: %1").arg(fields.join(QLatin1String("; "))));
+    d->fields->setText(fields.isEmpty()
+                           ? tr("No fields yet. Import a text file with a column for each.")
+                           : beginningOf(tr("Fields: %1").arg(fields.join(QLatin1String("; ")))));
 }
 
 RowNode CustomFieldsImportWidget::tableContent() const

@@ -17,8 +17,20 @@ void SampleNames::set(const QList<SamplesInput::Entry> &entries)
 {
     m_isKnown = true;
     m_names.clear();
-    for (const SamplesInput::Entry &entry : entries)
+    m_order.clear();
+    for (const SamplesInput::Entry &entry : entries) {
         m_names.insert(entry.id, entry.name);
+        m_order.append(entry.id);
+    }
+}
+
+TableCodes SampleNames::codes() const
+{
+    TableCodes codes;
+    codes.list.reserve(m_order.size());
+    for (const int id : m_order)
+        codes.list.append({QString::number(id), m_names.value(id)});
+    return codes;
 }
 
 QString SampleNames::textOf(const QList<int> &ids)
@@ -72,7 +84,9 @@ TableColumn SampleNames::idsColumn(const QString &name, const std::shared_ptr<Sa
 {
     TableColumn column{.name = name, .title = SampleNamesTr::tr("Sample ids")};
     column.explanation =
-        SampleNamesTr::tr("Ids of the samples that the row is for, with commas between; empty for all.");
+        SampleNamesTr::tr("Ids of the samples that the row is for, with commas between; empty for all. "
+                          "Alt+Down in the cell chooses them by name.");
+    column.codes = [names] { return names->codes(); };
     column.check = [names](QStringView text) { return names->problemOf(text); };
     return column;
 }

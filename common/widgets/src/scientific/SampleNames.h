@@ -32,7 +32,10 @@ public:
     [[nodiscard]] static TableColumn namesColumn(const std::shared_ptr<SampleNames> &names, int idsAt);
 
 private:
+    [[nodiscard]] TableCodes codes() const;
+
     QMap<int, QString> m_names;
+    QList<int> m_order;     ///< of the samples
     bool m_isKnown = false; ///< until somebody tells the samples, any id may be one
 };
 

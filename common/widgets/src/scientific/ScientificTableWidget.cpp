@@ -1,5 +1,7 @@
 #include "orv/widgets/ScientificTableWidget.h"
 
+#include "../LongText.h"
+
 #include <orv/table_model/TableModel.h>
 #include <orv/widgets/TableEditor.h>
 
@@ -9,6 +11,26 @@
 #include <QVBoxLayout>
 
 namespace orv {
+
+namespace {
+
+/// What the tab key stops at, in its order.
+QList<QWidget *> tabStopsIn(QWidget *container)
+{
+    QList<QWidget *> stops;
+    const auto add = [&](QWidget *widget) {
+        if (!widget->focusProxy() && widget->focusPolicy() != Qt::NoFocus)
+            stops.append(widget);
+    };
+    add(container);
+    for (QWidget *next = container->nextInFocusChain(); next != container; next = next->nextInFocusChain()) {
+        if (container->isAncestorOf(next))
+            add(next);
+    }
+    return stops;
+}
+
+} // namespace
 
 class ScientificTableWidget::Private
 {
@@ -23,6 +45,7 @@ public:
     QLabel *note = nullptr;
     QVBoxLayout *layout = nullptr;
     int above = 1;
+    QWidget *lastAbove = nullptr; ///< the last of them in the tab order, or the heading
     bool isTelling = false;
     bool isEdited = false; ///< by hand, since that was told
 };
@@ -34,6 +57,7 @@ ScientificTableWidget::ScientificTableWidget(QList<TableColumn> columns, const Q
 {
     d->header = new QLabel;
     d->header->setObjectName(QStringLiteral("header"));
+    d->lastAbove = d->header;
     QFont bold = d->header->font();
     bold.setBold(true);
     d->header->setFont(bold);
@@ -43,6 +67,7 @@ ScientificTableWidget::ScientificTableWidget(QList<TableColumn> columns, const Q
     d->note = new QLabel;
     d->note->setObjectName(QStringLiteral("note"));
     d->note->setWordWrap(true);
+    d->note->setTextFormat(Qt::PlainText);
     d->note->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     d->note->hide();
     d->layout = new QVBoxLayout(this);
@@ -133,6 +158,14 @@ QString ScientificTableWidget::note() const
 void ScientificTableWidget::insertAbove(QWidget *widget)
 {
     d->layout->insertWidget(d->above++, widget);
+    // They were made behind the table, and are read before it. Qt puts nothing behind what takes no focus.
+    const Qt::FocusPolicy policy = d->header->focusPolicy();
+    d->header->setFocusPolicy(Qt::TabFocus);
+    for (QWidget *const stop : tabStopsIn(widget)) {
+        QWidget::setTabOrder(d->lastAbove, stop);
+        d->lastAbove = stop;
+    }
+    d->header->setFocusPolicy(policy);
 }
 
 void ScientificTableWidget::insertBelow(QWidget *widget)
@@ -142,11 +175,12 @@ void ScientificTableWidget::insertBelow(QWidget *widget)
 
 void ScientificTableWidget::setNote(const QString &text)
 {
-    if (text == d->note->text())
+    const QString shown = beginningOf(text);
+    if (shown == d->note->text())
         return;
-    d->note->setText(text);
-    d->note->setAccessibleName(text);
-    d->note->setVisible(!text.isEmpty());
+    d->note->setText(shown);
+    d->note->setAccessibleName(shown);
+    d->note->setVisible(!shown.isEmpty());
     QAccessibleEvent event(d->note, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
 }

@@ -1,5 +1,7 @@
 #include "CellEditors.h"
 
+#include "CodesDialog.h"
+
 #include <orv/widgets/DialogService.h>
 #include <orv/widgets/MeaningColors.h>
 #include <orv/widgets/ORVFileDialog.h>
@@ -41,17 +43,18 @@ public:
     }
 };
 
-QString chooseFile(QWidget *parent, const QString &now)
+std::optional<QString> chooseFile(QWidget *parent, const QString &now)
 {
-    return ORVFileDialog::getOpenFileName(parent, CellEditorsTr::tr("Choose a File"), now);
+    const QString chosen = ORVFileDialog::getOpenFileName(parent, CellEditorsTr::tr("Choose a File"), now);
+    return chosen.isEmpty() ? std::nullopt : std::optional(chosen);
 }
 
-QString chooseColor(QWidget *parent, const QString &now)
+std::optional<QString> chooseColor(QWidget *parent, const QString &now)
 {
     const QPointer<QColorDialog> dialog = new QColorDialog(QColor(now), parent);
     dialog->setWindowTitle(CellEditorsTr::tr("Choose a Colour"));
     const bool isAccepted = DialogService::exec(*dialog);
-    QString chosen = dialog && isAccepted ? dialog->currentColor().name() : QString();
+    auto chosen = dialog && isAccepted ? std::optional(dialog->currentColor().name()) : std::nullopt;
     delete dialog;
     return chosen;
 }
@@ -129,18 +132,17 @@ void CellLineEdit::paintEvent(QPaintEvent *event)
     MeaningColors::paintErrorSign(painter, QStyle::visualRect(layoutDirection(), rect(), room), color);
 }
 
-void CellLineEdit::takeChosen(const std::function<QString(QWidget *parent, const QString &now)> &choose)
+void CellLineEdit::takeChosen(const Choose &choose)
 {
     const QPointer<CellLineEdit> guard(this);
-    const QString chosen = choose(window(), text());
-    if (!guard || chosen.isEmpty())
+    const std::optional<QString> chosen = choose(window(), text());
+    if (!guard || !chosen)
         return;
-    setText(chosen);
+    setText(*chosen);
     setModified(true);
 }
 
-void CellLineEdit::addChooser(const QString &text,
-                              std::function<QString(QWidget *parent, const QString &now)> choose)
+void CellLineEdit::addChooser(const QString &text, Choose choose)
 {
     auto *const button = new QToolButton(this);
     button->setText(QStringLiteral("\u2026"));
@@ -210,6 +212,12 @@ QWidget *createCellEditor(const TableColumn &column, NumberText::DecimalSign sig
         line->addChooser(CellEditorsTr::tr("Choose a file"), chooseFile);
     if (column.kind == TableColumnKind::Color)
         line->addChooser(CellEditorsTr::tr("Choose a colour"), chooseColor);
+    if (const TableCodes codes = column.codes ? column.codes() : TableCodes(); !codes.list.isEmpty()) {
+        line->addChooser(CellEditorsTr::tr("Choose from a list"),
+                         [title = column.title, codes](QWidget *asking, const QString &now) {
+                             return CodesDialog::ask(title, codes, now, asking);
+                         });
+    }
     return line;
 }
 

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 
 #include <functional>
+#include <optional>
 
 namespace orv {
 
@@ -25,8 +26,10 @@ public:
     [[nodiscard]] QString problem() const { return m_problem; }
     /// After other cells have changed.
     void check();
-    /// A button inside the line that finds a value elsewhere; nothing found leaves the text.
-    void addChooser(const QString &text, std::function<QString(QWidget *parent, const QString &now)> choose);
+    /// Finds a text elsewhere; nothing leaves the one that is there.
+    using Choose = std::function<std::optional<QString>(QWidget *parent, const QString &now)>;
+    /// A button inside the line that asks for a text.
+    void addChooser(const QString &text, Choose choose);
 
 Q_SIGNALS:
     void resized();
@@ -37,7 +40,7 @@ protected:
 
 private:
     void tell();
-    void takeChosen(const std::function<QString(QWidget *parent, const QString &now)> &choose);
+    void takeChosen(const Choose &choose);
     [[nodiscard]] int signWidth() const;
 
     TableColumn m_column;

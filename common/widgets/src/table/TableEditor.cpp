@@ -1,5 +1,6 @@
 #include "orv/widgets/TableEditor.h"
 
+#include "../LongText.h"
 #include "FindBar.h"
 
 #include <orv/core/FileUtils.h>
@@ -99,6 +100,7 @@ void TableEditor::build(TableSheet *sheet)
     d->filter->setObjectName(QStringLiteral("filter"));
     d->filter->setPlaceholderText(tr("Filter rows"));
     d->filter->setAccessibleName(tr("Filter rows"));
+    d->filter->setToolTip(tr("Shows only rows that hold all of these words"));
     d->filter->setClearButtonEnabled(true);
     d->onlyProblems = new QToolButton;
     d->onlyProblems->setObjectName(QStringLiteral("onlyProblems"));
@@ -111,6 +113,7 @@ void TableEditor::build(TableSheet *sheet)
     d->onlyProblems->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     d->message = new QLabel;
     d->message->setObjectName(QStringLiteral("message"));
+    d->message->setTextFormat(Qt::PlainText);
     d->message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     d->counts = new QLabel;
     d->counts->setObjectName(QStringLiteral("counts"));
@@ -178,7 +181,10 @@ void TableEditor::keepLayout()
     if (d->settingsKey.isEmpty())
         return;
     const QByteArray state = d->view->horizontalHeader()->saveState().toBase64();
-    as::setValue(d->settingsKey, QStringList({namesOfColumns(*d->sheet()), QString::fromLatin1(state)}));
+    const QStringList layout = {namesOfColumns(*d->sheet()), QString::fromLatin1(state)};
+    // A write goes to the disk, a look mostly doesn't.
+    if (layout != as::value(d->settingsKey, QStringList()).toStringList())
+        as::setValue(d->settingsKey, layout);
 }
 
 void TableEditor::restoreLayout()
@@ -211,8 +217,8 @@ void TableEditor::applyFilter()
 
 void TableEditor::say(const QString &text)
 {
-    d->message->setText(text);
-    d->message->setToolTip(text);
+    d->message->setText(beginningOf(text));
+    d->message->setToolTip(d->message->text());
     QAccessibleEvent event(d->message, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
 }

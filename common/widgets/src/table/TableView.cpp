@@ -1,5 +1,6 @@
 #include "orv/widgets/TableView.h"
 
+#include "RowNumbers.h"
 #include "TableCommands.h"
 #include "TableDelegate.h"
 #include "TableDrop.h"
@@ -14,6 +15,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -70,6 +72,7 @@ void TableView::setUpHeaders()
         if (d->model->sortColumn() < 0)
             horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     });
+    setVerticalHeader(new RowNumbers(this));
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + fontMetrics().height() / 2);
     verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -160,11 +163,40 @@ void TableView::paintEvent(QPaintEvent *event)
     }
     if (d->model->rowCount() > 0)
         return;
-    const QString text = d->model->filter().isEmpty() ? d->emptyText : tr("No row matches the filter.");
-    const int margin = fontMetrics().height() * 2;
     painter.setPen(palette().color(QPalette::Text));
-    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
-                     Qt::AlignCenter | Qt::TextWordWrap, text);
+    paintEmptyText(&painter);
+}
+
+QString TableView::shownEmptyText() const
+{
+    return d->model->filter().isEmpty() ? d->emptyText : tr("No row matches the filter.");
+}
+
+/// Where there is no room for all of it, its first line stands there, and all in the tool tip.
+void TableView::paintEmptyText(QPainter *painter) const
+{
+    constexpr int kFlags = Qt::AlignCenter | Qt::TextWordWrap;
+    const QString text = shownEmptyText();
+    const int wide = fontMetrics().height() * 2;
+    const int narrow = fontMetrics().averageCharWidth();
+    for (const int margin : {wide, narrow}) {
+        const QRect room = viewport()->rect().adjusted(margin, margin, -margin, -margin);
+        if (!room.contains(fontMetrics().boundingRect(room, kFlags, text)))
+            continue;
+        painter->drawText(room, kFlags, text);
+        return;
+    }
+    const QRect room = viewport()->rect().adjusted(narrow, 0, -narrow, 0);
+    painter->drawText(room, Qt::AlignCenter | Qt::TextSingleLine,
+                      fontMetrics().elidedText(text.section(u'\n', 0, 0), Qt::ElideRight, room.width()));
+}
+
+bool TableView::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip || d->model->rowCount() > 0)
+        return QTableView::viewportEvent(event);
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), shownEmptyText(), viewport());
+    return true;
 }
 
 void TableView::stepFrom(const QModelIndex &from, int rows, int columns)

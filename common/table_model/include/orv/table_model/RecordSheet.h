@@ -75,13 +75,11 @@ public:
     /// Replaces everything, and forgets the history. As TableSheet::load().
     [[nodiscard]] Error load(const QList<Record> &records)
     {
-        QList<QStringList> rows;
-        rows.reserve(records.size());
-        for (const Record &record : records)
-            rows.append(textsOf(record));
         const QList<Record> before = std::exchange(m_loaded, records);
         // Listeners to the load ask for records.
-        if (Error error = m_sheet->load(rows); error.hasError()) {
+        if (Error error = m_sheet->load(int(records.size()),
+                                        [&](int row, QStringList *texts) { putTexts(m_loaded[row], texts); });
+            error.hasError()) {
             m_loaded = before;
             return error.ecatch();
         }
@@ -92,8 +90,7 @@ public:
     [[nodiscard]] QStringList textsOf(const Record &record) const
     {
         QStringList texts(m_sheet->columnCount());
-        for (qsizetype i = 0; i < m_fields.size(); ++i)
-            texts[m_places[i]] = m_fields[i].text(record);
+        putTexts(record, &texts);
         return texts;
     }
 
@@ -149,6 +146,12 @@ private:
         for (const RecordColumn<Record> &column : columns)
             result.append(column.column);
         return result;
+    }
+
+    void putTexts(const Record &record, QStringList *texts) const
+    {
+        for (qsizetype i = 0; i < m_fields.size(); ++i)
+            (*texts)[m_places[i]] = m_fields[i].text(record);
     }
 
     void findPlaces()

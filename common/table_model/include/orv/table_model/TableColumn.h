@@ -3,6 +3,7 @@
 #include <orv/core/Export.h>
 #include <orv/table_model/NumberText.h>
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <QStringView>
@@ -22,6 +23,20 @@ enum class TableColumnKind
     File,     ///< a path or another reference to a file
     Sequence, ///< of amino acids or nucleotides, shown in a fixed-width font
     Color,    ///< "#rrggbb", or "#aarrggbb" with its opacity
+};
+
+/// Things that a cell names by codes, such as samples by their ids.
+struct TableCodes
+{
+    struct Code
+    {
+        QString code;
+        QString title; ///< for people
+    };
+
+    QList<Code> list;
+    QString separator = QStringLiteral(", "); ///< between the codes of a cell
+    QString none = {};                        ///< what a cell without codes holds
 };
 
 /// A column of a table: what it holds, what it is called and what may stand in it. A plain value.
@@ -46,6 +61,8 @@ struct ORV_WORKFLOW_EXPORT TableColumn
     bool isReadOnly = false;
     bool isUnique = false;   ///< no two rows hold the same; empty cells and other spellings of it don't count
     bool isCaseKept = false; ///< of sequences, whose letters are made capital else
+    /// What there is to choose from now, for cells that hold codes of several things.
+    std::function<TableCodes()> codes = {};
     /// A rule of its own: why a text that passed the others isn't allowed, or an empty text. Called often.
     std::function<QString(QStringView text)> check = {};
     /// Makes the kept text from the others of its row, as TableSheet::texts() has them; those of derived

@@ -37,6 +37,9 @@ public:
     void redo();
     void clear();
 
+    /// What its steps hold beside the rows and texts of the table, in bytes.
+    [[nodiscard]] qsizetype heldBytes() const;
+
     /// Does the step and forgets those that were undone.
     void push(std::unique_ptr<TableEdit> edit);
 

@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 namespace orv {
@@ -71,6 +72,10 @@ public:
     /// Replaces everything, and forgets the history. Rows may be ragged: what they lack is empty, and what
     /// they have too much is left out. InvalidContent for more text than a table holds; the old rows stay.
     [[nodiscard]] Error load(const QList<QStringList> &rows);
+    /// Gives the texts of a row; \a texts has an empty one for each column.
+    using RowSource = std::function<void(int row, QStringList *texts)>;
+    /// The same for so many rows, none of which is held twice meanwhile.
+    [[nodiscard]] Error load(int rowCount, const RowSource &source);
 
     /// InvalidContent where so many UTF-16 units more can't be held: for texts that aren't made then.
     [[nodiscard]] Error checkRoom(qsizetype units) const;
@@ -90,6 +95,9 @@ public:
     void moveRows(const QList<int> &rows, int before);
     /// \a ids are those of all rows.
     void setOrder(const QList<quint32> &ids);
+
+    /// What texts, rows and history hold, in bytes; neither room to spare nor what is derived counts.
+    [[nodiscard]] qsizetype heldBytes() const;
 
     /// How many cells have a problem among the rows that were looked at, and whether all were. Edits change
     /// the number at once or leave rows to be looked at.

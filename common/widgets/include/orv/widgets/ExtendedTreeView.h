@@ -24,6 +24,12 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void fitColumns();
+
+    bool m_areColumnsFitted = true;
 };
 
 } // namespace orv

@@ -89,6 +89,7 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
@@ -104,6 +105,8 @@ protected:
 private:
     void setUpHeaders();
     void showHeaderMenu(QPoint position);
+    [[nodiscard]] QString shownEmptyText() const;
+    void paintEmptyText(QPainter *painter) const;
     void stepFrom(const QModelIndex &from, int rows, int columns);
     /// Moves the focus out of the table.
     bool leave(bool next);

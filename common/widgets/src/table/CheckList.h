@@ -1,27 +1,30 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QList>
 #include <QSet>
 #include <QString>
 
 namespace orv {
 
-/// Proteins with boxes to check.
-class ProteinChecks : public QAbstractListModel
+/// Lines of text with boxes to check.
+class CheckList : public QAbstractListModel
 {
     Q_OBJECT
 
 public:
-    struct Protein
+    struct Line
     {
-        QString name;
-        QString sequence;
+        QString text;
+        QString tip;
     };
 
-    explicit ProteinChecks(QList<Protein> proteins, QObject *parent = nullptr);
+    explicit CheckList(QList<Line> lines, QObject *parent = nullptr);
 
-    [[nodiscard]] QList<Protein> checked() const;
-    void checkAll(bool isChecked);
+    /// Ascending.
+    [[nodiscard]] QList<int> checkedRows() const;
+    void setCheckedRows(const QList<int> &rows);
+    void checkAll();
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
@@ -32,7 +35,7 @@ Q_SIGNALS:
     void checkedChanged();
 
 private:
-    QList<Protein> m_proteins;
+    QList<Line> m_lines;
     QSet<int> m_checked;
 };
 
