@@ -84,6 +84,76 @@ void addFirstFrame()
     add("samples, first frame/SamplesAndTracesInputWidget", [content] { showInWidget(*content); });
 }
 
+/// The widget has read the samples already; the items take the same texts.
+void addShow()
+{
+    const auto content = std::make_shared<QJsonObject>(contentOf(sampleCount()));
+    SamplesAndTracesTables tables;
+    if (tables.setJsonContent(*content).hasError())
+        qFatal("The samples don't load");
+    const auto texts = std::make_shared<QList<QStringList>>(tables.samples()->allTexts());
+    add("samples read before/baseline", [texts] {
+        QTableWidget table(int(texts->size()), int(texts->constFirst().size()));
+        for (int row = 0; row < texts->size(); ++row) {
+            for (int column = 0; column < table.columnCount(); ++column)
+                table.setItem(row, column, new QTableWidgetItem((*texts)[row][column]));
+        }
+        table.resize(1000, 700);
+        table.show();
+        benchmark::DoNotOptimize(table.grab());
+    });
+    benchmark::RegisterBenchmark("samples read before/SamplesAndTracesInputWidget",
+                                 [content](benchmark::State &state) {
+                                     for ([[maybe_unused]] auto iteration : state) {
+                                         state.PauseTiming();
+                                         auto widget = std::make_unique<SamplesAndTracesInputWidget>();
+                                         if (widget->setFromJsonContent(*content).hasError())
+                                             qFatal("The samples don't load");
+                                         state.ResumeTiming();
+                                         widget->resize(1000, 700);
+                                         widget->show();
+                                         benchmark::DoNotOptimize(widget->grab());
+                                         state.PauseTiming();
+                                         widget.reset();
+                                         state.ResumeTiming();
+                                     }
+                                 })
+        ->Unit(benchmark::kMicrosecond);
+}
+
+void addEditAmong(const char *name, int count, QWidget *owner)
+{
+    auto *const widget = new SamplesAndTracesInputWidget(owner);
+    if (widget->setFromJsonContent(contentOf(count)).hasError())
+        qFatal("The samples don't load");
+    widget->resize(1000, 700);
+    widget->show();
+    QApplication::sendPostedEvents();
+    auto *const view = widget->findChild<TableView *>();
+    const auto run = std::make_shared<int>(0);
+    const auto heard = std::make_shared<qsizetype>(0);
+    QObject::connect(widget, &SamplesAndTracesInputWidget::samplesChanged, widget,
+                     [heard](const QList<SamplesInput::Entry> &samples) { *heard += samples.size(); });
+    add(name, [view, run, heard] {
+        const qsizetype before = *heard;
+        if (view->sheet()->setText(7, 0, QString::number(++*run)).hasError())
+            qFatal("No room");
+        QApplication::sendPostedEvents();
+        benchmark::DoNotOptimize(view->viewport()->grab());
+        if (*heard == before)
+            qFatal("Nobody heard of the edit");
+    });
+}
+
+/// An edit with its paint and a listener that looks at the samples, among many and among few. Benchmarks
+/// outlive the application, which widgets may not: \a owner has them.
+void addEditOfWidget(QWidget *owner)
+{
+    constexpr int kFew = 50;
+    addEditAmong("edit of a sample/baseline", kFew, owner);
+    addEditAmong("edit of a sample/among 10,000", sampleCount(), owner);
+}
+
 /// One edit and its undo with a listener that keeps the list of samples, against what the list alone costs
 /// it.
 void addEdit()
@@ -116,6 +186,9 @@ int main(int argc, char *argv[])
 {
     const QApplication application(argc, argv);
     addFirstFrame();
+    addShow();
     addEdit();
+    QWidget owner;
+    addEditOfWidget(&owner);
     return runRatioBenchmarks(argc, argv);
 }
