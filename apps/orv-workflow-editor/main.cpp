@@ -1,5 +1,7 @@
 #include "EditorWindow.h"
 
+#include <orv/propertyeditor/editors/GridItemEditorObjects.h>
+#include <orv/propertyeditor/editors/OrvGenericEditorObjectManager.h>
 #include <orv/propertyeditor/grid/GridItemCreators.h>
 #include <orv/widgets/CoreMainWindow.h>
 
@@ -10,7 +12,7 @@
 
 namespace {
 
-/// The columns that the library leaves to its hosts.
+/// The columns that the library leaves to its hosts, and the editors of the settings that hold such tables.
 void registerCreators()
 {
     using namespace orv;
@@ -19,6 +21,11 @@ void registerCreators()
     manager->registerCreator(BaseItemType::SamplesProteins, new SamplesProteinsTableItemCreator);
     manager->registerCreator(BaseItemType::IntactOptions, new IntactOptionsItemCreator);
     manager->registerCreator(BaseItemType::OligoOptions, new OligoOptionsItemCreator);
+
+    using Editor = PropertySetCreator::Editor;
+    OrvGenericEditorObjectManager *editors = OrvGenericEditorObjectManager::instance();
+    editors->registerEditor(Editor::IntactOptions, new IntactOptionsGenericObject);
+    editors->registerEditor(Editor::OligoOptions, new OligoOptionsGenericObject);
 }
 
 } // namespace

@@ -252,6 +252,9 @@ bool PropertyEditorWindow::openTabPreset()
 bool PropertyEditorWindow::saveTabPreset()
 {
     const QPointer<PropertyEditorWindow> self(this);
+    commitTyping();
+    if (!self)
+        return false;
     const QString path =
         ORVFileDialog::getSaveFileName(this, tr("Save tab to file"), {}, {MirelFileTypes::PTAB});
     if (!self || path.isEmpty())

@@ -37,6 +37,9 @@ QString purposeText(WidgetValidationType type)
 bool PropertyEditorWindow::verifyWidgetsContentAndShowDialog(WidgetValidationType type)
 {
     const QPointer<PropertyEditorWindow> self(this);
+    commitTyping();
+    if (!self)
+        return false;
     QStringList warnings;
     QStringList errors;
     QStringList details;
@@ -96,7 +99,8 @@ bool PropertyEditorWindow::checkContent(const Content &content, const QString &t
 bool PropertyEditorWindow::createProjectClicked()
 {
     const QPointer<PropertyEditorWindow> self(this);
-    if (!d->verifyWorkflowReferences(content()) || !self)
+    commitTyping();
+    if (!self || !d->verifyWorkflowReferences(content()) || !self)
         return false;
     d->m_projectCreationStarted = true;
     setEnabled(false);

@@ -11,6 +11,7 @@
 #include <orv/widgets/ORVFileDialog.h>
 #include <orv/widgets/ORVStyle.h>
 
+#include <QAbstractItemView>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QPointer>
@@ -122,6 +123,23 @@ void PropertyEditorWindow::reload(const PropertyEditorContent &written, const QS
     d->updateLastSavedWorkflow();
 }
 
+void PropertyEditorWindow::commitTyping()
+{
+    QWidget *typed = focusWidget();
+    if (!typed)
+        return;
+    for (QWidget *outer = typed->parentWidget(); outer; outer = outer->parentWidget()) {
+        if (auto *view = qobject_cast<QAbstractItemView *>(outer)) {
+            view->setFocus();
+            return;
+        }
+    }
+    const QPointer<QWidget> field(typed);
+    typed->clearFocus();
+    if (field)
+        field->setFocus();
+}
+
 bool PropertyEditorWindow::hasUnsavedChanges() const
 {
     const bool isNew = d->workflowFilePath().isNull();
@@ -139,7 +157,8 @@ bool PropertyEditorWindow::hasUnsavedChanges() const
 void PropertyEditorWindow::closeEvent(QCloseEvent *event)
 {
     const QPointer<PropertyEditorWindow> self(this);
-    if (hasUnsavedChanges()) {
+    commitTyping();
+    if (self && hasUnsavedChanges()) {
         const auto answer = ORVStyle::question(this, tr("Unsaved changes"),
                                                tr("There are some unsaved changes. Do you want to save ?"),
                                                QMessageBox::Yes | QMessageBox::No);

@@ -3,6 +3,8 @@
 
 #include <KProperty.h>
 #include <KPropertySet.h>
+#include <KPropertyUtils.h>
+#include <orv/propertyeditor/grid/KPropertyCustomEditorView.h>
 
 #include <QFileInfo>
 
@@ -35,6 +37,8 @@ private Q_SLOTS:
     void tabsWithoutAFileAreChanges();
     void projectsWereHandedOver();
     void refusedUpgradesCountAsChanges();
+    void typingIsTakenOver_data();
+    void typingIsTakenOver();
 };
 
 void ClosingTest::newWindowsCloseAtOnce()
@@ -143,6 +147,56 @@ void ClosingTest::refusedUpgradesCountAsChanges()
     answers.expectBox(u"Unsaved changes"_s, u"No"_s);
     QVERIFY(window.close());
     QVERIFY(answers.isDone());
+}
+
+void ClosingTest::typingIsTakenOver_data()
+{
+    QTest::addColumn<bool>("isSaved");
+    QTest::newRow("closing") << false;
+    QTest::newRow("saving") << true;
+}
+
+void ClosingTest::typingIsTakenOver()
+{
+    QFETCH(const bool, isSaved);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"b.wflw"_s);
+    ScriptedAnswerer answers;
+    Window window;
+    window.show();
+    const QJsonObject title = setting("KarvonCentroidTopk", u"1000"_s);
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", documentOf({karvonCell({title})}))), kOpened);
+    auto *view = qobject_cast<GridPropertyEditorView *>(window.grid(0)->items().first()->widget());
+    view->expandAll();
+    KPropertyCustomEditorView *tree = view->editorView();
+    QModelIndex row;
+    for (int group = 0; group < tree->model()->rowCount(); ++group) {
+        const QModelIndex parent = tree->model()->index(group, 0);
+        for (int i = 0; i < tree->model()->rowCount(parent); ++i) {
+            const QModelIndex index = tree->model()->index(i, 0, parent);
+            if (const KProperty *property = KPropertyUtils::propertyForIndex(index);
+                property && property->name() == "KarvonCentroidTopk")
+                row = index;
+        }
+    }
+    QVERIFY(row.isValid());
+    tree->setFocus();
+    tree->setCurrentIndex(row);
+    tree->edit(row.siblingAtColumn(1));
+    QWidget *editor = QApplication::focusWidget();
+    QVERIFY(editor && editor != tree && tree->isAncestorOf(editor));
+    QTest::keySequence(editor, QKeySequence::SelectAll);
+    QTest::keyClicks(editor, u"500"_s);
+    if (isSaved) {
+        answers.expectPath(u"Save Workflow"_s, path);
+        window.click("Save Workflow...");
+    } else {
+        answers.expectBox(u"Unsaved changes"_s, u"Yes"_s);
+        answers.expectPath(u"Save Workflow"_s, path);
+        window.close();
+    }
+    QVERIFY2(answers.isDone(), qPrintable(transcriptOf(answers).join(u'\n')));
+    QVERIFY2(TestData::read(path).contains("\"500\""), TestData::read(path).constData());
 }
 
 WIDGET_REGISTER_TEST(ClosingTest)

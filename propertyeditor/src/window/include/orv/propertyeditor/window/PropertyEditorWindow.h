@@ -142,6 +142,9 @@ protected:
 
     void closeEvent(QCloseEvent *event) override;
 
+    /// Takes over what somebody is typing in a field or cell, which stays the one with the focus.
+    void commitTyping();
+
     [[nodiscard]] PropertyEditorWindowPrivate *dFunc() const { return d.get(); }
     [[nodiscard]] QToolBar *toolBar() const;
 
