@@ -45,4 +45,17 @@ QString OrvGenericDelegate::propertyValueToString(const KProperty *property, con
     return GenericEditorText::textOf(*property, GenericEditorText::Place::Cell);
 }
 
+QString OrvGenericDelegate::summary(const KProperty &property)
+{
+    constexpr int kMostLines = 24;
+    const QString text = GenericEditorText::textOf(property, GenericEditorText::Place::Whole);
+    qsizetype end = -1;
+    for (int line = 0; line < kMostLines; ++line) {
+        end = text.indexOf(u'\n', end + 1);
+        if (end < 0)
+            return text;
+    }
+    return text.left(end + 1) + u'\u2026';
+}
+
 } // namespace orv

@@ -4,6 +4,7 @@
 #include <KPropertyUtils.h>
 #include <orv/core/FileTypes.h>
 #include <orv/propertyeditor/PropertiesTraits.h>
+#include <orv/propertyeditor/editors/OrvGenericDelegate.h>
 #include <orv/resources/ResourceReference.h>
 
 #include <QDragEnterEvent>
@@ -45,6 +46,11 @@ KPropertyCustomEditorView::KPropertyCustomEditorView(QWidget *parent)
 }
 
 KPropertyCustomEditorView::~KPropertyCustomEditorView() = default;
+
+QString KPropertyCustomEditorView::wholeValueText(const KProperty &property, const QString &shown) const
+{
+    return property.type() == PropertiesTraits::ObjectType ? OrvGenericDelegate::summary(property) : shown;
+}
 
 void KPropertyCustomEditorView::dragEnterEvent(QDragEnterEvent *event)
 {

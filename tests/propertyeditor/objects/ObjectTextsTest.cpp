@@ -7,6 +7,8 @@
 #include <orv/propertyeditor/editors/TheoreticalTableEditor.h>
 
 #include <QHash>
+#include <QHelpEvent>
+#include <QToolTip>
 
 using namespace orv;
 using namespace GridFixture;
@@ -24,6 +26,7 @@ private Q_SLOTS:
     void everyKindHasAnObject();
     void valuesReadAsTexts_data();
     void valuesReadAsTexts();
+    void toolTipsShowMoreThanCells();
     void numbersReadAsPeopleWriteThem();
     void textsOfTablesAreJson_data();
     void textsOfTablesAreJson();
@@ -138,6 +141,22 @@ void ObjectTextsTest::valuesReadAsTexts()
     QFETCH(QByteArray, value);
     QFETCH(QString, expected);
     QCOMPARE(objectFor(Editor(editor))->toString(object(value)), expected);
+}
+
+void ObjectTextsTest::toolTipsShowMoreThanCells()
+{
+    QStringList lines;
+    for (int i = 1; i <= 40; ++i)
+        lines.append(text("peak %1").arg(i));
+    Row row("KarvonPeakFilterSelected", QJsonObject{{text("peakfilter"), lines.join(u'\n')}});
+    QCOMPARE(row.shown(), lines.mid(0, 4).join(u'\n') + text("...\n[35 more line(s)]"));
+    const QModelIndex cell = LeavingWays::rowOf(row.tree(), row.name).siblingAtColumn(1);
+    const QPoint place = row.tree().visualRect(cell).center();
+    QHelpEvent help(QEvent::ToolTip, place, row.tree().viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(row.tree().viewport(), &help);
+    const QString tip = QToolTip::text();
+    QVERIFY2(tip.endsWith(text("<hr>") + lines.mid(0, 24).join(text("<br>")) + text("<br>\u2026")),
+             qPrintable(tip));
 }
 
 void ObjectTextsTest::numbersReadAsPeopleWriteThem()

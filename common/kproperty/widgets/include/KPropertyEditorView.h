@@ -101,6 +101,9 @@ Q_SIGNALS:
     void handlePropertyEditorItemEvent(KPropertyEditorItemEvent *event);
 
 protected:
+    /// The value of a property for its tool tip, where that is more than its cell shows.
+    virtual QString wholeValueText(const KProperty &property, const QString &shown) const;
+
     bool viewportEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;

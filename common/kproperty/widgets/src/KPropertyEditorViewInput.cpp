@@ -41,19 +41,28 @@ bool KPropertyEditorView::withinRevertButtonArea(const QPoint &position, const Q
     return revertButtonArea(index).contains(position);
 }
 
-/// The value of a cell that is too narrow for it, for the end of its tool tip; empty for others.
+QString KPropertyEditorView::wholeValueText(const KProperty &, const QString &shown) const
+{
+    return shown;
+}
+
+/// The value of a cell that is too small for it, for the end of its tool tip; empty for others.
 QString KPropertyEditorView::cutValue(const QModelIndex &index) const
 {
     constexpr int kMostCharacters = 2000;
-    if (!d->toolTipsVisible || !d->property(index) || index.column() != EditorDataModel::ValueColumn) {
+    const KProperty *const property = d->property(index);
+    if (!d->toolTipsVisible || !property || index.column() != EditorDataModel::ValueColumn) {
         return QString();
     }
-    const QString value = index.data(Qt::DisplayRole).toString().left(kMostCharacters);
+    const QString shown = index.data(Qt::DisplayRole).toString();
+    const QString whole = wholeValueText(*property, shown);
+    const QString value = whole.left(kMostCharacters);
     const int room = visualRect(index).width() - 2 * Internal::Painting::textMargin();
     const QStringList lines = value.split(QLatin1Char('\n'));
-    const bool isCut = std::any_of(lines.cbegin(), lines.cend(), [this, room](const QString &line) {
-        return fontMetrics().horizontalAdvance(line) > room;
-    });
+    const bool isCut =
+        whole != shown || std::any_of(lines.cbegin(), lines.cend(), [this, room](const QString &line) {
+            return fontMetrics().horizontalAdvance(line) > room;
+        });
     // Paths have no blanks at which a tool tip could break them.
     return isCut ? QLatin1String("<hr>") + value.toHtmlEscaped()
                                                .replace(QLatin1Char('/'), QLatin1String("/&#8203;"))

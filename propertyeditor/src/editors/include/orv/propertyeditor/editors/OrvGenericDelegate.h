@@ -17,6 +17,9 @@ public:
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
     QString propertyValueToString(const KProperty *property, const QLocale &locale) const override;
+
+    /// More lines than a cell has, for a tool tip; the last one tells that there are others.
+    [[nodiscard]] static QString summary(const KProperty &property);
 };
 
 } // namespace orv

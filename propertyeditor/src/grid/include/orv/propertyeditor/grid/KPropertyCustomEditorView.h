@@ -18,6 +18,9 @@ public:
     ~KPropertyCustomEditorView() override;
 
 protected:
+    /// Of structured values, of which a cell shows few lines.
+    QString wholeValueText(const KProperty &property, const QString &shown) const override;
+
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
