@@ -11,6 +11,8 @@
 #include <QCoreApplication>
 #include <QPointer>
 
+#include <QPointer>
+
 #include <algorithm>
 #include <limits>
 
@@ -177,8 +179,11 @@ void SamplesAndTracesTables::Private::follow(const std::shared_ptr<SampleSheet> 
     connect(sheet, &TableSheet::rowsReordered, q, [this] { reorderEntries(); });
     // One step may tell of several changes; listeners hear of it once.
     connect(sheet->history(), &TableHistory::indexChanged, q, [this] {
+        const QPointer<SamplesAndTracesTables> self(q);
         if (std::exchange(isChanged, false))
             Q_EMIT q->samplesChanged();
+        if (self)
+            Q_EMIT q->edited();
     });
 }
 
@@ -285,7 +290,11 @@ Error SamplesAndTracesTables::Private::load(const SamplesAndTracesContent &next)
     presets->sheet()->setRowRules(
         {TableRules::inOrder(sheet.columns(), TraceColumns::kStart, TraceColumns::kEnd)});
     readPresetNames();
-    connect(presets->sheet()->history(), &TableHistory::indexChanged, q, [this] { readPresetNames(); });
+    connect(presets->sheet()->history(), &TableHistory::indexChanged, q, [this] {
+        readPresetNames();
+        Q_EMIT q->edited();
+    });
+    connect(traces->sheet()->history(), &TableHistory::indexChanged, q, &SamplesAndTracesTables::edited);
     return Error::NoError;
 }
 
@@ -295,8 +304,12 @@ Error SamplesAndTracesTables::Private::replaceColumns(const CustomColumns &colum
     ORV_RETURN_IF_ERROR(loadSamples(records, columns));
     content.samples.columns = columns;
     hasOtherColumns = true;
+    const QPointer<SamplesAndTracesTables> self(q);
     Q_EMIT q->sheetsChanged();
-    Q_EMIT q->samplesChanged();
+    if (self)
+        Q_EMIT q->samplesChanged();
+    if (self)
+        Q_EMIT q->edited();
     return Error::NoError;
 }
 

@@ -85,7 +85,7 @@ void GridPropertyEditorView::changeSet(KPropertySet *set, bool deleteOld)
             connect(set, &KPropertySet::propertyChanged, this, &GridPropertyEditorView::propertyChanged);
             connect(set, &KPropertySet::propertyChanged, this, [this] {
                 if (!d->isQuiet)
-                    Q_EMIT contentEdited();
+                    d->tellEdited();
             });
             Q_EMIT propertySetChanged(*set);
         }
@@ -179,6 +179,27 @@ void GridPropertyEditorView::loadPreviewParameters(QWidget *parent)
 bool GridPropertyEditorView::validate(QStringList *) const
 {
     return true;
+}
+
+void GridPropertyEditorView::Private::tellEdited()
+{
+    // Editors live in the viewport until the application is idle. They tell in the midst of a key or of
+    // losing the focus, when the column must not go; whoever hears of an edit may close it.
+    const bool hasEditor =
+        !editorView->viewport()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly).isEmpty();
+    if (!hasEditor) {
+        Q_EMIT q->contentEdited();
+        return;
+    }
+    if (std::exchange(isTelling, true))
+        return;
+    QMetaObject::invokeMethod(
+        q,
+        [this] {
+            isTelling = false;
+            Q_EMIT q->contentEdited();
+        },
+        Qt::QueuedConnection);
 }
 
 void GridPropertyEditorView::Private::updateVisibility(KPropertySet &properties) const

@@ -25,6 +25,7 @@ public:
 
     void showButtons(bool isShown);
     /// Hides advanced properties in basic mode.
+    void tellEdited();
     void updateVisibility(KPropertySet &properties) const;
     /// Builds the tree of the same set anew; the person stays in place, or goes to the property \a current.
     void rebuild(const QByteArray &current = {});
@@ -50,6 +51,7 @@ public:
     GridPropertyEditorView *q;
     QPointer<KPropertySet> set;
     bool isQuiet = false; ///< what changes now isn't by a person's hand
+    bool isTelling = false;
 
 private:
     void makeButtons();

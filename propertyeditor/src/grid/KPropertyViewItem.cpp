@@ -75,24 +75,16 @@ KPropertyViewItem::KPropertyViewItem(GridCommunicationManager *manager)
 
 KPropertyViewItem::KPropertyViewItem(GridCommunicationManager *manager, GridPropertyEditorView *view)
     : GridCommunicative(manager)
-    , m_view(view)
-    , m_ownsView(!view)
+    , m_view(view ? view : new GridPropertyEditorView, view ? WidgetOwner::Others : WidgetOwner::Item)
 {
-    if (!m_view)
-        m_view = new GridPropertyEditorView;
-    connect(m_view, &GridPropertyEditorView::contentEdited, this, [this] { tellEdited(); });
+    connect(m_view.get(), &GridPropertyEditorView::contentEdited, this, [this] { tellEdited(); });
 }
 
-KPropertyViewItem::~KPropertyViewItem()
-{
-    // Where it is shown, it belongs to what shows it.
-    if (m_ownsView && m_view && !m_view->parent())
-        delete m_view;
-}
+KPropertyViewItem::~KPropertyViewItem() = default;
 
 QWidget *KPropertyViewItem::widget()
 {
-    return m_view;
+    return m_view.get();
 }
 
 bool KPropertyViewItem::validate(QStringList *warnings, QStringList *, QStringList *,

@@ -215,8 +215,13 @@ QString PropertyGridWidget::Private::nameOfCopy(const QString &name) const
 
 void PropertyGridWidget::Private::copyColumn(int index)
 {
-    if (index < 0 || index >= items.size() || index >= columnNames.size()) {
+    if (index < 0 || index >= columnNames.size()) {
         qCWarning(propertyEditorLog) << "Invalid index";
+        return;
+    }
+    // A name whose cell couldn't be loaded stays without an item.
+    if (index >= items.size()) {
+        qCWarning(propertyEditorLog) << "Failed to create a copy of column" << columnNames.at(index);
         return;
     }
     const QString name = nameOfCopy(columnNames.at(index));

@@ -4,8 +4,6 @@
 #include <orv/propertyeditor/grid/SamplesProteinsTableItem.h>
 #include <orv/widgets/SamplesAndTracesInputWidget.h>
 
-#include <QScopedValueRollback>
-
 namespace orv {
 
 using namespace PropertyEditorJsonUtils;
@@ -19,6 +17,7 @@ SamplesViewItem::SamplesViewItem(GridCommunicationManager *manager, SamplesAndTr
     , m_widget(widget)
 {
     connect(m_widget.get(), &SamplesAndTracesInputWidget::samplesChanged, this, &SamplesViewItem::announce);
+    connect(m_widget.get(), &SamplesAndTracesInputWidget::edited, this, [this] { tellEdited(); });
 }
 
 SamplesViewItem::~SamplesViewItem() = default;
@@ -31,10 +30,7 @@ void SamplesViewItem::announce(const QList<SamplesInput::Entry> &)
     const GridMessage message{this, PropertyId::SamplesTable, QVariant::fromValue(samples),
                               QVariant::fromValue(m_sent)};
     m_sent = samples;
-    const QPointer<SamplesViewItem> self(this);
     Q_EMIT sendMessage(message);
-    if (self && !m_isAnnouncing)
-        tellEdited();
 }
 
 QWidget *SamplesViewItem::widget()
@@ -70,7 +66,6 @@ void SamplesViewItem::messageReceived(const GridMessage &message)
         return;
     // A column of oligonucleotides doesn't ask for the samples.
     if (message.type == PropertyId::IntactProteins || message.type == PropertyId::MassTable) {
-        const QScopedValueRollback again(m_isAnnouncing, true);
         Q_EMIT m_widget->samplesChanged(m_widget->samplesInput());
     } else if (message.type == PropertyId::SamplesProteins) {
         const auto imported = message.value.value<SamplesProteinsTableItem::InternalMessage>();

@@ -120,6 +120,7 @@ private Q_SLOTS:
     void columnsAreMoved();
     void columnsAreCopied_data();
     void columnsAreCopied();
+    void aNameWithoutAColumnIsNotCopied();
     void modesReachEveryColumn();
     void allItemsAreAsked();
     void whoHearsOfARemovalMayCloseTheGrid();
@@ -434,6 +435,21 @@ void PropertyGridWidgetTest::columnsAreCopied()
     const GridPropertyEditorView *view = viewAt(*grid, int(grid->items().size()) - 1);
     QCOMPARE(view->editorMode(), EditorMode::Designer);
     QVERIFY(!view->isExpanded());
+}
+
+void PropertyGridWidgetTest::aNameWithoutAColumnIsNotCopied()
+{
+    const LogCapture log;
+    const auto grid = gridOf(names("A"));
+    grid->appendColumn(BaseItemType::Karvon, text("Missing"), false);
+    int edits = 0;
+    connect(grid.get(), &PropertyGridWidget::contentEdited, this, [&] { ++edits; });
+    grid->copyColumn(1);
+    grid->copyColumn(2);
+    QCOMPARE(log.warnings(),
+             QStringList({text("Failed to create a copy of column \"Missing\""), text("Invalid index")}));
+    QCOMPARE(grid->columnNames(), names("A,Missing"));
+    QCOMPARE(edits, 0);
 }
 
 void PropertyGridWidgetTest::modesReachEveryColumn()

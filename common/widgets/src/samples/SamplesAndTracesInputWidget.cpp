@@ -83,6 +83,8 @@ public:
     QStringList waiting; ///< paths for the next search
     int calls = 0;       ///< of functions that tell of changes themselves
     bool isTelling = false;
+    bool haveSamplesChanged = false; ///< and listeners don't know yet
+    bool isEdited = false;
 };
 
 SamplesAndTracesInputWidget::SamplesAndTracesInputWidget(QWidget *parent)
@@ -103,6 +105,10 @@ SamplesAndTracesInputWidget::SamplesAndTracesInputWidget(SampleFileChecker *chec
         buildTraces();
     });
     connect(d->tables, &SamplesAndTracesTables::samplesChanged, this, &SamplesAndTracesInputWidget::hear);
+    connect(d->tables, &SamplesAndTracesTables::edited, this, [this] {
+        d->isEdited = d->isEdited || d->calls == 0;
+        tellSoon();
+    });
     connect(d->checker, &SampleFileChecker::answered, this, [this] {
         if (d->samples)
             d->samples->view()->tableModel()->tellNotesChanged();
@@ -280,6 +286,8 @@ Error SamplesAndTracesInputWidget::setFromJsonContent(const QJsonObject &json)
     ++d->calls;
     Error error = d->tables->setJsonContent(json);
     --d->calls;
+    // What was edited before is gone.
+    d->isEdited = false;
     showNotice(error);
     Q_EMIT samplesChanged(samplesInput());
     return error.hasError() ? error.ecatch() : Error::NoError;
@@ -303,8 +311,12 @@ void SamplesAndTracesInputWidget::addNewSampleFiles(const QList<SamplePathAndNam
     const Result<int> added = d->tables->addFiles(files);
     --d->calls;
     say(added.hasError() ? added.error().errorMessage() : tr("%n sample(s) added.", nullptr, *added));
-    if (!added.hasError() && *added > 0)
-        Q_EMIT samplesChanged(samplesInput());
+    if (added.hasError() || *added == 0)
+        return;
+    const QPointer<SamplesAndTracesInputWidget> self(this);
+    Q_EMIT samplesChanged(samplesInput());
+    if (self)
+        Q_EMIT edited();
 }
 
 bool SamplesAndTracesInputWidget::validate(QStringList *warnings, QStringList *errors,
@@ -451,13 +463,24 @@ void SamplesAndTracesInputWidget::hear()
 {
     if (d->traces)
         d->traces->view()->tableModel()->tellNotesChanged();
+    d->haveSamplesChanged = d->haveSamplesChanged || d->calls == 0;
+    tellSoon();
+}
+
+void SamplesAndTracesInputWidget::tellSoon()
+{
     if (d->calls > 0 || std::exchange(d->isTelling, true))
         return;
     QMetaObject::invokeMethod(
         this,
         [this] {
+            const QPointer<SamplesAndTracesInputWidget> self(this);
+            const bool isEdited = std::exchange(d->isEdited, false);
             d->isTelling = false;
-            Q_EMIT samplesChanged(samplesInput());
+            if (std::exchange(d->haveSamplesChanged, false))
+                Q_EMIT samplesChanged(samplesInput());
+            if (self && isEdited)
+                Q_EMIT edited();
         },
         Qt::QueuedConnection);
 }

@@ -70,6 +70,9 @@ public:
 Q_SIGNALS:
     /// Once for each step, undone ones too, and after setJsonContent().
     void samplesChanged();
+    /// Once for each step in one of the three tables, undone ones too, and for custom columns; never for
+    /// setJsonContent(). Follows samplesChanged() where the samples changed.
+    void edited();
     void sheetsChanged();
 
 private:

@@ -56,6 +56,9 @@ Q_SIGNALS:
     /// At once for the functions above; for what a person does as soon as the event has been handled, so that
     /// listeners may do anything.
     void samplesChanged(const QList<orv::SamplesInput::Entry> &samples);
+    /// jsonContent() became another one by a person's hand, samples or not, or because files were added; when
+    /// samplesChanged() would tell, and after it.
+    void edited();
     /// Somebody removed a custom column.
     void removeCustomColumn(const QString &columnName);
 
@@ -74,6 +77,7 @@ private:
     void showTracesOfSelected();
     void showNotice(const Error &error);
     void hear();
+    void tellSoon();
     void say(const QString &text);
     [[nodiscard]] QString noteOnSample(quint32 row, int column) const;
 

@@ -78,7 +78,7 @@ Q_SIGNALS:
     void propertySetChanged(KPropertySet &set);
     void propertyChanged(KPropertySet &set, KProperty &property);
     /// The cell that these settings make became another one, but for a set that was shown by a caller and for
-    /// the base URL.
+    /// the base URL. From an editor as soon as its event has been handled, so that listeners may do anything.
     void contentEdited();
 
 protected:

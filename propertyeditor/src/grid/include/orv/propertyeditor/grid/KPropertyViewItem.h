@@ -3,8 +3,7 @@
 #include <orv/propertyeditor/grid/GridCommunicative.h>
 #include <orv/propertyeditor/grid/IGridItem.h>
 #include <orv/propertyeditor/grid/IGridItemCreator.h>
-
-#include <QPointer>
+#include <orv/propertyeditor/grid/ItemWidget.h>
 
 namespace orv {
 
@@ -39,8 +38,7 @@ private:
     void followSamples(const GridMessage &message);
     void followTable(const GridMessage &message);
 
-    QPointer<GridPropertyEditorView> m_view;
-    bool m_ownsView = false;
+    ItemWidget<GridPropertyEditorView> m_view;
 };
 
 class ORV_PROPERTY_EDITOR_EXPORT KPropertyItemCreator : public TalkingItemCreator

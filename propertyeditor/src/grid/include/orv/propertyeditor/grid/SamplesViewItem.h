@@ -38,7 +38,6 @@ private:
     void announce(const QList<SamplesInput::Entry> &samples);
 
     QList<SamplesInput::Entry> m_sent;
-    bool m_isAnnouncing = false; ///< again, without an edit
 };
 
 } // namespace orv

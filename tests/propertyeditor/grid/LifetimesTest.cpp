@@ -1,0 +1,202 @@
+#include "LogCapture.h"
+#include "PersonActs.h"
+#include "WholeWorkflow.h"
+#include "WidgetTest.h"
+
+#include <orv/propertyeditor/editors/ORVPropertyFactory.h>
+#include <orv/propertyeditor/grid/PropertyGridWidget.h>
+#include <orv/widgets/SamplesAndTracesInputWidget.h>
+
+#include <numeric>
+
+using namespace orv;
+using namespace GridFixture;
+
+namespace {
+
+/// A column of samples and one that follows it, in a window, on a bus; each part can go at any time.
+struct Parts
+{
+    explicit Parts(BaseItemType follower)
+    {
+        IGridItem *second =
+            follower == BaseItemType::Karvon   ? static_cast<IGridItem *>(new KPropertyViewItem(bus.get()))
+            : follower == BaseItemType::Masses ? static_cast<IGridItem *>(new MassTableItem(bus.get()))
+                                               : new IntactProteinsItem(bus.get());
+        const QList<std::pair<IGridItem *, BaseItemType>> made = {
+            {new SamplesViewItem(bus.get()), BaseItemType::Samples}, {second, follower}};
+        for (const auto &[item, kind] : made) {
+            if (auto *view = qobject_cast<GridPropertyEditorView *>(item->widget()))
+                view->setDocumentType(kind);
+            if (item->setContent(WholeWorkflow::defaultCell(kind)).hasError())
+                qFatal("The fixture doesn't load");
+            item->widget()->setParent(window.get());
+            items.emplace_back(item);
+        }
+    }
+
+    static constexpr int kCount = 4;
+
+    void destroy(int part)
+    {
+        if (part == 0)
+            bus.reset();
+        else if (part == 1)
+            window.reset();
+        else
+            items.at(size_t(part) - 2).reset();
+    }
+
+    /// What is left is asked and made to speak.
+    void use()
+    {
+        for (const auto &item : items) {
+            if (!item)
+                continue;
+            (void)item->content();
+            if (auto *samples = qobject_cast<SamplesAndTracesInputWidget *>(item->widget()))
+                samples->addNewSampleFiles({{text("/data/%1.raw").arg(++added), text("s%1").arg(added)}});
+        }
+        QCoreApplication::processEvents();
+    }
+
+    std::unique_ptr<GridCommunicationManager> bus = std::make_unique<GridCommunicationManager>();
+    std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
+    std::vector<std::unique_ptr<IGridItem>> items;
+    int added = 0;
+};
+
+enum class Victim
+{
+    Widget,
+    Item,
+    Everything,
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Victim)
+
+class LifetimesTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void partsGoInEveryOrder_data();
+    void partsGoInEveryOrder();
+    void whoHearsOfAnEditMayDestroy_data();
+    void whoHearsOfAnEditMayDestroy();
+    void whoHearsOfAnEditedGridMayCloseIt_data();
+    void whoHearsOfAnEditedGridMayCloseIt();
+};
+
+void LifetimesTest::initTestCase()
+{
+    ORVPropertyFactory::init();
+}
+
+void LifetimesTest::partsGoInEveryOrder_data()
+{
+    QTest::addColumn<BaseItemType>("follower");
+    for (const BaseItemType kind : {BaseItemType::Karvon, BaseItemType::Masses, BaseItemType::IntactProteins})
+        QTest::newRow(qPrintable(WholeWorkflow::nameOf(kind))) << kind;
+}
+
+void LifetimesTest::partsGoInEveryOrder()
+{
+    QFETCH(BaseItemType, follower);
+    const LogCapture log;
+    std::array<int, Parts::kCount> order{};
+    std::iota(order.begin(), order.end(), 0);
+    int orders = 0;
+    do {
+        Parts parts(follower);
+        for (const int part : order) {
+            parts.use();
+            parts.destroy(part);
+        }
+        parts.use();
+        ++orders;
+    } while (std::next_permutation(order.begin(), order.end()));
+    QCOMPARE(orders, 24);
+}
+
+void LifetimesTest::whoHearsOfAnEditMayDestroy_data()
+{
+    QTest::addColumn<BaseItemType>("kind");
+    QTest::addColumn<Victim>("victim");
+    for (const BaseItemType kind : WholeWorkflow::kinds()) {
+        const QString name = WholeWorkflow::nameOf(kind);
+        QTest::newRow(qPrintable(name + text(", widget"))) << kind << Victim::Widget;
+        QTest::newRow(qPrintable(name + text(", item"))) << kind << Victim::Item;
+        QTest::newRow(qPrintable(name + text(", everything"))) << kind << Victim::Everything;
+    }
+}
+
+void LifetimesTest::whoHearsOfAnEditMayDestroy()
+{
+    QFETCH(BaseItemType, kind);
+    QFETCH(Victim, victim);
+    const LogCapture log;
+    const PersonActs::Blunt answers(true);
+    WholeWorkflow::Columns columns;
+    QPointer<QWidget> widget = columns.item(kind).widget();
+    widget->resize(700, 600);
+    widget->show();
+    QVERIFY(QTest::qWaitForWindowActive(widget));
+    bool isTold = false;
+    connect(columns.item(kind).edits(), &GridItemEdits::edited, this, [&] {
+        if (std::exchange(isTold, true))
+            return;
+        if (victim == Victim::Widget)
+            delete widget;
+        else if (victim == Victim::Item)
+            columns.items.at(kind).reset();
+        else
+            columns.items.clear();
+    });
+    for (int round = 0; round < 2 && !isTold && widget; ++round) {
+        for (const PersonActs::Act &act : PersonActs::actsOf(widget)) {
+            PersonActs::perform(act);
+            if (isTold)
+                break;
+        }
+    }
+    QVERIFY2(isTold, "Nothing was edited");
+    QCoreApplication::processEvents();
+}
+
+void LifetimesTest::whoHearsOfAnEditedGridMayCloseIt_data()
+{
+    QTest::addColumn<BaseItemType>("kind");
+    for (const BaseItemType kind : WholeWorkflow::kinds())
+        QTest::newRow(qPrintable(WholeWorkflow::nameOf(kind))) << kind;
+}
+
+void LifetimesTest::whoHearsOfAnEditedGridMayCloseIt()
+{
+    QFETCH(BaseItemType, kind);
+    const LogCapture log;
+    const PersonActs::Blunt answers(true);
+    const WholeWorkflow::HostManager manager;
+    auto made = PropertyGridWidget::create({text("A")}, {cellOf(WholeWorkflow::defaultCell(kind))});
+    QVERIFY(!made.hasError());
+    QPointer<PropertyGridWidget> grid = std::move(made).value().release();
+    grid->resize(900, 600);
+    grid->show();
+    QVERIFY(QTest::qWaitForWindowActive(grid));
+    connect(grid, &PropertyGridWidget::contentEdited, this, [&] { delete grid; });
+    for (int round = 0; round < 2 && grid; ++round) {
+        for (const PersonActs::Act &act : PersonActs::actsOf(grid)) {
+            PersonActs::perform(act);
+            if (!grid)
+                break;
+        }
+    }
+    QVERIFY2(!grid, "Nothing was edited");
+    QCoreApplication::processEvents();
+}
+
+WIDGET_REGISTER_TEST(LifetimesTest)
+#include "LifetimesTest.moc"
