@@ -83,20 +83,25 @@ void addQueries(int samples, const std::string &label)
 {
     const QByteArray bytes = Lifelike::document(samples, 4);
     const auto content = std::make_shared<Content>(load(bytes));
+    // Who moves references edits the samples, and edited ones answer at another pace: thousands of runs that
+    // were planned for the others never end.
+    const auto moved = std::make_shared<Content>(load(bytes));
     const auto moves = std::make_shared<Moves>(*content);
+    const auto edited = std::make_shared<Content>(load(bytes));
+    edited->updateReferences(Moves(*content).next());
     const auto value = std::make_shared<PropertyEditorContent>(bytes);
     const Length length = samples < kLongWork ? Length::Short : Length::Long;
     const auto ask = [&](const std::string &what, const std::function<void()> &work) {
         add(what + "/" + label, work, length);
     };
     ask("allReferences", [=] { keep(content->allReferences()); });
-    ask("updateReferences of all", [=] { content->updateReferences(moves->next()); });
+    ask("updateReferences of all", [=] { moved->updateReferences(moves->next()); });
     ask("findProjects", [=] { keep(content->findProjects()); });
     ask("samplesMatchingRegExp", [=] {
         const PropertiesGetter getter(*value);
         keep(PropertiesGetter::samplesMatchingRegExp(getter.samples().constFirst(), QStringLiteral("*7")));
     });
-    ask("detachedCopy", [=] { keep(content->detachedCopy().hasError()); });
+    ask("detachedCopy", [=] { keep(edited->detachedCopy().hasError()); });
 }
 
 } // namespace

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void colorsOfMeaningStandOut();
     void aWrongCellHasASignAndABackground();
     void anEmptyTableSaysWhatToDo();
+    void anEmptyTableOfOneLineClipsNothing();
     void aFilterThatNothingMatchesIsTold();
     void everythingHasRoomInHalfASmallWindow();
 };
@@ -106,6 +107,28 @@ void TableLooksTest::anEmptyTableSaysWhatToDo()
     const QImage withText = e.view()->viewport()->grab().toImage();
     e.view()->setEmptyText(QString());
     QVERIFY(withText != e.view()->viewport()->grab().toImage());
+}
+
+void TableLooksTest::anEmptyTableOfOneLineClipsNothing()
+{
+    Editor e(QList<QStringList>{});
+    TableView *const view = e.view();
+    const QColor paper(1, 2, 3);
+    view->setPalette(paletteOf(paper, Qt::white));
+    const int frame = view->height() - view->viewport()->height();
+    view->setFixedHeight(frame + view->fontMetrics().height() + 4);
+    QCoreApplication::sendPostedEvents();
+    const QImage shown = view->viewport()->grab().toImage();
+    int inked = 0;
+    for (int y = 0; y < shown.height(); ++y) {
+        for (int x = 0; x < shown.width(); ++x) {
+            if (shown.pixelColor(x, y) == paper)
+                continue;
+            ++inked;
+            QVERIFY2(y > 0 && y < shown.height() - 1, "The text is cut");
+        }
+    }
+    QVERIFY(inked > 100);
 }
 
 void TableLooksTest::aFilterThatNothingMatchesIsTold()

@@ -3,11 +3,15 @@
 
 #include <orv/chemistry/ChemistryConstants.h>
 #include <orv/chemistry/MassUtils.h>
+#include <orv/widgets/DialogAnswerer.h>
 #include <orv/widgets/OligoMassTableWidget.h>
 #include <orv/widgets/TolerancesWidget.h>
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
+#include <QDialog>
+#include <QListView>
 #include <QSignalSpy>
 
 using namespace orv;
@@ -49,6 +53,8 @@ private Q_SLOTS:
     void examplesComeBackAsTheyWere();
     void randomMassesComeBackAsTheyWere();
     void massesAreTyped();
+    void samplesAreChosenByName();
+    void manyRowsArePastedAndUndone();
     void textsThatAreNoMassAreMarkedAndKept();
     void theToleranceIsTypedAndFollowedByTheRows();
     void anUnreadableToleranceIsShownAndComesBack();
@@ -106,6 +112,66 @@ void MassWidgetsTest::massesAreTyped()
     QCOMPARE(widget.masses(), QList<DeltaMass>({massOf("G0F/G0F", 148055.9), massOf("G0F/G1F", 148218.25)}));
     widget.sheet()->history()->undo();
     QCOMPARE(widget.masses()[1].massDa, 148218.1);
+}
+
+void MassWidgetsTest::samplesAreChosenByName()
+{
+    QList<SamplesInput::Entry> samples(3);
+    for (int i = 0; i < samples.size(); ++i) {
+        samples[i].id = 10 + i;
+        samples[i].name = text("plate %1").arg(i);
+    }
+    DeltaMass mass = massOf("G0F", 148055.9);
+    mass.samplesIds = {12, 99};
+    MassTableWidget widget;
+    widget.setMasses({mass});
+    widget.updateSamplesIds(samples);
+    show(&widget);
+    ScriptedAnswerer answers;
+    answers.expectDialog(text("Choose: Sample ids"), [](QDialog &dialog) {
+        auto *const list = dialog.findChild<QListView *>(text("codes"));
+        QStringList lines;
+        for (int row = 0; row < list->model()->rowCount(); ++row)
+            lines.append(list->model()->index(row, 0).data().toString());
+        [&] {
+            QCOMPARE(lines, QStringList({text("plate 0 (10)"), text("plate 1 (11)"), text("plate 2 (12)"),
+                                         text("unknown (99)")}));
+        }();
+        QTest::keyClick(list, Qt::Key_Space);
+        auto *const filter = dialog.findChild<QLineEdit *>(text("codesFilter"));
+        QTest::keyClicks(filter, text("unknown"));
+        list->setCurrentIndex(list->model()->index(0, 0));
+        QTest::keyClick(list, Qt::Key_Space);
+        return true;
+    });
+    click(&widget, 0, "SamplesIds");
+    key(Qt::Key_F2);
+    key(Qt::Key_Down, Qt::AltModifier);
+    key(Qt::Key_Return);
+    QVERIFY(answers.isDone());
+    QCOMPARE(widget.masses()[0].samplesIds, QList<int>({10, 12}));
+    QCOMPARE(shown(&widget, 0, "samples"), text("plate 0, plate 2"));
+}
+
+void MassWidgetsTest::manyRowsArePastedAndUndone()
+{
+    MassTableWidget widget;
+    widget.setMasses({massOf("first", 1)});
+    show(&widget);
+    QString rows;
+    constexpr int kRows = 100'000;
+    for (int i = 0; i < kRows; ++i)
+        rows += text("mass %1\t%2\n").arg(i).arg(1000 + i);
+    QGuiApplication::clipboard()->setText(rows);
+    click(&widget, 0, "Name");
+    QTest::keySequence(QApplication::focusWidget(), QKeySequence::Paste);
+    QCOMPARE(widget.sheet()->rowCount(), kRows);
+    QCOMPARE(widget.masses().constLast().massDa, 100'999.0);
+    const qsizetype held = widget.sheet()->heldBytes();
+    QTest::keySequence(QApplication::focusWidget(), QKeySequence::Undo);
+    QCOMPARE(widget.masses(), QList<DeltaMass>({massOf("first", 1)}));
+    QTest::keySequence(QApplication::focusWidget(), QKeySequence::Redo);
+    QCOMPARE(widget.sheet()->heldBytes(), held);
 }
 
 void MassWidgetsTest::textsThatAreNoMassAreMarkedAndKept()
