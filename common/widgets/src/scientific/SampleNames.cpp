@@ -85,7 +85,7 @@ TableColumn SampleNames::idsColumn(const QString &name, const std::shared_ptr<Sa
     TableColumn column{.name = name, .title = SampleNamesTr::tr("Sample ids")};
     column.explanation =
         SampleNamesTr::tr("Ids of the samples that the row is for, with commas between; empty for all. "
-                          "Alt+Down in the cell chooses them by name.");
+                          "F4 in the cell chooses them by name.");
     column.codes = [names] { return names->codes(); };
     column.check = [names](QStringView text) { return names->problemOf(text); };
     return column;

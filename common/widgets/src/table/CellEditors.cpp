@@ -147,13 +147,15 @@ void CellLineEdit::addChooser(const QString &text, Choose choose)
     auto *const button = new QToolButton(this);
     button->setText(QStringLiteral("\u2026"));
     button->setAccessibleName(text);
-    button->setToolTip(text);
+    button->setToolTip(
+        CellEditorsTr::tr("%1 (%2)").arg(text, QKeySequence(Qt::Key_F4).toString(QKeySequence::NativeText)));
     button->setAutoRaise(true);
     button->setCursor(Qt::ArrowCursor);
     button->setFocusPolicy(Qt::NoFocus); // the line keeps it, or the cell would close
     m_chooserWidth = button->sizeHint().width();
     auto *const action = new QAction(text, this);
-    action->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Down));
+    // As boxes of choices open; Alt+Down moves rows.
+    action->setShortcut(QKeySequence(Qt::Key_F4));
     action->setShortcutContext(Qt::WidgetShortcut);
     addAction(action);
     connect(button, &QToolButton::clicked, action, &QAction::trigger);
