@@ -19,7 +19,8 @@ void RatioReporter::ReportRuns(const std::vector<Run> &runs)
         const std::string name = run.run_name.function_name;
         if (!m_times.count(name))
             m_order.push_back(name);
-        m_times[name].push_back(run.GetAdjustedRealTime());
+        m_times[name].push_back(m_clock == Clock::Processor ? run.GetAdjustedCPUTime()
+                                                            : run.GetAdjustedRealTime());
     }
 }
 
@@ -42,7 +43,7 @@ void RatioReporter::Finalize()
     }
 }
 
-int runRatioBenchmarks(int argc, char *argv[])
+int runRatioBenchmarks(int argc, char *argv[], Clock clock)
 {
     std::vector<char *> arguments(argv, argv + argc);
     const bool isForAMoment = Lifelike::isForAMoment();
@@ -54,7 +55,7 @@ int runRatioBenchmarks(int argc, char *argv[])
     benchmark::Initialize(&count, arguments.data());
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
         return 1;
-    RatioReporter reporter;
+    RatioReporter reporter(clock);
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return 0;
 }

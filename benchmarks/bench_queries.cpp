@@ -119,5 +119,5 @@ int main(int argc, char *argv[])
     add("load 20,000 proteins/value form", [=] { keep(PropertyEditorContent(proteins)); });
     const auto value = std::make_shared<PropertyEditorContent>(proteins);
     add("load 20,000 proteins/their FASTA text", [=] { keep(PropertiesGetter(*value).fastaContent()); });
-    return runRatioBenchmarks(argc, argv);
+    return runRatioBenchmarks(argc, argv, Clock::Processor);
 }

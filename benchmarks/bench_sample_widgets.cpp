@@ -190,5 +190,5 @@ int main(int argc, char *argv[])
     addEdit();
     QWidget owner;
     addEditOfWidget(&owner);
-    return runRatioBenchmarks(argc, argv);
+    return runRatioBenchmarks(argc, argv, Clock::Processor);
 }
