@@ -1,9 +1,9 @@
 #include "WidgetTest.h"
 #include "WindowFixture.h"
+#include "editors/LeavingWays.h"
 
 #include <KProperty.h>
 #include <KPropertySet.h>
-#include <KPropertyUtils.h>
 #include <orv/propertyeditor/grid/KPropertyCustomEditorView.h>
 
 #include <QFileInfo>
@@ -164,29 +164,12 @@ void ClosingTest::typingIsTakenOver()
     ScriptedAnswerer answers;
     Window window;
     window.show();
-    const QJsonObject title = setting("KarvonCentroidTopk", u"1000"_s);
-    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", documentOf({karvonCell({title})}))), kOpened);
+    const QJsonObject peaks = setting("KarvonCentroidTopk", 1000);
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", documentOf({karvonCell({peaks})}))), kOpened);
     auto *view = qobject_cast<GridPropertyEditorView *>(window.grid(0)->items().first()->widget());
     view->expandAll();
-    KPropertyCustomEditorView *tree = view->editorView();
-    QModelIndex row;
-    for (int group = 0; group < tree->model()->rowCount(); ++group) {
-        const QModelIndex parent = tree->model()->index(group, 0);
-        for (int i = 0; i < tree->model()->rowCount(parent); ++i) {
-            const QModelIndex index = tree->model()->index(i, 0, parent);
-            if (const KProperty *property = KPropertyUtils::propertyForIndex(index);
-                property && property->name() == "KarvonCentroidTopk")
-                row = index;
-        }
-    }
-    QVERIFY(row.isValid());
-    tree->setFocus();
-    tree->setCurrentIndex(row);
-    tree->edit(row.siblingAtColumn(1));
-    QWidget *editor = QApplication::focusWidget();
-    QVERIFY(editor && editor != tree && tree->isAncestorOf(editor));
-    QTest::keySequence(editor, QKeySequence::SelectAll);
-    QTest::keyClicks(editor, u"500"_s);
+    QVERIFY(LeavingWays::open(*view->editorView(), "KarvonCentroidTopk"));
+    LeavingWays::type(u"500"_s);
     if (isSaved) {
         answers.expectPath(u"Save Workflow"_s, path);
         window.click("Save Workflow...");
@@ -196,7 +179,7 @@ void ClosingTest::typingIsTakenOver()
         window.close();
     }
     QVERIFY2(answers.isDone(), qPrintable(transcriptOf(answers).join(u'\n')));
-    QVERIFY2(TestData::read(path).contains("\"500\""), TestData::read(path).constData());
+    QVERIFY2(TestData::read(path).contains("\"value\": 500"), TestData::read(path).constData());
 }
 
 WIDGET_REGISTER_TEST(ClosingTest)
