@@ -167,7 +167,7 @@ void GridItemDialogsTest::theDialogOfTheKindOpens()
     });
     QVERIFY(row.pressButton());
     QVERIFY(answers.isDone());
-    QCOMPARE(row.edits.size(), 0);
+    QCOMPARE(row.told(), 0);
 }
 
 void GridItemDialogsTest::theKeyboardOpensIt()
@@ -181,7 +181,7 @@ void GridItemDialogsTest::theKeyboardOpensIt()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4);
     QVERIFY(answers.isDone());
     QCOMPARE(row.shown(), text("Light, C, 13, 99.5"));
-    QCOMPARE(row.edits.size(), 1);
+    QCOMPARE(row.told(), 1);
     QVERIFY(LeavingWays::editorOf(row.tree(), row.name));
 }
 
@@ -222,7 +222,7 @@ void GridItemDialogsTest::untouchedItGivesBackWhatWasSet()
     QVERIFY(row.pressButton());
     QVERIFY(answers.isDone());
     QCOMPARE(row.bytes(), before);
-    QCOMPARE(row.edits.size(), 0);
+    QCOMPARE(row.told(), 0);
 }
 
 void GridItemDialogsTest::defaultsComeBackUntouched()
@@ -273,7 +273,7 @@ void GridItemDialogsTest::valuesOfExamplesComeBackUntouched()
     QCOMPARE(answers.dialogs, 1);
     QCOMPARE(row.bytes(), before);
     QCOMPARE(row.stored(), QJsonValue(value));
-    QCOMPARE(row.edits.size(), 0);
+    QCOMPARE(row.told(), 0);
 }
 
 void GridItemDialogsTest::aTypedCellIsTaken()
@@ -293,7 +293,7 @@ void GridItemDialogsTest::aTypedCellIsTaken()
     QVERIFY(QString::fromUtf8(row.bytes()).contains(text("\"Z9\"")));
     QCOMPARE(row.stored()[text("data")], expected.value(text("data")));
     QCOMPARE(row.stored()[text("children")].toArray().size(), rows.size());
-    QCOMPARE(row.edits.size(), 1);
+    QCOMPARE(row.told(), 1);
 }
 
 void GridItemDialogsTest::anOpenCellIsTakenWithOk()
@@ -345,7 +345,7 @@ void GridItemDialogsTest::cancelLeavesTheValue()
     QVERIFY(answers.isDone());
     QVERIFY(wasTyped);
     QCOMPARE(row.bytes(), before);
-    QCOMPARE(row.edits.size(), 0);
+    QCOMPARE(row.told(), 0);
 }
 
 void GridItemDialogsTest::enterInTheTableDoesNotAccept()
@@ -427,7 +427,7 @@ void GridItemDialogsTest::whatIsNoTableIsTold()
     QCOMPARE(note, text("The value can't be shown: The value is no table. It stays as it is unless you enter "
                         "another one."));
     QCOMPARE(row.stored(), QJsonValue(object(R"({"children":"x"})")));
-    QCOMPARE(row.edits.size(), 0);
+    QCOMPARE(row.told(), 0);
 }
 
 void GridItemDialogsTest::aTableThatItsColumnRefusesIsTold()

@@ -130,6 +130,13 @@ struct Row
     QJsonValue stored() const { return GridFixture::valueIn(column.item.content(), name); }
     QByteArray bytes() { return property().value().toByteArray(); }
 
+    /// How many edits were told. They are told once the event that made them has been handled.
+    qsizetype told()
+    {
+        QCoreApplication::sendPostedEvents();
+        return edits.size();
+    }
+
     /// Opens the dialog by the button of the row's editor.
     bool pressButton()
     {

@@ -127,7 +127,7 @@ void SearchTextsTest::dialogsShowTheTextAndTakeTheEdited()
     QVERIFY(answers.isDone());
     QCOMPARE(shown, before);
     QCOMPARE(row.stored(), QJsonValue(QJsonObject{{key, before + text("% a remark")}}));
-    QCOMPARE(row.edits.size(), 1);
+    QCOMPARE(row.told(), 1);
 }
 
 void SearchTextsTest::peaksAreTaken()
@@ -146,7 +146,7 @@ void SearchTextsTest::peaksAreTaken()
     const QString peaks = row.stored()[text("peakfilter")].toString();
     QVERIFY2(peaks.startsWith(text("204.0867 HexNAc\n366.14\n")) && peaks.count(u'\n') > 2,
              qPrintable(peaks));
-    QCOMPARE(row.edits.size(), 1);
+    QCOMPARE(row.told(), 1);
 }
 
 void SearchTextsTest::cancelLeavesTheValue_data()
@@ -182,7 +182,7 @@ void SearchTextsTest::cancelLeavesTheValue()
         QVERIFY(answers.isDone());
         QCOMPARE(row.bytes(), before);
     }
-    QCOMPARE(row.edits.size(), 0);
+    QCOMPARE(row.told(), 0);
 }
 
 void SearchTextsTest::untouchedTextsComeBack_data()
@@ -216,7 +216,7 @@ void SearchTextsTest::untouchedTextsComeBack()
     QCOMPARE(answers.dialogs, 1);
     QCOMPARE(answers.boxes, 0);
     QCOMPARE(row.bytes(), before);
-    QCOMPARE(row.edits.size(), 0);
+    QCOMPARE(row.told(), 0);
 }
 
 void SearchTextsTest::glycansShowAbsolutePaths()
@@ -307,7 +307,7 @@ void SearchTextsTest::scriptsShowInTheirFrame()
     QVERIFY(answers.isDone());
     QCOMPARE(shown, TECWrapper::wrapTEC(text("a;")));
     QCOMPARE(row.stored(), QJsonValue(QJsonObject{{key, text("b;a;")}}));
-    QCOMPARE(row.edits.size(), 1);
+    QCOMPARE(row.told(), 1);
 }
 
 void SearchTextsTest::scriptsAreLoaded()
@@ -340,7 +340,7 @@ void SearchTextsTest::scriptsAreSavedBesideTheProgram()
     QCOMPARE(answers.transcript().constLast().startPath, scriptsFolder() + text("/dmsPlot.txt"));
     QCOMPARE(ScriptsFolder::read(scriptsFolder() + text("/mine.txt")),
              TECWrapper::wrapTEC(text("return {mass};")).toUtf8());
-    QCOMPARE(row.edits.size(), 0);
+    QCOMPARE(row.told(), 0);
 }
 
 void SearchTextsTest::unusualNamesOfScriptsAreTaken_data()

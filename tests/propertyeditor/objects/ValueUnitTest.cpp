@@ -129,7 +129,7 @@ void ValueUnitTest::everyWayTakesATypedValue()
     QVERIFY(LeavingWays::leave(row.tree(), way));
     QCOMPARE(row.stored(), QJsonValue(valueWithUnit(0.43, "Da")));
     QCOMPARE(row.shown(), text("0.43 Da"));
-    QCOMPARE(row.edits.size(), 1);
+    QCOMPARE(row.told(), 1);
     QVERIFY(row.tree().remark(row.property()).isEmpty());
 }
 
@@ -141,7 +141,7 @@ void ValueUnitTest::everyWayLeavesWhatNobodyTyped()
     QVERIFY(LeavingWays::open(row.tree(), kSetting));
     QVERIFY(LeavingWays::leave(row.tree(), way));
     QCOMPARE(row.bytes(), before);
-    QCOMPARE(row.edits.size(), 0);
+    QCOMPARE(row.told(), 0);
 }
 
 void ValueUnitTest::aHalfTypedTextGoesBackAndSaysWhy_data()
@@ -159,7 +159,7 @@ void ValueUnitTest::aHalfTypedTextGoesBackAndSaysWhy()
     QVERIFY(LeavingWays::leave(row.tree(), way));
     QCOMPARE(row.bytes(), before);
     QCOMPARE(row.shown(), text("10.12 ppm"));
-    QCOMPARE(row.edits.size(), 0);
+    QCOMPARE(row.told(), 0);
     const QString why = row.tree().remark(row.property());
     QVERIFY2(why.contains(text("12 pp")) && why.contains(text("mmu")), qPrintable(why));
     const QModelIndex cell = LeavingWays::rowOf(row.tree(), kSetting);
@@ -292,7 +292,7 @@ void ValueUnitTest::theDialogTakesTypedValues()
     QVERIFY(row.pressButton());
     QVERIFY(answers.isDone());
     QCOMPARE(row.stored(), QJsonValue(valueWithUnit(0.435, "ppm")));
-    QCOMPARE(row.edits.size(), 1);
+    QCOMPARE(row.told(), 1);
 }
 
 void ValueUnitTest::theUnitAloneChanges()
@@ -350,7 +350,7 @@ void ValueUnitTest::anUntouchedDialogLeavesTheValue()
     QVERIFY(row.pressButton());
     QVERIFY(answers.isDone());
     QCOMPARE(row.bytes(), before);
-    QCOMPARE(row.edits.size(), 0);
+    QCOMPARE(row.told(), 0);
 }
 
 void ValueUnitTest::theWheelChangesNothing()
