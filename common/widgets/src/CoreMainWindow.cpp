@@ -32,4 +32,11 @@ CoreMainWindow *CoreMainWindow::getMainWindow()
     return mainWindows().isEmpty() ? nullptr : mainWindows().constLast();
 }
 
+QWidget *CoreMainWindow::windowFor(const QWidget *widget)
+{
+    if (CoreMainWindow *main = getMainWindow())
+        return main;
+    return widget ? widget->window() : nullptr;
+}
+
 } // namespace orv

@@ -16,8 +16,8 @@
 #include <orv/propertyeditor/grid/PropertySelectionDialog.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 #include <orv/widgets/DefaultWidgetCreator.h>
-#include <orv/widgets/DialogService.h>
 #include <orv/widgets/Icons.h>
+#include <orv/widgets/ModalDialog.h>
 #include <orv/widgets/ORVFileDialog.h>
 #include <orv/widgets/ORVStyle.h>
 
@@ -253,12 +253,12 @@ void GridPropertyEditorView::Private::addNewProperty()
         return;
     }
     const QPointer<GridPropertyEditorView> self(q);
-    PropertySelectionDialog dialog(0, documentType, q);
-    dialog.enableProperties(namesOfSet(), false);
-    dialog.setGroups(KPropertySetUtils::groupCaptions(*set));
-    if (!DialogService::exec(dialog) || !self || !set)
+    ModalDialog dialog(new PropertySelectionDialog(0, documentType, q));
+    dialog->enableProperties(namesOfSet(), false);
+    dialog->setGroups(KPropertySetUtils::groupCaptions(*set));
+    if (!dialog.exec() || !self || !set)
         return;
-    KProperty *property = newProperty(dialog.propertyId(), dialog.priority());
+    KProperty *property = newProperty(dialog->propertyId(), dialog->priority());
     if (!property || set->contains(property->name())) {
         delete property;
         ORVStyle::critical(q, {}, viewTr("Failed to add a new property."), QMessageBox::Ok);
@@ -266,7 +266,7 @@ void GridPropertyEditorView::Private::addNewProperty()
     }
     prepare(property);
     const QByteArray name = property->name();
-    KPropertySetUtils::insertInKPropertySet(dialog.group(), property, set, -1);
+    KPropertySetUtils::insertInKPropertySet(dialog->group(), property, set, -1);
     rebuild(name);
     Q_EMIT q->contentEdited();
 }
@@ -282,26 +282,27 @@ void GridPropertyEditorView::Private::modifyProperty()
         return;
     const QPointer<GridPropertyEditorView> self(q);
     const QByteArray name = current->name();
-    PropertySelectionDialog dialog(1, documentType, q);
+    ModalDialog dialog(new PropertySelectionDialog(1, documentType, q));
     QList<QByteArray> others = namesOfSet();
     others.removeAll(name);
-    dialog.enableProperties(others, false);
-    dialog.setGroups(KPropertySetUtils::groupCaptions(*set));
-    dialog.setGroup(set->groupCaption(set->groupNameForProperty(name)));
-    dialog.setPropertyId(PropertiesNames::findPropertyForName(QString::fromUtf8(name)));
-    dialog.setPriority(current->option("priority", int(PropertySetCreator::Priority::Unset)).toInt());
-    if (!DialogService::exec(dialog) || !self || !set || !set->contains(name))
+    dialog->enableProperties(others, false);
+    dialog->setGroups(KPropertySetUtils::groupCaptions(*set));
+    dialog->setGroup(set->groupCaption(set->groupNameForProperty(name)));
+    dialog->setPropertyId(PropertiesNames::findPropertyForName(QString::fromUtf8(name)));
+    dialog->setPriority(current->option("priority", int(PropertySetCreator::Priority::Unset)).toInt());
+    if (!dialog.exec() || !self || !set || !set->contains(name))
         return;
     auto property = std::make_unique<KProperty>();
     QStringList errors;
-    if (!PropertySetCreator::modifyKProperty(
-            dialog.propertyId(), PropertySetCreator::Priority(dialog.priority()), property.get(), &errors)) {
+    if (!PropertySetCreator::modifyKProperty(dialog->propertyId(),
+                                             PropertySetCreator::Priority(dialog->priority()), property.get(),
+                                             &errors)) {
         ORVStyle::critical(
             q, {}, DisplayString::html(viewTr("Failed to modify the property:<br>%1").arg(htmlList(errors))),
             QMessageBox::Ok);
         return;
     }
-    replaceProperty(&set->property(name), property.release(), dialog.group());
+    replaceProperty(&set->property(name), property.release(), dialog->group());
 }
 
 void GridPropertyEditorView::Private::replaceProperty(KProperty *old, KProperty *property,

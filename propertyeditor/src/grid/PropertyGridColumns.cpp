@@ -9,7 +9,7 @@
 #include <orv/propertyeditor/grid/GridItemManager.h>
 #include <orv/propertyeditor/grid/IGridItem.h>
 #include <orv/propertyeditor/grid/PropertySplitterWidget.h>
-#include <orv/widgets/DialogService.h>
+#include <orv/widgets/ModalDialog.h>
 
 #include <QHBoxLayout>
 #include <QInputDialog>
@@ -258,14 +258,14 @@ void PropertyGridWidget::Private::askForName(int index)
     if (!column)
         return;
     const QPointer<PropertyGridWidget> self(q);
-    QInputDialog dialog(q);
-    dialog.setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-    dialog.setWindowTitle(gridTr("Rename column"));
-    dialog.setLabelText(gridTr("New column name:"));
-    dialog.setTextValue(column->headerText());
-    if (!DialogService::exec(dialog) || !self)
+    ModalDialog dialog(new QInputDialog(q));
+    dialog->setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    dialog->setWindowTitle(gridTr("Rename column"));
+    dialog->setLabelText(gridTr("New column name:"));
+    dialog->setTextValue(column->headerText());
+    if (!dialog.exec() || !self)
         return;
-    const QString name = dialog.textValue().trimmed();
+    const QString name = dialog->textValue().trimmed();
     if (!name.isEmpty())
         renameColumn(index, name);
 }

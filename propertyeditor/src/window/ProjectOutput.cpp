@@ -29,7 +29,7 @@ bool hasSeveralResults(const QList<BaseItemType> &documents, const QList<KeyValu
 
 Path askForSeveral(QWidget *parent, DuplicateFilePolicy *policy)
 {
-    ModalDialog<TargetProjectPathChooserDialog> dialog(parent);
+    ModalDialog dialog(new TargetProjectPathChooserDialog(parent));
     if (!dialog.exec())
         return {};
     if (policy)

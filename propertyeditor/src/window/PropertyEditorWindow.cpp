@@ -199,7 +199,7 @@ Error PropertyEditorWindow::addTabWithColumns(const QString &name, const QString
 
 void PropertyEditorWindow::addTab()
 {
-    ModalDialog<NameDialog> dialog(NameDialog::AddTab, this);
+    ModalDialog dialog(new NameDialog(NameDialog::AddTab, this));
     if (!dialog.exec())
         return;
     if (const Error error = addTabWithColumns(dialog->name(), {}, {}))
@@ -230,7 +230,7 @@ void PropertyEditorWindow::appendRow()
 
 void PropertyEditorWindow::appendColumn()
 {
-    ModalDialog<NameDialog> dialog(NameDialog::AddColumn, this);
+    ModalDialog dialog(new NameDialog(NameDialog::AddColumn, this));
     dialog->setComboStrings(BaseItem::typeNames());
     if (dialog.exec())
         d->appendColumnGrid(BaseItem::typeFromString(dialog->comboText()), dialog->name());
@@ -264,7 +264,7 @@ bool PropertyEditorWindow::saveTabPreset()
 
 void PropertyEditorWindow::openWorkflowProperties()
 {
-    ModalDialog<WorkflowPropertiesDialog> dialog(d->workflowMetadata(), this);
+    ModalDialog dialog(new WorkflowPropertiesDialog(d->workflowMetadata(), this));
     dialog->setDesignerModeEnabled(d->m_tabs->editorMode() == EditorMode::Designer);
     if (dialog.exec())
         d->setWorkflowMetadata(dialog->metaData());

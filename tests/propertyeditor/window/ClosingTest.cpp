@@ -14,8 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto kOpened = PropertyEditorWindow::OpenStatus::Opened;
-
 void editSamples(Window &window, const QString &samples)
 {
     auto *view = qobject_cast<GridPropertyEditorView *>(window.grid(0)->items().first()->widget());

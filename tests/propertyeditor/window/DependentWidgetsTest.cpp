@@ -22,8 +22,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto kOpened = PropertyEditorWindow::OpenStatus::Opened;
-
 QJsonObject tableCell(const char *type)
 {
     if (qstrcmp(type, "Proteins") != 0)

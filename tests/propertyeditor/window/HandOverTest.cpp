@@ -22,8 +22,6 @@ using PropertyEditor::Content;
 
 namespace {
 
-constexpr auto kOpened = PropertyEditorWindow::OpenStatus::Opened;
-
 /// Finds what it is told.
 class Told : public AbstractValidator
 {

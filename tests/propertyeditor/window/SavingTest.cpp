@@ -13,8 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto kOpened = PropertyEditorWindow::OpenStatus::Opened;
-
 QJsonObject twoTabs()
 {
     QJsonObject document = documentOf({karvonCell()});

@@ -31,6 +31,8 @@ inline QString text(const char *utf8)
     return QString::fromUtf8(utf8);
 }
 
+inline constexpr auto kOpened = orv::PropertyEditorWindow::OpenStatus::Opened;
+
 inline void registerCreators()
 {
     static const bool isDone = [] {

@@ -16,8 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto kOpened = PropertyEditorWindow::OpenStatus::Opened;
-
 QStringList titles(Window &window)
 {
     QStringList titles;

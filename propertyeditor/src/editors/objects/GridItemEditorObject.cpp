@@ -1,9 +1,9 @@
 #include "orv/propertyeditor/editors/GridItemEditorObject.h"
 
-#include "OwnDialog.h"
-
 #include <KProperty.h>
 #include <orv/propertyeditor/editors/GridItemDialog.h>
+#include <orv/widgets/CoreMainWindow.h>
+#include <orv/widgets/ModalDialog.h>
 
 #include <QJsonDocument>
 
@@ -17,7 +17,7 @@ QJsonObject GridItemEditorObject::fromString(const QString &text) const
 bool GridItemEditorObject::handleEditObject(QJsonObject *value, const KProperty &property,
                                             QWidget *parent) const
 {
-    OwnDialog dialog(createDialog(windowForDialog(parent)));
+    ModalDialog dialog(createDialog(CoreMainWindow::windowFor(parent)));
     dialog->setWindowTitle(property.caption());
     dialog->setData(*value);
     if (!dialog.exec())

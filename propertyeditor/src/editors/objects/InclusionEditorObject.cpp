@@ -1,11 +1,12 @@
 #include "orv/propertyeditor/editors/InclusionEditorObject.h"
 
-#include "OwnDialog.h"
 #include "ValueText.h"
 
 #include <KProperty.h>
 #include <orv/chemistry/InclusionList.h>
+#include <orv/widgets/CoreMainWindow.h>
 #include <orv/widgets/InclusionDialog.h>
+#include <orv/widgets/ModalDialog.h>
 #include <orv/widgets/ORVStyle.h>
 
 #include <QCoreApplication>
@@ -54,7 +55,7 @@ QJsonObject InclusionEditorObject::fromString(const QString &text) const
 bool InclusionEditorObject::handleEditObject(QJsonObject *value, const KProperty &property,
                                              QWidget *parent) const
 {
-    OwnDialog dialog(new InclusionDialog(windowForDialog(parent)));
+    ModalDialog dialog(new InclusionDialog(CoreMainWindow::windowFor(parent)));
     dialog->setWindowTitle(property.caption());
     const Result<QList<InclusionItem>> items = InclusionList::toVector(*value);
     if (items.hasError())

@@ -1,10 +1,11 @@
 #include "orv/propertyeditor/editors/LabelScriptsGenericObject.h"
 
-#include "OwnDialog.h"
 #include "ValueText.h"
 
 #include <KProperty.h>
 #include <orv/propertyeditor/LabelScripts.h>
+#include <orv/widgets/CoreMainWindow.h>
+#include <orv/widgets/ModalDialog.h>
 #include <orv/widgets/ORVFileDialog.h>
 #include <orv/widgets/ORVStyle.h>
 #include <orv/widgets/TECWrapper.h>
@@ -97,7 +98,7 @@ QJsonObject LabelScriptsGenericObject::fromString(const QString &text) const
 
 bool LabelScriptsGenericObject::handleEditObject(QJsonObject *value, const KProperty &, QWidget *parent) const
 {
-    OwnDialog editor(new TemplateEditor(windowForDialog(parent)));
+    ModalDialog editor(new TemplateEditor(CoreMainWindow::windowFor(parent)));
     editor->setWindowTitle(m_title);
     const QString shown = TECWrapper::wrapTEC(value->value(m_key).toString());
     editor->setSourceText(shown);

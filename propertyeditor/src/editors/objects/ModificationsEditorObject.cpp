@@ -1,11 +1,11 @@
 #include "orv/propertyeditor/editors/ModificationsEditorObject.h"
 
-#include "OwnDialog.h"
 #include "ValueText.h"
 
 #include <KProperty.h>
 #include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
+#include <orv/widgets/CoreMainWindow.h>
 #include <orv/widgets/GlycansDialog.h>
 #include <orv/widgets/ModificationsDialog.h>
 #include <orv/widgets/PeakFilterDialog.h>
@@ -67,7 +67,7 @@ bool ModificationsEditorObject::handleEditObject(QJsonObject *value, const KProp
     if (m_mode == Mode::Glycans)
         text = PropertyEditorUtils::resolveGlycansStringsFromWflw(text, &property);
     bool ok = false;
-    const QString edited = edit(text, windowForDialog(parent), &ok);
+    const QString edited = edit(text, CoreMainWindow::windowFor(parent), &ok);
     // What nobody edited keeps its relative paths and whatever else stands in the value.
     if (ok && edited != text)
         *value = fromString(m_mode == Mode::Glycans ? storedGlycans(edited) : edited);

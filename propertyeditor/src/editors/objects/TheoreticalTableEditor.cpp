@@ -1,6 +1,5 @@
 #include "orv/propertyeditor/editors/TheoreticalTableEditor.h"
 
-#include "OwnDialog.h"
 #include "ValueText.h"
 
 #include <KProperty.h>
@@ -9,7 +8,9 @@
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/table/rn.h>
+#include <orv/widgets/CoreMainWindow.h>
 #include <orv/widgets/InsilicoTableDialog.h>
+#include <orv/widgets/ModalDialog.h>
 #include <orv/widgets/ORVStyle.h>
 #include <orv/widgets/TableSerializer.h>
 
@@ -70,9 +71,9 @@ QJsonObject TheoreticalTableEditor::fromString(const QString &text) const
 bool TheoreticalTableEditor::handleEditObject(QJsonObject *value, const KProperty &property,
                                               QWidget *parent) const
 {
-    OwnDialog dialog(new InsilicoTableDialog(tableOfOption(property, PropertyId::Proteins),
-                                             tableOfOption(property, PropertyId::Disulfide),
-                                             windowForDialog(parent)));
+    ModalDialog dialog(new InsilicoTableDialog(tableOfOption(property, PropertyId::Proteins),
+                                               tableOfOption(property, PropertyId::Disulfide),
+                                               CoreMainWindow::windowFor(parent)));
     dialog->setWindowTitle(property.caption());
     if (const QString problem = problemOfTable(*value); !problem.isEmpty())
         ORVStyle::warning(dialog.get(), TheoreticalTableTr::tr("Warning"), problem, QMessageBox::Ok);

@@ -1,12 +1,13 @@
 #include "orv/propertyeditor/editors/ValueUnitEditorObject.h"
 
-#include "OwnDialog.h"
 #include "ValueText.h"
 
 #include <KProperty.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/editors/ValueUnitDialog.h>
 #include <orv/propertyeditor/editors/ValueUnitInput.h>
+#include <orv/widgets/CoreMainWindow.h>
+#include <orv/widgets/ModalDialog.h>
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -53,7 +54,7 @@ QJsonObject ValueUnitEditorObject::fromString(const QString &text) const
 bool ValueUnitEditorObject::handleEditObject(QJsonObject *value, const KProperty &property,
                                              QWidget *parent) const
 {
-    OwnDialog dialog(new ValueUnitDialog(property, windowForDialog(parent)));
+    ModalDialog dialog(new ValueUnitDialog(property, CoreMainWindow::windowFor(parent)));
     dialog->setWindowTitle(property.caption());
     dialog->setData(*value);
     if (!dialog.exec())

@@ -36,6 +36,9 @@ public:
     /// The one that was made last and still exists; null where there is none.
     [[nodiscard]] static CoreMainWindow *getMainWindow();
 
+    /// Above which dialogs for \a widget open: that one, or else the widget's own window; null without both.
+    [[nodiscard]] static QWidget *windowFor(const QWidget *widget);
+
     [[nodiscard]] const ApplicationInfo &appInfo() const { return m_info; }
 
 private:
