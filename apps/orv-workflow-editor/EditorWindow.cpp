@@ -4,6 +4,7 @@
 #include "Runs.h"
 
 #include <orv/core/Settings.h>
+#include <orv/propertyeditor/window/PropertyEditorDirLocations.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
 #include <orv/widgets/CoreMainWindow.h>
 #include <orv/widgets/ORVFileDialog.h>
@@ -78,8 +79,10 @@ void EditorWindow::fillRecentMenu(QMenu *menu)
 {
     menu->clear();
     const QStringList files = RecentFiles::all();
-    for (const QString &path : files)
-        connect(menu->addAction(path), &QAction::triggered, this, [this, path] { openBesides(path); });
+    for (const QString &path : files) {
+        const QAction *action = menu->addAction(QString(path).replace(u'&', QLatin1String("&&")));
+        connect(action, &QAction::triggered, this, [this, path] { openRecent(path); });
+    }
     if (files.isEmpty())
         menu->addAction(tr("No workflow was opened yet"))->setEnabled(false);
     else
@@ -108,16 +111,34 @@ bool EditorWindow::isPristine() const
     return dFunc()->workflowFilePath().isNull() && content().tabsAndContent().isEmpty();
 }
 
-void EditorWindow::openBesides(const QString &path)
+PropertyEditorWindow::OpenStatus EditorWindow::openBesides(const QString &path)
 {
-    auto *window = isPristine() ? this : new EditorWindow(m_mainWindow);
+    if (isPristine())
+        return openWorkflow(path);
+    const QPointer<EditorWindow> window = new EditorWindow(m_mainWindow);
     window->show();
-    window->openWorkflow(path);
+    const OpenStatus status = window->openWorkflow(path);
+    if (window && window->isPristine())
+        window->close();
+    return status;
 }
 
 PropertyEditorWindow::OpenStatus EditorWindow::selectAndOpenWorkflow()
 {
-    return PropertyEditorDesktopWindow::selectAndOpenWorkflow();
+    const QPointer<EditorWindow> self(this);
+    const QString path =
+        ORVFileDialog::getOpenFileName(this, tr("Launch Workflow"), {}, WflwUtils::workflowFiltersInDialog(),
+                                       PropertyEditorDirLocations::OpenWorkflowLocation);
+    return self && !path.isEmpty() ? openBesides(path) : OpenStatus::NotOpened;
+}
+
+void EditorWindow::openRecent(const QString &path)
+{
+    const QPointer<EditorWindow> self(this);
+    if (openBesides(path) == OpenStatus::Opened || !self || QFileInfo::exists(path))
+        return;
+    RecentFiles::remove(path);
+    ORVStyle::warning(this, tr("Open Recent"), tr("The workflow isn't there any more: %1").arg(path));
 }
 
 PropertyEditorWindow::OpenStatus EditorWindow::openWorkflow(const QString &filePath,
@@ -142,6 +163,10 @@ void EditorWindow::run(const PropertyEditor::Content &content, const Path &outpu
     if (outcome.error.hasError()) {
         ORVStyle::critical(this, tr("Project creation"), outcome.error.errorMessage(), QMessageBox::Ok, {},
                            QMessageBox::NoButton, outcome.error.details().join(u'\n'));
+    }
+    if (self && !outcome.kept.isEmpty()) {
+        ORVStyle::information(this, tr("Project creation"),
+                              tr("There is a run already, and it was kept: %1").arg(outcome.kept));
     }
     if (self)
         Q_EMIT projectCreationFinished(outcome.error, outcome.folders, clock.elapsed());

@@ -20,8 +20,8 @@ public:
                             const ResourceReferenceSPtr &folderToPreselect = {}) override;
     using PropertyEditorDesktopWindow::openWorkflow;
 
-    /// Opens in this window if it is empty, else in a new one.
-    void openBesides(const QString &path);
+    /// Opens in this window if it is empty, else in a new one, so that nothing unsaved goes.
+    OpenStatus openBesides(const QString &path);
 
 protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
@@ -32,6 +32,7 @@ private:
     void buildFileMenu();
     void buildHelpMenu();
     void fillRecentMenu(QMenu *menu);
+    void openRecent(const QString &path);
     void run(const PropertyEditor::Content &content, const Path &outputPath, DuplicateFilePolicy policy);
     void showAbout();
     [[nodiscard]] bool isPristine() const;

@@ -10,18 +10,11 @@ namespace {
 
 constexpr QLatin1String kRecentFiles("Editor/RecentFiles");
 
-QStringList remembered()
-{
-    return as::value(kRecentFiles, QStringList()).toStringList();
-}
-
 } // namespace
 
 QStringList all()
 {
-    QStringList files = remembered();
-    files.removeIf([](const QString &path) { return !QFileInfo::exists(path); });
-    return files;
+    return as::value(kRecentFiles, QStringList()).toStringList();
 }
 
 void add(const QString &path)
@@ -29,10 +22,17 @@ void add(const QString &path)
     if (!QFileInfo::exists(path))
         return;
     const QString absolute = QFileInfo(path).absoluteFilePath();
-    QStringList files = remembered();
+    QStringList files = all();
     files.removeAll(absolute);
     files.prepend(absolute);
     as::setValue(kRecentFiles, files.mid(0, kMost));
+}
+
+void remove(const QString &path)
+{
+    QStringList files = all();
+    files.removeAll(path);
+    as::setValue(kRecentFiles, files);
 }
 
 void clear()

@@ -7,9 +7,10 @@ namespace orv::RecentFiles {
 
 inline constexpr int kMost = 10;
 
-/// Those that are still there.
+/// Whether they are still there isn't asked: a network drive may take its time.
 [[nodiscard]] QStringList all();
 void add(const QString &path);
+void remove(const QString &path);
 void clear();
 
 } // namespace orv::RecentFiles

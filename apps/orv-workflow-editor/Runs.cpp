@@ -17,7 +17,7 @@ Outcome write(const PropertyEditor::Content &content, const Path &outputPath, co
                                : outputPath.path();
     const QString folder = pathForResult(result + RunFolder::kSuffix, policy);
     if (folder.isEmpty())
-        return {};
+        return {{}, {}, result + RunFolder::kSuffix};
     const QJsonObject document = content.toJsonObject(PropertyEditor::PropertyConversionFlag::KeepPaths);
     Result<QString> run = QString();
     {
@@ -33,8 +33,8 @@ Outcome write(const PropertyEditor::Content &content, const Path &outputPath, co
         });
     }
     if (run.hasError())
-        return {run.error(), {}};
-    return {{}, run->isEmpty() ? QStringList() : QStringList{*run}};
+        return {run.error(), {}, {}};
+    return {{}, run->isEmpty() ? QStringList() : QStringList{*run}, {}};
 }
 
 } // namespace orv::Runs

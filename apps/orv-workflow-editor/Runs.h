@@ -12,7 +12,8 @@ namespace orv::Runs {
 struct Outcome
 {
     Error error;
-    QStringList folders; ///< the run, or none when it was cancelled or there was one already
+    QStringList folders; ///< the run, or none when it was cancelled or kept
+    QString kept;        ///< an earlier run in whose favour nothing was written
 };
 
 /// Writes the run folder of a workflow beside \a outputPath with progress over \a parent. A workflow that

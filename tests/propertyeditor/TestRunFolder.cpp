@@ -7,6 +7,7 @@
 #include <orv/propertyeditor/engine/RunFolder.h>
 
 #include <QDir>
+#include <QSysInfo>
 #include <QTemporaryDir>
 
 using namespace orv;
@@ -41,6 +42,7 @@ private Q_SLOTS:
     void progressIsTold();
     void stoppedRunsLeaveNothing();
     void foldersThatExistStay();
+    void earlierRunsAreReplacedWhenAskedFor();
     void namesThatClashAreRefused();
     void unwritablePlacesAreTold();
     void killedRunsAreSwept();
@@ -121,6 +123,25 @@ void TestRunFolder::foldersThatExistStay()
     QCOMPARE(allIn(folder.filePath(u"a.run"_s)), QStringList());
 }
 
+void TestRunFolder::earlierRunsAreReplacedWhenAskedFor()
+{
+    const QTemporaryDir folder;
+    const QJsonObject document = absolute(u"workflows/antibody_peptide_map.wflw"_s);
+    const QString place = folder.filePath(u"a.run"_s);
+    QVERIFY(RunFolder::write(document, place));
+    QFile more(place + u"/more.txt"_s);
+    QVERIFY(more.open(QIODevice::WriteOnly));
+    const auto stop = [](int, int, const QString &) { return false; };
+    QVERIFY(RunFolder::write(document, place, stop, RunFolder::Existing::Replaced));
+    QVERIFY(more.exists());
+    QVERIFY(RunFolder::write(document, place, {}, RunFolder::Existing::Replaced));
+    QVERIFY(!more.exists());
+    QCOMPARE(allIn(folder.path()), QStringList{u"a.run"_s});
+    const QString other = folder.filePath(u"b.run"_s);
+    QVERIFY(QDir().mkpath(other));
+    QVERIFY(RunFolder::write(document, other, {}, RunFolder::Existing::Replaced).hasError());
+}
+
 void TestRunFolder::namesThatClashAreRefused()
 {
     const QTemporaryDir folder;
@@ -146,11 +167,19 @@ void TestRunFolder::unwritablePlacesAreTold()
 void TestRunFolder::killedRunsAreSwept()
 {
     const QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkpath(u".a.run-Xy12ab/run"_s));
-    QVERIFY(QDir(folder.path()).mkpath(u".b.run-Xy12ab/run"_s));
+    for (const QString &name :
+         {u".a.run-Xy12ab"_s, u".b.run-Xy12ab"_s, u".a.run-notes"_s, u".a.run-Zz00zz"_s}) {
+        QVERIFY(QDir(folder.path()).mkpath(name + u"/run"_s));
+        if (name == u".a.run-Zz00zz"_s)
+            continue; // nobody ever held it
+        QFile lock(folder.filePath(name + u"/.lock"_s));
+        QVERIFY(lock.open(QIODevice::WriteOnly));
+        lock.write("2000000000\nkilled\n" + QSysInfo::machineHostName().toUtf8() + "\n\n\n");
+    }
     QVERIFY(
         RunFolder::write(absolute(u"workflows/antibody_peptide_map.wflw"_s), folder.filePath(u"a.run"_s)));
-    QCOMPARE(allIn(folder.path()), (QStringList{u".b.run-Xy12ab"_s, u"a.run"_s}));
+    QCOMPARE(allIn(folder.path()),
+             (QStringList{u".a.run-Zz00zz"_s, u".a.run-notes"_s, u".b.run-Xy12ab"_s, u"a.run"_s}));
 }
 
 ORV_REGISTER_TEST(TestRunFolder)

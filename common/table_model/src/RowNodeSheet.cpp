@@ -30,8 +30,8 @@ std::shared_ptr<RowNodeSheet::Rows> RowNodeSheet::rowsFor(const VariantItems &he
 {
     QList<TableColumn> columns;
     QSet<QString> names;
-    for (qsizetype i = 0; i < header.size(); ++i) {
-        const QString name = header.at(i).toString();
+    for (const QVariant &cell : header) {
+        const QString name = cell.toString();
         const auto known = std::find_if(m_known.cbegin(), m_known.cend(),
                                         [&](const TableColumn &column) { return column.name == name; });
         // Of two columns of one name the first is the known one.

@@ -153,8 +153,11 @@ Error writeStatus(const QString &folder, const QList<RunFile> &files)
     return status.write(ProjectCreationStatusFile::statusFilePath(folder)).ecatch();
 }
 
-/// Where runs to one place are made, each in a folder of its own.
-QString stagingPattern(const QFileInfo &place)
+/// What is made in place of this many characters tells the folders of several runs to one place apart.
+constexpr QLatin1String kUniquePart("XXXXXX");
+
+/// What the folders begin with in which runs to one place are made.
+QString stagingPrefix(const QFileInfo &place)
 {
     return QStringLiteral(".%1-").arg(place.fileName());
 }
@@ -163,16 +166,44 @@ QString stagingPattern(const QFileInfo &place)
 void sweep(const QFileInfo &place)
 {
     const QDir parent = place.dir();
-    const QStringList left =
-        parent.entryList({stagingPattern(place) + u'*'}, QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot);
-    for (const QString &name : left) {
-        QLockFile lock(parent.filePath(name) + u'/' + kLockName);
+    const QString prefix = stagingPrefix(place);
+    const QFileInfoList folders =
+        parent.entryInfoList(QDir::Dirs | QDir::Hidden | QDir::NoSymLinks | QDir::NoDotAndDotDot);
+    for (const QFileInfo &folder : folders) {
+        const QString name = folder.fileName();
+        const QString lockPath = folder.filePath() + u'/' + kLockName;
+        if (!name.startsWith(prefix) || name.size() != prefix.size() + kUniquePart.size() ||
+            !QFileInfo::exists(lockPath))
+            continue;
+        QLockFile lock(lockPath);
         lock.setStaleLockTime(0);
         if (lock.tryLock(0)) {
             lock.unlock();
-            QDir(parent.filePath(name)).removeRecursively();
+            QDir(folder.filePath()).removeRecursively();
         }
     }
+}
+
+/// Whether what stands at \a place is a run, which another one may replace.
+bool isRun(const QFileInfo &place)
+{
+    const QDir folder(place.filePath());
+    return place.isDir() && !place.isSymLink() && folder.exists(RunFolder::kWorkflowName) &&
+           QFileInfo::exists(ProjectCreationStatusFile::statusFilePath(folder.path()));
+}
+
+/// Brings \a run to \a place; what stood there goes into \a staging, and comes back where that fails.
+Error bringInPlace(const QString &run, const QFileInfo &place, const QTemporaryDir &staging)
+{
+    const QString earlier = staging.filePath(QStringLiteral("earlier"));
+    const bool isReplaced = place.exists();
+    const bool hasRoom = !isReplaced || QDir().rename(place.filePath(), earlier);
+    if (hasRoom && QDir().rename(run, place.filePath()))
+        return Error::NoError;
+    if (isReplaced && hasRoom)
+        QDir().rename(earlier, place.filePath());
+    return Error(ErrorCode::CannotOpenFile,
+                 RunFolderTr::tr("The folder can't be made: %1").arg(place.filePath()));
 }
 
 /// False when it was stopped.
@@ -190,10 +221,12 @@ Result<bool> writeFiles(const QList<RunFile> &files, const QString &folder,
 
 } // namespace
 
-Result<QString> RunFolder::write(const QJsonObject &document, const QString &folder, const Progress &progress)
+Result<QString> RunFolder::write(const QJsonObject &document, const QString &folder, const Progress &progress,
+                                 Existing existing)
 {
     const QFileInfo place(QDir::cleanPath(QFileInfo(folder).absoluteFilePath()));
-    if (place.exists() || place.isSymLink()) {
+    const bool isReplaced = existing == Existing::Replaced && isRun(place);
+    if (!isReplaced && (place.exists() || place.isSymLink())) {
         return Error(ErrorCode::InvalidContent,
                      RunFolderTr::tr("The folder exists already: %1").arg(place.filePath()))
             .addDetail(RunFolderTr::tr("Choose another name, or remove it."));
@@ -206,7 +239,7 @@ Result<QString> RunFolder::write(const QJsonObject &document, const QString &fol
         return files.ecatch();
     QDir().mkpath(place.path());
     sweep(place);
-    QTemporaryDir staging(place.dir().filePath(stagingPattern(place) + QLatin1String("XXXXXX")));
+    QTemporaryDir staging(place.dir().filePath(stagingPrefix(place) + kUniquePart));
     QLockFile lock(staging.filePath(kLockName));
     const QString run = staging.filePath(QStringLiteral("run"));
     if (!staging.isValid() || !lock.tryLock(0) || !QDir().mkdir(run)) {
@@ -219,10 +252,7 @@ Result<QString> RunFolder::write(const QJsonObject &document, const QString &fol
         return isComplete.ecatch();
     if (!*isComplete)
         return QString();
-    if (!QDir().rename(run, place.filePath())) {
-        return Error(ErrorCode::CannotOpenFile,
-                     RunFolderTr::tr("The folder can't be made: %1").arg(place.filePath()));
-    }
+    ORV_RETURN_IF_ERROR(bringInPlace(run, place, staging));
     return place.filePath();
 }
 

@@ -35,11 +35,13 @@ void ContentCheck::runDefaultValidators()
     run([](ContentValidator &validator) { validator.installDefaultValidators(); });
 }
 
-void ContentCheck::runValidators(const QList<AbstractValidator *> &validators)
+void ContentCheck::runValidators(std::vector<std::unique_ptr<AbstractValidator>> validators)
 {
     run([&validators](ContentValidator &validator) {
-        for (AbstractValidator *own : validators)
-            (void)validator.installValidator(own);
+        for (std::unique_ptr<AbstractValidator> &own : validators) {
+            if (validator.installValidator(own.get()))
+                (void)own.release();
+        }
     });
 }
 

@@ -7,6 +7,9 @@
 #include <QString>
 #include <QUrl>
 
+#include <memory>
+#include <vector>
+
 namespace orv {
 
 namespace PropertyEditor {
@@ -24,8 +27,7 @@ public:
     {}
 
     void runDefaultValidators();
-    /// Takes them over.
-    void runValidators(const QList<PropertyEditor::AbstractValidator *> &validators);
+    void runValidators(std::vector<std::unique_ptr<PropertyEditor::AbstractValidator>> validators);
 
     [[nodiscard]] bool isValid() const { return m_isValid; }
     /// Each text once, in the order of the validators.

@@ -2,6 +2,8 @@
 
 #include "LossTexts.h"
 
+#include <orv/core/Logging.h>
+#include <orv/propertyeditor/window/PropertyEditorWindowJsonFile.h>
 #include <orv/propertyeditor/workflow/PortableTarget.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
 #include <orv/widgets/CoreMainWindow.h>
@@ -69,16 +71,25 @@ void PropertyEditorDesktopWindow::savePortableWorkflow()
     if (!verifyWidgetsContentAndShowDialog(WidgetValidationType::SaveWorkflow) || !self)
         return;
     const QString path =
-        ORVFileDialog::getSaveFileName(this, tr("Save As Portable Workflow"),
-                                       WflwMetaData::nameFromMetaDataObject(dFunc()->workflowMetadata()),
-                                       filter, FileSystemSettings::DefaultLocation);
+        ORVFileDialog::getSaveFileName(this, tr("Save As Portable Workflow"), dFunc()->proposedName(), filter,
+                                       FileSystemSettings::DefaultLocation);
     if (self && !path.isEmpty())
         writePortableWorkflow(path);
 }
 
 namespace {
 
-/// Runs on any thread; the document in \a saved is the one that was written.
+/// Tells the log of files that the folder doesn't carry.
+class DanglingFiles : public PortableSaveObserver
+{
+public:
+    void dangling(const QString &text) override
+    {
+        qCWarning(propertyEditorLog).noquote() << "The portable workflow doesn't carry the file" << text;
+    }
+};
+
+/// Runs on any thread.
 Error savePortable(const QJsonObject &document, const QString &folder, const QUrl &baseUrl)
 {
     Content content;
@@ -88,7 +99,8 @@ Error savePortable(const QJsonObject &document, const QString &folder, const QUr
     PortableTarget target(folder);
     ORV_RETURN_IF_ERROR(target.prepare());
     QString text;
-    if (!WflwUtils::saveAsPortableWorkflow(content, target.stagedFolder(), baseUrl, &text))
+    DanglingFiles dangling;
+    if (!WflwUtils::saveAsPortableWorkflow(content, target.stagedFolder(), baseUrl, &text, &dangling))
         return Error(ErrorCode::CannotOpenFile, target.asInPlace(text));
     return target.commit().ecatch();
 }
@@ -136,9 +148,13 @@ void PropertyEditorDesktopWindow::writePortableWorkflow(const QString &path)
     clear();
     if (!self)
         return;
-    dFunc()->setWorkflowFilePath(WflwUtils::workflowInPortableWorkflow(path));
-    if (const Error shown = setContent(PropertyEditorContent(document)))
-        ORVStyle::critical(self, {}, shown.errorMessage());
+    // What was written names its files as they are called in the folder.
+    const QString inner = WflwUtils::workflowInPortableWorkflow(path);
+    PropertyEditorContent written(document);
+    (void)PropertyEditorWindowJsonFile(inner).loadTabsFromJson(&written);
+    dFunc()->setWorkflowFilePath(inner);
+    if (const Error shown = setContent(written); shown.hasError() && self)
+        ORVStyle::critical(this, {}, shown.errorMessage());
 }
 
 } // namespace orv

@@ -1,6 +1,7 @@
 #include "orv/propertyeditor/window/PropertyEditorWindow.h"
 
 #include "CurrentWindow.h"
+#include "LossTexts.h"
 #include "PropertyEditorWindowForm.h"
 
 #include <orv/core/Logging.h>
@@ -15,13 +16,14 @@
 #include <orv/propertyeditor/window/WorkflowPropertiesDialog.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
+#include <orv/propertyeditor/workflow/WorkflowUpgrade.h>
+#include <orv/widgets/ChoiceBox.h>
 #include <orv/widgets/HostServices.h>
 #include <orv/widgets/Icons.h>
 #include <orv/widgets/ModalDialog.h>
 #include <orv/widgets/ORVFileDialog.h>
 #include <orv/widgets/ORVStyle.h>
 
-#include <QComboBox>
 #include <QPushButton>
 #include <QToolBar>
 #include <QToolButton>
@@ -114,7 +116,7 @@ QToolButton *addToolButton(QToolBar *toolBar, const QString &text, const QString
 template<class Mode>
 QComboBox *modeCombo(QToolBar *toolBar, const QString &name)
 {
-    auto *combo = new QComboBox(toolBar);
+    auto *combo = new ChoiceBox(toolBar);
     combo->setAccessibleName(name);
     combo->setToolTip(name);
     combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
@@ -245,7 +247,10 @@ bool PropertyEditorWindow::openTabPreset()
     PropertyEditorContent preset;
     if (!PropertyEditorWindowJsonFile(path).loadTabFromJson(&preset))
         return false;
+    const QStringList lost = textsOf(WorkflowUpgrade::lossesBefore(preset));
     setCurrentTabContent(preset);
+    if (self)
+        d->m_lost += lost;
     return true;
 }
 
@@ -290,8 +295,10 @@ void PropertyEditorWindow::clear()
     const QPointer<PropertyEditorWindow> self(this);
     while (self && d->m_tabs->count() > 0)
         removeTab(0);
-    if (self)
-        d->setWorkflowFilePath(QLatin1String(""));
+    if (!self)
+        return;
+    d->m_lost.clear();
+    d->setWorkflowFilePath(QLatin1String(""));
 }
 
 void PropertyEditorWindow::createEmptyWorkflow()

@@ -4,6 +4,7 @@
 #include <orv/core/TextUtils.h>
 #include <orv/propertyeditor/PropertyEditorUtils.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
+#include <orv/propertyeditor/validators/AbstractValidator.h>
 #include <orv/propertyeditor/validators/SampleTypesValidator.h>
 #include <orv/propertyeditor/window/PropertyEditorWindowPrivate.h>
 #include <orv/widgets/JavaChecker.h>
@@ -13,6 +14,8 @@
 #include <QPointer>
 
 #include <array>
+#include <memory>
+#include <vector>
 
 namespace orv {
 
@@ -63,17 +66,22 @@ bool PropertyEditorWindow::verifyWidgetsContentAndShowDialog(WidgetValidationTyp
 bool PropertyEditorWindow::checkContent(const Content &content, const QString &title)
 {
     const QPointer<PropertyEditorWindow> self(this);
-    QList<AbstractValidator *> own;
-    if (d->m_additionalValidatorsCreator)
-        own = d->m_additionalValidatorsCreator();
+    std::vector<std::unique_ptr<AbstractValidator>> own;
+    if (d->m_additionalValidatorsCreator) {
+        for (AbstractValidator *validator : d->m_additionalValidatorsCreator())
+            own.emplace_back(validator);
+    }
+    if (!self)
+        return false;
     if (PropertyEditorUtils::isKarvonOnly(content.findAllDocuments()))
-        own.append(sampleTypesValidator());
+        own.emplace_back(sampleTypesValidator());
     ContentCheck check(content.toJsonObject(PropertyConversionFlag::AbsolutePaths), d->workflowBaseUrl());
     {
         const auto progress =
             ProgressOutputUtils::createAndShowProgress(tr("Checking workflow content..."), this, false);
         progress->run([&check](ProgressReporter &) { check.runDefaultValidators(); });
-        check.runValidators(own);
+        if (self)
+            check.runValidators(std::move(own));
     }
     if (!self)
         return false;

@@ -3,7 +3,9 @@
 #include <KProperty.h>
 #include <orv/core/FileUtilsGeneric.h>
 #include <orv/core/Logging.h>
+#include <orv/propertyeditor/content/CellStamps.h>
 #include <orv/propertyeditor/content/DocumentSaving.h>
+#include <orv/propertyeditor/content/DocumentStructure.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/validators/WorkflowFile.h>
@@ -50,8 +52,17 @@ bool PropertyEditorWindowJsonFile::loadTabsFromJson(PropertyEditorContent *conte
     QJsonObject object;
     if (!read(&object))
         return false;
+    m_losses = lossesOf(object);
     *content = PropertyEditorContent(object);
     return true;
+}
+
+QList<Loss> PropertyEditorWindowJsonFile::lossesOf(const QJsonObject &document)
+{
+    LossCollector collector;
+    DocumentStructure::reportLosses(document, &collector);
+    CellStamps::reportLosses(document, &collector);
+    return collector.losses();
 }
 
 bool PropertyEditorWindowJsonFile::saveTabsToJson(const PropertyEditorContent &content)

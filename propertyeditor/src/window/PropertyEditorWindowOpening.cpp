@@ -9,6 +9,7 @@
 #include <orv/propertyeditor/window/ProteinTabs.h>
 #include <orv/propertyeditor/workflow/WflwUpgrader.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
+#include <orv/propertyeditor/workflow/WorkflowUpgrade.h>
 #include <orv/widgets/CoreMainWindow.h>
 #include <orv/widgets/DefaultWidgetCreator.h>
 #include <orv/widgets/HostServices.h>
@@ -83,6 +84,7 @@ struct PropertyEditorWindow::Upgrade
     WflwMetaData::WflwState state = WflwMetaData::WflwState::UpToDate;
     QList<QString> changes;
     Error error;
+    QStringList lost; ///< of what was read, before the document is shown
 };
 
 OpenStatus PropertyEditorWindow::selectAndOpenWorkflow()
@@ -106,6 +108,7 @@ OpenStatus PropertyEditorWindow::openWorkflow(const QString &filePath, const Res
     PropertyEditorContent content;
     if (!file.loadTabsFromJson(&content))
         return OpenStatus::NotOpened;
+    d->m_lostInReading = textsOf(file.losses());
     return openWorkflow(&content, &file, path);
 }
 
@@ -117,6 +120,7 @@ OpenStatus PropertyEditorWindow::openWorkflow(PropertyEditorContent *content)
 OpenStatus PropertyEditorWindow::openWorkflow(const QJsonObject &workflow)
 {
     PropertyEditorContent content(workflow);
+    d->m_lostInReading = textsOf(PropertyEditorWindowJsonFile::lossesOf(workflow));
     return openWorkflow(&content);
 }
 
@@ -133,6 +137,7 @@ OpenStatus PropertyEditorWindow::openWorkflow(PropertyEditorContent *content,
 {
     const QPointer<PropertyEditorWindow> self(this);
     Upgrade upgrade;
+    upgrade.lost = std::exchange(d->m_lostInReading, {});
     if (const std::optional<OpenStatus> refusal = judge(*content, &upgrade))
         return *refusal;
     clear();
@@ -146,7 +151,7 @@ OpenStatus PropertyEditorWindow::openWorkflow(PropertyEditorContent *content,
     if (const std::optional<OpenStatus> refusal = applyUpgrade(content, path, &upgrade))
         return *refusal;
     tellDocumentType(*content);
-    return self ? display(*content) : OpenStatus::NotOpened;
+    return self ? display(*content, upgrade.lost) : OpenStatus::NotOpened;
 }
 
 /// What keeps the document from being opened, before anything is changed.
@@ -181,6 +186,7 @@ void PropertyEditorWindow::runUpgrade(PropertyEditorContent *content, Upgrade *u
     const auto progress =
         ProgressOutputUtils::createAndShowProgress(tr("Opening the workflow..."), this, false);
     progress->run([content, upgrade, &options](ProgressReporter &) {
+        upgrade->lost += textsOf(WorkflowUpgrade::lossesBefore(*content));
         upgrade->error = WflwUpgrader::upgradeWorkflow(upgrade->version, content, &upgrade->changes, options);
     });
 }
@@ -247,18 +253,20 @@ void PropertyEditorWindow::saveUpgraded(const PropertyEditorContent &content, co
     error.ecatch();
 }
 
-OpenStatus PropertyEditorWindow::display(const PropertyEditorContent &content)
+OpenStatus PropertyEditorWindow::display(const PropertyEditorContent &content, const QStringList &lost)
 {
     const QPointer<PropertyEditorWindow> self(this);
-    if (const Error error = setContent(content)) {
+    const Error error = setContent(content);
+    if (!self)
+        return OpenStatus::NotOpened;
+    if (error.hasError()) {
         QString text = tr("Failed to launch the specified workflow");
         if (!error.errorMessage().isEmpty())
             text += tr(": %1").arg(error.errorMessage());
-        ORVStyle::critical(self, {}, text);
+        ORVStyle::critical(this, {}, text);
         return OpenStatus::NotOpened;
     }
-    if (!self)
-        return OpenStatus::NotOpened;
+    d->m_lost = lost + d->m_lost;
     (void)d->verifyWorkflowReferences(this->content());
     return OpenStatus::Opened;
 }
@@ -300,11 +308,14 @@ Error PropertyEditorWindow::setContent(const PropertyEditorContent &content)
     parseExtendedMetadata(copy);
     LossCollector losses;
     const Result<bool> showsNewProteins = ProteinTabs::areBuiltFromChains(copy, &losses);
-    d->m_lost += textsOf(losses.losses());
-    if (showsNewProteins.hasError())
+    const QStringList lost = d->m_lost + textsOf(losses.losses());
+    if (showsNewProteins.hasError()) {
         clear();
-    else if (*showsNewProteins)
+        if (self)
+            d->setWorkflowFilePath(path);
+    } else if (*showsNewProteins) {
         d->changeProteinsTypeToIntactProteins(&tabs);
+    }
     const auto gone = [&self] {
         return self ? Error() : Error(ErrorCode::InvalidContent, tr("The window was closed meanwhile."));
     };
@@ -323,6 +334,7 @@ Error PropertyEditorWindow::setContent(const PropertyEditorContent &content)
     if (d->workflowBaseUrl().isValid())
         d->updateBaseUrlForRelativeUrls();
     d->collapseAllKPropertyViews();
+    d->m_lost = lost;
     d->updateLastSavedWorkflow();
     d->connectGridWidgets();
     return Error::NoError;

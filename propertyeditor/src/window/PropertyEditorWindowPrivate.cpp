@@ -3,6 +3,7 @@
 #include "CurrentWindow.h"
 #include "PropertyEditorWindowForm.h"
 
+#include <orv/core/FileNameUtils.h>
 #include <orv/core/Logging.h>
 #include <orv/core/Settings.h>
 #include <orv/core/TextUtils.h>
@@ -32,6 +33,14 @@
 namespace orv {
 
 using PropertyEditor::Content;
+
+namespace {
+
+/// Where a title has this, Qt puts the mark of a modified document; twice it stands for itself.
+constexpr QLatin1String kMarkOfTitles("[*]");
+constexpr QLatin1String kShownMark("[*][*]");
+
+} // namespace
 
 PropertyEditorWindowPrivate::PropertyEditorWindowPrivate(PropertyEditorWindow *window,
                                                          CoreMainWindow *mainWindow)
@@ -234,8 +243,17 @@ void PropertyEditorWindowPrivate::setWorkflowFilePath(const QString &path)
         m_workflowBaseUrl.clear();
         return;
     }
-    q->setWindowTitle(PropertyEditorWindow::tr("%1 - Project Creation").arg(QDir::toNativeSeparators(path)));
-    m_workflowBaseUrl = QUrl::fromLocalFile(QFileInfo(path).absolutePath() + QLatin1Char('/'));
+    q->setWindowTitle(PropertyEditorWindow::tr("%1 - Project Creation")
+                          .arg(QDir::toNativeSeparators(path).replace(kMarkOfTitles, kShownMark)));
+    const QString folder = QFileInfo(path).absolutePath();
+    m_workflowBaseUrl =
+        QUrl::fromLocalFile(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'));
+}
+
+QString PropertyEditorWindowPrivate::proposedName() const
+{
+    const QString name = WflwMetaData::nameFromMetaDataObject(m_workflowMetadata);
+    return name.isEmpty() ? name : FileNameUtils::nameFromText(name);
 }
 
 void PropertyEditorWindowPrivate::setWorkflowMetadata(const QJsonObject &metadata)

@@ -3,6 +3,7 @@
 #include "orv/propertyeditor/window/PropertyEditorWindow.h"
 
 #include <orv/core/Logging.h>
+#include <orv/propertyeditor/WflwAdvancedSettings.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/grid/EditableTabWidget.h>
 #include <orv/propertyeditor/window/PropertyEditorWindowJsonFile.h>
@@ -30,12 +31,20 @@ struct WorkflowToSave
     QStringList losses; ///< what isn't in it any more
 };
 
+/// What the window shows can be saved, cells of unknown types too where they are shown.
+PropertyEditor::ValidationOptions optionsOfLoad()
+{
+    if (WflwAdvancedSettings::isWorkflowVerificationEnabled())
+        return {};
+    return PropertyEditor::ValidationOption::SkipTypeValidation;
+}
+
 Result<WorkflowToSave> withAbsolutePaths(const PropertyEditorContent &shown, const QUrl &baseUrl)
 {
     LossCollector losses;
     Content content;
     content.setLossObserver(&losses);
-    Error error = content.assignFromJson(shown.toJsonObject());
+    Error error = content.assignFromJson(shown.toJsonObject(), optionsOfLoad());
     content.setLossObserver(nullptr);
     if (error.hasError())
         return error.ecatch();
@@ -59,9 +68,8 @@ bool PropertyEditorWindow::saveWorkflowAs()
     const QPointer<PropertyEditorWindow> self(this);
     if (!verifyWidgetsContentAndShowDialog(WidgetValidationType::SaveWorkflow) || !self)
         return false;
-    const QString path = ORVFileDialog::getSaveFileName(
-        this, tr("Save Workflow"), WflwMetaData::nameFromMetaDataObject(d->workflowMetadata()),
-        {MirelFileTypes::WFLW});
+    const QString path =
+        ORVFileDialog::getSaveFileName(this, tr("Save Workflow"), d->proposedName(), {MirelFileTypes::WFLW});
     return self && !path.isEmpty() && saveWorkflowToJSON(path);
 }
 
@@ -112,6 +120,12 @@ void PropertyEditorWindow::reload(const PropertyEditorContent &written, const QS
     if (const Error error = setContent(written)) {
         qCCritical(propertyEditorLog).noquote()
             << "What was saved can't be shown" << path << error.errorMessage();
+        if (self) {
+            ORVStyle::critical(
+                this, {},
+                tr("The workflow was saved, and can't be shown again: %1").arg(error.errorMessage()));
+        }
+        return;
     }
     if (!self)
         return;

@@ -1,15 +1,19 @@
 #include "SystemWorkflows.h"
 
+#include "LossTexts.h"
+
 #include <orv/core/FileUtils.h>
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/window/PropertyEditorWindowJsonFile.h>
 #include <orv/propertyeditor/workflow/WflwUpgrader.h>
+#include <orv/propertyeditor/workflow/WorkflowUpgrade.h>
 #include <orv/widgets/ORVFileDialog.h>
 #include <orv/widgets/ORVStyle.h>
 #include <orv/widgets/ProgressOutputUtils.h>
 
 #include <QDir>
+#include <QFileInfo>
 #include <QPointer>
 
 namespace orv {
@@ -27,7 +31,7 @@ bool keepsOriginal(const QString &path, const Error &reason)
         return false;
     }
     qCWarning(propertyEditorLog).noquote()
-        << "The upgrade failed, and the workflow is kept in" << kept << reason.errorMessage();
+        << "The workflow before its upgrade is kept in" << kept << reason.errorMessage();
     return true;
 }
 
@@ -40,8 +44,13 @@ void upgradeFile(const QString &path)
         return;
     }
     const QVersionNumber version = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());
-    const Error error = WflwUpgrader::upgradeWorkflow(version, &content, nullptr, true);
-    if (error.hasError() && !keepsOriginal(path, error))
+    const QList<Loss> lost = file.losses() + WorkflowUpgrade::lossesBefore(content);
+    WflwUpgradeOptions options;
+    options.baseUrl = QUrl::fromLocalFile(QFileInfo(path).absolutePath() + u'/');
+    const Error error = WflwUpgrader::upgradeWorkflow(version, &content, nullptr, options);
+    for (const QString &text : textsOf(lost))
+        qCWarning(propertyEditorLog).noquote() << "Lost by the upgrade" << path << text;
+    if ((error.hasError() || !lost.isEmpty()) && !keepsOriginal(path, error))
         return;
     content.setCustomUser(QStringLiteral("ORV"));
     if (!file.saveTabsToJson(content))

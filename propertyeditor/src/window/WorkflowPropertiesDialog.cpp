@@ -4,8 +4,8 @@
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/window/WorkflowIcons.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
+#include <orv/widgets/ChoiceBox.h>
 
-#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
@@ -53,9 +53,9 @@ void WorkflowPropertiesDialog::buildForm()
 {
     m_name = named<QLineEdit>("lineName", this);
     m_description = named<QPlainTextEdit>("plainTextDescription", this);
-    m_icons = named<QComboBox>("comboIcons", this);
+    m_icons = named<ChoiceBox>("comboIcons", this);
     m_typeLabel = named<QLabel>("labelType", this);
-    m_types = named<QComboBox>("comboTypes", this);
+    m_types = named<ChoiceBox>("comboTypes", this);
     m_versionLabel = named<QLabel>("labelVersionTitle", this);
     m_version = named<QLabel>("labelVersion", this);
     m_typeLabel->setText(tr("Type:"));
@@ -66,6 +66,8 @@ void WorkflowPropertiesDialog::buildForm()
 
     m_name->setText(WflwMetaData::nameFromMetaDataObject(m_metadata));
     m_description->setPlainText(WflwMetaData::descriptionFromMetaDataObject(m_metadata));
+    m_shownName = m_name->text();
+    m_shownDescription = m_description->toPlainText();
     m_version->setTextFormat(Qt::PlainText);
     m_version->setText(WflwMetaData::versionFromMetaDataObject(m_metadata));
 
@@ -124,8 +126,11 @@ void WorkflowPropertiesDialog::updateDesignerModeFeatures(bool isEnabled)
 
 void WorkflowPropertiesDialog::acceptDialog()
 {
-    WflwMetaData::setNameInMetaDataObject(&m_metadata, m_name->text());
-    WflwMetaData::setDescriptionInMetaDataObject(&m_metadata, m_description->toPlainText());
+    // A field may show other characters than are stored.
+    if (m_name->text() != m_shownName)
+        WflwMetaData::setNameInMetaDataObject(&m_metadata, m_name->text());
+    if (m_description->toPlainText() != m_shownDescription)
+        WflwMetaData::setDescriptionInMetaDataObject(&m_metadata, m_description->toPlainText());
     if (!m_keepsIcon)
         WflwMetaData::setIconNameInMetaDataObject(&m_metadata, m_icons->currentText());
     if (!m_keepsType)

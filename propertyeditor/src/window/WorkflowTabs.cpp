@@ -3,6 +3,7 @@
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/grid/EditableTabBar.h>
 #include <orv/propertyeditor/grid/EditableTabWidget.h>
+#include <orv/propertyeditor/grid/GridCommunicative.h>
 #include <orv/propertyeditor/grid/IGridItem.h>
 #include <orv/propertyeditor/grid/PropertyGridWidget.h>
 #include <orv/widgets/SamplesAndTracesInputWidget.h>
@@ -29,7 +30,10 @@ Error WorkflowTabs::add(const QString &name, const QStringList &columns, const V
     const QPointer<PropertyGridWidget> grid = created->release();
     if (m_prepare)
         m_prepare(*grid);
+    const QPointer<WorkflowTabs> self(this);
     m_tabs->addTab(grid, name);
+    if (!self || !grid)
+        return Error(ErrorCode::InvalidContent, tr("The tab was removed while it was added."));
     grid->setPropertiesViewMode(m_propertiesViewMode);
     grid->setEditorMode(m_editorMode);
     connect(grid, &PropertyGridWidget::itemAdded, this, &WorkflowTabs::columnsChanged);
@@ -44,10 +48,30 @@ void WorkflowTabs::remove(int index)
     QWidget *widget = m_tabs->widget(index);
     if (!widget)
         return;
+    const QPointer<WorkflowTabs> self(this);
+    const QPointer<QWidget> gone(widget);
     m_tabs->removeTab(index);
-    widget->disconnect(this);
-    widget->deleteLater();
+    if (!self)
+        return;
+    if (gone) {
+        widget->disconnect(this);
+        silence(*widget);
+        widget->deleteLater();
+    }
     Q_EMIT columnsChanged();
+}
+
+/// A tab lives until the events are handled; the next document must not hear of it.
+void WorkflowTabs::silence(QWidget &tab)
+{
+    const auto *shown = qobject_cast<PropertyGridWidget *>(&tab);
+    const QList<IGridItem *> items = shown ? shown->items() : QList<IGridItem *>();
+    for (IGridItem *item : items) {
+        if (auto *member = dynamic_cast<GridCommunicative *>(item))
+            m_bus.unregisterCommunicative(member);
+        if (QWidget *widget = item->widget(); widget && parent())
+            QObject::disconnect(widget, nullptr, parent(), nullptr);
+    }
 }
 
 Error WorkflowTabs::replaceCurrent(const PropertyEditorContent::Tab &tab)
@@ -139,21 +163,27 @@ void WorkflowTabs::setEditorMode(EditorMode mode)
 {
     m_editorMode = mode;
     m_tabs->editableTabBar()->setEditorMode(mode);
-    for (PropertyGridWidget *shown : grids())
-        shown->setEditorMode(mode);
+    for (const QPointer<PropertyGridWidget> &shown : grids()) {
+        if (shown)
+            shown->setEditorMode(mode);
+    }
 }
 
 void WorkflowTabs::setPropertiesViewMode(PropertiesViewMode mode)
 {
     m_propertiesViewMode = mode;
-    for (PropertyGridWidget *shown : grids())
-        shown->setPropertiesViewMode(mode);
+    for (const QPointer<PropertyGridWidget> &shown : grids()) {
+        if (shown)
+            shown->setPropertiesViewMode(mode);
+    }
 }
 
 void WorkflowTabs::setBaseUrl(const QUrl &url)
 {
-    for (PropertyGridWidget *shown : grids())
-        setBaseUrl(*shown, url);
+    for (const QPointer<PropertyGridWidget> &shown : grids()) {
+        if (shown)
+            setBaseUrl(*shown, url);
+    }
 }
 
 void WorkflowTabs::setBaseUrl(PropertyGridWidget &grid, const QUrl &url)
@@ -169,8 +199,10 @@ void WorkflowTabs::setBaseUrl(PropertyGridWidget &grid, const QUrl &url)
 
 void WorkflowTabs::collapseAll()
 {
-    for (const PropertyGridWidget *shown : grids())
-        collapseAll(*shown);
+    for (const QPointer<PropertyGridWidget> &shown : grids()) {
+        if (shown)
+            collapseAll(*shown);
+    }
 }
 
 void WorkflowTabs::collapseAll(const PropertyGridWidget &grid)

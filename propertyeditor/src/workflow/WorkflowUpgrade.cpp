@@ -22,29 +22,12 @@ struct WorkflowUpgradeTr
     Q_DECLARE_TR_FUNCTIONS(WorkflowUpgrade)
 };
 
-/// What the value form drops of the document, and the first load of what is left.
-QList<Loss> lossesOfLoad(const QJsonObject &document, const PropertyEditorContent &valueForm)
+/// What the value form drops of the document.
+QList<Loss> lossesOfValueForm(const QJsonObject &document)
 {
     LossCollector collector;
     DocumentStructure::reportLosses(document, &collector);
     CellStamps::reportLosses(document, &collector);
-    PropertyEditor::Content content;
-    content.setLossObserver(&collector);
-    // A document that can't be loaded fails in the upgrade, where the error belongs, unless a step mends it.
-    const Error error =
-        content.assignFromJson(valueForm.document(), PropertyEditor::ValidationOption::SkipTypeValidation);
-    content.setLossObserver(nullptr);
-    Q_UNUSED(error)
-    return collector.losses();
-}
-
-/// What the step that makes samples of rows doesn't read.
-QList<Loss> lossesOfRows(const QJsonObject &document, const QVersionNumber &version)
-{
-    const QVersionNumber firstWithoutRows(5, 6, 0);
-    LossCollector collector;
-    if (version < firstWithoutRows)
-        reportOldSampleLosses(document, &collector);
     return collector.losses();
 }
 
@@ -98,6 +81,22 @@ Error takeSteps(PropertyEditorContent &content, const WorkflowUpgradeOptions &op
 
 } // namespace
 
+QList<Loss> lossesBefore(const PropertyEditorContent &content)
+{
+    const QVersionNumber firstWithoutRows(5, 6, 0);
+    LossCollector collector;
+    PropertyEditor::Content tree;
+    tree.setLossObserver(&collector);
+    // A document that can't be loaded fails in the upgrade, where the error belongs, unless a step mends it.
+    const Error error =
+        tree.assignFromJson(content.document(), PropertyEditor::ValidationOption::SkipTypeValidation);
+    tree.setLossObserver(nullptr);
+    Q_UNUSED(error)
+    if (WflwMetaData::versionNumberFromMetaDataObject(content.metadata()) < firstWithoutRows)
+        reportOldSampleLosses(content.document(), &collector);
+    return collector.losses();
+}
+
 WorkflowUpgradeReport run(const QJsonObject &document, const WorkflowUpgradeOptions &options)
 {
     WorkflowUpgradeReport report;
@@ -109,7 +108,7 @@ WorkflowUpgradeReport run(const QJsonObject &document, const WorkflowUpgradeOpti
         WflwMetaData::isNewerThanCurrent(report.from))
         return report;
     report.malformed = DocumentStructure::check(document);
-    const QList<Loss> lost = lossesOfLoad(document, content) + lossesOfRows(document, report.from);
+    const QList<Loss> lost = lossesOfValueForm(document) + lossesBefore(content);
     report.error = takeSteps(content, options, &report);
     if (report.isChanged)
         report.lost = lost;

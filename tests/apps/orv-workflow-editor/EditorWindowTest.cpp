@@ -1,5 +1,6 @@
 #include "EditorWindow.h"
 
+#include "LogCapture.h"
 #include "RecentFiles.h"
 #include "TestData.h"
 #include "WidgetTest.h"
@@ -79,6 +80,8 @@ private Q_SLOTS:
     void missingFilesAreForgotten();
     void emptyWindowsAreUsed();
     void fullWindowsStay();
+    void openingKeepsWhatIsThere();
+    void windowsOfWhatCannotBeOpenedClose();
     void filesAreDropped();
     void otherDropsAreRefused();
     void projectsAreWrittenAndShown();
@@ -144,10 +147,17 @@ void EditorWindowTest::missingFilesAreForgotten()
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"a.wflw"_s);
     QVERIFY(QFile::copy(intactExample(), path));
+    const LogCapture log;
     RecentFiles::add(path);
     RecentFiles::add(folder.filePath(u"none.wflw"_s));
     QCOMPARE(RecentFiles::all(), QStringList{path});
     QVERIFY(QFile::remove(path));
+    QMenu *recent = command(*m_window, u"Open &Recent"_s)->menu();
+    Q_EMIT recent->aboutToShow();
+    ScriptedAnswerer answers;
+    answers.expectBox(u"Open Recent"_s, u"OK"_s);
+    recent->actions().first()->trigger();
+    QVERIFY(answers.isDone());
     QCOMPARE(RecentFiles::all(), QStringList());
 }
 
@@ -166,6 +176,27 @@ void EditorWindowTest::fullWindowsStay()
     m_window->openBesides(TestData::examplePath(u"workflows/de_novo_antibody.wflw"_s));
     QCOMPARE(openWindows().size(), 2);
     QVERIFY(m_window->windowTitle().contains(u"intact_mass_check.wflw"_s));
+}
+
+void EditorWindowTest::openingKeepsWhatIsThere()
+{
+    open();
+    m_window->openBesides(intactExample());
+    ScriptedAnswerer answers;
+    answers.expectPath(u"Launch Workflow"_s, TestData::examplePath(u"workflows/de_novo_antibody.wflw"_s));
+    command(*m_window, u"&Open..."_s)->trigger();
+    QVERIFY(answers.isDone());
+    QCOMPARE(openWindows().size(), 2);
+    QVERIFY(m_window->windowTitle().contains(u"intact_mass_check.wflw"_s));
+}
+
+void EditorWindowTest::windowsOfWhatCannotBeOpenedClose()
+{
+    open();
+    m_window->openBesides(intactExample());
+    const LogCapture log;
+    QCOMPARE(m_window->openBesides(u"/no/such.wflw"_s), PropertyEditorWindow::OpenStatus::NotOpened);
+    QCOMPARE(openWindows().size(), 1);
 }
 
 void EditorWindowTest::filesAreDropped()

@@ -36,6 +36,9 @@ private Q_SLOTS:
     void failedWritesLeaveTheWindow();
     void newerFilesAreNotReplaced();
     void unknownEntriesAreAskedFor();
+    void foreignMembersAreAskedFor_data();
+    void foreignMembersAreAskedFor();
+    void namesWithDotsAskBeforeTheyReplace();
     void portableFoldersAreWritten();
     void portableFailuresAreTold();
     void portableSavesOverTheirOwnFolder();
@@ -154,14 +157,57 @@ void SavingTest::unknownEntriesAreAskedFor()
     QVERIFY(QFileInfo::exists(path));
 }
 
+void SavingTest::foreignMembersAreAskedFor_data()
+{
+    QTest::addColumn<QByteArray>("version");
+    QTest::newRow("current") << QByteArray("5.47.0");
+    QTest::newRow("outdated") << QByteArray("5.46.0");
+}
+
+void SavingTest::foreignMembersAreAskedFor()
+{
+    QFETCH(const QByteArray, version);
+    const LogCapture log;
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    Window window;
+    QJsonObject document = documentOf({karvonCell()}, metadata(version.constData()));
+    document[u"ofAnotherApplication"_s] = 1;
+    if (version == "5.46.0")
+        answers.expectBox(u"Workflow upgrade"_s, u"Apply"_s);
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", document)), kOpened);
+    answers.expectBox(u"Save Workflow"_s, u"Cancel"_s);
+    QVERIFY(!window.saveWorkflowToJSON(folder.filePath(u"b.wflw"_s)));
+    QVERIFY(answers.isDone());
+    QVERIFY(answers.transcript().last().details.contains(u"ofAnotherApplication"_s));
+    QCOMPARE(window.openWorkflow(write(folder, "c.wflw", documentOf({karvonCell()}))), kOpened);
+    QVERIFY(window.saveWorkflowToJSON(folder.filePath(u"d.wflw"_s)));
+    QVERIFY(answers.isDone());
+}
+
+void SavingTest::namesWithDotsAskBeforeTheyReplace()
+{
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    Window window;
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", twoTabs())), kOpened);
+    const QString there = write(folder, "lot 4.2.wflw", QByteArray("precious"));
+    answers.expectPath(u"Save Workflow"_s, folder.filePath(u"lot 4.2"_s));
+    answers.expectBox(u"Save Workflow"_s, u"No"_s);
+    QVERIFY(!window.saveWorkflowAs());
+    QVERIFY(answers.isDone());
+    QCOMPARE(TestData::read(there), QByteArray("precious"));
+}
+
 void SavingTest::portableFoldersAreWritten()
 {
     const QTemporaryDir folder;
-    write(folder, "layout.ini", QByteArray("[View]"));
+    QVERIFY(QDir(folder.path()).mkdir(u"data"_s));
+    write(folder, "data/layout.ini", QByteArray("[View]"));
     ScriptedAnswerer answers;
     Window window;
     window.show();
-    const QJsonObject document = documentOf({karvonCell({setting("KarvonLayout", u"layout.ini"_s)})});
+    const QJsonObject document = documentOf({karvonCell({setting("KarvonLayout", u"data/layout.ini"_s)})});
     QCOMPARE(window.openWorkflow(write(folder, "a.wflw", document)), kOpened);
     const QString target = folder.filePath(u"b.wflwp"_s);
     answers.expectPath(u"Save As Portable Workflow"_s, target);
@@ -171,6 +217,7 @@ void SavingTest::portableFoldersAreWritten()
     QCOMPARE(window.state().workflowFilePath(), target + u"/b.wflw"_s);
     QVERIFY(window.windowTitle().endsWith(QDir::toNativeSeparators(u"b.wflwp/b.wflw - Project Creation"_s)));
     QVERIFY(QFileInfo::exists(target + u"/layout.ini"_s));
+    QVERIFY(window.content().toJson().contains("\"layout.ini\""));
     QCOMPARE(WflwMetaData::nameFromMetaDataObject(window.state().workflowMetadata()), u"b"_s);
     QCOMPARE(window.tabs().count(), 1);
 }

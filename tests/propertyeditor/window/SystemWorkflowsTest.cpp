@@ -16,6 +16,7 @@ private Q_SLOTS:
     void filesOfTheFolderAreUpgraded();
     void nothingChosenChangesNothing();
     void failedUpgradesKeepTheOriginal();
+    void lossyUpgradesKeepTheOriginal();
 };
 
 void SystemWorkflowsTest::filesOfTheFolderAreUpgraded()
@@ -71,6 +72,23 @@ void SystemWorkflowsTest::failedUpgradesKeepTheOriginal()
     QCOMPARE(TestData::read(old + u".bak"_s), before);
     const PropertyEditorContent written(TestData::read(old));
     QCOMPARE(written.metadata()[u"user"_s].toString(), u"ORV"_s);
+}
+
+void SystemWorkflowsTest::lossyUpgradesKeepTheOriginal()
+{
+    const LogCapture log;
+    const QTemporaryDir folder;
+    QJsonObject document = documentOf({karvonCell()}, metadata("5.46.0"));
+    document[u"ofAnotherApplication"_s] = 1;
+    const QString old = write(folder, "old.wflw", document);
+    const QByteArray before = TestData::read(old);
+    ScriptedAnswerer answers;
+    answers.expectPath(u"Select workflows directory"_s, folder.path());
+    answers.expectBox({}, u"OK"_s);
+    Window window;
+    window.updateSystemWorkflowsButton();
+    QCOMPARE(TestData::read(old + u".bak"_s), before);
+    QVERIFY(!log.warnings().filter(u"ofAnotherApplication"_s).isEmpty());
 }
 
 WIDGET_REGISTER_TEST(SystemWorkflowsTest)

@@ -14,6 +14,8 @@ using namespace orv;
 using namespace WindowFixture;
 using namespace Qt::StringLiterals;
 
+Q_DECLARE_METATYPE(std::function<void(WindowFixture::Window &)>)
+
 namespace {
 
 QStringList titles(Window &window)
@@ -65,7 +67,9 @@ private Q_SLOTS:
     void currentTabContent();
     void clearingKeepsMetadata();
     void emptyWorkflows();
-    void listenersMayCloseTheWindow();
+    void windowsMayGoInEveryBox_data();
+    void windowsMayGoInEveryBox();
+    void removedTabsKeepQuiet();
 };
 
 void WindowTabsTest::tabsAreAddedByName()
@@ -269,26 +273,64 @@ void WindowTabsTest::emptyWorkflows()
     QVERIFY(!window.state().workflowFilePath().isNull());
 }
 
-void WindowTabsTest::listenersMayCloseTheWindow()
+void WindowTabsTest::windowsMayGoInEveryBox_data()
 {
+    using Act = std::function<void(Window &)>;
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<Act>("act");
+    const auto row = [](const char *title, const char *button, const Act &act) {
+        QTest::newRow(title) << text(title) << text(button) << act;
+    };
+    row("Removing tab", "Yes", [](Window &window) { window.removeCurrentTab(); });
+    row("Add tab", "OK", [](Window &window) { window.addTab(); });
+    row("Add column", "OK", [](Window &window) { window.appendColumn(); });
+    row("Open Tab", "OK", [](Window &window) { window.openTabPreset(); });
+    row("Save tab to file", "OK", [](Window &window) { window.saveTabPreset(); });
+    row("Workflow Properties", "OK", [](Window &window) { window.openWorkflowProperties(); });
+    row("Save Workflow", "OK", [](Window &window) { window.saveWorkflowAs(); });
+    row("Unsaved changes", "Yes", [](Window &window) {
+        window.tabs().setTabText(0, u"Other"_s);
+        window.close();
+    });
+    row("Select workflows directory", "OK", [](Window &window) { window.updateSystemWorkflowsButton(); });
+    row("Save As Portable Workflow", "OK",
+        [](Window &window) { window.toolButton("Save As Portable Workflow...")->click(); });
+    row("Project creation", "OK", [](Window &window) { window.createProjectClicked(); });
+    row("Launch Workflow", "OK", [](Window &window) { window.selectAndOpenWorkflow(); });
+}
+
+void WindowTabsTest::windowsMayGoInEveryBox()
+{
+    QFETCH(const QString, title);
+    QFETCH(const QString, button);
+    using Act = std::function<void(Window &)>;
+    QFETCH(const Act, act);
     const LogCapture log;
     auto *window = new Window;
     const QPointer<Window> guard(window);
-    connect(&window->tabs(), &QTabWidget::currentChanged, window, [guard](int index) {
-        if (index == 1)
-            delete guard;
-    });
-    QJsonObject document = documentOf({karvonCell()});
-    QJsonArray tabs = document[u"tabs"_s].toArray();
-    tabs.append(Documents::tab(u"Second"_s, {u"A"_s}, {karvonCell()}));
-    document[u"tabs"_s] = tabs;
-    connect(&window->tabs(), &QTabWidget::currentChanged, window, [guard] {
-        if (guard && guard->tabs().count() == 1)
-            guard->deleteLater();
-    });
-    window->openWorkflow(document);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(window->openWorkflow(documentOf({previewCell()})), kOpened);
+    const Destroyer destroyer(window, title, button);
+    act(*window);
     QVERIFY(!guard);
+}
+
+void WindowTabsTest::removedTabsKeepQuiet()
+{
+    const QJsonObject samples = Documents::parse(R"({"Samples": [{"SampleName": "one", "SamplesId": 1}]})");
+    Window window;
+    QCOMPARE(window.openWorkflow(documentOf({settingsCell("Samples", {setting("SamplesTable", samples)})})),
+             kOpened);
+    QPointer<SamplesAndTracesInputWidget> earlier =
+        qobject_cast<SamplesAndTracesInputWidget *>(window.grid(0)->items().first()->widget());
+    QCOMPARE(window.openWorkflow(documentOf({karvonCell()})), kOpened);
+    const QSignalSpy told(&window.state(), &PropertyEditorWindowPrivate::samplesChanged);
+    const QSignalSpy removed(&window.state(), &PropertyEditorWindowPrivate::removeCustomColumn);
+    QVERIFY(earlier);
+    Q_EMIT earlier->removeCustomColumn(u"Batch"_s);
+    Q_EMIT earlier->samplesChanged({});
+    QCoreApplication::processEvents();
+    QVERIFY(told.isEmpty() && removed.isEmpty());
 }
 
 WIDGET_REGISTER_TEST(WindowTabsTest)

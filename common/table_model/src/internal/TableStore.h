@@ -64,7 +64,8 @@ public:
 
     [[nodiscard]] qsizetype heldBytes() const
     {
-        return qsizetype(m_units.size() * sizeof(char16_t) + m_slots.size() * sizeof(TableSlot));
+        return qsizetype(m_units.size()) * qsizetype(sizeof(char16_t)) +
+               qsizetype(m_slots.size()) * qsizetype(sizeof(TableSlot));
     }
 
     [[nodiscard]] bool hasDerived() const { return !m_derived.isEmpty(); }

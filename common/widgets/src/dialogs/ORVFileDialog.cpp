@@ -1,6 +1,7 @@
 #include "orv/widgets/ORVFileDialog.h"
 
 #include <orv/widgets/DialogService.h>
+#include <orv/widgets/ORVStyle.h>
 
 #include <QDir>
 #include <QFileDialog>
@@ -78,6 +79,16 @@ QString askForPath(QWidget *parent, const FileQuestion &question,
     return askForPaths(parent, question, setUp).value(0);
 }
 
+bool mayReplace(QWidget *parent, const QString &title, const QString &path)
+{
+    if (!QFileInfo::exists(path))
+        return true;
+    const QString text =
+        QFileDialog::tr("%1 already exists.\nDo you want to replace it?").arg(QDir::toNativeSeparators(path));
+    return ORVStyle::warning(parent, title, text, QMessageBox::Yes | QMessageBox::No, {}, QMessageBox::No) ==
+           QMessageBox::Yes;
+}
+
 QString firstSuffix(const FileExtensionsNameFilter &filter)
 {
     return filter.isEmpty() ? QString() : FileTypes::suffixes(filter.types().constFirst()).value(0);
@@ -119,8 +130,11 @@ QString ORVFileDialog::getSaveFileName(QWidget *parent, const QString &title, co
         // It asks about the name that will be written, so it has to know the suffix.
         dialog.setDefaultSuffix(firstSuffix(filter));
     });
-    const bool isComplete = path.isEmpty() || filter.isEmpty() || filter.matches(path);
-    return isComplete ? path : path + u'.' + firstSuffix(filter);
+    if (path.isEmpty() || filter.isEmpty() || filter.matches(path))
+        return path;
+    // The dialog takes what follows a dot in the name for a suffix, and so has asked about another file.
+    const QString whole = path + u'.' + firstSuffix(filter);
+    return prompt == OverwritePrompt::Off || mayReplace(parent, title, whole) ? whole : QString();
 }
 
 QString ORVFileDialog::getExistingDirectory(QWidget *parent, const QString &title, const QString &startPath,

@@ -15,7 +15,6 @@
 #include <QToolButton>
 #include <QToolTip>
 #include <QValidator>
-#include <QWheelEvent>
 
 #include <limits>
 
@@ -176,11 +175,10 @@ void CellLineEdit::resizeEvent(QResizeEvent *event)
 }
 
 CellChoiceBox::CellChoiceBox(const TableColumn &column, QWidget *parent)
-    : QComboBox(parent)
+    : ChoiceBox(parent)
 {
     setAccessibleName(column.header());
     setFrame(false);
-    setFocusPolicy(Qt::StrongFocus);
     if (!column.isRequired)
         addItem(QString());
     addItems(column.choices);
@@ -197,11 +195,6 @@ void CellChoiceBox::setText(const QString &text)
     if (findText(text) < 0)
         insertItem(0, text);
     setCurrentIndex(findText(text));
-}
-
-void CellChoiceBox::wheelEvent(QWheelEvent *event)
-{
-    event->ignore();
 }
 
 QWidget *createCellEditor(const TableColumn &column, NumberText::DecimalSign sign, const CellCheck &problemOf,

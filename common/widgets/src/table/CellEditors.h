@@ -1,8 +1,8 @@
 #pragma once
 
 #include <orv/table_model/TableColumn.h>
+#include <orv/widgets/ChoiceBox.h>
 
-#include <QComboBox>
 #include <QLineEdit>
 
 #include <functional>
@@ -50,8 +50,8 @@ private:
     int m_chooserWidth = 0;
 };
 
-/// One of a column's choices. The wheel passes by.
-class CellChoiceBox : public QComboBox
+/// One of a column's choices.
+class CellChoiceBox : public ChoiceBox
 {
     Q_OBJECT
 
@@ -60,9 +60,6 @@ public:
 
     [[nodiscard]] QString text() const;
     void setText(const QString &text);
-
-protected:
-    void wheelEvent(QWheelEvent *event) override;
 };
 
 /// The editor for a cell of this column.

@@ -3,6 +3,8 @@
 #include "ImportModels.h"
 #include "TableDelegate.h"
 
+#include <orv/widgets/ChoiceBox.h>
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -13,25 +15,17 @@
 #include <QSplitter>
 #include <QTableView>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 
 namespace orv {
 
 namespace {
 
-/// A combo box that shows what it is for and passes the wheel by.
-class ImportChoice : public QComboBox
+ChoiceBox *importChoice(const QString &name)
 {
-public:
-    explicit ImportChoice(const QString &name)
-    {
-        setAccessibleName(name);
-        setFocusPolicy(Qt::StrongFocus);
-    }
-
-protected:
-    void wheelEvent(QWheelEvent *event) override { event->ignore(); }
-};
+    auto *box = new ChoiceBox;
+    box->setAccessibleName(name);
+    return box;
+}
 
 template<typename T>
 void choose(QComboBox *box, T value)
@@ -135,7 +129,7 @@ void TableImportDialog::buildFormat(QBoxLayout *layout)
 {
     auto *const row = new QHBoxLayout;
     const auto addChoice = [&](const QString &name, const char *objectName) {
-        QComboBox *const box = new ImportChoice(QString(name).remove(u'&'));
+        QComboBox *const box = importChoice(QString(name).remove(u'&'));
         box->setObjectName(QLatin1String(objectName));
         auto *const label = new QLabel(name);
         label->setBuddy(box);
@@ -237,7 +231,7 @@ void TableImportDialog::showMapping()
     d->previewModel->refresh();
     d->targets.clear();
     for (int field = 0; field < d->previewModel->columnCount(); ++field) {
-        QComboBox *const target = new ImportChoice(tr("%1 goes to").arg(d->import.fieldNames()[field]));
+        QComboBox *const target = importChoice(tr("%1 goes to").arg(d->import.fieldNames()[field]));
         target->addItem(tr("(left out)"), -1);
         for (int column = 0; column < d->columns.size(); ++column)
             target->addItem(d->columns[column].header(), column);

@@ -16,7 +16,8 @@ namespace orv {
 /// \code
 ///     const Result<QString> folder = RunFolder::write(document, "/data/mab.run");
 /// \endcode
-/// It is made beside its place and brought there as a whole, so that nothing half-written is ever found there.
+/// It is made beside its place and brought there as a whole, so that nothing half-written is ever found
+/// there.
 class ORV_WORKFLOW_EXPORT RunFolder
 {
 public:
@@ -24,16 +25,24 @@ public:
     static constexpr QLatin1String kWorkflowName{"workflow.wflw"};
     static constexpr QLatin1String kSequencesName{"sequences.fasta"};
 
+    /// What becomes of an earlier run at the place.
+    enum class Existing
+    {
+        Refused,
+        Replaced, ///< when the new one is complete
+    };
+
     /// Told before each file; false stops the work.
     using Progress = std::function<bool(int done, int count, const QString &name)>;
 
-    /// Writes the run of a document with absolute paths to \a folder, which must not exist, and gives its
-    /// absolute path; an empty text when \a progress stopped it. InvalidContent for a folder that exists, for
-    /// two parameter files of one name, and as Content::assignFromJson; CannotOpenFile for what can't be
-    /// written. Sweeps what a run to the same place left when it was killed. Any thread; blocks while sample
-    /// files are fetched.
+    /// Writes the run of a document with absolute paths to \a folder, and gives its absolute path; an empty
+    /// text when \a progress stopped it. InvalidContent for what stands there, unless it is a run that may be
+    /// replaced, for two parameter files of one name, and as Content::assignFromJson; CannotOpenFile for what
+    /// can't be written. Sweeps what a run to the same place left when it was killed. Any thread; blocks
+    /// while sample files are fetched.
     [[nodiscard]] static Result<QString> write(const QJsonObject &document, const QString &folder,
-                                               const Progress &progress = {});
+                                               const Progress &progress = {},
+                                               Existing existing = Existing::Refused);
 };
 
 } // namespace orv

@@ -160,7 +160,7 @@ private:
                                                          Upgrade *upgrade);
     void runUpgrade(PropertyEditorContent *content, Upgrade *upgrade);
     void saveUpgraded(const PropertyEditorContent &content, const QString &path);
-    [[nodiscard]] OpenStatus display(const PropertyEditorContent &content);
+    [[nodiscard]] OpenStatus display(const PropertyEditorContent &content, const QStringList &lost);
     [[nodiscard]] PropertyEditorContent inDesktopForm(const PropertyEditorContent &content) const;
     void parseExtendedMetadata(const PropertyEditorContent &content);
     [[nodiscard]] Result<PropertyEditor::Content> contentForHandOver(const QString &title);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <orv/core/Error.h>
+#include <orv/core/LossObserver.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/widgets/Export.h>
 
@@ -31,6 +32,11 @@ public:
     /// The first tab; false without one.
     bool saveTabToJson(const PropertyEditorContent &content);
 
+    /// What the last loadTabsFromJson() dropped of the file, as the value form has no place for it.
+    [[nodiscard]] const QList<Loss> &losses() const { return m_losses; }
+    /// What that drops of the object of a document.
+    [[nodiscard]] static QList<Loss> lossesOf(const QJsonObject &document);
+
     /// Why the last of these failed.
     [[nodiscard]] const Error &error() const { return m_error; }
 
@@ -40,6 +46,7 @@ private:
 
     const std::unique_ptr<const QString> m_path;
     Error m_error;
+    QList<Loss> m_losses;
 };
 
 } // namespace orv

@@ -91,6 +91,8 @@ public:
     [[nodiscard]] QUrl workflowBaseUrl() const { return m_workflowBaseUrl; }
     void setWorkflowMetadata(const QJsonObject &metadata);
     [[nodiscard]] QJsonObject workflowMetadata() const { return m_workflowMetadata; }
+    /// The workflow's name as that of a file.
+    [[nodiscard]] QString proposedName() const;
     void setExtendedMetadataInfo(const ExtendedMetadataInfo &info) { m_extendedMetadataInfo = info; }
     void updateLastSavedWorkflow();
     [[nodiscard]] QJsonObject getLastSavedWorkflow() const { return m_lastSavedWorkflow; }
@@ -143,7 +145,8 @@ private:
     QJsonObject m_workflowMetadata;
     QJsonObject m_lastSavedWorkflow;
     ExtendedMetadataInfo m_extendedMetadataInfo;
-    QStringList m_lost; ///< what the document on the screen lacks of the one that was loaded
+    QStringList m_lostInReading; ///< of the document that is about to be opened
+    QStringList m_lost;          ///< what the document on the screen lacks of the one that was loaded
     bool m_projectCreationStarted = false;
 };
 

@@ -41,6 +41,8 @@ private:
     QComboBox *m_types = nullptr;
     QLabel *m_versionLabel = nullptr;
     QLabel *m_version = nullptr;
+    QString m_shownName;
+    QString m_shownDescription;
     bool m_keepsIcon = false; ///< the stored name is none of those offered, and nobody chose another
     bool m_keepsType = false;
 };

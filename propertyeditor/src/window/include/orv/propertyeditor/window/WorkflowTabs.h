@@ -82,6 +82,7 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] PropertyEditorContent::Tab read(int index) const;
+    void silence(QWidget &tab);
 
     EditableTabWidget *m_tabs;
     GridCommunicationManager m_bus; ///< of this document alone

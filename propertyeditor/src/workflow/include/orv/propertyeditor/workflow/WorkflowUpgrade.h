@@ -58,6 +58,10 @@ struct ORV_WORKFLOW_EXPORT WorkflowUpgradeReport
 /// \endcode
 namespace WorkflowUpgrade {
 
+/// What the first step of an upgrade doesn't get of a document: what a load drops, and what nobody reads of
+/// samples that are rows.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QList<Loss> lossesBefore(const PropertyEditorContent &content);
+
 /// MalformedStructure for what has no tabs, InvalidContent for a version that can't be used, and the error of
 /// a step. Blocks as WflwUpgrader does.
 [[nodiscard]] ORV_WORKFLOW_EXPORT WorkflowUpgradeReport run(const QJsonObject &document,
