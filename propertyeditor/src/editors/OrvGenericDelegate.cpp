@@ -48,7 +48,7 @@ QString OrvGenericDelegate::propertyValueToString(const KProperty *property, con
 QString OrvGenericDelegate::summary(const KProperty &property)
 {
     constexpr int kMostLines = 24;
-    const QString text = GenericEditorText::textOf(property, GenericEditorText::Place::Whole);
+    QString text = GenericEditorText::textOf(property, GenericEditorText::Place::Whole);
     qsizetype end = -1;
     for (int line = 0; line < kMostLines; ++line) {
         end = text.indexOf(u'\n', end + 1);

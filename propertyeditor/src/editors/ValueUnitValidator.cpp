@@ -39,8 +39,7 @@ QString ValueUnitValidator::expectation() const
     const QLocale locale;
     const QString least = locale.toString(m_number.bottom(), 'g', QLocale::FloatingPointShortest);
     const QString most = locale.toString(m_number.top(), 'g', QLocale::FloatingPointShortest);
-    const QString form =
-        tr("a number with at most two decimals, a blank, and Da, ppm or mmu, as in \"10 ppm\"");
+    QString form = tr("a number with at most two decimals, a blank, and Da, ppm or mmu, as in \"10 ppm\"");
     if (m_number.bottom() == -kMost && m_number.top() == kMost)
         return form;
     if (m_number.top() == kMost)

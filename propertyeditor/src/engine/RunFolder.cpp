@@ -82,7 +82,7 @@ public:
 private:
     void addSequences()
     {
-        const QByteArray fasta = PropertiesGetter(PropertyEditorContent(m_document)).fastaContent();
+        QByteArray fasta = PropertiesGetter(PropertyEditorContent(m_document)).fastaContent();
         if (!fasta.isEmpty()) {
             m_files.append({RunFolder::kSequencesName, [fasta] { return fasta; }});
             m_database = QDir(m_folder).filePath(RunFolder::kSequencesName);

@@ -92,6 +92,22 @@ void updateGrid(const QPointer<PropertyGridWidget> &grid, const ProteinUse &use,
     forEachItem(grid, [](IGridItem &item) { item.endPresetLoading(); });
 }
 
+void find(IGridItem &item, DependentWidgets::Found *found)
+{
+    QWidget *widget = item.widget();
+    if (auto *samples = qobject_cast<SamplesAndTracesInputWidget *>(widget)) {
+        if (item.type() == BaseItemType::Samples)
+            found->samples = samples;
+    } else if (auto *proteins = qobject_cast<ProteinInputWidgetBase *>(widget)) {
+        if (item.type() == BaseItemType::IntactProteins)
+            found->intactProteins = proteins;
+    } else if (auto *options = qobject_cast<GlycanOptionsWidget *>(widget)) {
+        found->glycanOptions = options;
+    } else if (auto *glycans = qobject_cast<GlycanTableWidget *>(widget)) {
+        found->glycans.append(glycans);
+    }
+}
+
 } // namespace
 
 QList<BaseItemType> DependentWidgets::documents(const Grids &grids)
@@ -120,19 +136,10 @@ DependentWidgets::Found DependentWidgets::update(const Grids &grids, WorkflowTyp
     Found found;
     for (const QPointer<PropertyGridWidget> &grid : grids) {
         forEachItem(grid, [&found, &modes](IGridItem &item) {
-            if (item.type() == BaseItemType::Samples) {
-                if (auto *samples = qobject_cast<SamplesAndTracesInputWidget *>(item.widget())) {
-                    found.samples = samples;
-                    samples->setModes(modes);
-                }
-            } else if (item.type() == BaseItemType::IntactProteins) {
-                if (auto *proteins = qobject_cast<ProteinInputWidgetBase *>(item.widget()))
-                    found.intactProteins = proteins;
-            } else if (auto *options = qobject_cast<GlycanOptionsWidget *>(item.widget())) {
-                found.glycanOptions = options;
-            } else if (auto *glycans = qobject_cast<GlycanTableWidget *>(item.widget())) {
-                found.glycans.append(glycans);
-            }
+            find(item, &found);
+            auto *samples = qobject_cast<SamplesAndTracesInputWidget *>(item.widget());
+            if (samples && item.type() == BaseItemType::Samples)
+                samples->setModes(modes);
         });
     }
     return found;

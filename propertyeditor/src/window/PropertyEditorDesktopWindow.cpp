@@ -32,7 +32,7 @@ PropertyEditorDesktopWindowPrivate::~PropertyEditorDesktopWindowPrivate() = defa
 
 bool PropertyEditorDesktopWindowPrivate::createProject()
 {
-    return m_window->handOver(PropertyEditorWindow::RelativePaths::AreMadeAbsoluteFirst);
+    return m_window->handOver(PropertyEditorDesktopWindow::RelativePaths::AreMadeAbsoluteFirst);
 }
 
 PropertyEditorDesktopWindow::PropertyEditorDesktopWindow(CoreMainWindow *mainWindow, QWidget *parent)

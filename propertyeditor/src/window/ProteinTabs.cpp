@@ -15,17 +15,17 @@ using PropertyEditor::Content;
 
 namespace {
 
-void changeCell(QVariant *cell)
+QVariant withIntactProteins(const QVariant &cell)
 {
-    const Result<QJsonObject> parsed = RawCell::parse(*cell);
+    const Result<QJsonObject> parsed = RawCell::parse(cell);
     if (parsed.hasError()) {
         qCWarning(propertyEditorLog).noquote()
-            << "Json parsing error:" << parsed.error().errorMessage() << cell->toByteArray();
-        return;
+            << "Json parsing error:" << parsed.error().errorMessage() << cell.toByteArray();
+        return cell;
     }
     QJsonObject object = *parsed;
     if (baseItemTypeFromString(object[TYPE_KEY].toString()) != BaseItemType::Proteins)
-        return;
+        return cell;
     object[TYPE_KEY] = baseItemTypeToString(BaseItemType::IntactProteins);
     QJsonArray properties = object[PROPERTIES_KEY].toArray();
     for (auto entry : properties) {
@@ -37,7 +37,7 @@ void changeCell(QVariant *cell)
     }
     if (object.contains(PROPERTIES_KEY))
         object[PROPERTIES_KEY] = properties;
-    *cell = RawCell(object).toVariant();
+    return RawCell(object).toVariant();
 }
 
 } // namespace
@@ -55,9 +55,11 @@ Result<bool> areBuiltFromChains(const PropertyEditorContent &content, LossObserv
 void changeToIntactProteins(PropertyEditorContent::Tabs *tabs)
 {
     for (PropertyEditorContent::Tab &tab : *tabs) {
-        VariantItems &cells = tab.second.second;
-        for (qsizetype i = 0; i < cells.size(); ++i)
-            changeCell(&cells[i]);
+        VariantItems cells;
+        cells.reserve(tab.second.second.size());
+        for (const QVariant &cell : std::as_const(tab.second.second))
+            cells.append(withIntactProteins(cell));
+        tab.second.second = cells;
     }
 }
 

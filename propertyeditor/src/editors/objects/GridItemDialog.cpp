@@ -113,7 +113,7 @@ void GridItemDialog::tell(const QString &problem)
 
 QJsonObject GridItemDialog::data() const
 {
-    const QJsonObject cell = m_item->content();
+    QJsonObject cell = m_item->content();
     if (cell == m_shown)
         return m_value;
     const QJsonArray entries = cell.value(PROPERTIES_KEY).toArray();
