@@ -49,6 +49,8 @@ private Q_SLOTS:
     void theDialogHasTheLimitsOfTheSetting();
     void theDialogWithoutLimitsTakesEveryNumber();
     void theDialogStartsAtZero();
+    void anUnsetValueGetsItsUnit_data();
+    void anUnsetValueGetsItsUnit();
     void theDialogTakesTypedValues_data();
     void theDialogTakesTypedValues();
     void theUnitAloneChanges();
@@ -261,6 +263,30 @@ void ValueUnitTest::theDialogStartsAtZero()
     ValueUnitDialog dialog(KProperty("any"), nullptr);
     dialog.setData({{text("unit"), text("Da")}});
     QCOMPARE(dialog.findChild<QDoubleSpinBox *>(text("ValueSpinBox"))->value(), 0.0);
+}
+
+void ValueUnitTest::anUnsetValueGetsItsUnit_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::newRow("nothing") << QByteArray("{}");
+    QTest::newRow("unset") << QByteArray(R"({"data":""})");
+    QTest::newRow("no unit") << QByteArray(R"({"value":1})");
+    QTest::newRow("an empty unit") << QByteArray(R"({"unit":"","value":1})");
+    QTest::newRow("a unit that is no text") << QByteArray(R"({"unit":5,"value":1})");
+}
+
+void ValueUnitTest::anUnsetValueGetsItsUnit()
+{
+    QFETCH(QByteArray, value);
+    ValueUnitDialog dialog(KProperty("any"), nullptr);
+    dialog.setData(object(value));
+    QCOMPARE(dialog.findChild<QComboBox *>()->currentText(), text("Da"));
+    QCOMPARE(dialog.data(), object(value));
+    QVERIFY(ObjectsFixture::show(dialog));
+    dialog.findChild<QDoubleSpinBox *>()->setFocus();
+    LeavingWays::type(text("7"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(dialog.data(), valueWithUnit(7, "Da"));
 }
 
 void ValueUnitTest::theDialogTakesTypedValues_data()

@@ -15,11 +15,17 @@
 
 namespace orv {
 
+using PropertyEditorStringConstants::DATA;
 using PropertyEditorStringConstants::VALUE_KEY;
 
 namespace {
 
 constexpr QLatin1String kUnitKey("unit");
+
+bool hasUnit(const QJsonObject &value)
+{
+    return !value.value(kUnitKey).toString().isEmpty();
+}
 
 } // namespace
 
@@ -58,11 +64,19 @@ ValueUnitDialog::~ValueUnitDialog() = default;
 
 QJsonObject ValueUnitDialog::data() const
 {
+    const double value = m_value->QDoubleSpinBox::value();
+    const bool isValueChanged = value != m_shownValue;
+    const bool isUnitChanged = m_unit->currentIndex() != m_shownUnit;
+    if (!isValueChanged && !isUnitChanged)
+        return m_data;
     QJsonObject changed = m_data;
-    if (m_value->QDoubleSpinBox::value() != m_shownValue)
-        changed.insert(VALUE_KEY, m_value->QDoubleSpinBox::value());
-    if (m_unit->currentIndex() != m_shownUnit)
+    if (isValueChanged || !changed.contains(VALUE_KEY))
+        changed.insert(VALUE_KEY, value);
+    if (isUnitChanged || !hasUnit(changed))
         changed.insert(kUnitKey, m_unit->currentText());
+    // The form of a setting that nobody has set.
+    if (changed.value(DATA) == QJsonValue(QString()))
+        changed.remove(DATA);
     return changed;
 }
 
@@ -73,7 +87,7 @@ void ValueUnitDialog::setData(const QJsonObject &value)
     m_value->setValue(value.value(VALUE_KEY).toVariant().toDouble());
     // A unit that isn't offered stands there until another one is chosen.
     m_unit->setPlaceholderText(unit);
-    m_unit->setCurrentIndex(m_unit->findText(unit, Qt::MatchFixedString));
+    m_unit->setCurrentIndex(hasUnit(value) ? m_unit->findText(unit, Qt::MatchFixedString) : 0);
     m_shownValue = m_value->QDoubleSpinBox::value();
     m_shownUnit = m_unit->currentIndex();
     m_value->selectAll();
