@@ -142,7 +142,9 @@ void KPropertyViewItem::followSamples(const GridMessage &message)
         return;
     KProperty &property = set->property(name);
     const QStringList names = splitSamples(property.value().toString());
-    property.setValue(joinSamples(SampleRenaming(message).follow(names)));
+    const QStringList followed = SampleRenaming(message).follow(names);
+    // Joined anew, the text would differ in blanks that a person left there.
+    property.setValue(followed == names ? property.value() : QVariant(joinSamples(followed)));
 }
 
 IGridItem *KPropertyItemCreator::createGridItemOn(GridCommunicationManager *bus) const

@@ -94,6 +94,7 @@ void KPropertyViewItemTest::renamedAndRemovedSamplesAreFollowed_data()
     row("no longer known", "one=1 two=2", "", "one; two; other", "other");
     row("the last of equal names counts", "one=1 one=2", "first=1 second=2", "one", "second");
     row("samples without a name", "=1 two=2", "=1 zwei=2", "two", "zwei");
+    row("texts that nobody touches stay", "one=1 two=2", "one=1 two=2", "one;two", "one;two");
     row("the first list", "", "one=1", "one; two", "one; two");
 }
 
