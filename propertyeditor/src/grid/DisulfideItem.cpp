@@ -9,6 +9,7 @@ using namespace PropertyEditorJsonUtils;
 
 DisulfideItem::DisulfideItem(GridCommunicationManager *manager)
     : GridCommunicative(manager)
+    , IGridItem({PropertyId::Disulfide})
     , m_widget(new DisulfideWidget)
 {
     connect(m_widget.get(), &DisulfideWidget::disulfideDataChanged, this, [this] {

@@ -7,7 +7,8 @@
 namespace orv {
 
 GlycanOptionsItem::GlycanOptionsItem()
-    : m_widget(new GlycanOptionsWidget)
+    : IGridItem({PropertyId::GlycanOptions})
+    , m_widget(new GlycanOptionsWidget)
 {
     QObject::connect(m_widget.get(), &GlycanOptionsWidget::edited, edits(), [this] { tellEdited(); });
 }

@@ -11,6 +11,7 @@ using namespace PropertyEditorJsonUtils;
 
 GlycanTableItem::GlycanTableItem(GridCommunicationManager *manager)
     : GridCommunicative(manager)
+    , IGridItem({PropertyId::DetachedGlycans})
     , m_widget(new GlycanTableWidget)
 {
     connect(m_widget->model(), &QAbstractItemModel::modelReset, this, [this] {

@@ -1,12 +1,16 @@
 #include "orv/propertyeditor/grid/IGridItem.h"
 
+#include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/table/PropertyUtils.h>
 
 #include <QCoreApplication>
+#include <QJsonArray>
 #include <QScopedValueRollback>
+
+#include <algorithm>
 
 namespace orv {
 
@@ -21,8 +25,9 @@ struct GridItemTr
 
 } // namespace
 
-IGridItem::IGridItem()
-    : m_edits(std::make_unique<GridItemEdits>())
+IGridItem::IGridItem(QList<PropertyId> properties)
+    : m_properties(std::move(properties))
+    , m_edits(std::make_unique<GridItemEdits>())
 {}
 
 IGridItem::IGridItem(const IGridItem &other)
@@ -30,6 +35,8 @@ IGridItem::IGridItem(const IGridItem &other)
     , m_customColumnDefinitions(other.m_customColumnDefinitions)
     , m_type(other.m_type)
     , m_name(other.m_name)
+    , m_properties(other.m_properties)
+    , m_untouched(other.m_untouched)
     , m_edits(std::make_unique<GridItemEdits>())
 {}
 
@@ -39,6 +46,8 @@ IGridItem &IGridItem::operator=(const IGridItem &other)
     m_customColumnDefinitions = other.m_customColumnDefinitions;
     m_type = other.m_type;
     m_name = other.m_name;
+    m_properties = other.m_properties;
+    m_untouched = other.m_untouched;
     return *this;
 }
 
@@ -69,7 +78,34 @@ Error IGridItem::setContent(const QJsonObject &json)
     m_content = json;
     m_customColumnDefinitions = PropertyEditorJsonUtils::customColumnDefinitions(json);
     const QScopedValueRollback quiet(m_isBeingSet, true);
-    return setContentInternal();
+    Error error = setContentInternal();
+    rememberUntouched();
+    return error;
+}
+
+bool IGridItem::hasEntry(PropertyId id) const
+{
+    const BaseItemType type = PropertyEditor::BaseItem::typeFromString(m_content.value(TYPE_KEY).toString());
+    const QJsonArray entries = m_content.value(PROPERTIES_KEY).toArray();
+    return std::any_of(entries.begin(), entries.end(), [id, type](const QJsonValue &entry) {
+        return PropertyEditorJsonUtils::findPropertyBackCompat(entry.toObject(), type) == id;
+    });
+}
+
+void IGridItem::rememberUntouched()
+{
+    m_untouched.clear();
+    const bool isWhole = std::all_of(m_properties.cbegin(), m_properties.cend(),
+                                     [this](PropertyId id) { return hasEntry(id); });
+    if (isWhole)
+        return;
+    // The entries that contentWith() adds stand behind those of the cell.
+    const QJsonArray entries = content().value(PROPERTIES_KEY).toArray();
+    for (qsizetype i = m_content.value(PROPERTIES_KEY).toArray().size(); i < entries.size(); ++i) {
+        const QJsonObject entry = entries.at(i).toObject();
+        m_untouched.insert(PropertiesNames::findPropertyForName(entry.value(NAME_KEY).toString()),
+                           PropertyEditorJsonUtils::propValueObject(entry));
+    }
 }
 
 QHash<QString, QMetaType::Type> IGridItem::customColumnTypes(const ColumnDefinitions &definitions)
@@ -97,8 +133,16 @@ RowNode IGridItem::rowNodeForType(PropertyId id) const
 QJsonObject IGridItem::contentWith(const QList<std::pair<PropertyId, QJsonObject>> &values) const
 {
     QJsonObject json = m_content;
-    for (const auto &[id, value] : values)
-        json = PropertyEditorJsonUtils::updatePropertyValue(json, id, value);
+    for (const auto &[id, value] : values) {
+        if (hasEntry(id)) {
+            json = PropertyEditorJsonUtils::updatePropertyValue(json, id, value);
+        } else if (value != m_untouched.value(id)) {
+            QJsonArray entries = json.value(PROPERTIES_KEY).toArray();
+            entries.append(
+                QJsonObject{{NAME_KEY, PropertiesNames::internalNameForType(id)}, {VALUE_KEY, value}});
+            json.insert(PROPERTIES_KEY, entries);
+        }
+    }
     content(&json);
     return json;
 }

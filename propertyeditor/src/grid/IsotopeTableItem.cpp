@@ -6,7 +6,8 @@
 namespace orv {
 
 IsotopeTableItem::IsotopeTableItem()
-    : m_widget(new IsotopeTableWidget)
+    : IGridItem({PropertyId::Isotope})
+    , m_widget(new IsotopeTableWidget)
 {
     QObject::connect(m_widget.get(), &IsotopeTableWidget::edited, edits(), [this] { tellEdited(); });
 }

@@ -29,6 +29,7 @@ Error showMassCell(MassTableWidget *widget, const RowNode &masses, const RowNode
 
 MassTableItem::MassTableItem(GridCommunicationManager *manager)
     : GridCommunicative(manager)
+    , IGridItem({PropertyId::MassTable, PropertyId::MatchTolerance})
     , m_widget(new MassTableWidget)
 {
     m_widget->hideHeader();

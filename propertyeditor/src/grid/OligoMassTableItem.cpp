@@ -14,7 +14,9 @@ namespace orv {
 using namespace PropertyEditorJsonUtils;
 
 OligoMassTableItem::OligoMassTableItem()
-    : m_widget(new OligoMassTableWidget)
+    : IGridItem({PropertyId::MassTable, PropertyId::MatchTolerance, PropertyId::Tolerances,
+                 PropertyId::OligoImpurities})
+    , m_widget(new OligoMassTableWidget)
 {
     m_widget->hideHeader();
     const auto tell = [this] { tellEdited(); };

@@ -29,7 +29,8 @@ void appendLines(const QString &html, QStringList *lines)
 } // namespace
 
 OptionsItemBase::OptionsItemBase(PropertyId id)
-    : m_id(id)
+    : IGridItem({id})
+    , m_id(id)
     , m_widget(widgetFor(id))
 {
     if (m_widget)

@@ -9,6 +9,7 @@ namespace orv {
 
 ProteinsItemBase::ProteinsItemBase(PropertyId id, GridCommunicationManager *manager)
     : GridCommunicative(manager)
+    , IGridItem({id})
     , m_widget(new ProteinInputWidgetBase)
     , m_id(id)
 {

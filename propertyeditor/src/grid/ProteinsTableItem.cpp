@@ -16,8 +16,24 @@ namespace orv {
 using namespace PropertyEditorJsonUtils;
 using namespace PropertyEditorStringConstants;
 
+namespace {
+
+/// The proteins of a cell; old ones stand in its first entry under any name.
+QJsonObject proteinsIn(const QJsonObject &cell)
+{
+    const QJsonArray entries = cell.value(PROPERTIES_KEY).toArray();
+    for (const auto entry : entries) {
+        if (findPropertyBackCompat(entry.toObject(), BaseItemType::Proteins) == PropertyId::Proteins)
+            return propValueObject(entry.toObject());
+    }
+    return propValueObject(entries.at(0).toObject());
+}
+
+} // namespace
+
 ProteinsTableItem::ProteinsTableItem(GridCommunicationManager *manager)
     : GridCommunicative(manager)
+    , IGridItem({PropertyId::Proteins})
     , m_widget(new ProteinOptionsWidget)
 {
     connect(m_widget->proteinTableWidget(), &ProteinTableWidget::proteinsChanged, this, [this] {
@@ -42,8 +58,7 @@ Error ProteinsTableItem::setContentInternal()
 {
     if (!m_widget)
         return notInitialized();
-    const QJsonObject value =
-        propValueObject(storedContent().value(PROPERTIES_KEY).toArray().at(0).toObject());
+    const QJsonObject value = proteinsIn(storedContent());
     Result<QList<ProteinAnnotationEntry>> annotations =
         ProteinAnnotationEntry::listFromJson(value.value(kProteinAnnotations).toArray());
     if (annotations.hasError())

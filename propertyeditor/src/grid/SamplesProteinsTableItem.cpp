@@ -28,6 +28,7 @@ QJsonArray childrenOf(const QJsonObject &node)
 
 SamplesProteinsTableItem::SamplesProteinsTableItem(GridCommunicationManager *manager)
     : GridCommunicative(manager)
+    , IGridItem({PropertyId::SamplesProteins})
     , m_widget(new CustomFieldsImportWidget)
     , m_controller(new CsvSamplesProteinsController(this))
 {

@@ -14,6 +14,7 @@ SamplesViewItem::SamplesViewItem(GridCommunicationManager *manager)
 
 SamplesViewItem::SamplesViewItem(GridCommunicationManager *manager, SamplesAndTracesInputWidget *widget)
     : GridCommunicative(manager)
+    , IGridItem({PropertyId::SamplesTable})
     , m_widget(widget)
 {
     connect(m_widget.get(), &SamplesAndTracesInputWidget::samplesChanged, this, &SamplesViewItem::announce);

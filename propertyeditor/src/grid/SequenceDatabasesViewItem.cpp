@@ -9,7 +9,8 @@ namespace orv {
 using PropertyEditor::SequenceDatabaseItems;
 
 SequenceDatabasesViewItem::SequenceDatabasesViewItem(SequenceDatabasesWidget *widget)
-    : m_widget(widget ? widget : new SequenceDatabasesWidget)
+    : IGridItem({PropertyId::SequenceDatabases})
+    , m_widget(widget ? widget : new SequenceDatabasesWidget)
 {
     QObject::connect(m_widget.get(), &SequenceDatabasesWidget::itemsChanged, edits(),
                      [this] { tellEdited(); });
@@ -38,6 +39,7 @@ Error SequenceDatabasesViewItem::setContentInternal()
     if (items.hasError())
         return items.ecatch();
     m_widget->setItems(*items);
+    m_shown = SequenceDatabaseItems::toJson(m_widget->items());
     return Error::NoError;
 }
 
@@ -45,7 +47,15 @@ QJsonObject SequenceDatabasesViewItem::content() const
 {
     if (!m_widget)
         return {};
-    return contentWith({{PropertyId::SequenceDatabases, SequenceDatabaseItems::toJson(m_widget->items())}});
+    const QJsonObject shown = SequenceDatabaseItems::toJson(m_widget->items());
+    // An older form stays until somebody edits it.
+    if (shown == m_shown)
+        return contentWith({});
+    QJsonObject value = PropertyEditorJsonUtils::propValueObject(
+        PropertyEditorJsonUtils::getPropertyWithType(storedContent(), PropertyId::SequenceDatabases));
+    for (auto member = shown.begin(); member != shown.end(); ++member)
+        value.insert(member.key(), member.value());
+    return contentWith({{PropertyId::SequenceDatabases, value}});
 }
 
 } // namespace orv

@@ -12,6 +12,7 @@
 #include <orv/widgets/ProteinOptionsWidget.h>
 #include <orv/widgets/ProteinTableWidget.h>
 #include <orv/widgets/SamplesAndTracesInputWidget.h>
+#include <orv/widgets/SequenceDatabasesWidget.h>
 
 #include <QDir>
 #include <QFile>
@@ -106,6 +107,11 @@ private Q_SLOTS:
     void newColumnsOfOligonucleotidesDont();
     void samplesTellWhatTheyWereBefore();
     void disulfidesFollowProteins();
+    void proteinsStandInTheirOwnEntry();
+    void proteinsOfAnotherNameAreRead();
+    void uneditedDatabasesStayAsTheyAre_data();
+    void uneditedDatabasesStayAsTheyAre();
+    void editedDatabasesKeepWhatIsUnknown();
     void glycansTellOfAReset();
     void presetsAreLoadedQuietly();
     void importsReachSamplesAndProteins();
@@ -366,6 +372,67 @@ void TableItemsTest::disulfidesFollowProteins()
     const QJsonObject told = recorder.messages.constFirst().value.toJsonObject();
     QCOMPARE(told.value(text("children")).toArray().size(), 1);
     QVERIFY(static_cast<DisulfideWidget *>(bonds.widget())->toPlainText().contains(text("P1")));
+}
+
+void TableItemsTest::proteinsStandInTheirOwnEntry()
+{
+    const QJsonObject table =
+        node({text("ProteinAccessionName"), text("ProteinSequence")}, {{text("P1"), text("ACDCK")}});
+    ProteinsTableItem item(nullptr);
+    item.setType(BaseItemType::Proteins);
+    const QJsonObject cell =
+        settingsCell("Proteins", {setting("Unheard", QJsonObject()), setting("Proteins", table)});
+    QVERIFY(!item.setContent(cell).hasError());
+    QVERIFY(bytes(valueIn(item.content(), "Proteins").toObject()).contains("ACDCK"));
+    QCOMPARE(valueIn(item.content(), "Unheard"), QJsonValue(QJsonObject()));
+}
+
+void TableItemsTest::proteinsOfAnotherNameAreRead()
+{
+    const QJsonObject table =
+        node({text("ProteinAccessionName"), text("ProteinSequence")}, {{text("P1"), text("ACDCK")}});
+    ProteinsTableItem item(nullptr);
+    item.setType(BaseItemType::Proteins);
+    item.setName(text("Column"));
+    const QJsonObject cell = settingsCell("Proteins", {setting("OldProteins", table)});
+    QVERIFY(!item.setContent(cell).hasError());
+    auto *widget = static_cast<ProteinOptionsWidget *>(item.widget());
+    QVERIFY(bytes(PropertyEditorJsonUtils::rowNodeToObject(widget->proteinTableWidget()->rowNode()))
+                .contains("ACDCK"));
+    QCOMPARE(item.content(), cell);
+}
+
+void TableItemsTest::uneditedDatabasesStayAsTheyAre_data()
+{
+    QTest::addColumn<QByteArray>("entry");
+    QTest::newRow("a path") << QByteArray(R"({"name":"DatabaseFile","value":"/data/a.fasta"})");
+    QTest::newRow("rows without members")
+        << QByteArray(R"({"name":"SequenceDatabases","value":{"sequences":[{"fasta":"/data/a.fasta"}]}})");
+    QTest::newRow("unknown members") << QByteArray(
+        R"({"name":"SequenceDatabases","value":{"later":1,"sequences":[]}})");
+}
+
+void TableItemsTest::uneditedDatabasesStayAsTheyAre()
+{
+    QFETCH(QByteArray, entry);
+    SequenceDatabasesViewItem item;
+    item.setType(BaseItemType::Database);
+    item.setName(text("Column"));
+    const QJsonObject cell = settingsCell("Database", {Documents::parse(entry)});
+    QVERIFY(!item.setContent(cell).hasError());
+    QCOMPARE(item.content(), cell);
+}
+
+void TableItemsTest::editedDatabasesKeepWhatIsUnknown()
+{
+    SequenceDatabasesViewItem item;
+    item.setType(BaseItemType::Database);
+    const QJsonObject value =
+        Documents::parse(R"({"later":1,"sequences":[{"fasta":"/data/a.fasta","id":1}]})");
+    QVERIFY(!item.setContent(settingsCell("Database", {setting("SequenceDatabases", value)})).hasError());
+    static_cast<SequenceDatabasesWidget *>(item.widget())->setItems({});
+    QCOMPARE(valueIn(item.content(), "SequenceDatabases"),
+             QJsonValue(Documents::parse(R"({"later":1,"sequences":[]})")));
 }
 
 void TableItemsTest::glycansTellOfAReset()

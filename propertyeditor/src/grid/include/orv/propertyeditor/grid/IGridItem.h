@@ -34,7 +34,8 @@ class ORV_PROPERTY_EDITOR_EXPORT IGridItem
 public:
     using ColumnDefinitions = QHash<QString, QMap<QString, QVariant>>;
 
-    IGridItem();
+    /// \a properties are those that the widget edits, for items that use contentWith().
+    explicit IGridItem(QList<PropertyId> properties = {});
     IGridItem(const IGridItem &other);
     IGridItem &operator=(const IGridItem &other);
     virtual ~IGridItem();
@@ -78,7 +79,8 @@ protected:
     [[nodiscard]] QHash<QString, QMetaType::Type> customColumnTypes() const;
     /// The table that the stored object has under \a id; an empty one if there is none.
     [[nodiscard]] RowNode rowNodeForType(PropertyId id) const;
-    /// The stored object with other values of its entries, stamped.
+    /// The stored object with other values of its entries, stamped. An entry that the cell lacks is added
+    /// once its value is another than right after the load.
     [[nodiscard]] QJsonObject contentWith(const QList<std::pair<PropertyId, QJsonObject>> &values) const;
     /// What setContentInternal gives without a widget.
     [[nodiscard]] static Error notInitialized();
@@ -87,11 +89,16 @@ protected:
     void tellEdited() const;
 
 private:
+    [[nodiscard]] bool hasEntry(PropertyId id) const;
+    void rememberUntouched();
+
     QJsonObject m_content;
     ColumnDefinitions m_customColumnDefinitions;
     BaseItemType m_type = BaseItemType::Unknown;
     QString m_name;
     bool m_isBeingSet = false;
+    QList<PropertyId> m_properties;
+    QHash<PropertyId, QJsonObject> m_untouched; ///< of the entries that the cell lacks
     std::unique_ptr<GridItemEdits> m_edits;
 };
 

@@ -29,6 +29,7 @@ protected:
 
 private:
     ItemWidget<SequenceDatabasesWidget> m_widget;
+    QJsonObject m_shown; ///< what the widget gave right after the load
 };
 
 } // namespace orv
