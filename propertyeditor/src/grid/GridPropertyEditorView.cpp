@@ -77,18 +77,11 @@ void GridPropertyEditorView::changeSet(KPropertySet *set, bool deleteOld)
     const QPointer<KPropertySet> old = d->set;
     const QPointer<GridPropertyEditorView> self(this);
     d->set = set;
+    // An editor that is open takes over what was typed, and whoever hears of it may close the view.
     d->editorView->changeSet(set, KPropertyEditorView::SetOption::None);
     if (set != old) {
-        if (old)
-            disconnect(old, &KPropertySet::propertyChanged, this, nullptr);
-        if (set) {
-            connect(set, &KPropertySet::propertyChanged, this, &GridPropertyEditorView::propertyChanged);
-            connect(set, &KPropertySet::propertyChanged, this, [this] {
-                if (!d->isQuiet)
-                    d->tellEdited();
-            });
-            Q_EMIT propertySetChanged(*set);
-        }
+        if (self)
+            d->listenTo(set, old);
         if (deleteOld)
             delete old;
     }
@@ -111,8 +104,10 @@ void GridPropertyEditorView::setPropertiesViewMode(PropertiesViewMode mode)
     if (d->set)
         d->updateVisibility(*d->set);
     const TreePlace place(*d->editorView);
+    const QPointer<GridPropertyEditorView> self(this);
     changeSet(d->set, false);
-    place.restore(d->editorView);
+    if (self)
+        place.restore(d->editorView);
 }
 
 GridPropertyEditorView::PropertiesViewMode GridPropertyEditorView::propertiesViewMode() const
@@ -181,6 +176,23 @@ bool GridPropertyEditorView::validate(QStringList *) const
     return true;
 }
 
+void GridPropertyEditorView::Private::listenTo(KPropertySet *next, KPropertySet *old)
+{
+    if (old)
+        disconnect(old, &KPropertySet::propertyChanged, q, nullptr);
+    if (!next)
+        return;
+    const QPointer<GridPropertyEditorView> self(q);
+    Q_EMIT q->propertySetChanged(*next);
+    if (!self || set != next)
+        return;
+    connect(next, &KPropertySet::propertyChanged, q, &GridPropertyEditorView::propertyChanged);
+    connect(next, &KPropertySet::propertyChanged, q, [this] {
+        if (!isQuiet)
+            tellEdited();
+    });
+}
+
 void GridPropertyEditorView::Private::tellEdited()
 {
     // Editors live in the viewport until the application is idle. They tell in the midst of a key or of
@@ -214,8 +226,12 @@ void GridPropertyEditorView::Private::updateVisibility(KPropertySet &properties)
 void GridPropertyEditorView::Private::rebuild(const QByteArray &current)
 {
     const TreePlace place(*editorView);
+    const QPointer<GridPropertyEditorView> self(q);
     editorView->changeSet(set, KPropertyEditorView::SetOption::None);
+    if (!self)
+        return;
     place.restore(editorView, current);
+    Q_EMIT q->contentEdited();
 }
 
 } // namespace orv

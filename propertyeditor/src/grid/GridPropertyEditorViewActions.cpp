@@ -1,4 +1,5 @@
 #include "GridPropertyEditorView_p.h"
+#include "ValueTransfer.h"
 
 #include <KProperty.h>
 #include <KPropertySet.h>
@@ -268,7 +269,6 @@ void GridPropertyEditorView::Private::addNewProperty()
     const QByteArray name = property->name();
     KPropertySetUtils::insertInKPropertySet(dialog->group(), property, set, -1);
     rebuild(name);
-    Q_EMIT q->contentEdited();
 }
 
 void GridPropertyEditorView::Private::modifyProperty()
@@ -309,7 +309,7 @@ void GridPropertyEditorView::Private::replaceProperty(KProperty *old, KProperty 
                                                       const QString &group)
 {
     prepare(property);
-    if (old->type() == property->type())
+    if (takesValueOf(*old, *property))
         property->setValue(old->value());
     const QByteArray name = property->name();
     const QString oldName = QString::fromUtf8(old->name());
@@ -317,7 +317,6 @@ void GridPropertyEditorView::Private::replaceProperty(KProperty *old, KProperty 
     set->removeProperty(old);
     KPropertySetUtils::insertInKPropertySet(group, property, set, place);
     rebuild(name);
-    Q_EMIT q->contentEdited();
 }
 
 void GridPropertyEditorView::Private::removeProperty()
@@ -327,7 +326,6 @@ void GridPropertyEditorView::Private::removeProperty()
         return;
     set->removeProperty(property);
     rebuild();
-    Q_EMIT q->contentEdited();
 }
 
 QString GridPropertyEditorView::getParametersFile(const QString &title, FileType type, QWidget *parent)

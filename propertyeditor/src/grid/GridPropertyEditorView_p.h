@@ -24,10 +24,13 @@ public:
     Q_DISABLE_COPY_MOVE(Private)
 
     void showButtons(bool isShown);
+    /// Tells of the new set and hears of its changes from then on.
+    void listenTo(KPropertySet *next, KPropertySet *old);
     /// Hides advanced properties in basic mode.
     void tellEdited();
     void updateVisibility(KPropertySet &properties) const;
-    /// Builds the tree of the same set anew; the person stays in place, or goes to the property \a current.
+    /// Builds the tree of the edited set anew and tells of the edit; the person stays in place, or goes to
+    /// the property \a current.
     void rebuild(const QByteArray &current = {});
 
     void openClicked();
