@@ -3,13 +3,17 @@
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/WflwAdvancedSettings.h>
 #include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/content/CellTypes.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/content/RawCell.h>
 #include <orv/propertyeditor/grid/GridItemManager.h>
 #include <orv/propertyeditor/grid/IGridItem.h>
 #include <orv/propertyeditor/grid/PropertySplitterWidget.h>
+#include <orv/propertyeditor/workflow/NewWorkflow.h>
 #include <orv/widgets/ModalDialog.h>
+#include <orv/widgets/SamplesAndTracesInputWidget.h>
+#include <orv/widgets/SequenceDatabasesWidget.h>
 
 #include <QHBoxLayout>
 #include <QInputDialog>
@@ -29,10 +33,39 @@ namespace {
 
 /// Narrower, names and values of settings are cut.
 constexpr int kMinimumColumnWidth = 400;
+constexpr qint64 kMostCopies = 1'000'000'000'000;
 
 QString gridTr(const char *text)
 {
     return QCoreApplication::translate("PropertyGridWidget", text);
+}
+
+Error wasRemoved()
+{
+    return Error(ErrorCode::InvalidContent, gridTr("The column was removed while it was added."));
+}
+
+/// A column of settings begins empty, and a table with its default rows.
+QJsonObject newCell(BaseItemType type)
+{
+    const PropertyEditor::CellType *row = PropertyEditor::CellTypes::find(type);
+    QJsonObject cell;
+    if (type == BaseItemType::Samples || type == BaseItemType::Database)
+        cell = NewWorkflow::defaultCell(type);
+    else if (row && !row->holdsSettings)
+        cell = PropertyEditorJsonUtils::defaultJsonContents(type);
+    cell.insert(TYPE_KEY, BaseItem::typeToString(type));
+    return cell;
+}
+
+void setBaseUrl(QWidget *widget, const QUrl &url)
+{
+    if (auto *view = qobject_cast<GridPropertyEditorView *>(widget))
+        view->setBaseUrlForRelativeUrls(url);
+    else if (auto *samples = qobject_cast<SamplesAndTracesInputWidget *>(widget))
+        samples->setBaseUrl(url);
+    else if (auto *databases = qobject_cast<SequenceDatabasesWidget *>(widget))
+        databases->setBaseUrl(url);
 }
 
 } // namespace
@@ -108,28 +141,47 @@ Result<IGridItem *> PropertyGridWidget::Private::createGridItem(const QVariant &
     const BaseItemType type = BaseItem::typeFromString(typeText);
     if (type == BaseItemType::Unknown && WflwAdvancedSettings::isWorkflowVerificationEnabled())
         return Error(ErrorCode::InvalidContent, gridTr("Type \"%1\" is not supported.").arg(typeText));
+    const QPointer<PropertyGridWidget> self(q);
     std::unique_ptr<IGridItem> item(GridItemManager::instance()->createItem(type, bus));
     if (!item) {
         return Error(ErrorCode::InvalidContent, gridTr("Can't create item for \"%1\" type.").arg(typeText));
     }
-    auto *view = qobject_cast<GridPropertyEditorView *>(item->widget());
-    if (view)
+    if (auto *view = qobject_cast<GridPropertyEditorView *>(item->widget()))
         view->setDocumentType(type);
+    // Other columns hear of the new one, and may close the grid.
     ORV_RETURN_IF_ERROR(item->setContent(*object));
-    if (QWidget *widget = item->widget()) {
-        widget->setMinimumWidth(kMinimumColumnWidth);
-        widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    }
+    if (!self)
+        return wasRemoved();
     IGridItem *adopted = item.release();
     items.append(adopted);
-    if (view)
-        view->setPropertiesViewMode(propertiesViewMode);
+    prepareWidget(adopted->widget());
     QObject::connect(adopted->edits(), &GridItemEdits::edited, q, &PropertyGridWidget::contentEdited);
-    const QPointer<PropertyGridWidget> self(q);
     Q_EMIT q->itemAdded();
     if (!self || !items.contains(adopted))
-        return Error(ErrorCode::InvalidContent, gridTr("The column was removed while it was added."));
+        return wasRemoved();
     return adopted;
+}
+
+void PropertyGridWidget::Private::prepareWidget(QWidget *widget) const
+{
+    if (!widget)
+        return;
+    widget->setMinimumWidth(kMinimumColumnWidth);
+    widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    if (auto *view = qobject_cast<GridPropertyEditorView *>(widget))
+        view->setPropertiesViewMode(propertiesViewMode);
+    if (!baseUrl.isEmpty())
+        setBaseUrl(widget, baseUrl);
+}
+
+void PropertyGridWidget::Private::updateBaseUrl(const QUrl &url)
+{
+    baseUrl = url;
+    QList<QPointer<QWidget>> widgets;
+    for (IGridItem *item : std::as_const(items))
+        widgets.append(item->widget());
+    for (const QPointer<QWidget> &widget : std::as_const(widgets))
+        setBaseUrl(widget, url);
 }
 
 Error PropertyGridWidget::Private::createAndAdoptGridItem(const QVariant &cell, const QString &name)
@@ -155,12 +207,14 @@ void PropertyGridWidget::Private::appendColumn(BaseItemType type, const QString 
     columnNames.append(name);
     if (!withDefaultContent)
         return;
-    QJsonObject cell = PropertyEditorJsonUtils::defaultJsonContents(type);
-    cell.insert(TYPE_KEY, BaseItem::typeToString(type));
     const QPointer<PropertyGridWidget> self(q);
-    if (Error failure = createAndAdoptGridItem(RawCell(cell).toVariant(), name))
+    if (Error failure = createAndAdoptGridItem(RawCell(newCell(type)).toVariant(), name)) {
+        qCCritical(propertyEditorLog).noquote()
+            << "Can't append the column" << name << ":" << failure.errorMessage();
         static_cast<void>(failure.ecatch());
-    else if (self)
+        return;
+    }
+    if (self)
         Q_EMIT q->contentEdited();
 }
 
@@ -172,13 +226,16 @@ void PropertyGridWidget::Private::removeColumn(int index)
     }
     const QPointer<PropertyGridWidget> self(q);
     const QPointer<QWidget> column = splitter->widget(index);
-    const std::unique_ptr<IGridItem> item(index < items.size() ? items.takeAt(index) : nullptr);
+    std::unique_ptr<IGridItem> item(index < items.size() ? items.takeAt(index) : nullptr);
     Q_EMIT q->itemRemoved();
     const int place = self && column ? splitter->indexOf(column) : -1;
     if (place < 0)
         return;
     column->setParent(nullptr);
     column->deleteLater();
+    item.reset();
+    if (!self)
+        return;
     if (place < columnNames.size())
         columnNames.removeAt(place);
     Q_EMIT q->contentEdited();
@@ -207,9 +264,13 @@ QString PropertyGridWidget::Private::nameOfCopy(const QString &name) const
     if (!columnNames.contains(copy))
         return copy;
     const QRegularExpression numbered(QRegularExpression::escape(copy) + QStringLiteral(" (\\d+)$"));
-    int last = 0;
-    for (const QString &existing : columnNames)
-        last = std::max(last, numbered.match(existing).captured(1).toInt());
+    qint64 last = 0;
+    for (const QString &existing : columnNames) {
+        const qint64 number = numbered.match(existing).captured(1).toLongLong();
+        // Nobody made as many copies: such a number is part of the name.
+        if (number < kMostCopies)
+            last = std::max(last, number);
+    }
     return copy + QStringLiteral(" %1").arg(last + 1);
 }
 

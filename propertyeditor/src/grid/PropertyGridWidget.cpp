@@ -106,16 +106,23 @@ bool PropertyGridWidget::validate(QStringList *warnings, QStringList *errors, QS
 void PropertyGridWidget::setPropertiesViewMode(GridPropertyEditorView::PropertiesViewMode mode)
 {
     d->propertiesViewMode = mode;
-    for (GridPropertyEditorView *view : d->views())
-        view->setPropertiesViewMode(mode);
+    const auto views = d->views();
+    for (const QPointer<GridPropertyEditorView> &view : views) {
+        if (view)
+            view->setPropertiesViewMode(mode);
+    }
 }
 
 void PropertyGridWidget::setEditorMode(EditorMode mode)
 {
     d->editorMode = mode;
-    for (GridPropertyEditorView *view : d->views())
-        view->setEditorMode(mode);
-    for (int i = 0; i < d->buttonsLayout->count(); ++i) {
+    const QPointer<PropertyGridWidget> self(this);
+    const auto views = d->views();
+    for (const QPointer<GridPropertyEditorView> &view : views) {
+        if (view)
+            view->setEditorMode(mode);
+    }
+    for (int i = 0; self && i < d->buttonsLayout->count(); ++i) {
         if (QWidget *widget = d->buttonsLayout->itemAt(i)->widget())
             widget->setVisible(mode == EditorMode::Designer);
     }
@@ -123,8 +130,7 @@ void PropertyGridWidget::setEditorMode(EditorMode mode)
 
 void PropertyGridWidget::updateBaseUrlForRelativeUrls(const QUrl &url)
 {
-    for (GridPropertyEditorView *view : d->views())
-        view->setBaseUrlForRelativeUrls(url);
+    d->updateBaseUrl(url);
 }
 
 QHBoxLayout *PropertyGridWidget::buttonsLayout() const

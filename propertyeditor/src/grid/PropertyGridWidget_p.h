@@ -27,6 +27,8 @@ public:
     void removeColumn(int index);
     void renameColumn(int index, const QString &name);
     void copyColumn(int index);
+    /// Of the views of now and of later.
+    void updateBaseUrl(const QUrl &url);
     [[nodiscard]] QList<QPointer<GridPropertyEditorView>> views() const;
 
     QSplitter *splitter;
@@ -40,6 +42,7 @@ public:
     GridPropertyEditorView::PropertiesViewMode propertiesViewMode =
         GridPropertyEditorView::PropertiesViewMode::Basic;
     GridPropertyEditorView::EditorMode editorMode = GridPropertyEditorView::EditorMode::Designer;
+    QUrl baseUrl;
     Error error;
 
 private:
@@ -53,6 +56,7 @@ private:
 
     Result<QJsonObject> parsedCell(const QVariant &cell) const;
     Result<IGridItem *> createGridItem(const QVariant &cell);
+    void prepareWidget(QWidget *widget) const;
     Error createAndAdoptGridItem(const QVariant &cell, const QString &name);
 
     PropertyGridWidget *q;

@@ -66,6 +66,15 @@ struct Parts
     int added = 0;
 };
 
+/// Closes the grid as soon as another column speaks.
+class Closer : public GridCommunicative
+{
+public:
+    using GridCommunicative::GridCommunicative;
+    void messageReceived(const GridMessage &) override { delete grid; }
+    QPointer<PropertyGridWidget> grid;
+};
+
 enum class Victim
 {
     Widget,
@@ -87,6 +96,9 @@ private Q_SLOTS:
     void partsGoInEveryOrder();
     void whoHearsOfAnEditMayDestroy_data();
     void whoHearsOfAnEditMayDestroy();
+    void aRemovedItemIsGoneWhenTheEditIsTold();
+    void whoHearsOfAColumnBeingFilledMayCloseTheGrid();
+    void whoHearsOfANewSetMayCloseTheView();
     void whoHearsOfAnEditedGridMayCloseIt_data();
     void whoHearsOfAnEditedGridMayCloseIt();
 };
@@ -196,6 +208,42 @@ void LifetimesTest::whoHearsOfAnEditedGridMayCloseIt()
     }
     QVERIFY2(!grid, "Nothing was edited");
     QCoreApplication::processEvents();
+}
+
+void LifetimesTest::aRemovedItemIsGoneWhenTheEditIsTold()
+{
+    const auto made = PropertyGridWidget::create({text("A"), text("B")},
+                                                 {cellOf(karvonCell("A")), cellOf(karvonCell("B"))});
+    QVERIFY(!made.hasError());
+    PropertyGridWidget *grid = made->get();
+    const QPointer<GridItemEdits> removed = grid->items().at(1)->edits();
+    bool isGone = false;
+    connect(grid, &PropertyGridWidget::contentEdited, this, [&] { isGone = removed.isNull(); });
+    grid->removeColumn(1);
+    QVERIFY(isGone);
+}
+
+void LifetimesTest::whoHearsOfAColumnBeingFilledMayCloseTheGrid()
+{
+    const WholeWorkflow::HostManager manager;
+    auto made = PropertyGridWidget::create({}, {});
+    QVERIFY(!made.hasError());
+    QPointer<PropertyGridWidget> grid = std::move(made).value().release();
+    Closer closer(manager.communicationManager());
+    closer.grid = grid;
+    const LogCapture log;
+    grid->appendColumn(BaseItemType::Samples, text("New"), true);
+    QVERIFY(!grid);
+    QVERIFY(log.texts(QtCriticalMsg).value(0).contains(text("The column was removed while it was added.")));
+}
+
+void LifetimesTest::whoHearsOfANewSetMayCloseTheView()
+{
+    QPointer<GridPropertyEditorView> view = new GridPropertyEditorView;
+    view->setDocumentType(BaseItemType::Karvon);
+    connect(view, &GridPropertyEditorView::propertySetChanged, this, [view] { delete view; });
+    QVERIFY(!view->setPropertiesFromSerializedJson(bytes(karvonCell())).hasError());
+    QVERIFY(!view);
 }
 
 WIDGET_REGISTER_TEST(LifetimesTest)

@@ -415,6 +415,10 @@ void PropertyGridWidgetTest::columnsAreCopied_data()
     QTest::newRow("second") << text("A,A - copy") << 0 << text("A - copy 1");
     QTest::newRow("third") << text("A,A - copy,A - copy 1") << 0 << text("A - copy 2");
     QTest::newRow("behind the largest") << text("A,A - copy,A - copy 7") << 0 << text("A - copy 8");
+    QTest::newRow("behind the largest int")
+        << text("A,A - copy,A - copy 2147483647") << 0 << text("A - copy 2147483648");
+    QTest::newRow("a number beyond all copies")
+        << text("A,A - copy,A - copy 9223372036854775807") << 0 << text("A - copy 1");
     QTest::newRow("of a copy") << text("A,A - copy") << 1 << text("A - copy - copy");
     QTest::newRow("of another case") << text("A,a - copy") << 0 << text("A - copy");
     QTest::newRow("with signs of patterns") << text("A (1)+,A (1)+ - copy") << 0 << text("A (1)+ - copy 1");

@@ -61,6 +61,7 @@ public:
 
     void setPropertiesViewMode(GridPropertyEditorView::PropertiesViewMode mode);
     void setEditorMode(GridPropertyEditorView::EditorMode mode);
+    /// Where relative files of the columns lie, of these and of those that come later.
     void updateBaseUrlForRelativeUrls(const QUrl &url);
     /// The row above the columns, which designers see.
     [[nodiscard]] QHBoxLayout *buttonsLayout() const;
