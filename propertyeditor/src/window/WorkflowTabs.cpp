@@ -6,8 +6,6 @@
 #include <orv/propertyeditor/grid/GridCommunicative.h>
 #include <orv/propertyeditor/grid/IGridItem.h>
 #include <orv/propertyeditor/grid/PropertyGridWidget.h>
-#include <orv/widgets/SamplesAndTracesInputWidget.h>
-#include <orv/widgets/SequenceDatabasesWidget.h>
 
 namespace orv {
 
@@ -189,12 +187,6 @@ void WorkflowTabs::setBaseUrl(const QUrl &url)
 void WorkflowTabs::setBaseUrl(PropertyGridWidget &grid, const QUrl &url)
 {
     grid.updateBaseUrlForRelativeUrls(url);
-    for (IGridItem *item : grid.items()) {
-        if (auto *samples = qobject_cast<SamplesAndTracesInputWidget *>(item->widget()))
-            samples->setBaseUrl(url);
-        else if (auto *databases = qobject_cast<SequenceDatabasesWidget *>(item->widget()))
-            databases->setBaseUrl(url);
-    }
 }
 
 void WorkflowTabs::collapseAll()

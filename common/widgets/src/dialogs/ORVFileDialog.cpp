@@ -123,7 +123,7 @@ QString ORVFileDialog::getSaveFileName(QWidget *parent, const QString &title, co
 {
     const FileQuestion question = {DialogRequest::Kind::SaveFile, title, startOf(startPath, location), filter,
                                    location};
-    const QString path = askForPath(parent, question, [&](QFileDialog &dialog) {
+    QString path = askForPath(parent, question, [&](QFileDialog &dialog) {
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         dialog.setFileMode(QFileDialog::AnyFile);
         dialog.setOption(QFileDialog::DontConfirmOverwrite, prompt == OverwritePrompt::Off);
