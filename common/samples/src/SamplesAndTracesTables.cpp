@@ -11,8 +11,6 @@
 #include <QCoreApplication>
 #include <QPointer>
 
-#include <QPointer>
-
 #include <algorithm>
 #include <limits>
 
