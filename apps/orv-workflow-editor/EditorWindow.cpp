@@ -165,8 +165,11 @@ void EditorWindow::run(const PropertyEditor::Content &content, const Path &outpu
                            QMessageBox::NoButton, outcome.error.details().join(u'\n'));
     }
     if (self && !outcome.kept.isEmpty()) {
-        ORVStyle::information(this, tr("Project creation"),
-                              tr("There is a run already, and it was kept: %1").arg(outcome.kept));
+        ORVStyle::information(
+            this, tr("Project creation"),
+            tr("There is a run already, and it was kept: %1\nTo make another one, choose to keep "
+               "both, or another name.")
+                .arg(outcome.kept));
     }
     if (self)
         Q_EMIT projectCreationFinished(outcome.error, outcome.folders, clock.elapsed());

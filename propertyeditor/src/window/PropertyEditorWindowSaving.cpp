@@ -123,7 +123,8 @@ void PropertyEditorWindow::reload(const PropertyEditorContent &written, const QS
         if (self) {
             ORVStyle::critical(
                 this, {},
-                tr("The workflow was saved, and can't be shown again: %1").arg(error.errorMessage()));
+                tr("The workflow was saved, and can't be shown again: %1\nOpen it from its file: %2")
+                    .arg(error.errorMessage(), path));
         }
         return;
     }

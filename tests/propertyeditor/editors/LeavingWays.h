@@ -54,7 +54,7 @@ inline const QList<Way> &all()
 }
 
 /// The name cell of a property's row, also of a child's; invalid where it isn't shown.
-inline QModelIndex rowOf(const KPropertyEditorView &view, const QByteArray &name,
+inline QModelIndex rowOf(const QAbstractItemView &view, const QByteArray &name,
                          const QModelIndex &parent = {})
 {
     const QAbstractItemModel &model = *view.model();

@@ -7,6 +7,8 @@
 #include <orv/propertyeditor/grid/PropertyGridWidget.h>
 
 #include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
 
 using namespace orv;
 using namespace GridFixture;
@@ -33,6 +35,8 @@ bool editSomething(const IGridItem &item, QWidget *widget)
     QObject context;
     QObject::connect(item.edits(), &GridItemEdits::edited, &context, [&] { isEdited = true; });
     const PersonActs::Blunt answers(true);
+    // What an earlier test has copied must not decide what this one pastes.
+    QGuiApplication::clipboard()->setText(text("Monosaccharide\tHexose\tC6H10O5"));
     const QJsonObject before = item.content();
     for (int round = 0; round < 2; ++round) {
         for (const PersonActs::Act &act : PersonActs::actsOf(widget)) {
@@ -190,8 +194,7 @@ void AddedColumnsTest::cellsWithoutTheirEntry()
                            {text("properties"), QJsonArray{other}}};
     const std::unique_ptr<IGridItem> item(manager.createItem(kind));
     const Error error = item->setContent(cell);
-    if (error.hasError())
-        QSKIP(qPrintable(error.errorMessage()));
+    QVERIFY2(!error.hasError(), qPrintable(error.errorMessage()));
     item->setName(text("Column"));
     QCoreApplication::processEvents();
     QCOMPARE(item->content(), cell);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Documents.h"
+#include "editors/LeavingWays.h"
 
 #include <KProperty.h>
 #include <KPropertySet.h>
@@ -76,18 +77,9 @@ inline QJsonValue valueIn(const QJsonObject &cell, const char *name)
 }
 
 /// The row of a property in the tree; invalid where it isn't shown.
-inline QModelIndex indexOf(const QAbstractItemView &view, const char *name, const QModelIndex &parent = {})
+inline QModelIndex indexOf(const QAbstractItemView &view, const char *name)
 {
-    const QAbstractItemModel &model = *view.model();
-    for (int row = 0; row < model.rowCount(parent); ++row) {
-        const QModelIndex index = model.index(row, 0, parent);
-        const KProperty *property = KPropertyUtils::propertyForIndex(index);
-        if (property && property->name() == name)
-            return index;
-        if (const QModelIndex found = indexOf(view, name, index); found.isValid())
-            return found;
-    }
-    return {};
+    return LeavingWays::rowOf(view, name);
 }
 
 inline QComboBox *combo(const QDialog &dialog, const char *name)

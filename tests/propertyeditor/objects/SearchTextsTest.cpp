@@ -223,7 +223,7 @@ void SearchTextsTest::glycansShowAbsolutePaths()
 {
     Row row(kindOf(Editor::Glycans));
     PropertyEditorUtils::updateGlycanPropertyWithAbsolutePath(&row.property(),
-                                                              QUrl(text("file:///work/study")));
+                                                              QUrl(text("file:///lab/study")));
     ScriptedAnswerer answers;
     QString shown;
     answers.expectDialog(text("Glycans"), [&](QDialog &dialog) {
@@ -231,7 +231,7 @@ void SearchTextsTest::glycansShowAbsolutePaths()
         return typeAtEnd(dialog, textOf(dialog), text("% end")) && pressOk(dialog);
     });
     QVERIFY(row.pressButton());
-    const QString absolute = text("[file:///work/study/data/n_glycans.txt]\n% Custom glycan text below\n"
+    const QString absolute = text("[file:///lab/study/data/n_glycans.txt]\n% Custom glycan text below\n"
                                   "HexNAc(2)Hex(5) @ NGlycan | rare1\n");
     QCOMPARE(shown, absolute);
     QCOMPARE(row.stored()[text("glycans")].toString(), absolute + text("% end"));
@@ -241,7 +241,7 @@ void SearchTextsTest::untouchedGlycansStayRelative()
 {
     Row row(kindOf(Editor::Glycans));
     PropertyEditorUtils::updateGlycanPropertyWithAbsolutePath(&row.property(),
-                                                              QUrl(text("file:///work/study")));
+                                                              QUrl(text("file:///lab/study")));
     AcceptingAnswerer answers;
     QVERIFY(row.pressButton());
     QCOMPARE(answers.dialogs, 1);

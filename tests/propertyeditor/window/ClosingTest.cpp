@@ -20,6 +20,21 @@ void editSamples(Window &window, const QString &samples)
     view->propertySet()->property("Samples").setValue(samples);
 }
 
+/// A window with a search that was read from a file.
+struct Opened
+{
+    Opened()
+    {
+        window.show();
+        if (window.openWorkflow(write(folder, "a.wflw", documentOf({karvonCell()}))) != kOpened)
+            qFatal("The fixture doesn't open");
+    }
+
+    QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    Window window;
+};
+
 } // namespace
 
 class ClosingTest : public WidgetTest
@@ -50,58 +65,42 @@ void ClosingTest::newWindowsCloseAtOnce()
 
 void ClosingTest::unchangedDocumentsCloseAtOnce()
 {
-    const QTemporaryDir folder;
-    const ScriptedAnswerer answers;
-    Window window;
-    window.show();
-    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", documentOf({karvonCell()}))), kOpened);
-    QVERIFY(window.close());
-    QVERIFY(answers.transcript().isEmpty());
+    Opened opened;
+    QVERIFY(opened.window.close());
+    QVERIFY(opened.answers.transcript().isEmpty());
 }
 
 void ClosingTest::changesAreAskedFor()
 {
-    const QTemporaryDir folder;
-    ScriptedAnswerer answers;
-    Window window;
-    window.show();
-    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", documentOf({karvonCell()}))), kOpened);
-    editSamples(window, u"one"_s);
-    answers.expectBox(u"Unsaved changes"_s, u"No"_s);
-    QVERIFY(window.close());
-    QCOMPARE(transcriptOf(answers),
+    Opened opened;
+    editSamples(opened.window, u"one"_s);
+    opened.answers.expectBox(u"Unsaved changes"_s, u"No"_s);
+    QVERIFY(opened.window.close());
+    QCOMPARE(transcriptOf(opened.answers),
              QStringList{u"question | Unsaved changes | There are some unsaved changes. Do you want to "
                          "save ? | Yes [No]"_s});
 }
 
 void ClosingTest::savingWhileClosing()
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"b.wflw"_s);
-    ScriptedAnswerer answers;
-    Window window;
-    window.show();
-    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", documentOf({karvonCell()}))), kOpened);
-    editSamples(window, u"one"_s);
-    answers.expectBox(u"Unsaved changes"_s, u"Yes"_s);
-    answers.expectPath(u"Save Workflow"_s, path);
-    QVERIFY(window.close());
-    QVERIFY(!window.isVisible());
+    Opened opened;
+    const QString path = opened.folder.filePath(u"b.wflw"_s);
+    editSamples(opened.window, u"one"_s);
+    opened.answers.expectBox(u"Unsaved changes"_s, u"Yes"_s);
+    opened.answers.expectPath(u"Save Workflow"_s, path);
+    QVERIFY(opened.window.close());
+    QVERIFY(!opened.window.isVisible());
     QVERIFY(TestData::read(path).contains("\"one\""));
 }
 
 void ClosingTest::cancelledSavesCloseAllTheSame()
 {
-    const QTemporaryDir folder;
-    ScriptedAnswerer answers;
-    Window window;
-    window.show();
-    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", documentOf({karvonCell()}))), kOpened);
-    editSamples(window, u"one"_s);
-    answers.expectBox(u"Unsaved changes"_s, u"Yes"_s);
-    answers.expectPath(u"Save Workflow"_s, {});
-    QVERIFY(window.close());
-    QVERIFY(answers.isDone());
+    Opened opened;
+    editSamples(opened.window, u"one"_s);
+    opened.answers.expectBox(u"Unsaved changes"_s, u"Yes"_s);
+    opened.answers.expectPath(u"Save Workflow"_s, {});
+    QVERIFY(opened.window.close());
+    QVERIFY(opened.answers.isDone());
 }
 
 void ClosingTest::tabsWithoutAFileAreChanges()
