@@ -471,18 +471,18 @@ void SamplesAndTracesInputWidget::tellSoon()
 {
     if (d->calls > 0 || std::exchange(d->isTelling, true))
         return;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            const QPointer<SamplesAndTracesInputWidget> self(this);
-            const bool isEdited = std::exchange(d->isEdited, false);
-            d->isTelling = false;
-            if (std::exchange(d->haveSamplesChanged, false))
-                Q_EMIT samplesChanged(samplesInput());
-            if (self && isEdited)
-                Q_EMIT edited();
-        },
-        Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &SamplesAndTracesInputWidget::tell, Qt::QueuedConnection);
+}
+
+void SamplesAndTracesInputWidget::tell()
+{
+    const QPointer<SamplesAndTracesInputWidget> self(this);
+    const bool isEdited = std::exchange(d->isEdited, false);
+    d->isTelling = false;
+    if (std::exchange(d->haveSamplesChanged, false))
+        Q_EMIT samplesChanged(samplesInput());
+    if (self && isEdited)
+        Q_EMIT edited();
 }
 
 void SamplesAndTracesInputWidget::say(const QString &text)

@@ -78,6 +78,7 @@ private:
     void showNotice(const Error &error);
     void hear();
     void tellSoon();
+    void tell();
     void say(const QString &text);
     [[nodiscard]] QString noteOnSample(quint32 row, int column) const;
 
