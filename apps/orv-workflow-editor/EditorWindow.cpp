@@ -5,6 +5,7 @@
 
 #include <orv/core/Settings.h>
 #include <orv/propertyeditor/window/PropertyEditorDirLocations.h>
+#include <orv/propertyeditor/workbench/Workbench.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
 #include <orv/widgets/CoreMainWindow.h>
 #include <orv/widgets/ORVFileDialog.h>
@@ -46,6 +47,7 @@ EditorWindow::EditorWindow(CoreMainWindow *mainWindow)
     setAttribute(Qt::WA_DeleteOnClose);
     setAcceptDrops(true);
     buildFileMenu();
+    new Workbench(this);
     buildHelpMenu();
     restoreGeometry(as::value(kGeometry).toByteArray());
     connect(this, &PropertyEditorWindow::sendToProcessing, this, &EditorWindow::run);

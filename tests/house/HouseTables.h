@@ -34,6 +34,7 @@ inline constexpr std::array kFloors = {
     Floor{"propertyeditor/src/grid/", 51, "grid"},
     Floor{"propertyeditor/src/editors/objects/", 52, "objects"},
     Floor{"propertyeditor/src/window/", 53, "window"},
+    Floor{"propertyeditor/src/workbench/", 54, "workbench"},
     Floor{"apps/", 60, "apps"},
 };
 // clang-format on

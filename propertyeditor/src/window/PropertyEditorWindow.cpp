@@ -63,6 +63,16 @@ bool PropertyEditorWindow::designerModeEnabled()
     return PropertyEditorWindowPrivate::designerModeEnabled();
 }
 
+WorkflowTabs *PropertyEditorWindow::workflowTabs() const
+{
+    return d->m_tabs;
+}
+
+QString PropertyEditorWindow::workflowFilePath() const
+{
+    return d->workflowFilePath();
+}
+
 QToolBar *PropertyEditorWindow::toolBar() const
 {
     return d->m_form->toolBar;
@@ -271,8 +281,10 @@ void PropertyEditorWindow::openWorkflowProperties()
 {
     ModalDialog dialog(new WorkflowPropertiesDialog(d->workflowMetadata(), this));
     dialog->setDesignerModeEnabled(d->m_tabs->editorMode() == EditorMode::Designer);
-    if (dialog.exec())
-        d->setWorkflowMetadata(dialog->metaData());
+    if (!dialog.exec())
+        return;
+    d->setWorkflowMetadata(dialog->metaData());
+    Q_EMIT metadataEdited();
 }
 
 PropertyEditorContent PropertyEditorWindow::content() const
@@ -299,6 +311,8 @@ void PropertyEditorWindow::clear()
         return;
     d->m_lost.clear();
     d->setWorkflowFilePath(QLatin1String(""));
+    if (!d->m_isReloading)
+        Q_EMIT documentShown();
 }
 
 void PropertyEditorWindow::createEmptyWorkflow()

@@ -337,7 +337,9 @@ Error PropertyEditorWindow::setContent(const PropertyEditorContent &content)
     d->m_lost = lost;
     d->updateLastSavedWorkflow();
     d->connectGridWidgets();
-    return Error::NoError;
+    if (!d->m_isReloading)
+        Q_EMIT documentShown();
+    return self ? Error::NoError : gone();
 }
 
 } // namespace orv

@@ -114,28 +114,41 @@ void PropertyEditorWindow::reload(const PropertyEditorContent &written, const QS
 {
     const QPointer<PropertyEditorWindow> self(this);
     const int tab = d->m_form->tabWidget->currentIndex();
+    d->m_isReloading = true;
     clear();
     if (!self)
         return;
-    if (const Error error = setContent(written)) {
-        qCCritical(propertyEditorLog).noquote()
-            << "What was saved can't be shown" << path << error.errorMessage();
-        if (self) {
-            ORVStyle::critical(
-                this, {},
-                tr("The workflow was saved, and can't be shown again: %1\nOpen it from its file: %2")
-                    .arg(error.errorMessage(), path));
-        }
+    const Error error = setContent(written);
+    if (!self) {
+        qCCritical(propertyEditorLog).noquote() << "The window went away while it was saved" << path;
         return;
     }
-    if (!self)
+    d->m_isReloading = false;
+    if (error.hasError()) {
+        tellNotShownAgain(error, path);
         return;
+    }
     d->m_form->tabWidget->setCurrentIndex(tab);
     d->setWorkflowMetadata(written.metadata());
     d->setWorkflowFilePath(path);
     d->updateBaseUrlForRelativeUrls();
     d->collapseAllKPropertyViews();
     d->updateLastSavedWorkflow();
+    Q_EMIT documentSaved();
+}
+
+void PropertyEditorWindow::tellNotShownAgain(const Error &error, const QString &path)
+{
+    const QPointer<PropertyEditorWindow> self(this);
+    qCCritical(propertyEditorLog).noquote()
+        << "What was saved can't be shown" << path << error.errorMessage();
+    Q_EMIT documentShown();
+    if (self) {
+        ORVStyle::critical(
+            this, {},
+            tr("The workflow was saved, and can't be shown again: %1\nOpen it from its file: %2")
+                .arg(error.errorMessage(), path));
+    }
 }
 
 void PropertyEditorWindow::commitTyping()

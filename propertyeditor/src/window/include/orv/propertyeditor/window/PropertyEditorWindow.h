@@ -25,6 +25,7 @@ namespace orv {
 
 class PropertyEditorWindowJsonFile;
 class PropertyEditorWindowPrivate;
+class WorkflowTabs;
 
 namespace PropertyEditor {
 class AbstractValidator;
@@ -57,6 +58,11 @@ public:
     [[nodiscard]] static PropertyEditorWindow *currentInstance();
     /// Whether this user designs workflows: the setting "MIREL/EnableDesignerMode".
     [[nodiscard]] static bool designerModeEnabled();
+
+    /// Lives as long as the window.
+    [[nodiscard]] WorkflowTabs *workflowTabs() const;
+    /// Null for a new workflow, empty once the window was cleared.
+    [[nodiscard]] QString workflowFilePath() const;
 
     /// Nothing can be made of the workflow any more; for the rest of the window's life.
     void setReadOnly();
@@ -105,6 +111,12 @@ public Q_SLOTS:
     void updateSystemWorkflowsButton();
 
 Q_SIGNALS:
+    /// Another document is in the tabs, or none.
+    void documentShown();
+    /// The document was written to its file, from which the tabs were filled anew.
+    void documentSaved();
+    /// A person changed the workflow's own properties.
+    void metadataEdited();
     /// For applications: a project that was made is to be opened.
     void openProject(QString filePath);
     /// A checked workflow with absolute paths is to be run, with results at \a outputPath.
@@ -166,6 +178,7 @@ private:
     [[nodiscard]] Result<PropertyEditor::Content> contentForHandOver(const QString &title);
     [[nodiscard]] bool isJavaUsable();
     void reload(const PropertyEditorContent &written, const QString &path);
+    void tellNotShownAgain(const Error &error, const QString &path);
     [[nodiscard]] bool hasUnsavedChanges() const;
 
     const std::unique_ptr<PropertyEditorWindowPrivate> d;

@@ -148,6 +148,7 @@ private:
     QStringList m_lostInReading; ///< of the document that is about to be opened
     QStringList m_lost;          ///< what the document on the screen lacks of the one that was loaded
     bool m_projectCreationStarted = false;
+    bool m_isReloading = false; ///< the same document, behind its saving
 };
 
 } // namespace orv

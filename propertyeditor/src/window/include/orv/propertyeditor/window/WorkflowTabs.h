@@ -35,6 +35,9 @@ public:
     /// \a tabs shows them, and outlives this.
     explicit WorkflowTabs(EditableTabWidget *tabs, QObject *parent = nullptr);
 
+    /// What shows them.
+    [[nodiscard]] EditableTabWidget *widget() const { return m_tabs; }
+
     /// Is called with each grid before its tab is there.
     void setPrepare(const Prepare &prepare) { m_prepare = prepare; }
 

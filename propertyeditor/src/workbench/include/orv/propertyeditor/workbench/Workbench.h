@@ -1,0 +1,45 @@
+#pragma once
+
+#include <orv/widgets/Export.h>
+
+#include <QObject>
+
+QT_FORWARD_DECLARE_CLASS(QAction)
+QT_FORWARD_DECLARE_CLASS(QDockWidget)
+QT_FORWARD_DECLARE_CLASS(QMenu)
+
+namespace orv {
+
+class PropertyEditorWindow;
+
+/// Menus and panels around a document window: Edit and View, behind the menus that are there already. A child
+/// of its window. GUI thread.
+/// \code
+///     buildFileMenu();
+///     new Workbench(this);
+///     buildHelpMenu();
+/// \endcode
+class ORV_PROPERTY_EDITOR_EXPORT Workbench : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Workbench(PropertyEditorWindow *window);
+    ~Workbench() override;
+
+    /// Owned by the window, as are the other menus.
+    [[nodiscard]] QMenu *editMenu() const { return m_editMenu; }
+    [[nodiscard]] QMenu *viewMenu() const { return m_viewMenu; }
+
+    /// A panel that is closed at first, opened from the View menu by \a shortcut or by the code that has
+    /// something to show. Takes \a widget over; \a name is its object name, under which its place is kept.
+    QDockWidget *addPanel(QWidget *widget, const QString &name, const QString &title, Qt::DockWidgetArea area,
+                          const QKeySequence &shortcut = {});
+
+private:
+    PropertyEditorWindow *const m_window;
+    QMenu *m_editMenu;
+    QMenu *m_viewMenu;
+};
+
+} // namespace orv

@@ -1,0 +1,79 @@
+#include "WidgetTest.h"
+#include "WindowFixture.h"
+
+#include <orv/propertyeditor/workbench/Workbench.h>
+
+#include <QDockWidget>
+#include <QLabel>
+#include <QMenuBar>
+#include <QSignalSpy>
+
+using namespace orv;
+using namespace WindowFixture;
+using namespace Qt::StringLiterals;
+
+class WorkbenchTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void menusStandBehindThoseThatAreThere();
+    void panelsOpenFromTheViewMenu();
+    void documentsAreTold();
+    void savedDocumentsAreTold();
+};
+
+void WorkbenchTest::menusStandBehindThoseThatAreThere()
+{
+    Window window;
+    window.menuBar()->addMenu(u"&File"_s);
+    new Workbench(&window);
+    window.menuBar()->addMenu(u"&Help"_s);
+    QStringList titles;
+    for (const QAction *menu : window.menuBar()->actions())
+        titles.append(menu->text());
+    QCOMPARE(titles, QStringList({u"&File"_s, u"&Edit"_s, u"&View"_s, u"&Help"_s}));
+}
+
+void WorkbenchTest::panelsOpenFromTheViewMenu()
+{
+    Window window;
+    auto *workbench = new Workbench(&window);
+    const QDockWidget *panel =
+        workbench->addPanel(new QLabel(u"Nothing was found."_s), u"findings"_s, u"Findings"_s,
+                            Qt::BottomDockWidgetArea, QKeySequence(Qt::CTRL | Qt::Key_7));
+    window.show();
+    QVERIFY(!panel->isVisible());
+    QTest::keyClick(&window, Qt::Key_7, Qt::ControlModifier);
+    QVERIFY(panel->isVisible());
+    QCOMPARE(workbench->viewMenu()->actions().constFirst()->text(), u"Findings"_s);
+    QTest::keyClick(&window, Qt::Key_7, Qt::ControlModifier);
+    QVERIFY(!panel->isVisible());
+}
+
+void WorkbenchTest::documentsAreTold()
+{
+    Window window;
+    const QSignalSpy shown(&window, &PropertyEditorWindow::documentShown);
+    QCOMPARE(window.openWorkflow(documentOf({karvonCell()})), kOpened);
+    QVERIFY(!shown.isEmpty());
+    const auto before = shown.size();
+    window.clear();
+    QCOMPARE(shown.size(), before + 1);
+}
+
+void WorkbenchTest::savedDocumentsAreTold()
+{
+    const QTemporaryDir folder;
+    Window window;
+    QCOMPARE(window.openWorkflow(documentOf({karvonCell()})), kOpened);
+    const QSignalSpy shown(&window, &PropertyEditorWindow::documentShown);
+    const QSignalSpy saved(&window, &PropertyEditorWindow::documentSaved);
+    QVERIFY(window.saveWorkflowToJSON(folder.filePath(u"saved.wflw"_s)));
+    QCOMPARE(saved.size(), 1);
+    QCOMPARE(shown.size(), 0);
+    QCOMPARE(window.workflowFilePath(), folder.filePath(u"saved.wflw"_s));
+}
+
+WIDGET_REGISTER_TEST(WorkbenchTest)
+#include "WorkbenchTest.moc"
