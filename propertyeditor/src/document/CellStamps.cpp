@@ -57,12 +57,6 @@ QJsonArray restoredCells(QJsonArray cells, const QJsonArray &source)
     return cells;
 }
 
-QJsonObject withoutStamp(QJsonObject cell)
-{
-    cell.remove(META_IN_JSON_KEY);
-    return cell;
-}
-
 } // namespace
 
 void reportUnreadable(const QJsonObject &object, const LoadContext &cell)
@@ -106,9 +100,15 @@ QJsonObject restored(QJsonObject document, const QJsonObject &source)
     return document;
 }
 
+QJsonObject without(QJsonObject cell)
+{
+    cell.remove(META_IN_JSON_KEY);
+    return cell;
+}
+
 bool differsInStampAlone(const QJsonObject &cell, const QJsonObject &other)
 {
-    return withoutStamp(cell) == withoutStamp(other);
+    return without(cell) == without(other);
 }
 
 } // namespace orv::CellStamps

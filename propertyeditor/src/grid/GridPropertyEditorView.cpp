@@ -1,7 +1,7 @@
 #include "orv/propertyeditor/grid/GridPropertyEditorView.h"
 
 #include "GridPropertyEditorView_p.h"
-#include "TreePlace.h"
+#include "orv/propertyeditor/grid/TreePlace.h"
 
 #include <KProperty.h>
 #include <KPropertySet.h>

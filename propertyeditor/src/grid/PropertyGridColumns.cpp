@@ -301,16 +301,35 @@ void PropertyGridWidget::Private::copyColumn(int index)
     Q_EMIT q->contentEdited();
 }
 
-void PropertyGridWidget::Private::moveColumn(int index, int by)
+void PropertyGridWidget::Private::moveColumn(int from, int to)
 {
-    const int target = index + by;
     const qsizetype count = std::min({qsizetype(splitter->count()), items.size(), columnNames.size()});
-    if (index < 0 || index >= count || target < 0 || target >= count)
+    if (from < 0 || from >= count || to < 0 || to >= count || from == to)
         return;
-    splitter->insertWidget(target, splitter->widget(index));
-    columnNames.move(index, target);
-    items.move(index, target);
+    splitter->insertWidget(to, splitter->widget(from));
+    columnNames.move(from, to);
+    items.move(from, to);
     Q_EMIT q->contentEdited();
+}
+
+Error PropertyGridWidget::Private::insertColumn(int index, const QString &name, const QVariant &cell)
+{
+    const QPointer<PropertyGridWidget> self(q);
+    columnNames.append(name);
+    Error failure = createAndAdoptGridItem(cell, name);
+    if (!self)
+        return failure.ecatch();
+    if (failure.hasError()) {
+        columnNames.removeLast();
+        return failure.ecatch();
+    }
+    const int last = int(columnNames.size()) - 1;
+    if (GridPropertyEditorView *view = viewAt(last)) {
+        view->collapseAll();
+        view->setEditorMode(editorMode);
+    }
+    moveColumn(last, std::clamp(index, 0, last));
+    return Error::NoError;
 }
 
 void PropertyGridWidget::Private::askForName(int index)
@@ -342,7 +361,7 @@ void PropertyGridWidget::Private::connectMenu()
     QObject::connect(columnMenu, &ColumnMenu::renameRequested, q, [this](int index) { askForName(index); });
     QObject::connect(columnMenu, &ColumnMenu::copyRequested, q, [this](int index) { copyColumn(index); });
     QObject::connect(columnMenu, &ColumnMenu::moveRequested, q,
-                     [this](int index, int by) { moveColumn(index, by); });
+                     [this](int index, int by) { moveColumn(index, index + by); });
     QObject::connect(columnMenu, &ColumnMenu::karvonRequested, q, [this](int index) {
         if (GridPropertyEditorView *view = viewAt(index))
             view->loadKarvonParameters(q);

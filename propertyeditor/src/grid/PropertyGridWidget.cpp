@@ -75,6 +75,16 @@ void PropertyGridWidget::copyColumn(int index)
     d->copyColumn(index);
 }
 
+Error PropertyGridWidget::insertColumn(int index, const QString &name, const QVariant &cell)
+{
+    return d->insertColumn(index, name, cell).ecatch();
+}
+
+void PropertyGridWidget::moveColumn(int from, int to)
+{
+    d->moveColumn(from, to);
+}
+
 QStringList PropertyGridWidget::columnNames() const
 {
     return d->columnNames;

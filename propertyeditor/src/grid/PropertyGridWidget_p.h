@@ -27,6 +27,8 @@ public:
     void removeColumn(int index);
     void renameColumn(int index, const QString &name);
     void copyColumn(int index);
+    Error insertColumn(int index, const QString &name, const QVariant &cell);
+    void moveColumn(int from, int to);
     /// Of the views of now and of later.
     void updateBaseUrl(const QUrl &url);
     [[nodiscard]] QList<QPointer<GridPropertyEditorView>> views() const;
@@ -49,7 +51,6 @@ private:
     void connectMenu();
     void prepareMenu();
     void askForName(int index);
-    void moveColumn(int index, int by);
     [[nodiscard]] GridPropertyEditorView *viewAt(int index) const;
     [[nodiscard]] PropertySplitterWidget *columnAt(int index) const;
     [[nodiscard]] QString nameOfCopy(const QString &name) const;

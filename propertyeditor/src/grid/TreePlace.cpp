@@ -1,4 +1,4 @@
-#include "TreePlace.h"
+#include "orv/propertyeditor/grid/TreePlace.h"
 
 #include <KProperty.h>
 #include <KPropertyEditorView.h>
@@ -22,7 +22,7 @@ void forEachGroup(const KPropertyEditorView &view, Visit visit)
     }
 }
 
-QModelIndex indexOf(const QAbstractItemModel &model, const QByteArray &name, const QModelIndex &parent = {})
+QModelIndex rowOf(const QAbstractItemModel &model, const QByteArray &name, const QModelIndex &parent = {})
 {
     for (int row = 0; row < model.rowCount(parent); ++row) {
         const QModelIndex index = model.index(row, 0, parent);
@@ -30,7 +30,7 @@ QModelIndex indexOf(const QAbstractItemModel &model, const QByteArray &name, con
         if (property && property->name() == name)
             return index;
         if (!property) {
-            if (const QModelIndex found = indexOf(model, name, index); found.isValid())
+            if (const QModelIndex found = rowOf(model, name, index); found.isValid())
                 return found;
         }
     }
@@ -49,14 +49,18 @@ TreePlace::TreePlace(const KPropertyEditorView &view)
         m_current = property->name();
 }
 
+QModelIndex TreePlace::indexOf(const KPropertyEditorView &view, const QByteArray &property)
+{
+    return property.isEmpty() || !view.model() ? QModelIndex() : rowOf(*view.model(), property);
+}
+
 void TreePlace::restore(KPropertyEditorView *view, const QByteArray &current) const
 {
     forEachGroup(*view, [&](const QModelIndex &group) {
         view->setExpanded(group, m_isExpanded.value(group.data().toString(), true));
     });
     const QByteArray &name = current.isEmpty() ? m_current : current;
-    const QModelIndex index =
-        name.isEmpty() || !view->model() ? QModelIndex() : indexOf(*view->model(), name);
+    const QModelIndex index = indexOf(*view, name);
     if (index.isValid())
         view->setCurrentIndex(index);
     view->verticalScrollBar()->setValue(m_scroll);

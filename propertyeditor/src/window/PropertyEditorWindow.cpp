@@ -73,6 +73,28 @@ QString PropertyEditorWindow::workflowFilePath() const
     return d->workflowFilePath();
 }
 
+QJsonObject PropertyEditorWindow::workflowMetadata() const
+{
+    return d->workflowMetadata();
+}
+
+void PropertyEditorWindow::setWorkflowMetadata(const QJsonObject &metadata)
+{
+    d->setWorkflowMetadata(metadata);
+}
+
+QJsonObject PropertyEditorWindow::extendedMetadata() const
+{
+    return d->m_extendedMetadataInfo.toJson();
+}
+
+void PropertyEditorWindow::prepareColumns()
+{
+    if (d->workflowBaseUrl().isValid())
+        d->updateBaseUrlForRelativeUrls();
+    d->connectGridWidgets();
+}
+
 QToolBar *PropertyEditorWindow::toolBar() const
 {
     return d->m_form->toolBar;
@@ -214,8 +236,11 @@ void PropertyEditorWindow::addTab()
     ModalDialog dialog(new NameDialog(NameDialog::AddTab, this));
     if (!dialog.exec())
         return;
+    const QPointer<PropertyEditorWindow> self(this);
     if (const Error error = addTabWithColumns(dialog->name(), {}, {}))
         qCWarning(propertyEditorLog).noquote() << "The tab can't be added" << error.errorMessage();
+    else if (self)
+        Q_EMIT d->m_tabs->edited();
 }
 
 void PropertyEditorWindow::removeTab(int index)
@@ -231,8 +256,11 @@ void PropertyEditorWindow::removeCurrentTab()
     const auto answer =
         ORVStyle::question(this, tr("Removing tab"), tr("Are you sure you want to remove current tab?"),
                            QMessageBox::Yes | QMessageBox::No);
-    if (self && answer == QMessageBox::Yes)
-        removeTab(d->m_form->tabWidget->currentIndex());
+    if (!self || answer != QMessageBox::Yes)
+        return;
+    removeTab(d->m_form->tabWidget->currentIndex());
+    if (self)
+        Q_EMIT d->m_tabs->edited();
 }
 
 void PropertyEditorWindow::appendRow()
@@ -259,8 +287,10 @@ bool PropertyEditorWindow::openTabPreset()
         return false;
     const QStringList lost = textsOf(WorkflowUpgrade::lossesBefore(preset));
     setCurrentTabContent(preset);
-    if (self)
-        d->m_lost += lost;
+    if (!self)
+        return true;
+    d->m_lost += lost;
+    Q_EMIT d->m_tabs->edited();
     return true;
 }
 

@@ -189,7 +189,7 @@ void PropertyEditorWindowPrivate::connectGridWidgets()
     if (!samples)
         return;
     connect(samples, &SamplesAndTracesInputWidget::removeCustomColumn, this,
-            &PropertyEditorWindowPrivate::removeCustomColumn);
+            &PropertyEditorWindowPrivate::removeCustomColumn, Qt::UniqueConnection);
     connect(samples, &SamplesAndTracesInputWidget::samplesChanged, this,
             &PropertyEditorWindowPrivate::samplesChanged,
             Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));

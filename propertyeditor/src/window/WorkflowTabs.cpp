@@ -41,6 +41,16 @@ Error WorkflowTabs::add(const QString &name, const QStringList &columns, const V
     return Error::NoError;
 }
 
+Error WorkflowTabs::insert(int index, const PropertyEditorContent::Tab &tab)
+{
+    const QPointer<WorkflowTabs> self(this);
+    const auto &[columns, cells] = tab.second;
+    ORV_RETURN_IF_ERROR(add(tab.first, columns, cells));
+    if (self)
+        m_tabs->editableTabBar()->moveTab(count() - 1, index);
+    return Error::NoError;
+}
+
 void WorkflowTabs::remove(int index)
 {
     QWidget *widget = m_tabs->widget(index);

@@ -1,6 +1,8 @@
 #include "orv/propertyeditor/workbench/Workbench.h"
 
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
+#include <orv/propertyeditor/workbench/DocumentHistory.h>
+#include <orv/widgets/Icons.h>
 
 #include <QDockWidget>
 #include <QMenuBar>
@@ -12,12 +14,50 @@ Workbench::Workbench(PropertyEditorWindow *window)
     , m_window(window)
     , m_editMenu(window->menuBar()->addMenu(tr("&Edit")))
     , m_viewMenu(window->menuBar()->addMenu(tr("&View")))
+    , m_history(new DocumentHistory(window))
 {
     m_editMenu->setToolTipsVisible(true);
     m_viewMenu->setToolTipsVisible(true);
+    addHistory();
+    connect(window, &QWidget::windowTitleChanged, this, &Workbench::updateTitle);
+    updateTitle();
 }
 
 Workbench::~Workbench() = default;
+
+void Workbench::addHistory()
+{
+    m_undo = m_editMenu->addAction(Icons::icon(IconName::Undo), QString(), m_history, &DocumentHistory::undo);
+    m_undo->setShortcuts(QKeySequence::Undo);
+    m_redo = m_editMenu->addAction(Icons::icon(IconName::Redo), QString(), m_history, &DocumentHistory::redo);
+    m_redo->setShortcuts(QKeySequence::Redo);
+    connect(m_history, &DocumentHistory::changed, this, &Workbench::updateHistory);
+    updateHistory();
+}
+
+void Workbench::updateHistory()
+{
+    const auto show = [](QAction *action, const QString &plain, const QString &named, QString step,
+                         const QString &reason) {
+        action->setEnabled(!step.isEmpty());
+        action->setToolTip(step.isEmpty() ? reason : step);
+        action->setText(step.isEmpty() ? plain : named.arg(step.replace(u'&', QLatin1String("&&"))));
+    };
+    show(m_undo, tr("&Undo"), tr("&Undo: %1"), m_history->undoText(), tr("Nothing was edited yet."));
+    show(m_redo, tr("&Redo"), tr("&Redo: %1"), m_history->redoText(), tr("Nothing was undone."));
+    m_window->setWindowModified(m_history->isModified());
+}
+
+/// Applications compose the title; the mark of unsaved changes stands at its end.
+void Workbench::updateTitle()
+{
+    static const QLatin1String kMark("[*]");
+    QString title = m_window->windowTitle();
+    QString unmarked = title;
+    unmarked.remove(kMark + kMark);
+    if (!unmarked.contains(kMark))
+        m_window->setWindowTitle(title + kMark);
+}
 
 QDockWidget *Workbench::addPanel(QWidget *widget, const QString &name, const QString &title,
                                  Qt::DockWidgetArea area, const QKeySequence &shortcut)

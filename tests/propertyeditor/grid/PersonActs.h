@@ -188,7 +188,7 @@ inline QList<Act> actsOf(QWidget *column)
     QList<Act> acts;
     const QList<QWidget *> widgets = column->findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
-        if (widget->isVisibleTo(column) && widget->window() == column)
+        if (widget->isVisibleTo(column) && widget->window() == column->window())
             addActs(widget, &acts);
     }
     for (QAction *action : column->findChildren<QAction *>()) {

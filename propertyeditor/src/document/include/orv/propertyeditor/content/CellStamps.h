@@ -29,6 +29,9 @@ ORV_WORKFLOW_EXPORT void reportLosses(const QJsonObject &document, LossObserver 
 /// to.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QJsonObject restored(QJsonObject document, const QJsonObject &source);
 
+/// \a cell as it stands in the state of a document: whoever reads it from a window stamps it anew.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QJsonObject without(QJsonObject cell);
+
 /// Whether two cells differ in their metadata or not at all.
 [[nodiscard]] ORV_WORKFLOW_EXPORT bool differsInStampAlone(const QJsonObject &cell, const QJsonObject &other);
 

@@ -44,6 +44,11 @@ public:
     Error appendData(const VariantItems &cells);
     /// Reserved for grids of several rows.
     void appendRow();
+    /// A column of a cell before that at \a index, or behind the last. Fails as appendData, and adds nothing
+    /// then.
+    Error insertColumn(int index, const QString &name, const QVariant &cell);
+    /// Does nothing for an index without a column.
+    void moveColumn(int from, int to);
     void removeAllColumns();
     void removeColumn(int index);
     void renameColumn(int index, const QString &name);

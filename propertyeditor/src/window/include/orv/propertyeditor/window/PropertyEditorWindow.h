@@ -64,6 +64,16 @@ public:
     /// Null for a new workflow, empty once the window was cleared.
     [[nodiscard]] QString workflowFilePath() const;
 
+    /// The workflow's own properties: its name, version, who made it and when.
+    [[nodiscard]] QJsonObject workflowMetadata() const;
+    void setWorkflowMetadata(const QJsonObject &metadata);
+    /// What servers add to a workflow, of the document that was shown last.
+    [[nodiscard]] QJsonObject extendedMetadata() const;
+    /// Takes over what somebody is typing in a field or cell, which stays the one with the focus.
+    void commitTyping();
+    /// Tells columns that were made anew what the window knows: where files lie, and who hears of samples.
+    void prepareColumns();
+
     /// Nothing can be made of the workflow any more; for the rest of the window's life.
     void setReadOnly();
     /// That of the file on the disk; Unknown, with a warning, if it can't be read.
@@ -153,9 +163,6 @@ protected:
     bool handOver(RelativePaths paths);
 
     void closeEvent(QCloseEvent *event) override;
-
-    /// Takes over what somebody is typing in a field or cell, which stays the one with the focus.
-    void commitTyping();
 
     [[nodiscard]] PropertyEditorWindowPrivate *dFunc() const { return d.get(); }
     [[nodiscard]] QToolBar *toolBar() const;

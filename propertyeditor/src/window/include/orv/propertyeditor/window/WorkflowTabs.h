@@ -43,6 +43,8 @@ public:
 
     /// Another tab behind the others. Fails as PropertyGridWidget::create, and adds nothing then.
     Error add(const QString &name, const QStringList &columns, const VariantItems &cells);
+    /// The same before the tab at \a index.
+    Error insert(int index, const PropertyEditorContent::Tab &tab);
     /// Does nothing for an index without a tab.
     void remove(int index);
     /// The current tab gets another title and other columns; fails as PropertyGridWidget::appendData, with

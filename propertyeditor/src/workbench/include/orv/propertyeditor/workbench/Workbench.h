@@ -10,6 +10,7 @@ QT_FORWARD_DECLARE_CLASS(QMenu)
 
 namespace orv {
 
+class DocumentHistory;
 class PropertyEditorWindow;
 
 /// Menus and panels around a document window: Edit and View, behind the menus that are there already. A child
@@ -27,6 +28,8 @@ public:
     explicit Workbench(PropertyEditorWindow *window);
     ~Workbench() override;
 
+    [[nodiscard]] DocumentHistory *history() const { return m_history; }
+
     /// Owned by the window, as are the other menus.
     [[nodiscard]] QMenu *editMenu() const { return m_editMenu; }
     [[nodiscard]] QMenu *viewMenu() const { return m_viewMenu; }
@@ -37,9 +40,16 @@ public:
                           const QKeySequence &shortcut = {});
 
 private:
+    void addHistory();
+    void updateHistory();
+    void updateTitle();
+
     PropertyEditorWindow *const m_window;
     QMenu *m_editMenu;
     QMenu *m_viewMenu;
+    DocumentHistory *m_history;
+    QAction *m_undo = nullptr;
+    QAction *m_redo = nullptr;
 };
 
 } // namespace orv

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <orv/widgets/Export.h>
+
 #include <QByteArray>
 #include <QHash>
+#include <QModelIndex>
 #include <QString>
 
 class KPropertyEditorView;
@@ -9,11 +12,14 @@ class KPropertyEditorView;
 namespace orv {
 
 /// Where a person stands in a tree of settings: folds, scroll position and current property. Taken before the
-/// tree is built anew, and gone back to after.
-class TreePlace
+/// tree is built anew, and gone back to after. GUI thread.
+class ORV_PROPERTY_EDITOR_EXPORT TreePlace
 {
 public:
     explicit TreePlace(const KPropertyEditorView &view);
+
+    /// The row of a property; invalid where the tree doesn't show it.
+    [[nodiscard]] static QModelIndex indexOf(const KPropertyEditorView &view, const QByteArray &property);
 
     /// What isn't there any more is passed over; \a current, if given, is gone to in place of the old one.
     void restore(KPropertyEditorView *view, const QByteArray &current = {}) const;

@@ -1,0 +1,425 @@
+#include "orv/propertyeditor/workbench/DocumentHistory.h"
+
+#include "ShownState.h"
+#include "StateDisplay.h"
+#include "StepText.h"
+
+#include <orv/core/Logging.h>
+#include <orv/propertyeditor/window/PropertyEditorWindow.h>
+#include <orv/propertyeditor/window/WorkflowTabs.h>
+#include <orv/table_model/TableHistory.h>
+
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QScopedValueRollback>
+#include <QTextEdit>
+
+namespace orv {
+
+namespace {
+
+struct Step
+{
+    StateChange change;
+    QString text;
+    QList<TableMove> tables;
+};
+
+/// The field in which somebody types, outside of the cells of views; null where nobody does.
+QWidget *fieldOfTyping(const QWidget *window)
+{
+    QWidget *field = QApplication::focusWidget();
+    const bool takesText = qobject_cast<QLineEdit *>(field) || qobject_cast<QAbstractSpinBox *>(field) ||
+                           qobject_cast<QTextEdit *>(field) || qobject_cast<QPlainTextEdit *>(field);
+    if (!takesText || field->window() != window)
+        return nullptr;
+    for (const QWidget *outer = field; outer; outer = outer->parentWidget()) {
+        if (qobject_cast<const QAbstractItemView *>(outer))
+            return nullptr;
+    }
+    return field;
+}
+
+/// The editor that is open in a cell of a view and has the focus; null without one.
+QWidget *openEditor()
+{
+    for (QWidget *editor = QApplication::focusWidget(); editor; editor = editor->parentWidget()) {
+        const QWidget *viewport = editor->parentWidget();
+        const auto *view = viewport ? qobject_cast<QAbstractItemView *>(viewport->parentWidget()) : nullptr;
+        if (view && view->viewport() == viewport)
+            return editor;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class DocumentHistory::Private
+{
+public:
+    Private(DocumentHistory *history, PropertyEditorWindow *documentWindow)
+        : window(documentWindow)
+        , shown(documentWindow)
+        , q(history)
+    {}
+
+    void begin();
+    void takeSaved();
+    void expectEdits();
+    void takeIn();
+    void record(const DocumentState &now);
+    void push(const DocumentState &now, const QList<TableMove> &moves);
+    [[nodiscard]] bool isStepOfTable(const DocumentState &now, const QList<TableMove> &moves);
+    [[nodiscard]] bool belongsToLastStep() const;
+    void settle(const DocumentState &actual);
+    void travel(StateChange::Direction direction);
+    [[nodiscard]] bool moveTables(const Step &step, StateChange::Direction direction) const;
+    void trim();
+    void leaveField();
+
+    PropertyEditorWindow *window;
+    ShownState shown;
+    DocumentState state;
+    DocumentState saved;
+    QList<Step> steps;
+    int index = 0;
+    qsizetype limit = kDefaultLimit;
+    bool isPending = false;
+    bool isTravelling = false;
+    bool isSettling = false;     ///< what is told is the echo of a step
+    QPointer<QWidget> field;     ///< in which the last step was made, as long as it may go on
+    QPointer<QWidget> nextField; ///< the same for what is told and not yet taken in
+    bool isFieldLeft = false;
+    QString group; ///< what the steps of a group are called
+    int groupDepth = 0;
+    bool groupHasStep = false;
+    DocumentHistory *q;
+};
+
+DocumentHistory::DocumentHistory(PropertyEditorWindow *window)
+    : QObject(window)
+    , d(std::make_unique<Private>(this, window))
+{
+    connect(window, &PropertyEditorWindow::documentShown, this, [this] { d->begin(); });
+    connect(window, &PropertyEditorWindow::documentSaved, this, [this] { d->takeSaved(); });
+    connect(window, &PropertyEditorWindow::metadataEdited, this, [this] { d->expectEdits(); });
+    connect(window->workflowTabs(), &WorkflowTabs::edited, this, [this] {
+        if (!d->nextField)
+            d->nextField = fieldOfTyping(d->window);
+        d->expectEdits();
+    });
+    connect(&d->shown, &ShownState::settingEdited, this, [this] {
+        if (d->isTravelling)
+            return;
+        d->nextField = openEditor();
+        d->expectEdits();
+    });
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget *, const QWidget *now) {
+        if (d->field && now != d->field && !d->field->isAncestorOf(now))
+            d->leaveField();
+    });
+    d->begin();
+}
+
+DocumentHistory::~DocumentHistory() = default;
+
+const DocumentState &DocumentHistory::state()
+{
+    takeIn();
+    return d->state;
+}
+
+bool DocumentHistory::isModified()
+{
+    takeIn();
+    return !(d->state == d->saved);
+}
+
+const DocumentState &DocumentHistory::savedState() const
+{
+    return d->saved;
+}
+
+int DocumentHistory::count() const
+{
+    return int(d->steps.size());
+}
+
+int DocumentHistory::index() const
+{
+    return d->index;
+}
+
+QString DocumentHistory::undoText() const
+{
+    return canUndo() ? d->steps.at(d->index - 1).text : QString();
+}
+
+QString DocumentHistory::redoText() const
+{
+    return canRedo() ? d->steps.at(d->index).text : QString();
+}
+
+qsizetype DocumentHistory::heldBytes() const
+{
+    qsizetype bytes = 0;
+    for (const Step &step : std::as_const(d->steps))
+        bytes += step.change.heldBytes();
+    return bytes;
+}
+
+qsizetype DocumentHistory::limit() const
+{
+    return d->limit;
+}
+
+void DocumentHistory::setLimit(qsizetype bytes)
+{
+    d->limit = bytes;
+    d->trim();
+    Q_EMIT changed();
+}
+
+void DocumentHistory::undo()
+{
+    d->travel(StateChange::Direction::Back);
+}
+
+void DocumentHistory::redo()
+{
+    d->travel(StateChange::Direction::Forth);
+}
+
+void DocumentHistory::takeIn()
+{
+    d->takeIn();
+}
+
+DocumentHistory::Group::Group(DocumentHistory *history, const QString &text)
+    : m_history(history)
+{
+    history->takeIn();
+    if (history->d->groupDepth++ > 0)
+        return;
+    history->d->group = text;
+    history->d->groupHasStep = false;
+}
+
+DocumentHistory::Group::~Group()
+{
+    if (m_history)
+        m_history->takeIn();
+    if (m_history)
+        --m_history->d->groupDepth;
+}
+
+/// Another document is shown.
+void DocumentHistory::Private::begin()
+{
+    if (isTravelling)
+        return;
+    isPending = false;
+    shown.forget();
+    state = shown.read();
+    static_cast<void>(shown.takeMoves());
+    saved = state;
+    steps.clear();
+    index = 0;
+    field = nullptr;
+    Q_EMIT q->changed();
+}
+
+/// Saving fills the tabs anew, with absolute paths.
+void DocumentHistory::Private::takeSaved()
+{
+    isPending = false;
+    shown.forget();
+    const DocumentState written = shown.read();
+    // The stamp of a save isn't part of the step before it.
+    state.metadata = written.metadata;
+    settle(written);
+    static_cast<void>(shown.takeMoves());
+    saved = state;
+    field = nullptr;
+    Q_EMIT q->changed();
+}
+
+void DocumentHistory::Private::expectEdits()
+{
+    if (isTravelling || std::exchange(isPending, true))
+        return;
+    // Other columns follow an edit when its event has been handled; that is part of it.
+    QMetaObject::invokeMethod(
+        q, [this] { QMetaObject::invokeMethod(q, &DocumentHistory::takeIn, Qt::QueuedConnection); },
+        Qt::QueuedConnection);
+}
+
+void DocumentHistory::Private::takeIn()
+{
+    const bool isEcho = std::exchange(isSettling, false);
+    if (isTravelling || !std::exchange(isPending, false))
+        return;
+    const DocumentState now = shown.read();
+    if (now == state) {
+        static_cast<void>(shown.takeMoves());
+        return;
+    }
+    if (isEcho)
+        settle(now);
+    else
+        record(now);
+    Q_EMIT q->changed();
+}
+
+void DocumentHistory::Private::record(const DocumentState &now)
+{
+    const QList<TableMove> moves = shown.takeMoves();
+    const QPointer<QWidget> typed = std::exchange(nextField, nullptr);
+    if (isStepOfTable(now, moves))
+        return;
+    steps.resize(index);
+    const bool isSame = typed && typed == field && index > 0;
+    const bool isGrouped = groupDepth > 0 && std::exchange(groupHasStep, true);
+    field = std::exchange(isFieldLeft, false) ? nullptr : typed;
+    if ((isSame || isGrouped) && index > 0) {
+        state = steps.constLast().change.applied(state, StateChange::Direction::Back);
+        steps.removeLast();
+        --index;
+        if (now == state) {
+            state = now;
+            return;
+        }
+    }
+    push(now, isSame || isGrouped ? QList<TableMove>() : moves);
+}
+
+void DocumentHistory::Private::push(const DocumentState &now, const QList<TableMove> &moves)
+{
+    const StateChange change = StateChange::between(state, now);
+    QString text = group;
+    if (groupDepth == 0) {
+        const bool isForth = moves.size() == 1 && moves.constFirst().after > moves.constFirst().before;
+        const TableHistory *table = isForth ? moves.constFirst().history.data() : nullptr;
+        text = StepText::of(state, change, now, table ? table->undoText() : QString());
+    }
+    steps.append({change, text, moves});
+    ++index;
+    state = now;
+    trim();
+}
+
+/// A table takes steps back and forth by its menu, too.
+bool DocumentHistory::Private::isStepOfTable(const DocumentState &now, const QList<TableMove> &moves)
+{
+    if (moves.size() != 1)
+        return false;
+    const TableMove &move = moves.constFirst();
+    const bool isBack = move.after < move.before;
+    if (isBack ? index == 0 : index == steps.size())
+        return false;
+    const Step &step = steps.at(isBack ? index - 1 : index);
+    const auto direction = isBack ? StateChange::Direction::Back : StateChange::Direction::Forth;
+    if (step.tables.size() != 1 || step.tables.constFirst().history != move.history ||
+        !(step.change.applied(state, direction) == now))
+        return false;
+    index += isBack ? -1 : 1;
+    state = now;
+    field = nullptr;
+    return true;
+}
+
+/// The window shows something else than the step led to: the steps around lead there from now on.
+void DocumentHistory::Private::settle(const DocumentState &actual)
+{
+    if (actual == state) {
+        state = actual;
+        return;
+    }
+    if (index > 0) {
+        StateChange &last = steps[index - 1].change;
+        last = StateChange::between(last.applied(state, StateChange::Direction::Back), actual);
+    }
+    if (index < steps.size()) {
+        StateChange &next = steps[index].change;
+        next = StateChange::between(actual, next.applied(state, StateChange::Direction::Forth));
+    }
+    state = actual;
+}
+
+bool DocumentHistory::Private::moveTables(const Step &step, StateChange::Direction direction) const
+{
+    const bool isBack = direction == StateChange::Direction::Back;
+    const QPointer<DocumentHistory> self(q);
+    for (const TableMove &move : step.tables) {
+        const int from = isBack ? move.after : move.before;
+        const int to = isBack ? move.before : move.after;
+        // A table that went on otherwise, or was made anew, is given its content instead.
+        const bool isThere = move.history && move.history->index() == from && to <= move.history->count();
+        for (int i = 0; isThere && i < std::abs(to - from) && self && move.history; ++i)
+            to < from ? move.history->undo() : move.history->redo();
+    }
+    return self;
+}
+
+void DocumentHistory::Private::travel(StateChange::Direction direction)
+{
+    const QPointer<DocumentHistory> self(q);
+    window->commitTyping();
+    if (!self)
+        return;
+    takeIn();
+    const bool isBack = direction == StateChange::Direction::Back;
+    if (!self || isTravelling || (isBack ? index == 0 : index == steps.size()))
+        return;
+    isTravelling = true;
+    const Step step = steps.at(isBack ? index - 1 : index);
+    const DocumentState from = state;
+    const DocumentState to = step.change.applied(state, direction);
+    if (!moveTables(step, direction))
+        return;
+    StateDisplay display(window);
+    const Error error = display.show(from, to);
+    if (!self)
+        return;
+    if (error.hasError())
+        qCWarning(propertyEditorLog).noquote() << "Not all of a step can be shown" << error.errorMessage();
+    display.goTo(from, to);
+    if (!self)
+        return;
+    index += isBack ? -1 : 1;
+    state = to;
+    shown.forget(step.change);
+    settle(shown.read());
+    static_cast<void>(shown.takeMoves());
+    field = nullptr;
+    isTravelling = false;
+    isSettling = true;
+    isPending = false;
+    expectEdits();
+    Q_EMIT q->changed();
+}
+
+/// What was typed there and isn't taken in yet still belongs to the step.
+void DocumentHistory::Private::leaveField()
+{
+    if (isPending)
+        isFieldLeft = true;
+    else
+        field = nullptr;
+}
+
+void DocumentHistory::Private::trim()
+{
+    qsizetype bytes = q->heldBytes();
+    while (bytes > limit && steps.size() > 1 && index > 0) {
+        bytes -= steps.constFirst().change.heldBytes();
+        steps.removeFirst();
+        --index;
+    }
+}
+
+} // namespace orv

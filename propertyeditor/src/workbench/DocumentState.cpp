@@ -1,0 +1,156 @@
+#include "orv/propertyeditor/workbench/DocumentState.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace orv {
+
+namespace {
+
+/// Most cells of two states share their text, which may be long.
+bool isSameText(const QByteArray &a, const QByteArray &b)
+{
+    return (a.constData() == b.constData() && a.size() == b.size()) || a == b;
+}
+
+StateChange::CellChange differenceOf(const QByteArray &before, const QByteArray &after)
+{
+    const qsizetype shorter = std::min(before.size(), after.size());
+    const auto head = std::mismatch(before.cbegin(), before.cbegin() + shorter, after.cbegin());
+    const qsizetype offset = head.first - before.cbegin();
+    const auto tail = std::mismatch(before.crbegin(), before.crbegin() + (shorter - offset), after.crbegin());
+    const qsizetype same = tail.first - before.crbegin();
+    return {0, 0, offset, before.mid(offset, before.size() - offset - same),
+            after.mid(offset, after.size() - offset - same)};
+}
+
+qsizetype bytesOf(const QList<DocumentState::Tab> &tabs, QSet<const char *> *counted)
+{
+    qsizetype bytes = 0;
+    for (const DocumentState::Tab &tab : tabs) {
+        for (const QByteArray &cell : tab.cells) {
+            if (!counted->contains(cell.constData())) {
+                counted->insert(cell.constData());
+                bytes += cell.size();
+            }
+        }
+    }
+    return bytes;
+}
+
+} // namespace
+
+PropertyEditorContent::Tab DocumentState::Tab::content() const
+{
+    VariantItems items;
+    items.reserve(cells.size());
+    for (const QByteArray &cell : cells)
+        items.append(cell);
+    return {title, {columns, items}};
+}
+
+bool DocumentState::Tab::isShapedLike(const Tab &other) const
+{
+    return title == other.title && columns == other.columns && cells.size() == other.cells.size();
+}
+
+bool DocumentState::Tab::operator==(const Tab &other) const
+{
+    return isShapedLike(other) && std::equal(cells.cbegin(), cells.cend(), other.cells.cbegin(), isSameText);
+}
+
+PropertyEditorContent DocumentState::content(const QJsonObject &extendedMetadata) const
+{
+    PropertyEditorContent::Tabs contents;
+    contents.reserve(tabs.size());
+    for (const Tab &tab : tabs)
+        contents.append(tab.content());
+    return {contents, metadata, extendedMetadata};
+}
+
+StateChange StateChange::between(const DocumentState &before, const DocumentState &after)
+{
+    StateChange change;
+    change.findTabs(before, after);
+    change.findCells(before, after);
+    if (before.metadata != after.metadata)
+        change.m_metadata.emplace(before.metadata, after.metadata);
+    return change;
+}
+
+void StateChange::findTabs(const DocumentState &before, const DocumentState &after)
+{
+    const auto isAlike = [](const DocumentState::Tab &a, const DocumentState::Tab &b) {
+        return a.isShapedLike(b);
+    };
+    const qsizetype shorter = std::min(before.tabs.size(), after.tabs.size());
+    const auto head =
+        std::mismatch(before.tabs.cbegin(), before.tabs.cbegin() + shorter, after.tabs.cbegin(), isAlike);
+    const qsizetype first = head.first - before.tabs.cbegin();
+    const auto tail = std::mismatch(before.tabs.crbegin(), before.tabs.crbegin() + (shorter - first),
+                                    after.tabs.crbegin(), isAlike);
+    const qsizetype same = tail.first - before.tabs.crbegin();
+    m_firstTab = int(first);
+    m_before = before.tabs.mid(first, before.tabs.size() - first - same);
+    m_after = after.tabs.mid(first, after.tabs.size() - first - same);
+}
+
+void StateChange::findCells(const DocumentState &before, const DocumentState &after)
+{
+    for (int tab = 0; tab < after.tabs.size(); ++tab) {
+        const bool isBehind = tab >= m_firstTab + m_after.size();
+        if (tab >= m_firstTab && !isBehind)
+            continue;
+        const qsizetype earlier = isBehind ? tab - m_after.size() + m_before.size() : tab;
+        const QList<QByteArray> &old = before.tabs.at(earlier).cells;
+        const QList<QByteArray> &now = after.tabs.at(tab).cells;
+        for (int column = 0; column < now.size(); ++column) {
+            if (isSameText(old.at(column), now.at(column)))
+                continue;
+            CellChange change = differenceOf(old.at(column), now.at(column));
+            change.tab = tab;
+            change.column = column;
+            m_cells.append(change);
+        }
+    }
+}
+
+bool StateChange::isEmpty() const
+{
+    return !hasOtherTabs() && m_cells.isEmpty() && !m_metadata;
+}
+
+DocumentState StateChange::applied(DocumentState state, Direction direction) const
+{
+    const bool isForth = direction == Direction::Forth;
+    const auto exchangeTabs = [&] {
+        const QList<DocumentState::Tab> &old = isForth ? m_before : m_after;
+        const QList<DocumentState::Tab> &next = isForth ? m_after : m_before;
+        state.tabs = state.tabs.first(m_firstTab) + next + state.tabs.mid(m_firstTab + old.size());
+    };
+    if (isForth && hasOtherTabs())
+        exchangeTabs();
+    for (const CellChange &change : m_cells) {
+        const QByteArray &old = isForth ? change.before : change.after;
+        state.tabs[change.tab].cells[change.column].replace(change.offset, old.size(),
+                                                            isForth ? change.after : change.before);
+    }
+    if (!isForth && hasOtherTabs())
+        exchangeTabs();
+    if (m_metadata)
+        state.metadata = isForth ? m_metadata->second : m_metadata->first;
+    return state;
+}
+
+qsizetype StateChange::heldBytes() const
+{
+    constexpr qsizetype kEach = 200;
+    QSet<const char *> counted;
+    qsizetype bytes = kEach + bytesOf(m_before, &counted) + bytesOf(m_after, &counted);
+    for (const CellChange &change : m_cells)
+        bytes += kEach + change.before.size() + change.after.size();
+    return bytes;
+}
+
+} // namespace orv

@@ -1,0 +1,143 @@
+#include "ShownState.h"
+
+#include <orv/propertyeditor/content/CellStamps.h>
+#include <orv/propertyeditor/grid/EditableTabWidget.h>
+#include <orv/propertyeditor/grid/GridItemEdits.h>
+#include <orv/propertyeditor/grid/GridPropertyEditorView.h>
+#include <orv/propertyeditor/grid/IGridItem.h>
+#include <orv/propertyeditor/grid/PropertyGridWidget.h>
+#include <orv/propertyeditor/window/PropertyEditorWindow.h>
+#include <orv/propertyeditor/window/WorkflowTabs.h>
+#include <orv/table_model/TableHistory.h>
+#include <orv/table_model/TableSheet.h>
+#include <orv/widgets/TableView.h>
+
+#include <QAction>
+#include <QJsonDocument>
+
+#include <utility>
+
+namespace orv {
+
+QByteArray textOf(const IGridItem &item)
+{
+    return QJsonDocument(CellStamps::without(item.content())).toJson(QJsonDocument::Compact);
+}
+
+ShownState::ShownState(PropertyEditorWindow *window)
+    : m_window(window)
+{}
+
+DocumentState ShownState::read()
+{
+    DocumentState state;
+    const WorkflowTabs *tabs = m_window->workflowTabs();
+    const int count = tabs->widget()->count();
+    state.tabs.reserve(count);
+    // Tabs without a grid count, so that places in the state are places in the window.
+    for (int i = 0; i < count; ++i)
+        state.tabs.append(readTab(i));
+    state.metadata = m_window->workflowMetadata();
+    return state;
+}
+
+DocumentState::Tab ShownState::readTab(int index)
+{
+    const WorkflowTabs *tabs = m_window->workflowTabs();
+    DocumentState::Tab tab{tabs->widget()->tabText(index), {}, {}};
+    const PropertyGridWidget *grid = tabs->grid(index);
+    if (!grid)
+        return tab;
+    tab.columns = grid->columnNames();
+    const QList<IGridItem *> items = grid->items();
+    tab.cells.reserve(items.size());
+    for (IGridItem *item : items)
+        tab.cells.append(readColumn(*item));
+    return tab;
+}
+
+QByteArray ShownState::readColumn(IGridItem &item)
+{
+    Column &column = known(item);
+    if (!column.isRead || column.name != item.name()) {
+        const QByteArray cell = textOf(item);
+        // A text that is the same stays shared with other states.
+        if (cell != column.cell)
+            column.cell = cell;
+        column.name = item.name();
+        column.isRead = true;
+        noteMoves(&column);
+    }
+    return column.cell;
+}
+
+ShownState::Column &ShownState::known(IGridItem &item)
+{
+    const GridItemEdits *edits = item.edits();
+    auto column = m_columns.find(edits);
+    if (column == m_columns.end()) {
+        column = m_columns.insert(edits, {});
+        follow(item, &*column);
+    }
+    return *column;
+}
+
+void ShownState::follow(IGridItem &item, Column *column)
+{
+    const GridItemEdits *edits = item.edits();
+    connect(edits, &GridItemEdits::edited, this, [this, edits] { m_columns[edits].isRead = false; });
+    connect(edits, &QObject::destroyed, this, [this, edits] { m_columns.remove(edits); });
+    QWidget *widget = item.widget();
+    if (auto *view = qobject_cast<GridPropertyEditorView *>(widget))
+        connect(view, &GridPropertyEditorView::propertyChanged, this, [this, edits] {
+            m_columns[edits].isRead = false;
+            Q_EMIT settingEdited();
+        });
+    if (!widget)
+        return;
+    QList<TableView *> tables = widget->findChildren<TableView *>();
+    if (auto *table = qobject_cast<TableView *>(widget))
+        tables.prepend(table);
+    for (const TableView *table : std::as_const(tables)) {
+        // One key takes back the last edit, wherever it was made.
+        table->action(TableView::Command::Undo)->setShortcuts(QList<QKeySequence>());
+        table->action(TableView::Command::Redo)->setShortcuts(QList<QKeySequence>());
+        column->histories.append({table->sheet()->history(), table->sheet()->history()->index()});
+    }
+}
+
+void ShownState::noteMoves(Column *column)
+{
+    for (auto &[history, done] : column->histories) {
+        if (history && history->index() != done)
+            m_moves.append({history, std::exchange(done, history->index()), history->index()});
+    }
+}
+
+QList<TableMove> ShownState::takeMoves()
+{
+    return std::exchange(m_moves, {});
+}
+
+void ShownState::forget(const StateChange &change)
+{
+    if (change.hasOtherTabs()) {
+        forget();
+        return;
+    }
+    for (const StateChange::CellChange &cell : change.cells()) {
+        const PropertyGridWidget *grid = m_window->workflowTabs()->grid(cell.tab);
+        const IGridItem *item = grid ? grid->items().value(cell.column) : nullptr;
+        if (const auto known = item ? m_columns.find(item->edits()) : m_columns.end();
+            known != m_columns.end())
+            known->isRead = false;
+    }
+}
+
+void ShownState::forget()
+{
+    for (Column &column : m_columns)
+        column.isRead = false;
+}
+
+} // namespace orv

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "orv/propertyeditor/workbench/DocumentState.h"
+
+#include <orv/core/Error.h>
+
+#include <QPointer>
+
+namespace orv {
+
+class IGridItem;
+class PropertyEditorWindow;
+class PropertyGridWidget;
+class WorkflowTabs;
+
+/// Brings what a window shows from one state of its document to another. What is the same in both stays as it
+/// is, with its folds, its scroll position and its focus.
+class StateDisplay
+{
+public:
+    explicit StateDisplay(PropertyEditorWindow *window);
+
+    /// Fails where a column can't be shown, with what could be shown; the window may be gone afterwards.
+    [[nodiscard]] Error show(const DocumentState &from, const DocumentState &to);
+
+    /// Where somebody looks to see what was shown by that.
+    void goTo(const DocumentState &from, const DocumentState &to);
+
+private:
+    [[nodiscard]] Error exchangeTabs(const StateChange &change);
+    [[nodiscard]] Error updateTab(int index, const DocumentState::Tab &from, const DocumentState::Tab &to);
+    [[nodiscard]] Error exchangeColumns(PropertyGridWidget &grid, const DocumentState::Tab &from,
+                                        const DocumentState::Tab &to);
+    [[nodiscard]] Error updateColumn(PropertyGridWidget &grid, int column, const QString &name,
+                                     const QByteArray &from, const QByteArray &to);
+
+    QPointer<PropertyEditorWindow> m_window;
+    WorkflowTabs *m_tabs;
+};
+
+} // namespace orv

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <orv/propertyeditor/workbench/DocumentState.h>
+#include <orv/widgets/Export.h>
+
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+
+namespace orv {
+
+class PropertyEditorWindow;
+
+/// The steps of a document in a window, back and forth, through every column, tab and property of the
+/// workflow. A step is what a person did from opening to leaving a field; steps of the tables' own histories
+/// are among them. Saving keeps the steps, and another document begins anew. What lies longest back is
+/// forgotten once the steps hold more than limit() bytes. GUI thread; the window may be destroyed from any
+/// handler.
+class ORV_PROPERTY_EDITOR_EXPORT DocumentHistory : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr qsizetype kDefaultLimit = 64 * 1024 * 1024;
+
+    /// A child of \a window.
+    explicit DocumentHistory(PropertyEditorWindow *window);
+    ~DocumentHistory() override;
+
+    /// What the window shows, with all that was told of edits until now. Cheap to copy.
+    [[nodiscard]] const DocumentState &state();
+    /// Whether it is another state than the one that lies on the disk, however it was reached; a document
+    /// that was never saved counts from when it was shown.
+    [[nodiscard]] bool isModified();
+    [[nodiscard]] const DocumentState &savedState() const;
+
+    [[nodiscard]] int count() const;
+    /// How many of the steps are done.
+    [[nodiscard]] int index() const;
+    [[nodiscard]] bool canUndo() const { return index() > 0; }
+    [[nodiscard]] bool canRedo() const { return index() < count(); }
+    /// What the step did, empty for none.
+    [[nodiscard]] QString undoText() const;
+    [[nodiscard]] QString redoText() const;
+
+    /// About what the steps hold, in bytes.
+    [[nodiscard]] qsizetype heldBytes() const;
+    [[nodiscard]] qsizetype limit() const;
+    void setLimit(qsizetype bytes);
+
+    /// What the next edits do becomes one step called \a text, until the group goes.
+    class ORV_PROPERTY_EDITOR_EXPORT Group
+    {
+    public:
+        Group(DocumentHistory *history, const QString &text);
+        ~Group();
+        Q_DISABLE_COPY_MOVE(Group)
+
+    private:
+        QPointer<DocumentHistory> m_history;
+    };
+
+public Q_SLOTS:
+    /// Show the state at the other end of the step, and where it differs. What is being typed becomes a step
+    /// first.
+    void undo();
+    void redo();
+    /// Takes in what was told of edits; otherwise that happens once the event is handled.
+    void takeIn();
+
+Q_SIGNALS:
+    /// The steps, the state or the saved state became others.
+    void changed();
+
+private:
+    friend class Group;
+
+    class Private;
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace orv
