@@ -161,6 +161,26 @@ bool GridPropertyEditorView::isExpanded() const
     return false;
 }
 
+GridPropertyEditorView::Folds GridPropertyEditorView::folds() const
+{
+    return TreePlace::folds(*d->editorView);
+}
+
+void GridPropertyEditorView::setFolds(const Folds &folds)
+{
+    TreePlace::setFolds(d->editorView, folds);
+}
+
+bool GridPropertyEditorView::goTo(const QByteArray &name)
+{
+    if (!d->set || !d->set->contains(name))
+        return false;
+    const QPointer<GridPropertyEditorView> self(this);
+    if (!d->set->property(name).isVisible() && isAdvanced(d->set->property(name)))
+        setPropertiesViewMode(PropertiesViewMode::Advanced);
+    return self && TreePlace::goTo(d->editorView, name);
+}
+
 void GridPropertyEditorView::loadKarvonParameters(QWidget *parent)
 {
     d->loadKarvonParameters(parent);

@@ -40,11 +40,9 @@ QModelIndex rowOf(const QAbstractItemModel &model, const QByteArray &name, const
 } // namespace
 
 TreePlace::TreePlace(const KPropertyEditorView &view)
-    : m_scroll(view.verticalScrollBar()->value())
+    : m_folds(folds(view))
+    , m_scroll(view.verticalScrollBar()->value())
 {
-    forEachGroup(view, [&](const QModelIndex &group) {
-        m_isExpanded.insert(group.data().toString(), view.isExpanded(group));
-    });
     if (const KProperty *property = KPropertyUtils::propertyForIndex(view.currentIndex()))
         m_current = property->name();
 }
@@ -57,7 +55,7 @@ QModelIndex TreePlace::indexOf(const KPropertyEditorView &view, const QByteArray
 void TreePlace::restore(KPropertyEditorView *view, const QByteArray &current) const
 {
     forEachGroup(*view, [&](const QModelIndex &group) {
-        view->setExpanded(group, m_isExpanded.value(group.data().toString(), true));
+        view->setExpanded(group, m_folds.value(group.data().toString(), true));
     });
     const QByteArray &name = current.isEmpty() ? m_current : current;
     const QModelIndex index = indexOf(*view, name);
@@ -66,6 +64,35 @@ void TreePlace::restore(KPropertyEditorView *view, const QByteArray &current) co
     view->verticalScrollBar()->setValue(m_scroll);
     if (index.isValid() && !current.isEmpty())
         view->scrollTo(index);
+}
+
+TreePlace::Folds TreePlace::folds(const KPropertyEditorView &view)
+{
+    Folds folds;
+    forEachGroup(view, [&](const QModelIndex &group) {
+        folds.insert(group.data().toString(), view.isExpanded(group));
+    });
+    return folds;
+}
+
+void TreePlace::setFolds(KPropertyEditorView *view, const Folds &folds)
+{
+    forEachGroup(*view, [&](const QModelIndex &group) {
+        const auto isExpanded = folds.constFind(group.data().toString());
+        if (isExpanded != folds.cend())
+            view->setExpanded(group, *isExpanded);
+    });
+}
+
+bool TreePlace::goTo(KPropertyEditorView *view, const QByteArray &name)
+{
+    const QModelIndex index = view->model() ? indexOf(*view->model(), name) : QModelIndex();
+    if (!index.isValid())
+        return false;
+    view->expand(index.parent());
+    view->setCurrentIndex(index);
+    view->scrollTo(index);
+    return true;
 }
 
 } // namespace orv

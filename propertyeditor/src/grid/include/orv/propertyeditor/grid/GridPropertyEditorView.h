@@ -6,6 +6,7 @@
 #include <orv/widgets/Export.h>
 
 #include <QFrame>
+#include <QHash>
 #include <QStringList>
 #include <QUrl>
 
@@ -65,6 +66,15 @@ public:
     void expandAll();
     /// Whether any group is unfolded.
     [[nodiscard]] bool isExpanded() const;
+    /// Whether each group is unfolded, by its caption.
+    using Folds = QHash<QString, bool>;
+    [[nodiscard]] Folds folds() const;
+    /// Groups without an entry stay as they are.
+    void setFolds(const Folds &folds);
+
+    /// Unfolds the group of a property of the set and stands at its row, whatever the group's fold; advanced
+    /// properties are shown for that. False if the set has no such row. The focus stays where it is.
+    bool goTo(const QByteArray &name);
 
     /// Ask for a parameter file and take its values for the properties that the column has.
     void loadKarvonParameters(QWidget *parent);

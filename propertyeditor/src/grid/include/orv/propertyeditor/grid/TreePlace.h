@@ -24,8 +24,16 @@ public:
     /// What isn't there any more is passed over; \a current, if given, is gone to in place of the old one.
     void restore(KPropertyEditorView *view, const QByteArray &current = {}) const;
 
+    /// Whether each group is unfolded, by its caption.
+    using Folds = QHash<QString, bool>;
+    [[nodiscard]] static Folds folds(const KPropertyEditorView &view);
+    /// Groups without an entry stay as they are.
+    static void setFolds(KPropertyEditorView *view, const Folds &folds);
+    /// Unfolds the group of a property and stands at its row; false if there is none.
+    static bool goTo(KPropertyEditorView *view, const QByteArray &name);
+
 private:
-    QHash<QString, bool> m_isExpanded; ///< by caption of the group
+    Folds m_folds;
     QByteArray m_current;
     int m_scroll = 0;
 };
