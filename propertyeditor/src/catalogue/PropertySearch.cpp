@@ -1,8 +1,7 @@
 #include "orv/propertyeditor/PropertySearch.h"
 
 #include <orv/propertyeditor/PropertiesNames.h>
-
-#include <algorithm>
+#include <orv/propertyeditor/SearchWords.h>
 
 namespace orv::PropertySearch {
 
@@ -29,7 +28,7 @@ QList<PropertyId> captioned(const QString &text)
 
 QList<PropertyId> matching(const QString &text)
 {
-    const QStringList words = text.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const SearchWords words(text);
     QList<PropertyId> ids;
     if (words.isEmpty())
         return ids;
@@ -39,8 +38,7 @@ QList<PropertyId> matching(const QString &text)
         const QString all = QStringList{features.internalNameV2, features.internalNameV1,
                                         features.displayName, features.toolTip}
                                 .join(QLatin1Char('\n'));
-        const auto stands = [&all](const QString &word) { return all.contains(word, Qt::CaseInsensitive); };
-        if (std::ranges::all_of(words, stands))
+        if (words.standIn(SearchWords::folded(all)))
             ids.append(it.key());
     }
     return ids;
