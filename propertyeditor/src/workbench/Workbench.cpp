@@ -1,5 +1,7 @@
 #include "orv/propertyeditor/workbench/Workbench.h"
 
+#include "orv/propertyeditor/workbench/FindSettings.h"
+
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/workbench/DocumentHistory.h>
 #include <orv/widgets/Icons.h>
@@ -21,6 +23,7 @@ Workbench::Workbench(PropertyEditorWindow *window)
     addHistory();
     connect(window, &QWidget::windowTitleChanged, this, &Workbench::updateTitle);
     updateTitle();
+    m_find = new FindSettings(this);
 }
 
 Workbench::~Workbench() = default;

@@ -11,6 +11,7 @@ QT_FORWARD_DECLARE_CLASS(QMenu)
 namespace orv {
 
 class DocumentHistory;
+class FindSettings;
 class PropertyEditorWindow;
 
 /// Menus and panels around a document window: Edit and View, behind the menus that are there already. A child
@@ -29,6 +30,7 @@ public:
     ~Workbench() override;
 
     [[nodiscard]] DocumentHistory *history() const { return m_history; }
+    [[nodiscard]] PropertyEditorWindow *window() const { return m_window; }
 
     /// Owned by the window, as are the other menus.
     [[nodiscard]] QMenu *editMenu() const { return m_editMenu; }
@@ -38,6 +40,9 @@ public:
     /// something to show. Takes \a widget over; \a name is its object name, under which its place is kept.
     QDockWidget *addPanel(QWidget *widget, const QString &name, const QString &title, Qt::DockWidgetArea area,
                           const QKeySequence &shortcut = {});
+
+    /// Lives as long as the workbench.
+    [[nodiscard]] FindSettings *find() const { return m_find; }
 
 private:
     void addHistory();
@@ -50,6 +55,7 @@ private:
     DocumentHistory *m_history;
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
+    FindSettings *m_find = nullptr;
 };
 
 } // namespace orv

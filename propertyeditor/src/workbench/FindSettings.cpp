@@ -1,0 +1,178 @@
+#include "orv/propertyeditor/workbench/FindSettings.h"
+
+#include "FindPanel.h"
+#include "SettingJump.h"
+#include "YieldingShortcuts.h"
+#include "orv/propertyeditor/workbench/Workbench.h"
+
+#include <KPropertyUtils.h>
+#include <orv/propertyeditor/grid/KPropertyCustomEditorView.h>
+#include <orv/propertyeditor/window/PropertyEditorWindow.h>
+#include <orv/propertyeditor/window/WorkflowTabs.h>
+#include <orv/widgets/Icons.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QDockWidget>
+#include <QMenu>
+
+#include <utility>
+
+namespace orv {
+
+namespace {
+
+/// A column as it was before somebody jumped into it.
+struct FoldsBefore
+{
+    QPointer<GridPropertyEditorView> view;
+    GridPropertyEditorView::Folds folds;
+};
+
+/// The caption of the group in which somebody works; empty for nobody.
+QString groupAtWork(const GridPropertyEditorView &view)
+{
+    const QWidget *focus = QApplication::focusWidget();
+    if (!focus || !view.isAncestorOf(focus))
+        return {};
+    QModelIndex row = view.editorView()->currentIndex();
+    while (row.parent().isValid())
+        row = row.parent();
+    return row.data().toString();
+}
+
+} // namespace
+
+class FindSettings::Private
+{
+public:
+    Private(FindSettings *find, Workbench *workbench);
+
+    void begin();
+    void jump(const SettingPlace &place);
+    void leave();
+    void restore();
+
+    FindSettings *const q;
+    const QPointer<PropertyEditorWindow> window;
+    SettingColumns *columns;
+    FindPanel *panel;
+    QPointer<QDockWidget> dock;
+    QAction *action;
+
+private:
+    void remember(GridPropertyEditorView *view);
+
+    QList<FoldsBefore> m_before;
+    QPointer<QWidget> m_focusBefore;
+};
+
+FindSettings::Private::Private(FindSettings *find, Workbench *workbench)
+    : q(find)
+    , window(workbench->window())
+    , columns(new SettingColumns(workbench->window()))
+    , panel(new FindPanel(columns))
+    , dock(workbench->addPanel(panel, QStringLiteral("findSettings"), tr("Find Settings"),
+                               Qt::BottomDockWidgetArea))
+    , action(new QAction(Icons::icon(IconName::Find), tr("&Find Settings..."), find))
+{
+    action->setObjectName(QStringLiteral("findSettings"));
+    action->setToolTip(tr("Search the settings of all tabs"));
+    YieldingShortcuts::set(
+        action, {QKeySequence(QKeySequence::Find), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F)});
+    workbench->editMenu()->addAction(action);
+    connect(action, &QAction::triggered, find, [this] { begin(); });
+    connect(panel, &FindPanel::chosen, find, [this](const SettingPlace &place) { jump(place); });
+    connect(panel, &FindPanel::left, find, [this] { leave(); });
+    connect(panel, &FindPanel::setBackWanted, columns, &SettingColumns::setBack);
+    connect(dock, &QDockWidget::visibilityChanged, find, [this] {
+        if (dock && dock->isHidden())
+            restore();
+    });
+}
+
+void FindSettings::Private::begin()
+{
+    QWidget *focus = QApplication::focusWidget();
+    if (focus && !panel->isAncestorOf(focus))
+        m_focusBefore = focus;
+    dock->show();
+    dock->raise();
+    panel->begin();
+}
+
+void FindSettings::Private::remember(GridPropertyEditorView *view)
+{
+    m_before.removeIf([](const FoldsBefore &each) { return !each.view; });
+    const auto isKnown = [view](const FoldsBefore &each) { return each.view == view; };
+    if (std::none_of(m_before.cbegin(), m_before.cend(), isKnown))
+        m_before.append({view, view->folds()});
+}
+
+void FindSettings::Private::jump(const SettingPlace &place)
+{
+    const QPointer<GridPropertyEditorView> view = columns->view(place);
+    if (!view || !window)
+        return;
+    remember(view);
+    m_focusBefore = view->editorView();
+    (void)SettingJump::toSetting(window, view, place.name);
+}
+
+void FindSettings::Private::leave()
+{
+    const QPointer<FindSettings> self(q);
+    const QPointer<QWidget> before = m_focusBefore;
+    if (before && before->isVisible())
+        before->setFocus(Qt::OtherFocusReason);
+    if (self && dock)
+        dock->hide();
+}
+
+void FindSettings::Private::restore()
+{
+    const QList<FoldsBefore> before = std::exchange(m_before, {});
+    const QPointer<PropertyEditorWindow> open = window;
+    for (const FoldsBefore &each : before) {
+        if (!each.view || !open)
+            continue;
+        GridPropertyEditorView::Folds folds = each.folds;
+        if (const QString group = groupAtWork(*each.view); !group.isEmpty())
+            folds.insert(group, true);
+        const auto mode = open->workflowTabs()->propertiesViewMode();
+        if (each.view->propertiesViewMode() != mode)
+            each.view->setPropertiesViewMode(mode);
+        if (each.view)
+            each.view->setFolds(folds);
+    }
+}
+
+FindSettings::FindSettings(Workbench *workbench)
+    : QObject(workbench)
+    , d(std::make_unique<Private>(this, workbench))
+{}
+
+FindSettings::~FindSettings() = default;
+
+void FindSettings::setHasFinding(const Filter &filter)
+{
+    if (d->dock) {
+        d->panel->setFilter(FindPanel::Filter::HasFinding, filter,
+                            tr("Check the workflow first: then settings with a finding are known."));
+    }
+}
+
+void FindSettings::setDiffersFromSecond(const Filter &filter)
+{
+    if (d->dock) {
+        d->panel->setFilter(FindPanel::Filter::Differs, filter,
+                            tr("Open a second document to compare with first."));
+    }
+}
+
+QAction *FindSettings::action() const
+{
+    return d->action;
+}
+
+} // namespace orv

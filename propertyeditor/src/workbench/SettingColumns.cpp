@@ -1,0 +1,162 @@
+#include "SettingColumns.h"
+
+#include <KProperty.h>
+#include <KPropertySet.h>
+#include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/PropertySetCreator.h>
+#include <orv/propertyeditor/grid/EditableTabWidget.h>
+#include <orv/propertyeditor/grid/IGridItem.h>
+#include <orv/propertyeditor/grid/PropertyGridWidget.h>
+#include <orv/propertyeditor/window/PropertyEditorWindow.h>
+#include <orv/propertyeditor/window/WorkflowTabs.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace orv {
+
+SettingColumns::SettingColumns(PropertyEditorWindow *window, QObject *parent)
+    : QObject(parent)
+    , m_window(window)
+{
+    const auto savedAnew = [this] {
+        keepAsSaved();
+        m_isStale = true;
+        tellSoon();
+    };
+    connect(window, &PropertyEditorWindow::documentShown, this, savedAnew);
+    connect(window, &PropertyEditorWindow::documentSaved, this, savedAnew);
+    connect(window->workflowTabs(), &WorkflowTabs::columnsChanged, this, &SettingColumns::tellSoon);
+    connect(window->workflowTabs(), &WorkflowTabs::edited, this, &SettingColumns::tellSoon);
+    keepAsSaved();
+}
+
+SettingColumns::~SettingColumns() = default;
+
+QList<SettingColumns::Column> SettingColumns::present() const
+{
+    QList<Column> columns;
+    const WorkflowTabs *tabs = m_window ? m_window->workflowTabs() : nullptr;
+    for (int tab = 0; tabs && tab < tabs->count(); ++tab) {
+        const PropertyGridWidget *grid = tabs->grid(tab);
+        const QList<IGridItem *> items = grid ? grid->items() : QList<IGridItem *>();
+        for (int i = 0; i < items.size(); ++i) {
+            if (auto *view = qobject_cast<GridPropertyEditorView *>(items.at(i)->widget()))
+                columns.append({view, tab, i, tabs->widget()->tabText(tab), grid->columnNames().value(i)});
+        }
+    }
+    return columns;
+}
+
+void SettingColumns::keepAsSaved()
+{
+    m_saved.clear();
+    for (const Column &column : present()) {
+        if (const KPropertySet *set = column.view->propertySet())
+            m_saved.append({column, SettingReader::stored(*set)});
+        hear(column.view);
+    }
+}
+
+/// The very column, else the one of its name: a step back may have made it anew.
+const StoredSettings *SettingColumns::savedOf(const Column &column) const
+{
+    auto saved = std::ranges::find_if(
+        m_saved, [&column](const Saved &each) { return each.column.view == column.view; });
+    if (saved == m_saved.cend()) {
+        saved = std::ranges::find_if(m_saved, [&column](const Saved &each) {
+            return each.column.tabName == column.tabName && each.column.columnName == column.columnName;
+        });
+    }
+    return saved == m_saved.cend() ? nullptr : &saved->values;
+}
+
+SettingIndex::Column SettingColumns::read(const Column &column)
+{
+    const KPropertySet *set = column.view ? column.view->propertySet() : nullptr;
+    return {column.tab, column.column, column.tabName, column.columnName,
+            set ? m_reader.read(*set, savedOf(column)) : QList<SettingTexts>()};
+}
+
+SettingColumns::Change SettingColumns::refresh()
+{
+    const QList<Column> columns = present();
+    const QList<QPointer<GridPropertyEditorView>> touched = std::exchange(m_touched, {});
+    const bool isSame = columns == m_columns && !std::exchange(m_isStale, false);
+    if (isSame && touched.isEmpty())
+        return Change::None;
+    if (isSame) {
+        for (const Column &column : columns) {
+            if (touched.contains(column.view))
+                m_index.replace(read(column));
+        }
+        return Change::Values;
+    }
+    m_columns = columns;
+    m_index.clear();
+    for (const Column &column : columns) {
+        hear(column.view);
+        m_index.append(read(column));
+    }
+    return Change::Places;
+}
+
+void SettingColumns::hear(GridPropertyEditorView *view)
+{
+    view->disconnect(this);
+    const auto touched = [this, view] { touch(view); };
+    connect(view, &GridPropertyEditorView::propertySetChanged, this, touched);
+    connect(view, &GridPropertyEditorView::propertyChanged, this, touched);
+    connect(view, &GridPropertyEditorView::contentEdited, this, touched);
+}
+
+void SettingColumns::touch(GridPropertyEditorView *view)
+{
+    if (!m_touched.contains(view))
+        m_touched.append(view);
+    tellSoon();
+}
+
+void SettingColumns::tellSoon()
+{
+    if (std::exchange(m_isTelling, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_isTelling = false;
+            Q_EMIT changed();
+        },
+        Qt::QueuedConnection);
+}
+
+GridPropertyEditorView *SettingColumns::view(const SettingPlace &place) const
+{
+    const auto found = std::ranges::find_if(m_columns, [&place](const Column &column) {
+        return column.tab == place.tab && column.column == place.column;
+    });
+    return found == m_columns.cend() ? nullptr : found->view.data();
+}
+
+bool SettingColumns::setBack(const SettingPlace &place, Former former)
+{
+    refresh();
+    const auto column = std::ranges::find_if(m_columns, [&place](const Column &each) {
+        return each.tab == place.tab && each.column == place.column;
+    });
+    KPropertySet *set = column == m_columns.cend() || !column->view ? nullptr : column->view->propertySet();
+    if (!set || set->isReadOnly() || !set->contains(place.name) || set->property(place.name).isReadOnly())
+        return false;
+    const PropertyId id = PropertiesNames::findPropertyForName(QString::fromUtf8(place.name));
+    const StoredSettings *saved = savedOf(*column);
+    const QJsonValue wanted = former == Former::Default ? m_reader.storedDefault(id)
+                              : saved ? saved->value(place.name, QJsonValue(QJsonValue::Undefined))
+                                      : QJsonValue(QJsonValue::Undefined);
+    if (wanted.isUndefined())
+        return false;
+    KProperty other(set->property(place.name));
+    return PropertySetCreator::setValueFromJson(id, wanted, &other) &&
+           set->property(place.name).setValue(other.value());
+}
+
+} // namespace orv

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "orv/propertyeditor/workbench/SettingIndex.h"
+
+#include <orv/propertyeditor/PropertyId.h>
+
+#include <QHash>
+#include <QJsonValue>
+#include <QVariant>
+
+#include <optional>
+
+class KProperty;
+class KPropertySet;
+
+namespace orv {
+
+/// The stored values of a property set, by internal name.
+using StoredSettings = QHash<QByteArray, QJsonValue>;
+
+/// Reads property sets as people see them, and compares their values in the form that files have.
+class SettingReader
+{
+public:
+    /// \a saved are the values that the column had when it was saved; null for a column that wasn't.
+    [[nodiscard]] QList<SettingTexts> read(const KPropertySet &set, const StoredSettings *saved);
+
+    [[nodiscard]] static StoredSettings stored(const KPropertySet &set);
+    /// What a new property has; undefined for one without a default.
+    [[nodiscard]] QJsonValue storedDefault(PropertyId id);
+
+private:
+    [[nodiscard]] SettingTexts textsOf(const KProperty &property, PropertyId id, const StoredSettings *saved);
+
+    QHash<PropertyId, QJsonValue> m_defaults;
+};
+
+} // namespace orv

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <orv/propertyeditor/workbench/SettingIndex.h>
+#include <orv/widgets/Export.h>
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+QT_FORWARD_DECLARE_CLASS(QAction)
+
+namespace orv {
+
+class Workbench;
+
+/// Searches the settings of all tabs by what stands in their captions, names, explanations and values: an
+/// entry of the menu Edit, and a panel with the hits. What a jump unfolds is folded again when the search is
+/// left. A child of its workbench. GUI thread.
+class ORV_PROPERTY_EDITOR_EXPORT FindSettings : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit FindSettings(Workbench *workbench);
+    ~FindSettings() override;
+
+    using Filter = std::function<bool(const SettingPlace &place)>;
+
+    /// The filters that others know about; null takes one away. Asked for each hit, so quick; setting it
+    /// again searches anew.
+    void setHasFinding(const Filter &filter);
+    void setDiffersFromSecond(const Filter &filter);
+
+    [[nodiscard]] QAction *action() const;
+
+private:
+    class Private;
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace orv
