@@ -7,6 +7,7 @@
 #include <QHelpEvent>
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <QSignalSpy>
 #include <QToolTip>
 
 namespace {
@@ -135,6 +136,8 @@ private Q_SLOTS:
     void withoutToolTipsItIsToldAllTheSame();
     void screenReadersReadIt();
     void aSignStandsInTheCell();
+    void aFoldedGroupShowsTheSignOfItsRows();
+    void groupsTellTheRemarksOfTheirRows();
     void aCutValueStandsInTheToolTip();
 };
 
@@ -290,6 +293,34 @@ void ViewRemarksTest::aSignStandsInTheCell()
     QVERIFY(f.view.viewport()->grab(cell).toImage() != plain);
     f.view.setRemark(f.set["picky"], QString());
     QCOMPARE(f.view.viewport()->grab(cell).toImage(), plain);
+}
+
+void ViewRemarksTest::aFoldedGroupShowsTheSignOfItsRows()
+{
+    PickyFixture f;
+    const QModelIndex group = f.view.model()->index(0, 0);
+    f.view.collapse(group);
+    const QImage plain = f.view.grab().toImage();
+    f.view.setRemark(f.set["picky"], text("Was not taken."));
+    QVERIFY(f.view.grab().toImage() != plain);
+    f.view.setRemark(f.set["picky"], QString());
+    QCOMPARE(f.view.grab().toImage(), plain);
+}
+
+void ViewRemarksTest::groupsTellTheRemarksOfTheirRows()
+{
+    PickyFixture f;
+    const QModelIndex group = f.view.model()->index(0, 0);
+    QCOMPARE(group.data(Qt::AccessibleDescriptionRole).toString(), text("Group of properties"));
+    QVERIFY(!group.data(Qt::ToolTipRole).isValid());
+    QSignalSpy changes(f.view.model(), &QAbstractItemModel::dataChanged);
+    f.view.setRemark(f.set["picky"], text("<b> was not taken."));
+    f.view.setRemark(f.set["before"], text("Is odd."));
+    QCOMPARE(group.data(Qt::AccessibleDescriptionRole).toString(),
+             text("Group of properties\nBefore: Is odd.\nPicky: <b> was not taken."));
+    QCOMPARE(group.data(Qt::ToolTipRole).toString(),
+             text("Before: Is odd.<br>Picky: &lt;b&gt; was not taken."));
+    QCOMPARE(changes.size(), 4);
 }
 
 void ViewRemarksTest::aCutValueStandsInTheToolTip()

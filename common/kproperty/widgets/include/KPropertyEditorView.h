@@ -56,7 +56,8 @@ public:
 
     /// Says at the row of \a property, in words for people, what its value doesn't tell: a sign in the cell,
     /// the text in the tool tip and for screen readers. It stays until the value changes, an editor of the
-    /// row is left other than by Escape, or another set comes; an empty text takes it away.
+    /// row is left other than by Escape, or another set comes; an empty text takes it away. A folded group
+    /// shows the sign of its rows.
     void setRemark(const KProperty &property, const QString &text);
     QString remark(const KProperty &property) const;
 

@@ -212,6 +212,14 @@ void KPropertyEditorView::drawGroup(QPainter *painter, const QStyleOptionViewIte
     const QRect expander(Internal::Painting::textMargin(), row.top(), 16, row.height());
     Internal::Painting::drawExpander(painter, QStyle::visualRect(layoutDirection(), row, expander), palette(),
                                      isExpanded(index));
+    if (!isExpanded(index) && !d->model->remarksIn(index).isEmpty()) {
+        const int size = fontMetrics().height();
+        const QRect sign(row.right() - Internal::Painting::textMargin() - size, row.center().y() - size / 2,
+                         size, size);
+        style()
+            ->standardIcon(QStyle::SP_MessageBoxWarning, &option, this)
+            .paint(painter, QStyle::visualRect(layoutDirection(), row, sign));
+    }
     if (hasFocus() && currentIndex().siblingAtColumn(0) == index.siblingAtColumn(0)) {
         Internal::Painting::drawFocus(painter, row, palette());
     }

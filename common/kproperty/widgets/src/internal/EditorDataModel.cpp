@@ -15,6 +15,7 @@ namespace Internal {
 namespace {
 
 const char kCommonGroup[] = "common";
+constexpr int kMostRemarksOfGroup = 5;
 
 bool hasGroupRows(const KPropertySet &set, bool groupsVisible)
 {
@@ -121,12 +122,38 @@ void EditorDataModel::setRemark(const KProperty *property, const QString &text)
     const QModelIndex name = indexOf(node, NameColumn);
     const QList<int> roles = {Qt::ToolTipRole, Qt::AccessibleDescriptionRole};
     Q_EMIT dataChanged(name, name.siblingAtColumn(ValueColumn), roles);
+    if (isGroup(name.parent())) {
+        Q_EMIT dataChanged(name.parent(), name.parent(), roles);
+    }
 }
 
 QString EditorDataModel::remark(const KProperty *property) const
 {
     const Node *const node = m_nodes.value(property);
     return node ? node->remark : QString();
+}
+
+QString EditorDataModel::remarksIn(const Node &group)
+{
+    QStringList lines;
+    int count = 0;
+    for (const std::unique_ptr<Node> &child : group.children) {
+        if (!child || child->remark.isEmpty()) {
+            continue;
+        }
+        if (++count <= kMostRemarksOfGroup) {
+            lines.append(caption(*child->property) + QLatin1String(": ") + child->remark);
+        }
+    }
+    if (count > kMostRemarksOfGroup) {
+        lines.append(tr("and %n more", nullptr, count - kMostRemarksOfGroup));
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+QString EditorDataModel::remarksIn(const QModelIndex &group) const
+{
+    return isGroup(group) ? remarksIn(*nodeOf(group)) : QString();
 }
 
 void EditorDataModel::build(Options options)
@@ -319,8 +346,15 @@ QVariant EditorDataModel::groupData(const Node &node, int column, int role) cons
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
         return m_set->groupCaption(node.group);
-    case Qt::AccessibleDescriptionRole:
-        return tr("Group of properties");
+    case Qt::AccessibleDescriptionRole: {
+        const QString remarks = remarksIn(node);
+        return remarks.isEmpty() ? tr("Group of properties")
+                                 : tr("Group of properties") + QLatin1Char('\n') + remarks;
+    }
+    case Qt::ToolTipRole: {
+        const QString remarks = remarksIn(node);
+        return remarks.isEmpty() ? QVariant() : QVariant(remarkAsHtml(remarks));
+    }
     case Qt::DecorationRole:
         return iconData(m_set->groupIconName(node.group));
     default:

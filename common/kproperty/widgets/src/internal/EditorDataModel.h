@@ -43,6 +43,8 @@ public:
     /// set keep theirs.
     void setRemark(const KProperty *property, const QString &text);
     [[nodiscard]] QString remark(const KProperty *property) const;
+    /// Of the rows in a group, one below the other, the first few; empty for none and for other rows.
+    [[nodiscard]] QString remarksIn(const QModelIndex &group) const;
     /// Tells views that the value of \a property or of its children changed.
     void refresh(const KProperty *property);
     void refreshAll();
@@ -82,6 +84,7 @@ private:
     void removeNode(Node *node);
     [[nodiscard]] Node *nodeOf(const QModelIndex &index) const;
     [[nodiscard]] QModelIndex indexOf(const Node *node, int column) const;
+    [[nodiscard]] static QString remarksIn(const Node &group);
     [[nodiscard]] QVariant groupData(const Node &node, int column, int role) const;
     [[nodiscard]] QString spokenText(const KProperty &property) const;
     [[nodiscard]] QVariant nameData(const KProperty &property, int role) const;
