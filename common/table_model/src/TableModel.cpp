@@ -126,7 +126,7 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
 {
     if (orientation == Qt::Vertical) {
         const bool isRow = section >= 0 && section < d->shown.size();
-        return isRow && role == Qt::DisplayRole ? QVariant(sheetRow(section) + 1) : QVariant();
+        return isRow ? d->rowHeader(section, role) : QVariant();
     }
     if (section < 0 || section >= columnCount())
         return {};
@@ -231,6 +231,21 @@ void TableModel::tellNotesChanged()
     if (d->shown.size() > 0 && columnCount() > 0)
         Q_EMIT dataChanged(index(0, 0), index(d->shown.size() - 1, columnCount() - 1),
                            {NoteRole, Qt::ToolTipRole, Qt::AccessibleDescriptionRole});
+}
+
+void TableModel::setRowRemarks(const QHash<quint32, QString> &remarks)
+{
+    if (remarks == d->remarks)
+        return;
+    d->remarks = remarks;
+    if (d->shown.size() > 0)
+        Q_EMIT headerDataChanged(Qt::Vertical, 0, d->shown.size() - 1);
+    tellNotesChanged();
+}
+
+const QHash<quint32, QString> &TableModel::rowRemarks() const
+{
+    return d->remarks;
 }
 
 bool TableModel::isInSheetOrder() const

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void lookingIntoACellChangesNothing();
     void wrongCellsSayWhy();
     void notesStandBesideCells();
+    void remarksStayWithTheirRows();
     void headersHaveUnitsAndExplanations();
     void readOnlyColumnsTakeNoEdit();
     void columnsSortByWhatTheyHold_data();
@@ -121,6 +122,26 @@ void TestTableModel::notesStandBesideCells()
     QCOMPARE(cell.data(Qt::AccessibleDescriptionRole).toString(), u"known"_s);
     QCOMPARE(cell.data().toString(), text);
     QCOMPARE(p.model.index(0, 0).data(TableModel::NoteRole).toString(), QString());
+}
+
+void TestTableModel::remarksStayWithTheirRows()
+{
+    Peptides p;
+    const auto remarkAt = [&p](int row) {
+        return p.model.headerData(row, Qt::Vertical, TableModel::RemarkRole).toString();
+    };
+    QSignalSpy changes(&p.model, &QAbstractItemModel::headerDataChanged);
+    p.model.setRowRemarks({{p.sheet.rowId(2), u"odd"_s}});
+    QCOMPARE(changes.size(), 1);
+    QCOMPARE(remarkAt(2), u"odd"_s);
+    QCOMPARE(remarkAt(1), QString());
+    QCOMPARE(p.model.headerData(2, Qt::Vertical, Qt::ToolTipRole).toString(), u"odd"_s);
+    QCOMPARE(p.model.headerData(2, Qt::Vertical, Qt::DisplayRole).toInt(), 3);
+    p.sheet.moveRows({2}, 0);
+    QCOMPARE(remarkAt(0), u"odd"_s);
+    QCOMPARE(remarkAt(2), QString());
+    p.model.setRowRemarks({});
+    QCOMPARE(remarkAt(0), QString());
 }
 
 void TestTableModel::headersHaveUnitsAndExplanations()

@@ -139,6 +139,16 @@ QString TableModel::Private::toolTip(const QModelIndex &index) const
     return !problem.isEmpty() ? problem : note.isEmpty() ? text : text + u'\n' + note;
 }
 
+QVariant TableModel::Private::rowHeader(int row, int role) const
+{
+    if (role == Qt::DisplayRole)
+        return q->sheetRow(row) + 1;
+    const bool isRemark =
+        role == RemarkRole || role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole;
+    const QString remark = isRemark ? remarks.value(shown.at(row)) : QString();
+    return remark.isEmpty() ? QVariant() : QVariant(remark);
+}
+
 QList<quint32> TableModel::Private::filtered(const QList<quint32> &ids) const
 {
     if (filter.isEmpty())

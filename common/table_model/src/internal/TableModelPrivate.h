@@ -27,6 +27,7 @@ public:
         return notes ? notes(shown.at(index.row()), index.column()) : QString();
     }
     [[nodiscard]] QString toolTip(const QModelIndex &index) const;
+    [[nodiscard]] QVariant rowHeader(int row, int role) const;
 
     [[nodiscard]] QList<quint32> filtered(const QList<quint32> &ids) const;
     void show(QList<quint32> ids);
@@ -44,6 +45,7 @@ public:
     TableFilter filter;
     QList<int> hiddenColumns;
     Notes notes;
+    QHash<quint32, QString> remarks;
     bool isNarrowingAllowed = false; ///< what isn't shown can't match a longer text
 };
 

@@ -1,8 +1,11 @@
 #include "RowNumbers.h"
 
 #include <orv/table_model/TableModel.h>
+#include <orv/widgets/MeaningColors.h>
 
 #include <QEvent>
+#include <QPainter>
+#include <QStyle>
 
 namespace orv {
 
@@ -19,17 +22,35 @@ QSize RowNumbers::sectionSizeFromContents(int section) const
     if (!table)
         return QHeaderView::sectionSizeFromContents(section);
     const QString all = QString::number(table->sheet()->rowCount());
-    if (m_digits != all.size()) {
+    const bool hasRemarks = !table->rowRemarks().isEmpty();
+    if (m_digits != all.size() || m_hasRemarks != hasRemarks) {
         const QString own = table->headerData(section, Qt::Vertical, Qt::DisplayRole).toString();
         QFont bold = font();
         bold.setBold(true); // as that of the current row
         const QFontMetrics metrics(bold);
         m_digits = all.size();
+        m_hasRemarks = hasRemarks;
         m_size = QHeaderView::sectionSizeFromContents(section);
         m_size.rwidth() +=
             metrics.horizontalAdvance(QString(m_digits, u'0')) - metrics.horizontalAdvance(own);
+        if (m_hasRemarks)
+            m_size.rwidth() += metrics.height();
     }
     return m_size;
+}
+
+void RowNumbers::paintSection(QPainter *painter, const QRect &section, int logicalIndex) const
+{
+    painter->save();
+    QHeaderView::paintSection(painter, section, logicalIndex);
+    painter->restore(); // it leaves a clip behind
+    if (!model() || model()->headerData(logicalIndex, Qt::Vertical, TableModel::RemarkRole).isNull())
+        return;
+    const int size = fontMetrics().height();
+    const int margin = style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
+    const QRect sign(section.left() + margin, section.center().y() - size / 2, size, size);
+    MeaningColors::paintErrorSign(*painter, QStyle::visualRect(layoutDirection(), section, sign),
+                                  MeaningColors::error(palette()));
 }
 
 void RowNumbers::changeEvent(QEvent *event)

@@ -5,6 +5,7 @@
 #include <orv/table_model/TableSheet.h>
 
 #include <QAbstractTableModel>
+#include <QHash>
 #include <QLocale>
 
 #include <functional>
@@ -26,6 +27,7 @@ public:
         KindRole,                   ///< int(TableColumnKind)
         KeptRole,                   ///< the text as the sheet keeps it
         NoteRole,                   ///< what is known of the cell beyond its text, in a few words
+        RemarkRole,                 ///< of vertical headers: what somebody remarks on the row
     };
 
     /// Where \a sheet goes before the model, an empty one with its columns takes its place.
@@ -69,6 +71,11 @@ public:
     using Notes = std::function<QString(quint32 rowId, int column)>;
     void setNotes(Notes notes);
     void tellNotesChanged();
+
+    /// Sentences at rows, by the number that stays with a row, for a sign beside it; all before are taken
+    /// away.
+    void setRowRemarks(const QHash<quint32, QString> &remarks);
+    [[nodiscard]] const QHash<quint32, QString> &rowRemarks() const;
 
     /// Whether each row stands where it stands in the sheet, so that it can be moved.
     [[nodiscard]] bool isInSheetOrder() const;
