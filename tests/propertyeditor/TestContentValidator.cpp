@@ -131,6 +131,7 @@ private Q_SLOTS:
     void textsOfTwoValidatorsAppearOnce();
     void aFailureWithoutWordsIsAnUnknownError();
     void textsGoToTheLog();
+    void aCheckThatIsRepeatedKeepsTheLogEmpty();
     void findingsTellRulePlaceAndHint();
     void oneTextAtTwoPlacesIsTwoFindings();
     void oneTextMayTellOfSeveralPlaces();
@@ -234,6 +235,18 @@ void TestContentValidator::aFailureWithoutWordsIsAnUnknownError()
     QVERIFY(!verdict.isValid);
     QCOMPARE(verdict.errors, QList<QString>{u"Unknown error"_s});
     QCOMPARE(verdict.findings.size(), 1);
+}
+
+void TestContentValidator::aCheckThatIsRepeatedKeepsTheLogEmpty()
+{
+    LogCapture log;
+    ContentValidator validator;
+    validator.setRepeatsInLog(false);
+    QVERIFY(validator.installValidator(new Speaker(false, {u"careful"_s}, {u"wrong"_s})));
+    const Verdict verdict = verdictOf(validator);
+    QCOMPARE(verdict.errors, QList<QString>{u"wrong"_s});
+    QCOMPARE(log.warnings(), QStringList());
+    QCOMPARE(log.texts(QtCriticalMsg), QStringList());
 }
 
 void TestContentValidator::textsGoToTheLog()

@@ -39,8 +39,21 @@ bool isPassed(const AbstractValidator &validator, CheckRun &run)
 class ContentValidator::Private
 {
 public:
+    void log(const QList<QString> &warnings, const QList<QString> &errors) const;
+
     std::vector<std::unique_ptr<AbstractValidator>> validators;
+    bool repeatsInLog = true;
 };
+
+void ContentValidator::Private::log(const QList<QString> &warnings, const QList<QString> &errors) const
+{
+    if (!repeatsInLog)
+        return;
+    for (const QString &warning : warnings)
+        qCWarning(propertyEditorLog).noquote() << kLogPrefix << warning;
+    for (const QString &error : errors)
+        qCCritical(propertyEditorLog).noquote() << kLogPrefix << error;
+}
 
 ContentValidator::ContentValidator()
     : d(std::make_unique<Private>())
@@ -71,6 +84,11 @@ void ContentValidator::installDefaultValidators()
 qsizetype ContentValidator::count() const
 {
     return qsizetype(d->validators.size());
+}
+
+void ContentValidator::setRepeatsInLog(bool repeats)
+{
+    d->repeatsInLog = repeats;
 }
 
 void ContentValidator::clear()
@@ -107,10 +125,7 @@ bool ContentValidator::validate(const Content &content, const QUrl &workflowBase
     *errors = run.errors();
     warnings->removeDuplicates();
     errors->removeDuplicates();
-    for (const QString &warning : std::as_const(*warnings))
-        qCWarning(propertyEditorLog).noquote() << kLogPrefix << warning;
-    for (const QString &error : std::as_const(*errors))
-        qCCritical(propertyEditorLog).noquote() << kLogPrefix << error;
+    d->log(*warnings, *errors);
     if (findings)
         *findings = run.findings();
     return failures == 0;

@@ -115,6 +115,7 @@ Result<WorkflowCheckReport> WorkflowCheck::run(const Content &content, const QUr
     if (copy.hasError())
         return copy.ecatch();
     ContentValidator validator;
+    validator.setRepeatsInLog(m_repeatsInLog);
     for (const QString &name : m_validators) {
         std::unique_ptr<AbstractValidator> created = Validators::create(name);
         if (!created) {

@@ -38,6 +38,9 @@ public:
     /// Those that every workflow goes through, in their order.
     void installDefaultValidators();
     [[nodiscard]] qsizetype count() const;
+    /// Whether the log repeats what is found, as it does at first; a check that is run again and again would
+    /// fill it.
+    void setRepeatsInLog(bool repeats);
     /// Deletes all validators.
     void clear();
 

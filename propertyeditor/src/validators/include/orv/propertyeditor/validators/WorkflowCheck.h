@@ -61,6 +61,9 @@ public:
     /// workflow holds nothing but Karvon searches.
     explicit WorkflowCheck(const QStringList &validators = {});
 
+    /// As ContentValidator::setRepeatsInLog().
+    void setRepeatsInLog(bool repeats) { m_repeatsInLog = repeats; }
+
     /// Those that run on every workflow, in their order.
     [[nodiscard]] const QStringList &validators() const { return m_validators; }
 
@@ -78,6 +81,7 @@ public:
 
 private:
     bool m_isDefault;
+    bool m_repeatsInLog = true;
     QStringList m_validators;
 };
 
