@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -50,7 +51,11 @@ FindList::FindList(QWidget *parent)
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setTabKeyNavigation(false);
     setContextMenuPolicy(Qt::ActionsContextMenu);
-    connect(this, &QAbstractItemView::clicked, this, &FindList::chosen);
+    connect(this, &QAbstractItemView::clicked, this, [this](const QModelIndex &index) {
+        // With these a click selects.
+        if (!(QGuiApplication::keyboardModifiers() & (Qt::ControlModifier | Qt::ShiftModifier)))
+            Q_EMIT chosen(index);
+    });
 }
 
 void FindList::keyPressEvent(QKeyEvent *event)

@@ -1,6 +1,7 @@
 #include "orv/propertyeditor/workbench/Workbench.h"
 
 #include "orv/propertyeditor/workbench/FindSettings.h"
+#include "orv/propertyeditor/workbench/Findings.h"
 
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/workbench/DocumentHistory.h>
@@ -24,6 +25,7 @@ Workbench::Workbench(PropertyEditorWindow *window)
     connect(window, &QWidget::windowTitleChanged, this, &Workbench::updateTitle);
     updateTitle();
     m_find = new FindSettings(this);
+    m_findings = new Findings(this);
 }
 
 Workbench::~Workbench() = default;

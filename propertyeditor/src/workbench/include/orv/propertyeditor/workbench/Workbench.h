@@ -12,6 +12,7 @@ namespace orv {
 
 class DocumentHistory;
 class FindSettings;
+class Findings;
 class PropertyEditorWindow;
 
 /// Menus and panels around a document window: Edit and View, behind the menus that are there already. A child
@@ -41,8 +42,9 @@ public:
     QDockWidget *addPanel(QWidget *widget, const QString &name, const QString &title, Qt::DockWidgetArea area,
                           const QKeySequence &shortcut = {});
 
-    /// Lives as long as the workbench.
+    // Live as long as the workbench.
     [[nodiscard]] FindSettings *find() const { return m_find; }
+    [[nodiscard]] Findings *findings() const { return m_findings; }
 
 private:
     void addHistory();
@@ -56,6 +58,7 @@ private:
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
     FindSettings *m_find = nullptr;
+    Findings *m_findings = nullptr;
 };
 
 } // namespace orv

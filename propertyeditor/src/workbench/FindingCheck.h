@@ -1,0 +1,44 @@
+#pragma once
+
+#include "FindingTargets.h"
+
+#include <QObject>
+#include <QPointer>
+
+namespace orv {
+
+class PropertyEditorWindow;
+
+/// Checks the document of a window in the background. Neither the window nor the end of the program waits for
+/// a check, which may hang on a share whose server is gone.
+class FindingCheck : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit FindingCheck(PropertyEditorWindow *window, QObject *parent = nullptr);
+    ~FindingCheck() override;
+
+    /// Checks the document as it is now. While a check runs, another one follows it.
+    void start();
+    /// What runs is about another document: nothing is told of it.
+    void forget();
+    [[nodiscard]] bool isRunning() const { return m_isRunning; }
+
+Q_SIGNALS:
+    /// A document that can't be checked has one finding that says why.
+    void finished(const QList<orv::PropertyEditor::LocatedFinding> &findings,
+                  const QList<orv::FindingTarget> &targets);
+
+private:
+    using Findings = QList<PropertyEditor::LocatedFinding>;
+
+    void finish(int number, const FindingTargets &targets, const Findings &findings);
+
+    const QPointer<PropertyEditorWindow> m_window;
+    int m_number = 0; ///< of the check that counts
+    bool m_isRunning = false;
+    bool m_isWantedAgain = false;
+};
+
+} // namespace orv

@@ -1,0 +1,419 @@
+#include "FindFixture.h"
+#include "WidgetTest.h"
+
+#include <orv/propertyeditor/workbench/FindSettings.h>
+#include <orv/propertyeditor/workbench/Findings.h>
+#include <orv/widgets/TableView.h>
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QMenu>
+#include <QSignalSpy>
+
+using namespace orv;
+using namespace FindFixture;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum FindingColumn
+{
+    kSeverity,
+    kMessage,
+    kPlace,
+    kHint,
+    kRule,
+};
+
+QJsonObject sample(const QString &name, const QString &folder)
+{
+    return {{u"SampleName"_s, name}, {u"SamplePath"_s, u"%1/%2.mzML"_s.arg(folder, name)}};
+}
+
+QJsonObject samplesCell(int count, const QString &folder = u"/no/such"_s)
+{
+    QJsonArray samples;
+    for (int i = 1; i <= count; ++i)
+        samples.append(sample(u"S%1"_s.arg(i), folder));
+    return {{u"type"_s, u"Samples"_s},
+            {u"properties"_s, QJsonArray{QJsonObject{{u"name"_s, u"SamplesTable"_s},
+                                                     {u"value"_s, QJsonObject{{u"Samples"_s, samples}}}}}}};
+}
+
+/// A workflow with nothing wrong, whose one sample lies in \a folder.
+QJsonObject faultless(const QTemporaryDir &folder)
+{
+    write(folder, "S1.mzML", QByteArrayLiteral("<mzML/>"));
+    return documentOf({samplesCell(1, folder.path()), settingsCell("Preview", {setting("Samples", u"*"_s)})});
+}
+
+/// A file that isn't there, in a folded group of the second tab, and samples without their files.
+QJsonObject faulty(int samples = 2, int priority = 1)
+{
+    QJsonObject file = setting("InSilicoPeptidesFile", u"/no/such/peptides.csv"_s, "Extras");
+    file.insert(u"priority"_s, priority);
+    const QJsonObject map = settingsCell("Senthia", {setting("Samples", u"*"_s), file});
+    return Documents::document(
+        {Documents::tab(u"Input"_s, {u"Samples"_s}, {samplesCell(samples)}),
+         Documents::tab(u"Search"_s, {u"One"_s, u"Two"_s}, {settingsCell("Preview", {}), map})},
+        metadata());
+}
+
+struct Checked : Bench
+{
+    explicit Checked(const QJsonObject &document = faulty())
+    {
+        if (!open(document))
+            qFatal("The test's document can't be opened");
+    }
+
+    [[nodiscard]] Findings &findings() const { return *bench->findings(); }
+    [[nodiscard]] QAbstractItemView &list() const { return *child<QAbstractItemView>("findings"); }
+    [[nodiscard]] bool waitFor(Findings::State state) const
+    {
+        return QTest::qWaitFor([this, state] { return findings().state() == state; });
+    }
+    [[nodiscard]] bool check() const
+    {
+        QTest::keyClick(window, Qt::Key_F9);
+        return waitFor(Findings::State::Checked);
+    }
+    [[nodiscard]] int rowOf(const QString &part) const
+    {
+        for (int column = 0; column < list().model()->columnCount(); ++column) {
+            const QStringList texts = shown(list(), column);
+            for (int row = 0; row < texts.size(); ++row) {
+                if (texts.at(row).contains(part))
+                    return row;
+            }
+        }
+        return -1;
+    }
+    [[nodiscard]] TableView &table() const { return *window->grid(0)->findChild<TableView *>(); }
+    [[nodiscard]] QString remark() const
+    {
+        const GridPropertyEditorView *column = view(1, 1);
+        return column->editorView()->remark(column->propertySet()->property("InSilicoPeptidesFile"));
+    }
+
+    LogCapture log;
+};
+
+} // namespace
+
+class FindingsTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void nothingIsMarkedBeforeACheck();
+    void aCheckOpensThePanelWithWhatWasFound();
+    void aCheckWithoutFindingsOpensNothing();
+    void placesAreMarked();
+    void aClickGoesToTheSetting();
+    void keysGoFromFindingToFinding();
+    void keysGoToRowsOfTables();
+    void theMarkMovesWithItsRow();
+    void anEditTakesTheMarkAwayAndTheNextCheckTheFinding();
+    void advancedRowsGetTheirMarkWhenTheyAreShown();
+    void foldedGroupsTellOfTheirRows();
+    void tabsKeepTheirTexts();
+    void anotherDocumentHasNoFindings();
+    void aDocumentMayGoWhileItIsChecked();
+    void savedDocumentsAreCheckedAnew();
+    void movedTabsAreFound();
+    void findingsAreCopied();
+    void settingsWithFindingsAreAFilter();
+    void uncheckableDocumentsSayWhy();
+    void theWindowMayGo_data();
+    void theWindowMayGo();
+    void manyFindingsAreShown();
+};
+
+void FindingsTest::nothingIsMarkedBeforeACheck()
+{
+    Checked c;
+    QCOMPARE(int(c.findings().state()), int(Findings::State::NotChecked));
+    QVERIFY(!c.panel("findingsPanel")->isVisible());
+    QVERIFY(c.window->tabs().tabIcon(0).isNull());
+    QVERIFY(c.table().tableModel()->rowRemarks().isEmpty());
+    QCOMPARE(c.remark(), QString());
+    QVERIFY(!c.findings().nextAction()->isEnabled());
+    c.view(1, 1)->propertySet()->property("InSilicoPeptidesFile").setValue(QVariant());
+    QCOMPARE(int(c.findings().state()), int(Findings::State::NotChecked));
+}
+
+void FindingsTest::aCheckOpensThePanelWithWhatWasFound()
+{
+    Checked c;
+    QSignalSpy changed(&c.findings(), &Findings::changed);
+    QTest::keyClick(c.window, Qt::Key_F9);
+    QCOMPARE(int(c.findings().state()), int(Findings::State::Checking));
+    QCOMPARE(changed.size(), 1);
+    QVERIFY(!c.panel("findingsPanel")->isVisible());
+    QVERIFY(c.waitFor(Findings::State::Checked));
+    QVERIFY(c.panel("findingsPanel")->isVisible());
+    QCOMPARE(c.findings().errorCount(), 3);
+    QCOMPARE(c.findings().warningCount(), 0);
+    QCOMPARE(c.child<QLabel>("findingsSummary")->text(), u"Errors: 3, warnings: 0"_s);
+    const int row = c.rowOf(u"In-silico peptides file"_s);
+    QVERIFY(row >= 0);
+    QCOMPARE(shown(c.list(), kSeverity).at(row), u"Error"_s);
+    QCOMPARE(shown(c.list(), kPlace).at(row), u"Search › Two › In-silico peptides file"_s);
+    QCOMPARE(shown(c.list(), kRule).at(row), u"Builtin/local-or-talvane-url"_s);
+    QVERIFY(!shown(c.list(), kHint).at(row).isEmpty());
+    QVERIFY(shown(c.list(), kPlace).contains(u"Input › Samples › S2 › Samples and traces"_s));
+    QCOMPARE(c.bench->viewMenu()->actions().contains(c.findings().checkAction()), true);
+}
+
+void FindingsTest::aCheckWithoutFindingsOpensNothing()
+{
+    const QTemporaryDir folder;
+    Checked c(faultless(folder));
+    QVERIFY(c.check());
+    QCOMPARE(shown(c.list(), kMessage), QStringList());
+    QVERIFY(!c.panel("findingsPanel")->isVisible());
+    QCOMPARE(c.child<QLabel>("findingsSummary")->text(), u"The check found nothing."_s);
+    QVERIFY(!c.findings().nextAction()->isEnabled());
+}
+
+void FindingsTest::placesAreMarked()
+{
+    Checked c;
+    QVERIFY(c.check());
+    QVERIFY(c.remark().startsWith(u"\"In-silico peptides file\" specifies a non-existent file"_s));
+    const TableModel *model = c.table().tableModel();
+    QVERIFY(model->headerData(1, Qt::Vertical, TableModel::RemarkRole).toString().contains(u"\"S2\""_s));
+    QVERIFY(!c.window->tabs().tabIcon(0).isNull());
+    QVERIFY(!c.window->tabs().tabIcon(1).isNull());
+    QCOMPARE(c.window->tabs().tabToolTip(0), u"Errors: 2, warnings: 0"_s);
+}
+
+void FindingsTest::aClickGoesToTheSetting()
+{
+    Checked c;
+    QVERIFY(c.check());
+    c.window->tabs().setCurrentIndex(0);
+    QVERIFY(!c.view(1, 1)->isExpanded());
+    clickAt(c.list(), c.rowOf(u"In-silico peptides file"_s), kMessage);
+    QCOMPARE(c.window->tabs().currentIndex(), 1);
+    QCOMPARE(c.currentSetting(1, 1), "InSilicoPeptidesFile");
+    QVERIFY(c.view(1, 1)->editorView()->hasFocus());
+    QVERIFY(c.view(1, 1)->isExpanded());
+}
+
+void FindingsTest::keysGoFromFindingToFinding()
+{
+    Checked c;
+    QVERIFY(c.check());
+    QList<int> rows;
+    for (int i = 0; i < 4; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F8);
+        rows.append(c.list().currentIndex().row());
+    }
+    QCOMPARE(rows, QList<int>({0, 1, 2, 0}));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F8, Qt::ShiftModifier);
+    QCOMPARE(c.list().currentIndex().row(), 2);
+    c.list().setFocus();
+    QTest::keyClick(&c.list(), Qt::Key_Return);
+    QVERIFY(!c.list().hasFocus());
+    c.list().setFocus();
+    QTest::keyClick(&c.list(), Qt::Key_Escape);
+    QVERIFY(!c.panel("findingsPanel")->isVisible());
+}
+
+void FindingsTest::keysGoToRowsOfTables()
+{
+    Checked c;
+    QVERIFY(c.check());
+    clickAt(c.list(), c.rowOf(u"\"S2\""_s), kMessage);
+    QVERIFY(c.table().hasFocus());
+    QCOMPARE(c.table().currentIndex().row(), 1);
+    const int before = c.list().currentIndex().row();
+    QTest::keyClick(&c.table(), Qt::Key_F8);
+    QCOMPARE(c.list().currentIndex().row(), (before + 1) % 3);
+}
+
+void FindingsTest::theMarkMovesWithItsRow()
+{
+    Checked c(faulty(3));
+    QVERIFY(c.check());
+    TableSheet *sheet = c.table().sheet();
+    sheet->moveRows({1}, 0);
+    const TableModel *model = c.table().tableModel();
+    QVERIFY(model->headerData(0, Qt::Vertical, TableModel::RemarkRole).toString().contains(u"\"S2\""_s));
+    clickAt(c.list(), c.rowOf(u"\"S2\""_s), kMessage);
+    QCOMPARE(c.table().currentIndex().row(), 0);
+}
+
+void FindingsTest::anEditTakesTheMarkAwayAndTheNextCheckTheFinding()
+{
+    Checked c;
+    QVERIFY(c.check());
+    c.view(1, 1)->propertySet()->property("InSilicoPeptidesFile").setValue(QVariant());
+    QCOMPARE(c.remark(), QString());
+    QCOMPARE(c.findings().errorCount(), 3);
+    QTRY_COMPARE(c.findings().errorCount(), 2);
+    QCOMPARE(c.rowOf(u"In-silico peptides file"_s), -1);
+    QTRY_VERIFY(c.window->tabs().tabIcon(1).isNull());
+    QCOMPARE(c.window->tabs().tabToolTip(1), QString());
+}
+
+void FindingsTest::advancedRowsGetTheirMarkWhenTheyAreShown()
+{
+    Checked c(faulty(2, 3));
+    QVERIFY(c.check());
+    QCOMPARE(c.remark(), QString());
+    clickAt(c.list(), c.rowOf(u"In-silico peptides file"_s), kMessage);
+    QCOMPARE(c.currentSetting(1, 1), "InSilicoPeptidesFile");
+    QVERIFY(!c.remark().isEmpty());
+}
+
+void FindingsTest::foldedGroupsTellOfTheirRows()
+{
+    Checked c;
+    QVERIFY(c.check());
+    const QAbstractItemModel *rows = c.view(1, 1)->editorView()->model();
+    QStringList told;
+    for (int row = 0; row < rows->rowCount(); ++row)
+        told.append(rows->index(row, 0).data(Qt::AccessibleDescriptionRole).toString());
+    QCOMPARE(told.size(), 2);
+    QCOMPARE(told.constFirst(), u"Group of properties"_s);
+    QVERIFY(told.constLast().startsWith(u"Group of properties\nIn-silico peptides file: "_s));
+}
+
+void FindingsTest::tabsKeepTheirTexts()
+{
+    Checked c;
+    QVERIFY(c.check());
+    QCOMPARE(c.window->tabs().tabText(0), u"Input"_s);
+    QCOMPARE(c.window->tabs().tabText(1), u"Search"_s);
+}
+
+void FindingsTest::anotherDocumentHasNoFindings()
+{
+    Checked c;
+    QVERIFY(c.check());
+    QVERIFY(c.open(documentOf({karvonCell()})));
+    QCOMPARE(int(c.findings().state()), int(Findings::State::NotChecked));
+    QCOMPARE(c.findings().errorCount(), 0);
+    QCOMPARE(shown(c.list(), kMessage), QStringList());
+    QVERIFY(c.window->tabs().tabIcon(0).isNull());
+    QVERIFY(!c.panel("findingsPanel")->isVisible());
+}
+
+void FindingsTest::aDocumentMayGoWhileItIsChecked()
+{
+    const QTemporaryDir folder;
+    Checked c;
+    QTest::keyClick(c.window, Qt::Key_F9);
+    QVERIFY(c.open(faultless(folder)));
+    QCOMPARE(int(c.findings().state()), int(Findings::State::NotChecked));
+    QVERIFY(c.check());
+    QCOMPARE(c.findings().errorCount(), 0);
+}
+
+void FindingsTest::savedDocumentsAreCheckedAnew()
+{
+    const QTemporaryDir folder;
+    Checked c;
+    QVERIFY(c.check());
+    QVERIFY(c.window->saveWorkflowToJSON(folder.filePath(u"saved.wflw"_s)));
+    QVERIFY(c.waitFor(Findings::State::Checked));
+    QCOMPARE(c.findings().errorCount(), 3);
+    QVERIFY(!c.remark().isEmpty());
+}
+
+void FindingsTest::movedTabsAreFound()
+{
+    Checked c;
+    QVERIFY(c.check());
+    c.window->tabs().tabBar()->moveTab(1, 0);
+    c.window->tabs().setCurrentIndex(1);
+    clickAt(c.list(), c.rowOf(u"In-silico peptides file"_s), kMessage);
+    QCOMPARE(c.window->tabs().currentIndex(), 0);
+    QCOMPARE(c.currentSetting(0, 1), "InSilicoPeptidesFile");
+}
+
+void FindingsTest::findingsAreCopied()
+{
+    Checked c;
+    QVERIFY(c.check());
+    c.list().setFocus();
+    QTest::keyClick(&c.list(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&c.list(), Qt::Key_C, Qt::ControlModifier);
+    const QStringList lines = QApplication::clipboard()->text().split(u'\n');
+    QCOMPARE(lines.size(), 3);
+    QCOMPARE(lines.constFirst().split(u'\t').size(), 5);
+    QVERIFY(lines.constFirst().startsWith(u"Error\t"_s));
+}
+
+void FindingsTest::settingsWithFindingsAreAFilter()
+{
+    Checked c;
+    auto *filter = c.child<QCheckBox>("hasFinding");
+    QVERIFY(!filter->isEnabled());
+    QVERIFY(c.check());
+    QVERIFY(filter->isEnabled());
+    QTest::keyClick(c.window, Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+    QTest::mouseClick(filter, Qt::LeftButton);
+    QCOMPARE(shown(*c.child<QAbstractItemView>("findHits"), 0), QStringList({u"In-silico peptides file"_s}));
+    QVERIFY(c.open(documentOf({karvonCell()})));
+    QVERIFY(!filter->isEnabled());
+}
+
+void FindingsTest::uncheckableDocumentsSayWhy()
+{
+    Checked c(documentOf({karvonCell()}, metadata("5.47.0")));
+    c.window->grid(0)->appendColumn(BaseItemType::Unknown, u"Odd"_s, true);
+    QVERIFY(c.check());
+    QCOMPARE(c.findings().errorCount(), 1);
+    QVERIFY(
+        shown(c.list(), kMessage).constFirst().startsWith(u"The workflow can't be checked: The columns"_s));
+}
+
+void FindingsTest::theWindowMayGo_data()
+{
+    QTest::addColumn<QString>("when");
+    QTest::newRow("while it is checked") << u"check"_s;
+    QTest::newRow("when a check begins") << u"begin"_s;
+    QTest::newRow("when a check ends") << u"end"_s;
+    QTest::newRow("in a jump") << u"jump"_s;
+}
+
+void FindingsTest::theWindowMayGo()
+{
+    QFETCH(QString, when);
+    Checked c;
+    if (when == u"begin"_s)
+        connect(&c.findings(), &Findings::changed, c.window, &QObject::deleteLater);
+    if (when != u"end"_s)
+        QTest::keyClick(c.window, Qt::Key_F9);
+    if (when == u"check"_s) {
+        delete c.window;
+        return;
+    }
+    if (when == u"end"_s) {
+        QTest::keyClick(c.window, Qt::Key_F9);
+        connect(&c.findings(), &Findings::changed, c.window, &QObject::deleteLater);
+    }
+    if (when == u"jump"_s) {
+        QVERIFY(c.waitFor(Findings::State::Checked));
+        connect(&c.window->tabs(), &QTabWidget::currentChanged, c.window, &QObject::deleteLater);
+        clickAt(c.list(), c.rowOf(u"In-silico peptides file"_s), kMessage);
+    }
+    QTRY_VERIFY(!c.window);
+}
+
+void FindingsTest::manyFindingsAreShown()
+{
+    Checked c(faulty(10000));
+    QVERIFY(c.check());
+    QCOMPARE(c.findings().errorCount(), 10001);
+    QCOMPARE(c.table().tableModel()->rowRemarks().size(), 10000);
+    clickAt(c.list(), c.rowOf(u"\"S9000\""_s), kMessage);
+    QCOMPARE(c.table().currentIndex().row(), 8999);
+}
+
+WIDGET_REGISTER_TEST(FindingsTest)
+#include "FindingsTest.moc"
