@@ -78,13 +78,7 @@ FindPanel::FindPanel(SettingColumns *columns, QWidget *parent)
     , m_empty(new QLabel)
     , m_list(new FindList)
 {
-    m_field->setObjectName(QStringLiteral("findField"));
-    m_field->setAccessibleName(tr("Find settings"));
-    m_field->setPlaceholderText(tr("Caption, name, explanation or value of a setting"));
-    m_field->setToolTip(tr("Words that stand in a setting's caption, name, explanation or value"));
-    m_field->setClearButtonEnabled(true);
-    m_field->setMaxLength(kMostTyped);
-    m_field->installEventFilter(this);
+    buildField();
     m_count->setObjectName(QStringLiteral("findCount"));
     m_count->setTextFormat(Qt::PlainText);
     m_empty->setObjectName(QStringLiteral("findEmpty"));
@@ -97,15 +91,26 @@ FindPanel::FindPanel(SettingColumns *columns, QWidget *parent)
     m_pause.setSingleShot(true);
     m_pause.setInterval(kPause);
     connect(&m_pause, &QTimer::timeout, this, &FindPanel::announce);
+    connect(columns, &SettingColumns::changed, this, &FindPanel::follow);
+}
+
+FindPanel::~FindPanel() = default;
+
+void FindPanel::buildField()
+{
+    m_field->setObjectName(QStringLiteral("findField"));
+    m_field->setAccessibleName(tr("Find settings"));
+    m_field->setPlaceholderText(tr("Caption, name, explanation or value of a setting"));
+    m_field->setToolTip(tr("Words that stand in a setting's caption, name, explanation or value"));
+    m_field->setClearButtonEnabled(true);
+    m_field->setMaxLength(kMostTyped);
+    m_field->installEventFilter(this);
     connect(m_field, &QLineEdit::textChanged, this, &FindPanel::search);
     connect(m_field, &QLineEdit::returnPressed, this, [this] {
         const QModelIndex current = m_list->currentIndex();
         choose((current.isValid() ? current : m_hits->index(0, 0)).siblingAtColumn(0));
     });
-    connect(columns, &SettingColumns::changed, this, &FindPanel::follow);
 }
-
-FindPanel::~FindPanel() = default;
 
 void FindPanel::buildList()
 {
@@ -185,7 +190,7 @@ void FindPanel::setFilter(Filter filter, const std::function<bool(const SettingP
     if (!passes)
         box->setChecked(false);
     else if (wasChecked)
-        search();
+        searchAgain();
 }
 
 bool FindPanel::isChecked(Filter filter) const
@@ -211,12 +216,29 @@ void FindPanel::begin()
 
 void FindPanel::search()
 {
+    showHits();
+    if (m_hits->rowCount() > 0)
+        m_list->setCurrentIndex(m_hits->index(0, 0));
+}
+
+void FindPanel::searchAgain()
+{
+    const int current = m_list->currentIndex().row();
+    const std::optional<SettingPlace> place =
+        current >= 0 ? std::optional(m_hits->placeOf(current)) : std::nullopt;
+    search();
+    for (int row = 0; place && row < m_hits->rowCount(); ++row) {
+        if (m_hits->placeOf(row) == *place)
+            m_list->setCurrentIndex(m_hits->index(row, 0));
+    }
+}
+
+void FindPanel::showHits()
+{
     m_isStale = false;
     m_columns->refresh();
     const SettingQuery wanted = query();
     m_hits->show(wanted, m_columns->index().hits(wanted));
-    if (m_hits->rowCount() > 0)
-        m_list->setCurrentIndex(m_hits->index(0, 0));
     m_empty->setText(emptyText(wanted));
     m_pages->setCurrentIndex(m_hits->rowCount() > 0 ? 1 : 0);
     tellCount();
@@ -236,7 +258,7 @@ void FindPanel::follow()
         m_hits->tellValues();
         break;
     case SettingColumns::Change::Places:
-        search();
+        searchAgain();
         break;
     }
 }
@@ -245,7 +267,7 @@ void FindPanel::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     if (m_isStale)
-        search();
+        searchAgain();
 }
 
 QString FindPanel::emptyText(const SettingQuery &query) const

@@ -69,6 +69,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    void buildField();
     void layOut();
     void buildList();
     [[nodiscard]] QWidget *buildFilters();
@@ -76,7 +77,11 @@ private:
                     SettingColumns::Former former);
     [[nodiscard]] bool isChecked(Filter filter) const;
     [[nodiscard]] SettingQuery query() const;
+    /// The best hit is current behind it.
     void search();
+    /// The same, but for the hit that is current, which stays it if it is still there.
+    void searchAgain();
+    void showHits();
     void follow();
     void choose(const QModelIndex &index);
     void tellCount();

@@ -7,6 +7,7 @@
 #include "orv/propertyeditor/workbench/FindSettings.h"
 #include "orv/propertyeditor/workbench/Workbench.h"
 
+#include <KPropertyEditorView.h>
 #include <orv/propertyeditor/grid/GridPropertyEditorView.h>
 #include <orv/propertyeditor/grid/IGridItem.h>
 #include <orv/propertyeditor/grid/PropertyGridWidget.h>
@@ -45,6 +46,7 @@ public:
 
     QAction *add(const QString &text, const char *name, IconName icon, const QKeySequence &shortcut);
     void check();
+    void commitTyping() const;
     void recheck();
     void startOver();
     void show(const QList<LocatedFinding> &found, const QList<FindingTarget> &places);
@@ -68,6 +70,7 @@ public:
     bool isChecked = false;
 
 private:
+    void connectCommands();
     void connectWindow();
 
     bool m_isAsked = false; ///< by a person, who waits for the panel
@@ -94,14 +97,19 @@ Findings::Private::Private(Findings *owner, Workbench *workbench)
     menu->addActions({checkAction, nextAction, previousAction});
     nextAction->setEnabled(false);
     previousAction->setEnabled(false);
+    m_pause.setSingleShot(true);
+    m_pause.setInterval(kFindingsPause);
+    connectCommands();
+    connectWindow();
+}
+
+void Findings::Private::connectCommands()
+{
     connect(checkAction, &QAction::triggered, q, [this] { check(); });
     connect(nextAction, &QAction::triggered, q, [this] { goTo(panel->step(1)); });
     connect(previousAction, &QAction::triggered, q, [this] { goTo(panel->step(-1)); });
     connect(panel, &FindingsPanel::chosen, q, [this](int row) { goTo(row); });
     connect(panel, &FindingsPanel::left, q, [this] { dock->hide(); });
-    m_pause.setSingleShot(true);
-    m_pause.setInterval(kFindingsPause);
-    connectWindow();
 }
 
 QAction *Findings::Private::add(const QString &text, const char *name, IconName icon,
@@ -133,8 +141,21 @@ void Findings::Private::connectWindow()
 
 void Findings::Private::check()
 {
+    const QPointer<Findings> self(q);
+    commitTyping();
+    if (!self)
+        return;
     m_isAsked = true;
     recheck();
+}
+
+/// What somebody is typing into a setting is to be checked, too.
+void Findings::Private::commitTyping() const
+{
+    for (QWidget *outer = QApplication::focusWidget(); outer; outer = outer->parentWidget()) {
+        if (auto *view = qobject_cast<KPropertyEditorView *>(outer))
+            return view->acceptInput();
+    }
 }
 
 void Findings::Private::recheck()
@@ -176,6 +197,7 @@ void Findings::Private::show(const QList<LocatedFinding> &found, const QList<Fin
     if (std::exchange(m_isAsked, false) && hasAny && dock) {
         dock->show();
         dock->raise();
+        panel->announce();
     }
     Q_EMIT q->changed();
 }

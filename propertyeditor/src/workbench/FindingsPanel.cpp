@@ -2,6 +2,7 @@
 
 #include <orv/widgets/Icons.h>
 
+#include <QAccessible>
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
@@ -84,6 +85,12 @@ void FindingsPanel::setSummary(const QString &text)
 {
     m_summary->setText(text);
     m_summary->setAccessibleName(text);
+}
+
+void FindingsPanel::announce()
+{
+    QAccessibleEvent event(m_summary, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
 }
 
 int FindingsPanel::step(int step)

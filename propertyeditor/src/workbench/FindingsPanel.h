@@ -22,6 +22,8 @@ public:
     /// The finding that is current stays it, if it is still there.
     void show(const QList<PropertyEditor::LocatedFinding> &findings);
     void setSummary(const QString &text);
+    /// Tells a screen reader the summary.
+    void announce();
 
     /// The next finding in the list, or the one before for a \a step of -1, becomes current, from one end to
     /// the other; its number, or -1 for none. Begins at the current one if nobody has gone there yet.

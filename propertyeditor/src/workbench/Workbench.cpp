@@ -72,6 +72,9 @@ QDockWidget *Workbench::addPanel(QWidget *widget, const QString &name, const QSt
     panel->setAccessibleName(title);
     panel->setWidget(widget);
     m_window->addDockWidget(area, panel);
+    if (m_panels.contains(area))
+        m_window->tabifyDockWidget(m_panels.value(area), panel);
+    m_panels.insert(area, panel);
     panel->hide();
     QAction *toggle = panel->toggleViewAction();
     toggle->setShortcut(shortcut);

@@ -123,6 +123,8 @@ private Q_SLOTS:
     void savedDocumentsAreCheckedAnew();
     void movedTabsAreFound();
     void findingsAreCopied();
+    void whatIsBeingTypedIsChecked();
+    void bothPanelsShareTheirPlace();
     void settingsWithFindingsAreAFilter();
     void uncheckableDocumentsSayWhy();
     void theWindowMayGo_data();
@@ -348,6 +350,35 @@ void FindingsTest::findingsAreCopied()
     QVERIFY(lines.constFirst().startsWith(u"Error\t"_s));
 }
 
+void FindingsTest::whatIsBeingTypedIsChecked()
+{
+    Checked c(documentOf({samplesCell(1), settingsCell("Senthia", {setting("Samples", u"*"_s, "Extras")})}));
+    GridPropertyEditorView *column = c.view(0, 1);
+    QVERIFY(column->goTo("Samples"));
+    column->editorView()->setFocus();
+    QTest::keyClick(column->editorView(), Qt::Key_F2);
+    QWidget *editor = QApplication::focusWidget();
+    QVERIFY(column->editorView()->viewport()->isAncestorOf(editor));
+    QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(editor, u"nobody"_s);
+    QTest::keyClick(editor, Qt::Key_F9);
+    QVERIFY(c.waitFor(Findings::State::Checked));
+    QCOMPARE(column->propertySet()->property("Samples").value().toString(), u"nobody"_s);
+}
+
+void FindingsTest::bothPanelsShareTheirPlace()
+{
+    Checked c;
+    QVERIFY(c.check());
+    const int width = c.panel("findingsPanel")->width();
+    QTest::keyClick(c.window, Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(c.child<QLineEdit>("findField")->hasFocus());
+    QCOMPARE(c.panel("findSettings")->width(), width);
+    QTest::keyClick(c.window, Qt::Key_F9);
+    QVERIFY(c.waitFor(Findings::State::Checked));
+    QVERIFY(!c.panel("findingsPanel")->visibleRegion().isEmpty());
+}
+
 void FindingsTest::settingsWithFindingsAreAFilter()
 {
     Checked c;
@@ -378,6 +409,7 @@ void FindingsTest::theWindowMayGo_data()
     QTest::newRow("while it is checked") << u"check"_s;
     QTest::newRow("when a check begins") << u"begin"_s;
     QTest::newRow("when a check ends") << u"end"_s;
+    QTest::newRow("when a check ends, at once") << u"end at once"_s;
     QTest::newRow("in a jump") << u"jump"_s;
 }
 
@@ -393,6 +425,8 @@ void FindingsTest::theWindowMayGo()
         delete c.window;
         return;
     }
+    if (when == u"end at once"_s)
+        connect(&c.findings(), &Findings::changed, c.window, [window = c.window.data()] { delete window; });
     if (when == u"end"_s) {
         QTest::keyClick(c.window, Qt::Key_F9);
         connect(&c.findings(), &Findings::changed, c.window, &QObject::deleteLater);

@@ -2,6 +2,7 @@
 
 #include <orv/widgets/Export.h>
 
+#include <QMap>
 #include <QObject>
 
 QT_FORWARD_DECLARE_CLASS(QAction)
@@ -38,7 +39,8 @@ public:
     [[nodiscard]] QMenu *viewMenu() const { return m_viewMenu; }
 
     /// A panel that is closed at first, opened from the View menu by \a shortcut or by the code that has
-    /// something to show. Takes \a widget over; \a name is its object name, under which its place is kept.
+    /// something to show. Those of one area are tabs of each other. Takes \a widget over; \a name is its
+    /// object name, under which its place is kept.
     QDockWidget *addPanel(QWidget *widget, const QString &name, const QString &title, Qt::DockWidgetArea area,
                           const QKeySequence &shortcut = {});
 
@@ -57,6 +59,7 @@ private:
     DocumentHistory *m_history;
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
+    QMap<Qt::DockWidgetArea, QDockWidget *> m_panels; ///< the last of each area; the window's
     FindSettings *m_find = nullptr;
     Findings *m_findings = nullptr;
 };
