@@ -57,6 +57,7 @@ class ReferenceEditorsTest : public WidgetTest
 
 private Q_SLOTS:
     void initTestCase();
+    void noReferenceShowsNothing();
     void typedFilesAreTaken_data();
     void typedFilesAreTaken();
     void missingFilesGoBackWithAReason_data();
@@ -86,6 +87,13 @@ private Q_SLOTS:
 void ReferenceEditorsTest::initTestCase()
 {
     ORVPropertyFactory::init();
+}
+
+void ReferenceEditorsTest::noReferenceShowsNothing()
+{
+    QCOMPARE(ResourceReferenceDelegateBase::displayText(QVariant(), {}), QString());
+    QCOMPARE(ResourceReferenceDelegateBase::displayText(QVariant::fromValue(ResourceReferenceSPtr()), {}),
+             QString());
 }
 
 void ReferenceEditorsTest::typedFilesAreTaken_data()

@@ -31,7 +31,7 @@ QString referenceText(const ResourceReferenceSPtr &reference, const QUrl &baseUr
 /// Of a value that doesn't belong into a reference.
 QString foreignText(const QVariant &value)
 {
-    if (value.canConvert<QString>())
+    if (!value.isValid() || value.canConvert<QString>())
         return value.toString();
     const QJsonValue json = QJsonValue::fromVariant(value);
     const QJsonDocument document =
