@@ -137,6 +137,8 @@ private:
     QRect dividerArea() const;
     void drawGroup(QPainter *painter, const QStyleOptionViewItem &option, const QRect &row,
                    const QModelIndex &index) const;
+    void drawRemarkSign(QPainter *painter, const QStyleOptionViewItem &option, const QRect &row,
+                        const QModelIndex &group) const;
     void drawGridLines(QPainter *painter, const QRect &row, const QModelIndex &index) const;
     void expandItems();
     void expandChildren(const QModelIndex &index);

@@ -213,16 +213,28 @@ void KPropertyEditorView::drawGroup(QPainter *painter, const QStyleOptionViewIte
     Internal::Painting::drawExpander(painter, QStyle::visualRect(layoutDirection(), row, expander), palette(),
                                      isExpanded(index));
     if (!isExpanded(index) && !d->model->remarksIn(index).isEmpty()) {
-        const int size = fontMetrics().height();
-        const QRect sign(row.right() - Internal::Painting::textMargin() - size, row.center().y() - size / 2,
-                         size, size);
-        style()
-            ->standardIcon(QStyle::SP_MessageBoxWarning, &option, this)
-            .paint(painter, QStyle::visualRect(layoutDirection(), row, sign));
+        drawRemarkSign(painter, groupOption, row, index);
     }
     if (hasFocus() && currentIndex().siblingAtColumn(0) == index.siblingAtColumn(0)) {
         Internal::Painting::drawFocus(painter, row, palette());
     }
+}
+
+/// Behind the caption, where it is seen however wide the column is.
+void KPropertyEditorView::drawRemarkSign(QPainter *painter, const QStyleOptionViewItem &option,
+                                         const QRect &row, const QModelIndex &group) const
+{
+    QFont bold = option.font;
+    bold.setBold(true);
+    const int size = option.fontMetrics.height();
+    const int margin = Internal::Painting::textMargin();
+    const int icon = group.data(Qt::DecorationRole).isNull() ? 0 : size + margin;
+    const int caption = QFontMetrics(bold).horizontalAdvance(group.data().toString());
+    const int left = std::min(row.left() + 16 + icon + caption + 2 * margin, row.right() - margin - size);
+    const QRect sign(left, row.center().y() - size / 2, size, size);
+    style()
+        ->standardIcon(QStyle::SP_MessageBoxWarning, &option, this)
+        .paint(painter, QStyle::visualRect(layoutDirection(), row, sign));
 }
 
 void KPropertyEditorView::drawRow(QPainter *painter, const QStyleOptionViewItem &option,

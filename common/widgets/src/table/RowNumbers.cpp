@@ -34,9 +34,14 @@ QSize RowNumbers::sectionSizeFromContents(int section) const
         m_size.rwidth() +=
             metrics.horizontalAdvance(QString(m_digits, u'0')) - metrics.horizontalAdvance(own);
         if (m_hasRemarks)
-            m_size.rwidth() += metrics.height();
+            m_size.rwidth() += metrics.height() + signMargin();
     }
     return m_size;
+}
+
+int RowNumbers::signMargin() const
+{
+    return style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
 }
 
 void RowNumbers::paintSection(QPainter *painter, const QRect &section, int logicalIndex) const
@@ -47,8 +52,7 @@ void RowNumbers::paintSection(QPainter *painter, const QRect &section, int logic
     if (!model() || model()->headerData(logicalIndex, Qt::Vertical, TableModel::RemarkRole).isNull())
         return;
     const int size = fontMetrics().height();
-    const int margin = style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
-    const QRect sign(section.left() + margin, section.center().y() - size / 2, size, size);
+    const QRect sign(section.left() + signMargin(), section.center().y() - size / 2, size, size);
     MeaningColors::paintErrorSign(*painter, QStyle::visualRect(layoutDirection(), section, sign),
                                   MeaningColors::error(palette()));
 }

@@ -19,6 +19,8 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    [[nodiscard]] int signMargin() const;
+
     mutable qsizetype m_digits = 0; ///< that the size is for
     mutable QSize m_size;
     mutable bool m_hasRemarks = false; ///< so that their sign has room
