@@ -11,6 +11,7 @@
 #include <orv/propertyeditor/validators/ContentValidator.h>
 #include <orv/propertyeditor/validators/FindingsValidator.h>
 #include <orv/propertyeditor/validators/Validators.h>
+#include <orv/propertyeditor/validators/WorkflowCheck.h>
 #include <orv/propertyeditor/validators/WorkflowValidator.h>
 
 #include <functional>
@@ -132,6 +133,7 @@ private Q_SLOTS:
     void aFailureWithoutWordsIsAnUnknownError();
     void textsGoToTheLog();
     void aCheckThatIsRepeatedKeepsTheLogEmpty();
+    void filesThatAreMissingAreNotLoggedThenEither();
     void findingsTellRulePlaceAndHint();
     void oneTextAtTwoPlacesIsTwoFindings();
     void oneTextMayTellOfSeveralPlaces();
@@ -247,6 +249,23 @@ void TestContentValidator::aCheckThatIsRepeatedKeepsTheLogEmpty()
     QCOMPARE(verdict.errors, QList<QString>{u"wrong"_s});
     QCOMPARE(log.warnings(), QStringList());
     QCOMPARE(log.texts(QtCriticalMsg), QStringList());
+}
+
+void TestContentValidator::filesThatAreMissingAreNotLoggedThenEither()
+{
+    LogCapture log;
+    WorkflowCheck check({u"Files"_s});
+    check.setRepeatsInLog(false);
+    const QJsonObject sample{{u"SampleName"_s, u"S1"_s}, {u"SamplePath"_s, u"/no/such/S1.mzML"_s}};
+    QJsonObject cell = Documents::cell(u"Samples"_s);
+    cell[u"properties"_s] = QJsonArray{QJsonObject{
+        {u"name"_s, u"SamplesTable"_s}, {u"value"_s, QJsonObject{{u"Samples"_s, QJsonArray{sample}}}}}};
+    const QJsonObject document = Documents::document({Documents::tab(u"Input"_s, {u"Samples"_s}, {cell})},
+                                                     {{u"version"_s, u"5.47.0"_s}});
+    const auto report = check.run({document, {}}, {});
+    QVERIFY(!report.hasError());
+    QCOMPARE(report->findings.size(), 1);
+    QCOMPARE(log.warnings(), QStringList());
 }
 
 void TestContentValidator::textsGoToTheLog()

@@ -61,6 +61,7 @@ public:
 
     const Content &content;
     const QUrl baseUrl;
+    bool repeatsInLog = true;
     SampleFiles files;
     QString validator;
     qsizetype validatorNumber = 0;
@@ -84,6 +85,16 @@ const Content &CheckRun::content() const
 const QUrl &CheckRun::workflowBaseUrl() const
 {
     return d->baseUrl;
+}
+
+void CheckRun::setRepeatsInLog(bool repeats)
+{
+    d->repeatsInLog = repeats;
+}
+
+bool CheckRun::repeatsInLog() const
+{
+    return d->repeatsInLog;
 }
 
 void CheckRun::beginValidator(const QString &name)

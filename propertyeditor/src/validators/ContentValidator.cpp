@@ -111,6 +111,7 @@ bool ContentValidator::validate(const Content &content, const QUrl &workflowBase
     }
     qCDebug(propertyEditorLog) << "Validating workflow content";
     CheckRun run(content, workflowBaseUrl);
+    run.setRepeatsInLog(d->repeatsInLog);
     int failures = 0;
     for (const auto &validator : d->validators) {
         run.beginValidator(Validators::nameOf(*validator));

@@ -19,7 +19,7 @@ bool checkExistence(CheckRun &run, const ResourceReferenceSPtr &reference)
     const Result<bool> exists = run.files().exists(reference);
     if (exists.hasError())
         qCWarning(propertyEditorLog).noquote() << exists.error().errorMessage();
-    else if (!*exists)
+    else if (!*exists && run.repeatsInLog())
         qCWarning(propertyEditorLog) << "File"
                                      << ResourceReferenceUtils::withoutCredentials(reference->text())
                                      << "doesn't exist";

@@ -28,6 +28,10 @@ public:
     [[nodiscard]] const Content &content() const;
     [[nodiscard]] const QUrl &workflowBaseUrl() const;
 
+    /// As ContentValidator::setRepeatsInLog(), for validators that log what they tell.
+    void setRepeatsInLog(bool repeats);
+    [[nodiscard]] bool repeatsInLog() const;
+
     /// What is told from now on was found by the validator of that short name.
     void beginValidator(const QString &name);
 
