@@ -21,7 +21,8 @@ constexpr qsizetype kMostCharacters = 65536;
 
 bool isReferenceToNothing(const QVariant &value)
 {
-    return value.typeId() == qMetaTypeId<ResourceReferenceSPtr>() && !value.value<ResourceReferenceSPtr>();
+    return !value.isValid() ||
+           (value.typeId() == qMetaTypeId<ResourceReferenceSPtr>() && !value.value<ResourceReferenceSPtr>());
 }
 
 /// An object whose members are empty shows as one without members.

@@ -77,6 +77,7 @@ private Q_SLOTS:
     void changedSettingsGoBackToTheirDefaultByOneClick();
     void whatWasChangedSinceSavingGoesBackByItsShortcut();
     void aSettingAtItsDefaultIsNotChanged();
+    void anEmptyDefaultIsToldInAWord();
     void editsShowInTheHits();
     void anotherDocumentIsSearchedAnew();
     void tablesKeepTheirOwnSearch();
@@ -231,6 +232,18 @@ void FindSettingsTest::aSettingAtItsDefaultIsNotChanged()
     QTest::mouseClick(&s.filter("changedFromDefault"), Qt::LeftButton);
     QCOMPARE(s.captions(), QStringList());
     QCOMPARE(s.child<QLabel>("findEmpty")->text(), u"No setting passes this filter."_s);
+}
+
+void FindSettingsTest::anEmptyDefaultIsToldInAWord()
+{
+    Search s(documentOf({settingsCell("Karvon", {setting("ReportConfiguration", u"/no/such.rptc"_s)})}));
+    s.type("report configuration");
+    QCOMPARE(shown(s.list(), kDefault), QStringList({u"(empty)"_s}));
+    clickAt(s.list(), 0, kDefault);
+    QTRY_COMPARE(shown(s.list(), kValue), QStringList({QString()}));
+    QCOMPARE(shown(s.list(), kSaved), QStringList({u"/no/such.rptc"_s}));
+    const QJsonObject column = s.window->grid(0)->items().constFirst()->content();
+    QCOMPARE(column[u"properties"_s].toArray().at(0).toObject()[u"value"_s], QJsonValue(QString()));
 }
 
 void FindSettingsTest::editsShowInTheHits()
