@@ -2,13 +2,12 @@
 
 #include "FindPanel.h"
 #include "SettingJump.h"
+#include "SettingVisits.h"
 #include "YieldingShortcuts.h"
 #include "orv/propertyeditor/workbench/Workbench.h"
 
-#include <KPropertyUtils.h>
 #include <orv/propertyeditor/grid/KPropertyCustomEditorView.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
-#include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/widgets/Icons.h>
 
 #include <QAction>
@@ -16,32 +15,7 @@
 #include <QDockWidget>
 #include <QMenu>
 
-#include <utility>
-
 namespace orv {
-
-namespace {
-
-/// A column as it was before somebody jumped into it.
-struct FoldsBefore
-{
-    QPointer<GridPropertyEditorView> view;
-    GridPropertyEditorView::Folds folds;
-};
-
-/// The caption of the group in which somebody works; empty for nobody.
-QString groupAtWork(const GridPropertyEditorView &view)
-{
-    const QWidget *focus = QApplication::focusWidget();
-    if (!focus || !view.isAncestorOf(focus))
-        return {};
-    QModelIndex row = view.editorView()->currentIndex();
-    while (row.parent().isValid())
-        row = row.parent();
-    return row.data().toString();
-}
-
-} // namespace
 
 class FindSettings::Private
 {
@@ -51,7 +25,6 @@ public:
     void begin();
     void jump(const SettingPlace &place);
     void leave();
-    void restore();
 
     FindSettings *const q;
     const QPointer<PropertyEditorWindow> window;
@@ -61,9 +34,7 @@ public:
     QAction *action;
 
 private:
-    void remember(GridPropertyEditorView *view);
-
-    QList<FoldsBefore> m_before;
+    SettingVisits m_visits;
     QPointer<QWidget> m_focusBefore;
 };
 
@@ -76,7 +47,7 @@ FindSettings::Private::Private(FindSettings *find, Workbench *workbench)
                                Qt::BottomDockWidgetArea))
     , action(new QAction(Icons::icon(IconName::Find), tr("&Find Settings..."), find))
 {
-    action->setObjectName(QStringLiteral("findSettings"));
+    action->setObjectName(QStringLiteral("find"));
     action->setToolTip(tr("Search the settings of all tabs"));
     YieldingShortcuts::set(
         action, {QKeySequence(QKeySequence::Find), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F)});
@@ -87,7 +58,7 @@ FindSettings::Private::Private(FindSettings *find, Workbench *workbench)
     connect(panel, &FindPanel::setBackWanted, columns, &SettingColumns::setBack);
     connect(dock, &QDockWidget::visibilityChanged, find, [this] {
         if (dock && dock->isHidden())
-            restore();
+            m_visits.end(window);
     });
 }
 
@@ -101,20 +72,12 @@ void FindSettings::Private::begin()
     panel->begin();
 }
 
-void FindSettings::Private::remember(GridPropertyEditorView *view)
-{
-    m_before.removeIf([](const FoldsBefore &each) { return !each.view; });
-    const auto isKnown = [view](const FoldsBefore &each) { return each.view == view; };
-    if (std::none_of(m_before.cbegin(), m_before.cend(), isKnown))
-        m_before.append({view, view->folds()});
-}
-
 void FindSettings::Private::jump(const SettingPlace &place)
 {
     const QPointer<GridPropertyEditorView> view = columns->view(place);
     if (!view || !window)
         return;
-    remember(view);
+    m_visits.begin(view);
     m_focusBefore = view->editorView();
     (void)SettingJump::toSetting(window, view, place.name);
 }
@@ -127,24 +90,6 @@ void FindSettings::Private::leave()
         before->setFocus(Qt::OtherFocusReason);
     if (self && dock)
         dock->hide();
-}
-
-void FindSettings::Private::restore()
-{
-    const QList<FoldsBefore> before = std::exchange(m_before, {});
-    const QPointer<PropertyEditorWindow> open = window;
-    for (const FoldsBefore &each : before) {
-        if (!each.view || !open)
-            continue;
-        GridPropertyEditorView::Folds folds = each.folds;
-        if (const QString group = groupAtWork(*each.view); !group.isEmpty())
-            folds.insert(group, true);
-        const auto mode = open->workflowTabs()->propertiesViewMode();
-        if (each.view->propertiesViewMode() != mode)
-            each.view->setPropertiesViewMode(mode);
-        if (each.view)
-            each.view->setFolds(folds);
-    }
 }
 
 FindSettings::FindSettings(Workbench *workbench)

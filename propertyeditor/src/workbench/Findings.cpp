@@ -4,6 +4,7 @@
 #include "FindingMarks.h"
 #include "FindingsPanel.h"
 #include "SettingJump.h"
+#include "SettingVisits.h"
 #include "orv/propertyeditor/workbench/FindSettings.h"
 #include "orv/propertyeditor/workbench/Workbench.h"
 
@@ -52,6 +53,7 @@ public:
     void show(const QList<LocatedFinding> &found, const QList<FindingTarget> &places);
     void summarize();
     void goTo(int row);
+    void goToColumn(const FindingTarget &target) const;
     [[nodiscard]] FindSettings::Filter filter() const;
     [[nodiscard]] int count(Finding::Level level) const;
 
@@ -73,7 +75,11 @@ private:
     void connectCommands();
     void connectWindow();
 
-    bool m_isAsked = false; ///< by a person, who waits for the panel
+    void leave();
+
+    SettingVisits m_visits;
+    QPointer<QWidget> m_visited; ///< the last
+    bool m_isAsked = false;      ///< by a person, who waits for the panel
     QTimer m_pause;
 };
 
@@ -109,7 +115,11 @@ void Findings::Private::connectCommands()
     connect(nextAction, &QAction::triggered, q, [this] { goTo(panel->step(1)); });
     connect(previousAction, &QAction::triggered, q, [this] { goTo(panel->step(-1)); });
     connect(panel, &FindingsPanel::chosen, q, [this](int row) { goTo(row); });
-    connect(panel, &FindingsPanel::left, q, [this] { dock->hide(); });
+    connect(panel, &FindingsPanel::left, q, [this] { leave(); });
+    connect(dock, &QDockWidget::visibilityChanged, q, [this] {
+        if (dock && dock->isHidden())
+            m_visits.end(window);
+    });
 }
 
 QAction *Findings::Private::add(const QString &text, const char *name, IconName icon,
@@ -236,17 +246,35 @@ FindSettings::Filter Findings::Private::filter() const
     };
 }
 
+/// To where the list has led last.
+void Findings::Private::leave()
+{
+    const QPointer<Findings> self(q);
+    if (m_visited && m_visited->isVisible())
+        m_visited->setFocus(Qt::OtherFocusReason);
+    if (self && dock)
+        dock->hide();
+}
+
 void Findings::Private::goTo(int row)
 {
     if (row < 0 || row >= targets.size() || !window)
         return;
+    const QPointer<Findings> self(q);
     const FindingTarget target = targets.at(row);
-    if (!target.column)
-        return;
-    if (target.settings() && !target.setting.isEmpty() &&
-        SettingJump::toSetting(window, target.settings(), target.setting))
-        return;
-    if (target.column)
+    if (target.settings())
+        m_visits.begin(target.settings());
+    const bool isThere = target.settings() && !target.setting.isEmpty() &&
+                         SettingJump::toSetting(window, target.settings(), target.setting);
+    if (self && !isThere)
+        goToColumn(target);
+    if (self && window && window->centralWidget()->isAncestorOf(QApplication::focusWidget()))
+        m_visited = QApplication::focusWidget();
+}
+
+void Findings::Private::goToColumn(const FindingTarget &target) const
+{
+    if (target.column && window)
         SettingJump::show(window, target.column);
     if (target.table && target.row) {
         const int shown = target.table->tableModel()->rowOfId(*target.row);

@@ -274,6 +274,9 @@ void FindingsTest::advancedRowsGetTheirMarkWhenTheyAreShown()
     clickAt(c.list(), c.rowOf(u"In-silico peptides file"_s), kMessage);
     QCOMPARE(c.currentSetting(1, 1), "InSilicoPeptidesFile");
     QVERIFY(!c.remark().isEmpty());
+    QTest::keyClick(&c.list(), Qt::Key_Escape);
+    QVERIFY(c.view(1, 1)->propertiesViewMode() == GridPropertyEditorView::PropertiesViewMode::Basic);
+    QVERIFY(c.view(1, 1)->editorView()->hasFocus());
 }
 
 void FindingsTest::foldedGroupsTellOfTheirRows()
