@@ -159,12 +159,14 @@ void Findings::Private::check()
     recheck();
 }
 
-/// What somebody is typing into a setting is to be checked, too.
+/// What somebody is typing into a setting or a cell is to be checked, too.
 void Findings::Private::commitTyping() const
 {
     for (QWidget *outer = QApplication::focusWidget(); outer; outer = outer->parentWidget()) {
-        if (auto *view = qobject_cast<KPropertyEditorView *>(outer))
-            return view->acceptInput();
+        if (auto *settings = qobject_cast<KPropertyEditorView *>(outer))
+            return settings->acceptInput();
+        if (auto *table = qobject_cast<TableView *>(outer))
+            return table->setFocus();
     }
 }
 

@@ -129,6 +129,7 @@ private Q_SLOTS:
     void movedTabsAreFound();
     void findingsAreCopied();
     void whatIsBeingTypedIsChecked();
+    void whatIsBeingTypedIntoATableIsChecked();
     void bothPanelsShareTheirPlace();
     void settingsWithFindingsAreAFilter();
     void uncheckableDocumentsSayWhy();
@@ -372,6 +373,21 @@ void FindingsTest::whatIsBeingTypedIsChecked()
     QTest::keyClick(editor, Qt::Key_F9);
     QVERIFY(c.waitFor(Findings::State::Checked));
     QCOMPARE(column->propertySet()->property("Samples").value().toString(), u"nobody"_s);
+}
+
+void FindingsTest::whatIsBeingTypedIntoATableIsChecked()
+{
+    Checked c;
+    c.table().goTo(c.table().model()->index(0, 0));
+    c.table().setFocus();
+    QTest::keyClick(&c.table(), Qt::Key_F2);
+    QWidget *editor = QApplication::focusWidget();
+    QVERIFY(c.table().isAncestorOf(editor));
+    QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(editor, u"Renamed"_s);
+    QTest::keyClick(editor, Qt::Key_F9);
+    QVERIFY(c.waitFor(Findings::State::Checked));
+    QVERIFY(c.rowOf(u"Renamed"_s) >= 0);
 }
 
 void FindingsTest::bothPanelsShareTheirPlace()
