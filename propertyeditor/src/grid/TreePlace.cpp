@@ -37,6 +37,11 @@ QModelIndex rowOf(const QAbstractItemModel &model, const QByteArray &name, const
     return {};
 }
 
+QModelIndex indexOf(const KPropertyEditorView &view, const QByteArray &name)
+{
+    return name.isEmpty() || !view.model() ? QModelIndex() : rowOf(*view.model(), name);
+}
+
 } // namespace
 
 TreePlace::TreePlace(const KPropertyEditorView &view)
@@ -45,11 +50,6 @@ TreePlace::TreePlace(const KPropertyEditorView &view)
 {
     if (const KProperty *property = KPropertyUtils::propertyForIndex(view.currentIndex()))
         m_current = property->name();
-}
-
-QModelIndex TreePlace::indexOf(const KPropertyEditorView &view, const QByteArray &property)
-{
-    return property.isEmpty() || !view.model() ? QModelIndex() : rowOf(*view.model(), property);
 }
 
 void TreePlace::restore(KPropertyEditorView *view, const QByteArray &current) const
@@ -86,7 +86,7 @@ void TreePlace::setFolds(KPropertyEditorView *view, const Folds &folds)
 
 bool TreePlace::goTo(KPropertyEditorView *view, const QByteArray &name)
 {
-    const QModelIndex index = view->model() ? indexOf(*view->model(), name) : QModelIndex();
+    const QModelIndex index = indexOf(*view, name);
     if (!index.isValid())
         return false;
     view->expand(index.parent());

@@ -1,7 +1,7 @@
 #include "StateDisplay.h"
 
 #include "CellEntries.h"
-#include "SettingPlace.h"
+#include "SettingJump.h"
 #include "ShownState.h"
 
 #include <KProperty.h>
@@ -12,13 +12,14 @@
 #include <orv/propertyeditor/grid/EditableTabWidget.h>
 #include <orv/propertyeditor/grid/GridPropertyEditorView.h>
 #include <orv/propertyeditor/grid/IGridItem.h>
+#include <orv/propertyeditor/grid/KPropertyCustomEditorView.h>
 #include <orv/propertyeditor/grid/PropertyGridWidget.h>
+#include <orv/propertyeditor/grid/TreePlace.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QScrollArea>
 
 #include <memory>
 
@@ -206,8 +207,13 @@ Error StateDisplay::updateColumn(PropertyGridWidget &grid, int column, const QSt
         const bool areSame = takeValues(*view, cell);
         if (!shown || (areSame && view && textOf(*item) == to))
             return Error::NoError;
-        return view ? SettingPlace::keep(*view, [&] { return item->setContent(cell); })
-                    : Error(Error::NoError);
+        if (!view)
+            return Error::NoError;
+        const TreePlace place(*view->editorView());
+        Error error = item->setContent(cell);
+        if (view)
+            place.restore(view->editorView());
+        return error.ecatch();
     }
     return item->setContent(cell).ecatch();
 }
@@ -231,13 +237,12 @@ void StateDisplay::goTo(const DocumentState &from, const DocumentState &to)
     QWidget *widget = item ? item->widget() : nullptr;
     if (!widget)
         return;
-    SettingPlace::showColumn(*grid, cell.column);
-    if (auto *view = qobject_cast<GridPropertyEditorView *>(widget)) {
-        const QList<ChangedEntry> changed = changedEntries(
-            QJsonDocument::fromJson(from.tabs.at(cell.tab).cells.at(cell.column)).object(), item->content());
-        if (!changed.isEmpty())
-            SettingPlace::goTo(*view, changed.constFirst().after.value(NAME_KEY).toString().toUtf8());
-    }
+    const QList<ChangedEntry> changed = changedEntries(
+        QJsonDocument::fromJson(from.tabs.at(cell.tab).cells.at(cell.column)).object(), item->content());
+    const QPointer view = qobject_cast<GridPropertyEditorView *>(widget);
+    SettingJump::show(m_window, widget);
+    if (view && !changed.isEmpty())
+        view->goTo(changed.constFirst().after.value(NAME_KEY).toString().toUtf8());
 }
 
 } // namespace orv

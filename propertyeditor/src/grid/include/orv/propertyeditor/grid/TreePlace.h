@@ -4,7 +4,6 @@
 
 #include <QByteArray>
 #include <QHash>
-#include <QModelIndex>
 #include <QString>
 
 class KPropertyEditorView;
@@ -17,9 +16,6 @@ class ORV_PROPERTY_EDITOR_EXPORT TreePlace
 {
 public:
     explicit TreePlace(const KPropertyEditorView &view);
-
-    /// The row of a property; invalid where the tree doesn't show it.
-    [[nodiscard]] static QModelIndex indexOf(const KPropertyEditorView &view, const QByteArray &property);
 
     /// What isn't there any more is passed over; \a current, if given, is gone to in place of the old one.
     void restore(KPropertyEditorView *view, const QByteArray &current = {}) const;
