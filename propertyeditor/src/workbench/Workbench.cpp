@@ -1,5 +1,6 @@
 #include "orv/propertyeditor/workbench/Workbench.h"
 
+#include "StatusLine.h"
 #include "orv/propertyeditor/workbench/FindSettings.h"
 #include "orv/propertyeditor/workbench/Findings.h"
 
@@ -26,6 +27,7 @@ Workbench::Workbench(PropertyEditorWindow *window)
     updateTitle();
     m_find = new FindSettings(this);
     m_findings = new Findings(this);
+    new StatusLine(this);
 }
 
 Workbench::~Workbench() = default;

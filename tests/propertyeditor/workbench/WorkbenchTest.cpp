@@ -1,6 +1,7 @@
 #include "WidgetTest.h"
 #include "WindowFixture.h"
 
+#include <orv/propertyeditor/workbench/DocumentHistory.h>
 #include <orv/propertyeditor/workbench/Workbench.h>
 
 #include <QDockWidget>
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void panelsOpenFromTheViewMenu();
     void documentsAreTold();
     void savedDocumentsAreTold();
+    void titleAndStatusLineTellOfChanges();
 };
 
 void WorkbenchTest::menusStandBehindThoseThatAreThere()
@@ -73,6 +75,29 @@ void WorkbenchTest::savedDocumentsAreTold()
     QCOMPARE(saved.size(), 1);
     QCOMPARE(shown.size(), 0);
     QCOMPARE(window.workflowFilePath(), folder.filePath(u"saved.wflw"_s));
+}
+
+void WorkbenchTest::titleAndStatusLineTellOfChanges()
+{
+    const QTemporaryDir folder;
+    Window window;
+    auto *workbench = new Workbench(&window);
+    const auto part = [&](const QString &name) {
+        const auto *label = window.findChild<QLabel *>(name);
+        return label ? label->text() : window.findChild<QToolButton *>(name)->text();
+    };
+    QCOMPARE(part(u"statusVersion"_s), u"No version"_s);
+    QCOMPARE(window.openWorkflow(documentOf({karvonCell()})), kOpened);
+    QCOMPARE(part(u"statusVersion"_s), u"Format 5.47.0"_s);
+    QCOMPARE(part(u"statusFindings"_s), u"Not checked"_s);
+    QCOMPARE(part(u"statusChanges"_s), u"Not in a file yet"_s);
+    QVERIFY(window.saveWorkflowToJSON(folder.filePath(u"saved.wflw"_s)));
+    QCOMPARE(part(u"statusChanges"_s), u"Saved"_s);
+    QVERIFY(window.windowTitle().endsWith(u"saved.wflw - Project Creation[*]"_s));
+    window.grid(0)->renameColumn(0, u"Other"_s);
+    workbench->history()->takeIn();
+    QCOMPARE(part(u"statusChanges"_s), u"Unsaved changes"_s);
+    QVERIFY(window.isWindowModified());
 }
 
 WIDGET_REGISTER_TEST(WorkbenchTest)

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QObject>
+
+QT_FORWARD_DECLARE_CLASS(QLabel)
+QT_FORWARD_DECLARE_CLASS(QToolButton)
+
+namespace orv {
+
+class Workbench;
+
+/// What stands below a document: the version of its format, what the last check found, and whether the disk
+/// has what the window shows.
+class StatusLine : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit StatusLine(Workbench *workbench);
+
+private:
+    void showVersion();
+    void showFindings();
+    void showChanges();
+
+    Workbench *m_workbench;
+    QLabel *m_version;
+    QToolButton *m_findings;
+    QLabel *m_changes;
+};
+
+} // namespace orv
