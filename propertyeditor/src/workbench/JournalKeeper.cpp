@@ -1,0 +1,119 @@
+#include "orv/propertyeditor/workbench/JournalKeeper.h"
+
+#include <orv/core/Error.h>
+#include <orv/propertyeditor/window/PropertyEditorWindow.h>
+#include <orv/propertyeditor/window/WorkflowTabs.h>
+#include <orv/propertyeditor/workbench/RecoveryJournal.h>
+#include <orv/propertyeditor/workbench/RecoveryStore.h>
+
+#include <QAccessible>
+#include <QDir>
+#include <QEvent>
+#include <QStatusBar>
+
+namespace orv {
+
+namespace {
+
+constexpr int kInterval = 1500;
+
+} // namespace
+
+JournalKeeper::JournalKeeper(PropertyEditorWindow *window, std::shared_ptr<RecoveryStore> store,
+                             Source source)
+    : QObject(window)
+    , m_window(window)
+    , m_store(std::move(store))
+    , m_source(std::move(source))
+{
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(kInterval);
+    connect(&m_timer, &QTimer::timeout, this, &JournalKeeper::flush);
+    connect(window, &PropertyEditorWindow::documentShown, this, &JournalKeeper::begin);
+    connect(window, &PropertyEditorWindow::documentSaved, this, &JournalKeeper::beginSaved);
+    connect(window, &PropertyEditorWindow::metadataEdited, this, &JournalKeeper::noteEdit);
+    connect(window->workflowTabs(), &WorkflowTabs::edited, this, &JournalKeeper::noteEdit);
+    connect(window->workflowTabs(), &WorkflowTabs::columnsChanged, this, &JournalKeeper::noteEdit);
+    window->installEventFilter(this);
+}
+
+JournalKeeper::~JournalKeeper() = default;
+
+void JournalKeeper::setInterval(int milliseconds)
+{
+    m_timer.setInterval(milliseconds);
+}
+
+void JournalKeeper::useJournal(std::unique_ptr<RecoveryJournal> journal)
+{
+    m_journal = std::move(journal);
+    connect(m_journal.get(), &RecoveryJournal::failed, this, &JournalKeeper::tell);
+}
+
+/// An earlier document that wasn't saved stays in the journal that it had.
+void JournalKeeper::begin()
+{
+    useJournal(m_store->newJournal());
+    beginSaved();
+}
+
+void JournalKeeper::beginSaved()
+{
+    m_timer.stop();
+    m_hasEdit = false;
+    if (!m_journal)
+        useJournal(m_store->newJournal());
+    // Documents without a file have their name in its place.
+    const QString file = m_window->workflowFilePath();
+    m_journal->begin(QDir::isAbsolutePath(file) ? file : QString(), m_source.saved());
+}
+
+void JournalKeeper::adopt(std::unique_ptr<RecoveryJournal> journal)
+{
+    m_timer.stop();
+    m_hasEdit = false;
+    journal->goOn(m_source.state().document());
+    useJournal(std::move(journal));
+}
+
+void JournalKeeper::noteEdit()
+{
+    m_hasEdit = true;
+    if (!m_timer.isActive())
+        m_timer.start();
+    if (m_isClosing)
+        flush();
+}
+
+void JournalKeeper::flush()
+{
+    if (!m_hasEdit)
+        return;
+    if (!m_journal)
+        begin();
+    m_timer.stop();
+    m_hasEdit = false;
+    m_journal->write(m_source.state());
+}
+
+bool JournalKeeper::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_window && event->type() == QEvent::Close)
+        m_isClosing = true;
+    else if (watched == m_window && event->type() == QEvent::Show)
+        m_isClosing = false;
+    else if (watched == m_window && event->type() == QEvent::Hide && m_isClosing)
+        flush();
+    return QObject::eventFilter(watched, event);
+}
+
+void JournalKeeper::tell(const Error &error)
+{
+    const QString text = error.errorMessage();
+    m_window->statusBar()->showMessage(text);
+    m_window->statusBar()->setToolTip(error.details().join(u'\n'));
+    QAccessibleEvent event(m_window->statusBar(), QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+} // namespace orv

@@ -1,0 +1,90 @@
+#include "RecoveryChanges.h"
+
+#include <orv/propertyeditor/content/PropertyEditorContent.h>
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
+#include <orv/propertyeditor/workflow/WorkflowDifferences.h>
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <array>
+
+namespace orv {
+
+namespace {
+
+struct RecoveryChangesTr
+{
+    Q_DECLARE_TR_FUNCTIONS(RecoveryChanges)
+};
+
+constexpr qsizetype kLongestText = 120;
+
+QString shortened(const QString &text)
+{
+    return text.size() <= kLongestText ? text : text.left(kLongestText - 1) + QChar(0x2026);
+}
+
+QString textOf(const QJsonValue &value)
+{
+    if (value.isUndefined())
+        return {};
+    if (value.isString())
+        return shortened(value.toString());
+    // A value alone is no JSON document for the writer; its list is.
+    const QByteArray json = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    return shortened(QString::fromUtf8(json.mid(1, json.size() - 2)));
+}
+
+struct OwnProperty
+{
+    const char *name;
+    QString (*read)(const QJsonObject &metadata);
+};
+
+QString typeOf(const QJsonObject &metadata)
+{
+    return workflowTypeToString(WflwMetaData::workflowType(metadata));
+}
+
+constexpr std::array kOwnProperties = {
+    OwnProperty{QT_TRANSLATE_NOOP("RecoveryChanges", "Name of the workflow"),
+                &WflwMetaData::nameFromMetaDataObject},
+    OwnProperty{QT_TRANSLATE_NOOP("RecoveryChanges", "Description of the workflow"),
+                &WflwMetaData::descriptionFromMetaDataObject},
+    OwnProperty{QT_TRANSLATE_NOOP("RecoveryChanges", "Icon of the workflow"),
+                &WflwMetaData::iconNameFromMetaDataObject},
+    OwnProperty{QT_TRANSLATE_NOOP("RecoveryChanges", "Type of the workflow"), &typeOf},
+};
+
+} // namespace
+
+void RecoveryChanges::append(const RecoveryChanges &more)
+{
+    count += more.count;
+    told += more.told.mid(0, std::max<qsizetype>(0, kMostTold - told.size()));
+}
+
+RecoveryChanges changesBetween(const QJsonObject &before, const QJsonObject &after)
+{
+    RecoveryChanges changes;
+    const QJsonObject metadataBefore = PropertyEditorContent(before).metadata();
+    const QJsonObject metadataAfter = PropertyEditorContent(after).metadata();
+    for (const OwnProperty &property : kOwnProperties) {
+        const QString was = property.read(metadataBefore);
+        const QString is = property.read(metadataAfter);
+        if (was != is)
+            changes.told.append({RecoveryChangesTr::tr(property.name), shortened(was), shortened(is)});
+    }
+    const QList<WorkflowDifference> differences = WorkflowDifferences::between(before, after, false);
+    changes.count = changes.told.size() + differences.size();
+    for (const WorkflowDifference &difference : differences) {
+        if (changes.told.size() == RecoveryChanges::kMostTold)
+            break;
+        changes.told.append({difference.path, textOf(difference.left), textOf(difference.right)});
+    }
+    return changes;
+}
+
+} // namespace orv

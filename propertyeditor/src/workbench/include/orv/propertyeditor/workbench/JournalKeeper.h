@@ -1,0 +1,68 @@
+#pragma once
+
+#include <orv/propertyeditor/content/PropertyEditorContent.h>
+#include <orv/widgets/Export.h>
+
+#include <QJsonObject>
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+namespace orv {
+
+class Error;
+class PropertyEditorWindow;
+class RecoveryJournal;
+class RecoveryStore;
+
+/// Keeps the unsaved changes of a document window in a journal: a state is taken soon behind an edit, and the
+/// last one when the window closes. What can't be kept is told in the window's status line. GUI thread.
+class ORV_PROPERTY_EDITOR_EXPORT JournalKeeper : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// How the document is read. Both are called on the GUI thread while the window lives.
+    struct Source
+    {
+        std::function<PropertyEditorContent()> state; ///< as it is now; behind an edit, see setInterval()
+        std::function<QJsonObject()> saved;           ///< as it was opened or saved last
+    };
+
+    /// A child of \a window. \a store is kept alive.
+    JournalKeeper(PropertyEditorWindow *window, std::shared_ptr<RecoveryStore> store, Source source);
+    ~JournalKeeper() override;
+
+    /// The time from an edit until a state is taken, and so between two of them: 1.5 s at first, so that at
+    /// most two seconds of edits are lost.
+    void setInterval(int milliseconds);
+
+    /// Takes the state now if there was an edit behind the last one. Windows that are deleted without being
+    /// closed call it in their destructor.
+    void flush();
+
+    /// Goes on with \a journal, from which the document in the window was recovered.
+    void adopt(std::unique_ptr<RecoveryJournal> journal);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void begin();
+    void beginSaved();
+    void noteEdit();
+    void useJournal(std::unique_ptr<RecoveryJournal> journal);
+    void tell(const Error &error);
+
+    PropertyEditorWindow *const m_window;
+    const std::shared_ptr<RecoveryStore> m_store;
+    const Source m_source;
+    std::unique_ptr<RecoveryJournal> m_journal;
+    QTimer m_timer;
+    bool m_hasEdit = false; ///< behind the last state
+    bool m_isClosing = false;
+};
+
+} // namespace orv
