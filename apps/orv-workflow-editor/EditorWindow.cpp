@@ -5,6 +5,8 @@
 
 #include <orv/core/Settings.h>
 #include <orv/propertyeditor/window/PropertyEditorDirLocations.h>
+#include <orv/propertyeditor/window/PropertyEditorWindowJsonFile.h>
+#include <orv/propertyeditor/workbench/JournalKeeper.h>
 #include <orv/propertyeditor/workbench/Workbench.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
 #include <orv/widgets/CoreMainWindow.h>
@@ -14,6 +16,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDesktopServices>
+#include <QDockWidget>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QMenuBar>
@@ -26,6 +29,20 @@ namespace orv {
 namespace {
 
 constexpr QLatin1String kGeometry("Editor/WindowGeometry");
+constexpr QLatin1String kPanels("Editor/WindowPanels");
+
+/// Empty for a file that can be read, and wasn't opened for a reason that somebody was told.
+QStringList whyUnreadable(const QString &path)
+{
+    const QString file =
+        WflwUtils::isMirelPortableWorkflow(path) ? WflwUtils::workflowInPortableWorkflow(path) : path;
+    PropertyEditorWindowJsonFile workflow(file);
+    PropertyEditorContent content;
+    if (workflow.loadTabsFromJson(&content))
+        return {};
+    const QStringList reasons = workflow.error().errorMessages() + workflow.error().details();
+    return {EditorWindow::tr("%1: %2").arg(path, reasons.join(u' '))};
+}
 
 QStringList workflowsIn(const QMimeData &data)
 {
@@ -40,19 +57,39 @@ QStringList workflowsIn(const QMimeData &data)
 
 } // namespace
 
-EditorWindow::EditorWindow(CoreMainWindow *mainWindow)
+EditorWindow::EditorWindow(CoreMainWindow *mainWindow, std::shared_ptr<RecoveryStore> store)
     : PropertyEditorDesktopWindow(mainWindow)
     , m_mainWindow(mainWindow)
+    , m_store(std::move(store))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setAcceptDrops(true);
     buildFileMenu();
-    new Workbench(this);
+    buildRecovery(new Workbench(this));
     buildHelpMenu();
-    restoreGeometry(as::value(kGeometry).toByteArray());
+    restoreLayout();
     connect(this, &PropertyEditorWindow::sendToProcessing, this, &EditorWindow::run);
     connect(this, &PropertyEditorWindow::openProject, this,
             [](const QString &folder) { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); });
+}
+
+EditorWindow::~EditorWindow()
+{
+    if (m_keeper)
+        m_keeper->flush();
+}
+
+void EditorWindow::restoreLayout()
+{
+    restoreGeometry(as::value(kGeometry).toByteArray());
+    restoreState(as::value(kPanels).toByteArray());
+    if (m_recoveryPanel)
+        m_recoveryPanel->hide();
+}
+
+EditorWindow *EditorWindow::anotherWindow() const
+{
+    return new EditorWindow(m_mainWindow, m_store);
 }
 
 void EditorWindow::buildFileMenu()
@@ -63,7 +100,7 @@ void EditorWindow::buildFileMenu()
         action->setShortcuts(key);
         connect(action, &QAction::triggered, this, slot);
     };
-    add(tr("&New Window"), QKeySequence::New, [this] { (new EditorWindow(m_mainWindow))->show(); });
+    add(tr("&New Window"), QKeySequence::New, [this] { anotherWindow()->show(); });
     add(tr("&Open..."), QKeySequence::Open, [this] { selectAndOpenWorkflow(); });
     QMenu *recent = menu->addMenu(tr("Open &Recent"));
     connect(recent, &QMenu::aboutToShow, this, [this, recent] { fillRecentMenu(recent); });
@@ -117,12 +154,24 @@ PropertyEditorWindow::OpenStatus EditorWindow::openBesides(const QString &path)
 {
     if (isPristine())
         return openWorkflow(path);
-    const QPointer<EditorWindow> window = new EditorWindow(m_mainWindow);
+    const QPointer<EditorWindow> window = anotherWindow();
     window->show();
     const OpenStatus status = window->openWorkflow(path);
     if (window && window->isPristine())
         window->close();
     return status;
+}
+
+void EditorWindow::openFiles(const QStringList &paths)
+{
+    const QPointer<EditorWindow> self(this);
+    QStringList unreadable;
+    for (const QString &path : paths) {
+        if (self && openBesides(path) == OpenStatus::NotOpened)
+            unreadable += whyUnreadable(path);
+    }
+    if (self && !unreadable.isEmpty())
+        ORVStyle::warning(this, tr("Open"), tr("Not opened:\n%1").arg(unreadable.join(u'\n')));
 }
 
 PropertyEditorWindow::OpenStatus EditorWindow::selectAndOpenWorkflow()
@@ -189,18 +238,15 @@ void EditorWindow::dragEnterEvent(QDragEnterEvent *event)
 
 void EditorWindow::dropEvent(QDropEvent *event)
 {
-    const QPointer<EditorWindow> self(this);
     const QStringList paths = workflowsIn(*event->mimeData());
     event->acceptProposedAction();
-    for (const QString &path : paths) {
-        if (self)
-            openBesides(path);
-    }
+    openFiles(paths);
 }
 
 void EditorWindow::closeEvent(QCloseEvent *event)
 {
     as::setValue(kGeometry, saveGeometry());
+    as::setValue(kPanels, saveState());
     PropertyEditorDesktopWindow::closeEvent(event);
 }
 

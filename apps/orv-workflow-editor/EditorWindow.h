@@ -1,19 +1,29 @@
 #pragma once
 
 #include <orv/propertyeditor/window/PropertyEditorDesktopWindow.h>
+#include <orv/propertyeditor/workbench/RecoveryEntry.h>
 
+QT_FORWARD_DECLARE_CLASS(QDockWidget)
 QT_FORWARD_DECLARE_CLASS(QMenu)
 
 namespace orv {
 
-/// One workflow of the application: the document window with menus, recent files and drops. Several may be
-/// open at once; each deletes itself when it closes.
+class JournalKeeper;
+class RecoveryJournal;
+class RecoveryPanel;
+class RecoveryStore;
+class Workbench;
+
+/// One workflow of the application: the document window with menus, recent files, drops, and the recovery of
+/// unsaved workflows. Several may be open at once; each deletes itself when it closes.
 class EditorWindow : public PropertyEditorDesktopWindow
 {
     Q_OBJECT
 
 public:
-    explicit EditorWindow(CoreMainWindow *mainWindow);
+    /// Unsaved changes are kept in \a store, or not at all without one.
+    explicit EditorWindow(CoreMainWindow *mainWindow, std::shared_ptr<RecoveryStore> store = {});
+    ~EditorWindow() override;
 
     OpenStatus selectAndOpenWorkflow() override;
     OpenStatus openWorkflow(const QString &filePath,
@@ -22,6 +32,11 @@ public:
 
     /// Opens in this window if it is empty, else in a new one, so that nothing unsaved goes.
     OpenStatus openBesides(const QString &path);
+    /// Opens each as openBesides(), and tells of those that can't be read once the others are there.
+    void openFiles(const QStringList &paths);
+
+    /// Shows what can be recovered, if there is something.
+    void offerRecovery();
 
 protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
@@ -30,14 +45,24 @@ protected:
 
 private:
     void buildFileMenu();
+    void buildRecovery(Workbench *workbench);
     void buildHelpMenu();
     void fillRecentMenu(QMenu *menu);
     void openRecent(const QString &path);
     void run(const PropertyEditor::Content &content, const Path &outputPath, DuplicateFilePolicy policy);
     void showAbout();
+    void recover(const RecoveryEntry &entry, RecoveryFileState state);
+    [[nodiscard]] bool showRecovered(const QJsonObject &document, const QString &path,
+                                     std::unique_ptr<RecoveryJournal> journal);
+    void restoreLayout();
     [[nodiscard]] bool isPristine() const;
+    [[nodiscard]] EditorWindow *anotherWindow() const;
 
     CoreMainWindow *const m_mainWindow;
+    const std::shared_ptr<RecoveryStore> m_store;
+    JournalKeeper *m_keeper = nullptr;      ///< a child
+    RecoveryPanel *m_recovery = nullptr;    ///< in the panel
+    QDockWidget *m_recoveryPanel = nullptr; ///< a child
 };
 
 } // namespace orv

@@ -3,6 +3,7 @@
 #include <orv/propertyeditor/editors/GridItemEditorObjects.h>
 #include <orv/propertyeditor/editors/OrvGenericEditorObjectManager.h>
 #include <orv/propertyeditor/grid/GridItemCreators.h>
+#include <orv/propertyeditor/workbench/RecoveryStore.h>
 #include <orv/widgets/CoreMainWindow.h>
 
 #include <QApplication>
@@ -54,9 +55,10 @@ int main(int argc, char *argv[])
 
     registerCreators();
     orv::CoreMainWindow mainWindow;
-    auto *window = new orv::EditorWindow(&mainWindow);
+    const auto recovery = std::make_shared<orv::RecoveryStore>(orv::RecoveryStore::defaultFolder());
+    auto *window = new orv::EditorWindow(&mainWindow, recovery);
     window->show();
-    for (const QString &file : parser.positionalArguments())
-        window->openBesides(file);
+    window->offerRecovery();
+    window->openFiles(parser.positionalArguments());
     return QApplication::exec();
 }

@@ -267,6 +267,11 @@ void PropertyEditorWindowPrivate::updateLastSavedWorkflow()
     m_lastSavedWorkflow = q->content().toJsonObject();
 }
 
+void PropertyEditorWindowPrivate::countAsUnsaved()
+{
+    m_lastSavedWorkflow = PropertyEditorContent().toJsonObject();
+}
+
 bool PropertyEditorWindowPrivate::verifyWidgetsContent(QStringList *warnings, QStringList *errors,
                                                        QStringList *details, WidgetValidationType type) const
 {

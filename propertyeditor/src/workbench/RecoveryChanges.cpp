@@ -1,6 +1,7 @@
 #include "RecoveryChanges.h"
 
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 #include <orv/propertyeditor/workflow/WorkflowDifferences.h>
 
@@ -13,6 +14,8 @@
 namespace orv {
 
 namespace {
+
+using PropertyEditorStringConstants::TABS_KEY;
 
 struct RecoveryChangesTr
 {
@@ -32,9 +35,19 @@ QString textOf(const QJsonValue &value)
         return {};
     if (value.isString())
         return shortened(value.toString());
+    if (const QJsonValue name = value[QLatin1String("name")]; name.isString())
+        return shortened(name.toString());
     // A value alone is no JSON document for the writer; its list is.
     const QByteArray json = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
     return shortened(QString::fromUtf8(json.mid(1, json.size() - 2)));
+}
+
+/// A document that is new has tabs that were added, one by one.
+QJsonObject withTabs(QJsonObject document)
+{
+    if (!document.contains(TABS_KEY))
+        document.insert(TABS_KEY, QJsonArray());
+    return document;
 }
 
 struct OwnProperty
@@ -45,7 +58,8 @@ struct OwnProperty
 
 QString typeOf(const QJsonObject &metadata)
 {
-    return workflowTypeToString(WflwMetaData::workflowType(metadata));
+    const WorkflowType type = WflwMetaData::workflowType(metadata);
+    return type == WorkflowType::Unknown ? QString() : workflowTypeToString(type);
 }
 
 constexpr std::array kOwnProperties = {
@@ -77,7 +91,8 @@ RecoveryChanges changesBetween(const QJsonObject &before, const QJsonObject &aft
         if (was != is)
             changes.told.append({RecoveryChangesTr::tr(property.name), shortened(was), shortened(is)});
     }
-    const QList<WorkflowDifference> differences = WorkflowDifferences::between(before, after, false);
+    const QList<WorkflowDifference> differences =
+        WorkflowDifferences::between(withTabs(before), after, false);
     changes.count = changes.told.size() + differences.size();
     for (const WorkflowDifference &difference : differences) {
         if (changes.told.size() == RecoveryChanges::kMostTold)

@@ -23,6 +23,8 @@ namespace orv {
 
 namespace {
 
+constexpr int kNarrowestColumn = 12; ///< in characters
+
 QTreeView *listView(QAbstractItemModel *model, const QString &name)
 {
     auto *view = new QTreeView;
@@ -81,6 +83,7 @@ QWidget *RecoveryPanel::makeEntries()
     m_view = listView(m_model, tr("Unsaved workflows"));
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->header()->setStretchLastSection(false);
+    m_view->header()->setMinimumSectionSize(kNarrowestColumn * fontMetrics().averageCharWidth());
     m_view->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_view->header()->setSectionResizeMode(RecoveryModel::Workflow, QHeaderView::Stretch);
     return m_view;
@@ -174,7 +177,7 @@ void RecoveryPanel::showCurrent()
         m_count->setText(tr("The first %1 of %2 changes:")
                              .arg(locale.toString(told), locale.toString(entry->changes.count)));
     else
-        m_count->setText(tr("%n change(s)", nullptr, int(told)));
+        m_count->setText(told == 1 ? tr("1 change") : tr("%1 changes").arg(locale.toString(told)));
     m_remark->setText(remarkOn(*entry));
     if (!m_states.contains(entry->journal))
         askFile(*entry);

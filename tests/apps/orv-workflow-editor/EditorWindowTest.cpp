@@ -82,6 +82,7 @@ private Q_SLOTS:
     void fullWindowsStay();
     void openingKeepsWhatIsThere();
     void windowsOfWhatCannotBeOpenedClose();
+    void filesThatCannotBeOpenedAreToldBehindTheOthers();
     void filesAreDropped();
     void otherDropsAreRefused();
     void projectsAreWrittenAndShown();
@@ -197,6 +198,25 @@ void EditorWindowTest::windowsOfWhatCannotBeOpenedClose()
     const LogCapture log;
     QCOMPARE(m_window->openBesides(u"/no/such.wflw"_s), PropertyEditorWindow::OpenStatus::NotOpened);
     QCOMPARE(openWindows().size(), 1);
+}
+
+void EditorWindowTest::filesThatCannotBeOpenedAreToldBehindTheOthers()
+{
+    open();
+    const QTemporaryDir folder;
+    QFile broken(folder.filePath(u"broken.wflw"_s));
+    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("{ \"tabs\": [ , ] }") > 0);
+    broken.close();
+    const LogCapture log;
+    ScriptedAnswerer answers;
+    answers.expectBox(u"Open"_s, u"OK"_s);
+    m_window->openFiles({u"/no/such.wflw"_s, broken.fileName(), intactExample()});
+    QVERIFY(answers.isDone());
+    const QString told = answers.transcript().first().text;
+    QVERIFY2(told.contains(u"/no/such.wflw"_s) && told.contains(broken.fileName()), qPrintable(told));
+    QVERIFY2(told.contains(u"Line 1"_s), qPrintable(told));
+    QCOMPARE(openWindows().size(), 1);
+    QVERIFY(m_window->windowTitle().contains(u"intact_mass_check.wflw"_s));
 }
 
 void EditorWindowTest::filesAreDropped()

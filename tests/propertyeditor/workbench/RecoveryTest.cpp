@@ -159,6 +159,8 @@ void RecoveryTest::documentsThatWereNeverSavedAreKept()
     QCOMPARE(entry.file, QString());
     QVERIFY(entry.hasDocument);
     QCOMPARE(RecoveryStore::fileState(entry), RecoveryFileState::NeverSaved);
+    const RecoveryChange tab = entry.changes.told.constLast();
+    QCOMPARE(tab, (RecoveryChange{u"Analysis"_s, QString(), u"Analysis"_s}));
 }
 
 void RecoveryTest::savedDocumentsBeginAnew()

@@ -95,6 +95,8 @@ public:
     [[nodiscard]] QString proposedName() const;
     void setExtendedMetadataInfo(const ExtendedMetadataInfo &info) { m_extendedMetadataInfo = info; }
     void updateLastSavedWorkflow();
+    /// The workflow on the screen isn't what any file holds: closing asks whether to save it.
+    void countAsUnsaved();
     [[nodiscard]] QJsonObject getLastSavedWorkflow() const { return m_lastSavedWorkflow; }
 
     // Checks and hand-over.

@@ -2,6 +2,7 @@
 
 #include <orv/core/Result.h>
 #include <orv/propertyeditor/workbench/RecoveryEntry.h>
+#include <orv/propertyeditor/workbench/RecoveryJournal.h>
 #include <orv/widgets/Export.h>
 
 #include <QJsonObject>
@@ -12,8 +13,6 @@
 QT_FORWARD_DECLARE_CLASS(QThreadPool)
 
 namespace orv {
-
-class RecoveryJournal;
 
 /// The folder of journals, from which unsaved workflows are recovered after a crash, a kill, or a window that
 /// was closed without saving. A journal belongs to the program that holds its lock; those of other living

@@ -1,0 +1,100 @@
+#include "EditorWindow.h"
+
+#include <orv/propertyeditor/workbench/JournalKeeper.h>
+#include <orv/propertyeditor/workbench/RecoveryJournal.h>
+#include <orv/propertyeditor/workbench/RecoveryPanel.h>
+#include <orv/propertyeditor/workbench/RecoveryStore.h>
+#include <orv/propertyeditor/workbench/Workbench.h>
+
+#include <QDir>
+#include <QDockWidget>
+#include <QFileInfo>
+#include <QPointer>
+#include <QStatusBar>
+
+namespace orv {
+
+namespace {
+
+/// Where a workflow is at home whose file isn't what it was any more: beside it, where its relative
+/// references hold, under a name that nothing has.
+QString besideTheFile(const QString &file)
+{
+    const QFileInfo info(file);
+    const QString name = EditorWindow::tr("%1 (recovered)").arg(info.completeBaseName());
+    return pathForResult(info.dir().filePath(name + u'.' + info.suffix()), DuplicateFilePolicy::KeepBoth);
+}
+
+QString pathOfRecovered(const RecoveryEntry &entry, RecoveryFileState state)
+{
+    if (entry.file.isEmpty())
+        return entry.name;
+    return state == RecoveryFileState::Unchanged ? entry.file : besideTheFile(entry.file);
+}
+
+} // namespace
+
+void EditorWindow::buildRecovery(Workbench *workbench)
+{
+    if (!m_store)
+        return;
+    m_keeper = new JournalKeeper(
+        this, m_store, {[this] { return content(); }, [this] { return dFunc()->getLastSavedWorkflow(); }});
+    m_recovery = new RecoveryPanel(m_store);
+    m_recoveryPanel = workbench->addPanel(m_recovery, QStringLiteral("recovery"), tr("Unsaved Workflows"),
+                                          Qt::BottomDockWidgetArea);
+    connect(m_recoveryPanel->toggleViewAction(), &QAction::triggered, m_recovery, [this](bool isShown) {
+        if (isShown)
+            m_recovery->refresh();
+    });
+    connect(m_recovery, &RecoveryPanel::recoverRequested, this, &EditorWindow::recover);
+    connect(m_recovery, &RecoveryPanel::keptForLater, m_recoveryPanel, &QWidget::hide);
+    connect(m_recovery, &RecoveryPanel::emptied, m_recoveryPanel, &QWidget::hide);
+}
+
+void EditorWindow::offerRecovery()
+{
+    if (m_recovery && m_recovery->refresh())
+        m_recoveryPanel->show();
+}
+
+void EditorWindow::recover(const RecoveryEntry &entry, RecoveryFileState state)
+{
+    const QPointer<EditorWindow> self(this);
+    Result<RecoveryStore::Taken> taken = m_store->take(entry);
+    if (taken.hasError()) {
+        m_recovery->refresh();
+        m_recovery->tell(taken.ecatch());
+        return;
+    }
+    if (entry.hasDocument) {
+        const QPointer<EditorWindow> window = isPristine() ? this : anotherWindow();
+        window->show();
+        const bool isShown =
+            window->showRecovered(taken->document, pathOfRecovered(entry, state), std::move(taken->journal));
+        if (!isShown && window && window != self && window->isPristine())
+            window->close();
+    } else {
+        // Its lock goes with it, and so does the journal: the window that opens makes one of its own.
+        taken->journal.reset();
+        openFiles({entry.file});
+    }
+    if (self && !m_recovery->refresh())
+        m_recoveryPanel->hide();
+}
+
+/// What isn't shown stays in the journal.
+bool EditorWindow::showRecovered(const QJsonObject &document, const QString &path,
+                                 std::unique_ptr<RecoveryJournal> journal)
+{
+    const QPointer<EditorWindow> self(this);
+    PropertyEditorContent content(document);
+    if (openWorkflow(&content, std::nullopt, path) != OpenStatus::Opened || !self)
+        return false;
+    dFunc()->countAsUnsaved();
+    m_keeper->adopt(std::move(journal));
+    statusBar()->showMessage(tr("The workflow was recovered. Save it to keep it."));
+    return true;
+}
+
+} // namespace orv

@@ -1,0 +1,414 @@
+#include "EditorWindow.h"
+#include "LogCapture.h"
+#include "TestData.h"
+#include "WidgetTest.h"
+
+#include <orv/propertyeditor/grid/EditableTabBar.h>
+#include <orv/propertyeditor/grid/EditableTabWidget.h>
+#include <orv/propertyeditor/grid/GridItemCreators.h>
+#include <orv/propertyeditor/window/WorkflowTabs.h>
+#include <orv/propertyeditor/workbench/JournalKeeper.h>
+#include <orv/propertyeditor/workbench/RecoveryPanel.h>
+#include <orv/propertyeditor/workbench/RecoveryStore.h>
+#include <orv/widgets/CoreMainWindow.h>
+#include <orv/widgets/DialogAnswerer.h>
+
+#include <QDir>
+#include <QDockWidget>
+#include <QJsonDocument>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTreeView>
+
+using namespace orv;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QList<EditorWindow *> shownWindows()
+{
+    QList<EditorWindow *> windows;
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *window = qobject_cast<EditorWindow *>(widget); window && window->isVisible())
+            windows.append(window);
+    }
+    return windows;
+}
+
+/// Renames the first tab, as a person does by double click.
+void renameFirstTab(EditorWindow &window, const QString &name)
+{
+    window.workflowTabs()->setEditorMode(GridPropertyEditorView::EditorMode::Designer);
+    EditableTabBar *bar = window.workflowTabs()->widget()->editableTabBar();
+    const QPoint place = bar->tabRect(0).center();
+    QTest::mouseClick(bar, Qt::LeftButton, {}, place);
+    QTest::mouseDClick(bar, Qt::LeftButton, {}, place);
+    auto *editor = bar->findChild<QLineEdit *>();
+    if (!editor)
+        qFatal("The tab can't be renamed");
+    editor->selectAll();
+    QTest::keyClicks(editor, name);
+    QTest::keyClick(editor, Qt::Key_Return);
+}
+
+QString firstTab(const EditorWindow &window)
+{
+    return window.content().tabsAndContent().value(0).first;
+}
+
+QTreeView *list(const EditorWindow &window, const QString &name)
+{
+    for (QTreeView *view : window.findChildren<QTreeView *>()) {
+        if (view->accessibleName() == name)
+            return view;
+    }
+    qFatal("There is no list \"%s\"", qPrintable(name));
+}
+
+/// What the panel says beside its lists.
+QString panelText(const EditorWindow &window)
+{
+    QString text;
+    for (const QLabel *label : window.findChild<RecoveryPanel *>()->findChildren<QLabel *>())
+        text += label->text() + u'\n';
+    return text;
+}
+
+QPushButton *panelButton(const EditorWindow &window, const QString &text)
+{
+    for (QPushButton *button : window.findChild<RecoveryPanel *>()->findChildren<QPushButton *>()) {
+        if (button->text() == text)
+            return button;
+    }
+    qFatal("There is no button \"%s\"", qPrintable(text));
+}
+
+} // namespace
+
+class EditorRecoveryTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+    void unsavedEditsAreOfferedAndRecovered();
+    void recoveredWorkflowsAskWhenTheyClose();
+    void recoveredWorkflowsStayUntilTheyAreSaved();
+    void savedWorkflowsAreNotOffered();
+    void lookingAtAFileLeavesNothing();
+    void changedFilesAreRecoveredAsNewWorkflows();
+    void windowsThatOnlyShowedAreOpenedAgain();
+    void keptForLaterIsOfferedAgain();
+    void discardingAsksFirst();
+    void damagedJournalsAreTold();
+    void manyEditsTakeOneState();
+    void whatCannotBeKeptIsToldInTheStatusLine();
+    void closingWindowsTakesTheLastEdit();
+
+private:
+    void start();
+    EditorWindow *openWindow();
+    void closeUnsaved(EditorWindow *window);
+    /// A window whose first tab was renamed and that closed without saving; then another one that offers it.
+    EditorWindow *offered(const QString &name);
+    void recover(EditorWindow *window);
+    [[nodiscard]] QString journals() const { return m_folder->filePath(u"journals"_s); }
+    [[nodiscard]] QStringList journalFiles() const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<CoreMainWindow> m_main;
+    std::shared_ptr<RecoveryStore> m_store;
+    QString m_file;
+    QByteArray m_bytes;
+};
+
+void EditorRecoveryTest::initTestCase()
+{
+    GridItemManager *manager = GridItemManager::instance();
+    manager->registerCreators();
+    manager->registerCreator(BaseItemType::IntactOptions, new IntactOptionsItemCreator);
+}
+
+void EditorRecoveryTest::start()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_main = std::make_unique<CoreMainWindow>();
+    m_store = std::make_shared<RecoveryStore>(journals());
+    m_file = m_folder->filePath(u"a.wflw"_s);
+    m_bytes = TestData::read(TestData::examplePath(u"workflows/de_novo_antibody.wflw"_s));
+    QFile file(m_file);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(m_bytes) == m_bytes.size());
+}
+
+void EditorRecoveryTest::cleanup()
+{
+    for (EditorWindow *window : shownWindows())
+        delete window;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    m_store.reset();
+    m_main.reset();
+}
+
+EditorWindow *EditorRecoveryTest::openWindow()
+{
+    auto *window = new EditorWindow(m_main.get(), m_store);
+    window->show();
+    (void)QTest::qWaitForWindowActive(window);
+    return window;
+}
+
+QStringList EditorRecoveryTest::journalFiles() const
+{
+    return QDir(journals()).entryList({u"*.journal"_s}, QDir::Files);
+}
+
+void EditorRecoveryTest::closeUnsaved(EditorWindow *window)
+{
+    ScriptedAnswerer answers;
+    answers.expectBox(u"Unsaved changes"_s, u"No"_s);
+    window->close();
+    QVERIFY(answers.isDone());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+EditorWindow *EditorRecoveryTest::offered(const QString &name)
+{
+    start();
+    EditorWindow *edited = openWindow();
+    edited->openFiles({m_file});
+    renameFirstTab(*edited, name);
+    closeUnsaved(edited);
+    m_store = std::make_shared<RecoveryStore>(journals());
+    EditorWindow *window = openWindow();
+    window->offerRecovery();
+    return window;
+}
+
+/// Once the panel knows what became of the file.
+void EditorRecoveryTest::recover(EditorWindow *window)
+{
+    QTRY_VERIFY(!panelText(*window).contains(u"Looking whether"_s));
+    QTest::mouseClick(panelButton(*window, u"&Recover"_s), Qt::LeftButton);
+}
+
+void EditorRecoveryTest::unsavedEditsAreOfferedAndRecovered()
+{
+    EditorWindow *window = offered(u"Renamed"_s);
+    const auto *panel = window->findChild<QDockWidget *>(u"recovery"_s);
+    QVERIFY(panel->isVisible());
+    const QAbstractItemModel *entries = list(*window, u"Unsaved workflows"_s)->model();
+    QCOMPARE(entries->rowCount(), 1);
+    QCOMPARE(entries->index(0, 0).data().toString(), u"a.wflw"_s);
+    const QAbstractItemModel *changes = list(*window, u"Changes of the unsaved workflow"_s)->model();
+    QVERIFY(changes->rowCount() > 0);
+    QTRY_VERIFY(panelText(*window).contains(u"Its file wasn't changed since it was opened."_s));
+    recover(window);
+    QCOMPARE(shownWindows().size(), 1);
+    QCOMPARE(firstTab(*window), u"Renamed"_s);
+    QCOMPARE(window->workflowFilePath(), m_file);
+    QCOMPARE(TestData::read(m_file), m_bytes);
+    QVERIFY(!panel->isVisible());
+    closeUnsaved(window);
+}
+
+void EditorRecoveryTest::recoveredWorkflowsAskWhenTheyClose()
+{
+    EditorWindow *window = offered(u"Renamed"_s);
+    recover(window);
+    closeUnsaved(window);
+}
+
+void EditorRecoveryTest::recoveredWorkflowsStayUntilTheyAreSaved()
+{
+    EditorWindow *window = offered(u"Renamed"_s);
+    recover(window);
+    const QStringList journal = journalFiles();
+    QCOMPARE(journal.size(), 1);
+    closeUnsaved(window);
+    m_store = std::make_shared<RecoveryStore>(journals());
+    QCOMPARE(journalFiles(), journal);
+    window = openWindow();
+    window->offerRecovery();
+    recover(window);
+    QCOMPARE(firstTab(*window), u"Renamed"_s);
+    ScriptedAnswerer answers;
+    answers.expectPath(u"Save Workflow"_s, m_folder->filePath(u"saved.wflw"_s));
+    QVERIFY(window->saveWorkflowAs());
+    window->close();
+    QVERIFY(answers.isDone());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    m_store.reset();
+    QCOMPARE(journalFiles(), QStringList());
+}
+
+void EditorRecoveryTest::savedWorkflowsAreNotOffered()
+{
+    start();
+    EditorWindow *window = openWindow();
+    window->openFiles({m_file});
+    renameFirstTab(*window, u"Renamed"_s);
+    ScriptedAnswerer answers;
+    answers.expectPath(u"Save Workflow"_s, m_file);
+    QVERIFY(window->saveWorkflowAs());
+    window->close();
+    QVERIFY(answers.isDone());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    m_store.reset();
+    QCOMPARE(journalFiles(), QStringList());
+}
+
+void EditorRecoveryTest::lookingAtAFileLeavesNothing()
+{
+    start();
+    EditorWindow *window = openWindow();
+    window->openFiles({m_file});
+    const ScriptedAnswerer answers;
+    window->close();
+    QVERIFY(answers.isDone());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    m_store.reset();
+    QCOMPARE(journalFiles(), QStringList());
+    QCOMPARE(TestData::read(m_file), m_bytes);
+}
+
+void EditorRecoveryTest::changedFilesAreRecoveredAsNewWorkflows()
+{
+    EditorWindow *window = offered(u"Renamed"_s);
+    QTRY_VERIFY(!panelText(*window).contains(u"Looking whether"_s));
+    m_bytes += '\n';
+    QFile file(m_file);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(m_bytes) == m_bytes.size());
+    file.close();
+    window->offerRecovery();
+    QTRY_VERIFY(panelText(*window).contains(u"Its file was changed since it was opened."_s));
+    recover(window);
+    QCOMPARE(firstTab(*window), u"Renamed"_s);
+    QCOMPARE(window->workflowFilePath(), m_folder->filePath(u"a (recovered).wflw"_s));
+    QCOMPARE(TestData::read(m_file), m_bytes);
+    QVERIFY(!QFileInfo::exists(window->workflowFilePath()));
+    closeUnsaved(window);
+}
+
+void EditorRecoveryTest::windowsThatOnlyShowedAreOpenedAgain()
+{
+    start();
+    // As a program leaves it that is killed: nobody ends the journal.
+    QVERIFY(QDir().mkpath(journals()));
+    QFile journal(journals() + u"/a.journal"_s);
+    QVERIFY(journal.open(QIODevice::WriteOnly));
+    journal.write(QJsonDocument(QJsonObject{{u"journal"_s, u"orv-workflow-journal"_s},
+                                            {u"form"_s, 1},
+                                            {u"file"_s, m_file},
+                                            {u"edited"_s, u"2024-05-06T07:08:09.000Z"_s},
+                                            {u"documentBytes"_s, 0}})
+                      .toJson(QJsonDocument::Compact) +
+                  '\n');
+    journal.close();
+    EditorWindow *window = openWindow();
+    window->offerRecovery();
+    recover(window);
+    QCOMPARE(window->workflowFilePath(), m_file);
+    const ScriptedAnswerer answers;
+    window->close();
+    QVERIFY(answers.isDone());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    m_store.reset();
+    QCOMPARE(journalFiles(), QStringList());
+}
+
+void EditorRecoveryTest::keptForLaterIsOfferedAgain()
+{
+    EditorWindow *window = offered(u"Renamed"_s);
+    QTest::mouseClick(panelButton(*window, u"&Keep for Later"_s), Qt::LeftButton);
+    const auto *panel = window->findChild<QDockWidget *>(u"recovery"_s);
+    QVERIFY(!panel->isVisible());
+    panel->toggleViewAction()->trigger();
+    QVERIFY(panel->isVisible());
+    QCOMPARE(list(*window, u"Unsaved workflows"_s)->model()->rowCount(), 1);
+}
+
+void EditorRecoveryTest::discardingAsksFirst()
+{
+    EditorWindow *window = offered(u"Renamed"_s);
+    ScriptedAnswerer answers;
+    answers.expectBox(u"Discard Unsaved Changes"_s, u"Cancel"_s);
+    answers.expectBox(u"Discard Unsaved Changes"_s, u"Discard"_s);
+    QPushButton *discard = panelButton(*window, u"&Discard..."_s);
+    QTest::mouseClick(discard, Qt::LeftButton);
+    QCOMPARE(journalFiles().size(), 1);
+    QTest::mouseClick(discard, Qt::LeftButton);
+    QVERIFY(answers.isDone());
+    QVERIFY(answers.transcript().first().text.contains(u"a.wflw"_s));
+    QCOMPARE(answers.transcript().first().defaultButton, u"Cancel"_s);
+    QCOMPARE(journalFiles(), QStringList());
+    QVERIFY(!window->findChild<QDockWidget *>(u"recovery"_s)->isVisible());
+}
+
+void EditorRecoveryTest::damagedJournalsAreTold()
+{
+    EditorWindow *window = offered(u"Renamed"_s);
+    QFile journal(journals() + u'/' + journalFiles().first());
+    QVERIFY(journal.resize(journal.size() - 1));
+    const LogCapture log;
+    recover(window);
+    QVERIFY2(panelText(*window).contains(u"damaged and can't be recovered"_s),
+             qPrintable(panelText(*window)));
+    QVERIFY(QFileInfo::exists(journal.fileName() + u".damaged"_s));
+    QCOMPARE(shownWindows().size(), 1);
+}
+
+void EditorRecoveryTest::manyEditsTakeOneState()
+{
+    start();
+    EditorWindow *window = openWindow();
+    window->openFiles({m_file});
+    int states = 0;
+    JournalKeeper keeper(window, std::make_shared<RecoveryStore>(m_folder->filePath(u"other"_s)),
+                         {[&states, window] {
+                              ++states;
+                              return window->content();
+                          },
+                          [] { return QJsonObject(); }});
+    keeper.setInterval(150);
+    for (int i = 0; i < 20; ++i)
+        Q_EMIT window->workflowTabs()->edited();
+    QCOMPARE(states, 0);
+    QTRY_COMPARE(states, 1);
+    QTest::qWait(400);
+    QCOMPARE(states, 1);
+}
+
+void EditorRecoveryTest::whatCannotBeKeptIsToldInTheStatusLine()
+{
+    start();
+    QFile blocked(journals());
+    QVERIFY(blocked.open(QIODevice::WriteOnly));
+    blocked.close();
+    const LogCapture log;
+    EditorWindow *window = openWindow();
+    window->openFiles({m_file});
+    QTRY_VERIFY(
+        window->statusBar()->currentMessage().startsWith(u"Unsaved changes can't be kept for recovery: "_s));
+}
+
+void EditorRecoveryTest::closingWindowsTakesTheLastEdit()
+{
+    start();
+    EditorWindow *window = openWindow();
+    window->openFiles({m_file});
+    window->findChild<JournalKeeper *>()->setInterval(3600000);
+    renameFirstTab(*window, u"Last"_s);
+    closeUnsaved(window);
+    m_store = std::make_shared<RecoveryStore>(journals());
+    QList<RecoveryEntry> entries;
+    QTRY_COMPARE((entries = m_store->entries()).size(), 1);
+    QCOMPARE(PropertyEditorContent(m_store->take(entries.first())->document).tabsAndContent().first().first,
+             u"Last"_s);
+}
+
+WIDGET_REGISTER_TEST(EditorRecoveryTest)
+#include "EditorRecoveryTest.moc"
