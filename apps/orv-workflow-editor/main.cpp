@@ -1,64 +1,53 @@
+#include "EditorApplication.h"
+#include "EditorArguments.h"
 #include "EditorWindow.h"
 
-#include <orv/propertyeditor/editors/GridItemEditorObjects.h>
-#include <orv/propertyeditor/editors/OrvGenericEditorObjectManager.h>
-#include <orv/propertyeditor/grid/GridItemCreators.h>
 #include <orv/propertyeditor/workbench/RecoveryStore.h>
 #include <orv/widgets/CoreMainWindow.h>
 
 #include <QApplication>
-#include <QCommandLineParser>
-#include <QLibraryInfo>
-#include <QTranslator>
+
+#include <cstdio>
 
 namespace {
 
-/// The columns that the library leaves to its hosts, and the editors of the settings that hold such tables.
-void registerCreators()
+/// Help and the version, which need no screen.
+std::optional<orv::EditorArguments::Answer> answerWithoutScreen(int argc, char *argv[])
 {
-    using namespace orv;
-    GridItemManager *manager = GridItemManager::instance();
-    manager->registerCreators();
-    manager->registerCreator(BaseItemType::SamplesProteins, new SamplesProteinsTableItemCreator);
-    manager->registerCreator(BaseItemType::IntactOptions, new IntactOptionsItemCreator);
-    manager->registerCreator(BaseItemType::OligoOptions, new OligoOptionsItemCreator);
+    const QCoreApplication application(argc, argv);
+    orv::EditorApplication::installTranslations(QLocale());
+    const orv::EditorArguments arguments = orv::readEditorArguments(QCoreApplication::arguments());
+    // Qt takes options of its own, which look wrong here.
+    const bool isRight = arguments.answer && arguments.answer->exitCode == 0;
+    return isRight ? arguments.answer : std::nullopt;
+}
 
-    using Editor = PropertySetCreator::Editor;
-    OrvGenericEditorObjectManager *editors = OrvGenericEditorObjectManager::instance();
-    editors->registerEditor(Editor::IntactOptions, new IntactOptionsGenericObject);
-    editors->registerEditor(Editor::OligoOptions, new OligoOptionsGenericObject);
+int tell(const orv::EditorArguments::Answer &answer)
+{
+    FILE *stream = answer.exitCode == 0 ? stdout : stderr;
+    (void)std::fputs(answer.text.toLocal8Bit().constData(), stream);
+    return answer.exitCode;
 }
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
-    QApplication::setOrganizationName(QStringLiteral("ORV"));
-    QApplication::setApplicationName(QStringLiteral("orv-workflow-editor"));
-    QApplication::setApplicationDisplayName(QStringLiteral("ORV Workflow Editor"));
-    QApplication::setApplicationVersion(QStringLiteral(ORV_VERSION));
-    QTranslator qtTexts;
-    if (qtTexts.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
-                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&qtTexts);
-
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QApplication::translate("main", "Views, edits, checks and upgrades mass-spectrometry workflows."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addPositionalArgument(QStringLiteral("files"),
-                                 QApplication::translate("main", "Workflows to open, a window each."),
-                                 QStringLiteral("[FILE...]"));
-    parser.process(application);
-
-    registerCreators();
+    orv::EditorApplication::setNames();
+    if (const auto answer = answerWithoutScreen(argc, argv))
+        return tell(*answer);
+    const QApplication application(argc, argv);
+    orv::EditorApplication::installTranslations(QLocale());
+    const orv::EditorArguments arguments = orv::readEditorArguments(QApplication::arguments());
+    if (arguments.answer)
+        return tell(*arguments.answer);
+    orv::EditorApplication::setIcons();
+    orv::EditorApplication::registerCreators();
     orv::CoreMainWindow mainWindow;
     const auto recovery = std::make_shared<orv::RecoveryStore>(orv::RecoveryStore::defaultFolder());
-    auto *window = new orv::EditorWindow(&mainWindow, recovery);
+    auto *const window = new orv::EditorWindow(&mainWindow, recovery);
     window->show();
     window->offerRecovery();
-    window->openFiles(parser.positionalArguments());
+    window->openFiles(arguments.files);
     return QApplication::exec();
 }
