@@ -64,13 +64,13 @@ void registerCreators()
 QString translationsFolder()
 {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() +
-                           QStringLiteral("/../share/orv-workflow-editor/translations"));
+                           QStringLiteral("/../share/orv/translations"));
 }
 
 void installTranslations(const QLocale &locale)
 {
     install(locale, QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    install(locale, QStringLiteral("orv-workflow-editor"), translationsFolder());
+    install(locale, QStringLiteral("orv"), translationsFolder());
 }
 
 } // namespace orv::EditorApplication

@@ -33,8 +33,12 @@ EditorArguments readEditorArguments(const QStringList &arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(
         EditorArgumentsTr::tr("Views, edits, checks and upgrades mass-spectrometry workflows."));
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
+    // Its own, as Qt's would list options of all its programs.
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  EditorArgumentsTr::tr("Show this help."));
+    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
+                                     EditorArgumentsTr::tr("Show the version."));
+    parser.addOptions({help, version});
     parser.addPositionalArgument(QStringLiteral("files"),
                                  EditorArgumentsTr::tr("Workflows to open, a window each."),
                                  QStringLiteral("[FILE...]"));

@@ -1,5 +1,6 @@
 #include "EditorWindow.h"
 
+#include "Libraries.h"
 #include "RecentFiles.h"
 #include "Runs.h"
 
@@ -137,11 +138,15 @@ void EditorWindow::buildHelpMenu()
 
 void EditorWindow::showAbout()
 {
+    QStringList libraries;
+    for (const LinkedLibrary &library : linkedLibraries()) {
+        const QString name = (library.name + u' ' + library.version).trimmed();
+        libraries.append(tr("%1 (%2)").arg(name, library.licence));
+    }
     const QString text =
-        tr("ORV Workflow Editor %1\nFormat version %2 of workflows\nLGPL-2.1-or-later\n\nQt %3 (LGPL-3.0)\n"
-           "ProteoWizard (Apache-2.0)\nQCoro (MIT)\nQuaZip (LGPL-2.1)\nlibcsv (LGPL-2.1)")
+        tr("ORV Workflow Editor %1\nFormat version %2 of workflows\nLicence: %3\n\nIt stands on:\n%4")
             .arg(QApplication::applicationVersion(), WflwMetaData::currentWorkflowVersion().toString(),
-                 QLatin1String(qVersion()));
+                 QStringLiteral("LGPL-2.1-or-later"), libraries.join(u'\n'));
     ORVStyle::information(this, tr("About ORV Workflow Editor"), text);
 }
 

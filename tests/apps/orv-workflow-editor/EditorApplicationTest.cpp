@@ -1,14 +1,20 @@
 #include "EditorApplication.h"
 
 #include "EditorArguments.h"
+#include "EditorWindow.h"
+#include "TestData.h"
 #include "WidgetTest.h"
 
 #include <orv/propertyeditor/window/WorkflowIcons.h>
 #include <orv/propertyeditor/workflow/WorkflowType.h>
+#include <orv/widgets/CoreMainWindow.h>
 
 #include <QDir>
 #include <QImage>
-#include <QPainter>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QTranslator>
+#include <QXmlStreamReader>
 
 using namespace orv;
 using namespace Qt::StringLiterals;
@@ -23,6 +29,10 @@ private Q_SLOTS:
     void filesAreOpened();
     void helpAndVersionAreTold();
     void wrongArgumentsAreTold();
+    void windowsSpeakGerman();
+    void germanMnemonicsDiffer();
+    void translationsKeepTheirPlaces();
+    void desktopsKnowTheApplicationAndItsFiles();
 };
 
 void EditorApplicationTest::everyTypeOfWorkflowHasItsIcon()
@@ -75,6 +85,118 @@ void EditorApplicationTest::wrongArgumentsAreTold()
     const EditorArguments wrong = readEditorArguments({u"editor"_s, u"--nonsense"_s});
     QCOMPARE(wrong.answer->exitCode, 2);
     QVERIFY(wrong.answer->text.contains(u"nonsense"_s));
+}
+
+namespace {
+
+/// The application in German while it lives.
+class German
+{
+public:
+    German()
+    {
+        EditorApplication::installTranslations(QLocale(QLocale::German));
+        m_texts = qApp->findChildren<QTranslator *>();
+    }
+    ~German()
+    {
+        for (QTranslator *texts : m_texts)
+            delete texts;
+    }
+    Q_DISABLE_COPY_MOVE(German)
+
+private:
+    QList<QTranslator *> m_texts;
+};
+
+QString read(const QString &name)
+{
+    return QString::fromUtf8(TestData::read(QString::fromUtf8(ORV_EDITOR_SOURCES) + name));
+}
+
+/// "%1" and the like, sorted.
+QStringList placesIn(const QString &text)
+{
+    static const QRegularExpression place(u"%L?[0-9n]"_s);
+    QStringList places;
+    for (auto match = place.globalMatch(text); match.hasNext();)
+        places.append(match.next().captured());
+    places.sort();
+    return places;
+}
+
+} // namespace
+
+void EditorApplicationTest::windowsSpeakGerman()
+{
+    const German german;
+    CoreMainWindow main;
+    EditorWindow window(&main);
+    QStringList menus;
+    for (const QAction *menu : window.menuBar()->actions())
+        menus.append(menu->text());
+    QCOMPARE(menus, QStringList({u"&Datei"_s, u"&Bearbeiten"_s, u"&Ansicht"_s, u"&Hilfe"_s}));
+    QCOMPARE(window.windowTitle(), u"Projekt anlegen"_s);
+    QVERIFY(readEditorArguments({u"editor"_s, u"--help"_s}).answer->text.contains(u"Workflows, die"_s));
+}
+
+void EditorApplicationTest::germanMnemonicsDiffer()
+{
+    const German german;
+    CoreMainWindow main;
+    EditorWindow window(&main);
+    for (const QMenu *menu : window.menuBar()->findChildren<QMenu *>()) {
+        QSet<QChar> letters;
+        for (const QAction *action : menu->actions()) {
+            const qsizetype mark = action->text().indexOf(u'&');
+            if (mark < 0)
+                continue;
+            const QChar letter = action->text().at(mark + 1).toLower();
+            QVERIFY2(!letters.contains(letter), qPrintable(action->text()));
+            letters.insert(letter);
+        }
+    }
+}
+
+void EditorApplicationTest::translationsKeepTheirPlaces()
+{
+    QXmlStreamReader texts(read(u"/../../propertyeditor/translations/orv_de.ts"_s));
+    QString source;
+    int count = 0;
+    while (!texts.atEnd()) {
+        texts.readNext();
+        if (texts.isStartElement() && texts.name() == u"source"_s) {
+            source = texts.readElementText();
+        } else if (texts.isStartElement() && texts.name() == u"translation"_s &&
+                   texts.attributes().value(u"type"_s).isEmpty()) {
+            const QString translation = texts.readElementText();
+            QVERIFY2(placesIn(source) == placesIn(translation), qPrintable(source));
+            QVERIFY2(source.endsWith(u"..."_s) == translation.endsWith(u"..."_s), qPrintable(source));
+            ++count;
+        }
+    }
+    QVERIFY2(!texts.hasError(), qPrintable(texts.errorString()));
+    QVERIFY2(count > 200, qPrintable(QString::number(count)));
+}
+
+void EditorApplicationTest::desktopsKnowTheApplicationAndItsFiles()
+{
+    const QString entry = read(u"/desktop/org.orv.WorkflowEditor.desktop"_s);
+    QVERIFY(entry.startsWith(u"[Desktop Entry]\n"_s));
+    for (const QString &line : {u"Type=Application"_s, u"Exec=orv-workflow-editor %F"_s,
+                                u"Icon=org.orv.WorkflowEditor"_s, u"MimeType=application/x-orv-workflow;"_s})
+        QVERIFY2(entry.contains(u'\n' + line + u'\n'), qPrintable(line));
+    QXmlStreamReader types(read(u"/desktop/org.orv.WorkflowEditor.xml"_s));
+    QStringList found;
+    while (!types.atEnd()) {
+        types.readNext();
+        if (types.isStartElement() && types.name() == u"mime-type"_s)
+            found.append(types.attributes().value(u"type"_s).toString());
+        if (types.isStartElement() && types.name() == u"glob"_s)
+            found.append(types.attributes().value(u"pattern"_s).toString());
+    }
+    QVERIFY2(!types.hasError(), qPrintable(types.errorString()));
+    QCOMPARE(found, QStringList({u"application/x-orv-workflow"_s, u"*.wflw"_s}));
 }
 
 WIDGET_REGISTER_TEST(EditorApplicationTest)

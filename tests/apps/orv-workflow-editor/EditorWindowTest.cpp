@@ -299,8 +299,12 @@ void EditorWindowTest::aboutTellsVersions()
     ScriptedAnswerer answers;
     answers.expectBox(u"About ORV Workflow Editor"_s, u"OK"_s);
     command(*m_window, u"&About ORV Workflow Editor"_s)->trigger();
-    QVERIFY(answers.transcript().first().text.contains(u"5.47.0"_s));
-    QVERIFY(answers.transcript().first().text.contains(QLatin1String(qVersion())));
+    const QString told = answers.transcript().first().text;
+    QVERIFY(told.contains(u"5.47.0"_s));
+    QVERIFY(told.contains(u"Qt %1 (LGPL-3.0)"_s.arg(QLatin1String(qVersion()))));
+    for (const QString &library : {u"QuaZip 1."_s, u"libcsv 3."_s, u"zlib 1."_s, u"SQLite 3."_s,
+                                   u"OpenSSL "_s, u"ProteoWizard (tables) (Apache-2.0)"_s})
+        QVERIFY2(told.contains(library), qPrintable(library + u" isn't in "_s + told));
 }
 
 void EditorWindowTest::mnemonicsDiffer()
