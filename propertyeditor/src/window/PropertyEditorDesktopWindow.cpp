@@ -145,6 +145,7 @@ void PropertyEditorDesktopWindow::writePortableWorkflow(const QString &path)
                            error.details().join(u'\n'));
         return;
     }
+    beginReload();
     clear();
     if (!self)
         return;
@@ -153,7 +154,10 @@ void PropertyEditorDesktopWindow::writePortableWorkflow(const QString &path)
     PropertyEditorContent written(document);
     (void)PropertyEditorWindowJsonFile(inner).loadTabsFromJson(&written);
     dFunc()->setWorkflowFilePath(inner);
-    if (const Error shown = setContent(written); shown.hasError() && self)
+    const Error shown = setContent(written);
+    if (self)
+        endReload(!shown.hasError());
+    if (self && shown.hasError())
         ORVStyle::critical(this, {}, shown.errorMessage());
 }
 

@@ -110,11 +110,25 @@ bool PropertyEditorWindow::saveWorkflowToJSON(const QString &path)
     return true;
 }
 
+void PropertyEditorWindow::beginReload()
+{
+    d->m_isReloading = true;
+}
+
+void PropertyEditorWindow::endReload(bool isShown)
+{
+    d->m_isReloading = false;
+    if (isShown)
+        Q_EMIT documentSaved();
+    else
+        Q_EMIT documentShown();
+}
+
 void PropertyEditorWindow::reload(const PropertyEditorContent &written, const QString &path)
 {
     const QPointer<PropertyEditorWindow> self(this);
     const int tab = d->m_form->tabWidget->currentIndex();
-    d->m_isReloading = true;
+    beginReload();
     clear();
     if (!self)
         return;
@@ -123,7 +137,6 @@ void PropertyEditorWindow::reload(const PropertyEditorContent &written, const QS
         qCCritical(propertyEditorLog).noquote() << "The window went away while it was saved" << path;
         return;
     }
-    d->m_isReloading = false;
     if (error.hasError()) {
         tellNotShownAgain(error, path);
         return;
@@ -134,7 +147,7 @@ void PropertyEditorWindow::reload(const PropertyEditorContent &written, const QS
     d->updateBaseUrlForRelativeUrls();
     d->collapseAllKPropertyViews();
     d->updateLastSavedWorkflow();
-    Q_EMIT documentSaved();
+    endReload(true);
 }
 
 void PropertyEditorWindow::tellNotShownAgain(const Error &error, const QString &path)
@@ -142,7 +155,7 @@ void PropertyEditorWindow::tellNotShownAgain(const Error &error, const QString &
     const QPointer<PropertyEditorWindow> self(this);
     qCCritical(propertyEditorLog).noquote()
         << "What was saved can't be shown" << path << error.errorMessage();
-    Q_EMIT documentShown();
+    endReload(false);
     if (self) {
         ORVStyle::critical(
             this, {},

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QSignalSpy>
 
 using namespace orv;
 using namespace WindowFixture;
@@ -210,6 +211,8 @@ void SavingTest::portableFoldersAreWritten()
     const QJsonObject document = documentOf({karvonCell({setting("KarvonLayout", u"data/layout.ini"_s)})});
     QCOMPARE(window.openWorkflow(write(folder, "a.wflw", document)), kOpened);
     const QString target = folder.filePath(u"b.wflwp"_s);
+    const QSignalSpy saved(&window, &PropertyEditorWindow::documentSaved);
+    const QSignalSpy shown(&window, &PropertyEditorWindow::documentShown);
     answers.expectPath(u"Save As Portable Workflow"_s, target);
     window.click("Save As Portable Workflow...");
     QVERIFY(answers.isDone());
@@ -220,6 +223,8 @@ void SavingTest::portableFoldersAreWritten()
     QVERIFY(window.content().toJson().contains("\"layout.ini\""));
     QCOMPARE(WflwMetaData::nameFromMetaDataObject(window.state().workflowMetadata()), u"b"_s);
     QCOMPARE(window.tabs().count(), 1);
+    QCOMPARE(saved.size(), 1);
+    QCOMPARE(shown.size(), 0);
 }
 
 void SavingTest::portableFailuresAreTold()

@@ -146,6 +146,10 @@ protected:
     [[nodiscard]] bool acceptsLosses(const QStringList &losses);
     /// Writes the workflow and goes on with what was written.
     bool saveWorkflowToJSON(const QString &path);
+    /// Between these two the tabs are filled anew with what was written: listeners hear of one saved document,
+    /// not of others. \a isShown tells whether that went well.
+    void beginReload();
+    void endReload(bool isShown);
     OpenStatus openWorkflow(PropertyEditorContent *content);
     OpenStatus openWorkflow(PropertyEditorContent *content,
                             std::optional<PropertyEditorWindowJsonFile *> file, const QString &path);
