@@ -15,7 +15,7 @@ namespace orv {
 
 namespace {
 
-constexpr int kInterval = 1500;
+constexpr int kJournalInterval = 1500;
 
 } // namespace
 
@@ -27,7 +27,7 @@ JournalKeeper::JournalKeeper(PropertyEditorWindow *window, std::shared_ptr<Recov
     , m_source(std::move(source))
 {
     m_timer.setSingleShot(true);
-    m_timer.setInterval(kInterval);
+    m_timer.setInterval(kJournalInterval);
     connect(&m_timer, &QTimer::timeout, this, &JournalKeeper::flush);
     connect(window, &PropertyEditorWindow::documentShown, this, &JournalKeeper::begin);
     connect(window, &PropertyEditorWindow::documentSaved, this, &JournalKeeper::beginSaved);

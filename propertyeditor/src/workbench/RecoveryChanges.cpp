@@ -22,24 +22,24 @@ struct RecoveryChangesTr
     Q_DECLARE_TR_FUNCTIONS(RecoveryChanges)
 };
 
-constexpr qsizetype kLongestText = 120;
+constexpr qsizetype kLongestChange = 120;
 
-QString shortened(const QString &text)
+QString shortenedChange(const QString &text)
 {
-    return text.size() <= kLongestText ? text : text.left(kLongestText - 1) + QChar(0x2026);
+    return text.size() <= kLongestChange ? text : text.left(kLongestChange - 1) + QChar(0x2026);
 }
 
-QString textOf(const QJsonValue &value)
+QString changedText(const QJsonValue &value)
 {
     if (value.isUndefined())
         return {};
     if (value.isString())
-        return shortened(value.toString());
+        return shortenedChange(value.toString());
     if (const QJsonValue name = value[QLatin1String("name")]; name.isString())
-        return shortened(name.toString());
+        return shortenedChange(name.toString());
     // A value alone is no JSON document for the writer; its list is.
     const QByteArray json = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    return shortened(QString::fromUtf8(json.mid(1, json.size() - 2)));
+    return shortenedChange(QString::fromUtf8(json.mid(1, json.size() - 2)));
 }
 
 /// A document that is new has tabs that were added, one by one.
@@ -56,7 +56,7 @@ struct OwnProperty
     QString (*read)(const QJsonObject &metadata);
 };
 
-QString typeOf(const QJsonObject &metadata)
+QString workflowTypeText(const QJsonObject &metadata)
 {
     const WorkflowType type = WflwMetaData::workflowType(metadata);
     return type == WorkflowType::Unknown ? QString() : workflowTypeToString(type);
@@ -69,7 +69,7 @@ constexpr std::array kOwnProperties = {
                 &WflwMetaData::descriptionFromMetaDataObject},
     OwnProperty{QT_TRANSLATE_NOOP("RecoveryChanges", "Icon of the workflow"),
                 &WflwMetaData::iconNameFromMetaDataObject},
-    OwnProperty{QT_TRANSLATE_NOOP("RecoveryChanges", "Type of the workflow"), &typeOf},
+    OwnProperty{QT_TRANSLATE_NOOP("RecoveryChanges", "Type of the workflow"), &workflowTypeText},
 };
 
 } // namespace
@@ -89,7 +89,8 @@ RecoveryChanges changesBetween(const QJsonObject &before, const QJsonObject &aft
         const QString was = property.read(metadataBefore);
         const QString is = property.read(metadataAfter);
         if (was != is)
-            changes.told.append({RecoveryChangesTr::tr(property.name), shortened(was), shortened(is)});
+            changes.told.append(
+                {RecoveryChangesTr::tr(property.name), shortenedChange(was), shortenedChange(is)});
     }
     const QList<WorkflowDifference> differences =
         WorkflowDifferences::between(withTabs(before), after, false);
@@ -97,7 +98,7 @@ RecoveryChanges changesBetween(const QJsonObject &before, const QJsonObject &aft
     for (const WorkflowDifference &difference : differences) {
         if (changes.told.size() == RecoveryChanges::kMostTold)
             break;
-        changes.told.append({difference.path, textOf(difference.left), textOf(difference.right)});
+        changes.told.append({difference.path, changedText(difference.left), changedText(difference.right)});
     }
     return changes;
 }

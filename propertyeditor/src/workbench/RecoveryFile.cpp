@@ -13,8 +13,8 @@ namespace orv::RecoveryFile {
 
 namespace {
 
-constexpr QLatin1String kKind("orv-workflow-journal");
-constexpr int kForm = 1;
+constexpr QLatin1String kJournalKind("orv-workflow-journal");
+constexpr int kJournalForm = 1;
 
 QJsonArray toJson(const QList<RecoveryChange> &changes)
 {
@@ -49,7 +49,7 @@ RecoveryEntry entryFrom(const QJsonObject &header, const QString &path)
     return entry;
 }
 
-Header faulty(Fault fault)
+Header faultyHeader(Fault fault)
 {
     Header header;
     header.fault = fault;
@@ -72,8 +72,8 @@ QByteArray checksumOfFile(const QString &path)
 QByteArray toBytes(const RecoveryEntry &entry, const QByteArray &document)
 {
     const QJsonObject header{
-        {QLatin1String("journal"), kKind},
-        {QLatin1String("form"), kForm},
+        {QLatin1String("journal"), kJournalKind},
+        {QLatin1String("form"), kJournalForm},
         {QLatin1String("file"), entry.file},
         {QLatin1String("checksum"), QLatin1String(entry.checksum)},
         {QLatin1String("name"), entry.name},
@@ -91,14 +91,15 @@ Header readHeader(const QString &path)
 {
     const Result<QByteArray> beginning = FileUtils::readBeginning(path, kMostHeaderBytes);
     if (!beginning)
-        return faulty(Fault::Unreadable);
+        return faultyHeader(Fault::Unreadable);
     const qsizetype end = beginning->indexOf('\n');
     const Result<QJsonObject> object =
         JsonUtils::objectFromJson(beginning->left(std::max<qsizetype>(end, 0)));
     if (!object)
-        return faulty(Fault::Damaged);
-    if ((*object)[QLatin1String("journal")] != kKind || (*object)[QLatin1String("form")] != kForm)
-        return faulty(Fault::Foreign);
+        return faultyHeader(Fault::Damaged);
+    if ((*object)[QLatin1String("journal")] != kJournalKind ||
+        (*object)[QLatin1String("form")] != kJournalForm)
+        return faultyHeader(Fault::Foreign);
     Header header;
     header.entry = entryFrom(*object, path);
     header.documentOffset = end + 1;

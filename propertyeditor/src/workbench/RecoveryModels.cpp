@@ -3,10 +3,21 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
+#include <QTextDocument>
 
 #include <array>
 
 namespace orv {
+
+namespace {
+
+/// Tool tips take some texts for markup.
+QString asPlainTip(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
+
+} // namespace
 
 void RecoveryModel::setEntries(const QList<RecoveryEntry> &entries)
 {
@@ -49,7 +60,7 @@ QVariant RecoveryModel::data(const QModelIndex &index, int role) const
     if (role == Qt::DisplayRole)
         return text(entry, index.column());
     if (role == Qt::ToolTipRole && index.column() == Workflow)
-        return entry.file.isEmpty() ? tr("Never saved") : QDir::toNativeSeparators(entry.file);
+        return entry.file.isEmpty() ? tr("Never saved") : asPlainTip(QDir::toNativeSeparators(entry.file));
     if (role == Qt::TextAlignmentRole && index.column() == Changes)
         return int(Qt::AlignRight | Qt::AlignVCenter);
     return {};
@@ -90,7 +101,8 @@ QVariant RecoveryChangesModel::data(const QModelIndex &index, int role) const
         return {};
     const RecoveryChange &change = m_changes.at(index.row());
     const std::array<const QString *, ColumnCount> texts{&change.place, &change.before, &change.after};
-    return *texts.at(size_t(index.column()));
+    const QString &text = *texts.at(size_t(index.column()));
+    return role == Qt::ToolTipRole ? asPlainTip(text) : text;
 }
 
 QVariant RecoveryChangesModel::headerData(int section, Qt::Orientation orientation, int role) const

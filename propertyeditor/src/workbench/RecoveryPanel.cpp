@@ -23,9 +23,9 @@ namespace orv {
 
 namespace {
 
-constexpr int kNarrowestColumn = 12; ///< in characters
+constexpr int kNarrowestRecoveryColumn = 12; ///< in characters
 
-QTreeView *listView(QAbstractItemModel *model, const QString &name)
+QTreeView *recoveryList(QAbstractItemModel *model, const QString &name)
 {
     auto *view = new QTreeView;
     view->setModel(model);
@@ -38,10 +38,11 @@ QTreeView *listView(QAbstractItemModel *model, const QString &name)
     return view;
 }
 
-QLabel *wrappedLabel()
+QLabel *recoveryLabel()
 {
     auto *label = new QLabel;
     label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
 }
@@ -65,7 +66,7 @@ RecoveryPanel::~RecoveryPanel() = default;
 
 void RecoveryPanel::build()
 {
-    m_title = wrappedLabel();
+    m_title = recoveryLabel();
     auto *splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(makeEntries());
@@ -80,10 +81,10 @@ void RecoveryPanel::build()
 
 QWidget *RecoveryPanel::makeEntries()
 {
-    m_view = listView(m_model, tr("Unsaved workflows"));
+    m_view = recoveryList(m_model, tr("Unsaved workflows"));
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->header()->setStretchLastSection(false);
-    m_view->header()->setMinimumSectionSize(kNarrowestColumn * fontMetrics().averageCharWidth());
+    m_view->header()->setMinimumSectionSize(kNarrowestRecoveryColumn * fontMetrics().averageCharWidth());
     m_view->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_view->header()->setSectionResizeMode(RecoveryModel::Workflow, QHeaderView::Stretch);
     return m_view;
@@ -91,11 +92,11 @@ QWidget *RecoveryPanel::makeEntries()
 
 QWidget *RecoveryPanel::makeChanges()
 {
-    m_changesView = listView(m_changes, tr("Changes of the unsaved workflow"));
+    m_changesView = recoveryList(m_changes, tr("Changes of the unsaved workflow"));
     m_changesView->setTextElideMode(Qt::ElideRight);
     m_changesView->header()->setSectionResizeMode(QHeaderView::Stretch);
-    m_count = wrappedLabel();
-    m_remark = wrappedLabel();
+    m_count = recoveryLabel();
+    m_remark = recoveryLabel();
     auto *side = new QWidget;
     auto *layout = new QVBoxLayout(side);
     layout->setContentsMargins({});

@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QThreadPool>
 #include <QUuid>
@@ -28,7 +29,7 @@ struct RecoveryStoreTr
 };
 
 /// Null where another program holds the journal, or nothing may be written beside it.
-std::unique_ptr<QLockFile> lockOf(const QString &journal)
+std::unique_ptr<QLockFile> lockOfJournal(const QString &journal)
 {
     auto lock = std::make_unique<QLockFile>(journal + RecoveryFile::kLockSuffix);
     // Only the end of its process frees a lock, never its age.
@@ -36,14 +37,14 @@ std::unique_ptr<QLockFile> lockOf(const QString &journal)
     return lock->tryLock() ? std::move(lock) : nullptr;
 }
 
-Error isHeld(const RecoveryEntry &entry)
+Error journalIsHeld(const RecoveryEntry &entry)
 {
     return Error(ErrorCode::InvalidContent,
                  RecoveryStoreTr::tr("The unsaved workflow is in use by another window or program."))
         .addDetail(RecoveryStoreTr::tr("The journal is %1.").arg(entry.journal));
 }
 
-Error hasGone(const RecoveryEntry &entry)
+Error journalHasGone(const RecoveryEntry &entry)
 {
     return Error(ErrorCode::CannotOpenFile, RecoveryStoreTr::tr("The unsaved workflow isn't there any more."))
         .addDetail(RecoveryStoreTr::tr("The journal was %1.").arg(entry.journal));
@@ -75,12 +76,13 @@ QString RecoveryStore::defaultFolder()
 
 QList<RecoveryEntry> RecoveryStore::entries()
 {
+    removeLeftovers();
     QList<RecoveryEntry> found;
     const QFileInfoList files = QDir(m_folder).entryInfoList(
         {QLatin1Char('*') + RecoveryFile::kSuffix}, QDir::Files | QDir::System | QDir::Hidden, QDir::Name);
     for (const QFileInfo &file : files) {
         const QString path = file.filePath();
-        const std::unique_ptr<QLockFile> lock = lockOf(path);
+        const std::unique_ptr<QLockFile> lock = lockOfJournal(path);
         if (!lock)
             continue;
         const RecoveryFile::Header header = RecoveryFile::readHeader(path);
@@ -92,6 +94,22 @@ QList<RecoveryEntry> RecoveryStore::entries()
     std::stable_sort(found.begin(), found.end(),
                      [](const RecoveryEntry &a, const RecoveryEntry &b) { return a.edited > b.edited; });
     return found;
+}
+
+/// What a killed program was about to write: the journal beside it is whole.
+void RecoveryStore::removeLeftovers() const
+{
+    // Six letters of any case, never a word that somebody would write.
+    static const QRegularExpression unfinished(
+        QStringLiteral("^(.+\\.journal)(\\.(?=[a-z]*[A-Z])[A-Za-z]{6}|\\.lock)$"));
+    const QStringList files = QDir(m_folder).entryList(QDir::Files | QDir::Hidden);
+    for (const QString &file : files) {
+        const QRegularExpressionMatch match = unfinished.match(file);
+        const QString journal = QDir(m_folder).filePath(match.captured(1));
+        // A lock that was left behind goes with ours.
+        if (match.hasMatch() && lockOfJournal(journal) && !file.endsWith(RecoveryFile::kLockSuffix))
+            QFile::remove(QDir(m_folder).filePath(file));
+    }
 }
 
 void RecoveryStore::putAside(const QString &path, const QString &suffix)
@@ -117,10 +135,10 @@ std::unique_ptr<RecoveryJournal> RecoveryStore::newJournal()
 Result<RecoveryStore::Taken> RecoveryStore::take(const RecoveryEntry &entry)
 {
     if (!QFileInfo::exists(entry.journal))
-        return hasGone(entry);
-    std::unique_ptr<QLockFile> lock = lockOf(entry.journal);
+        return journalHasGone(entry);
+    std::unique_ptr<QLockFile> lock = lockOfJournal(entry.journal);
     if (!lock)
-        return isHeld(entry);
+        return journalIsHeld(entry);
     const RecoveryFile::Header header = RecoveryFile::readHeader(entry.journal);
     const RecoveryFile::Document document = RecoveryFile::readDocument(header);
     const Fault fault = header.fault == Fault::None ? document.fault : header.fault;
@@ -139,10 +157,10 @@ Result<RecoveryStore::Taken> RecoveryStore::take(const RecoveryEntry &entry)
 Error RecoveryStore::discard(const RecoveryEntry &entry)
 {
     if (!QFileInfo::exists(entry.journal))
-        return hasGone(entry);
-    const std::unique_ptr<QLockFile> lock = lockOf(entry.journal);
+        return journalHasGone(entry);
+    const std::unique_ptr<QLockFile> lock = lockOfJournal(entry.journal);
     if (!lock)
-        return isHeld(entry);
+        return journalIsHeld(entry);
     QFile file(entry.journal);
     if (file.remove())
         return Error::NoError;

@@ -108,6 +108,9 @@ private Q_SLOTS:
     void manyEditsTakeOneState();
     void whatCannotBeKeptIsToldInTheStatusLine();
     void closingWindowsTakesTheLastEdit();
+    void windowsMayGoWhileTheyAreAsked_data();
+    void windowsMayGoWhileTheyAreAsked();
+    void everyWindowHasItsOwn();
 
 private:
     void start();
@@ -408,6 +411,55 @@ void EditorRecoveryTest::closingWindowsTakesTheLastEdit()
     QTRY_COMPARE((entries = m_store->entries()).size(), 1);
     QCOMPARE(PropertyEditorContent(m_store->take(entries.first())->document).tabsAndContent().first().first,
              u"Last"_s);
+}
+
+void EditorRecoveryTest::windowsMayGoWhileTheyAreAsked_data()
+{
+    QTest::addColumn<QString>("button");
+    for (const QString &button : {u"&Recover"_s, u"&Keep for Later"_s, u"&Discard..."_s})
+        QTest::newRow(qPrintable(button)) << button;
+}
+
+void EditorRecoveryTest::windowsMayGoWhileTheyAreAsked()
+{
+    QFETCH(const QString, button);
+    const QPointer<EditorWindow> window = offered(u"Renamed"_s);
+    auto *panel = window->findChild<RecoveryPanel *>();
+    ScriptedAnswerer answers;
+    if (button == u"&Discard..."_s)
+        answers.expectBox(u"Discard Unsaved Changes"_s, u"Discard"_s);
+    const auto leave = [window] { delete window.data(); };
+    panel->disconnect(window);
+    connect(panel, &RecoveryPanel::recoverRequested, this, leave);
+    connect(panel, &RecoveryPanel::keptForLater, this, leave);
+    connect(panel, &RecoveryPanel::emptied, this, leave);
+    // A button that is clicked outlives its click, as Qt itself has it.
+    QTest::mouseClick(panelButton(*window, button), Qt::LeftButton);
+    QVERIFY(!window);
+}
+
+void EditorRecoveryTest::everyWindowHasItsOwn()
+{
+    start();
+    EditorWindow *first = openWindow();
+    first->openFiles({m_file});
+    const QString other = m_folder->filePath(u"b.wflw"_s);
+    QVERIFY(QFile::copy(m_file, other));
+    first->openFiles({other});
+    QCOMPARE(shownWindows().size(), 2);
+    for (EditorWindow *window : shownWindows()) {
+        renameFirstTab(*window, QFileInfo(window->workflowFilePath()).baseName());
+        closeUnsaved(window);
+    }
+    m_store = std::make_shared<RecoveryStore>(journals());
+    QSet<QString> names;
+    for (const RecoveryEntry &entry : m_store->entries()) {
+        const QString tab =
+            PropertyEditorContent(m_store->take(entry)->document).tabsAndContent().first().first;
+        QCOMPARE(QFileInfo(entry.file).baseName(), tab);
+        names.insert(tab);
+    }
+    QCOMPARE(names, QSet<QString>({u"a"_s, u"b"_s}));
 }
 
 WIDGET_REGISTER_TEST(EditorRecoveryTest)

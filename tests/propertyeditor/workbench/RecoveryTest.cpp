@@ -95,6 +95,7 @@ private Q_SLOTS:
     void aFolderThatCannotBeWrittenIsToldOnce();
     void tooLargeDocumentsAreTold();
     void manyChangesAreToldInPart();
+    void leftoversOfKilledProgramsGo();
     void killedProgramsLeaveWholeJournals();
     void killedWindowsLoseAtMostTwoSeconds();
 };
@@ -378,6 +379,26 @@ void RecoveryTest::manyChangesAreToldInPart()
     QCOMPARE(entry.changes.told.size(), 200);
 }
 
+void RecoveryTest::leftoversOfKilledProgramsGo()
+{
+    const Journals journals;
+    RecoveryStore store(journals.folder);
+    const std::unique_ptr<RecoveryJournal> living = store.newJournal();
+    const QSignalSpy written(living.get(), &RecoveryJournal::written);
+    living->begin({}, {});
+    living->write(stateWith(u"A*"_s));
+    QTRY_COMPARE(written.size(), 1);
+    const QString name = QFileInfo(living->path()).fileName();
+    for (const QString &file : {u"a.journal.XyabZz"_s, u"b.journal.backup"_s, u"b.journal.damaged"_s,
+                                u"c.txt"_s, name + u".abcDef"_s})
+        (void)journals.write(file, "half");
+    (void)store.entries();
+    QStringList expected{u"b.journal.backup"_s, u"b.journal.damaged"_s, u"c.txt"_s, name,
+                         name + u".abcDef"_s,   name + u".lock"_s};
+    expected.sort();
+    QCOMPARE(journals.files(), expected);
+}
+
 void RecoveryTest::killedProgramsLeaveWholeJournals()
 {
     constexpr quint32 kSeed = 20240607;
@@ -396,6 +417,7 @@ void RecoveryTest::killedProgramsLeaveWholeJournals()
         RecoveryStore store(journals.folder);
         const QList<RecoveryEntry> entries = store.entries();
         QCOMPARE(store.setAside(), QStringList());
+        QCOMPARE(journals.files().size(), entries.size());
         if (entries.isEmpty())
             continue; // it was killed before the first one was there
         QCOMPARE(entries.size(), 1);

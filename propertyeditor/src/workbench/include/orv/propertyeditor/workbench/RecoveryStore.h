@@ -60,6 +60,7 @@ public:
     [[nodiscard]] static RecoveryFileState fileState(const RecoveryEntry &entry);
 
 private:
+    void removeLeftovers() const;
     void putAside(const QString &path, const QString &suffix);
 
     const QString m_folder;
