@@ -175,8 +175,23 @@ void EditorWindow::openFiles(const QStringList &paths)
         if (self && openBesides(path) == OpenStatus::NotOpened)
             unreadable += whyUnreadable(path);
     }
-    if (self && !unreadable.isEmpty())
-        ORVStyle::warning(this, tr("Open"), tr("Not opened:\n%1").arg(unreadable.join(u'\n')));
+    if (self)
+        tellUnreadable(unreadable);
+}
+
+void EditorWindow::tellUnreadable(const QStringList &files)
+{
+    if (!files.isEmpty())
+        ORVStyle::warning(this, tr("Open"), tr("Not opened:\n%1").arg(files.join(u'\n')));
+}
+
+PropertyEditorWindow::OpenStatus EditorWindow::openAndTell(const QString &path)
+{
+    const QPointer<EditorWindow> self(this);
+    const OpenStatus status = openBesides(path);
+    if (self && status == OpenStatus::NotOpened)
+        tellUnreadable(whyUnreadable(path));
+    return status;
 }
 
 PropertyEditorWindow::OpenStatus EditorWindow::selectAndOpenWorkflow()
@@ -185,14 +200,15 @@ PropertyEditorWindow::OpenStatus EditorWindow::selectAndOpenWorkflow()
     const QString path =
         ORVFileDialog::getOpenFileName(this, tr("Launch Workflow"), {}, WflwUtils::workflowFiltersInDialog(),
                                        PropertyEditorDirLocations::OpenWorkflowLocation);
-    return self && !path.isEmpty() ? openBesides(path) : OpenStatus::NotOpened;
+    return self && !path.isEmpty() ? openAndTell(path) : OpenStatus::NotOpened;
 }
 
 void EditorWindow::openRecent(const QString &path)
 {
-    const QPointer<EditorWindow> self(this);
-    if (openBesides(path) == OpenStatus::Opened || !self || QFileInfo::exists(path))
+    if (QFileInfo::exists(path)) {
+        openAndTell(path);
         return;
+    }
     RecentFiles::remove(path);
     ORVStyle::warning(this, tr("Open Recent"), tr("The workflow isn't there any more: %1").arg(path));
 }

@@ -49,6 +49,8 @@ private:
     void buildHelpMenu();
     void fillRecentMenu(QMenu *menu);
     void openRecent(const QString &path);
+    OpenStatus openAndTell(const QString &path);
+    void tellUnreadable(const QStringList &files);
     void run(const PropertyEditor::Content &content, const Path &outputPath, DuplicateFilePolicy policy);
     void showAbout();
     void recover(const RecoveryEntry &entry, RecoveryFileState state);

@@ -15,6 +15,7 @@ namespace {
 
 constexpr QLatin1String kJournalKind("orv-workflow-journal");
 constexpr int kJournalForm = 1;
+constexpr qint64 kUsualHeaderBytes = qint64(32) * 1024;
 
 QJsonArray toJson(const QList<RecoveryChange> &changes)
 {
@@ -89,7 +90,9 @@ QByteArray toBytes(const RecoveryEntry &entry, const QByteArray &document)
 
 Header readHeader(const QString &path)
 {
-    const Result<QByteArray> beginning = FileUtils::readBeginning(path, kMostHeaderBytes);
+    Result<QByteArray> beginning = FileUtils::readBeginning(path, kUsualHeaderBytes);
+    if (beginning && !beginning->contains('\n'))
+        beginning = FileUtils::readBeginning(path, kMostHeaderBytes);
     if (!beginning)
         return faultyHeader(Fault::Unreadable);
     const qsizetype end = beginning->indexOf('\n');

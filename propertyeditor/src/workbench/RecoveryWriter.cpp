@@ -131,7 +131,7 @@ void RecoveryWriter::start(const Beginning &beginning)
     m_entry.edited = QDateTime::currentDateTimeUtc();
     m_entry.name = WflwMetaData::nameFromMetaDataObject(PropertyEditorContent(m_base).metadata());
     if (m_lock)
-        QFile::remove(m_path);
+        removeFile();
     if (m_entry.file.isEmpty())
         return;
     askChecksum();
@@ -193,10 +193,19 @@ Error RecoveryWriter::makePlace()
     return Error::NoError;
 }
 
+void RecoveryWriter::removeFile() const
+{
+    QFile file(m_path);
+    if (file.exists() && !file.remove())
+        qCWarning(propertyEditorLog).noquote()
+            << "A journal can't be removed, and its workflow will be offered:" << m_path
+            << file.errorString();
+}
+
 void RecoveryWriter::end()
 {
     if (m_lock && !m_entry.hasDocument)
-        QFile::remove(m_path);
+        removeFile();
     m_lock.reset();
 }
 

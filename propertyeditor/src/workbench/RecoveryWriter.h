@@ -77,6 +77,7 @@ private:
     Error keep(const State &state);
     Error save(RecoveryEntry entry, const QByteArray &document);
     Error makePlace();
+    void removeFile() const;
     void end();
     void tell(const Error &error);
     void askChecksum();

@@ -83,6 +83,7 @@ private Q_SLOTS:
     void openingKeepsWhatIsThere();
     void windowsOfWhatCannotBeOpenedClose();
     void filesThatCannotBeOpenedAreToldBehindTheOthers();
+    void chosenFilesThatCannotBeReadAreTold();
     void filesAreDropped();
     void otherDropsAreRefused();
     void projectsAreWrittenAndShown();
@@ -217,6 +218,22 @@ void EditorWindowTest::filesThatCannotBeOpenedAreToldBehindTheOthers()
     QVERIFY2(told.contains(u"Line 1"_s), qPrintable(told));
     QCOMPARE(openWindows().size(), 1);
     QVERIFY(m_window->windowTitle().contains(u"intact_mass_check.wflw"_s));
+}
+
+void EditorWindowTest::chosenFilesThatCannotBeReadAreTold()
+{
+    open();
+    const QTemporaryDir folder;
+    QFile broken(folder.filePath(u"broken.wflw"_s));
+    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("{") > 0);
+    broken.close();
+    const LogCapture log;
+    ScriptedAnswerer answers;
+    answers.expectPath(u"Launch Workflow"_s, broken.fileName());
+    answers.expectBox(u"Open"_s, u"OK"_s);
+    command(*m_window, u"&Open..."_s)->trigger();
+    QVERIFY(answers.isDone());
+    QVERIFY(answers.transcript().last().text.contains(broken.fileName()));
 }
 
 void EditorWindowTest::filesAreDropped()
