@@ -1,7 +1,7 @@
 #pragma once
 
 #include <orv/propertyeditor/window/PropertyEditorDesktopWindow.h>
-#include <orv/propertyeditor/workbench/RecoveryEntry.h>
+#include <orv/propertyeditor/workbench/RecoveryStore.h>
 
 QT_FORWARD_DECLARE_CLASS(QDockWidget)
 QT_FORWARD_DECLARE_CLASS(QMenu)
@@ -9,9 +9,7 @@ QT_FORWARD_DECLARE_CLASS(QMenu)
 namespace orv {
 
 class JournalKeeper;
-class RecoveryJournal;
 class RecoveryPanel;
-class RecoveryStore;
 class Workbench;
 
 /// One workflow of the application: the document window with menus, recent files, drops, and the recovery of
@@ -54,8 +52,8 @@ private:
     void run(const PropertyEditor::Content &content, const Path &outputPath, DuplicateFilePolicy policy);
     void showAbout();
     void recover(const RecoveryEntry &entry, RecoveryFileState state);
-    [[nodiscard]] bool showRecovered(const QJsonObject &document, const QString &path,
-                                     std::unique_ptr<RecoveryJournal> journal);
+    [[nodiscard]] bool showRecovered(RecoveryStore::Taken &taken, const RecoveryEntry &entry,
+                                     const QString &path);
     void restoreLayout();
     [[nodiscard]] bool isPristine() const;
     [[nodiscard]] EditorWindow *anotherWindow() const;

@@ -38,8 +38,10 @@ void EditorWindow::buildRecovery(Workbench *workbench)
 {
     if (!m_store)
         return;
-    m_keeper = new JournalKeeper(
-        this, m_store, {[this] { return content(); }, [this] { return dFunc()->getLastSavedWorkflow(); }});
+    m_keeper =
+        new JournalKeeper(this, m_store,
+                          {[this] { return content(); }, [this] { return dFunc()->getLastSavedWorkflow(); },
+                           [this] { return dFunc()->lost(); }});
     m_recovery = new RecoveryPanel(m_store);
     m_recoveryPanel = workbench->addPanel(m_recovery, QStringLiteral("recovery"), tr("Unsaved Workflows"),
                                           Qt::BottomDockWidgetArea);
@@ -70,8 +72,7 @@ void EditorWindow::recover(const RecoveryEntry &entry, RecoveryFileState state)
     if (entry.hasDocument) {
         const QPointer<EditorWindow> window = isPristine() ? this : anotherWindow();
         window->show();
-        const bool isShown =
-            window->showRecovered(taken->document, pathOfRecovered(entry, state), std::move(taken->journal));
+        const bool isShown = window->showRecovered(*taken, entry, pathOfRecovered(entry, state));
         if (!isShown && window && window != self && window->isPristine())
             window->close();
     } else {
@@ -84,15 +85,14 @@ void EditorWindow::recover(const RecoveryEntry &entry, RecoveryFileState state)
 }
 
 /// What isn't shown stays in the journal.
-bool EditorWindow::showRecovered(const QJsonObject &document, const QString &path,
-                                 std::unique_ptr<RecoveryJournal> journal)
+bool EditorWindow::showRecovered(RecoveryStore::Taken &taken, const RecoveryEntry &entry, const QString &path)
 {
     const QPointer<EditorWindow> self(this);
-    PropertyEditorContent content(document);
+    PropertyEditorContent content(taken.document);
     if (openWorkflow(&content, std::nullopt, path) != OpenStatus::Opened || !self)
         return false;
-    dFunc()->countAsUnsaved();
-    m_keeper->adopt(std::move(journal));
+    dFunc()->countAsUnsaved(entry.lost);
+    m_keeper->adopt(std::move(taken.journal));
     statusBar()->showMessage(tr("The workflow was recovered. Save it to keep it."));
     return true;
 }

@@ -267,9 +267,11 @@ void PropertyEditorWindowPrivate::updateLastSavedWorkflow()
     m_lastSavedWorkflow = q->content().toJsonObject();
 }
 
-void PropertyEditorWindowPrivate::countAsUnsaved()
+void PropertyEditorWindowPrivate::countAsUnsaved(const QStringList &lost)
 {
     m_lastSavedWorkflow = PropertyEditorContent().toJsonObject();
+    m_lost += lost;
+    m_lost.removeDuplicates();
 }
 
 bool PropertyEditorWindowPrivate::verifyWidgetsContent(QStringList *warnings, QStringList *errors,

@@ -93,7 +93,7 @@ void JournalKeeper::flush()
         begin();
     m_timer.stop();
     m_hasEdit = false;
-    m_journal->write(m_source.state());
+    m_journal->write(m_source.state(), m_source.lost ? m_source.lost() : QStringList());
 }
 
 bool JournalKeeper::eventFilter(QObject *watched, QEvent *event)

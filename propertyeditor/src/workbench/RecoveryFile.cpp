@@ -47,7 +47,19 @@ RecoveryEntry entryFrom(const QJsonObject &header, const QString &path)
     entry.name = header[QLatin1String("name")].toString();
     entry.edited = QDateTime::fromString(header[QLatin1String("edited")].toString(), Qt::ISODateWithMs);
     entry.changes = changesFrom(header);
+    const QJsonArray lost = header[QLatin1String("lost")].toArray();
+    for (const auto &text : lost)
+        entry.lost.append(text.toString());
     return entry;
+}
+
+/// So that the line stays one that is read.
+QStringList shortenedLosses(QStringList texts)
+{
+    constexpr qsizetype kLongestLoss = 500;
+    for (QString &text : texts)
+        text.truncate(kLongestLoss);
+    return texts;
 }
 
 Header faultyHeader(Fault fault)
@@ -81,6 +93,7 @@ QByteArray toBytes(const RecoveryEntry &entry, const QByteArray &document)
         {QLatin1String("edited"), entry.edited.toUTC().toString(Qt::ISODateWithMs)},
         {QLatin1String("changeCount"), entry.changes.count},
         {QLatin1String("changes"), toJson(entry.changes.told)},
+        {QLatin1String("lost"), QJsonArray::fromStringList(shortenedLosses(entry.lost))},
         {QLatin1String("documentBytes"), document.size()},
         {QLatin1String("documentChecksum"),
          document.isEmpty() ? QString() : QString::fromLatin1(checksumOf(document))},

@@ -24,9 +24,9 @@ void RecoveryJournal::begin(const QString &file, const QJsonObject &base)
     m_writer->begin(file, base);
 }
 
-void RecoveryJournal::write(const PropertyEditorContent &state)
+void RecoveryJournal::write(const PropertyEditorContent &state, const QStringList &lost)
 {
-    m_writer->write(state);
+    m_writer->write(state, lost);
 }
 
 void RecoveryJournal::goOn(const QJsonObject &base)

@@ -81,10 +81,10 @@ void RecoveryWriter::goOn(const QJsonObject &base)
     order([&](Orders &orders) { orders.newBase = base; });
 }
 
-void RecoveryWriter::write(const PropertyEditorContent &state)
+void RecoveryWriter::write(const PropertyEditorContent &state, const QStringList &lost)
 {
     const QDateTime now = QDateTime::currentDateTimeUtc();
-    order([&](Orders &orders) { orders.state.emplace(State{state, now}); });
+    order([&](Orders &orders) { orders.state.emplace(State{state, lost, now}); });
 }
 
 void RecoveryWriter::finish()
@@ -147,6 +147,7 @@ Error RecoveryWriter::keep(const State &state)
     entry.changes = m_earlier;
     entry.changes.append(changesBetween(m_base, document));
     entry.edited = state.time;
+    entry.lost = state.lost.mid(0, RecoveryChanges::kMostTold);
     entry.name = WflwMetaData::nameFromMetaDataObject(state.content.metadata());
     entry.hasDocument = entry.changes.count > 0;
     if (!entry.hasDocument && !m_entry.hasDocument)

@@ -37,7 +37,7 @@ public:
     // Orders; a later one of a kind replaces an earlier one that waits.
     void begin(const QString &file, const QJsonObject &base);
     void goOn(const QJsonObject &base);
-    void write(const PropertyEditorContent &state);
+    void write(const PropertyEditorContent &state, const QStringList &lost);
     void finish();
 
 private:
@@ -57,6 +57,7 @@ private:
     struct State
     {
         PropertyEditorContent content;
+        QStringList lost;
         QDateTime time;
     };
 

@@ -111,6 +111,7 @@ private Q_SLOTS:
     void windowsMayGoWhileTheyAreAsked_data();
     void windowsMayGoWhileTheyAreAsked();
     void everyWindowHasItsOwn();
+    void whatTheLoadDroppedIsStillAskedAbout();
 
 private:
     void start();
@@ -460,6 +461,31 @@ void EditorRecoveryTest::everyWindowHasItsOwn()
         names.insert(tab);
     }
     QCOMPARE(names, QSet<QString>({u"a"_s, u"b"_s}));
+}
+
+void EditorRecoveryTest::whatTheLoadDroppedIsStillAskedAbout()
+{
+    start();
+    m_bytes.insert(m_bytes.indexOf('{') + 1, R"("ofAnotherApplication": 1,)");
+    QFile file(m_file);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(m_bytes) == m_bytes.size());
+    file.close();
+    const LogCapture log;
+    EditorWindow *window = openWindow();
+    window->openFiles({m_file});
+    renameFirstTab(*window, u"Renamed"_s);
+    closeUnsaved(window);
+    m_store = std::make_shared<RecoveryStore>(journals());
+    window = openWindow();
+    window->offerRecovery();
+    recover(window);
+    QCOMPARE(firstTab(*window), u"Renamed"_s);
+    ScriptedAnswerer answers;
+    answers.expectPath(u"Save Workflow"_s, m_folder->filePath(u"b.wflw"_s));
+    answers.expectBox(u"Save Workflow"_s, u"Cancel"_s);
+    QVERIFY(!window->saveWorkflowAs());
+    QVERIFY(answers.isDone());
+    QVERIFY(answers.transcript().last().details.contains(u"ofAnotherApplication"_s));
 }
 
 WIDGET_REGISTER_TEST(EditorRecoveryTest)

@@ -95,8 +95,11 @@ public:
     [[nodiscard]] QString proposedName() const;
     void setExtendedMetadataInfo(const ExtendedMetadataInfo &info) { m_extendedMetadataInfo = info; }
     void updateLastSavedWorkflow();
-    /// The workflow on the screen isn't what any file holds: closing asks whether to save it.
-    void countAsUnsaved();
+    /// The workflow on the screen isn't what any file holds: closing asks whether to save it. It lacks \a lost
+    /// of the file that it was made from.
+    void countAsUnsaved(const QStringList &lost);
+    /// What the workflow on the screen lacks of the one that was loaded.
+    [[nodiscard]] QStringList lost() const { return m_lost; }
     [[nodiscard]] QJsonObject getLastSavedWorkflow() const { return m_lastSavedWorkflow; }
 
     // Checks and hand-over.

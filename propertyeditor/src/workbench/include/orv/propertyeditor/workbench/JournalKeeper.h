@@ -5,6 +5,7 @@
 
 #include <QJsonObject>
 #include <QObject>
+#include <QStringList>
 #include <QTimer>
 
 #include <functional>
@@ -24,11 +25,12 @@ class ORV_PROPERTY_EDITOR_EXPORT JournalKeeper : public QObject
     Q_OBJECT
 
 public:
-    /// How the document is read. Both are called on the GUI thread while the window lives.
+    /// How the document is read. They are called on the GUI thread while the window lives.
     struct Source
     {
         std::function<PropertyEditorContent()> state; ///< as it is now; behind an edit, see setInterval()
         std::function<QJsonObject()> saved;           ///< as it was opened or saved last
+        std::function<QStringList()> lost = {};       ///< what it lacks of its file; may be null
     };
 
     /// A child of \a window. \a store is kept alive.

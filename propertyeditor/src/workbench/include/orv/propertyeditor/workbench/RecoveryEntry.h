@@ -7,6 +7,7 @@
 #include <QList>
 #include <QMetaType>
 #include <QString>
+#include <QStringList>
 
 namespace orv {
 
@@ -42,6 +43,7 @@ struct RecoveryEntry
     QDateTime edited;         ///< when the last change was kept, in UTC
     bool hasDocument = false; ///< else the workflow was open without unsaved changes, and can be opened again
     RecoveryChanges changes;
+    QStringList lost; ///< what the document lacks of its file, as far as that is kept
 };
 
 /// What became of a file since an entry was made.

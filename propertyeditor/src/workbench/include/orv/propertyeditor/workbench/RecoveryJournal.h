@@ -7,6 +7,7 @@
 #include <QJsonObject>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -37,8 +38,9 @@ public:
     /// The document that was opened from \a file, or never saved, looks like \a base. What was kept before is
     /// deleted: a document that was saved begins anew. The file's checksum is read in the background.
     void begin(const QString &file, const QJsonObject &base);
-    /// Keeps \a state in place of an earlier one. One that equals the base isn't kept.
-    void write(const PropertyEditorContent &state);
+    /// Keeps \a state in place of an earlier one, with what it lacks of its file. One that equals the base
+    /// isn't kept.
+    void write(const PropertyEditorContent &state, const QStringList &lost = {});
     /// What is written from now on is compared with \a base, and its changes come behind those that are kept
     /// already. For documents that were recovered.
     void goOn(const QJsonObject &base);
