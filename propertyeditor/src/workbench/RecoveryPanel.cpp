@@ -58,7 +58,7 @@ RecoveryPanel::RecoveryPanel(std::shared_ptr<RecoveryStore> store, QWidget *pare
     build();
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &RecoveryPanel::showCurrent);
-    connect(m_view, &QTreeView::activated, this, &RecoveryPanel::recoverCurrent);
+    connect(m_view, &QTreeView::activated, this, &RecoveryPanel::recoverSelected);
     showCurrent();
 }
 
@@ -114,7 +114,7 @@ QWidget *RecoveryPanel::makeButtons()
     later->setToolTip(tr("Closes this panel. The View menu opens it again."));
     m_discard = new QPushButton(tr("&Discard..."));
     m_discard->setToolTip(tr("Deletes what was kept of the chosen workflows."));
-    connect(m_recover, &QPushButton::clicked, this, &RecoveryPanel::recoverCurrent);
+    connect(m_recover, &QPushButton::clicked, this, &RecoveryPanel::recoverSelected);
     connect(later, &QPushButton::clicked, this, &RecoveryPanel::keptForLater);
     connect(m_discard, &QPushButton::clicked, this, &RecoveryPanel::discardSelected);
     auto *row = new QWidget;
@@ -129,6 +129,7 @@ QWidget *RecoveryPanel::makeButtons()
 bool RecoveryPanel::refresh()
 {
     m_states.clear();
+    m_asked.clear();
     m_model->setEntries(m_store->entries());
     const bool hasEntries = m_model->rowCount() > 0;
     QString title = hasEntries ? tr("These workflows were not saved when their windows closed or the program "
@@ -165,8 +166,9 @@ std::optional<RecoveryEntry> RecoveryPanel::current() const
 void RecoveryPanel::showCurrent()
 {
     const std::optional<RecoveryEntry> entry = current();
-    m_recover->setEnabled(entry.has_value());
+    m_recover->setEnabled(!selected().isEmpty());
     m_discard->setEnabled(!selected().isEmpty());
+    askFiles();
     m_changes->setChanges(entry ? entry->changes.told : QList<RecoveryChange>());
     m_count->clear();
     m_remark->clear();
@@ -180,8 +182,6 @@ void RecoveryPanel::showCurrent()
     else
         m_count->setText(told == 1 ? tr("1 change") : tr("%1 changes").arg(locale.toString(told)));
     m_remark->setText(remarkOn(*entry));
-    if (!m_states.contains(entry->journal))
-        askFile(*entry);
 }
 
 QString RecoveryPanel::remarkOn(const RecoveryEntry &entry) const
@@ -206,6 +206,17 @@ QString RecoveryPanel::remarkOn(const RecoveryEntry &entry) const
     return tr("Whether its file was changed since can't be told. It is recovered as a new workflow.");
 }
 
+/// Of those that would be recovered.
+void RecoveryPanel::askFiles()
+{
+    for (const RecoveryEntry &entry : selected()) {
+        if (m_asked.contains(entry.journal))
+            continue;
+        m_asked.insert(entry.journal);
+        askFile(entry);
+    }
+}
+
 /// On a thread of its own, as the disk may never answer.
 void RecoveryPanel::askFile(const RecoveryEntry &entry)
 {
@@ -228,10 +239,14 @@ void RecoveryPanel::askFile(const RecoveryEntry &entry)
     }).detach();
 }
 
-void RecoveryPanel::recoverCurrent()
+void RecoveryPanel::recoverSelected()
 {
-    if (const std::optional<RecoveryEntry> entry = current())
-        Q_EMIT recoverRequested(*entry, m_states.value(entry->journal, RecoveryFileState::Unknown));
+    const QPointer<RecoveryPanel> self(this);
+    const QHash<QString, RecoveryFileState> states = m_states;
+    for (const RecoveryEntry &entry : selected()) {
+        if (self)
+            Q_EMIT recoverRequested(entry, states.value(entry.journal, RecoveryFileState::Unknown));
+    }
 }
 
 void RecoveryPanel::discardSelected()

@@ -6,13 +6,16 @@
 #include "WidgetTest.h"
 
 #include <orv/propertyeditor/window/WorkflowIcons.h>
+#include <orv/propertyeditor/workbench/RecoveryStore.h>
 #include <orv/propertyeditor/workflow/WorkflowType.h>
 #include <orv/widgets/CoreMainWindow.h>
 
 #include <QDir>
 #include <QImage>
 #include <QMenuBar>
+#include <QProcess>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTranslator>
 #include <QXmlStreamReader>
 
@@ -29,6 +32,8 @@ private Q_SLOTS:
     void filesAreOpened();
     void helpAndVersionAreTold();
     void wrongArgumentsAreTold();
+    void theProgramAnswersInATerminal();
+    void killedProgramsAreRecovered();
     void windowsSpeakGerman();
     void germanMnemonicsDiffer();
     void translationsKeepTheirPlaces();
@@ -127,6 +132,51 @@ QStringList placesIn(const QString &text)
 }
 
 } // namespace
+
+void EditorApplicationTest::theProgramAnswersInATerminal()
+{
+    // A platform that doesn't exist ends every program that needs a screen.
+    QProcess program;
+    program.setProgram(QString::fromUtf8(ORV_EDITOR_PROGRAM));
+    program.setProcessEnvironment([] {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"none-such"_s);
+        return environment;
+    }());
+    program.setArguments({u"--version"_s});
+    program.start();
+    QVERIFY(program.waitForFinished());
+    QCOMPARE(program.exitCode(), 0);
+    QVERIFY(program.readAllStandardOutput().startsWith("orv-workflow-editor "));
+    program.setProcessEnvironment(QProcessEnvironment::systemEnvironment());
+    program.setArguments({u"--nonsense"_s});
+    program.start();
+    QVERIFY(program.waitForFinished());
+    QCOMPARE(program.exitCode(), 2);
+    QVERIFY(program.readAllStandardError().contains("nonsense"));
+}
+
+void EditorApplicationTest::killedProgramsAreRecovered()
+{
+    const QTemporaryDir data;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"XDG_DATA_HOME"_s, data.path());
+    environment.insert(u"XDG_CONFIG_HOME"_s, data.path());
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    const QString file = TestData::examplePath(u"workflows/de_novo_antibody.wflw"_s);
+    program.start(QString::fromUtf8(ORV_EDITOR_PROGRAM), {file});
+    QVERIFY(program.waitForStarted());
+    const QDir journals(data.filePath(u"ORV/orv-workflow-editor/journals"_s));
+    QTRY_COMPARE_WITH_TIMEOUT(QDir(journals.path()).entryList({u"*.journal"_s}).size(), 1, 60000);
+    QVERIFY(RecoveryStore(journals.path()).entries().isEmpty());
+    program.kill();
+    QVERIFY(program.waitForFinished());
+    const QList<RecoveryEntry> entries = RecoveryStore(journals.path()).entries();
+    QCOMPARE(entries.size(), 1);
+    QCOMPARE(entries.first().file, file);
+    QVERIFY(!entries.first().hasDocument);
+}
 
 void EditorApplicationTest::windowsSpeakGerman()
 {

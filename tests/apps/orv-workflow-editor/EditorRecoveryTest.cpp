@@ -112,6 +112,7 @@ private Q_SLOTS:
     void windowsMayGoWhileTheyAreAsked();
     void everyWindowHasItsOwn();
     void whatTheLoadDroppedIsStillAskedAbout();
+    void severalAreRecoveredAtOnce();
 
 private:
     void start();
@@ -486,6 +487,31 @@ void EditorRecoveryTest::whatTheLoadDroppedIsStillAskedAbout()
     QVERIFY(!window->saveWorkflowAs());
     QVERIFY(answers.isDone());
     QVERIFY(answers.transcript().last().details.contains(u"ofAnotherApplication"_s));
+}
+
+void EditorRecoveryTest::severalAreRecoveredAtOnce()
+{
+    start();
+    const QString other = m_folder->filePath(u"b.wflw"_s);
+    QVERIFY(QFile::copy(m_file, other));
+    for (const QString &path : {m_file, other}) {
+        EditorWindow *window = openWindow();
+        window->openFiles({path});
+        renameFirstTab(*window, u"Renamed"_s);
+        closeUnsaved(window);
+    }
+    m_store = std::make_shared<RecoveryStore>(journals());
+    EditorWindow *window = openWindow();
+    window->offerRecovery();
+    QTreeView *entries = list(*window, u"Unsaved workflows"_s);
+    QCOMPARE(entries->model()->rowCount(), 2);
+    QTRY_VERIFY(!panelText(*window).contains(u"Looking whether"_s));
+    QTest::keyClick(entries, Qt::Key_Down, Qt::ShiftModifier);
+    QTest::mouseClick(panelButton(*window, u"&Recover"_s), Qt::LeftButton);
+    QCOMPARE(shownWindows().size(), 2);
+    for (const EditorWindow *shown : shownWindows())
+        QCOMPARE(firstTab(*shown), u"Renamed"_s);
+    QVERIFY(!window->findChild<QDockWidget *>(u"recovery"_s)->isVisible());
 }
 
 WIDGET_REGISTER_TEST(EditorRecoveryTest)

@@ -4,6 +4,7 @@
 #include <orv/widgets/Export.h>
 
 #include <QHash>
+#include <QSet>
 #include <QWidget>
 
 #include <memory>
@@ -38,7 +39,7 @@ public:
     void tell(const Error &error);
 
 Q_SIGNALS:
-    /// The one that is chosen shall be opened; as a new workflow unless \a state tells that its file is the
+    /// One that is chosen shall be opened; as a new workflow unless \a state tells that its file is the
     /// one that it was opened from.
     void recoverRequested(const orv::RecoveryEntry &entry, orv::RecoveryFileState state);
     /// Nothing shall happen now.
@@ -52,8 +53,9 @@ private:
     QWidget *makeChanges();
     QWidget *makeButtons();
     void showCurrent();
+    void askFiles();
     void askFile(const RecoveryEntry &entry);
-    void recoverCurrent();
+    void recoverSelected();
     void discardSelected();
     void discard(const QList<RecoveryEntry> &entries);
     [[nodiscard]] QList<RecoveryEntry> selected() const;
@@ -71,6 +73,7 @@ private:
     QPushButton *m_recover = nullptr;
     QPushButton *m_discard = nullptr;
     QHash<QString, RecoveryFileState> m_states; ///< by journal, as far as they are known
+    QSet<QString> m_asked;                      ///< the journals about whose files somebody asks or asked
 };
 
 } // namespace orv
