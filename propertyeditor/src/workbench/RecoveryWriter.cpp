@@ -16,12 +16,15 @@
 #include <QLocale>
 #include <QThreadPool>
 
+#include <chrono>
 #include <thread>
 #include <utility>
 
 namespace orv {
 
 namespace {
+
+constexpr std::chrono::milliseconds kPatience(500);
 
 struct RecoveryWriterTr
 {
@@ -225,17 +228,22 @@ void RecoveryWriter::tell(const Error &error)
 void RecoveryWriter::askChecksum()
 {
     m_checksum = std::make_shared<Checksum>();
+    m_waitsForChecksum = true;
     std::thread([checksum = m_checksum, file = m_entry.file] {
         const QByteArray value = RecoveryFile::checksumOfFile(file);
         const std::lock_guard guard(checksum->mutex);
         checksum->value = value;
+        checksum->isThere.notify_all();
     }).detach();
 }
 
-QByteArray RecoveryWriter::knownChecksum() const
+/// Waits once, as most disks answer soon.
+QByteArray RecoveryWriter::knownChecksum()
 {
-    const std::lock_guard guard(m_checksum->mutex);
-    return m_checksum->value;
+    std::unique_lock guard(m_checksum->mutex);
+    if (std::exchange(m_waitsForChecksum, false))
+        m_checksum->isThere.wait_for(guard, kPatience, [this] { return m_checksum->value.has_value(); });
+    return m_checksum->value.value_or(QByteArray());
 }
 
 } // namespace orv

@@ -7,6 +7,7 @@
 #include <QJsonObject>
 #include <QLockFile>
 
+#include <condition_variable>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -45,7 +46,8 @@ private:
     struct Checksum
     {
         std::mutex mutex;
-        QByteArray value;
+        std::condition_variable isThere;
+        std::optional<QByteArray> value;
     };
 
     struct Beginning
@@ -82,7 +84,7 @@ private:
     void end();
     void tell(const Error &error);
     void askChecksum();
-    [[nodiscard]] QByteArray knownChecksum() const;
+    [[nodiscard]] QByteArray knownChecksum();
 
     const QString m_path;
     QThreadPool *const m_pool;
@@ -96,6 +98,7 @@ private:
     // Of the pool's thread alone.
     std::unique_ptr<QLockFile> m_lock;
     std::shared_ptr<Checksum> m_checksum;
+    bool m_waitsForChecksum = false;
     RecoveryEntry m_entry; ///< as it is on the disk
     QJsonObject m_base;
     RecoveryChanges m_earlier; ///< those before the base
