@@ -1,5 +1,6 @@
 #include "EditorWindow.h"
 
+#include <orv/propertyeditor/workbench/DocumentHistory.h>
 #include <orv/propertyeditor/workbench/JournalKeeper.h>
 #include <orv/propertyeditor/workbench/RecoveryJournal.h>
 #include <orv/propertyeditor/workbench/RecoveryPanel.h>
@@ -42,6 +43,7 @@ void EditorWindow::buildRecovery(Workbench *workbench)
         new JournalKeeper(this, m_store,
                           {[this] { return content(); }, [this] { return dFunc()->getLastSavedWorkflow(); },
                            [this] { return dFunc()->lost(); }});
+    connect(workbench->history(), &DocumentHistory::changed, m_keeper, &JournalKeeper::noteEdit);
     m_recovery = new RecoveryPanel(m_store);
     m_recoveryPanel = workbench->addPanel(m_recovery, QStringLiteral("recovery"), tr("Unsaved Workflows"),
                                           Qt::BottomDockWidgetArea);
@@ -56,8 +58,10 @@ void EditorWindow::buildRecovery(Workbench *workbench)
 
 void EditorWindow::offerRecovery()
 {
-    if (m_recovery && m_recovery->refresh())
-        m_recoveryPanel->show();
+    if (!m_recovery || !m_recovery->refresh())
+        return;
+    m_recoveryPanel->show();
+    m_recoveryPanel->raise();
 }
 
 void EditorWindow::recover(const RecoveryEntry &entry, RecoveryFileState state)
@@ -93,6 +97,7 @@ bool EditorWindow::showRecovered(RecoveryStore::Taken &taken, const RecoveryEntr
         return false;
     dFunc()->countAsUnsaved(entry.lost);
     m_keeper->adopt(std::move(taken.journal));
+    setWindowModified(true);
     statusBar()->showMessage(tr("The workflow was recovered. Save it to keep it."));
     return true;
 }

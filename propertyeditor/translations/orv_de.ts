@@ -689,6 +689,76 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>StepText</name>
+    <message>
+        <source>(empty)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 to %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings of &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 added</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; added</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; renamed to &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; moved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tab &quot;%1&quot; added</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tab &quot;%1&quot; removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tab &quot;%1&quot; renamed to &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tab &quot;%1&quot; moved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Workflow properties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; edited</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TableChecks</name>
     <message>
         <source>Must not repeat; row %1 holds the same.</source>
@@ -1551,6 +1621,310 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
     <message>
         <source>Cells: %1</source>
         <translation>Zellen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>orv::FindHits</name>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The caption of the setting. A sign stands at those that were changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>The value with its unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The default, where the value is another one. A click sets the setting back to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was saved, where the value is another one now. A click sets the setting back to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Wo</translation>
+    </message>
+    <message>
+        <source>Tab and column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Found in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Why the setting is in this list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Explanation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed from the default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed since the last save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Has a finding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differs from the second document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set back to the default: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set back to what was saved: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, changed since the last save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, changed from the default</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>orv::FindPanel</name>
+    <message>
+        <source>Changed from the &amp;default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed since the last &amp;save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Has a fi&amp;nding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differs &amp;from the second document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Caption, name, explanation or value of a setting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Words that stand in a setting&apos;s caption, name, explanation or value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings that were found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set Back to the &amp;Default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set Back to What Was &amp;Saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the workflow first: then settings with a finding are known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a second document to compare with first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no settings here. Open a workflow, or add a tab with a column of settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type a word that stands in a setting&apos;s caption, name, explanation or value, or choose a filter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No setting passes this filter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No setting has all of these words and passes the filter. Type fewer letters, or take the filter away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No setting has all of these words. Type fewer letters or another word.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 setting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>orv::FindSettings</name>
+    <message>
+        <source>Find Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Find Settings...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search the settings of all tabs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the workflow first: then settings with a finding are known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a second document to compare with first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>orv::FindingCheck</name>
+    <message>
+        <source>The workflow can&apos;t be checked: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>orv::FindingMarks</name>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>orv::Findings</name>
+    <message>
+        <source>Findings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Check Workflow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next Finding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Finding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look for errors in the workflow, as is done before it is run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The workflow wasn&apos;t checked yet. Press %1 to check it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. Checking again...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checking...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The check found nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>orv::FindingsModel</name>
+    <message>
+        <source>Severity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Wo</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+</context>
+<context>
+    <name>orv::FindingsPanel</name>
+    <message>
+        <source>Findings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
     </message>
 </context>
 <context>
@@ -3910,6 +4284,30 @@ Fügen Sie Zellen einer Tabellenkalkulation ein (Strg+V), ziehen oder importiere
     <message>
         <source>&amp;View</source>
         <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was edited yet.</source>
+        <translation>Noch wurde nichts bearbeitet.</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was undone.</source>
+        <translation>Es wurde nichts rückgängig gemacht.</translation>
     </message>
 </context>
 <context>

@@ -187,7 +187,7 @@ void EditorApplicationTest::windowsSpeakGerman()
     for (const QAction *menu : window.menuBar()->actions())
         menus.append(menu->text());
     QCOMPARE(menus, QStringList({u"&Datei"_s, u"&Bearbeiten"_s, u"&Ansicht"_s, u"&Hilfe"_s}));
-    QCOMPARE(window.windowTitle(), u"Projekt anlegen"_s);
+    QVERIFY(window.windowTitle().startsWith(u"Projekt anlegen"_s));
     QVERIFY(readEditorArguments({u"editor"_s, u"--help"_s}).answer->text.contains(u"Workflows, die"_s));
 }
 

@@ -113,6 +113,7 @@ private Q_SLOTS:
     void everyWindowHasItsOwn();
     void whatTheLoadDroppedIsStillAskedAbout();
     void severalAreRecoveredAtOnce();
+    void undoneEditsAreNotOffered();
 
 private:
     void start();
@@ -512,6 +513,25 @@ void EditorRecoveryTest::severalAreRecoveredAtOnce()
     for (const EditorWindow *shown : shownWindows())
         QCOMPARE(firstTab(*shown), u"Renamed"_s);
     QVERIFY(!window->findChild<QDockWidget *>(u"recovery"_s)->isVisible());
+}
+
+void EditorRecoveryTest::undoneEditsAreNotOffered()
+{
+    start();
+    EditorWindow *window = openWindow();
+    window->openFiles({m_file});
+    window->findChild<JournalKeeper *>()->setInterval(10);
+    renameFirstTab(*window, u"Renamed"_s);
+    const auto size = [this] { return QFileInfo(journals() + u'/' + journalFiles().value(0)).size(); };
+    QTRY_VERIFY(size() > m_bytes.size() / 4);
+    QTest::keyClick(window, Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(firstTab(*window) != u"Renamed"_s);
+    const ScriptedAnswerer answers;
+    window->close();
+    QVERIFY(answers.isDone());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    m_store.reset();
+    QCOMPARE(journalFiles(), QStringList());
 }
 
 WIDGET_REGISTER_TEST(EditorRecoveryTest)

@@ -45,6 +45,9 @@ public:
     /// closed call it in their destructor.
     void flush();
 
+    /// For changes that neither the tabs nor the window tell of, such as undoing.
+    void noteEdit();
+
     /// Goes on with \a journal, from which the document in the window was recovered.
     void adopt(std::unique_ptr<RecoveryJournal> journal);
 
@@ -54,7 +57,6 @@ protected:
 private:
     void begin();
     void beginSaved();
-    void noteEdit();
     void useJournal(std::unique_ptr<RecoveryJournal> journal);
     void tell(const Error &error);
 
