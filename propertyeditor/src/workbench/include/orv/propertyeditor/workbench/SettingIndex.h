@@ -6,12 +6,12 @@
 #include <QByteArray>
 #include <QHash>
 #include <QList>
-#include <QSet>
 #include <QString>
 
 #include <array>
 #include <functional>
 #include <optional>
+#include <utility>
 
 namespace orv {
 

@@ -2,6 +2,7 @@
 
 #include <orv/widgets/Export.h>
 
+#include <QKeySequence>
 #include <QMap>
 #include <QObject>
 
