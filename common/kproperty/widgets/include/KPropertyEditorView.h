@@ -143,6 +143,7 @@ private:
     void expandItems();
     void expandChildren(const QModelIndex &index);
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    void letEditorSpeak(QWidget *editor);
     void editNext(QAbstractItemDelegate::EndEditHint hint);
     void drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const override;
     void drawRow(QPainter *painter, const QStyleOptionViewItem &option,

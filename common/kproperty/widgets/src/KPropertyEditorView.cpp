@@ -68,6 +68,7 @@ KPropertyEditorView::~KPropertyEditorView()
     if (d->set) {
         d->set->disconnect(this);
     }
+    d->delegate->outliveView();
 }
 
 QColor KPropertyEditorView::gridLineColor() const
@@ -165,12 +166,19 @@ void KPropertyEditorView::changeSet(KPropertySet *set, const QByteArray &propert
 void KPropertyEditorView::changeSetInternal(KPropertySet *set, SetOptions options,
                                             const QByteArray &propertyToSelect)
 {
+    // Who hears of what was typed may delete the view, and the set that is to come.
+    const QPointer<KPropertyEditorView> self(this);
+    const QPointer<KPropertySet> next(set);
     if (d->set) {
         acceptInput();
+    }
+    if (!self) {
+        return;
     }
     if (d->set) {
         d->set->disconnect(this);
     }
+    set = next;
     d->set = set;
     d->model->setSet(set, {options.testFlag(SetOption::AlphabeticalOrder), d->groupsVisible});
     if (set) {
@@ -269,14 +277,19 @@ void KPropertyEditorView::expandChildren(const QModelIndex &index)
 
 void KPropertyEditorView::acceptInput()
 {
-    QWidget *const editor = d->delegate->editor();
+    const QPointer<KPropertyEditorView> self(this);
+    const QPointer<QWidget> editor = d->delegate->editor();
     if (!editor || d->closing) {
         return;
     }
     d->closing = true;
     commitData(editor);
-    closeEditor(editor, QAbstractItemDelegate::NoHint);
-    d->closing = false;
+    if (self) {
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
+    if (self) {
+        d->closing = false;
+    }
 }
 
 void KPropertyEditorView::slotSetWillBeCleared()
@@ -291,17 +304,24 @@ void KPropertyEditorView::slotSetWillBeDeleted()
 
 void KPropertyEditorView::letGoOfSet()
 {
+    const QPointer<KPropertyEditorView> self(this);
     if (QWidget *const editor = d->delegate->editor()) {
         closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
+    }
+    if (!self) {
+        return;
     }
     changeSetInternal(nullptr, SetOption::None, QByteArray());
 }
 
 void KPropertyEditorView::slotReadOnlyFlagChanged()
 {
+    const QPointer<KPropertyEditorView> self(this);
     acceptInput();
-    d->model->refreshAll();
-    viewport()->update();
+    if (self) {
+        d->model->refreshAll();
+        viewport()->update();
+    }
 }
 
 void KPropertyEditorView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
@@ -347,11 +367,26 @@ void KPropertyEditorView::currentChanged(const QModelIndex &current, const QMode
 
 void KPropertyEditorView::commitData(QWidget *editor)
 {
-    if (editor && editor == d->delegate->editor() && d->property(d->delegate->editedIndex())) {
-        QTreeView::commitData(editor);
-        // The revert button comes and goes with the value.
-        updateEditorGeometries();
+    const QModelIndex cell = d->delegate->editedIndex();
+    if (!editor || editor != d->delegate->editor() || !d->property(cell) || d->committing) {
+        return;
     }
+    // As the base class does it, but that goes on in a view that somebody who heard of the change has
+    // deleted.
+    const QPointer<KPropertyEditorView> self(this);
+    const QPointer<QWidget> committed = editor;
+    d->committing = true;
+    editor->removeEventFilter(d->delegate);
+    d->delegate->setModelData(editor, d->model, cell);
+    if (!self) {
+        return;
+    }
+    d->committing = false;
+    if (committed) {
+        editor->installEventFilter(d->delegate);
+    }
+    // The revert button comes and goes with the value.
+    updateEditorGeometries();
 }
 
 void KPropertyEditorView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
@@ -361,24 +396,41 @@ void KPropertyEditorView::closeEditor(QWidget *editor, QAbstractItemDelegate::En
         return;
     }
     // Rows that were rebuilt meanwhile took the editor with them.
-    const bool isRow = d->delegate->editedIndex().isValid();
+    const QPersistentModelIndex row = d->delegate->editedIndex();
     const QPointer<QWidget> closed = editor;
     d->delegate->releaseEditor(hint == QAbstractItemDelegate::RevertModelCache
                                    ? ItemDelegate::LateInput::Refused
                                    : ItemDelegate::LateInput::Accepted);
-    if (!isRow) {
+    if (!row.isValid()) {
         return;
     }
-    const QWidget *const focus = QApplication::focusWidget();
-    const bool hadFocus = focus && (focus == editor || editor->isAncestorOf(focus));
-    QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
-    if (hadFocus) {
-        setFocus();
+    const QPointer<KPropertyEditorView> self(this);
+    letEditorSpeak(editor);
+    if (!self) {
+        return;
     }
-    // By now the editor has told what it had to tell.
+    if (closed && row.isValid()) {
+        QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
     endRemark(closed);
     if (hint == QAbstractItemDelegate::EditNextItem || hint == QAbstractItemDelegate::EditPreviousItem) {
         editNext(hint);
+    }
+}
+
+/// Some editors tell what was typed only when they lose the focus. The base class would take it from them
+/// while it closes them, and can't stand it that somebody who hears of a change deletes the view.
+void KPropertyEditorView::letEditorSpeak(QWidget *editor)
+{
+    const QPointer<KPropertyEditorView> self(this);
+    const QPointer<QWidget> speaking = editor;
+    const QWidget *const focus = QApplication::focusWidget();
+    editor->removeEventFilter(d->delegate);
+    if (focus && (focus == editor || editor->isAncestorOf(focus))) {
+        setFocus();
+    }
+    if (self && speaking) {
+        QCoreApplication::sendPostedEvents(editor, 0);
     }
 }
 
@@ -402,10 +454,11 @@ bool KPropertyEditorView::edit(const QModelIndex &index, EditTrigger trigger, QE
     if (trigger == QAbstractItemView::NoEditTriggers || !cell.isValid()) {
         return QTreeView::edit(index, trigger, event);
     }
+    const QPointer<KPropertyEditorView> self(this);
     if (d->delegate->editor() && d->delegate->editedIndex() != cell) {
         acceptInput();
     }
-    return cell.isValid() && QTreeView::edit(cell, trigger, event);
+    return self && cell.isValid() && QTreeView::edit(cell, trigger, event);
 }
 
 void KPropertyEditorView::undo()
@@ -414,21 +467,27 @@ void KPropertyEditorView::undo()
     if (!property || !property->isModified() || d->model->isReadOnly(*property)) {
         return;
     }
+    const QPointer<KPropertyEditorView> self(this);
     if (QWidget *const editor = d->delegate->editor()) {
         closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
+    }
+    if (!self) {
+        return;
     }
     // A child of a composed property has no set of its own: its parent tells of the change.
     if (property->parent() && property->parent()->composedProperty()) {
         property->setValue(property->oldValue());
         // Who hears of the change may have cleared the set.
-        if (d->model->indexForProperty(property, EditorDataModel::NameColumn).isValid()) {
+        if (self && d->model->indexForProperty(property, EditorDataModel::NameColumn).isValid()) {
             property->clearModifiedFlag();
         }
     } else {
         property->resetValue();
     }
-    d->model->refresh(property);
-    viewport()->update();
+    if (self) {
+        d->model->refresh(property);
+        viewport()->update();
+    }
 }
 
 void KPropertyEditorView::keyPressEvent(QKeyEvent *event)

@@ -124,15 +124,16 @@ void KPropertyEditorView::mousePressEvent(QMouseEvent *event)
     const QPoint position = event->position().toPoint();
     // The press commits an open editor, and who hears of that may rebuild the rows.
     const QPersistentModelIndex index = indexAt(position);
+    const QPointer<KPropertyEditorView> self(this);
+    acceptInput();
+    if (!self) {
+        return;
+    }
     if (event->button() != Qt::LeftButton || !index.isValid()) {
         QTreeView::mousePressEvent(event);
         return;
     }
     if (d->model->isGroup(index)) {
-        acceptInput();
-        if (!index.isValid()) {
-            return;
-        }
         const QModelIndex group = QModelIndex(index).siblingAtColumn(0);
         setExpanded(group, !isExpanded(group));
         return;
@@ -162,7 +163,11 @@ void KPropertyEditorView::mouseReleaseEvent(QMouseEvent *event)
     if (!clicked || index.column() != EditorDataModel::ValueColumn || d->delegate->editedIndex() == index) {
         return;
     }
+    const QPointer<KPropertyEditorView> self(this);
     edit(index, QAbstractItemView::AllEditTriggers, event);
+    if (!self) {
+        return;
+    }
     // One click on a check box switches it, as everywhere else.
     if (auto *const box = qobject_cast<KPropertyBoolEditor *>(d->delegate->editor())) {
         if (KPropertyBoolEditor::indicatorRect(box->rect(), box)

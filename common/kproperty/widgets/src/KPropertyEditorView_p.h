@@ -31,6 +31,7 @@ public:
     bool movingDivider = false;
     bool scrollsLater = false;
     bool closing = false;
+    bool committing = false;
 
     [[nodiscard]] KProperty *property(const QModelIndex &index) const { return model->property(index); }
 

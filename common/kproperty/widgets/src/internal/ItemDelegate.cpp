@@ -102,6 +102,27 @@ bool applyStringOptions(QWidget *widget, const KProperty &property, const QObjec
 
 } // namespace
 
+/// While a function that may tell others runs.
+class ItemDelegate::Running
+{
+public:
+    explicit Running(const ItemDelegate *delegate)
+        : m_delegate(delegate)
+    {
+        ++delegate->m_running;
+    }
+    ~Running()
+    {
+        if (m_delegate) {
+            --m_delegate->m_running;
+        }
+    }
+    Q_DISABLE_COPY_MOVE(Running)
+
+private:
+    QPointer<const ItemDelegate> m_delegate;
+};
+
 ItemDelegate::ItemDelegate(KPropertyEditorView *view, const EditorDataModel *model)
     : QStyledItemDelegate(view)
     , m_view(view)
@@ -175,6 +196,23 @@ void ItemDelegate::restoreValue()
     } else {
         property->resetValue();
     }
+}
+
+void ItemDelegate::outliveView()
+{
+    m_view = nullptr;
+    m_editor = nullptr;
+    const QHash<const QObject *, Edited> editors = std::exchange(m_edited, {});
+    if (m_running == 0) {
+        return;
+    }
+    for (auto each = editors.cbegin(); each != editors.cend(); ++each) {
+        auto *const editor = const_cast<QWidget *>(static_cast<const QWidget *>(each.key()));
+        editor->setParent(nullptr);
+        editor->deleteLater();
+    }
+    setParent(nullptr);
+    deleteLater();
 }
 
 void ItemDelegate::paintName(QPainter *painter, const QStyleOptionViewItem &option, const KProperty &property,
@@ -357,6 +395,7 @@ void ItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, cons
         return;
     }
     open->exchanged = value;
+    const Running running(this);
     model->setData(index, value, Qt::EditRole);
 }
 
@@ -402,6 +441,9 @@ bool ItemDelegate::filterKey(QWidget *editor, int key)
 {
     if (key == Qt::Key_Escape) {
         restoreValue();
+        if (!m_view) {
+            return true;
+        }
     }
     if (const std::optional<EndEditHint> hint = endHint(key); hint && !hasAcceptableInput(editor)) {
         // Qt would keep the line open, and with it those who use no mouse.
@@ -417,14 +459,39 @@ bool ItemDelegate::filterKey(QWidget *editor, int key)
     return false;
 }
 
+/// A press into the view takes the focus before the view sees it, in a function of the application that can't
+/// stand it that somebody who hears of a change deletes the view. So the view commits when the press arrives;
+/// what was pressed beside its rows gives no press.
+bool ItemDelegate::leavesToPress(QObject *object, const QEvent *event)
+{
+    if (event->type() != QEvent::FocusOut || !editorAround(object) ||
+        static_cast<const QFocusEvent *>(event)->reason() != Qt::MouseFocusReason ||
+        QApplication::focusWidget() != m_view) {
+        return false;
+    }
+    QMetaObject::invokeMethod(
+        this,
+        [this, left = m_editor] {
+            if (left && left == m_editor && m_view) {
+                m_view->acceptInput();
+            }
+        },
+        Qt::QueuedConnection);
+    return true;
+}
+
 bool ItemDelegate::eventFilter(QObject *object, QEvent *event)
 {
+    const Running running(this);
     if (filterMouse(object, event)) {
         return true;
     }
     // A dialog that the editor opens takes the focus. Closed, the editor would take along what it is parent
     // of.
     if (m_isAsking && event->type() == QEvent::FocusOut) {
+        return false;
+    }
+    if (leavesToPress(object, event)) {
         return false;
     }
     QObject *target = object;
@@ -447,6 +514,7 @@ bool ItemDelegate::eventFilter(QObject *object, QEvent *event)
 
 void ItemDelegate::editorChanged(QWidget *editor)
 {
+    const Running running(this);
     Edited *const edits = edited(editor);
     if (!edits) {
         return;
@@ -473,6 +541,7 @@ void ItemDelegate::takeLateInput(QWidget *editor, Edited *edited)
 
 void ItemDelegate::sendEditEvent(QWidget *asking)
 {
+    const Running running(this);
     const QPointer<QWidget> editor = asking;
     const Edited *const edits = edited(asking);
     KProperty *const property = edits ? m_model->property(edits->index) : nullptr;
@@ -485,7 +554,7 @@ void ItemDelegate::sendEditEvent(QWidget *asking)
     const QPointer<ItemDelegate> self(this);
     const bool wasAsking = std::exchange(m_isAsking, true);
     Q_EMIT m_view->handlePropertyEditorItemEvent(&event);
-    if (!self) {
+    if (!self || !m_view) {
         return;
     }
     m_isAsking = wasAsking;

@@ -41,6 +41,9 @@ public:
     /// Whether the row of \a editor had a remark when it opened, and no new one came since.
     [[nodiscard]] bool endsRemark(const QWidget *editor) const;
     void keepRemark(const KProperty &property);
+    /// What was told may have been heard by somebody who now deletes the view: the delegate and its editors,
+    /// whose functions still run, then live on until the event loop runs again.
+    void outliveView();
     /// Takes back what the open editor wrote since it was opened, or since a dialog last gave an answer.
     void restoreValue();
 
@@ -60,6 +63,7 @@ public Q_SLOTS:
     void editorChanged(QWidget *editor);
 
 private:
+    class Running;
     struct Edited
     {
         QPersistentModelIndex index;
@@ -78,6 +82,7 @@ private:
     [[nodiscard]] QWidget *editorAround(QObject *object) const;
     void watchMouse(QWidget *editor) const;
     [[nodiscard]] bool filterMouse(QObject *object, QEvent *event) const;
+    [[nodiscard]] bool leavesToPress(QObject *object, const QEvent *event);
     bool filterKey(QWidget *editor, int key);
     void takeLateInput(QWidget *editor, Edited *edited);
     void sendEditEvent(QWidget *asking);
@@ -89,9 +94,10 @@ private:
     void prepareEditor(QWidget *editor, const KProperty &property) const;
     [[nodiscard]] bool followsTyping(const KProperty &property) const;
 
-    KPropertyEditorView *const m_view;
-    const EditorDataModel *const m_model;
-    bool m_isAsking = false; ///< while a dialog of an editor runs
+    QPointer<KPropertyEditorView> m_view;
+    const EditorDataModel *const m_model; ///< goes with the view
+    bool m_isAsking = false;              ///< while a dialog of an editor runs
+    mutable int m_running = 0;            ///< functions that may tell others
     // Written by createEditor(), which Qt declares const.
     mutable QPointer<QWidget> m_editor;
     mutable QHash<const QObject *, Edited> m_edited;
