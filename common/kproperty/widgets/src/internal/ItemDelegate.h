@@ -63,7 +63,27 @@ public Q_SLOTS:
     void editorChanged(QWidget *editor);
 
 private:
-    class Running;
+    /// While a function that may tell others runs.
+    class Running
+    {
+    public:
+        explicit Running(const ItemDelegate *delegate)
+            : m_delegate(delegate)
+        {
+            ++delegate->m_running;
+        }
+        ~Running()
+        {
+            if (m_delegate) {
+                --m_delegate->m_running;
+            }
+        }
+        Q_DISABLE_COPY_MOVE(Running)
+
+    private:
+        QPointer<const ItemDelegate> m_delegate;
+    };
+
     struct Edited
     {
         QPersistentModelIndex index;
@@ -77,6 +97,9 @@ private:
         bool endsRemark = false;
     };
 
+    [[nodiscard]] static QByteArray userPropertyName(const QWidget *editor);
+    /// A list or a text in an editor, or a part of one.
+    [[nodiscard]] static bool scrolls(const QWidget *part);
     [[nodiscard]] Edited *edited(const QObject *editor) const;
     void rememberState(Edited *edited, const KProperty &property) const;
     [[nodiscard]] QWidget *editorAround(QObject *object) const;
