@@ -235,6 +235,9 @@ void GridPropertyEditorView::Private::saveClicked()
     QByteArray bytes;
     if (set)
         WflwMetaData::setPresetMetaData(set);
+    // The stamp is told like any change.
+    if (!self)
+        return;
     if (!set || !PropertySetCreator::propertySetToJson(*set, &bytes, PropertyConversionFlag::KeepPaths)) {
         warn(q, title, viewTr("Can't convert content to json."));
         return;
@@ -308,6 +311,8 @@ void GridPropertyEditorView::Private::modifyProperty()
 void GridPropertyEditorView::Private::replaceProperty(KProperty *old, KProperty *property,
                                                       const QString &group)
 {
+    const QPointer<GridPropertyEditorView> self(q);
+    std::unique_ptr<KProperty> next(property);
     prepare(property);
     if (takesValueOf(*old, *property))
         property->setValue(old->value());
@@ -315,7 +320,10 @@ void GridPropertyEditorView::Private::replaceProperty(KProperty *old, KProperty 
     const QString oldName = QString::fromUtf8(old->name());
     const int place = KPropertySetUtils::propertyIndex(oldName, group, *set);
     set->removeProperty(old);
-    KPropertySetUtils::insertInKPropertySet(group, property, set, place);
+    // Who hears of a removal may close the view, or give it another set.
+    if (!self || !set)
+        return;
+    KPropertySetUtils::insertInKPropertySet(group, next.release(), set, place);
     rebuild(name);
 }
 
@@ -324,8 +332,10 @@ void GridPropertyEditorView::Private::removeProperty()
     KProperty *property = set ? currentProperty() : nullptr;
     if (!property)
         return;
+    const QPointer<GridPropertyEditorView> self(q);
     set->removeProperty(property);
-    rebuild();
+    if (self && set)
+        rebuild();
 }
 
 QString GridPropertyEditorView::getParametersFile(const QString &title, FileType type, QWidget *parent)

@@ -15,7 +15,9 @@
 #include <orv/widgets/SamplesAndTracesInputWidget.h>
 #include <orv/widgets/SequenceDatabasesWidget.h>
 
+#include <QApplication>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QRegularExpression>
 #include <QScrollArea>
@@ -56,6 +58,16 @@ QJsonObject newCell(BaseItemType type)
         cell = PropertyEditorJsonUtils::defaultJsonContents(type);
     cell.insert(TYPE_KEY, BaseItem::typeToString(type));
     return cell;
+}
+
+/// Lets an editor in \a column tell what was typed, while all is in its place. Whether it had the focus.
+bool takeFocusFrom(const QWidget *column)
+{
+    QWidget *focus = QApplication::focusWidget();
+    if (!focus || !column->isAncestorOf(focus))
+        return false;
+    focus->clearFocus();
+    return true;
 }
 
 void setBaseUrl(QWidget *widget, const QUrl &url)
@@ -226,6 +238,10 @@ void PropertyGridWidget::Private::removeColumn(int index)
     }
     const QPointer<PropertyGridWidget> self(q);
     const QPointer<QWidget> column = splitter->widget(index);
+    const bool hadFocus = takeFocusFrom(column);
+    index = self && column ? splitter->indexOf(column) : -1;
+    if (index < 0)
+        return;
     std::unique_ptr<IGridItem> item(index < items.size() ? items.takeAt(index) : nullptr);
     Q_EMIT q->itemRemoved();
     const int place = self && column ? splitter->indexOf(column) : -1;
@@ -238,6 +254,8 @@ void PropertyGridWidget::Private::removeColumn(int index)
         return;
     if (place < columnNames.size())
         columnNames.removeAt(place);
+    if (hadFocus && splitter->count() > 0)
+        columnAt(std::min(place, splitter->count() - 1))->header()->setFocus();
     Q_EMIT q->contentEdited();
 }
 

@@ -1,4 +1,4 @@
-#include "GridFixture.h"
+#include "GridHands.h"
 #include "LogCapture.h"
 #include "WidgetTest.h"
 
@@ -19,37 +19,12 @@
 
 using namespace orv;
 using namespace GridFixture;
+using namespace GridHands;
 
 using EditorMode = GridPropertyEditorView::EditorMode;
 using ViewMode = GridPropertyEditorView::PropertiesViewMode;
 
 namespace {
-
-QPushButton *button(const GridPropertyEditorView &view, const char *toolTip)
-{
-    for (QPushButton *candidate : view.findChildren<QPushButton *>()) {
-        if (candidate->toolTip() == text(toolTip))
-            return candidate;
-    }
-    qFatal("There is no button \"%s\"", toolTip);
-}
-
-void click(const GridPropertyEditorView &view, const char *toolTip)
-{
-    QTest::mouseClick(button(view, toolTip), Qt::LeftButton);
-}
-
-void choose(const QDialog &dialog, const char *comboName, const QVariant &data)
-{
-    combo(dialog, comboName)->setCurrentIndex(combo(dialog, comboName)->findData(data));
-}
-
-void write(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("The test's file can't be written");
-}
 
 /// Whether a file that is dragged there may be dropped on the row of a property.
 bool takes(Column &column, const char *name, const QString &path)

@@ -7,6 +7,9 @@
 #include <orv/propertyeditor/grid/PropertyGridWidget.h>
 #include <orv/widgets/SamplesAndTracesInputWidget.h>
 
+#include <QSplitter>
+#include <QTemporaryDir>
+
 #include <numeric>
 
 using namespace orv;
@@ -99,6 +102,14 @@ private Q_SLOTS:
     void aRemovedItemIsGoneWhenTheEditIsTold();
     void whoHearsOfAColumnBeingFilledMayCloseTheGrid();
     void whoHearsOfANewSetMayCloseTheView();
+    void whoHearsOfTypedTextMayCloseTheColumn_data();
+    void whoHearsOfTypedTextMayCloseTheColumn();
+    void whoHearsOfTypedTextMayCloseTheGrid_data();
+    void whoHearsOfTypedTextMayCloseTheGrid();
+    void whoHearsOfARemovedPropertyMayCloseTheColumn_data();
+    void whoHearsOfARemovedPropertyMayCloseTheColumn();
+    void whoHearsOfAStampMayCloseTheColumn();
+    void whoSeesButtonsComeMayCloseTheGrid();
     void whoHearsOfAnEditedGridMayCloseIt_data();
     void whoHearsOfAnEditedGridMayCloseIt();
 };
@@ -244,6 +255,210 @@ void LifetimesTest::whoHearsOfANewSetMayCloseTheView()
     connect(view, &GridPropertyEditorView::propertySetChanged, this, [view] { delete view; });
     QVERIFY(!view->setPropertiesFromSerializedJson(bytes(karvonCell())).hasError());
     QVERIFY(!view);
+}
+
+namespace {
+
+/// A fragment tolerance that is typed and not yet taken.
+void typeTolerance(KPropertyEditorView &tree)
+{
+    QVERIFY(LeavingWays::open(tree, "KarvonFragmentMassError"));
+    LeavingWays::type(text("0.43 Da"));
+}
+
+using ColumnAct = void (*)(GridPropertyEditorView &);
+using GridAct = void (*)(PropertyGridWidget &);
+
+/// Does something as soon as a widget is shown or hidden.
+class ShowWatch : public QObject
+{
+public:
+    explicit ShowWatch(std::function<void()> act)
+        : m_act(std::move(act))
+    {}
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if ((event->type() == QEvent::Show || event->type() == QEvent::Hide) && m_act)
+            std::exchange(m_act, {})();
+        return false;
+    }
+
+private:
+    std::function<void()> m_act;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(ColumnAct)
+Q_DECLARE_METATYPE(GridAct)
+
+void LifetimesTest::whoHearsOfTypedTextMayCloseTheColumn_data()
+{
+    QTest::addColumn<ColumnAct>("act");
+    using Mode = GridPropertyEditorView::PropertiesViewMode;
+    const std::pair<const char *, ColumnAct> acts[] = {
+        {"another mode", [](GridPropertyEditorView &view) { view.setPropertiesViewMode(Mode::Advanced); }},
+        {"another set",
+         [](GridPropertyEditorView &view) {
+             QVERIFY(!view.setPropertiesFromSerializedJson(bytes(karvonCell())).hasError());
+         }},
+        {"Enter",
+         [](GridPropertyEditorView &) {
+             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+             QCoreApplication::processEvents();
+         }},
+        {"Tab", [](GridPropertyEditorView &) { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); }},
+        {"acceptInput", [](GridPropertyEditorView &view) { view.editorView()->acceptInput(); }},
+    };
+    for (const auto &[name, act] : acts)
+        QTest::newRow(name) << act;
+}
+
+void LifetimesTest::whoHearsOfTypedTextMayCloseTheColumn()
+{
+    QFETCH(ColumnAct, act);
+    const LogCapture log;
+    auto column = std::make_unique<Column>();
+    QPointer<GridPropertyEditorView> view = column->view;
+    typeTolerance(*view->editorView());
+    QVariant typed;
+    connect(view, &GridPropertyEditorView::propertyChanged, this, [&](KPropertySet &, KProperty &property) {
+        if (typed.isValid())
+            return;
+        typed = property.value();
+        delete view;
+    });
+    act(*view);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!view);
+    QCOMPARE(Documents::parse(typed.toByteArray()).value(text("value")).toDouble(), 0.43);
+}
+
+void LifetimesTest::whoHearsOfTypedTextMayCloseTheGrid_data()
+{
+    QTest::addColumn<GridAct>("act");
+    QTest::addColumn<bool>("closesAll");
+    using Mode = GridPropertyEditorView::PropertiesViewMode;
+    const std::pair<const char *, GridAct> acts[] = {
+        {"another mode", [](PropertyGridWidget &grid) { grid.setPropertiesViewMode(Mode::Advanced); }},
+        {"a removed column", [](PropertyGridWidget &grid) { grid.removeColumn(0); }},
+        {"all columns removed", [](PropertyGridWidget &grid) { grid.removeAllColumns(); }},
+    };
+    for (const auto &[name, act] : acts) {
+        QTest::addRow("%s, the grid goes", name) << act << true;
+        QTest::addRow("%s, other columns go", name) << act << false;
+    }
+}
+
+void LifetimesTest::whoHearsOfTypedTextMayCloseTheGrid()
+{
+    QFETCH(GridAct, act);
+    QFETCH(bool, closesAll);
+    const LogCapture log;
+    auto made = PropertyGridWidget::create(
+        {text("A"), text("B"), text("C")},
+        {cellOf(karvonCell("A")), cellOf(karvonCell("B")), cellOf(karvonCell("C"))});
+    QVERIFY(!made.hasError());
+    QPointer<PropertyGridWidget> grid = std::move(made).value().release();
+    const QPointer<PropertyGridWidget> guard = grid;
+    grid->resize(1300, 600);
+    grid->show();
+    QVERIFY(QTest::qWaitForWindowActive(grid));
+    auto *first = static_cast<GridPropertyEditorView *>(grid->items().constFirst()->widget());
+    typeTolerance(*first->editorView());
+    bool isTold = false;
+    connect(first, &GridPropertyEditorView::propertyChanged, this, [&] {
+        if (std::exchange(isTold, true))
+            return;
+        if (closesAll)
+            delete grid;
+        else
+            while (grid->splitter()->count() > 1)
+                grid->removeColumn(1);
+    });
+    act(*grid);
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(isTold);
+    QCOMPARE(grid.isNull(), closesAll);
+    delete grid;
+}
+
+void LifetimesTest::whoHearsOfARemovedPropertyMayCloseTheColumn_data()
+{
+    QTest::addColumn<bool>("modifies");
+    QTest::newRow("removed") << false;
+    QTest::newRow("modified") << true;
+}
+
+void LifetimesTest::whoHearsOfARemovedPropertyMayCloseTheColumn()
+{
+    QFETCH(bool, modifies);
+    const LogCapture log;
+    const PersonActs::Blunt answers(true);
+    Column column;
+    column.view->setEditorMode(GridPropertyEditorView::EditorMode::Designer);
+    column.select("KarvonLayout");
+    const QPointer<GridPropertyEditorView> view = column.view;
+    connect(&column.set(), &KPropertySet::aboutToDeleteProperty, this, [view] { delete view; });
+    for (QAbstractButton *button : view->findChildren<QAbstractButton *>()) {
+        if (button->toolTip() == (modifies ? text("Modify property") : text("Remove property"))) {
+            QTest::mouseClick(button, Qt::LeftButton);
+            break;
+        }
+    }
+    QVERIFY(!view);
+}
+
+void LifetimesTest::whoHearsOfAStampMayCloseTheColumn()
+{
+    const LogCapture log;
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    answers.expectPath(text("Save preset to file"), folder.filePath(text("search.ptcell")));
+    Column column;
+    column.view->setEditorMode(GridPropertyEditorView::EditorMode::Designer);
+    const QPointer<GridPropertyEditorView> view = column.view;
+    for (KPropertySetIterator property(column.set()); *property; ++property) {
+        if ((*property)->name().endsWith("metadata"))
+            (*property)->setValue(QByteArray("{\"version\":\"5.0.0\"}"));
+    }
+    connect(view, &GridPropertyEditorView::propertyChanged, this, [view] { delete view; });
+    for (QAbstractButton *button : view->findChildren<QAbstractButton *>()) {
+        if (button->toolTip() == text("Save preset to file")) {
+            QTest::mouseClick(button, Qt::LeftButton);
+            break;
+        }
+    }
+    QVERIFY(answers.isDone());
+    QVERIFY(!view);
+}
+
+void LifetimesTest::whoSeesButtonsComeMayCloseTheGrid()
+{
+    const LogCapture log;
+    for (const bool closesAll : {true, false}) {
+        auto made = PropertyGridWidget::create({text("A"), text("B")},
+                                               {cellOf(karvonCell("A")), cellOf(karvonCell("B"))});
+        QVERIFY(!made.hasError());
+        QPointer<PropertyGridWidget> grid = std::move(made).value().release();
+        grid->show();
+        ShowWatch watch([&] {
+            if (closesAll)
+                grid->deleteLater();
+            else
+                grid->removeColumn(1);
+        });
+        QWidget *first = grid->items().constFirst()->widget();
+        for (QAbstractButton *button : first->findChildren<QAbstractButton *>())
+            button->installEventFilter(&watch);
+        grid->setEditorMode(GridPropertyEditorView::EditorMode::Designer);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(grid.isNull(), closesAll);
+        if (grid)
+            QCOMPARE(grid->items().size(), 1);
+        delete grid;
+    }
 }
 
 WIDGET_REGISTER_TEST(LifetimesTest)

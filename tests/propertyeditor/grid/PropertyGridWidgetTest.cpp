@@ -1,4 +1,4 @@
-#include "GridFixture.h"
+#include "GridHands.h"
 #include "LogCapture.h"
 #include "WidgetTest.h"
 
@@ -19,81 +19,10 @@
 
 using namespace orv;
 using namespace GridFixture;
+using namespace GridHands;
 
 using EditorMode = GridPropertyEditorView::EditorMode;
 using ViewMode = GridPropertyEditorView::PropertiesViewMode;
-
-namespace {
-
-std::unique_ptr<PropertyGridWidget> gridOf(const QStringList &names, const char *type = "Karvon")
-{
-    VariantItems cells;
-    for (const QString &name : names)
-        cells.append(cellOf(settingsCell(type, {setting("Samples", name)}, qPrintable(name))));
-    Result<std::unique_ptr<PropertyGridWidget>> grid = PropertyGridWidget::create(names, cells);
-    if (grid.hasError())
-        qFatal("The fixture doesn't load: %s", qPrintable(grid.error().errorMessage()));
-    return std::move(grid).value();
-}
-
-PropertySplitterWidget *columnAt(const PropertyGridWidget &grid, int index)
-{
-    return qobject_cast<PropertySplitterWidget *>(grid.splitter()->widget(index));
-}
-
-GridPropertyEditorView *viewAt(const PropertyGridWidget &grid, int index)
-{
-    return qobject_cast<GridPropertyEditorView *>(grid.items().at(index)->widget());
-}
-
-QAction *action(const PropertyGridWidget &grid, const char *name)
-{
-    for (QAction *candidate : grid.columnMenu()->actions()) {
-        if (candidate->text() == text(name))
-            return candidate;
-    }
-    qFatal("There is no command \"%s\"", name);
-}
-
-/// Opens the menu of a column as a right click on its title does.
-void openMenu(PropertyGridWidget &grid, int index)
-{
-    QHeaderView *header = columnAt(grid, index)->header();
-    const QPoint place = header->rect().center();
-    QContextMenuEvent event(QContextMenuEvent::Mouse, place, header->mapToGlobal(place));
-    QApplication::sendEvent(header->viewport(), &event);
-    QCOMPARE(grid.columnMenu()->property("logicalIndex").toInt(), index);
-}
-
-void chooseCommand(PropertyGridWidget &grid, int index, const char *name)
-{
-    openMenu(grid, index);
-    QTest::mouseClick(grid.columnMenu(), Qt::LeftButton, {},
-                      grid.columnMenu()->actionGeometry(action(grid, name)).center());
-}
-
-QStringList headerTexts(const PropertyGridWidget &grid)
-{
-    QStringList texts;
-    for (int i = 0; i < grid.splitter()->count(); ++i)
-        texts.append(columnAt(grid, i)->headerText());
-    return texts;
-}
-
-QStringList contentsOf(const PropertyGridWidget &grid)
-{
-    QStringList contents;
-    for (const QVariant &cell : grid.cells())
-        contents.append(valueIn(Documents::parse(cell.toByteArray()), "Samples").toString());
-    return contents;
-}
-
-QStringList names(const char *utf8)
-{
-    return text(utf8).split(u',');
-}
-
-} // namespace
 
 class PropertyGridWidgetTest : public WidgetTest
 {
@@ -110,6 +39,7 @@ private Q_SLOTS:
     void theHeaderModelHoldsOneRow();
     void columnsAreAppended();
     void columnsAreRemoved();
+    void theFocusGoesToTheColumnBeside();
     void theMenuShowsWhatFits();
     void theMenuFoldsGroups();
     void theMenuOffersParametersByType_data();
@@ -278,6 +208,23 @@ void PropertyGridWidgetTest::columnsAreRemoved()
     QVERIFY(grid->items().isEmpty());
     QVERIFY(grid->columnNames().isEmpty());
     QCOMPARE(removed, 3);
+}
+
+void PropertyGridWidgetTest::theFocusGoesToTheColumnBeside()
+{
+    const auto grid = gridOf(names("A,B,C"));
+    grid->show();
+    QVERIFY(QTest::qWaitForWindowActive(grid.get()));
+    viewAt(*grid, 1)->editorView()->setFocus();
+    grid->removeColumn(1);
+    QCOMPARE(QApplication::focusWidget(), columnAt(*grid, 1)->header());
+    grid->removeColumn(1);
+    QCOMPARE(QApplication::focusWidget(), columnAt(*grid, 0)->header());
+    auto *other = new QPushButton(grid.get());
+    other->show();
+    other->setFocus();
+    grid->removeColumn(0);
+    QCOMPARE(QApplication::focusWidget(), other);
 }
 
 void PropertyGridWidgetTest::theMenuShowsWhatFits()

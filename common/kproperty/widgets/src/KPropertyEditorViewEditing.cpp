@@ -84,10 +84,14 @@ void KPropertyEditorView::letEditorSpeak(QWidget *editor)
 {
     const QPointer<KPropertyEditorView> self(this);
     const QPointer<QWidget> speaking = editor;
-    const QWidget *const focus = QApplication::focusWidget();
+    QWidget *const focus = QApplication::focusWidget();
     editor->removeEventFilter(d->delegate);
     if (focus && (focus == editor || editor->isAncestorOf(focus))) {
-        setFocus();
+        // Not at once to the view, which must outlive the function that gives it the focus.
+        focus->clearFocus();
+        if (self) {
+            setFocus();
+        }
     }
     if (self && speaking) {
         QCoreApplication::sendPostedEvents(editor, 0);

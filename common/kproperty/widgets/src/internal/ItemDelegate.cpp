@@ -317,6 +317,7 @@ void ItemDelegate::setEditorData(QWidget *editor, const QModelIndex &index) cons
 
 void ItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
+    m_leftToPress = nullptr;
     const QByteArray name = userPropertyName(editor);
     if (name.isEmpty()) {
         return;

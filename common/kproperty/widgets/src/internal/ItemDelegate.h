@@ -123,6 +123,8 @@ private:
     mutable int m_running = 0;            ///< functions that may tell others
     // Written by createEditor(), which Qt declares const.
     mutable QPointer<QWidget> m_editor;
+    /// An editor whose value the view takes when the press arrives that took the focus from it.
+    mutable QPointer<QWidget> m_leftToPress;
     mutable QHash<const QObject *, Edited> m_edited;
 };
 

@@ -116,10 +116,13 @@ bool ItemDelegate::leavesToPress(QObject *object, const QEvent *event)
         QApplication::focusWidget() != m_view) {
         return false;
     }
+    m_leftToPress = m_editor;
     QMetaObject::invokeMethod(
         this,
-        [this, left = m_editor] {
-            if (left && left == m_editor && m_view) {
+        [this] {
+            const bool isOpen = m_leftToPress && m_leftToPress == m_editor;
+            m_leftToPress = nullptr;
+            if (isOpen && m_view) {
                 m_view->acceptInput();
             }
         },
@@ -163,7 +166,7 @@ void ItemDelegate::editorChanged(QWidget *editor)
 {
     const Running running(this);
     Edited *const edits = edited(editor);
-    if (!edits) {
+    if (!edits || editor == m_leftToPress) {
         return;
     }
     if (editor != m_editor) {
