@@ -6,6 +6,7 @@
 #include <orv/propertyeditor/PropertiesTraits.h>
 #include <orv/propertyeditor/editors/OrvGenericDelegate.h>
 #include <orv/resources/ResourceReference.h>
+#include <orv/resources/ResourceReferenceUtils.h>
 
 #include <QDragEnterEvent>
 #include <QMimeData>
@@ -84,7 +85,10 @@ void KPropertyCustomEditorView::dropEvent(QDropEvent *event)
         return;
     const Result<ResourceReferenceSPtr> reference =
         ResourceReference::fromString(m_dragged.absoluteFilePath());
-    if (reference && *reference)
+    // Two references to one file are no equal values, and setting the second would be told as an edit.
+    const auto held = property->value().value<ResourceReferenceSPtr>();
+    if (reference && *reference &&
+        ResourceReferenceUtils::toString(*reference) != ResourceReferenceUtils::toString(held))
         property->setValue(QVariant::fromValue(*reference));
 }
 
