@@ -36,6 +36,8 @@ private Q_SLOTS:
     void changeSetCommitsTheOpenEditor();
     void editorsDieWithTheirRows();
     void multiLineTakesEnterAndCommitsOnCtrlEnter();
+    void longTextsAreEditedToTheirEnd();
+    void aLineTooLongToBeWrappedIsKept();
     void selectButtonSendsTheEditEvent();
     void anEditorStaysOpenBehindItsDialog();
     void unansweredEditEventChangesNothing();
@@ -255,6 +257,42 @@ void ViewInputTest::multiLineTakesEnterAndCommitsOnCtrlEnter()
     fixture.press(Qt::Key_Return, Qt::ControlModifier);
     QVERIFY(!isEditing(fixture));
     QCOMPARE(fixture.set.propertyValue("text"), QVariant(text("abc\ndef")));
+}
+
+void ViewInputTest::longTextsAreEditedToTheirEnd()
+{
+    Fixture fixture;
+    const QString whole(40'000, QLatin1Char('y'));
+    fixture.set.changeProperty("text", whole);
+    fixture.open("text");
+    fixture.press(Qt::Key_Home);
+    fixture.type("x");
+    fixture.press(Qt::Key_Return);
+    QVERIFY(fixture.set.propertyValue("text").toString() == QLatin1Char('x') + whole);
+}
+
+void ViewInputTest::aLineTooLongToBeWrappedIsKept()
+{
+    Fixture fixture;
+    const QString whole = text("first\n") + QString(1 << 20, QLatin1Char('y')) + text("\nlast");
+    fixture.set.changeProperty("text", whole);
+    fixture.set["text"].setOption("multiLine", true);
+    fixture.view.changeSet(&fixture.set);
+    fixture.open("text");
+    const auto *const edit = qobject_cast<QPlainTextEdit *>(QApplication::focusWidget());
+    QVERIFY(edit);
+    const QStringList shown = edit->toPlainText().split(QLatin1Char('\n'));
+    QCOMPARE(shown.size(), 3);
+    QVERIFY(shown[1].size() < 20'100);
+    QVERIFY(shown[1].endsWith(text("[1028576 more letters: too long to be edited here]")));
+    QVERIFY(edit->isReadOnly());
+    fixture.type("x");
+    fixture.press(Qt::Key_Return, Qt::ControlModifier);
+    QVERIFY(fixture.set.propertyValue("text").toString() == whole);
+    fixture.set.changeProperty("text", text("short"));
+    fixture.open("text");
+    fixture.type("x");
+    QVERIFY(fixture.set.propertyValue("text").toString().contains(QLatin1Char('x')));
 }
 
 void ViewInputTest::selectButtonSendsTheEditEvent()

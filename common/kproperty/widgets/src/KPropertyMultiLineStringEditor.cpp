@@ -4,11 +4,44 @@
 #include <QPlainTextEdit>
 #include <QToolButton>
 
+#include <optional>
+
+namespace {
+
+/// The time to wrap a line grows with the square of its longest word.
+constexpr qsizetype kMostLettersOfLine = 20'000;
+
+QString withShortLines(const QString &text)
+{
+    QString shown;
+    for (QStringView rest = text;;) {
+        const qsizetype end = rest.indexOf(QLatin1Char('\n'));
+        const QStringView line = end < 0 ? rest : rest.first(end);
+        const qsizetype more = line.size() - kMostLettersOfLine;
+        shown += more > 0 ? line.first(kMostLettersOfLine) : line;
+        if (more > 0) {
+            shown +=
+                KPropertyMultiLineStringEditor::tr("\u2026 [%1 more letters: too long to be edited here]")
+                    .arg(more);
+        }
+        if (end < 0) {
+            return shown;
+        }
+        shown += QLatin1Char('\n');
+        rest = rest.sliced(end + 1);
+    }
+}
+
+} // namespace
+
 class KPropertyMultiLineStringEditor::Private
 {
 public:
     QPlainTextEdit *edit = nullptr;
     QToolButton *button = nullptr;
+    /// A value that isn't shown as it is.
+    std::optional<QString> held;
+    bool readOnly = false;
 };
 
 KPropertyMultiLineStringEditor::KPropertyMultiLineStringEditor(QWidget *parent)
@@ -30,13 +63,16 @@ KPropertyMultiLineStringEditor::~KPropertyMultiLineStringEditor() = default;
 
 QString KPropertyMultiLineStringEditor::value() const
 {
-    return d->edit->toPlainText();
+    return d->held.value_or(d->edit->toPlainText());
 }
 
 void KPropertyMultiLineStringEditor::setValue(const QString &value)
 {
     const QSignalBlocker blocker(d->edit);
-    d->edit->setPlainText(value);
+    const QString shown = withShortLines(value);
+    d->held = shown == value ? std::nullopt : std::optional(value);
+    d->edit->setReadOnly(d->readOnly || d->held);
+    d->edit->setPlainText(shown);
 }
 
 bool KPropertyMultiLineStringEditor::isReadOnly() const
@@ -46,7 +82,8 @@ bool KPropertyMultiLineStringEditor::isReadOnly() const
 
 void KPropertyMultiLineStringEditor::setReadOnly(bool readOnly)
 {
-    d->edit->setReadOnly(readOnly);
+    d->readOnly = readOnly;
+    d->edit->setReadOnly(readOnly || d->held);
 }
 
 void KPropertyMultiLineStringEditor::setSelectionButtonVisible(bool set)

@@ -7,6 +7,8 @@
 #include <QResizeEvent>
 #include <QToolButton>
 
+#include <limits>
+
 class KPropertyStringEditor::Private
 {
 public:
@@ -17,6 +19,7 @@ KPropertyStringEditor::KPropertyStringEditor(QWidget *parent)
     : QLineEdit(parent)
     , d(std::make_unique<Private>())
 {
+    setMaxLength(std::numeric_limits<int>::max()); // else the first letter typed would cut a long text
     connect(this, &QLineEdit::textChanged, this, &KPropertyStringEditor::slotTextChanged);
 }
 

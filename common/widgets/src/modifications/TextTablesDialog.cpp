@@ -1,6 +1,7 @@
 #include "orv/widgets/TextTablesDialog.h"
 
 #include "../LongText.h"
+#include "../NoticeBar.h"
 
 #include <orv/widgets/DialogService.h>
 #include <orv/widgets/MeaningColors.h>
@@ -22,6 +23,7 @@ class TextTablesDialog::Private
 public:
     QList<ScientificTableWidget *> tables;
     QPlainTextEdit *edit = nullptr;
+    NoticeBar *notice = nullptr; ///< of the text
     QLabel *problem = nullptr;
     QString text;
     bool isPassing = false; ///< from tables to text or back
@@ -49,7 +51,30 @@ QWidget *TextTablesDialog::newEdit(const Words &words)
     d->edit->setLineWrapMode(QPlainTextEdit::NoWrap);
     d->edit->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     connect(d->edit, &QPlainTextEdit::textChanged, this, &TextTablesDialog::takeText);
-    return d->edit;
+    d->notice = new NoticeBar;
+    d->notice->setObjectName(QStringLiteral("textNotice"));
+    auto *const page = new QWidget;
+    auto *const layout = new QVBoxLayout(page);
+    layout->setContentsMargins({});
+    layout->addWidget(d->notice);
+    layout->addWidget(d->edit);
+    page->setFocusProxy(d->edit);
+    return page;
+}
+
+void TextTablesDialog::showText()
+{
+    const QString shown = withShortLines(d->text);
+    const bool isWhole = shown == d->text;
+    d->isPassing = true;
+    d->edit->setPlainText(shown);
+    d->isPassing = false;
+    // What isn't shown would be lost with the first letter that is typed.
+    d->edit->setReadOnly(!isWhole);
+    d->notice->setText(isWhole
+                           ? QString()
+                           : tr("Lines too long to be laid out end with \"\u2026\" here, and nothing can be "
+                                "typed. All of the text is kept; change it in the table."));
 }
 
 void TextTablesDialog::build(const Words &words, QWidget *page, const QList<ScientificTableWidget *> &tables,
@@ -96,8 +121,8 @@ QString TextTablesDialog::text() const
 void TextTablesDialog::setText(const QString &text)
 {
     d->text = text;
+    showText();
     d->isPassing = true;
-    d->edit->setPlainText(text);
     showTables(text);
     d->isPassing = false;
     showProblems();
@@ -108,9 +133,7 @@ void TextTablesDialog::takeTables()
     if (d->isPassing)
         return;
     d->text = withTables(d->text);
-    d->isPassing = true;
-    d->edit->setPlainText(d->text);
-    d->isPassing = false;
+    showText();
     showProblems();
 }
 

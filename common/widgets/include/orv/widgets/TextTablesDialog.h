@@ -57,6 +57,7 @@ protected:
 
 private:
     QWidget *newEdit(const Words &words);
+    void showText();
     void takeTables();
     void takeText();
     void showProblems();
