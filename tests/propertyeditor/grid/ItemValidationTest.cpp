@@ -51,6 +51,19 @@ QJsonObject molecule(BaseItemType kind, int number)
     return settingsCell(qPrintable(name), {setting(qPrintable(name), table)});
 }
 
+QJsonObject options(BaseItemType kind, const QList<QJsonArray> &rows)
+{
+    const QString columns =
+        text("Name,MinimumMz,MaximumMz,MinimumMass,MaximumMass,MinimumCharge,MaximumCharge,Adduct");
+    QJsonArray children;
+    for (const QJsonArray &row : rows)
+        children.append(QJsonObject{{text("data"), row}, {text("children"), QJsonArray()}});
+    const QJsonObject table{{text("data"), QJsonArray::fromStringList(columns.split(u','))},
+                            {text("children"), children}};
+    const QString name = WholeWorkflow::nameOf(kind);
+    return settingsCell(qPrintable(name), {setting(qPrintable(name), table)});
+}
+
 QJsonObject samples(const QJsonArray &rows)
 {
     const QJsonObject table{{text("Samples"), rows}};
@@ -72,6 +85,10 @@ private Q_SLOTS:
     void chainsAreAskedButForSaving();
     void bondsAreAlwaysAsked_data() { addTypes(); }
     void bondsAreAlwaysAsked();
+    void optionsAreAlwaysAsked_data() { addTypes(); }
+    void optionsAreAlwaysAsked();
+    void otherColumnsAreNeverAsked_data() { addTypes(); }
+    void otherColumnsAreNeverAsked();
     void aGridIsAsValidAsItsColumns();
 
 private:
@@ -137,6 +154,47 @@ void ItemValidationTest::bondsAreAlwaysAsked()
     QCOMPARE(told.warnings,
              QStringList(text("Disulfide bond 1: residue 5 of the chain \"HC\" is A and no cysteine.")));
     QVERIFY(told.errors.isEmpty() && told.details.isEmpty());
+}
+
+void ItemValidationTest::optionsAreAlwaysAsked()
+{
+    QFETCH(int, type);
+    const LogCapture log;
+    const WholeWorkflow::HostManager manager;
+    const auto row = [](int from, int to) {
+        return QJsonArray{text("Denatured"), from, to, 20000, 200000, 10, 100, text("H")};
+    };
+    for (const BaseItemType kind : {BaseItemType::IntactOptions, BaseItemType::OligoOptions}) {
+        const std::unique_ptr<IGridItem> item(manager.createItem(kind));
+        QVERIFY(!item->setContent(options(kind, {row(600, 5000)})).hasError());
+        const Told valid = ask(*item, WidgetValidationType(type));
+        QVERIFY2(valid.isValid && valid.errors.isEmpty(), qPrintable(valid.errors.join(u'\n')));
+        QVERIFY(valid.warnings.isEmpty());
+        // Two faults, and one name for both: each a line of its own.
+        QVERIFY(!item->setContent(options(kind, {row(5000, 600), row(400, 300)})).hasError());
+        const Told told = ask(*item, WidgetValidationType(type));
+        QVERIFY(!told.isValid);
+        QCOMPARE(told.errors.size(), 2);
+        QVERIFY(told.errors[0].contains(text("5000")) && told.errors[1].contains(text("400")));
+        QCOMPARE(told.warnings.size(), 1);
+        QVERIFY(told.warnings[0].contains(text("Denatured")));
+    }
+}
+
+void ItemValidationTest::otherColumnsAreNeverAsked()
+{
+    QFETCH(int, type);
+    const LogCapture log;
+    const WholeWorkflow::HostManager manager;
+    for (const BaseItemType kind :
+         {BaseItemType::Proteins, BaseItemType::Masses, BaseItemType::OligoMasses,
+          BaseItemType::DetachedGlycans, BaseItemType::GlycanOptions, BaseItemType::Isotope,
+          BaseItemType::SamplesProteins, BaseItemType::Karvon}) {
+        const std::unique_ptr<IGridItem> item(manager.createItem(kind));
+        const Told told = ask(*item, WidgetValidationType(type));
+        QVERIFY(told.isValid);
+        QVERIFY(told.warnings.isEmpty() && told.errors.isEmpty() && told.details.isEmpty());
+    }
 }
 
 void ItemValidationTest::aGridIsAsValidAsItsColumns()

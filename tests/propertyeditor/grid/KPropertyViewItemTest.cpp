@@ -43,6 +43,8 @@ private Q_SLOTS:
     void editsAreTold();
     void loadsAndBaseUrlsAreNoEdits();
     void aViewThatIsShownBelongsToItsParent();
+    void aViewOfOnesOwnIsAsked();
+    void baseUrlsAreLogged();
 };
 
 void KPropertyViewItemTest::aCellComesBackAsItWas()
@@ -204,6 +206,70 @@ void KPropertyViewItemTest::aViewThatIsShownBelongsToItsParent()
     }
     QVERIFY(shown);
     QVERIFY(!loose);
+}
+
+namespace {
+
+/// Finds fault with whatever it shows.
+class DoubtfulView : public GridPropertyEditorView
+{
+public:
+    DoubtfulView()
+        : GridPropertyEditorView(nullptr)
+    {}
+    bool validate(QStringList *warnings) const override
+    {
+        warnings->append(text("doubtful"));
+        return false;
+    }
+};
+
+class OwnViewItem : public KPropertyViewItem
+{
+public:
+    OwnViewItem(GridCommunicationManager *bus, GridPropertyEditorView *view)
+        : KPropertyViewItem(bus, view)
+    {}
+};
+
+} // namespace
+
+void KPropertyViewItemTest::aViewOfOnesOwnIsAsked()
+{
+    GridCommunicationManager bus;
+    DoubtfulView view;
+    QStringList warnings;
+    QStringList others;
+    {
+        OwnViewItem item(&bus, &view);
+        QCOMPARE(item.widget(), &view);
+        for (int type : {0, 1, 2}) {
+            QVERIFY(!item.validate(&warnings, &others, &others, WidgetValidationType(type)));
+            QCOMPARE(std::exchange(warnings, {}), QStringList(text("doubtful")));
+        }
+    }
+    // It isn't the item's; without one the item makes its own, which finds no fault.
+    view.setDocumentType(BaseItemType::Karvon);
+    OwnViewItem item(&bus, nullptr);
+    QVERIFY(item.widget() && item.widget() != &view);
+    QVERIFY(item.validate(&warnings, &others, &others, WidgetValidationType::ProjectCreation));
+    QVERIFY(warnings.isEmpty() && others.isEmpty());
+}
+
+void KPropertyViewItemTest::baseUrlsAreLogged()
+{
+    const QUrl url(text("file:///data/"));
+    const auto isLogged = [&](GridPropertyEditorView &view) {
+        const LogCapture log;
+        view.setBaseUrlForRelativeUrls(url);
+        const QStringList lines = log.texts(QtDebugMsg);
+        return lines.size() == 1 && lines[0].contains(text("Setting base URL")) &&
+               lines[0].contains(url.toString());
+    };
+    Column column;
+    QVERIFY(isLogged(*column.view));
+    GridPropertyEditorView empty;
+    QVERIFY(!isLogged(empty));
 }
 
 WIDGET_REGISTER_TEST(KPropertyViewItemTest)

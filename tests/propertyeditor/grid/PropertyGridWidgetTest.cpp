@@ -144,6 +144,7 @@ void PropertyGridWidgetTest::columnsLookAlike()
     const auto *area = grid->findChild<QScrollArea *>(text("propertyGridWidgetScrollArea"));
     QVERIFY(area && area->widgetResizable());
     QCOMPARE(grid->layout()->contentsMargins(), QMargins());
+    QCOMPARE(PropertySplitterWidget(nullptr).size(), QSize(259, 339));
     const PropertySplitterWidget *column = columnAt(*grid, 0);
     QCOMPARE(column->objectName(), text("PropertySplitterWidget"));
     QCOMPARE(column->windowTitle(), text("Form"));
