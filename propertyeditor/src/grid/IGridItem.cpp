@@ -94,18 +94,15 @@ bool IGridItem::hasEntry(PropertyId id) const
 
 void IGridItem::rememberUntouched()
 {
+    using namespace PropertyEditorJsonUtils;
     m_untouched.clear();
-    const bool isWhole = std::all_of(m_properties.cbegin(), m_properties.cend(),
-                                     [this](PropertyId id) { return hasEntry(id); });
-    if (isWhole)
+    if (m_properties.isEmpty())
         return;
-    // The entries that contentWith() adds stand behind those of the cell.
-    const QJsonArray entries = content().value(PROPERTIES_KEY).toArray();
-    for (qsizetype i = m_content.value(PROPERTIES_KEY).toArray().size(); i < entries.size(); ++i) {
-        const QJsonObject entry = entries.at(i).toObject();
-        m_untouched.insert(PropertiesNames::findPropertyForName(entry.value(NAME_KEY).toString()),
-                           PropertyEditorJsonUtils::propValueObject(entry));
-    }
+    const QJsonObject shown = content();
+    if (shown.value(PROPERTIES_KEY).toArray().isEmpty())
+        return;
+    for (const PropertyId id : std::as_const(m_properties))
+        m_untouched.insert(id, propValueObject(getPropertyWithType(shown, id)));
 }
 
 QHash<QString, QMetaType::Type> IGridItem::customColumnTypes(const ColumnDefinitions &definitions)
@@ -134,9 +131,11 @@ QJsonObject IGridItem::contentWith(const QList<std::pair<PropertyId, QJsonObject
 {
     QJsonObject json = m_content;
     for (const auto &[id, value] : values) {
+        if (value == m_untouched.value(id))
+            continue; // what nobody edited stays as it stands there, be it something that no widget shows
         if (hasEntry(id)) {
             json = PropertyEditorJsonUtils::updatePropertyValue(json, id, value);
-        } else if (value != m_untouched.value(id)) {
+        } else {
             QJsonArray entries = json.value(PROPERTIES_KEY).toArray();
             entries.append(
                 QJsonObject{{NAME_KEY, PropertiesNames::internalNameForType(id)}, {VALUE_KEY, value}});

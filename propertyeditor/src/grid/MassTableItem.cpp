@@ -6,12 +6,16 @@
 #include <orv/chemistry/MassUtils.h>
 #include <orv/core/Logging.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/samples/SamplesInput.h>
 #include <orv/widgets/MassTableWidget.h>
 
 #include <QCoreApplication>
+#include <QJsonArray>
 
 namespace orv {
+
+using namespace PropertyEditorJsonUtils;
 
 Error showMassCell(MassTableWidget *widget, const RowNode &masses, const RowNode &tolerance,
                    const QJsonObject &cell)
@@ -57,11 +61,16 @@ QJsonObject MassTableItem::content() const
     if (!m_widget)
         return storedContent();
     RowNode masses = MassUtils::deltaMassesToRowNode(m_widget->masses());
-    // The id is for the widget alone.
+    // The id is for the widget alone, also where a cell has it.
     masses.removeColumn(kId);
-    return contentWith(
-        {{PropertyId::MassTable, PropertyEditorJsonUtils::rowNodeToObject(masses)},
-         {PropertyId::MatchTolerance, PropertyEditorJsonUtils::rowNodeToObject(m_widget->massTolerance())}});
+    const QJsonObject table = rowNodeToObject(masses);
+    const QJsonObject cell =
+        contentWith({{PropertyId::MassTable, table},
+                     {PropertyId::MatchTolerance, rowNodeToObject(m_widget->massTolerance())}});
+    const QJsonObject held = propValueObject(getPropertyWithType(cell, PropertyId::MassTable));
+    return held.value(PropertyEditorStringConstants::DATA).toArray().contains(kId)
+               ? updatePropertyValue(cell, PropertyId::MassTable, table)
+               : cell;
 }
 
 void MassTableItem::messageReceived(const GridMessage &message)

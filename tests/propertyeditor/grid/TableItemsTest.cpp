@@ -252,9 +252,28 @@ void TableItemsTest::savedMassesHaveNoIds()
     QVERIFY(!masses.setContent(defaultCell(BaseItemType::Masses)).hasError());
     QVERIFY(!columnsOf(masses.content()).contains(text("Id")));
     QVERIFY(columnsOf(masses.content()).size() > 1);
+    QJsonObject withIds = defaultCell(BaseItemType::Masses);
+    withIds.insert(text("properties"), [&] {
+        QJsonArray entries = withIds.value(text("properties")).toArray();
+        QJsonObject entry = entries.at(0).toObject();
+        Q_ASSERT(entry.value(text("name")).toString() == text("MassTable"));
+        entry.insert(text("value"),
+                     node({text("Id"), text("Name"), text("Mass")}, {{text("4"), text("a"), text("100.5")}}));
+        entries.replace(0, entry);
+        return entries;
+    }());
+    QVERIFY(!masses.setContent(withIds).hasError());
+    QVERIFY(!columnsOf(masses.content()).contains(text("Id")));
+    QVERIFY(bytes(masses.content()).contains("100.5"));
     OligoMassTableItem oligos;
     QVERIFY(!oligos.setContent(defaultCell(BaseItemType::OligoMasses)).hasError());
+    const QStringList columns = columnsOf(oligos.content());
+    auto *widget = static_cast<MassTableWidget *>(oligos.widget());
+    QList<DeltaMass> edited = widget->masses();
+    edited.append(DeltaMass());
+    widget->setMasses(edited);
     QVERIFY(columnsOf(oligos.content()).contains(text("Id")));
+    QCOMPARE(columns, columnsOf(defaultCell(BaseItemType::OligoMasses)));
 }
 
 void TableItemsTest::withoutAWidgetTheContentIsGone()

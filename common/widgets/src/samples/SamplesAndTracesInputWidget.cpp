@@ -47,6 +47,17 @@ bool isEmptyColumn(const TableSheet &sheet, int column)
     return true;
 }
 
+/// Names the first ones, as a line has no room for thousands.
+QString wordsOnLeftOut(const QStringList &paths)
+{
+    constexpr qsizetype kNamed = 3;
+    const QString named = paths.mid(0, kNamed).join(QLatin1String(", "));
+    const qsizetype more = paths.size() - kNamed;
+    return more > 0 ? SamplesAndTracesInputWidget::tr("Without samples: %1 and %n more", nullptr, int(more))
+                          .arg(named)
+                    : SamplesAndTracesInputWidget::tr("Without samples: %1").arg(named);
+}
+
 /// Nobody waits for the thread, as a folder on a network drive may never be read.
 QFuture<Found> findInBackground(const QStringList &paths)
 {
@@ -119,7 +130,7 @@ SamplesAndTracesInputWidget::SamplesAndTracesInputWidget(SampleFileChecker *chec
         QStringList said = {added.hasError() ? added.error().errorMessage()
                                              : tr("%n sample(s) added.", nullptr, *added)};
         if (!found.leftOut.isEmpty())
-            said.append(tr("Without samples: %1").arg(found.leftOut.join(QLatin1String(", "))));
+            said.append(wordsOnLeftOut(found.leftOut));
         if (found.isCut)
             said.append(tr("There were too many files or folders to look into all."));
         say(said.join(u' '));

@@ -114,6 +114,8 @@ private Q_SLOTS:
     void changesAreToldOnceAndUndone();
     void aListenerMayDestroyTheWidget();
     void filesAndFoldersAreDropped();
+    void tenThousandFilesAreDropped_data();
+    void tenThousandFilesAreDropped();
     void filesAreChosen();
     void filesArePasted();
     void newFilesOfOthersAreTakenAtOnce();
@@ -226,6 +228,48 @@ void SamplesWidgetTest::filesAndFoldersAreDropped()
     QVERIFY(widget.message().contains(u"z.doc"_s));
     widget.samples()->action(TableView::Command::Undo)->trigger();
     QCOMPARE(widget.jsonContent(), sampleContent());
+}
+
+void SamplesWidgetTest::tenThousandFilesAreDropped_data()
+{
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<bool>("asFolder");
+    for (const bool asFolder : {true, false}) {
+        QTest::addRow("samples, %s", asFolder ? "folder" : "files") << u"mzML"_s << asFolder;
+        QTest::addRow("others, %s", asFolder ? "folder" : "files") << u"doc"_s << asFolder;
+    }
+}
+
+void SamplesWidgetTest::tenThousandFilesAreDropped()
+{
+    QFETCH(QString, suffix);
+    QFETCH(bool, asFolder);
+    constexpr int kFiles = 10'000;
+    const QTemporaryDir folder;
+    QStringList names;
+    for (int i = 0; i < kFiles; ++i)
+        names.append(u"%1.%2"_s.arg(i).arg(suffix));
+    if (asFolder)
+        makeFiles(folder, names);
+    QStringList paths;
+    for (const QString &name : std::as_const(names))
+        paths.append(folder.filePath(name));
+    Widget widget;
+    const QSignalSpy changed(&widget, &SamplesAndTracesInputWidget::samplesChanged);
+    const QSignalSpy edited(&widget, &SamplesAndTracesInputWidget::edited);
+    QVERIFY(Hands::drop(widget.samples(), asFolder ? QStringList{folder.path()} : paths));
+    // The drop has only begun a search.
+    QCOMPARE(widget.message(), u"Looking for samples..."_s);
+    QCOMPARE(widget.samplesInput().size(), 2);
+    QTRY_VERIFY_WITH_TIMEOUT(widget.message() != u"Looking for samples..."_s, 60'000);
+    const bool areSamples = suffix == u"mzML"_s;
+    QCOMPARE(widget.samplesInput().size(), areSamples ? kFiles + 2 : 2);
+    QCoreApplication::processEvents();
+    QCOMPARE(changed.size(), areSamples ? 1 : 0);
+    QCOMPARE(edited.size(), areSamples ? 1 : 0);
+    QVERIFY2(widget.message().size() < 400, qPrintable(widget.message().left(1000)));
+    QVERIFY(areSamples || asFolder || widget.message().endsWith(u"2.doc and 9997 more"_s));
+    QVERIFY(!widget.grab().isNull());
 }
 
 void SamplesWidgetTest::filesAreChosen()

@@ -79,8 +79,8 @@ protected:
     [[nodiscard]] QHash<QString, QMetaType::Type> customColumnTypes() const;
     /// The table that the stored object has under \a id; an empty one if there is none.
     [[nodiscard]] RowNode rowNodeForType(PropertyId id) const;
-    /// The stored object with other values of its entries, stamped. An entry that the cell lacks is added
-    /// once its value is another than right after the load.
+    /// The stored object with the values that are others than right after the load, stamped. An entry that
+    /// the cell lacks is added.
     [[nodiscard]] QJsonObject contentWith(const QList<std::pair<PropertyId, QJsonObject>> &values) const;
     /// What setContentInternal gives without a widget.
     [[nodiscard]] static Error notInitialized();
@@ -98,7 +98,7 @@ private:
     QString m_name;
     bool m_isBeingSet = false;
     QList<PropertyId> m_properties;
-    QHash<PropertyId, QJsonObject> m_untouched; ///< of the entries that the cell lacks
+    QHash<PropertyId, QJsonObject> m_untouched; ///< values right after the load
     std::unique_ptr<GridItemEdits> m_edits;
 };
 
