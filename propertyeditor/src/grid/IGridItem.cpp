@@ -1,10 +1,12 @@
 #include "orv/propertyeditor/grid/IGridItem.h"
 
+#include <orv/core/Logging.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/table/PropertyUtils.h>
+#include <orv/table/rn.h>
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -124,7 +126,16 @@ QHash<QString, QMetaType::Type> IGridItem::customColumnTypes() const
 RowNode IGridItem::rowNodeForType(PropertyId id) const
 {
     using namespace PropertyEditorJsonUtils;
-    return propValueToRowNode(getPropertyWithType(m_content, id));
+    const QJsonValue value = getPropertyWithType(m_content, id).value(VALUE_KEY);
+    RowNode table;
+    const bool isRead =
+        value.isObject() ? rn::fromObject(value.toObject(), &table) : value.isNull() || value.isUndefined();
+    if (!isRead)
+        qCWarning(propertyEditorLog).noquote()
+            << "The table" << PropertiesNames::internalNameForType(id) << "of a column of the type"
+            << m_content.value(TYPE_KEY).toString()
+            << "can't be read. It is shown empty and stays as it is unless it is edited.";
+    return table;
 }
 
 QJsonObject IGridItem::contentWith(const QList<std::pair<PropertyId, QJsonObject>> &values) const

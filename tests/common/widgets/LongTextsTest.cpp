@@ -1,4 +1,5 @@
 #include "EditorFixture.h"
+#include "TextRoom.h"
 #include "WidgetTest.h"
 
 #include <orv/widgets/ProgressOutputUtils.h>
@@ -10,31 +11,14 @@
 #include <QDialog>
 #include <QLabel>
 #include <QToolBar>
-#include <QTranslator>
 
 using namespace orv;
 using EditorFixture::Editor;
 using EditorFixture::text;
+using TextRoom::clipped;
+using TextRoom::LongTexts;
 
 namespace {
-
-/// Every text a third longer, as German is, and marked, so that what isn't translated shows.
-class LongTexts : public QTranslator
-{
-public:
-    LongTexts() { QCoreApplication::installTranslator(this); }
-    ~LongTexts() override { QCoreApplication::removeTranslator(this); }
-    Q_DISABLE_COPY_MOVE(LongTexts)
-
-    QString translate(const char * /*context*/, const char *source, const char * /*note*/,
-                      int count) const override
-    {
-        const QString all = text(source);
-        QString longer = all + QString(all.size() / 3 + 1, u'~');
-        return count >= 0 ? longer.replace(text("%n"), QString::number(count)) : longer;
-    }
-    [[nodiscard]] bool isEmpty() const override { return false; }
-};
 
 bool isData(const QString &words)
 {
@@ -63,30 +47,6 @@ QStringList untranslated(const QWidget &window)
     texts.removeIf([](const QString &words) { return isData(words) || words.contains(u'~'); });
     texts.removeDuplicates();
     return texts;
-}
-
-/// Labels and buttons whose text has no room.
-QStringList clipped(const QWidget &window)
-{
-    QStringList names;
-    const QList<QWidget *> children = window.findChildren<QWidget *>();
-    for (const QWidget *child : children) {
-        const auto *const label = qobject_cast<const QLabel *>(child);
-        const auto *const button = qobject_cast<const QAbstractButton *>(child);
-        const bool hasText = (label && !label->wordWrap() && !label->text().isEmpty()) ||
-                             (button && !button->text().isEmpty());
-        const bool isInBar = qobject_cast<const QToolBar *>(child->parentWidget()) != nullptr;
-        if (!hasText || isInBar || !child->isVisible() || child->objectName() == text("message"))
-            continue;
-        const QRect place(child->mapTo(&window, QPoint()), child->size());
-        if (!window.rect().contains(place) || child->width() < child->minimumSizeHint().width())
-            names.append(text("%1 at %2, %3 wide of %4")
-                             .arg(label ? label->text() : button->text())
-                             .arg(place.x())
-                             .arg(child->width())
-                             .arg(child->minimumSizeHint().width()));
-    }
-    return names;
 }
 
 } // namespace

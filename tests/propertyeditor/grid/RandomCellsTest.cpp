@@ -123,6 +123,7 @@ private Q_SLOTS:
     void initTestCase() { ORVPropertyFactory::init(); }
     void uneditedCellsComeBackOrAreRefused_data();
     void uneditedCellsComeBackOrAreRefused();
+    void whatIsNoTableIsLogged();
 };
 
 void RandomCellsTest::uneditedCellsComeBackOrAreRefused_data()
@@ -164,6 +165,16 @@ void RandomCellsTest::uneditedCellsComeBackOrAreRefused()
                                           .constData());
     }
     QVERIFY(loaded > 0);
+}
+
+void RandomCellsTest::whatIsNoTableIsLogged()
+{
+    const LogCapture log;
+    IsotopeTableItem item;
+    QVERIFY(!item.setContent(settingsCell("Isotope", {setting("Isotope", text("carbon"))})).hasError());
+    QCOMPARE(log.warnings(),
+             QStringList(text("The table Isotope of a column of the type Isotope can't be read. It is shown "
+                              "empty and stays as it is unless it is edited.")));
 }
 
 WIDGET_REGISTER_TEST(RandomCellsTest)

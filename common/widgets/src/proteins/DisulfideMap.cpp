@@ -206,7 +206,6 @@ void DisulfideMap::paintChain(QPainter &painter, int chain) const
     painter.setPen(
         QPen(palette().color(QPalette::Mid), fontMetrics().height() / 3.0, Qt::SolidLine, Qt::FlatCap));
     painter.drawLine(QPointF(placeOf({chain, 1}).x(), y), QPointF(placeOf({chain, shown.length}).x(), y));
-    qreal labelled = -1;
     for (const int position : shown.cysteines) {
         const Cysteine cysteine{chain, position};
         const QPointF place = placeOf(cysteine);
@@ -215,11 +214,24 @@ void DisulfideMap::paintChain(QPainter &painter, int chain) const
         painter.setPen(QPen(palette().color(QPalette::WindowText), 1));
         painter.setBrush(palette().color(m_first == cysteine ? QPalette::Highlight : QPalette::Base));
         painter.drawEllipse(place, radius, radius);
+    }
+}
+
+/// Over the bonds, which must not run through the numbers.
+void DisulfideMap::paintPositions(QPainter &painter, int chain) const
+{
+    painter.setPen(palette().color(QPalette::WindowText));
+    qreal labelled = -1;
+    for (const int position : m_chains[chain].cysteines) {
+        const QPointF place = placeOf({chain, position});
         const QString label = QString::number(position);
         const qreal width = fontMetrics().horizontalAdvance(label);
         if (place.x() - width / 2 <= labelled)
             continue;
-        painter.drawText(QPointF(place.x() - width / 2, y + fontMetrics().height() * 1.1), label);
+        const QPointF base(place.x() - width / 2, place.y() + fontMetrics().height() * 1.1);
+        painter.fillRect(QRectF(base.x(), base.y() - fontMetrics().ascent(), width, fontMetrics().height()),
+                         palette().color(QPalette::Window));
+        painter.drawText(base, label);
         labelled = place.x() + width / 2 + fontMetrics().averageCharWidth() / 2.0;
     }
 }
@@ -258,6 +270,8 @@ void DisulfideMap::paintEvent(QPaintEvent * /*event*/)
         paintChain(painter, chain);
     for (const Bond &bond : m_bonds)
         paintBond(painter, bond);
+    for (int chain = 0; chain < m_chains.size(); ++chain)
+        paintPositions(painter, chain);
 }
 
 } // namespace orv

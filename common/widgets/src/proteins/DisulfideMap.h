@@ -66,6 +66,7 @@ private:
     [[nodiscard]] QList<Cysteine> allCysteines() const;
     [[nodiscard]] QString nameOf(const Cysteine &cysteine) const;
     void paintChain(QPainter &painter, int chain) const;
+    void paintPositions(QPainter &painter, int chain) const;
     void paintBond(QPainter &painter, const Bond &bond) const;
 
     QList<Chain> m_chains;
