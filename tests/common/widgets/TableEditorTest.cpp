@@ -52,6 +52,8 @@ private Q_SLOTS:
     void columnsSortByKeyboard();
     void columnsHideAndComeBack();
     void layoutsAreRememberedByKind();
+    void aTableThatWasOnlySeenIsNoLayout();
+    void hiddenColumnsAloneAreALayout();
     void rowsAreFiltered();
     void problemsAreCountedAndVisited();
     void wordsAreFoundAndReplaced();
@@ -368,6 +370,38 @@ void TableEditorTest::layoutsAreRememberedByKind()
     Editor other;
     other.editor.setKind(text("another"));
     QCOMPARE(other.view()->shownColumns().size(), 7);
+}
+
+void TableEditorTest::aTableThatWasOnlySeenIsNoLayout()
+{
+    const QString kind = QUuid::createUuid().toString(QUuid::Id128);
+    {
+        Editor e;
+        e.editor.setKind(kind);
+        QVERIFY(!e.sheet.load({}).hasError());
+        // A program hides what nobody needs.
+        e.view()->setColumnShown(2, false);
+    }
+    Editor again;
+    again.editor.setKind(kind);
+    QVERIFY(!again.sheet.load({{text("a name of some length")}}).hasError());
+    const QFontMetrics font = again.view()->fontMetrics();
+    QVERIFY(again.view()->columnWidth(0) > font.horizontalAdvance(text("a name of some length")));
+    QCOMPARE(again.view()->shownColumns().size(), 7);
+}
+
+void TableEditorTest::hiddenColumnsAloneAreALayout()
+{
+    const QString kind = QUuid::createUuid().toString(QUuid::Id128);
+    {
+        Editor e;
+        e.editor.setKind(kind);
+        e.click(0, 2);
+        e.view()->action(TableView::Command::HideColumns)->trigger();
+    }
+    Editor again;
+    again.editor.setKind(kind);
+    QCOMPARE(again.view()->shownColumns(), QList<int>({0, 1, 3, 4, 5, 6}));
 }
 
 void TableEditorTest::rowsAreFiltered()

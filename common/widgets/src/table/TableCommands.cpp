@@ -413,13 +413,13 @@ void TableCommands::hideColumns()
         return;
     }
     for (const int column : columns)
-        m_view->setColumnShown(column, false);
+        m_view->setColumnShown(column, false, TableView::ChosenBy::Person);
 }
 
 void TableCommands::showAllColumns()
 {
     for (int column = 0; column < m_view->sheet()->columnCount(); ++column)
-        m_view->setColumnShown(column, true);
+        m_view->setColumnShown(column, true, TableView::ChosenBy::Person);
 }
 
 void TableCommands::importFile()

@@ -178,7 +178,8 @@ void TableEditor::setKind(const QString &kind)
 /// The state of a header fits the columns that it was taken of, so their names stand in front.
 void TableEditor::keepLayout()
 {
-    if (d->settingsKey.isEmpty())
+    // What nobody has arranged fits the rows of one document, and not those of the next.
+    if (d->settingsKey.isEmpty() || !d->view->isArranged())
         return;
     const QByteArray state = d->view->horizontalHeader()->saveState().toBase64();
     const QStringList layout = {namesOfColumns(*d->sheet()), QString::fromLatin1(state)};

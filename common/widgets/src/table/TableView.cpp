@@ -29,6 +29,8 @@ public:
     QString emptyText;
     TextReader reader;
     QModelIndex dropCell; ///< only while something is dragged over
+    QList<int> fittedWidths;
+    bool areColumnsChosen = false; ///< by a person
 };
 
 TableView::TableView(TableSheet *sheet, QWidget *parent)
@@ -125,8 +127,9 @@ QList<int> TableView::shownColumns() const
     return columns;
 }
 
-void TableView::setColumnShown(int column, bool isShown)
+void TableView::setColumnShown(int column, bool isShown, ChosenBy by)
 {
+    d->areColumnsChosen = d->areColumnsChosen || by == ChosenBy::Person;
     setColumnHidden(column, !isShown);
     QList<int> hidden;
     for (int i = 0; i < d->model->sheet()->columnCount(); ++i) {
@@ -145,6 +148,21 @@ void TableView::fitColumns()
     const int widest = fontMetrics().averageCharWidth() * 40;
     for (int column = 0; column < d->model->sheet()->columnCount(); ++column)
         setColumnWidth(column, std::min(columnWidth(column) + sign, widest));
+    d->fittedWidths.clear();
+    for (int column = 0; column < d->model->sheet()->columnCount(); ++column)
+        d->fittedWidths.append(columnWidth(column));
+}
+
+bool TableView::isArranged() const
+{
+    bool isArranged = d->areColumnsChosen;
+    for (int column = 0; column < d->fittedWidths.size() && !isArranged; ++column) {
+        // A hidden column has no width.
+        const int fitted = d->fittedWidths[column];
+        const bool isSized = fitted > 0 && !isColumnHidden(column) && columnWidth(column) != fitted;
+        isArranged = isSized || horizontalHeader()->visualIndex(column) != column;
+    }
+    return isArranged;
 }
 
 void TableView::goTo(const QModelIndex &index)
@@ -317,7 +335,8 @@ void TableView::showHeaderMenu(QPoint position)
         shown->setCheckable(true);
         shown->setChecked(!isColumnHidden(column));
         shown->setEnabled(isColumnHidden(column) || shownColumns().size() > 1);
-        connect(shown, &QAction::toggled, this, [this, column](bool on) { setColumnShown(column, on); });
+        connect(shown, &QAction::toggled, this,
+                [this, column](bool on) { setColumnShown(column, on, ChosenBy::Person); });
     }
     menu->popup(horizontalHeader()->mapToGlobal(position));
 }

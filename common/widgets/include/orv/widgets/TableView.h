@@ -72,9 +72,16 @@ public:
 
     /// The columns that aren't hidden, from the beginning of a line on.
     [[nodiscard]] QList<int> shownColumns() const;
-    void setColumnShown(int column, bool isShown);
+    enum class ChosenBy
+    {
+        Program,
+        Person,
+    };
+    void setColumnShown(int column, bool isShown, ChosenBy by = ChosenBy::Program);
     /// Makes columns as wide as their headers and first rows need.
     void fitColumns();
+    /// Whether a person has chosen columns, or some were moved or sized since they were last fitted.
+    [[nodiscard]] bool isArranged() const;
 
     /// Makes a cell the only selected one, and visible.
     void goTo(const QModelIndex &index);
