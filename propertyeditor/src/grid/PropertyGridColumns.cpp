@@ -155,9 +155,8 @@ Result<IGridItem *> PropertyGridWidget::Private::createGridItem(const QVariant &
         return Error(ErrorCode::InvalidContent, gridTr("Type \"%1\" is not supported.").arg(typeText));
     const QPointer<PropertyGridWidget> self(q);
     std::unique_ptr<IGridItem> item(GridItemManager::instance()->createItem(type, bus));
-    if (!item) {
+    if (!item)
         return Error(ErrorCode::InvalidContent, gridTr("Can't create item for \"%1\" type.").arg(typeText));
-    }
     if (auto *view = qobject_cast<GridPropertyEditorView *>(item->widget()))
         view->setDocumentType(type);
     // Other columns hear of the new one, and may close the grid.
@@ -286,8 +285,7 @@ QString PropertyGridWidget::Private::nameOfCopy(const QString &name) const
     for (const QString &existing : columnNames) {
         const qint64 number = numbered.match(existing).captured(1).toLongLong();
         // Nobody made as many copies: such a number is part of the name.
-        if (number < kMostCopies)
-            last = std::max(last, number);
+        last = number < kMostCopies ? std::max(last, number) : last;
     }
     return copy + QStringLiteral(" %1").arg(last + 1);
 }
