@@ -8,6 +8,7 @@ QT_FORWARD_DECLARE_CLASS(QMenu)
 
 namespace orv {
 
+class DocumentHistory;
 class JournalKeeper;
 class RecoveryPanel;
 class Workbench;
@@ -61,6 +62,7 @@ private:
     CoreMainWindow *const m_mainWindow;
     const std::shared_ptr<RecoveryStore> m_store;
     JournalKeeper *m_keeper = nullptr;      ///< a child
+    DocumentHistory *m_history = nullptr;   ///< a child
     RecoveryPanel *m_recovery = nullptr;    ///< in the panel
     QDockWidget *m_recoveryPanel = nullptr; ///< a child
 };

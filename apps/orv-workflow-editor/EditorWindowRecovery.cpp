@@ -39,11 +39,12 @@ void EditorWindow::buildRecovery(Workbench *workbench)
 {
     if (!m_store)
         return;
+    m_history = workbench->history();
     m_keeper =
         new JournalKeeper(this, m_store,
-                          {[this] { return content(); }, [this] { return dFunc()->getLastSavedWorkflow(); },
+                          {[this] { return m_history->state().content(extendedMetadata()); }, [this] { return dFunc()->getLastSavedWorkflow(); },
                            [this] { return dFunc()->lost(); }});
-    connect(workbench->history(), &DocumentHistory::changed, m_keeper, &JournalKeeper::noteEdit);
+    connect(m_history, &DocumentHistory::changed, m_keeper, &JournalKeeper::noteEdit);
     m_recovery = new RecoveryPanel(m_store);
     m_recoveryPanel = workbench->addPanel(m_recovery, QStringLiteral("recovery"), tr("Unsaved Workflows"),
                                           Qt::BottomDockWidgetArea);
@@ -97,7 +98,7 @@ bool EditorWindow::showRecovered(RecoveryStore::Taken &taken, const RecoveryEntr
         return false;
     dFunc()->countAsUnsaved(entry.lost);
     m_keeper->adopt(std::move(taken.journal));
-    setWindowModified(true);
+    m_history->countAsUnsaved();
     statusBar()->showMessage(tr("The workflow was recovered. Save it to keep it."));
     return true;
 }

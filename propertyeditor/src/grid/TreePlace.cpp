@@ -87,7 +87,6 @@ void TreePlace::setFolds(KPropertyEditorView *view, const Folds &folds)
 bool TreePlace::goTo(KPropertyEditorView *view, const QByteArray &name)
 {
     const QModelIndex index = indexOf(*view, name);
-    const QModelIndex index = view->model() ? indexOf(*view, name) : QModelIndex();
     if (!index.isValid())
         return false;
     view->expand(index.parent());

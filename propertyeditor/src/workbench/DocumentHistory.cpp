@@ -18,6 +18,8 @@
 #include <QScopedValueRollback>
 #include <QTextEdit>
 
+#include <optional>
+
 namespace orv {
 
 namespace {
@@ -84,7 +86,7 @@ public:
     PropertyEditorWindow *window;
     ShownState shown;
     DocumentState state;
-    DocumentState saved;
+    std::optional<DocumentState> saved; ///< that lies on the disk
     QList<Step> steps;
     int index = 0;
     qsizetype limit = kDefaultLimit;
@@ -136,12 +138,13 @@ const DocumentState &DocumentHistory::state()
 bool DocumentHistory::isModified()
 {
     takeIn();
-    return !(d->state == d->saved);
+    return !d->saved || !(d->state == *d->saved);
 }
 
-const DocumentState &DocumentHistory::savedState() const
+void DocumentHistory::countAsUnsaved()
 {
-    return d->saved;
+    d->saved.reset();
+    Q_EMIT changed();
 }
 
 int DocumentHistory::count() const

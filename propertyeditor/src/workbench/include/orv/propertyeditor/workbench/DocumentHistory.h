@@ -33,7 +33,8 @@ public:
     /// Whether it is another state than the one that lies on the disk, however it was reached; a document
     /// that was never saved counts from when it was shown.
     [[nodiscard]] bool isModified();
-    [[nodiscard]] const DocumentState &savedState() const;
+    /// No state counts as saved until the next save: of a document that comes from elsewhere than its file.
+    void countAsUnsaved();
 
     [[nodiscard]] int count() const;
     /// How many of the steps are done.
