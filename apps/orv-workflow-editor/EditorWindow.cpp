@@ -7,6 +7,7 @@
 #include <orv/core/Settings.h>
 #include <orv/propertyeditor/window/PropertyEditorDirLocations.h>
 #include <orv/propertyeditor/window/PropertyEditorWindowJsonFile.h>
+#include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/propertyeditor/workbench/JournalKeeper.h>
 #include <orv/propertyeditor/workbench/Workbench.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
@@ -69,6 +70,8 @@ EditorWindow::EditorWindow(CoreMainWindow *mainWindow, std::shared_ptr<RecoveryS
     buildRecovery(new Workbench(this));
     buildHelpMenu();
     restoreLayout();
+    connect(this, &PropertyEditorWindow::documentSaved, this,
+            [this] { RecentFiles::add(workflowFilePath()); });
     connect(this, &PropertyEditorWindow::sendToProcessing, this, &EditorWindow::run);
     connect(this, &PropertyEditorWindow::openProject, this,
             [](const QString &folder) { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); });
@@ -220,6 +223,9 @@ PropertyEditorWindow::OpenStatus EditorWindow::openWorkflow(const QString &fileP
     const OpenStatus status = PropertyEditorDesktopWindow::openWorkflow(filePath, folderToPreselect);
     if (self && status == OpenStatus::Opened)
         RecentFiles::add(filePath);
+    // An empty window has no file that a save would write over.
+    else if (self && workflowTabs()->count() == 0)
+        dFunc()->setWorkflowFilePath({});
     return status;
 }
 

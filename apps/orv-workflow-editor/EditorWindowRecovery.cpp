@@ -40,11 +40,11 @@ void EditorWindow::buildRecovery(Workbench *workbench)
     if (!m_store)
         return;
     m_history = workbench->history();
-    m_keeper =
-        new JournalKeeper(this, m_store,
-                          {[this] { return m_history->state().content(extendedMetadata()); }, [this] { return dFunc()->getLastSavedWorkflow(); },
-                           [this] { return dFunc()->lost(); }});
-    connect(m_history, &DocumentHistory::changed, m_keeper, &JournalKeeper::noteEdit);
+    m_keeper = new JournalKeeper(this, m_store,
+                                 {[this] { return m_history->state().content(extendedMetadata()); },
+                                  [this] { return dFunc()->getLastSavedWorkflow(); },
+                                  [this] { return dFunc()->lost(); }});
+    connect(m_history, &DocumentHistory::stateChanged, m_keeper, &JournalKeeper::noteEdit);
     m_recovery = new RecoveryPanel(m_store);
     m_recoveryPanel = workbench->addPanel(m_recovery, QStringLiteral("recovery"), tr("Unsaved Workflows"),
                                           Qt::BottomDockWidgetArea);

@@ -23,6 +23,7 @@
 #include <orv/widgets/ModalDialog.h>
 #include <orv/widgets/ORVFileDialog.h>
 #include <orv/widgets/ORVStyle.h>
+#include <orv/widgets/SamplesAndTracesInputWidget.h>
 
 #include <QPushButton>
 #include <QToolBar>
@@ -92,7 +93,8 @@ void PropertyEditorWindow::prepareColumns()
 {
     if (d->workflowBaseUrl().isValid())
         d->updateBaseUrlForRelativeUrls();
-    d->connectGridWidgets();
+    if (d->m_connectedSamples.data() != d->m_dependent.samples.data())
+        d->connectGridWidgets();
 }
 
 QToolBar *PropertyEditorWindow::toolBar() const

@@ -85,6 +85,7 @@ struct PropertyEditorWindow::Upgrade
     QList<QString> changes;
     Error error;
     QStringList lost; ///< of what was read, before the document is shown
+    bool isSaved = false;
 };
 
 OpenStatus PropertyEditorWindow::selectAndOpenWorkflow()
@@ -151,7 +152,11 @@ OpenStatus PropertyEditorWindow::openWorkflow(PropertyEditorContent *content,
     if (const std::optional<OpenStatus> refusal = applyUpgrade(content, path, &upgrade))
         return *refusal;
     tellDocumentType(*content);
-    return self ? display(*content, upgrade.lost) : OpenStatus::NotOpened;
+    const OpenStatus status = self ? display(*content, upgrade.lost) : OpenStatus::NotOpened;
+    const bool isUpgraded = !isSameVersion(upgrade.version, WflwMetaData::currentWorkflowVersion());
+    if (self && status == OpenStatus::Opened && isUpgraded && !upgrade.isSaved)
+        Q_EMIT documentUpgraded();
+    return status;
 }
 
 /// What keeps the document from being opened, before anything is changed.
@@ -218,7 +223,7 @@ std::optional<OpenStatus> PropertyEditorWindow::applyUpgrade(PropertyEditorConte
     if (!upgrade->error.hasError()) {
         qCInfo(propertyEditorLog) << "Workflow was upgraded";
         if (answer == QMessageBox::No)
-            saveUpgraded(*content, path);
+            upgrade->isSaved = saveUpgraded(*content, path);
         return self ? std::nullopt : std::optional(OpenStatus::NotOpened);
     }
     qCCritical(propertyEditorLog) << "Workflow updating failed" << int(upgrade->error.code());
@@ -233,7 +238,7 @@ std::optional<OpenStatus> PropertyEditorWindow::applyUpgrade(PropertyEditorConte
     return self && goOn == QMessageBox::Yes ? std::nullopt : std::optional(OpenStatus::NotOpened);
 }
 
-void PropertyEditorWindow::saveUpgraded(const PropertyEditorContent &content, const QString &path)
+bool PropertyEditorWindow::saveUpgraded(const PropertyEditorContent &content, const QString &path)
 {
     const QPointer<PropertyEditorWindow> self(this);
     static const FileExtensionsNameFilter filter{MirelFileTypes::WFLW};
@@ -242,15 +247,17 @@ void PropertyEditorWindow::saveUpgraded(const PropertyEditorContent &content, co
         accessor->getSaveFileName(this, tr("Save upgraded workflow"), QFileInfo(path).absolutePath(), filter,
                                   FileSystemSettings::DefaultLocation);
     if (!self || destination.isCanceled())
-        return;
+        return false;
+    bool isSaved = false;
     Error error = accessor->saveFile(destination, [&](const QString &localPath) -> Error {
         const bool isLocal = destination.reference()->isScheme(ResourceReference::Scheme::LocalFile);
         const bool isWritten = PropertyEditorWindowJsonFile(localPath).saveTabsToJson(content);
         if (isWritten && isLocal && self)
             d->setWorkflowFilePath(localPath);
+        isSaved = isWritten;
         return Error::NoError;
     });
-    error.ecatch();
+    return !error.ecatch().hasError() && isSaved;
 }
 
 OpenStatus PropertyEditorWindow::display(const PropertyEditorContent &content, const QStringList &lost)

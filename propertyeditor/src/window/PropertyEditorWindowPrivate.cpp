@@ -188,8 +188,9 @@ void PropertyEditorWindowPrivate::connectGridWidgets()
     const SamplesAndTracesInputWidget *samples = m_dependent.samples;
     if (!samples)
         return;
+    m_connectedSamples = m_dependent.samples.data();
     connect(samples, &SamplesAndTracesInputWidget::removeCustomColumn, this,
-            &PropertyEditorWindowPrivate::removeCustomColumn, Qt::UniqueConnection);
+            &PropertyEditorWindowPrivate::removeCustomColumn);
     connect(samples, &SamplesAndTracesInputWidget::samplesChanged, this,
             &PropertyEditorWindowPrivate::samplesChanged,
             Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));

@@ -112,6 +112,7 @@ bool PropertyEditorWindow::saveWorkflowToJSON(const QString &path)
 
 void PropertyEditorWindow::beginReload()
 {
+    Q_EMIT aboutToReload();
     d->m_isReloading = true;
 }
 

@@ -4,7 +4,6 @@
 #include "StateDisplay.h"
 #include "StepText.h"
 
-#include <orv/core/Logging.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/table_model/TableHistory.h>
@@ -15,9 +14,10 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPointer>
-#include <QScopedValueRollback>
+#include <QStatusBar>
 #include <QTextEdit>
 
+#include <functional>
 #include <optional>
 
 namespace orv {
@@ -29,6 +29,7 @@ struct Step
     StateChange change;
     QString text;
     QList<TableMove> tables;
+    qsizetype bytes = 0;
 };
 
 /// The field in which somebody types, outside of the cells of views; null where nobody does.
@@ -72,7 +73,9 @@ public:
     void begin();
     void takeSaved();
     void expectEdits();
+    void whenHandled(const std::function<void()> &act);
     void takeIn();
+    void tellOtherState();
     void record(const DocumentState &now);
     void push(const DocumentState &now, const QList<TableMove> &moves);
     [[nodiscard]] bool isStepOfTable(const DocumentState &now, const QList<TableMove> &moves);
@@ -92,6 +95,7 @@ public:
     qsizetype limit = kDefaultLimit;
     bool isPending = false;
     bool isTravelling = false;
+    int generation = 0;          ///< of documents
     bool isSettling = false;     ///< what is told is the echo of a step
     QPointer<QWidget> field;     ///< in which the last step was made, as long as it may go on
     QPointer<QWidget> nextField; ///< the same for what is told and not yet taken in
@@ -107,6 +111,8 @@ DocumentHistory::DocumentHistory(PropertyEditorWindow *window)
     , d(std::make_unique<Private>(this, window))
 {
     connect(window, &PropertyEditorWindow::documentShown, this, [this] { d->begin(); });
+    connect(window, &PropertyEditorWindow::documentUpgraded, this, &DocumentHistory::countAsUnsaved);
+    connect(window, &PropertyEditorWindow::aboutToReload, this, &DocumentHistory::takeIn);
     connect(window, &PropertyEditorWindow::documentSaved, this, [this] { d->takeSaved(); });
     connect(window, &PropertyEditorWindow::metadataEdited, this, [this] { d->expectEdits(); });
     connect(window->workflowTabs(), &WorkflowTabs::edited, this, [this] {
@@ -129,16 +135,18 @@ DocumentHistory::DocumentHistory(PropertyEditorWindow *window)
 
 DocumentHistory::~DocumentHistory() = default;
 
-const DocumentState &DocumentHistory::state()
+DocumentState DocumentHistory::state()
 {
+    const QPointer<DocumentHistory> self(this);
     takeIn();
-    return d->state;
+    return self ? d->state : DocumentState();
 }
 
 bool DocumentHistory::isModified()
 {
+    const QPointer<DocumentHistory> self(this);
     takeIn();
-    return !d->saved || !(d->state == *d->saved);
+    return self && (!d->saved || !(d->state == *d->saved));
 }
 
 void DocumentHistory::countAsUnsaved()
@@ -171,7 +179,7 @@ qsizetype DocumentHistory::heldBytes() const
 {
     qsizetype bytes = 0;
     for (const Step &step : std::as_const(d->steps))
-        bytes += step.change.heldBytes();
+        bytes += step.bytes;
     return bytes;
 }
 
@@ -223,8 +231,10 @@ DocumentHistory::Group::~Group()
 /// Another document is shown.
 void DocumentHistory::Private::begin()
 {
-    if (isTravelling)
-        return;
+    // Whoever hears of a step may load a document; the step ends there.
+    ++generation;
+    isTravelling = false;
+    isSettling = false;
     isPending = false;
     shown.forget();
     state = shown.read();
@@ -242,7 +252,9 @@ void DocumentHistory::Private::takeSaved()
     isPending = false;
     shown.forget();
     const DocumentState written = shown.read();
-    // The stamp of a save isn't part of the step before it.
+    // The stamps of a save are part of no step.
+    for (Step &step : steps)
+        step.change.followMetadata(state.metadata, written.metadata);
     state.metadata = written.metadata;
     settle(written);
     static_cast<void>(shown.takeMoves());
@@ -253,29 +265,42 @@ void DocumentHistory::Private::takeSaved()
 
 void DocumentHistory::Private::expectEdits()
 {
-    if (isTravelling || std::exchange(isPending, true))
-        return;
-    // Other columns follow an edit when its event has been handled; that is part of it.
+    if (!isTravelling && !std::exchange(isPending, true))
+        whenHandled([this] { takeIn(); });
+}
+
+/// Other columns follow an edit when its event has been handled; that is part of it.
+void DocumentHistory::Private::whenHandled(const std::function<void()> &act)
+{
     QMetaObject::invokeMethod(
-        q, [this] { QMetaObject::invokeMethod(q, &DocumentHistory::takeIn, Qt::QueuedConnection); },
-        Qt::QueuedConnection);
+        q, [this, act] { QMetaObject::invokeMethod(q, act, Qt::QueuedConnection); }, Qt::QueuedConnection);
 }
 
 void DocumentHistory::Private::takeIn()
 {
-    const bool isEcho = std::exchange(isSettling, false);
     if (isTravelling || !std::exchange(isPending, false))
         return;
     const DocumentState now = shown.read();
     if (now == state) {
         static_cast<void>(shown.takeMoves());
+        nextField = nullptr;
+        if (std::exchange(isFieldLeft, false))
+            field = nullptr;
         return;
     }
-    if (isEcho)
+    if (isSettling)
         settle(now);
     else
         record(now);
-    Q_EMIT q->changed();
+    tellOtherState();
+}
+
+void DocumentHistory::Private::tellOtherState()
+{
+    const QPointer<DocumentHistory> self(q);
+    Q_EMIT q->stateChanged();
+    if (self)
+        Q_EMIT q->changed();
 }
 
 void DocumentHistory::Private::record(const DocumentState &now)
@@ -293,7 +318,8 @@ void DocumentHistory::Private::record(const DocumentState &now)
         steps.removeLast();
         --index;
         if (now == state) {
-            state = now;
+            field = nullptr;
+            groupHasStep = false;
             return;
         }
     }
@@ -309,7 +335,7 @@ void DocumentHistory::Private::push(const DocumentState &now, const QList<TableM
         const TableHistory *table = isForth ? moves.constFirst().history.data() : nullptr;
         text = StepText::of(state, change, now, table ? table->undoText() : QString());
     }
-    steps.append({change, text, moves});
+    steps.append({change, text, moves, change.heldBytes() + text.size() * qsizetype(sizeof(QChar))});
     ++index;
     state = now;
     trim();
@@ -379,20 +405,23 @@ void DocumentHistory::Private::travel(StateChange::Direction direction)
     if (!self || isTravelling || (isBack ? index == 0 : index == steps.size()))
         return;
     isTravelling = true;
+    const int document = generation;
     const Step step = steps.at(isBack ? index - 1 : index);
     const DocumentState from = state;
     const DocumentState to = step.change.applied(state, direction);
-    if (!moveTables(step, direction))
+    const auto goesOn = [self, this, document] { return self && document == generation; };
+    if (!moveTables(step, direction) || !goesOn())
         return;
-    StateDisplay display(window);
+    StateDisplay display(window, goesOn);
     const Error error = display.show(from, to);
-    if (!self)
+    if (!goesOn())
+        return;
+    display.goTo(from, to);
+    if (!goesOn())
         return;
     if (error.hasError())
-        qCWarning(propertyEditorLog).noquote() << "Not all of a step can be shown" << error.errorMessage();
-    display.goTo(from, to);
-    if (!self)
-        return;
+        window->statusBar()->showMessage(
+            tr("Not all of the step can be shown: %1").arg(error.errorMessage()));
     index += isBack ? -1 : 1;
     state = to;
     shown.forget(step.change);
@@ -401,9 +430,11 @@ void DocumentHistory::Private::travel(StateChange::Direction direction)
     field = nullptr;
     isTravelling = false;
     isSettling = true;
-    isPending = false;
-    expectEdits();
-    Q_EMIT q->changed();
+    whenHandled([this] {
+        takeIn();
+        isSettling = false;
+    });
+    tellOtherState();
 }
 
 /// What was typed there and isn't taken in yet still belongs to the step.
@@ -419,7 +450,7 @@ void DocumentHistory::Private::trim()
 {
     qsizetype bytes = q->heldBytes();
     while (bytes > limit && steps.size() > 1 && index > 0) {
-        bytes -= steps.constFirst().change.heldBytes();
+        bytes -= steps.constFirst().bytes;
         steps.removeFirst();
         --index;
     }

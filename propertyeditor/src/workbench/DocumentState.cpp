@@ -143,6 +143,20 @@ DocumentState StateChange::applied(DocumentState state, Direction direction) con
     return state;
 }
 
+void StateChange::followMetadata(const QJsonObject &before, const QJsonObject &after)
+{
+    if (!m_metadata)
+        return;
+    const QStringList keys = before.keys() + after.keys();
+    for (const QString &key : keys) {
+        if (before.value(key) == after.value(key))
+            continue;
+        // An undefined value takes the member away.
+        m_metadata->first.insert(key, after.value(key));
+        m_metadata->second.insert(key, after.value(key));
+    }
+}
+
 qsizetype StateChange::heldBytes() const
 {
     constexpr qsizetype kEach = 200;

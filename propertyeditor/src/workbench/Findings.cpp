@@ -14,6 +14,7 @@
 #include <orv/propertyeditor/grid/PropertyGridWidget.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
+#include <orv/propertyeditor/workbench/DocumentHistory.h>
 #include <orv/widgets/Icons.h>
 #include <orv/widgets/TableView.h>
 
@@ -77,6 +78,7 @@ private:
 
     void leave();
 
+    DocumentHistory *const m_history;
     SettingVisits m_visits;
     QPointer<QWidget> m_visited; ///< the last
     bool m_isAsked = false;      ///< by a person, who waits for the panel
@@ -92,6 +94,7 @@ Findings::Private::Private(Findings *owner, Workbench *workbench)
     , panel(new FindingsPanel)
     , dock(workbench->addPanel(panel, QStringLiteral("findingsPanel"), tr("Findings"),
                                Qt::BottomDockWidgetArea))
+    , m_history(workbench->history())
 {
     QMenu *menu = workbench->viewMenu();
     menu->addSeparator();
@@ -143,10 +146,12 @@ void Findings::Private::connectWindow()
         if (isChecked)
             recheck();
     });
-    connect(window->workflowTabs(), &WorkflowTabs::edited, q, [this] {
+    const auto checkSoon = [this] {
         if (isChecked || checking.isRunning())
             m_pause.start();
-    });
+    };
+    connect(window->workflowTabs(), &WorkflowTabs::edited, q, checkSoon);
+    connect(m_history, &DocumentHistory::stateChanged, q, checkSoon);
 }
 
 void Findings::Private::check()

@@ -9,6 +9,7 @@
 #include <QAccessible>
 #include <QDir>
 #include <QEvent>
+#include <QPointer>
 #include <QStatusBar>
 
 namespace orv {
@@ -81,8 +82,6 @@ void JournalKeeper::noteEdit()
     m_hasEdit = true;
     if (!m_timer.isActive())
         m_timer.start();
-    if (m_isClosing)
-        flush();
 }
 
 void JournalKeeper::flush()
@@ -93,7 +92,11 @@ void JournalKeeper::flush()
         begin();
     m_timer.stop();
     m_hasEdit = false;
-    m_journal->write(m_source.state(), m_source.lost ? m_source.lost() : QStringList());
+    // Reading takes in what was told of edits, and whoever hears of that may close the window.
+    const QPointer<JournalKeeper> self(this);
+    const PropertyEditorContent state = m_source.state();
+    if (self && m_journal)
+        m_journal->write(state, m_source.lost ? m_source.lost() : QStringList());
 }
 
 bool JournalKeeper::eventFilter(QObject *watched, QEvent *event)

@@ -29,6 +29,13 @@ QString shortenedChange(const QString &text)
     return text.size() <= kLongestChange ? text : text.left(kLongestChange - 1) + QChar(0x2026);
 }
 
+/// Its end tells which setting it is.
+QString shortenedPlace(const QString &path)
+{
+    constexpr qsizetype kLongestPlace = 400;
+    return path.size() <= kLongestPlace ? path : QChar(0x2026) + path.right(kLongestPlace - 1);
+}
+
 QString changedText(const QJsonValue &value)
 {
     if (value.isUndefined())
@@ -98,7 +105,8 @@ RecoveryChanges changesBetween(const QJsonObject &before, const QJsonObject &aft
     for (const WorkflowDifference &difference : differences) {
         if (changes.told.size() == RecoveryChanges::kMostTold)
             break;
-        changes.told.append({difference.path, changedText(difference.left), changedText(difference.right)});
+        changes.told.append(
+            {shortenedPlace(difference.path), changedText(difference.left), changedText(difference.right)});
     }
     return changes;
 }

@@ -85,12 +85,16 @@ ShownState::Column &ShownState::known(IGridItem &item)
 void ShownState::follow(IGridItem &item, Column *column)
 {
     const GridItemEdits *edits = item.edits();
-    connect(edits, &GridItemEdits::edited, this, [this, edits] { m_columns[edits].isRead = false; });
+    const auto isEdited = [this, edits] {
+        if (const auto known = m_columns.find(edits); known != m_columns.end())
+            known->isRead = false;
+    };
+    connect(edits, &GridItemEdits::edited, this, isEdited);
     connect(edits, &QObject::destroyed, this, [this, edits] { m_columns.remove(edits); });
     QWidget *widget = item.widget();
     if (auto *view = qobject_cast<GridPropertyEditorView *>(widget))
-        connect(view, &GridPropertyEditorView::propertyChanged, this, [this, edits] {
-            m_columns[edits].isRead = false;
+        connect(view, &GridPropertyEditorView::propertyChanged, this, [this, isEdited] {
+            isEdited();
             Q_EMIT settingEdited();
         });
     if (!widget)

@@ -84,10 +84,19 @@ bool takeValues(GridPropertyEditorView &view, const QJsonObject &cell)
     return self && shown;
 }
 
+void keepFirst(Error *first, Error error)
+{
+    if (first->hasError())
+        error.ecatch();
+    else
+        *first = error.ecatch();
+}
+
 } // namespace
 
-StateDisplay::StateDisplay(PropertyEditorWindow *window)
+StateDisplay::StateDisplay(PropertyEditorWindow *window, std::function<bool()> goesOn)
     : m_window(window)
+    , m_goesOn(std::move(goesOn))
     , m_tabs(window->workflowTabs())
 {}
 
@@ -96,19 +105,19 @@ Error StateDisplay::show(const DocumentState &from, const DocumentState &to)
     const StateChange change = StateChange::between(from, to);
     if (change.hasOtherMetadata())
         m_window->setWorkflowMetadata(to.metadata);
-    if (change.hasOtherTabs())
-        ORV_RETURN_IF_ERROR(exchangeTabs(change));
+    // What can't be shown keeps nothing else from being shown.
+    Error error = change.hasOtherTabs() ? exchangeTabs(change) : Error(Error::NoError);
     for (const StateChange::CellChange &cell : change.cells()) {
-        const QPointer<PropertyGridWidget> grid = m_window ? m_tabs->grid(cell.tab) : nullptr;
+        const QPointer<PropertyGridWidget> grid = m_goesOn() ? m_tabs->grid(cell.tab) : nullptr;
         if (!grid)
             continue;
         const DocumentState::Tab &tab = to.tabs.at(cell.tab);
-        const QByteArray &text = tab.cells.at(cell.column);
-        ORV_RETURN_IF_ERROR(updateColumn(*grid, cell.column, tab.columns.value(cell.column), {}, text));
+        keepFirst(&error, updateColumn(*grid, cell.column, tab.columns.value(cell.column), {},
+                                       tab.cells.at(cell.column)));
     }
-    if (m_window && change.hasOtherTabs())
+    if (m_goesOn() && change.hasOtherTabs())
         m_window->prepareColumns();
-    return Error::NoError;
+    return error.ecatch();
 }
 
 Error StateDisplay::exchangeTabs(const StateChange &change)
@@ -121,23 +130,25 @@ Error StateDisplay::exchangeTabs(const StateChange &change)
         return Error::NoError;
     }
     if (from.size() == to.size()) {
-        for (int i = 0; i < to.size() && m_window; ++i)
-            ORV_RETURN_IF_ERROR(updateTab(first + i, from.at(i), to.at(i)));
-        return Error::NoError;
+        Error error;
+        for (int i = 0; i < to.size() && m_goesOn(); ++i)
+            keepFirst(&error, updateTab(first + i, from.at(i), to.at(i)));
+        return error.ecatch();
     }
     // What stands at both ends of the tabs that differ may be the same.
     qsizetype same = 0;
     while (same < std::min(from.size(), to.size()) && from.at(same) == to.at(same))
         ++same;
-    for (qsizetype i = same; i < from.size() && m_window; ++i)
+    for (qsizetype i = same; i < from.size() && m_goesOn(); ++i)
         m_tabs->remove(first + int(same));
-    for (qsizetype i = same; i < to.size() && m_window; ++i) {
+    Error error;
+    for (qsizetype i = same; i < to.size() && m_goesOn(); ++i) {
         const int index = first + int(i);
-        ORV_RETURN_IF_ERROR(m_tabs->insert(index, to.at(i).content()));
-        if (const PropertyGridWidget *grid = m_window ? m_tabs->grid(index) : nullptr)
+        keepFirst(&error, m_tabs->insert(index, to.at(i).content()));
+        if (const PropertyGridWidget *grid = m_goesOn() ? m_tabs->grid(index) : nullptr)
             WorkflowTabs::collapseAll(*grid);
     }
-    return Error::NoError;
+    return error.ecatch();
 }
 
 Error StateDisplay::updateTab(int index, const DocumentState::Tab &from, const DocumentState::Tab &to)
@@ -164,12 +175,13 @@ Error StateDisplay::exchangeColumns(PropertyGridWidget &grid, const DocumentStat
             moved.cells.move(move->first, move->second);
             return shown ? exchangeColumns(grid, moved, to) : Error(Error::NoError);
         }
-        for (int i = 0; i < to.cells.size() && shown; ++i) {
+        Error error;
+        for (int i = 0; i < to.cells.size() && shown && m_goesOn(); ++i) {
             if (from.columns.value(i) != to.columns.value(i) || from.cells.at(i) != to.cells.at(i))
-                ORV_RETURN_IF_ERROR(
-                    updateColumn(grid, i, to.columns.value(i), from.cells.at(i), to.cells.at(i)));
+                keepFirst(&error,
+                          updateColumn(grid, i, to.columns.value(i), from.cells.at(i), to.cells.at(i)));
         }
-        return Error::NoError;
+        return error.ecatch();
     }
     const qsizetype shorter = std::min(from.cells.size(), to.cells.size());
     qsizetype head = 0;
@@ -179,11 +191,12 @@ Error StateDisplay::exchangeColumns(PropertyGridWidget &grid, const DocumentStat
     while (tail < shorter - head &&
            from.cells.at(from.cells.size() - 1 - tail) == to.cells.at(to.cells.size() - 1 - tail))
         ++tail;
-    for (qsizetype i = head; i < from.cells.size() - tail && shown; ++i)
+    for (qsizetype i = head; i < from.cells.size() - tail && shown && m_goesOn(); ++i)
         grid.removeColumn(int(head));
-    for (qsizetype i = head; i < to.cells.size() - tail && shown; ++i)
-        ORV_RETURN_IF_ERROR(grid.insertColumn(int(i), to.columns.value(i), to.cells.at(i)));
-    return Error::NoError;
+    Error error;
+    for (qsizetype i = head; i < to.cells.size() - tail && shown && m_goesOn(); ++i)
+        keepFirst(&error, grid.insertColumn(int(i), to.columns.value(i), to.cells.at(i)));
+    return error.ecatch();
 }
 
 Error StateDisplay::updateColumn(PropertyGridWidget &grid, int column, const QString &name,
@@ -195,12 +208,14 @@ Error StateDisplay::updateColumn(PropertyGridWidget &grid, int column, const QSt
     IGridItem *item = shown ? grid.items().value(column) : nullptr;
     if (!item)
         return Error::NoError;
-    item->setName(memberOf(to, NAME_KEY));
     if (textOf(*item) == to)
         return Error::NoError;
+    item->setName(memberOf(to, NAME_KEY));
     if (!from.isEmpty() && memberOf(from, TYPE_KEY) != memberOf(to, TYPE_KEY)) {
-        grid.removeColumn(column);
-        return shown ? grid.insertColumn(column, name, to) : Error(Error::NoError);
+        ORV_RETURN_IF_ERROR(grid.insertColumn(column, name, to));
+        if (shown && m_goesOn())
+            grid.removeColumn(column + 1);
+        return Error::NoError;
     }
     const QJsonObject cell = QJsonDocument::fromJson(to).object();
     if (const QPointer view = qobject_cast<GridPropertyEditorView *>(item->widget())) {
@@ -237,9 +252,11 @@ void StateDisplay::goTo(const DocumentState &from, const DocumentState &to)
     QWidget *widget = item ? item->widget() : nullptr;
     if (!widget)
         return;
-    const QList<ChangedEntry> changed = changedEntries(
-        QJsonDocument::fromJson(from.tabs.at(cell.tab).cells.at(cell.column)).object(), item->content());
     const QPointer view = qobject_cast<GridPropertyEditorView *>(widget);
+    const QList<ChangedEntry> changed =
+        view ? changedEntries(QJsonDocument::fromJson(from.tabs.at(cell.tab).cells.at(cell.column)).object(),
+                              QJsonDocument::fromJson(to.tabs.at(cell.tab).cells.at(cell.column)).object())
+             : QList<ChangedEntry>();
     SettingJump::show(m_window, widget);
     if (view && !changed.isEmpty())
         view->goTo(changed.constFirst().after.value(NAME_KEY).toString().toUtf8());

@@ -6,6 +6,8 @@
 
 #include <QPointer>
 
+#include <functional>
+
 namespace orv {
 
 class IGridItem;
@@ -18,9 +20,11 @@ class WorkflowTabs;
 class StateDisplay
 {
 public:
-    explicit StateDisplay(PropertyEditorWindow *window);
+    /// \a goesOn is asked behind whatever others hear of: false once the window has gone, or shows another
+    /// document.
+    StateDisplay(PropertyEditorWindow *window, std::function<bool()> goesOn);
 
-    /// Fails where a column can't be shown, with what could be shown; the window may be gone afterwards.
+    /// Fails where a column can't be shown, with what the first of them says, and shows the others.
     [[nodiscard]] Error show(const DocumentState &from, const DocumentState &to);
 
     /// Where somebody looks to see what was shown by that.
@@ -35,6 +39,7 @@ private:
                                      const QByteArray &from, const QByteArray &to);
 
     QPointer<PropertyEditorWindow> m_window;
+    std::function<bool()> m_goesOn;
     WorkflowTabs *m_tabs;
 };
 

@@ -161,8 +161,10 @@ bool isTable(const QByteArray &cell)
 QString StepText::of(const DocumentState &before, const StateChange &change, const DocumentState &after,
                      const QString &inTable)
 {
-    if (change.hasOtherTabs())
-        return tabsText(change);
+    if (change.hasOtherTabs()) {
+        const QString text = tabsText(change);
+        return text.isEmpty() ? StepTextTr::tr("Tabs and columns") : text;
+    }
     if (change.cells().isEmpty())
         return StepTextTr::tr("Workflow properties");
     // Who follows an edit stands behind the one who made it, where that is a table.

@@ -44,14 +44,16 @@ void Workbench::addHistory()
 
 void Workbench::updateHistory()
 {
-    const auto show = [](QAction *action, const QString &plain, const QString &named, QString step,
-                         const QString &reason) {
-        action->setEnabled(!step.isEmpty());
-        action->setToolTip(step.isEmpty() ? reason : step);
-        action->setText(step.isEmpty() ? plain : named.arg(step.replace(u'&', QLatin1String("&&"))));
+    const auto show = [](QAction *action, const QString &plain, const QString &named, bool isThere,
+                         QString step, const QString &reason) {
+        action->setEnabled(isThere);
+        action->setToolTip(isThere ? step : reason);
+        action->setText(isThere ? named.arg(step.replace(u'&', QLatin1String("&&"))) : plain);
     };
-    show(m_undo, tr("&Undo"), tr("&Undo: %1"), m_history->undoText(), tr("Nothing was edited yet."));
-    show(m_redo, tr("&Redo"), tr("&Redo: %1"), m_history->redoText(), tr("Nothing was undone."));
+    show(m_undo, tr("&Undo"), tr("&Undo: %1"), m_history->canUndo(), m_history->undoText(),
+         tr("Nothing was edited yet."));
+    show(m_redo, tr("&Redo"), tr("&Redo: %1"), m_history->canRedo(), m_history->redoText(),
+         tr("Nothing was undone."));
     m_window->setWindowModified(m_history->isModified());
 }
 

@@ -1,92 +1,11 @@
-#include "WidgetTest.h"
-#include "WindowFixture.h"
-#include "editors/LeavingWays.h"
-#include "grid/PersonActs.h"
-#include "grid/WholeWorkflow.h"
+#include "HistoryFixture.h"
 
-#include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/grid/EditableTabBar.h>
-#include <orv/propertyeditor/window/WorkflowTabs.h>
-#include <orv/propertyeditor/workbench/DocumentHistory.h>
-#include <orv/propertyeditor/workbench/Workbench.h>
-#include <orv/table_model/TableHistory.h>
-#include <orv/table_model/TableSheet.h>
-#include <orv/widgets/TableView.h>
 
-#include <QRandomGenerator>
 #include <QSignalSpy>
 
 using namespace orv;
-using namespace Qt::StringLiterals;
-using WindowFixture::Window;
-
-namespace {
-
-QJsonObject searchCell()
-{
-    using WindowFixture::setting;
-    return WindowFixture::karvonCell(
-        {setting("KarvonDigestLetters", u"RK"_s, "Digestion"), setting("KarvonCentroidTopk", 1000),
-         setting("KarvonFragmentMassError", QJsonObject{{u"value"_s, 10.1234}, {u"unit"_s, u"ppm"_s}})});
-}
-
-/// A window with a workbench that shows a document.
-struct Edited
-{
-    explicit Edited(const QJsonObject &document = WindowFixture::documentOf({searchCell()}))
-        : workbench(new Workbench(&window))
-        , history(workbench->history())
-    {
-        if (window.openWorkflow(document) != WindowFixture::kOpened)
-            qFatal("The fixture doesn't load");
-        window.resize(1000, 700);
-        window.show();
-    }
-
-    KPropertyEditorView &tree(int tab = 0, int column = 0)
-    {
-        return *static_cast<GridPropertyEditorView *>(window.grid(tab)->items().at(column)->widget())
-                    ->editorView();
-    }
-    /// Without the stamps of a save.
-    QByteArray shown()
-    {
-        return QJsonDocument(PropertyEditorJsonUtils::withoutStamps(window.content().document())).toJson();
-    }
-    void key(Qt::Key code, Qt::KeyboardModifiers modifiers = Qt::ControlModifier)
-    {
-        QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &window, code, modifiers);
-    }
-    QString value(const char *name) { return tree().propertySet()->property(name).value().toString(); }
-    /// As a person does it, and the events behind it.
-    void type(const char *setting, const char *value)
-    {
-        tree().expandAll();
-        if (!LeavingWays::open(tree(), setting))
-            qFatal("There is no editor for %s", setting);
-        LeavingWays::type(QString::fromUtf8(value));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        tree().setFocus();
-        history->takeIn();
-    }
-
-    Window window;
-    Workbench *workbench;
-    DocumentHistory *history;
-    ScriptedAnswerer answers;
-};
-
-QStringList namesOf(const Edited &edited)
-{
-    QStringList names;
-    while (edited.history->canUndo()) {
-        names.prepend(edited.history->undoText());
-        edited.history->undo();
-    }
-    return names;
-}
-
-} // namespace
+using namespace HistoryFixture;
 
 class HistoryTest : public WidgetTest
 {
@@ -98,22 +17,23 @@ private Q_SLOTS:
     void keysAndMenuUndoAndRedo();
     void typingOfOneFieldIsOneStep();
     void whatEndsAsItBeganIsNoStep();
+    void whatIsTypedAnewTakesNoOtherStepAlong();
     void typedBackIsAStepOfItsOwn();
     void openEditorsAreTakenOverFirst();
     void columnsAreUndone();
     void tabsAreUndone();
     void propertiesOfTheWorkflowAreUndone();
     void theSavedStateIsAState();
+    void savingBetweenStepsOfPropertiesStaysSaved();
+    void upgradedDocumentsCountAsUnsaved();
     void stepsOutliveASave();
     void anotherDocumentBeginsAnew();
     void thePlaceIsShown();
     void foldsAndScrollStay();
     void groupsAreOneStep();
+    void tabsOfOneTitleAreMovedBack();
+    void anotherDocumentLoadedInAHandlerKeepsItself();
     void oldStepsGoFirst();
-    void everythingIsUndone_data();
-    void everythingIsUndone();
-    void tablesTakeTheirOwnStepsBack();
-    void randomEditsGoBackAndForth();
     void theWindowMayGoWhileItIsTold();
 };
 
@@ -192,6 +112,23 @@ void HistoryTest::whatEndsAsItBeganIsNoStep()
     edited.history->takeIn();
     QCOMPARE(edited.value("KarvonDigestLetters"), u"RK"_s);
     QCOMPARE(edited.history->count(), 0);
+}
+
+void HistoryTest::whatIsTypedAnewTakesNoOtherStepAlong()
+{
+    Edited edited;
+    edited.type("KarvonCentroidTopk", "500");
+    QVERIFY(LeavingWays::open(edited.tree(), "KarvonDigestLetters"));
+    for (const Qt::Key code : {Qt::Key_End, Qt::Key_F, Qt::Key_Backspace, Qt::Key_G}) {
+        QTest::keyClick(QApplication::focusWidget(), code);
+        QCoreApplication::processEvents();
+    }
+    edited.tree().setFocus();
+    QCoreApplication::processEvents();
+    QCOMPARE(edited.history->count(), 2);
+    edited.history->undo();
+    QCOMPARE(edited.value("KarvonDigestLetters"), u"RK"_s);
+    QCOMPARE(edited.value("KarvonCentroidTopk"), u"500"_s);
 }
 
 void HistoryTest::typedBackIsAStepOfItsOwn()
@@ -300,6 +237,36 @@ void HistoryTest::theSavedStateIsAState()
     QVERIFY(!edited.history->isModified());
 }
 
+void HistoryTest::savingBetweenStepsOfPropertiesStaysSaved()
+{
+    const QTemporaryDir folder;
+    Edited edited;
+    QJsonObject metadata = edited.window.workflowMetadata();
+    metadata.insert(u"description"_s, u"Reduced digest"_s);
+    edited.window.setWorkflowMetadata(metadata);
+    Q_EMIT edited.window.metadataEdited();
+    edited.history->takeIn();
+    QVERIFY(edited.window.saveWorkflowToJSON(folder.filePath(u"saved.wflw"_s)));
+    const QJsonObject written = edited.window.workflowMetadata();
+    edited.history->undo();
+    QVERIFY(edited.history->isModified());
+    QVERIFY(!edited.window.workflowMetadata().contains(u"description"_s));
+    edited.history->redo();
+    QVERIFY(!edited.history->isModified());
+    QCOMPARE(edited.window.workflowMetadata(), written);
+}
+
+void HistoryTest::upgradedDocumentsCountAsUnsaved()
+{
+    Edited edited;
+    edited.answers.expectBox(u"Workflow upgrade"_s, u"Apply"_s);
+    QCOMPARE(edited.window.openWorkflow(
+                 WindowFixture::documentOf({searchCell()}, WindowFixture::metadata("5.46.0"))),
+             WindowFixture::kOpened);
+    QVERIFY(edited.history->isModified());
+    QVERIFY(!edited.history->canUndo());
+}
+
 void HistoryTest::stepsOutliveASave()
 {
     const QTemporaryDir folder;
@@ -374,6 +341,41 @@ void HistoryTest::groupsAreOneStep()
     QCOMPARE(edited.shown(), loaded);
 }
 
+void HistoryTest::tabsOfOneTitleAreMovedBack()
+{
+    Edited edited(Documents::document({Documents::tab(u"A"_s, {u"Search"_s}, {searchCell()}),
+                                       Documents::tab(u"A"_s, {u"View"_s}, {WindowFixture::previewCell()})},
+                                      WindowFixture::metadata()));
+    const QByteArray loaded = edited.shown();
+    edited.window.tabs().editableTabBar()->moveTab(1, 0);
+    edited.history->takeIn();
+    const QAction *undo = edited.workbench->editMenu()->actions().constFirst();
+    QVERIFY(undo->isEnabled());
+    QVERIFY(!edited.history->undoText().isEmpty());
+    edited.history->undo();
+    QCOMPARE(edited.shown(), loaded);
+}
+
+void HistoryTest::anotherDocumentLoadedInAHandlerKeepsItself()
+{
+    Edited edited;
+    edited.type("KarvonDigestLetters", "KRE");
+    auto *view = static_cast<GridPropertyEditorView *>(edited.window.grid(0)->items().constFirst()->widget());
+    connect(
+        view, &GridPropertyEditorView::contentEdited, this,
+        [&] {
+            QCOMPARE(edited.window.openWorkflow(WindowFixture::documentOf({WindowFixture::previewCell()})),
+                     WindowFixture::kOpened);
+        },
+        Qt::SingleShotConnection);
+    edited.history->undo();
+    QCoreApplication::processEvents();
+    QCOMPARE(edited.window.grid(0)->columnNames(), QStringList(u"Preview"_s));
+    QVERIFY(!edited.history->canUndo());
+    QVERIFY(!edited.history->canRedo());
+    QVERIFY(!edited.history->isModified());
+}
+
 void HistoryTest::oldStepsGoFirst()
 {
     Edited edited;
@@ -389,120 +391,6 @@ void HistoryTest::oldStepsGoFirst()
         edited.history->undo();
     QVERIFY(edited.value("KarvonDigestLetters").startsWith(u"K1"_s));
     QVERIFY(edited.history->isModified());
-}
-
-void HistoryTest::everythingIsUndone_data()
-{
-    QTest::addColumn<BaseItemType>("kind");
-    for (const BaseItemType kind : WholeWorkflow::kinds())
-        QTest::newRow(qPrintable(WholeWorkflow::nameOf(kind))) << kind;
-}
-
-void HistoryTest::everythingIsUndone()
-{
-    QFETCH(BaseItemType, kind);
-    const LogCapture log;
-    Edited edited(WindowFixture::documentOf(
-        {kind == BaseItemType::Karvon ? searchCell() : WholeWorkflow::defaultCell(kind)}));
-    const QByteArray loaded = edited.shown();
-    const PersonActs::Blunt answers(true);
-    QWidget *widget = edited.window.grid(0)->items().constFirst()->widget();
-    if (auto *view = qobject_cast<GridPropertyEditorView *>(widget))
-        view->expandAll();
-    // Each is tried where edits are told; here some of every kind do.
-    const QList<PersonActs::Act> acts = PersonActs::actsOf(widget);
-    const qsizetype stride = std::max<qsizetype>(1, acts.size() / 60);
-    for (qsizetype i = 0; i < acts.size(); i += stride) {
-        PersonActs::perform(acts.at(i));
-        edited.history->takeIn();
-    }
-    QVERIFY2(edited.history->count() > 0, "Nothing was edited");
-    const QByteArray last = edited.shown();
-    for (int round = 0; round < 2; ++round) {
-        int steps = edited.history->index();
-        while (edited.history->canUndo()) {
-            edited.history->undo();
-            QCoreApplication::processEvents();
-            --steps;
-            QCOMPARE(edited.history->index(), steps);
-        }
-        QCOMPARE(edited.shown(), loaded);
-        while (edited.history->canRedo()) {
-            edited.history->redo();
-            QCoreApplication::processEvents();
-        }
-        QCOMPARE(edited.shown(), last);
-    }
-}
-
-void HistoryTest::tablesTakeTheirOwnStepsBack()
-{
-    Edited edited(WindowFixture::documentOf({WholeWorkflow::defaultCell(BaseItemType::Samples)}));
-    auto *table = edited.window.grid(0)->items().constFirst()->widget()->findChild<TableView *>();
-    QVERIFY(table);
-    table->action(TableView::Command::AddRow)->trigger();
-    QCoreApplication::processEvents();
-    edited.history->takeIn();
-    QCOMPARE(edited.history->count(), 1);
-    QVERIFY(!edited.history->undoText().isEmpty());
-    table->action(TableView::Command::Undo)->trigger();
-    QCoreApplication::processEvents();
-    edited.history->takeIn();
-    QCOMPARE(edited.history->count(), 1);
-    QVERIFY(edited.history->canRedo());
-    QVERIFY(!edited.history->canUndo());
-    edited.history->redo();
-    QCOMPARE(table->sheet()->history()->index(), 1);
-}
-
-void HistoryTest::randomEditsGoBackAndForth()
-{
-    constexpr quint32 kSeed = 20261122;
-    QRandomGenerator random(kSeed);
-    Edited edited(WindowFixture::documentOf(
-        {searchCell(), WindowFixture::previewCell(), WholeWorkflow::defaultCell(BaseItemType::Samples)}));
-    const auto seed = qScopeGuard([] { qInfo("seed %u", kSeed); });
-    QList<QByteArray> states{edited.shown()};
-    const std::array<std::function<void(PropertyGridWidget &, int)>, 6> acts{
-        [](PropertyGridWidget &grid, int column) { grid.copyColumn(column); },
-        [](PropertyGridWidget &grid, int column) { grid.removeColumn(column); },
-        [&](PropertyGridWidget &grid, int column) {
-            grid.renameColumn(column, QString::number(random.bounded(9)));
-        },
-        [&](PropertyGridWidget &grid, int column) { grid.moveColumn(column, random.bounded(4)); },
-        [](PropertyGridWidget &grid, int) { grid.appendColumn(BaseItemType::Karvon, u"New"_s, true); },
-        [&](PropertyGridWidget &grid, int column) {
-            auto *view = qobject_cast<GridPropertyEditorView *>(grid.items().at(column)->widget());
-            if (view && view->propertySet()->contains("Samples"))
-                view->propertySet()->property("Samples").setValue(QString::number(random.bounded(5)));
-        }};
-    for (int i = 0; i < 200; ++i) {
-        const int roll = random.bounded(10);
-        if (roll < 2 && edited.history->canUndo()) {
-            edited.history->undo();
-        } else if (roll == 2 && edited.history->canRedo()) {
-            edited.history->redo();
-        } else {
-            PropertyGridWidget &grid = *edited.window.grid(0);
-            const int columns = int(grid.items().size());
-            const int before = edited.history->index();
-            const size_t act = columns == 0 ? 4 : columns > 5 ? 1 : size_t(random.bounded(6));
-            acts.at(act)(grid, columns == 0 ? 0 : random.bounded(columns));
-            edited.history->takeIn();
-            if (edited.history->index() > before) {
-                states.resize(edited.history->index());
-                states.append(edited.shown());
-            }
-        }
-        QCOMPARE(edited.shown(), states.at(edited.history->index()));
-    }
-    while (edited.history->canUndo()) {
-        edited.history->undo();
-        QCOMPARE(edited.shown(), states.at(edited.history->index()));
-    }
-    while (edited.history->canRedo())
-        edited.history->redo();
-    QCOMPARE(edited.shown(), states.at(edited.history->index()));
 }
 
 void HistoryTest::theWindowMayGoWhileItIsTold()

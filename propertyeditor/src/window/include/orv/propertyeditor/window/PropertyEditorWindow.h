@@ -125,6 +125,10 @@ Q_SIGNALS:
     void documentShown();
     /// The document was written to its file, from which the tabs were filled anew.
     void documentSaved();
+    /// What the tabs show isn't in the file: it was upgraded, and that wasn't saved.
+    void documentUpgraded();
+    /// The tabs are going to be filled anew from what was written.
+    void aboutToReload();
     /// A person changed the workflow's own properties.
     void metadataEdited();
     /// For applications: a project that was made is to be opened.
@@ -146,8 +150,8 @@ protected:
     [[nodiscard]] bool acceptsLosses(const QStringList &losses);
     /// Writes the workflow and goes on with what was written.
     bool saveWorkflowToJSON(const QString &path);
-    /// Between these two the tabs are filled anew with what was written: listeners hear of one saved document,
-    /// not of others. \a isShown tells whether that went well.
+    /// Between these two the tabs are filled anew with what was written: listeners hear of one saved
+    /// document, not of others. \a isShown tells whether that went well.
     void beginReload();
     void endReload(bool isShown);
     OpenStatus openWorkflow(PropertyEditorContent *content);
@@ -182,7 +186,8 @@ private:
     [[nodiscard]] std::optional<OpenStatus> applyUpgrade(PropertyEditorContent *content, const QString &path,
                                                          Upgrade *upgrade);
     void runUpgrade(PropertyEditorContent *content, Upgrade *upgrade);
-    void saveUpgraded(const PropertyEditorContent &content, const QString &path);
+    /// Whether it was written somewhere.
+    bool saveUpgraded(const PropertyEditorContent &content, const QString &path);
     [[nodiscard]] OpenStatus display(const PropertyEditorContent &content, const QStringList &lost);
     [[nodiscard]] PropertyEditorContent inDesktopForm(const PropertyEditorContent &content) const;
     void parseExtendedMetadata(const PropertyEditorContent &content);

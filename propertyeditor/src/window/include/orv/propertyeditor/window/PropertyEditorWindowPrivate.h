@@ -95,8 +95,8 @@ public:
     [[nodiscard]] QString proposedName() const;
     void setExtendedMetadataInfo(const ExtendedMetadataInfo &info) { m_extendedMetadataInfo = info; }
     void updateLastSavedWorkflow();
-    /// The workflow on the screen isn't what any file holds: closing asks whether to save it. It lacks \a lost
-    /// of the file that it was made from.
+    /// The workflow on the screen isn't what any file holds: closing asks whether to save it. It lacks \a
+    /// lost of the file that it was made from.
     void countAsUnsaved(const QStringList &lost);
     /// What the workflow on the screen lacks of the one that was loaded.
     [[nodiscard]] QStringList lost() const { return m_lost; }
@@ -144,6 +144,7 @@ private:
     QToolButton *m_saveButton = nullptr;
     std::function<QList<PropertyEditor::AbstractValidator *>()> m_additionalValidatorsCreator;
     DependentWidgets::Found m_dependent;
+    QPointer<QObject> m_connectedSamples; ///< of which is told already
     QMetaObject::Connection m_glycanConnection;
     QString m_workflowFilePath;
     QUrl m_workflowBaseUrl;

@@ -29,7 +29,7 @@ public:
     ~DocumentHistory() override;
 
     /// What the window shows, with all that was told of edits until now. Cheap to copy.
-    [[nodiscard]] const DocumentState &state();
+    [[nodiscard]] DocumentState state();
     /// Whether it is another state than the one that lies on the disk, however it was reached; a document
     /// that was never saved counts from when it was shown.
     [[nodiscard]] bool isModified();
@@ -73,6 +73,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// The steps, the state or the saved state became others.
     void changed();
+    /// An edit, an undo or a redo led to another state; comes before changed().
+    void stateChanged();
 
 private:
     friend class Group;

@@ -61,6 +61,8 @@ public:
     [[nodiscard]] bool isEmpty() const;
     /// The state at the other end of \a state, from which the change was made.
     [[nodiscard]] DocumentState applied(DocumentState state, Direction direction) const;
+    /// Gives both ends the members in which \a after differs from \a before.
+    void followMetadata(const QJsonObject &before, const QJsonObject &after);
     /// About what it holds, in bytes.
     [[nodiscard]] qsizetype heldBytes() const;
 
