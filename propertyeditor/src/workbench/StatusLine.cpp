@@ -61,8 +61,7 @@ void StatusLine::showFindings()
         text = tr("Checking...");
     else if (findings.state() == Findings::State::Checked &&
              findings.errorCount() + findings.warningCount() > 0)
-        text = tr("%1, %2").arg(tr("%n error(s)", nullptr, findings.errorCount()),
-                                tr("%n warning(s)", nullptr, findings.warningCount()));
+        text = tr("Errors: %1, warnings: %2").arg(findings.errorCount()).arg(findings.warningCount());
     else if (findings.state() == Findings::State::Checked)
         text = tr("No findings");
     m_findings->setText(text);

@@ -171,7 +171,7 @@ QString StepText::of(const DocumentState &before, const StateChange &change, con
     if (!inTable.isEmpty())
         return inTable;
     if (change.cells().size() > 1)
-        return StepTextTr::tr("%n column(s)", nullptr, int(change.cells().size()));
+        return StepTextTr::tr("%1 columns edited").arg(change.cells().size());
     const StateChange::CellChange &cell = change.cells().constFirst();
     const DocumentState::Tab &tab = after.tabs.at(cell.tab);
     const QString column = tab.columns.value(cell.column);
