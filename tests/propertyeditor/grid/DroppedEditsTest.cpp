@@ -21,10 +21,10 @@ using namespace GridFixture;
 namespace {
 
 /// Counts what a column tells, and asks it what it holds.
-class Listener
+class EditListener
 {
 public:
-    explicit Listener(IGridItem *item)
+    explicit EditListener(IGridItem *item)
         : m_item(item)
         , m_content(item->content())
     {
@@ -139,7 +139,7 @@ void DroppedEditsTest::filesOnTables()
     QVERIFY(!item->setContent(WholeWorkflow::defaultCell(kind)).hasError());
     show(item->widget());
     TableView *table = firstTable(*item);
-    Listener listener(item.get());
+    EditListener listener(item.get());
     QVERIFY(dropOn(table, below(table), {path}));
     QTRY_VERIFY(table->tableModel()->rowCount() > 0);
     QCOMPARE(listener.told(), 1);
@@ -172,7 +172,7 @@ void DroppedEditsTest::aFileOnASetting()
     QFile made(path);
     QVERIFY(made.open(QIODevice::WriteOnly));
     Column column;
-    Listener listener(&column.item);
+    EditListener listener(&column.item);
     KPropertyCustomEditorView *tree = column.view->editorView();
     const auto place = [&](const char *name) { return tree->visualRect(indexOf(*tree, name)).center(); };
     QVERIFY(dropOn(tree, place("KarvonLayout"), {path}));
@@ -192,7 +192,7 @@ void DroppedEditsTest::nothingFitsATableOfMasses()
     const std::unique_ptr<IGridItem> item(manager.createItem(BaseItemType::Masses));
     QVERIFY(!item->setContent(WholeWorkflow::defaultCell(BaseItemType::Masses)).hasError());
     show(item->widget());
-    Listener listener(item.get());
+    EditListener listener(item.get());
     QVERIFY(!dropOn(firstTable(*item), below(firstTable(*item)), {text("/data/lot.mzML")}));
     QCOMPARE(listener.told(), 0);
     QVERIFY(!listener.isChanged());
@@ -217,7 +217,7 @@ void DroppedEditsTest::selectionsAreNoEdits()
             QVERIFY(!table->sheet()->insertRows(0, {{}, {}}, text("add")).hasError());
     }
     QCoreApplication::processEvents();
-    Listener listener(&item);
+    EditListener listener(&item);
     int drawn = 0;
     for (QAbstractItemView *view : item.widget()->findChildren<QAbstractItemView *>()) {
         const QAbstractItemModel *model = view->model();

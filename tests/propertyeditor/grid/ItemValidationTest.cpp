@@ -64,7 +64,7 @@ QJsonObject options(BaseItemType kind, const QList<QJsonArray> &rows)
     return settingsCell(qPrintable(name), {setting(qPrintable(name), table)});
 }
 
-QJsonObject samples(const QJsonArray &rows)
+QJsonObject cellOfSamples(const QJsonArray &rows)
 {
     const QJsonObject table{{text("Samples"), rows}};
     return settingsCell("Samples", {setting("SamplesTable", table)});
@@ -112,7 +112,7 @@ void ItemValidationTest::samplesAreAskedButForSaving()
         QJsonObject{{text("SamplesId"), 1}, {text("SampleName"), text("one")}},
         QJsonObject{{text("SamplesId"), 1}, {text("SampleName"), text("one")}},
     };
-    QVERIFY(!item.setContent(samples(rows)).hasError());
+    QVERIFY(!item.setContent(cellOfSamples(rows)).hasError());
     const Told told = ask(item, WidgetValidationType(type));
     QCOMPARE(told.isValid, type == 1);
     QCOMPARE(told.errors, type == 1 ? QStringList() : QStringList(text("Every sample needs a file.")));
@@ -202,9 +202,9 @@ void ItemValidationTest::aGridIsAsValidAsItsColumns()
     const LogCapture log;
     const WholeWorkflow::HostManager manager;
     const QJsonArray rows = {QJsonObject{{text("SamplesId"), 1}, {text("SampleName"), text("one")}}};
-    const auto made =
-        PropertyGridWidget::create({text("A"), text("B"), text("C")},
-                                   {cellOf(samples(rows)), cellOf(karvonCell()), cellOf(samples(rows))});
+    const auto made = PropertyGridWidget::create(
+        {text("A"), text("B"), text("C")},
+        {cellOf(cellOfSamples(rows)), cellOf(karvonCell()), cellOf(cellOfSamples(rows))});
     QVERIFY(!made.hasError());
     QStringList errors;
     QVERIFY(!(*made)->validate(nullptr, &errors, nullptr, WidgetValidationType::SubmitJob));

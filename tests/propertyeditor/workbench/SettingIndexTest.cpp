@@ -30,7 +30,7 @@ QStringList namesOf(const QList<SettingHit> &hits)
     return names;
 }
 
-SettingIndex lifelike()
+SettingIndex lifelikeIndex()
 {
     SettingIndex index;
     index.append(column(0, {setting("UsePeak", u"Threshold"_s, u"Beyond noise."_s, u"5 ppm"_s),
@@ -61,7 +61,7 @@ private Q_SLOTS:
 
 void SettingIndexTest::captionsComeFirstThenNamesToolTipsAndValues()
 {
-    SettingIndex index = lifelike();
+    SettingIndex index = lifelikeIndex();
     const QList<SettingHit> hits = index.hits({u"peak"_s});
     QCOMPARE(namesOf(hits),
              QStringList({u"0:Width"_s, u"1:Width"_s, u"0:UsePeak"_s, u"0:Noise"_s, u"1:Shape"_s}));
@@ -74,30 +74,30 @@ void SettingIndexTest::captionsComeFirstThenNamesToolTipsAndValues()
 
 void SettingIndexTest::wordsMayStandInSeveralFields()
 {
-    SettingIndex index = lifelike();
+    SettingIndex index = lifelikeIndex();
     QCOMPARE(namesOf(index.hits({u"0.4 WIDTH"_s})), QStringList({u"1:Width"_s}));
     QCOMPARE(namesOf(index.hits({u"width noise"_s})), QStringList());
 }
 
 void SettingIndexTest::queriesWithoutWordsOrFiltersFindNothing()
 {
-    SettingIndex index = lifelike();
+    SettingIndex index = lifelikeIndex();
     QCOMPARE(namesOf(index.hits({})), QStringList());
     QCOMPARE(namesOf(index.hits({u" \t\n"_s})), QStringList());
 }
 
 void SettingIndexTest::typingOnAndBackFindsTheSameAsTypingAtOnce()
 {
-    SettingIndex typed = lifelike();
+    SettingIndex typed = lifelikeIndex();
     for (const QString &text : {u"p"_s, u"pe"_s, u"peak w"_s, u"peak"_s, u"ea"_s, u"in min"_s, u"0.4"_s}) {
-        SettingIndex atOnce = lifelike();
+        SettingIndex atOnce = lifelikeIndex();
         QCOMPARE(namesOf(typed.hits({text})), namesOf(atOnce.hits({text})));
     }
 }
 
 void SettingIndexTest::anEditedColumnIsReadAnew()
 {
-    SettingIndex index = lifelike();
+    SettingIndex index = lifelikeIndex();
     QCOMPARE(namesOf(index.hits({u"0.4"_s})), QStringList({u"1:Width"_s}));
     index.replace(column(1, {setting("Width", u"Peak width"_s, {}, u"0.8 min"_s)}));
     QCOMPARE(namesOf(index.hits({u"0.4"_s})), QStringList());
@@ -130,7 +130,7 @@ void SettingIndexTest::filtersPassWhatWasChanged()
 
 void SettingIndexTest::filtersOfOthersAreAsked()
 {
-    SettingIndex index = lifelike();
+    SettingIndex index = lifelikeIndex();
     SettingQuery query;
     query.further[1] = [](const SettingPlace &place) { return place == SettingPlace{0, 1, "Width"}; };
     QCOMPARE(namesOf(index.hits(query)), QStringList({u"1:Width"_s}));
@@ -154,7 +154,7 @@ void SettingIndexTest::oddTextsFindNothingAndHurtNobody_data()
 void SettingIndexTest::oddTextsFindNothingAndHurtNobody()
 {
     QFETCH(QString, typed);
-    SettingIndex index = lifelike();
+    SettingIndex index = lifelikeIndex();
     QCOMPARE(namesOf(index.hits({typed})), QStringList());
 }
 
