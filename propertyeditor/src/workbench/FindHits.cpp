@@ -124,7 +124,7 @@ QVariant FindHits::decoration(const SettingTexts &texts, int column) const
 
 QString FindHits::spoken(const SettingTexts &texts, const SettingHit &hit, int column) const
 {
-    const QString shown = text(texts, hit, column).left(kMostInToolTip);
+    QString shown = text(texts, hit, column).left(kMostInToolTip);
     if (column == Default && texts.defaultValue)
         return tr("Set back to the default: %1").arg(shown);
     if (column == Saved && texts.savedValue)

@@ -65,7 +65,7 @@ QString captionOf(const QJsonObject &cell, const QJsonObject &entry)
 QString settingText(const QJsonObject &cellBefore, const QJsonObject &before, const QJsonObject &cell,
                     const QJsonObject &after)
 {
-    const QString caption = captionOf(cell, after);
+    QString caption = captionOf(cell, after);
     const QString was = valueText(cellBefore, before);
     const QString is = valueText(cell, after);
     if (was == is)
@@ -139,8 +139,8 @@ QString tabsText(const StateChange &change)
     };
     const QStringList before = titles(change.tabsBefore());
     const QStringList after = titles(change.tabsAfter());
-    const QString text = addedOrRemoved(before, after, QT_TRANSLATE_NOOP("StepText", "Tab \"%1\" added"),
-                                        QT_TRANSLATE_NOOP("StepText", "Tab \"%1\" removed"));
+    QString text = addedOrRemoved(before, after, QT_TRANSLATE_NOOP("StepText", "Tab \"%1\" added"),
+                                  QT_TRANSLATE_NOOP("StepText", "Tab \"%1\" removed"));
     if (!text.isEmpty())
         return text;
     if (before.size() == 1 && before == after)

@@ -22,7 +22,7 @@ class ORV_PROPERTY_EDITOR_EXPORT DocumentHistory : public QObject
     Q_OBJECT
 
 public:
-    static constexpr qsizetype kDefaultLimit = 64 * 1024 * 1024;
+    static constexpr qsizetype kDefaultLimit = qsizetype(64) * 1024 * 1024;
 
     /// A child of \a window.
     explicit DocumentHistory(PropertyEditorWindow *window);
