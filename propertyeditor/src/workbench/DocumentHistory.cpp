@@ -79,7 +79,6 @@ public:
     void record(const DocumentState &now);
     void push(const DocumentState &now, const QList<TableMove> &moves);
     [[nodiscard]] bool isStepOfTable(const DocumentState &now, const QList<TableMove> &moves);
-    [[nodiscard]] bool belongsToLastStep() const;
     void settle(const DocumentState &actual);
     void travel(StateChange::Direction direction);
     [[nodiscard]] bool moveTables(const Step &step, StateChange::Direction direction) const;
@@ -243,6 +242,8 @@ void DocumentHistory::Private::begin()
     steps.clear();
     index = 0;
     field = nullptr;
+    nextField = nullptr;
+    isFieldLeft = false;
     Q_EMIT q->changed();
 }
 

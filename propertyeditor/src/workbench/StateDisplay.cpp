@@ -10,6 +10,7 @@
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/grid/EditableTabBar.h>
 #include <orv/propertyeditor/grid/EditableTabWidget.h>
+#include <orv/propertyeditor/grid/GridItemEdits.h>
 #include <orv/propertyeditor/grid/GridPropertyEditorView.h>
 #include <orv/propertyeditor/grid/IGridItem.h>
 #include <orv/propertyeditor/grid/KPropertyCustomEditorView.h>
@@ -218,11 +219,11 @@ Error StateDisplay::updateColumn(PropertyGridWidget &grid, int column, const QSt
         return Error::NoError;
     }
     const QJsonObject cell = QJsonDocument::fromJson(to).object();
+    // Lives as long as the item, which goes at once when a listener removes its column.
+    const QPointer<GridItemEdits> isThere(item->edits());
     if (const QPointer view = qobject_cast<GridPropertyEditorView *>(item->widget())) {
         const bool areSame = takeValues(*view, cell);
-        if (!shown || (areSame && view && textOf(*item) == to))
-            return Error::NoError;
-        if (!view)
+        if (!isThere || !view || (areSame && textOf(*item) == to))
             return Error::NoError;
         const TreePlace place(*view->editorView());
         Error error = item->setContent(cell);

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void groupsAreOneStep();
     void tabsOfOneTitleAreMovedBack();
     void anotherDocumentLoadedInAHandlerKeepsItself();
+    void aColumnMayGoWhileAStepIsShown();
     void oldStepsGoFirst();
     void theWindowMayGoWhileItIsTold();
 };
@@ -374,6 +375,20 @@ void HistoryTest::anotherDocumentLoadedInAHandlerKeepsItself()
     QVERIFY(!edited.history->canUndo());
     QVERIFY(!edited.history->canRedo());
     QVERIFY(!edited.history->isModified());
+}
+
+void HistoryTest::aColumnMayGoWhileAStepIsShown()
+{
+    Edited edited(WindowFixture::documentOf({searchCell(), WindowFixture::previewCell()}));
+    edited.type("KarvonDigestLetters", "KRE");
+    PropertyGridWidget *grid = edited.window.grid(0);
+    auto *view = static_cast<GridPropertyEditorView *>(grid->items().constFirst()->widget());
+    connect(
+        view, &GridPropertyEditorView::propertyChanged, this, [grid] { grid->removeColumn(0); },
+        Qt::SingleShotConnection);
+    edited.history->undo();
+    QCOMPARE(grid->columnNames(), QStringList(u"Preview"_s));
+    QCOMPARE(edited.history->state().tabs.constFirst().columns, QStringList(u"Preview"_s));
 }
 
 void HistoryTest::oldStepsGoFirst()
