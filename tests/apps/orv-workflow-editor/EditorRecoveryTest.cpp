@@ -119,6 +119,7 @@ private:
     void start();
     EditorWindow *openWindow();
     void closeUnsaved(EditorWindow *window);
+    [[nodiscard]] QStringList journalsBehind(EditorWindow *window);
     /// A window whose first tab was renamed and that closed without saving; then another one that offers it.
     EditorWindow *offered(const QString &name);
     void recover(EditorWindow *window);
@@ -195,6 +196,15 @@ EditorWindow *EditorRecoveryTest::offered(const QString &name)
 }
 
 /// Once the panel knows what became of the file.
+/// What is left when nobody has the window any more.
+QStringList EditorRecoveryTest::journalsBehind(EditorWindow *window)
+{
+    window->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    m_store.reset();
+    return journalFiles();
+}
+
 void EditorRecoveryTest::recover(EditorWindow *window)
 {
     QTRY_VERIFY(!panelText(*window).contains(u"Looking whether"_s));
@@ -244,11 +254,8 @@ void EditorRecoveryTest::recoveredWorkflowsStayUntilTheyAreSaved()
     ScriptedAnswerer answers;
     answers.expectPath(u"Save Workflow"_s, m_folder->filePath(u"saved.wflw"_s));
     QVERIFY(window->saveWorkflowAs());
-    window->close();
+    QCOMPARE(journalsBehind(window), QStringList());
     QVERIFY(answers.isDone());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    m_store.reset();
-    QCOMPARE(journalFiles(), QStringList());
 }
 
 void EditorRecoveryTest::savedWorkflowsAreNotOffered()
@@ -260,11 +267,8 @@ void EditorRecoveryTest::savedWorkflowsAreNotOffered()
     ScriptedAnswerer answers;
     answers.expectPath(u"Save Workflow"_s, m_file);
     QVERIFY(window->saveWorkflowAs());
-    window->close();
+    QCOMPARE(journalsBehind(window), QStringList());
     QVERIFY(answers.isDone());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    m_store.reset();
-    QCOMPARE(journalFiles(), QStringList());
 }
 
 void EditorRecoveryTest::lookingAtAFileLeavesNothing()
@@ -273,11 +277,8 @@ void EditorRecoveryTest::lookingAtAFileLeavesNothing()
     EditorWindow *window = openWindow();
     window->openFiles({m_file});
     const ScriptedAnswerer answers;
-    window->close();
+    QCOMPARE(journalsBehind(window), QStringList());
     QVERIFY(answers.isDone());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    m_store.reset();
-    QCOMPARE(journalFiles(), QStringList());
     QCOMPARE(TestData::read(m_file), m_bytes);
 }
 
@@ -319,11 +320,8 @@ void EditorRecoveryTest::windowsThatOnlyShowedAreOpenedAgain()
     recover(window);
     QCOMPARE(window->workflowFilePath(), m_file);
     const ScriptedAnswerer answers;
-    window->close();
+    QCOMPARE(journalsBehind(window), QStringList());
     QVERIFY(answers.isDone());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    m_store.reset();
-    QCOMPARE(journalFiles(), QStringList());
 }
 
 void EditorRecoveryTest::keptForLaterIsOfferedAgain()
@@ -527,11 +525,8 @@ void EditorRecoveryTest::undoneEditsAreNotOffered()
     QTest::keyClick(window, Qt::Key_Z, Qt::ControlModifier);
     QVERIFY(firstTab(*window) != u"Renamed"_s);
     const ScriptedAnswerer answers;
-    window->close();
+    QCOMPARE(journalsBehind(window), QStringList());
     QVERIFY(answers.isDone());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    m_store.reset();
-    QCOMPARE(journalFiles(), QStringList());
 }
 
 WIDGET_REGISTER_TEST(EditorRecoveryTest)
