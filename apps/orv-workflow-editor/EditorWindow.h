@@ -55,6 +55,7 @@ private:
     void recover(const RecoveryEntry &entry, RecoveryFileState state);
     [[nodiscard]] bool showRecovered(RecoveryStore::Taken &taken, const RecoveryEntry &entry,
                                      const QString &path);
+    [[nodiscard]] PropertyEditorContent stateToKeep() const;
     void restoreLayout();
     [[nodiscard]] bool isPristine() const;
     [[nodiscard]] EditorWindow *anotherWindow() const;

@@ -41,7 +41,7 @@ void EditorWindow::buildRecovery(Workbench *workbench)
         return;
     m_history = workbench->history();
     m_keeper = new JournalKeeper(this, m_store,
-                                 {[this] { return m_history->state().content(extendedMetadata()); },
+                                 {[this] { return stateToKeep(); },
                                   [this] { return dFunc()->getLastSavedWorkflow(); },
                                   [this] { return dFunc()->lost(); }});
     connect(m_history, &DocumentHistory::stateChanged, m_keeper, &JournalKeeper::noteEdit);
@@ -55,6 +55,13 @@ void EditorWindow::buildRecovery(Workbench *workbench)
     connect(m_recovery, &RecoveryPanel::recoverRequested, this, &EditorWindow::recover);
     connect(m_recovery, &RecoveryPanel::keptForLater, m_recoveryPanel, &QWidget::hide);
     connect(m_recovery, &RecoveryPanel::emptied, m_recoveryPanel, &QWidget::hide);
+}
+
+/// Of a workflow whose upgrade was taken back, nothing is unsaved.
+PropertyEditorContent EditorWindow::stateToKeep() const
+{
+    return m_history->isUpgradeTakenBack() ? PropertyEditorContent(dFunc()->getLastSavedWorkflow())
+                                           : m_history->state().content(extendedMetadata());
 }
 
 void EditorWindow::offerRecovery()

@@ -74,6 +74,11 @@ QString PropertyEditorWindow::workflowFilePath() const
     return d->workflowFilePath();
 }
 
+void PropertyEditorWindow::setWorkflowFilePath(const QString &path)
+{
+    d->setWorkflowFilePath(path);
+}
+
 QJsonObject PropertyEditorWindow::workflowMetadata() const
 {
     return d->workflowMetadata();
@@ -110,6 +115,11 @@ void PropertyEditorWindow::setReadOnly()
     connect(button, &QPushButton::clicked, this, &QWidget::close);
     static const QString readOnly = tr(" (read only)");
     setWindowTitle(windowTitle() + readOnly);
+}
+
+void PropertyEditorWindow::setUpgradeView(const UpgradeView &create)
+{
+    d->m_upgradeView = create;
 }
 
 void PropertyEditorWindow::setAdditionalValidatorsCreatorFunction(const AdditionalValidators &create)

@@ -18,6 +18,7 @@
 #include <orv/widgets/ProgressOutputUtils.h>
 
 #include <QFileInfo>
+#include <QMetaMethod>
 #include <QPointer>
 
 #include <array>
@@ -80,12 +81,13 @@ void tellDocumentType(const PropertyEditorContent &content)
 /// What is known of the version of a document that is being opened.
 struct PropertyEditorWindow::Upgrade
 {
-    QVersionNumber version;
     WflwMetaData::WflwState state = WflwMetaData::WflwState::UpToDate;
-    QList<QString> changes;
+    DocumentUpgrade done;
     Error error;
     QStringList lost; ///< of what was read, before the document is shown
     bool isSaved = false;
+
+    [[nodiscard]] bool isNeeded() const { return !isSameVersion(done.from, done.to); }
 };
 
 OpenStatus PropertyEditorWindow::selectAndOpenWorkflow()
@@ -138,6 +140,8 @@ OpenStatus PropertyEditorWindow::openWorkflow(PropertyEditorContent *content,
 {
     const QPointer<PropertyEditorWindow> self(this);
     Upgrade upgrade;
+    upgrade.done.path = path;
+    upgrade.done.metadata = content->metadata();
     upgrade.lost = std::exchange(d->m_lostInReading, {});
     if (const std::optional<OpenStatus> refusal = judge(*content, &upgrade))
         return *refusal;
@@ -145,7 +149,7 @@ OpenStatus PropertyEditorWindow::openWorkflow(PropertyEditorContent *content,
     if (!self)
         return OpenStatus::NotOpened;
     d->setWorkflowFilePath(path);
-    if (!isSameVersion(upgrade.version, WflwMetaData::currentWorkflowVersion()))
+    if (upgrade.isNeeded())
         runUpgrade(content, &upgrade);
     if (!self)
         return OpenStatus::NotOpened;
@@ -153,9 +157,8 @@ OpenStatus PropertyEditorWindow::openWorkflow(PropertyEditorContent *content,
         return *refusal;
     tellDocumentType(*content);
     const OpenStatus status = self ? display(*content, upgrade.lost) : OpenStatus::NotOpened;
-    const bool isUpgraded = !isSameVersion(upgrade.version, WflwMetaData::currentWorkflowVersion());
-    if (self && status == OpenStatus::Opened && isUpgraded && !upgrade.isSaved)
-        Q_EMIT documentUpgraded();
+    if (self && status == OpenStatus::Opened && upgrade.isNeeded())
+        Q_EMIT documentUpgraded(upgrade.done, upgrade.isSaved);
     return status;
 }
 
@@ -164,8 +167,9 @@ std::optional<OpenStatus> PropertyEditorWindow::judge(const PropertyEditorConten
 {
     const QPointer<PropertyEditorWindow> self(this);
     QStringList issues;
-    upgrade->version = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());
-    upgrade->state = WflwMetaData::checkWorkflowVersion(upgrade->version, &content, &issues);
+    upgrade->done.from = WflwMetaData::versionNumberFromMetaDataObject(content.metadata());
+    upgrade->done.to = WflwMetaData::currentWorkflowVersion();
+    upgrade->state = WflwMetaData::checkWorkflowVersion(upgrade->done.from, &content, &issues);
     if (content.tabsAndContent().isEmpty()) {
         ORVStyle::critical(this, tr("Workflow is invalid"),
                            tr("This workflow is invalid and thus cannot be loaded."));
@@ -188,12 +192,18 @@ void PropertyEditorWindow::runUpgrade(PropertyEditorContent *content, Upgrade *u
 {
     WflwUpgradeOptions options;
     options.baseUrl = d->workflowBaseUrl();
+    WorkflowUpgradeReview review;
+    static const QMetaMethod kUpgraded = QMetaMethod::fromSignal(&PropertyEditorWindow::documentUpgraded);
+    if (isSignalConnected(kUpgraded))
+        options.observer = &review;
     const auto progress =
         ProgressOutputUtils::createAndShowProgress(tr("Opening the workflow..."), this, false);
     progress->run([content, upgrade, &options](ProgressReporter &) {
         upgrade->lost += textsOf(WorkflowUpgrade::lossesBefore(*content));
-        upgrade->error = WflwUpgrader::upgradeWorkflow(upgrade->version, content, &upgrade->changes, options);
+        upgrade->error =
+            WflwUpgrader::upgradeWorkflow(upgrade->done.from, content, &upgrade->done.notes, options);
     });
+    upgrade->done.steps = review.steps();
 }
 
 /// Asks about an upgrade that was made, or that failed; what keeps the document from being shown.
@@ -203,10 +213,10 @@ std::optional<OpenStatus> PropertyEditorWindow::applyUpgrade(PropertyEditorConte
     const QPointer<PropertyEditorWindow> self(this);
     auto answer = QMessageBox::Yes;
     if (upgrade->state == WflwMetaData::WflwState::NeedsUpgrade) {
-        const QString extra = upgrade->changes.isEmpty()
+        const QString extra = upgrade->done.notes.isEmpty()
                                   ? QString()
                                   : tr("<br/>Also, the following changes were applied: %1")
-                                        .arg(TextUtils::stringListToHtmlList(upgrade->changes));
+                                        .arg(TextUtils::stringListToHtmlList(upgrade->done.notes));
         const QString text = tr("This workflow was outdated and was automatically upgraded for this version "
                                 "of the application to work properly. %1Would you like to apply this "
                                 "upgrade and proceed?")
@@ -216,7 +226,8 @@ std::optional<OpenStatus> PropertyEditorWindow::applyUpgrade(PropertyEditorConte
                                     {{QMessageBox::Yes, tr("Apply")},
                                      {QMessageBox::No, tr("Apply and save...")},
                                      {QMessageBox::Cancel, tr("Cancel")}},
-                                    QMessageBox::Cancel);
+                                    QMessageBox::Cancel, {},
+                                    d->m_upgradeView ? d->m_upgradeView(upgrade->done) : nullptr);
         if (!self || answer == QMessageBox::Cancel)
             return OpenStatus::NotOpened;
     }

@@ -1,6 +1,6 @@
 #include "orv/propertyeditor/workbench/DocumentHistory.h"
 
-#include "ShownState.h"
+#include "HistorySteps.h"
 #include "StateDisplay.h"
 #include "StepText.h"
 
@@ -23,14 +23,6 @@
 namespace orv {
 
 namespace {
-
-struct Step
-{
-    StateChange change;
-    QString text;
-    QList<TableMove> tables;
-    qsizetype bytes = 0;
-};
 
 /// The field in which somebody types, outside of the cells of views; null where nobody does.
 QWidget *fieldOfTyping(const QWidget *window)
@@ -81,16 +73,15 @@ public:
     [[nodiscard]] bool isStepOfTable(const DocumentState &now, const QList<TableMove> &moves);
     void settle(const DocumentState &actual);
     void travel(StateChange::Direction direction);
-    [[nodiscard]] bool moveTables(const Step &step, StateChange::Direction direction) const;
-    void trim();
+    [[nodiscard]] bool moveTables(const HistoryStep &step, StateChange::Direction direction) const;
+    void takeUpgraded(const DocumentUpgrade &upgrade);
     void leaveField();
 
     PropertyEditorWindow *window;
     ShownState shown;
     DocumentState state;
     std::optional<DocumentState> saved; ///< that lies on the disk
-    QList<Step> steps;
-    int index = 0;
+    HistorySteps steps;
     qsizetype limit = kDefaultLimit;
     bool isPending = false;
     bool isTravelling = false;
@@ -110,7 +101,11 @@ DocumentHistory::DocumentHistory(PropertyEditorWindow *window)
     , d(std::make_unique<Private>(this, window))
 {
     connect(window, &PropertyEditorWindow::documentShown, this, [this] { d->begin(); });
-    connect(window, &PropertyEditorWindow::documentUpgraded, this, &DocumentHistory::countAsUnsaved);
+    connect(window, &PropertyEditorWindow::documentUpgraded, this,
+            [this](const DocumentUpgrade &upgrade, bool isSaved) {
+                if (!isSaved)
+                    d->takeUpgraded(upgrade);
+            });
     connect(window, &PropertyEditorWindow::aboutToReload, this, &DocumentHistory::takeIn);
     connect(window, &PropertyEditorWindow::documentSaved, this, [this] { d->takeSaved(); });
     connect(window, &PropertyEditorWindow::metadataEdited, this, [this] { d->expectEdits(); });
@@ -156,30 +151,35 @@ void DocumentHistory::countAsUnsaved()
 
 int DocumentHistory::count() const
 {
-    return int(d->steps.size());
+    return d->steps.count();
 }
 
 int DocumentHistory::index() const
 {
-    return d->index;
+    return d->steps.index();
+}
+
+bool DocumentHistory::isUpgradeTakenBack() const
+{
+    const HistoryStep *step = d->steps.next(StateChange::Direction::Forth);
+    return step && step->upgradedFile;
 }
 
 QString DocumentHistory::undoText() const
 {
-    return canUndo() ? d->steps.at(d->index - 1).text : QString();
+    const HistoryStep *step = d->steps.next(StateChange::Direction::Back);
+    return step ? step->text : QString();
 }
 
 QString DocumentHistory::redoText() const
 {
-    return canRedo() ? d->steps.at(d->index).text : QString();
+    const HistoryStep *step = d->steps.next(StateChange::Direction::Forth);
+    return step ? step->text : QString();
 }
 
 qsizetype DocumentHistory::heldBytes() const
 {
-    qsizetype bytes = 0;
-    for (const Step &step : std::as_const(d->steps))
-        bytes += step.bytes;
-    return bytes;
+    return d->steps.heldBytes();
 }
 
 qsizetype DocumentHistory::limit() const
@@ -190,7 +190,7 @@ qsizetype DocumentHistory::limit() const
 void DocumentHistory::setLimit(qsizetype bytes)
 {
     d->limit = bytes;
-    d->trim();
+    d->steps.trim(bytes);
     Q_EMIT changed();
 }
 
@@ -240,7 +240,6 @@ void DocumentHistory::Private::begin()
     static_cast<void>(shown.takeMoves());
     saved = state;
     steps.clear();
-    index = 0;
     field = nullptr;
     nextField = nullptr;
     isFieldLeft = false;
@@ -253,9 +252,9 @@ void DocumentHistory::Private::takeSaved()
     isPending = false;
     shown.forget();
     const DocumentState written = shown.read();
+    steps.forgetUpgrade();
     // The stamps of a save are part of no step.
-    for (Step &step : steps)
-        step.change.followMetadata(state.metadata, written.metadata);
+    steps.followMetadata(state.metadata, written.metadata);
     state.metadata = written.metadata;
     settle(written);
     static_cast<void>(shown.takeMoves());
@@ -310,14 +309,11 @@ void DocumentHistory::Private::record(const DocumentState &now)
     const QPointer<QWidget> typed = std::exchange(nextField, nullptr);
     if (isStepOfTable(now, moves))
         return;
-    steps.resize(index);
-    const bool isSame = typed && typed == field && index > 0;
+    const bool isSame = typed && typed == field && steps.index() > 0;
     const bool isGrouped = groupDepth > 0 && std::exchange(groupHasStep, true);
     field = std::exchange(isFieldLeft, false) ? nullptr : typed;
-    if ((isSame || isGrouped) && index > 0) {
-        state = steps.constLast().change.applied(state, StateChange::Direction::Back);
-        steps.removeLast();
-        --index;
+    if ((isSame || isGrouped) && steps.index() > 0) {
+        state = steps.takeLast().change.applied(state, StateChange::Direction::Back);
         if (now == state) {
             field = nullptr;
             groupHasStep = false;
@@ -336,10 +332,9 @@ void DocumentHistory::Private::push(const DocumentState &now, const QList<TableM
         const TableHistory *table = isForth ? moves.constFirst().history.data() : nullptr;
         text = StepText::of(state, change, now, table ? table->undoText() : QString());
     }
-    steps.append({change, text, moves, change.heldBytes() + text.size() * qsizetype(sizeof(QChar))});
-    ++index;
+    steps.append({change, text, moves});
     state = now;
-    trim();
+    steps.trim(limit);
 }
 
 /// A table takes steps back and forth by its menu, too.
@@ -348,15 +343,13 @@ bool DocumentHistory::Private::isStepOfTable(const DocumentState &now, const QLi
     if (moves.size() != 1)
         return false;
     const TableMove &move = moves.constFirst();
-    const bool isBack = move.after < move.before;
-    if (isBack ? index == 0 : index == steps.size())
+    const auto direction =
+        move.after < move.before ? StateChange::Direction::Back : StateChange::Direction::Forth;
+    const HistoryStep *step = steps.next(direction);
+    if (!step || step->tables.size() != 1 || step->tables.constFirst().history != move.history ||
+        !(step->change.applied(state, direction) == now))
         return false;
-    const Step &step = steps.at(isBack ? index - 1 : index);
-    const auto direction = isBack ? StateChange::Direction::Back : StateChange::Direction::Forth;
-    if (step.tables.size() != 1 || step.tables.constFirst().history != move.history ||
-        !(step.change.applied(state, direction) == now))
-        return false;
-    index += isBack ? -1 : 1;
+    steps.go(direction);
     state = now;
     field = nullptr;
     return true;
@@ -365,22 +358,11 @@ bool DocumentHistory::Private::isStepOfTable(const DocumentState &now, const QLi
 /// The window shows something else than the step led to: the steps around lead there from now on.
 void DocumentHistory::Private::settle(const DocumentState &actual)
 {
-    if (actual == state) {
-        state = actual;
-        return;
-    }
-    if (index > 0) {
-        StateChange &last = steps[index - 1].change;
-        last = StateChange::between(last.applied(state, StateChange::Direction::Back), actual);
-    }
-    if (index < steps.size()) {
-        StateChange &next = steps[index].change;
-        next = StateChange::between(actual, next.applied(state, StateChange::Direction::Forth));
-    }
+    steps.settle(state, actual);
     state = actual;
 }
 
-bool DocumentHistory::Private::moveTables(const Step &step, StateChange::Direction direction) const
+bool DocumentHistory::Private::moveTables(const HistoryStep &step, StateChange::Direction direction) const
 {
     const bool isBack = direction == StateChange::Direction::Back;
     const QPointer<DocumentHistory> self(q);
@@ -402,17 +384,19 @@ void DocumentHistory::Private::travel(StateChange::Direction direction)
     if (!self)
         return;
     takeIn();
-    const bool isBack = direction == StateChange::Direction::Back;
-    if (!self || isTravelling || (isBack ? index == 0 : index == steps.size()))
+    if (!self || isTravelling || !steps.next(direction))
         return;
     isTravelling = true;
     const int document = generation;
-    const Step step = steps.at(isBack ? index - 1 : index);
+    const HistoryStep step = *steps.next(direction);
     const DocumentState from = state;
     const DocumentState to = step.change.applied(state, direction);
     const auto goesOn = [self, this, document] { return self && document == generation; };
     if (!moveTables(step, direction) || !goesOn())
         return;
+    if (step.upgradedFile)
+        window->setWorkflowFilePath(direction == StateChange::Direction::Back ? QString()
+                                                                              : *step.upgradedFile);
     StateDisplay display(window, goesOn);
     const Error error = display.show(from, to);
     if (!goesOn())
@@ -423,7 +407,7 @@ void DocumentHistory::Private::travel(StateChange::Direction direction)
     if (error.hasError())
         window->statusBar()->showMessage(
             tr("Not all of the step can be shown: %1").arg(error.errorMessage()));
-    index += isBack ? -1 : 1;
+    steps.go(direction);
     state = to;
     shown.forget(step.change);
     settle(shown.read());
@@ -447,14 +431,18 @@ void DocumentHistory::Private::leaveField()
         field = nullptr;
 }
 
-void DocumentHistory::Private::trim()
+/// An upgrade is a step like others, from a window that shows nothing of the document: what it would show of
+/// one of an earlier version is less than the file has.
+void DocumentHistory::Private::takeUpgraded(const DocumentUpgrade &upgrade)
 {
-    qsizetype bytes = q->heldBytes();
-    while (bytes > limit && steps.size() > 1 && index > 0) {
-        bytes -= steps.constFirst().bytes;
-        steps.removeFirst();
-        --index;
-    }
+    const DocumentState before{{}, upgrade.metadata};
+    steps.clear();
+    steps.append({StateChange::between(before, state),
+                  tr("Upgrade from %1 to %2").arg(upgrade.from.toString(), upgrade.to.toString()),
+                  {},
+                  window->workflowFilePath()});
+    saved = before;
+    tellOtherState();
 }
 
 } // namespace orv

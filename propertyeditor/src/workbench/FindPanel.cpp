@@ -70,7 +70,7 @@ void FindList::keyPressEvent(QKeyEvent *event)
 }
 
 FindPanel::FindPanel(SettingColumns *columns, QWidget *parent)
-    : QWidget(parent)
+    : LeavablePanel(parent)
     , m_columns(columns)
     , m_hits(new FindHits(columns, this))
     , m_field(new QLineEdit)
@@ -332,16 +332,6 @@ bool FindPanel::eventFilter(QObject *watched, QEvent *event)
         return QWidget::eventFilter(watched, event);
     QCoreApplication::sendEvent(m_list, event);
     return true;
-}
-
-void FindPanel::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
-        event->accept();
-        Q_EMIT left();
-        return;
-    }
-    QWidget::keyPressEvent(event);
 }
 
 } // namespace orv

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FindHits.h"
+#include "LeavablePanel.h"
 
 #include <QTimer>
 #include <QTreeView>
@@ -33,7 +34,7 @@ protected:
 
 /// The field, the filters and the hits of a search in settings. Tells what a person wants, and does nothing
 /// itself to the document.
-class FindPanel : public QWidget
+class FindPanel : public LeavablePanel
 {
     Q_OBJECT
 
@@ -60,12 +61,9 @@ public:
 Q_SIGNALS:
     void chosen(const orv::SettingPlace &place);
     void setBackWanted(const orv::SettingPlace &place, orv::SettingColumns::Former former);
-    /// Escape.
-    void left();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:

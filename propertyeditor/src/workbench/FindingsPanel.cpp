@@ -7,7 +7,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -28,7 +27,7 @@ bool areAlike(const LocatedFinding &first, const LocatedFinding &second)
 } // namespace
 
 FindingsPanel::FindingsPanel(QWidget *parent)
-    : QWidget(parent)
+    : LeavablePanel(parent)
     , m_model(new FindingsModel(this))
     , m_list(new FindList)
     , m_summary(new QLabel)
@@ -113,16 +112,6 @@ void FindingsPanel::copy()
     std::ranges::sort(rows);
     if (!rows.isEmpty())
         QGuiApplication::clipboard()->setText(m_model->toText(rows));
-}
-
-void FindingsPanel::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
-        event->accept();
-        Q_EMIT left();
-        return;
-    }
-    QWidget::keyPressEvent(event);
 }
 
 } // namespace orv

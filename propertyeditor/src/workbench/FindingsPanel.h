@@ -11,7 +11,7 @@ QT_FORWARD_DECLARE_CLASS(QVBoxLayout)
 namespace orv {
 
 /// The list of findings with a line above it that sums up. Tells what a person chooses.
-class FindingsPanel : public QWidget
+class FindingsPanel : public LeavablePanel
 {
     Q_OBJECT
 
@@ -31,10 +31,6 @@ public:
 
 Q_SIGNALS:
     void chosen(int row);
-    void left();
-
-protected:
-    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void copy();

@@ -1,5 +1,7 @@
 #include "RecoveryChanges.h"
 
+#include "ChangeText.h"
+
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
@@ -7,7 +9,6 @@
 
 #include <QCoreApplication>
 #include <QJsonArray>
-#include <QJsonDocument>
 
 #include <array>
 
@@ -21,33 +22,6 @@ struct RecoveryChangesTr
 {
     Q_DECLARE_TR_FUNCTIONS(RecoveryChanges)
 };
-
-constexpr qsizetype kLongestChange = 120;
-
-QString shortenedChange(const QString &text)
-{
-    return text.size() <= kLongestChange ? text : text.left(kLongestChange - 1) + QChar(0x2026);
-}
-
-/// Its end tells which setting it is.
-QString shortenedPlace(const QString &path)
-{
-    constexpr qsizetype kLongestPlace = 400;
-    return path.size() <= kLongestPlace ? path : QChar(0x2026) + path.right(kLongestPlace - 1);
-}
-
-QString changedText(const QJsonValue &value)
-{
-    if (value.isUndefined())
-        return {};
-    if (value.isString())
-        return shortenedChange(value.toString());
-    if (const QJsonValue name = value[QLatin1String("name")]; name.isString())
-        return shortenedChange(name.toString());
-    // A value alone is no JSON document for the writer; its list is.
-    const QByteArray json = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    return shortenedChange(QString::fromUtf8(json.mid(1, json.size() - 2)));
-}
 
 /// A document that is new has tabs that were added, one by one.
 QJsonObject withTabs(QJsonObject document)
@@ -97,7 +71,7 @@ RecoveryChanges changesBetween(const QJsonObject &before, const QJsonObject &aft
         const QString is = property.read(metadataAfter);
         if (was != is)
             changes.told.append(
-                {RecoveryChangesTr::tr(property.name), shortenedChange(was), shortenedChange(is)});
+                {RecoveryChangesTr::tr(property.name), ChangeText::ofText(was), ChangeText::ofText(is)});
     }
     const QList<WorkflowDifference> differences =
         WorkflowDifferences::between(withTabs(before), after, false);
@@ -105,8 +79,8 @@ RecoveryChanges changesBetween(const QJsonObject &before, const QJsonObject &aft
     for (const WorkflowDifference &difference : differences) {
         if (changes.told.size() == RecoveryChanges::kMostTold)
             break;
-        changes.told.append(
-            {shortenedPlace(difference.path), changedText(difference.left), changedText(difference.right)});
+        changes.told.append({ChangeText::ofPlace(difference.path), ChangeText::ofValue(difference.left),
+                             ChangeText::ofValue(difference.right)});
     }
     return changes;
 }

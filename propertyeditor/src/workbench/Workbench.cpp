@@ -3,6 +3,7 @@
 #include "StatusLine.h"
 #include "orv/propertyeditor/workbench/FindSettings.h"
 #include "orv/propertyeditor/workbench/Findings.h"
+#include "orv/propertyeditor/workbench/Upgrades.h"
 
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/workbench/DocumentHistory.h>
@@ -27,6 +28,7 @@ Workbench::Workbench(PropertyEditorWindow *window)
     updateTitle();
     m_find = new FindSettings(this);
     m_findings = new Findings(this);
+    m_upgrades = new Upgrades(this);
     new StatusLine(this);
 }
 

@@ -114,6 +114,7 @@ private Q_SLOTS:
     void whatTheLoadDroppedIsStillAskedAbout();
     void severalAreRecoveredAtOnce();
     void undoneEditsAreNotOffered();
+    void upgradesThatWereTakenBackAreNotOffered();
 
 private:
     void start();
@@ -525,6 +526,21 @@ void EditorRecoveryTest::undoneEditsAreNotOffered()
     QTest::keyClick(window, Qt::Key_Z, Qt::ControlModifier);
     QVERIFY(firstTab(*window) != u"Renamed"_s);
     const ScriptedAnswerer answers;
+    QCOMPARE(journalsBehind(window), QStringList());
+    QVERIFY(answers.isDone());
+}
+
+void EditorRecoveryTest::upgradesThatWereTakenBackAreNotOffered()
+{
+    start();
+    EditorWindow *window = openWindow();
+    ScriptedAnswerer answers;
+    answers.expectBox(u"Workflow upgrade"_s, u"Apply"_s);
+    window->openFiles({TestData::examplePath(u"workflows/outdated/antibody_search_2018.wflw"_s)});
+    renameFirstTab(*window, u"Renamed"_s);
+    QTest::keyClick(window, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(window, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(window->content().tabsAndContent().size(), 0);
     QCOMPARE(journalsBehind(window), QStringList());
     QVERIFY(answers.isDone());
 }

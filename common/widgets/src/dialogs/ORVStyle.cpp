@@ -5,6 +5,7 @@
 #include <orv/widgets/Icons.h>
 
 #include <QAbstractButton>
+#include <QGridLayout>
 #include <QPointer>
 #include <QPushButton>
 #include <QStyle>
@@ -38,6 +39,7 @@ struct BoxContent
     ORVStyle::ButtonTexts texts;
     ORVStyle::Button defaultButton;
     QString details;
+    QWidget *below = nullptr; ///< the box takes it over
 };
 
 std::optional<bool> &styleOverride()
@@ -77,6 +79,8 @@ void fillBox(QMessageBox &box, const BoxContent &content)
     box.setDefaultButton(content.defaultButton != QMessageBox::NoButton ? content.defaultButton : escape);
     if (!content.details.isEmpty())
         box.setDetailedText(content.details);
+    if (auto *layout = qobject_cast<QGridLayout *>(box.layout()); layout && content.below)
+        layout->addWidget(content.below, layout->rowCount(), 0, 1, layout->columnCount());
 }
 
 DialogRequest requestOf(const BoxKind &kind, const QMessageBox &box, const BoxContent &content)
@@ -131,9 +135,9 @@ ORVStyle::Button showBox(QWidget *parent, const BoxKind &kind, const BoxContent 
 
 ORVStyle::Button ORVStyle::question(QWidget *parent, const QString &title, const DisplayString &text,
                                     Buttons buttons, const ButtonTexts &texts, Button defaultButton,
-                                    const QString &details)
+                                    const QString &details, QWidget *below)
 {
-    return showBox(parent, kQuestionBox, {title, text, buttons, texts, defaultButton, details});
+    return showBox(parent, kQuestionBox, {title, text, buttons, texts, defaultButton, details, below});
 }
 
 ORVStyle::Button ORVStyle::warning(QWidget *parent, const QString &title, const DisplayString &text,

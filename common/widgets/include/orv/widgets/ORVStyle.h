@@ -25,11 +25,12 @@ public:
     using ButtonTexts = QMap<Button, QString>;
 
     /// \a texts replace what stands on buttons; without a \a defaultButton Enter presses the escape button of
-    /// a question and the only button of others. \a details can be unfolded and copied.
+    /// a question and the only button of others. \a details can be unfolded and copied; \a below stands under
+    /// the buttons, for who wants to know more, and goes with the box.
     static Button question(QWidget *parent, const QString &title, const DisplayString &text,
                            Buttons buttons = QMessageBox::Yes | QMessageBox::No,
                            const ButtonTexts &texts = {}, Button defaultButton = QMessageBox::NoButton,
-                           const QString &details = {});
+                           const QString &details = {}, QWidget *below = nullptr);
     static Button warning(QWidget *parent, const QString &title, const DisplayString &text,
                           Buttons buttons = QMessageBox::Ok, const ButtonTexts &texts = {},
                           Button defaultButton = QMessageBox::NoButton, const QString &details = {});

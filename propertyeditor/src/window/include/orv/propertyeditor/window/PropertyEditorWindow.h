@@ -4,6 +4,7 @@
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/grid/WidgetValidationType.h>
+#include <orv/propertyeditor/window/DocumentUpgrade.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 #include <orv/propertyeditor/workflow/WorkflowType.h>
 #include <orv/resources/ResourceReference.h>
@@ -63,6 +64,9 @@ public:
     [[nodiscard]] WorkflowTabs *workflowTabs() const;
     /// Null for a new workflow, empty once the window was cleared.
     [[nodiscard]] QString workflowFilePath() const;
+    /// For who takes the tabs of a workflow away and shows them again: while it isn't shown, the window has
+    /// no file.
+    void setWorkflowFilePath(const QString &path);
 
     /// The workflow's own properties: its name, version, who made it and when.
     [[nodiscard]] QJsonObject workflowMetadata() const;
@@ -82,6 +86,10 @@ public:
     [[nodiscard]] virtual WorkflowAppType workflowAppType() const = 0;
     /// Called for each check, on this thread; what it gives becomes the check's.
     void setAdditionalValidatorsCreatorFunction(const AdditionalValidators &create);
+    /// What stands in the question whether an upgrade shall be applied, below its text; the question takes it
+    /// over.
+    using UpgradeView = std::function<QWidget *(const DocumentUpgrade &upgrade)>;
+    void setUpgradeView(const UpgradeView &create);
     /// A new one, which the caller owns, for workflows of nothing but searches.
     [[nodiscard]] virtual PropertyEditor::SampleTypesValidator *sampleTypesValidator() const;
 
@@ -125,8 +133,9 @@ Q_SIGNALS:
     void documentShown();
     /// The document was written to its file, from which the tabs were filled anew.
     void documentSaved();
-    /// What the tabs show isn't in the file: it was upgraded, and that wasn't saved.
-    void documentUpgraded();
+    /// Behind documentShown(): the document was upgraded. What the tabs show isn't in the file then, unless
+    /// it was saved on the way. Its steps are known only if somebody was connected when it was opened.
+    void documentUpgraded(const orv::DocumentUpgrade &upgrade, bool isSaved);
     /// The tabs are going to be filled anew from what was written.
     void aboutToReload();
     /// A person changed the workflow's own properties.

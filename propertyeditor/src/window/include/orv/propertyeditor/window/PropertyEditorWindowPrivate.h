@@ -27,6 +27,7 @@ QT_FORWARD_DECLARE_CLASS(QToolButton)
 namespace orv {
 
 class CoreMainWindow;
+struct DocumentUpgrade;
 class PropertyEditorWindow;
 class PropertyEditorWindowForm;
 class WorkflowTabs;
@@ -143,6 +144,7 @@ private:
     QToolButton *m_launchButton = nullptr;
     QToolButton *m_saveButton = nullptr;
     std::function<QList<PropertyEditor::AbstractValidator *>()> m_additionalValidatorsCreator;
+    std::function<QWidget *(const DocumentUpgrade &)> m_upgradeView;
     DependentWidgets::Found m_dependent;
     QPointer<QObject> m_connectedSamples; ///< of which is told already
     QMetaObject::Connection m_glycanConnection;

@@ -14,7 +14,8 @@ class PropertyEditorWindow;
 
 /// The steps of a document in a window, back and forth, through every column, tab and property of the
 /// workflow. A step is what a person did from opening to leaving a field; steps of the tables' own histories
-/// are among them. Saving keeps the steps, and another document begins anew. What lies longest back is
+/// are among them, and so is an upgrade of the document until it is saved. Saving keeps the other steps, and
+/// another document begins anew. What lies longest back is
 /// forgotten once the steps hold more than limit() bytes. GUI thread; the window may be destroyed from any
 /// handler.
 class ORV_PROPERTY_EDITOR_EXPORT DocumentHistory : public QObject
@@ -41,6 +42,8 @@ public:
     [[nodiscard]] int index() const;
     [[nodiscard]] bool canUndo() const { return index() > 0; }
     [[nodiscard]] bool canRedo() const { return index() < count(); }
+    /// Whether somebody took the upgrade of the document back: it isn't shown, and redo() shows it again.
+    [[nodiscard]] bool isUpgradeTakenBack() const;
     /// What the step did, empty for none.
     [[nodiscard]] QString undoText() const;
     [[nodiscard]] QString redoText() const;

@@ -16,6 +16,7 @@ class DocumentHistory;
 class FindSettings;
 class Findings;
 class PropertyEditorWindow;
+class Upgrades;
 
 /// Menus and panels around a document window: Edit and View, behind the menus that are there already. A child
 /// of its window. GUI thread.
@@ -48,6 +49,7 @@ public:
     // Live as long as the workbench.
     [[nodiscard]] FindSettings *find() const { return m_find; }
     [[nodiscard]] Findings *findings() const { return m_findings; }
+    [[nodiscard]] Upgrades *upgrades() const { return m_upgrades; }
 
 private:
     void addHistory();
@@ -63,6 +65,7 @@ private:
     QMap<Qt::DockWidgetArea, QDockWidget *> m_panels; ///< the last of each area; the window's
     FindSettings *m_find = nullptr;
     Findings *m_findings = nullptr;
+    Upgrades *m_upgrades = nullptr;
 };
 
 } // namespace orv

@@ -1,0 +1,135 @@
+#include "orv/propertyeditor/workbench/Upgrades.h"
+
+#include "UpgradeView.h"
+#include "orv/propertyeditor/workbench/DocumentHistory.h"
+#include "orv/propertyeditor/workbench/Workbench.h"
+
+#include <orv/propertyeditor/window/PropertyEditorWindow.h>
+
+#include <QDockWidget>
+#include <QPointer>
+#include <QStatusBar>
+
+#include <optional>
+
+namespace orv {
+
+class Upgrades::Private
+{
+public:
+    explicit Private(Workbench *workbench);
+
+    void take(const DocumentUpgrade &done, bool isSavedAlready);
+    void forget();
+    void update();
+    [[nodiscard]] QString title() const;
+
+    const QPointer<PropertyEditorWindow> window;
+    DocumentHistory *const history;
+    UpgradeView *const view;
+    const QPointer<QDockWidget> dock;
+    std::optional<DocumentUpgrade> upgrade;
+    bool isSaved = false;
+    bool wasTakenBack = false;
+};
+
+namespace {
+
+QWidget *viewInQuestion(const DocumentUpgrade &upgrade)
+{
+    auto view = std::make_unique<UpgradeView>();
+    view->setUpgrade(upgrade);
+    if (view->changeCount() == 0)
+        return nullptr;
+    view->setTitle(Upgrades::tr("What the upgrade from %1 to %2 changes; nothing is written before you save:")
+                       .arg(upgrade.from.toString(), upgrade.to.toString()));
+    constexpr int kLetters = 116;
+    constexpr int kLines = 14;
+    const QFontMetrics font = view->fontMetrics();
+    view->setMinimumSize(font.averageCharWidth() * kLetters, font.height() * kLines);
+    return view.release();
+}
+
+} // namespace
+
+Upgrades::Private::Private(Workbench *workbench)
+    : window(workbench->window())
+    , history(workbench->history())
+    , view(new UpgradeView)
+    , dock(workbench->addPanel(view, QStringLiteral("upgradePanel"), tr("Upgrade"), Qt::BottomDockWidgetArea))
+{
+    window->setUpgradeView(&viewInQuestion);
+}
+
+void Upgrades::Private::take(const DocumentUpgrade &done, bool isSavedAlready)
+{
+    upgrade = done;
+    isSaved = isSavedAlready;
+    view->setUpgrade(done);
+    update();
+    window->statusBar()->showMessage(
+        tr("Upgraded from %1 to %2. What that changed stands in %3.")
+            .arg(done.from.toString(), done.to.toString(), dock->toggleViewAction()->text().remove(u'&')));
+}
+
+void Upgrades::Private::forget()
+{
+    upgrade.reset();
+    view->setUpgrade({});
+    update();
+}
+
+void Upgrades::Private::update()
+{
+    view->setTitle(title());
+    const bool isTakenBack = history->isUpgradeTakenBack();
+    if (isTakenBack && !wasTakenBack && dock) {
+        dock->show();
+        dock->raise();
+    }
+    wasTakenBack = isTakenBack;
+}
+
+QString Upgrades::Private::title() const
+{
+    if (!upgrade)
+        return tr("This workflow needed no upgrade.");
+    const QString from = upgrade->from.toString();
+    const QString to = upgrade->to.toString();
+    if (history->isUpgradeTakenBack()) {
+        return tr("The upgrade from %1 to %2 was taken back; the file is as it was. Redo (%3) applies the "
+                  "upgrade again.")
+            .arg(from, to, QKeySequence(QKeySequence::Redo).toString(QKeySequence::NativeText));
+    }
+    return isSaved
+               ? tr("Upgraded from %1 to %2, and saved.").arg(from, to)
+               : tr("Upgraded from %1 to %2. The file stays as it was until you save over it.").arg(from, to);
+}
+
+Upgrades::Upgrades(Workbench *workbench)
+    : QObject(workbench)
+    , d(std::make_unique<Private>(workbench))
+{
+    connect(d->window, &PropertyEditorWindow::documentShown, this, [this] { d->forget(); });
+    connect(d->window, &PropertyEditorWindow::documentUpgraded, this,
+            [this](const DocumentUpgrade &upgrade, bool isSaved) { d->take(upgrade, isSaved); });
+    connect(d->window, &PropertyEditorWindow::documentSaved, this, [this] {
+        d->isSaved = true;
+        d->update();
+    });
+    connect(d->history, &DocumentHistory::changed, this, [this] { d->update(); });
+    connect(d->view, &UpgradeView::left, this, [this] {
+        if (d->dock)
+            d->dock->hide();
+    });
+    d->update();
+}
+
+Upgrades::~Upgrades() = default;
+
+QAction *Upgrades::action() const
+{
+    return d->dock->toggleViewAction();
+}
+
+} // namespace orv

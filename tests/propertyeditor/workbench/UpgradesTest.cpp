@@ -1,0 +1,210 @@
+#include "HistoryFixture.h"
+
+#include <orv/propertyeditor/workbench/Upgrades.h>
+
+#include <QAction>
+#include <QClipboard>
+#include <QDockWidget>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTreeView>
+
+using namespace orv;
+using namespace HistoryFixture;
+
+namespace {
+
+/// A window that shows what was made of an old document.
+struct Upgraded : Edited
+{
+    Upgraded()
+    {
+        answers.expectBox(u"Workflow upgrade"_s, u"Apply"_s);
+        if (window.openWorkflow(path()) != WindowFixture::kOpened)
+            qFatal("The old example doesn't load");
+        shownAtFirst = shown();
+    }
+
+    static QString path() { return TestData::examplePath(u"workflows/outdated/antibody_search_2018.wflw"_s); }
+    [[nodiscard]] QString title() const { return window.findChild<QLabel *>(u"upgradeTitle"_s)->text(); }
+    [[nodiscard]] const QAbstractItemModel &steps() const
+    {
+        return *window.findChild<QTreeView *>(u"upgradeSteps"_s)->model();
+    }
+    [[nodiscard]] bool isPanelOpen() const
+    {
+        return window.findChild<QDockWidget *>(u"upgradePanel"_s)->isVisible();
+    }
+
+    QByteArray shownAtFirst;
+};
+
+QString cellOf(const QModelIndex &row, int column)
+{
+    return row.siblingAtColumn(column).data().toString();
+}
+
+} // namespace
+
+class UpgradesTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void upgradesAreTakenBackAndAppliedAgain();
+    void editsBehindAnUpgradeAreStepsOfTheirOwn();
+    void nothingIsAskedWhereAnUpgradeWasTakenBack();
+    void savedUpgradesAreNoStep();
+    void upgradesThatAreSavedAtOnceAreNoStep();
+    void thePanelTellsStepByStep();
+    void notesStandBehindTheSteps();
+    void rowsAreCopied();
+    void otherDocumentsHaveNoSteps();
+    void escapeClosesThePanel();
+};
+
+void UpgradesTest::upgradesAreTakenBackAndAppliedAgain()
+{
+    const QByteArray file = TestData::read(Upgraded::path());
+    Upgraded edited;
+    QVERIFY(edited.history->isModified());
+    QCOMPARE(edited.history->undoText(), u"Upgrade from 5.5.0 to 5.47.0"_s);
+    QVERIFY(!edited.isPanelOpen());
+    edited.key(Qt::Key_Z);
+    QCOMPARE(edited.window.tabs().count(), 0);
+    QVERIFY(edited.window.workflowFilePath().isNull());
+    QVERIFY(!edited.history->isModified());
+    QVERIFY(edited.history->isUpgradeTakenBack());
+    QCOMPARE(WflwMetaData::versionFromMetaDataObject(edited.window.workflowMetadata()), u"5.5.0"_s);
+    QVERIFY(edited.isPanelOpen());
+    QVERIFY(edited.title().startsWith(
+        u"The upgrade from 5.5.0 to 5.47.0 was taken back; the file is as it was."_s));
+    edited.history->redo();
+    QCOMPARE(edited.shown(), edited.shownAtFirst);
+    QCOMPARE(edited.window.workflowFilePath(), Upgraded::path());
+    QVERIFY(edited.history->isModified());
+    QVERIFY(!edited.history->isUpgradeTakenBack());
+    QCOMPARE(TestData::read(Upgraded::path()), file);
+}
+
+void UpgradesTest::editsBehindAnUpgradeAreStepsOfTheirOwn()
+{
+    Upgraded edited;
+    edited.window.tabs().setCurrentIndex(2);
+    edited.tree(2).expandAll();
+    QVERIFY(LeavingWays::open(edited.tree(2), "KarvonCentroidTopk"));
+    LeavingWays::type(u"345"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    edited.history->takeIn();
+    const QByteArray shown = edited.shown();
+    QCOMPARE(edited.history->count(), 2);
+    edited.history->undo();
+    QCOMPARE(edited.shown(), edited.shownAtFirst);
+    edited.history->undo();
+    QCOMPARE(edited.window.tabs().count(), 0);
+    edited.history->redo();
+    edited.history->redo();
+    QCOMPARE(edited.shown(), shown);
+    QVERIFY(!edited.history->canRedo());
+}
+
+void UpgradesTest::nothingIsAskedWhereAnUpgradeWasTakenBack()
+{
+    Upgraded edited;
+    edited.history->undo();
+    edited.window.close();
+    QVERIFY(!edited.window.isVisible());
+    QVERIFY(edited.answers.isDone());
+}
+
+void UpgradesTest::savedUpgradesAreNoStep()
+{
+    const QTemporaryDir folder;
+    Upgraded edited;
+    QVERIFY(edited.window.saveWorkflowToJSON(folder.filePath(u"new.wflw"_s)));
+    QVERIFY(!edited.history->canUndo());
+    QVERIFY(!edited.history->isModified());
+    QCOMPARE(edited.title(), u"Upgraded from 5.5.0 to 5.47.0, and saved."_s);
+}
+
+void UpgradesTest::upgradesThatAreSavedAtOnceAreNoStep()
+{
+    const QTemporaryDir folder;
+    Edited edited;
+    edited.answers.expectBox(u"Workflow upgrade"_s, u"Apply and save..."_s);
+    edited.answers.expectPath(u"Save upgraded workflow"_s, folder.filePath(u"new.wflw"_s));
+    QCOMPARE(edited.window.openWorkflow(Upgraded::path()), WindowFixture::kOpened);
+    QVERIFY(!edited.history->canUndo());
+    QVERIFY(!edited.history->isModified());
+}
+
+void UpgradesTest::thePanelTellsStepByStep()
+{
+    const Upgraded edited;
+    const QAbstractItemModel &steps = edited.steps();
+    QStringList headlines;
+    for (int row = 0; row < steps.rowCount(); ++row)
+        headlines.append(steps.index(row, 0).data().toString());
+    QCOMPARE(headlines, QStringList({u"5.6.0, changes: 25"_s, u"5.15.0, changes: 1"_s,
+                                     u"5.21.0, changes: 1"_s, u"5.41.0, changes: 1"_s}));
+    const QModelIndex renamed = steps.index(5, 0, steps.index(0, 0));
+    QCOMPARE(cellOf(renamed, 0), u"Search / MS/MS search / row 0 / KarvonFragmentMassError"_s);
+    QCOMPARE(cellOf(renamed, 1), u"renamed"_s);
+    QCOMPARE(cellOf(renamed, 2), u"fragment_mass_error"_s);
+    QCOMPARE(cellOf(renamed, 3), u"KarvonFragmentMassError"_s);
+    const QModelIndex added = steps.index(0, 0, steps.index(3, 0));
+    QCOMPARE(cellOf(added, 1), u"added"_s);
+    QCOMPARE(cellOf(added, 2), QString());
+    QCOMPARE(cellOf(added, 3), u"[\"S\",\"T\"]"_s);
+    QCOMPARE(edited.title(),
+             u"Upgraded from 5.5.0 to 5.47.0. The file stays as it was until you save over it."_s);
+}
+
+void UpgradesTest::notesStandBehindTheSteps()
+{
+    Edited edited;
+    DocumentUpgrade upgrade;
+    upgrade.from = QVersionNumber(5, 46, 0);
+    upgrade.to = QVersionNumber(5, 47, 0);
+    upgrade.notes = {u"The sample file \"a.raw\" can't be read."_s};
+    Q_EMIT edited.window.documentUpgraded(upgrade, false);
+    const QAbstractItemModel &steps = *edited.window.findChild<QTreeView *>(u"upgradeSteps"_s)->model();
+    QCOMPARE(steps.rowCount(), 1);
+    QCOMPARE(steps.index(0, 0).data().toString(), u"The sample file \"a.raw\" can't be read."_s);
+    QCOMPARE(steps.rowCount(steps.index(0, 0)), 0);
+}
+
+void UpgradesTest::rowsAreCopied()
+{
+    Upgraded edited;
+    edited.workbench->upgrades()->action()->trigger();
+    auto *view = edited.window.findChild<QTreeView *>(u"upgradeSteps"_s);
+    view->setFocus();
+    view->setCurrentIndex(view->model()->index(0, 0, view->model()->index(1, 0)));
+    QTest::keyClick(view, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(),
+             u"Search / MS/MS search / row 0 / ExportSearchReport\tadded\t\tfalse"_s);
+}
+
+void UpgradesTest::otherDocumentsHaveNoSteps()
+{
+    Upgraded edited;
+    QCOMPARE(edited.window.openWorkflow(WindowFixture::documentOf({searchCell()})), WindowFixture::kOpened);
+    QCOMPARE(edited.title(), u"This workflow needed no upgrade."_s);
+    QCOMPARE(edited.steps().rowCount(), 0);
+    QVERIFY(!edited.history->canUndo());
+}
+
+void UpgradesTest::escapeClosesThePanel()
+{
+    Upgraded edited;
+    edited.workbench->upgrades()->action()->trigger();
+    QVERIFY(edited.isPanelOpen());
+    auto *view = edited.window.findChild<QTreeView *>(u"upgradeSteps"_s);
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_Escape);
+    QVERIFY(!edited.isPanelOpen());
+}
+
+WIDGET_REGISTER_TEST(UpgradesTest)
+#include "UpgradesTest.moc"
