@@ -285,7 +285,8 @@ OpenStatus PropertyEditorWindow::display(const PropertyEditorContent &content, c
         return OpenStatus::NotOpened;
     }
     d->m_lost = lost + d->m_lost;
-    (void)d->verifyWorkflowReferences(this->content());
+    // What was read from the tabs a moment ago.
+    (void)d->verifyWorkflowReferences(PropertyEditorContent(d->getLastSavedWorkflow()));
     return OpenStatus::Opened;
 }
 

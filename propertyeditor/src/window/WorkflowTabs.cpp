@@ -1,6 +1,7 @@
 #include "orv/propertyeditor/window/WorkflowTabs.h"
 
 #include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/content/RawCell.h>
 #include <orv/propertyeditor/grid/EditableTabBar.h>
 #include <orv/propertyeditor/grid/EditableTabWidget.h>
 #include <orv/propertyeditor/grid/GridCommunicative.h>
@@ -106,7 +107,13 @@ Error WorkflowTabs::replaceCurrent(const PropertyEditorContent::Tab &tab)
 PropertyEditorContent::Tab WorkflowTabs::read(int index) const
 {
     const PropertyGridWidget *shown = grid(index);
-    return {m_tabs->tabText(index), {shown->columnNames(), shown->cells()}};
+    const QList<IGridItem *> items = shown->items();
+    VariantItems cells;
+    cells.reserve(items.size());
+    // Whoever reads a whole document wants its members, and no texts of thousands of samples.
+    for (const IGridItem *item : items)
+        cells.append(RawCell(item->content()).toVariant());
+    return {m_tabs->tabText(index), {shown->columnNames(), cells}};
 }
 
 PropertyEditorContent::Tabs WorkflowTabs::tabs() const

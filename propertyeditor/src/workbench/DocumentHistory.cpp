@@ -409,7 +409,7 @@ void DocumentHistory::Private::travel(StateChange::Direction direction)
             tr("Not all of the step can be shown: %1").arg(error.errorMessage()));
     steps.go(direction);
     state = to;
-    shown.forget(step.change);
+    shown.forget(step.change, to);
     settle(shown.read());
     static_cast<void>(shown.takeMoves());
     field = nullptr;

@@ -123,19 +123,26 @@ QList<TableMove> ShownState::takeMoves()
     return std::exchange(m_moves, {});
 }
 
-void ShownState::forget(const StateChange &change)
+void ShownState::forget(const StateChange &change, const DocumentState &shown)
 {
-    if (change.hasOtherTabs()) {
-        forget();
+    for (const StateChange::CellChange &cell : change.cells())
+        forgetUnless(cell.tab, cell.column, nullptr);
+    if (!change.hasOtherTabs())
         return;
+    for (qsizetype tab = change.firstTab(); tab < shown.tabs.size(); ++tab) {
+        const QList<QByteArray> &cells = shown.tabs.at(tab).cells;
+        for (qsizetype column = 0; column < cells.size(); ++column)
+            forgetUnless(int(tab), int(column), &cells.at(column));
     }
-    for (const StateChange::CellChange &cell : change.cells()) {
-        const PropertyGridWidget *grid = m_window->workflowTabs()->grid(cell.tab);
-        const IGridItem *item = grid ? grid->items().value(cell.column) : nullptr;
-        if (const auto known = item ? m_columns.find(item->edits()) : m_columns.end();
-            known != m_columns.end())
-            known->isRead = false;
-    }
+}
+
+void ShownState::forgetUnless(int tab, int column, const QByteArray *text)
+{
+    const PropertyGridWidget *grid = m_window->workflowTabs()->grid(tab);
+    const IGridItem *item = grid ? grid->items().value(column) : nullptr;
+    const auto known = item ? m_columns.find(item->edits()) : m_columns.end();
+    if (known != m_columns.end() && !(text && known->cell == *text))
+        known->isRead = false;
 }
 
 void ShownState::forget()

@@ -38,8 +38,9 @@ public:
     [[nodiscard]] QList<TableMove> takeMoves();
     /// The next call of read() reads everything.
     void forget();
-    /// The same for the columns that \a change is about: what a program does isn't told.
-    void forget(const StateChange &change);
+    /// The same for the columns that \a change, which led to \a shown, is about: what a program does isn't
+    /// told.
+    void forget(const StateChange &change, const DocumentState &shown);
 
 Q_SIGNALS:
     /// Somebody edits a setting; an editor in its row may be open.
@@ -56,6 +57,8 @@ private:
 
     [[nodiscard]] DocumentState::Tab readTab(int index);
     [[nodiscard]] QByteArray readColumn(IGridItem &item);
+    /// A column that has this text stays known.
+    void forgetUnless(int tab, int column, const QByteArray *text);
     Column &known(IGridItem &item);
     void follow(IGridItem &item, Column *column);
     void noteMoves(Column *column);

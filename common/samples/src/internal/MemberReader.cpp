@@ -18,18 +18,22 @@ Error wrongType(QLatin1String key, const QString &expected, const QJsonValue &fo
                      .arg(key, expected, JsonUtils::typeDescription(found.type())));
 }
 
+bool isThere(const QJsonValue &member)
+{
+    return !member.isUndefined() && !member.isNull();
+}
+
 } // namespace
 
 bool MemberReader::has(QLatin1String key) const
 {
-    const QJsonValue found = m_object.value(key);
-    return !found.isUndefined() && !found.isNull();
+    return isThere(m_object.value(key));
 }
 
 QJsonValue MemberReader::value(QLatin1String key, QJsonValue::Type type)
 {
     QJsonValue found = m_object.value(key);
-    if (!has(key))
+    if (!isThere(found))
         return QJsonValue::Undefined;
     if (found.type() == type)
         return found;
