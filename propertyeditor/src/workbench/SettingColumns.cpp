@@ -1,12 +1,9 @@
 #include "SettingColumns.h"
 
+#include "SettingEdit.h"
+
 #include <KProperty.h>
 #include <KPropertySet.h>
-#include <orv/propertyeditor/PropertiesNames.h>
-#include <orv/propertyeditor/PropertySetCreator.h>
-#include <orv/propertyeditor/grid/EditableTabWidget.h>
-#include <orv/propertyeditor/grid/IGridItem.h>
-#include <orv/propertyeditor/grid/PropertyGridWidget.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
 
@@ -33,25 +30,10 @@ SettingColumns::SettingColumns(PropertyEditorWindow *window, QObject *parent)
 
 SettingColumns::~SettingColumns() = default;
 
-QList<SettingColumns::Column> SettingColumns::present() const
-{
-    QList<Column> columns;
-    const WorkflowTabs *tabs = m_window ? m_window->workflowTabs() : nullptr;
-    for (int tab = 0; tabs && tab < tabs->count(); ++tab) {
-        const PropertyGridWidget *grid = tabs->grid(tab);
-        const QList<IGridItem *> items = grid ? grid->items() : QList<IGridItem *>();
-        for (int i = 0; i < items.size(); ++i) {
-            if (auto *view = qobject_cast<GridPropertyEditorView *>(items.at(i)->widget()))
-                columns.append({view, tab, i, tabs->widget()->tabText(tab), grid->columnNames().value(i)});
-        }
-    }
-    return columns;
-}
-
 void SettingColumns::keepAsSaved()
 {
     m_saved.clear();
-    for (const Column &column : present()) {
+    for (const Column &column : SettingView::all(m_window)) {
         if (const KPropertySet *set = column.view->propertySet())
             m_saved.append({column, SettingReader::stored(*set)});
         hear(column.view);
@@ -80,7 +62,7 @@ SettingIndex::Column SettingColumns::read(const Column &column)
 
 SettingColumns::Change SettingColumns::refresh()
 {
-    const QList<Column> columns = present();
+    const QList<Column> columns = SettingView::all(m_window);
     const QList<QPointer<GridPropertyEditorView>> touched = std::exchange(m_touched, {});
     const bool isSame = columns == m_columns && !std::exchange(m_isStale, false);
     if (isSame && touched.isEmpty())
@@ -145,18 +127,15 @@ bool SettingColumns::setBack(const SettingPlace &place, Former former)
         return each.tab == place.tab && each.column == place.column;
     });
     KPropertySet *set = column == m_columns.cend() || !column->view ? nullptr : column->view->propertySet();
-    if (!set || set->isReadOnly() || !set->contains(place.name) || set->property(place.name).isReadOnly())
+    if (!SettingEdit::refusal(set, place.name).isEmpty())
         return false;
-    const PropertyId id = PropertiesNames::findPropertyForName(QString::fromUtf8(place.name));
+    const PropertyId id = SettingReader::idOf(set->property(place.name));
     const StoredSettings *saved = savedOf(*column);
     const QJsonValue wanted = former == Former::Default ? m_reader.storedDefault(id)
                               : saved ? saved->value(place.name, QJsonValue(QJsonValue::Undefined))
                                       : QJsonValue(QJsonValue::Undefined);
-    if (wanted.isUndefined())
-        return false;
-    KProperty other(set->property(place.name));
-    return PropertySetCreator::setValueFromJson(id, wanted, &other) &&
-           set->property(place.name).setValue(other.value());
+    return !wanted.isUndefined() &&
+           SettingEdit::setStored(set, place.name, wanted) == SettingEdit::Outcome::Changed;
 }
 
 } // namespace orv

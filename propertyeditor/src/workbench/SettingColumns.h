@@ -1,9 +1,8 @@
 #pragma once
 
 #include "SettingReader.h"
+#include "SettingView.h"
 #include "orv/propertyeditor/workbench/SettingIndex.h"
-
-#include <orv/propertyeditor/grid/GridPropertyEditorView.h>
 
 #include <QObject>
 #include <QPointer>
@@ -50,23 +49,13 @@ Q_SIGNALS:
     void changed();
 
 private:
-    struct Column
-    {
-        QPointer<GridPropertyEditorView> view;
-        int tab = 0;
-        int column = 0;
-        QString tabName;
-        QString columnName;
-
-        bool operator==(const Column &) const = default;
-    };
+    using Column = SettingView;
     struct Saved
     {
         Column column;
         StoredSettings values;
     };
 
-    [[nodiscard]] QList<Column> present() const;
     [[nodiscard]] SettingIndex::Column read(const Column &column);
     [[nodiscard]] const StoredSettings *savedOf(const Column &column) const;
     void hear(GridPropertyEditorView *view);

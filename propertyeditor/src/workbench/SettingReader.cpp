@@ -36,59 +36,57 @@ bool isEmpty(const QJsonValue &value)
     });
 }
 
-bool areSame(const QJsonValue &first, const QJsonValue &second)
+/// Of \a property if it had the value; nothing if it has.
+std::optional<QString> otherValue(const KProperty &property, PropertyId id, const QJsonValue &value)
 {
-    return first == second || (isEmpty(first) && isEmpty(second));
+    if (value.isUndefined() || SettingReader::areSame(value, SettingReader::stored(property)))
+        return {};
+    KProperty other(property);
+    if (!PropertySetCreator::setValueFromJson(id, value, &other))
+        return {};
+    return SettingReader::valueText(other);
 }
 
-/// Of what is no setting, such as the metadata of the cell, nothing.
-PropertyId settingOf(const KProperty &property)
+} // namespace
+
+PropertyId SettingReader::idOf(const KProperty &property)
 {
     const QByteArray name = property.name();
     return name.startsWith(':') ? PropertyId::NoProperty
                                 : PropertiesNames::findPropertyForName(QString::fromUtf8(name));
 }
 
-/// A reference to nothing is an empty text in files.
-QJsonValue storedValueOf(const KProperty &property)
+bool SettingReader::areSame(const QJsonValue &first, const QJsonValue &second)
 {
-    if (property.type() == PropertiesTraits::ResourceReferenceType && isReferenceToNothing(property.value()))
-        return QString();
-    return PropertySetCreator::valueToJson(property, PropertyEditor::PropertyConversionFlag::KeepPaths);
+    return first == second || (isEmpty(first) && isEmpty(second));
 }
 
-QString valueText(const KProperty &property)
+QString SettingReader::valueText(const KProperty &property)
 {
     if (property.type() == PropertiesTraits::ResourceReferenceType && isReferenceToNothing(property.value()))
         return {};
     return KPropertyFactoryManager::self()->propertyValueToLocalizedString(&property).left(kMostCharacters);
 }
 
-/// Of \a property if it had the value; nothing if it has.
-std::optional<QString> otherValue(const KProperty &property, PropertyId id, const QJsonValue &value)
+QJsonValue SettingReader::stored(const KProperty &property)
 {
-    if (value.isUndefined() || areSame(value, storedValueOf(property)))
-        return {};
-    KProperty other(property);
-    if (!PropertySetCreator::setValueFromJson(id, value, &other))
-        return {};
-    return valueText(other);
+    if (property.type() == PropertiesTraits::ResourceReferenceType && isReferenceToNothing(property.value()))
+        return QString();
+    return PropertySetCreator::valueToJson(property, PropertyEditor::PropertyConversionFlag::KeepPaths);
 }
-
-} // namespace
 
 QJsonValue SettingReader::storedDefault(PropertyId id)
 {
     const auto known = m_defaults.constFind(id);
     if (known != m_defaults.cend())
         return *known;
-    const QJsonValue stored = PropertySetCreator::storedDefault(id);
+    const QJsonValue byDefault = PropertySetCreator::storedDefault(id);
     KProperty property;
     QList<QString> errors;
-    const bool isMade =
-        !stored.isUndefined() && PropertySetCreator::modifyKProperty(id, PropertySetCreator::Priority::Unset,
-                                                                     stored, &property, &errors);
-    return *m_defaults.insert(id, isMade ? storedValueOf(property) : QJsonValue(QJsonValue::Undefined));
+    const bool isMade = !byDefault.isUndefined() &&
+                        PropertySetCreator::modifyKProperty(id, PropertySetCreator::Priority::Unset,
+                                                            byDefault, &property, &errors);
+    return *m_defaults.insert(id, isMade ? stored(property) : QJsonValue(QJsonValue::Undefined));
 }
 
 SettingTexts SettingReader::textsOf(const KProperty &property, PropertyId id, const StoredSettings *saved)
@@ -113,7 +111,7 @@ QList<SettingTexts> SettingReader::read(const KPropertySet &set, const StoredSet
     QList<SettingTexts> settings;
     settings.reserve(set.count());
     for (KPropertySetIterator property(set); *property; ++property) {
-        const PropertyId id = settingOf(**property);
+        const PropertyId id = idOf(**property);
         if (id != PropertyId::NoProperty)
             settings.append(textsOf(**property, id, saved));
     }
@@ -124,8 +122,8 @@ StoredSettings SettingReader::stored(const KPropertySet &set)
 {
     StoredSettings values;
     for (KPropertySetIterator property(set); *property; ++property) {
-        if (settingOf(**property) != PropertyId::NoProperty)
-            values.insert((*property)->name(), storedValueOf(**property));
+        if (idOf(**property) != PropertyId::NoProperty)
+            values.insert((*property)->name(), stored(**property));
     }
     return values;
 }

@@ -26,6 +26,14 @@ public:
     [[nodiscard]] QList<SettingTexts> read(const KPropertySet &set, const StoredSettings *saved);
 
     [[nodiscard]] static StoredSettings stored(const KPropertySet &set);
+    /// A reference to nothing is an empty text in files.
+    [[nodiscard]] static QJsonValue stored(const KProperty &property);
+    /// Whether people see no difference between two stored values.
+    [[nodiscard]] static bool areSame(const QJsonValue &first, const QJsonValue &second);
+    /// As people see it, with its unit; of a long value the beginning.
+    [[nodiscard]] static QString valueText(const KProperty &property);
+    /// NoProperty for what is no setting, such as the metadata of the cell.
+    [[nodiscard]] static PropertyId idOf(const KProperty &property);
     /// What a new property has; undefined for one without a default.
     [[nodiscard]] QJsonValue storedDefault(PropertyId id);
 

@@ -1,5 +1,7 @@
 #include "orv/propertyeditor/workbench/Workbench.h"
 
+#include "CurrentSetting.h"
+#include "SameSetting.h"
 #include "StatusLine.h"
 #include "orv/propertyeditor/workbench/FindSettings.h"
 #include "orv/propertyeditor/workbench/Findings.h"
@@ -29,6 +31,8 @@ Workbench::Workbench(PropertyEditorWindow *window)
     m_find = new FindSettings(this);
     m_findings = new Findings(this);
     m_upgrades = new Upgrades(this);
+    auto *current = new CurrentSetting(window, this);
+    new SameSetting(this, current);
     new StatusLine(this);
 }
 

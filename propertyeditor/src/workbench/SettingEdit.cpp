@@ -1,0 +1,62 @@
+#include "SettingEdit.h"
+
+#include "SettingReader.h"
+
+#include <KProperty.h>
+#include <KPropertySet.h>
+#include <orv/propertyeditor/PropertySetCreator.h>
+
+#include <QCoreApplication>
+
+namespace orv {
+
+namespace {
+
+struct SettingEditTr
+{
+    Q_DECLARE_TR_FUNCTIONS(SettingEdit)
+};
+
+} // namespace
+
+QString SettingEdit::refusal(const KPropertySet *set, const QByteArray &name)
+{
+    if (!set || !set->contains(name))
+        return SettingEditTr::tr("The column doesn't have this setting.");
+    if (set->isReadOnly())
+        return SettingEditTr::tr("The settings of this column can only be read.");
+    return set->property(name).isReadOnly() ? SettingEditTr::tr("This setting can only be read.") : QString();
+}
+
+std::optional<QVariant> SettingEdit::valueOf(const KPropertySet &set, const QByteArray &name,
+                                             const QJsonValue &stored)
+{
+    KProperty other(set.property(name));
+    if (!PropertySetCreator::setValueFromJson(SettingReader::idOf(other), stored, &other))
+        return {};
+    return other.value();
+}
+
+SettingEdit::Outcome SettingEdit::setValue(KPropertySet *set, const QByteArray &name, const QVariant &value)
+{
+    if (!refusal(set, name).isEmpty())
+        return Outcome::Refused;
+    KProperty &property = set->property(name);
+    // Two references to one file are no equal values.
+    KProperty other(property);
+    other.setValue(value);
+    if (SettingReader::stored(other) == SettingReader::stored(property))
+        return Outcome::HadIt;
+    return property.setValue(value) ? Outcome::Changed : Outcome::HadIt;
+}
+
+SettingEdit::Outcome SettingEdit::setStored(KPropertySet *set, const QByteArray &name,
+                                            const QJsonValue &stored)
+{
+    if (!refusal(set, name).isEmpty())
+        return Outcome::Refused;
+    const std::optional<QVariant> value = valueOf(*set, name, stored);
+    return value ? setValue(set, name, *value) : Outcome::Refused;
+}
+
+} // namespace orv
