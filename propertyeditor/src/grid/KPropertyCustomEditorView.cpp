@@ -44,6 +44,7 @@ KPropertyCustomEditorView::KPropertyCustomEditorView(QWidget *parent)
     setHeaderHidden(true);
     setGridLineColor(QColor());
     setAcceptDrops(true);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
 }
 
 KPropertyCustomEditorView::~KPropertyCustomEditorView() = default;
@@ -51,6 +52,14 @@ KPropertyCustomEditorView::~KPropertyCustomEditorView() = default;
 QString KPropertyCustomEditorView::wholeValueText(const KProperty &property, const QString &shown) const
 {
     return property.type() == PropertiesTraits::ObjectType ? OrvGenericDelegate::summary(property) : shown;
+}
+
+QItemSelectionModel::SelectionFlags KPropertyCustomEditorView::selectionCommand(const QModelIndex &index,
+                                                                                const QEvent *event) const
+{
+    // Without an event the program goes to the row, and keys that are held, as for undo, mean something else.
+    return event ? KPropertyEditorView::selectionCommand(index, event)
+                 : QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
 }
 
 void KPropertyCustomEditorView::dragEnterEvent(QDragEnterEvent *event)

@@ -158,7 +158,11 @@ void KPropertyEditorView::mouseReleaseEvent(QMouseEvent *event)
     }
     QTreeView::mouseReleaseEvent(event);
     const QModelIndex index = indexAt(event->position().toPoint());
-    const bool clicked = event->button() == Qt::LeftButton && index.isValid() && d->pressed == index;
+    // With these keys a click selects rows, where several can be selected.
+    const bool selects = selectionMode() == QAbstractItemView::ExtendedSelection &&
+                         event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier);
+    const bool clicked =
+        event->button() == Qt::LeftButton && index.isValid() && d->pressed == index && !selects;
     d->pressed = QModelIndex();
     if (!clicked || index.column() != EditorDataModel::ValueColumn || d->delegate->editedIndex() == index) {
         return;
