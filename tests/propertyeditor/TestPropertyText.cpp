@@ -6,6 +6,7 @@
 #include <orv/propertyeditor/PropertyText.h>
 #include <orv/resources/ResourceReference.h>
 
+#include <QJsonArray>
 #include <QJsonDocument>
 
 using namespace orv;
@@ -49,6 +50,10 @@ private Q_SLOTS:
     void valuesWithUnitAreReadAsPeopleSayThem();
     void legalValuesAreTold_data();
     void legalValuesAreTold();
+    void valuesBecomeTheTextsThatMeanThem_data();
+    void valuesBecomeTheTextsThatMeanThem();
+    void everyDefaultHasATextThatMeansIt();
+    void whatNoTextMeansHasNone();
 };
 
 void TestPropertyText::textsBecomeValues_data()
@@ -221,6 +226,68 @@ void TestPropertyText::legalValuesAreTold()
     QFETCH(int, number);
     QFETCH(QString, text);
     QCOMPARE(legalValues(number), text);
+}
+
+void TestPropertyText::valuesBecomeTheTextsThatMeanThem_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QJsonValue>("stored");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("unit");
+    const auto mass = [](double value, const QString &unit) {
+        return QJsonObject{{u"unit"_s, unit}, {u"value"_s, value}};
+    };
+    QTest::newRow("switch") << 1 << QJsonValue(true) << u"true"_s << QString();
+    QTest::newRow("whole number") << 29 << QJsonValue(500) << u"500"_s << QString();
+    QTest::newRow("value with unit") << 80 << QJsonValue(mass(10.123456789, u"ppm"_s)) << u"10.123456789"_s
+                                     << u"ppm"_s;
+    QTest::newRow("small value") << 80 << QJsonValue(mass(1e-7, u"Da"_s)) << u"1e-07"_s << u"Da"_s;
+    QTest::newRow("value with more members")
+        << 80 << QJsonValue(QJsonObject{{u"more"_s, 1}, {u"unit"_s, u"Da"_s}, {u"value"_s, 0.5}})
+        << uR"({"more":1,"unit":"Da","value":0.5})"_s << QString();
+    QTest::newRow("checkable list") << 70 << QJsonValue(QJsonArray{u"S"_s, u"C"_s}) << u"S, C"_s << QString();
+    QTest::newRow("file") << 60 << QJsonValue(u"/a b/c.txt"_s) << u"/a b/c.txt"_s << QString();
+}
+
+void TestPropertyText::valuesBecomeTheTextsThatMeanThem()
+{
+    QFETCH(int, number);
+    QFETCH(QJsonValue, stored);
+    const auto id = PropertyId(number);
+    KProperty property;
+    QStringList errors;
+    QVERIFY2(PropertySetCreator::modifyKProperty(id, PropertySetCreator::Priority::High, stored, &property,
+                                                 &errors),
+             qPrintable(errors.join(u' ')));
+    const auto text = PropertyText::fromValue(id, property);
+    QVERIFY(text);
+    QTEST(text->text, "text");
+    QTEST(text->unit, "unit");
+}
+
+void TestPropertyText::everyDefaultHasATextThatMeansIt()
+{
+    int count = 0;
+    for (const PropertyId id : PropertiesNames::names()->keys()) {
+        const QJsonValue stored = PropertySetCreator::storedDefault(id);
+        KProperty property;
+        QStringList errors;
+        if (stored.isUndefined() || !PropertySetCreator::modifyKProperty(
+                                        id, PropertySetCreator::Priority::High, stored, &property, &errors))
+            continue;
+        QVERIFY2(PropertyText::fromValue(id, property), property.name().constData());
+        ++count;
+    }
+    QVERIFY2(count > 200, qPrintable(QString::number(count)));
+}
+
+void TestPropertyText::whatNoTextMeansHasNone()
+{
+    const auto id = PropertyId(70);
+    const std::unique_ptr<KProperty> property(
+        PropertySetCreator::createDefaultProperty(id, PropertySetCreator::Priority::High));
+    property->setValue(QStringList{u"S, T"_s});
+    QVERIFY(!PropertyText::fromValue(id, *property));
 }
 
 ORV_REGISTER_TEST(TestPropertyText)

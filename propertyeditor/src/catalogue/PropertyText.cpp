@@ -8,11 +8,15 @@
 #include <orv/propertyeditor/PropertiesCsvReader.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/PropertiesTraits.h>
+#include <orv/propertyeditor/PropertySetCreator.h>
 #include <orv/propertyeditor/UserVisibleListConverter.h>
+#include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/resources/ResourceReference.h>
 
 #include <QCoreApplication>
 #include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocale>
 
 #include <array>
 #include <cmath>
@@ -182,6 +186,57 @@ std::optional<QStringList> objectionsTo(PropertyId id, const QVariant &value,
     return errors;
 }
 
+Error refusal(PropertyId id, const QString &text, const KProperty &property, const QStringList &objections)
+{
+    Error error(ErrorCode::InvalidContent,
+                tr("The value \"%1\" is not allowed for %2.").arg(text, QString::fromUtf8(property.name())));
+    for (const QString &objection : objections)
+        error.addDetail(objection);
+    error.addDetail(tr("Allowed: %1.").arg(legalValues(id, property)));
+    return error;
+}
+
+/// With as few digits as tell the number from others.
+QString exact(double number)
+{
+    return QString::number(number, 'g', QLocale::FloatingPointShortest);
+}
+
+/// The number and the unit of an object that has nothing else; else JSON.
+ValueText textOfObject(PropertyId id, const QJsonValue &stored)
+{
+    const QJsonObject object = stored.toObject();
+    const QJsonValue number = object.value(PropertyEditorStringConstants::VALUE_KEY);
+    const QString unit = object.value(QLatin1String("unit")).toString();
+    if (unitsOf(id).contains(unit) && number.isDouble() && object.size() == 2)
+        return {exact(number.toDouble()), unit};
+    return {stored.isObject() ? QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact))
+                              : stored.toString(),
+            {}};
+}
+
+ValueText textOf(PropertyId id, const KProperty &property, const QJsonValue &stored)
+{
+    const QVariant value = property.value();
+    const QString unit = property.option("suffix").toString().trimmed();
+    switch (property.type()) {
+    case KProperty::Bool:
+        return {value.toBool() ? QStringLiteral("true") : QStringLiteral("false"), {}};
+    case KProperty::Int:
+        return {QString::number(value.toInt()), unit};
+    case KProperty::Double:
+        return {exact(value.toDouble()), unit};
+    case PropertiesTraits::ResourceReferenceType:
+        return {stored.toString(), {}};
+    case PropertiesTraits::ObjectType:
+        return textOfObject(id, stored);
+    case PropertiesTraits::CheckableListType:
+        return {value.toStringList().join(QLatin1String(", ")), {}};
+    default:
+        return unitsOf(id).isEmpty() ? ValueText{value.toString(), {}} : textOfObject(id, stored);
+    }
+}
+
 } // namespace
 
 QString legalValues(PropertyId id, const KProperty &property)
@@ -213,15 +268,31 @@ Result<QVariant> toValue(PropertyId id, const QString &text, const KProperty &pr
                          PropertyEditorContent::ContentMode mode)
 {
     const Read value = readText(id, text, property);
-    const std::optional<QStringList> objections = value ? objectionsTo(id, *value, mode) : QStringList();
-    if (!objections)
-        return *value;
-    Error error(ErrorCode::InvalidContent,
-                tr("The value \"%1\" is not allowed for %2.").arg(text, QString::fromUtf8(property.name())));
-    for (const QString &objection : *objections)
-        error.addDetail(objection);
-    error.addDetail(tr("Allowed: %1.").arg(legalValues(id, property)));
-    return error;
+    if (!value)
+        return refusal(id, text, property, {});
+    if (Error error = check(id, *value, text, property, mode))
+        return error;
+    return *value;
+}
+
+Error check(PropertyId id, const QVariant &value, const QString &text, const KProperty &property,
+            PropertyEditorContent::ContentMode mode)
+{
+    const std::optional<QStringList> objections = objectionsTo(id, value, mode);
+    return objections ? refusal(id, text, property, *objections) : Error(Error::NoError);
+}
+
+std::optional<ValueText> fromValue(PropertyId id, const KProperty &property)
+{
+    const auto stored = [](const KProperty &each) {
+        return PropertySetCreator::valueToJson(each, PropertyEditor::PropertyConversionFlag::KeepPaths);
+    };
+    const ValueText text = textOf(id, property, stored(property));
+    const Read value = readText(id, text.unit.isEmpty() ? text.text : text.text + u' ' + text.unit, property);
+    KProperty other(property);
+    if (!value || (other.value() != *value && !other.setValue(*value)) || stored(other) != stored(property))
+        return {};
+    return text;
 }
 
 } // namespace orv::PropertyText

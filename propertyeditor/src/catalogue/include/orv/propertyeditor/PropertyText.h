@@ -8,6 +8,8 @@
 #include <QString>
 #include <QVariant>
 
+#include <optional>
+
 class KProperty;
 
 /// Values of settings as people type them.
@@ -25,5 +27,21 @@ namespace orv::PropertyText {
 [[nodiscard]] ORV_WORKFLOW_EXPORT Result<QVariant> toValue(PropertyId id, const QString &text,
                                                            const KProperty &property,
                                                            PropertyEditorContent::ContentMode mode);
+
+/// What toValue() says against \a value, which people know as \a text; a success if nothing.
+[[nodiscard]] ORV_WORKFLOW_EXPORT Error check(PropertyId id, const QVariant &value, const QString &text,
+                                              const KProperty &property,
+                                              PropertyEditorContent::ContentMode mode);
+
+struct ValueText
+{
+    QString text;
+    QString unit; ///< empty where the property shows none
+};
+
+/// The way back: from this text, a blank and the unit toValue() makes the value that \a property has, with
+/// all digits and a point. Nothing for a value that no text stands for.
+[[nodiscard]] ORV_WORKFLOW_EXPORT std::optional<ValueText> fromValue(PropertyId id,
+                                                                     const KProperty &property);
 
 } // namespace orv::PropertyText
