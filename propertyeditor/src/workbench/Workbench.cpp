@@ -2,6 +2,7 @@
 
 #include "CurrentSetting.h"
 #include "SameSetting.h"
+#include "SettingClipboard.h"
 #include "StatusLine.h"
 #include "orv/propertyeditor/workbench/FindSettings.h"
 #include "orv/propertyeditor/workbench/Findings.h"
@@ -33,6 +34,7 @@ Workbench::Workbench(PropertyEditorWindow *window)
     m_upgrades = new Upgrades(this);
     auto *current = new CurrentSetting(window, this);
     new SameSetting(this, current);
+    new SettingClipboard(this, current);
     new StatusLine(this);
 }
 

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "SettingPaste.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <array>
+
+QT_FORWARD_DECLARE_CLASS(QAction)
+QT_FORWARD_DECLARE_CLASS(QDockWidget)
+QT_FORWARD_DECLARE_CLASS(QMenu)
+QT_FORWARD_DECLARE_CLASS(QPlainTextEdit)
+
+namespace orv {
+
+class CurrentSetting;
+class DocumentHistory;
+class GridPropertyEditorView;
+class PropertyEditorWindow;
+class Workbench;
+
+/// The commands of the menu Edit that copy the selected settings, as texts for people, programs and shells,
+/// and paste what was copied, as one step of the history. What doesn't fit is told in a panel. A child of its
+/// workbench.
+class SettingClipboard : public QObject
+{
+    Q_OBJECT
+
+public:
+    SettingClipboard(Workbench *workbench, CurrentSetting *current);
+    ~SettingClipboard() override;
+
+private:
+    enum class Form
+    {
+        Text,
+        Json,
+        CommandLine,
+        Count,
+    };
+
+    void addCommands(QMenu *menu);
+    void update();
+    void copy(Form form);
+    [[nodiscard]] QString commandLine(QStringList *leftOut) const;
+    void paste();
+    void apply(GridPropertyEditorView *view, const SettingPaste::Plan &plan);
+    void report(qsizetype pasted, const QStringList &refused);
+    void tell(const QString &text);
+
+    const QPointer<PropertyEditorWindow> m_window;
+    const QPointer<DocumentHistory> m_history;
+    CurrentSetting *const m_current; ///< outlives this
+    std::array<QAction *, int(Form::Count)> m_copy{};
+    QMenu *m_copyMenu = nullptr;
+    QAction *m_paste = nullptr;
+    QPlainTextEdit *m_refused; ///< of the dock
+    QPointer<QDockWidget> m_dock;
+};
+
+} // namespace orv

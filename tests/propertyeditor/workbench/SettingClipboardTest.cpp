@@ -1,0 +1,554 @@
+#include "FindFixture.h"
+#include "WidgetTest.h"
+#include "editors/LeavingWays.h"
+
+#include <orv/propertyeditor/PropertySetCreator.h>
+#include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
+#include <orv/propertyeditor/workbench/DocumentHistory.h>
+
+#include <QClipboard>
+#include <QElapsedTimer>
+#include <QMenu>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QStatusBar>
+
+using namespace orv;
+using namespace FindFixture;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kPeaks = "KarvonCentroidTopk";
+constexpr auto kLetters = "KarvonDigestLetters";
+constexpr auto kPrecursor = "KarvonPrecursorMassError";
+constexpr auto kJsonType = "application/x-orv-settings+json";
+
+QJsonObject massOf(double value, const char *unit = "ppm")
+{
+    return {{u"unit"_s, QString::fromUtf8(unit)}, {u"value"_s, value}};
+}
+
+QJsonObject fullCell(const char *letters = "RK")
+{
+    return karvonCell({setting(kPeaks, 500), setting(kLetters, text(letters), "Digestion"),
+                       setting(kPrecursor, massOf(10.123456789), "Masses")});
+}
+
+QJsonObject twoColumns()
+{
+    return Documents::document(
+        {Documents::tab(u"First"_s, {u"One"_s, u"Two"_s},
+                        {fullCell(), karvonCell({setting(kPeaks, 1000), setting(kPrecursor, massOf(20))})})},
+        metadata());
+}
+
+/// A window in one of whose columns somebody stands.
+struct Desk : Bench
+{
+    explicit Desk(const QJsonObject &document = twoColumns())
+    {
+        if (!open(document))
+            qFatal("The test's document can't be opened");
+        for (int column = 0; column < window->grid(0)->items().size(); ++column) {
+            if (view(0, column))
+                tree(column).expandAll();
+        }
+        QGuiApplication::clipboard()->clear();
+        standAt(0, kPeaks);
+    }
+
+    [[nodiscard]] KPropertyCustomEditorView &tree(int column) const { return *view(0, column)->editorView(); }
+    [[nodiscard]] KProperty &property(int column, const char *name) const
+    {
+        return view(0, column)->propertySet()->property(name);
+    }
+    void standAt(int column, const char *name) const
+    {
+        tree(column).setFocus();
+        tree(column).setCurrentIndex(LeavingWays::rowOf(tree(column), name));
+    }
+    void key(Qt::Key code, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) const
+    {
+        QTest::keyClick(QApplication::focusWidget(), code, modifiers);
+    }
+    [[nodiscard]] QString copied() const
+    {
+        key(Qt::Key_C);
+        return QGuiApplication::clipboard()->text();
+    }
+    [[nodiscard]] QString copiedBy(const char *command) const
+    {
+        child<QAction>(command)->trigger();
+        return QGuiApplication::clipboard()->text();
+    }
+    void paste(const QString &pasted) const
+    {
+        QGuiApplication::clipboard()->setText(pasted);
+        key(Qt::Key_V);
+    }
+    [[nodiscard]] QString message() const { return window->statusBar()->currentMessage(); }
+    [[nodiscard]] QString refused() const
+    {
+        return child<QPlainTextEdit>("settingsNotPastedList")->toPlainText();
+    }
+    [[nodiscard]] QJsonObject stored(int column) const
+    {
+        return PropertyEditorJsonUtils::withoutStamps(window->content().document())
+            .value(u"tabs"_s)
+            .toArray()
+            .at(0)
+            .toObject()
+            .value(u"cells"_s)
+            .toArray()
+            .at(column)
+            .toObject();
+    }
+};
+
+QJsonValue storedValue(const QJsonObject &cell, const char *name)
+{
+    for (const auto entry : cell.value(u"properties"_s).toArray()) {
+        if (entry.toObject().value(u"name"_s) == text(name))
+            return entry.toObject().value(u"value"_s);
+    }
+    return QJsonValue::Undefined;
+}
+
+QJsonArray storedSettings(const QJsonObject &document, int column)
+{
+    const QJsonObject tab = document.value(u"tabs"_s).toArray().at(0).toObject();
+    return tab.value(u"cells"_s).toArray().at(column).toObject().value(u"properties"_s).toArray();
+}
+
+/// Runs a line as a person pastes it into a terminal.
+int runInShell(const QString &line, QString *said)
+{
+    QProcess shell;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"PATH"_s, QFileInfo(text(ORV_WORKFLOW_PROGRAM)).absolutePath() + u':' +
+                                      environment.value(u"PATH"_s));
+    shell.setProcessEnvironment(environment);
+    shell.start(u"/bin/sh"_s, {u"-c"_s, line});
+    if (!shell.waitForFinished(60'000))
+        return -1;
+    *said = QString::fromUtf8(shell.readAllStandardError());
+    return shell.exitCode();
+}
+
+} // namespace
+
+class SettingClipboardTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theCurrentSettingIsCopiedAsText();
+    void groupsAndSelectedRowsAreCopied();
+    void clicksThatSelectOpenNoEditor();
+    void programsThatGoToARowSelectItAlone();
+    void textHasAllDigitsAndTheSignOfTheLanguage();
+    void jsonIsWhatFilesHold();
+    void commandLinesDoTheSame_data();
+    void commandLinesDoTheSame();
+    void commandLinesFindColumnsWithoutNamesOfTheirOwn();
+    void commandLinesLeaveOutWhatNoProgramCanBeGiven();
+    void whatWasCopiedComesBackInEveryForm_data();
+    void whatWasCopiedComesBackInEveryForm();
+    void typedLinesAreUnderstood_data();
+    void typedLinesAreUnderstood();
+    void whatDoesntFitIsToldAndTheRestApplied();
+    void nothingUsableChangesNothing_data();
+    void nothingUsableChangesNothing();
+    void hostileClipboardsAreBounded();
+    void pastingTheSameIsNoStep();
+    void editorsTablesAndOtherPlacesKeepTheirKeys();
+    void readOnlySettingsSaySo();
+    void theWindowMayGoInAPaste();
+    void aColumnMayGoInAPaste();
+};
+
+void SettingClipboardTest::theCurrentSettingIsCopiedAsText()
+{
+    const Desk d;
+    const QString caption = d.property(0, kPeaks).caption();
+    QCOMPARE(d.copied(), caption + u"\t500\t"_s);
+    QCOMPARE(d.message(), u"1 setting copied."_s);
+    d.standAt(0, kPrecursor);
+    QCOMPARE(d.copied(), u"Precursor mass tolerance\t10.123456789\tppm"_s);
+    QVERIFY(QGuiApplication::clipboard()->mimeData()->hasFormat(text(kJsonType)));
+}
+
+void SettingClipboardTest::groupsAndSelectedRowsAreCopied()
+{
+    const Desk d;
+    d.tree(0).setCurrentIndex(LeavingWays::rowOf(d.tree(0), kPeaks).parent());
+    QCOMPARE(d.copied().count(u'\n'), 1); // the samples, too
+    d.standAt(0, kPeaks);
+    d.key(Qt::Key_A);
+    const QStringList all = d.copied().split(u'\n', Qt::SkipEmptyParts);
+    QCOMPARE(all.size(), 4);
+    d.standAt(0, kLetters);
+    const QModelIndex mass = LeavingWays::rowOf(d.tree(0), kPrecursor);
+    QTest::mouseClick(d.tree(0).viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      d.tree(0).visualRect(mass).center());
+    QCOMPARE(d.copied().count(u'\n'), 1);
+}
+
+void SettingClipboardTest::clicksThatSelectOpenNoEditor()
+{
+    const Desk d;
+    const QModelIndex value = LeavingWays::rowOf(d.tree(0), kLetters).siblingAtColumn(1);
+    QTest::mouseClick(d.tree(0).viewport(), Qt::LeftButton, Qt::ShiftModifier,
+                      d.tree(0).visualRect(value).center());
+    QVERIFY(!d.tree(0).indexWidget(value));
+    QVERIFY(d.tree(0).hasFocus());
+    QTest::mouseClick(d.tree(0).viewport(), Qt::LeftButton, {}, d.tree(0).visualRect(value).center());
+    QVERIFY(d.tree(0).indexWidget(value));
+}
+
+void SettingClipboardTest::programsThatGoToARowSelectItAlone()
+{
+    const Desk d;
+    d.property(0, kPeaks).setValue(7);
+    d.bench->history()->takeIn();
+    d.standAt(0, kLetters);
+    // The key that takes back is still held when the row is shown.
+    d.key(Qt::Key_Z);
+    QCOMPARE(d.currentSetting(0, 0), QByteArray(kPeaks));
+    QCOMPARE(d.copied(), u"Peaks kept per spectrum\t500\t"_s);
+}
+
+void SettingClipboardTest::textHasAllDigitsAndTheSignOfTheLanguage()
+{
+    const Desk d;
+    d.window->setLocale(QLocale(QLocale::German));
+    d.standAt(0, kPrecursor);
+    QCOMPARE(d.copied(), u"Precursor mass tolerance\t10,123456789\tppm"_s);
+    d.standAt(1, kPrecursor);
+    d.key(Qt::Key_V);
+    QCOMPARE(storedValue(d.stored(1), kPrecursor), QJsonValue(massOf(10.123456789)));
+}
+
+void SettingClipboardTest::jsonIsWhatFilesHold()
+{
+    const Desk d;
+    d.key(Qt::Key_A);
+    const QJsonObject copied = QJsonDocument::fromJson(d.copiedBy("copySettingsAsJson").toUtf8()).object();
+    QCOMPARE(copied.keys(), QStringList({u"properties"_s, u"type"_s}));
+    QCOMPARE(copied.value(u"type"_s), QJsonValue(u"Karvon"_s));
+    QCOMPARE(copied.value(u"properties"_s).toArray(), fullCell().value(u"properties"_s).toArray());
+    const Result<KPropertySet *> read = PropertySetCreator::objectToPropertySet(copied, BaseItemType::Karvon);
+    QVERIFY(!read.hasError());
+    const std::unique_ptr<KPropertySet> set(*read);
+    QVERIFY(set->contains(kPrecursor));
+}
+
+void SettingClipboardTest::commandLinesDoTheSame_data()
+{
+    QTest::addColumn<QString>("letters");
+    QTest::addColumn<QString>("name");
+    QTest::addRow("plain") << u"RK"_s << u"plain"_s;
+    QTest::addRow("quotes") << u"'R' \"K\" '\\'' it's"_s << u"it's a \"test\""_s;
+    QTest::addRow("variables and patterns") << u"$HOME `ls` $(ls) * ? [a] !x ~ {a,b}"_s << u"$(a) *"_s;
+    QTest::addRow("blanks and lines") << u"  a\tb \n c "_s << u" two  blanks "_s;
+    QTest::addRow("signs of shells") << u"a;b|c&d>e<f#g\\h\\"_s << u"a;b&c#d"_s;
+    QTest::addRow("dashes and equal signs") << u"--output=x=y"_s << u"--tab=x"_s;
+    QTest::addRow("other letters") << u"ä 蛋白 👩‍🔬"_s << u"ä 蛋白"_s;
+    QTest::addRow("nothing") << QString() << u"0"_s;
+}
+
+void SettingClipboardTest::commandLinesDoTheSame()
+{
+    QFETCH(QString, letters);
+    QFETCH(QString, name);
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(name.simplified().remove(u'/') + u".wflw"_s);
+    const QJsonObject document =
+        Documents::document({Documents::tab(u"Other"_s, {u"One"_s}, {karvonCell()}),
+                             Documents::tab(name, {u"First"_s, name}, {karvonCell(), fullCell()})},
+                            metadata());
+    QFile written(file);
+    QVERIFY(written.open(QIODevice::WriteOnly));
+    written.write(QJsonDocument(document).toJson());
+    written.close();
+    Bench b;
+    QCOMPARE(b.window->openWorkflow(file), kOpened);
+    b.window->show();
+    b.window->tabs().setCurrentIndex(1);
+    const auto *view = b.view(1, 1);
+    view->editorView()->expandAll();
+    KPropertySet *set = view->propertySet();
+    set->property(kLetters).setValue(letters);
+    set->property(kPeaks).setValue(77);
+    set->property(kPrecursor).setValue(QJsonDocument(massOf(0.1, "Da")).toJson());
+    view->editorView()->setFocus();
+    view->editorView()->setCurrentIndex(LeavingWays::rowOf(*view->editorView(), kPeaks));
+    view->editorView()->selectAll();
+    b.child<QAction>("copySettingsAsCommandLine")->trigger();
+    const QString line = QGuiApplication::clipboard()->text();
+    QVERIFY2(line.startsWith(u"orv-workflow set "_s), qPrintable(line));
+    QString said;
+    QVERIFY2(runInShell(line, &said) == 0, qPrintable(line + said));
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    const QJsonObject now = QJsonDocument::fromJson(written.readAll()).object();
+    const QJsonObject held = b.window->content().document();
+    const auto settings = [](const QJsonObject &whole) {
+        const QJsonObject tab = whole.value(u"tabs"_s).toArray().at(1).toObject();
+        return tab.value(u"cells"_s).toArray().at(1).toObject().value(u"properties"_s).toArray();
+    };
+    QCOMPARE(settings(now), settings(held));
+    QCOMPARE(storedSettings(now, 0), storedSettings(document, 0));
+}
+
+void SettingClipboardTest::commandLinesFindColumnsWithoutNamesOfTheirOwn()
+{
+    const QTemporaryDir folder;
+    const QString file = write(folder, "twins.wflw",
+                               Documents::document({Documents::tab(u"T"_s, {u"Twin"_s, u"Twin"_s, QString()},
+                                                                   {fullCell(), fullCell(), fullCell()})},
+                                                   metadata()));
+    Bench b;
+    QCOMPARE(b.window->openWorkflow(file), kOpened);
+    b.window->show();
+    for (const int column : {0, 1, 2}) {
+        const auto *view = b.view(0, column);
+        view->editorView()->expandAll();
+        view->propertySet()->property(kPeaks).setValue(10 + column);
+        view->editorView()->setFocus();
+        view->editorView()->setCurrentIndex(LeavingWays::rowOf(*view->editorView(), kPeaks));
+        b.child<QAction>("copySettingsAsCommandLine")->trigger();
+        QString said;
+        QCOMPARE(runInShell(QGuiApplication::clipboard()->text(), &said), 0);
+        QFile now(file);
+        QVERIFY(now.open(QIODevice::ReadOnly));
+        const QJsonObject document = QJsonDocument::fromJson(now.readAll()).object();
+        const QJsonArray settings = storedSettings(document, column);
+        QCOMPARE(settings.at(1).toObject().value(u"value"_s).toInt(), 10 + column);
+    }
+}
+
+void SettingClipboardTest::commandLinesLeaveOutWhatNoProgramCanBeGiven()
+{
+    const Desk d;
+    d.property(0, kLetters).setValue(QString(200'000, u'R'));
+    d.key(Qt::Key_A);
+    const QString line = d.copiedBy("copySettingsAsCommandLine");
+    QVERIFY(line.contains(u"KarvonCentroidTopk=500"_s));
+    QVERIFY(!line.contains(u"RRR"_s));
+    QCOMPARE(d.message(),
+             u"3 settings copied. No command line holds: "_s + d.property(0, kLetters).caption());
+    d.property(0, kLetters).setValue(QString(QChar(0)) + u"R"_s);
+    QVERIFY(!d.copiedBy("copySettingsAsCommandLine").contains(text(kLetters)));
+}
+
+void SettingClipboardTest::whatWasCopiedComesBackInEveryForm_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addRow("text") << u"copySettingsAsText"_s;
+    QTest::addRow("JSON") << u"copySettingsAsJson"_s;
+    QTest::addRow("command line") << u"copySettingsAsCommandLine"_s;
+}
+
+void SettingClipboardTest::whatWasCopiedComesBackInEveryForm()
+{
+    QFETCH(QString, command);
+    const QJsonObject odd = fullCell("'R'\t\"K\"\nP");
+    const Desk d(documentOf({odd, settingsCell("Karvon", {setting("Samples", u"S"_s), setting(kPeaks, 1),
+                                                          setting(kLetters, u"D"_s, "Digestion"),
+                                                          setting(kPrecursor, massOf(1, "Da"), "Masses")})}));
+    d.key(Qt::Key_A);
+    // As from another program, which keeps the text alone.
+    const QString copied = d.copiedBy(command.toUtf8().constData());
+    d.standAt(1, kPeaks);
+    d.paste(copied);
+    QCOMPARE(d.message(), u"4 settings pasted."_s);
+    QCOMPARE(d.stored(1).value(u"properties"_s), d.stored(0).value(u"properties"_s));
+    DocumentHistory *history = d.bench->history();
+    QCOMPARE(history->count(), 1);
+    QCOMPARE(history->undoText(), u"Paste 4 settings"_s);
+    history->undo();
+    QCOMPARE(storedValue(d.stored(1), kPeaks), QJsonValue(1));
+}
+
+void SettingClipboardTest::typedLinesAreUnderstood_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("setting");
+    QTest::addColumn<QJsonValue>("value");
+    const auto row = [](const char *name, const QString &line, const char *setting, const QJsonValue &value) {
+        QTest::newRow(name) << line << text(setting) << value;
+    };
+    row("caption", u"Precursor mass tolerance\t5\tppm"_s, kPrecursor, massOf(5));
+    row("case of the caption", u"precursor MASS tolerance\t5\tppm"_s, kPrecursor, massOf(5));
+    row("name", u"KarvonPrecursorMassError\t5"_s, kPrecursor, massOf(5));
+    row("unit in the value", u"KarvonPrecursorMassError\t0.5 Da"_s, kPrecursor, massOf(0.5, "Da"));
+    row("decimal comma", u"KarvonPrecursorMassError\t0,435\tDa"_s, kPrecursor, massOf(0.435, "Da"));
+    row("lines of Windows", u"KarvonCentroidTopk\t7\r\n"_s, kPeaks, 7);
+    row("command with a path",
+        u"/opt/bin/orv-workflow set f.wflw --tab 0 --column 1 'KarvonCentroidTopk=7' -o -"_s, kPeaks, 7);
+    row("cell of a file", QString::fromUtf8(QJsonDocument(karvonCell({setting(kPeaks, 7)})).toJson()), kPeaks,
+        7);
+}
+
+void SettingClipboardTest::typedLinesAreUnderstood()
+{
+    QFETCH(QString, line);
+    QFETCH(QString, setting);
+    QFETCH(QJsonValue, value);
+    const Desk d;
+    d.paste(line);
+    QVERIFY2(d.message().contains(u"pasted."_s) && !d.message().contains(u"Not pasted"_s),
+             qPrintable(d.message()));
+    QCOMPARE(storedValue(d.stored(0), setting.toUtf8().constData()), value);
+}
+
+void SettingClipboardTest::whatDoesntFitIsToldAndTheRestApplied()
+{
+    const Desk d;
+    d.paste(u"KarvonCentroidTopk\t7\nKarvonPrecursorMassError\tmany\tppm\nNo such\t5\n"
+            "KarvonDigestLetters\nKarvonCentroidTopk\t8\nKarvonPrecursorMassError\t1,234\tDa\n"_s);
+    QCOMPARE(d.property(0, kPeaks).value().toInt(), 7);
+    QCOMPARE(d.message(), u"1 setting pasted. Not pasted: 5 settings, see below."_s);
+    QVERIFY(d.panel("settingsNotPasted")->isVisible());
+    const QStringList lines = d.refused().split(u'\n');
+    QCOMPARE(lines.size(), 5);
+    QVERIFY(lines.at(0).startsWith(u"KarvonPrecursorMassError: The value \"many ppm\" is not allowed"_s));
+    QVERIFY(lines.at(0).contains(u"Allowed: a number in"_s));
+    QCOMPARE(lines.at(1), u"No such: The column doesn't have this setting."_s);
+    QCOMPARE(lines.at(2), u"KarvonDigestLetters: There is no value."_s);
+    QCOMPARE(lines.at(3), u"KarvonCentroidTopk: It stands there twice; the first value was taken."_s);
+    QVERIFY(lines.at(4).contains(u"1,234"_s));
+    QVERIFY(d.tree(0).hasFocus());
+    d.paste(u"KarvonCentroidTopk\t9"_s);
+    QVERIFY(!d.panel("settingsNotPasted")->isVisible());
+}
+
+void SettingClipboardTest::nothingUsableChangesNothing_data()
+{
+    QTest::addColumn<QString>("pasted");
+    QTest::addRow("prose") << u"Dear colleagues,\nthe column is broken."_s;
+    QTest::addRow("a table of something else") << u"Mass\tCharge\n1.5\t2\n"_s;
+    QTest::addRow("JSON of something else") << u"{\"a\": 1}"_s;
+    QTest::addRow("broken JSON") << u"{\"properties\": ["_s;
+    QTest::addRow("odd entries") << u"{\"properties\": [1, null, \"x\", [], {}, {\"name\": 7}]}"_s;
+    QTest::addRow("another command") << u"orv-workflow get f.wflw"_s;
+    QTest::addRow("an open quote") << u"orv-workflow set f.wflw 'a=b"_s;
+    QTest::addRow("characters") << QString(QChar(0)) + u"\x1\xfffe\t\xd83d"_s;
+    QTest::addRow("deep JSON") << QString(100'000, u'{');
+}
+
+void SettingClipboardTest::nothingUsableChangesNothing()
+{
+    QFETCH(QString, pasted);
+    const Desk d;
+    const QJsonObject before = d.stored(0);
+    d.paste(pasted);
+    QVERIFY2(d.message().startsWith(u"Nothing was pasted"_s), qPrintable(d.message()));
+    QCOMPARE(d.stored(0), before);
+    QCOMPARE(d.bench->history()->count(), 0);
+    QVERIFY(!d.panel("settingsNotPasted")->isVisible());
+}
+
+void SettingClipboardTest::hostileClipboardsAreBounded()
+{
+    const Desk d;
+    const auto putJson = [](const QByteArray &json) {
+        auto *data = new QMimeData;
+        data->setData(text(kJsonType), json);
+        QGuiApplication::clipboard()->setMimeData(data);
+    };
+    QElapsedTimer clock;
+    clock.start();
+    putJson(QByteArray(100'000'000, '{'));
+    d.key(Qt::Key_V);
+    QVERIFY(d.message().startsWith(u"Nothing was pasted. The clipboard holds more than"_s));
+    putJson(QByteArray("{\"properties\":") + QByteArray(1'000'000, '[') + QByteArray(1'000'000, ']') + "}");
+    d.key(Qt::Key_V);
+    QVERIFY(d.message().startsWith(u"Nothing was pasted."_s));
+    d.paste(QString(50'000'000, u'x'));
+    QVERIFY(d.message().startsWith(u"Nothing was pasted."_s));
+    d.paste(QString(2'000'000, u'\n'));
+    QVERIFY(d.message().startsWith(u"Nothing was pasted."_s));
+    d.paste(u"KarvonDigestLetters\t"_s + QString(1'000'000, u'\t'));
+    QVERIFY(!d.message().isEmpty());
+    putJson("{\"properties\": [{\"name\": \"KarvonDigestLetters\", \"value\": {\"a\": [1]}}]}");
+    d.key(Qt::Key_V);
+    QVERIFY(d.refused().startsWith(u"KarvonDigestLetters: "_s) || d.message().contains(u"pasted"_s));
+    QVERIFY2(clock.elapsed() < 30'000, qPrintable(QString::number(clock.elapsed())));
+}
+
+void SettingClipboardTest::pastingTheSameIsNoStep()
+{
+    const Desk d;
+    d.key(Qt::Key_A);
+    d.key(Qt::Key_C);
+    d.key(Qt::Key_V);
+    QCOMPARE(d.message(), u"4 settings pasted."_s);
+    QCOMPARE(d.bench->history()->count(), 0);
+    QVERIFY(!d.window->isWindowModified());
+}
+
+void SettingClipboardTest::editorsTablesAndOtherPlacesKeepTheirKeys()
+{
+    const Desk d(documentOf({fullCell(), Documents::cell(u"Samples"_s)}));
+    QVERIFY(LeavingWays::open(d.tree(0), kLetters));
+    LeavingWays::type(u"abc"_s);
+    QTest::keySequence(QApplication::focusWidget(), QKeySequence::SelectAll);
+    QCOMPARE(d.copied(), u"abc"_s);
+    d.paste(u"KarvonCentroidTopk\t7"_s);
+    QCOMPARE(d.property(0, kPeaks).value().toInt(), 500);
+    QVERIFY(!d.child<QAction>("pasteSettings")->isEnabled());
+    QVERIFY(d.child<QAction>("copySettingsAsText")->isEnabled());
+    auto *table = d.window->grid(0)->items().at(1)->widget()->findChild<QAbstractItemView *>();
+    table->setFocus();
+    QVERIFY(!d.child<QAction>("pasteSettings")->isEnabled());
+    QVERIFY(!d.child<QAction>("copySettingsAsText")->isEnabled());
+    QGuiApplication::clipboard()->setText(u"KarvonCentroidTopk\t8"_s);
+    QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(d.property(0, kPeaks).value().toInt(), 500);
+    d.standAt(0, kPeaks);
+    QTest::keyClick(d.window, Qt::Key_E, Qt::AltModifier);
+    QVERIFY(d.bench->editMenu()->isVisible());
+    QVERIFY(d.child<QAction>("pasteSettings")->isEnabled());
+    d.bench->editMenu()->close();
+}
+
+void SettingClipboardTest::readOnlySettingsSaySo()
+{
+    const Desk d;
+    d.property(0, kPeaks).setReadOnly(true);
+    d.paste(u"KarvonCentroidTopk\t7"_s);
+    QCOMPARE(d.message(),
+             u"Nothing was pasted. Not pasted: KarvonCentroidTopk: This setting can only be read."_s);
+    QCOMPARE(d.property(0, kPeaks).value().toInt(), 500);
+}
+
+void SettingClipboardTest::theWindowMayGoInAPaste()
+{
+    const Desk d;
+    connect(d.window->workflowTabs(), &WorkflowTabs::edited, d.window, [&d] { d.window->deleteLater(); });
+    d.paste(u"KarvonCentroidTopk\t7\nKarvonDigestLetters\tA\n"_s);
+    QTRY_VERIFY(!d.window);
+}
+
+void SettingClipboardTest::aColumnMayGoInAPaste()
+{
+    const Desk d;
+    connect(d.view(0, 1)->propertySet(), &KPropertySet::propertyChanged, d.window,
+            [&d] { d.window->grid(0)->removeColumn(0); });
+    QSignalSpy edited(d.window->workflowTabs(), &WorkflowTabs::columnsChanged);
+    connect(d.window->workflowTabs(), &WorkflowTabs::edited, d.window, [&d] {
+        if (d.window->grid(0)->items().size() == 2)
+            d.window->grid(0)->removeColumn(0);
+    });
+    d.paste(u"KarvonCentroidTopk\t7\nKarvonDigestLetters\tA\n"_s);
+    QCOMPARE(d.message(), u"1 setting pasted. Not pasted: KarvonDigestLetters: The column doesn't have this "
+                          "setting."_s);
+    QTRY_COMPARE(d.window->grid(0)->items().size(), 1);
+}
+
+WIDGET_REGISTER_TEST(SettingClipboardTest)
+#include "SettingClipboardTest.moc"
