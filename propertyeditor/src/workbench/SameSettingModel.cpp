@@ -5,6 +5,7 @@
 
 #include <KProperty.h>
 #include <KPropertySet.h>
+#include <orv/widgets/Icons.h>
 
 #include <algorithm>
 #include <array>
@@ -164,6 +165,10 @@ QVariant SameSettingModel::data(const QModelIndex &index, int role) const
     case Qt::CheckStateRole:
         return index.column() == Place && canGet(row) ? QVariant(isChecked(row) ? Qt::Checked : Qt::Unchecked)
                                                       : QVariant();
+    case Qt::DecorationRole:
+        return index.column() != Place || canGet(row)
+                   ? QVariant()
+                   : QVariant(Icons::icon(row.isSource ? IconName::Copy : IconName::Information));
     case Qt::AccessibleTextRole: {
         // The first cell is the current one, so that this is what one hears.
         QStringList spoken{text(row, index.column()).left(kMostInTip)};

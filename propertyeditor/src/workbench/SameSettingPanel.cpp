@@ -70,7 +70,7 @@ void SameSettingPanel::buildList()
     m_list->setTabKeyNavigation(false);
     m_list->installEventFilter(this);
     const int letter = m_list->fontMetrics().averageCharWidth();
-    constexpr std::array<int, SameSettingModel::ColumnCount> kLetters = {36, 24, 40};
+    constexpr std::array<int, SameSettingModel::ColumnCount> kLetters = {44, 24, 40};
     for (int column = 0; column < SameSettingModel::ColumnCount; ++column)
         m_list->setColumnWidth(column, letter * kLetters.at(size_t(column)));
     setFocusProxy(m_list);
