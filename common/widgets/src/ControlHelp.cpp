@@ -68,8 +68,10 @@ QString cellExplanation(const QModelIndex &cell)
     const auto header = [&](int role) {
         return cell.model()->headerData(cell.column(), Qt::Horizontal, role).toString();
     };
-    const QString told = firstTold(
-        {cell.data(Qt::WhatsThisRole).toString(), header(Qt::WhatsThisRole), header(Qt::ToolTipRole)});
+    // What a cell tells itself is of its row, and whole.
+    if (const QString own = cell.data(Qt::WhatsThisRole).toString(); !own.isEmpty())
+        return paragraph(own);
+    const QString told = firstTold({header(Qt::WhatsThisRole), header(Qt::ToolTipRole)});
     if (told.isEmpty())
         return {};
     const QString problem = cell.data(Qt::AccessibleDescriptionRole).toString();

@@ -150,6 +150,11 @@ QVariant FindHits::data(const QModelIndex &index, int role) const
         return decoration(*texts, index.column());
     case Qt::AccessibleTextRole:
         return spoken(*texts, hit, index.column());
+    case Qt::WhatsThisRole:
+        return texts->toolTip.isEmpty()
+                   ? QVariant()
+                   : QVariant(QStringLiteral("<b>%1</b><br>%2")
+                                  .arg(texts->caption.toHtmlEscaped(), texts->toolTip.toHtmlEscaped()));
     case Qt::ToolTipRole: {
         const QString tip = spoken(*texts, hit, index.column()).toHtmlEscaped();
         const QString more = index.column() == Setting ? texts->toolTip.toHtmlEscaped() : QString();

@@ -10,6 +10,7 @@
 
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/workbench/DocumentHistory.h>
+#include <orv/widgets/ControlHelp.h>
 #include <orv/widgets/Icons.h>
 
 #include <QDockWidget>
@@ -24,6 +25,7 @@ Workbench::Workbench(PropertyEditorWindow *window)
     , m_viewMenu(window->menuBar()->addMenu(tr("&View")))
     , m_history(new DocumentHistory(window))
 {
+    ControlHelp::install();
     m_editMenu->setToolTipsVisible(true);
     m_viewMenu->setToolTipsVisible(true);
     addHistory();

@@ -1,13 +1,18 @@
 #include "WidgetTest.h"
 #include "WindowFixture.h"
+#include "editors/LeavingWays.h"
 
+#include <KPropertySet.h>
+#include <orv/propertyeditor/grid/KPropertyCustomEditorView.h>
 #include <orv/propertyeditor/workbench/DocumentHistory.h>
 #include <orv/propertyeditor/workbench/Workbench.h>
+#include <orv/widgets/ControlHelp.h>
 
 #include <QDockWidget>
 #include <QLabel>
 #include <QMenuBar>
 #include <QSignalSpy>
+#include <QWhatsThis>
 
 using namespace orv;
 using namespace WindowFixture;
@@ -23,6 +28,7 @@ private Q_SLOTS:
     void documentsAreTold();
     void savedDocumentsAreTold();
     void titleAndStatusLineTellOfChanges();
+    void theHelpKeyExplainsTheSetting();
 };
 
 void WorkbenchTest::menusStandBehindThoseThatAreThere()
@@ -98,6 +104,38 @@ void WorkbenchTest::titleAndStatusLineTellOfChanges()
     workbench->history()->takeIn();
     QCOMPARE(part(u"statusChanges"_s), u"Unsaved changes"_s);
     QVERIFY(window.isWindowModified());
+}
+
+void WorkbenchTest::theHelpKeyExplainsTheSetting()
+{
+    Window window;
+    new Workbench(&window);
+    QCOMPARE(window.openWorkflow(documentOf({karvonCell({setting("KarvonDigestLetters", u"RK"_s)})})),
+             kOpened);
+    window.show();
+    auto &view = *static_cast<GridPropertyEditorView *>(window.grid(0)->items().constFirst()->widget());
+    KPropertyCustomEditorView &tree = *view.editorView();
+    tree.expandAll();
+    const KProperty &property = view.propertySet()->property("KarvonDigestLetters");
+    const QString wanted = u"<p><b>%1</b><br>%2</p>"_s.arg(property.caption(), property.description());
+    const auto helpByKey = [] {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        const bool isShown = std::ranges::any_of(
+            windows, [](const QWidget *each) { return each->isVisible() && each->inherits("QWhatsThat"); });
+        QWhatsThis::hideText();
+        return isShown ? ControlHelp::explanation(QApplication::focusWidget()) : QString();
+    };
+    tree.setFocus();
+    tree.setCurrentIndex(LeavingWays::rowOf(tree, "KarvonDigestLetters"));
+    QVERIFY(!property.description().isEmpty());
+    QCOMPARE(helpByKey(), wanted);
+    QVERIFY(LeavingWays::openByKey(tree, "KarvonDigestLetters"));
+    QVERIFY(QApplication::focusWidget() != &tree);
+    QCOMPARE(helpByKey(), wanted);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    tree.setCurrentIndex(tree.currentIndex().parent());
+    QCOMPARE(helpByKey(), u"<p><b>Search</b><br>Group of properties</p>"_s);
 }
 
 WIDGET_REGISTER_TEST(WorkbenchTest)

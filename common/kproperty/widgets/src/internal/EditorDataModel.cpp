@@ -43,6 +43,11 @@ QString remarkAsHtml(const QString &remark)
     return remark.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
 }
 
+QString heading(const QString &text)
+{
+    return QLatin1String("<b>") + asHtml(text.trimmed()) + QLatin1String("</b><br>");
+}
+
 /// The caption, which the column may cut, above what is remarked and the description.
 QString toolTip(const KProperty &property, const QString &remark)
 {
@@ -355,6 +360,11 @@ QVariant EditorDataModel::groupData(const Node &node, int column, int role) cons
         const QString remarks = remarksIn(node);
         return remarks.isEmpty() ? QVariant() : QVariant(remarkAsHtml(remarks));
     }
+    case Qt::WhatsThisRole: {
+        const QString remarks = remarksIn(node);
+        const QString told = heading(m_set->groupCaption(node.group)) + tr("Group of properties");
+        return remarks.isEmpty() ? told : told + QLatin1String("<br>") + remarkAsHtml(remarks);
+    }
     case Qt::DecorationRole:
         return iconData(m_set->groupIconName(node.group));
     default:
@@ -411,6 +421,9 @@ QVariant EditorDataModel::data(const QModelIndex &index, int role) const
         return m_toolTipsVisible       ? QVariant(toolTip(*node.property, node.remark))
                : node.remark.isEmpty() ? QVariant()
                                        : QVariant(remarkAsHtml(node.remark));
+    }
+    if (role == Qt::WhatsThisRole) {
+        return toolTip(*node.property, node.remark);
     }
     if (role == Qt::AccessibleDescriptionRole) {
         const QString description = spokenDescription(*node.property, node.remark);

@@ -16,8 +16,9 @@ namespace ControlHelp {
 ORV_PROPERTY_EDITOR_EXPORT void install();
 
 /// What F1 shows, as rich text: the name of the control and its what's-this text, or else its tool tip or its
-/// description, or that of what it is part of. Of a view with columns what the column of the current cell
-/// holds, and what is wrong with the cell. Empty where nothing is told.
+/// description, or that of what it is part of. Of a view what the current cell tells by its
+/// own what's-this text, else what its column holds and what is wrong with the cell. Empty where nothing is
+/// told.
 [[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT QString explanation(const QWidget *control);
 
 } // namespace ControlHelp
