@@ -93,6 +93,7 @@ private Q_SLOTS:
     void enterGoesToTheColumnAndEscapeBack();
     void everythingIsNamedForScreenReaders();
     void manyColumnsAreReadOnceForAnEdit();
+    void theWindowMayGoWhileTheValueIsApplied_data();
     void theWindowMayGoWhileTheValueIsApplied();
     void aColumnMayGoWhileTheValueIsApplied();
 };
@@ -281,13 +282,26 @@ void SameSettingTest::manyColumnsAreReadOnceForAnEdit()
     QVERIFY2(read.size() <= 3, qPrintable(QString::number(read.size())));
 }
 
+void SameSettingTest::theWindowMayGoWhileTheValueIsApplied_data()
+{
+    QTest::addColumn<bool>("isAtOnce");
+    QTest::addRow("behind the event") << false;
+    QTest::addRow("at once") << true;
+}
+
 void SameSettingTest::theWindowMayGoWhileTheValueIsApplied()
 {
+    QFETCH(bool, isAtOnce);
     const Same s;
     s.toggle(1);
     s.toggle(2);
-    connect(s.window->workflowTabs(), &WorkflowTabs::edited, s.window, [&s] { s.window->deleteLater(); });
-    QTest::mouseClick(&s.apply(), Qt::LeftButton);
+    connect(s.window->workflowTabs(), &WorkflowTabs::edited, s.window, [&s, isAtOnce] {
+        if (isAtOnce)
+            delete s.window;
+        else
+            s.window->deleteLater();
+    });
+    QTest::keyClick(&s.apply(), Qt::Key_Space);
     QTRY_VERIFY(!s.window);
 }
 

@@ -1,144 +1,12 @@
-#include "FindFixture.h"
-#include "WidgetTest.h"
-#include "editors/LeavingWays.h"
+#include "ClipboardFixture.h"
 
 #include <orv/propertyeditor/PropertySetCreator.h>
-#include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
-#include <orv/propertyeditor/workbench/DocumentHistory.h>
 
-#include <QClipboard>
 #include <QElapsedTimer>
-#include <QMenu>
 #include <QMimeData>
-#include <QPlainTextEdit>
-#include <QProcess>
 #include <QSignalSpy>
-#include <QStatusBar>
 
-using namespace orv;
-using namespace FindFixture;
-using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr auto kPeaks = "KarvonCentroidTopk";
-constexpr auto kLetters = "KarvonDigestLetters";
-constexpr auto kPrecursor = "KarvonPrecursorMassError";
-constexpr auto kJsonType = "application/x-orv-settings+json";
-
-QJsonObject massOf(double value, const char *unit = "ppm")
-{
-    return {{u"unit"_s, QString::fromUtf8(unit)}, {u"value"_s, value}};
-}
-
-QJsonObject fullCell(const char *letters = "RK")
-{
-    return karvonCell({setting(kPeaks, 500), setting(kLetters, text(letters), "Digestion"),
-                       setting(kPrecursor, massOf(10.123456789), "Masses")});
-}
-
-QJsonObject twoColumns()
-{
-    return Documents::document(
-        {Documents::tab(u"First"_s, {u"One"_s, u"Two"_s},
-                        {fullCell(), karvonCell({setting(kPeaks, 1000), setting(kPrecursor, massOf(20))})})},
-        metadata());
-}
-
-/// A window in one of whose columns somebody stands.
-struct Desk : Bench
-{
-    explicit Desk(const QJsonObject &document = twoColumns())
-    {
-        if (!open(document))
-            qFatal("The test's document can't be opened");
-        for (int column = 0; column < window->grid(0)->items().size(); ++column) {
-            if (view(0, column))
-                tree(column).expandAll();
-        }
-        QGuiApplication::clipboard()->clear();
-        standAt(0, kPeaks);
-    }
-
-    [[nodiscard]] KPropertyCustomEditorView &tree(int column) const { return *view(0, column)->editorView(); }
-    [[nodiscard]] KProperty &property(int column, const char *name) const
-    {
-        return view(0, column)->propertySet()->property(name);
-    }
-    void standAt(int column, const char *name) const
-    {
-        tree(column).setFocus();
-        tree(column).setCurrentIndex(LeavingWays::rowOf(tree(column), name));
-    }
-    void key(Qt::Key code, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) const
-    {
-        QTest::keyClick(QApplication::focusWidget(), code, modifiers);
-    }
-    [[nodiscard]] QString copied() const
-    {
-        key(Qt::Key_C);
-        return QGuiApplication::clipboard()->text();
-    }
-    [[nodiscard]] QString copiedBy(const char *command) const
-    {
-        child<QAction>(command)->trigger();
-        return QGuiApplication::clipboard()->text();
-    }
-    void paste(const QString &pasted) const
-    {
-        QGuiApplication::clipboard()->setText(pasted);
-        key(Qt::Key_V);
-    }
-    [[nodiscard]] QString message() const { return window->statusBar()->currentMessage(); }
-    [[nodiscard]] QString refused() const
-    {
-        return child<QPlainTextEdit>("settingsNotPastedList")->toPlainText();
-    }
-    [[nodiscard]] QJsonObject stored(int column) const
-    {
-        return PropertyEditorJsonUtils::withoutStamps(window->content().document())
-            .value(u"tabs"_s)
-            .toArray()
-            .at(0)
-            .toObject()
-            .value(u"cells"_s)
-            .toArray()
-            .at(column)
-            .toObject();
-    }
-};
-
-QJsonValue storedValue(const QJsonObject &cell, const char *name)
-{
-    for (const auto entry : cell.value(u"properties"_s).toArray()) {
-        if (entry.toObject().value(u"name"_s) == text(name))
-            return entry.toObject().value(u"value"_s);
-    }
-    return QJsonValue::Undefined;
-}
-
-QJsonArray storedSettings(const QJsonObject &document, int column)
-{
-    const QJsonObject tab = document.value(u"tabs"_s).toArray().at(0).toObject();
-    return tab.value(u"cells"_s).toArray().at(column).toObject().value(u"properties"_s).toArray();
-}
-
-/// Runs a line as a person pastes it into a terminal.
-int runInShell(const QString &line, QString *said)
-{
-    QProcess shell;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"PATH"_s, QFileInfo(text(ORV_WORKFLOW_PROGRAM)).absolutePath() + u':' +
-                                      environment.value(u"PATH"_s));
-    shell.setProcessEnvironment(environment);
-    shell.start(u"/bin/sh"_s, {u"-c"_s, line});
-    if (!shell.waitForFinished(60'000))
-        return -1;
-    *said = QString::fromUtf8(shell.readAllStandardError());
-    return shell.exitCode();
-}
-
-} // namespace
+using namespace ClipboardFixture;
 
 class SettingClipboardTest : public WidgetTest
 {
@@ -151,10 +19,6 @@ private Q_SLOTS:
     void programsThatGoToARowSelectItAlone();
     void textHasAllDigitsAndTheSignOfTheLanguage();
     void jsonIsWhatFilesHold();
-    void commandLinesDoTheSame_data();
-    void commandLinesDoTheSame();
-    void commandLinesFindColumnsWithoutNamesOfTheirOwn();
-    void commandLinesLeaveOutWhatNoProgramCanBeGiven();
     void whatWasCopiedComesBackInEveryForm_data();
     void whatWasCopiedComesBackInEveryForm();
     void typedLinesAreUnderstood_data();
@@ -166,6 +30,7 @@ private Q_SLOTS:
     void pastingTheSameIsNoStep();
     void editorsTablesAndOtherPlacesKeepTheirKeys();
     void readOnlySettingsSaySo();
+    void theWindowMayGoInAPaste_data();
     void theWindowMayGoInAPaste();
     void aColumnMayGoInAPaste();
 };
@@ -244,104 +109,6 @@ void SettingClipboardTest::jsonIsWhatFilesHold()
     QVERIFY(!read.hasError());
     const std::unique_ptr<KPropertySet> set(*read);
     QVERIFY(set->contains(kPrecursor));
-}
-
-void SettingClipboardTest::commandLinesDoTheSame_data()
-{
-    QTest::addColumn<QString>("letters");
-    QTest::addColumn<QString>("name");
-    QTest::addRow("plain") << u"RK"_s << u"plain"_s;
-    QTest::addRow("quotes") << u"'R' \"K\" '\\'' it's"_s << u"it's a \"test\""_s;
-    QTest::addRow("variables and patterns") << u"$HOME `ls` $(ls) * ? [a] !x ~ {a,b}"_s << u"$(a) *"_s;
-    QTest::addRow("blanks and lines") << u"  a\tb \n c "_s << u" two  blanks "_s;
-    QTest::addRow("signs of shells") << u"a;b|c&d>e<f#g\\h\\"_s << u"a;b&c#d"_s;
-    QTest::addRow("dashes and equal signs") << u"--output=x=y"_s << u"--tab=x"_s;
-    QTest::addRow("other letters") << u"ä 蛋白 👩‍🔬"_s << u"ä 蛋白"_s;
-    QTest::addRow("nothing") << QString() << u"0"_s;
-}
-
-void SettingClipboardTest::commandLinesDoTheSame()
-{
-    QFETCH(QString, letters);
-    QFETCH(QString, name);
-    const QTemporaryDir folder;
-    const QString file = folder.filePath(name.simplified().remove(u'/') + u".wflw"_s);
-    const QJsonObject document =
-        Documents::document({Documents::tab(u"Other"_s, {u"One"_s}, {karvonCell()}),
-                             Documents::tab(name, {u"First"_s, name}, {karvonCell(), fullCell()})},
-                            metadata());
-    QFile written(file);
-    QVERIFY(written.open(QIODevice::WriteOnly));
-    written.write(QJsonDocument(document).toJson());
-    written.close();
-    Bench b;
-    QCOMPARE(b.window->openWorkflow(file), kOpened);
-    b.window->show();
-    b.window->tabs().setCurrentIndex(1);
-    const auto *view = b.view(1, 1);
-    view->editorView()->expandAll();
-    KPropertySet *set = view->propertySet();
-    set->property(kLetters).setValue(letters);
-    set->property(kPeaks).setValue(77);
-    set->property(kPrecursor).setValue(QJsonDocument(massOf(0.1, "Da")).toJson());
-    view->editorView()->setFocus();
-    view->editorView()->setCurrentIndex(LeavingWays::rowOf(*view->editorView(), kPeaks));
-    view->editorView()->selectAll();
-    b.child<QAction>("copySettingsAsCommandLine")->trigger();
-    const QString line = QGuiApplication::clipboard()->text();
-    QVERIFY2(line.startsWith(u"orv-workflow set "_s), qPrintable(line));
-    QString said;
-    QVERIFY2(runInShell(line, &said) == 0, qPrintable(line + said));
-    QVERIFY(written.open(QIODevice::ReadOnly));
-    const QJsonObject now = QJsonDocument::fromJson(written.readAll()).object();
-    const QJsonObject held = b.window->content().document();
-    const auto settings = [](const QJsonObject &whole) {
-        const QJsonObject tab = whole.value(u"tabs"_s).toArray().at(1).toObject();
-        return tab.value(u"cells"_s).toArray().at(1).toObject().value(u"properties"_s).toArray();
-    };
-    QCOMPARE(settings(now), settings(held));
-    QCOMPARE(storedSettings(now, 0), storedSettings(document, 0));
-}
-
-void SettingClipboardTest::commandLinesFindColumnsWithoutNamesOfTheirOwn()
-{
-    const QTemporaryDir folder;
-    const QString file = write(folder, "twins.wflw",
-                               Documents::document({Documents::tab(u"T"_s, {u"Twin"_s, u"Twin"_s, QString()},
-                                                                   {fullCell(), fullCell(), fullCell()})},
-                                                   metadata()));
-    Bench b;
-    QCOMPARE(b.window->openWorkflow(file), kOpened);
-    b.window->show();
-    for (const int column : {0, 1, 2}) {
-        const auto *view = b.view(0, column);
-        view->editorView()->expandAll();
-        view->propertySet()->property(kPeaks).setValue(10 + column);
-        view->editorView()->setFocus();
-        view->editorView()->setCurrentIndex(LeavingWays::rowOf(*view->editorView(), kPeaks));
-        b.child<QAction>("copySettingsAsCommandLine")->trigger();
-        QString said;
-        QCOMPARE(runInShell(QGuiApplication::clipboard()->text(), &said), 0);
-        QFile now(file);
-        QVERIFY(now.open(QIODevice::ReadOnly));
-        const QJsonObject document = QJsonDocument::fromJson(now.readAll()).object();
-        const QJsonArray settings = storedSettings(document, column);
-        QCOMPARE(settings.at(1).toObject().value(u"value"_s).toInt(), 10 + column);
-    }
-}
-
-void SettingClipboardTest::commandLinesLeaveOutWhatNoProgramCanBeGiven()
-{
-    const Desk d;
-    d.property(0, kLetters).setValue(QString(200'000, u'R'));
-    d.key(Qt::Key_A);
-    const QString line = d.copiedBy("copySettingsAsCommandLine");
-    QVERIFY(line.contains(u"KarvonCentroidTopk=500"_s));
-    QVERIFY(!line.contains(u"RRR"_s));
-    QCOMPARE(d.message(),
-             u"3 settings copied. No command line holds: "_s + d.property(0, kLetters).caption());
-    d.property(0, kLetters).setValue(QString(QChar(0)) + u"R"_s);
-    QVERIFY(!d.copiedBy("copySettingsAsCommandLine").contains(text(kLetters)));
 }
 
 void SettingClipboardTest::whatWasCopiedComesBackInEveryForm_data()
@@ -526,10 +293,23 @@ void SettingClipboardTest::readOnlySettingsSaySo()
     QCOMPARE(d.property(0, kPeaks).value().toInt(), 500);
 }
 
+void SettingClipboardTest::theWindowMayGoInAPaste_data()
+{
+    QTest::addColumn<bool>("isAtOnce");
+    QTest::addRow("behind the event") << false;
+    QTest::addRow("at once") << true;
+}
+
 void SettingClipboardTest::theWindowMayGoInAPaste()
 {
+    QFETCH(bool, isAtOnce);
     const Desk d;
-    connect(d.window->workflowTabs(), &WorkflowTabs::edited, d.window, [&d] { d.window->deleteLater(); });
+    connect(d.window->workflowTabs(), &WorkflowTabs::edited, d.window, [&d, isAtOnce] {
+        if (isAtOnce)
+            delete d.window;
+        else
+            d.window->deleteLater();
+    });
     d.paste(u"KarvonCentroidTopk\t7\nKarvonDigestLetters\tA\n"_s);
     QTRY_VERIFY(!d.window);
 }
