@@ -5,6 +5,7 @@
 #include "SettingEdit.h"
 #include "SettingJump.h"
 #include "SettingReader.h"
+#include "ShortText.h"
 #include "orv/propertyeditor/workbench/DocumentHistory.h"
 #include "orv/propertyeditor/workbench/Workbench.h"
 
@@ -23,12 +24,6 @@ namespace orv {
 namespace {
 
 constexpr qsizetype kLongestInStep = 40;
-
-QString inStep(const QString &value)
-{
-    const QString line = value.left(4 * kLongestInStep).simplified();
-    return line.size() <= kLongestInStep ? line : line.left(kLongestInStep - 1) + QChar(0x2026);
-}
 
 } // namespace
 
@@ -86,7 +81,7 @@ QString SameSetting::stepText(const QList<int> &rows) const
 {
     const SameSettingModel &model = *m_panel->model();
     const auto value = [&model](int row) {
-        return inStep(model.index(row, SameSettingModel::Value).data().toString());
+        return shortened(model.index(row, SameSettingModel::Value).data().toString(), kLongestInStep);
     };
     QString before = value(rows.constFirst());
     for (const int row : rows) {

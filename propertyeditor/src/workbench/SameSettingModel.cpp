@@ -14,8 +14,8 @@ namespace orv {
 
 namespace {
 
-constexpr qsizetype kMostInCell = 200;
-constexpr qsizetype kMostInTip = 2000;
+constexpr qsizetype kMostOfSame = 200;
+constexpr qsizetype kMostOfSameInTip = 2000;
 
 struct SameSettingColumn
 {
@@ -161,7 +161,7 @@ QVariant SameSettingModel::data(const QModelIndex &index, int role) const
     const Row &row = m_rows.at(index.row());
     switch (role) {
     case Qt::DisplayRole:
-        return text(row, index.column()).left(kMostInCell).simplified();
+        return text(row, index.column()).left(kMostOfSame).simplified();
     case Qt::CheckStateRole:
         return index.column() == Place && canGet(row) ? QVariant(isChecked(row) ? Qt::Checked : Qt::Unchecked)
                                                       : QVariant();
@@ -171,14 +171,14 @@ QVariant SameSettingModel::data(const QModelIndex &index, int role) const
                    : QVariant(Icons::icon(row.isSource ? IconName::Copy : IconName::Information));
     case Qt::AccessibleTextRole: {
         // The first cell is the current one, so that this is what one hears.
-        QStringList spoken{text(row, index.column()).left(kMostInTip)};
+        QStringList spoken{text(row, index.column()).left(kMostOfSameInTip)};
         if (index.column() == Place)
-            spoken += {text(row, Value).left(kMostInTip), remark(row)};
+            spoken += {text(row, Value).left(kMostOfSameInTip), remark(row)};
         spoken.removeAll(QString());
         return spoken.join(QStringLiteral(", "));
     }
     case Qt::ToolTipRole:
-        return text(row, index.column()).left(kMostInTip).toHtmlEscaped();
+        return text(row, index.column()).left(kMostOfSameInTip).toHtmlEscaped();
     default:
         return {};
     }

@@ -1,5 +1,7 @@
 #include "SameSettingPanel.h"
 
+#include "ShortText.h"
+
 #include <QAccessible>
 #include <QCheckBox>
 #include <QHeaderView>
@@ -17,12 +19,6 @@ namespace orv {
 namespace {
 
 constexpr qsizetype kLongestInHeading = 200;
-
-QString inHeading(const QString &text)
-{
-    const QString line = text.left(kLongestInHeading + 1).simplified();
-    return line.size() <= kLongestInHeading ? line : line.left(kLongestInHeading) + QChar(0x2026);
-}
 
 } // namespace
 
@@ -117,7 +113,7 @@ void SameSettingPanel::tellValue()
         const std::optional<QString> common = m_model->commonValue();
         const QString value = !common             ? QStringLiteral("–")
                               : common->isEmpty() ? tr("(empty)")
-                                                  : inHeading(*common);
+                                                  : shortened(*common, kLongestInHeading);
         text = tr("%1: %2").arg(m_model->caption(), value);
         spoken = common ? text : tr("%1: the columns differ").arg(m_model->caption());
     }

@@ -4,6 +4,7 @@
 #include "SettingReader.h"
 #include "SettingText.h"
 #include "ShellWords.h"
+#include "ShortText.h"
 
 #include <KProperty.h>
 #include <KPropertySet.h>
@@ -26,18 +27,12 @@ using Pasted = QList<PastedSetting>;
 
 namespace {
 
-constexpr qsizetype kMostToldOfText = 100;
+constexpr qsizetype kMostToldOfText = 200;
 
 struct SettingPasteTr
 {
     Q_DECLARE_TR_FUNCTIONS(SettingPaste)
 };
-
-QString told(const QString &text)
-{
-    const QString line = text.left(kMostToldOfText + 1).simplified();
-    return line.size() <= kMostToldOfText ? line : line.left(kMostToldOfText) + QChar(0x2026);
-}
 
 Error noSettings()
 {
@@ -170,7 +165,7 @@ QString addTo(SettingPaste::Plan *plan, const PastedSetting &setting, const KPro
     if (value.hasError()) {
         QStringList reasons = value.error().errorMessages() + value.error().details();
         for (QString &reason : reasons)
-            reason = told(reason);
+            reason = shortened(reason, kMostToldOfText);
         return reasons.join(u' ');
     }
     plan->values.append({name, *value});
@@ -211,7 +206,7 @@ SettingPaste::Plan SettingPaste::plan(const Pasted &pasted, const KPropertySet &
     Plan plan;
     for (const PastedSetting &setting : pasted) {
         if (const QString reason = addTo(&plan, setting, set, mode, locale); !reason.isEmpty()) {
-            const QString name = told(setting.name);
+            const QString name = shortened(setting.name, kMostToldOfText);
             plan.refused.append(SettingPasteTr::tr("%1: %2").arg(
                 name.isEmpty() ? SettingPasteTr::tr("(no name)") : name, reason));
         }

@@ -20,7 +20,7 @@ struct SettingTextTr
     Q_DECLARE_TR_FUNCTIONS(SettingText)
 };
 
-bool isNumber(const KProperty &property)
+bool holdsNumber(const KProperty &property)
 {
     if (property.type() == KProperty::Int || property.type() == KProperty::Double)
         return true;
@@ -59,7 +59,7 @@ SettingText::Value seenText(const KProperty &property, const PropertyText::Value
 {
     if (property.type() == KProperty::Bool || property.type() == KProperty::ValueFromList)
         return {SettingReader::valueText(property), {}};
-    if (isNumber(property) && NumberText::isCanonical(exact.text))
+    if (holdsNumber(property) && NumberText::isCanonical(exact.text))
         return {NumberText::shown(exact.text, NumberText::signOf(locale)), exact.unit};
     return {exact.text, exact.unit};
 }
@@ -89,7 +89,7 @@ Result<QVariant> SettingText::read(const KProperty &property, const Value &typed
         if (const std::optional<bool> seen = seenSwitch(property, typed.text))
             return QVariant(*seen);
     }
-    const bool hasNumber = isNumber(property);
+    const bool hasNumber = holdsNumber(property);
     if (!hasNumber && !typed.unit.isEmpty()) {
         return Error(ErrorCode::InvalidContent,
                      SettingTextTr::tr("The setting has no unit, and \"%1\" stands behind its value.")

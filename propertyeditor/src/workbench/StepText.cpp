@@ -1,6 +1,7 @@
 #include "StepText.h"
 
 #include "CellEntries.h"
+#include "ShortText.h"
 
 #include <KProperty.h>
 #include <KPropertyFactory.h>
@@ -32,12 +33,6 @@ struct StepTextTr
     Q_DECLARE_TR_FUNCTIONS(StepText)
 };
 
-QString inOneLine(const QString &text)
-{
-    const QString line = text.simplified();
-    return line.size() <= kLongestValue ? line : line.left(kLongestValue - 1) + QChar(0x2026);
-}
-
 /// A value as its row shows it; empty for tables and other values that no line shows.
 QString valueText(const QJsonObject &cell, const QJsonObject &entry)
 {
@@ -49,7 +44,8 @@ QString valueText(const QJsonObject &cell, const QJsonObject &entry)
     const std::unique_ptr<KPropertySet> set(*made);
     for (KPropertySetIterator property(*set); *property; ++property) {
         if (!(*property)->name().startsWith(':'))
-            return inOneLine(KPropertyFactoryManager::self()->propertyValueToLocalizedString(*property));
+            return shortened(KPropertyFactoryManager::self()->propertyValueToLocalizedString(*property),
+                             kLongestValue);
     }
     return {};
 }
