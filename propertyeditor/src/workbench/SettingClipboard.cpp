@@ -67,6 +67,11 @@ SettingClipboard::SettingClipboard(Workbench *workbench, CurrentSetting *current
     m_refused->setTabChangesFocus(true);
     m_refused->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_refused->setPlaceholderText(tr("Everything that was pasted last fitted."));
+    auto *leaving = new QAction(m_refused);
+    leaving->setShortcut(Qt::Key_Escape);
+    leaving->setShortcutContext(Qt::WidgetShortcut);
+    m_refused->addAction(leaving);
+    connect(leaving, &QAction::triggered, this, &SettingClipboard::leave);
     addCommands(workbench->editMenu());
     connect(m_current, &CurrentSetting::changed, this, &SettingClipboard::update);
     connect(m_window, &PropertyEditorWindow::documentShown, this, [this] { m_refused->clear(); });
@@ -225,6 +230,15 @@ void SettingClipboard::report(qsizetype pasted, const QStringList &refused)
     m_dock->raise();
     tell(refused.size() == 1 ? tr("%1 Not pasted: %2").arg(done, refused.constFirst())
                              : tr("%1 Not pasted: %2 settings, see below.").arg(done).arg(refused.size()));
+}
+
+void SettingClipboard::leave()
+{
+    const QPointer<SettingClipboard> self(this);
+    if (GridPropertyEditorView *view = m_current->view(); view && view->isVisible())
+        view->editorView()->setFocus(Qt::OtherFocusReason);
+    if (self && m_dock)
+        m_dock->hide();
 }
 
 void SettingClipboard::tell(const QString &text)

@@ -48,6 +48,7 @@ private:
     void apply(GridPropertyEditorView *view, const SettingPaste::Plan &plan);
     void report(qsizetype pasted, const QStringList &refused);
     void tell(const QString &text);
+    void leave();
 
     const QPointer<PropertyEditorWindow> m_window;
     const QPointer<DocumentHistory> m_history;

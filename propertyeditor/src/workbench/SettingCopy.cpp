@@ -119,7 +119,7 @@ SettingCopy::CommandLine SettingCopy::asCommandLine(const KPropertySet &set, con
 
 QString SettingCopy::placeArgument(const QStringList &names, qsizetype index)
 {
-    const QString name = names.value(index);
+    QString name = names.value(index);
     if (!name.isEmpty() && names.indexOf(name) == index)
         return name;
     const QString number = QString::number(index);

@@ -111,7 +111,7 @@ Result<Pasted> fromCommand(const QStringList &words)
 QByteArray settingCalled(const KPropertySet &set, const QString &text, bool *isAmbiguous)
 {
     const PropertyId id = PropertiesNames::findPropertyForName(text);
-    const QByteArray name =
+    QByteArray name =
         id == PropertyId::NoProperty ? QByteArray() : PropertiesNames::internalNameForType(id).toUtf8();
     if (!name.isEmpty() && set.contains(name))
         return name;
@@ -155,7 +155,7 @@ QString addTo(SettingPaste::Plan *plan, const PastedSetting &setting, const KPro
     plan->isKnown = true;
     if (isAmbiguous)
         return SettingPasteTr::tr("Several settings are called so. Give the name of one.");
-    if (const QString refusal = SettingEdit::refusal(&set, name); !refusal.isEmpty())
+    if (QString refusal = SettingEdit::refusal(&set, name); !refusal.isEmpty())
         return refusal;
     if (!setting.hasValue)
         return SettingPasteTr::tr("There is no value.");

@@ -189,7 +189,13 @@ void SettingClipboardTest::whatDoesntFitIsToldAndTheRestApplied()
     QCOMPARE(lines.at(3), u"KarvonCentroidTopk: It stands there twice; the first value was taken."_s);
     QVERIFY(lines.at(4).contains(u"1,234"_s));
     QVERIFY(d.tree(0).hasFocus());
-    d.paste(u"KarvonCentroidTopk\t9"_s);
+    d.child<QPlainTextEdit>("settingsNotPastedList")->setFocus();
+    d.key(Qt::Key_Escape, Qt::NoModifier);
+    QVERIFY(!d.panel("settingsNotPasted")->isVisible());
+    QVERIFY(d.tree(0).hasFocus());
+    d.paste(u"No such\t1\nKarvonCentroidTopk\t9"_s);
+    QVERIFY(d.panel("settingsNotPasted")->isVisible());
+    d.paste(u"KarvonCentroidTopk\t10"_s);
     QVERIFY(!d.panel("settingsNotPasted")->isVisible());
 }
 
