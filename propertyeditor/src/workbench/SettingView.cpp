@@ -21,7 +21,9 @@ QList<SettingView> SettingView::all(const PropertyEditorWindow *window)
     const WorkflowTabs *tabs = window ? window->workflowTabs() : nullptr;
     for (int tab = 0; tabs && tab < tabs->count(); ++tab) {
         const PropertyGridWidget *grid = tabs->grid(tab);
-        const QList<IGridItem *> items = grid ? grid->items() : QList<IGridItem *>();
+        if (!grid)
+            continue;
+        const QList<IGridItem *> items = grid->items();
         for (int i = 0; i < items.size(); ++i) {
             if (auto *view = qobject_cast<GridPropertyEditorView *>(items.at(i)->widget()))
                 columns.append({view, tab, i, tabs->widget()->tabText(tab), grid->columnNames().value(i)});
