@@ -1,5 +1,7 @@
 #include "ValueDifferences.h"
 
+#include "NamedLists.h"
+
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
 #include <QJsonDocument>
@@ -16,9 +18,6 @@ using Place = DifferenceList::Place;
 
 /// Each level compares what lies below it as a whole first; the bound keeps the sum linear in the size.
 constexpr int kDeepest = 16;
-
-/// Of a name in a path: places repeat the names above them.
-constexpr qsizetype kLongestName = 200;
 
 constexpr QLatin1String kSampleNameMember("SampleName");
 
@@ -61,6 +60,18 @@ QString numbered(const char *what, qsizetype number)
     return QStringLiteral("%1 %2").arg(QLatin1String(what)).arg(number);
 }
 
+QJsonValue elementAt(const QJsonArray &array, std::optional<qsizetype> index)
+{
+    return index && *index < array.size() ? array.at(*index) : QJsonValue(QJsonValue::Undefined);
+}
+
+QJsonObject without(const QJsonValue &value, const QString &key)
+{
+    QJsonObject object = value.toObject();
+    object.remove(key);
+    return object;
+}
+
 class ValueComparison
 {
 public:
@@ -68,62 +79,126 @@ public:
         : m_differences(differences)
     {}
 
-    void compare(const QJsonValue &left, const QJsonValue &right, const Place &place, int depth)
+    QJsonValue compare(const QJsonValue &left, const QJsonValue &right, const Place &place, int depth)
     {
         if (left == right)
-            return;
+            return left;
         const qsizetype before = m_differences->size();
+        QJsonValue merged = left;
         if (depth < kDeepest)
-            compareParts(left, right, place, depth + 1);
+            merged = compareParts(left, right, place, depth + 1);
         // Whatever the parts hide, such as the spelling of a number, a difference is never passed over.
         if (m_differences->size() == before)
-            m_differences->add(place, left, right);
+            return m_differences->add(place, left, right) ? right : left;
+        return merged;
     }
 
 private:
-    void compareParts(const QJsonValue &left, const QJsonValue &right, const Place &place, int depth)
+    using Group = qsizetype;
+
+    QJsonValue compareParts(const QJsonValue &left, const QJsonValue &right, const Place &place, int depth)
     {
         if (isTable(left) && isTable(right))
-            compareTables(left.toObject(), right.toObject(), place, depth);
-        else if (left.isObject() && right.isObject())
-            compareMembers(left.toObject(), right.toObject(), place, depth);
-        else if (left.isArray() && right.isArray())
-            compareLists(left.toArray(), right.toArray(), place, depth);
+            return compareTables(left.toObject(), right.toObject(), place, depth);
+        if (left.isArray() && right.isArray())
+            return compareLists(left.toArray(), right.toArray(), place, depth);
+        if (!left.isObject() || !right.isObject())
+            return left;
+        const auto find = [&] { return compareMembers(left.toObject(), right.toObject(), place, depth); };
+        // Half a table is read as something else.
+        return isTable(left) == isTable(right) ? find() : oneOf(left, right, find);
     }
 
-    void compareMembers(const QJsonObject &left, const QJsonObject &right, const Place &place, int depth)
+    /// What can't be mixed.
+    template<typename Find>
+    QJsonValue oneOf(const QJsonValue &left, const QJsonValue &right, Find find)
     {
-        forEachMember(left, right, [&](const QString &key, const QJsonValue &l, const QJsonValue &r) {
-            compare(l, r, place.below(key), depth);
-        });
+        return m_differences->together(find) ? right : left;
     }
 
-    void compareLists(const QJsonArray &left, const QJsonArray &right, const Place &place, int depth)
+    QJsonObject compareMembers(const QJsonObject &left, const QJsonObject &right, const Place &place,
+                               int depth)
+    {
+        return mergedMembers(left, left, right,
+                             [&](const QString &key, const QJsonValue &l, const QJsonValue &r) {
+                                 return compare(l, r, place.below(key), depth);
+                             });
+    }
+
+    QJsonValue compareLists(const QJsonArray &left, const QJsonArray &right, const Place &place, int depth)
     {
         const auto leftNames = elementNames(left);
         const auto rightNames = elementNames(right);
-        if (leftNames && rightNames) {
-            const CountedNames l(*leftNames);
-            const CountedNames r(*rightNames);
-            matchNames(l, r, [&](const QString &label, auto i, auto j) {
-                compare(elementAt(left, i), elementAt(right, j), place.below(label), depth);
-            });
-            m_differences->addOrder(place, QStringLiteral("order"), l, r);
-            return;
-        }
+        if (leftNames && rightNames)
+            return compareNamed(left, CountedNames(*leftNames), right, CountedNames(*rightNames), place,
+                                depth);
         const auto isObject = [](const QJsonValue &element) { return element.isObject(); };
         if (!allOf(left, isObject) || !allOf(right, isObject))
-            return;
-        for (qsizetype i = 0; i < std::max(left.size(), right.size()); ++i)
-            compare(elementAt(left, i), elementAt(right, i), place.below(numbered("entry", i)), depth);
+            return left;
+        const auto find = [&] {
+            return compareNumbered(
+                left, right,
+                [&](const QJsonValue &l, const QJsonValue &r, qsizetype i) {
+                    return compare(l, r, place.below(numbered("entry", i)), depth);
+                },
+                [&](qsizetype i) { return place.below(numbered("entry", i)); });
+        };
+        // A list whose elements got names is told by them.
+        return leftNames.has_value() == rightNames.has_value() ? QJsonValue(find())
+                                                               : oneOf(left, right, find);
     }
 
-    void compareTables(const QJsonObject &left, const QJsonObject &right, const Place &place, int depth)
+    QJsonArray compareNamed(const QJsonArray &left, const CountedNames &leftNames, const QJsonArray &right,
+                            const CountedNames &rightNames, const Place &place, int depth)
     {
-        forEachMember(left, right, [&](const QString &key, const QJsonValue &l, const QJsonValue &r) {
-            if (key != DATA && key != CHILDREN)
-                compare(l, r, place.below(key), depth);
-        });
+        return mergeNamed(
+            left, leftNames, right, rightNames, m_differences->merges(), DifferenceList::kNoGroup,
+            [&](const QString &label, qsizetype i, qsizetype j) {
+                return compare(left.at(i), right.at(j), place.below(label), depth);
+            },
+            [&](const QString &label, auto i, auto j, Group *group) {
+                return m_differences->add(place.below(label), elementAt(left, i), elementAt(right, j), group);
+            },
+            [&] { return m_differences->addOrder(place, QStringLiteral("order"), leftNames, rightNames); });
+    }
+
+    /// What one list has beyond the other can only be had together: elements are told by their numbers.
+    template<typename Compare, typename PlaceOf>
+    QJsonArray compareNumbered(const QJsonArray &left, const QJsonArray &right, Compare compareBoth,
+                               PlaceOf placeOf)
+    {
+        QJsonArray merged;
+        Group group = DifferenceList::kNoGroup;
+        for (qsizetype i = 0; i < std::max(left.size(), right.size()); ++i) {
+            const QJsonValue l = elementAt(left, i);
+            const QJsonValue r = elementAt(right, i);
+            const QJsonValue element = l.isUndefined() || r.isUndefined()
+                                           ? (m_differences->add(placeOf(i), l, r, &group) ? r : l)
+                                       : l == r ? l
+                                                : compareBoth(l, r, i);
+            if (m_differences->merges() && !element.isUndefined())
+                merged.append(element);
+        }
+        return merged;
+    }
+
+    QJsonValue compareTables(const QJsonObject &left, const QJsonObject &right, const Place &place, int depth)
+    {
+        const QJsonArray leftRows = left.value(CHILDREN).toArray();
+        const QJsonArray rightRows = right.value(CHILDREN).toArray();
+        const bool isAlike =
+            left.value(DATA) == right.value(DATA) && hasTables(leftRows) == hasTables(rightRows);
+        const auto find = [&] { return compareTableMembers(left, right, place, depth); };
+        return isAlike ? QJsonValue(find()) : oneOf(left, right, find);
+    }
+
+    QJsonObject compareTableMembers(const QJsonObject &left, const QJsonObject &right, const Place &place,
+                                    int depth)
+    {
+        QJsonObject merged = mergedMembers(
+            left, left, right, [&](const QString &key, const QJsonValue &l, const QJsonValue &r) {
+                return key == DATA || key == CHILDREN ? l : compare(l, r, place.below(key), depth);
+            });
         const QJsonArray leftHeader = left.value(DATA).toArray();
         const QJsonArray rightHeader = right.value(DATA).toArray();
         const CountedNames l(headerOf(leftHeader));
@@ -133,18 +208,19 @@ private:
         const QJsonArray leftRows = left.value(CHILDREN).toArray();
         const QJsonArray rightRows = right.value(CHILDREN).toArray();
         const bool holdsTables = hasTables(leftRows) || hasTables(rightRows);
-        for (qsizetype i = 0; i < std::max(leftRows.size(), rightRows.size()); ++i) {
-            const QJsonValue leftRow = elementAt(leftRows, i);
-            const QJsonValue rightRow = elementAt(rightRows, i);
-            if (leftRow == rightRow)
-                continue;
-            if (holdsTables) {
-                const QString name = leftHeader.at(i).toString();
-                compare(leftRow, rightRow, place.below(name.isEmpty() ? numbered("table", i) : name), depth);
-            } else {
-                compareRows(leftRow, rightRow, l, r, place.below(numbered("row", i)));
-            }
-        }
+        const auto placeOf = [&](qsizetype i) {
+            const QString name = holdsTables ? leftHeader.at(i).toString() : QString();
+            const char *const what = holdsTables ? "table" : "row";
+            return place.below(name.isEmpty() ? numbered(what, i) : name);
+        };
+        const auto compareBoth = [&](const QJsonValue &leftRow, const QJsonValue &rightRow, qsizetype i) {
+            return holdsTables ? compare(leftRow, rightRow, placeOf(i), depth)
+                               : compareRows(leftRow, rightRow, l, r, placeOf(i));
+        };
+        const QJsonArray rows = compareNumbered(leftRows, rightRows, compareBoth, placeOf);
+        if (m_differences->merges())
+            merged.insert(CHILDREN, rows);
+        return merged;
     }
 
     /// Some tables hold tables, one for each name of the header.
@@ -166,42 +242,55 @@ private:
         m_differences->addOrder(place, QStringLiteral("order of columns"), left, right);
     }
 
-    void compareRows(const QJsonValue &left, const QJsonValue &right, const CountedNames &leftHeader,
-                     const CountedNames &rightHeader, const Place &place)
+    QJsonValue compareRows(const QJsonValue &left, const QJsonValue &right, const CountedNames &leftHeader,
+                           const CountedNames &rightHeader, const Place &place)
     {
+        if (!isTable(left) || !isTable(right))
+            return m_differences->add(place, left, right) ? right : left;
         const qsizetype before = m_differences->size();
-        if (isTable(left) && isTable(right)) {
-            const QJsonArray l = left[DATA].toArray();
-            const QJsonArray r = right[DATA].toArray();
-            matchNames(leftHeader, rightHeader, [&](const QString &label, auto i, auto j) {
-                addUnlessEqual(elementAt(l, i), elementAt(r, j), place.below(label));
-            });
-            compareExcess(l, r, leftHeader.keys().size(), rightHeader.keys().size(), place);
-        }
+        const bool isAlike = left[DATA].toArray().size() == right[DATA].toArray().size() &&
+                             without(left, DATA) == without(right, DATA);
+        const auto find = [&] { return compareEntries(left, right, leftHeader, rightHeader, place); };
+        const QJsonValue merged = isAlike ? QJsonValue(find()) : oneOf(left, right, find);
         if (m_differences->size() == before)
-            m_differences->add(place, left, right);
+            return m_differences->add(place, left, right) ? right : left;
+        return merged;
+    }
+
+    QJsonObject compareEntries(const QJsonValue &left, const QJsonValue &right,
+                               const CountedNames &leftHeader, const CountedNames &rightHeader,
+                               const Place &place)
+    {
+        const QJsonArray l = left[DATA].toArray();
+        const QJsonArray r = right[DATA].toArray();
+        QJsonArray merged = l;
+        matchNames(leftHeader, rightHeader, [&](const QString &label, auto i, auto j) {
+            if (addUnlessEqual(elementAt(l, i), elementAt(r, j), place.below(label)) && i && j)
+                merged.replace(*i, r.at(*j));
+        });
+        compareExcess(l, r, leftHeader.keys().size(), rightHeader.keys().size(), place, &merged);
+        QJsonObject row = left.toObject();
+        row.insert(DATA, merged);
+        return row;
     }
 
     /// A row may be longer than the header.
     void compareExcess(const QJsonArray &left, const QJsonArray &right, qsizetype leftWidth,
-                       qsizetype rightWidth, const Place &place)
+                       qsizetype rightWidth, const Place &place, QJsonArray *merged)
     {
         const qsizetype count = std::max(left.size() - leftWidth, right.size() - rightWidth);
         for (qsizetype i = 0; i < count; ++i) {
-            addUnlessEqual(elementAt(left, leftWidth + i), elementAt(right, rightWidth + i),
-                           place.below(numbered("entry behind the last column", i)));
+            const bool isChosen =
+                addUnlessEqual(elementAt(left, leftWidth + i), elementAt(right, rightWidth + i),
+                               place.below(numbered("entry behind the last column", i)));
+            if (isChosen)
+                merged->replace(leftWidth + i, right.at(rightWidth + i));
         }
     }
 
-    void addUnlessEqual(const QJsonValue &left, const QJsonValue &right, const Place &place)
+    bool addUnlessEqual(const QJsonValue &left, const QJsonValue &right, const Place &place)
     {
-        if (left != right)
-            m_differences->add(place, left, right);
-    }
-
-    static QJsonValue elementAt(const QJsonArray &array, std::optional<qsizetype> index)
-    {
-        return index && *index < array.size() ? array.at(*index) : QJsonValue(QJsonValue::Undefined);
+        return left != right && m_differences->add(place, left, right);
     }
 
     DifferenceList *m_differences;
@@ -216,46 +305,26 @@ std::optional<QJsonObject> parsed(const QJsonValue &value)
 
 } // namespace
 
-Place Place::below(const QString &name) const
+QJsonValue compareValues(const QJsonValue &left, const QJsonValue &right, const DifferenceList::Place &place,
+                         DifferenceList *differences)
 {
-    Place place = *this;
-    if (!path.isEmpty())
-        place.path += QLatin1String(" / ");
-    place.path += name.size() <= kLongestName ? name : name.left(kLongestName) + QLatin1String("...");
-    return place;
+    return ValueComparison(differences).compare(left, right, place, 0);
 }
 
-void DifferenceList::add(const Place &place, const QJsonValue &left, const QJsonValue &right)
-{
-    const Kind kind = left.isUndefined() ? Kind::Added : right.isUndefined() ? Kind::Removed : Kind::Changed;
-    m_differences.append({kind, place.path, place.tab, place.column, place.row, place.property, left, right});
-}
-
-void DifferenceList::addOrder(const Place &place, const QString &what, const CountedNames &left,
-                              const CountedNames &right)
-{
-    const QJsonArray leftOrder = left.sharedWith(right);
-    const QJsonArray rightOrder = right.sharedWith(left);
-    if (leftOrder != rightOrder)
-        add(place.below(what), leftOrder, rightOrder);
-}
-
-void compareValues(const QJsonValue &left, const QJsonValue &right, const Place &place,
-                   DifferenceList *differences)
-{
-    ValueComparison(differences).compare(left, right, place, 0);
-}
-
-void compareMetadata(const QJsonValue &left, const QJsonValue &right, const Place &place,
-                     DifferenceList *differences)
+QJsonValue compareMetadata(const QJsonValue &left, const QJsonValue &right,
+                           const DifferenceList::Place &place, DifferenceList *differences)
 {
     const std::optional<QJsonObject> leftObject = parsed(left);
     const std::optional<QJsonObject> rightObject = parsed(right);
     const bool canBeTold = leftObject && rightObject && *leftObject != *rightObject;
-    if (canBeTold)
-        compareValues(*leftObject, *rightObject, place, differences);
-    else
-        compareValues(left, right, place, differences);
+    if (!canBeTold)
+        return compareValues(left, right, place, differences);
+    const QJsonObject merged = compareValues(*leftObject, *rightObject, place, differences).toObject();
+    if (!differences->merges() || merged == *leftObject)
+        return left;
+    // The text of either side, spelt as it is there, where it says the same.
+    return merged == *rightObject ? right
+                                  : QString::fromUtf8(QJsonDocument(merged).toJson(QJsonDocument::Compact));
 }
 
 } // namespace orv

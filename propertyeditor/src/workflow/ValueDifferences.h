@@ -1,52 +1,19 @@
 // The differences of two JSON values in a document, below the structure of tabs and cells.
 #pragma once
 
-#include "NameMatching.h"
-
-#include <orv/propertyeditor/workflow/WorkflowDifferences.h>
+#include "DifferenceList.h"
 
 namespace orv {
 
-/// Collects differences below one place of the document.
-class DifferenceList
-{
-public:
-    using Kind = WorkflowDifference::Kind;
-
-    /// Where a comparison stands. Deeper places are copies of it with a longer path.
-    struct Place
-    {
-        QString path;
-        QString tab;
-        QString column;
-        std::optional<qsizetype> row;
-        QString property;
-
-        [[nodiscard]] Place below(const QString &name) const;
-    };
-
-    /// What one side lacks is undefined there.
-    void add(const Place &place, const QJsonValue &left, const QJsonValue &right);
-
-    /// One difference if the names that both sides have stand in another order. \a what says whose order.
-    void addOrder(const Place &place, const QString &what, const CountedNames &left,
-                  const CountedNames &right);
-
-    [[nodiscard]] qsizetype size() const { return m_differences.size(); }
-    [[nodiscard]] QList<WorkflowDifference> take() { return std::move(m_differences); }
-
-private:
-    QList<WorkflowDifference> m_differences;
-};
-
 /// Compares any two values: tables row by row, objects by members, lists of named objects by name, and
-/// anything else as a whole. At least one difference comes of values that differ.
-void compareValues(const QJsonValue &left, const QJsonValue &right, const DifferenceList::Place &place,
-                   DifferenceList *differences);
+/// anything else as a whole. At least one difference comes of values that differ. Gives \a left with what is
+/// wanted of \a right.
+QJsonValue compareValues(const QJsonValue &left, const QJsonValue &right, const DifferenceList::Place &place,
+                         DifferenceList *differences);
 
 /// The same for a metadata member, whose text is JSON itself.
-void compareMetadata(const QJsonValue &left, const QJsonValue &right, const DifferenceList::Place &place,
-                     DifferenceList *differences);
+QJsonValue compareMetadata(const QJsonValue &left, const QJsonValue &right,
+                           const DifferenceList::Place &place, DifferenceList *differences);
 
 /// Calls \a visit with each key of either object, ascending.
 template<typename Visit>
@@ -63,6 +30,20 @@ void forEachMember(const QJsonObject &left, const QJsonObject &right, Visit visi
         if (r != right.end() && r.key() == key)
             ++r;
     }
+}
+
+/// \a original, which is \a left or has members beside those of it, with what \a merge gives for each member
+/// of \a left and \a right that becomes another one.
+template<typename Merge>
+QJsonObject mergedMembers(QJsonObject original, const QJsonObject &left, const QJsonObject &right,
+                          Merge merge)
+{
+    forEachMember(left, right, [&](const QString &key, const QJsonValue &l, const QJsonValue &r) {
+        // An undefined value takes the member away.
+        if (const QJsonValue merged = merge(key, l, r); merged != l)
+            original.insert(key, merged);
+    });
+    return original;
 }
 
 } // namespace orv

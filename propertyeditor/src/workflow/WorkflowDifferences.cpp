@@ -1,5 +1,6 @@
 #include "orv/propertyeditor/workflow/WorkflowDifferences.h"
 
+#include "NamedLists.h"
 #include "ValueDifferences.h"
 
 #include <orv/propertyeditor/PropertiesNames.h>
@@ -55,67 +56,106 @@ struct Grid
             column.append(cells.at(i));
         return column;
     }
+
+    [[nodiscard]] bool isRectangle() const { return cells.size() % columns.size() == 0; }
+    [[nodiscard]] qsizetype height() const { return cells.size() / columns.size(); }
 };
 
+/// Whether columns of one can stand beside columns of the other.
+bool canBeMixed(const QJsonObject &left, const QJsonObject &right)
+{
+    const auto hasNames = [](const QJsonObject &tab) {
+        const QJsonArray names = tab.value(COLUMNS_KEY).toArray();
+        return std::all_of(names.begin(), names.end(),
+                           [](const QJsonValue &name) { return name.isString(); });
+    };
+    const Grid l(left);
+    const Grid r(right);
+    // A tab that lost all of its columns couldn't be told by columns any more.
+    const QSet<QString> names(r.columns.begin(), r.columns.end());
+    const bool sharesOne = std::any_of(l.columns.begin(), l.columns.end(),
+                                       [&names](const QString &name) { return names.contains(name); });
+    return sharesOne && l.isRectangle() && r.isRectangle() && l.height() == r.height() && hasNames(left) &&
+           hasNames(right);
+}
+
+QStringList namesOfTabs(const QJsonArray &tabs)
+{
+    QStringList names;
+    for (const auto tab : tabs)
+        names.append(tab[NAME_KEY].toString());
+    return names;
+}
+
+/// Compares documents from which the stamps may have been taken away. What becomes of them is made of the
+/// original of the left one.
 class DocumentComparison
 {
 public:
-    QList<WorkflowDifference> compare(const QJsonObject &left, const QJsonObject &right)
+    explicit DocumentComparison(const QSet<qsizetype> *chosen = nullptr)
+        : m_differences(chosen)
+    {}
+
+    [[nodiscard]] QList<WorkflowDifference> take() { return m_differences.take(); }
+
+    QJsonObject compare(const QJsonObject &left, const QJsonObject &right, const QJsonObject &original)
     {
         if (left == right)
-            return {};
-        forEachMember(left, right, [this](const QString &key, const QJsonValue &l, const QJsonValue &r) {
-            const Place place = Place().below(key);
-            if (key == TABS_KEY && l.isArray() && r.isArray())
-                compareTabs(l.toArray(), r.toArray());
-            else if (key == META_IN_JSON_KEY)
-                compareMetadata(l, r, place, &m_differences);
-            else
-                compareValues(l, r, place, &m_differences);
-        });
-        addUnlessFound(0, {}, left, right);
-        return m_differences.take();
+            return original;
+        QJsonObject merged = mergedMembers(
+            original, left, right, [&](const QString &key, const QJsonValue &l, const QJsonValue &r) {
+                const Place place = Place().below(key);
+                if (key == TABS_KEY && l.isArray() && r.isArray())
+                    return QJsonValue(compareTabs(l.toArray(), r.toArray(), original.value(key).toArray()));
+                if (key == META_IN_JSON_KEY)
+                    return compareMetadata(l, r, place, &m_differences);
+                return compareValues(l, r, place, &m_differences);
+            });
+        return addUnlessFound(0, {}, left, right) ? right : merged;
     }
 
 private:
-    void compareTabs(const QJsonArray &left, const QJsonArray &right)
+    using Group = qsizetype;
+
+    QJsonArray compareTabs(const QJsonArray &left, const QJsonArray &right, const QJsonArray &original)
     {
         if (left == right)
-            return;
-        const qsizetype before = m_differences.size();
-        const CountedNames leftNames(namesOf(left));
-        const CountedNames rightNames(namesOf(right));
-        matchNames(leftNames, rightNames, [&](const QString &label, auto i, auto j) {
-            Place place;
-            place.tab = label;
-            compareTab(elementAt(left, i), elementAt(right, j), place.below(label));
-        });
-        m_differences.addOrder({}, QStringLiteral("order of tabs"), leftNames, rightNames);
-        addUnlessFound(before, Place().below(TABS_KEY), left, right);
+            return original;
+        const CountedNames leftNames(namesOfTabs(left));
+        const CountedNames rightNames(namesOfTabs(right));
+        return mergeNamed(
+            original, leftNames, right, rightNames, m_differences.merges(), DifferenceList::kNoGroup,
+            [&](const QString &label, qsizetype i, qsizetype j) {
+                return compareTab(left.at(i), right.at(j), Place().inTab(label), original.at(i));
+            },
+            [&](const QString &label, auto i, auto j, Group *group) {
+                return m_differences.add(Place().inTab(label), elementAt(left, i), elementAt(right, j),
+                                         group);
+            },
+            [&] {
+                return m_differences.addOrder({}, QStringLiteral("order of tabs"), leftNames, rightNames);
+            });
     }
 
-    static QStringList namesOf(const QJsonArray &tabs)
-    {
-        QStringList names;
-        for (const auto tab : tabs)
-            names.append(tab[NAME_KEY].toString());
-        return names;
-    }
-
-    void compareTab(const QJsonValue &left, const QJsonValue &right, const Place &place)
+    QJsonValue compareTab(const QJsonValue &left, const QJsonValue &right, const Place &place,
+                          const QJsonValue &original)
     {
         if (left == right)
-            return;
+            return original;
         const qsizetype before = m_differences.size();
+        QJsonObject merged = original.toObject();
         if (hasGrid(left) && hasGrid(right)) {
-            forEachMember(left.toObject(), right.toObject(),
-                          [&](const QString &key, const QJsonValue &l, const QJsonValue &r) {
-                              if (key != COLUMNS_KEY && key != CELLS_KEY)
-                                  compareValues(l, r, place.below(key), &m_differences);
-                          });
-            compareGrids(Grid(left.toObject()), Grid(right.toObject()), place);
+            merged = mergedMembers(merged, left.toObject(), right.toObject(),
+                                   [&](const QString &key, const QJsonValue &l, const QJsonValue &r) {
+                                       return key == COLUMNS_KEY || key == CELLS_KEY
+                                                  ? l
+                                                  : compareValues(l, r, place.below(key), &m_differences);
+                                   });
+            compareGrids(left.toObject(), right.toObject(), place, &merged);
         }
-        addUnlessFound(before, place, left, right);
+        if (addUnlessFound(before, place, left, right))
+            return right;
+        return merged.isEmpty() ? original : merged;
     }
 
     /// Cells without a column to lie in are malformed.
@@ -124,84 +164,160 @@ private:
         return tab[CELLS_KEY].isArray() && !tab[COLUMNS_KEY].toArray().isEmpty();
     }
 
-    void compareGrids(const Grid &left, const Grid &right, const Place &place)
+    /// \a merged is the original of the left tab.
+    void compareGrids(const QJsonObject &left, const QJsonObject &right, const Place &place,
+                      QJsonObject *merged)
+    {
+        const auto find = [&] { return compareColumns(Grid(left), Grid(right), place, Grid(*merged)); };
+        if (canBeMixed(left, right)) {
+            const QJsonArray columns = find();
+            if (m_differences.merges())
+                putColumns(columns, merged);
+        } else if (m_differences.together(find)) {
+            merged->insert(COLUMNS_KEY, right.value(COLUMNS_KEY));
+            merged->insert(CELLS_KEY, right.value(CELLS_KEY));
+        }
+    }
+
+    /// Each column is an array: its name, and its cells.
+    static void putColumns(const QJsonArray &columns, QJsonObject *tab)
+    {
+        QJsonArray names;
+        QJsonArray cells;
+        for (const auto column : columns)
+            names.append(column.toArray().first());
+        const qsizetype height = columns.isEmpty() ? 1 : columns.first().toArray().size();
+        for (qsizetype row = 1; row < height; ++row) {
+            for (const auto column : columns)
+                cells.append(column.toArray().at(row));
+        }
+        tab->insert(COLUMNS_KEY, names);
+        tab->insert(CELLS_KEY, cells);
+    }
+
+    static QJsonArray named(const Grid &grid)
+    {
+        QJsonArray columns;
+        for (qsizetype i = 0; i < grid.columns.size(); ++i) {
+            QJsonArray column = grid.column(i);
+            column.prepend(grid.columns.at(i));
+            columns.append(column);
+        }
+        return columns;
+    }
+
+    QJsonArray compareColumns(const Grid &left, const Grid &right, const Place &place, const Grid &original)
     {
         const CountedNames leftNames(left.columns);
         const CountedNames rightNames(right.columns);
-        matchNames(leftNames, rightNames, [&](const QString &label, auto i, auto j) {
-            Place columnPlace = place.below(label);
-            columnPlace.column = label;
-            const QJsonArray l = left.column(i);
-            const QJsonArray r = right.column(j);
-            if (!j)
-                m_differences.add(columnPlace, l, QJsonValue::Undefined);
-            else if (!i)
-                m_differences.add(columnPlace, QJsonValue::Undefined, r);
-            else
-                compareColumn(l, r, columnPlace);
-        });
-        m_differences.addOrder(place, QStringLiteral("order of columns"), leftNames, rightNames);
+        const auto columnOf = [](const Grid &grid, auto index) {
+            return index ? QJsonValue(grid.column(index)) : QJsonValue(QJsonValue::Undefined);
+        };
+        return mergeNamed(
+            named(original), leftNames, named(right), rightNames, m_differences.merges(),
+            DifferenceList::kNoGroup,
+            [&](const QString &label, qsizetype i, qsizetype j) {
+                QJsonArray column =
+                    compareColumn(left.column(i), right.column(j), place.inColumn(label), original.column(i));
+                column.prepend(left.columns.at(i));
+                return column;
+            },
+            [&](const QString &label, auto i, auto j, Group *group) {
+                return m_differences.add(place.inColumn(label), columnOf(left, i), columnOf(right, j), group);
+            },
+            [&] {
+                return m_differences.addOrder(place, QStringLiteral("order of columns"), leftNames,
+                                              rightNames);
+            });
     }
 
-    void compareColumn(const QJsonArray &left, const QJsonArray &right, const Place &place)
+    QJsonArray compareColumn(const QJsonArray &left, const QJsonArray &right, const Place &place,
+                             const QJsonArray &original)
     {
+        QJsonArray merged;
         for (qsizetype row = 0; row < std::max(left.size(), right.size()); ++row) {
-            Place cellPlace = place.below(QStringLiteral("row %1").arg(row));
-            cellPlace.row = row;
-            compareCell(elementAt(left, row), elementAt(right, row), cellPlace);
+            const QJsonValue cell = compareCell(elementAt(left, row), elementAt(right, row), place.inRow(row),
+                                                elementAt(original, row));
+            if (!cell.isUndefined())
+                merged.append(cell);
         }
+        return merged;
     }
 
-    void compareCell(const QJsonValue &left, const QJsonValue &right, const Place &place)
+    QJsonValue compareCell(const QJsonValue &left, const QJsonValue &right, const Place &place,
+                           const QJsonValue &original)
     {
         if (left == right)
-            return;
-        if (!left.isObject() || !right.isObject()) {
-            m_differences.add(place, left, right);
-            return;
-        }
+            return original;
+        if (!left.isObject() || !right.isObject())
+            return m_differences.add(place, left, right) ? right : original;
         const qsizetype before = m_differences.size();
-        const QString leftType = left[TYPE_KEY].toString();
-        const QString rightType = right[TYPE_KEY].toString();
-        forEachMember(left.toObject(), right.toObject(),
-                      [&](const QString &key, const QJsonValue &l, const QJsonValue &r) {
-                          if (key == PROPERTIES_KEY && l.isArray() && r.isArray())
-                              compareSettings(l.toArray(), leftType, r.toArray(), rightType, place);
-                          else if (key == META_IN_JSON_KEY)
-                              compareMetadata(l, r, place.below(key), &m_differences);
-                          else
-                              compareValues(l, r, place.below(key), &m_differences);
-                      });
-        addUnlessFound(before, place, left, right);
+        const auto find = [&] {
+            return compareMembers(left.toObject(), right.toObject(), place, original.toObject());
+        };
+        QJsonValue merged = original;
+        // Settings of one type of cell mean nothing to another.
+        if (left[TYPE_KEY].toString() == right[TYPE_KEY].toString())
+            merged = find();
+        else if (m_differences.together(find))
+            merged = right;
+        return addUnlessFound(before, place, left, right) ? right : merged;
     }
 
-    void compareSettings(const QJsonArray &left, const QString &leftType, const QJsonArray &right,
-                         const QString &rightType, const Place &place)
+    QJsonObject compareMembers(const QJsonObject &left, const QJsonObject &right, const Place &place,
+                               const QJsonObject &original)
+    {
+        const QString leftType = left.value(TYPE_KEY).toString();
+        const QString rightType = right.value(TYPE_KEY).toString();
+        return mergedMembers(
+            original, left, right, [&](const QString &key, const QJsonValue &l, const QJsonValue &r) {
+                if (key == PROPERTIES_KEY && l.isArray() && r.isArray())
+                    return QJsonValue(compareSettings(l.toArray(), leftType, r.toArray(), rightType, place));
+                if (key == META_IN_JSON_KEY)
+                    return compareMetadata(l, r, place.below(key), &m_differences);
+                return compareValues(l, r, place.below(key), &m_differences);
+            });
+    }
+
+    QJsonArray compareSettings(const QJsonArray &left, const QString &leftType, const QJsonArray &right,
+                               const QString &rightType, const Place &place)
     {
         if (left == right)
-            return;
+            return left;
         const CountedNames leftNames(settingNames(left, leftType));
         const CountedNames rightNames(settingNames(right, rightType));
-        matchNames(leftNames, rightNames, [&](const QString &label, auto i, auto j) {
-            Place settingPlace = place.below(label);
-            settingPlace.property = label;
-            compareSetting(elementAt(left, i), elementAt(right, j), settingPlace);
-        });
-        m_differences.addOrder(place, QStringLiteral("order of settings"), leftNames, rightNames);
+        return mergeNamed(
+            left, leftNames, right, rightNames, m_differences.merges(), DifferenceList::kNoGroup,
+            [&](const QString &label, qsizetype i, qsizetype j) {
+                return compareSetting(left.at(i), right.at(j), place.inSetting(label));
+            },
+            [&](const QString &label, auto i, auto j, Group *group) {
+                return m_differences.add(place.inSetting(label), valueOrEntry(elementAt(left, i)),
+                                         valueOrEntry(elementAt(right, j)), group);
+            },
+            [&] {
+                return m_differences.addOrder(place, QStringLiteral("order of settings"), leftNames,
+                                              rightNames);
+            });
     }
 
-    void compareSetting(const QJsonValue &left, const QJsonValue &right, const Place &place)
+    QJsonValue compareSetting(const QJsonValue &left, const QJsonValue &right, const Place &place)
     {
         if (left == right)
-            return;
-        if (!left.isObject() || !right.isObject()) {
-            m_differences.add(place, valueOrEntry(left), valueOrEntry(right));
-            return;
-        }
-        forEachMember(left.toObject(), right.toObject(),
-                      [&](const QString &key, const QJsonValue &l, const QJsonValue &r) {
-                          compareValues(l, r, key == VALUE_KEY ? place : place.below(key), &m_differences);
-                      });
+            return left;
+        if (!left.isObject() || !right.isObject())
+            return m_differences.add(place, valueOrEntry(left), valueOrEntry(right)) ? right : left;
+        const auto find = [&] {
+            return mergedMembers(left.toObject(), left.toObject(), right.toObject(),
+                                 [&](const QString &key, const QJsonValue &l, const QJsonValue &r) {
+                                     return compareValues(l, r, key == VALUE_KEY ? place : place.below(key),
+                                                          &m_differences);
+                                 });
+        };
+        // A former name goes with a former form of the value.
+        if (left[NAME_KEY] == right[NAME_KEY])
+            return find();
+        return m_differences.together(find) ? right : left;
     }
 
     /// Of a setting that one side lacks the value tells enough.
@@ -211,25 +327,64 @@ private:
         return value.isUndefined() ? entry : value;
     }
 
-    /// Documents that are told apart have a difference in the list, whatever their parts hide.
-    void addUnlessFound(qsizetype before, const Place &place, const QJsonValue &left, const QJsonValue &right)
+    /// Documents that are told apart have a difference in the list, whatever their parts hide. Whether the
+    /// right side is wanted then.
+    bool addUnlessFound(qsizetype before, const Place &place, const QJsonValue &left, const QJsonValue &right)
     {
-        if (m_differences.size() == before)
-            m_differences.add(place, left, right);
+        return m_differences.size() == before && m_differences.add(place, left, right);
     }
 
     DifferenceList m_differences;
 };
+
+QJsonObject withoutUncompared(const QJsonObject &document, bool strict)
+{
+    return strict ? document : PropertyEditorJsonUtils::withoutStamps(document);
+}
+
+/// What belongs together with what was chosen is wanted, too.
+QSet<qsizetype> closed(const QSet<qsizetype> &chosen, const QList<WorkflowDifference> &differences)
+{
+    QSet<qsizetype> groups;
+    for (const qsizetype number : chosen)
+        groups.insert(number < 0 || number >= differences.size() ? WorkflowDifference::kAlone
+                                                                 : differences.at(number).together);
+    groups.remove(WorkflowDifference::kAlone);
+    QSet<qsizetype> wanted = chosen;
+    for (qsizetype i = 0; i < differences.size(); ++i) {
+        if (groups.contains(differences.at(i).together))
+            wanted.insert(i);
+    }
+    return wanted;
+}
 
 } // namespace
 
 QList<WorkflowDifference> WorkflowDifferences::between(const QJsonObject &left, const QJsonObject &right,
                                                        bool strict)
 {
-    if (strict)
-        return DocumentComparison().compare(left, right);
-    return DocumentComparison().compare(PropertyEditorJsonUtils::withoutStamps(left),
-                                        PropertyEditorJsonUtils::withoutStamps(right));
+    DocumentComparison comparison;
+    (void)comparison.compare(withoutUncompared(left, strict), withoutUncompared(right, strict), left);
+    return comparison.take();
+}
+
+QJsonObject WorkflowDifferences::takenOver(const QJsonObject &left, const QJsonObject &right,
+                                           const QSet<qsizetype> &chosen, bool strict)
+{
+    if (chosen.isEmpty())
+        return left;
+    const QSet<qsizetype> wanted = closed(chosen, between(left, right, strict));
+    DocumentComparison comparison(&wanted);
+    return comparison.compare(withoutUncompared(left, strict), withoutUncompared(right, strict), left);
+}
+
+QStringList WorkflowDifferences::labels(const QStringList &names)
+{
+    const CountedNames counted(names);
+    QStringList labels;
+    for (const CountedNames::Key &key : counted.keys())
+        labels.append(CountedNames::label(key));
+    return labels;
 }
 
 } // namespace orv

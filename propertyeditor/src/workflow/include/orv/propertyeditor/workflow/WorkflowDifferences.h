@@ -5,6 +5,7 @@
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QList>
+#include <QSet>
 #include <QString>
 
 #include <optional>
@@ -29,6 +30,11 @@ struct ORV_WORKFLOW_EXPORT WorkflowDifference
     QString property;             ///< the current name of a setting; empty for what belongs to the cell
     QJsonValue left;              ///< undefined for what was added
     QJsonValue right;             ///< undefined for what was removed
+    QString below;                ///< the path below the innermost of tab, column, row and property
+    static constexpr qsizetype kAlone = -1;
+    /// Differences of one number here make sense only together, such as the rows that a table has beyond those
+    /// of the other; kAlone for what makes sense alone.
+    qsizetype together = kAlone;
 };
 
 /// Tells in words of the format what PropertyEditorJsonUtils::compareWorkflows decides.
@@ -41,6 +47,16 @@ namespace WorkflowDifferences {
 /// columns"). Takes time linear in the size of the documents, malformed ones too. Safe on any thread.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QList<WorkflowDifference> between(const QJsonObject &left,
                                                                     const QJsonObject &right, bool strict);
+
+/// \a left with some of these differences as they are in \a right. \a chosen are their numbers in the list that
+/// between() gives, and stand for all that belong together with them. With none chosen it is \a left, with all
+/// of them between() finds no difference to \a right, and with some it finds the others. Stamps are those of
+/// \a left unless they are compared; what is added comes without. Takes linear time. Safe on any thread.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QJsonObject takenOver(const QJsonObject &left, const QJsonObject &right,
+                                                        const QSet<qsizetype> &chosen, bool strict);
+
+/// The names that differences tell tabs and columns by: those that have none or the same are made different.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QStringList labels(const QStringList &names);
 
 } // namespace WorkflowDifferences
 
