@@ -374,6 +374,10 @@ void TestDifferencesTakenOver::whatBelongsTogetherIsTakenTogether_data()
     QTest::newRow("a table with other columns")
         << masses << changed(changed(masses, "'Mass'", "'Weight'"), "58", "59") << 1;
     QTest::newRow("a cell of another type") << masses << QByteArray(kKarvon) << 1;
+    const QByteArray quantity("{'type': 'Karvon', 'properties': [{'name': 'KarvonFragmentMassError',"
+                              " 'value': {'value': 1, 'unit': 'ppm'}}]}");
+    QTest::newRow("a number and its unit")
+        << quantity << changed(changed(quantity, "'value': 1", "'value': 2"), "ppm", "Da") << 1;
     QTest::newRow("entries of one table are apart")
         << masses << changed(changed(masses, "58", "59"), "'water'", "'Water'") << 2;
 }

@@ -109,6 +109,7 @@ QToolBar *PropertyEditorWindow::toolBar() const
 
 void PropertyEditorWindow::setReadOnly()
 {
+    d->m_isReadOnly = true;
     QPushButton *button = d->m_form->pushCreateProject;
     button->setText(tr("Close"));
     button->disconnect();
@@ -120,6 +121,11 @@ void PropertyEditorWindow::setReadOnly()
 void PropertyEditorWindow::setUpgradeView(const UpgradeView &create)
 {
     d->m_upgradeView = create;
+}
+
+bool PropertyEditorWindow::isReadOnly() const
+{
+    return d->m_isReadOnly;
 }
 
 void PropertyEditorWindow::setAdditionalValidatorsCreatorFunction(const AdditionalValidators &create)

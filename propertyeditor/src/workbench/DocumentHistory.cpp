@@ -72,7 +72,12 @@ public:
     void push(const DocumentState &now, const QList<TableMove> &moves);
     [[nodiscard]] bool isStepOfTable(const DocumentState &now, const QList<TableMove> &moves);
     void settle(const DocumentState &actual);
+    [[nodiscard]] bool settleTyping();
     void travel(StateChange::Direction direction);
+    [[nodiscard]] bool edit(const DocumentState &from, const DocumentState &to, const QString &text);
+    [[nodiscard]] bool show(const DocumentState &to, const StateChange &change,
+                            const std::function<bool()> &prepare);
+    void arrive(const DocumentState &to);
     [[nodiscard]] bool moveTables(const HistoryStep &step, StateChange::Direction direction) const;
     void takeUpgraded(const DocumentUpgrade &upgrade);
     void leaveField();
@@ -197,6 +202,11 @@ void DocumentHistory::setLimit(qsizetype bytes)
 void DocumentHistory::undo()
 {
     d->travel(StateChange::Direction::Back);
+}
+
+bool DocumentHistory::edit(const DocumentState &from, const DocumentState &to, const QString &text)
+{
+    return d->edit(from, to, text);
 }
 
 void DocumentHistory::redo()
@@ -377,37 +387,78 @@ bool DocumentHistory::Private::moveTables(const HistoryStep &step, StateChange::
     return self;
 }
 
-void DocumentHistory::Private::travel(StateChange::Direction direction)
+/// Takes in what is being typed; whether the window is still there, and at rest.
+bool DocumentHistory::Private::settleTyping()
 {
     const QPointer<DocumentHistory> self(q);
     window->commitTyping();
-    if (!self)
+    if (self)
+        takeIn();
+    return self && !isTravelling;
+}
+
+void DocumentHistory::Private::travel(StateChange::Direction direction)
+{
+    if (!settleTyping() || !steps.next(direction))
         return;
-    takeIn();
-    if (!self || isTravelling || !steps.next(direction))
+    const HistoryStep step = *steps.next(direction);
+    const DocumentState to = step.change.applied(state, direction);
+    const bool isShown = show(to, step.change, [&] {
+        if (!moveTables(step, direction))
+            return false;
+        if (step.upgradedFile)
+            window->setWorkflowFilePath(direction == StateChange::Direction::Back ? QString()
+                                                                                  : *step.upgradedFile);
+        return true;
+    });
+    if (!isShown)
         return;
+    steps.go(direction);
+    arrive(to);
+}
+
+bool DocumentHistory::Private::edit(const DocumentState &from, const DocumentState &to, const QString &text)
+{
+    if (!settleTyping() || !(state == from))
+        return false;
+    if (from == to)
+        return true;
+    const StateChange change = StateChange::between(from, to);
+    if (!show(to, change, [] { return true; }))
+        return true;
+    steps.append({change, text});
+    steps.trim(limit);
+    arrive(to);
+    return true;
+}
+
+/// False if the window or its document went meanwhile, in \a prepare already or later.
+bool DocumentHistory::Private::show(const DocumentState &to, const StateChange &change,
+                                    const std::function<bool()> &prepare)
+{
+    const QPointer<DocumentHistory> self(q);
     isTravelling = true;
     const int document = generation;
-    const HistoryStep step = *steps.next(direction);
     const DocumentState from = state;
-    const DocumentState to = step.change.applied(state, direction);
     const auto goesOn = [self, this, document] { return self && document == generation; };
-    if (!moveTables(step, direction) || !goesOn())
-        return;
-    if (step.upgradedFile)
-        window->setWorkflowFilePath(direction == StateChange::Direction::Back ? QString()
-                                                                              : *step.upgradedFile);
+    if (!prepare() || !goesOn())
+        return false;
     StateDisplay display(window, goesOn);
     const Error error = display.show(from, to);
     if (!goesOn())
-        return;
+        return false;
     display.goTo(from, to);
     if (!goesOn())
-        return;
+        return false;
     if (error.hasError())
         window->statusBar()->showMessage(
             tr("Not all of the step can be shown: %1").arg(error.errorMessage()));
-    steps.go(direction);
+    shown.forget(change);
+    return true;
+}
+
+void DocumentHistory::Private::arrive(const DocumentState &to)
+{
     state = to;
     shown.forget(step.change, to);
     settle(shown.read());

@@ -1,27 +1,19 @@
 #include "RecoveryChanges.h"
 
 #include "ChangeText.h"
+#include "OwnProperties.h"
 
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
-#include <orv/propertyeditor/workflow/WflwMetaData.h>
 #include <orv/propertyeditor/workflow/WorkflowDifferences.h>
 
-#include <QCoreApplication>
 #include <QJsonArray>
-
-#include <array>
 
 namespace orv {
 
 namespace {
 
 using PropertyEditorStringConstants::TABS_KEY;
-
-struct RecoveryChangesTr
-{
-    Q_DECLARE_TR_FUNCTIONS(RecoveryChanges)
-};
 
 /// A document that is new has tabs that were added, one by one.
 QJsonObject withTabs(QJsonObject document)
@@ -30,28 +22,6 @@ QJsonObject withTabs(QJsonObject document)
         document.insert(TABS_KEY, QJsonArray());
     return document;
 }
-
-struct OwnProperty
-{
-    const char *name;
-    QString (*read)(const QJsonObject &metadata);
-};
-
-QString workflowTypeText(const QJsonObject &metadata)
-{
-    const WorkflowType type = WflwMetaData::workflowType(metadata);
-    return type == WorkflowType::Unknown ? QString() : workflowTypeToString(type);
-}
-
-constexpr std::array kOwnProperties = {
-    OwnProperty{QT_TRANSLATE_NOOP("RecoveryChanges", "Name of the workflow"),
-                &WflwMetaData::nameFromMetaDataObject},
-    OwnProperty{QT_TRANSLATE_NOOP("RecoveryChanges", "Description of the workflow"),
-                &WflwMetaData::descriptionFromMetaDataObject},
-    OwnProperty{QT_TRANSLATE_NOOP("RecoveryChanges", "Icon of the workflow"),
-                &WflwMetaData::iconNameFromMetaDataObject},
-    OwnProperty{QT_TRANSLATE_NOOP("RecoveryChanges", "Type of the workflow"), &workflowTypeText},
-};
 
 } // namespace
 
@@ -66,12 +36,12 @@ RecoveryChanges changesBetween(const QJsonObject &before, const QJsonObject &aft
     RecoveryChanges changes;
     const QJsonObject metadataBefore = PropertyEditorContent(before).metadata();
     const QJsonObject metadataAfter = PropertyEditorContent(after).metadata();
-    for (const OwnProperty &property : kOwnProperties) {
+    for (const OwnProperty &property : OwnProperties::all()) {
         const QString was = property.read(metadataBefore);
         const QString is = property.read(metadataAfter);
         if (was != is)
             changes.told.append(
-                {RecoveryChangesTr::tr(property.name), ChangeText::ofText(was), ChangeText::ofText(is)});
+                {OwnProperties::caption(property), ChangeText::ofText(was), ChangeText::ofText(is)});
     }
     const QList<WorkflowDifference> differences =
         WorkflowDifferences::between(withTabs(before), after, false);

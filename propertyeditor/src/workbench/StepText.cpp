@@ -2,22 +2,14 @@
 
 #include "CellEntries.h"
 #include "ShortText.h"
+#include "EntryTexts.h"
 
-#include <KProperty.h>
-#include <KPropertyFactory.h>
-#include <KPropertySet.h>
-#include <orv/propertyeditor/PropertiesNames.h>
-#include <orv/propertyeditor/PropertySetCreator.h>
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/content/CellTypes.h>
-#include <orv/propertyeditor/content/PropertyEditorJsonUtils.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
 #include <QCoreApplication>
-#include <QJsonArray>
 #include <QJsonDocument>
-
-#include <memory>
 
 namespace orv {
 
@@ -56,14 +48,18 @@ QString captionOf(const QJsonObject &cell, const QJsonObject &entry)
     const PropertyId id = PropertyEditorJsonUtils::findPropertyBackCompat(entry, type);
     const QString caption = PropertiesNames::displayNameForType(id);
     return caption.isEmpty() ? entry.value(NAME_KEY).toString() : caption;
+QString inOneLine(const QString &text)
+{
+    const QString line = text.simplified();
+    return line.size() <= kLongestValue ? line : line.left(kLongestValue - 1) + QChar(0x2026);
 }
 
 QString settingText(const QJsonObject &cellBefore, const QJsonObject &before, const QJsonObject &cell,
                     const QJsonObject &after)
 {
-    QString caption = captionOf(cell, after);
-    const QString was = valueText(cellBefore, before);
-    const QString is = valueText(cell, after);
+    QString caption = EntryTexts::caption(cell, after);
+    const QString was = inOneLine(EntryTexts::value(cellBefore, before));
+    const QString is = inOneLine(EntryTexts::value(cell, after));
     if (was == is)
         return caption;
     const QString none = StepTextTr::tr("(empty)");
@@ -79,9 +75,9 @@ QString settingsText(const QByteArray &cellBefore, const QByteArray &cellAfter, 
         return StepTextTr::tr("Settings of \"%1\"").arg(column);
     const ChangedEntry &entry = changed.constFirst();
     if (entry.before.isEmpty())
-        return StepTextTr::tr("%1 added").arg(captionOf(after, entry.after));
+        return StepTextTr::tr("%1 added").arg(EntryTexts::caption(after, entry.after));
     if (entry.after.isEmpty())
-        return StepTextTr::tr("%1 removed").arg(captionOf(before, entry.before));
+        return StepTextTr::tr("%1 removed").arg(EntryTexts::caption(before, entry.before));
     return settingText(before, entry.before, after, entry.after);
 }
 

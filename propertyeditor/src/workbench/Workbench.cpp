@@ -4,6 +4,7 @@
 #include "SameSetting.h"
 #include "SettingClipboard.h"
 #include "StatusLine.h"
+#include "orv/propertyeditor/workbench/Comparison.h"
 #include "orv/propertyeditor/workbench/FindSettings.h"
 #include "orv/propertyeditor/workbench/Findings.h"
 #include "orv/propertyeditor/workbench/Upgrades.h"
@@ -37,6 +38,7 @@ Workbench::Workbench(PropertyEditorWindow *window)
     auto *current = new CurrentSetting(window, this);
     new SameSetting(this, current);
     new SettingClipboard(this, current);
+    m_comparison = new Comparison(this);
     new StatusLine(this);
 }
 

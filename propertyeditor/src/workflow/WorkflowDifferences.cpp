@@ -1,5 +1,6 @@
 #include "orv/propertyeditor/workflow/WorkflowDifferences.h"
 
+#include "DocumentGrid.h"
 #include "NamedLists.h"
 #include "ValueDifferences.h"
 
@@ -38,45 +39,13 @@ QStringList settingNames(const QJsonArray &entries, const QString &cellType)
     return names;
 }
 
-/// The cells of a tab by column and row.
-struct Grid
+/// A number with its unit, and the like: half of it is another value.
+bool isQuantity(const QJsonValue &value)
 {
-    QStringList columns;
-    QJsonArray cells;
-
-    explicit Grid(const QJsonObject &tab)
-        : columns(PropertyEditorJsonUtils::jsonArrayToStringList(tab.value(COLUMNS_KEY).toArray()))
-        , cells(tab.value(CELLS_KEY).toArray())
-    {}
-
-    [[nodiscard]] QJsonArray column(std::optional<qsizetype> index) const
-    {
-        QJsonArray column;
-        for (qsizetype i = index.value_or(cells.size()); i < cells.size(); i += columns.size())
-            column.append(cells.at(i));
-        return column;
-    }
-
-    [[nodiscard]] bool isRectangle() const { return cells.size() % columns.size() == 0; }
-    [[nodiscard]] qsizetype height() const { return cells.size() / columns.size(); }
-};
-
-/// Whether columns of one can stand beside columns of the other.
-bool canBeMixed(const QJsonObject &left, const QJsonObject &right)
-{
-    const auto hasNames = [](const QJsonObject &tab) {
-        const QJsonArray names = tab.value(COLUMNS_KEY).toArray();
-        return std::all_of(names.begin(), names.end(),
-                           [](const QJsonValue &name) { return name.isString(); });
-    };
-    const Grid l(left);
-    const Grid r(right);
-    // A tab that lost all of its columns couldn't be told by columns any more.
-    const QSet<QString> names(r.columns.begin(), r.columns.end());
-    const bool sharesOne = std::any_of(l.columns.begin(), l.columns.end(),
-                                       [&names](const QString &name) { return names.contains(name); });
-    return sharesOne && l.isRectangle() && r.isRectangle() && l.height() == r.height() && hasNames(left) &&
-           hasNames(right);
+    const QJsonObject members = value.toObject();
+    return value.isObject() && std::none_of(members.begin(), members.end(), [](const QJsonValue &member) {
+               return member.isObject() || member.isArray();
+           });
 }
 
 QStringList namesOfTabs(const QJsonArray &tabs)
@@ -168,8 +137,10 @@ private:
     void compareGrids(const QJsonObject &left, const QJsonObject &right, const Place &place,
                       QJsonObject *merged)
     {
-        const auto find = [&] { return compareColumns(Grid(left), Grid(right), place, Grid(*merged)); };
-        if (canBeMixed(left, right)) {
+        const auto find = [&] {
+            return compareColumns(DocumentGrid(left), DocumentGrid(right), place, DocumentGrid(*merged));
+        };
+        if (DocumentGrid::canBeMixed(left, right)) {
             const QJsonArray columns = find();
             if (m_differences.merges())
                 putColumns(columns, merged);
@@ -195,7 +166,7 @@ private:
         tab->insert(CELLS_KEY, cells);
     }
 
-    static QJsonArray named(const Grid &grid)
+    static QJsonArray named(const DocumentGrid &grid)
     {
         QJsonArray columns;
         for (qsizetype i = 0; i < grid.columns.size(); ++i) {
@@ -206,11 +177,12 @@ private:
         return columns;
     }
 
-    QJsonArray compareColumns(const Grid &left, const Grid &right, const Place &place, const Grid &original)
+    QJsonArray compareColumns(const DocumentGrid &left, const DocumentGrid &right, const Place &place,
+                              const DocumentGrid &original)
     {
         const CountedNames leftNames(left.columns);
         const CountedNames rightNames(right.columns);
-        const auto columnOf = [](const Grid &grid, auto index) {
+        const auto columnOf = [](const DocumentGrid &grid, auto index) {
             return index ? QJsonValue(grid.column(index)) : QJsonValue(QJsonValue::Undefined);
         };
         return mergeNamed(
@@ -310,12 +282,21 @@ private:
         const auto find = [&] {
             return mergedMembers(left.toObject(), left.toObject(), right.toObject(),
                                  [&](const QString &key, const QJsonValue &l, const QJsonValue &r) {
-                                     return compareValues(l, r, key == VALUE_KEY ? place : place.below(key),
-                                                          &m_differences);
+                                     return key == VALUE_KEY
+                                                ? compareValueOfSetting(l, r, place)
+                                                : compareValues(l, r, place.below(key), &m_differences);
                                  });
         };
         // A former name goes with a former form of the value.
         if (left[NAME_KEY] == right[NAME_KEY])
+            return find();
+        return m_differences.together(find) ? right : left;
+    }
+
+    QJsonValue compareValueOfSetting(const QJsonValue &left, const QJsonValue &right, const Place &place)
+    {
+        const auto find = [&] { return compareValues(left, right, place, &m_differences); };
+        if (!isQuantity(left) || !isQuantity(right))
             return find();
         return m_differences.together(find) ? right : left;
     }

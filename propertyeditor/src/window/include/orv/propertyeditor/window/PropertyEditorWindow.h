@@ -80,6 +80,7 @@ public:
 
     /// Nothing can be made of the workflow any more; for the rest of the window's life.
     void setReadOnly();
+    [[nodiscard]] bool isReadOnly() const;
     /// That of the file on the disk; Unknown, with a warning, if it can't be read.
     [[nodiscard]] WorkflowType workflowType() const;
     /// The application for which references are checked.

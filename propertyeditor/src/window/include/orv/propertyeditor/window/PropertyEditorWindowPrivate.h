@@ -157,6 +157,7 @@ private:
     QStringList m_lost;          ///< what the document on the screen lacks of the one that was loaded
     bool m_projectCreationStarted = false;
     bool m_isReloading = false; ///< the same document, behind its saving
+    bool m_isReadOnly = false;
 };
 
 } // namespace orv

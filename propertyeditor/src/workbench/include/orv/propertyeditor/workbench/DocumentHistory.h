@@ -65,6 +65,10 @@ public:
         QPointer<DocumentHistory> m_history;
     };
 
+    /// Shows \a to in place of \a from as one step called \a text, and goes there. What is being typed
+    /// becomes a step first; false, and nothing is done, if the window shows another state than \a from then.
+    bool edit(const DocumentState &from, const DocumentState &to, const QString &text);
+
 public Q_SLOTS:
     /// Show the state at the other end of the step, and where it differs. What is being typed becomes a step
     /// first.

@@ -12,6 +12,7 @@ QT_FORWARD_DECLARE_CLASS(QMenu)
 
 namespace orv {
 
+class Comparison;
 class DocumentHistory;
 class FindSettings;
 class Findings;
@@ -50,6 +51,7 @@ public:
     [[nodiscard]] FindSettings *find() const { return m_find; }
     [[nodiscard]] Findings *findings() const { return m_findings; }
     [[nodiscard]] Upgrades *upgrades() const { return m_upgrades; }
+    [[nodiscard]] Comparison *comparison() const { return m_comparison; }
 
 private:
     void addHistory();
@@ -66,6 +68,7 @@ private:
     FindSettings *m_find = nullptr;
     Findings *m_findings = nullptr;
     Upgrades *m_upgrades = nullptr;
+    Comparison *m_comparison = nullptr;
 };
 
 } // namespace orv

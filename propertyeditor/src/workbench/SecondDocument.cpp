@@ -1,0 +1,103 @@
+#include "SecondDocument.h"
+
+#include <orv/propertyeditor/content/CellStamps.h>
+#include <orv/propertyeditor/validators/WorkflowFile.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+
+namespace orv {
+
+using PropertyEditor::WorkflowFile;
+
+namespace {
+
+struct SecondDocumentTr
+{
+    Q_DECLARE_TR_FUNCTIONS(SecondDocument)
+};
+
+/// As columns give their cells back.
+QByteArray cellText(const QVariant &cell)
+{
+    const QByteArray bytes = cell.toByteArray();
+    const QJsonDocument parsed = QJsonDocument::fromJson(bytes);
+    if (!parsed.isObject())
+        return bytes;
+    return QJsonDocument(CellStamps::without(parsed.object())).toJson(QJsonDocument::Compact);
+}
+
+DocumentState stateOf(const PropertyEditorContent &content)
+{
+    DocumentState state;
+    for (const auto &[title, columnsAndCells] : content.tabsAndContent()) {
+        DocumentState::Tab tab{title, columnsAndCells.first, {}};
+        for (const QVariant &cell : columnsAndCells.second)
+            tab.cells.append(cellText(cell));
+        state.tabs.append(tab);
+    }
+    state.metadata = content.metadata();
+    return state;
+}
+
+Error invalid(const QString &text, const QString &path)
+{
+    return {ErrorCode::InvalidContent,
+            SecondDocumentTr::tr("%1: %2").arg(QDir::toNativeSeparators(path), text)};
+}
+
+void upgrade(WorkflowFile *file, SecondDocument *second)
+{
+    const QString from = file->version().toString();
+    const bool needsUpgrade = file->state() == WflwMetaData::WflwState::NeedsUpgrade;
+    const WorkflowUpgradeReport report = file->upgrade();
+    if (report.error.hasError()) {
+        second->error = invalid(SecondDocumentTr::tr("The workflow can't be upgraded: %1")
+                                    .arg(report.error.errorMessages().join(u' ')),
+                                file->path());
+    } else if (needsUpgrade && report.isChanged) {
+        second->note =
+            SecondDocumentTr::tr("%1 was upgraded from %2 for this comparison; its file stays as it is.")
+                .arg(second->name, from);
+    }
+}
+
+void judge(const WorkflowFile &file, SecondDocument *second)
+{
+    QStringList reasons;
+    if (file.isNewer()) {
+        second->note = SecondDocumentTr::tr("%1 comes from a newer version of the software (%2).")
+                           .arg(second->name, file.version().toString());
+        second->refusal =
+            SecondDocumentTr::tr("Nothing can be taken over from a workflow of a newer version of the "
+                                 "software: it may mean something else there.");
+    } else if (file.state(&reasons) == WflwMetaData::WflwState::NotSupported) {
+        second->error = invalid(reasons.join(u' '), file.path());
+    }
+}
+
+} // namespace
+
+SecondDocument SecondDocument::read(const QString &path)
+{
+    SecondDocument second;
+    second.path = path;
+    second.name = QFileInfo(QDir::cleanPath(path)).fileName();
+    Result<WorkflowFile> file = WorkflowFile::open(path);
+    if (file.hasError()) {
+        second.error = file.error();
+        return second;
+    }
+    judge(*file, &second);
+    if (!second.error.hasError() && second.refusal.isEmpty())
+        upgrade(&*file, &second);
+    if (!second.error.hasError())
+        second.state = stateOf(PropertyEditorContent(file->document()));
+    if (!second.error.hasError() && second.state.tabs.isEmpty())
+        second.error = invalid(SecondDocumentTr::tr("There are no tabs in this workflow."), file->path());
+    return second;
+}
+
+} // namespace orv

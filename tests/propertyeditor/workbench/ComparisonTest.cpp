@@ -1,0 +1,314 @@
+#include "ComparisonFixture.h"
+#include "WidgetTest.h"
+#include "editors/LeavingWays.h"
+
+#include <orv/propertyeditor/workbench/FindSettings.h>
+
+#include <QAction>
+#include <QCheckBox>
+#include <QMenu>
+#include <QProgressBar>
+
+using namespace orv;
+using namespace ComparisonFixture;
+
+class ComparisonTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void whatDiffersStandsInATree();
+    void nothingIsThereAtFirst();
+    void valuesThatLookTheSameAreToldInFull();
+    void equalDocumentsHaveNoDifferences();
+    void everyExampleEqualsItself_data();
+    void everyExampleEqualsItself();
+    void whatIsCheckedIsTakenOverAsOneStep();
+    void allOfItIsTakenOver();
+    void examplesAreTakenOverWhole_data();
+    void examplesAreTakenOverWhole();
+    void groupsAreCheckedWithTheirRows();
+    void editsAreFollowed();
+    void checksFoldsAndTheCurrentRowStay();
+    void enterAndDoubleClickGoToTheSetting();
+    void whatIsBeingTypedIsntLost();
+    void differingSettingsAreAFilter();
+    void keyboardAloneIsEnough();
+};
+
+void ComparisonTest::whatDiffersStandsInATree()
+{
+    Compared c;
+    QVERIFY(c.compareWith(otherDocument()));
+    QVERIFY(c.answers.isDone());
+    QVERIFY(c.panel("comparisonPanel")->isVisible());
+    QCOMPARE(c.lines(), QStringList({u"Workflow"_s, u"-Name of the workflow: Mixture | Other name"_s,
+                                     u"Analysis"_s, u"-Karvon"_s, u"--Search cleavage residues: RK | R"_s,
+                                     u"--Peaks kept per spectrum: 1000 | 500"_s,
+                                     u"--Fragment mass tolerance: 10.00 ppm | 20.00 ppm"_s}));
+    QCOMPARE(c.summary(), u"4 differences to OTHER.wflw"_s);
+    QCOMPARE(c.note(), QString());
+    QCOMPARE(c.tree().model()->headerData(2, Qt::Horizontal).toString(), u"OTHER.wflw"_s);
+    QVERIFY(c.bench->viewMenu()->actions().contains(c.comparison().action()));
+}
+
+void ComparisonTest::nothingIsThereAtFirst()
+{
+    const Compared c;
+    QVERIFY(!c.panel("comparisonPanel")->isVisible());
+    c.panel("comparisonPanel")->show();
+    QCOMPARE(c.child<QLabel>("comparisonEmpty")->text(),
+             u"Choose another workflow to see in what it differs from this one, or drop its file here."_s);
+    QVERIFY(!c.takeOver().isEnabled());
+    QCOMPARE(c.takeOver().toolTip(), u"Check what is to be taken over first."_s);
+    QVERIFY(c.child<QProgressBar>("comparisonProgress")->isHidden());
+}
+
+void ComparisonTest::valuesThatLookTheSameAreToldInFull()
+{
+    Compared c;
+    QVERIFY(c.compareWith(documentOf({searchColumn(1000, u"RK"_s, 10.0001)})));
+    QVERIFY2(c.lines().constLast().contains(u"10.0001"_s), qPrintable(c.lines().constLast()));
+}
+
+void ComparisonTest::equalDocumentsHaveNoDifferences()
+{
+    Compared c;
+    QVERIFY(c.compareWith(thisDocument()));
+    QCOMPARE(c.lines().join(u'\n'), QString());
+    QCOMPARE(c.summary(), u"No differences to OTHER.wflw."_s);
+    QCOMPARE(c.child<QLabel>("comparisonEmpty")->text(), u"No differences"_s);
+}
+
+namespace {
+
+QStringList exampleFiles()
+{
+    const QDir folder(TestData::examplePath(u"workflows"_s));
+    QStringList files;
+    for (const QString &file : folder.entryList({u"*.wflw"_s}))
+        files.append(folder.filePath(file));
+    return files;
+}
+
+void addExamples()
+{
+    QTest::addColumn<QString>("path");
+    for (const QString &file : exampleFiles()) {
+        // Applications bring the columns that show this one.
+        if (!file.endsWith(u"intact_oligonucleotide.wflw"_s))
+            QTest::newRow(qPrintable(QFileInfo(file).fileName())) << file;
+    }
+}
+
+} // namespace
+
+void ComparisonTest::everyExampleEqualsItself_data()
+{
+    addExamples();
+}
+
+void ComparisonTest::everyExampleEqualsItself()
+{
+    QFETCH(const QString, path);
+    Compared c;
+    const GoingOn answers;
+    QCOMPARE(int(c.window->openWorkflow(path)), int(kOpened));
+    c.comparison().compareWith(path);
+    QVERIFY(c.isQuiet());
+    QCOMPARE(c.lines().join(u'\n'), QString());
+}
+
+void ComparisonTest::whatIsCheckedIsTakenOverAsOneStep()
+{
+    Compared c;
+    const QByteArray before = c.shownDocument();
+    QVERIFY(c.compareWith(otherDocument()));
+    c.check(kPeaks);
+    c.check(u"Search cleavage residues"_s);
+    QCOMPARE(c.child<QLabel>("comparisonChecked")->text(), u"2 differences are checked."_s);
+    QTest::mouseClick(&c.takeOver(), Qt::LeftButton);
+    QVERIFY(c.isQuiet());
+    QCOMPARE(c.value("KarvonCentroidTopk"), u"500"_s);
+    QCOMPARE(c.bench->history()->count(), 1);
+    QCOMPARE(c.bench->history()->undoText(), u"Take over 2 settings from OTHER.wflw"_s);
+    QVERIFY(c.isQuiet());
+    QCOMPARE(c.summary(), u"2 differences to OTHER.wflw"_s);
+    QVERIFY(!c.takeOver().isEnabled());
+    c.bench->history()->undo();
+    QVERIFY(c.isQuiet());
+    QCOMPARE(c.shownDocument(), before);
+    QCOMPARE(c.summary(), u"4 differences to OTHER.wflw"_s);
+}
+
+void ComparisonTest::allOfItIsTakenOver()
+{
+    QJsonObject other = Documents::document({Documents::tab(u"New"_s, {u"Preview"_s}, {previewCell()}),
+                                             Documents::tab(u"Analysis"_s, {u"Preview"_s, u"Karvon"_s},
+                                                            {previewCell(), searchColumn(500, u"R"_s)})},
+                                            metadata("5.47.0", "Other name"));
+    Compared c;
+    const QByteArray before = c.shownDocument();
+    QVERIFY(c.compareWith(other));
+    for (const QString &name : {u"Workflow"_s, u"New"_s, u"Analysis"_s})
+        c.check(name);
+    QTest::mouseClick(&c.takeOver(), Qt::LeftButton);
+    QVERIFY(c.isQuiet());
+    QCOMPARE(c.bench->history()->count(), 1);
+    QVERIFY(c.isQuiet());
+    QCOMPARE(c.lines().join(u'\n'), QString());
+    QCOMPARE(c.window->tabs().tabText(0), u"New"_s);
+    QCOMPARE(c.window->grid(1)->columnNames(), QStringList({u"Preview"_s, u"Karvon"_s}));
+    QCOMPARE(c.window->workflowMetadata().value(u"name"_s).toString(), u"Other name"_s);
+    c.bench->history()->undo();
+    QCOMPARE(c.shownDocument(), before);
+    QCOMPARE(c.window->workflowMetadata().value(u"name"_s).toString(), u"Mixture"_s);
+}
+
+void ComparisonTest::examplesAreTakenOverWhole_data()
+{
+    addExamples();
+}
+
+void ComparisonTest::examplesAreTakenOverWhole()
+{
+    QFETCH(const QString, path);
+    Compared c;
+    const GoingOn answers;
+    QCOMPARE(int(c.window->openWorkflow(exampleFiles().constFirst())), int(kOpened));
+    c.comparison().compareWith(path);
+    QVERIFY(c.isQuiet());
+    QAbstractItemModel &model = *c.tree().model();
+    for (int row = 0; row < model.rowCount(); ++row)
+        model.setData(model.index(row, 0), Qt::Checked, Qt::CheckStateRole);
+    if (model.rowCount() == 0)
+        return;
+    QTest::mouseClick(&c.takeOver(), Qt::LeftButton);
+    QVERIFY(c.isQuiet());
+    QCOMPARE(c.bench->history()->count(), 1);
+    QCOMPARE(c.lines().join(u'\n'), QString());
+}
+
+void ComparisonTest::groupsAreCheckedWithTheirRows()
+{
+    Compared c;
+    QVERIFY(c.compareWith(otherDocument()));
+    c.check(kPeaks);
+    QCOMPARE(c.stateOf(u"Karvon"_s), Qt::PartiallyChecked);
+    QCOMPARE(c.stateOf(u"Analysis"_s), Qt::PartiallyChecked);
+    QCOMPARE(c.stateOf(u"Workflow"_s), Qt::Unchecked);
+    c.check(u"Analysis"_s);
+    QCOMPARE(c.stateOf(u"Karvon"_s), Qt::Checked);
+    QCOMPARE(c.stateOf(u"Search cleavage residues"_s), Qt::Checked);
+    c.check(u"Karvon"_s);
+    QCOMPARE(c.stateOf(kPeaks), Qt::Unchecked);
+    QCOMPARE(c.stateOf(u"Analysis"_s), Qt::Unchecked);
+}
+
+void ComparisonTest::editsAreFollowed()
+{
+    Compared c;
+    QVERIFY(c.compareWith(otherDocument()));
+    c.view(0, 0)->propertySet()->property("KarvonCentroidTopk").setValue(500);
+    QTRY_COMPARE(c.summary(), u"3 differences to OTHER.wflw"_s);
+    QVERIFY(!c.rowOf(kPeaks).isValid());
+    QVERIFY(c.isQuiet());
+    c.bench->history()->undo();
+    QVERIFY(c.isQuiet());
+    QVERIFY(c.rowOf(kPeaks).isValid());
+    c.bench->history()->redo();
+    QVERIFY(c.isQuiet());
+    QVERIFY(!c.rowOf(kPeaks).isValid());
+    // An edit writes the whole column; what nobody touched doesn't differ.
+    QCOMPARE(c.lines().size(), 6);
+}
+
+void ComparisonTest::checksFoldsAndTheCurrentRowStay()
+{
+    Compared c;
+    QVERIFY(c.compareWith(otherDocument()));
+    c.check(kPeaks);
+    c.tree().collapse(c.rowOf(u"Workflow"_s));
+    c.view(0, 0)->propertySet()->property("KarvonDigestLetters").setValue(u"R"_s);
+    QTRY_COMPARE(c.summary(), u"3 differences to OTHER.wflw"_s);
+    QCOMPARE(c.stateOf(kPeaks), Qt::Checked);
+    QCOMPARE(c.tree().currentIndex().data().toString(), kPeaks);
+    QVERIFY(!c.tree().isExpanded(c.rowOf(u"Workflow"_s)));
+    QVERIFY(c.tree().isExpanded(c.rowOf(u"Karvon"_s)));
+    QVERIFY(c.takeOver().isEnabled());
+}
+
+void ComparisonTest::enterAndDoubleClickGoToTheSetting()
+{
+    Compared c;
+    QVERIFY(c.compareWith(otherDocument()));
+    c.tree().setFocus();
+    c.tree().setCurrentIndex(c.rowOf(kPeaks));
+    QTest::keyClick(&c.tree(), Qt::Key_Return);
+    QCOMPARE(c.currentSetting(0, 0), "KarvonCentroidTopk");
+    QVERIFY(c.view(0, 0)->editorView()->hasFocus());
+    const QModelIndex row = c.rowOf(u"Search cleavage residues"_s);
+    c.tree().scrollTo(row);
+    const QPoint point = c.tree().visualRect(row.siblingAtColumn(1)).center();
+    QTest::mouseClick(c.tree().viewport(), Qt::LeftButton, {}, point);
+    QTest::mouseDClick(c.tree().viewport(), Qt::LeftButton, {}, point);
+    QCOMPARE(c.currentSetting(0, 0), "KarvonDigestLetters");
+    c.tree().setFocus();
+    QTest::keyClick(&c.tree(), Qt::Key_Escape);
+    QVERIFY(c.panel("comparisonPanel")->isHidden());
+    QVERIFY(c.view(0, 0)->editorView()->hasFocus());
+}
+
+void ComparisonTest::whatIsBeingTypedIsntLost()
+{
+    Compared c;
+    QVERIFY(c.compareWith(otherDocument()));
+    c.check(kPeaks);
+    KPropertyEditorView &settings = *c.view(0, 0)->editorView();
+    settings.expandAll();
+    QVERIFY(LeavingWays::open(settings, "KarvonDigestLetters"));
+    LeavingWays::type(u"KRX"_s);
+    // By its mnemonic, which leaves the focus where it is.
+    c.takeOver().click();
+    QVERIFY(c.isQuiet());
+    QCOMPARE(c.value("KarvonDigestLetters"), u"KRX"_s);
+    QCOMPARE(c.value("KarvonCentroidTopk"), u"500"_s);
+    QCOMPARE(c.bench->history()->count(), 2);
+}
+
+void ComparisonTest::differingSettingsAreAFilter()
+{
+    Compared c;
+    auto *filter = c.child<QCheckBox>("differs");
+    QVERIFY(!filter->isEnabled());
+    QVERIFY(c.compareWith(documentOf({searchColumn(500, u"RK"_s)})));
+    QVERIFY(filter->isEnabled());
+    c.bench->find()->action()->trigger();
+    QTest::mouseClick(filter, Qt::LeftButton, {}, {5, filter->height() / 2});
+    QVERIFY(filter->isChecked());
+    QCOMPARE(shown(*c.child<QAbstractItemView>("findHits"), 0), QStringList{kPeaks});
+    c.panel("comparisonPanel")->hide();
+    QVERIFY(!filter->isEnabled());
+    QVERIFY(!filter->isChecked());
+}
+
+void ComparisonTest::keyboardAloneIsEnough()
+{
+    Compared c;
+    QVERIFY(c.compareWith(otherDocument()));
+    c.child<QPushButton>("otherWorkflow")->setFocus();
+    QTest::keyClick(c.child<QPushButton>("otherWorkflow"), Qt::Key_Tab);
+    QVERIFY(c.tree().hasFocus());
+    while (c.tree().currentIndex().data().toString() != kPeaks)
+        QTest::keyClick(&c.tree(), Qt::Key_Down);
+    QTest::keyClick(&c.tree(), Qt::Key_Space);
+    QTest::keyClick(&c.tree(), Qt::Key_Tab);
+    QVERIFY(c.takeOver().hasFocus());
+    QTest::keyClick(&c.takeOver(), Qt::Key_Space);
+    QVERIFY(c.isQuiet());
+    QCOMPARE(c.value("KarvonCentroidTopk"), u"500"_s);
+    QCOMPARE(c.bench->history()->undoText(), u"Take over 1 setting from OTHER.wflw"_s);
+}
+
+WIDGET_REGISTER_TEST(ComparisonTest)
+#include "ComparisonTest.moc"
