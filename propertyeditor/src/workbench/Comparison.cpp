@@ -28,6 +28,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QPointer>
+#include <QUrl>
 
 #include <functional>
 #include <utility>
@@ -89,6 +90,7 @@ private:
     void goTo(const QModelIndex &index);
     void leave();
     void tell();
+    [[nodiscard]] QUrl folderUrl() const;
     [[nodiscard]] QString note() const;
     [[nodiscard]] QString stepText() const;
 
@@ -176,7 +178,7 @@ void Comparison::Private::compareWith(const QString &file)
     m_dock->show();
     m_dock->raise();
     inBackground<SecondDocument>(
-        q, [file] { return SecondDocument::read(file); },
+        q, [file, folder = folderUrl()] { return SecondDocument::read(file, folder); },
         [this, number](const SecondDocument &second) {
             if (number == m_number)
                 receive(second);
@@ -236,6 +238,13 @@ void Comparison::Private::show(const ComparisonTree &tree)
         compare();
     else
         tell();
+}
+
+/// Of this document; empty for one without a file.
+QUrl Comparison::Private::folderUrl() const
+{
+    const QString own = m_window ? m_window->workflowFilePath() : QString();
+    return own.isEmpty() ? QUrl() : QUrl::fromLocalFile(QFileInfo(own).absolutePath() + u'/');
 }
 
 QString Comparison::Private::note() const

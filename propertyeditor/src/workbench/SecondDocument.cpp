@@ -2,6 +2,7 @@
 
 #include <orv/propertyeditor/content/CellStamps.h>
 #include <orv/propertyeditor/validators/WorkflowFile.h>
+#include <orv/propertyeditor/workflow/WorkflowReferences.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -78,9 +79,24 @@ void judge(const WorkflowFile &file, SecondDocument *second)
     }
 }
 
+/// What is taken over is to name the same files.
+QJsonObject inFolder(const WorkflowFile &file, const QUrl &folder, SecondDocument *second)
+{
+    if (file.folderUrl() == folder)
+        return file.document();
+    const QJsonObject absolute = WorkflowReferences::withAbsolutePaths(file.document(), file.folderUrl());
+    if (absolute != file.document()) {
+        second->note +=
+            (second->note.isEmpty() ? QString() : QStringLiteral("\n")) +
+            SecondDocumentTr::tr("Files that it names from its own folder are shown with their whole "
+                                 "paths.");
+    }
+    return absolute;
+}
+
 } // namespace
 
-SecondDocument SecondDocument::read(const QString &path)
+SecondDocument SecondDocument::read(const QString &path, const QUrl &folder)
 {
     SecondDocument second;
     second.path = path;
@@ -94,7 +110,7 @@ SecondDocument SecondDocument::read(const QString &path)
     if (!second.error.hasError() && second.refusal.isEmpty())
         upgrade(&*file, &second);
     if (!second.error.hasError())
-        second.state = stateOf(PropertyEditorContent(file->document()));
+        second.state = stateOf(PropertyEditorContent(inFolder(*file, folder, &second)));
     if (!second.error.hasError() && second.state.tabs.isEmpty())
         second.error = invalid(SecondDocumentTr::tr("There are no tabs in this workflow."), file->path());
     return second;

@@ -5,6 +5,7 @@
 #include <orv/core/Error.h>
 
 #include <QString>
+#include <QUrl>
 
 namespace orv {
 
@@ -18,8 +19,10 @@ struct SecondDocument
     QString refusal; ///< why nothing can be taken over from it; empty if it can
     Error error;     ///< why there is no state
 
-    /// Reads a file or a portable folder, and upgrades it in memory. Any thread; blocks as an upgrade does.
-    [[nodiscard]] static SecondDocument read(const QString &path);
+    /// Reads a file or a portable folder, and upgrades it in memory. Its relative files get absolute paths
+    /// unless they count from \a folder, with a slash at its end, that of the document to compare with. Any
+    /// thread; blocks as an upgrade does.
+    [[nodiscard]] static SecondDocument read(const QString &path, const QUrl &folder);
 };
 
 } // namespace orv

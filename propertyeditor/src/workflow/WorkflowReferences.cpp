@@ -47,4 +47,21 @@ QStringList localPaths(const QJsonObject &document, const QUrl &baseUrl)
     return paths.values();
 }
 
+QJsonObject withAbsolutePaths(const QJsonObject &document, const QUrl &baseUrl)
+{
+    if (!baseUrl.isLocalFile())
+        return document;
+    const ReferenceWalk walk([&](Kind kind, const ReferenceWalk::Place & /*place*/, const QString &text) {
+        const Result<ResourceReferenceSPtr> reference =
+            kind == Kind::PlainText ? Result<ResourceReferenceSPtr>(ResourceReferenceSPtr())
+                                    : ResourceReference::fromString(text);
+        if (reference.hasError() || !*reference || !ResourceReferenceUtils::isRelative(*reference))
+            return std::optional<QString>();
+        const QString path =
+            ResourceHandlerUtils::fullPath(ResourceReferenceUtils::resolved(*reference, baseUrl));
+        return path.isEmpty() ? std::optional<QString>() : std::optional(QDir::cleanPath(path));
+    });
+    return walk.walk(document);
+}
+
 } // namespace orv::WorkflowReferences

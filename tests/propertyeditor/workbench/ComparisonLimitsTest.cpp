@@ -23,6 +23,7 @@ private Q_SLOTS:
     void errorsStandInThePanel();
     void newerDocumentsAreShownOnly();
     void theOwnFileIsNamedAsSuch();
+    void filesOfAnotherFolderAreNamedWhole();
     void readOnlyWindowsTakeNothingOver();
     void anotherDocumentIsComparedAnewWithoutChecks();
     void theWindowMayGo_data();
@@ -42,7 +43,8 @@ void ComparisonLimitsTest::olderDocumentsAreUpgradedForTheComparison()
     const QRegularExpression note(
         u"^%1 was upgraded from [0-9.]+ for this comparison; its file stays as it is\\.$"_s.arg(
             QRegularExpression::escape(files.first())));
-    QVERIFY2(note.match(c.note()).hasMatch(), qPrintable(c.note() + c.summary()));
+    const QString told = c.note().section(u'\n', 0, 0);
+    QVERIFY2(note.match(told).hasMatch(), qPrintable(c.note() + c.summary()));
     QVERIFY(!c.lines().isEmpty());
     QCOMPARE(TestData::read(folder.filePath(files.first())), before);
 }
@@ -109,6 +111,26 @@ void ComparisonLimitsTest::newerDocumentsAreShownOnly()
     c.check(kPeaks);
     QVERIFY(!c.takeOver().isEnabled());
     QVERIFY(c.takeOver().toolTip().contains(u"newer version"_s));
+}
+
+void ComparisonLimitsTest::filesOfAnotherFolderAreNamedWhole()
+{
+    const auto document = [](const char *file) {
+        return documentOf({settingsCell("Senthia", {setting("InSilicoPeptidesFile", text(file), "Extras")})});
+    };
+    Compared c;
+    const QTemporaryDir elsewhere;
+    const QString own = write(c.folder, "OWN.wflw", document("data/a.csv"));
+    QCOMPARE(int(c.window->openWorkflow(own)), int(kOpened));
+    QVERIFY(c.compareWith(document("data/a.csv")));
+    QCOMPARE(c.lines().join(u'\n'), QString());
+    QVERIFY(c.compareWith(write(elsewhere, "OTHER.wflw", document("data/a.csv"))));
+    QCOMPARE(c.note(), u"Files that it names from its own folder are shown with their whole paths."_s);
+    c.check(u"In-silico peptides file"_s);
+    QTest::mouseClick(&c.takeOver(), Qt::LeftButton);
+    QVERIFY(c.isQuiet());
+    QVERIFY2(c.shownDocument().contains(elsewhere.filePath(u"data/a.csv"_s).toUtf8()),
+             c.shownDocument().constData());
 }
 
 void ComparisonLimitsTest::theOwnFileIsNamedAsSuch()

@@ -16,4 +16,10 @@ namespace orv::WorkflowReferences {
 /// no disk and no server.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QStringList localPaths(const QJsonObject &document, const QUrl &baseUrl);
 
+/// \a document with every reference that is relative, but for those in texts of any setting, as the absolute
+/// one of the same file: for what is to be read in another folder. Everything else stays as it is, and all of
+/// it where \a baseUrl is no local folder. Safe on any thread; asks no disk and no server.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QJsonObject withAbsolutePaths(const QJsonObject &document,
+                                                                const QUrl &baseUrl);
+
 } // namespace orv::WorkflowReferences
