@@ -29,6 +29,7 @@ private Q_SLOTS:
     void documentsOfUnknownAgeStay_data();
     void documentsOfUnknownAgeStay();
     void pathsOfAllKindsAreToldOnce();
+    void relativePathsBecomeAbsolute();
 
 private:
     /// A document whose one sample refers to \a path.
@@ -182,6 +183,25 @@ void TestPortableTarget::pathsOfAllKindsAreToldOnce()
     paths.sort();
     QCOMPARE(paths, (QStringList{u"/n.txt"_s, u"/t/uv.csv"_s, u"/w/f/data/run #1%20.raw"_s, u"/w/f/n.txt"_s,
                                  u"/w/report.json"_s}));
+}
+
+void TestPortableTarget::relativePathsBecomeAbsolute()
+{
+    const auto document = [](const QString &file, const QString &report) {
+        const QJsonObject sample{
+            {u"SampleName"_s, u"a"_s}, {u"SamplePath"_s, file}, {u"Traces"_s, QJsonArray{u"/t/uv.csv"_s}}};
+        const QJsonArray samples{
+            TableCells::entry(u"SamplesTable"_s, QJsonObject{{u"Samples"_s, QJsonArray{sample}}})};
+        const QJsonArray settings{TableCells::entry(u"ReportConfiguration"_s, report),
+                                  TableCells::entry(u"KarvonAdvancedConfiguration"_s, u"data/text"_s)};
+        return Documents::document(
+            {Documents::tab(u"A"_s, {u"Samples"_s}, {TableCells::cell(u"Samples"_s, samples)}),
+             Documents::tab(u"B"_s, {u"Search"_s}, {TableCells::cell(u"Karvon"_s, settings)})});
+    };
+    const QJsonObject relative = document(u"data/run #1%20.raw"_s, u"../report.json"_s);
+    QCOMPARE(WorkflowReferences::withAbsolutePaths(relative, QUrl::fromLocalFile(u"/w/f/"_s)),
+             document(u"/w/f/data/run #1%20.raw"_s, u"/w/report.json"_s));
+    QCOMPARE(WorkflowReferences::withAbsolutePaths(relative, {}), relative);
 }
 
 ORV_REGISTER_TEST(TestPortableTarget)
