@@ -22,7 +22,7 @@ void add(const char *name, const std::function<void()> &work)
     benchmark::RegisterBenchmark(name, [work](benchmark::State &state) {
         for ([[maybe_unused]] auto iteration : state)
             work();
-    })->Unit(benchmark::kMillisecond);
+    })->Unit(benchmark::kMicrosecond);
 }
 
 } // namespace
