@@ -119,7 +119,7 @@ Comparison::Private::Private(Comparison *comparison, Workbench *workbench)
                                  Qt::BottomDockWidgetArea))
 {
     action->setObjectName(QStringLiteral("compareWith"));
-    action->setShortcut(Qt::Key_F7);
+    action->setShortcut(Qt::CTRL | Qt::Key_F7);
     action->setToolTip(
         tr("Show in what another workflow differs from this one, and take over what you choose"));
     workbench->viewMenu()->addAction(action);

@@ -453,14 +453,13 @@ bool DocumentHistory::Private::show(const DocumentState &to, const StateChange &
     if (error.hasError())
         window->statusBar()->showMessage(
             tr("Not all of the step can be shown: %1").arg(error.errorMessage()));
-    shown.forget(change);
+    shown.forget(change, to);
     return true;
 }
 
 void DocumentHistory::Private::arrive(const DocumentState &to)
 {
     state = to;
-    shown.forget(step.change, to);
     settle(shown.read());
     static_cast<void>(shown.takeMoves());
     field = nullptr;

@@ -1,8 +1,8 @@
 #include "StepText.h"
 
 #include "CellEntries.h"
-#include "ShortText.h"
 #include "EntryTexts.h"
+#include "ShortText.h"
 
 #include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/content/CellTypes.h>
@@ -25,41 +25,12 @@ struct StepTextTr
     Q_DECLARE_TR_FUNCTIONS(StepText)
 };
 
-/// A value as its row shows it; empty for tables and other values that no line shows.
-QString valueText(const QJsonObject &cell, const QJsonObject &entry)
-{
-    QJsonObject alone = cell;
-    alone.insert(PROPERTIES_KEY, QJsonArray{entry});
-    const Result<KPropertySet *> made = PropertySetCreator::objectToPropertySet(alone, std::nullopt);
-    if (made.hasError())
-        return {};
-    const std::unique_ptr<KPropertySet> set(*made);
-    for (KPropertySetIterator property(*set); *property; ++property) {
-        if (!(*property)->name().startsWith(':'))
-            return shortened(KPropertyFactoryManager::self()->propertyValueToLocalizedString(*property),
-                             kLongestValue);
-    }
-    return {};
-}
-
-QString captionOf(const QJsonObject &cell, const QJsonObject &entry)
-{
-    const BaseItemType type = PropertyEditor::BaseItem::typeFromString(cell.value(TYPE_KEY).toString());
-    const PropertyId id = PropertyEditorJsonUtils::findPropertyBackCompat(entry, type);
-    const QString caption = PropertiesNames::displayNameForType(id);
-    return caption.isEmpty() ? entry.value(NAME_KEY).toString() : caption;
-QString inOneLine(const QString &text)
-{
-    const QString line = text.simplified();
-    return line.size() <= kLongestValue ? line : line.left(kLongestValue - 1) + QChar(0x2026);
-}
-
 QString settingText(const QJsonObject &cellBefore, const QJsonObject &before, const QJsonObject &cell,
                     const QJsonObject &after)
 {
     QString caption = EntryTexts::caption(cell, after);
-    const QString was = inOneLine(EntryTexts::value(cellBefore, before));
-    const QString is = inOneLine(EntryTexts::value(cell, after));
+    const QString was = shortened(EntryTexts::value(cellBefore, before), kLongestValue);
+    const QString is = shortened(EntryTexts::value(cell, after), kLongestValue);
     if (was == is)
         return caption;
     const QString none = StepTextTr::tr("(empty)");

@@ -82,7 +82,7 @@ struct Compared : Bench
     [[nodiscard]] bool compareWith(const QString &path)
     {
         answers.expectPath(u"Compare With Workflow"_s, path);
-        QTest::keyClick(window, Qt::Key_F7);
+        QTest::keyClick(window, Qt::Key_F7, Qt::ControlModifier);
         return isQuiet();
     }
     [[nodiscard]] bool compareWith(const QJsonObject &document, const char *name = "OTHER.wflw")
