@@ -389,8 +389,24 @@ def first_generation():
                       description="A validated search in the form of its age.")
 
 
+def intact_mass_2022():
+    """For those who learn the application: it is upgraded, and has a value that the rules didn't refuse in its day."""
+    w = Writer("5.30.0", user="j.okafor", created="2022-05-12T10:24:00")
+    heavy, light = (sequence for _, _, sequence in read_fasta("antibody.fasta"))
+    chains = molecules([("HC", "Heavy chain", heavy), ("LC", "Light chain", light)], [["mAb", [1, 1, 2, 2], 16, []]])
+    masses_cell = w.cell("Masses", "Delta masses", [
+        {"name": w.name(207), "value": masses(("G0F/G0F", 148055.9), ("G0F/G1F", 148218.1))},
+        {"name": w.name(210), "value": rows(["Value", "Unit"], [30.0, "ppm"])}])
+    return w.document([tab("Samples", w.samples([sample(1, "Lot 0423", "../data/mab_reference.mzML")], traces=[TIC])),
+                       tab("Proteins", w.table("IntactProteins", "Intact proteins", 171, chains), masses_cell),
+                       tab("Intact mass", w.step("Intact", "Intact mass", INTACT, p213="0"),
+                           w.table("IntactOptions", "Options", 170, deconvolution("Denatured", 600, 5000, 20000, 200000, 10, 100, "H")))],
+                      name="Intact mass of 2022", workflowType="DenaturedIntactMass", icon="denatured-intact-mass",
+                      contentMode=0, description="Release check of an antibody, as it was run in 2022.")
+
+
 EXAMPLE_FILES = {
-    "outdated/antibody_search_2018": first_generation,
+    "outdated/antibody_search_2018": first_generation, "outdated/intact_mass_2022": intact_mass_2022,
     "antibody_peptide_map": antibody_peptide_map, "intact_mass_check": intact_mass_check,
     "oligonucleotide_map": oligonucleotide_map, "intact_oligonucleotide": intact_oligonucleotide,
     "glycoproteomics_search": glycoproteomics_search, "released_glycans": released_glycans,
