@@ -15,15 +15,18 @@
 #include <orv/widgets/ORVFileDialog.h>
 #include <orv/widgets/ORVStyle.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDesktopServices>
+#include <QDir>
 #include <QDockWidget>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPointer>
+#include <QStatusBar>
 #include <QUrl>
 
 namespace orv {
@@ -249,12 +252,22 @@ void EditorWindow::run(const PropertyEditor::Content &content, const Path &outpu
                "both, or another name.")
                 .arg(outcome.kept));
     }
+    if (self && !outcome.folders.isEmpty())
+        tellRun(outcome.folders.constFirst());
     if (self)
         Q_EMIT projectCreationFinished(outcome.error, outcome.folders, clock.elapsed());
     for (const QString &folder : outcome.folders) {
         if (self)
             Q_EMIT openProject(folder);
     }
+}
+
+/// Where no file manager opens it, a person still knows where the run is.
+void EditorWindow::tellRun(const QString &folder)
+{
+    statusBar()->showMessage(tr("The run was written to %1").arg(QDir::toNativeSeparators(folder)));
+    QAccessibleEvent event(statusBar(), QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
 }
 
 void EditorWindow::dragEnterEvent(QDragEnterEvent *event)

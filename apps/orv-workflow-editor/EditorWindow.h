@@ -51,6 +51,7 @@ private:
     OpenStatus openAndTell(const QString &path);
     void tellUnreadable(const QStringList &files);
     void run(const PropertyEditor::Content &content, const Path &outputPath, DuplicateFilePolicy policy);
+    void tellRun(const QString &folder);
     void showAbout();
     void recover(const RecoveryEntry &entry, RecoveryFileState state);
     [[nodiscard]] bool showRecovered(RecoveryStore::Taken &taken, const RecoveryEntry &entry,

@@ -111,10 +111,14 @@ bool PropertyEditorWindow::createProjectClicked()
     if (!self || !d->verifyWorkflowReferences(content()) || !self)
         return false;
     d->m_projectCreationStarted = true;
+    const QPointer<QWidget> focus = focusWidget();
     setEnabled(false);
     const bool isCreated = d->createProject();
     if (self)
         setEnabled(true);
+    // A disabled window gives the focus away, and keys would go nowhere.
+    if (self && focus && isAncestorOf(focus) && !focusWidget())
+        focus->setFocus(Qt::OtherFocusReason);
     return isCreated;
 }
 

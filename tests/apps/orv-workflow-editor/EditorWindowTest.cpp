@@ -19,6 +19,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
 
@@ -88,6 +89,7 @@ private Q_SLOTS:
     void filesAreDropped();
     void otherDropsAreRefused();
     void projectsAreWrittenAndShown();
+    void theFocusComesBackWhenProjectsWereMade();
     void existingRunsAreKept();
     void failedRunsAreTold();
     void aboutTellsVersions();
@@ -278,8 +280,25 @@ void EditorWindowTest::projectsAreWrittenAndShown()
     QVERIFY(!finished.first().at(0).value<Error>().hasError());
     QCOMPARE(finished.first().at(1).toStringList(), QStringList{run});
     QCOMPARE(desktop.shown, QStringList{run});
+    QCOMPARE(m_window->statusBar()->currentMessage(), u"The run was written to "_s + run);
     QVERIFY(TestData::read(run + u"/workflow.wflw"_s)
                 .contains(TestData::examplePath(u"workflows/data/"_s).toUtf8()));
+}
+
+void EditorWindowTest::theFocusComesBackWhenProjectsWereMade()
+{
+    open();
+    const Desktop desktop;
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    QCOMPARE(m_window->openWorkflow(intactExample()), kOpened);
+    auto *button = m_window->findChild<QPushButton *>(u"pushCreateProject"_s);
+    button->setFocus();
+    QTRY_VERIFY(button->hasFocus());
+    answers.expectPath(u"Save project as"_s, folder.filePath(u"mab.intact"_s));
+    QTest::keyClick(button, Qt::Key_Space);
+    QVERIFY(answers.isDone());
+    QCOMPARE(m_window->focusWidget(), button);
 }
 
 void EditorWindowTest::existingRunsAreKept()

@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QLineEdit>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 
 using namespace orv;
@@ -53,6 +54,7 @@ private Q_SLOTS:
     void filesAreChosenAndTheFolderRemembered();
     void savedNamesGetTheirSuffix();
     void nothingChosenRemembersNothing();
+    void foldersThatAreNotThereAreNotOffered();
     void theLayoutIsSwitched();
 };
 
@@ -183,6 +185,26 @@ void DialogsTest::nothingChosenRemembersNothing()
     QCOMPARE(ask(), QString());
     QCOMPARE(FileSystemSettings::folder(location), folder.path());
     QCOMPARE(answers.transcript().value(1).kind, DialogRequest::Kind::ChooseFolder);
+}
+
+void DialogsTest::foldersThatAreNotThereAreNotOffered()
+{
+    const QTemporaryDir home;
+    const QTemporaryDir gone;
+    const QByteArray homeBefore = qgetenv("HOME");
+    const QByteArray configBefore = qgetenv("XDG_CONFIG_HOME");
+    const auto restore = qScopeGuard([&] {
+        qputenv("HOME", homeBefore);
+        configBefore.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", configBefore);
+    });
+    qputenv("HOME", home.path().toUtf8());
+    qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
+    const FileSystemSettings::DirectoryLocation location = {QLatin1String("Three"),
+                                                            QLatin1String("FSS_Three")};
+    const as::ScopedOverride none(location.key, gone.filePath(u"a"_s));
+    QCOMPARE(FileSystemSettings::folder(location), home.path());
+    QVERIFY(QDir(home.path()).mkdir(u"Documents"_s));
+    QCOMPARE(FileSystemSettings::folder(location), home.filePath(u"Documents"_s));
 }
 
 void DialogsTest::theLayoutIsSwitched()

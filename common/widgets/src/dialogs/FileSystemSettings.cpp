@@ -2,6 +2,7 @@
 
 #include <orv/core/Settings.h>
 
+#include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -10,9 +11,13 @@ namespace orv::FileSystemSettings {
 QString folder(const DirectoryLocation &location)
 {
     const QString remembered = as::value(location.key, QString()).toString();
-    return !remembered.isEmpty() && QFileInfo(remembered).isDir()
-               ? remembered
-               : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    for (const QString &candidate : {remembered, documents}) {
+        if (!candidate.isEmpty() && QFileInfo(candidate).isDir())
+            return candidate;
+    }
+    // A dialog takes a folder that isn't there for the name of a file.
+    return QDir::homePath();
 }
 
 void rememberChosen(const DirectoryLocation &location, const QString &path)

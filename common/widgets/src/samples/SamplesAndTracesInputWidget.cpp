@@ -215,6 +215,9 @@ void SamplesAndTracesInputWidget::addCommands()
     d->showTraces->setCheckable(true);
     d->showTraces->setToolTip(tr("Show the traces of the samples, and how peaks are found in them"));
     d->bar->widgetForAction(d->showTraces)->setObjectName(QStringLiteral("showTraces"));
+    // No menu or shortcut has these commands, and a tool bar takes its buttons out of the tab order.
+    for (QAction *action : d->bar->actions())
+        d->bar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
     d->pane->hide();
     connect(d->showTraces, &QAction::toggled, d->pane, &QWidget::setVisible);
 }

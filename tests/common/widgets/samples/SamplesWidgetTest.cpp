@@ -17,6 +17,7 @@
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QToolButton>
 
 using namespace orv;
 using namespace Qt::StringLiterals;
@@ -117,6 +118,7 @@ private Q_SLOTS:
     void tenThousandFilesAreDropped_data();
     void tenThousandFilesAreDropped();
     void filesAreChosen();
+    void commandsAreReachedByTab();
     void filesArePasted();
     void newFilesOfOthersAreTakenAtOnce();
     void rowsArePastedFromASpreadsheet();
@@ -285,6 +287,29 @@ void SamplesWidgetTest::filesAreChosen()
     Hands::press(widget, "addFolder");
     QTRY_COMPARE(widget.samplesInput().size(), 5);
     QCOMPARE(widget.samplesInput()[4].name, u"z"_s);
+    QVERIFY(answers.isDone());
+}
+
+void SamplesWidgetTest::commandsAreReachedByTab()
+{
+    const QTemporaryDir folder;
+    makeFiles(folder, {u"x.mzML"_s});
+    Widget widget;
+    const QStringList commands = {u"addFiles"_s,   u"addFolder"_s, u"nameByFiles"_s,
+                                  u"checkFiles"_s, u"columns"_s,   u"showTraces"_s};
+    auto *const first = widget.findChild<QToolButton *>(commands.first());
+    first->setFocus(Qt::TabFocusReason);
+    for (const QString &command : commands) {
+        QCOMPARE(QApplication::focusWidget()->objectName(), command);
+        Hands::key(Qt::Key_Tab);
+    }
+    for (int i = 0; i < commands.size(); ++i)
+        Hands::key(Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(QApplication::focusWidget(), first);
+    ScriptedAnswerer answers;
+    answers.expectPath(u"Add Files"_s, folder.filePath(u"x.mzML"_s));
+    Hands::key(Qt::Key_Space);
+    QTRY_COMPARE(widget.samplesInput().size(), 3);
     QVERIFY(answers.isDone());
 }
 

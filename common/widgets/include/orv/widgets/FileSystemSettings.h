@@ -21,7 +21,8 @@ inline constexpr DirectoryLocation DefaultLocation = {QLatin1String("DefaultLoca
 inline constexpr DirectoryLocation NewProjectLocation = {QLatin1String("NewProjectLocation"),
                                                          QLatin1String("FSS_NewProjectLocation")};
 
-/// The remembered folder; the person's folder of documents while none is, or when it is gone.
+/// The remembered folder; the person's folder of documents while none is, or when it is gone; the home folder
+/// of those who have neither.
 [[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT QString folder(const DirectoryLocation &location);
 
 /// Remembers the folder of a file, or a folder, that was chosen.
