@@ -3,9 +3,12 @@
 #include <orv/widgets/DialogService.h>
 #include <orv/widgets/ORVStyle.h>
 
+#include <QAbstractItemView>
+#include <QCompleter>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QPointer>
 
 #include <functional>
@@ -30,6 +33,19 @@ QString startOf(const QString &path, const FileSystemSettings::DirectoryLocation
     return QDir(FileSystemSettings::folder(location)).filePath(path);
 }
 
+/// A dialog that closes before its completions do leaves no window active on X11, and nothing speaks of the
+/// focus.
+void hideCompletionsOnReturn(const QFileDialog &dialog)
+{
+    auto *const name = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit")); // not in native dialogs
+    if (!name)
+        return;
+    QObject::connect(name, &QLineEdit::returnPressed, name, [name] {
+        if (name->completer())
+            name->completer()->popup()->hide();
+    });
+}
+
 void prepare(QFileDialog &dialog, const FileQuestion &question)
 {
     dialog.setWindowTitle(question.title);
@@ -37,6 +53,7 @@ void prepare(QFileDialog &dialog, const FileQuestion &question)
     dialog.setDirectory(info.isDir() ? question.start : info.absolutePath());
     if (!info.isDir())
         dialog.selectFile(info.fileName());
+    hideCompletionsOnReturn(dialog);
     if (!question.filter.isEmpty())
         dialog.setNameFilters(question.filter.nameFilters() << QFileDialog::tr("All Files (*)"));
 }
