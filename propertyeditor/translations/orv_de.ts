@@ -1567,6 +1567,10 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
         <source>The workflow was recovered. Save it to keep it.</source>
         <translation>Der Workflow wurde wiederhergestellt. Speichern Sie ihn, um ihn zu behalten.</translation>
     </message>
+    <message>
+        <source>The run was written to %1</source>
+        <translation>Der Lauf steht in %1</translation>
+    </message>
 </context>
 <context>
     <name>orv::FindBar</name>

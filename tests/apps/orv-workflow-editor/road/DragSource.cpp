@@ -39,10 +39,10 @@ protected:
         QList<QUrl> urls;
         for (const QString &file : m_files)
             urls.append(QUrl::fromLocalFile(file));
-        auto *data = new QMimeData;
-        data->setUrls(urls);
+        auto *content = new QMimeData;
+        content->setUrls(urls);
         auto *drag = new QDrag(this);
-        drag->setMimeData(data);
+        drag->setMimeData(content);
         connect(drag, &QDrag::actionChanged, this, [this](Qt::DropAction action) {
             tell(action == Qt::IgnoreAction ? u"Refused here"_s : u"Accepted here"_s);
         });
