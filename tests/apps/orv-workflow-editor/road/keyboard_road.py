@@ -27,6 +27,7 @@ def save_upgraded(road, person):
     person.presses("Return")
     person.sees("label", "Saved")
     person.sees("page tab", "Intact mass")
+    person.is_back()
     road.expects_file("Documents/workflows/outdated/" + NEW)
 
 
@@ -58,6 +59,7 @@ def add_samples(road, person):
     person.sees("text", file)
     person.presses("Return")
     person.sees("cell", "mab_stressed", within=("table", "Samples"))
+    person.is_back()
 
 
 def check_and_mend(road, person):
@@ -90,6 +92,7 @@ def save(road, person):
     person.sees("label", re.compile("already exists"))
     person.presses("alt+y")
     person.sees("label", "Saved")
+    person.is_back()
 
 
 def create_project(road, person):
@@ -104,6 +107,7 @@ def create_project(road, person):
     road.expects_opened(folder)
     road.expects_file(folder / "workflow.wflw")
     person.sees("status bar", re.compile(re.escape(str(folder))))
+    person.is_back()
     person.sees_any_focus()
 
 
