@@ -3,6 +3,8 @@
 #include <orv/propertyeditor/window/PropertyEditorDesktopWindow.h>
 #include <orv/propertyeditor/workbench/RecoveryStore.h>
 
+#include <optional>
+
 QT_FORWARD_DECLARE_CLASS(QDockWidget)
 QT_FORWARD_DECLARE_CLASS(QMenu)
 
@@ -56,7 +58,7 @@ private:
     void recover(const RecoveryEntry &entry, RecoveryFileState state);
     [[nodiscard]] bool showRecovered(RecoveryStore::Taken &taken, const RecoveryEntry &entry,
                                      const QString &path);
-    [[nodiscard]] PropertyEditorContent stateToKeep() const;
+    [[nodiscard]] std::optional<PropertyEditorContent> stateToKeep() const;
     void restoreLayout();
     [[nodiscard]] bool isPristine() const;
     [[nodiscard]] EditorWindow *anotherWindow() const;

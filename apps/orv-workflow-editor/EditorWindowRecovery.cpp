@@ -45,6 +45,7 @@ void EditorWindow::buildRecovery(Workbench *workbench)
                                   [this] { return dFunc()->getLastSavedWorkflow(); },
                                   [this] { return dFunc()->lost(); }});
     connect(m_history, &DocumentHistory::stateChanged, m_keeper, &JournalKeeper::noteEdit);
+    connect(m_history, &DocumentHistory::upgradeDropped, m_keeper, &JournalKeeper::beginWithoutFile);
     m_recovery = new RecoveryPanel(m_store);
     m_recoveryPanel = workbench->addPanel(m_recovery, QStringLiteral("recovery"), tr("Unsaved Workflows"),
                                           Qt::BottomDockWidgetArea);
@@ -57,11 +58,14 @@ void EditorWindow::buildRecovery(Workbench *workbench)
     connect(m_recovery, &RecoveryPanel::emptied, m_recoveryPanel, &QWidget::hide);
 }
 
-/// Of a workflow whose upgrade was taken back, nothing is unsaved.
-PropertyEditorContent EditorWindow::stateToKeep() const
+/// Of a workflow whose upgrade was taken back, nothing is unsaved; but one that was recovered is nowhere
+/// else.
+std::optional<PropertyEditorContent> EditorWindow::stateToKeep() const
 {
-    return m_history->isUpgradeTakenBack() ? PropertyEditorContent(dFunc()->getLastSavedWorkflow())
-                                           : m_history->state().content(extendedMetadata());
+    if (!m_history->isUpgradeTakenBack())
+        return m_history->state().content(extendedMetadata());
+    PropertyEditorContent opened(dFunc()->getLastSavedWorkflow());
+    return opened.tabsAndContent().isEmpty() ? std::nullopt : std::optional(opened);
 }
 
 void EditorWindow::offerRecovery()

@@ -141,7 +141,6 @@ OpenStatus PropertyEditorWindow::openWorkflow(PropertyEditorContent *content,
     const QPointer<PropertyEditorWindow> self(this);
     Upgrade upgrade;
     upgrade.done.path = path;
-    upgrade.done.metadata = content->metadata();
     upgrade.lost = std::exchange(d->m_lostInReading, {});
     if (const std::optional<OpenStatus> refusal = judge(*content, &upgrade))
         return *refusal;

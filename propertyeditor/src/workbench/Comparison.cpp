@@ -83,6 +83,7 @@ private:
     void connectPanel();
     void connectWindow();
     void receive(const SecondDocument &second);
+    void follow();
     void compare();
     void show(const ComparisonTree &tree);
     void takeOver();
@@ -97,6 +98,7 @@ private:
     Comparison *const q;
     const QPointer<PropertyEditorWindow> m_window;
     DocumentHistory *const m_history;
+    QUrl m_folder; ///< of this document when the second one was read
     FindSettings *const m_find;
     ComparisonPanel *m_panel;
     QPointer<QDockWidget> m_dock;
@@ -142,12 +144,12 @@ void Comparison::Private::connectPanel()
 
 void Comparison::Private::connectWindow()
 {
-    connect(m_history, &DocumentHistory::stateChanged, q, [this] { compare(); });
-    connect(m_window, &PropertyEditorWindow::documentSaved, q, [this] { compare(); });
+    connect(m_history, &DocumentHistory::stateChanged, q, [this] { follow(); });
+    connect(m_window, &PropertyEditorWindow::documentSaved, q, [this] { follow(); });
     connect(m_window, &PropertyEditorWindow::documentShown, q, [this] {
         // What was checked was meant for another document.
         m_panel->model()->uncheckAll();
-        compare();
+        follow();
     });
 }
 
@@ -173,12 +175,13 @@ void Comparison::Private::compareWith(const QString &file)
     isComparing = false;
     isTaking = false;
     m_isWantedAgain = false;
+    m_folder = folderUrl();
     m_panel->setRefusal({});
     m_panel->showReading(QFileInfo(file).fileName());
     m_dock->show();
     m_dock->raise();
     inBackground<SecondDocument>(
-        q, [file, folder = folderUrl()] { return SecondDocument::read(file, folder); },
+        q, [file, folder = m_folder] { return SecondDocument::read(file, folder); },
         [this, number](const SecondDocument &second) {
             if (number == m_number)
                 receive(second);
@@ -199,6 +202,15 @@ void Comparison::Private::receive(const SecondDocument &second)
     m_second = std::make_shared<const SecondDocument>(second);
     m_isFirst = true;
     compare();
+}
+
+/// Paths of the second document are told from the folder of this one.
+void Comparison::Private::follow()
+{
+    if (m_second && folderUrl() != m_folder)
+        compareWith(path);
+    else
+        compare();
 }
 
 void Comparison::Private::compare()

@@ -80,6 +80,9 @@ public:
     void arrive(const DocumentState &to);
     [[nodiscard]] bool moveTables(const HistoryStep &step, StateChange::Direction direction) const;
     void takeUpgraded(const DocumentUpgrade &upgrade);
+    void append(const HistoryStep &step);
+    void dropUpgrade();
+    [[nodiscard]] bool tellDropped();
     void leaveField();
 
     PropertyEditorWindow *window;
@@ -91,6 +94,7 @@ public:
     bool isPending = false;
     bool isTravelling = false;
     int generation = 0;          ///< of documents
+    bool isDropped = false;      ///< the upgrade, and nobody was told of that
     bool isSettling = false;     ///< what is told is the echo of a step
     QPointer<QWidget> field;     ///< in which the last step was made, as long as it may go on
     QPointer<QWidget> nextField; ///< the same for what is told and not yet taken in
@@ -262,6 +266,7 @@ void DocumentHistory::Private::takeSaved()
     isPending = false;
     shown.forget();
     const DocumentState written = shown.read();
+    dropUpgrade();
     steps.forgetUpgrade();
     // The stamps of a save are part of no step.
     steps.followMetadata(state.metadata, written.metadata);
@@ -270,7 +275,8 @@ void DocumentHistory::Private::takeSaved()
     static_cast<void>(shown.takeMoves());
     saved = state;
     field = nullptr;
-    Q_EMIT q->changed();
+    if (tellDropped())
+        Q_EMIT q->changed();
 }
 
 void DocumentHistory::Private::expectEdits()
@@ -308,7 +314,8 @@ void DocumentHistory::Private::takeIn()
 void DocumentHistory::Private::tellOtherState()
 {
     const QPointer<DocumentHistory> self(q);
-    Q_EMIT q->stateChanged();
+    if (tellDropped())
+        Q_EMIT q->stateChanged();
     if (self)
         Q_EMIT q->changed();
 }
@@ -342,9 +349,8 @@ void DocumentHistory::Private::push(const DocumentState &now, const QList<TableM
         const TableHistory *table = isForth ? moves.constFirst().history.data() : nullptr;
         text = StepText::of(state, change, now, table ? table->undoText() : QString());
     }
-    steps.append({change, text, moves});
+    append({change, text, moves});
     state = now;
-    steps.trim(limit);
 }
 
 /// A table takes steps back and forth by its menu, too.
@@ -426,8 +432,7 @@ bool DocumentHistory::Private::edit(const DocumentState &from, const DocumentSta
     const StateChange change = StateChange::between(from, to);
     if (!show(to, change, [] { return true; }))
         return true;
-    steps.append({change, text});
-    steps.trim(limit);
+    append({change, text});
     arrive(to);
     return true;
 }
@@ -481,11 +486,33 @@ void DocumentHistory::Private::leaveField()
         field = nullptr;
 }
 
+void DocumentHistory::Private::append(const HistoryStep &step)
+{
+    dropUpgrade();
+    steps.append(step);
+    steps.trim(limit);
+}
+
+/// What is made where an upgrade was taken back takes its place.
+void DocumentHistory::Private::dropUpgrade()
+{
+    isDropped = isDropped || q->isUpgradeTakenBack();
+}
+
+/// Whether the window is still there.
+bool DocumentHistory::Private::tellDropped()
+{
+    const QPointer<DocumentHistory> self(q);
+    if (std::exchange(isDropped, false))
+        Q_EMIT q->upgradeDropped();
+    return self;
+}
+
 /// An upgrade is a step like others, from a window that shows nothing of the document: what it would show of
 /// one of an earlier version is less than the file has.
 void DocumentHistory::Private::takeUpgraded(const DocumentUpgrade &upgrade)
 {
-    const DocumentState before{{}, upgrade.metadata};
+    const DocumentState before;
     steps.clear();
     steps.append({StateChange::between(before, state),
                   tr("Upgrade from %1 to %2").arg(upgrade.from.toString(), upgrade.to.toString()),

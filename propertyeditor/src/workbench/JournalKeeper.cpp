@@ -69,11 +69,18 @@ void JournalKeeper::beginSaved()
     m_journal->begin(QDir::isAbsolutePath(file) ? file : QString(), m_source.saved());
 }
 
+void JournalKeeper::beginWithoutFile()
+{
+    useJournal(m_store->newJournal());
+    m_journal->begin({}, {});
+}
+
 void JournalKeeper::adopt(std::unique_ptr<RecoveryJournal> journal)
 {
     m_timer.stop();
     m_hasEdit = false;
-    journal->goOn(m_source.state().document());
+    if (const std::optional<PropertyEditorContent> state = m_source.state())
+        journal->goOn(state->document());
     useJournal(std::move(journal));
 }
 
@@ -94,9 +101,9 @@ void JournalKeeper::flush()
     m_hasEdit = false;
     // Reading takes in what was told of edits, and whoever hears of that may close the window.
     const QPointer<JournalKeeper> self(this);
-    const PropertyEditorContent state = m_source.state();
-    if (self && m_journal)
-        m_journal->write(state, m_source.lost ? m_source.lost() : QStringList());
+    const std::optional<PropertyEditorContent> state = m_source.state();
+    if (self && m_journal && state)
+        m_journal->write(*state, m_source.lost ? m_source.lost() : QStringList());
 }
 
 bool JournalKeeper::eventFilter(QObject *watched, QEvent *event)

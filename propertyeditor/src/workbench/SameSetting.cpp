@@ -92,14 +92,17 @@ QString SameSetting::stepText(const QList<int> &rows) const
     const QString change = before.isEmpty() ? tr("%1 to %2").arg(model.caption(), after)
                                             : tr("%1 %2 to %3").arg(model.caption(), before, after);
     return rows.size() == 1 ? tr("%1 in %2").arg(change, model.placeText(rows.constFirst()))
-                            : tr("%1 in %2 columns").arg(change).arg(rows.size());
+                            : tr("%1 in %2 columns").arg(change, QString::number(rows.size()));
 }
 
 void SameSetting::apply()
 {
     const QPointer<SameSetting> self(this);
-    // What was told of edits until now is no part of the step, and whoever hears of it may close the window.
-    if (m_history)
+    // What is typed counts. It and what was told of edits until now is no part of the step, and whoever hears
+    // of it may close the window.
+    if (m_window)
+        m_window->commitTyping();
+    if (self && m_history)
         m_history->takeIn();
     if (!self || !m_window || !m_dock)
         return;

@@ -178,7 +178,8 @@ QVariant SameSettingModel::data(const QModelIndex &index, int role) const
         return spoken.join(QStringLiteral(", "));
     }
     case Qt::ToolTipRole:
-        return text(row, index.column()).left(kMostOfSameInTip).toHtmlEscaped();
+        return QStringLiteral("<p>%1</p>")
+            .arg(text(row, index.column()).left(kMostOfSameInTip).toHtmlEscaped());
     default:
         return {};
     }

@@ -65,8 +65,9 @@ QString SettingCopy::asText(const KPropertySet &set, const QList<QByteArray> &na
 
 Result<QByteArray> SettingCopy::asJson(const KPropertySet &set, const QList<QByteArray> &names)
 {
+    // Relative paths mean other files in another workflow's folder.
     const auto cell =
-        PropertySetCreator::propertySetToObject(set, PropertyEditor::PropertyConversionFlag::KeepPaths);
+        PropertySetCreator::propertySetToObject(set, PropertyEditor::PropertyConversionFlag::AbsolutePaths);
     if (!cell) {
         return Error(ErrorCode::InvalidContent,
                      SettingCopyTr::tr("A value of the column can't be stored, see the log."));

@@ -74,7 +74,7 @@ Result<Pasted> fromJson(const QByteArray &json)
 
 Result<Pasted> fromLines(const QString &text)
 {
-    if (text.count(u'\n') > SettingPaste::kMostSettings)
+    if (std::max(text.count(u'\n'), text.count(u'\r')) > SettingPaste::kMostSettings)
         return tooMuch();
     Pasted settings;
     bool hasValues = false;
@@ -100,6 +100,8 @@ Result<Pasted> fromCommand(const QStringList &words)
             continue;
         }
         const qsizetype end = word.indexOf(u'=');
+        if (settings.size() == SettingPaste::kMostSettings)
+            return tooMuch();
         if (hasFile && end > 0)
             settings.append({word.left(end), word.mid(end + 1), {}, true, {}});
         hasFile = true;

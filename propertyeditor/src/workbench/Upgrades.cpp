@@ -67,6 +67,8 @@ void Upgrades::Private::take(const DocumentUpgrade &done, bool isSavedAlready)
     isSaved = isSavedAlready;
     view->setUpgrade(done);
     update();
+    if (!dock)
+        return;
     window->statusBar()->showMessage(
         tr("Upgraded from %1 to %2. What that changed stands in %3.")
             .arg(done.from.toString(), done.to.toString(), dock->toggleViewAction()->text().remove(u'&')));
@@ -118,6 +120,7 @@ Upgrades::Upgrades(Workbench *workbench)
         d->update();
     });
     connect(d->history, &DocumentHistory::changed, this, [this] { d->update(); });
+    connect(d->history, &DocumentHistory::upgradeDropped, this, [this] { d->forget(); });
     connect(d->view, &UpgradeView::left, this, [this] {
         if (d->dock)
             d->dock->hide();
@@ -129,7 +132,7 @@ Upgrades::~Upgrades() = default;
 
 QAction *Upgrades::action() const
 {
-    return d->dock->toggleViewAction();
+    return d->dock ? d->dock->toggleViewAction() : nullptr;
 }
 
 } // namespace orv

@@ -136,6 +136,8 @@ private Q_SLOTS:
     void theWheelServesAnEditorThatWasClicked();
     void rightToLeftMirrorsCheckBoxes();
     void rightToLeftMirrorsArrowsAndTheRevertButton();
+    void signsAreSeenOnSelectedRows_data();
+    void signsAreSeenOnSelectedRows();
 };
 
 void ViewLooksTest::init()
@@ -301,6 +303,30 @@ void ViewLooksTest::emptyBoxesAreSeenInTheDark()
     QVERIFY(x < 30);
     QVERIFY2(contrast(image.pixelColor(x, y), background) >= 3.0, qPrintable(image.pixelColor(x, y).name()));
     QVERIFY(contrast(image.pixelColor(x, y), image.pixelColor(x + 4, y)) >= 3.0);
+}
+
+void ViewLooksTest::signsAreSeenOnSelectedRows_data()
+{
+    emptyBoxesAreSeenInTheDark_data();
+}
+
+void ViewLooksTest::signsAreSeenOnSelectedRows()
+{
+    QFETCH(bool, dark);
+    const QPalette before = QApplication::palette();
+    const PaletteForNow palette(dark ? darkPalette() : before, before);
+    Fixture fixture;
+    fixture.set["text"].setValue(text("changed"));
+    fixture.view.selectionModel()->select(fixture.index("text"),
+                                          QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    const QImage image = cell(fixture, fixture.index("text"));
+    const QColor background = image.pixelColor(image.width() - 2, 2);
+    double best = 0;
+    for (int y = 2; y < image.height() - 2; ++y) {
+        for (int x = image.width() - image.height(); x < image.width() - 2; ++x)
+            best = std::max(best, contrast(image.pixelColor(x, y), background));
+    }
+    QVERIFY2(best >= 3.0, qPrintable(QString::number(best)));
 }
 
 void ViewLooksTest::theWheelChangesNothingInAnEditorThatWasNotClicked()

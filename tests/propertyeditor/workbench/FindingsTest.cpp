@@ -467,12 +467,12 @@ void FindingsTest::theWindowMayGo()
 
 void FindingsTest::manyFindingsAreShown()
 {
-    Checked c(faulty(10000));
+    Checked c(faulty(4000));
     QVERIFY(c.check());
-    QCOMPARE(c.findings().errorCount(), 10001);
-    QCOMPARE(c.table().tableModel()->rowRemarks().size(), 10000);
-    clickAt(c.list(), c.rowOf(u"\"S9000\""_s), kMessage);
-    QCOMPARE(c.table().currentIndex().row(), 8999);
+    QCOMPARE(c.findings().errorCount(), 4001);
+    QCOMPARE(c.table().tableModel()->rowRemarks().size(), 4000);
+    clickAt(c.list(), c.rowOf(u"\"S3000\""_s), kMessage);
+    QCOMPARE(c.table().currentIndex().row(), 2999);
 }
 
 WIDGET_REGISTER_TEST(FindingsTest)

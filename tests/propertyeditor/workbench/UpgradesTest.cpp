@@ -54,6 +54,7 @@ private Q_SLOTS:
     void upgradesAreTakenBackAndAppliedAgain();
     void editsBehindAnUpgradeAreStepsOfTheirOwn();
     void nothingIsAskedWhereAnUpgradeWasTakenBack();
+    void whatIsMadeInPlaceOfAnUpgradeIsANewWorkflow();
     void savedUpgradesAreNoStep();
     void upgradesThatAreSavedAtOnceAreNoStep();
     void thePanelTellsStepByStep();
@@ -75,7 +76,7 @@ void UpgradesTest::upgradesAreTakenBackAndAppliedAgain()
     QVERIFY(edited.window.workflowFilePath().isNull());
     QVERIFY(!edited.history->isModified());
     QVERIFY(edited.history->isUpgradeTakenBack());
-    QCOMPARE(WflwMetaData::versionFromMetaDataObject(edited.window.workflowMetadata()), u"5.5.0"_s);
+    QVERIFY(edited.window.workflowMetadata().isEmpty());
     QVERIFY(edited.isPanelOpen());
     QVERIFY(edited.title().startsWith(
         u"The upgrade from 5.5.0 to 5.47.0 was taken back; the file is as it was."_s));
@@ -114,6 +115,26 @@ void UpgradesTest::nothingIsAskedWhereAnUpgradeWasTakenBack()
     edited.history->undo();
     edited.window.close();
     QVERIFY(!edited.window.isVisible());
+    QVERIFY(edited.answers.isDone());
+}
+
+void UpgradesTest::whatIsMadeInPlaceOfAnUpgradeIsANewWorkflow()
+{
+    Upgraded edited;
+    const QSignalSpy dropped(edited.history, &DocumentHistory::upgradeDropped);
+    DocumentState other = edited.history->state();
+    other.tabs.resize(1);
+    other.metadata = {};
+    edited.history->undo();
+    QVERIFY(edited.history->edit(edited.history->state(), other, u"Another tab"_s));
+    QCOMPARE(edited.window.tabs().count(), 1);
+    QCOMPARE(dropped.count(), 1);
+    QVERIFY(!edited.history->canRedo());
+    QVERIFY(edited.window.workflowFilePath().isNull());
+    QCOMPARE(edited.title(), u"This workflow needed no upgrade."_s);
+    QCOMPARE(edited.steps().rowCount(), 0);
+    edited.answers.expectBox(u"Unsaved changes"_s, u"No"_s);
+    edited.window.close();
     QVERIFY(edited.answers.isDone());
 }
 

@@ -256,7 +256,9 @@ void KPropertyEditorView::drawRow(QPainter *painter, const QStyleOptionViewItem 
         QTreeView::drawRow(painter, option, index);
         const QRect revert = revertButtonArea(index);
         if (revert.isValid()) {
-            Internal::Painting::drawRevertButton(painter, revert, palette());
+            const bool isSelected = selectionModel()->isSelected(index);
+            Internal::Painting::drawRevertButton(
+                painter, revert, isSelected ? Internal::Painting::ofSelection(palette()) : palette());
         }
     }
     if (d->gridLineColor.isValid()) {

@@ -140,6 +140,14 @@ void drawText(QPainter *painter, const QStyleOptionViewItem &option, const QStri
     painter->restore();
 }
 
+QPalette ofSelection(QPalette palette)
+{
+    palette.setColor(QPalette::Base, palette.color(QPalette::Highlight));
+    palette.setColor(QPalette::Text, palette.color(QPalette::HighlightedText));
+    palette.setColor(QPalette::Link, palette.color(QPalette::HighlightedText));
+    return palette;
+}
+
 void drawRevertButton(QPainter *painter, const QRect &rect, const QPalette &palette)
 {
     // An arrow that turns back, drawn so that it exists in every icon theme and size.

@@ -28,6 +28,8 @@ void drawFocus(QPainter *painter, const QRect &rect, const QPalette &palette);
 void drawBoxFrame(QPainter *painter, const QRect &box, const QPalette &palette);
 /// Text of one or several lines. What has no room, in a line where the option says or below, is an ellipsis.
 void drawText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text);
+/// With the colours that texts and links have on selected rows.
+[[nodiscard]] QPalette ofSelection(QPalette palette);
 void drawRevertButton(QPainter *painter, const QRect &rect, const QPalette &palette);
 void drawGroupRow(QPainter *painter, const QStyleOptionViewItem &option, const QRect &row,
                   const QModelIndex &index);

@@ -2,7 +2,6 @@
 
 #include <orv/propertyeditor/workflow/WorkflowUpgradeReview.h>
 
-#include <QJsonObject>
 #include <QList>
 #include <QMetaType>
 #include <QString>
@@ -20,7 +19,6 @@ struct DocumentUpgrade
     QVersionNumber to;
     QStringList notes; ///< what people should know of
     QList<WorkflowUpgradeStep> steps;
-    QJsonObject metadata; ///< of the document as it was
 };
 
 } // namespace orv

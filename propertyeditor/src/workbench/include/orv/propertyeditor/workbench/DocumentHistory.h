@@ -82,6 +82,9 @@ Q_SIGNALS:
     void changed();
     /// An edit, an undo or a redo led to another state; comes before changed().
     void stateChanged();
+    /// The upgrade was taken back, and something else was made in its place: what is shown belongs to no
+    /// file.
+    void upgradeDropped();
 
 private:
     friend class Group;

@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace orv {
 
@@ -28,9 +29,10 @@ public:
     /// How the document is read. They are called on the GUI thread while the window lives.
     struct Source
     {
-        std::function<PropertyEditorContent()> state; ///< as it is now; behind an edit, see setInterval()
-        std::function<QJsonObject()> saved;           ///< as it was opened or saved last
-        std::function<QStringList()> lost = {};       ///< what it lacks of its file; may be null
+        /// As it is now; behind an edit, see setInterval(). Nothing where what the journal has shall stay.
+        std::function<std::optional<PropertyEditorContent>()> state;
+        std::function<QJsonObject()> saved;     ///< as it was opened or saved last
+        std::function<QStringList()> lost = {}; ///< what it lacks of its file; may be null
     };
 
     /// A child of \a window. \a store is kept alive.
@@ -47,6 +49,9 @@ public:
 
     /// For changes that neither the tabs nor the window tell of, such as undoing.
     void noteEdit();
+
+    /// The window shows something else now, which belongs to no file: what was kept stays in its journal.
+    void beginWithoutFile();
 
     /// Goes on with \a journal, from which the document in the window was recovered.
     void adopt(std::unique_ptr<RecoveryJournal> journal);

@@ -23,7 +23,7 @@ public:
     explicit Upgrades(Workbench *workbench);
     ~Upgrades() override;
 
-    /// Opens and closes the panel.
+    /// Opens and closes the panel; null once that has gone.
     [[nodiscard]] QAction *action() const;
 
 private:
