@@ -3,10 +3,14 @@
 #include <orv/widgets/ProgressOutputUtils.h>
 
 #include <QDialog>
+#include <QDragEnterEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSemaphore>
+#include <QShortcut>
+#include <QSignalSpy>
 #include <QThread>
 #include <QWindow>
 
@@ -29,7 +33,7 @@ QDialog *progressWindow()
 bool isOnScreen()
 {
     const QDialog *const window = progressWindow();
-    return window && window->isVisible() && !window->testAttribute(Qt::WA_DontShowOnScreen);
+    return window && window->isVisible();
 }
 
 QString progressDetail()
@@ -54,6 +58,68 @@ void later(const std::function<void()> &what)
     QMetaObject::invokeMethod(qApp, what, Qt::QueuedConnection);
 }
 
+/// Presses a key in a window as soon as that shows.
+class KeyForShownWindow : public QObject
+{
+public:
+    KeyForShownWindow(QWidget *window, Qt::Key key)
+        : QObject(window)
+        , m_key(key)
+    {
+        window->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show)
+            later([key = m_key] { QTest::keyClick(progressWindow()->windowHandle(), key); });
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    Qt::Key m_key;
+};
+
+/// A button that files can be dropped on.
+class Target : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    void dragEnterEvent(QDragEnterEvent *event) override { event->accept(); }
+};
+
+/// A window that counts how often it is used: by pointer, by a key, by a shortcut.
+struct UsedWindow
+{
+    UsedWindow()
+    {
+        button.show();
+        button.activateWindow();
+        QObject::connect(&button, &QPushButton::clicked, &button, [this] { ++uses; });
+        QObject::connect(&shortcut, &QShortcut::activated, &button, [this] { ++uses; });
+    }
+
+    void click() { QTest::mouseClick(button.windowHandle(), Qt::LeftButton, {}, button.rect().center()); }
+    void pressSpace() { QTest::keyClick(button.windowHandle(), Qt::Key_Space); }
+    void pressShortcut() { QTest::keyClick(button.windowHandle(), Qt::Key_K, Qt::ControlModifier); }
+    bool acceptsFiles()
+    {
+        button.setAcceptDrops(true);
+        QMimeData files;
+        files.setUrls({QUrl::fromLocalFile(u"/data/mab.mzML"_s)});
+        QDragEnterEvent drag({1, 1}, Qt::CopyAction, &files, Qt::LeftButton, {});
+        drag.accept();
+        QCoreApplication::sendEvent(button.windowHandle(), &drag);
+        return drag.isAccepted();
+    }
+
+    int uses = 0;
+    Target button{u"Other"_s};
+    QShortcut shortcut{QKeySequence(Qt::CTRL | Qt::Key_K), &button};
+};
+
 } // namespace
 
 class ProgressTest : public WidgetTest
@@ -69,6 +135,11 @@ private Q_SLOTS:
     void eventsAreHandledWhileAThreadWorks();
     void aThreadHearsThatItShallStop();
     void nothingElseCanBeUsedFromTheBeginning();
+    void shortWorkTakesNoFocus();
+    void aDialogThatOpensMeanwhileCanBeUsed();
+    void aDialogThatWasOpenBeforeCannotBeUsed();
+    void workWithinWorkHoldsInputUntilBothAreDone();
+    void inputIsFreeWhenTheParentHasGone();
     void slicesEndWithTheirParent();
     void aThreadIsWaitedForWhenItsParentGoes();
     void aThreadIsWaitedForWhenTheApplicationQuits();
@@ -176,7 +247,7 @@ void ProgressTest::aThreadHearsThatItShallStop()
     TimedWork work(true);
     work.now = 1000;
     bool hasStopped = false;
-    later([] { QTest::keyClick(progressWindow(), Qt::Key_Escape); });
+    new KeyForShownWindow(progressWindow(), Qt::Key_Escape);
     const Outcome outcome = work.progress.run([&](ProgressReporter &reporter) {
         while (!reporter.isCancelled())
             QThread::yieldCurrentThread();
@@ -188,20 +259,112 @@ void ProgressTest::aThreadHearsThatItShallStop()
 
 void ProgressTest::nothingElseCanBeUsedFromTheBeginning()
 {
-    QPushButton other(u"Other"_s);
-    other.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&other));
-    int clicks = 0;
-    connect(&other, &QPushButton::clicked, this, [&] { ++clicks; });
-    const QPoint place = other.rect().center();
+    UsedWindow other;
+    QVERIFY(QTest::qWaitForWindowActive(&other.button));
     {
-        const ProgressOutput progress(u"Checking..."_s, &other, false);
-        QTest::mouseClick(other.windowHandle(), Qt::LeftButton, {}, place);
-        QCOMPARE(clicks, 0);
+        const ProgressOutput progress(u"Checking..."_s, &other.button, false);
+        other.click();
+        other.pressSpace();
+        other.pressShortcut();
+        QVERIFY(!other.button.windowHandle()->close());
+        QVERIFY(!other.acceptsFiles());
+        QCOMPARE(other.uses, 0);
         QVERIFY(!isOnScreen());
     }
-    QTest::mouseClick(other.windowHandle(), Qt::LeftButton, {}, place);
-    QCOMPARE(clicks, 1);
+    other.click();
+    QCOMPARE(other.uses, 1);
+    other.pressSpace();
+    QCOMPARE(other.uses, 2);
+    other.pressShortcut();
+    QCOMPARE(other.uses, 3);
+    QVERIFY(other.acceptsFiles());
+    QVERIFY(other.button.windowHandle()->close());
+}
+
+/// A modal window that can't be seen would catch the focus that a dialog gives back.
+void ProgressTest::shortWorkTakesNoFocus()
+{
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const QSignalSpy moved(qApp, &QGuiApplication::focusWindowChanged);
+    TimedWork work(false, &window);
+    QList<QWindow *> modal;
+    (void)work.progress.runInSlices([&](ProgressReporter &) {
+        modal.append(QGuiApplication::modalWindow());
+        work.now += 99;
+        return ++work.slices < 3;
+    });
+    QCOMPARE(modal, QList<QWindow *>({nullptr, nullptr, nullptr}));
+    QCOMPARE(moved.size(), 0);
+    QCOMPARE(QGuiApplication::focusWindow(), window.windowHandle());
+}
+
+void ProgressTest::aDialogThatOpensMeanwhileCanBeUsed()
+{
+    UsedWindow other;
+    const ProgressOutput progress(u"Checking..."_s, nullptr, false);
+    QDialog question;
+    QPushButton yes(u"Yes"_s, &question);
+    connect(&yes, &QPushButton::clicked, &question, &QDialog::accept);
+    question.setModal(true);
+    question.show();
+    QVERIFY(QTest::qWaitForWindowActive(&question));
+    other.click();
+    QCOMPARE(other.uses, 0);
+    QTest::mouseClick(question.windowHandle(), Qt::LeftButton, {}, yes.geometry().center());
+    QCOMPARE(question.result(), int(QDialog::Accepted));
+    other.click();
+    QCOMPARE(other.uses, 0);
+}
+
+void ProgressTest::aDialogThatWasOpenBeforeCannotBeUsed()
+{
+    QDialog settings;
+    QPushButton apply(u"Apply"_s, &settings);
+    int uses = 0;
+    connect(&apply, &QPushButton::clicked, &settings, [&] { ++uses; });
+    settings.setModal(true);
+    settings.show();
+    QVERIFY(QTest::qWaitForWindowActive(&settings));
+    const auto click = [&] {
+        QTest::mouseClick(settings.windowHandle(), Qt::LeftButton, {}, apply.geometry().center());
+    };
+    auto progress = std::make_unique<ProgressOutput>(u"Checking..."_s, &settings, false);
+    click();
+    QTest::keyClick(settings.windowHandle(), Qt::Key_Escape);
+    QCOMPARE(uses, 0);
+    QVERIFY(settings.isVisible());
+    progress.reset();
+    click();
+    QCOMPARE(uses, 1);
+}
+
+void ProgressTest::workWithinWorkHoldsInputUntilBothAreDone()
+{
+    UsedWindow other;
+    QVERIFY(QTest::qWaitForWindowActive(&other.button));
+    auto outer = std::make_unique<ProgressOutput>(u"Opening the workflow..."_s, &other.button, false);
+    auto inner = std::make_unique<ProgressOutput>(u"Checking..."_s, &other.button, false);
+    other.click();
+    inner.reset();
+    other.click();
+    QCOMPARE(other.uses, 0);
+    outer.reset();
+    other.click();
+    QCOMPARE(other.uses, 1);
+}
+
+void ProgressTest::inputIsFreeWhenTheParentHasGone()
+{
+    UsedWindow other;
+    QVERIFY(QTest::qWaitForWindowActive(&other.button));
+    auto parent = std::make_unique<QWidget>();
+    const ProgressOutput progress(u"Checking..."_s, parent.get(), false);
+    parent.reset();
+    other.click();
+    QCOMPARE(other.uses, 1);
 }
 
 void ProgressTest::slicesEndWithTheirParent()

@@ -34,6 +34,9 @@ ProgressWindow::ProgressWindow(std::shared_ptr<ProgressState> state, QWidget *pa
     : QDialog(parent)
     , m_state(std::move(state))
     , m_clock(clock ? std::move(clock) : systemClock())
+    // Whoever waits must not be clicked away from meanwhile, and nothing may flash. A modal window that isn't
+    // on the screen would catch the focus that comes back from a dialog, and lose it.
+    , m_hold(std::make_unique<InputHold>())
     , m_isCancellable(isCancellable)
 {
     setWindowModality(Qt::ApplicationModal);
@@ -44,9 +47,6 @@ ProgressWindow::ProgressWindow(std::shared_ptr<ProgressState> state, QWidget *pa
     m_timer.setInterval(int(kRedrawMs));
     connect(&m_timer, &QTimer::timeout, this, &ProgressWindow::refresh);
     m_timer.start();
-    // Whoever waits must not be clicked away from meanwhile, and nothing may flash.
-    setAttribute(Qt::WA_DontShowOnScreen);
-    show();
 }
 
 /// Where the parent takes it along, nobody waits for the work any more.
@@ -94,9 +94,8 @@ QString ProgressWindow::detailText(qint64 elapsedMs) const
 
 void ProgressWindow::appear()
 {
-    hide();
-    setAttribute(Qt::WA_DontShowOnScreen, false);
     show();
+    m_hold.reset();
 }
 
 void ProgressWindow::refresh()
@@ -111,7 +110,7 @@ void ProgressWindow::refresh()
     m_bar->setRange(0, m_state->count);
     m_bar->setValue(std::clamp(m_state->done.load(), 0, m_state->count.load()));
     m_detail->setText(m_state->isCancelled ? tr("Stopping...") : detailText(elapsed));
-    if (testAttribute(Qt::WA_DontShowOnScreen))
+    if (m_hold)
         appear();
 }
 

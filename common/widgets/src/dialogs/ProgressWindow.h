@@ -1,5 +1,6 @@
 #pragma once
 
+#include "InputHold.h"
 #include "ProgressState.h"
 
 #include <orv/widgets/ProgressOutputUtils.h>
@@ -7,13 +8,15 @@
 #include <QDialog>
 #include <QTimer>
 
+#include <memory>
+
 QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QProgressBar)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
 
 namespace orv {
 
-/// What people see of a work. It is modal before it can be seen.
+/// What people see of a work. Nothing else can be used from its construction on, also before it can be seen.
 class ProgressWindow : public QDialog
 {
     Q_OBJECT
@@ -35,6 +38,7 @@ private:
 
     std::shared_ptr<ProgressState> m_state;
     ProgressOutput::Clock m_clock;
+    std::unique_ptr<InputHold> m_hold; ///< until this window is shown
     QTimer m_timer;
     QLabel *m_text = nullptr;
     QLabel *m_detail = nullptr;
