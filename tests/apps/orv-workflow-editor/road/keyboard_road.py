@@ -27,7 +27,7 @@ def save_upgraded(road, person):
     person.presses("Return")
     person.sees("label", "Saved")
     person.sees("page tab", "Intact mass")
-    person.is_back()
+    person.sees("frame", states=["active"])
     road.expects_file("Documents/workflows/outdated/" + NEW)
 
 
@@ -47,6 +47,35 @@ def find_and_edit(road, person):
     person.sees("tree item", "Lowest charge: 8", within=SETTINGS)
 
 
+def copy_setting(road, person):
+    person.presses("ctrl+c", "ctrl+f")
+    person.sees_focus("text", "Find settings")
+    person.presses("ctrl+v")
+    person.sees("text", re.compile("^Lowest charge.*8"))
+    person.presses("Escape")
+    person.sees_focus("tree item", "Lowest charge: 8")
+
+
+def see_other_columns(road, person):
+    person.presses("F7")
+    person.sees("label", "Lowest charge: 8")
+    person.steps_to("tree item", re.compile("^Intact mass › Intact mass, 8"))
+    person.presses("Escape")
+    person.sees_focus("tree item", "Lowest charge: 8")
+
+
+def compare_with_old(road, person):
+    person.presses("ctrl+F7")
+    person.sees("dialog", "Compare With Workflow", ["active"])
+    path = str(road.home / "Documents/workflows/outdated" / OLD)
+    person.types(path)
+    person.sees("text", path)
+    person.presses("Return")
+    person.sees("tree item", "Lowest charge", within=("tree", "Differences"))
+    person.presses("Escape")
+    person.sees_focus("tree item", "Lowest charge: 8")
+
+
 def add_samples(road, person):
     person.presses("ctrl+Tab")
     person.sees("table", "Samples")
@@ -59,7 +88,7 @@ def add_samples(road, person):
     person.sees("text", file)
     person.presses("Return")
     person.sees("cell", "mab_stressed", within=("table", "Samples"))
-    person.is_back()
+    person.sees("frame", states=["active"])
 
 
 def check_and_mend(road, person):
@@ -92,7 +121,7 @@ def save(road, person):
     person.sees("label", re.compile("already exists"))
     person.presses("alt+y")
     person.sees("label", "Saved")
-    person.is_back()
+    person.sees("frame", states=["active"])
 
 
 def create_project(road, person):
@@ -107,7 +136,7 @@ def create_project(road, person):
     road.expects_opened(folder)
     road.expects_file(folder / "workflow.wflw")
     person.sees("status bar", re.compile(re.escape(str(folder))))
-    person.is_back()
+    person.sees("frame", states=["active"])
     person.sees_any_focus()
 
 
@@ -119,6 +148,9 @@ STEPS = [
     Step("keys_open", "an old workflow is opened", open_old),
     Step("keys_upgraded", "the upgraded workflow is saved", save_upgraded),
     Step("keys_edit", "a setting is found and edited", find_and_edit),
+    Step("keys_copy", "a setting is copied", copy_setting),
+    Step("keys_columns", "the columns with a setting are listed", see_other_columns),
+    Step("keys_compare", "the workflow is compared with the old one", compare_with_old),
     Step("keys_samples", "a sample is added", add_samples),
     Step("keys_mend", "a fault is found and mended", check_and_mend),
     Step("keys_undo", "an edit is taken back and made again", undo_and_redo),

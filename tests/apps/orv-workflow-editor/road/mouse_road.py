@@ -6,6 +6,7 @@ from steps import Step
 OLD = "intact_mass_2022.wflw"
 NEW = "intact_mass.wflw"
 SETTINGS = ("tree", "Properties")
+STEPS_OF_UPGRADE = ("tree", "Steps of the upgrade")
 
 
 def open_old(road, person):
@@ -22,6 +23,9 @@ def read_upgrade(road, person):
     person.clicks("push button", "Open")
     person.sees("alert message", "Workflow upgrade", ["active"])
     person.sees("label", re.compile("outdated.*upgraded"))
+    person.sees("label", "What the upgrade from 5.30.0 to 5.47.0 changes; nothing is written before you save:")
+    person.sees("tree item", "5.33.0, changes: 1", within=STEPS_OF_UPGRADE)
+    person.sees("tree item", "changed", within=STEPS_OF_UPGRADE)
 
 
 def save_upgraded(road, person):
@@ -33,6 +37,13 @@ def save_upgraded(road, person):
     person.sees("page tab", "Intact mass")
     person.sees("label", "Saved")
     road.expects_file("Documents/workflows/outdated/" + NEW)
+    person.clicks("menu item", "View")
+    person.clicks("menu item", "Upgrade")
+    person.sees("label", "Upgraded from 5.30.0 to 5.47.0, and saved.")
+    person.sees("tree item", "5.33.0, changes: 1", within=STEPS_OF_UPGRADE)
+    person.clicks("menu item", "View")
+    person.clicks("menu item", "Upgrade")
+    person.sees_no(*STEPS_OF_UPGRADE)
 
 
 def find_setting(road, person):

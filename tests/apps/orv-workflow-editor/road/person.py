@@ -4,7 +4,6 @@ from waiting import NotSeen, until
 # A drag begins after a few pixels, and targets want to see the pointer come.
 DRAG_STEPS = 12
 MOST_TABS = 40
-SOON_S = 3
 
 
 class Person:
@@ -59,20 +58,6 @@ class Person:
             self.presses(key)
             until("another focus", lambda: self.reader.focused(self.program) != before)
         raise NotSeen(f"{key} doesn't lead to the {role} {name!r}")
-
-    def is_back(self):
-        """In the window behind a dialog that was closed. Qt on X11 misses the focus that comes back at times, when it holds
-        the window for blocked by one that isn't shown yet; when the window is put away and fetched, keys reach it again."""
-        def is_active():
-            return self.reader.find_all(self.program, "frame", states=["active"])
-
-        try:
-            until("the window", is_active, SOON_S)
-        except NotSeen:
-            window = self.desktop.ask("xdotool", "getactivewindow").decode().strip()
-            self._hand("windowminimize", "--sync", window)
-            self._hand("windowactivate", window)
-            until("the window", is_active)
 
     def sees_any_focus(self):
         """That keys go somewhere."""

@@ -72,8 +72,9 @@ def take(step, road, person, pictures, options):
 
 
 def leave(person, program):
-    """A program that was used well ends well."""
-    person.clicks("menu item", "File")
+    """A program that was used well ends well, and hears keys to the end."""
+    person.sees("frame", states=["active"])
+    person.presses("alt+f")
     person.clicks("menu item", "Quit")
     ends(person, program)
 
