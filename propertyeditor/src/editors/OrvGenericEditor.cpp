@@ -14,11 +14,25 @@
 #include <QFocusEvent>
 #include <QSignalBlocker>
 
+#include <algorithm>
 #include <limits>
 
 namespace orv {
 
 namespace {
+
+/// A letter that a line refuses vanishes, and what is left may be another value: "9.5 kDa" would become "9.5
+/// Da".
+class TypedValueValidator : public ValueUnitValidator
+{
+public:
+    using ValueUnitValidator::ValueUnitValidator;
+
+    [[nodiscard]] State validate(QString &input, int &position) const override
+    {
+        return std::max(Intermediate, ValueUnitValidator::validate(input, position));
+    }
+};
 
 QByteArray nameOf(const KProperty *property)
 {
@@ -67,10 +81,14 @@ void OrvGenericEditorPrivate::handleItemEvent(KPropertyEditorItemEvent *event)
                           QMessageBox::Ok);
         return;
     }
-    // While the dialog is open, the editor may be closed and the property may go: after it, only the event
-    // stands. Its sender looks for the property.
+    // While the dialog is open, or when a typed text is taken, the editor may be closed and the property may
+    // go: then only the event stands. Its sender looks for the property.
     const QSharedPointer<IGenericEditorObject> kept = object;
     const KProperty property(*event->property());
+    const QPointer<OrvGenericEditorPrivate> self(this);
+    Q_EMIT aboutToEdit();
+    if (!self || !m_owner || m_owner->isHidden())
+        return;
     const QJsonObject before = GenericEditorText::objectOf(m_owner->property("value"));
     QJsonObject edited = before;
     // The same object in other bytes would be a change that nobody made.
@@ -86,9 +104,10 @@ OrvGenericEditor::OrvGenericEditor(PropertySetCreator::Editor editorType, KPrope
     if (editorType != PropertySetCreator::Editor::ValueUnit || !property)
         return;
     constexpr double kMost = std::numeric_limits<double>::max();
-    setValidator(new ValueUnitValidator(property->option("min", -kMost).toDouble(),
-                                        property->option("max", kMost).toDouble(), this));
+    setValidator(new TypedValueValidator(property->option("min", -kMost).toDouble(),
+                                         property->option("max", kMost).toDouble(), this));
     connect(this, &QLineEdit::editingFinished, this, &OrvGenericEditor::commitText);
+    connect(d.get(), &OrvGenericEditorPrivate::aboutToEdit, this, &OrvGenericEditor::settleText);
 }
 
 OrvGenericEditor::~OrvGenericEditor() = default;
@@ -113,27 +132,41 @@ QString OrvGenericEditor::refusal() const
 
 void OrvGenericEditor::focusOutEvent(QFocusEvent *event)
 {
-    const bool isRefused =
-        event->reason() != Qt::PopupFocusReason && !hasAcceptableInput() && text() != d->text();
-    if (isRefused) {
-        if (KPropertyEditorView *view = KPropertyUtils::viewForEditor(this))
-            view->setRemark(this, refusal());
-        setText(d->text());
-    }
+    if (event->reason() != Qt::PopupFocusReason)
+        putBackRefused();
     KPropertyStringEditor::focusOutEvent(event);
+}
+
+void OrvGenericEditor::putBackRefused()
+{
+    if (hasAcceptableInput() || text() == d->text())
+        return;
+    if (KPropertyEditorView *view = KPropertyUtils::viewForEditor(this))
+        view->setRemark(this, refusal());
+    setText(d->text());
+}
+
+void OrvGenericEditor::settleText()
+{
+    putBackRefused();
+    if (hasAcceptableInput())
+        commitText();
 }
 
 void OrvGenericEditor::commitText()
 {
     // The text shows fewer digits than the value may have: what nobody typed in stays.
-    if (!d->object || text() == d->text())
+    if (!d->object || !isModified())
         return;
+    setModified(false);
     // What the validator took and the object can't read would be no value at all.
     const QJsonObject typed = d->object->fromString(text());
     if (typed.isEmpty()) {
         setText(d->text());
         return;
     }
+    if (typed == GenericEditorText::objectOf(d->value))
+        return;
     d->value = GenericEditorText::valueOf(typed);
     Q_EMIT commitData(this);
 }

@@ -32,6 +32,10 @@ public:
     const QSharedPointer<IGenericEditorObject> object; ///< null for an unknown kind
     QVariant value;
 
+Q_SIGNALS:
+    /// The dialog is about to open: what was typed until now counts.
+    void aboutToEdit();
+
 private:
     void handleItemEvent(KPropertyEditorItemEvent *event);
 

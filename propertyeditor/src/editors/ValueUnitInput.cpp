@@ -5,8 +5,23 @@
 #include <QLocale>
 
 #include <array>
+#include <cmath>
 
 namespace orv::ValueUnitInput {
+
+namespace {
+
+std::optional<double> numberIn(const QLocale &locale, const QString &text)
+{
+    // No group begins with zero: "0,435" has decimals.
+    const bool beginsWithZero = text.size() > 1 && text.startsWith(locale.zeroDigit()) &&
+                                text.mid(1).startsWith(locale.groupSeparator());
+    bool ok = false;
+    const double number = locale.toDouble(text, &ok);
+    return ok && !beginsWithZero && std::isfinite(number) ? std::optional(number) : std::nullopt;
+}
+
+} // namespace
 
 QStringList partsOf(const QString &text)
 {
@@ -17,14 +32,18 @@ QStringList partsOf(const QString &text)
     return visible.split(u' ', Qt::SkipEmptyParts);
 }
 
-std::optional<double> numberOf(const QString &text)
+QString inLocale(const QString &number)
 {
     const QLocale locale;
-    if (const auto canonical = NumberText::canonical(text, NumberText::signOf(locale)))
-        return NumberText::value(*canonical);
-    bool ok = false;
-    const double number = locale.toDouble(text, &ok);
-    return ok ? std::optional(number) : std::nullopt;
+    if (numberIn(locale, number))
+        return number;
+    const auto canonical = NumberText::canonical(number, NumberText::signOf(locale));
+    return canonical ? QString(*canonical).replace(u'.', locale.decimalPoint()) : number;
+}
+
+std::optional<double> numberOf(const QString &text)
+{
+    return numberIn(QLocale(), inLocale(text));
 }
 
 } // namespace orv::ValueUnitInput

@@ -23,11 +23,7 @@ QValidator::State ValueUnitValidator::validate(QString &input, int &) const
     const QStringList parts = ValueUnitInput::partsOf(input);
     if (parts.size() > 2)
         return Invalid;
-    // The one decimal sign that stands in the number may be that of another country.
-    QString number = parts.value(0);
-    const QString decimalPoint = m_number.locale().decimalPoint();
-    if (number.count(u'.') + number.count(u',') == 1)
-        number.replace(u'.', decimalPoint).replace(u',', decimalPoint);
+    QString number = ValueUnitInput::inLocale(parts.value(0));
     QString unit = parts.value(1);
     int ignored = 0;
     return std::min(m_number.validate(number, ignored), m_unit.validate(unit, ignored));

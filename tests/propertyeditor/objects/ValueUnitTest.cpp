@@ -43,6 +43,16 @@ private Q_SLOTS:
     void aHalfTypedTextGoesBackAndSaysWhy_data();
     void aHalfTypedTextGoesBackAndSaysWhy();
     void groupsOfDigitsCanBeEdited();
+    void lineAndObjectReadGroupsAlike_data();
+    void lineAndObjectReadGroupsAlike();
+    void noTypedLetterIsSwallowed_data();
+    void noTypedLetterIsSwallowed();
+    void decimalsBehindGroupsCanBeDeleted();
+    void theShownTextTypedAnewIsTaken();
+    void theDialogStartsWithWhatWasTyped_data();
+    void theDialogStartsWithWhatWasTyped();
+    void theDialogStartsWithTheValueWhereTheTextIsRefused();
+    void theColumnMayGoWhenTheTypedTextIsTaken();
     void theValidatorKnowsBothSigns_data();
     void theValidatorKnowsBothSigns();
     void theValidatorKeepsTheLimits();
@@ -185,6 +195,184 @@ void ValueUnitTest::groupsOfDigitsCanBeEdited()
     QTest::keyClicks(QApplication::focusWidget(), text("8"));
     QVERIFY(LeavingWays::leave(row.tree(), LeavingWays::Way::Enter));
     QCOMPARE(row.stored(), QJsonValue(valueWithUnit(8000, "Da")));
+}
+
+void ValueUnitTest::lineAndObjectReadGroupsAlike_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<double>("number");
+    const QLocale american(QLocale::English, QLocale::UnitedStates);
+    const QLocale german(QLocale::German, QLocale::Germany);
+    QTest::newRow("American group") << american << text("9,500 Da") << 9500.0;
+    QTest::newRow("American groups") << american << text("-1,234,567.5 Da") << -1234567.5;
+    QTest::newRow("American comma") << american << text("9,50 Da") << 9.5;
+    QTest::newRow("American point") << american << text("9.5 Da") << 9.5;
+    QTest::newRow("German group") << german << text("9.500 Da") << 9500.0;
+    QTest::newRow("German groups") << german << text("1.234.567,5 Da") << 1234567.5;
+    QTest::newRow("German point") << german << text("9.50 Da") << 9.5;
+    QTest::newRow("German number in America") << american << text("9.500,25 Da") << 9500.25;
+    QTest::newRow("American number in Germany") << german << text("9,500.25 Da") << 9500.25;
+    QTest::newRow("no locale") << QLocale::c() << text("9,500 Da") << 9500.0;
+}
+
+void ValueUnitTest::lineAndObjectReadGroupsAlike()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(QString, typed);
+    QFETCH(double, number);
+    QLocale::setDefault(locale);
+    QCOMPARE(ValueUnitEditorObject().fromString(typed), valueWithUnit(number, "Da"));
+    Row row("PeptideMassMax", valueWithUnit(1, "ppm"));
+    row.property().setOption("min", -1e7);
+    row.property().setOption("max", 1e7);
+    QVERIFY(LeavingWays::open(row.tree(), "PeptideMassMax"));
+    LeavingWays::type(typed);
+    QVERIFY(LeavingWays::leave(row.tree(), LeavingWays::Way::Enter));
+    QCOMPARE(row.stored(), QJsonValue(valueWithUnit(number, "Da")));
+    QCOMPARE(row.tree().remark(row.property()), QString());
+}
+
+void ValueUnitTest::noTypedLetterIsSwallowed_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("typed");
+    const QLocale american(QLocale::English, QLocale::UnitedStates);
+    const QLocale german(QLocale::German, QLocale::Germany);
+    QTest::newRow("three decimals") << american << text("9.501 Da");
+    QTest::newRow("three decimals in Germany") << german << text("9,501 Da");
+    QTest::newRow("no group begins with zero") << american << text("0,435 Da");
+    QTest::newRow("four digits in a group") << american << text("9,5000 Da");
+    QTest::newRow("a blank between groups") << american << text("1 000 Da");
+    QTest::newRow("another unit") << american << text("9.5 kDa");
+    QTest::newRow("a letter in the number") << american << text("1x0 Da");
+    QTest::newRow("below the limit") << american << text("-5 Da");
+}
+
+void ValueUnitTest::noTypedLetterIsSwallowed()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(QString, typed);
+    QLocale::setDefault(locale);
+    Row row(kSetting, valueWithUnit(10.1234, "ppm"));
+    const QByteArray before = row.bytes();
+    auto *line = qobject_cast<QLineEdit *>(LeavingWays::open(row.tree(), kSetting));
+    QVERIFY(line);
+    LeavingWays::type(typed);
+    QCOMPARE(line->text(), typed);
+    QVERIFY(LeavingWays::leave(row.tree(), LeavingWays::Way::Tab));
+    QCOMPARE(row.bytes(), before);
+    const QString remark = row.tree().remark(row.property());
+    QVERIFY2(
+        remark.startsWith(text("\"%1\" was not taken: type a number with at most two decimals").arg(typed)),
+        qPrintable(remark));
+}
+
+void ValueUnitTest::decimalsBehindGroupsCanBeDeleted()
+{
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    Row row("PeptideMassMax", valueWithUnit(9000.25, "Da"));
+    QVERIFY(LeavingWays::open(row.tree(), "PeptideMassMax"));
+    QWidget *line = QApplication::focusWidget();
+    QTest::keyClick(line, Qt::Key_Home);
+    for (int i = 0; i < 8; ++i)
+        QTest::keyClick(line, Qt::Key_Right);
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(line, Qt::Key_Backspace);
+    QVERIFY(LeavingWays::leave(row.tree(), LeavingWays::Way::Enter));
+    QCOMPARE(row.stored(), QJsonValue(valueWithUnit(9000, "Da")));
+}
+
+void ValueUnitTest::theShownTextTypedAnewIsTaken()
+{
+    Row row(kSetting, valueWithUnit(10.1234, "ppm"));
+    QVERIFY(LeavingWays::open(row.tree(), kSetting));
+    LeavingWays::type(text("10.12 ppm"));
+    QVERIFY(LeavingWays::leave(row.tree(), LeavingWays::Way::Enter));
+    QCOMPARE(row.stored(), QJsonValue(valueWithUnit(10.12, "ppm")));
+    QCOMPARE(row.told(), 1);
+    const QByteArray before = row.bytes();
+    QVERIFY(LeavingWays::open(row.tree(), kSetting));
+    LeavingWays::type(text("10.12 ppm"));
+    QVERIFY(LeavingWays::leave(row.tree(), LeavingWays::Way::Tab));
+    QCOMPARE(row.bytes(), before);
+    QCOMPARE(row.told(), 1);
+}
+
+void ValueUnitTest::theDialogStartsWithWhatWasTyped_data()
+{
+    QTest::addColumn<bool>("byKey");
+    QTest::addColumn<double>("chosen");
+    QTest::addColumn<double>("stored");
+    QTest::newRow("button and Cancel") << false << 0.0 << 12.0;
+    QTest::newRow("key and Cancel") << true << 0.0 << 12.0;
+    QTest::newRow("button and a choice") << false << 13.0 << 13.0;
+    QTest::newRow("key and a choice") << true << 13.0 << 13.0;
+    QTest::newRow("button and Ok alone") << false << 12.0 << 12.0;
+}
+
+void ValueUnitTest::theDialogStartsWithWhatWasTyped()
+{
+    QFETCH(bool, byKey);
+    QFETCH(double, chosen);
+    QFETCH(double, stored);
+    Row row(kSetting, valueWithUnit(10.1234, "Da"));
+    row.property().setOption("selectButton", true);
+    QWidget *editor = LeavingWays::open(row.tree(), kSetting);
+    QVERIFY(editor);
+    LeavingWays::type(text("12 ppm"));
+    ScriptedAnswerer answers;
+    double shownValue = 0;
+    QString shownUnit;
+    answers.expectDialog(row.caption(), [&](QDialog &dialog) {
+        auto *value = dialog.findChild<QDoubleSpinBox *>();
+        shownValue = value->value();
+        shownUnit = dialog.findChild<QComboBox *>()->currentText();
+        if (!show(dialog) || chosen == 0)
+            return press(dialog, text("Cancel"));
+        value->setFocus();
+        LeavingWays::type(QString::number(chosen));
+        return pressOk(dialog);
+    });
+    if (byKey)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4);
+    else
+        QTest::mouseClick(editor->findChild<QToolButton *>(), Qt::LeftButton);
+    QVERIFY(answers.isDone());
+    QCOMPARE(shownValue, 12.0);
+    QCOMPARE(shownUnit, text("ppm"));
+    QCOMPARE(row.stored(), QJsonValue(valueWithUnit(stored, "ppm")));
+}
+
+void ValueUnitTest::theDialogStartsWithTheValueWhereTheTextIsRefused()
+{
+    Row row(kSetting, valueWithUnit(10.1234, "ppm"));
+    row.property().setOption("selectButton", true);
+    QWidget *editor = LeavingWays::open(row.tree(), kSetting);
+    QVERIFY(editor);
+    LeavingWays::type(text("12 pp"));
+    const QByteArray before = row.bytes();
+    ScriptedAnswerer answers;
+    expectUntouched(&answers, row.caption());
+    QTest::mouseClick(editor->findChild<QToolButton *>(), Qt::LeftButton);
+    QVERIFY(answers.isDone());
+    QCOMPARE(row.bytes(), before);
+    QVERIFY(row.tree().remark(row.property()).startsWith(text("\"12 pp\" was not taken")));
+}
+
+void ValueUnitTest::theColumnMayGoWhenTheTypedTextIsTaken()
+{
+    Row row(kSetting, valueWithUnit(10.1234, "ppm"));
+    row.property().setOption("selectButton", true);
+    QWidget *editor = LeavingWays::open(row.tree(), kSetting);
+    QVERIFY(editor);
+    LeavingWays::type(text("12 ppm"));
+    connect(row.column.view->propertySet(), &KPropertySet::propertyChanged, row.column.view, [&] {
+        (void)row.column.item.setContent(settingsCell("Karvon", {setting("Samples", text("x"))}));
+    });
+    const ScriptedAnswerer answers;
+    QTest::mouseClick(editor->findChild<QToolButton *>(), Qt::LeftButton);
+    QVERIFY(!row.column.set().contains(kSetting));
 }
 
 void ValueUnitTest::theValidatorKnowsBothSigns_data()

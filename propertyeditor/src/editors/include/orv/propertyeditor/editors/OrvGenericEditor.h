@@ -36,6 +36,9 @@ protected:
 
 private:
     void commitText();
+    /// Takes what was typed, as leaving the line does.
+    void settleText();
+    void putBackRefused();
     [[nodiscard]] QString refusal() const;
 
     const std::unique_ptr<OrvGenericEditorPrivate> d;

@@ -16,7 +16,12 @@ namespace ValueUnitInput {
 /// minus, are left out.
 [[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT QStringList partsOf(const QString &text);
 
-/// A number with either decimal sign, or as the default locale writes it.
+/// The number as the default locale writes it, which may part groups of digits; a number that it doesn't read
+/// but for the decimal sign of another country comes back with its own.
+[[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT QString inLocale(const QString &number);
+
+/// What inLocale() makes of \a text as a number. "9,500" is 9500 where commas part groups, else nothing or a
+/// number with three decimals.
 [[nodiscard]] ORV_PROPERTY_EDITOR_EXPORT std::optional<double> numberOf(const QString &text);
 
 } // namespace ValueUnitInput
