@@ -79,6 +79,10 @@ void ObjectTextsTest::valuesReadAsTexts_data()
         "P1 |  | GG\n");
     row("a protein without cells", Editor::Proteins,
         R"({"data":["ProteinSequence"],"children":[{"data":[]},5]})", " |  | \n |  | \n");
+    row("accessions that are numbers", Editor::Proteins,
+        R"({"data":["ProteinAccessionName","ProteinAliasName","ProteinSequence"],)"
+        R"("children":[{"data":[4711,{"$double":2.5},"GG"]}]})",
+        "4711 | 2.5 | GG\n");
     row("no proteins", Editor::Proteins, R"({"data":["ProteinSequence"],"children":[]})", "");
     row("children that are none", Editor::Proteins, R"({"data":["ProteinSequence"],"children":{"a":1}})", "");
     kindRow("masses", Editor::Masses, "G0F/G0F, 148055.9\nloss, -18.0106, mAb, 1 2");

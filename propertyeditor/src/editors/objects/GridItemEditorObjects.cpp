@@ -105,7 +105,7 @@ QString ProteinsGenericObject::toString(const QJsonObject &value) const
         const QJsonArray cells = row[DATA].toArray();
         QStringList parts;
         for (const qsizetype index : indices)
-            parts.append(index < 0 ? QString() : cells.at(index).toString().simplified());
+            parts.append(index < 0 ? QString() : ValueText::cellText(cells.at(index)));
         text += parts.join(QLatin1String(" | ")) + u'\n';
     }
     return text;

@@ -27,19 +27,19 @@ QString numberText(double number)
     return NumberText::shown(NumberText::fromDouble(number), NumberText::signOf(QLocale()));
 }
 
-QString cellText(const QJsonValue &cell, int depth = 0);
+QString textOfCell(const QJsonValue &cell, int depth);
 
 QString listText(const QJsonArray &list, int depth)
 {
     QStringList texts;
     for (const auto element : list)
-        texts.append(cellText(element, depth + 1));
+        texts.append(textOfCell(element, depth + 1));
     texts.removeAll(QString());
     return texts.join(u' ');
 }
 
 /// Values that JSON has no type for stand as {"$type": value}.
-QString cellText(const QJsonValue &cell, int depth)
+QString textOfCell(const QJsonValue &cell, int depth)
 {
     if (depth > kDeepestCell)
         return QStringLiteral("\u2026");
@@ -54,7 +54,7 @@ QString cellText(const QJsonValue &cell, int depth)
         return listText(cell.toArray(), depth);
     case QJsonValue::Object: {
         const QJsonObject object = cell.toObject();
-        return object.isEmpty() ? QString() : cellText(object.constBegin().value(), depth + 1);
+        return object.isEmpty() ? QString() : textOfCell(object.constBegin().value(), depth + 1);
     }
     default:
         return {};
@@ -67,6 +67,11 @@ bool isUnset(const QJsonObject &value)
 {
     return value.isEmpty() || (value.size() == 1 && value.contains(DATA) &&
                                value.value(DATA).toString(QStringLiteral("x")).isEmpty());
+}
+
+QString cellText(const QJsonValue &cell)
+{
+    return textOfCell(cell, 0);
 }
 
 QString rowsOf(const QJsonObject &value)

@@ -16,6 +16,9 @@ namespace ValueText {
 /// A line for each row of a table, with what its cells hold; empty for what is no table.
 [[nodiscard]] QString rowsOf(const QJsonObject &value);
 
+/// What a cell of a table holds, in one line.
+[[nodiscard]] QString cellText(const QJsonValue &cell);
+
 /// What is shown in place of a value that can't be read; the value is cut where it is long.
 [[nodiscard]] QString errorText(const Error &error, const QJsonObject &value);
 [[nodiscard]] QString errorText(const QString &reason, const QJsonObject &value);
