@@ -73,6 +73,11 @@ private Q_SLOTS:
     void theButtonAsksByMode();
     void cancelKeepsTheReference();
     void fKeyOpensTheChooser();
+    void aTypedTextIsTakenBeforeTheChooserOpens_data();
+    void aTypedTextIsTakenBeforeTheChooserOpens();
+    void aChosenPathThatIsNoReferenceIsTold();
+    void whatIsNoReferenceShowsAsText_data();
+    void whatIsNoReferenceShowsAsText();
     void theChooserBeginsAtTheReference_data();
     void theChooserBeginsAtTheReference();
     void pathsBelowTheFolderAreShort_data();
@@ -292,6 +297,90 @@ void ReferenceEditorsTest::fKeyOpensTheChooser()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4);
     QVERIFY(answers.isDone());
     QCOMPARE(c.stored(), c.path("100% #1?.ini"));
+}
+
+void ReferenceEditorsTest::aTypedTextIsTakenBeforeTheChooserOpens_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("start");
+    QTest::addColumn<QString>("chosen");
+    QTest::addColumn<QString>("stored");
+    const QString odd = text("100% #1?.ini");
+    const QString missing = text("missing.ini");
+    const QString before = text("layout.ini");
+    QTest::newRow("Cancel") << odd << odd << QString() << odd;
+    QTest::newRow("a choice") << odd << odd << text("/data/a.ini") << text("/data/a.ini");
+    QTest::newRow("refused, Cancel") << missing << before << QString() << before;
+    QTest::newRow("refused, a choice") << missing << before << text("/data/a.ini") << text("/data/a.ini");
+}
+
+void ReferenceEditorsTest::aTypedTextIsTakenBeforeTheChooserOpens()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, start);
+    QFETCH(QString, chosen);
+    QFETCH(QString, stored);
+    for (const bool byKey : {false, true}) {
+        ReferenceColumn c;
+        ResourceReferenceEditorBase *editor = c.open();
+        QVERIFY(editor);
+        LeavingWays::type(typed);
+        ScriptedAnswerer answers;
+        answers.expectPath(text("Select Existing File"), chosen);
+        if (byKey)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4);
+        else
+            QTest::mouseClick(editor->findChild<QPushButton *>(), Qt::LeftButton);
+        QVERIFY(answers.isDone());
+        QCOMPARE(answers.transcript().constFirst().startPath, c.path(qPrintable(start)));
+        QCOMPARE(c.stored(), stored);
+        QVERIFY(LeavingWays::leave(c.tree(), LeavingWays::Way::ClickOnAnotherRow));
+        QCOMPARE(c.stored(), stored);
+    }
+}
+
+void ReferenceEditorsTest::aChosenPathThatIsNoReferenceIsTold()
+{
+    ReferenceColumn c;
+    const QString chosen = text("/data/a") + QChar::Null + text(".ini");
+    ScriptedAnswerer answers;
+    answers.expectPath(text("Select Existing File"), chosen);
+    for (int i = 0; i < 3; ++i)
+        QTest::ignoreMessage(QtWarningMsg, "Broken filename passed to function");
+    c.press();
+    QVERIFY(answers.isDone());
+    QCOMPARE(c.stored(), text("layout.ini"));
+    QVERIFY2(c.remark().startsWith(u'"' + chosen + text("\" was not taken: ")), qPrintable(c.remark()));
+}
+
+void ReferenceEditorsTest::whatIsNoReferenceShowsAsText_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("a text") << QVariant(text("a.ini")) << text("a.ini");
+    QTest::newRow("bytes") << QVariant(QByteArray("a.ini")) << text("a.ini");
+    QTest::newRow("a number") << QVariant(7) << text("7");
+    QTest::newRow("several texts") << QVariant(QStringList{text("a"), text("b")}) << text(R"(["a","b"])");
+    QTest::newRow("one text") << QVariant(QStringList{text("a")}) << text(R"(["a"])");
+    QTest::newRow("several values") << QVariant(QVariantList{1, text("b")}) << text(R"([1,"b"])");
+    QTest::newRow("a map") << QVariant(QVariantMap{{text("a"), 1}}) << text(R"({"a":1})");
+    QTest::newRow("an object") << QVariant(QJsonObject{{text("a"), QJsonArray{1}}}) << text(R"({"a":[1]})");
+    QTest::newRow("an array") << QVariant(QJsonArray{1, text("b")}) << text(R"([1,"b"])");
+    QTest::newRow("nothing") << QVariant() << QString();
+}
+
+void ReferenceEditorsTest::whatIsNoReferenceShowsAsText()
+{
+    QFETCH(QVariant, value);
+    QFETCH(QString, shown);
+    QCOMPARE(ResourceReferenceDelegateBase::displayText(value, {}), shown);
+    ReferenceColumn c;
+    if (value.isValid())
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("^Property \"KarvonLayout\" holds")));
+    c.property(kLayout).setValue(value);
+    QVERIFY(c.open());
+    QVERIFY(LeavingWays::leave(c.tree(), LeavingWays::Way::Tab));
+    QCOMPARE(c.property(kLayout).value(), value);
 }
 
 void ReferenceEditorsTest::theChooserBeginsAtTheReference_data()

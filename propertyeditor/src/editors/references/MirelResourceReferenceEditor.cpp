@@ -32,6 +32,8 @@ MirelResourceReferenceEditor::~MirelResourceReferenceEditor() = default;
 
 void MirelResourceReferenceEditor::selectButtonClicked()
 {
+    if (!settleText())
+        return;
     using Prompt = ORVFileDialog::OverwritePrompt;
     const QPointer<MirelResourceReferenceEditor> self(this);
     const FileSystemSettings::DirectoryLocation &location = FileSystemSettings::DefaultLocation;
@@ -49,7 +51,7 @@ void MirelResourceReferenceEditor::selectButtonClicked()
         return;
     const Result<ResourceReferenceSPtr> reference = ResourceReference::fromString(path);
     if (reference.hasError())
-        refuse(reference.error().errorMessage());
+        refuse(path, reference.error().errorMessage());
     else
         take(*reference);
 }

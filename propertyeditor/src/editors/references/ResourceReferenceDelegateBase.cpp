@@ -31,7 +31,9 @@ QString referenceText(const ResourceReferenceSPtr &reference, const QUrl &baseUr
 /// Of a value that doesn't belong into a reference.
 QString foreignText(const QVariant &value)
 {
-    if (!value.isValid() || value.canConvert<QString>())
+    // A list of texts converts to a text, but one of several to an empty one.
+    const bool isList = value.metaType() == QMetaType::fromType<QStringList>();
+    if (!value.isValid() || (!isList && value.canConvert<QString>()))
         return value.toString();
     const QJsonValue json = QJsonValue::fromVariant(value);
     const QJsonDocument document =

@@ -167,6 +167,14 @@ void ResourceReferenceEditorBase::takeText()
     Q_EMIT commitData(this);
 }
 
+bool ResourceReferenceEditorBase::settleText()
+{
+    const QPointer<ResourceReferenceEditorBase> self(this);
+    if (!d->isTaking)
+        takeText();
+    return self && !isHidden();
+}
+
 void ResourceReferenceEditorBase::take(const ResourceReferenceSPtr &reference)
 {
     if (!reference)
@@ -177,10 +185,15 @@ void ResourceReferenceEditorBase::take(const ResourceReferenceSPtr &reference)
 
 void ResourceReferenceEditorBase::refuse(const QString &reason)
 {
+    refuse(d->lineEdit->text(), reason);
+}
+
+void ResourceReferenceEditorBase::refuse(const QString &text, const QString &reason)
+{
     if (KPropertyEditorView *view = KPropertyUtils::viewForEditor(this))
-        view->setRemark(this,
-                        tr("\"%1\" was not taken: %2")
-                            .arg(ResourceReferenceUtils::withoutCredentials(d->lineEdit->text()), reason));
+        view->setRemark(
+            this,
+            tr("\"%1\" was not taken: %2").arg(ResourceReferenceUtils::withoutCredentials(text), reason));
 }
 
 bool ResourceReferenceEditorBase::isThere(const Question &question, const QString &reason)

@@ -28,6 +28,8 @@ TalvaneResourceReferenceEditor::~TalvaneResourceReferenceEditor() = default;
 
 void TalvaneResourceReferenceEditor::selectButtonClicked()
 {
+    if (!settleText())
+        return;
     FileChooserDialogOptions options;
     options.filter.types = filter();
     options.start = ResourceReferenceUtils::resolved(value(), baseUrl());

@@ -57,10 +57,14 @@ protected:
     /// refuse() has told why.
     [[nodiscard]] virtual bool verifyEnteredText(const QString &text) = 0;
 
+    /// Takes what was typed, as leaving the line does: a chooser begins there. False where the editor is gone
+    /// after that.
+    [[nodiscard]] bool settleText();
     /// Stores what a person chose, shows and tells it; null changes nothing.
     void take(const ResourceReferenceSPtr &reference);
     /// What verifyEnteredText says of the text, for its row: a sentence about "it".
     void refuse(const QString &reason);
+    void refuse(const QString &text, const QString &reason);
 
     using Question = std::function<bool()>;
     /// The answer to \a question, which is asked on another thread. Where it doesn't come soon, true, so that
