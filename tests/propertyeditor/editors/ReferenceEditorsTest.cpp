@@ -71,6 +71,8 @@ private Q_SLOTS:
     void escapeKeepsTheReference();
     void theButtonAsksByMode_data();
     void theButtonAsksByMode();
+    void whoWantsToBeAskedConfirmsOverwriting_data();
+    void whoWantsToBeAskedConfirmsOverwriting();
     void cancelKeepsTheReference();
     void fKeyOpensTheChooser();
     void aTypedTextIsTakenBeforeTheChooserOpens_data();
@@ -250,7 +252,7 @@ void ReferenceEditorsTest::theButtonAsksByMode_data()
     const auto row = [](const char *mode, const char *title, DialogRequest::Kind kind, const char *filters) {
         QTest::newRow(mode) << QByteArray(mode) << text(title) << int(kind) << text(filters);
     };
-    const char kFasta[] = "FASTA (*.fasta *.fas *.fa)";
+    const char kFasta[] = "Sequence database (*.fasta *.fas *.fa *.faa *.seq)";
     row("existingFile", "Select Existing File", DialogRequest::Kind::OpenFile, kFasta);
     row("dirsOnly", "Select Existing Directory", DialogRequest::Kind::ChooseFolder, "");
     row("anything", "Select File", DialogRequest::Kind::SaveFile, kFasta);
@@ -270,9 +272,38 @@ void ReferenceEditorsTest::theButtonAsksByMode()
     c.press();
     QVERIFY(answers.isDone());
     QCOMPARE(int(answers.transcript().constFirst().kind), kind);
-    QCOMPARE(answers.transcript().constFirst().text.isEmpty(), filters.isEmpty());
+    QCOMPARE(answers.transcript().constFirst().text, filters);
     QCOMPARE(c.stored(), chosen);
     QCOMPARE(c.open()->lineEdit()->text(), text("chosen.fasta"));
+}
+
+void ReferenceEditorsTest::whoWantsToBeAskedConfirmsOverwriting_data()
+{
+    QTest::addColumn<QVariant>("confirm");
+    QTest::addColumn<QString>("pressed");
+    QTest::addColumn<bool>("isTaken");
+    QTest::newRow("by default nobody is asked") << QVariant() << QString() << true;
+    QTest::newRow("not asked") << QVariant(false) << QString() << true;
+    QTest::newRow("asked and agreed") << QVariant(true) << text("Yes") << true;
+    QTest::newRow("asked and declined") << QVariant(true) << text("No") << false;
+}
+
+void ReferenceEditorsTest::whoWantsToBeAskedConfirmsOverwriting()
+{
+    QFETCH(QVariant, confirm);
+    QFETCH(QString, pressed);
+    QFETCH(bool, isTaken);
+    ReferenceColumn c("newFile");
+    TestFiles::makeFile(c.path("old.fasta"), ">P1");
+    c.property(kLayout).setOption("ext", text("FASTA"));
+    c.property(kLayout).setOption("confirmOverwrites", confirm);
+    ScriptedAnswerer answers;
+    answers.expectPath(text("Select File"), c.path("old"));
+    if (!pressed.isEmpty())
+        answers.expectBox(text("Select File"), pressed);
+    c.press();
+    QVERIFY(answers.isDone());
+    QCOMPARE(c.stored(), isTaken ? c.path("old.fasta") : text("layout.ini"));
 }
 
 void ReferenceEditorsTest::cancelKeepsTheReference()

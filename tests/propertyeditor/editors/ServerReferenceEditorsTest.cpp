@@ -79,7 +79,10 @@ private Q_SLOTS:
     void theMainWindowChoosesTheForm();
     void knownFilesAreTaken_data();
     void knownFilesAreTaken();
+    void unknownFilesGoBack_data() { LeavingWays::addRows(); }
     void unknownFilesGoBack();
+    void aClearedLineIsTakenWithoutAQuestion();
+    void theDelegateIsChosenOnce();
     void theServersOwnWordsAreTheReason();
     void filesOfThisComputerAreFound();
     void theChooserGivesAReference();
@@ -146,12 +149,31 @@ void ServerReferenceEditorsTest::knownFilesAreTaken()
 
 void ServerReferenceEditorsTest::unknownFilesGoBack()
 {
+    QFETCH(LeavingWays::Way, way);
     ServerColumn c;
-    QVERIFY(c.type(text("talvane:/lab/unknown.ini")));
+    QVERIFY(c.type(text("talvane:/lab/unknown.ini"), way));
     QCOMPARE(c.stored(), text("talvane:/lab/before.ini"));
     QCOMPARE(c.remark(),
              text("\"talvane:/lab/unknown.ini\" was not taken: there is no such file. Choose one with "
                   "the \"…\" button."));
+}
+
+void ServerReferenceEditorsTest::aClearedLineIsTakenWithoutAQuestion()
+{
+    ServerColumn c;
+    OneFileHandler::onAsk = [] { qFatal("Nothing is to be asked"); };
+    QVERIFY(c.type(QString(), LeavingWays::Way::Tab));
+    QCOMPARE(valueIn(c.item.content(), kSetting), QJsonValue(QString()));
+    QCOMPARE(c.remark(), QString());
+}
+
+void ServerReferenceEditorsTest::theDelegateIsChosenOnce()
+{
+    // This process began with the local form, and a test put the form of the server in its place.
+    const CoreMainWindow desktop;
+    ORVPropertyFactory::init();
+    ServerColumn c;
+    QVERIFY(c.open());
 }
 
 void ServerReferenceEditorsTest::theServersOwnWordsAreTheReason()

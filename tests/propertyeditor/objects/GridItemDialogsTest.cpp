@@ -67,6 +67,16 @@ public:
     int heard = 0;
 };
 
+QStringList textsOf(const QAbstractItemModel &model)
+{
+    QStringList texts;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        for (int column = 0; column < model.columnCount(); ++column)
+            texts.append(model.index(row, column).data().toString());
+    }
+    return texts;
+}
+
 QList<QJsonObject> cellsOf(const QJsonObject &document)
 {
     QList<QJsonObject> cells;
@@ -116,6 +126,8 @@ private Q_SLOTS:
     void aTableThatItsColumnRefusesIsTold();
     void massesHaveNoTolerance();
     void theBusIsNotHeard();
+    void noTableHearsTheBus_data();
+    void noTableHearsTheBus();
     void theWindowMayTakeTheDialogAlong();
 };
 
@@ -479,6 +491,40 @@ void GridItemDialogsTest::theBusIsNotHeard()
     QVERIFY(row.pressButton());
     QCOMPARE(after, before);
     QCOMPARE(row.shown(), text("LC, 22, HC, 96"));
+    QCOMPARE(listener.heard, 0);
+}
+
+void GridItemDialogsTest::noTableHearsTheBus_data()
+{
+    QTest::addColumn<int>("editor");
+    for (Editor editor : {Editor::Proteins, Editor::Masses, Editor::DetachedGlycans})
+        QTest::newRow(kindOf(editor).property) << int(editor);
+}
+
+void GridItemDialogsTest::noTableHearsTheBus()
+{
+    QFETCH(int, editor);
+    Listener listener(GridItemManager::instance()->communicationManager());
+    Row row(kindOf(Editor(editor)));
+    ScriptedAnswerer answers;
+    QStringList before;
+    QStringList after;
+    answers.expectDialog(row.caption(), [&](QDialog &dialog) {
+        if (!show(dialog) || !tableOf(dialog))
+            return false;
+        before = textsOf(*tableOf(dialog)->model());
+        const QJsonObject proteins = object(
+            R"({"data":["ProteinAccessionName","ProteinSequence"],"children":[{"data":["X9","GG"]}]})");
+        for (const PropertyId id : {PropertyId::Proteins, PropertyId::Disulfide, PropertyId::Samples})
+            Q_EMIT listener.sendMessage({&listener, id, proteins, {}});
+        after = textsOf(*tableOf(dialog)->model());
+        return typeInFirstRow(dialog, text("Z9")) && pressOk(dialog);
+    });
+    QVERIFY(row.pressButton());
+    QVERIFY(answers.isDone());
+    QVERIFY(!before.isEmpty());
+    QCOMPARE(after, before);
+    QCOMPARE(row.told(), 1);
     QCOMPARE(listener.heard, 0);
 }
 

@@ -105,6 +105,10 @@ void ObjectTextsTest::valuesReadAsTexts_data()
     row("no table of glycans", Editor::DetachedGlycans, R"({"children":5})",
         R"(Error The value is no table. - {"children":5})");
     kindRow("glycan options", Editor::GlycanOptions, "Hex;2-AB (100%);None;None");
+    row("no glycan options", Editor::GlycanOptions, "{}", "None;None;None;None");
+    row("unset glycan options", Editor::GlycanOptions, R"({"data":""})", "None;None;None;None");
+    row("glycan options without rows", Editor::GlycanOptions,
+        R"({"data":["Kind","Name","Formula","Complete"],"children":[]})", "None;None;None;None");
     row("several in a group", Editor::GlycanOptions,
         R"({"data":["Kind","Name","Formula","Complete"],"children":[{"data":["Adduct","Na","Na",true]},)"
         R"({"data":["Moiety","Hex","C6H10O5",false]},{"data":["Moiety","Fuc","C6H10O4",true]},)"

@@ -78,6 +78,7 @@ private Q_SLOTS:
     void dialogsShowTheTextAndTakeTheEdited_data();
     void dialogsShowTheTextAndTakeTheEdited();
     void peaksAreTaken();
+    void cancelLeavesThePeaks();
     void cancelLeavesTheValue_data();
     void cancelLeavesTheValue();
     void untouchedTextsComeBack_data();
@@ -149,6 +150,24 @@ void SearchTextsTest::peaksAreTaken()
     QCOMPARE(row.told(), 1);
 }
 
+void SearchTextsTest::cancelLeavesThePeaks()
+{
+    Row row(kindOf(Editor::PeakFilter));
+    const QByteArray before = row.bytes();
+    ScriptedAnswerer answers;
+    answers.expectDialog(text("Diagnostic Peaks"), [](QDialog &dialog) {
+        auto *add = dialog.findChild<QAbstractButton *>(text("addOxoniumIons"));
+        if (!show(dialog) || !add)
+            return true;
+        QTest::mouseClick(add, Qt::LeftButton);
+        return press(dialog, text("Cancel"));
+    });
+    QVERIFY(row.pressButton());
+    QVERIFY(answers.isDone());
+    QCOMPARE(row.bytes(), before);
+    QCOMPARE(row.told(), 0);
+}
+
 void SearchTextsTest::cancelLeavesTheValue_data()
 {
     QTest::addColumn<int>("editor");
@@ -158,6 +177,8 @@ void SearchTextsTest::cancelLeavesTheValue_data()
     QTest::newRow("glycans") << int(Editor::Glycans) << text("Glycans") << text("text");
     QTest::newRow("trace script") << int(Editor::TracePlot) << text("Label Script of Traces")
                                   << text("script");
+    QTest::newRow("mass script") << int(Editor::DeconvolvedMassPlot)
+                                 << text("Label Script of Deconvolved Masses") << text("script");
 }
 
 void SearchTextsTest::cancelLeavesTheValue()

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void peptidesAreEdited();
     void cancelLeavesThePeptides();
     void proteinsAndBondsComeFromOptions();
+    void bondsShowAtTheirPeptides();
     void otherOptionsAreNoProteins_data();
     void otherOptionsAreNoProteins();
     void aRowOfBadDataIsTold();
@@ -152,6 +153,26 @@ void TablesOfPeptidesTest::proteinsAndBondsComeFromOptions()
     QVERIFY(answers.isDone());
     QCOMPARE(proteins, QStringList(text("P1")));
     QVERIFY2(row.shown().contains(text("AACK\tP1")), qPrintable(row.shown()));
+}
+
+void TablesOfPeptidesTest::bondsShowAtTheirPeptides()
+{
+    Row row("TheoreticalPeptides", QJsonObject());
+    row.property().setOption("Proteins", object(R"({"data":["ProteinAccessionName","ProteinSequence"],)"
+                                                R"("children":[{"data":["P1","AACKAACK"]}]})"));
+    row.property().setOption("Disulfide",
+                             object(R"({"data":["FirstChain","FirstPosition","SecondChain",)"
+                                    R"("SecondPosition"],"children":[{"data":["P1",3,"P1",7]}]})"));
+    ScriptedAnswerer answers;
+    answers.expectDialog(row.caption(), [](QDialog &dialog) {
+        if (!show(dialog))
+            return false;
+        QTest::mouseClick(dialog.findChild<QPushButton *>(text("allProteins")), Qt::LeftButton);
+        return pressOk(dialog);
+    });
+    QVERIFY(row.pressButton());
+    QVERIFY(answers.isDone());
+    QVERIFY2(row.shown().contains(text("C3-C7")), qPrintable(row.shown()));
 }
 
 void TablesOfPeptidesTest::otherOptionsAreNoProteins_data()
