@@ -86,6 +86,7 @@ private Q_SLOTS:
     void theServersOwnWordsAreTheReason();
     void filesOfThisComputerAreFound();
     void theChooserGivesAReference();
+    void theChooserBeginsWithWhatWasTyped();
     void theChooserMayGiveNothing();
     void theColumnMayGoWhileTheServerIsAsked();
 };
@@ -218,6 +219,22 @@ void ServerReferenceEditorsTest::theChooserGivesAReference()
     QVERIFY(asked.start);
     QCOMPARE(asked.start->text(), text("talvane:/lab/before.ini"));
     QCOMPARE(page, 0);
+}
+
+void ServerReferenceEditorsTest::theChooserBeginsWithWhatWasTyped()
+{
+    ServerColumn c;
+    QString start;
+    FileChooserDialogManager::setChooser(
+        [&](const FileChooserDialogOptions &options, QWidget *, int, const auto &) {
+            start = options.start ? options.start->text() : QString();
+            return ResourceReferenceSPtr();
+        });
+    QVERIFY(c.open());
+    LeavingWays::type(text("talvane:/lab/known.ini"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4);
+    QCOMPARE(start, text("talvane:/lab/known.ini"));
+    QCOMPARE(c.stored(), text("talvane:/lab/known.ini"));
 }
 
 void ServerReferenceEditorsTest::theChooserMayGiveNothing()

@@ -82,6 +82,8 @@ private Q_SLOTS:
     void cancelOfTheDialogLeavesTheBytes();
     void escapeInTheLineLeavesTheBytes_data();
     void escapeInTheLineLeavesTheBytes();
+    void theSettingMayGoWhenTheTypedTextIsTaken_data();
+    void theSettingMayGoWhenTheTypedTextIsTaken();
     void cellsArePaintedWithTheirText_data();
     void cellsArePaintedWithTheirText();
     void whatIsNoObjectReadsAsAnEmptyOne_data();
@@ -220,6 +222,43 @@ void EditorFrameTest::escapeInTheLineLeavesTheBytes()
     QCOMPARE(row.bytes(), before);
     QCOMPARE(row.told(), 0);
     QCOMPARE(row.tree().remark(row.property()), QString());
+}
+
+void EditorFrameTest::theSettingMayGoWhenTheTypedTextIsTaken_data()
+{
+    QTest::addColumn<bool>("byKey");
+    QTest::addColumn<bool>("withColumn");
+    QTest::newRow("key, the setting") << true << false;
+    QTest::newRow("key, the column") << true << true;
+    QTest::newRow("button, the setting") << false << false;
+    QTest::newRow("button, the column") << false << true;
+}
+
+void EditorFrameTest::theSettingMayGoWhenTheTypedTextIsTaken()
+{
+    QFETCH(bool, byKey);
+    QFETCH(bool, withColumn);
+    auto row = std::make_unique<ToleranceRow>();
+    QWidget *editor = LeavingWays::open(row->tree(), row->name);
+    QVERIFY(editor);
+    LeavingWays::type(text("12 ppm"));
+    int heard = 0;
+    connect(row->column.view->propertySet(), &KPropertySet::propertyChanged, this, [&] {
+        ++heard;
+        if (withColumn)
+            row.reset();
+        else
+            (void)row->column.item.setContent(settingsCell("Karvon", {setting("Samples", text("x"))}));
+    });
+    const ScriptedAnswerer answers;
+    if (byKey)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4);
+    else
+        QTest::mouseClick(editor->findChild<QToolButton *>(), Qt::LeftButton);
+    QCOMPARE(heard, 1);
+    QVERIFY(answers.isDone());
+    QVERIFY(answers.transcript().isEmpty());
+    QVERIFY(!row || !row->column.set().contains(kTolerance));
 }
 
 void EditorFrameTest::cellsArePaintedWithTheirText_data()

@@ -52,7 +52,6 @@ private Q_SLOTS:
     void theDialogStartsWithWhatWasTyped_data();
     void theDialogStartsWithWhatWasTyped();
     void theDialogStartsWithTheValueWhereTheTextIsRefused();
-    void theColumnMayGoWhenTheTypedTextIsTaken();
     void theValidatorKnowsBothSigns_data();
     void theValidatorKnowsBothSigns();
     void theValidatorKeepsTheLimits();
@@ -358,21 +357,6 @@ void ValueUnitTest::theDialogStartsWithTheValueWhereTheTextIsRefused()
     QVERIFY(answers.isDone());
     QCOMPARE(row.bytes(), before);
     QVERIFY(row.tree().remark(row.property()).startsWith(text("\"12 pp\" was not taken")));
-}
-
-void ValueUnitTest::theColumnMayGoWhenTheTypedTextIsTaken()
-{
-    Row row(kSetting, valueWithUnit(10.1234, "ppm"));
-    row.property().setOption("selectButton", true);
-    QWidget *editor = LeavingWays::open(row.tree(), kSetting);
-    QVERIFY(editor);
-    LeavingWays::type(text("12 ppm"));
-    connect(row.column.view->propertySet(), &KPropertySet::propertyChanged, row.column.view, [&] {
-        (void)row.column.item.setContent(settingsCell("Karvon", {setting("Samples", text("x"))}));
-    });
-    const ScriptedAnswerer answers;
-    QTest::mouseClick(editor->findChild<QToolButton *>(), Qt::LeftButton);
-    QVERIFY(!row.column.set().contains(kSetting));
 }
 
 void ValueUnitTest::theValidatorKnowsBothSigns_data()
