@@ -4,6 +4,7 @@
 
 #include <QLocale>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -14,11 +15,13 @@ namespace {
 std::optional<double> numberIn(const QLocale &locale, const QString &text)
 {
     // No group begins with zero: "0,435" has decimals.
-    const bool beginsWithZero = text.size() > 1 && text.startsWith(locale.zeroDigit()) &&
-                                text.mid(1).startsWith(locale.groupSeparator());
+    const auto first = std::find_if(text.cbegin(), text.cend(), [](QChar sign) { return sign.isDigit(); });
+    const bool isUngrouped = first != text.cend() && *first == locale.zeroDigit();
+    if (isUngrouped && text.contains(locale.groupSeparator()))
+        return std::nullopt;
     bool ok = false;
     const double number = locale.toDouble(text, &ok);
-    return ok && !beginsWithZero && std::isfinite(number) ? std::optional(number) : std::nullopt;
+    return ok && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
 } // namespace

@@ -83,6 +83,11 @@ void ValueUnitTest::textsAreNumberAndUnit_data()
     QTest::newRow("no number") << text("ten Da") << QJsonObject();
     QTest::newRow("number alone") << text("10") << QJsonObject();
     QTest::newRow("nothing") << QString() << QJsonObject();
+    QTest::newRow("no group begins with zero") << text("0,435 Da") << valueWithUnit(0.435, "Da");
+    QTest::newRow("nor behind a sign") << text("-0,435 Da") << valueWithUnit(-0.435, "Da");
+    QTest::newRow("endless") << text("inf Da") << QJsonObject();
+    QTest::newRow("no number at all") << text("nan Da") << QJsonObject();
+    QTest::newRow("too large") << text("1e400 Da") << QJsonObject();
 }
 
 void ValueUnitTest::textsAreNumberAndUnit()
