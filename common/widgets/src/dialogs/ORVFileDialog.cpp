@@ -58,7 +58,15 @@ void prepare(QFileDialog &dialog, const FileQuestion &question)
         dialog.setNameFilters(question.filter.nameFilters() << QFileDialog::tr("All Files (*)"));
 }
 
-QStringList pathsFromPerson(QWidget *parent, const FileQuestion &question,
+/// A dialog that goes together with the question whether to replace a file is gone before window managers
+/// have given it the focus, and some give it to nobody then.
+void goBackTo(const QPointer<QWidget> &parent)
+{
+    if (parent && parent->window()->isVisible())
+        parent->activateWindow();
+}
+
+QStringList pathsFromPerson(const QPointer<QWidget> &parent, const FileQuestion &question,
                             const std::function<void(QFileDialog &)> &setUp)
 {
     // The parent may go while the dialog waits, and takes it along.
@@ -68,6 +76,7 @@ QStringList pathsFromPerson(QWidget *parent, const FileQuestion &question,
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
     QStringList paths = dialog && isAccepted ? dialog->selectedFiles() : QStringList();
     delete dialog;
+    goBackTo(parent);
     return paths;
 }
 
