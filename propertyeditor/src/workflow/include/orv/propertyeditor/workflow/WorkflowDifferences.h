@@ -32,8 +32,8 @@ struct ORV_WORKFLOW_EXPORT WorkflowDifference
     QJsonValue right;             ///< undefined for what was removed
     QString below;                ///< the path below the innermost of tab, column, row and property
     static constexpr qsizetype kAlone = -1;
-    /// Differences of one number here make sense only together, such as the rows that a table has beyond those
-    /// of the other; kAlone for what makes sense alone.
+    /// Differences of one number here make sense only together, such as the rows that a table has beyond
+    /// those of the other; kAlone for what makes sense alone.
     qsizetype together = kAlone;
 };
 
@@ -48,10 +48,11 @@ namespace WorkflowDifferences {
 [[nodiscard]] ORV_WORKFLOW_EXPORT QList<WorkflowDifference> between(const QJsonObject &left,
                                                                     const QJsonObject &right, bool strict);
 
-/// \a left with some of these differences as they are in \a right. \a chosen are their numbers in the list that
-/// between() gives, and stand for all that belong together with them. With none chosen it is \a left, with all
-/// of them between() finds no difference to \a right, and with some it finds the others. Stamps are those of
-/// \a left unless they are compared; what is added comes without. Takes linear time. Safe on any thread.
+/// \a left with some of these differences as they are in \a right. \a chosen are their numbers in the list
+/// that between() gives, and stand for all that belong together with them. With none chosen it is \a left,
+/// with all of them between() finds no difference to \a right, and with some it finds the others. Stamps are
+/// those of \a left unless they are compared; what is added comes without. Takes linear time. Safe on any
+/// thread.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QJsonObject takenOver(const QJsonObject &left, const QJsonObject &right,
                                                         const QSet<qsizetype> &chosen, bool strict);
 
