@@ -149,7 +149,7 @@ void add(const std::string &name, const std::function<void()> &work, const std::
             }
             work();
         }
-    });
+    })->Unit(benchmark::kMicrosecond);
 }
 
 void addTab()

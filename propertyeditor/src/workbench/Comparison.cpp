@@ -13,7 +13,6 @@
 #include <orv/propertyeditor/grid/GridPropertyEditorView.h>
 #include <orv/propertyeditor/grid/IGridItem.h>
 #include <orv/propertyeditor/grid/PropertyGridWidget.h>
-#include <orv/propertyeditor/validators/WorkflowFile.h>
 #include <orv/propertyeditor/window/PropertyEditorDirLocations.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
@@ -28,7 +27,6 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QPointer>
-#include <QUrl>
 
 #include <functional>
 #include <utility>
@@ -91,14 +89,14 @@ private:
     void goTo(const QModelIndex &index);
     void leave();
     void tell();
-    [[nodiscard]] QUrl folderUrl() const;
-    [[nodiscard]] QString note() const;
+    /// Of this document; empty for one without a file.
+    [[nodiscard]] QString ownFile() const;
     [[nodiscard]] QString stepText() const;
 
     Comparison *const q;
     const QPointer<PropertyEditorWindow> m_window;
     DocumentHistory *const m_history;
-    QUrl m_folder; ///< of this document when the second one was read
+    QString m_ownFile; ///< when the second document was read
     FindSettings *const m_find;
     ComparisonPanel *m_panel;
     QPointer<QDockWidget> m_dock;
@@ -145,7 +143,12 @@ void Comparison::Private::connectPanel()
 void Comparison::Private::connectWindow()
 {
     connect(m_history, &DocumentHistory::stateChanged, q, [this] { follow(); });
-    connect(m_window, &PropertyEditorWindow::documentSaved, q, [this] { follow(); });
+    connect(m_window, &PropertyEditorWindow::documentSaved, q, [this] {
+        if (m_second && m_second->isOwnFile)
+            compareWith(path);
+        else
+            follow();
+    });
     connect(m_window, &PropertyEditorWindow::documentShown, q, [this] {
         // What was checked was meant for another document.
         m_panel->model()->uncheckAll();
@@ -175,13 +178,13 @@ void Comparison::Private::compareWith(const QString &file)
     isComparing = false;
     isTaking = false;
     m_isWantedAgain = false;
-    m_folder = folderUrl();
+    m_ownFile = ownFile();
     m_panel->setRefusal({});
     m_panel->showReading(QFileInfo(file).fileName());
     m_dock->show();
     m_dock->raise();
     inBackground<SecondDocument>(
-        q, [file, folder = m_folder] { return SecondDocument::read(file, folder); },
+        q, [file, own = m_ownFile] { return SecondDocument::read(file, own); },
         [this, number](const SecondDocument &second) {
             if (number == m_number)
                 receive(second);
@@ -204,10 +207,10 @@ void Comparison::Private::receive(const SecondDocument &second)
     compare();
 }
 
-/// Paths of the second document are told from the folder of this one.
+/// Paths of the second document, and what is told of it, depend on the file of this one.
 void Comparison::Private::follow()
 {
-    if (m_second && folderUrl() != m_folder)
+    if (m_second && ownFile() != m_ownFile)
         compareWith(path);
     else
         compare();
@@ -239,7 +242,7 @@ void Comparison::Private::show(const ComparisonTree &tree)
 {
     isComparing = false;
     const auto settings = std::make_shared<const QSet<SettingPlace>>(tree.settings);
-    m_panel->showTree(tree, m_second->name, note());
+    m_panel->showTree(tree, m_second->name, m_second->note);
     m_panel->setRefusal(m_window && m_window->isReadOnly()
                             ? tr("This window is read only: nothing can be taken over.")
                             : m_second->refusal);
@@ -252,22 +255,9 @@ void Comparison::Private::show(const ComparisonTree &tree)
         tell();
 }
 
-/// Of this document; empty for one without a file.
-QUrl Comparison::Private::folderUrl() const
+QString Comparison::Private::ownFile() const
 {
-    const QString own = m_window ? m_window->workflowFilePath() : QString();
-    return own.isEmpty() ? QUrl() : QUrl::fromLocalFile(QFileInfo(own).absolutePath() + u'/');
-}
-
-QString Comparison::Private::note() const
-{
-    QStringList notes{m_second->note};
-    const QFileInfo other(PropertyEditor::WorkflowFile::fileAt(m_second->path));
-    const QString own = m_window ? m_window->workflowFilePath() : QString();
-    if (!own.isEmpty() && other == QFileInfo(PropertyEditor::WorkflowFile::fileAt(own)))
-        notes.append(tr("This is the file of this workflow: what differs isn't saved yet."));
-    notes.removeAll(QString());
-    return notes.join(u'\n');
+    return m_window ? m_window->workflowFilePath() : QString();
 }
 
 QString Comparison::Private::stepText() const

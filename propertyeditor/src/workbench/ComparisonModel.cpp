@@ -16,7 +16,6 @@ namespace orv {
 
 using namespace PropertyEditorStringConstants;
 using Change = WorkflowDifference::Kind;
-using Kind = ComparisonNode::Kind;
 
 namespace {
 
@@ -77,7 +76,7 @@ void ComparisonModel::uncheckAll()
 bool ComparisonModel::onlySettingsAreChecked() const
 {
     return std::ranges::all_of(m_checked, [this](const QString &key) {
-        return m_tree.nodes.at(m_numbers.value(key, 0)).kind == Kind::Setting;
+        return m_tree.nodes.at(m_numbers.value(key, 0)).kind == ComparisonNode::Kind::Setting;
     });
 }
 
@@ -95,7 +94,7 @@ QModelIndex ComparisonModel::indexOf(const QString &key) const
 QByteArray ComparisonModel::settingAt(const QModelIndex &index) const
 {
     for (QModelIndex row = index; row.isValid(); row = row.parent()) {
-        if (node(row).kind == Kind::Setting)
+        if (node(row).kind == ComparisonNode::Kind::Setting)
             return node(row).label.toUtf8();
     }
     return {};
@@ -135,13 +134,13 @@ Qt::ItemFlags ComparisonModel::flags(const QModelIndex &index) const
 QString ComparisonModel::name(const ComparisonNode &node) const
 {
     QString name = node.label;
-    if (node.kind == Kind::Workflow)
+    if (node.kind == ComparisonNode::Kind::Workflow)
         name = tr("Workflow");
-    else if (node.kind == Kind::OwnProperty)
+    else if (node.kind == ComparisonNode::Kind::OwnProperty)
         name = QCoreApplication::translate("RecoveryChanges", node.label.toUtf8().constData());
-    else if (node.kind == Kind::Setting)
+    else if (node.kind == ComparisonNode::Kind::Setting)
         name = EntryTexts::caption({{TYPE_KEY, node.cellType}}, {{NAME_KEY, node.label}});
-    else if (node.kind == Kind::Part && name.isEmpty())
+    else if (node.kind == ComparisonNode::Kind::Part && name.isEmpty())
         name = tr("Value");
     return node.more > 0 ? tr("%1 and what belongs to it (%2 more)").arg(name).arg(node.more) : name;
 }
@@ -152,17 +151,17 @@ QString ComparisonModel::value(const ComparisonNode &node, const QJsonValue &val
         return {};
     if (value.isUndefined())
         return tr("(not there)");
-    if (node.kind == Kind::Setting) {
-        const QString shown =
+    if (node.kind == ComparisonNode::Kind::Setting) {
+        QString shown =
             EntryTexts::value({{TYPE_KEY, node.cellType}}, {{NAME_KEY, node.label}, {VALUE_KEY, value}});
         if (!shown.isEmpty())
             return shown;
     }
-    if (node.kind == Kind::Tab)
+    if (node.kind == ComparisonNode::Kind::Tab)
         return QVariant(value[COLUMNS_KEY].toArray().toVariantList())
             .toStringList()
             .join(QStringLiteral(", "));
-    if (node.kind == Kind::Column)
+    if (node.kind == ComparisonNode::Kind::Column)
         return value.isArray() ? value.toArray().first()[TYPE_KEY].toString() : ChangeText::ofValue(value);
     const QString plain = ChangeText::ofValue(value);
     return plain.isEmpty() ? tr("(empty)") : plain;
@@ -189,7 +188,7 @@ QString ComparisonModel::text(const ComparisonNode &node, int column) const
         return name(node);
     const QJsonValue &shown = column == This ? node.left : node.right;
     // Rows round what they show.
-    const bool looksTheSame = node.kind == Kind::Setting && node.children.isEmpty() &&
+    const bool looksTheSame = node.kind == ComparisonNode::Kind::Setting && node.children.isEmpty() &&
                               value(node, node.left) == value(node, node.right);
     return looksTheSame ? ChangeText::ofValue(shown) : value(node, shown);
 }

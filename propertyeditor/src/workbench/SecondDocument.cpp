@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
+#include <QUrl>
 
 namespace orv {
 
@@ -23,7 +24,7 @@ struct SecondDocumentTr
 /// As columns give their cells back.
 QByteArray cellText(const QVariant &cell)
 {
-    const QByteArray bytes = cell.toByteArray();
+    QByteArray bytes = cell.toByteArray();
     const QJsonDocument parsed = QJsonDocument::fromJson(bytes);
     if (!parsed.isObject())
         return bytes;
@@ -80,23 +81,32 @@ void judge(const WorkflowFile &file, SecondDocument *second)
 }
 
 /// What is taken over is to name the same files.
+/// Empty for a document without a file.
+QUrl folderOf(const QString &file)
+{
+    return file.isEmpty() ? QUrl() : QUrl::fromLocalFile(QFileInfo(file).absolutePath() + u'/');
+}
+
+void addNote(SecondDocument *second, const QString &text)
+{
+    second->note += (second->note.isEmpty() ? QString() : QStringLiteral("\n")) + text;
+}
+
 QJsonObject inFolder(const WorkflowFile &file, const QUrl &folder, SecondDocument *second)
 {
     if (file.folderUrl() == folder)
         return file.document();
-    const QJsonObject absolute = WorkflowReferences::withAbsolutePaths(file.document(), file.folderUrl());
+    QJsonObject absolute = WorkflowReferences::withAbsolutePaths(file.document(), file.folderUrl());
     if (absolute != file.document()) {
-        second->note +=
-            (second->note.isEmpty() ? QString() : QStringLiteral("\n")) +
-            SecondDocumentTr::tr("Files that it names from its own folder are shown with their whole "
-                                 "paths.");
+        addNote(second, SecondDocumentTr::tr("Files that it names from its own folder are shown with their "
+                                             "whole paths."));
     }
     return absolute;
 }
 
 } // namespace
 
-SecondDocument SecondDocument::read(const QString &path, const QUrl &folder)
+SecondDocument SecondDocument::read(const QString &path, const QString &own)
 {
     SecondDocument second;
     second.path = path;
@@ -110,9 +120,14 @@ SecondDocument SecondDocument::read(const QString &path, const QUrl &folder)
     if (!second.error.hasError() && second.refusal.isEmpty())
         upgrade(&*file, &second);
     if (!second.error.hasError())
-        second.state = stateOf(PropertyEditorContent(inFolder(*file, folder, &second)));
+        second.state = stateOf(PropertyEditorContent(inFolder(*file, folderOf(own), &second)));
     if (!second.error.hasError() && second.state.tabs.isEmpty())
         second.error = invalid(SecondDocumentTr::tr("There are no tabs in this workflow."), file->path());
+    second.isOwnFile =
+        !own.isEmpty() && QFileInfo(WorkflowFile::fileAt(path)) == QFileInfo(WorkflowFile::fileAt(own));
+    if (second.isOwnFile)
+        addNote(&second,
+                SecondDocumentTr::tr("This is the file of this workflow: what differs isn't saved yet."));
     return second;
 }
 

@@ -5,7 +5,6 @@
 #include <orv/core/Error.h>
 
 #include <QString>
-#include <QUrl>
 
 namespace orv {
 
@@ -15,14 +14,15 @@ struct SecondDocument
     QString path;
     QString name; ///< of the file or of the portable folder, for people
     DocumentState state;
-    QString note;    ///< what was done to it, or what is odd about it; empty for nothing
-    QString refusal; ///< why nothing can be taken over from it; empty if it can
-    Error error;     ///< why there is no state
+    bool isOwnFile = false; ///< of the document to compare with
+    QString note;           ///< what was done to it, or what is odd about it; empty for nothing
+    QString refusal;        ///< why nothing can be taken over from it; empty if it can
+    Error error;            ///< why there is no state
 
     /// Reads a file or a portable folder, and upgrades it in memory. Its relative files get absolute paths
-    /// unless they count from \a folder, with a slash at its end, that of the document to compare with. Any
-    /// thread; blocks as an upgrade does.
-    [[nodiscard]] static SecondDocument read(const QString &path, const QUrl &folder);
+    /// unless they count from the folder of \a own, the file of the document to compare with, which may be
+    /// empty. Any thread; blocks as an upgrade does.
+    [[nodiscard]] static SecondDocument read(const QString &path, const QString &own);
 };
 
 } // namespace orv

@@ -34,6 +34,10 @@ std::optional<QVariant> SettingEdit::valueOf(const KPropertySet &set, const QByt
     KProperty other(set.property(name));
     if (!PropertySetCreator::setValueFromJson(SettingReader::idOf(other), stored, &other))
         return {};
+    // A text would read an object or a list as empty.
+    const bool isNested = stored.isObject() || stored.isArray();
+    if (isNested && SettingReader::stored(other).type() != stored.type())
+        return {};
     return other.value();
 }
 

@@ -251,7 +251,7 @@ private:
         const bool isAlike = left[DATA].toArray().size() == right[DATA].toArray().size() &&
                              without(left, DATA) == without(right, DATA);
         const auto find = [&] { return compareEntries(left, right, leftHeader, rightHeader, place); };
-        const QJsonValue merged = isAlike ? QJsonValue(find()) : oneOf(left, right, find);
+        QJsonValue merged = isAlike ? QJsonValue(find()) : oneOf(left, right, find);
         if (m_differences->size() == before)
             return m_differences->add(place, left, right) ? right : left;
         return merged;
