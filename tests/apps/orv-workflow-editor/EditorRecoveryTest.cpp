@@ -8,6 +8,7 @@
 #include <orv/propertyeditor/grid/GridItemCreators.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/propertyeditor/workbench/JournalKeeper.h>
+#include <orv/propertyeditor/workbench/RecoveryJournal.h>
 #include <orv/propertyeditor/workbench/RecoveryPanel.h>
 #include <orv/propertyeditor/workbench/RecoveryStore.h>
 #include <orv/widgets/CoreMainWindow.h>
@@ -19,6 +20,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTreeView>
@@ -115,6 +117,7 @@ private Q_SLOTS:
     void severalAreRecoveredAtOnce();
     void undoneEditsAreNotOffered();
     void upgradesThatWereTakenBackAreNotOffered();
+    void recoveredWorkflowsStayWhereTheirUpgradeIsTakenBack();
 
 private:
     void start();
@@ -196,7 +199,6 @@ EditorWindow *EditorRecoveryTest::offered(const QString &name)
     return window;
 }
 
-/// Once the panel knows what became of the file.
 /// What is left when nobody has the window any more.
 QStringList EditorRecoveryTest::journalsBehind(EditorWindow *window)
 {
@@ -206,6 +208,7 @@ QStringList EditorRecoveryTest::journalsBehind(EditorWindow *window)
     return journalFiles();
 }
 
+/// Once the panel knows what became of the file.
 void EditorRecoveryTest::recover(EditorWindow *window)
 {
     QTRY_VERIFY(!panelText(*window).contains(u"Looking whether"_s));
@@ -543,6 +546,33 @@ void EditorRecoveryTest::upgradesThatWereTakenBackAreNotOffered()
     QCOMPARE(window->content().tabsAndContent().size(), 0);
     QCOMPARE(journalsBehind(window), QStringList());
     QVERIFY(answers.isDone());
+}
+
+void EditorRecoveryTest::recoveredWorkflowsStayWhereTheirUpgradeIsTakenBack()
+{
+    start();
+    {
+        const auto journal = m_store->newJournal();
+        QSignalSpy written(journal.get(), &RecoveryJournal::written);
+        journal->begin({}, {});
+        const QString old = TestData::examplePath(u"workflows/outdated/intact_mass_2022.wflw"_s);
+        journal->write(PropertyEditorContent(TestData::read(old)));
+        QVERIFY(written.wait());
+    }
+    EditorWindow *window = openWindow();
+    for (int round = 0; round < 2; ++round) {
+        window->offerRecovery();
+        ScriptedAnswerer answers;
+        answers.expectBox(u"Workflow upgrade"_s, u"Apply"_s);
+        recover(window);
+        QVERIFY(answers.isDone());
+        QVERIFY(window->workflowTabs()->count() > 0);
+        QTest::keyClick(window, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(window->workflowTabs()->count(), 0);
+        QCOMPARE(journalsBehind(window).size(), 1);
+        m_store = std::make_shared<RecoveryStore>(journals());
+        window = openWindow();
+    }
 }
 
 WIDGET_REGISTER_TEST(EditorRecoveryTest)
