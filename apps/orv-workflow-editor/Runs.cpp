@@ -19,17 +19,20 @@ Outcome write(const PropertyEditor::Content &content, const Path &outputPath, co
     if (folder.isEmpty())
         return {{}, {}, result + RunFolder::kSuffix};
     const QJsonObject document = content.toJsonObject(PropertyEditor::PropertyConversionFlag::KeepPaths);
+    const auto existing = policy == DuplicateFilePolicy::Overwrite ? RunFolder::Existing::Replaced
+                                                                   : RunFolder::Existing::Refused;
     Result<QString> run = QString();
     {
         const auto progress = ProgressOutputUtils::createAndShowProgress(
             QCoreApplication::translate("Runs", "Writing the run folder..."), parent, true);
         progress->run([&](ProgressReporter &reporter) {
-            run = RunFolder::write(document, folder, [&reporter](int done, int count, const QString &file) {
+            const auto tell = [&reporter](int done, int count, const QString &file) {
                 reporter.setCount(count);
                 reporter.setDone(done);
                 reporter.setText(file);
                 return !reporter.isCancelled();
-            });
+            };
+            run = RunFolder::write(document, folder, tell, existing);
         });
     }
     if (run.hasError())

@@ -34,6 +34,7 @@ struct RunFolderTr
 };
 
 constexpr QLatin1String kLockName(".lock");
+constexpr QLatin1String kEarlierName("earlier");
 
 /// A file of the run that is still to be made.
 struct RunFile
@@ -162,7 +163,7 @@ QString stagingPrefix(const QFileInfo &place)
     return QStringLiteral(".%1-").arg(place.fileName());
 }
 
-/// What was killed holds its lock no more.
+/// What was killed holds its lock no more. Where it was about to replace a run, that one comes back.
 void sweep(const QFileInfo &place)
 {
     const QDir parent = place.dir();
@@ -178,8 +179,12 @@ void sweep(const QFileInfo &place)
         QLockFile lock(lockPath);
         lock.setStaleLockTime(0);
         if (lock.tryLock(0)) {
+            const QString earlier = folder.filePath() + u'/' + kEarlierName;
+            const bool isStranded = QFileInfo(earlier).isDir() && !QFileInfo::exists(place.filePath());
+            const bool isSafe = !isStranded || QDir().rename(earlier, place.filePath());
             lock.unlock();
-            QDir(folder.filePath()).removeRecursively();
+            if (isSafe)
+                QDir(folder.filePath()).removeRecursively();
         }
     }
 }
@@ -195,7 +200,7 @@ bool isRun(const QFileInfo &place)
 /// Brings \a run to \a place; what stood there goes into \a staging, and comes back where that fails.
 Error bringInPlace(const QString &run, const QFileInfo &place, const QTemporaryDir &staging)
 {
-    const QString earlier = staging.filePath(QStringLiteral("earlier"));
+    const QString earlier = staging.filePath(kEarlierName);
     const bool isReplaced = place.exists();
     const bool hasRoom = !isReplaced || QDir().rename(place.filePath(), earlier);
     if (hasRoom && QDir().rename(run, place.filePath()))
@@ -225,6 +230,7 @@ Result<QString> RunFolder::write(const QJsonObject &document, const QString &fol
                                  Existing existing)
 {
     const QFileInfo place(QDir::cleanPath(QFileInfo(folder).absoluteFilePath()));
+    sweep(place);
     const bool isReplaced = existing == Existing::Replaced && isRun(place);
     if (!isReplaced && (place.exists() || place.isSymLink())) {
         return Error(ErrorCode::InvalidContent,
@@ -238,7 +244,6 @@ Result<QString> RunFolder::write(const QJsonObject &document, const QString &fol
     if (files.hasError())
         return files.ecatch();
     QDir().mkpath(place.path());
-    sweep(place);
     QTemporaryDir staging(place.dir().filePath(stagingPrefix(place) + kUniquePart));
     QLockFile lock(staging.filePath(kLockName));
     const QString run = staging.filePath(QStringLiteral("run"));
