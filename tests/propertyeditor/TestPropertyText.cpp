@@ -207,12 +207,13 @@ void TestPropertyText::legalValuesAreTold_data()
     QTest::addColumn<int>("number");
     QTest::addColumn<QString>("text");
     QTest::newRow("switch") << 1 << u"true or false"_s;
-    QTest::newRow("whole number in a range") << 29 << u"a whole number in [0;1000000]"_s;
-    QTest::newRow("number in a range") << 2 << u"a number in [0;1000]"_s;
+    QTest::newRow("whole number in a range") << 29 << u"a whole number from 0 to 1000000"_s;
+    QTest::newRow("number in a range") << 2 << u"a number from 0 to 1000"_s;
+    QTest::newRow("number above another") << 213 << u"a number above 0 and at most 1000000"_s;
     QTest::newRow("text") << 43 << u"a text"_s;
     QTest::newRow("file") << 60 << u"a path or the text of a reference"_s;
-    QTest::newRow("value with unit") << 80
-                                     << u"a number in [0;10000] with the unit ppm or Da, such as \"5 ppm\""_s;
+    QTest::newRow("value with unit")
+        << 80 << u"a number from 0 to 10000 with the unit ppm or Da, such as \"5 ppm\""_s;
     QTest::newRow("object") << 67 << u"a JSON object"_s;
     QTest::newRow("checkable list") << 70 << u"any of these, separated by commas: S, T, C"_s;
     QTest::newRow("keys with texts")

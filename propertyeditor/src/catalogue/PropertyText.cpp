@@ -144,12 +144,23 @@ Read readText(PropertyId id, const QString &text, const KProperty &property)
     }
 }
 
+/// An interval as people say it, not as rules write it.
 QString rangeOf(PropertyId id)
 {
     const PropertiesCsvReader &catalogue = PropertiesCsvReader::instance();
-    return catalogue.verificationFunction(id) == QLatin1String("range")
-               ? tr(" in %1").arg(catalogue.verificationParameters(id).trimmed())
-               : QString();
+    if (catalogue.verificationFunction(id) != QLatin1String("range"))
+        return {};
+    const QString range = catalogue.verificationParameters(id).trimmed();
+    const QStringList limits = range.mid(1).chopped(1).split(u';');
+    if (limits.size() != 2)
+        return tr(" in %1").arg(range);
+    const bool hasLeast = range.startsWith(u'[');
+    const bool hasMost = range.endsWith(u']');
+    const QString form = hasLeast && hasMost ? tr(" from %1 to %2")
+                         : hasMost           ? tr(" above %1 and at most %2")
+                         : hasLeast          ? tr(" of at least %1 and below %2")
+                                             : tr(" above %1 and below %2");
+    return form.arg(limits[0].trimmed(), limits[1].trimmed());
 }
 
 QString legalListValues(PropertyId id)
@@ -238,6 +249,11 @@ ValueText textOf(PropertyId id, const KProperty &property, const QJsonValue &sto
 }
 
 } // namespace
+
+QStringList knownUnits(PropertyId id)
+{
+    return unitsOf(id);
+}
 
 QString legalValues(PropertyId id, const KProperty &property)
 {

@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
 
 #include <algorithm>
 #include <array>
@@ -53,6 +54,13 @@ Limits limitsOf(PropertyId id)
     if (options.contains("max"))
         limits.most = options.value("max").toDouble();
     return limits;
+}
+
+/// With all its digits, unless it had hundreds of them.
+QString limitText(double limit)
+{
+    constexpr double kWritten = 1e15;
+    return QString::number(limit, std::abs(limit) < kWritten ? 'f' : 'g', QLocale::FloatingPointShortest);
 }
 
 /// The spelling of \a unit that files hold; empty for a unit that the property doesn't have.
@@ -123,8 +131,8 @@ QString legalValuesWithUnit(PropertyId id)
 {
     const Limits limits = limitsOf(id);
     return QCoreApplication::translate("PropertyText",
-                                       "a number in [%1;%2] with the unit %3, such as \"5 %4\"")
-        .arg(QString::number(limits.least), QString::number(limits.most),
+                                       "a number from %1 to %2 with the unit %3, such as \"5 %4\"")
+        .arg(limitText(limits.least), limitText(limits.most),
              unitsOf(id).join(QCoreApplication::translate("PropertyText", " or ")), unitsOf(id).value(0));
 }
 

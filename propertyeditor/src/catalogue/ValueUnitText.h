@@ -21,7 +21,7 @@ namespace orv {
 [[nodiscard]] std::optional<QVariant> toValueWithUnit(PropertyId id, const QString &text,
                                                       const KProperty &property);
 
-/// The limits of its numbers and its units, for people: "a number in [0;10000] with the unit ppm or Da".
+/// The limits of its numbers and its units, for people: "a number from 0 to 10000 with the unit ppm or Da".
 [[nodiscard]] QString legalValuesWithUnit(PropertyId id);
 
 /// \a text without the unit that \a property shows behind its number, if it ends with that.

@@ -7,7 +7,10 @@
 #include <KPropertyEditorItemEvent.h>
 #include <KPropertyEditorView.h>
 #include <KPropertyUtils.h>
+#include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/PropertyText.h>
 #include <orv/propertyeditor/editors/OrvGenericEditorObjectManager.h>
+#include <orv/propertyeditor/editors/ValueUnitInput.h>
 #include <orv/propertyeditor/editors/ValueUnitValidator.h>
 #include <orv/widgets/ORVStyle.h>
 
@@ -22,16 +25,31 @@ namespace orv {
 namespace {
 
 /// A letter that a line refuses vanishes, and what is left may be another value: "9.5 kDa" would become "9.5
-/// Da".
+/// Da". A number without a unit keeps the one that stands there.
 class TypedValueValidator : public ValueUnitValidator
 {
 public:
-    using ValueUnitValidator::ValueUnitValidator;
+    TypedValueValidator(double min, double max, const OrvGenericEditor *editor)
+        : ValueUnitValidator(min, max)
+        , m_editor(editor)
+    {}
+
+    void fixup(QString &input) const override
+    {
+        const QStringList parts = ValueUnitInput::partsOf(input);
+        const QString unit =
+            GenericEditorText::objectOf(m_editor->value()).value(QLatin1String("unit")).toString();
+        if (parts.size() == 1 && !unit.isEmpty() && ValueUnitInput::numberOf(parts.constFirst()))
+            input = parts.constFirst() + u' ' + unit;
+    }
 
     [[nodiscard]] State validate(QString &input, int &position) const override
     {
         return std::max(Intermediate, ValueUnitValidator::validate(input, position));
     }
+
+private:
+    const OrvGenericEditor *m_editor; ///< owns this
 };
 
 QByteArray nameOf(const KProperty *property)
@@ -66,6 +84,11 @@ OrvGenericEditorPrivate::~OrvGenericEditorPrivate() = default;
 QString OrvGenericEditorPrivate::text() const
 {
     return object ? object->toString(GenericEditorText::objectOf(value)).trimmed() : QString();
+}
+
+PropertyId OrvGenericEditorPrivate::propertyId() const
+{
+    return PropertiesNames::findPropertyForName(QString::fromUtf8(m_propertyName));
 }
 
 void OrvGenericEditorPrivate::handleItemEvent(KPropertyEditorItemEvent *event)
@@ -104,8 +127,10 @@ OrvGenericEditor::OrvGenericEditor(PropertySetCreator::Editor editorType, KPrope
     if (editorType != PropertySetCreator::Editor::ValueUnit || !property)
         return;
     constexpr double kMost = std::numeric_limits<double>::max();
-    setValidator(new TypedValueValidator(property->option("min", -kMost).toDouble(),
-                                         property->option("max", kMost).toDouble(), this));
+    auto *const typed = new TypedValueValidator(property->option("min", -kMost).toDouble(),
+                                                property->option("max", kMost).toDouble(), this);
+    typed->setParent(this);
+    setValidator(typed);
     connect(this, &QLineEdit::editingFinished, this, &OrvGenericEditor::commitText);
     connect(d.get(), &OrvGenericEditorPrivate::aboutToEdit, this, &OrvGenericEditor::settleText);
 }
@@ -127,7 +152,9 @@ void OrvGenericEditor::setValue(const QVariant &value)
 QString OrvGenericEditor::refusal() const
 {
     const auto *expected = qobject_cast<const ValueUnitValidator *>(validator());
-    return tr("\"%1\" was not taken: type %2.").arg(text(), expected ? expected->expectation() : QString());
+    const QStringList units = PropertyText::knownUnits(d->propertyId());
+    return tr("\"%1\" was not taken: type %2.")
+        .arg(text(), expected ? expected->expectation(units) : QString());
 }
 
 void OrvGenericEditor::focusOutEvent(QFocusEvent *event)
@@ -139,6 +166,10 @@ void OrvGenericEditor::focusOutEvent(QFocusEvent *event)
 
 void OrvGenericEditor::putBackRefused()
 {
+    if (QString whole = text(); validator() && !hasAcceptableInput()) {
+        validator()->fixup(whole);
+        setText(whole);
+    }
     if (hasAcceptableInput() || text() == d->text())
         return;
     if (KPropertyEditorView *view = KPropertyUtils::viewForEditor(this))
@@ -155,8 +186,9 @@ void OrvGenericEditor::settleText()
 
 void OrvGenericEditor::commitText()
 {
-    // The text shows fewer digits than the value may have: what nobody typed in stays.
-    if (!d->object || !isModified())
+    // The text shows fewer digits than the value may have: what nobody typed in stays. A text that got its
+    // unit counts as unmodified.
+    if (!d->object || (!isModified() && text() == d->text()))
         return;
     setModified(false);
     // What the validator took and the object can't read would be no value at all.

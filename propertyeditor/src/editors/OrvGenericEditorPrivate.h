@@ -28,6 +28,9 @@ public:
     /// Of the value, as the object tells it.
     [[nodiscard]] QString text() const;
 
+    /// NoProperty for a name that the catalogue doesn't have.
+    [[nodiscard]] PropertyId propertyId() const;
+
     const PropertySetCreator::Editor editorType;
     const QSharedPointer<IGenericEditorObject> object; ///< null for an unknown kind
     QVariant value;

@@ -6,9 +6,21 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace orv {
+
+namespace {
+
+/// As people write it, unless it had hundreds of digits.
+QString limitText(double limit)
+{
+    constexpr double kWritten = 1e15;
+    return QLocale().toString(limit, std::abs(limit) < kWritten ? 'f' : 'g', QLocale::FloatingPointShortest);
+}
+
+} // namespace
 
 ValueUnitValidator::ValueUnitValidator(double min, double max, QObject *parent)
     : QValidator(parent)
@@ -29,13 +41,17 @@ QValidator::State ValueUnitValidator::validate(QString &input, int &) const
     return std::min(m_number.validate(number, ignored), m_unit.validate(unit, ignored));
 }
 
-QString ValueUnitValidator::expectation() const
+QString ValueUnitValidator::expectation(const QStringList &units) const
 {
     constexpr double kMost = std::numeric_limits<double>::max();
-    const QLocale locale;
-    const QString least = locale.toString(m_number.bottom(), 'g', QLocale::FloatingPointShortest);
-    const QString most = locale.toString(m_number.top(), 'g', QLocale::FloatingPointShortest);
-    QString form = tr("a number with at most two decimals, a blank, and Da, ppm or mmu, as in \"10 ppm\"");
+    const QString least = limitText(m_number.bottom());
+    const QString most = limitText(m_number.top());
+    const QStringList told =
+        units.isEmpty() ? QStringList{QStringLiteral("Da"), QStringLiteral("ppm"), QStringLiteral("mmu")}
+                        : units;
+    QString form = tr("a number with at most two decimals, alone or with a blank and its unit (%1), as in "
+                      "\"10 %2\"")
+                       .arg(told.join(QLatin1String(", ")), told.constFirst());
     if (m_number.bottom() == -kMost && m_number.top() == kMost)
         return form;
     if (m_number.top() == kMost)

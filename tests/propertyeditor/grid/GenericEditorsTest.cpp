@@ -238,8 +238,9 @@ void GenericEditorsTest::invalidTextsGoBack()
     QVERIFY(LeavingWays::leave(tree, way));
     QCOMPARE(
         tree.remark(column.property("KarvonFragmentMassError")),
-        text("\"12 pp\" was not taken: type a number with at most two decimals, a blank, and Da, ppm or mmu, "
-             "as in \"10 ppm\"; the number is from 0 to 0.5."));
+        text(
+            "\"12 pp\" was not taken: type a number with at most two decimals, alone or with a blank and its "
+            "unit (ppm, Da), as in \"10 ppm\"; the number is from 0 to 0.5."));
     QCOMPARE(valueIn(column.item.content(), "KarvonFragmentMassError"),
              QJsonValue(valueWithUnit(10.1234, "ppm")));
     QCOMPARE(shown(column, "KarvonFragmentMassError"), text("10.12 ppm"));

@@ -40,6 +40,8 @@ private Q_SLOTS:
     void everyWayTakesATypedValue();
     void everyWayLeavesWhatNobodyTyped_data() { LeavingWays::addRows(); }
     void everyWayLeavesWhatNobodyTyped();
+    void aNumberAloneKeepsTheUnit_data() { LeavingWays::addRows(); }
+    void aNumberAloneKeepsTheUnit();
     void aHalfTypedTextGoesBackAndSaysWhy_data();
     void aHalfTypedTextGoesBackAndSaysWhy();
     void groupsOfDigitsCanBeEdited();
@@ -160,6 +162,17 @@ void ValueUnitTest::everyWayLeavesWhatNobodyTyped()
     QCOMPARE(row.told(), 0);
 }
 
+void ValueUnitTest::aNumberAloneKeepsTheUnit()
+{
+    QFETCH(LeavingWays::Way, way);
+    Row row(kSetting, valueWithUnit(10.1234, "ppm"));
+    QVERIFY(LeavingWays::open(row.tree(), kSetting));
+    LeavingWays::type(text("25"));
+    QVERIFY(LeavingWays::leave(row.tree(), way));
+    QCOMPARE(row.stored(), QJsonValue(valueWithUnit(25, "ppm")));
+    QCOMPARE(row.shown(), text("25.00 ppm"));
+}
+
 void ValueUnitTest::aHalfTypedTextGoesBackAndSaysWhy_data()
 {
     LeavingWays::addRows();
@@ -177,7 +190,9 @@ void ValueUnitTest::aHalfTypedTextGoesBackAndSaysWhy()
     QCOMPARE(row.shown(), text("10.12 ppm"));
     QCOMPARE(row.told(), 0);
     const QString why = row.tree().remark(row.property());
-    QVERIFY2(why.contains(text("12 pp")) && why.contains(text("mmu")), qPrintable(why));
+    QVERIFY2(why.contains(text("12 pp")) && why.contains(text("ppm, Da")), qPrintable(why));
+    // The search takes mmu for ppm.
+    QVERIFY2(!why.contains(text("mmu")) && why.contains(text("from 0 to 10000.")), qPrintable(why));
     const QModelIndex cell = LeavingWays::rowOf(row.tree(), kSetting);
     QVERIFY(cell.data(Qt::ToolTipRole).toString().contains(why.toHtmlEscaped()));
 

@@ -6,6 +6,7 @@
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <optional>
@@ -15,8 +16,12 @@ class KProperty;
 /// Values of settings as people type them.
 namespace orv::PropertyText {
 
-/// What \a property takes, for people: "a whole number in [0;100]", "one of: A, B". Ends without a full stop.
+/// What \a property takes, for people: "a whole number from 0 to 100", "one of: A, B". Ends without a full
+/// stop.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QString legalValues(PropertyId id, const KProperty &property);
+
+/// The units in which the value of \a id may be given, those that the engine knows; empty where it has none.
+[[nodiscard]] ORV_WORKFLOW_EXPORT QStringList knownUnits(PropertyId id);
 
 /// The value that \a text means for \a property, in the form that a property set holds: numbers as such, with
 /// or without the unit that the property shows, values with a unit of their own as "5 ppm" or as JSON, true

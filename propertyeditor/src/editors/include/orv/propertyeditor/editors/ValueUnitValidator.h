@@ -4,6 +4,7 @@
 
 #include <QDoubleValidator>
 #include <QRegularExpressionValidator>
+#include <QStringList>
 #include <QValidator>
 
 namespace orv {
@@ -20,8 +21,9 @@ public:
 
     /// What is said less of number and unit.
     [[nodiscard]] State validate(QString &input, int &position) const override;
-    /// What it takes, for people, without a full stop.
-    [[nodiscard]] QString expectation() const;
+    /// What it takes, for people, without a full stop. Of the units only those that the setting knows are
+    /// told, all where these are unknown.
+    [[nodiscard]] QString expectation(const QStringList &units = {}) const;
 
 private:
     QDoubleValidator m_number;
