@@ -444,7 +444,7 @@ void TestContentValidator::settingsAreHeldAgainstTheirRules()
     QCOMPARE(finding.message, verdict.errors.constFirst());
     QCOMPARE(finding.place.property, PropertyId::KarvonCentroidTopk);
     QCOMPARE(finding.place.item, content.findAllItems(BaseItemType::Karvon).constFirst());
-    QVERIFY2(finding.hint.startsWith(u"Enter a whole number in ["_s), qPrintable(finding.hint));
+    QVERIFY2(finding.hint.startsWith(u"Enter a whole number from "_s), qPrintable(finding.hint));
     QVERIFY(log.texts(QtDebugMsg).contains(u"Calling builtin validator for 29 QVariant(int, -5)"_s));
 }
 

@@ -3,6 +3,7 @@
 #include "internal/EntryMembers.h"
 #include "internal/MemberReader.h"
 #include "internal/SampleRows.h"
+#include "internal/WrittenSamples.h"
 
 #include <orv/resources/ResourceReferenceUtils.h>
 
@@ -23,44 +24,6 @@ constexpr QLatin1String kSamples("Samples");
 constexpr QLatin1String kCustomColumns("CustomColumns");
 constexpr QLatin1String kOptions("TraceImportAndProcessingOptions");
 
-/// The type of column that \a value fits into; empty for what no cell holds.
-QString cellType(const QJsonValue &value)
-{
-    switch (value.type()) {
-    case QJsonValue::String:
-        return QStringLiteral("text");
-    case QJsonValue::Double:
-        return QStringLiteral("number");
-    case QJsonValue::Bool:
-        return QStringLiteral("bool");
-    default:
-        return {};
-    }
-}
-
-/// Documents that don't list their custom columns show what they have by the members of their samples.
-QList<CustomColumn> impliedColumns(const QJsonArray &samples)
-{
-    QList<CustomColumn> columns;
-    QHash<QString, qsizetype> places;
-    for (const auto sample : samples) {
-        const QJsonObject object = sample.toObject();
-        for (auto it = object.begin(); it != object.end(); ++it) {
-            const QString type = cellType(it.value());
-            if (type.isEmpty() || it.key().isEmpty() || CustomColumns::isReservedName(it.key()))
-                continue;
-            const auto place = places.constFind(it.key());
-            if (place == places.constEnd()) {
-                places.insert(it.key(), columns.size());
-                columns.append(CustomColumn{it.key(), type, {}, {}});
-            } else if (columns[*place].type != type) {
-                columns[*place].type = cellType(QString());
-            }
-        }
-    }
-    return columns;
-}
-
 Result<CustomColumns> readColumns(const QJsonObject &json, const QJsonArray &samples)
 {
     if (MemberReader(json).has(kCustomColumns)) {
@@ -73,7 +36,7 @@ Result<CustomColumns> readColumns(const QJsonObject &json, const QJsonArray &sam
         return columns;
     }
     CustomColumns columns;
-    for (const CustomColumn &column : impliedColumns(samples))
+    for (const CustomColumn &column : WrittenSamples::impliedColumns(samples))
         columns.addCustomColumn(column);
     return columns;
 }
@@ -81,23 +44,23 @@ Result<CustomColumns> readColumns(const QJsonObject &json, const QJsonArray &sam
 /// Moves the values of custom columns from the stored object to where they are used.
 void takeCustomValues(SampleWithCustomColumns *sample, const CustomColumns &columns)
 {
+    const auto take = [sample](const QString &name, const QJsonValue &value) {
+        if (WrittenSamples::columnType(value).isEmpty())
+            return;
+        sample->customValues.insert(name, value.toVariant());
+        sample->stored.remove(name);
+    };
     const QJsonObject stored = sample->stored;
+    // A file may claim any number of columns.
+    if (columns.columns().size() <= stored.size()) {
+        for (const CustomColumn &column : columns.columns())
+            take(column.name, stored.value(column.name));
+        return;
+    }
     for (auto it = stored.begin(); it != stored.end(); ++it) {
-        if (cellType(it.value()).isEmpty() || !columns.contains(it.key()))
-            continue;
-        sample->customValues.insert(it.key(), it.value().toVariant());
-        sample->stored.remove(it.key());
+        if (columns.contains(it.key()))
+            take(it.key(), it.value());
     }
-}
-
-QJsonObject writeSample(const SampleWithCustomColumns &sample)
-{
-    QJsonObject json = sample.toJson();
-    for (auto it = sample.customValues.begin(); it != sample.customValues.end(); ++it) {
-        if (!CustomColumns::isReservedName(it.key()))
-            json.insert(it.key(), QJsonValue::fromVariant(it.value()));
-    }
-    return json;
 }
 
 /// Old documents number their samples, but a hand may have left a number out.
@@ -182,17 +145,24 @@ Result<SamplesAndTracesContent> SamplesAndTracesContent::fromJson(const QJsonObj
 
 QJsonObject SamplesAndTracesContent::presentForm() const
 {
+    QJsonArray array;
+    for (const SampleWithCustomColumns &sample : samples.samples)
+        array.append(WrittenSamples::written(sample));
+    const bool isListed = MemberReader(m_stored).has(kCustomColumns);
+    return presentForm(array, isListed ? QList<CustomColumn>() : WrittenSamples::impliedColumns(array));
+}
+
+QJsonObject SamplesAndTracesContent::presentForm(const QJsonArray &array,
+                                                 const QList<CustomColumn> &impliedColumns) const
+{
     QJsonObject json = m_stored;
     if (SampleRows::isTree(m_stored)) {
         json.remove(QLatin1String("data"));
         json.remove(QLatin1String("children"));
     }
-    QJsonArray array;
-    for (const SampleWithCustomColumns &sample : samples.samples)
-        array.append(writeSample(sample));
     json.insert(kSamples, array);
     const bool isListed = MemberReader(m_stored).has(kCustomColumns);
-    if (isListed || samples.columns.columns() != impliedColumns(array))
+    if (isListed || samples.columns.columns() != impliedColumns)
         json.insert(kCustomColumns, samples.columns.toJson());
     const QJsonObject optionsJson = options.toJson();
     if (m_stored.contains(kOptions) ? m_stored.value(kOptions).toObject() != optionsJson
@@ -203,7 +173,11 @@ QJsonObject SamplesAndTracesContent::presentForm() const
 
 QJsonObject SamplesAndTracesContent::toJson() const
 {
-    QJsonObject json = presentForm();
+    return asStored(presentForm());
+}
+
+QJsonObject SamplesAndTracesContent::asStored(const QJsonObject &json) const
+{
     if (!SampleRows::isTree(m_stored))
         return json;
     const Result<SamplesAndTracesContent> before = fromJson(m_stored);

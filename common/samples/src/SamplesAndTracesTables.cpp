@@ -2,6 +2,7 @@
 
 #include "internal/SampleColumns.h"
 #include "internal/TraceColumns.h"
+#include "internal/WrittenSamples.h"
 
 #include <orv/resources/ResourceReferenceUtils.h>
 #include <orv/samples/SampleUtils.h>
@@ -115,6 +116,7 @@ public:
     QList<Entry> entries;         ///< of the rows
     QHash<int, qsizetype> places; ///< of the entries, by id; empty until it is asked for
     bool isChanged = false;
+    WrittenSamples written;
     QHash<quint32, int> freshIds;
     QSet<int> takenIds;
     int nextId = 1;
@@ -162,6 +164,7 @@ void SamplesAndTracesTables::Private::use(const std::shared_ptr<SampleSheet> &ne
     follow(next);
     // Nobody has edited them yet, so there is nothing to be taken from the table.
     places.clear();
+    written.forget();
     rows = next->sheet()->rowIds();
     entries = QList<Entry>(records.begin(), records.end());
 }
@@ -194,6 +197,7 @@ Entry SamplesAndTracesTables::Private::entryOf(quint32 row) const
 void SamplesAndTracesTables::Private::readAllEntries()
 {
     places.clear();
+    written.forget();
     rows = samples->sheet()->rowIds();
     entries.clear();
     entries.reserve(rows.size());
@@ -204,6 +208,7 @@ void SamplesAndTracesTables::Private::readAllEntries()
 void SamplesAndTracesTables::Private::readEntries(const QList<quint32> &changed)
 {
     isChanged = true;
+    written.forget(changed);
     for (const quint32 row : changed) {
         if (const int place = samples->sheet()->rowOf(row); place >= 0 && place < entries.size())
             entries[place] = entryOf(row);
@@ -362,7 +367,14 @@ QJsonObject SamplesAndTracesTables::jsonContent() const
 {
     const bool isEdited =
         d->hasOtherColumns || d->samples->isEdited() || d->traces->isEdited() || d->presets->isEdited();
-    return isEdited ? content().toJson() : d->json;
+    if (!isEdited)
+        return d->json;
+    SamplesAndTracesContent content = d->content;
+    content.options.traces.setList(d->traces->records());
+    content.options.peaksOptions = d->presets->records();
+    const QJsonArray &samples = d->written.array(d->samples->sheet()->rowIds(),
+                                                 [this](quint32 row) { return d->samples->recordOf(row); });
+    return content.asStored(content.presentForm(samples, d->written.impliedColumns()));
 }
 
 SamplesAndTracesContent SamplesAndTracesTables::content() const

@@ -2,6 +2,7 @@
 
 #include "internal/EntryMembers.h"
 #include "internal/MemberReader.h"
+#include "internal/SampleMembers.h"
 
 #include <orv/core/Logging.h>
 #include <orv/resources/ResourceReferenceUtils.h>
@@ -19,44 +20,6 @@ struct SamplesInputTr
 {
     Q_DECLARE_TR_FUNCTIONS(SamplesInput)
 };
-
-/// The member that holds the sample's path: the present one, or an old one that is there.
-QLatin1String pathKey(const MemberReader &reader)
-{
-    for (QLatin1String old : kOldPaths) {
-        if (!reader.has(kPath) && reader.has(old))
-            return old;
-    }
-    return kPath;
-}
-
-/// The texts of \a key, or where that is absent those of the old members, which hold one each.
-template<typename OldKeys>
-QStringList textsOf(MemberReader *reader, QLatin1String key, const OldKeys &oldKeys)
-{
-    if (reader->has(key))
-        return reader->texts(key);
-    QStringList texts;
-    for (QLatin1String old : oldKeys)
-        texts.append(reader->text(old));
-    texts.removeAll(QString());
-    return texts;
-}
-
-/// The texts that aren't empty and still no references go to \a unreadable.
-QList<ResourceReferenceSPtr> referencesOf(const QStringList &texts, QStringList *unreadable)
-{
-    QList<ResourceReferenceSPtr> references;
-    references.reserve(texts.size());
-    for (const QString &text : texts) {
-        const Result<ResourceReferenceSPtr> reference = ResourceReference::fromString(text);
-        if (reference.hasError())
-            unreadable->append(text);
-        else if (!(*reference)->isEmpty())
-            references.append(*reference);
-    }
-    return references;
-}
 
 QHash<QString, QJsonObject> readFileMetadata(const QJsonObject &json)
 {
@@ -81,50 +44,14 @@ QJsonObject writeFileMetadata(const QHash<QString, QJsonObject> &metadata, const
     return json;
 }
 
-/// What an entry is read from.
-struct EntryMembers
-{
-    int id = 0;
-    QString name;
-    QString path;
-    QStringList traces;
-    QStringList extraReferences;
-    bool isReference = false;
-    QString timeUnit;
-    QString digestion;
-    QString sampleType;
-    QJsonObject metadata;
-    QJsonObject fileMetadata;
-};
-
-Result<EntryMembers> readMembers(const QJsonObject &json)
-{
-    MemberReader reader(json);
-    EntryMembers members;
-    members.id = reader.integer(kId, 0);
-    members.name = reader.text(kName);
-    members.path = reader.text(pathKey(reader));
-    members.traces = textsOf(&reader, kTraces, kOldTraces);
-    members.extraReferences = textsOf(&reader, kExtraReferences, kOldExtraReferences);
-    members.isReference = reader.flag(kReference, false);
-    members.timeUnit = reader.text(kTimeUnit);
-    members.digestion = reader.text(kDigestion);
-    members.sampleType = reader.text(kSampleType);
-    // Trees of rows have a text here, which says nothing that is asked of it.
-    members.metadata = json.value(kMetadata).toObject();
-    members.fileMetadata = reader.object(kFileMetadata);
-    ORV_RETURN_IF_ERROR(reader.error());
-    return members;
-}
-
-Entry entryOf(const EntryMembers &members, QStringList *unreadable)
+Entry entryOf(const SampleMembers &members, QStringList *unreadable)
 {
     Entry entry;
     entry.id = members.id;
     entry.name = members.name;
-    entry.msFile = referencesOf({members.path}, unreadable).value(0);
-    entry.traces = referencesOf(members.traces, unreadable);
-    entry.extraReferences = referencesOf(members.extraReferences, unreadable);
+    entry.msFile = members.file(unreadable);
+    entry.traces = SampleMembers::referencesOf(members.traces, unreadable);
+    entry.extraReferences = SampleMembers::referencesOf(members.extraReferences, unreadable);
     entry.isReference = members.isReference;
     entry.timeUnit = members.timeUnit;
     entry.digestion = members.digestion;
@@ -140,7 +67,7 @@ bool areTextsOf(const QStringList &texts, const QStringList &stored)
 {
     QStringList unreadable;
     return texts == stored ||
-           texts == ResourceReferenceUtils::toStringList(referencesOf(stored, &unreadable));
+           texts == ResourceReferenceUtils::toStringList(SampleMembers::referencesOf(stored, &unreadable));
 }
 
 template<typename OldKeys>
@@ -155,13 +82,12 @@ void storeReferences(QJsonObject *json, QLatin1String key, const OldKeys &oldKey
     json->insert(key, QJsonArray::fromStringList(texts));
 }
 
-void storePath(QJsonObject *json, QLatin1String key, const ResourceReferenceSPtr &now, const QString &stored)
+void storePath(QJsonObject *json, const ResourceReferenceSPtr &now, const SampleMembers &stored)
 {
     const QString path = ResourceReferenceUtils::toString(now);
     QStringList unreadable;
-    if (path != stored &&
-        path != ResourceReferenceUtils::toString(referencesOf({stored}, &unreadable).value(0)))
-        json->insert(key, path);
+    if (path != stored.path && path != ResourceReferenceUtils::toString(stored.file(&unreadable)))
+        json->insert(stored.pathKey, path);
 }
 
 } // namespace
@@ -169,7 +95,7 @@ void storePath(QJsonObject *json, QLatin1String key, const ResourceReferenceSPtr
 Result<Entry> Entry::fromJson(const QJsonObject &json)
 {
     QStringList unreadable;
-    Result<EntryMembers> members = readMembers(json);
+    Result<SampleMembers> members = SampleMembers::read(json);
     if (members.hasError())
         return members.ecatch();
     Entry entry = entryOf(*members, &unreadable);
@@ -184,13 +110,13 @@ Result<Entry> Entry::fromJson(const QJsonObject &json)
 
 QJsonObject Entry::toJson() const
 {
-    const EntryMembers before = readMembers(stored).valueOr({});
+    const SampleMembers before = SampleMembers::readOrNone(stored);
     QJsonObject json = stored;
     if (id != before.id || !json.contains(kId))
         json.insert(kId, id);
     if (name != before.name || !json.contains(kName))
         json.insert(kName, name);
-    storePath(&json, pathKey(MemberReader(stored)), msFile, before.path);
+    storePath(&json, msFile, before);
     storeReferences(&json, kTraces, kOldTraces, traces, before.traces);
     storeReferences(&json, kExtraReferences, kOldExtraReferences, extraReferences, before.extraReferences);
     storeChange(&json, kReference, isReference, before.isReference, isReference);

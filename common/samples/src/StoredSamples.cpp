@@ -1,6 +1,9 @@
 #include "orv/samples/StoredSamples.h"
 
+#include "internal/SampleMembers.h"
 #include "internal/WrittenForm.h"
+
+#include <QJsonArray>
 
 #include <utility>
 
@@ -32,6 +35,23 @@ const SamplesAndTracesContent &StoredSamples::content() const
             m_json ? SamplesAndTracesContent::fromJson(*m_json).valueOr({}) : SamplesAndTracesContent();
     }
     return *m_content;
+}
+
+QList<ResourceReferenceSPtr> StoredSamples::references() const
+{
+    if (m_content || !m_json)
+        return content().references();
+    QList<ResourceReferenceSPtr> references;
+    const QJsonArray samples = m_json->value(QLatin1String("Samples")).toArray();
+    references.reserve(samples.size());
+    for (const auto sample : samples) {
+        const SampleMembers members = SampleMembers::readOrNone(sample.toObject());
+        // The written form holds no text that is none.
+        QStringList unreadable;
+        references += SampleMembers::referencesOf(
+            QStringList{members.path} + members.traces + members.extraReferences, &unreadable);
+    }
+    return references;
 }
 
 SamplesAndTracesContent StoredSamples::take()

@@ -157,7 +157,8 @@ bool Content::isKarvonOnlyOrPreviewProject() const
 QList<ResourceReferenceSPtr> Content::allReferences() const
 {
     UniqueReferences references;
-    references.add(samplesAndTraces().references());
+    if (const SamplesTableItem *samples = samplesTable())
+        references.add(samples->references());
     QList<KeyValueItem *> settings;
     for (BaseItem *item : findAllItems(allItems())) {
         if (const auto *databases = qobject_cast<SequenceDatabasesTableItem *>(item))

@@ -5,6 +5,7 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QRandomGenerator>
 #include <QSignalSpy>
 
 #include <limits>
@@ -73,6 +74,8 @@ class TestSamplesAndTracesTables : public OrvTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void whatIsWrittenIsTheContentAfterAnyEdit_data();
+    void whatIsWrittenIsTheContentAfterAnyEdit();
     void whatNobodyEditsComesBack();
     void anEditChangesItsCellAlone();
     void undoneEditsLeaveNothing();
@@ -337,6 +340,50 @@ void TestSamplesAndTracesTables::highestIdsAreNoTrap()
     tables.samples()->insertRows(2, 2);
     QCOMPARE(tables.entries()[2].id, 2);
     QCOMPARE(tables.entries()[3].id, 3);
+}
+
+void TestSamplesAndTracesTables::whatIsWrittenIsTheContentAfterAnyEdit_data()
+{
+    QTest::addColumn<QJsonObject>("table");
+
+    QTest::newRow("listed columns") << twoSamples();
+    QTest::newRow("columns of the members alone") << parsed(
+        R"({"Samples":[{"SamplesId":1,"SampleName":"A","Plate":3},{"SamplesId":2,"SampleName":"B","Plate":"x"},
+            {"SamplesId":3,"SampleName":"C","FilePath":"/c.raw","Lot":true}]})");
+}
+
+void TestSamplesAndTracesTables::whatIsWrittenIsTheContentAfterAnyEdit()
+{
+    QFETCH(QJsonObject, table);
+    QRandomGenerator random(7);
+    Tables tables(table);
+    const SamplesAndTracesTables::Sheet sheet = tables.samples();
+    for (int i = 0; i < 400; ++i) {
+        const int row = int(random.bounded(std::max(sheet->rowCount(), 1)));
+        const int column = int(random.bounded(sheet->columnCount()));
+        Error error;
+        switch (random.bounded(6)) {
+        case 0:
+            error = sheet->insertRows(row, {QStringList(sheet->columnCount())}, u"Insert"_s);
+            break;
+        case 1:
+            sheet->removeRows({row});
+            break;
+        case 2:
+            sheet->history()->undo();
+            break;
+        case 3:
+            sheet->history()->redo();
+            break;
+        default:
+            if (row < sheet->rowCount())
+                error = sheet->setText(row, column, QString::number(random.bounded(9)));
+        }
+        QVERIFY(!error.hasError());
+        // Most are read, some edits come together.
+        if (random.bounded(3) > 0)
+            QCOMPARE(tables.jsonContent(), sheet->history()->index() > 0 ? tables.content().toJson() : table);
+    }
 }
 
 ORV_REGISTER_TEST(TestSamplesAndTracesTables)

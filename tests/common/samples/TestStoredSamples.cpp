@@ -120,6 +120,10 @@ private Q_SLOTS:
     void whatWasLeftOutIsWritten_data();
     void whatWasLeftOutIsWritten();
     void wrongMembersFailAtOnce();
+    void theirReferencesAreThoseOfTheirContent();
+    void theFirstWrongMemberIsTold_data();
+    void theFirstWrongMemberIsTold();
+    void wrongMembersThatNobodyAsksForAreNoFault();
     void emptyOnesHaveNoSamples();
 };
 
@@ -213,6 +217,67 @@ void TestStoredSamples::wrongMembersFailAtOnce()
     QCOMPARE(samples.error().code(), ErrorCode::InvalidContent);
     QCOMPARE(samples.error().errorMessage(), u"\"SampleType\" must be a string, but there is a number."_s);
     QVERIFY(samples.error().details().contains(u"It is element 1 of \"Samples\"."_s));
+}
+
+void TestStoredSamples::theirReferencesAreThoseOfTheirContent()
+{
+    const auto textsOf = [](const QList<ResourceReferenceSPtr> &references) {
+        QStringList texts;
+        for (const ResourceReferenceSPtr &reference : references)
+            texts.append(reference->text());
+        return texts;
+    };
+    const LogCapture log;
+    qsizetype found = 0;
+    for (quint32 seed = 1; seed <= 2000; ++seed) {
+        const QJsonObject table = AnyTable(seed).table();
+        const Result<StoredSamples> samples = StoredSamples::fromJson(table);
+        if (samples.hasError())
+            continue;
+        const QStringList texts = textsOf(samples->references());
+        QVERIFY2(texts == textsOf(samples->content().references()), qPrintable(u"seed %1"_s.arg(seed)));
+        found += texts.size();
+    }
+    QVERIFY(found > 100);
+    const Result<StoredSamples> samples = StoredSamples::fromJson(parsed(R"({"Samples":[
+        {"SamplesId":1,"SampleName":"A","SamplePath":"/a.raw","FilePath":"/old.raw","Traces":["/t.csv","/t.csv"]},
+        {"SamplesId":2,"SampleName":"B","FilePath":"","TracesMs":"/m.csv","Ms2Search":"/s","Plate":"/p"}]})"));
+    QVERIFY(!samples.hasError());
+    QCOMPARE(textsOf(samples->references()),
+             QStringList({u"/a.raw"_s, u"/t.csv"_s, u"/t.csv"_s, u"/m.csv"_s, u"/s"_s}));
+}
+
+void TestStoredSamples::theFirstWrongMemberIsTold_data()
+{
+    QTest::addColumn<QByteArray>("sample");
+    QTest::addColumn<QString>("told");
+
+    QTest::newRow("two of them") << QByteArray(R"({"SamplesId":"1","SampleName":2})")
+                                 << u"\"SamplesId\" must be a number, but there is a string."_s;
+    QTest::newRow("no whole number") << QByteArray(R"({"SamplesId":1.5})")
+                                     << u"\"SamplesId\" must be a whole number."_s;
+    QTest::newRow("an old member for a null one")
+        << QByteArray(R"({"SamplesId":1,"SamplePath":null,"FileName":{}})")
+        << u"\"FileName\" must be a string, but there is an object."_s;
+}
+
+void TestStoredSamples::theFirstWrongMemberIsTold()
+{
+    QFETCH(QByteArray, sample);
+    const Result<SamplesInput::Entry> entry = SamplesInput::Entry::fromJson(parsed(sample));
+    QVERIFY(entry.hasError());
+    QTEST(entry.error().errorMessage(), "told");
+}
+
+void TestStoredSamples::wrongMembersThatNobodyAsksForAreNoFault()
+{
+    const auto entry = SamplesInput::Entry::fromJson(parsed(
+        R"({"SamplesId":4,"SampleName":"A","SamplePath":"/a.raw","FilePath":7,"Traces":[],"TracesMs":[]})"));
+    QVERIFY(!entry.hasError());
+    QCOMPARE(entry->id, 4);
+    QCOMPARE(entry->name, u"A"_s);
+    QCOMPARE(entry->msFile->text(), u"/a.raw"_s);
+    QVERIFY(entry->traces.isEmpty());
 }
 
 void TestStoredSamples::emptyOnesHaveNoSamples()

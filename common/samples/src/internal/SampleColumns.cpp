@@ -154,23 +154,23 @@ Column customColumn(const CustomColumn &custom)
 
 RecordSheet<Sample>::Columns columns(const CustomColumns &custom)
 {
-    using Tr = SampleColumnsTr;
     RecordSheet<Sample>::Columns columns = {
         nameColumn(),
         fileColumn(),
         referenceColumn(),
-        filesColumn(Members::kTraces, Tr::tr("Trace files"),
-                    Tr::tr("Files with traces of the sample, such as UV in text form, separated by \";\"."),
+        filesColumn(Members::kTraces, SampleColumnsTr::tr("Trace files"),
+                    SampleColumnsTr::tr(
+                        "Files with traces of the sample, such as UV in text form, separated by \";\"."),
                     &Entry::traces),
-        filesColumn(Members::kExtraReferences, Tr::tr("Search results"),
-                    Tr::tr("Results of searches and other companions, separated by \";\"."),
+        filesColumn(Members::kExtraReferences, SampleColumnsTr::tr("Search results"),
+                    SampleColumnsTr::tr("Results of searches and other companions, separated by \";\"."),
                     &Entry::extraReferences),
-        textColumn(Members::kSampleType, Tr::tr("Sample type"), Tr::tr("What kind of sample it is."),
-                   &Entry::sampleType),
-        textColumn(Members::kDigestion, Tr::tr("Digestion"), Tr::tr("How the sample was digested."),
-                   &Entry::digestion),
-        textColumn(Members::kTimeUnit, Tr::tr("Time unit"), Tr::tr("Of times in the files of traces."),
-                   &Entry::timeUnit),
+        textColumn(Members::kSampleType, SampleColumnsTr::tr("Sample type"),
+                   SampleColumnsTr::tr("What kind of sample it is."), &Entry::sampleType),
+        textColumn(Members::kDigestion, SampleColumnsTr::tr("Digestion"),
+                   SampleColumnsTr::tr("How the sample was digested."), &Entry::digestion),
+        textColumn(Members::kTimeUnit, SampleColumnsTr::tr("Time unit"),
+                   SampleColumnsTr::tr("Of times in the files of traces."), &Entry::timeUnit),
     };
     for (const CustomColumn &column : custom.columns())
         columns.append(customColumn(column));

@@ -289,19 +289,20 @@ QList<int> idsIn(QStringView text)
 
 RecordSheet<Trace>::Columns ofTraces(const PresetNames &presets, const SampleCodes &samples)
 {
-    using Tr = TraceColumnsTr;
-    const TableColumn use = described(QLatin1String("imported"), Tr::tr("Use"), TableColumnKind::Choice,
-                                      Tr::tr("Whether the trace is imported."));
+    const TableColumn use =
+        described(QLatin1String("imported"), TraceColumnsTr::tr("Use"), TableColumnKind::Choice,
+                  TraceColumnsTr::tr("Whether the trace is imported."));
     return {
         yesNoColumn<Trace>(
             use, [](const Trace &trace) { return trace.isImported(); },
             [](Trace *trace, bool isUsed) { trace->setImported(isUsed); }),
         typeColumn(),
-        infoColumn(QLatin1String("channelName"), Tr::tr("Channel"),
-                   Tr::tr("What the file calls the trace; of a text file its name."),
+        infoColumn(QLatin1String("channelName"), TraceColumnsTr::tr("Channel"),
+                   TraceColumnsTr::tr("What the file calls the trace; of a text file its name."),
                    &TraceInfo::channelName),
-        infoColumn(QLatin1String("channelId"), Tr::tr("Channel id"),
-                   Tr::tr("By which the reader of the file finds the trace."), &TraceInfo::channelId),
+        infoColumn(QLatin1String("channelId"), TraceColumnsTr::tr("Channel id"),
+                   TraceColumnsTr::tr("By which the reader of the file finds the trace."),
+                   &TraceInfo::channelId),
         samplesColumn(samples),
         presetColumn(presets),
     };
@@ -309,31 +310,33 @@ RecordSheet<Trace>::Columns ofTraces(const PresetNames &presets, const SampleCod
 
 RecordSheet<Preset>::Columns ofPresets()
 {
-    using Tr = TraceColumnsTr;
     using Kind = TableColumnKind;
-    TableColumn interval = described(QLatin1String("intervalTimeMinutes"), Tr::tr("Interval"), Kind::Number,
-                                     Tr::tr("Shortest distance of two peaks."));
-    interval.unit = Tr::tr("min");
+    TableColumn interval = described(QLatin1String("intervalTimeMinutes"), TraceColumnsTr::tr("Interval"),
+                                     Kind::Number, TraceColumnsTr::tr("Shortest distance of two peaks."));
+    interval.unit = TraceColumnsTr::tr("min");
     return {
         presetNameColumn(),
-        timeColumn(described(kStart, Tr::tr("From"), Kind::Number,
-                             Tr::tr("Where peaks begin to be looked for; empty for the whole trace.")),
-                   &Preset::TimeRange::start),
-        timeColumn(described(kEnd, Tr::tr("To"), Kind::Number,
-                             Tr::tr("Where peaks end to be looked for; empty for the whole trace.")),
-                   &Preset::TimeRange::end),
-        flagColumn(described(QLatin1String("findsPeaks"), Tr::tr("Find peaks"), Kind::Choice,
-                             Tr::tr("Whether peaks are looked for at all.")),
+        timeColumn(
+            described(kStart, TraceColumnsTr::tr("From"), Kind::Number,
+                      TraceColumnsTr::tr("Where peaks begin to be looked for; empty for the whole trace.")),
+            &Preset::TimeRange::start),
+        timeColumn(
+            described(kEnd, TraceColumnsTr::tr("To"), Kind::Number,
+                      TraceColumnsTr::tr("Where peaks end to be looked for; empty for the whole trace.")),
+            &Preset::TimeRange::end),
+        flagColumn(described(QLatin1String("findsPeaks"), TraceColumnsTr::tr("Find peaks"), Kind::Choice,
+                             TraceColumnsTr::tr("Whether peaks are looked for at all.")),
                    &Options::findsPeaks),
-        numberColumn(described(QLatin1String("smoothSigma"), Tr::tr("Smoothing"), Kind::Number,
-                               Tr::tr("Sigma of the Gaussian that smooths the trace.")),
+        numberColumn(described(QLatin1String("smoothSigma"), TraceColumnsTr::tr("Smoothing"), Kind::Number,
+                               TraceColumnsTr::tr("Sigma of the Gaussian that smooths the trace.")),
                      &Options::smoothSigma),
         numberColumn(interval, &Options::intervalTimeMinutes),
-        flagColumn(described(QLatin1String("correctsBaseline"), Tr::tr("Correct baseline"), Kind::Choice,
-                             Tr::tr("Whether the baseline is subtracted first.")),
+        flagColumn(described(QLatin1String("correctsBaseline"), TraceColumnsTr::tr("Correct baseline"),
+                             Kind::Choice, TraceColumnsTr::tr("Whether the baseline is subtracted first.")),
                    &Options::correctsBaseline),
-        numberColumn(described(QLatin1String("smoothSigmaBaseline"), Tr::tr("Baseline smoothing"),
-                               Kind::Number, Tr::tr("Sigma of the Gaussian that smooths the baseline.")),
+        numberColumn(described(QLatin1String("smoothSigmaBaseline"), TraceColumnsTr::tr("Baseline smoothing"),
+                               Kind::Number,
+                               TraceColumnsTr::tr("Sigma of the Gaussian that smooths the baseline.")),
                      &Options::smoothSigmaBaseline),
         autoColumn(),
         widthColumn(),

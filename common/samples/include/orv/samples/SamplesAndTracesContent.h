@@ -45,7 +45,14 @@ public:
     }
 
 private:
+    friend class SamplesAndTracesTables;
+
     [[nodiscard]] QJsonObject presentForm() const;
+    /// With samples that are written already, and the custom columns that show by them.
+    [[nodiscard]] QJsonObject presentForm(const QJsonArray &array,
+                                          const QList<SamplesInput::CustomColumn> &impliedColumns) const;
+    /// \a json, or the tree of rows that is read as the same.
+    [[nodiscard]] QJsonObject asStored(const QJsonObject &json) const;
 
     QJsonObject m_stored;
 };

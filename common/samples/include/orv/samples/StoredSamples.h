@@ -26,6 +26,8 @@ public:
 
     /// Stays valid until the object is assigned to or destroyed.
     [[nodiscard]] const SamplesAndTracesContent &content() const;
+    /// What content().references() answers. Samples that nobody has asked for aren't taken apart for it.
+    [[nodiscard]] QList<ResourceReferenceSPtr> references() const;
     /// The content, of which this object keeps nothing: it can be changed without being copied.
     [[nodiscard]] SamplesAndTracesContent take();
     /// Whether it is what was read, unchanged.

@@ -19,6 +19,8 @@ public:
     ~SamplesTableItem() override;
 
     [[nodiscard]] const SamplesAndTracesContent &content() const { return m_samples.content(); }
+    /// Those of the content.
+    [[nodiscard]] QList<ResourceReferenceSPtr> references() const { return m_samples.references(); }
     /// Announces changed() alone.
     void setContent(const SamplesAndTracesContent &content)
     {
