@@ -4,6 +4,9 @@
 
 #include <QPointer>
 
+#include <algorithm>
+#include <utility>
+
 namespace orv {
 
 TableHistory::TableHistory(QObject *parent)
@@ -47,22 +50,33 @@ void TableHistory::redo()
 
 void TableHistory::clear()
 {
-    m_edits.clear();
+    drop(0, m_edits.size());
     if (std::exchange(m_index, 0) != 0)
         Q_EMIT indexChanged();
 }
 
-qsizetype TableHistory::heldBytes() const
+qsizetype TableHistory::forget(int steps)
+{
+    const int count = std::clamp(steps, 0, m_index);
+    m_index -= count;
+    m_forgotten += count;
+    return drop(0, size_t(count));
+}
+
+qsizetype TableHistory::drop(size_t first, size_t last)
 {
     qsizetype bytes = 0;
-    for (const std::shared_ptr<TableEdit> &edit : m_edits)
-        bytes += edit->heldBytes();
+    for (size_t i = first; i < last; ++i)
+        bytes += m_edits[i]->heldBytes();
+    m_edits.erase(m_edits.begin() + qsizetype(first), m_edits.begin() + qsizetype(last));
+    m_heldBytes -= bytes;
     return bytes;
 }
 
 void TableHistory::push(std::unique_ptr<TableEdit> edit)
 {
-    m_edits.resize(size_t(m_index));
+    drop(size_t(m_index), m_edits.size());
+    m_heldBytes += edit->heldBytes();
     m_edits.push_back(std::move(edit));
     redo();
 }

@@ -238,6 +238,7 @@ void TableModel::setRowRemarks(const QHash<quint32, QString> &remarks)
     if (remarks == d->remarks)
         return;
     d->remarks = remarks;
+    d->isNarrowingAllowed = false;
     if (d->shown.size() > 0)
         Q_EMIT headerDataChanged(Qt::Vertical, 0, d->shown.size() - 1);
     tellNotesChanged();

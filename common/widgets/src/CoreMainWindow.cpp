@@ -1,5 +1,7 @@
 #include "orv/widgets/CoreMainWindow.h"
 
+#include "FocusSigns.h"
+
 #include <orv/widgets/ControlHelp.h>
 
 namespace orv {
@@ -20,6 +22,7 @@ CoreMainWindow::CoreMainWindow(const ApplicationInfo &info, QWidget *parent)
 {
     mainWindows().append(this);
     ControlHelp::install();
+    FocusSigns::install();
 }
 
 CoreMainWindow::~CoreMainWindow()

@@ -25,13 +25,14 @@ NoticeBar::NoticeBar(QWidget *parent)
     auto *const layout = new QHBoxLayout(this);
     layout->addWidget(m_sign);
     layout->addWidget(m_text, 1);
-    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    m_sign->setPixmap(Icons::icon(IconName::Error).pixmap(QSize(side, side), devicePixelRatioF()));
     hide();
 }
 
-void NoticeBar::setText(const QString &text)
+void NoticeBar::setText(const QString &text, Kind kind)
 {
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    const QIcon sign = Icons::icon(kind == Kind::Error ? IconName::Error : IconName::Warning);
+    m_sign->setPixmap(sign.pixmap(QSize(side, side), devicePixelRatioF()));
     m_text->setText(beginningOf(text));
     m_text->setAccessibleName(m_text->text());
     setVisible(!text.isEmpty());

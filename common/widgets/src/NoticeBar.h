@@ -15,8 +15,14 @@ class NoticeBar : public QFrame
 public:
     explicit NoticeBar(QWidget *parent = nullptr);
 
+    enum class Kind
+    {
+        Error,
+        Warning,
+    };
+
     /// Plain text; an empty one hides the bar.
-    void setText(const QString &text);
+    void setText(const QString &text, Kind kind = Kind::Error);
     [[nodiscard]] QString text() const;
 
 private:

@@ -43,4 +43,25 @@ void tellAfterEvents(const TableSheet &sheet, QObject *context, const std::funct
     });
 }
 
+void orderFocus(const QWidget &root, const QList<const QWidget *> &parts)
+{
+    QList<QList<QWidget *>> reached(parts.size());
+    for (QWidget *control = root.nextInFocusChain(); control != &root;
+         control = control->nextInFocusChain()) {
+        const bool isReached = control->focusPolicy() != Qt::NoFocus && !control->focusProxy();
+        for (qsizetype part = 0; isReached && part < parts.size(); ++part) {
+            if (parts[part] && parts[part]->isAncestorOf(control))
+                reached[part].append(control);
+        }
+    }
+    QWidget *last = nullptr;
+    for (const QList<QWidget *> &controls : std::as_const(reached)) {
+        for (QWidget *control : controls) {
+            if (last)
+                QWidget::setTabOrder(last, control);
+            last = control;
+        }
+    }
+}
+
 } // namespace orv::TablePage

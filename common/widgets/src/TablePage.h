@@ -2,12 +2,14 @@
 
 #include <orv/table_model/TableModel.h>
 
+#include <QList>
 #include <QString>
 
 #include <functional>
 #include <memory>
 
 QT_FORWARD_DECLARE_CLASS(QObject)
+QT_FORWARD_DECLARE_CLASS(QWidget)
 
 namespace orv {
 
@@ -27,6 +29,9 @@ namespace TablePage {
 /// Calls \a tell once for all steps that one event does, behind it: whoever listens may do anything, closing
 /// the window included, which must not happen inside of a cell's editor.
 void tellAfterEvents(const TableSheet &sheet, QObject *context, const std::function<void()> &tell);
+
+/// Tab goes through the parts of a widget in this order, and within each as before.
+void orderFocus(const QWidget &root, const QList<const QWidget *> &parts);
 
 } // namespace TablePage
 

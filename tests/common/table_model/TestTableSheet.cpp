@@ -82,6 +82,7 @@ class TestTableSheet : public OrvTest
 private Q_SLOTS:
     void memoryGrowsByWhatWasEditedWhateverTheRows();
     void undoAndRedoHoldNothingMore();
+    void oldStepsAreForgotten();
     void loadsRowByRow();
     void raggedRowsAreFilledAndCut();
     void cellsAreChangedInOneStep();
@@ -157,6 +158,32 @@ void TestTableSheet::undoAndRedoHoldNothingMore()
     }
     QCOMPARE(sheet.allTexts(), edited);
     QCOMPARE(sheet.heldBytes(), before);
+}
+
+void TestTableSheet::oldStepsAreForgotten()
+{
+    TableSheet sheet(TableFixture::columns());
+    QVERIFY(!sheet.load(manyPeptides(10)).hasError());
+    for (const QString &text : {u"A"_s, u"B"_s, u"C"_s, u"D"_s})
+        QVERIFY(!sheet.setText(0, 0, text).hasError());
+    TableHistory *history = sheet.history();
+    history->undo();
+    const qsizetype held = history->heldBytes();
+    QCOMPARE(history->forget(2), held / 2);
+    QCOMPARE(history->heldBytes(), held / 2);
+    QCOMPARE(history->forgotten(), 2);
+    QCOMPARE(history->index(), 1);
+    QCOMPARE(sheet.text(0, 0), u"C"_s);
+    // Steps that were undone aren't old.
+    QCOMPARE(history->forget(7), held / 4);
+    QCOMPARE(history->forget(-1), 0);
+    QVERIFY(!history->canUndo());
+    history->redo();
+    QCOMPARE(sheet.text(0, 0), u"D"_s);
+    history->undo();
+    QCOMPARE(sheet.text(0, 0), u"C"_s);
+    history->clear();
+    QCOMPARE(history->heldBytes(), 0);
 }
 
 void TestTableSheet::loadsRowByRow()

@@ -159,9 +159,12 @@ QList<quint32> TableModel::Private::filtered(const QList<quint32> &ids) const
             columns.append(column);
     }
     const TableRowMatcher matcher(*sheet, filter, columns, sign);
+    // What a check found about a row is a problem of it, too.
+    const TableRowMatcher words(*sheet, {filter.text, false}, columns, sign);
     QList<quint32> result;
-    std::copy_if(ids.cbegin(), ids.cend(), std::back_inserter(result),
-                 [&](quint32 id) { return matcher.matches(id); });
+    std::copy_if(ids.cbegin(), ids.cend(), std::back_inserter(result), [&](quint32 id) {
+        return matcher.matches(id) || (filter.isOnlyProblems && remarks.contains(id) && words.matches(id));
+    });
     return result;
 }
 

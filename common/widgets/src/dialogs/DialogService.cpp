@@ -1,5 +1,7 @@
 #include "orv/widgets/DialogService.h"
 
+#include "../FocusSigns.h"
+
 #include <orv/core/Logging.h>
 #include <orv/widgets/ControlHelp.h>
 
@@ -48,6 +50,7 @@ std::optional<DialogAnswer> answerWithoutPerson(const DialogRequest &request)
 void prepare(QDialog &dialog)
 {
     ControlHelp::install();
+    FocusSigns::install();
     const QList<QDialogButtonBox *> boxes = dialog.findChildren<QDialogButtonBox *>();
     for (const QDialogButtonBox *box : boxes) {
         for (QAbstractButton *button : box->buttons())

@@ -22,7 +22,7 @@ struct FileQuestion
     DialogRequest::Kind kind;
     QString title;
     QString start;
-    FileExtensionsNameFilter filter;
+    QStringList filters; ///< lines of the dialog, before that for all files
     FileSystemSettings::DirectoryLocation location;
 };
 
@@ -54,8 +54,8 @@ void prepare(QFileDialog &dialog, const FileQuestion &question)
     if (!info.isDir())
         dialog.selectFile(info.fileName());
     hideCompletionsOnReturn(dialog);
-    if (!question.filter.isEmpty())
-        dialog.setNameFilters(question.filter.nameFilters() << QFileDialog::tr("All Files (*)"));
+    if (!question.filters.isEmpty())
+        dialog.setNameFilters(QStringList(question.filters) << QFileDialog::tr("All Files (*)"));
 }
 
 /// A dialog that goes together with the question whether to replace a file is gone before window managers
@@ -86,7 +86,7 @@ QStringList askForPaths(QWidget *parent, const FileQuestion &question,
     DialogRequest request;
     request.kind = question.kind;
     request.title = question.title;
-    request.text = question.filter.nameFilters().join(u'\n');
+    request.text = question.filters.join(u'\n');
     request.startPath = question.start;
     const std::optional<DialogAnswer> answer = DialogService::answerWithoutPerson(request);
     QStringList paths =
@@ -115,6 +115,23 @@ bool mayReplace(QWidget *parent, const QString &title, const QString &path)
            QMessageBox::Yes;
 }
 
+/// What most people look for first: one line for all of it.
+QStringList sampleFilters()
+{
+    QStringList masks;
+    for (const QString &suffix : FileTypes::msDataSuffixes())
+        masks.append(QStringLiteral("*.") + suffix);
+    const QList<FileType> projects(std::begin(MirelFileTypes::MULTIDOCALLOWEDFILES),
+                                   std::end(MirelFileTypes::MULTIDOCALLOWEDFILES));
+    const FileExtensionsNameFilter ofProjects(projects);
+    const auto line = [](const QString &words, const QStringList &of) {
+        return QStringLiteral("%1 (%2)").arg(words, of.join(u' '));
+    };
+    return QStringList{line(QFileDialog::tr("Samples"), masks + ofProjects.fileMasks()),
+                       line(QFileDialog::tr("Mass spectra"), masks)} +
+           ofProjects.nameFilters().mid(1);
+}
+
 QString firstSuffix(const FileExtensionsNameFilter &filter)
 {
     return filter.isEmpty() ? QString() : FileTypes::suffixes(filter.types().constFirst()).value(0);
@@ -126,18 +143,27 @@ QString ORVFileDialog::getOpenFileName(QWidget *parent, const QString &title, co
                                        const FileExtensionsNameFilter &filter,
                                        const FileSystemSettings::DirectoryLocation &location)
 {
-    const FileQuestion question = {DialogRequest::Kind::OpenFile, title, startOf(startPath, location), filter,
-                                   location};
+    const FileQuestion question = {DialogRequest::Kind::OpenFile, title, startOf(startPath, location),
+                                   filter.nameFilters(), location};
     return askForPath(parent, question,
                       [](QFileDialog &dialog) { dialog.setFileMode(QFileDialog::ExistingFile); });
+}
+
+QStringList ORVFileDialog::getSampleFileNames(QWidget *parent, const QString &title,
+                                              const FileSystemSettings::DirectoryLocation &location)
+{
+    const FileQuestion question = {DialogRequest::Kind::OpenFile, title, startOf({}, location),
+                                   sampleFilters(), location};
+    return askForPaths(parent, question,
+                       [](QFileDialog &dialog) { dialog.setFileMode(QFileDialog::ExistingFiles); });
 }
 
 QStringList ORVFileDialog::getOpenFileNames(QWidget *parent, const QString &title, const QString &startPath,
                                             const FileExtensionsNameFilter &filter,
                                             const FileSystemSettings::DirectoryLocation &location)
 {
-    const FileQuestion question = {DialogRequest::Kind::OpenFile, title, startOf(startPath, location), filter,
-                                   location};
+    const FileQuestion question = {DialogRequest::Kind::OpenFile, title, startOf(startPath, location),
+                                   filter.nameFilters(), location};
     return askForPaths(parent, question,
                        [](QFileDialog &dialog) { dialog.setFileMode(QFileDialog::ExistingFiles); });
 }
@@ -147,8 +173,8 @@ QString ORVFileDialog::getSaveFileName(QWidget *parent, const QString &title, co
                                        const FileSystemSettings::DirectoryLocation &location,
                                        OverwritePrompt prompt)
 {
-    const FileQuestion question = {DialogRequest::Kind::SaveFile, title, startOf(startPath, location), filter,
-                                   location};
+    const FileQuestion question = {DialogRequest::Kind::SaveFile, title, startOf(startPath, location),
+                                   filter.nameFilters(), location};
     QString path = askForPath(parent, question, [&](QFileDialog &dialog) {
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         dialog.setFileMode(QFileDialog::AnyFile);

@@ -55,21 +55,21 @@ QString adductProblem(QStringView text)
 
 QList<TableColumn> deconvolutionColumns(const QString &adduct)
 {
-    using Tr = OptionsWidgetBase;
-    TableColumn name{.name = QStringLiteral("Name"), .title = Tr::tr("Name")};
-    name.explanation = Tr::tr("What these options are for, such as \"Denatured\".");
+    TableColumn name{.name = QStringLiteral("Name"), .title = OptionsWidgetBase::tr("Name")};
+    name.explanation = OptionsWidgetBase::tr("What these options are for, such as \"Denatured\".");
     QList<TableColumn> columns = {name};
     for (const NumberRow &row : kOptionNumbers) {
-        TableColumn column{
-            .name = QString::fromLatin1(row.name), .title = Tr::tr(row.title), .kind = row.kind};
+        TableColumn column{.name = QString::fromLatin1(row.name),
+                           .title = OptionsWidgetBase::tr(row.title),
+                           .kind = row.kind};
         column.unit = QString::fromLatin1(row.unit);
-        column.explanation = Tr::tr(row.explanation);
+        column.explanation = OptionsWidgetBase::tr(row.explanation);
         column.minimum = row.kind == TableColumnKind::Integer ? 1 : 0;
         column.defaultText = defaultOf(row);
         columns.append(column);
     }
-    TableColumn carrier{.name = QStringLiteral("Adduct"), .title = Tr::tr("Adduct")};
-    carrier.explanation = Tr::tr("The formula of what carries one charge.");
+    TableColumn carrier{.name = QStringLiteral("Adduct"), .title = OptionsWidgetBase::tr("Adduct")};
+    carrier.explanation = OptionsWidgetBase::tr("The formula of what carries one charge.");
     carrier.isRequired = true;
     carrier.defaultText = adduct;
     carrier.check = adductProblem;

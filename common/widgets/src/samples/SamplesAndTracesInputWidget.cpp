@@ -2,6 +2,7 @@
 
 #include "../NoticeBar.h"
 #include "../TablePage.h"
+#include "AddedSamples.h"
 #include "ColumnDialog.h"
 #include "SampleDrop.h"
 #include "SampleModes.h"
@@ -47,17 +48,6 @@ bool isEmptyColumn(const TableSheet &sheet, int column)
     return true;
 }
 
-/// Names the first ones, as a line has no room for thousands.
-QString wordsOnLeftOut(const QStringList &paths)
-{
-    constexpr qsizetype kNamed = 3;
-    const QString named = paths.mid(0, kNamed).join(QLatin1String(", "));
-    const qsizetype more = paths.size() - kNamed;
-    return more > 0 ? SamplesAndTracesInputWidget::tr("Without samples: %1 and %n more", nullptr, int(more))
-                          .arg(named)
-                    : SamplesAndTracesInputWidget::tr("Without samples: %1").arg(named);
-}
-
 /// Nobody waits for the thread, as a folder on a network drive may never be read.
 QFuture<Found> findInBackground(const QStringList &paths)
 {
@@ -87,7 +77,7 @@ public:
     QPointer<TableEditor> samples;
     QPointer<TableEditor> traces;
     QPointer<TableEditor> presets;
-    QCheckBox *onlySelected = nullptr;
+    QPointer<QCheckBox> onlySelected;
     QList<SamplesInput::Mode> modes;
     QUrl baseUrl;
     QFutureWatcher<Found> *search = nullptr;
@@ -126,18 +116,15 @@ SamplesAndTracesInputWidget::SamplesAndTracesInputWidget(SampleFileChecker *chec
     });
     connect(d->search, &QFutureWatcher<Found>::finished, this, [this] {
         const Found found = d->search->result();
-        const Result<int> added = d->tables->addFiles(found.samples);
-        QStringList said = {added.hasError() ? added.error().errorMessage()
-                                             : tr("%n sample(s) added.", nullptr, *added)};
+        QStringList leftOut;
         if (!found.leftOut.isEmpty())
-            said.append(wordsOnLeftOut(found.leftOut));
+            leftOut.append(AddedSamples::wordsOnLeftOut(found.leftOut));
         if (found.isCut)
-            said.append(tr("There were too many files or folders to look into all."));
-        say(said.join(u' '));
+            leftOut.append(tr("There were too many files or folders to look into all."));
+        d->notice->setText(leftOut.join(u' '), NoticeBar::Kind::Warning);
+        (void)addSamples(found.samples);
         searchNext();
     });
-    buildSamples();
-    buildTraces();
 }
 
 SamplesAndTracesInputWidget::~SamplesAndTracesInputWidget()
@@ -145,10 +132,29 @@ SamplesAndTracesInputWidget::~SamplesAndTracesInputWidget()
     d->tables->disconnect(this);
     d->checker->disconnect(this);
     d->search->disconnect(this);
+    // Until traces were shown it belongs to no page.
+    if (!d->onlySelected->parent())
+        delete d->onlySelected;
     // Tables take what is being typed while they go; then everything else is still there.
     delete d->samples;
     delete d->traces;
     delete d->presets;
+}
+
+/// Most widgets get their content before anybody looks at them; tables without it would be made in vain.
+void SamplesAndTracesInputWidget::needTables()
+{
+    if (d->samples)
+        return;
+    buildSamples();
+    buildTraces();
+}
+
+bool SamplesAndTracesInputWidget::event(QEvent *event)
+{
+    if (event->type() == QEvent::Polish)
+        needTables();
+    return QWidget::event(event);
 }
 
 void SamplesAndTracesInputWidget::build()
@@ -170,8 +176,8 @@ void SamplesAndTracesInputWidget::build()
     addCommands();
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(d->notice);
     layout->addWidget(d->bar);
+    layout->addWidget(d->notice);
     layout->addWidget(d->splitter, 1);
     d->splitter->addWidget(d->pane);
 }
@@ -183,19 +189,23 @@ void SamplesAndTracesInputWidget::addCommands()
         QAction *const action = d->bar->addAction(Icons::icon(icon), text, this, handler);
         action->setObjectName(QLatin1String(name));
         action->setToolTip(tip);
+        // A bar's buttons have letters only where these stand in what is told for icons.
+        action->setIconText(QString(text).remove(QLatin1String("...")));
         d->bar->widgetForAction(action)->setObjectName(QLatin1String(name));
     };
-    add("addFiles", IconName::Add, tr("Add &Files..."), tr("Add files as samples"),
+    add("addFiles", IconName::Add, tr("&Add Files..."), tr("Add files as samples"),
         &SamplesAndTracesInputWidget::chooseFiles);
     add("addFolder", IconName::Open, tr("Add Fol&der..."),
         tr("Add a folder of a vendor as one sample, or all samples that a folder holds"),
         &SamplesAndTracesInputWidget::chooseFolder);
-    add("nameByFiles", IconName::Edit, tr("Name by F&iles"),
+    add("nameByFiles", IconName::Edit, tr("&Name by Files"),
         tr("Give samples without a name that of their file"), [this] {
             const Result<int> named = d->tables->nameByFiles();
-            say(named.hasError() ? named.error().errorMessage() : tr("%n sample(s) named.", nullptr, *named));
+            say(named.hasError() ? named.error().errorMessage()
+                : *named == 0    ? tr("All samples with a file have names already.")
+                                 : tr("%n sample(s) named.", nullptr, *named));
         });
-    add("checkFiles", IconName::Find, tr("Check Fi&les"), tr("Look again whether the files are there"),
+    add("checkFiles", IconName::Find, tr("&Check Files"), tr("Look again whether the files are there"),
         [this] {
             d->checker->forget();
             d->samples->view()->tableModel()->tellNotesChanged();
@@ -212,6 +222,7 @@ void SamplesAndTracesInputWidget::addCommands()
     d->bar->addWidget(columns);
     d->showTraces = d->bar->addAction(tr("T&races"));
     d->showTraces->setObjectName(QStringLiteral("showTraces"));
+    d->showTraces->setIconText(d->showTraces->text());
     d->showTraces->setCheckable(true);
     d->showTraces->setToolTip(tr("Show the traces of the samples, and how peaks are found in them"));
     d->bar->widgetForAction(d->showTraces)->setObjectName(QStringLiteral("showTraces"));
@@ -252,6 +263,7 @@ void SamplesAndTracesInputWidget::buildSamples()
                                  this, [this, name] { askToRemove(name); });
     showColumns();
     setFocusProxy(d->samples);
+    orderFocus();
 }
 
 void SamplesAndTracesInputWidget::buildTraces()
@@ -288,6 +300,14 @@ void SamplesAndTracesInputWidget::buildTraces()
     d->pane->setCurrentIndex(std::max(current, 0));
     d->pane->setEnabled(!d->tables->isUnreadable());
     showTracesOfSelected();
+    orderFocus();
+}
+
+/// Tables are made anew with their columns, and what is made last would be reached last.
+void SamplesAndTracesInputWidget::orderFocus()
+{
+    const QList<const QWidget *> parts = {d->bar, d->notice, d->samples, d->pane};
+    TablePage::orderFocus(*this, parts);
 }
 
 QJsonObject SamplesAndTracesInputWidget::jsonContent() const
@@ -321,16 +341,36 @@ QList<SamplesInput::Entry> SamplesAndTracesInputWidget::samplesInput() const
 
 void SamplesAndTracesInputWidget::addNewSampleFiles(const QList<SamplePathAndName> &files)
 {
+    needTables();
     ++d->calls;
-    const Result<int> added = d->tables->addFiles(files);
+    const int added = addSamples(files);
     --d->calls;
-    say(added.hasError() ? added.error().errorMessage() : tr("%n sample(s) added.", nullptr, *added));
-    if (added.hasError() || *added == 0)
+    if (added == 0)
         return;
     const QPointer<SamplesAndTracesInputWidget> self(this);
     Q_EMIT samplesChanged(samplesInput());
     if (self)
         Q_EMIT edited();
+}
+
+/// Tells and shows what was added; how many.
+int SamplesAndTracesInputWidget::addSamples(const QList<SamplePathAndName> &files)
+{
+    const int before = int(samplesInput().size());
+    const Result<int> added = d->tables->addFiles(files);
+    if (added.hasError()) {
+        say(added.error().errorMessage());
+        return 0;
+    }
+    say(AddedSamples::wordsOnAdded(*added, files.size()));
+    if (*added == 0)
+        return 0;
+    TableView *const view = d->samples->view();
+    if (!view->isArranged())
+        view->fitColumns();
+    AddedSamples::showRows(*view, before, *added);
+    AddedSamples::showInAreas(*view->viewport(), view->visualRect(view->currentIndex()));
+    return *added;
 }
 
 bool SamplesAndTracesInputWidget::validate(QStringList *warnings, QStringList *errors,
@@ -342,13 +382,15 @@ bool SamplesAndTracesInputWidget::validate(QStringList *warnings, QStringList *e
 void SamplesAndTracesInputWidget::setModes(const QList<SamplesInput::Mode> &modes)
 {
     d->modes = modes;
-    showColumns();
+    if (d->samples)
+        showColumns();
 }
 
 void SamplesAndTracesInputWidget::setBaseUrl(const QUrl &baseUrl)
 {
     d->baseUrl = baseUrl;
-    d->samples->view()->tableModel()->tellNotesChanged();
+    if (d->samples)
+        d->samples->view()->tableModel()->tellNotesChanged();
 }
 
 QString SamplesAndTracesInputWidget::plainText() const
@@ -400,10 +442,31 @@ QString SamplesAndTracesInputWidget::noteOnSample(quint32 row, int column) const
     const SamplesInput::Entry &entry = entries[place];
     if (column == 0)
         return tr("id %1").arg(entry.id);
-    if (sheet->columns()[column].kind != TableColumnKind::File)
-        return {};
-    const auto answer = d->checker->answer(ResourceReferenceUtils::resolved(entry.msFile, d->baseUrl));
-    return answer ? answer->text : QString();
+    if (sheet->columns()[column].kind == TableColumnKind::File) {
+        const auto answer = d->checker->answer(ResourceReferenceUtils::resolved(entry.msFile, d->baseUrl));
+        return answer ? answer->text : QString();
+    }
+    if (column == sheet->columnOf(QStringLiteral("Traces")))
+        return noteOnMissing(entry.traces);
+    return column == sheet->columnOf(QStringLiteral("ExtraReferences")) ? noteOnMissing(entry.extraReferences)
+                                                                        : QString();
+}
+
+/// Which of several files aren't there; formats of companions are of no use.
+QString SamplesAndTracesInputWidget::noteOnMissing(const QList<ResourceReferenceSPtr> &files) const
+{
+    QStringList missing;
+    QString told;
+    for (const ResourceReferenceSPtr &file : files) {
+        const auto answer = d->checker->answer(ResourceReferenceUtils::resolved(file, d->baseUrl));
+        if (!answer || answer->state != SampleFileChecker::State::Missing)
+            continue;
+        missing.append(ResourceReferenceUtils::localName(file));
+        told = answer->text;
+    }
+    // The only file of a cell needs no name.
+    return missing.isEmpty() || files.size() == 1 ? told
+                                                  : tr("%1: %2").arg(told, missing.join(QLatin1String(", ")));
 }
 
 void SamplesAndTracesInputWidget::addPaths(const QStringList &paths)
@@ -424,7 +487,7 @@ void SamplesAndTracesInputWidget::searchNext()
 void SamplesAndTracesInputWidget::chooseFiles()
 {
     const QPointer<SamplesAndTracesInputWidget> self = this;
-    const QStringList paths = ORVFileDialog::getOpenFileNames(this, tr("Add Files"));
+    const QStringList paths = ORVFileDialog::getSampleFileNames(this, tr("Add Files"));
     if (self && !paths.isEmpty())
         addPaths(paths);
 }

@@ -41,22 +41,25 @@ void takeFasta(SequenceDatabaseItem *item, const QString &text)
 
 DatabaseSheet::Columns sequenceDatabaseColumns()
 {
-    using Tr = SequenceDatabasesWidget;
-    TableColumn file{.name = kFasta, .title = Tr::tr("FASTA file"), .kind = TableColumnKind::File};
+    TableColumn file{
+        .name = kFasta, .title = SequenceDatabasesWidget::tr("FASTA file"), .kind = TableColumnKind::File};
     file.isRequired = true;
-    file.explanation = Tr::tr("The file with the sequences that are searched.");
+    file.explanation = SequenceDatabasesWidget::tr("The file with the sequences that are searched.");
     file.fileFilter = FileExtensionsNameFilter{FileTypes::FASTA}.nameFilters().value(0);
     file.check = [](QStringView text) {
         const auto reference = ResourceReference::fromString(text.toString());
         if (reference.hasError())
-            return Tr::tr("\"%1\" is no reference to a file. Enter a path, or choose a file.").arg(text);
+            return SequenceDatabasesWidget::tr(
+                       "\"%1\" is no reference to a file. Enter a path, or choose a file.")
+                .arg(text);
         return FileTypes::isType((*reference)->name(), FileTypes::FASTA)
                    ? QString()
-                   : Tr::tr("Is not a FASTA file. Its name must end with one of: %1.")
+                   : SequenceDatabasesWidget::tr("Is not a FASTA file. Its name must end with one of: %1.")
                          .arg(FileTypes::suffixes(FileTypes::FASTA).join(QLatin1String(", ")));
     };
-    TableColumn species{.name = QStringLiteral("species"), .title = Tr::tr("Species")};
-    species.explanation = Tr::tr("The species that is taken from the file; empty for all sequences.");
+    TableColumn species{.name = QStringLiteral("species"), .title = SequenceDatabasesWidget::tr("Species")};
+    species.explanation =
+        SequenceDatabasesWidget::tr("The species that is taken from the file; empty for all sequences.");
     return {
         {file, fastaOf, takeFasta},
         {species, [](const SequenceDatabaseItem &item) { return item.species(); },

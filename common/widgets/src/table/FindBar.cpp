@@ -58,7 +58,7 @@ void FindBar::build()
     rows->setContentsMargins({});
     QBoxLayout *const findRow = addBarRow(rows);
     m_text = addLine(findRow, tr("Find"), "findText");
-    QPushButton *const previous = addButton(findRow, tr("Pre&vious"), "findPrevious");
+    QPushButton *const previous = addButton(findRow, tr("Previ&ous"), "findPrevious");
     QPushButton *const next = addButton(findRow, tr("Ne&xt"), "findNext");
     QPushButton *const close = addButton(findRow, tr("Close"), "findClose");
     QBoxLayout *const optionRow = addBarRow(rows);

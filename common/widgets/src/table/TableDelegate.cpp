@@ -38,6 +38,9 @@ constexpr qsizetype kPaintedUnits = 2000;
 /// What a column of files is wide enough for at least.
 constexpr int kFileCharacters = 36;
 
+/// What is known of most files.
+constexpr int kNoteCharacters = 24;
+
 int contentMargin(const QStyleOptionViewItem &option)
 {
     return QApplication::style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
@@ -60,14 +63,38 @@ QPixmap swatchOf(const QString &color, const QStyleOptionViewItem &option)
 }
 
 constexpr const char *kCellProperty = "orvCell";
+
+/// A path keeps the name of its file as long as it can, and gives way in the middle of its folder.
+QString elidedPath(const QString &path, const QFontMetrics &metrics, int width)
+{
+    if (metrics.horizontalAdvance(path) <= width)
+        return path;
+    const QString name = path.mid(path.lastIndexOf(u'/'));
+    const int left = width - metrics.horizontalAdvance(name);
+    const QString folder = metrics.elidedText(path.chopped(name.size()), Qt::ElideMiddle, std::max(left, 0));
+    return left > metrics.averageCharWidth() * 2 ? folder + name
+                                                 : metrics.elidedText(name, Qt::ElideMiddle, width);
+}
+
+/// What of a cell's text has to be read: of a path its file.
+int readableWidth(const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    QString text = index.data().toString().left(kPaintedUnits);
+    if (kindOf(index) == TableColumnKind::File)
+        text = text.mid(text.lastIndexOf(u'/') + 1);
+    return option.fontMetrics.horizontalAdvance(text) + 2 * contentMargin(option);
+}
+
 /// Paints what is known of a cell at its end, and tells the room that stays for its text.
 QRect paintNote(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index)
 {
     const QString note = index.data(TableModel::NoteRole).toString();
     const int margin = option.fontMetrics.averageCharWidth();
-    const int width =
-        std::min(option.fontMetrics.horizontalAdvance(note) + 2 * margin, option.rect.width() / 2);
-    if (note.isEmpty() || width < 4 * margin)
+    if (note.isEmpty())
+        return option.rect;
+    const int width = std::min(option.fontMetrics.horizontalAdvance(note) + 2 * margin,
+                               option.rect.width() - readableWidth(option, index));
+    if (width < 4 * margin)
         return option.rect;
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     const QRect room(option.rect.right() - width, option.rect.top(), width, option.rect.height());
@@ -98,6 +125,9 @@ void TableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIn
     const TableColumnKind kind = kindOf(index);
     const QString color = option->text;
     option->textElideMode = kind == TableColumnKind::File ? Qt::ElideMiddle : Qt::ElideRight;
+    if (kind == TableColumnKind::File && option->rect.isValid())
+        option->text =
+            elidedPath(option->text, option->fontMetrics, option->rect.width() - 2 * contentMargin(*option));
     if (kind == TableColumnKind::Sequence) {
         option->font = SequencePainting::fontLike(option->font);
         option->fontMetrics = QFontMetrics(option->font);
@@ -122,6 +152,9 @@ QSize TableDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIn
     if (const QString note = index.data(TableModel::NoteRole).toString(); !note.isEmpty())
         size.rwidth() += option.fontMetrics.horizontalAdvance(note) + 3 * character;
     // Paths are long, and what is known of a file comes later.
+    if (kindOf(index) == TableColumnKind::File && !index.data().toString().isEmpty() &&
+        index.data(TableModel::NoteRole).toString().isEmpty())
+        size.rwidth() += character * kNoteCharacters;
     if (kindOf(index) == TableColumnKind::File)
         size.setWidth(std::max(size.width(), character * kFileCharacters));
     return size;

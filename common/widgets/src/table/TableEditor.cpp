@@ -105,7 +105,7 @@ void TableEditor::build(TableSheet *sheet)
     d->onlyProblems = new QToolButton;
     d->onlyProblems->setObjectName(QStringLiteral("onlyProblems"));
     d->onlyProblems->setCheckable(true);
-    d->onlyProblems->setToolTip(tr("Show only rows with a cell that isn't allowed"));
+    d->onlyProblems->setToolTip(tr("Show only rows with a cell that isn't allowed or with a finding"));
     auto *const top = new QHBoxLayout;
     top->addWidget(d->filter, 1);
     top->addWidget(d->onlyProblems);
@@ -117,19 +117,22 @@ void TableEditor::build(TableSheet *sheet)
     d->message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     d->counts = new QLabel;
     d->counts->setObjectName(QStringLiteral("counts"));
-    auto *const bottom = new QHBoxLayout;
-    bottom->addWidget(d->message, 1);
-    bottom->addWidget(d->counts);
+    // Beside the buttons, where people look who press them, and which stand in the window when the end of a
+    // table doesn't.
+    auto *const commands = new QHBoxLayout;
+    commands->addWidget(buildToolBar());
+    commands->addWidget(d->message, 1);
+    commands->addWidget(d->counts);
     d->findBar = new FindBar(d->view);
     auto *const layout = new QVBoxLayout(this);
     layout->addLayout(top);
-    layout->addWidget(buildToolBar());
+    layout->addLayout(commands);
     layout->addWidget(d->view, 1);
     layout->addWidget(d->findBar);
-    layout->addLayout(bottom);
     setFocusProxy(d->view);
     connect(d->filter, &QLineEdit::textChanged, this, &TableEditor::applyFilter);
     connect(d->onlyProblems, &QToolButton::toggled, this, &TableEditor::applyFilter);
+    connect(d->view->tableModel(), &QAbstractItemModel::headerDataChanged, this, &TableEditor::showCounts);
     connect(d->view, &TableView::said, this, &TableEditor::say);
     connect(d->view, &TableView::findWanted, d->findBar, &FindBar::begin);
     connect(d->view, &TableView::exportWanted, this, &TableEditor::chooseExport);
@@ -242,7 +245,8 @@ void TableEditor::showCounts()
     const QLocale locale = this->locale();
     d->counts->setText(shown == all ? tr("Rows: %1").arg(locale.toString(all))
                                     : tr("Rows: %1 of %2").arg(locale.toString(shown), locale.toString(all)));
-    const int problems = d->sheet()->problemCount();
+    // A row has its sign for what a check found, too, which the button must not deny.
+    const int problems = d->sheet()->problemCount() + int(d->view->tableModel()->rowRemarks().size());
     d->onlyProblems->setText(problems == 0 ? tr("No problems")
                                            : tr("Problems: %1").arg(locale.toString(problems)));
     d->onlyProblems->setIcon(problems == 0 ? QIcon() : Icons::icon(IconName::Problem));

@@ -1,5 +1,6 @@
 #include "orv/widgets/TableView.h"
 
+#include "../FocusSigns.h"
 #include "RowNumbers.h"
 #include "TableCommands.h"
 #include "TableDelegate.h"
@@ -28,7 +29,9 @@ public:
     TableCommands *commands = nullptr;
     QString emptyText;
     TextReader reader;
-    QModelIndex dropCell; ///< only while something is dragged over
+    QModelIndex dropCell;    ///< only while something is dragged over
+    QList<int> wantedWidths; ///< for what the first rows hold
+    QList<int> leastWidths;
     QList<int> fittedWidths;
     bool areColumnsChosen = false; ///< by a person
 };
@@ -51,6 +54,7 @@ TableView::TableView(TableSheet *sheet, QWidget *parent)
     setUpHeaders();
     d->commands = new TableCommands(this);
     ControlHelp::install();
+    FocusSigns::install();
     fitColumns();
 }
 
@@ -146,11 +150,42 @@ void TableView::fitColumns()
     // Room for the sign of a problem and for the sort indicator; nothing so wide that it hides the others.
     const int sign = fontMetrics().height();
     const int widest = fontMetrics().averageCharWidth() * 40;
-    for (int column = 0; column < d->model->sheet()->columnCount(); ++column)
-        setColumnWidth(column, std::min(columnWidth(column) + sign, widest));
+    d->wantedWidths.clear();
+    d->leastWidths.clear();
     d->fittedWidths.clear();
-    for (int column = 0; column < d->model->sheet()->columnCount(); ++column)
+    for (int column = 0; column < d->model->sheet()->columnCount(); ++column) {
+        d->wantedWidths.append(columnWidth(column) + sign);
+        d->leastWidths.append(std::min(columnWidth(column) + sign, widest));
+        setColumnWidth(column, d->leastWidths[column]);
         d->fittedWidths.append(columnWidth(column));
+    }
+    shareRoom();
+}
+
+void TableView::shareRoom()
+{
+    if (isArranged())
+        return;
+    qint64 wanted = 0;
+    int room = viewport()->width();
+    for (const int column : shownColumns()) {
+        if (column >= d->leastWidths.size())
+            return;
+        room -= d->leastWidths[column];
+        wanted += d->wantedWidths[column] - d->leastWidths[column];
+    }
+    for (const int column : shownColumns()) {
+        const qint64 more = d->wantedWidths[column] - d->leastWidths[column];
+        const qint64 given = wanted == 0 || room <= 0 ? 0 : more * std::min<qint64>(room, wanted) / wanted;
+        setColumnWidth(column, d->leastWidths[column] + int(given));
+        d->fittedWidths[column] = columnWidth(column);
+    }
+}
+
+void TableView::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    shareRoom();
 }
 
 bool TableView::isArranged() const

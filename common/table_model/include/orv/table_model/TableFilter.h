@@ -14,7 +14,7 @@ class TableSheet;
 struct TableFilter
 {
     QString text;                ///< words that a row must hold all of, anywhere; case doesn't count
-    bool isOnlyProblems = false; ///< rows with a cell that isn't allowed
+    bool isOnlyProblems = false; ///< rows with a cell that isn't allowed, or with a remark
 
     [[nodiscard]] bool isEmpty() const { return text.trimmed().isEmpty() && !isOnlyProblems; }
     friend bool operator==(const TableFilter &a, const TableFilter &b)

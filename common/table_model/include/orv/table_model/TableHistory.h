@@ -38,7 +38,12 @@ public:
     void clear();
 
     /// What its steps hold beside the rows and texts of the table, in bytes.
-    [[nodiscard]] qsizetype heldBytes() const;
+    [[nodiscard]] qsizetype heldBytes() const { return m_heldBytes; }
+    /// Forgets what lies longest back, \a steps of those that are done, and gives the bytes that are free
+    /// then. The table stays as it is, and nothing is told.
+    qsizetype forget(int steps);
+    /// How many were forgotten that way, all in all.
+    [[nodiscard]] int forgotten() const { return m_forgotten; }
 
     /// Does the step and forgets those that were undone.
     void push(std::unique_ptr<TableEdit> edit);
@@ -49,6 +54,10 @@ Q_SIGNALS:
 private:
     std::vector<std::shared_ptr<TableEdit>> m_edits;
     int m_index = 0;
+    int m_forgotten = 0;
+    qsizetype m_heldBytes = 0;
+
+    qsizetype drop(size_t first, size_t last);
 };
 
 } // namespace orv

@@ -40,6 +40,11 @@ public:
         const FileExtensionsNameFilter &filter = {},
         const FileSystemSettings::DirectoryLocation &location = FileSystemSettings::DefaultLocation);
 
+    /// The same of what can be a sample: data formats and projects stand first in the dialog.
+    [[nodiscard]] static QStringList getSampleFileNames(
+        QWidget *parent, const QString &title,
+        const FileSystemSettings::DirectoryLocation &location = FileSystemSettings::DefaultLocation);
+
     /// The name gets the filter's first suffix where it has none of the filter's.
     [[nodiscard]] static QString getSaveFileName(
         QWidget *parent, const QString &title, const QString &startPath = {},

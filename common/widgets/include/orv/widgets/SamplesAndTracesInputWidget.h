@@ -62,11 +62,17 @@ Q_SIGNALS:
     /// Somebody removed a custom column.
     void removeCustomColumn(const QString &columnName);
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
     void build();
+    void needTables();
     void buildSamples();
     void buildTraces();
     void addCommands();
+    void orderFocus();
+    int addSamples(const QList<SamplePathAndName> &files);
     void addPaths(const QStringList &paths);
     void searchNext();
     void chooseFiles();
@@ -81,6 +87,7 @@ private:
     void tell();
     void say(const QString &text);
     [[nodiscard]] QString noteOnSample(quint32 row, int column) const;
+    [[nodiscard]] QString noteOnMissing(const QList<ResourceReferenceSPtr> &files) const;
 
     class Private;
     const std::unique_ptr<Private> d;

@@ -78,7 +78,8 @@ public:
         Person,
     };
     void setColumnShown(int column, bool isShown, ChosenBy by = ChosenBy::Program);
-    /// Makes columns as wide as their headers and first rows need.
+    /// Makes columns as wide as their headers and first rows need. Columns whose texts are longer than what
+    /// they get then share the room that is left, also when that changes, until a person arranges columns.
     void fitColumns();
     /// Whether a person has chosen columns, or some were moved or sized since they were last fitted.
     [[nodiscard]] bool isArranged() const;
@@ -96,6 +97,7 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
@@ -112,6 +114,7 @@ protected:
 private:
     void setUpHeaders();
     void showHeaderMenu(QPoint position);
+    void shareRoom();
     [[nodiscard]] QString shownEmptyText() const;
     void paintEmptyText(QPainter *painter) const;
     void stepFrom(const QModelIndex &from, int rows, int columns);
