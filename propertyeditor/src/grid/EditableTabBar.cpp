@@ -1,6 +1,9 @@
 #include "orv/propertyeditor/grid/EditableTabBar.h"
 
+#include <QMouseEvent>
 #include <QShortcut>
+
+#include <utility>
 
 namespace orv {
 
@@ -16,6 +19,20 @@ void EditableTabBar::setEditorMode(GridPropertyEditorView::EditorMode mode)
 {
     m_isEditable = mode == GridPropertyEditorView::EditorMode::Designer;
     setMovable(m_isEditable);
+}
+
+void EditableTabBar::mousePressEvent(QMouseEvent *event)
+{
+    m_isHeld = event->button() == Qt::LeftButton;
+    QTabBar::mousePressEvent(event);
+}
+
+void EditableTabBar::mouseReleaseEvent(QMouseEvent *event)
+{
+    const QPointer<EditableTabBar> self(this);
+    QTabBar::mouseReleaseEvent(event);
+    if (self && event->button() == Qt::LeftButton && std::exchange(m_isHeld, false))
+        Q_EMIT released();
 }
 
 void EditableTabBar::onTabBarDoubleClicked(int index)

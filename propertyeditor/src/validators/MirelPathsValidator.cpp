@@ -28,7 +28,7 @@ bool checkExistence(CheckRun &run, const ResourceReferenceSPtr &reference)
 
 QString missingHint(const ResourceReferenceSPtr &reference)
 {
-    return QObject::tr("Looked for \"%1\". Put it there, or choose where it is now.")
+    return QObject::tr("Choose where it is now, or put it there: \"%1\".")
         .arg(ResourceReferenceUtils::toString(reference, true));
 }
 

@@ -137,4 +137,26 @@ Result<WorkflowCheckReport> WorkflowCheck::run(const Content &content, const QUr
     return report;
 }
 
+Result<QList<LocatedFinding>>
+WorkflowCheck::findingsOf(std::vector<std::unique_ptr<AbstractValidator>> validators,
+                          const WorkflowSource &source, const QUrl &baseUrl)
+{
+    Content content;
+    ORV_RETURN_IF_ERROR(content.assignFromJson(source.document));
+    Result<Content> copy = WorkflowPaths::absoluteCopy(content, baseUrl);
+    if (copy.hasError())
+        return copy.ecatch();
+    ContentValidator validator;
+    validator.setRepeatsInLog(false);
+    for (std::unique_ptr<AbstractValidator> &each : validators) {
+        if (validator.installValidator(each.get()))
+            static_cast<void>(each.release());
+    }
+    QStringList warnings;
+    QStringList errors;
+    QList<Finding> findings;
+    static_cast<void>(validator.validate(*copy, baseUrl, &warnings, &errors, &findings));
+    return located(findings, *copy, source, {});
+}
+
 } // namespace orv::PropertyEditor

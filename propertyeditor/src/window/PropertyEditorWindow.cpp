@@ -133,6 +133,11 @@ void PropertyEditorWindow::setAdditionalValidatorsCreatorFunction(const Addition
     d->m_additionalValidatorsCreator = create;
 }
 
+PropertyEditorWindow::AdditionalValidators PropertyEditorWindow::additionalValidatorsCreatorFunction() const
+{
+    return d->m_additionalValidatorsCreator;
+}
+
 PropertyEditor::SampleTypesValidator *PropertyEditorWindow::sampleTypesValidator() const
 {
     return new PropertyEditor::SampleTypesValidator;

@@ -1,26 +1,22 @@
 #include "ChangeText.h"
 
+#include "ShortText.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 
 namespace orv::ChangeText {
 
-namespace {
-
-constexpr QChar kEllipsis(0x2026);
-
-} // namespace
-
 QString ofPlace(const QString &path)
 {
     constexpr qsizetype kLongestPlace = 400;
-    return path.size() <= kLongestPlace ? path : kEllipsis + path.right(kLongestPlace - 1);
+    return ShortText::end(path, kLongestPlace);
 }
 
 QString ofText(const QString &text)
 {
     constexpr qsizetype kLongestText = 120;
-    return text.size() <= kLongestText ? text : text.left(kLongestText - 1) + kEllipsis;
+    return ShortText::beginning(text, kLongestText);
 }
 
 QString ofValue(const QJsonValue &value)

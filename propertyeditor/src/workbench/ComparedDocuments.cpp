@@ -178,11 +178,14 @@ public:
         }
     }
 
-    void add(QList<ComparedUnit> units)
+    void add(QList<ComparedUnit> units, const std::atomic_bool &isCancelled)
     {
         QHash<QString, int> ofSetting;
-        for (ComparedUnit &unit : units)
+        for (ComparedUnit &unit : units) {
+            if (isCancelled)
+                return;
             tellWhole(&unit);
+        }
         for (const ComparedUnit &unit : std::as_const(units))
             ++ofSetting[settingKey(unit.first)];
         for (const ComparedUnit &unit : std::as_const(units)) {
@@ -321,21 +324,25 @@ private:
 
 } // namespace
 
-ComparisonTree ComparedDocuments::compared(const DocumentState &left, const DocumentState &right)
+ComparisonTree ComparedDocuments::compared(const DocumentState &left, const DocumentState &right,
+                                           const std::atomic_bool &isCancelled)
 {
     ComparisonTreeBuilder builder(left, right);
     builder.addOwnProperties(left.metadata, right.metadata);
-    builder.add(unitsOf(
-        WorkflowDifferences::between(WrittenForm(left).document, WrittenForm(right).document, false)));
+    const QJsonObject before = WrittenForm(left).document;
+    const QJsonObject other = isCancelled ? QJsonObject() : WrittenForm(right).document;
+    if (!isCancelled)
+        builder.add(unitsOf(WorkflowDifferences::between(before, other, false, &isCancelled)), isCancelled);
     return builder.take();
 }
 
 DocumentState ComparedDocuments::takenOver(const DocumentState &left, const DocumentState &right,
-                                           const QSet<QString> &keys)
+                                           const QSet<QString> &keys, const std::atomic_bool &isCancelled)
 {
     const WrittenForm before(left);
     const QJsonObject other = WrittenForm(right).document;
-    const QList<WorkflowDifference> differences = WorkflowDifferences::between(before.document, other, false);
+    const QList<WorkflowDifference> differences =
+        WorkflowDifferences::between(before.document, other, false, &isCancelled);
     QSet<qsizetype> chosen;
     DifferenceKeys differenceKeys;
     for (qsizetype i = 0; i < differences.size(); ++i) {
@@ -347,7 +354,8 @@ DocumentState ComparedDocuments::takenOver(const DocumentState &left, const Docu
         if (keys.contains(kOwnPrefix + QLatin1String(property.name)))
             property.take(&metadata, right.metadata);
     }
-    return stateOf(WorkflowDifferences::takenOver(before.document, other, chosen, false), metadata, before);
+    return stateOf(WorkflowDifferences::takenOver(before.document, other, chosen, false, &isCancelled),
+                   metadata, before);
 }
 
 } // namespace orv

@@ -5,10 +5,10 @@
 #include "SecondDocument.h"
 #include "SettingJump.h"
 #include "SettingVisits.h"
+#include "orv/propertyeditor/workbench/BackgroundWork.h"
 #include "orv/propertyeditor/workbench/FindSettings.h"
 #include "orv/propertyeditor/workbench/Workbench.h"
 
-#include <orv/propertyeditor/editors/SlowQuestion.h>
 #include <orv/propertyeditor/grid/EditableTabWidget.h>
 #include <orv/propertyeditor/grid/GridPropertyEditorView.h>
 #include <orv/propertyeditor/grid/IGridItem.h>
@@ -32,29 +32,6 @@
 #include <utility>
 
 namespace orv {
-
-namespace {
-
-/// Nobody waits for \a work, not even the end of the program. \a done hears of its result on this thread, if
-/// \a context still exists.
-template<typename Value>
-void inBackground(QObject *context, const std::function<Value()> &work,
-                  const std::function<void(const Value &)> &done)
-{
-    const auto result = std::make_shared<Value>();
-    const auto tell = [result, done](bool) { done(*result); };
-    const auto atOnce = SlowQuestion::ask(
-        [result, work] {
-            *result = work();
-            return true;
-        },
-        context, tell, std::chrono::milliseconds(0));
-    if (atOnce)
-        QMetaObject::invokeMethod(
-            context, [tell] { tell(true); }, Qt::QueuedConnection);
-}
-
-} // namespace
 
 class Comparison::Private
 {
@@ -80,12 +57,13 @@ private:
 
     void connectPanel();
     void connectWindow();
-    void receive(const SecondDocument &second);
+    void receive(const Result<SecondDocument> &second);
+    void fail(const QString &summary, const Error &error);
     void follow();
     void compare();
-    void show(const ComparisonTree &tree);
+    void show(const Result<ComparisonTree> &tree);
     void takeOver();
-    void finishTakingOver(const TakenOver &taken, const QString &text);
+    void finishTakingOver(const Result<TakenOver> &taken, const QString &text);
     void goTo(const QModelIndex &index);
     void leave();
     void tell();
@@ -103,7 +81,8 @@ private:
     std::shared_ptr<const SecondDocument> m_second;
     SettingVisits m_visits;
     QPointer<QWidget> m_visited; ///< the last
-    int m_number = 0;            ///< of the second document that counts
+    int m_number = 0;            ///< of second documents
+    BackgroundWork m_work;
     bool m_isWantedAgain = false;
     bool m_isFirst = false; ///< comparison with the second document
 };
@@ -170,7 +149,8 @@ void Comparison::Private::compareWith(const QString &file)
 {
     if (!m_dock)
         return;
-    const int number = ++m_number;
+    ++m_number;
+    m_work.cancel();
     path = file;
     m_second.reset();
     m_find->setDiffersFromSecond({});
@@ -183,28 +163,34 @@ void Comparison::Private::compareWith(const QString &file)
     m_panel->showReading(QFileInfo(file).fileName());
     m_dock->show();
     m_dock->raise();
-    inBackground<SecondDocument>(
-        q, [file, own = m_ownFile] { return SecondDocument::read(file, own); },
-        [this, number](const SecondDocument &second) {
-            if (number == m_number)
-                receive(second);
-        });
+    using Read = Result<SecondDocument>;
+    m_work.run<SecondDocument>(
+        [file, own = m_ownFile](const auto &isCancelled) -> Read {
+            return SecondDocument::read(file, own, isCancelled);
+        },
+        [this](const Read &second) { receive(second); });
     tell();
 }
 
-void Comparison::Private::receive(const SecondDocument &second)
+void Comparison::Private::receive(const Result<SecondDocument> &second)
 {
     isReading = false;
-    if (second.error.hasError()) {
-        m_panel->showError(tr("%1 can't be compared.").arg(second.name),
-                           (second.error.errorMessages() + second.error.details()).join(u'\n'));
-        m_panel->announce();
-        tell();
+    const Error error = second.hasError() ? second.error() : second->error;
+    if (error.hasError()) {
+        const QString name = second.hasError() ? QFileInfo(path).fileName() : second->name;
+        fail(tr("%1 can't be compared.").arg(name), error);
         return;
     }
-    m_second = std::make_shared<const SecondDocument>(second);
+    m_second = std::make_shared<const SecondDocument>(*second);
     m_isFirst = true;
     compare();
+}
+
+void Comparison::Private::fail(const QString &summary, const Error &error)
+{
+    m_panel->showError(summary, (error.errorMessages() + error.details()).join(u'\n'));
+    m_panel->announce();
+    tell();
 }
 
 /// Paths of the second document, and what is told of it, depend on the file of this one.
@@ -229,20 +215,26 @@ void Comparison::Private::compare()
     if (!self || !m_second || isComparing)
         return;
     isComparing = true;
-    inBackground<ComparisonTree>(
-        q, [left, second = m_second] { return ComparedDocuments::compared(left, second->state); },
-        [this, number = m_number](const ComparisonTree &tree) {
-            if (number == m_number)
-                show(tree);
-        });
+    using Compared = Result<ComparisonTree>;
+    m_work.run<ComparisonTree>(
+        [left, second = m_second](const auto &isCancelled) -> Compared {
+            return ComparedDocuments::compared(left, second->state, isCancelled);
+        },
+        [this](const Compared &tree) { show(tree); });
     tell();
 }
 
-void Comparison::Private::show(const ComparisonTree &tree)
+void Comparison::Private::show(const Result<ComparisonTree> &tree)
 {
     isComparing = false;
-    const auto settings = std::make_shared<const QSet<SettingPlace>>(tree.settings);
-    m_panel->showTree(tree, m_second->name, m_second->note);
+    if (tree.hasError()) {
+        m_isWantedAgain = false;
+        m_find->setDiffersFromSecond({});
+        fail(tr("%1 can't be compared.").arg(m_second->name), tree.error());
+        return;
+    }
+    const auto settings = std::make_shared<const QSet<SettingPlace>>(tree->settings);
+    m_panel->showTree(*tree, m_second->name, m_second->note);
     m_panel->setRefusal(m_window && m_window->isReadOnly()
                             ? tr("This window is read only: nothing can be taken over.")
                             : m_second->refusal);
@@ -283,24 +275,25 @@ void Comparison::Private::takeOver()
         return;
     isTaking = true;
     const QSet<QString> keys = m_panel->model()->checkedKeys();
-    inBackground<TakenOver>(
-        q,
-        [left, second = m_second, keys] {
-            return TakenOver{left, ComparedDocuments::takenOver(left, second->state, keys)};
+    using Taken = Result<TakenOver>;
+    m_work.run<TakenOver>(
+        [left, second = m_second, keys](const auto &isCancelled) -> Taken {
+            return TakenOver{left, ComparedDocuments::takenOver(left, second->state, keys, isCancelled)};
         },
-        [this, number = m_number, text = stepText()](const TakenOver &taken) {
-            if (number == m_number)
-                finishTakingOver(taken, text);
-        });
+        [this, text = stepText()](const Taken &taken) { finishTakingOver(taken, text); });
     tell();
 }
 
-void Comparison::Private::finishTakingOver(const TakenOver &taken, const QString &text)
+void Comparison::Private::finishTakingOver(const Result<TakenOver> &taken, const QString &text)
 {
     const QPointer<Comparison> self(q);
     const int number = m_number;
     isTaking = false;
-    const bool isDone = m_history->edit(taken.from, taken.to, text);
+    if (taken.hasError()) {
+        fail(tr("Nothing could be taken over from %1.").arg(m_second->name), taken.error());
+        return;
+    }
+    const bool isDone = m_history->edit(taken->from, taken->to, text);
     if (!self || number != m_number)
         return;
     // Somebody typed meanwhile; what is checked still stands.
@@ -349,6 +342,7 @@ void Comparison::Private::leave()
 void Comparison::Private::end()
 {
     ++m_number;
+    m_work.cancel();
     isReading = false;
     isComparing = false;
     isTaking = false;

@@ -2,6 +2,7 @@
 
 #include "ChangeText.h"
 #include "EntryTexts.h"
+#include "ShortText.h"
 
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/widgets/Icons.h>
@@ -23,11 +24,6 @@ namespace {
 constexpr qsizetype kMostInRow = 200;
 constexpr qsizetype kMostInHint = 4000;
 
-QString oneLineOf(const QString &text)
-{
-    return text.left(kMostInRow).simplified();
-}
-
 } // namespace
 
 void ComparisonModel::show(const ComparisonTree &tree, const QString &otherName)
@@ -36,6 +32,7 @@ void ComparisonModel::show(const ComparisonTree &tree, const QString &otherName)
     m_tree = tree;
     m_otherName = otherName;
     m_numbers.clear();
+    m_lines.clear();
     for (int i = 0; i < m_tree.nodes.size(); ++i)
         m_numbers.insert(m_tree.nodes.at(i).key, i);
     const qsizetype before = m_checked.size();
@@ -182,15 +179,39 @@ QString ComparisonModel::changeText(const ComparisonNode &node) const
     return {};
 }
 
-QString ComparisonModel::text(const ComparisonNode &node, int column) const
+ComparisonModel::Texts ComparisonModel::texts(const ComparisonNode &node) const
 {
-    if (column == Name)
-        return name(node);
-    const QJsonValue &shown = column == This ? node.left : node.right;
+    const QString left = value(node, node.left);
+    const QString right = value(node, node.right);
     // Rows round what they show.
-    const bool looksTheSame = node.kind == ComparisonNode::Kind::Setting && node.children.isEmpty() &&
-                              value(node, node.left) == value(node, node.right);
-    return looksTheSame ? ChangeText::ofValue(shown) : value(node, shown);
+    const bool looksTheSame =
+        node.kind == ComparisonNode::Kind::Setting && node.children.isEmpty() && left == right;
+    return looksTheSame ? Texts{name(node), ChangeText::ofValue(node.left), ChangeText::ofValue(node.right)}
+                        : Texts{name(node), left, right};
+}
+
+/// Views ask for them at each paint, and a value may have many megabytes.
+QString ComparisonModel::line(const QModelIndex &index) const
+{
+    const int number = int(index.internalId());
+    auto known = m_lines.find(number);
+    if (known == m_lines.end()) {
+        Texts lines = texts(node(index));
+        for (QString &text : lines)
+            text = ShortText::line(text, kMostInRow);
+        known = m_lines.insert(number, lines);
+    }
+    return known->at(size_t(index.column()));
+}
+
+QString ComparisonModel::hint(const QModelIndex &index) const
+{
+    const ComparisonNode &shown = node(index);
+    const QString text = texts(shown).at(size_t(index.column()));
+    const QString change = changeText(shown);
+    QString hint = ShortText::beginning(text, kMostInHint) + (change.isEmpty() ? QString() : u'\n' + change);
+    hint = hint.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
+    return QStringLiteral("<p>%1</p>").arg(hint);
 }
 
 Qt::CheckState ComparisonModel::checkState(int number) const
@@ -205,18 +226,14 @@ QVariant ComparisonModel::data(const QModelIndex &index, int role) const
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
     const ComparisonNode &shown = node(index);
-    const QString change = changeText(shown);
     switch (role) {
     case Qt::DisplayRole:
-        return oneLineOf(text(shown, index.column()));
+        return line(index);
     case Qt::ToolTipRole:
-        return QStringLiteral("<p>%1</p>")
-            .arg((text(shown, index.column()).left(kMostInHint) +
-                  (change.isEmpty() ? QString() : u'\n' + change))
-                     .toHtmlEscaped()
-                     .replace(QLatin1Char('\n'), QLatin1String("<br>")));
+        return hint(index);
     case Qt::AccessibleTextRole: {
-        const QString said = oneLineOf(text(shown, index.column()));
+        const QString said = line(index);
+        const QString change = changeText(shown);
         return index.column() == Name && !change.isEmpty() ? tr("%1, %2").arg(said, change) : said;
     }
     case Qt::CheckStateRole:

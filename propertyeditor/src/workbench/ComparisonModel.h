@@ -6,6 +6,8 @@
 #include <QHash>
 #include <QSet>
 
+#include <array>
+
 namespace orv {
 
 /// What differs between two documents as a tree with check marks for what is to be taken over. A mark belongs
@@ -54,7 +56,11 @@ Q_SIGNALS:
     void checkedChanged();
 
 private:
-    [[nodiscard]] QString text(const ComparisonNode &node, int column) const;
+    using Texts = std::array<QString, ColumnCount>;
+
+    [[nodiscard]] Texts texts(const ComparisonNode &node) const;
+    [[nodiscard]] QString line(const QModelIndex &index) const;
+    [[nodiscard]] QString hint(const QModelIndex &index) const;
     [[nodiscard]] QString name(const ComparisonNode &node) const;
     [[nodiscard]] QString value(const ComparisonNode &node, const QJsonValue &value) const;
     [[nodiscard]] QString changeText(const ComparisonNode &node) const;
@@ -70,6 +76,7 @@ private:
     QList<int> m_leaves; ///< of each row: those at or below it, and how many of them are checked
     QList<int> m_checkedLeaves;
     QHash<QString, int> m_numbers;
+    mutable QHash<int, Texts> m_lines; ///< of the rows that were seen, short
 };
 
 } // namespace orv

@@ -4,6 +4,8 @@
 #include "StateDisplay.h"
 #include "StepText.h"
 
+#include <orv/propertyeditor/grid/EditableTabBar.h>
+#include <orv/propertyeditor/grid/EditableTabWidget.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/table_model/TableHistory.h>
@@ -81,6 +83,8 @@ public:
     [[nodiscard]] bool moveTables(const HistoryStep &step, StateChange::Direction direction) const;
     void takeUpgraded(const DocumentUpgrade &upgrade);
     void append(const HistoryStep &step);
+    [[nodiscard]] qsizetype heldBytes() const;
+    void trim();
     void dropUpgrade();
     [[nodiscard]] bool tellDropped();
     void leaveField();
@@ -119,10 +123,14 @@ DocumentHistory::DocumentHistory(PropertyEditorWindow *window)
     connect(window, &PropertyEditorWindow::documentSaved, this, [this] { d->takeSaved(); });
     connect(window, &PropertyEditorWindow::metadataEdited, this, [this] { d->expectEdits(); });
     connect(window->workflowTabs(), &WorkflowTabs::edited, this, [this] {
+        EditableTabBar *bar = d->window->workflowTabs()->widget()->editableTabBar();
         if (!d->nextField)
-            d->nextField = fieldOfTyping(d->window);
+            d->nextField = bar->isHeld() ? bar : fieldOfTyping(d->window);
         d->expectEdits();
     });
+    // A tab that is dragged over others goes there in one step.
+    connect(window->workflowTabs()->widget()->editableTabBar(), &EditableTabBar::released, this,
+            [this] { d->leaveField(); });
     connect(&d->shown, &ShownState::settingEdited, this, [this] {
         if (d->isTravelling)
             return;
@@ -188,7 +196,7 @@ QString DocumentHistory::redoText() const
 
 qsizetype DocumentHistory::heldBytes() const
 {
-    return d->steps.heldBytes();
+    return d->heldBytes();
 }
 
 qsizetype DocumentHistory::limit() const
@@ -199,7 +207,7 @@ qsizetype DocumentHistory::limit() const
 void DocumentHistory::setLimit(qsizetype bytes)
 {
     d->limit = bytes;
-    d->steps.trim(bytes);
+    d->trim();
     Q_EMIT changed();
 }
 
@@ -386,7 +394,9 @@ bool DocumentHistory::Private::moveTables(const HistoryStep &step, StateChange::
         const int from = isBack ? move.after : move.before;
         const int to = isBack ? move.before : move.after;
         // A table that went on otherwise, or was made anew, is given its content instead.
-        const bool isThere = move.history && move.history->index() == from && to <= move.history->count();
+        const bool isThere = move.history && stepsDone(*move.history) == from &&
+                             to >= move.history->forgotten() &&
+                             to <= move.history->forgotten() + move.history->count();
         for (int i = 0; isThere && i < std::abs(to - from) && self && move.history; ++i)
             to < from ? move.history->undo() : move.history->redo();
     }
@@ -490,7 +500,28 @@ void DocumentHistory::Private::append(const HistoryStep &step)
 {
     dropUpgrade();
     steps.append(step);
-    steps.trim(limit);
+    trim();
+}
+
+qsizetype DocumentHistory::Private::heldBytes() const
+{
+    return steps.heldBytes() + shown.heldByTables();
+}
+
+/// Forgets what lies longest back, in the tables too, until the rest holds no more than the limit.
+void DocumentHistory::Private::trim()
+{
+    qsizetype held = heldBytes();
+    while (held > limit) {
+        const std::optional<HistoryStep> first = steps.takeFirst();
+        if (!first)
+            return;
+        held -= first->bytes;
+        for (const TableMove &move : first->tables) {
+            if (move.history)
+                held -= move.history->forget(move.after - move.history->forgotten());
+        }
+    }
 }
 
 /// What is made where an upgrade was taken back takes its place.

@@ -8,21 +8,48 @@ namespace orv {
 
 namespace {
 
-/// Most cells of two states share their text, which may be long.
-bool isSameText(const QByteArray &a, const QByteArray &b)
-{
-    return (a.constData() == b.constData() && a.size() == b.size()) || a == b;
-}
-
-StateChange::CellChange differenceOf(const QByteArray &before, const QByteArray &after)
+StateChange::TextDifference textDifference(const QByteArray &before, const QByteArray &after)
 {
     const qsizetype shorter = std::min(before.size(), after.size());
     const auto head = std::mismatch(before.cbegin(), before.cbegin() + shorter, after.cbegin());
     const qsizetype offset = head.first - before.cbegin();
     const auto tail = std::mismatch(before.crbegin(), before.crbegin() + (shorter - offset), after.crbegin());
     const qsizetype same = tail.first - before.crbegin();
-    return {0, 0, offset, before.mid(offset, before.size() - offset - same),
+    return {offset, before.mid(offset, before.size() - offset - same),
             after.mid(offset, after.size() - offset - same)};
+}
+
+std::variant<JsonDifference, StateChange::TextDifference> differenceOf(const StateCell &before,
+                                                                       const StateCell &after)
+{
+    if (before.isObject() && after.isObject())
+        return JsonDifference::between(before.object(), after.object());
+    return textDifference(before, after);
+}
+
+StateCell appliedTo(const StateCell &cell, const JsonDifference &difference, StateChange::Direction direction)
+{
+    return StateCell(direction == StateChange::Direction::Forth ? difference.forth(cell.object())
+                                                                : difference.back(cell.object()));
+}
+
+StateCell appliedTo(const StateCell &cell, const StateChange::TextDifference &difference,
+                    StateChange::Direction direction)
+{
+    const bool isForth = direction == StateChange::Direction::Forth;
+    const QByteArray &old = isForth ? difference.before : difference.after;
+    QByteArray text = cell.json();
+    return text.replace(difference.offset, old.size(), isForth ? difference.after : difference.before);
+}
+
+qsizetype bytesOf(const JsonDifference &difference)
+{
+    return difference.heldBytes();
+}
+
+qsizetype bytesOf(const StateChange::TextDifference &difference)
+{
+    return difference.before.size() + difference.after.size();
 }
 
 qsizetype bytesOf(const QList<DocumentState::Tab> &tabs, QSet<const char *> *counted)
@@ -45,8 +72,8 @@ PropertyEditorContent::Tab DocumentState::Tab::content() const
 {
     VariantItems items;
     items.reserve(cells.size());
-    for (const QByteArray &cell : cells)
-        items.append(cell);
+    for (const StateCell &cell : cells)
+        items.append(cell.toVariant());
     return {title, {columns, items}};
 }
 
@@ -57,7 +84,7 @@ bool DocumentState::Tab::isShapedLike(const Tab &other) const
 
 bool DocumentState::Tab::operator==(const Tab &other) const
 {
-    return isShapedLike(other) && std::equal(cells.cbegin(), cells.cend(), other.cells.cbegin(), isSameText);
+    return isShapedLike(other) && cells == other.cells;
 }
 
 PropertyEditorContent DocumentState::content(const QJsonObject &extendedMetadata) const
@@ -103,15 +130,12 @@ void StateChange::findCells(const DocumentState &before, const DocumentState &af
         if (tab >= m_firstTab && !isBehind)
             continue;
         const qsizetype earlier = isBehind ? tab - m_after.size() + m_before.size() : tab;
-        const QList<QByteArray> &old = before.tabs.at(earlier).cells;
-        const QList<QByteArray> &now = after.tabs.at(tab).cells;
+        const QList<StateCell> &old = before.tabs.at(earlier).cells;
+        const QList<StateCell> &now = after.tabs.at(tab).cells;
         for (int column = 0; column < now.size(); ++column) {
-            if (isSameText(old.at(column), now.at(column)))
+            if (old.at(column) == now.at(column))
                 continue;
-            CellChange change = differenceOf(old.at(column), now.at(column));
-            change.tab = tab;
-            change.column = column;
-            m_cells.append(change);
+            m_cells.append({tab, column, differenceOf(old.at(column), now.at(column))});
         }
     }
 }
@@ -132,9 +156,9 @@ DocumentState StateChange::applied(DocumentState state, Direction direction) con
     if (isForth && hasOtherTabs())
         exchangeTabs();
     for (const CellChange &change : m_cells) {
-        const QByteArray &old = isForth ? change.before : change.after;
-        state.tabs[change.tab].cells[change.column].replace(change.offset, old.size(),
-                                                            isForth ? change.after : change.before);
+        StateCell &cell = state.tabs[change.tab].cells[change.column];
+        cell = std::visit([&](const auto &difference) { return appliedTo(cell, difference, direction); },
+                          change.difference);
     }
     if (!isForth && hasOtherTabs())
         exchangeTabs();
@@ -163,7 +187,8 @@ qsizetype StateChange::heldBytes() const
     QSet<const char *> counted;
     qsizetype bytes = kEach + bytesOf(m_before, &counted) + bytesOf(m_after, &counted);
     for (const CellChange &change : m_cells)
-        bytes += kEach + change.before.size() + change.after.size();
+        bytes +=
+            kEach + std::visit([](const auto &difference) { return bytesOf(difference); }, change.difference);
     return bytes;
 }
 

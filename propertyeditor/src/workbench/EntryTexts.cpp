@@ -1,7 +1,8 @@
 #include "EntryTexts.h"
 
+#include "SettingReader.h"
+
 #include <KProperty.h>
-#include <KPropertyFactory.h>
 #include <KPropertySet.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/PropertySetCreator.h>
@@ -27,7 +28,7 @@ QString EntryTexts::value(const QJsonObject &cell, const QJsonObject &entry)
     const std::unique_ptr<KPropertySet> set(*made);
     for (KPropertySetIterator property(*set); *property; ++property) {
         if (!(*property)->name().startsWith(':'))
-            return KPropertyFactoryManager::self()->propertyValueToLocalizedString(*property);
+            return SettingReader::valueText(**property);
     }
     return {};
 }

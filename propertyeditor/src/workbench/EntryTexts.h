@@ -9,7 +9,8 @@ namespace orv::EntryTexts {
 /// What the setting is called; the name that it has in files if it has no caption.
 [[nodiscard]] QString caption(const QJsonObject &cell, const QJsonObject &entry);
 
-/// A value as its row shows it, with its unit; empty for tables and other values that no line shows.
+/// A value as its row shows it, with its unit; empty for tables and other values that no line
+/// shows. See SettingReader::valueText().
 [[nodiscard]] QString value(const QJsonObject &cell, const QJsonObject &entry);
 
 } // namespace orv::EntryTexts

@@ -1,5 +1,7 @@
 #include "FindHits.h"
 
+#include "ShortText.h"
+
 #include <orv/widgets/Icons.h>
 
 #include <array>
@@ -11,11 +13,6 @@ namespace {
 /// What a cell shows of a value.
 constexpr qsizetype kMostShown = 200;
 constexpr qsizetype kMostInToolTip = 2000;
-
-QString oneLine(const QString &text)
-{
-    return text.left(kMostShown).simplified();
-}
 
 struct HitColumn
 {
@@ -124,11 +121,17 @@ QVariant FindHits::decoration(const SettingTexts &texts, int column) const
 
 QString FindHits::spoken(const SettingTexts &texts, const SettingHit &hit, int column) const
 {
-    QString shown = text(texts, hit, column).left(kMostInToolTip);
-    if (column == Default && texts.defaultValue)
-        return tr("Set back to the default: %1").arg(shown);
-    if (column == Saved && texts.savedValue)
-        return tr("Set back to what was saved: %1").arg(shown);
+    QString shown = ShortText::beginning(text(texts, hit, column), kMostInToolTip);
+    if (column == Default && texts.defaultValue) {
+        return texts.isReadOnly
+                   ? tr("%1, the default, can't be set back to: the setting can only be read").arg(shown)
+                   : tr("Set back to the default: %1").arg(shown);
+    }
+    if (column == Saved && texts.savedValue) {
+        return texts.isReadOnly
+                   ? tr("%1, which was saved, can't be set back to: the setting can only be read").arg(shown)
+                   : tr("Set back to what was saved: %1").arg(shown);
+    }
     if (column != Setting || (!texts.defaultValue && !texts.savedValue))
         return shown;
     return texts.savedValue ? tr("%1, changed since the last save").arg(shown)
@@ -145,7 +148,7 @@ QVariant FindHits::data(const QModelIndex &index, int role) const
         return {};
     switch (role) {
     case Qt::DisplayRole:
-        return oneLine(text(*texts, hit, index.column()));
+        return ShortText::line(text(*texts, hit, index.column()), kMostShown);
     case Qt::DecorationRole:
         return decoration(*texts, index.column());
     case Qt::AccessibleTextRole:

@@ -33,10 +33,10 @@ struct FindFilter
 
 // clang-format off
 constexpr std::array<FindFilter, int(FindPanel::Filter::Count)> kFilters = {{
-    {"changedFromDefault", QT_TRANSLATE_NOOP("orv::FindPanel", "Changed from the &default")},
+    {"changedFromDefault", QT_TRANSLATE_NOOP("orv::FindPanel", "Changed from the defa&ult")},
     {"changedSinceSaving", QT_TRANSLATE_NOOP("orv::FindPanel", "Changed since the last &save")},
     {"hasFinding", QT_TRANSLATE_NOOP("orv::FindPanel", "Has a fi&nding")},
-    {"differs", QT_TRANSLATE_NOOP("orv::FindPanel", "Differs &from the second document")},
+    {"differs", QT_TRANSLATE_NOOP("orv::FindPanel", "Differs from the se&cond document")},
 }};
 // clang-format on
 
@@ -141,6 +141,16 @@ void FindPanel::addSetBack(const QString &text, const QString &name, const QKeyS
         if (current.isValid())
             Q_EMIT setBackWanted(m_hits->placeOf(current.row()), former);
     });
+}
+
+void FindPanel::setRefusal(const QString &reason)
+{
+    const QList<QAction *> actions = m_list->actions();
+    for (QAction *action : actions) {
+        action->setEnabled(reason.isEmpty());
+        // Without a tool tip of its own an action has its text there.
+        action->setToolTip(reason);
+    }
 }
 
 QWidget *FindPanel::buildFilters()

@@ -54,6 +54,8 @@ public:
 
     /// For what is typed from here on.
     void begin();
+    /// Why nothing can be set back; empty if it can.
+    void setRefusal(const QString &reason);
     /// A null \a passes takes the filter away for the \a reason that is shown then.
     void setFilter(Filter filter, const std::function<bool(const SettingPlace &)> &passes,
                    const QString &reason);

@@ -1,9 +1,11 @@
 #include "orv/propertyeditor/workbench/FindSettings.h"
 
 #include "FindPanel.h"
+#include "SecondDocument.h"
 #include "SettingJump.h"
 #include "SettingVisits.h"
 #include "YieldingShortcuts.h"
+#include "orv/propertyeditor/workbench/BackgroundWork.h"
 #include "orv/propertyeditor/workbench/Workbench.h"
 
 #include <orv/propertyeditor/grid/KPropertyCustomEditorView.h>
@@ -14,6 +16,7 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QMenu>
+#include <QStatusBar>
 
 namespace orv {
 
@@ -25,6 +28,7 @@ public:
     void begin();
     void jump(const SettingPlace &place);
     void leave();
+    void readSaved(const QString &file);
 
     FindSettings *const q;
     const QPointer<PropertyEditorWindow> window;
@@ -35,6 +39,7 @@ public:
 
 private:
     SettingVisits m_visits;
+    BackgroundWork m_reading;
     QPointer<QWidget> m_focusBefore;
 };
 
@@ -56,6 +61,18 @@ FindSettings::Private::Private(FindSettings *find, Workbench *workbench)
     connect(panel, &FindPanel::chosen, find, [this](const SettingPlace &place) { jump(place); });
     connect(panel, &FindPanel::left, find, [this] { leave(); });
     connect(panel, &FindPanel::setBackWanted, columns, &SettingColumns::setBack);
+    // A window that becomes read only says so in its title. One that goes changes it, too.
+    connect(
+        window, &QWidget::windowTitleChanged, find,
+        [this] {
+            panel->setRefusal(window && window->isReadOnly()
+                                  ? tr("This window is read only: nothing can be set back.")
+                                  : QString());
+        },
+        Qt::QueuedConnection);
+    // What is shown or saved then is what counts.
+    connect(window, &PropertyEditorWindow::documentShown, find, [this] { m_reading.cancel(); });
+    connect(window, &PropertyEditorWindow::documentSaved, find, [this] { m_reading.cancel(); });
     connect(dock, &QDockWidget::visibilityChanged, find, [this] {
         if (dock && dock->isHidden())
             m_visits.end(window);
@@ -92,6 +109,22 @@ void FindSettings::Private::leave()
         dock->hide();
 }
 
+void FindSettings::Private::readSaved(const QString &file)
+{
+    using Read = Result<SecondDocument>;
+    m_reading.cancel();
+    m_reading.run<SecondDocument>(
+        [file](const auto &isCancelled) -> Read { return SecondDocument::read(file, file, isCancelled); },
+        [this, file](const Read &saved) {
+            const Error error = saved.hasError() ? saved.error() : saved->error;
+            if (!error.hasError())
+                columns->takeSaved(saved->state);
+            else if (window)
+                window->statusBar()->showMessage(
+                    tr("What changed since the last save isn't known: %1").arg(error.errorMessage()));
+        });
+}
+
 FindSettings::FindSettings(Workbench *workbench)
     : QObject(workbench)
     , d(std::make_unique<Private>(this, workbench))
@@ -113,6 +146,11 @@ void FindSettings::setDiffersFromSecond(const Filter &filter)
         d->panel->setFilter(FindPanel::Filter::Differs, filter,
                             tr("Open a second document to compare with first."));
     }
+}
+
+void FindSettings::compareWithFile(const QString &file)
+{
+    d->readSaved(file);
 }
 
 QAction *FindSettings::action() const

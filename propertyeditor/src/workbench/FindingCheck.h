@@ -10,7 +10,8 @@ namespace orv {
 class PropertyEditorWindow;
 
 /// Checks the document of a window in the background. Neither the window nor the end of the program waits for
-/// a check, which may hang on a share whose server is gone.
+/// a check, which may hang on a share whose server is gone. The application's own validators run on this
+/// thread, once the others are done.
 class FindingCheck : public QObject
 {
     Q_OBJECT
@@ -33,6 +34,7 @@ Q_SIGNALS:
 private:
     using Findings = QList<PropertyEditor::LocatedFinding>;
 
+    [[nodiscard]] Findings findingsOfApplication() const;
     void finish(int number, const FindingTargets &targets, const Findings &findings);
 
     const QPointer<PropertyEditorWindow> m_window;

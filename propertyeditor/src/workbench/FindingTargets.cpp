@@ -19,11 +19,16 @@ constexpr qsizetype kTabStep = 2;
 constexpr qsizetype kCellStep = 4;
 constexpr qsizetype kRowStep = 9;
 
-std::optional<int> numberAt(const QStringList &steps, qsizetype step)
+std::optional<int> numberAt(QStringView pointer, qsizetype step)
 {
-    bool isNumber = false;
-    const int number = steps.value(step).toInt(&isNumber);
-    return isNumber && number >= 0 ? std::optional(number) : std::nullopt;
+    for (const QStringView part : pointer.tokenize(u'/')) {
+        if (step-- > 0)
+            continue;
+        bool isNumber = false;
+        const int number = part.toInt(&isNumber);
+        return isNumber && number >= 0 ? std::optional(number) : std::nullopt;
+    }
+    return std::nullopt;
 }
 
 bool hasText(const TableSheet &sheet, quint32 id, const QString &text)
@@ -78,9 +83,8 @@ FindingTargets::FindingTargets(const WorkflowTabs &tabs)
 
 const FindingTargets::Column *FindingTargets::columnOf(const LocatedFinding &finding) const
 {
-    const QStringList steps = finding.pointer.split(u'/');
-    const std::optional<int> tab = numberAt(steps, kTabStep);
-    const std::optional<int> cell = numberAt(steps, kCellStep);
+    const std::optional<int> tab = numberAt(finding.pointer, kTabStep);
+    const std::optional<int> cell = numberAt(finding.pointer, kCellStep);
     if (tab && cell && *tab < m_tabs.size() && !m_tabs.at(*tab).isEmpty())
         return &m_tabs.at(*tab).at(*cell % m_tabs.at(*tab).size());
     for (const Tab &columns : m_tabs) {
@@ -99,7 +103,7 @@ void FindingTargets::findRow(const Column &column, const LocatedFinding &finding
 {
     if (finding.sample.isEmpty())
         return;
-    const std::optional<int> number = numberAt(finding.pointer.split(u'/'), kRowStep);
+    const std::optional<int> number = numberAt(finding.pointer, kRowStep);
     for (const Table &table : column.tables) {
         if (!table.view)
             continue;

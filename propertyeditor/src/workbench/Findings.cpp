@@ -97,7 +97,6 @@ Findings::Private::Private(Findings *owner, Workbench *workbench)
     , m_history(workbench->history())
 {
     QMenu *menu = workbench->viewMenu();
-    menu->addSeparator();
     checkAction = add(tr("&Check Workflow"), "checkWorkflow", IconName::Question, Qt::Key_F9);
     nextAction = add(tr("&Next Finding"), "nextFinding", IconName::NextProblem, Qt::Key_F8);
     previousAction =

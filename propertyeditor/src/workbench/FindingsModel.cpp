@@ -1,5 +1,7 @@
 #include "FindingsModel.h"
 
+#include "ShortText.h"
+
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/widgets/Icons.h>
 
@@ -80,11 +82,10 @@ QVariant FindingsModel::data(const QModelIndex &index, int role) const
     const LocatedFinding &finding = m_findings.at(index.row());
     switch (role) {
     case Qt::DisplayRole:
-        return text(finding, index.column()).left(kMostInCell).simplified();
+        return ShortText::line(text(finding, index.column()), kMostInCell);
     case Qt::ToolTipRole:
         return QStringLiteral("<p>%1</p>")
-            .arg(text(finding, index.column())
-                     .left(kMostInTip)
+            .arg(ShortText::beginning(text(finding, index.column()), kMostInTip)
                      .toHtmlEscaped()
                      .replace(QLatin1Char('\n'), QLatin1String("<br>")));
     case Qt::DecorationRole:

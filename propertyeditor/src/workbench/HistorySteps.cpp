@@ -37,14 +37,12 @@ HistoryStep HistorySteps::takeLast()
     return m_steps.takeLast();
 }
 
-void HistorySteps::trim(qsizetype bytes)
+std::optional<HistoryStep> HistorySteps::takeFirst()
 {
-    qsizetype held = heldBytes();
-    while (held > bytes && m_steps.size() > 1 && m_index > 0) {
-        held -= m_steps.constFirst().bytes;
-        m_steps.removeFirst();
-        --m_index;
-    }
+    if (m_steps.size() < 2 || m_index == 0)
+        return {};
+    --m_index;
+    return m_steps.takeFirst();
 }
 
 void HistorySteps::forgetUpgrade()

@@ -39,8 +39,9 @@ public:
     void append(HistoryStep step);
     /// Takes the last step that was done away; what was undone is forgotten.
     [[nodiscard]] HistoryStep takeLast();
-    /// Forgets what lies longest back until the others hold no more than \a bytes.
-    void trim(qsizetype bytes);
+    /// Forgets the step that lies longest back, which must be done and not the last; nothing if there is
+    /// none.
+    [[nodiscard]] std::optional<HistoryStep> takeFirst();
     /// The upgrade can't be taken back any more, once it lies on the disk.
     void forgetUpgrade();
 

@@ -54,6 +54,8 @@ void SameSetting::connectDocument()
     connect(m_history, &DocumentHistory::changed, this, &SameSetting::refreshSoon);
     connect(m_window, &PropertyEditorWindow::documentShown, this, &SameSetting::refreshSoon);
     connect(m_window, &PropertyEditorWindow::documentSaved, this, &SameSetting::refreshSoon);
+    // A window that becomes read only says so in its title. One that goes changes it, too.
+    connect(m_window, &QWidget::windowTitleChanged, this, &SameSetting::refreshSoon, Qt::QueuedConnection);
 }
 
 /// Once for all changes of an event, and for a panel that is seen.
@@ -74,6 +76,9 @@ void SameSetting::refresh()
     const QByteArray name = property ? property->name() : QByteArray();
     if (name != model->name())
         m_panel->tell({});
+    model->setRefusal(m_window && m_window->isReadOnly()
+                          ? tr("This window is read only: nothing can be applied.")
+                          : QString());
     model->show(SettingView::all(m_window), m_current->view(), name);
 }
 
@@ -81,7 +86,7 @@ QString SameSetting::stepText(const QList<int> &rows) const
 {
     const SameSettingModel &model = *m_panel->model();
     const auto value = [&model](int row) {
-        return shortened(model.index(row, SameSettingModel::Value).data().toString(), kLongestInStep);
+        return ShortText::line(model.index(row, SameSettingModel::Value).data().toString(), kLongestInStep);
     };
     QString before = value(rows.constFirst());
     for (const int row : rows) {

@@ -2,6 +2,7 @@
 
 #include "SettingEdit.h"
 #include "SettingReader.h"
+#include "ShortText.h"
 
 #include <KProperty.h>
 #include <KPropertySet.h>
@@ -47,7 +48,8 @@ QList<SameSettingModel::Row> SameSettingModel::read(const QList<SettingView> &co
             continue;
         const KProperty &property = set->property(m_name);
         rows.append({column, SettingReader::valueText(property), SettingReader::stored(property),
-                     SettingEdit::refusal(set, m_name), column.view == source});
+                     m_refusal.isEmpty() ? SettingEdit::refusal(set, m_name) : m_refusal,
+                     column.view == source});
     }
     const auto applied = std::ranges::find(rows, true, &Row::isSource);
     for (Row &row : rows)
@@ -161,7 +163,7 @@ QVariant SameSettingModel::data(const QModelIndex &index, int role) const
     const Row &row = m_rows.at(index.row());
     switch (role) {
     case Qt::DisplayRole:
-        return text(row, index.column()).left(kMostOfSame).simplified();
+        return ShortText::line(text(row, index.column()), kMostOfSame);
     case Qt::CheckStateRole:
         return index.column() == Place && canGet(row) ? QVariant(isChecked(row) ? Qt::Checked : Qt::Unchecked)
                                                       : QVariant();
@@ -171,15 +173,15 @@ QVariant SameSettingModel::data(const QModelIndex &index, int role) const
                    : QVariant(Icons::icon(row.isSource ? IconName::Copy : IconName::Information));
     case Qt::AccessibleTextRole: {
         // The first cell is the current one, so that this is what one hears.
-        QStringList spoken{text(row, index.column()).left(kMostOfSameInTip)};
+        QStringList spoken{ShortText::beginning(text(row, index.column()), kMostOfSameInTip)};
         if (index.column() == Place)
-            spoken += {text(row, Value).left(kMostOfSameInTip), remark(row)};
+            spoken += {ShortText::beginning(text(row, Value), kMostOfSameInTip), remark(row)};
         spoken.removeAll(QString());
         return spoken.join(QStringLiteral(", "));
     }
     case Qt::ToolTipRole:
         return QStringLiteral("<p>%1</p>")
-            .arg(text(row, index.column()).left(kMostOfSameInTip).toHtmlEscaped());
+            .arg(ShortText::beginning(text(row, index.column()), kMostOfSameInTip).toHtmlEscaped());
     default:
         return {};
     }

@@ -31,6 +31,9 @@ public:
     /// The setting \a name of \a source, in \a columns; rows of the same columns stay rows.
     void show(const QList<SettingView> &columns, const GridPropertyEditorView *source,
               const QByteArray &name);
+    /// Why no column can get the value; empty if columns can.
+    void setRefusal(const QString &reason) { m_refusal = reason; }
+    [[nodiscard]] QString refusal() const { return m_refusal; }
     void clear() { show({}, nullptr, {}); }
 
     [[nodiscard]] const QByteArray &name() const { return m_name; }
@@ -76,6 +79,7 @@ private:
     QList<Row> m_rows;
     QByteArray m_name;
     QString m_caption;
+    QString m_refusal;
     QList<QPointer<GridPropertyEditorView>> m_checked;
 };
 

@@ -23,7 +23,7 @@ constexpr qsizetype kLongestInHeading = 200;
 } // namespace
 
 SameSettingPanel::SameSettingPanel(QWidget *parent)
-    : QWidget(parent)
+    : LeavablePanel(parent)
     , m_model(new SameSettingModel(this))
     , m_heading(new QLabel)
     , m_list(new QTreeView)
@@ -92,7 +92,9 @@ void SameSettingPanel::update()
     m_apply->setText(chosen == 1  ? tr("Ap&ply to 1 Column")
                      : chosen > 1 ? tr("Ap&ply to %1 Columns").arg(locale().toString(chosen))
                                   : tr("Ap&ply"));
-    m_apply->setToolTip(chosen > 0 ? QString() : tr("Check columns that have another value first."));
+    m_apply->setToolTip(chosen > 0                      ? QString()
+                        : !m_model->refusal().isEmpty() ? m_model->refusal()
+                                                        : tr("Check columns that have another value first."));
     int boxes = 0;
     int checked = 0;
     for (int row = 0; row < m_model->rowCount(); ++row) {
@@ -113,7 +115,7 @@ void SameSettingPanel::tellValue()
         const std::optional<QString> common = m_model->commonValue();
         const QString value = !common             ? QStringLiteral("–")
                               : common->isEmpty() ? tr("(empty)")
-                                                  : shortened(*common, kLongestInHeading);
+                                                  : ShortText::line(*common, kLongestInHeading);
         text = tr("%1: %2").arg(m_model->caption(), value);
         spoken = common ? text : tr("%1: the columns differ").arg(m_model->caption());
     }
@@ -154,22 +156,12 @@ bool SameSettingPanel::eventFilter(QObject *watched, QEvent *event)
         toggleSelected();
         return true;
     }
-    return QWidget::eventFilter(watched, event);
-}
-
-void SameSettingPanel::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
-        event->accept();
-        Q_EMIT left();
-        return;
-    }
-    QWidget::keyPressEvent(event);
+    return LeavablePanel::eventFilter(watched, event);
 }
 
 void SameSettingPanel::showEvent(QShowEvent *event)
 {
-    QWidget::showEvent(event);
+    LeavablePanel::showEvent(event);
     Q_EMIT shown();
 }
 

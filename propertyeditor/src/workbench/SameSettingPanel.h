@@ -1,8 +1,7 @@
 #pragma once
 
+#include "LeavablePanel.h"
 #include "SameSettingModel.h"
-
-#include <QWidget>
 
 QT_FORWARD_DECLARE_CLASS(QCheckBox)
 QT_FORWARD_DECLARE_CLASS(QLabel)
@@ -13,7 +12,7 @@ namespace orv {
 
 /// The list of columns that have one setting, with a box each. Tells what a person wants, and does nothing
 /// itself to the document.
-class SameSettingPanel : public QWidget
+class SameSettingPanel : public LeavablePanel
 {
     Q_OBJECT
 
@@ -29,14 +28,11 @@ Q_SIGNALS:
     void applied();
     /// Enter or a double click on a row.
     void chosen(int row);
-    /// Escape.
-    void left();
     /// The panel is seen from now on.
     void shown();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:

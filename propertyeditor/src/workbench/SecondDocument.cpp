@@ -106,7 +106,8 @@ QJsonObject inFolder(const WorkflowFile &file, const QUrl &folder, SecondDocumen
 
 } // namespace
 
-SecondDocument SecondDocument::read(const QString &path, const QString &own)
+SecondDocument SecondDocument::read(const QString &path, const QString &own,
+                                    const std::atomic_bool &isCancelled)
 {
     SecondDocument second;
     second.path = path;
@@ -117,8 +118,10 @@ SecondDocument SecondDocument::read(const QString &path, const QString &own)
         return second;
     }
     judge(*file, &second);
-    if (!second.error.hasError() && second.refusal.isEmpty())
+    if (!isCancelled && !second.error.hasError() && second.refusal.isEmpty())
         upgrade(&*file, &second);
+    if (isCancelled)
+        return second;
     if (!second.error.hasError())
         second.state = stateOf(PropertyEditorContent(inFolder(*file, folderOf(own), &second)));
     if (!second.error.hasError() && second.state.tabs.isEmpty())

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <atomic>
+
 namespace orv {
 
 /// A workflow file as a window would show it. Nothing of it is ever written.
@@ -21,8 +23,10 @@ struct SecondDocument
 
     /// Reads a file or a portable folder, and upgrades it in memory. Its relative files get absolute paths
     /// unless they count from the folder of \a own, the file of the document to compare with, which may be
-    /// empty. Any thread; blocks as an upgrade does.
-    [[nodiscard]] static SecondDocument read(const QString &path, const QString &own);
+    /// empty. Any thread; blocks as an upgrade does. What is cancelled ends between two steps, and its result
+    /// means nothing.
+    [[nodiscard]] static SecondDocument read(const QString &path, const QString &own,
+                                             const std::atomic_bool &isCancelled);
 };
 
 } // namespace orv

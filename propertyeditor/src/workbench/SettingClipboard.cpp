@@ -1,6 +1,7 @@
 #include "SettingClipboard.h"
 
 #include "CurrentSetting.h"
+#include "LeavablePanel.h"
 #include "SettingCopy.h"
 #include "SettingEdit.h"
 #include "SettingView.h"
@@ -27,6 +28,7 @@
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QStatusBar>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <memory>
@@ -58,22 +60,32 @@ SettingClipboard::SettingClipboard(Workbench *workbench, CurrentSetting *current
     , m_history(workbench->history())
     , m_current(current)
     , m_refused(new QPlainTextEdit)
-    , m_dock(workbench->addPanel(m_refused, QStringLiteral("settingsNotPasted"), tr("Settings Not Pasted"),
-                                 Qt::BottomDockWidgetArea))
+    , m_isReadOnly(m_window->isReadOnly())
 {
+    auto *page = new LeavablePanel;
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins({});
+    layout->addWidget(m_refused);
+    page->setFocusProxy(m_refused);
+    m_dock = workbench->addPanel(page, QStringLiteral("settingsNotPasted"), tr("Settings Not Pasted"),
+                                 Qt::BottomDockWidgetArea);
     m_refused->setObjectName(QStringLiteral("settingsNotPastedList"));
     m_refused->setAccessibleName(tr("Settings that were not pasted"));
     m_refused->setReadOnly(true);
     m_refused->setTabChangesFocus(true);
     m_refused->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_refused->setPlaceholderText(tr("Everything that was pasted last fitted."));
-    auto *leaving = new QAction(m_refused);
-    leaving->setShortcut(Qt::Key_Escape);
-    leaving->setShortcutContext(Qt::WidgetShortcut);
-    m_refused->addAction(leaving);
-    connect(leaving, &QAction::triggered, this, &SettingClipboard::leave);
+    connect(page, &LeavablePanel::left, this, &SettingClipboard::leave);
     addCommands(workbench->editMenu());
     connect(m_current, &CurrentSetting::changed, this, &SettingClipboard::update);
+    // A window that becomes read only says so in its title. One that goes changes it, too.
+    connect(
+        m_window, &QWidget::windowTitleChanged, this,
+        [this] {
+            m_isReadOnly = m_window && m_window->isReadOnly();
+            update();
+        },
+        Qt::QueuedConnection);
     connect(m_window, &PropertyEditorWindow::documentShown, this, [this] { m_refused->clear(); });
     update();
 }
@@ -106,9 +118,10 @@ void SettingClipboard::update()
     m_copyMenu->setEnabled(canCopy);
     for (QAction *action : m_copy)
         action->setEnabled(canCopy);
-    m_paste->setEnabled(isThere && m_current->focus() == Focus::Rows);
+    m_paste->setEnabled(isThere && !m_isReadOnly && m_current->focus() == Focus::Rows);
     m_paste->setToolTip(
-        m_paste->isEnabled()
+        m_isReadOnly ? tr("This window is read only: nothing can be pasted.")
+        : m_paste->isEnabled()
             ? tr("Give the column the settings that were copied as text, JSON or command line")
         : isThere ? tr("Leave the value that is being edited first.")
                   : tr("Go to a column of settings first."));

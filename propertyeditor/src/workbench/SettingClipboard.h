@@ -58,6 +58,7 @@ private:
     QAction *m_paste = nullptr;
     QPlainTextEdit *m_refused; ///< of the dock
     QPointer<QDockWidget> m_dock;
+    bool m_isReadOnly; ///< the window
 };
 
 } // namespace orv

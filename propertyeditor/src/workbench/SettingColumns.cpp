@@ -4,10 +4,14 @@
 
 #include <KProperty.h>
 #include <KPropertySet.h>
+#include <orv/propertyeditor/PropertySetCreator.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
 
+#include <QJsonDocument>
+
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace orv {
@@ -25,6 +29,17 @@ SettingColumns::SettingColumns(PropertyEditorWindow *window, QObject *parent)
     connect(window, &PropertyEditorWindow::documentSaved, this, savedAnew);
     connect(window->workflowTabs(), &WorkflowTabs::columnsChanged, this, &SettingColumns::tellSoon);
     connect(window->workflowTabs(), &WorkflowTabs::edited, this, &SettingColumns::tellSoon);
+    // A window that becomes read only says so in its title. One that goes changes it, too.
+    connect(
+        window, &QWidget::windowTitleChanged, this,
+        [this] {
+            const bool wasReadOnly = std::exchange(m_wasReadOnly, isReadOnly());
+            if (wasReadOnly == m_wasReadOnly)
+                return;
+            m_isStale = true;
+            tellSoon();
+        },
+        Qt::QueuedConnection);
     keepAsSaved();
 }
 
@@ -40,6 +55,24 @@ void SettingColumns::keepAsSaved()
     }
 }
 
+void SettingColumns::takeSaved(const DocumentState &document)
+{
+    m_saved.clear();
+    for (const DocumentState::Tab &tab : document.tabs) {
+        for (qsizetype i = 0; i < tab.cells.size(); ++i) {
+            const Result<KPropertySet *> made = PropertySetCreator::objectToPropertySet(
+                QJsonDocument::fromJson(tab.cells.at(i)).object(), std::nullopt);
+            if (made.hasError())
+                continue; // no column of settings
+            const std::unique_ptr<KPropertySet> set(*made);
+            const Column column{{}, 0, 0, tab.title, tab.columns.value(i)};
+            m_saved.append({column, SettingReader::stored(*set)});
+        }
+    }
+    m_isStale = true;
+    tellSoon();
+}
+
 /// The very column, else the one of its name: a step back may have made it anew.
 const StoredSettings *SettingColumns::savedOf(const Column &column) const
 {
@@ -53,11 +86,18 @@ const StoredSettings *SettingColumns::savedOf(const Column &column) const
     return saved == m_saved.cend() ? nullptr : &saved->values;
 }
 
+bool SettingColumns::isReadOnly() const
+{
+    return m_window && m_window->isReadOnly();
+}
+
 SettingIndex::Column SettingColumns::read(const Column &column)
 {
     const KPropertySet *set = column.view ? column.view->propertySet() : nullptr;
-    return {column.tab, column.column, column.tabName, column.columnName,
-            set ? m_reader.read(*set, savedOf(column)) : QList<SettingTexts>()};
+    QList<SettingTexts> settings = set ? m_reader.read(*set, savedOf(column)) : QList<SettingTexts>();
+    for (SettingTexts &texts : settings)
+        texts.isReadOnly = texts.isReadOnly || isReadOnly();
+    return {column.tab, column.column, column.tabName, column.columnName, settings};
 }
 
 SettingColumns::Change SettingColumns::refresh()
@@ -127,7 +167,7 @@ bool SettingColumns::setBack(const SettingPlace &place, Former former)
         return each.tab == place.tab && each.column == place.column;
     });
     KPropertySet *set = column == m_columns.cend() || !column->view ? nullptr : column->view->propertySet();
-    if (!SettingEdit::refusal(set, place.name).isEmpty())
+    if (isReadOnly() || !SettingEdit::refusal(set, place.name).isEmpty())
         return false;
     const PropertyId id = SettingReader::idOf(set->property(place.name));
     const StoredSettings *saved = savedOf(*column);

@@ -2,6 +2,7 @@
 
 #include "SettingReader.h"
 #include "SettingView.h"
+#include "orv/propertyeditor/workbench/DocumentState.h"
 #include "orv/propertyeditor/workbench/SettingIndex.h"
 
 #include <QObject>
@@ -40,6 +41,8 @@ public:
         Default,
         Saved,
     };
+    /// \a document is what was saved, in place of what was shown first; until the next save.
+    void takeSaved(const DocumentState &document);
     /// Gives a setting its former value, as an edit; false where there is none or it is the present one, and
     /// where the setting can't be edited.
     bool setBack(const SettingPlace &place, Former former);
@@ -56,6 +59,7 @@ private:
         StoredSettings values;
     };
 
+    [[nodiscard]] bool isReadOnly() const;
     [[nodiscard]] SettingIndex::Column read(const Column &column);
     [[nodiscard]] const StoredSettings *savedOf(const Column &column) const;
     void hear(GridPropertyEditorView *view);
@@ -70,7 +74,8 @@ private:
     QList<Saved> m_saved;
     QList<QPointer<GridPropertyEditorView>> m_touched;
     bool m_isTelling = false;
-    bool m_isStale = true; ///< the saved values are others
+    bool m_isStale = true; ///< the saved values are others, or nothing can be edited any more
+    bool m_wasReadOnly = false;
 };
 
 } // namespace orv

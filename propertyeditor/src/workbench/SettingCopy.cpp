@@ -80,8 +80,10 @@ Result<QByteArray> SettingCopy::asJson(const KPropertySet &set, const QList<QByt
         // One that isn't visible and has no priority is written as its value alone.
         QJsonObject entry = entries.value(QString::fromUtf8(name));
         if (entry.isEmpty() && set.contains(name)) {
-            entry = {{NAME_KEY, QString::fromUtf8(name)},
-                     {VALUE_KEY, SettingReader::stored(set.property(name))}};
+            entry = {
+                {NAME_KEY, QString::fromUtf8(name)},
+                {VALUE_KEY, SettingReader::stored(set.property(name),
+                                                  PropertyEditor::PropertyConversionFlag::AbsolutePaths)}};
         }
         if (!entry.isEmpty())
             copied.append(entry);

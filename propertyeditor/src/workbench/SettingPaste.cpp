@@ -167,7 +167,7 @@ QString addTo(SettingPaste::Plan *plan, const PastedSetting &setting, const KPro
     if (value.hasError()) {
         QStringList reasons = value.error().errorMessages() + value.error().details();
         for (QString &reason : reasons)
-            reason = shortened(reason, kMostToldOfText);
+            reason = ShortText::line(reason, kMostToldOfText);
         return reasons.join(u' ');
     }
     plan->values.append({name, *value});
@@ -208,7 +208,7 @@ SettingPaste::Plan SettingPaste::plan(const Pasted &pasted, const KPropertySet &
     Plan plan;
     for (const PastedSetting &setting : pasted) {
         if (const QString reason = addTo(&plan, setting, set, mode, locale); !reason.isEmpty()) {
-            const QString name = shortened(setting.name, kMostToldOfText);
+            const QString name = ShortText::line(setting.name, kMostToldOfText);
             plan.refused.append(SettingPasteTr::tr("%1: %2").arg(
                 name.isEmpty() ? SettingPasteTr::tr("(no name)") : name, reason));
         }

@@ -68,11 +68,11 @@ QString SettingReader::valueText(const KProperty &property)
     return KPropertyFactoryManager::self()->propertyValueToLocalizedString(&property).left(kMostCharacters);
 }
 
-QJsonValue SettingReader::stored(const KProperty &property)
+QJsonValue SettingReader::stored(const KProperty &property, PropertyEditor::PropertyConversionFlag paths)
 {
     if (property.type() == PropertiesTraits::ResourceReferenceType && isReferenceToNothing(property.value()))
         return QString();
-    return PropertySetCreator::valueToJson(property, PropertyEditor::PropertyConversionFlag::KeepPaths);
+    return PropertySetCreator::valueToJson(property, paths);
 }
 
 QJsonValue SettingReader::storedDefault(PropertyId id)

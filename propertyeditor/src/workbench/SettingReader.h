@@ -3,6 +3,7 @@
 #include "orv/propertyeditor/workbench/SettingIndex.h"
 
 #include <orv/propertyeditor/PropertyId.h>
+#include <orv/propertyeditor/content/ContentOptions.h>
 
 #include <QHash>
 #include <QJsonValue>
@@ -27,7 +28,9 @@ public:
 
     [[nodiscard]] static StoredSettings stored(const KPropertySet &set);
     /// A reference to nothing is an empty text in files.
-    [[nodiscard]] static QJsonValue stored(const KProperty &property);
+    [[nodiscard]] static QJsonValue
+    stored(const KProperty &property,
+           PropertyEditor::PropertyConversionFlag paths = PropertyEditor::PropertyConversionFlag::KeepPaths);
     /// Whether people see no difference between two stored values.
     [[nodiscard]] static bool areSame(const QJsonValue &first, const QJsonValue &second);
     /// As people see it, with its unit; of a long value the beginning.

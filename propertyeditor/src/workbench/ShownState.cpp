@@ -13,15 +13,19 @@
 #include <orv/widgets/TableView.h>
 
 #include <QAction>
-#include <QJsonDocument>
 
 #include <utility>
 
 namespace orv {
 
-QByteArray textOf(const IGridItem &item)
+StateCell cellOf(const IGridItem &item)
 {
-    return QJsonDocument(CellStamps::without(item.content())).toJson(QJsonDocument::Compact);
+    return StateCell(CellStamps::without(item.content()));
+}
+
+int stepsDone(const TableHistory &history)
+{
+    return history.forgotten() + history.index();
 }
 
 ShownState::ShownState(PropertyEditorWindow *window)
@@ -56,13 +60,13 @@ DocumentState::Tab ShownState::readTab(int index)
     return tab;
 }
 
-QByteArray ShownState::readColumn(IGridItem &item)
+StateCell ShownState::readColumn(IGridItem &item)
 {
     Column &column = known(item);
     if (!column.isRead || column.name != item.name()) {
-        const QByteArray cell = textOf(item);
-        // A text that is the same stays shared with other states.
-        if (cell != column.cell)
+        const StateCell cell = cellOf(item);
+        // One that is the same stays shared with other states.
+        if (column.cell.isNull() || !(cell == column.cell))
             column.cell = cell;
         column.name = item.name();
         column.isRead = true;
@@ -106,16 +110,26 @@ void ShownState::follow(IGridItem &item, Column *column)
         // One key takes back the last edit, wherever it was made.
         table->action(TableView::Command::Undo)->setShortcuts(QList<QKeySequence>());
         table->action(TableView::Command::Redo)->setShortcuts(QList<QKeySequence>());
-        column->histories.append({table->sheet()->history(), table->sheet()->history()->index()});
+        column->histories.append({table->sheet()->history(), stepsDone(*table->sheet()->history())});
     }
 }
 
 void ShownState::noteMoves(Column *column)
 {
     for (auto &[history, done] : column->histories) {
-        if (history && history->index() != done)
-            m_moves.append({history, std::exchange(done, history->index()), history->index()});
+        if (history && stepsDone(*history) != done)
+            m_moves.append({history, std::exchange(done, stepsDone(*history)), stepsDone(*history)});
     }
+}
+
+qsizetype ShownState::heldByTables() const
+{
+    qsizetype bytes = 0;
+    for (const Column &column : m_columns) {
+        for (const auto &[history, done] : column.histories)
+            bytes += history ? history->heldBytes() : 0;
+    }
+    return bytes;
 }
 
 QList<TableMove> ShownState::takeMoves()
@@ -130,18 +144,18 @@ void ShownState::forget(const StateChange &change, const DocumentState &shown)
     if (!change.hasOtherTabs())
         return;
     for (qsizetype tab = change.firstTab(); tab < shown.tabs.size(); ++tab) {
-        const QList<QByteArray> &cells = shown.tabs.at(tab).cells;
+        const QList<StateCell> &cells = shown.tabs.at(tab).cells;
         for (qsizetype column = 0; column < cells.size(); ++column)
             forgetUnless(int(tab), int(column), &cells.at(column));
     }
 }
 
-void ShownState::forgetUnless(int tab, int column, const QByteArray *text)
+void ShownState::forgetUnless(int tab, int column, const StateCell *cell)
 {
     const PropertyGridWidget *grid = m_window->workflowTabs()->grid(tab);
     const IGridItem *item = grid ? grid->items().value(column) : nullptr;
     const auto known = item ? m_columns.find(item->edits()) : m_columns.end();
-    if (known != m_columns.end() && !(text && known->cell == *text))
+    if (known != m_columns.end() && !(cell && known->cell == *cell))
         known->isRead = false;
 }
 

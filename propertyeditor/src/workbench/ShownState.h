@@ -14,7 +14,8 @@ class IGridItem;
 class PropertyEditorWindow;
 class TableHistory;
 
-/// A table that went through steps of its own.
+/// A table that went through steps of its own. They count from the first one that it ever had, whether or not
+/// that was forgotten.
 struct TableMove
 {
     QPointer<TableHistory> history;
@@ -22,10 +23,13 @@ struct TableMove
     int after = 0;
 };
 
-/// The text of a cell as it stands in a state.
-[[nodiscard]] QByteArray textOf(const IGridItem &item);
+/// How many of the steps are done, counted in that way.
+[[nodiscard]] int stepsDone(const TableHistory &history);
 
-/// Reads what a window shows. Of columns that nobody has edited since it knows the text already.
+/// What a column shows, as it stands in a state.
+[[nodiscard]] StateCell cellOf(const IGridItem &item);
+
+/// Reads what a window shows. Of columns that nobody has edited since it knows the cell already.
 class ShownState : public QObject
 {
     Q_OBJECT
@@ -36,6 +40,8 @@ public:
     [[nodiscard]] DocumentState read();
     /// Of all tables that were read anew since the last call.
     [[nodiscard]] QList<TableMove> takeMoves();
+    /// What the steps of all tables hold.
+    [[nodiscard]] qsizetype heldByTables() const;
     /// The next call of read() reads everything.
     void forget();
     /// The same for the columns that \a change, which led to \a shown, is about: what a program does isn't
@@ -49,16 +55,16 @@ Q_SIGNALS:
 private:
     struct Column
     {
-        QByteArray cell;
+        StateCell cell;
         QString name;
         bool isRead = false;
         QList<std::pair<QPointer<TableHistory>, int>> histories; ///< and how many of their steps were done
     };
 
     [[nodiscard]] DocumentState::Tab readTab(int index);
-    [[nodiscard]] QByteArray readColumn(IGridItem &item);
-    /// A column that has this text stays known.
-    void forgetUnless(int tab, int column, const QByteArray *text);
+    [[nodiscard]] StateCell readColumn(IGridItem &item);
+    /// A column that is this cell stays known.
+    void forgetUnless(int tab, int column, const StateCell *cell);
     Column &known(IGridItem &item);
     void follow(IGridItem &item, Column *column);
     void noteMoves(Column *column);

@@ -30,9 +30,9 @@ using namespace PropertyEditorStringConstants;
 
 namespace {
 
-QString memberOf(const QByteArray &cell, QLatin1String key)
+QString memberOf(const StateCell &cell, QLatin1String key)
 {
-    return QJsonDocument::fromJson(cell).object().value(key).toString();
+    return cell.object().value(key).toString();
 }
 
 /// Columns of one name are renamed together by hand, and each to its own name here.
@@ -103,7 +103,8 @@ StateDisplay::StateDisplay(PropertyEditorWindow *window, std::function<bool()> g
 
 Error StateDisplay::show(const DocumentState &from, const DocumentState &to)
 {
-    const StateChange change = StateChange::between(from, to);
+    m_change = StateChange::between(from, to);
+    const StateChange change = m_change;
     if (change.hasOtherMetadata())
         m_window->setWorkflowMetadata(to.metadata);
     // What can't be shown keeps nothing else from being shown.
@@ -178,7 +179,7 @@ Error StateDisplay::exchangeColumns(PropertyGridWidget &grid, const DocumentStat
         }
         Error error;
         for (int i = 0; i < to.cells.size() && shown && m_goesOn(); ++i) {
-            if (from.columns.value(i) != to.columns.value(i) || from.cells.at(i) != to.cells.at(i))
+            if (from.columns.value(i) != to.columns.value(i) || !(from.cells.at(i) == to.cells.at(i)))
                 keepFirst(&error,
                           updateColumn(grid, i, to.columns.value(i), from.cells.at(i), to.cells.at(i)));
         }
@@ -196,12 +197,12 @@ Error StateDisplay::exchangeColumns(PropertyGridWidget &grid, const DocumentStat
         grid.removeColumn(int(head));
     Error error;
     for (qsizetype i = head; i < to.cells.size() - tail && shown && m_goesOn(); ++i)
-        keepFirst(&error, grid.insertColumn(int(i), to.columns.value(i), to.cells.at(i)));
+        keepFirst(&error, grid.insertColumn(int(i), to.columns.value(i), to.cells.at(i).toVariant()));
     return error.ecatch();
 }
 
 Error StateDisplay::updateColumn(PropertyGridWidget &grid, int column, const QString &name,
-                                 const QByteArray &from, const QByteArray &to)
+                                 const StateCell &from, const StateCell &to)
 {
     const QPointer<PropertyGridWidget> shown(&grid);
     if (grid.columnNames().value(column) != name)
@@ -209,21 +210,21 @@ Error StateDisplay::updateColumn(PropertyGridWidget &grid, int column, const QSt
     IGridItem *item = shown ? grid.items().value(column) : nullptr;
     if (!item)
         return Error::NoError;
-    if (textOf(*item) == to)
+    if (cellOf(*item) == to)
         return Error::NoError;
     item->setName(memberOf(to, NAME_KEY));
-    if (!from.isEmpty() && memberOf(from, TYPE_KEY) != memberOf(to, TYPE_KEY)) {
-        ORV_RETURN_IF_ERROR(grid.insertColumn(column, name, to));
+    if (!from.isNull() && memberOf(from, TYPE_KEY) != memberOf(to, TYPE_KEY)) {
+        ORV_RETURN_IF_ERROR(grid.insertColumn(column, name, to.toVariant()));
         if (shown && m_goesOn())
             grid.removeColumn(column + 1);
         return Error::NoError;
     }
-    const QJsonObject cell = QJsonDocument::fromJson(to).object();
+    const QJsonObject cell = to.object();
     // Lives as long as the item, which goes at once when a listener removes its column.
     const QPointer<GridItemEdits> isThere(item->edits());
     if (const QPointer view = qobject_cast<GridPropertyEditorView *>(item->widget())) {
         const bool areSame = takeValues(*view, cell);
-        if (!isThere || !view || (areSame && textOf(*item) == to))
+        if (!isThere || !view || (areSame && cellOf(*item) == to))
             return Error::NoError;
         const TreePlace place(*view->editorView());
         Error error = item->setContent(cell);
@@ -238,7 +239,7 @@ void StateDisplay::goTo(const DocumentState &from, const DocumentState &to)
 {
     if (!m_window)
         return;
-    const StateChange change = StateChange::between(from, to);
+    const StateChange &change = m_change;
     if (change.hasOtherTabs()) {
         const int count = m_tabs->widget()->count();
         m_tabs->widget()->setCurrentIndex(std::min(change.firstTab(), count - 1));
@@ -255,8 +256,8 @@ void StateDisplay::goTo(const DocumentState &from, const DocumentState &to)
         return;
     const QPointer view = qobject_cast<GridPropertyEditorView *>(widget);
     const QList<ChangedEntry> changed =
-        view ? changedEntries(QJsonDocument::fromJson(from.tabs.at(cell.tab).cells.at(cell.column)).object(),
-                              QJsonDocument::fromJson(to.tabs.at(cell.tab).cells.at(cell.column)).object())
+        view ? changedEntries(from.tabs.at(cell.tab).cells.at(cell.column).object(),
+                              to.tabs.at(cell.tab).cells.at(cell.column).object())
              : QList<ChangedEntry>();
     SettingJump::show(m_window, widget);
     if (view && !changed.isEmpty())

@@ -27,7 +27,7 @@ public:
     /// Fails where a column can't be shown, with what the first of them says, and shows the others.
     [[nodiscard]] Error show(const DocumentState &from, const DocumentState &to);
 
-    /// Where somebody looks to see what was shown by that.
+    /// Where somebody looks to see what was shown by that; behind show() with the same states.
     void goTo(const DocumentState &from, const DocumentState &to);
 
 private:
@@ -36,11 +36,12 @@ private:
     [[nodiscard]] Error exchangeColumns(PropertyGridWidget &grid, const DocumentState::Tab &from,
                                         const DocumentState::Tab &to);
     [[nodiscard]] Error updateColumn(PropertyGridWidget &grid, int column, const QString &name,
-                                     const QByteArray &from, const QByteArray &to);
+                                     const StateCell &from, const StateCell &to);
 
     QPointer<PropertyEditorWindow> m_window;
     std::function<bool()> m_goesOn;
     WorkflowTabs *m_tabs;
+    StateChange m_change; ///< that is shown
 };
 
 } // namespace orv

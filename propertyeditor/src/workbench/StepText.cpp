@@ -9,7 +9,6 @@
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 
 #include <QCoreApplication>
-#include <QJsonDocument>
 
 namespace orv {
 
@@ -29,18 +28,16 @@ QString settingText(const QJsonObject &cellBefore, const QJsonObject &before, co
                     const QJsonObject &after)
 {
     QString caption = EntryTexts::caption(cell, after);
-    const QString was = shortened(EntryTexts::value(cellBefore, before), kLongestValue);
-    const QString is = shortened(EntryTexts::value(cell, after), kLongestValue);
+    const QString was = ShortText::line(EntryTexts::value(cellBefore, before), kLongestValue);
+    const QString is = ShortText::line(EntryTexts::value(cell, after), kLongestValue);
     if (was == is)
         return caption;
     const QString none = StepTextTr::tr("(empty)");
     return StepTextTr::tr("%1 %2 to %3").arg(caption, was.isEmpty() ? none : was, is.isEmpty() ? none : is);
 }
 
-QString settingsText(const QByteArray &cellBefore, const QByteArray &cellAfter, const QString &column)
+QString settingsText(const QJsonObject &before, const QJsonObject &after, const QString &column)
 {
-    const QJsonObject before = QJsonDocument::fromJson(cellBefore).object();
-    const QJsonObject after = QJsonDocument::fromJson(cellAfter).object();
     const QList<ChangedEntry> changed = changedEntries(before, after);
     if (changed.size() != 1)
         return StepTextTr::tr("Settings of \"%1\"").arg(column);
@@ -112,9 +109,9 @@ QString tabsText(const StateChange &change)
                           QT_TRANSLATE_NOOP("StepText", "Tab \"%1\" moved"));
 }
 
-bool isTable(const QByteArray &cell)
+bool isTable(const QJsonObject &cell)
 {
-    const QString type = QJsonDocument::fromJson(cell).object().value(TYPE_KEY).toString();
+    const QString type = cell.value(TYPE_KEY).toString();
     const auto *row = PropertyEditor::CellTypes::find(PropertyEditor::BaseItem::typeFromString(type));
     return row && !row->holdsSettings;
 }
@@ -138,10 +135,10 @@ QString StepText::of(const DocumentState &before, const StateChange &change, con
     const StateChange::CellChange &cell = change.cells().constFirst();
     const DocumentState::Tab &tab = after.tabs.at(cell.tab);
     const QString column = tab.columns.value(cell.column);
-    const QByteArray &now = tab.cells.at(cell.column);
+    const QJsonObject now = tab.cells.at(cell.column).object();
     if (isTable(now))
         return StepTextTr::tr("\"%1\" edited").arg(column);
-    return settingsText(before.tabs.at(cell.tab).cells.at(cell.column), now, column);
+    return settingsText(before.tabs.at(cell.tab).cells.at(cell.column).object(), now, column);
 }
 
 } // namespace orv

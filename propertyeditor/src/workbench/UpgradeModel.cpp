@@ -33,6 +33,7 @@ void UpgradeModel::setUpgrade(const DocumentUpgrade &upgrade)
 {
     beginResetModel();
     m_upgrade = upgrade;
+    m_values.clear();
     endResetModel();
 }
 
@@ -79,6 +80,18 @@ QString UpgradeModel::headline(int row) const
     return tr("%1, changes: %2").arg(step.version.toString()).arg(step.changes.size());
 }
 
+/// Values may be long, and views ask for them again and again.
+const UpgradeModel::Values &UpgradeModel::values(const QModelIndex &index,
+                                                 const WorkflowUpgradeChange &change) const
+{
+    auto known = m_values.find({index.internalId(), index.row()});
+    if (known == m_values.end()) {
+        known = m_values.insert({index.internalId(), index.row()},
+                                {ChangeText::ofValue(change.from), ChangeText::ofValue(change.to)});
+    }
+    return *known;
+}
+
 QString UpgradeModel::text(const QModelIndex &index) const
 {
     if (index.internalId() == kIsTop)
@@ -91,9 +104,9 @@ QString UpgradeModel::text(const QModelIndex &index) const
     case Change:
         return tr(kUpgradeChanges.at(size_t(change.kind)));
     case Before:
-        return ChangeText::ofValue(change.from);
+        return values(index, change).before;
     case After:
-        return ChangeText::ofValue(change.to);
+        return values(index, change).after;
     case ColumnCount:
         break;
     }

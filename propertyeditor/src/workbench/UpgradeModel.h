@@ -3,6 +3,9 @@
 #include <orv/propertyeditor/window/DocumentUpgrade.h>
 
 #include <QAbstractItemModel>
+#include <QHash>
+
+#include <utility>
 
 namespace orv {
 
@@ -37,10 +40,18 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    struct Values
+    {
+        QString before;
+        QString after;
+    };
+
+    [[nodiscard]] const Values &values(const QModelIndex &index, const WorkflowUpgradeChange &change) const;
     [[nodiscard]] QString text(const QModelIndex &index) const;
     [[nodiscard]] QString headline(int row) const;
 
     DocumentUpgrade m_upgrade;
+    mutable QHash<std::pair<quintptr, int>, Values> m_values; ///< of the changes that were seen
 };
 
 } // namespace orv

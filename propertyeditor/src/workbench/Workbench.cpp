@@ -16,6 +16,7 @@
 
 #include <QDockWidget>
 #include <QMenuBar>
+#include <QStatusTipEvent>
 
 namespace orv {
 
@@ -29,6 +30,7 @@ Workbench::Workbench(PropertyEditorWindow *window)
     ControlHelp::install();
     m_editMenu->setToolTipsVisible(true);
     m_viewMenu->setToolTipsVisible(true);
+    m_behindPanels = m_viewMenu->addSeparator();
     addHistory();
     connect(window, &QWidget::windowTitleChanged, this, &Workbench::updateTitle);
     updateTitle();
@@ -40,9 +42,18 @@ Workbench::Workbench(PropertyEditorWindow *window)
     new SettingClipboard(this, current);
     m_comparison = new Comparison(this);
     new StatusLine(this);
+    window->installEventFilter(this);
 }
 
 Workbench::~Workbench() = default;
+
+/// A pointer that passes over entries of menus without explanation doesn't wipe out what was told.
+bool Workbench::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_window && event->type() == QEvent::StatusTip)
+        return static_cast<const QStatusTipEvent *>(event)->tip().isEmpty();
+    return QObject::eventFilter(watched, event);
+}
 
 void Workbench::addHistory()
 {
@@ -94,8 +105,33 @@ QDockWidget *Workbench::addPanel(QWidget *widget, const QString &name, const QSt
     panel->hide();
     QAction *toggle = panel->toggleViewAction();
     toggle->setShortcut(shortcut);
-    m_viewMenu->addAction(toggle);
+    // Of panels that share a side one is in front: the one that was asked for.
+    connect(toggle, &QAction::triggered, panel, [panel](bool isShown) {
+        if (isShown)
+            panel->raise();
+    });
+    m_viewMenu->insertAction(m_behindPanels, toggle);
+    connect(panel, &QDockWidget::visibilityChanged, this, [this, panel, area](bool isShown) {
+        if (isShown)
+            sizeOnce(panel, area);
+    });
     return panel;
+}
+
+void Workbench::sizeOnce(QDockWidget *panel, Qt::DockWidgetArea area)
+{
+    if (m_sized.contains(area))
+        return;
+    m_sized.insert(area);
+    const bool isAtTheSide = area == Qt::LeftDockWidgetArea || area == Qt::RightDockWidgetArea;
+    const int size = isAtTheSide ? m_window->width() : m_window->height();
+    m_window->resizeDocks({panel}, {size / 3}, isAtTheSide ? Qt::Horizontal : Qt::Vertical);
+}
+
+void Workbench::keepPanelSizes()
+{
+    m_sized = {Qt::LeftDockWidgetArea, Qt::RightDockWidgetArea, Qt::TopDockWidgetArea,
+               Qt::BottomDockWidgetArea};
 }
 
 } // namespace orv

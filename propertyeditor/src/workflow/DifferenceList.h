@@ -7,6 +7,7 @@
 
 #include <QSet>
 
+#include <atomic>
 #include <utility>
 
 namespace orv {
@@ -36,9 +37,12 @@ public:
     };
 
     /// \a chosen are the numbers of differences of which the right side is wanted, closed under
-    /// WorkflowDifference::together; it outlives this.
-    explicit DifferenceList(const QSet<qsizetype> *chosen = nullptr)
+    /// WorkflowDifference::together. Once \a isCancelled is set nothing more is looked for. Both outlive
+    /// this.
+    explicit DifferenceList(const QSet<qsizetype> *chosen = nullptr,
+                            const std::atomic_bool *isCancelled = nullptr)
         : m_chosen(chosen)
+        , m_isCancelled(isCancelled)
     {}
 
     /// What one side lacks is undefined there. Whether the right side is wanted; never inside of together(),
@@ -67,6 +71,7 @@ public:
 
     /// Whether anybody wants to have something of the right side.
     [[nodiscard]] bool merges() const { return m_chosen; }
+    [[nodiscard]] bool isCancelled() const { return m_isCancelled && *m_isCancelled; }
     [[nodiscard]] qsizetype size() const { return m_differences.size(); }
     [[nodiscard]] QList<WorkflowDifference> take();
 
@@ -77,6 +82,7 @@ private:
 
     QList<WorkflowDifference> m_differences;
     const QSet<qsizetype> *m_chosen;
+    const std::atomic_bool *m_isCancelled;
     qsizetype m_group = kNoGroup;
 };
 

@@ -81,7 +81,7 @@ public:
 
     QJsonValue compare(const QJsonValue &left, const QJsonValue &right, const Place &place, int depth)
     {
-        if (left == right)
+        if (m_differences->isCancelled() || left == right)
             return left;
         const qsizetype before = m_differences->size();
         QJsonValue merged = left;
@@ -245,6 +245,8 @@ private:
     QJsonValue compareRows(const QJsonValue &left, const QJsonValue &right, const CountedNames &leftHeader,
                            const CountedNames &rightHeader, const Place &place)
     {
+        if (m_differences->isCancelled())
+            return left;
         if (!isTable(left) || !isTable(right))
             return m_differences->add(place, left, right) ? right : left;
         const qsizetype before = m_differences->size();

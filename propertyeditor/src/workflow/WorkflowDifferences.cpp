@@ -61,8 +61,8 @@ QStringList namesOfTabs(const QJsonArray &tabs)
 class DocumentComparison
 {
 public:
-    explicit DocumentComparison(const QSet<qsizetype> *chosen = nullptr)
-        : m_differences(chosen)
+    explicit DocumentComparison(const QSet<qsizetype> *chosen, const std::atomic_bool *isCancelled)
+        : m_differences(chosen, isCancelled)
     {}
 
     [[nodiscard]] QList<WorkflowDifference> take() { return m_differences.take(); }
@@ -109,7 +109,7 @@ private:
     QJsonValue compareTab(const QJsonValue &left, const QJsonValue &right, const Place &place,
                           const QJsonValue &original)
     {
-        if (left == right)
+        if (m_differences.isCancelled() || left == right)
             return original;
         const qsizetype before = m_differences.size();
         QJsonObject merged = original.toObject();
@@ -219,7 +219,7 @@ private:
     QJsonValue compareCell(const QJsonValue &left, const QJsonValue &right, const Place &place,
                            const QJsonValue &original)
     {
-        if (left == right)
+        if (m_differences.isCancelled() || left == right)
             return original;
         if (!left.isObject() || !right.isObject())
             return m_differences.add(place, left, right) ? right : original;
@@ -275,7 +275,7 @@ private:
 
     QJsonValue compareSetting(const QJsonValue &left, const QJsonValue &right, const Place &place)
     {
-        if (left == right)
+        if (m_differences.isCancelled() || left == right)
             return left;
         if (!left.isObject() || !right.isObject())
             return m_differences.add(place, valueOrEntry(left), valueOrEntry(right)) ? right : left;
@@ -342,20 +342,21 @@ QSet<qsizetype> closed(const QSet<qsizetype> &chosen, const QList<WorkflowDiffer
 } // namespace
 
 QList<WorkflowDifference> WorkflowDifferences::between(const QJsonObject &left, const QJsonObject &right,
-                                                       bool strict)
+                                                       bool strict, const std::atomic_bool *isCancelled)
 {
-    DocumentComparison comparison;
+    DocumentComparison comparison(nullptr, isCancelled);
     (void)comparison.compare(withoutUncompared(left, strict), withoutUncompared(right, strict), left);
     return comparison.take();
 }
 
 QJsonObject WorkflowDifferences::takenOver(const QJsonObject &left, const QJsonObject &right,
-                                           const QSet<qsizetype> &chosen, bool strict)
+                                           const QSet<qsizetype> &chosen, bool strict,
+                                           const std::atomic_bool *isCancelled)
 {
     if (chosen.isEmpty())
         return left;
-    const QSet<qsizetype> wanted = closed(chosen, between(left, right, strict));
-    DocumentComparison comparison(&wanted);
+    const QSet<qsizetype> wanted = closed(chosen, between(left, right, strict, isCancelled));
+    DocumentComparison comparison(&wanted, isCancelled);
     return comparison.compare(withoutUncompared(left, strict), withoutUncompared(right, strict), left);
 }
 

@@ -48,6 +48,9 @@ private Q_SLOTS:
     void savingWhileClosing();
     void cancelledSavesCloseAllTheSame();
     void tabsWithoutAFileAreChanges();
+    void withoutASnapshotTheFileIsCompared();
+    void withoutASnapshotAndItsFileThereAreChanges();
+    void filesThatAreGoneDontMatterToASnapshot();
     void projectsWereHandedOver();
     void refusedUpgradesCountAsChanges();
     void typingIsTakenOver_data();
@@ -114,6 +117,62 @@ void ClosingTest::tabsWithoutAFileAreChanges()
     answers.expectBox(u"Unsaved changes"_s, u"No"_s);
     QVERIFY(window.close());
     QVERIFY(answers.isDone());
+}
+
+/// A workflow that was put together from a file's tabs, and that no one has saved.
+struct WithoutSnapshot
+{
+    WithoutSnapshot()
+    {
+        window.show();
+        const LogCapture log;
+        const QByteArray cell = Documents::toBytes(karvonCell());
+        if (window.addTabWithColumns(u"Analysis"_s, {u"Karvon"_s}, {cell}).hasError())
+            qFatal("The fixture doesn't load");
+        window.state().setWorkflowMetadata(metadata());
+        path = write(folder, "a.wflw", window.content().document());
+        window.setWorkflowFilePath(path);
+        if (!window.state().getLastSavedWorkflow().isEmpty())
+            qFatal("There is a snapshot");
+    }
+
+    QTemporaryDir folder;
+    QString path;
+    ScriptedAnswerer answers;
+    Window window;
+};
+
+void ClosingTest::withoutASnapshotTheFileIsCompared()
+{
+    {
+        WithoutSnapshot same;
+        QVERIFY(same.window.close());
+        QVERIFY(same.answers.transcript().isEmpty());
+    }
+    WithoutSnapshot other;
+    write(other.folder, "a.wflw", documentOf({karvonCell(), previewCell()}));
+    other.answers.expectBox(u"Unsaved changes"_s, u"No"_s);
+    QVERIFY(other.window.close());
+    QVERIFY(other.answers.isDone());
+}
+
+void ClosingTest::withoutASnapshotAndItsFileThereAreChanges()
+{
+    WithoutSnapshot gone;
+    const LogCapture log;
+    QVERIFY(QFile::remove(gone.path));
+    gone.answers.expectBox(u"Unsaved changes"_s, u"No"_s);
+    QVERIFY(gone.window.close());
+    QVERIFY(gone.answers.isDone());
+    QVERIFY(!log.texts(QtCriticalMsg).isEmpty());
+}
+
+void ClosingTest::filesThatAreGoneDontMatterToASnapshot()
+{
+    Opened opened;
+    QVERIFY(QFile::remove(opened.folder.filePath(u"a.wflw"_s)));
+    QVERIFY(opened.window.close());
+    QVERIFY(opened.answers.transcript().isEmpty());
 }
 
 void ClosingTest::projectsWereHandedOver()

@@ -14,6 +14,7 @@
 #include <orv/widgets/ProteinTreeTable.h>
 #include <orv/widgets/SamplesAndTracesInputWidget.h>
 
+#include <QLabel>
 #include <QSignalSpy>
 
 using namespace orv;
@@ -47,6 +48,43 @@ QString typeOf(const PropertyEditorContent::Tabs &tabs, int cell)
     return Documents::parse(tabs.first().second.second.at(cell).toByteArray())[u"type"_s].toString();
 }
 
+/// What an application makes of the window that has something against imported columns.
+class StrictState : public PropertyEditorWindowPrivate
+{
+public:
+    using PropertyEditorWindowPrivate::PropertyEditorWindowPrivate;
+
+    bool createProject() override { return false; }
+
+    QString refusal;
+    mutable int checks = 0;
+
+protected:
+    [[nodiscard]] Error verifyCustomColumns() const override
+    {
+        ++checks;
+        return refusal.isEmpty() ? Error(Error::NoError) : Error(ErrorCode::InvalidContent, refusal);
+    }
+};
+
+class StrictWindow : public PropertyEditorWindow
+{
+public:
+    StrictWindow()
+        : PropertyEditorWindow(nullptr, new StrictState((registerCreators(), this), nullptr))
+    {}
+
+    using PropertyEditorWindow::openWorkflow;
+
+    [[nodiscard]] WorkflowAppType workflowAppType() const override { return WorkflowAppType::Mirel; }
+    [[nodiscard]] PropertyGridWidget *grid() const { return dFunc()->gridWidgetForTabIndex(0); }
+    void refuse(const QString &reason) { state()->refusal = reason; }
+    [[nodiscard]] int checks() const { return state()->checks; }
+
+private:
+    [[nodiscard]] StrictState *state() const { return static_cast<StrictState *>(dFunc()); }
+};
+
 } // namespace
 
 class DependentWidgetsTest : public WidgetTest
@@ -69,6 +107,7 @@ private Q_SLOTS:
     void removedColumnsAreToldAgainAfterEachConnection();
     void importsAreCheckedForIntactAnalyses_data();
     void importsAreCheckedForIntactAnalyses();
+    void applicationsCheckImportedColumns();
     void glycansFollowTheirOptions();
 };
 
@@ -272,6 +311,34 @@ void DependentWidgetsTest::importsAreCheckedForIntactAnalyses()
                                            [u"table"_s][u"children"_s]
                                 .toArray();
     QCOMPARE(rows.isEmpty(), isChecked);
+}
+
+void DependentWidgetsTest::applicationsCheckImportedColumns()
+{
+    const LogCapture log;
+    const QTemporaryDir folder;
+    const QString csv =
+        write(folder, "a.csv", "Sample,File,Protein,Sequence\none,/data/one.mzML,mAb,EVQLVESGGGLVQPGGSLR\n");
+    const ScriptedAnswerer answers;
+    StrictWindow window;
+    const QJsonObject table{{u"data"_s, QJsonArray()}, {u"children"_s, QJsonArray()}};
+    const QJsonObject value{{u"header"_s, table}, {u"table"_s, table}};
+    QCOMPARE(
+        window.openWorkflow(documentOf({settingsCell("SamplesProteins", {setting("SamplesProteins", value)}),
+                                        settingsCell("Intact", {})})),
+        kOpened);
+    auto *item = dynamic_cast<SamplesProteinsTableItem *>(window.grid()->items().first());
+    QVERIFY(item);
+    item->importCSV(csv);
+    QCOMPARE(window.checks(), 1);
+    window.refuse(u"The column \"Batch\" is reserved"_s);
+    item->importCSV(csv);
+    QCOMPARE(window.checks(), 2);
+    QStringList told;
+    for (const QLabel *label : item->widget()->findChildren<QLabel *>())
+        told.append(label->text());
+    QVERIFY2(told.contains(u"The column \"Batch\" is reserved"_s), qPrintable(told.join(u'\n')));
+    QVERIFY(answers.transcript().isEmpty());
 }
 
 void DependentWidgetsTest::glycansFollowTheirOptions()

@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QPointer>
+#include <QRadioButton>
 #include <QSignalSpy>
 
 using namespace orv;
@@ -98,6 +99,9 @@ private Q_SLOTS:
     void pathsByDocuments_data();
     void pathsByDocuments();
     void unmergedSearchesGoToAFolder();
+    void severalDocumentsGoToAFolder_data();
+    void severalDocumentsGoToAFolder();
+    void unsupportedDocumentsAreTold();
     void missingDocumentsAreTold();
     void windowsMayGoMeanwhile();
 };
@@ -275,6 +279,7 @@ void HandOverTest::pathsByDocuments_data()
     QTest::newRow("searches and a map")
         << types({Type::Karvon, Type::Senthia}) << u"Save project as"_s << file;
     QTest::newRow("previews") << types({Type::Preview, Type::Preview}) << u"Save project to..."_s << folder;
+    QTest::newRow("none") << types({}) << u"Save project to..."_s << folder;
     QTest::newRow("glycans") << types({Type::Dravik}) << u"Save project as"_s << file;
 }
 
@@ -322,6 +327,61 @@ void HandOverTest::unmergedSearchesGoToAFolder()
     answers.expectDialog(u"Save Projects"_s, [](QDialog &) { return false; });
     QVERIFY(ProjectOutput::askForPath(nullptr, content.findAllDocuments(), content.findProjects(), nullptr)
                 .isEmpty());
+}
+
+void HandOverTest::severalDocumentsGoToAFolder_data()
+{
+    using Type = BaseItemType;
+    QTest::addColumn<QList<BaseItemType>>("documents");
+    QTest::newRow("maps and masses") << types({Type::Senthia, Type::Intact});
+    QTest::newRow("beside a search") << types({Type::Karvon, Type::Senthia, Type::Dravik});
+    QTest::newRow("maps and views") << types({Type::Senthia, Type::Preview});
+}
+
+void HandOverTest::severalDocumentsGoToAFolder()
+{
+    QFETCH(const QList<BaseItemType>, documents);
+    const QTemporaryDir folder;
+    Window window;
+    ScriptedAnswerer answers;
+    answers.expectDialog(u"Save Projects"_s, [&](QDialog &dialog) {
+        dialog.findChild<QLineEdit *>()->setText(folder.path());
+        for (auto *choice : dialog.findChildren<QRadioButton *>())
+            choice->setChecked(choice->text() == u"&Overwrite it"_s);
+        return dialog.parentWidget() == &window;
+    });
+    DuplicateFilePolicy policy = DuplicateFilePolicy::KeepBoth;
+    const Path path = window.state().getLocalProjectOutputPath(documents, {}, &policy);
+    QVERIFY(answers.isDone());
+    QCOMPARE(path.path(), folder.path());
+    QCOMPARE(path.kind(), Path::Kind::Folder);
+    QCOMPARE(policy, DuplicateFilePolicy::Overwrite);
+    answers.expectDialog(u"Save Projects"_s, [](QDialog &dialog) {
+        dialog.findChildren<QRadioButton *>().last()->setChecked(true);
+        return false;
+    });
+    const Path refused = window.state().getLocalProjectOutputPath(documents, {}, &policy);
+    QVERIFY(refused.isEmpty());
+    QCOMPARE(refused.kind(), Path::Kind::Unknown);
+    QCOMPARE(policy, DuplicateFilePolicy::Overwrite);
+}
+
+void HandOverTest::unsupportedDocumentsAreTold()
+{
+    const LogCapture log;
+    ScriptedAnswerer answers;
+    Window window;
+    answers.expectBox(u"Project creation"_s, u"OK"_s);
+    DuplicateFilePolicy policy = DuplicateFilePolicy::Skip;
+    const Path path = window.state().getLocalProjectOutputPath(
+        types({BaseItemType::Karvon, BaseItemType::Preview}), {}, &policy);
+    QVERIFY(path.isEmpty());
+    QCOMPARE(path.kind(), Path::Kind::Unknown);
+    QCOMPARE(policy, DuplicateFilePolicy::Skip);
+    QCOMPARE(
+        transcriptOf(answers),
+        QStringList{u"critical | Project creation | Current workflow processing nodes configuration is not "
+                    "supported | [OK]"_s});
 }
 
 void HandOverTest::missingDocumentsAreTold()

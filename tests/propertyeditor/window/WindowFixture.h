@@ -144,6 +144,9 @@ inline QString write(const QTemporaryDir &folder, const char *name, const QJsonO
     return write(folder, name, Documents::toBytes(document));
 }
 
+/// What a person does in a window.
+using WindowAct = std::function<void(Window &)>;
+
 /// Closes the window for good while it asks.
 class Destroyer : public orv::DialogAnswerer
 {
@@ -199,3 +202,5 @@ inline QStringList transcriptOf(const orv::ScriptedAnswerer &answers)
 }
 
 } // namespace WindowFixture
+
+Q_DECLARE_METATYPE(WindowFixture::WindowAct)

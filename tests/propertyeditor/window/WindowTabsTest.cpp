@@ -14,8 +14,6 @@ using namespace orv;
 using namespace WindowFixture;
 using namespace Qt::StringLiterals;
 
-Q_DECLARE_METATYPE(std::function<void(WindowFixture::Window &)>)
-
 namespace {
 
 QStringList titles(Window &window)
@@ -64,6 +62,7 @@ private Q_SLOTS:
     void presetsWithoutATab();
     void otherTabsAreNotSaved();
     void brokenCellsAddNoTab();
+    void columnsThatCannotBeShownAreToldTheLog();
     void currentTabContent();
     void clearingKeepsMetadata();
     void emptyWorkflows();
@@ -313,6 +312,20 @@ void WindowTabsTest::windowsMayGoInEveryBox()
     const Destroyer destroyer(window, title, button);
     act(*window);
     QVERIFY(!guard);
+}
+
+void WindowTabsTest::columnsThatCannotBeShownAreToldTheLog()
+{
+    Designed designed;
+    const LogCapture log;
+    const VariantItems cells{Documents::toBytes(previewCell()), QByteArray("{broken")};
+    designed.window.setCurrentTabContent(
+        PropertyEditorContent({{u"Replaced"_s, {{u"Preview"_s, u"Karvon"_s}, cells}}}));
+    QCOMPARE(titles(designed.window).at(designed.window.tabs().currentIndex()), u"Replaced"_s);
+    const QString told = log.warnings().constLast();
+    QVERIFY2(told.startsWith(u"Not all columns can be shown "_s) && told.size() > 30, qPrintable(told));
+    QVERIFY(designed.answers.transcript().isEmpty());
+    QVERIFY(designed.window.content().toJson().contains("\"Preview\""));
 }
 
 void WindowTabsTest::removedTabsKeepQuiet()

@@ -4,12 +4,32 @@
 #include <QAction>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QProcess>
 
 #include <memory>
 #include <utility>
 
 using namespace orv;
 using namespace ComparisonFixture;
+
+namespace {
+
+/// Its samples lie in a folder.
+QJsonObject manySamples(const QString &folder)
+{
+    constexpr int kSamples = 30'000;
+    QJsonArray samples;
+    for (int i = 0; i < kSamples; ++i) {
+        samples.append(QJsonObject{{u"SampleName"_s, u"S%1"_s.arg(i)},
+                                   {u"SamplePath"_s, u"%1/%2.mzML"_s.arg(folder).arg(i)}});
+    }
+    const QJsonObject table{{u"Samples"_s, samples}};
+    return documentOf({QJsonObject{
+        {u"type"_s, u"Samples"_s},
+        {u"properties"_s, QJsonArray{QJsonObject{{u"name"_s, u"SamplesTable"_s}, {u"value"_s, table}}}}}});
+}
+
+} // namespace
 
 /// Documents and moments that are odd.
 class ComparisonLimitsTest : public WidgetTest
@@ -24,11 +44,16 @@ private Q_SLOTS:
     void newerDocumentsAreShownOnly();
     void theOwnFileIsNamedAsSuch();
     void filesOfAnotherFolderAreNamedWhole();
+    void theOwnFileIsReadAnewWhenItIsSaved();
+    void theOtherFileIsReadAnewWhenThisOneMoves();
     void readOnlyWindowsTakeNothingOver();
     void anotherDocumentIsComparedAnewWithoutChecks();
     void theWindowMayGo_data();
     void theWindowMayGo();
     void manyDifferencesAreShown();
+    void longValuesAreCutOnce();
+    void programsEndWhileLargeDocumentsAreCompared_data();
+    void programsEndWhileLargeDocumentsAreCompared();
     void closingThePanelEndsTheComparison();
 };
 
@@ -143,6 +168,41 @@ void ComparisonLimitsTest::theOwnFileIsNamedAsSuch()
     QCOMPARE(c.lines().join(u'\n'), QString());
 }
 
+void ComparisonLimitsTest::theOwnFileIsReadAnewWhenItIsSaved()
+{
+    Compared c;
+    const QString path = write(c.folder, "OWN.wflw", thisDocument());
+    QCOMPARE(int(c.window->openWorkflow(path)), int(kOpened));
+    QVERIFY(c.compareWith(path));
+    c.view(0, 0)->propertySet()->property("KarvonCentroidTopk").setValue(7);
+    QTRY_VERIFY(c.rowOf(kPeaks).isValid());
+    QVERIFY(c.isQuiet());
+    QVERIFY(c.window->saveWorkflowToJSON(path));
+    QTRY_COMPARE(c.lines().join(u'\n'), QString());
+    QVERIFY(c.isQuiet());
+    QCOMPARE(c.note(), u"This is the file of this workflow: what differs isn't saved yet."_s);
+    QCOMPARE(c.summary(), u"No differences to OWN.wflw."_s);
+}
+
+void ComparisonLimitsTest::theOtherFileIsReadAnewWhenThisOneMoves()
+{
+    const auto document = [](const char *file) {
+        return documentOf({settingsCell("Senthia", {setting("InSilicoPeptidesFile", text(file), "Extras")})});
+    };
+    const QString whole = u"Files that it names from its own folder are shown with their whole paths."_s;
+    Compared c;
+    const QTemporaryDir elsewhere;
+    const QString own = write(c.folder, "OWN.wflw", document("data/a.csv"));
+    QCOMPARE(int(c.window->openWorkflow(own)), int(kOpened));
+    QVERIFY(c.compareWith(document("data/b.csv")));
+    QCOMPARE(c.note(), QString());
+    QVERIFY(c.window->saveWorkflowToJSON(elsewhere.filePath(u"OWN.wflw"_s)));
+    QTRY_COMPARE(c.note(), whole);
+    QVERIFY(c.isQuiet());
+    const QModelIndex row = c.rowOf(u"In-silico peptides file"_s);
+    QCOMPARE(row.siblingAtColumn(2).data().toString(), c.folder.filePath(u"data/b.csv"_s));
+}
+
 void ComparisonLimitsTest::readOnlyWindowsTakeNothingOver()
 {
     Compared c;
@@ -221,26 +281,59 @@ void ComparisonLimitsTest::theWindowMayGo()
 
 void ComparisonLimitsTest::manyDifferencesAreShown()
 {
-    constexpr int kSamples = 30'000;
-    const auto document = [](const QString &path) {
-        QJsonArray samples;
-        for (int i = 0; i < kSamples; ++i) {
-            samples.append(QJsonObject{{u"SampleName"_s, u"S%1"_s.arg(i)},
-                                       {u"SamplePath"_s, u"%1/%2.mzML"_s.arg(path).arg(i)}});
-        }
-        const QJsonObject table{{u"Samples"_s, samples}};
-        return documentOf(
-            {QJsonObject{{u"type"_s, u"Samples"_s},
-                         {u"properties"_s,
-                          QJsonArray{QJsonObject{{u"name"_s, u"SamplesTable"_s}, {u"value"_s, table}}}}}});
-    };
     Compared c;
-    const QString path = write(c.folder, "OTHER.wflw", document(u"/other"_s));
-    QCOMPARE(int(c.window->openWorkflow(document(u"/this"_s))), int(kOpened));
+    const QString path = write(c.folder, "OTHER.wflw", manySamples(u"/other"_s));
+    QCOMPARE(int(c.window->openWorkflow(manySamples(u"/this"_s))), int(kOpened));
     c.comparison().compareWith(path);
     QVERIFY(QTest::qWaitFor([&c] { return !c.comparison().isBusy(); }, 120'000));
     QVERIFY2(c.summary().contains(u"differences to OTHER.wflw"_s), qPrintable(c.summary()));
     QVERIFY2(c.note().startsWith(u"Only the first "_s), qPrintable(c.note()));
+}
+
+void ComparisonLimitsTest::longValuesAreCutOnce()
+{
+    const QString own(5'000'000, u'a');
+    const QString other(5'000'000, u'b');
+    const auto document = [](const QString &value) {
+        return documentOf({settingsCell("Karvon", {setting("Samples", value)})});
+    };
+    Compared c(document(own));
+    QVERIFY(c.compareWith(document(other)));
+    const QModelIndex row = c.rowOf(u"Samples"_s);
+    QVERIFY2(row.isValid(), qPrintable(c.lines().join(u'\n').left(1000)));
+    const QModelIndex cell = row.siblingAtColumn(1);
+    const QString shown = cell.data().toString();
+    QCOMPARE(shown, own.left(199) + u'…');
+    QCOMPARE(row.siblingAtColumn(2).data().toString(), other.left(199) + u'…');
+    // The same text as the one before, not another like it.
+    QCOMPARE(static_cast<const void *>(cell.data().toString().constData()),
+             static_cast<const void *>(shown.constData()));
+    const QString hint = cell.data(Qt::ToolTipRole).toString();
+    QVERIFY2(hint.startsWith(u"<p>aaa"_s) && hint.size() < 5000, qPrintable(hint.left(5000)));
+}
+
+void ComparisonLimitsTest::programsEndWhileLargeDocumentsAreCompared_data()
+{
+    QTest::addColumn<QString>("how");
+    QTest::newRow("its window is closed") << u"close"_s;
+    QTest::newRow("its window is open") << u"quit"_s;
+}
+
+void ComparisonLimitsTest::programsEndWhileLargeDocumentsAreCompared()
+{
+    QFETCH(const QString, how);
+    const QTemporaryDir folder;
+    const QString own = write(folder, "OWN.wflw", manySamples(u"/this"_s));
+    const QString other = write(folder, "OTHER.wflw", manySamples(u"/other"_s));
+    for (const int milliseconds : {0, 400, 1500}) {
+        QProcess child;
+        child.start(text(ORV_COMPARISON_CHILD), {how, own, other, QString::number(milliseconds)});
+        QVERIFY(child.waitForFinished(60000));
+        const QByteArray told = child.readAllStandardError();
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QVERIFY2(child.exitCode() == 0, told.constData());
+        QVERIFY2(!told.contains("left to itself"), told.constData());
+    }
 }
 
 void ComparisonLimitsTest::closingThePanelEndsTheComparison()

@@ -1,10 +1,12 @@
 #include "FindFixture.h"
 #include "WidgetTest.h"
 
+#include <orv/propertyeditor/workbench/DocumentHistory.h>
 #include <orv/propertyeditor/workbench/FindSettings.h>
 
 #include <QCheckBox>
 #include <QSignalSpy>
+#include <QStatusBar>
 
 using namespace orv;
 using namespace FindFixture;
@@ -76,6 +78,8 @@ private Q_SLOTS:
     void arrowsWalkThroughHitsFromTheField();
     void changedSettingsGoBackToTheirDefaultByOneClick();
     void whatWasChangedSinceSavingGoesBackByItsShortcut();
+    void aFileMayTellWhatWasSaved();
+    void readOnlyWindowsSetNothingBack();
     void aSettingAtItsDefaultIsNotChanged();
     void anEmptyDefaultIsToldInAWord();
     void editsShowInTheHits();
@@ -222,6 +226,52 @@ void FindSettingsTest::whatWasChangedSinceSavingGoesBackByItsShortcut()
     QTest::keyClick(&s.list(), Qt::Key_Backspace, Qt::ControlModifier | Qt::ShiftModifier);
     QCOMPARE(set->property("Samples").value().toString(), u"*"_s);
     QTRY_COMPARE(shown(s.list(), kSaved), QStringList({QString()}));
+}
+
+void FindSettingsTest::aFileMayTellWhatWasSaved()
+{
+    const auto document = [](const QString &samples, int peaks) {
+        return documentOf(
+            {settingsCell("Karvon", {setting("Samples", samples), setting("KarvonCentroidTopk", peaks),
+                                     setting("KarvonPrecursorMassError", ppm(10))})});
+    };
+    const QTemporaryDir folder;
+    const QString file = write(folder, "a.wflw", document(u"first"_s, 500));
+    Search s(document(u"second"_s, 500));
+    QTest::mouseClick(&s.filter("changedSinceSaving"), Qt::LeftButton);
+    QCOMPARE(s.captions(), QStringList());
+    s.bench->find()->compareWithFile(file);
+    QTRY_COMPARE(s.captions(), QStringList({u"Samples"_s}));
+    QCOMPARE(shown(s.list(), kSaved), QStringList({u"first"_s}));
+    clickAt(s.list(), 0, kSaved);
+    QTRY_COMPARE(s.view(0, 0)->propertySet()->property("Samples").value().toString(), u"first"_s);
+    // Another document is what it was when it was shown.
+    s.bench->find()->compareWithFile(file);
+    QCOMPARE(int(s.window->openWorkflow(document(u"third"_s, 300))), int(kOpened));
+    QTRY_COMPARE(s.captions(), QStringList());
+    // What can't be read is told.
+    s.bench->find()->compareWithFile(folder.filePath(u"missing.wflw"_s));
+    QTRY_VERIFY(s.window->statusBar()->currentMessage().startsWith(
+        u"What changed since the last save isn't known: "_s));
+}
+
+void FindSettingsTest::readOnlyWindowsSetNothingBack()
+{
+    Search s(documentOf({settingsCell("Karvon", {setting("KarvonPrecursorMassError", ppm(20))})}));
+    QTest::mouseClick(&s.filter("changedFromDefault"), Qt::LeftButton);
+    QCOMPARE(shown(s.list(), kDefault), QStringList({u"10.00 ppm"_s}));
+    const QModelIndex cell = s.list().model()->index(0, kDefault);
+    QVERIFY(!cell.data(Qt::DecorationRole).isNull());
+    const auto *action = s.child<QAction>("setBackToDefault");
+    QVERIFY(action->isEnabled());
+    s.window->setReadOnly();
+    QTRY_VERIFY(!action->isEnabled());
+    QCOMPARE(action->toolTip(), u"This window is read only: nothing can be set back."_s);
+    QTRY_VERIFY(s.list().model()->index(0, kDefault).data(Qt::DecorationRole).isNull());
+    clickAt(s.list(), 0, kDefault);
+    QTest::keyClick(&s.list(), Qt::Key_Backspace, Qt::ControlModifier);
+    QCOMPARE(shown(s.list(), kValue), QStringList({u"20.00 ppm"_s}));
+    QVERIFY(!s.bench->history()->canUndo());
 }
 
 void FindSettingsTest::aSettingAtItsDefaultIsNotChanged()

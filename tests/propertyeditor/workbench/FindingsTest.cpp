@@ -1,6 +1,7 @@
 #include "FindFixture.h"
 #include "WidgetTest.h"
 
+#include <orv/propertyeditor/validators/AbstractValidator.h>
 #include <orv/propertyeditor/workbench/FindSettings.h>
 #include <orv/propertyeditor/workbench/Findings.h>
 #include <orv/widgets/TableView.h>
@@ -9,6 +10,7 @@
 #include <QClipboard>
 #include <QMenu>
 #include <QSignalSpy>
+#include <QThread>
 
 using namespace orv;
 using namespace FindFixture;
@@ -63,6 +65,28 @@ QJsonObject faulty(int samples = 2, int priority = 1)
          Documents::tab(u"Search"_s, {u"One"_s, u"Two"_s}, {settingsCell("Preview", {}), map})},
         metadata());
 }
+
+/// Finds something in every document.
+class Suspicious : public PropertyEditor::AbstractValidator
+{
+public:
+    explicit Suspicious(QThread **thread = nullptr)
+        : m_thread(thread)
+    {}
+
+    bool validate(const PropertyEditor::Content &, const QUrl &, QList<QString> *warnings,
+                  QList<QString> *errors) const override
+    {
+        if (m_thread)
+            *m_thread = QThread::currentThread();
+        errors->append(u"Preview isn't licensed"_s);
+        warnings->append(u"The queue is long"_s);
+        return false;
+    }
+
+private:
+    QThread **m_thread;
+};
 
 struct Checked : Bench
 {
@@ -127,6 +151,8 @@ private Q_SLOTS:
     void anotherDocumentHasNoFindings();
     void aDocumentMayGoWhileItIsChecked();
     void savedDocumentsAreCheckedAnew();
+    void validatorsOfTheApplicationAreAsked();
+    void validatorsOfTheApplicationMayCloseTheWindow();
     void movedTabsAreFound();
     void findingsAreCopied();
     void whatIsBeingTypedIsChecked();
@@ -323,6 +349,35 @@ void FindingsTest::aDocumentMayGoWhileItIsChecked()
     QCOMPARE(int(c.findings().state()), int(Findings::State::NotChecked));
     QVERIFY(c.check());
     QCOMPARE(c.findings().errorCount(), 0);
+}
+
+void FindingsTest::validatorsOfTheApplicationAreAsked()
+{
+    const QTemporaryDir folder;
+    Checked c(faultless(folder));
+    QThread *thread = nullptr;
+    c.window->setAdditionalValidatorsCreatorFunction(
+        [&thread] { return QList<PropertyEditor::AbstractValidator *>{new Suspicious(&thread)}; });
+    QVERIFY(c.check());
+    QCOMPARE(thread, QThread::currentThread());
+    QCOMPARE(shown(c.list(), kMessage), QStringList({u"Preview isn't licensed"_s, u"The queue is long"_s}));
+    QCOMPARE(c.findings().errorCount(), 1);
+    QCOMPARE(c.findings().warningCount(), 1);
+    c.window->setAdditionalValidatorsCreatorFunction({});
+    QVERIFY(c.check());
+    QCOMPARE(c.findings().errorCount(), 0);
+}
+
+void FindingsTest::validatorsOfTheApplicationMayCloseTheWindow()
+{
+    const Checked c;
+    const QPointer<QWidget> window(c.window);
+    c.window->setAdditionalValidatorsCreatorFunction([window] {
+        delete window.data();
+        return QList<PropertyEditor::AbstractValidator *>{new Suspicious};
+    });
+    QTest::keyClick(c.window, Qt::Key_F9);
+    QTRY_VERIFY(!window);
 }
 
 void FindingsTest::savedDocumentsAreCheckedAnew()

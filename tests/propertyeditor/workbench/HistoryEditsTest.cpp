@@ -2,10 +2,12 @@
 #include "grid/PersonActs.h"
 #include "grid/WholeWorkflow.h"
 
+#include <orv/propertyeditor/grid/EditableTabBar.h>
 #include <orv/table_model/TableHistory.h>
 #include <orv/table_model/TableSheet.h>
 #include <orv/widgets/TableView.h>
 
+#include <QMouseEvent>
 #include <QRandomGenerator>
 
 using namespace orv;
@@ -31,6 +33,8 @@ private Q_SLOTS:
     void everythingIsUndone_data();
     void everythingIsUndone();
     void tablesTakeTheirOwnStepsBack();
+    void stepsOfTablesCountAndAreForgotten();
+    void aTabIsDraggedInOneStep();
     void randomEditsGoBackAndForth();
 };
 
@@ -129,6 +133,81 @@ void HistoryEditsTest::tablesTakeTheirOwnStepsBack()
     QVERIFY(!edited.history->canUndo());
     edited.history->redo();
     QCOMPARE(table->sheet()->history()->index(), 1);
+}
+
+void HistoryEditsTest::stepsOfTablesCountAndAreForgotten()
+{
+    Edited edited(WindowFixture::documentOf({WholeWorkflow::defaultCell(BaseItemType::Samples)}));
+    auto *table = edited.window.grid(0)->items().constFirst()->widget()->findChild<TableView *>();
+    const TableHistory *steps = table->sheet()->history();
+    table->action(TableView::Command::AddRow)->trigger();
+    letOthersFollow();
+    const int begun = edited.history->count();
+    for (int i = 1; i <= 20; ++i) {
+        QVERIFY(!table->sheet()->setText(0, 0, u"S%1"_s.arg(i)).hasError());
+        letOthersFollow();
+    }
+    QCOMPARE(edited.history->count(), begun + 20);
+    QCOMPARE(steps->count(), 21);
+    QVERIFY(steps->heldBytes() > 0);
+    edited.history->setLimit(edited.history->heldBytes() / 4);
+    QVERIFY(edited.history->heldBytes() <= edited.history->limit());
+    const int left = edited.history->count();
+    QVERIFY2(left >= 3 && left <= 6, qPrintable(QString::number(left)));
+    QCOMPARE(steps->count(), left);
+    // What is left goes back and forth in the table as before.
+    const QByteArray last = edited.shown();
+    while (edited.history->canUndo())
+        edited.history->undo();
+    QCOMPARE(table->sheet()->text(0, 0), u"S%1"_s.arg(20 - left));
+    QCOMPARE(steps->index(), 0);
+    while (edited.history->canRedo())
+        edited.history->redo();
+    QCOMPARE(edited.shown(), last);
+    QCOMPARE(steps->index(), left);
+}
+
+void HistoryEditsTest::aTabIsDraggedInOneStep()
+{
+    QJsonArray tabs;
+    for (const QString &title : {u"A"_s, u"B"_s, u"C"_s, u"D"_s})
+        tabs.append(Documents::tab(title, {u"View"_s}, {WindowFixture::previewCell()}));
+    Edited edited(Documents::document(tabs, WindowFixture::metadata()));
+    edited.window.state().setEditorMode(GridPropertyEditorView::EditorMode::Designer);
+    QTabBar *bar = edited.window.tabs().editableTabBar();
+    const auto titles = [bar] {
+        QString all;
+        for (int i = 0; i < bar->count(); ++i)
+            all += bar->tabText(i);
+        return all;
+    };
+    const auto drag = [bar](QEvent::Type type, const QPoint &place) {
+        const bool isMove = type == QEvent::MouseMove;
+        QMouseEvent event(type, place, bar->mapToGlobal(place), isMove ? Qt::NoButton : Qt::LeftButton,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(bar, &event);
+        letOthersFollow();
+    };
+    const auto dragOver = [&](int from, int to) {
+        const QPoint start = bar->tabRect(from).center();
+        const QPoint end = bar->tabRect(to).center();
+        drag(QEvent::MouseButtonPress, start);
+        constexpr int kMoves = 40;
+        for (int i = 1; i <= kMoves; ++i)
+            drag(QEvent::MouseMove, start + (end - start) * i / kMoves);
+        drag(QEvent::MouseButtonRelease, end);
+    };
+    dragOver(0, 3);
+    QCOMPARE(titles(), u"BCDA"_s);
+    QCOMPARE(edited.history->count(), 1);
+    dragOver(0, 2);
+    QCOMPARE(titles(), u"CDBA"_s);
+    QCOMPARE(edited.history->count(), 2);
+    edited.history->undo();
+    QCOMPARE(titles(), u"BCDA"_s);
+    edited.history->undo();
+    QCOMPARE(titles(), u"ABCD"_s);
+    QVERIFY(!edited.history->canUndo());
 }
 
 void HistoryEditsTest::randomEditsGoBackAndForth()

@@ -1,5 +1,6 @@
 #include "WidgetTest.h"
 #include "WindowFixture.h"
+#include "grid/WholeWorkflow.h"
 
 #include <orv/propertyeditor/workbench/RecoveryJournal.h>
 #include <orv/propertyeditor/workbench/RecoveryStore.h>
@@ -21,6 +22,24 @@ namespace {
 QJsonObject documentWith(const QString &samples, const char *name = "Mixture")
 {
     return documentOf({settingsCell("Karvon", {setting("Samples", samples)})}, metadata("5.47.0", name));
+}
+
+QJsonObject largeDocument()
+{
+    constexpr int kSamples = 10'000;
+    constexpr int kColumns = 20;
+    QJsonArray samples;
+    for (int i = 0; i < kSamples; ++i) {
+        samples.append(
+            QJsonObject{{u"SampleName"_s, u"S%1"_s.arg(i)}, {u"SamplePath"_s, u"/data/%1.mzML"_s.arg(i)}});
+    }
+    const QJsonObject table{{u"Samples"_s, samples}};
+    QList<QJsonObject> cells{QJsonObject{
+        {u"type"_s, u"Samples"_s},
+        {u"properties"_s, QJsonArray{QJsonObject{{u"name"_s, u"SamplesTable"_s}, {u"value"_s, table}}}}}};
+    while (cells.size() < kColumns)
+        cells.append(WholeWorkflow::defaultCell(BaseItemType::Karvon));
+    return documentOf(cells);
 }
 
 PropertyEditorContent stateWith(const QString &samples)
@@ -97,6 +116,7 @@ private Q_SLOTS:
     void manyChangesAreToldInPart();
     void leftoversOfKilledProgramsGo();
     void killedProgramsLeaveWholeJournals();
+    void killedWindowsLoseAtMostTwoSeconds_data();
     void killedWindowsLoseAtMostTwoSeconds();
 };
 
@@ -430,14 +450,24 @@ void RecoveryTest::killedProgramsLeaveWholeJournals()
     QVERIFY2(found >= 6, qPrintable(QString::number(found)));
 }
 
+void RecoveryTest::killedWindowsLoseAtMostTwoSeconds_data()
+{
+    QTest::addColumn<QJsonObject>("document");
+    QTest::addColumn<int>("rounds");
+    QTest::newRow("small") << documentWith(u"*"_s) << 3;
+    QTest::newRow("10,000 samples and 20 columns") << largeDocument() << 2;
+}
+
 void RecoveryTest::killedWindowsLoseAtMostTwoSeconds()
 {
+    QFETCH(const QJsonObject, document);
+    QFETCH(const int, rounds);
     constexpr quint32 kSeed = 19;
     QRandomGenerator random(kSeed);
     qInfo("The seed is %u", kSeed);
-    for (int round = 0; round < 3; ++round) {
+    for (int round = 0; round < rounds; ++round) {
         const Journals journals;
-        const QString file = write(journals.place, "a.wflw", documentWith(u"*"_s));
+        const QString file = write(journals.place, "a.wflw", document);
         QProcess child;
         child.start(text(ORV_RECOVERY_CHILD), {u"window"_s, journals.folder, file});
         QVERIFY(child.waitForReadyRead(60000));

@@ -93,6 +93,8 @@ private Q_SLOTS:
     void enterGoesToTheColumnAndEscapeBack();
     void everythingIsNamedForScreenReaders();
     void manyColumnsAreReadOnceForAnEdit();
+    void whatIsBeingTypedIsApplied();
+    void readOnlyWindowsApplyNothing();
     void theWindowMayGoWhileTheValueIsApplied_data();
     void theWindowMayGoWhileTheValueIsApplied();
     void aColumnMayGoWhileTheValueIsApplied();
@@ -280,6 +282,35 @@ void SameSettingTest::manyColumnsAreReadOnceForAnEdit()
     QCOMPARE(read.size(), 0);
     QTRY_COMPARE(s.values().constLast(), u"1019"_s);
     QVERIFY2(read.size() <= 3, qPrintable(QString::number(read.size())));
+}
+
+void SameSettingTest::whatIsBeingTypedIsApplied()
+{
+    const Same s;
+    s.toggle(1);
+    KPropertyEditorView &settings = *s.view(0, 0)->editorView();
+    QVERIFY(LeavingWays::open(settings, kTopk));
+    LeavingWays::type(u"77"_s);
+    // By its mnemonic, which leaves the focus where it is.
+    s.apply().click();
+    QCOMPARE(s.peaks(0, 0), 77);
+    QCOMPARE(s.peaks(1, 0), 77);
+    QCOMPARE(s.peaks(1, 1), 1000);
+    QCOMPARE(s.bench->history()->count(), 2);
+}
+
+void SameSettingTest::readOnlyWindowsApplyNothing()
+{
+    const QString reason = u"This window is read only: nothing can be applied."_s;
+    const Same s;
+    s.toggle(1);
+    QVERIFY(s.apply().isEnabled());
+    s.window->setReadOnly();
+    QTRY_VERIFY(!s.apply().isEnabled());
+    QCOMPARE(s.apply().toolTip(), reason);
+    QCOMPARE(shown(s.list(), kRemarkColumn).at(1), reason);
+    s.apply().click();
+    QCOMPARE(s.peaks(1, 0), 1000);
 }
 
 void SameSettingTest::theWindowMayGoWhileTheValueIsApplied_data()

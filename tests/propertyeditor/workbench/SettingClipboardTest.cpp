@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QMimeData>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 
 using namespace ClipboardFixture;
 
@@ -30,6 +31,9 @@ private Q_SLOTS:
     void pastingTheSameIsNoStep();
     void editorsTablesAndOtherPlacesKeepTheirKeys();
     void readOnlySettingsSaySo();
+    void readOnlyWindowsTakeNothing();
+    void filesKeepTheirFolder_data();
+    void filesKeepTheirFolder();
     void theWindowMayGoInAPaste_data();
     void theWindowMayGoInAPaste();
     void aColumnMayGoInAPaste();
@@ -183,7 +187,7 @@ void SettingClipboardTest::whatDoesntFitIsToldAndTheRestApplied()
     const QStringList lines = d.refused().split(u'\n');
     QCOMPARE(lines.size(), 5);
     QVERIFY(lines.at(0).startsWith(u"KarvonPrecursorMassError: The value \"many ppm\" is not allowed"_s));
-    QVERIFY(lines.at(0).contains(u"Allowed: a number in"_s));
+    QVERIFY(lines.at(0).contains(u"Allowed: a number "_s));
     QCOMPARE(lines.at(1), u"No such: The column doesn't have this setting."_s);
     QCOMPARE(lines.at(2), u"KarvonDigestLetters: There is no value."_s);
     QCOMPARE(lines.at(3), u"KarvonCentroidTopk: It stands there twice; the first value was taken."_s);
@@ -307,6 +311,54 @@ void SettingClipboardTest::readOnlySettingsSaySo()
     QCOMPARE(d.message(),
              u"Nothing was pasted. Not pasted: KarvonCentroidTopk: This setting can only be read."_s);
     QCOMPARE(d.property(0, kPeaks).value().toInt(), 500);
+}
+
+void SettingClipboardTest::readOnlyWindowsTakeNothing()
+{
+    const Desk d;
+    QVERIFY(d.child<QAction>("pasteSettings")->isEnabled());
+    d.window->setReadOnly();
+    const QAction *paste = d.child<QAction>("pasteSettings");
+    QTRY_VERIFY(!paste->isEnabled());
+    QCOMPARE(paste->toolTip(), u"This window is read only: nothing can be pasted."_s);
+    d.paste(u"KarvonCentroidTopk\t7"_s);
+    QCOMPARE(d.property(0, kPeaks).value().toInt(), 500);
+    // Copying takes nothing from anybody.
+    QCOMPARE(d.copied(), u"Peaks kept per spectrum\t500\t"_s);
+}
+
+void SettingClipboardTest::filesKeepTheirFolder_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addRow("copied as text") << u"copySettingsAsText"_s;
+    QTest::addRow("copied as JSON") << u"copySettingsAsJson"_s;
+}
+
+/// What names a file from the workflow's folder names the same file in a workflow of another folder.
+void SettingClipboardTest::filesKeepTheirFolder()
+{
+    QFETCH(const QString, command);
+    constexpr auto kFile = "InSilicoPeptidesFile";
+    const auto document = [](const char *file) {
+        return documentOf({settingsCell("Senthia", {setting(kFile, text(file), "Extras")})});
+    };
+    const QTemporaryDir first;
+    const QTemporaryDir second;
+    const Desk d;
+    const auto open = [&d](const QTemporaryDir &folder, const QJsonObject &shown) {
+        QCOMPARE(int(d.window->openWorkflow(write(folder, "a.wflw", shown))), int(kOpened));
+        d.tree(0).expandAll();
+        d.standAt(0, kFile);
+    };
+    open(first, document("data/a.csv"));
+    (void)d.copiedBy(command.toLatin1().constData());
+    const QJsonObject copied =
+        QJsonDocument::fromJson(QGuiApplication::clipboard()->mimeData()->data(text(kJsonType))).object();
+    const QString whole = first.filePath(u"data/a.csv"_s);
+    QCOMPARE(storedValue(copied, kFile), QJsonValue(whole));
+    open(second, document("data/b.csv"));
+    d.key(Qt::Key_V);
+    QCOMPARE(storedValue(d.stored(0), kFile), QJsonValue(whole));
 }
 
 void SettingClipboardTest::theWindowMayGoInAPaste_data()

@@ -25,6 +25,8 @@ class WorkbenchTest : public WidgetTest
 private Q_SLOTS:
     void menusStandBehindThoseThatAreThere();
     void panelsOpenFromTheViewMenu();
+    void openedPanelsComeToTheFront();
+    void panelsLeaveTheWorkflowItsPlace();
     void documentsAreTold();
     void savedDocumentsAreTold();
     void titleAndStatusLineTellOfChanges();
@@ -54,9 +56,62 @@ void WorkbenchTest::panelsOpenFromTheViewMenu()
     QVERIFY(!panel->isVisible());
     QTest::keyClick(&window, Qt::Key_7, Qt::ControlModifier);
     QVERIFY(panel->isVisible());
-    QCOMPARE(workbench->viewMenu()->actions().constLast()->text(), u"Findings"_s);
+    QStringList entries;
+    for (const QAction *entry : workbench->viewMenu()->actions())
+        entries.append(entry->isSeparator() ? u"---"_s : entry->text());
+    QCOMPARE(entries, QStringList({u"Find Settings"_s, u"Findings"_s, u"Upgrade"_s,
+                                   u"Setting in Other Columns"_s, u"Settings Not Pasted"_s, u"Comparison"_s,
+                                   u"Findings"_s, u"---"_s, u"&Check Workflow"_s, u"&Next Finding"_s,
+                                   u"Pre&vious Finding"_s, u"Compare &with..."_s}));
     QTest::keyClick(&window, Qt::Key_7, Qt::ControlModifier);
     QVERIFY(!panel->isVisible());
+}
+
+void WorkbenchTest::openedPanelsComeToTheFront()
+{
+    Window window;
+    auto *workbench = new Workbench(&window);
+    QList<QLabel *> contents;
+    for (const auto key : {Qt::Key_7, Qt::Key_8}) {
+        contents.append(new QLabel(QString(QChar(char16_t(key)))));
+        workbench->addPanel(contents.constLast(), u"panel%1"_s.arg(int(key)), u"Panel"_s,
+                            Qt::BottomDockWidgetArea, QKeySequence(Qt::CTRL | key));
+    }
+    window.show();
+    for (const int panel : {1, 0}) {
+        QTest::keyClick(&window, panel == 0 ? Qt::Key_7 : Qt::Key_8, Qt::ControlModifier);
+        QTRY_VERIFY(!contents.at(panel)->visibleRegion().isEmpty());
+    }
+}
+
+void WorkbenchTest::panelsLeaveTheWorkflowItsPlace()
+{
+    QByteArray chosen;
+    {
+        Window window;
+        new Workbench(&window);
+        window.resize(1100, 900);
+        window.show();
+        auto *panel = window.findChild<QDockWidget *>(u"findingsPanel"_s);
+        panel->toggleViewAction()->trigger();
+        QTRY_COMPARE(panel->height(), 300);
+        window.resizeDocks({panel}, {400}, Qt::Vertical);
+        QTRY_COMPARE(panel->height(), 400);
+        panel->toggleViewAction()->trigger();
+        panel->toggleViewAction()->trigger();
+        QTRY_COMPARE(panel->height(), 400);
+        panel->toggleViewAction()->trigger();
+        chosen = window.saveState();
+    }
+    Window window;
+    auto *workbench = new Workbench(&window);
+    window.resize(1100, 900);
+    QVERIFY(window.restoreState(chosen));
+    workbench->keepPanelSizes();
+    window.show();
+    auto *panel = window.findChild<QDockWidget *>(u"findingsPanel"_s);
+    panel->toggleViewAction()->trigger();
+    QTRY_COMPARE(panel->height(), 400);
 }
 
 void WorkbenchTest::documentsAreTold()

@@ -19,13 +19,21 @@ public:
     ~EditableTabBar() override;
 
     void setEditorMode(GridPropertyEditorView::EditorMode mode);
+    /// Whether a person holds a tab, and may be dragging it over others.
+    [[nodiscard]] bool isHeld() const { return m_isHeld; }
 
 Q_SIGNALS:
+    /// A person lets go of the tab; it has been moved.
+    void released();
     /// A person gave the tab another title.
     void titleEdited(int index);
 
 public Q_SLOTS:
     void onTabBarDoubleClicked(int index);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
     void commitTitle(int index);
@@ -33,6 +41,7 @@ private:
 
     QPointer<QLineEdit> m_editor;
     bool m_isEditable = false;
+    bool m_isHeld = false;
 };
 
 } // namespace orv

@@ -13,10 +13,13 @@
 #include <QUrl>
 #include <QVersionNumber>
 
+#include <memory>
 #include <optional>
+#include <vector>
 
 namespace orv::PropertyEditor {
 
+class AbstractValidator;
 class Content;
 
 /// A fault of a workflow and where it stands.
@@ -78,6 +81,12 @@ public:
     /// content.
     [[nodiscard]] Result<WorkflowCheckReport> run(const Content &content, const QUrl &baseUrl,
                                                   const WorkflowSource &source = {}) const;
+
+    /// What validators of an application find in the document of \a source, which is up to date, beside those
+    /// that run() knows. On the thread of the validators.
+    [[nodiscard]] static Result<QList<LocatedFinding>>
+    findingsOf(std::vector<std::unique_ptr<AbstractValidator>> validators, const WorkflowSource &source,
+               const QUrl &baseUrl);
 
 private:
     bool m_isDefault;

@@ -30,10 +30,13 @@ public:
     [[nodiscard]] WorkflowAppType workflowAppType() const override { return WorkflowAppType::Mirel; }
     void enableWorkflowFileOperations(bool enabled) override;
 
+protected:
+    /// Asks for a folder that carries the workflow with its files, and goes on with the workflow in there.
+    void savePortableWorkflow();
+
 private:
     friend class PropertyEditorDesktopWindowPrivate;
 
-    void savePortableWorkflow();
     void writePortableWorkflow(const QString &path);
 
     PropertyEditorDesktopWindowPrivate *desktop() const;

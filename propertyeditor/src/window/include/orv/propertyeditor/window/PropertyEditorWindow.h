@@ -87,6 +87,8 @@ public:
     [[nodiscard]] virtual WorkflowAppType workflowAppType() const = 0;
     /// Called for each check, on this thread; what it gives becomes the check's.
     void setAdditionalValidatorsCreatorFunction(const AdditionalValidators &create);
+    /// Null without one.
+    [[nodiscard]] AdditionalValidators additionalValidatorsCreatorFunction() const;
     /// What stands in the question whether an upgrade shall be applied, below its text; the question takes it
     /// over.
     using UpgradeView = std::function<QWidget *(const DocumentUpgrade &upgrade)>;

@@ -15,9 +15,8 @@ class PropertyEditorWindow;
 /// The steps of a document in a window, back and forth, through every column, tab and property of the
 /// workflow. A step is what a person did from opening to leaving a field; steps of the tables' own histories
 /// are among them, and so is an upgrade of the document until it is saved. Saving keeps the other steps, and
-/// another document begins anew. What lies longest back is
-/// forgotten once the steps hold more than limit() bytes. GUI thread; the window may be destroyed from any
-/// handler.
+/// another document begins anew. What lies longest back is forgotten, by the tables too, once all steps hold
+/// more than limit() bytes. GUI thread; the window may be destroyed from any handler.
 class ORV_PROPERTY_EDITOR_EXPORT DocumentHistory : public QObject
 {
     Q_OBJECT
@@ -48,7 +47,7 @@ public:
     [[nodiscard]] QString undoText() const;
     [[nodiscard]] QString redoText() const;
 
-    /// About what the steps hold, in bytes.
+    /// About what the steps hold, those of the tables included, in bytes.
     [[nodiscard]] qsizetype heldBytes() const;
     [[nodiscard]] qsizetype limit() const;
     void setLimit(qsizetype bytes);

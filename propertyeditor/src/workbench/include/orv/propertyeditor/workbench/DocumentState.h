@@ -1,6 +1,8 @@
 #pragma once
 
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
+#include <orv/propertyeditor/workbench/JsonDifference.h>
+#include <orv/propertyeditor/workbench/StateCell.h>
 #include <orv/widgets/Export.h>
 
 #include <QByteArray>
@@ -11,18 +13,19 @@
 
 #include <optional>
 #include <utility>
+#include <variant>
 
 namespace orv {
 
-/// What a window shows of a document, as a value: copies share the texts of cells, so that another state
+/// What a window shows of a document, as a value: copies share the cells, so that another state
 /// costs what differs. Safe to use from several threads as any Qt value.
 struct ORV_PROPERTY_EDITOR_EXPORT DocumentState
 {
     struct ORV_PROPERTY_EDITOR_EXPORT Tab
     {
         QString title;
-        QStringList columns;     ///< may be more than cells: names whose cells couldn't be shown
-        QList<QByteArray> cells; ///< compact JSON, without the stamps of who wrote them and when
+        QStringList columns;    ///< may be more than cells: names whose cells couldn't be shown
+        QList<StateCell> cells; ///< without the stamps of who wrote them and when
 
         [[nodiscard]] PropertyEditorContent::Tab content() const;
         /// The same but for the texts of the cells.
@@ -37,7 +40,7 @@ struct ORV_PROPERTY_EDITOR_EXPORT DocumentState
     bool operator==(const DocumentState &other) const = default;
 };
 
-/// What leads from one state of a document to another, and back. Of a cell it holds the bytes that differ.
+/// What leads from one state of a document to another, and back. Of a cell it holds what differs.
 class ORV_PROPERTY_EDITOR_EXPORT StateChange
 {
 public:
@@ -47,13 +50,19 @@ public:
         Back,
     };
 
+    /// Of cells of which one is known by its text alone.
+    struct TextDifference
+    {
+        qsizetype offset = 0;
+        QByteArray before; ///< from the offset on
+        QByteArray after;
+    };
+
     struct CellChange
     {
         int tab = 0; ///< of the later state
         int column = 0;
-        qsizetype offset = 0;
-        QByteArray before; ///< from the offset on
-        QByteArray after;
+        std::variant<JsonDifference, TextDifference> difference;
     };
 
     [[nodiscard]] static StateChange between(const DocumentState &before, const DocumentState &after);

@@ -32,6 +32,10 @@ public:
     void setHasFinding(const Filter &filter);
     void setDiffersFromSecond(const Filter &filter);
 
+    /// Until the next save or document, what changed is told by a workflow file, which is read in the
+    /// background: for a document that comes from elsewhere than the file that it belongs to.
+    void compareWithFile(const QString &file);
+
     [[nodiscard]] QAction *action() const;
 
 private:

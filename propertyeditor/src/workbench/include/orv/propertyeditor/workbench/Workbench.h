@@ -5,6 +5,7 @@
 #include <QKeySequence>
 #include <QMap>
 #include <QObject>
+#include <QSet>
 
 QT_FORWARD_DECLARE_CLASS(QAction)
 QT_FORWARD_DECLARE_CLASS(QDockWidget)
@@ -46,6 +47,9 @@ public:
     /// object name, under which its place is kept.
     QDockWidget *addPanel(QWidget *widget, const QString &name, const QString &title, Qt::DockWidgetArea area,
                           const QKeySequence &shortcut = {});
+    /// For who restored places and sizes that a person gave the panels; else the first of each area leaves
+    /// two thirds of the window to the workflow.
+    void keepPanelSizes();
 
     // Live as long as the workbench.
     [[nodiscard]] FindSettings *find() const { return m_find; }
@@ -53,18 +57,24 @@ public:
     [[nodiscard]] Upgrades *upgrades() const { return m_upgrades; }
     [[nodiscard]] Comparison *comparison() const { return m_comparison; }
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void addHistory();
+    void sizeOnce(QDockWidget *panel, Qt::DockWidgetArea area);
     void updateHistory();
     void updateTitle();
 
     PropertyEditorWindow *const m_window;
     QMenu *m_editMenu;
     QMenu *m_viewMenu;
+    QAction *m_behindPanels = nullptr;
     DocumentHistory *m_history;
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
     QMap<Qt::DockWidgetArea, QDockWidget *> m_panels; ///< the last of each area; the window's
+    QSet<Qt::DockWidgetArea> m_sized;                 ///< areas whose panels have their size
     FindSettings *m_find = nullptr;
     Findings *m_findings = nullptr;
     Upgrades *m_upgrades = nullptr;

@@ -8,6 +8,7 @@
 #include <QSet>
 #include <QString>
 
+#include <atomic>
 #include <optional>
 
 namespace orv {
@@ -37,7 +38,8 @@ struct ORV_WORKFLOW_EXPORT WorkflowDifference
     qsizetype together = kAlone;
 };
 
-/// Tells in words of the format what PropertyEditorJsonUtils::compareWorkflows decides.
+/// Tells in words of the format what PropertyEditorJsonUtils::compareWorkflows decides. Work that somebody
+/// cancels on another thread, by the flag that it is given, ends soon; what it gives then means nothing.
 namespace WorkflowDifferences {
 
 /// Where \a left and \a right differ, in the order of \a left, what was added behind it; empty exactly if
@@ -45,8 +47,9 @@ namespace WorkflowDifferences {
 /// tables are matched by name, those of one name in their order; settings by the property that their name
 /// means; cells and rows of tables by number. What only stands in another order is one difference ("order of
 /// columns"). Takes time linear in the size of the documents, malformed ones too. Safe on any thread.
-[[nodiscard]] ORV_WORKFLOW_EXPORT QList<WorkflowDifference> between(const QJsonObject &left,
-                                                                    const QJsonObject &right, bool strict);
+[[nodiscard]] ORV_WORKFLOW_EXPORT QList<WorkflowDifference>
+between(const QJsonObject &left, const QJsonObject &right, bool strict,
+        const std::atomic_bool *isCancelled = nullptr);
 
 /// \a left with some of these differences as they are in \a right. \a chosen are their numbers in the list
 /// that between() gives, and stand for all that belong together with them. With none chosen it is \a left,
@@ -54,7 +57,8 @@ namespace WorkflowDifferences {
 /// those of \a left unless they are compared; what is added comes without. Takes linear time. Safe on any
 /// thread.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QJsonObject takenOver(const QJsonObject &left, const QJsonObject &right,
-                                                        const QSet<qsizetype> &chosen, bool strict);
+                                                        const QSet<qsizetype> &chosen, bool strict,
+                                                        const std::atomic_bool *isCancelled = nullptr);
 
 /// The names that differences tell tabs and columns by: those that have none or the same are made different.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QStringList labels(const QStringList &names);
