@@ -5,6 +5,7 @@
 #include "Runs.h"
 
 #include <orv/core/Settings.h>
+#include <orv/propertyeditor/editors/SlowQuestion.h>
 #include <orv/propertyeditor/window/PropertyEditorDirLocations.h>
 #include <orv/propertyeditor/window/PropertyEditorWindowJsonFile.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
@@ -70,9 +71,13 @@ EditorWindow::EditorWindow(CoreMainWindow *mainWindow, std::shared_ptr<RecoveryS
     setAttribute(Qt::WA_DeleteOnClose);
     setAcceptDrops(true);
     buildFileMenu();
-    buildRecovery(new Workbench(this));
+    followFile();
+    auto *workbench = new Workbench(this);
+    buildRecovery(workbench);
     buildHelpMenu();
-    restoreLayout();
+    restoreLayout(workbench);
+    statusBar()->showMessage(tr("Open a workflow with %1, or drop its file here.")
+                                 .arg(QKeySequence(QKeySequence::Open).toString(QKeySequence::NativeText)));
     connect(this, &PropertyEditorWindow::documentSaved, this,
             [this] { RecentFiles::add(workflowFilePath()); });
     connect(this, &PropertyEditorWindow::sendToProcessing, this, &EditorWindow::run);
@@ -86,10 +91,11 @@ EditorWindow::~EditorWindow()
         m_keeper->flush();
 }
 
-void EditorWindow::restoreLayout()
+void EditorWindow::restoreLayout(Workbench *workbench)
 {
     restoreGeometry(as::value(kGeometry).toByteArray());
-    restoreState(as::value(kPanels).toByteArray());
+    if (restoreState(as::value(kPanels).toByteArray()))
+        workbench->keepPanelSizes();
     if (m_recoveryPanel)
         m_recoveryPanel->hide();
 }
@@ -106,13 +112,18 @@ void EditorWindow::buildFileMenu()
         QAction *action = menu->addAction(text);
         action->setShortcuts(key);
         connect(action, &QAction::triggered, this, slot);
+        return action;
     };
     add(tr("&New Window"), QKeySequence::New, [this] { anotherWindow()->show(); });
     add(tr("&Open..."), QKeySequence::Open, [this] { selectAndOpenWorkflow(); });
     QMenu *recent = menu->addMenu(tr("Open &Recent"));
     connect(recent, &QMenu::aboutToShow, this, [this, recent] { fillRecentMenu(recent); });
     menu->addSeparator();
-    add(tr("&Save As..."), QKeySequence::Save, [this] { saveWorkflowAs(); });
+    add(tr("&Save"), QKeySequence::Save, [this] { save(); });
+    // Not every desktop names a key for it.
+    add(tr("Save &As..."), QKeySequence::SaveAs, [this] {
+        saveWorkflowAs();
+    })->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
     add(tr("Workflow &Properties..."), QKeySequence::UnknownKey, [this] { openWorkflowProperties(); });
     menu->addSeparator();
     add(tr("Create Pro&ject..."), QKeySequence::UnknownKey, [this] { createProjectClicked(); });
@@ -126,13 +137,35 @@ void EditorWindow::fillRecentMenu(QMenu *menu)
     menu->clear();
     const QStringList files = RecentFiles::all();
     for (const QString &path : files) {
-        const QAction *action = menu->addAction(QString(path).replace(u'&', QLatin1String("&&")));
+        QAction *action = menu->addAction(QString(path).replace(u'&', QLatin1String("&&")));
+        action->setData(path);
         connect(action, &QAction::triggered, this, [this, path] { openRecent(path); });
+        markIfMissing(menu, path);
     }
     if (files.isEmpty())
         menu->addAction(tr("No workflow was opened yet"))->setEnabled(false);
     else
         connect(menu->addAction(tr("&Forget These")), &QAction::triggered, this, &RecentFiles::clear);
+}
+
+/// Entries show at once; a drive that sleeps answers when it can, and is asked once until then.
+void EditorWindow::markIfMissing(QMenu *menu, const QString &path)
+{
+    if (m_sought.contains(path))
+        return;
+    m_sought.insert(path);
+    const auto mark = [this, menu = QPointer(menu), path](bool isThere) {
+        m_sought.remove(path);
+        const QList<QAction *> entries = menu && !isThere ? menu->actions() : QList<QAction *>();
+        for (QAction *entry : entries) {
+            if (entry->data() == path)
+                entry->setText(tr("%1 (not found)").arg(QString(path).replace(u'&', QLatin1String("&&"))));
+        }
+    };
+    const auto atOnce = SlowQuestion::ask([path] { return QFileInfo::exists(path); }, this, mark,
+                                          std::chrono::milliseconds(0));
+    if (atOnce)
+        mark(*atOnce);
 }
 
 void EditorWindow::buildHelpMenu()
@@ -161,8 +194,35 @@ bool EditorWindow::isPristine() const
     return dFunc()->workflowFilePath().isNull() && content().tabsAndContent().isEmpty();
 }
 
+EditorWindow *EditorWindow::windowOf(const QString &path) const
+{
+    const QString file =
+        QFileInfo(WflwUtils::isMirelPortableWorkflow(path) ? WflwUtils::workflowInPortableWorkflow(path)
+                                                           : path)
+            .canonicalFilePath();
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        auto *window = qobject_cast<EditorWindow *>(widget);
+        if (window && !file.isEmpty() && window->m_file == file && !window->isPristine())
+            return window;
+    }
+    return nullptr;
+}
+
+void EditorWindow::comeForward()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+    tell(tr("The workflow is open here already."));
+}
+
 PropertyEditorWindow::OpenStatus EditorWindow::openBesides(const QString &path)
 {
+    if (EditorWindow *window = windowOf(path)) {
+        window->comeForward();
+        return OpenStatus::Opened;
+    }
     if (isPristine())
         return openWorkflow(path);
     const QPointer<EditorWindow> window = anotherWindow();
@@ -211,12 +271,19 @@ PropertyEditorWindow::OpenStatus EditorWindow::selectAndOpenWorkflow()
 
 void EditorWindow::openRecent(const QString &path)
 {
-    if (QFileInfo::exists(path)) {
-        openAndTell(path);
-        return;
-    }
-    RecentFiles::remove(path);
-    ORVStyle::warning(this, tr("Open Recent"), tr("The workflow isn't there any more: %1").arg(path));
+    const auto open = [this, path](bool isThere) {
+        if (isThere) {
+            openAndTell(path);
+            return;
+        }
+        RecentFiles::remove(path);
+        ORVStyle::warning(this, tr("Open Recent"), tr("The workflow isn't there any more: %1").arg(path));
+    };
+    const auto isThere = SlowQuestion::ask([path] { return QFileInfo::exists(path); }, this, open);
+    if (isThere)
+        open(*isThere);
+    else
+        statusBar()->showMessage(tr("Waiting for %1...").arg(QDir::toNativeSeparators(path)));
 }
 
 PropertyEditorWindow::OpenStatus EditorWindow::openWorkflow(const QString &filePath,
@@ -224,10 +291,12 @@ PropertyEditorWindow::OpenStatus EditorWindow::openWorkflow(const QString &fileP
 {
     const QPointer<EditorWindow> self(this);
     const OpenStatus status = PropertyEditorDesktopWindow::openWorkflow(filePath, folderToPreselect);
-    if (self && status == OpenStatus::Opened)
+    if (self && status == OpenStatus::Opened) {
+        rememberFile();
         RecentFiles::add(filePath);
+    }
     // An empty window has no file that a save would write over.
-    else if (self && workflowTabs()->count() == 0)
+    if (self && status != OpenStatus::Opened && workflowTabs()->count() == 0)
         dFunc()->setWorkflowFilePath({});
     return status;
 }
@@ -253,7 +322,8 @@ void EditorWindow::run(const PropertyEditor::Content &content, const Path &outpu
                 .arg(outcome.kept));
     }
     if (self && !outcome.folders.isEmpty())
-        tellRun(outcome.folders.constFirst());
+        // Where no file manager opens it, a person still knows where the run is.
+        tell(tr("The run was written to %1").arg(QDir::toNativeSeparators(outcome.folders.constFirst())));
     if (self)
         Q_EMIT projectCreationFinished(outcome.error, outcome.folders, clock.elapsed());
     for (const QString &folder : outcome.folders) {
@@ -262,10 +332,9 @@ void EditorWindow::run(const PropertyEditor::Content &content, const Path &outpu
     }
 }
 
-/// Where no file manager opens it, a person still knows where the run is.
-void EditorWindow::tellRun(const QString &folder)
+void EditorWindow::tell(const QString &message)
 {
-    statusBar()->showMessage(tr("The run was written to %1").arg(QDir::toNativeSeparators(folder)));
+    statusBar()->showMessage(message);
     QAccessibleEvent event(statusBar(), QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
 }
@@ -280,7 +349,9 @@ void EditorWindow::dropEvent(QDropEvent *event)
 {
     const QStringList paths = workflowsIn(*event->mimeData());
     event->acceptProposedAction();
-    openFiles(paths);
+    // Whoever dropped them waits until this returns, and opening may ask.
+    QMetaObject::invokeMethod(
+        this, [this, paths] { openFiles(paths); }, Qt::QueuedConnection);
 }
 
 void EditorWindow::closeEvent(QCloseEvent *event)

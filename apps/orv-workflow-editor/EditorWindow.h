@@ -1,7 +1,11 @@
 #pragma once
 
+#include "FileStamp.h"
+
 #include <orv/propertyeditor/window/PropertyEditorDesktopWindow.h>
 #include <orv/propertyeditor/workbench/RecoveryStore.h>
+
+#include <QSet>
 
 #include <optional>
 
@@ -31,8 +35,13 @@ public:
                             const ResourceReferenceSPtr &folderToPreselect = {}) override;
     using PropertyEditorDesktopWindow::openWorkflow;
 
-    /// Opens in this window if it is empty, else in a new one, so that nothing unsaved goes.
+    /// Goes to the window that shows the file already; else opens in this window if it is empty, or in a new
+    /// one, so that nothing unsaved goes.
     OpenStatus openBesides(const QString &path);
+    /// Writes the workflow into its file. It asks for a name where there is no file yet or where an earlier
+    /// version wrote it, for a folder where it is that of a portable workflow, and before it takes away what
+    /// another program wrote meanwhile.
+    void save();
     /// Opens each as openBesides(), and tells of those that can't be read once the others are there.
     void openFiles(const QStringList &paths);
 
@@ -46,26 +55,38 @@ protected:
 
 private:
     void buildFileMenu();
+    void followFile();
+    void rememberFile();
     void buildRecovery(Workbench *workbench);
     void buildHelpMenu();
     void fillRecentMenu(QMenu *menu);
+    void markIfMissing(QMenu *menu, const QString &path);
     void openRecent(const QString &path);
     OpenStatus openAndTell(const QString &path);
+    [[nodiscard]] EditorWindow *windowOf(const QString &path) const;
+    void comeForward();
+    [[nodiscard]] bool mayReplaceFile();
     void tellUnreadable(const QStringList &files);
     void run(const PropertyEditor::Content &content, const Path &outputPath, DuplicateFilePolicy policy);
-    void tellRun(const QString &folder);
+    /// In the status line, and to who listens to the screen.
+    void tell(const QString &message);
     void showAbout();
     void recover(const RecoveryEntry &entry, RecoveryFileState state);
     [[nodiscard]] bool showRecovered(RecoveryStore::Taken &taken, const RecoveryEntry &entry,
                                      const QString &path);
     [[nodiscard]] std::optional<PropertyEditorContent> stateToKeep() const;
-    void restoreLayout();
+    void restoreLayout(Workbench *workbench);
     [[nodiscard]] bool isPristine() const;
     [[nodiscard]] EditorWindow *anotherWindow() const;
 
     CoreMainWindow *const m_mainWindow;
+    QSet<QString> m_sought; ///< recent files, until their drive answers
     const std::shared_ptr<RecoveryStore> m_store;
+    QString m_file;                         ///< the canonical path of what was opened or saved last
+    std::optional<FileStamp> m_fileStamp;   ///< as it was then
+    bool m_isUpgraded = false;              ///< since it was opened, and not saved yet
     JournalKeeper *m_keeper = nullptr;      ///< a child
+    Workbench *m_workbench = nullptr;       ///< a child
     DocumentHistory *m_history = nullptr;   ///< a child
     RecoveryPanel *m_recovery = nullptr;    ///< in the panel
     QDockWidget *m_recoveryPanel = nullptr; ///< a child

@@ -1,6 +1,7 @@
 #include "EditorWindow.h"
 
 #include <orv/propertyeditor/workbench/DocumentHistory.h>
+#include <orv/propertyeditor/workbench/FindSettings.h>
 #include <orv/propertyeditor/workbench/JournalKeeper.h>
 #include <orv/propertyeditor/workbench/RecoveryJournal.h>
 #include <orv/propertyeditor/workbench/RecoveryPanel.h>
@@ -11,7 +12,6 @@
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QPointer>
-#include <QStatusBar>
 
 namespace orv {
 
@@ -39,6 +39,7 @@ void EditorWindow::buildRecovery(Workbench *workbench)
 {
     if (!m_store)
         return;
+    m_workbench = workbench;
     m_history = workbench->history();
     m_keeper = new JournalKeeper(this, m_store,
                                  {[this] { return stateToKeep(); },
@@ -110,7 +111,11 @@ bool EditorWindow::showRecovered(RecoveryStore::Taken &taken, const RecoveryEntr
     dFunc()->countAsUnsaved(entry.lost);
     m_keeper->adopt(std::move(taken.journal));
     m_history->countAsUnsaved();
-    statusBar()->showMessage(tr("The workflow was recovered. Save it to keep it."));
+    rememberFile();
+    // What changed since the last save is told by the file, if it is still the one that was opened.
+    if (path == entry.file && QFileInfo(path).isAbsolute())
+        m_workbench->find()->compareWithFile(path);
+    tell(tr("The workflow was recovered. Save it to keep it."));
     return true;
 }
 

@@ -195,9 +195,14 @@ void EditorApplicationTest::windowsSpeakGerman()
 void EditorApplicationTest::germanMnemonicsDiffer()
 {
     const German german;
+    EditorApplication::registerCreators();
     CoreMainWindow main;
     EditorWindow window(&main);
     QCOMPARE(entriesWithTakenLetters(window), QStringList());
+    window.openWorkflow(TestData::examplePath(u"workflows/intact_mass_check.wflw"_s));
+    QCOMPARE(window.centralWidget()->findChild<QTabWidget *>()->count(), 3);
+    window.show();
+    QCOMPARE(controlsWithTakenLetters(window), QStringList());
 }
 
 void EditorApplicationTest::translationsKeepTheirPlaces()

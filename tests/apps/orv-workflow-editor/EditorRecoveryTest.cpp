@@ -1,11 +1,17 @@
+#include "EditorRecoveryFixture.h"
 #include "EditorWindow.h"
+#include "EditorWindows.h"
 #include "LogCapture.h"
 #include "TestData.h"
 #include "WidgetTest.h"
 
+#include <KPropertySet.h>
 #include <orv/propertyeditor/grid/EditableTabBar.h>
 #include <orv/propertyeditor/grid/EditableTabWidget.h>
 #include <orv/propertyeditor/grid/GridItemCreators.h>
+#include <orv/propertyeditor/grid/GridPropertyEditorView.h>
+#include <orv/propertyeditor/grid/IGridItem.h>
+#include <orv/propertyeditor/grid/PropertyGridWidget.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/propertyeditor/workbench/JournalKeeper.h>
 #include <orv/propertyeditor/workbench/RecoveryJournal.h>
@@ -14,6 +20,7 @@
 #include <orv/widgets/CoreMainWindow.h>
 #include <orv/widgets/DialogAnswerer.h>
 
+#include <QCheckBox>
 #include <QDir>
 #include <QDockWidget>
 #include <QJsonDocument>
@@ -26,69 +33,9 @@
 #include <QTreeView>
 
 using namespace orv;
+using namespace EditorRecoveryFixture;
+using namespace EditorWindows;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QList<EditorWindow *> shownWindows()
-{
-    QList<EditorWindow *> windows;
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (auto *window = qobject_cast<EditorWindow *>(widget); window && window->isVisible())
-            windows.append(window);
-    }
-    return windows;
-}
-
-/// Renames the first tab, as a person does by double click.
-void renameFirstTab(EditorWindow &window, const QString &name)
-{
-    window.workflowTabs()->setEditorMode(GridPropertyEditorView::EditorMode::Designer);
-    EditableTabBar *bar = window.workflowTabs()->widget()->editableTabBar();
-    const QPoint place = bar->tabRect(0).center();
-    QTest::mouseClick(bar, Qt::LeftButton, {}, place);
-    QTest::mouseDClick(bar, Qt::LeftButton, {}, place);
-    auto *editor = bar->findChild<QLineEdit *>();
-    if (!editor)
-        qFatal("The tab can't be renamed");
-    editor->selectAll();
-    QTest::keyClicks(editor, name);
-    QTest::keyClick(editor, Qt::Key_Return);
-}
-
-QString firstTab(const EditorWindow &window)
-{
-    return window.content().tabsAndContent().value(0).first;
-}
-
-QTreeView *list(const EditorWindow &window, const QString &name)
-{
-    for (QTreeView *view : window.findChildren<QTreeView *>()) {
-        if (view->accessibleName() == name)
-            return view;
-    }
-    qFatal("There is no list \"%s\"", qPrintable(name));
-}
-
-/// What the panel says beside its lists.
-QString panelText(const EditorWindow &window)
-{
-    QString text;
-    for (const QLabel *label : window.findChild<RecoveryPanel *>()->findChildren<QLabel *>())
-        text += label->text() + u'\n';
-    return text;
-}
-
-QPushButton *panelButton(const EditorWindow &window, const QString &text)
-{
-    for (QPushButton *button : window.findChild<RecoveryPanel *>()->findChildren<QPushButton *>()) {
-        if (button->text() == text)
-            return button;
-    }
-    qFatal("There is no button \"%s\"", qPrintable(text));
-}
-
-} // namespace
 
 class EditorRecoveryTest : public WidgetTest
 {
@@ -98,6 +45,7 @@ private Q_SLOTS:
     void initTestCase();
     void cleanup();
     void unsavedEditsAreOfferedAndRecovered();
+    void recoveredWorkflowsTellWhatChangedSinceTheSave();
     void recoveredWorkflowsAskWhenTheyClose();
     void recoveredWorkflowsStayUntilTheyAreSaved();
     void savedWorkflowsAreNotOffered();
@@ -157,7 +105,7 @@ void EditorRecoveryTest::start()
 
 void EditorRecoveryTest::cleanup()
 {
-    for (EditorWindow *window : shownWindows())
+    for (EditorWindow *window : openWindows())
         delete window;
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     m_store.reset();
@@ -227,11 +175,47 @@ void EditorRecoveryTest::unsavedEditsAreOfferedAndRecovered()
     QVERIFY(changes->rowCount() > 0);
     QTRY_VERIFY(panelText(*window).contains(u"Its file wasn't changed since it was opened."_s));
     recover(window);
-    QCOMPARE(shownWindows().size(), 1);
+    QCOMPARE(openWindows().size(), 1);
     QCOMPARE(firstTab(*window), u"Renamed"_s);
     QCOMPARE(window->workflowFilePath(), m_file);
     QCOMPARE(TestData::read(m_file), m_bytes);
     QVERIFY(!panel->isVisible());
+    closeUnsaved(window);
+}
+
+void EditorRecoveryTest::recoveredWorkflowsTellWhatChangedSinceTheSave()
+{
+    start();
+    const QJsonObject cell{
+        {u"type"_s, u"Senthia"_s},
+        {u"properties"_s,
+         QJsonArray{QJsonObject{{u"name"_s, u"Samples"_s}, {u"value"_s, u"one"_s}},
+                    QJsonObject{{u"name"_s, u"InSilicoPeptidesFile"_s}, {u"value"_s, u"data/a.csv"_s}}}}};
+    QJsonObject document = QJsonDocument::fromJson(m_bytes).object();
+    document[u"tabs"_s] = QJsonArray{
+        QJsonObject{{u"name"_s, u"A"_s}, {u"columns"_s, QJsonArray{u"B"_s}}, {u"cells"_s, QJsonArray{cell}}}};
+    QFile file(m_file);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(document).toJson()) > 0);
+    file.close();
+    EditorWindow *edited = openWindow();
+    edited->openFiles({m_file});
+    const auto settings = [](const EditorWindow &window) {
+        IGridItem *column = window.workflowTabs()->grid(0)->items().constFirst();
+        return static_cast<GridPropertyEditorView *>(column->widget())->propertySet();
+    };
+    settings(*edited)->property("Samples").setValue(u"two"_s);
+    closeUnsaved(edited);
+    m_store = std::make_shared<RecoveryStore>(journals());
+    EditorWindow *window = openWindow();
+    window->offerRecovery();
+    recover(window);
+    QCOMPARE(settings(*window)->property("Samples").value().toString(), u"two"_s);
+    QTest::keyClick(window, Qt::Key_F, Qt::ControlModifier);
+    QTest::mouseClick(window->findChild<QCheckBox *>(u"changedSinceSaving"_s), Qt::LeftButton);
+    const QAbstractItemModel *hits = window->findChild<QTreeView *>(u"findHits"_s)->model();
+    QTRY_COMPARE(hits->rowCount(), 1);
+    QCOMPARE(hits->index(0, 0).data().toString(), u"Samples"_s);
+    QCOMPARE(hits->index(0, 3).data().toString(), u"one"_s);
     closeUnsaved(window);
 }
 
@@ -366,7 +350,7 @@ void EditorRecoveryTest::damagedJournalsAreTold()
     QVERIFY2(panelText(*window).contains(u"damaged and can't be recovered"_s),
              qPrintable(panelText(*window)));
     QVERIFY(QFileInfo::exists(journal.fileName() + u".damaged"_s));
-    QCOMPARE(shownWindows().size(), 1);
+    QCOMPARE(openWindows().size(), 1);
 }
 
 void EditorRecoveryTest::manyEditsTakeOneState()
@@ -451,8 +435,8 @@ void EditorRecoveryTest::everyWindowHasItsOwn()
     const QString other = m_folder->filePath(u"b.wflw"_s);
     QVERIFY(QFile::copy(m_file, other));
     first->openFiles({other});
-    QCOMPARE(shownWindows().size(), 2);
-    for (EditorWindow *window : shownWindows()) {
+    QCOMPARE(openWindows().size(), 2);
+    for (EditorWindow *window : openWindows()) {
         renameFirstTab(*window, QFileInfo(window->workflowFilePath()).baseName());
         closeUnsaved(window);
     }
@@ -511,8 +495,8 @@ void EditorRecoveryTest::severalAreRecoveredAtOnce()
     QTRY_VERIFY(!panelText(*window).contains(u"Looking whether"_s));
     QTest::keyClick(entries, Qt::Key_Down, Qt::ShiftModifier);
     QTest::mouseClick(panelButton(*window, u"&Recover"_s), Qt::LeftButton);
-    QCOMPARE(shownWindows().size(), 2);
-    for (const EditorWindow *shown : shownWindows())
+    QCOMPARE(openWindows().size(), 2);
+    for (const EditorWindow *shown : openWindows())
         QCOMPARE(firstTab(*shown), u"Renamed"_s);
     QVERIFY(!window->findChild<QDockWidget *>(u"recovery"_s)->isVisible());
 }

@@ -1,5 +1,6 @@
 #include "EditorWindow.h"
 
+#include "EditorWindows.h"
 #include "LogCapture.h"
 #include "Mnemonics.h"
 #include "RecentFiles.h"
@@ -24,35 +25,10 @@
 #include <QTemporaryDir>
 
 using namespace orv;
+using namespace EditorWindows;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr auto kOpened = PropertyEditorWindow::OpenStatus::Opened;
-
-QString intactExample()
-{
-    return TestData::examplePath(u"workflows/intact_mass_check.wflw"_s);
-}
-
-QAction *command(const QWidget &window, const QString &text)
-{
-    for (QAction *action : window.findChildren<QAction *>()) {
-        if (action->text() == text)
-            return action;
-    }
-    qFatal("There is no command \"%s\"", qPrintable(text));
-}
-
-QList<EditorWindow *> openWindows()
-{
-    QList<EditorWindow *> windows;
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (auto *window = qobject_cast<EditorWindow *>(widget); window && window->isVisible())
-            windows.append(window);
-    }
-    return windows;
-}
 
 /// Catches what would be shown to a person by the desktop.
 class Desktop : public QObject
@@ -69,6 +45,16 @@ public Q_SLOTS:
     void show(const QUrl &url) { shown.append(url.toLocalFile()); }
 };
 
+/// A workflow that can't be read.
+QString brokenFile(const QTemporaryDir &folder, const QByteArray &bytes)
+{
+    const QString path = folder.filePath(u"broken.wflw"_s);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("The test's file can't be written: %s", qPrintable(path));
+    return path;
+}
+
 } // namespace
 
 class EditorWindowTest : public WidgetTest
@@ -80,6 +66,7 @@ private Q_SLOTS:
     void cleanup();
     void filesAreRemembered();
     void missingFilesAreForgotten();
+    void missingFilesAreMarkedInTheMenu();
     void emptyWindowsAreUsed();
     void fullWindowsStay();
     void openingKeepsWhatIsThere();
@@ -93,6 +80,8 @@ private Q_SLOTS:
     void existingRunsAreKept();
     void failedRunsAreTold();
     void aboutTellsVersions();
+    void aFileIsOpenOnce();
+    void messagesStayUnderThePointer();
     void mnemonicsDiffer();
     void geometryIsRemembered();
 
@@ -166,6 +155,26 @@ void EditorWindowTest::missingFilesAreForgotten()
     QCOMPARE(RecentFiles::all(), QStringList());
 }
 
+void EditorWindowTest::missingFilesAreMarkedInTheMenu()
+{
+    open();
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a & b.wflw"_s);
+    QVERIFY(QFile::copy(intactExample(), path));
+    RecentFiles::add(intactExample());
+    RecentFiles::add(path);
+    QVERIFY(QFile::remove(path));
+    QMenu *recent = command(*m_window, u"Open &Recent"_s)->menu();
+    Q_EMIT recent->aboutToShow();
+    QCOMPARE(recent->actions().size(), 3);
+    QTRY_VERIFY(recent->actions().first()->text().endsWith(u"a && b.wflw (not found)"_s));
+    QCOMPARE(recent->actions().at(1)->text(), intactExample());
+    // The drive is asked anew each time.
+    QVERIFY(QFile::copy(intactExample(), path));
+    Q_EMIT recent->aboutToShow();
+    QVERIFY(recent->actions().first()->text().endsWith(u"a && b.wflw"_s));
+}
+
 void EditorWindowTest::emptyWindowsAreUsed()
 {
     open();
@@ -195,6 +204,38 @@ void EditorWindowTest::openingKeepsWhatIsThere()
     QVERIFY(m_window->windowTitle().contains(u"intact_mass_check.wflw"_s));
 }
 
+void EditorWindowTest::aFileIsOpenOnce()
+{
+    open();
+    const QTemporaryDir folder;
+    const QString link = folder.filePath(u"link.wflw"_s);
+    QVERIFY(QFile::link(intactExample(), link));
+    m_window->openFiles({intactExample(), TestData::examplePath(u"workflows/de_novo_antibody.wflw"_s)});
+    QCOMPARE(openWindows().size(), 2);
+    m_window->showMinimized();
+    for (const QString &path : {intactExample(), link}) {
+        QCOMPARE(m_window->openBesides(path), kOpened);
+        QCOMPARE(openWindows().size(), 2);
+        QVERIFY(!m_window->isMinimized());
+        QCOMPARE(m_window->statusBar()->currentMessage(), u"The workflow is open here already."_s);
+    }
+}
+
+void EditorWindowTest::messagesStayUnderThePointer()
+{
+    open();
+    QVERIFY(m_window->statusBar()->currentMessage().startsWith(u"Open a workflow with Ctrl+O"_s));
+    QAction *menu = m_window->menuBar()->actions().constFirst();
+    QTest::mouseClick(m_window->menuBar(), Qt::LeftButton, {},
+                      m_window->menuBar()->actionGeometry(menu).center());
+    for (QAction *entry : menu->menu()->actions())
+        entry->hover();
+    menu->menu()->close();
+    QVERIFY(m_window->statusBar()->currentMessage().startsWith(u"Open a workflow with Ctrl+O"_s));
+    QCOMPARE(m_window->openBesides(intactExample()), kOpened);
+    QCOMPARE(m_window->statusBar()->currentMessage(), QString());
+}
+
 void EditorWindowTest::windowsOfWhatCannotBeOpenedClose()
 {
     open();
@@ -208,16 +249,14 @@ void EditorWindowTest::filesThatCannotBeOpenedAreToldBehindTheOthers()
 {
     open();
     const QTemporaryDir folder;
-    QFile broken(folder.filePath(u"broken.wflw"_s));
-    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("{ \"tabs\": [ , ] }") > 0);
-    broken.close();
+    const QString broken = brokenFile(folder, "{ \"tabs\": [ , ] }");
     const LogCapture log;
     ScriptedAnswerer answers;
     answers.expectBox(u"Open"_s, u"OK"_s);
-    m_window->openFiles({u"/no/such.wflw"_s, broken.fileName(), intactExample()});
+    m_window->openFiles({u"/no/such.wflw"_s, broken, intactExample()});
     QVERIFY(answers.isDone());
     const QString told = answers.transcript().first().text;
-    QVERIFY2(told.contains(u"/no/such.wflw"_s) && told.contains(broken.fileName()), qPrintable(told));
+    QVERIFY2(told.contains(u"/no/such.wflw"_s) && told.contains(broken), qPrintable(told));
     QVERIFY2(told.contains(u"Line 1"_s), qPrintable(told));
     QCOMPARE(openWindows().size(), 1);
     QVERIFY(m_window->windowTitle().contains(u"intact_mass_check.wflw"_s));
@@ -227,16 +266,14 @@ void EditorWindowTest::chosenFilesThatCannotBeReadAreTold()
 {
     open();
     const QTemporaryDir folder;
-    QFile broken(folder.filePath(u"broken.wflw"_s));
-    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("{") > 0);
-    broken.close();
+    const QString broken = brokenFile(folder, "{");
     const LogCapture log;
     ScriptedAnswerer answers;
-    answers.expectPath(u"Launch Workflow"_s, broken.fileName());
+    answers.expectPath(u"Launch Workflow"_s, broken);
     answers.expectBox(u"Open"_s, u"OK"_s);
     command(*m_window, u"&Open..."_s)->trigger();
     QVERIFY(answers.isDone());
-    QVERIFY(answers.transcript().last().text.contains(broken.fileName()));
+    QVERIFY(answers.transcript().last().text.contains(broken));
 }
 
 void EditorWindowTest::filesAreDropped()
@@ -249,8 +286,11 @@ void EditorWindowTest::filesAreDropped()
     QVERIFY(enter.isAccepted());
     QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
     QApplication::sendEvent(m_window, &drop);
+    // The program that the file comes from waits for the end of the drop, not for that of the opening.
+    QVERIFY(drop.isAccepted());
+    QVERIFY(!m_window->windowTitle().contains(u"intact_mass_check.wflw"_s));
+    QTRY_VERIFY(m_window->windowTitle().contains(u"intact_mass_check.wflw"_s));
     QCOMPARE(openWindows().size(), 1);
-    QVERIFY(m_window->windowTitle().contains(u"intact_mass_check.wflw"_s));
 }
 
 void EditorWindowTest::otherDropsAreRefused()
@@ -348,6 +388,8 @@ void EditorWindowTest::mnemonicsDiffer()
 {
     open();
     QCOMPARE(entriesWithTakenLetters(*m_window), QStringList());
+    QCOMPARE(m_window->openWorkflow(intactExample()), kOpened);
+    QCOMPARE(controlsWithTakenLetters(*m_window), QStringList());
 }
 
 void EditorWindowTest::geometryIsRemembered()

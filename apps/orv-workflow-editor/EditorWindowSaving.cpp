@@ -1,0 +1,76 @@
+#include "EditorWindow.h"
+
+#include <orv/propertyeditor/workflow/WflwUtils.h>
+#include <orv/widgets/ORVStyle.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QPointer>
+#include <QStatusBar>
+
+namespace orv {
+
+std::optional<FileStamp> FileStamp::of(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return std::nullopt;
+    return FileStamp{info.size(), info.lastModified()};
+}
+
+void EditorWindow::followFile()
+{
+    connect(this, &PropertyEditorWindow::documentShown, this, [this] {
+        m_isUpgraded = false;
+        statusBar()->clearMessage();
+    });
+    connect(this, &PropertyEditorWindow::documentUpgraded, this,
+            [this](const DocumentUpgrade &, bool isSaved) { m_isUpgraded = !isSaved; });
+    connect(this, &PropertyEditorWindow::documentSaved, this, [this] {
+        m_isUpgraded = false;
+        rememberFile();
+    });
+}
+
+void EditorWindow::rememberFile()
+{
+    m_file = QFileInfo(workflowFilePath()).canonicalFilePath();
+    m_fileStamp = FileStamp::of(workflowFilePath());
+}
+
+bool EditorWindow::mayReplaceFile()
+{
+    const QString path = workflowFilePath();
+    const std::optional<FileStamp> now = FileStamp::of(path);
+    if (!now || now == m_fileStamp)
+        return true;
+    const QPointer<EditorWindow> self(this);
+    const auto answer = ORVStyle::question(
+        this, tr("Save"),
+        tr("%1 was changed by another program since it was opened here. Replace it?")
+            .arg(QDir::toNativeSeparators(path)),
+        QMessageBox::Save | QMessageBox::Cancel, {{QMessageBox::Save, tr("Replace")}}, QMessageBox::Cancel);
+    return self && answer == QMessageBox::Save;
+}
+
+void EditorWindow::save()
+{
+    const QPointer<EditorWindow> self(this);
+    commitTyping();
+    if (!self)
+        return;
+    const QString path = workflowFilePath();
+    if (WflwUtils::isMirelPortableWorkflow(QFileInfo(path).path())) {
+        savePortableWorkflow();
+        return;
+    }
+    // The version that wrote an older file can't open what a save would make of it.
+    if (!QFileInfo(path).isAbsolute() || m_isUpgraded) {
+        saveWorkflowAs();
+        return;
+    }
+    if (verifyWidgetsContentAndShowDialog(WidgetValidationType::SaveWorkflow) && self && mayReplaceFile())
+        saveWorkflowToJSON(path);
+}
+
+} // namespace orv
