@@ -2,6 +2,7 @@
 // own.
 
 #include "LifelikeDocument.h"
+#include "ProcessMemory.h"
 
 #include <orv/propertyeditor/content/Content.h>
 #include <orv/propertyeditor/content/KeyValueItem.h>
@@ -19,20 +20,6 @@
 using namespace orv;
 
 namespace {
-
-/// The high-water mark of this program's own memory; getrusage would tell that of the parent from before
-/// exec.
-long peakKilobytes()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).chopped(2).trimmed().toLong();
-    }
-    return -1;
-}
 
 bool loadValueForm(const QByteArray &bytes)
 {
@@ -83,7 +70,7 @@ int runCase(int index, const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || !kCases[index].work(file.readAll()))
         return 1;
-    std::printf("%ld\n", peakKilobytes());
+    std::printf("%ld\n", ProcessMemory::peakKilobytes());
     return 0;
 }
 

@@ -112,7 +112,7 @@ bool showWindow(const QString &path)
     return window.openWorkflow(path) == PropertyEditorWindow::OpenStatus::Opened && !window.grab().isNull();
 }
 
-/// A window in which the first tab is renamed and renamed back by the history.
+/// A window in which the first column of the second tab was renamed, which its history takes back and forth.
 struct Edited
 {
     explicit Edited(const QString &path)
@@ -141,7 +141,8 @@ struct Edited
     Workbench *workbench;
 };
 
-/// A step of the history that is about nothing large, and the comparison that closing makes.
+/// Documents of many samples: opening them, right ones and such in which everything is wrong, and a step of
+/// the history that isn't about the samples.
 void addLarge(const QTemporaryDir &folder)
 {
     const int count = Lifelike::sized(10000);
@@ -149,6 +150,10 @@ void addLarge(const QTemporaryDir &folder)
         written(folder.filePath(QStringLiteral("large.wflw")), current(Lifelike::document(count, 2)));
     add("10,000 samples/baseline", [=] { return showBareTable(large, count); });
     add("10,000 samples/window", [=] { return showWindow(large); });
+    const QString wrong = written(folder.filePath(QStringLiteral("wrong.wflw")),
+                                  current(Lifelike::allWrong(Lifelike::document(count, 2))));
+    add("10,000 wrong samples/baseline", [=] { return showBareTable(wrong, count); });
+    add("10,000 wrong samples/window", [=] { return showWindow(wrong); });
     const QString small =
         written(folder.filePath(QStringLiteral("few.wflw")), current(Lifelike::document(50, 2)));
     const auto few = std::make_shared<Edited>(small);

@@ -5,13 +5,13 @@
 
 #include "EditorApplication.h"
 #include "EditorWindow.h"
+#include "ProcessMemory.h"
 
 #include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/propertyeditor/workbench/RecoveryStore.h>
 #include <orv/widgets/CoreMainWindow.h>
 
 #include <QApplication>
-#include <QFile>
 #include <QLocale>
 #include <QPointer>
 #include <QStandardPaths>
@@ -19,19 +19,6 @@
 #include <cstdio>
 
 namespace {
-
-/// What the process holds at the moment; negative where the system doesn't tell.
-long heldKilobytes()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        if (line.startsWith("VmRSS:"))
-            return line.mid(6).chopped(2).trimmed().toLong();
-    }
-    return -1;
-}
 
 bool showFile(orv::EditorWindow *window, const QString &file)
 {
@@ -80,6 +67,6 @@ int main(int argc, char *argv[])
         if (window)
             return 1;
     }
-    std::printf("%ld\n", heldKilobytes());
+    std::printf("%ld\n", ProcessMemory::heldKilobytes());
     return 0;
 }
