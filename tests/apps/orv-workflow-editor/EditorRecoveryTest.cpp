@@ -510,7 +510,7 @@ void EditorRecoveryTest::undoneEditsAreNotOffered()
     renameFirstTab(*window, u"Renamed"_s);
     const auto size = [this] { return QFileInfo(journals() + u'/' + journalFiles().value(0)).size(); };
     QTRY_VERIFY(size() > m_bytes.size() / 4);
-    QTest::keyClick(window, Qt::Key_Z, Qt::ControlModifier);
+    undoByKey(*window);
     QVERIFY(firstTab(*window) != u"Renamed"_s);
     const ScriptedAnswerer answers;
     QCOMPARE(journalsBehind(window), QStringList());
@@ -525,8 +525,8 @@ void EditorRecoveryTest::upgradesThatWereTakenBackAreNotOffered()
     answers.expectBox(u"Workflow upgrade"_s, u"Apply"_s);
     window->openFiles({TestData::examplePath(u"workflows/outdated/antibody_search_2018.wflw"_s)});
     renameFirstTab(*window, u"Renamed"_s);
-    QTest::keyClick(window, Qt::Key_Z, Qt::ControlModifier);
-    QTest::keyClick(window, Qt::Key_Z, Qt::ControlModifier);
+    undoByKey(*window);
+    undoByKey(*window);
     QCOMPARE(window->content().tabsAndContent().size(), 0);
     QCOMPARE(journalsBehind(window), QStringList());
     QVERIFY(answers.isDone());
@@ -551,7 +551,7 @@ void EditorRecoveryTest::recoveredWorkflowsStayWhereTheirUpgradeIsTakenBack()
         recover(window);
         QVERIFY(answers.isDone());
         QVERIFY(window->workflowTabs()->count() > 0);
-        QTest::keyClick(window, Qt::Key_Z, Qt::ControlModifier);
+        undoByKey(*window);
         QCOMPARE(window->workflowTabs()->count(), 0);
         QCOMPARE(journalsBehind(window).size(), 1);
         m_store = std::make_shared<RecoveryStore>(journals());

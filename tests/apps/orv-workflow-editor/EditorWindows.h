@@ -41,6 +41,13 @@ inline QList<orv::EditorWindow *> openWindows()
     return windows;
 }
 
+inline void undoByKey(orv::EditorWindow &window)
+{
+    // Progress that was shown on a slow machine gives the window back with the next events.
+    (void)QTest::qWaitForWindowActive(&window);
+    QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
+}
+
 /// Gives the first tab a name as a person does, by a double click, and doesn't leave the field.
 inline QLineEdit *typeNameOfFirstTab(orv::EditorWindow &window, const QString &name)
 {

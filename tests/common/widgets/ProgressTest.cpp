@@ -136,6 +136,7 @@ private Q_SLOTS:
     void aThreadHearsThatItShallStop();
     void nothingElseCanBeUsedFromTheBeginning();
     void shortWorkTakesNoFocus();
+    void longWorkGivesTheFocusBack();
     void aDialogThatOpensMeanwhileCanBeUsed();
     void aDialogThatWasOpenBeforeCannotBeUsed();
     void workWithinWorkHoldsInputUntilBothAreDone();
@@ -282,6 +283,20 @@ void ProgressTest::nothingElseCanBeUsedFromTheBeginning()
 }
 
 /// A modal window that can't be seen would catch the focus that a dialog gives back.
+void ProgressTest::longWorkGivesTheFocusBack()
+{
+    UsedWindow waiting;
+    QVERIFY(QTest::qWaitForWindowActive(&waiting.button));
+    {
+        TimedWork work(false, &waiting.button);
+        work.now = ProgressOutput::kDelayMs;
+        QTRY_VERIFY(isOnScreen() && progressWindow()->isActiveWindow());
+    }
+    QTRY_COMPARE(QApplication::activeWindow(), &waiting.button);
+    waiting.pressShortcut();
+    QCOMPARE(waiting.uses, 1);
+}
+
 void ProgressTest::shortWorkTakesNoFocus()
 {
     QWidget window;

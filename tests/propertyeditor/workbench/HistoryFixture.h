@@ -50,6 +50,8 @@ struct Edited
     }
     void key(Qt::Key code, Qt::KeyboardModifiers modifiers = Qt::ControlModifier)
     {
+        // Progress that was shown on a slow machine gives the window back with the next events.
+        (void)QTest::qWaitForWindowActive(&window);
         QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &window, code, modifiers);
     }
     QString value(const char *name) { return tree().propertySet()->property(name).value().toString(); }

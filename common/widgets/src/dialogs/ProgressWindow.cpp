@@ -1,6 +1,6 @@
 #include "ProgressWindow.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QProgressBar>
@@ -34,6 +34,7 @@ ProgressWindow::ProgressWindow(std::shared_ptr<ProgressState> state, QWidget *pa
     : QDialog(parent)
     , m_state(std::move(state))
     , m_clock(clock ? std::move(clock) : systemClock())
+    , m_behind(parent ? parent->window() : QApplication::activeWindow())
     // Whoever waits must not be clicked away from meanwhile, and nothing may flash. A modal window that isn't
     // on the screen would catch the focus that comes back from a dialog, and lose it.
     , m_hold(std::make_unique<InputHold>())
@@ -53,6 +54,16 @@ ProgressWindow::ProgressWindow(std::shared_ptr<ProgressState> state, QWidget *pa
 ProgressWindow::~ProgressWindow()
 {
     m_state->isCancelled = true;
+    goBack();
+}
+
+/// Not every platform activates another window when the active one goes, and keys would reach nobody.
+void ProgressWindow::goBack()
+{
+    const bool isActive = isActiveWindow();
+    hide();
+    if (isActive && m_behind && m_behind->isVisible())
+        m_behind->activateWindow();
 }
 
 void ProgressWindow::build()

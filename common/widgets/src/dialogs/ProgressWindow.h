@@ -6,6 +6,7 @@
 #include <orv/widgets/ProgressOutputUtils.h>
 
 #include <QDialog>
+#include <QPointer>
 #include <QTimer>
 
 #include <memory>
@@ -34,10 +35,12 @@ public:
 private:
     void build();
     void appear();
+    void goBack();
     [[nodiscard]] QString detailText(qint64 elapsedMs) const;
 
     std::shared_ptr<ProgressState> m_state;
     ProgressOutput::Clock m_clock;
+    QPointer<QWidget> m_behind;        ///< the window that waits
     std::unique_ptr<InputHold> m_hold; ///< until this window is shown
     QTimer m_timer;
     QLabel *m_text = nullptr;
