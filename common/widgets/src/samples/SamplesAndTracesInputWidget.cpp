@@ -6,10 +6,10 @@
 #include "ColumnDialog.h"
 #include "SampleDrop.h"
 #include "SampleModes.h"
+#include "SampleNotes.h"
+#include "SampleSearch.h"
 
 #include <orv/core_ms/SampleFileChecker.h>
-#include <orv/core_ms/SampleFileFinder.h>
-#include <orv/resources/ResourceReferenceUtils.h>
 #include <orv/samples/SamplesAndTracesTables.h>
 #include <orv/widgets/DialogService.h>
 #include <orv/widgets/Icons.h>
@@ -19,24 +19,18 @@
 
 #include <QAction>
 #include <QCheckBox>
-#include <QFutureWatcher>
 #include <QIcon>
 #include <QMenu>
 #include <QPointer>
-#include <QPromise>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <thread>
-
 namespace orv {
 
 namespace {
-
-using Found = SampleFileFinder::Found;
 
 bool isEmptyColumn(const TableSheet &sheet, int column)
 {
@@ -46,19 +40,6 @@ bool isEmptyColumn(const TableSheet &sheet, int column)
             return false;
     }
     return true;
-}
-
-/// Nobody waits for the thread, as a folder on a network drive may never be read.
-QFuture<Found> findInBackground(const QStringList &paths)
-{
-    auto promise = std::make_shared<QPromise<Found>>();
-    QFuture<Found> future = promise->future();
-    promise->start();
-    std::thread([promise, paths] {
-        promise->addResult(SampleFileFinder::find(paths));
-        promise->finish();
-    }).detach();
-    return future;
 }
 
 } // namespace
@@ -79,10 +60,9 @@ public:
     QPointer<TableEditor> presets;
     QPointer<QCheckBox> onlySelected;
     QList<SamplesInput::Mode> modes;
-    QUrl baseUrl;
-    QFutureWatcher<Found> *search = nullptr;
-    QStringList waiting; ///< paths for the next search
-    int calls = 0;       ///< of functions that tell of changes themselves
+    std::unique_ptr<SampleNotes> notes;
+    SampleSearch *search = nullptr;
+    int calls = 0; ///< of functions that tell of changes themselves
     bool isTelling = false;
     bool haveSamplesChanged = false; ///< and listeners don't know yet
     bool isEdited = false;
@@ -99,7 +79,8 @@ SamplesAndTracesInputWidget::SamplesAndTracesInputWidget(SampleFileChecker *chec
     d->tables = new SamplesAndTracesTables(this);
     d->checker = checker;
     checker->setParent(this);
-    d->search = new QFutureWatcher<Found>(this);
+    d->notes = std::make_unique<SampleNotes>(*d->tables, *d->checker);
+    d->search = new SampleSearch(this);
     build();
     connect(d->tables, &SamplesAndTracesTables::sheetsChanged, this, [this] {
         buildSamples();
@@ -114,17 +95,8 @@ SamplesAndTracesInputWidget::SamplesAndTracesInputWidget(SampleFileChecker *chec
         if (d->samples)
             d->samples->view()->tableModel()->tellNotesChanged();
     });
-    connect(d->search, &QFutureWatcher<Found>::finished, this, [this] {
-        const Found found = d->search->result();
-        QStringList leftOut;
-        if (!found.leftOut.isEmpty())
-            leftOut.append(AddedSamples::wordsOnLeftOut(found.leftOut));
-        if (found.isCut)
-            leftOut.append(tr("There were too many files or folders to look into all."));
-        d->notice->setText(leftOut.join(u' '), NoticeBar::Kind::Warning);
-        (void)addSamples(found.samples);
-        searchNext();
-    });
+    connect(d->search, &SampleSearch::started, this, [this] { say(tr("Looking for samples...")); });
+    connect(d->search, &SampleSearch::found, this, &SamplesAndTracesInputWidget::addFound);
 }
 
 SamplesAndTracesInputWidget::~SamplesAndTracesInputWidget()
@@ -237,12 +209,12 @@ void SamplesAndTracesInputWidget::buildSamples()
 {
     TableEditor *const before = d->samples;
     d->samples = TablePage::editorOf(d->tables->samples(), tr("Samples"), QStringLiteral("Samples"),
-                                     [this](quint32 row, int column) { return noteOnSample(row, column); });
+                                     [this](quint32 row, int column) { return d->notes->note(row, column); });
     TableView *const view = d->samples->view();
     view->setEmptyText(tr("There are no samples yet.\nDrop files or folders here, add them with \"Add "
                           "Files\", or paste rows from a spreadsheet."));
     auto *const drop = new SampleDrop(view);
-    connect(drop, &SampleDrop::pathsCame, this, &SamplesAndTracesInputWidget::addPaths);
+    connect(drop, &SampleDrop::pathsCame, d->search, &SampleSearch::add);
     connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &SamplesAndTracesInputWidget::showTracesOfSelected);
     const QList<int> sizes = d->splitter->sizes();
@@ -373,6 +345,17 @@ int SamplesAndTracesInputWidget::addSamples(const QList<SamplePathAndName> &file
     return *added;
 }
 
+void SamplesAndTracesInputWidget::addFound(const SampleFileFinder::Found &found)
+{
+    QStringList leftOut;
+    if (!found.leftOut.isEmpty())
+        leftOut.append(AddedSamples::wordsOnLeftOut(found.leftOut));
+    if (found.isCut)
+        leftOut.append(tr("There were too many files or folders to look into all."));
+    d->notice->setText(leftOut.join(u' '), NoticeBar::Kind::Warning);
+    (void)addSamples(found.samples);
+}
+
 bool SamplesAndTracesInputWidget::validate(QStringList *warnings, QStringList *errors,
                                            QStringList *details) const
 {
@@ -388,7 +371,7 @@ void SamplesAndTracesInputWidget::setModes(const QList<SamplesInput::Mode> &mode
 
 void SamplesAndTracesInputWidget::setBaseUrl(const QUrl &baseUrl)
 {
-    d->baseUrl = baseUrl;
+    d->notes->setBaseUrl(baseUrl);
     if (d->samples)
         d->samples->view()->tableModel()->tellNotesChanged();
 }
@@ -432,64 +415,12 @@ void SamplesAndTracesInputWidget::showTracesOfSelected()
         d->traces->view()->setRowHidden(row, !isAll && !d->tables->isTraceOf(traces->sheetRow(row), ids));
 }
 
-QString SamplesAndTracesInputWidget::noteOnSample(quint32 row, int column) const
-{
-    const SamplesAndTracesTables::Sheet sheet = d->tables->samples();
-    const int place = sheet->rowOf(row);
-    const QList<SamplesInput::Entry> &entries = d->tables->entries();
-    if (place < 0 || place >= entries.size())
-        return {};
-    const SamplesInput::Entry &entry = entries[place];
-    if (column == 0)
-        return tr("id %1").arg(entry.id);
-    if (sheet->columns()[column].kind == TableColumnKind::File) {
-        const auto answer = d->checker->answer(ResourceReferenceUtils::resolved(entry.msFile, d->baseUrl));
-        return answer ? answer->text : QString();
-    }
-    if (column == sheet->columnOf(QStringLiteral("Traces")))
-        return noteOnMissing(entry.traces);
-    return column == sheet->columnOf(QStringLiteral("ExtraReferences")) ? noteOnMissing(entry.extraReferences)
-                                                                        : QString();
-}
-
-/// Which of several files aren't there; formats of companions are of no use.
-QString SamplesAndTracesInputWidget::noteOnMissing(const QList<ResourceReferenceSPtr> &files) const
-{
-    QStringList missing;
-    QString told;
-    for (const ResourceReferenceSPtr &file : files) {
-        const auto answer = d->checker->answer(ResourceReferenceUtils::resolved(file, d->baseUrl));
-        if (!answer || answer->state != SampleFileChecker::State::Missing)
-            continue;
-        missing.append(ResourceReferenceUtils::localName(file));
-        told = answer->text;
-    }
-    // The only file of a cell needs no name.
-    return missing.isEmpty() || files.size() == 1 ? told
-                                                  : tr("%1: %2").arg(told, missing.join(QLatin1String(", ")));
-}
-
-void SamplesAndTracesInputWidget::addPaths(const QStringList &paths)
-{
-    d->waiting += paths;
-    searchNext();
-}
-
-/// One search at a time: a drive that never answers keeps one thread.
-void SamplesAndTracesInputWidget::searchNext()
-{
-    if (d->waiting.isEmpty() || d->search->isRunning())
-        return;
-    say(tr("Looking for samples..."));
-    d->search->setFuture(findInBackground(std::exchange(d->waiting, {})));
-}
-
 void SamplesAndTracesInputWidget::chooseFiles()
 {
     const QPointer<SamplesAndTracesInputWidget> self = this;
     const QStringList paths = ORVFileDialog::getSampleFileNames(this, tr("Add Files"));
     if (self && !paths.isEmpty())
-        addPaths(paths);
+        d->search->add(paths);
 }
 
 void SamplesAndTracesInputWidget::chooseFolder()
@@ -497,7 +428,7 @@ void SamplesAndTracesInputWidget::chooseFolder()
     const QPointer<SamplesAndTracesInputWidget> self = this;
     const QString path = ORVFileDialog::getExistingDirectory(this, tr("Add Folder"));
     if (self && !path.isEmpty())
-        addPaths({path});
+        d->search->add({path});
 }
 
 void SamplesAndTracesInputWidget::askForColumn()

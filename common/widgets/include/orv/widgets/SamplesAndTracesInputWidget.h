@@ -1,5 +1,6 @@
 #pragma once
 
+#include <orv/core_ms/SampleFileFinder.h>
 #include <orv/samples/SamplePathAndName.h>
 #include <orv/samples/SamplesInput.h>
 #include <orv/widgets/Export.h>
@@ -73,8 +74,7 @@ private:
     void addCommands();
     void orderFocus();
     int addSamples(const QList<SamplePathAndName> &files);
-    void addPaths(const QStringList &paths);
-    void searchNext();
+    void addFound(const SampleFileFinder::Found &found);
     void chooseFiles();
     void chooseFolder();
     void askForColumn();
@@ -86,8 +86,6 @@ private:
     void tellSoon();
     void tell();
     void say(const QString &text);
-    [[nodiscard]] QString noteOnSample(quint32 row, int column) const;
-    [[nodiscard]] QString noteOnMissing(const QList<ResourceReferenceSPtr> &files) const;
 
     class Private;
     const std::unique_ptr<Private> d;
