@@ -1195,6 +1195,17 @@ Möchten Sie sie ersetzen?</translation>
     </message>
 </context>
 <context>
+    <name>SampleNotes</name>
+    <message>
+        <source>id %1</source>
+        <translation>ID %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>SamplesCheck</name>
     <message>
         <source>%1 and %2 more</source>
@@ -5028,10 +5039,6 @@ Ziehen Sie Dateien oder Ordner hierher, fügen Sie sie mit „Dateien hinzufüge
         <translation>Die Proben können nicht gezeigt werden und bleiben, wie sie sind: %1 %2</translation>
     </message>
     <message>
-        <source>id %1</source>
-        <translation>ID %1</translation>
-    </message>
-    <message>
         <source>Looking for samples...</source>
         <translation>Proben werden gesucht...</translation>
     </message>
@@ -5066,10 +5073,6 @@ Ziehen Sie Dateien oder Ordner hierher, fügen Sie sie mit „Dateien hinzufüge
     <message>
         <source>All samples with a file have names already.</source>
         <translation>Alle Proben mit einer Datei haben schon Namen.</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
