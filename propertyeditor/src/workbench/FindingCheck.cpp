@@ -1,6 +1,5 @@
 #include "FindingCheck.h"
 
-#include <orv/propertyeditor/editors/SlowQuestion.h>
 #include <orv/propertyeditor/validators/AbstractValidator.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
@@ -8,7 +7,6 @@
 #include <QFileInfo>
 #include <QUrl>
 
-#include <exception>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -27,32 +25,22 @@ QUrl folderOf(const QString &file)
     return file.isEmpty() ? QUrl() : QUrl::fromLocalFile(QFileInfo(file).absolutePath() + u'/');
 }
 
-QList<LocatedFinding> notChecked(const QString &reason, const QString &hint)
+QList<LocatedFinding> notChecked(const Error &error)
 {
     LocatedFinding finding;
     finding.rule = QStringLiteral("Document");
-    finding.message = FindingCheck::tr("The workflow can't be checked: %1").arg(reason);
-    finding.hint = hint;
+    finding.message = FindingCheck::tr("The workflow can't be checked: %1").arg(error.errorMessage());
+    finding.hint = error.details().join(u' ');
     return {finding};
 }
 
-QList<LocatedFinding> notChecked(const Error &error)
+/// On any thread.
+Result<QList<LocatedFinding>> findingsIn(const PropertyEditorContent &content, const QUrl &folder)
 {
-    return notChecked(error.errorMessage(), error.details().join(u' '));
-}
-
-/// On any thread, which an exception would end together with the program.
-QList<LocatedFinding> findingsIn(const PropertyEditorContent &content, const QUrl &folder)
-{
-    try {
-        WorkflowCheck check;
-        check.setRepeatsInLog(false);
-        const Result<WorkflowCheckReport> report = check.run({content.toJsonObject(), {}}, folder);
-        return report.hasError() ? notChecked(report.error()) : report->findings;
-    } catch (const std::exception &exception) {
-        return notChecked(QString::fromLocal8Bit(exception.what()),
-                          FindingCheck::tr("Close what isn't needed and try again."));
-    }
+    WorkflowCheck check;
+    check.setRepeatsInLog(false);
+    const Result<WorkflowCheckReport> report = check.run({content.toJsonObject(), {}}, folder);
+    return report.hasError() ? Result<QList<LocatedFinding>>(report.error()) : report->findings;
 }
 
 } // namespace
@@ -70,26 +58,20 @@ void FindingCheck::start()
     if (m_isRunning || !m_window)
         return;
     m_isRunning = true;
-    const int number = ++m_number;
     const FindingTargets targets(*m_window->workflowTabs());
     const PropertyEditorContent content = m_window->content();
     const QUrl folder = folderOf(m_window->workflowFilePath());
-    const auto found = std::make_shared<QList<LocatedFinding>>();
-    const auto tell = [this, number, targets, found](bool) { finish(number, targets, *found); };
-    const auto atOnce = SlowQuestion::ask(
-        [content, folder, found] {
-            *found = findingsIn(content, folder);
-            return true;
-        },
-        this, tell, std::chrono::milliseconds(0));
-    if (atOnce)
-        QMetaObject::invokeMethod(
-            this, [tell] { tell(true); }, Qt::QueuedConnection);
+    m_work.run<Findings>(
+        [content, folder](const BackgroundWork::IsCancelled &) { return findingsIn(content, folder); },
+        [this, targets](const Result<Findings> &found) {
+            finish(targets, found.hasError() ? notChecked(found.error()) : *found);
+        });
 }
 
 void FindingCheck::forget()
 {
-    ++m_number;
+    ++m_forgotten;
+    m_work.cancel();
     m_isRunning = false;
     m_isWantedAgain = false;
 }
@@ -112,19 +94,17 @@ QList<LocatedFinding> FindingCheck::findingsOfApplication() const
     return findings.valueOr({});
 }
 
-void FindingCheck::finish(int number, const FindingTargets &targets, const Findings &findings)
+void FindingCheck::finish(const FindingTargets &targets, const Findings &findings)
 {
-    if (number != m_number)
-        return;
+    const int forgotten = m_forgotten;
+    // The application may close the window or show another document.
     const QPointer<FindingCheck> self(this);
-    // The application may close the window, and what was given goes with it.
-    const FindingTargets known = targets;
     Findings all = findings;
     all += findingsOfApplication();
-    if (!self || number != m_number)
+    if (!self || forgotten != m_forgotten)
         return;
     m_isRunning = false;
-    Q_EMIT finished(all, known.of(all));
+    Q_EMIT finished(all, targets.of(all));
     if (self && std::exchange(m_isWantedAgain, false))
         start();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FindingTargets.h"
+#include "orv/propertyeditor/workbench/BackgroundWork.h"
 
 #include <QObject>
 #include <QPointer>
@@ -9,8 +10,8 @@ namespace orv {
 
 class PropertyEditorWindow;
 
-/// Checks the document of a window in the background. Neither the window nor the end of the program waits for
-/// a check, which may hang on a share whose server is gone. The application's own validators run on this
+/// Checks the document of a window in the background. The window never waits for a check, which may hang on a
+/// share whose server is gone. The application's own validators run on this
 /// thread, once the others are done.
 class FindingCheck : public QObject
 {
@@ -35,10 +36,11 @@ private:
     using Findings = QList<PropertyEditor::LocatedFinding>;
 
     [[nodiscard]] Findings findingsOfApplication() const;
-    void finish(int number, const FindingTargets &targets, const Findings &findings);
+    void finish(const FindingTargets &targets, const Findings &findings);
 
     const QPointer<PropertyEditorWindow> m_window;
-    int m_number = 0; ///< of the check that counts
+    BackgroundWork m_work;
+    int m_forgotten = 0; ///< how often
     bool m_isRunning = false;
     bool m_isWantedAgain = false;
 };
