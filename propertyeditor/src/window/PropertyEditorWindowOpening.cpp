@@ -273,6 +273,7 @@ bool PropertyEditorWindow::saveUpgraded(const PropertyEditorContent &content, co
 OpenStatus PropertyEditorWindow::display(const PropertyEditorContent &content, const QStringList &lost)
 {
     const QPointer<PropertyEditorWindow> self(this);
+    d->m_isSnapshotTaken = false;
     const Error error = setContent(content);
     if (!self)
         return OpenStatus::NotOpened;
@@ -284,8 +285,9 @@ OpenStatus PropertyEditorWindow::display(const PropertyEditorContent &content, c
         return OpenStatus::NotOpened;
     }
     d->m_lost = lost + d->m_lost;
-    // What was read from the tabs a moment ago.
-    (void)d->verifyWorkflowReferences(PropertyEditorContent(d->getLastSavedWorkflow()));
+    // What was read from the tabs a moment ago is as good, but for windows with a setContent() of their own.
+    (void)d->verifyWorkflowReferences(d->m_isSnapshotTaken ? PropertyEditorContent(d->getLastSavedWorkflow())
+                                                           : this->content());
     return OpenStatus::Opened;
 }
 

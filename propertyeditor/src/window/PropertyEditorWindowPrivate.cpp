@@ -266,6 +266,7 @@ void PropertyEditorWindowPrivate::setWorkflowMetadata(const QJsonObject &metadat
 void PropertyEditorWindowPrivate::updateLastSavedWorkflow()
 {
     m_lastSavedWorkflow = q->content().toJsonObject();
+    m_isSnapshotTaken = true;
 }
 
 void PropertyEditorWindowPrivate::countAsUnsaved(const QStringList &lost)

@@ -153,8 +153,9 @@ private:
     QJsonObject m_workflowMetadata;
     QJsonObject m_lastSavedWorkflow;
     ExtendedMetadataInfo m_extendedMetadataInfo;
-    QStringList m_lostInReading; ///< of the document that is about to be opened
-    QStringList m_lost;          ///< what the document on the screen lacks of the one that was loaded
+    QStringList m_lostInReading;    ///< of the document that is about to be opened
+    QStringList m_lost;             ///< what the document on the screen lacks of the one that was loaded
+    bool m_isSnapshotTaken = false; ///< of the document that is being opened
     bool m_projectCreationStarted = false;
     bool m_isReloading = false; ///< the same document, behind its saving
     bool m_isReadOnly = false;
