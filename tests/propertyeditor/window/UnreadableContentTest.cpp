@@ -40,6 +40,7 @@ struct Unreadable
 {
     Unreadable()
     {
+        registerCreators(); // of the other windows, which don't have this one's
         manager.registerCreators();
         manager.registerCreator(BaseItemType::MultiDocReport, new ForeignCreator);
         GridItemManager::setCustomManager(&manager);
