@@ -63,6 +63,9 @@ private Q_SLOTS:
     void offersEveryTypeInOrder();
     void iconsHaveSizesAndModes();
     void unknownIconsAreTheDefault();
+    void listShowsIconsAtRestAndUnderThePointer();
+    void unknownIconsAreShownAsWhatCanBeChosen();
+    void usersCannotChangeTheType();
 };
 
 void WorkflowPropertiesDialogTest::showsTheMetadata()
@@ -193,6 +196,53 @@ void WorkflowPropertiesDialogTest::unknownIconsAreTheDefault()
 {
     QCOMPARE(WorkflowIcons::defaultIconName(), u"default"_s);
     QCOMPARE(colorOf(WorkflowIcons::icon(u"nothing"_s), 48, QIcon::Normal), QColor(90, 90, 90));
+}
+
+void WorkflowPropertiesDialogTest::listShowsIconsAtRestAndUnderThePointer()
+{
+    const WorkflowPropertiesDialog dialog(peptideMetadata());
+    const auto *icons = part<QComboBox>(dialog, u"comboIcons"_s);
+    QCOMPARE(icons->count(), 3);
+    const QIcon peptide = icons->itemIcon(icons->findText(u"peptide"_s));
+    const int side = icons->iconSize().width();
+    QVERIFY(side > 0);
+    QVERIFY(peptide.availableSizes(QIcon::Normal).contains(icons->iconSize()));
+    QVERIFY(peptide.availableSizes(QIcon::Selected).contains(icons->iconSize()));
+    QCOMPARE(colorOf(peptide, side, QIcon::Normal), QColor(0, 0, 200));
+    QCOMPARE(colorOf(peptide, side, QIcon::Selected), QColor(0, 200, 0));
+}
+
+void WorkflowPropertiesDialogTest::unknownIconsAreShownAsWhatCanBeChosen()
+{
+    QJsonObject metadata = peptideMetadata();
+    metadata[u"icon"_s] = u"of another application"_s;
+    WorkflowPropertiesDialog dialog(metadata);
+    auto *icons = part<QComboBox>(dialog, u"comboIcons"_s);
+    QCOMPARE(icons->currentText(), u"default"_s);
+    QCOMPARE(icons->findText(u"of another application"_s), -1);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    icons->setFocus();
+    QTest::keyClick(icons, Qt::Key_End);
+    acceptProperties(dialog);
+    QCOMPARE(dialog.metaData()[u"icon"_s].toString(), u"plain"_s);
+}
+
+void WorkflowPropertiesDialogTest::usersCannotChangeTheType()
+{
+    WorkflowPropertiesDialog dialog(peptideMetadata());
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto *name = part<QLineEdit>(dialog, u"lineName"_s);
+    name->setFocus();
+    const QWidget *types = part<QComboBox>(dialog, u"comboTypes"_s);
+    for (int i = 0; i < 12; ++i) {
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+        QVERIFY(dialog.focusWidget() != types);
+    }
+    QVERIFY(!types->isVisible());
+    acceptProperties(dialog);
+    QCOMPARE(dialog.metaData()[u"workflowType"_s].toString(), u"PeptideMap"_s);
 }
 
 WIDGET_REGISTER_TEST(WorkflowPropertiesDialogTest)
