@@ -41,6 +41,8 @@ private Q_SLOTS:
     void brokenCellsEmptyTheWindow();
     void documentTypesAreTold_data();
     void documentTypesAreTold();
+    void everyWorkflowTypeHasItsDocumentType();
+    void namesOfColumnsAreToldByPeptideMapsAlone();
     void serverFormsAreShownInDesktopForm();
     void brokenExtendedMetadataAreReplaced();
     void allGroupsAreFolded();
@@ -173,8 +175,9 @@ void OpeningTest::refusedUpgradesLeaveAnEmptyWindow()
     QCOMPARE(window.openWorkflow(path), OpenStatus::NotOpened);
     QCOMPARE(window.tabs().count(), 0);
     QCOMPARE(window.windowTitle(), QDir::toNativeSeparators(path) + u" - Project Creation"_s);
-    QVERIFY(!log.texts(QtInfoMsg).contains(u"Workflow was upgraded"_s) ||
-            log.texts(QtInfoMsg).count(u"Workflow was upgraded"_s) == 1);
+    // That line is the first document's.
+    QCOMPARE(log.texts(QtInfoMsg).count(u"Workflow was upgraded"_s), 1);
+    QVERIFY(window.content().tabsAndContent().isEmpty());
 }
 
 void OpeningTest::upgradesAreSavedElsewhere()
@@ -255,6 +258,42 @@ void OpeningTest::documentTypesAreTold()
     QCOMPARE(window.openWorkflow(documentOf({karvonCell()}, data)), OpenStatus::Opened);
     QCOMPARE(int(ColumnFriendlyName::documentType()), documentType);
     QTEST(HostServices::instance()->hasOwnDisplayNames(), "hasOwnNames");
+}
+
+void OpeningTest::everyWorkflowTypeHasItsDocumentType()
+{
+    QMap<int, int> expected{{0, 0}, {2, 2}, {32, 2}, {27, 10}};
+    for (const int type : {5, 6, 7, 16, 17, 18, 23, 24, 25, 26, 28, 29, 30, 34})
+        expected.insert(type, 3);
+    for (const int type : {3, 4, 8, 10, 20, 21, 22})
+        expected.insert(type, 4);
+    for (const int type : {1, 9, 11, 12, 13, 14, 15, 19, 31})
+        expected.insert(type, 9);
+    QMap<int, int> found;
+    Window window;
+    for (const WorkflowType type : availableWorkflowTypes()) {
+        QJsonObject data = metadata();
+        data[u"workflowType"_s] = workflowTypeToString(type);
+        QCOMPARE(window.openWorkflow(documentOf({karvonCell()}, data)), OpenStatus::Opened);
+        found.insert(int(type), int(ColumnFriendlyName::documentType()));
+    }
+    QCOMPARE(found, expected);
+}
+
+void OpeningTest::namesOfColumnsAreToldByPeptideMapsAlone()
+{
+    Window window;
+    const auto open = [&window](const QString &type) {
+        QJsonObject data = metadata();
+        data[u"workflowType"_s] = type;
+        return window.openWorkflow(documentOf({karvonCell()}, data));
+    };
+    QCOMPARE(open(u"DigestedOligo"_s), OpenStatus::Opened);
+    QVERIFY(HostServices::instance()->hasOwnDisplayNames());
+    QCOMPARE(open(u"IntactMass"_s), OpenStatus::Opened);
+    QVERIFY(HostServices::instance()->hasOwnDisplayNames());
+    QCOMPARE(open(u"PeptideMap"_s), OpenStatus::Opened);
+    QVERIFY(!HostServices::instance()->hasOwnDisplayNames());
 }
 
 void OpeningTest::serverFormsAreShownInDesktopForm()

@@ -9,6 +9,7 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLineEdit>
+#include <QMetaMethod>
 #include <QSignalSpy>
 #include <QWidgetAction>
 
@@ -51,6 +52,19 @@ QStringList toolBarOrder(Window &window)
     return order;
 }
 
+/// Methods of the class itself whose names are among \a names, in the order of the class.
+QStringList methodsOf(QMetaMethod::MethodType type, const QSet<QByteArray> &names)
+{
+    const QMetaObject &meta = PropertyEditorWindow::staticMetaObject;
+    QStringList signatures;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        const QMetaMethod method = meta.method(i);
+        if (method.methodType() == type && names.contains(method.name()))
+            signatures.append(QString::fromLatin1(method.methodSignature()).remove(u"orv::"_s));
+    }
+    return signatures;
+}
+
 } // namespace
 
 class WindowFormTest : public WidgetTest
@@ -72,6 +86,12 @@ private Q_SLOTS:
     void captionsFollowTheCurrentWindow();
     void propertiesAreEdited();
     void tabsOfTheToolBarAreReachedByKeyboard();
+    void signalsAndSlotsHaveTheirOrder();
+    void toolsDoWhatTheySay_data();
+    void toolsDoWhatTheySay();
+    void buttonsBelowTheTabsHandOver();
+    void modesHaveIcons();
+    void designersSeeAllProperties();
 };
 
 void WindowFormTest::partsHaveTheirNamesAndPlaces()
@@ -152,6 +172,8 @@ void WindowFormTest::usersSeeNoDesignerTools()
         QVERIFY(!actions.at(i)->isVisible());
     for (int i = 0; i <= 4; ++i)
         QVERIFY(actions.at(i)->isVisible());
+    // One button stands for both actions, so that it goes with the one of the designers.
+    QVERIFY(!window.toolButton("Update workflows from dir...")->isVisible());
 }
 
 void WindowFormTest::designersSeeTheirTools()
@@ -304,6 +326,119 @@ void WindowFormTest::tabsOfTheToolBarAreReachedByKeyboard()
     QVERIFY(window.toolButton("Save As Portable Workflow...")->hasFocus());
     QTest::keyClick(&window, Qt::Key_Tab);
     QVERIFY(window.toolButton("Workflow Properties...")->hasFocus());
+}
+
+void WindowFormTest::signalsAndSlotsHaveTheirOrder()
+{
+    QCOMPARE(methodsOf(QMetaMethod::Signal, {"openProject", "sendToProcessing", "projectCreationFinished"}),
+             (QStringList{u"openProject(QString)"_s,
+                          u"sendToProcessing(PropertyEditor::Content,Path,DuplicateFilePolicy)"_s,
+                          u"sendToProcessing(PropertyEditor::Content,Path)"_s,
+                          u"projectCreationFinished(Error,QStringList,qlonglong)"_s}));
+    const QStringList slotsInOrder{u"addTab()"_s,
+                                   u"removeCurrentTab()"_s,
+                                   u"appendRow()"_s,
+                                   u"appendColumn()"_s,
+                                   u"openTabPreset()"_s,
+                                   u"saveTabPreset()"_s,
+                                   u"selectAndOpenWorkflow()"_s,
+                                   u"openWorkflow(QString,ResourceReferenceSPtr)"_s,
+                                   u"openWorkflow(QString)"_s,
+                                   u"openWorkflow(PropertyEditor::Content)"_s,
+                                   u"openWorkflow(QJsonObject)"_s,
+                                   u"createEmptyWorkflow()"_s,
+                                   u"saveWorkflowAs()"_s,
+                                   u"openWorkflowProperties()"_s,
+                                   u"clear()"_s,
+                                   u"content()"_s,
+                                   u"setContent(PropertyEditorContent)"_s,
+                                   u"currentTabContent()"_s,
+                                   u"setCurrentTabContent(PropertyEditorContent)"_s,
+                                   u"enableWorkflowFileOperations(bool)"_s,
+                                   u"createProjectClicked()"_s,
+                                   u"processWorkflowClicked()"_s,
+                                   u"updateSystemWorkflowsButton()"_s};
+    QSet<QByteArray> names;
+    for (const QString &signature : slotsInOrder)
+        names.insert(signature.section(u'(', 0, 0).toLatin1());
+    QCOMPARE(methodsOf(QMetaMethod::Slot, names), slotsInOrder);
+}
+
+void WindowFormTest::toolsDoWhatTheySay_data()
+{
+    QTest::addColumn<QByteArray>("tool");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("launch") << QByteArray("Launch Workflow...") << u"Launch Workflow"_s;
+    QTest::newRow("save") << QByteArray("Save Workflow...") << u"Save Workflow"_s;
+    QTest::newRow("update") << QByteArray("Update workflows from dir...") << u"Select workflows directory"_s;
+    QTest::newRow("preset to open") << QByteArray("Open Tab Preset...") << u"Open Tab"_s;
+    QTest::newRow("preset to save") << QByteArray("Save Tab Preset...") << u"Save tab to file"_s;
+}
+
+void WindowFormTest::toolsDoWhatTheySay()
+{
+    QFETCH(const QByteArray, tool);
+    QFETCH(const QString, title);
+    const as::ScopedOverride designer(as::kEnableDesignerMode, true);
+    Window window;
+    window.resize(2000, 700);
+    window.show();
+    QCOMPARE(window.openWorkflow(documentOf({karvonCell()})), kOpened);
+    QTest::keyClick(comboWith(window, "Designer mode"), Qt::Key_Up);
+    QTRY_VERIFY(window.toolButton(tool.constData())->isVisible());
+    ScriptedAnswerer answers;
+    answers.expectPath(title, {});
+    window.click(tool.constData());
+    QVERIFY2(answers.isDone(), qPrintable(transcriptOf(answers).join(u'\n')));
+}
+
+void WindowFormTest::buttonsBelowTheTabsHandOver()
+{
+    const LogCapture log;
+    const as::ScopedOverride nodes(u"MIREL/ProcessingNodesEnabled"_s, true);
+    Window window;
+    window.show();
+    QCOMPARE(window.openWorkflow(documentOf({previewCell()})), kOpened);
+    for (const char *name : {"pushCreateProject", "pushButton_process"}) {
+        ScriptedAnswerer answers;
+        answers.expectBox(u"Project creation"_s, u"OK"_s);
+        QTest::mouseClick(&window.button(name), Qt::LeftButton);
+        QVERIFY2(answers.isDone(), name);
+        QVERIFY(answers.transcript().first().text.startsWith(u"The workflow is not valid."_s));
+    }
+}
+
+void WindowFormTest::modesHaveIcons()
+{
+    Window window;
+    for (const char *entry : {"Basic Options", "Designer mode"}) {
+        const QComboBox *modes = comboWith(window, entry);
+        QVERIFY(!modes->itemIcon(0).isNull() && !modes->itemIcon(1).isNull());
+    }
+}
+
+void WindowFormTest::designersSeeAllProperties()
+{
+    const as::ScopedOverride designer(as::kEnableDesignerMode, true);
+    Window window;
+    window.resize(2000, 700);
+    window.show();
+    QCOMPARE(window.openWorkflow(documentOf({karvonCell()})), kOpened);
+    for (const bool isDesigner : {false, true}) {
+        if (isDesigner)
+            QTest::keyClick(comboWith(window, "Designer mode"), Qt::Key_Up);
+        const LogCapture log;
+        ScriptedAnswerer answers;
+        answers.expectDialog(u"Workflow Properties"_s, [isDesigner](QDialog &dialog) {
+            const auto *types = dialog.findChild<QComboBox *>(u"comboTypes"_s);
+            return types->isVisibleTo(&dialog) == isDesigner;
+        });
+        const QSignalSpy edited(&window, &PropertyEditorWindow::metadataEdited);
+        window.click("Workflow Properties...");
+        QVERIFY(answers.isDone());
+        QCOMPARE(edited.size(), 1);
+        QVERIFY(log.texts(QtDebugMsg).contains(u"Designer mode: "_s + (isDesigner ? u"true"_s : u"false"_s)));
+    }
 }
 
 WIDGET_REGISTER_TEST(WindowFormTest)

@@ -1,6 +1,7 @@
 #include "WidgetTest.h"
 #include "WindowFixture.h"
 
+#include <orv/propertyeditor/content/BaseItem.h>
 #include <orv/propertyeditor/window/PropertyEditorWindowJsonFile.h>
 #include <orv/widgets/SamplesAndTracesInputWidget.h>
 
@@ -69,6 +70,9 @@ private Q_SLOTS:
     void windowsMayGoInEveryBox_data();
     void windowsMayGoInEveryBox();
     void removedTabsKeepQuiet();
+    void typesOfColumnsAreOffered();
+    void removingNoTabDoesNothing();
+    void presetsKeepThePlaceOfTheTab();
 };
 
 void WindowTabsTest::tabsAreAddedByName()
@@ -344,6 +348,61 @@ void WindowTabsTest::removedTabsKeepQuiet()
     Q_EMIT earlier->samplesChanged({});
     QCoreApplication::processEvents();
     QVERIFY(told.isEmpty() && removed.isEmpty());
+}
+
+void WindowTabsTest::typesOfColumnsAreOffered()
+{
+    Designed designed;
+    QStringList offered;
+    designed.answers.expectDialog(u"Add column"_s, [&offered](QDialog &dialog) {
+        const auto *types = dialog.findChild<QComboBox *>();
+        for (int i = 0; i < types->count(); ++i)
+            offered.append(types->itemText(i));
+        return false;
+    });
+    designed.window.appendColumn();
+    QCOMPARE(offered, PropertyEditor::BaseItem::typeNames());
+    QVERIFY(offered.contains(u"Karvon"_s) && offered.contains(u"CaldrinDIA"_s));
+    QCOMPARE(designed.window.grid(1)->columnNames(), QStringList{u"First"_s});
+}
+
+void WindowTabsTest::removingNoTabDoesNothing()
+{
+    Designed designed;
+    const LogCapture log;
+    for (const int index : {-1, 2, 100})
+        designed.window.removeTab(index);
+    QCOMPARE(titles(designed.window), (QStringList{u"Search"_s, u"Views"_s}));
+    QVERIFY(!log.texts(QtDebugMsg).contains(u"Updating dependent widgets"_s));
+    const QPointer<PropertyGridWidget> removed = designed.window.grid(0);
+    designed.window.removeTab(0);
+    QCOMPARE(titles(designed.window), QStringList{u"Views"_s});
+    QCOMPARE(log.texts(QtDebugMsg).count(u"Updating dependent widgets"_s), 1);
+    QVERIFY(removed);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!removed);
+}
+
+void WindowTabsTest::presetsKeepThePlaceOfTheTab()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.ptab"_s);
+    QVERIFY(
+        PropertyEditorWindowJsonFile(path).saveTabToJson(PropertyEditorContent(documentOf({previewCell()}))));
+    Designed designed;
+    designed.window.tabs().setCurrentIndex(1);
+    const LogCapture log;
+    designed.answers.expectPath(u"Open Tab"_s, path);
+    for (QToolButton *button : designed.window.grid(1)->findChildren<QToolButton *>()) {
+        if (button->text() == u"Open Tab Preset..."_s)
+            QTest::mouseClick(button, Qt::LeftButton);
+    }
+    QVERIFY(designed.answers.isDone());
+    QCOMPARE(titles(designed.window), (QStringList{u"Search"_s, u"Analysis"_s}));
+    QCOMPARE(designed.window.tabs().currentIndex(), 1);
+    auto *view = qobject_cast<GridPropertyEditorView *>(designed.window.grid(1)->items().first()->widget());
+    QVERIFY(!view->isExpanded());
+    QVERIFY(log.texts(QtDebugMsg).contains(u"Updating dependent widgets"_s));
 }
 
 WIDGET_REGISTER_TEST(WindowTabsTest)
