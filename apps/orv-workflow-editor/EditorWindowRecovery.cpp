@@ -3,6 +3,7 @@
 #include <orv/propertyeditor/workbench/DocumentHistory.h>
 #include <orv/propertyeditor/workbench/FindSettings.h>
 #include <orv/propertyeditor/workbench/JournalKeeper.h>
+#include <orv/propertyeditor/workbench/RecoveredPlace.h>
 #include <orv/propertyeditor/workbench/RecoveryJournal.h>
 #include <orv/propertyeditor/workbench/RecoveryPanel.h>
 #include <orv/propertyeditor/workbench/RecoveryStore.h>
@@ -116,7 +117,8 @@ bool EditorWindow::showRecovered(RecoveryStore::Taken &taken, const RecoveryEntr
     if (path == entry.file && QFileInfo(path).isAbsolute())
         m_workbench->find()->compareWithFile(path);
     tell(tr("The workflow was recovered. Save it to keep it."));
-    return true;
+    showRecoveredPlace(this, entry.lastEdit);
+    return self;
 }
 
 } // namespace orv

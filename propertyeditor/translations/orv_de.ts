@@ -57,6 +57,13 @@
     </message>
 </context>
 <context>
+    <name>ChangeText</name>
+    <message>
+        <source>row %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+</context>
+<context>
     <name>ControlHelp</name>
     <message>
         <source>This cell: %1</source>
@@ -2319,6 +2326,18 @@ Möchten Sie sie ersetzen?</translation>
         <source>This workflow</source>
         <translation>Dieser Workflow</translation>
     </message>
+    <message>
+        <source>What differs, and where. Space checks what is to be taken over, Enter goes there.</source>
+        <translation>Was sich unterscheidet, und wo. Die Leertaste hakt an, was übernommen werden soll, die Eingabetaste führt dorthin.</translation>
+    </message>
+    <message>
+        <source>What this workflow has</source>
+        <translation>Was dieser Workflow hat</translation>
+    </message>
+    <message>
+        <source>What %1 has, and what this workflow gets from it when it is taken over</source>
+        <translation>Was %1 hat, und was dieser Workflow daraus bekommt, wenn es übernommen wird</translation>
+    </message>
 </context>
 <context>
     <name>orv::ComparisonPanel</name>
@@ -3086,6 +3105,10 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
         <source>The check found nothing.</source>
         <translation>Die Prüfung fand nichts.</translation>
     </message>
+    <message>
+        <source>The last check found nothing.</source>
+        <translation>Die letzte Prüfung hat nichts gefunden.</translation>
+    </message>
 </context>
 <context>
     <name>orv::FindingsModel</name>
@@ -3117,6 +3140,11 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
         <source>Warning</source>
         <translation>Warnung</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a severity and a finding</comment>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>orv::FindingsPanel</name>
@@ -3127,6 +3155,10 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>What keeps an analysis from running as it should, where it is, and what to do. Enter goes there.</source>
+        <translation>Was eine Analyse stört, wo es steht und was zu tun ist. Die Eingabetaste führt dorthin.</translation>
     </message>
 </context>
 <context>
@@ -4778,6 +4810,26 @@ Open it from its file: %2</source>
         <source>Discard</source>
         <translation>Verwerfen</translation>
     </message>
+    <message>
+        <source>These workflows were open when the program ended. They have no unsaved changes.</source>
+        <translation>Diese Workflows waren offen, als das Programm endete. Sie haben keine ungespeicherten Änderungen.</translation>
+    </message>
+    <message>
+        <source>These workflows were not saved, or were open, when the program ended. Their files are as they were.</source>
+        <translation>Diese Workflows waren nicht gespeichert oder noch offen, als das Programm endete. Ihre Dateien sind, wie sie waren.</translation>
+    </message>
+    <message>
+        <source>Workflows that can be opened as they were. Enter recovers those that are chosen.</source>
+        <translation>Workflows, die geöffnet werden können, wie sie waren. Die Eingabetaste stellt die gewählten wieder her.</translation>
+    </message>
+    <message>
+        <source>In what the unsaved workflow differs from its file</source>
+        <translation>Worin sich der ungespeicherte Workflow von seiner Datei unterscheidet</translation>
+    </message>
+    <message>
+        <source>No unsaved changes</source>
+        <translation>Keine ungespeicherten Änderungen</translation>
+    </message>
 </context>
 <context>
     <name>orv::ResourceReferenceEditorBase</name>
@@ -5884,6 +5936,10 @@ Fügen Sie Zellen einer Tabellenkalkulation ein (Strg+V), ziehen oder importiere
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>What each step of the upgrade changed: the place, and the value before and after</source>
+        <translation>Was jeder Schritt der Aktualisierung geändert hat: die Stelle und den Wert vorher und nachher</translation>
     </message>
 </context>
 <context>

@@ -233,7 +233,7 @@ void TableModel::tellNotesChanged()
                            {NoteRole, Qt::ToolTipRole, Qt::AccessibleDescriptionRole});
 }
 
-void TableModel::setRowRemarks(const QHash<quint32, QString> &remarks)
+void TableModel::setRowRemarks(const QHash<quint32, TableRowRemark> &remarks)
 {
     if (remarks == d->remarks)
         return;
@@ -244,7 +244,7 @@ void TableModel::setRowRemarks(const QHash<quint32, QString> &remarks)
     tellNotesChanged();
 }
 
-const QHash<quint32, QString> &TableModel::rowRemarks() const
+const QHash<quint32, TableRowRemark> &TableModel::rowRemarks() const
 {
     return d->remarks;
 }

@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QWhatsThis>
 
 #include <algorithm>
@@ -79,6 +80,37 @@ QString cellExplanation(const QModelIndex &cell)
            paragraph(problem.isEmpty() ? QString() : ControlHelpTr::tr("This cell: %1").arg(problem));
 }
 
+/// On the screen: the row of a view, else the control.
+QRect explained(const QWidget &control)
+{
+    const QAbstractItemView *const view = viewOf(&control);
+    const QWidget *const area = view ? view->viewport() : &control;
+    QRect place = area->rect();
+    if (view && view->currentIndex().isValid()) {
+        const QRect cell = view->visualRect(view->currentIndex());
+        place.setTop(cell.top());
+        place.setBottom(cell.bottom());
+    }
+    return {area->mapToGlobal(place.topLeft()), place.size()};
+}
+
+/// Qt pushes an explanation that has no room below over what it explains.
+void uncover(const QRect &place, const QRect &screen)
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto help = std::find_if(windows.cbegin(), windows.cend(), [](const QWidget *window) {
+        return window->isVisible() && window->inherits("QWhatsThat");
+    });
+    if (help == windows.cend() || !(*help)->geometry().intersects(place))
+        return;
+    const int above = place.top() - (*help)->height() - 1;
+    const int beside = place.right() + 1;
+    if (above >= screen.top())
+        (*help)->move((*help)->x(), above);
+    else if (beside + (*help)->width() <= screen.right())
+        (*help)->move(beside, (*help)->y());
+}
+
 /// Hears the key before the control that has the focus.
 class HelpKey : public QObject
 {
@@ -96,11 +128,9 @@ public:
         const QString text = explanation(control);
         if (text.isEmpty())
             return false;
-        const QAbstractItemView *const view = viewOf(control);
-        const QRect place =
-            view && view->currentIndex().isValid() ? view->visualRect(view->currentIndex()) : control->rect();
-        const QWidget *const area = view ? view->viewport() : control;
-        QWhatsThis::showText(area->mapToGlobal(place.bottomLeft()), text, control);
+        const QRect place = explained(*control);
+        QWhatsThis::showText(place.bottomLeft(), text, control);
+        uncover(place, control->screen()->availableGeometry());
         return true;
     }
 };

@@ -1,8 +1,8 @@
 #include "orv/widgets/MeaningColors.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QPalette>
+#include <QPolygonF>
 
 namespace orv::MeaningColors {
 
@@ -52,20 +52,22 @@ void paintErrorSign(QPainter &painter, const QRect &room, const QColor &color)
 {
     const qreal size = std::min(room.width(), room.height());
     const QRectF square(room.center().x() - size / 2 + 0.5, room.center().y() - size / 2 + 0.5, size, size);
-    QPainterPath sign;
-    sign.moveTo(square.center().x(), square.top() + size * 0.06);
-    sign.lineTo(square.right() - size * 0.02, square.bottom() - size * 0.08);
-    sign.lineTo(square.left() + size * 0.02, square.bottom() - size * 0.08);
-    sign.closeSubpath();
+    // As the icon of errors: a square without its corners, and a cross in it.
+    const QRectF edge = square.adjusted(size / 8, size / 8, -size / 8, -size / 8);
+    const qreal corner = edge.width() * 0.3;
+    QPolygonF sign;
+    sign << QPointF(edge.left() + corner, edge.top()) << QPointF(edge.right() - corner, edge.top())
+         << QPointF(edge.right(), edge.top() + corner) << QPointF(edge.right(), edge.bottom() - corner)
+         << QPointF(edge.right() - corner, edge.bottom()) << QPointF(edge.left() + corner, edge.bottom())
+         << QPointF(edge.left(), edge.bottom() - corner) << QPointF(edge.left(), edge.top() + corner);
+    const QRectF cross = square.adjusted(size * 3 / 8, size * 3 / 8, -size * 3 / 8, -size * 3 / 8);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(color, size * 0.1, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
-    painter.drawPath(sign);
-    painter.setPen(QPen(color, size * 0.12, Qt::SolidLine, Qt::RoundCap));
-    painter.drawLine(QPointF(square.center().x(), square.top() + size * 0.38),
-                     QPointF(square.center().x(), square.top() + size * 0.6));
-    painter.drawPoint(QPointF(square.center().x(), square.top() + size * 0.77));
+    painter.drawPolygon(sign);
+    painter.drawLine(cross.topLeft(), cross.bottomRight());
+    painter.drawLine(cross.topRight(), cross.bottomLeft());
     painter.restore();
 }
 

@@ -7,8 +7,10 @@
 #include <orv/propertyeditor/editors/OrvGenericDelegate.h>
 #include <orv/resources/ResourceReference.h>
 #include <orv/resources/ResourceReferenceUtils.h>
+#include <orv/widgets/Icons.h>
 
 #include <QDragEnterEvent>
+#include <QIcon>
 #include <QMimeData>
 #include <QUrl>
 
@@ -45,6 +47,9 @@ KPropertyCustomEditorView::KPropertyCustomEditorView(QWidget *parent)
     setGridLineColor(QColor());
     setAcceptDrops(true);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setRemarkIcon(RemarkKind::Hint, Icons::icon(IconName::Information));
+    setRemarkIcon(RemarkKind::Warning, Icons::icon(IconName::Warning));
+    setRemarkIcon(RemarkKind::Error, Icons::icon(IconName::Error));
 }
 
 KPropertyCustomEditorView::~KPropertyCustomEditorView() = default;

@@ -8,6 +8,11 @@
 #include <orv/propertyeditor/grid/IGridItem.h>
 #include <orv/propertyeditor/grid/PropertyGridWidget.h>
 
+#include <QAbstractItemView>
+#include <QApplication>
+
+#include <algorithm>
+
 namespace orv {
 
 using PropertyEditor::BaseItem;
@@ -18,6 +23,28 @@ WorkflowTabs::WorkflowTabs(EditableTabWidget *tabs, QObject *parent)
 {
     connect(tabs->editableTabBar(), &EditableTabBar::titleEdited, this, &WorkflowTabs::edited);
     connect(tabs->editableTabBar(), &QTabBar::tabMoved, this, &WorkflowTabs::edited);
+    connect(tabs, &QTabWidget::currentChanged, this, &WorkflowTabs::focusColumn);
+}
+
+/// A tab gives the focus to the first of its controls, which may be one that shows nothing of it.
+void WorkflowTabs::focusColumn()
+{
+    const PropertyGridWidget *shown = currentGrid();
+    const QWidget *focus = QApplication::focusWidget();
+    if (!shown || !focus || (focus != shown && !shown->isAncestorOf(focus)))
+        return;
+    const QList<IGridItem *> items = shown->items();
+    const auto hasFocus = [focus](IGridItem *item) { return item->widget()->isAncestorOf(focus); };
+    if (std::ranges::any_of(items, hasFocus))
+        return;
+    for (IGridItem *item : items) {
+        const QList<QAbstractItemView *> views = item->widget()->findChildren<QAbstractItemView *>();
+        const auto view = std::ranges::find_if(views, [](const QAbstractItemView *each) {
+            return each->isVisible() && each->isEnabled() && (each->focusPolicy() & Qt::TabFocus) != 0;
+        });
+        if (view != views.cend())
+            return (*view)->setFocus(Qt::TabFocusReason);
+    }
 }
 
 Error WorkflowTabs::add(const QString &name, const QStringList &columns, const VariantItems &cells)

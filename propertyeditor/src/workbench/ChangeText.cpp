@@ -1,25 +1,73 @@
 #include "ChangeText.h"
 
+#include "SettingReader.h"
 #include "ShortText.h"
 
+#include <KProperty.h>
+#include <orv/propertyeditor/PropertiesNames.h>
+#include <orv/propertyeditor/PropertySetCreator.h>
+
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 
-namespace orv::ChangeText {
+#include <algorithm>
 
-QString ofPlace(const QString &path)
+namespace orv {
+
+namespace {
+
+struct ChangeTextTr
 {
-    constexpr qsizetype kLongestPlace = 400;
-    return ShortText::end(path, kLongestPlace);
+    Q_DECLARE_TR_FUNCTIONS(ChangeText)
+};
+
+constexpr QLatin1String kSeparatorInPaths(" / ");
+
+QString captionOf(const QString &property)
+{
+    const QString caption =
+        PropertiesNames::displayNameForType(PropertiesNames::findPropertyForName(property));
+    return caption.isEmpty() ? property : caption;
 }
 
-QString ofText(const QString &text)
+/// Numbers, switches, choices and numbers with units: values whose rows show more than files have.
+bool hasTextOfItsRow(PropertyId id, const QJsonValue &value)
+{
+    const KProperty::Type type = PropertiesNames::valueTypeOfPropertyType(id);
+    const QJsonObject members = value.toObject();
+    const bool isQuantity = members.contains(QLatin1String("unit")) &&
+                            members.value(QLatin1String("value")).isDouble() && members.size() == 2;
+    return isQuantity || value.isBool() || value.isDouble() || type == KProperty::ValueFromList;
+}
+
+} // namespace
+
+QString ChangeText::joined(QStringList names)
+{
+    names.removeAll(QString());
+    return names.join(QStringLiteral(" › "));
+}
+
+QString ChangeText::ofPlace(const Place &place)
+{
+    constexpr qsizetype kLongestPlace = 400;
+    // Nearly all columns have one cell, which nobody counts.
+    const QString row =
+        place.row.value_or(0) > 0 ? ChangeTextTr::tr("row %1").arg(*place.row + 1) : QString();
+    return ShortText::end(joined(QStringList{place.tab, place.column, row, captionOf(place.property)} +
+                                 place.below.split(kSeparatorInPaths)),
+                          kLongestPlace);
+}
+
+QString ChangeText::ofText(const QString &text)
 {
     constexpr qsizetype kLongestText = 120;
     return ShortText::beginning(text, kLongestText);
 }
 
-QString ofValue(const QJsonValue &value)
+QString ChangeText::ofValue(const QJsonValue &value)
 {
     if (value.isUndefined())
         return {};
@@ -32,4 +80,17 @@ QString ofValue(const QJsonValue &value)
     return ofText(QString::fromUtf8(json.mid(1, json.size() - 2)));
 }
 
-} // namespace orv::ChangeText
+QString ChangeText::ofSetting(const QString &property, const QJsonValue &value)
+{
+    const PropertyId id = PropertiesNames::findPropertyForName(property);
+    if (id == PropertyId::NoProperty || !hasTextOfItsRow(id, value))
+        return ofValue(value);
+    KProperty shown;
+    QList<QString> errors;
+    const bool isMade =
+        PropertySetCreator::modifyKProperty(id, PropertySetCreator::Priority::Unset, value, &shown, &errors);
+    const QString text = isMade ? SettingReader::valueText(shown) : QString();
+    return text.isEmpty() ? ofValue(value) : ofText(text);
+}
+
+} // namespace orv

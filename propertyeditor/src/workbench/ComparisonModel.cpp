@@ -2,8 +2,10 @@
 
 #include "ChangeText.h"
 #include "EntryTexts.h"
+#include "EvenRows.h"
 #include "ShortText.h"
 
+#include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/widgets/Icons.h>
 
@@ -214,6 +216,17 @@ QString ComparisonModel::hint(const QModelIndex &index) const
     return QStringLiteral("<p>%1</p>").arg(hint);
 }
 
+QVariant ComparisonModel::explanation(const ComparisonNode &node) const
+{
+    if (node.kind != ComparisonNode::Kind::Setting)
+        return {};
+    const QString told = PropertiesNames::tooltipForType(PropertiesNames::findPropertyForName(node.label));
+    return told.isEmpty()
+               ? QVariant()
+               : QVariant(
+                     QStringLiteral("<b>%1</b><br>%2").arg(name(node).toHtmlEscaped(), told.toHtmlEscaped()));
+}
+
 Qt::CheckState ComparisonModel::checkState(int number) const
 {
     if (m_checkedLeaves.at(number) == 0)
@@ -231,6 +244,8 @@ QVariant ComparisonModel::data(const QModelIndex &index, int role) const
         return line(index);
     case Qt::ToolTipRole:
         return hint(index);
+    case Qt::WhatsThisRole:
+        return explanation(shown);
     case Qt::AccessibleTextRole: {
         const QString said = line(index);
         const QString change = changeText(shown);
@@ -239,8 +254,10 @@ QVariant ComparisonModel::data(const QModelIndex &index, int role) const
     case Qt::CheckStateRole:
         return index.column() == Name ? QVariant(checkState(int(index.internalId()))) : QVariant();
     case Qt::DecorationRole:
-        if (index.column() != Name || !shown.children.isEmpty())
+        if (index.column() != Name)
             return {};
+        if (!shown.children.isEmpty())
+            return shown.kind == ComparisonNode::Kind::Setting ? QVariant(EvenRows::indent()) : QVariant();
         return Icons::icon(shown.change == Change::Added     ? IconName::Add
                            : shown.change == Change::Removed ? IconName::Remove
                                                              : IconName::Changed);
@@ -303,9 +320,27 @@ void ComparisonModel::tellBelow(int number)
         tellBelow(child);
 }
 
+QVariant ComparisonModel::help(int column) const
+{
+    switch (column) {
+    case Name:
+        return tr("What differs, and where. Space checks what is to be taken over, Enter goes there.");
+    case This:
+        return tr("What this workflow has");
+    case Other:
+        return tr("What %1 has, and what this workflow gets from it when it is taken over").arg(m_otherName);
+    default:
+        return {};
+    }
+}
+
 QVariant ComparisonModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal)
+        return {};
+    if (role == Qt::ToolTipRole || role == Qt::WhatsThisRole)
+        return help(section);
+    if (role != Qt::DisplayRole)
         return {};
     switch (section) {
     case Name:

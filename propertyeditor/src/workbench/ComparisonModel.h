@@ -65,6 +65,8 @@ private:
     [[nodiscard]] QString value(const ComparisonNode &node, const QJsonValue &value) const;
     [[nodiscard]] QString changeText(const ComparisonNode &node) const;
     [[nodiscard]] Qt::CheckState checkState(int number) const;
+    [[nodiscard]] QVariant explanation(const ComparisonNode &node) const;
+    [[nodiscard]] QVariant help(int column) const;
     int check(int number, bool isChecked);
     void count();
     void tellAround(int number);

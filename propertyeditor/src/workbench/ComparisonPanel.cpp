@@ -1,5 +1,8 @@
 #include "ComparisonPanel.h"
 
+#include "ColumnShares.h"
+#include "EvenRows.h"
+
 #include <orv/propertyeditor/editors/SlowQuestion.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
 #include <orv/widgets/Icons.h>
@@ -17,8 +20,6 @@
 #include <QStackedLayout>
 #include <QUrl>
 #include <QVBoxLayout>
-
-#include <array>
 
 namespace orv {
 
@@ -45,8 +46,9 @@ QLabel *plainLabel(const QString &name)
 } // namespace
 
 ComparisonView::ComparisonView(QWidget *parent)
-    : QTreeView(parent)
+    : WorkList(parent)
 {
+    new EvenRows(this);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
     setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -63,7 +65,7 @@ void ComparisonView::keyPressEvent(QKeyEvent *event)
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool isSpace = event->key() == Qt::Key_Space;
     if (!row.isValid() || (!isEnter && !isSpace)) {
-        QTreeView::keyPressEvent(event);
+        WorkList::keyPressEvent(event);
         return;
     }
     event->accept();
@@ -115,10 +117,7 @@ void ComparisonPanel::buildTree()
     m_tree->setObjectName(QStringLiteral("differences"));
     m_tree->setAccessibleName(tr("Differences"));
     m_tree->setModel(m_model);
-    const int letter = m_tree->fontMetrics().averageCharWidth();
-    constexpr std::array<int, ComparisonModel::ColumnCount> kLetters = {52, 36, 36};
-    for (int column = 0; column < ComparisonModel::ColumnCount; ++column)
-        m_tree->setColumnWidth(column, letter * kLetters.at(size_t(column)));
+    new ColumnShares(m_tree, {52, 36, 36});
     connect(m_tree, &ComparisonView::chosen, this, &ComparisonPanel::chosen);
     const auto remember = [this](const QModelIndex &index, bool isUnfolded) {
         if (!m_isRestoring)

@@ -2,9 +2,9 @@
 
 #include "ComparisonModel.h"
 #include "LeavablePanel.h"
+#include "WorkList.h"
 
 #include <QTimer>
-#include <QTreeView>
 
 QT_FORWARD_DECLARE_CLASS(QAction)
 QT_FORWARD_DECLARE_CLASS(QLabel)
@@ -15,7 +15,7 @@ QT_FORWARD_DECLARE_CLASS(QStackedLayout)
 namespace orv {
 
 /// A tree whose rows are chosen by a double click or Enter and checked by Space in any column.
-class ComparisonView : public QTreeView
+class ComparisonView : public WorkList
 {
     Q_OBJECT
 

@@ -1,5 +1,6 @@
 #include "FindHits.h"
 
+#include "EvenRows.h"
 #include "ShortText.h"
 
 #include <orv/widgets/Icons.h>
@@ -113,8 +114,8 @@ QString FindHits::text(const SettingTexts &texts, const SettingHit &hit, int col
 QVariant FindHits::decoration(const SettingTexts &texts, int column) const
 {
     const bool isChanged = texts.defaultValue || texts.savedValue;
-    if (column == Setting && isChanged)
-        return Icons::icon(IconName::Changed);
+    if (column == Setting)
+        return isChanged ? QVariant(Icons::icon(IconName::Changed)) : QVariant(EvenRows::indent());
     const bool goesBack = (column == Default && texts.defaultValue) || (column == Saved && texts.savedValue);
     return goesBack && !texts.isReadOnly ? QVariant(Icons::icon(IconName::Undo)) : QVariant();
 }

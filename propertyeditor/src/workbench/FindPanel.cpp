@@ -1,5 +1,8 @@
 #include "FindPanel.h"
 
+#include "ColumnShares.h"
+#include "EvenRows.h"
+
 #include <orv/widgets/Icons.h>
 
 #include <QAccessible>
@@ -7,7 +10,6 @@
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGuiApplication>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -43,9 +45,10 @@ constexpr std::array<FindFilter, int(FindPanel::Filter::Count)> kFilters = {{
 } // namespace
 
 FindList::FindList(QWidget *parent)
-    : QTreeView(parent)
+    : WorkList(parent)
 {
     setRootIsDecorated(false);
+    new EvenRows(this);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
     setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -66,7 +69,7 @@ void FindList::keyPressEvent(QKeyEvent *event)
         Q_EMIT chosen(currentIndex().siblingAtColumn(0));
         return;
     }
-    QTreeView::keyPressEvent(event);
+    WorkList::keyPressEvent(event);
 }
 
 FindPanel::FindPanel(SettingColumns *columns, QWidget *parent)
@@ -117,10 +120,7 @@ void FindPanel::buildList()
     m_list->setObjectName(QStringLiteral("findHits"));
     m_list->setAccessibleName(tr("Settings that were found"));
     m_list->setModel(m_hits);
-    const int letter = m_list->fontMetrics().averageCharWidth();
-    constexpr std::array<int, FindHits::ColumnCount> kLetters = {32, 24, 18, 18, 28, 24};
-    for (int column = 0; column < FindHits::ColumnCount; ++column)
-        m_list->setColumnWidth(column, letter * kLetters.at(size_t(column)));
+    new ColumnShares(m_list, {32, 24, 18, 18, 28, 24});
     connect(m_list, &FindList::chosen, this, &FindPanel::choose);
     addSetBack(tr("Set Back to the &Default"), QStringLiteral("setBackToDefault"),
                QKeySequence(Qt::CTRL | Qt::Key_Backspace), SettingColumns::Former::Default);

@@ -2,9 +2,9 @@
 
 #include "FindHits.h"
 #include "LeavablePanel.h"
+#include "WorkList.h"
 
 #include <QTimer>
-#include <QTreeView>
 #include <QWidget>
 
 #include <array>
@@ -18,7 +18,7 @@ QT_FORWARD_DECLARE_CLASS(QStackedLayout)
 namespace orv {
 
 /// A list that tells which row somebody chose, by a click or by Enter.
-class FindList : public QTreeView
+class FindList : public WorkList
 {
     Q_OBJECT
 

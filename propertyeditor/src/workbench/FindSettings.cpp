@@ -132,12 +132,11 @@ FindSettings::FindSettings(Workbench *workbench)
 
 FindSettings::~FindSettings() = default;
 
-void FindSettings::setHasFinding(const Filter &filter)
+void FindSettings::setHasFinding(const Filter &filter, const QString &reason)
 {
-    if (d->dock) {
-        d->panel->setFilter(FindPanel::Filter::HasFinding, filter,
-                            tr("Check the workflow first: then settings with a finding are known."));
-    }
+    const QString unchecked = tr("Check the workflow first: then settings with a finding are known.");
+    if (d->dock)
+        d->panel->setFilter(FindPanel::Filter::HasFinding, filter, reason.isEmpty() ? unchecked : reason);
 }
 
 void FindSettings::setDiffersFromSecond(const Filter &filter)

@@ -1,5 +1,7 @@
 #include "FindingMarks.h"
 
+#include "FindingSigns.h"
+
 #include <KProperty.h>
 #include <KPropertySet.h>
 #include <orv/propertyeditor/grid/EditableTabWidget.h>
@@ -8,7 +10,6 @@
 #include <orv/propertyeditor/grid/PropertyGridWidget.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
-#include <orv/widgets/Icons.h>
 #include <orv/widgets/TableView.h>
 
 #include <algorithm>
@@ -22,17 +23,6 @@ namespace {
 /// A sign that says more is one for the panel.
 constexpr qsizetype kMostRemarked = 1000;
 
-void addLine(QString *text, const LocatedFinding &finding)
-{
-    if (text->size() > kMostRemarked)
-        return;
-    if (!text->isEmpty())
-        *text += u'\n';
-    *text += finding.message.left(kMostRemarked);
-    if (!finding.hint.isEmpty())
-        *text += u' ' + finding.hint.left(kMostRemarked);
-}
-
 } // namespace
 
 FindingMarks::FindingMarks(PropertyEditorWindow *window, QObject *parent)
@@ -42,10 +32,23 @@ FindingMarks::FindingMarks(PropertyEditorWindow *window, QObject *parent)
 
 FindingMarks::~FindingMarks() = default;
 
+void FindingMarks::addTo(Remark *remark, const LocatedFinding &finding)
+{
+    if (finding.isError())
+        remark->level = Level::Error;
+    if (remark->text.size() > kMostRemarked)
+        return;
+    if (!remark->text.isEmpty())
+        remark->text += u'\n';
+    remark->text += FindingSigns::told(finding.level, finding.message.left(kMostRemarked));
+    if (!finding.hint.isEmpty())
+        remark->text += u' ' + finding.hint.left(kMostRemarked);
+}
+
 void FindingMarks::show(const QList<LocatedFinding> &findings, const QList<FindingTarget> &targets)
 {
     QHash<QWidget *, Remarks> settings;
-    QHash<TableView *, QHash<quint32, QString>> rows;
+    QHash<TableView *, QHash<quint32, Remark>> rows;
     QHash<QWidget *, Badge> badges;
     for (qsizetype i = 0; i < targets.size(); ++i) {
         const FindingTarget &target = targets.at(i);
@@ -54,9 +57,9 @@ void FindingMarks::show(const QList<LocatedFinding> &findings, const QList<Findi
         Badge &badge = badges[target.column];
         ++(findings.at(i).isError() ? badge.errors : badge.warnings);
         if (target.settings() && !target.setting.isEmpty())
-            addLine(&settings[target.column][target.setting], findings.at(i));
+            addTo(&settings[target.column][target.setting], findings.at(i));
         if (target.table && target.row)
-            addLine(&rows[target.table][*target.row], findings.at(i));
+            addTo(&rows[target.table][*target.row], findings.at(i));
     }
     m_badges.clear();
     for (auto badge = badges.cbegin(); badge != badges.cend(); ++badge)
@@ -79,9 +82,9 @@ void FindingMarks::remark(GridPropertyEditorView *view, const Remarks &before, c
             continue;
         const KProperty &property = set->property(name);
         const QString shown = view->editorView()->remark(property);
-        const QString wanted = now.value(name);
-        if (shown != wanted && (shown.isEmpty() || shown == before.value(name)))
-            view->editorView()->setRemark(property, wanted);
+        const Remark wanted = now.value(name);
+        if (shown.isEmpty() || shown == before.value(name).text)
+            view->editorView()->setRemark(property, wanted.text, FindingSigns::remarkKind(wanted.level));
     }
 }
 
@@ -117,7 +120,7 @@ void FindingMarks::follow(GridPropertyEditorView *view)
     });
 }
 
-void FindingMarks::showRows(const QHash<TableView *, QHash<quint32, QString>> &rows)
+void FindingMarks::showRows(const QHash<TableView *, QHash<quint32, Remark>> &rows)
 {
     for (const QPointer<TableView> &table : std::as_const(m_tables)) {
         if (table && !rows.contains(table))
@@ -125,7 +128,10 @@ void FindingMarks::showRows(const QHash<TableView *, QHash<quint32, QString>> &r
     }
     m_tables.clear();
     for (auto table = rows.cbegin(); table != rows.cend(); ++table) {
-        table.key()->tableModel()->setRowRemarks(table.value());
+        QHash<quint32, TableRowRemark> remarks;
+        for (auto row = table->cbegin(); row != table->cend(); ++row)
+            remarks.insert(row.key(), {row->text, row->level == Level::Error});
+        table.key()->tableModel()->setRowRemarks(remarks);
         m_tables.append(table.key());
     }
 }
@@ -147,7 +153,7 @@ void FindingMarks::showTabs()
         }
         const bool isMarked = sum.errors + sum.warnings > 0;
         if (isMarked) {
-            widget->setTabIcon(i, Icons::icon(sum.errors > 0 ? IconName::Error : IconName::Warning));
+            widget->setTabIcon(i, FindingSigns::icon(sum.errors > 0 ? Level::Error : Level::Warning));
             widget->setTabToolTip(i, tr("Errors: %1, warnings: %2")
                                          .arg(m_window->locale().toString(sum.errors),
                                               m_window->locale().toString(sum.warnings)));

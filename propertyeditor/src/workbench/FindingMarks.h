@@ -26,7 +26,15 @@ public:
     [[nodiscard]] bool isMarked(const QWidget *column, const QByteArray &setting) const;
 
 private:
-    using Remarks = QHash<QByteArray, QString>; ///< by setting
+    using Level = PropertyEditor::Finding::Level;
+    struct Remark
+    {
+        QString text;
+        Level level = Level::Warning; ///< the worst of what is told
+
+        bool operator==(const Remark &other) const = default;
+    };
+    using Remarks = QHash<QByteArray, Remark>; ///< by setting
     struct Column
     {
         QPointer<GridPropertyEditorView> view;
@@ -39,7 +47,8 @@ private:
     };
 
     void showSettings(const QHash<QWidget *, Remarks> &remarks);
-    void showRows(const QHash<TableView *, QHash<quint32, QString>> &rows);
+    void showRows(const QHash<TableView *, QHash<quint32, Remark>> &rows);
+    static void addTo(Remark *remark, const PropertyEditor::LocatedFinding &finding);
     void showTabs();
     void follow(GridPropertyEditorView *view);
     void remark(GridPropertyEditorView *view, const Remarks &before, const Remarks &now);

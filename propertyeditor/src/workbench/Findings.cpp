@@ -208,7 +208,8 @@ void Findings::Private::show(const QList<LocatedFinding> &found, const QList<Fin
         else
             qApp->removeEventFilter(q);
     }
-    find->setHasFinding(hasAny ? filter() : FindSettings::Filter());
+    find->setHasFinding(hasAny ? filter() : FindSettings::Filter(),
+                        isChecked ? tr("The last check found nothing.") : QString());
     summarize();
     if (std::exchange(m_isAsked, false) && hasAny && dock) {
         dock->show();

@@ -1,9 +1,10 @@
 #include "FindingsModel.h"
 
+#include "ChangeText.h"
+#include "FindingSigns.h"
 #include "ShortText.h"
 
 #include <orv/propertyeditor/PropertiesNames.h>
-#include <orv/widgets/Icons.h>
 
 #include <algorithm>
 #include <array>
@@ -33,8 +34,7 @@ QString placeOf(const LocatedFinding &finding)
         steps.append(
             PropertiesNames::displayNameForType(PropertiesNames::findPropertyForName(finding.property)));
     }
-    steps.removeAll(QString());
-    return steps.join(QStringLiteral(" › "));
+    return ChangeText::joined(steps);
 }
 
 } // namespace
@@ -60,7 +60,7 @@ QString FindingsModel::text(const LocatedFinding &finding, int column)
 {
     switch (Column(column)) {
     case Severity:
-        return finding.isError() ? tr("Error") : tr("Warning");
+        return FindingSigns::word(finding.level);
     case Message:
         return finding.message;
     case Place:
@@ -90,7 +90,7 @@ QVariant FindingsModel::data(const QModelIndex &index, int role) const
                      .replace(QLatin1Char('\n'), QLatin1String("<br>")));
     case Qt::DecorationRole:
         if (index.column() == Severity)
-            return Icons::icon(finding.isError() ? IconName::Error : IconName::Warning);
+            return FindingSigns::icon(finding.level);
         return {};
     default:
         return {};

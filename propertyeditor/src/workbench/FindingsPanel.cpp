@@ -1,17 +1,17 @@
 #include "FindingsPanel.h"
 
+#include "ColumnShares.h"
+
 #include <orv/widgets/Icons.h>
 
 #include <QAccessible>
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QHeaderView>
 #include <QLabel>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <array>
 
 namespace orv {
 
@@ -38,12 +38,11 @@ FindingsPanel::FindingsPanel(QWidget *parent)
     m_summary->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_list->setObjectName(QStringLiteral("findings"));
     m_list->setAccessibleName(tr("Findings"));
+    m_list->setWhatsThis(tr(
+        "What keeps an analysis from running as it should, where it is, and what to do. Enter goes there."));
     m_list->setModel(m_model);
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    const int letter = m_list->fontMetrics().averageCharWidth();
-    constexpr std::array<int, FindingsModel::ColumnCount> kLetters = {14, 64, 40, 40, 24};
-    for (int column = 0; column < FindingsModel::ColumnCount; ++column)
-        m_list->setColumnWidth(column, letter * kLetters.at(size_t(column)));
+    new ColumnShares(m_list, {0, 64, 40, 40, 18});
     auto *copying = new QAction(Icons::icon(IconName::Copy), tr("&Copy"), m_list);
     copying->setObjectName(QStringLiteral("copyFindings"));
     copying->setShortcuts(QKeySequence::Copy);

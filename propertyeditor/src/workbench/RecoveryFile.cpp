@@ -47,6 +47,8 @@ RecoveryEntry entryFrom(const QJsonObject &header, const QString &path)
     entry.name = header[QLatin1String("name")].toString();
     entry.edited = QDateTime::fromString(header[QLatin1String("edited")].toString(), Qt::ISODateWithMs);
     entry.changes = changesFrom(header);
+    const QJsonArray lastEdit = header[QLatin1String("lastEdit")].toArray();
+    entry.lastEdit = {lastEdit.at(0).toString(), lastEdit.at(1).toString(), lastEdit.at(2).toString()};
     const QJsonArray lost = header[QLatin1String("lost")].toArray();
     for (const auto &text : lost)
         entry.lost.append(text.toString());
@@ -93,6 +95,8 @@ QByteArray toBytes(const RecoveryEntry &entry, const QByteArray &document)
         {QLatin1String("edited"), entry.edited.toUTC().toString(Qt::ISODateWithMs)},
         {QLatin1String("changeCount"), entry.changes.count},
         {QLatin1String("changes"), toJson(entry.changes.told)},
+        {QLatin1String("lastEdit"),
+         QJsonArray{entry.lastEdit.tab, entry.lastEdit.column, entry.lastEdit.setting}},
         {QLatin1String("lost"), QJsonArray::fromStringList(shortenedLosses(entry.lost))},
         {QLatin1String("documentBytes"), document.size()},
         {QLatin1String("documentChecksum"),

@@ -1,6 +1,8 @@
 #include "orv/propertyeditor/workbench/RecoveryPanel.h"
 
 #include "RecoveryModels.h"
+#include "WorkList.h"
+#include "WrappedTexts.h"
 
 #include <orv/core/Error.h>
 #include <orv/propertyeditor/workbench/RecoveryStore.h>
@@ -17,6 +19,7 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <thread>
 
 namespace orv {
@@ -27,7 +30,7 @@ constexpr int kNarrowestRecoveryColumn = 12; ///< in characters
 
 QTreeView *recoveryList(QAbstractItemModel *model, const QString &name)
 {
-    auto *view = new QTreeView;
+    auto *view = new WorkList;
     view->setModel(model);
     view->setAccessibleName(name);
     view->setRootIsDecorated(false);
@@ -45,6 +48,23 @@ QLabel *recoveryLabel()
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
+}
+
+/// What was open without changes is there to be opened again, and was never unsaved.
+QString titleOf(const QList<RecoveryEntry> &entries)
+{
+    if (entries.isEmpty())
+        return RecoveryPanel::tr("There are no unsaved workflows to recover.");
+    const auto unsaved = std::ranges::count(entries, true, &RecoveryEntry::hasDocument);
+    if (unsaved == 0)
+        return RecoveryPanel::tr(
+            "These workflows were open when the program ended. They have no unsaved changes.");
+    if (unsaved == entries.size())
+        return RecoveryPanel::tr("These workflows were not saved when their windows closed or the program "
+                                 "ended. Their files are as they were.");
+    return RecoveryPanel::tr(
+        "These workflows were not saved, or were open, when the program ended. Their files "
+        "are as they were.");
 }
 
 } // namespace
@@ -82,6 +102,8 @@ void RecoveryPanel::build()
 QWidget *RecoveryPanel::makeEntries()
 {
     m_view = recoveryList(m_model, tr("Unsaved workflows"));
+    m_view->setWhatsThis(
+        tr("Workflows that can be opened as they were. Enter recovers those that are chosen."));
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->header()->setStretchLastSection(false);
     m_view->header()->setMinimumSectionSize(kNarrowestRecoveryColumn * fontMetrics().averageCharWidth());
@@ -93,7 +115,8 @@ QWidget *RecoveryPanel::makeEntries()
 QWidget *RecoveryPanel::makeChanges()
 {
     m_changesView = recoveryList(m_changes, tr("Changes of the unsaved workflow"));
-    m_changesView->setTextElideMode(Qt::ElideRight);
+    m_changesView->setWhatsThis(tr("In what the unsaved workflow differs from its file"));
+    new WrappedTexts(m_changesView);
     m_changesView->header()->setSectionResizeMode(QHeaderView::Stretch);
     m_count = recoveryLabel();
     m_remark = recoveryLabel();
@@ -132,9 +155,7 @@ bool RecoveryPanel::refresh()
     m_asked.clear();
     m_model->setEntries(m_store->entries());
     const bool hasEntries = m_model->rowCount() > 0;
-    QString title = hasEntries ? tr("These workflows were not saved when their windows closed or the program "
-                                    "ended. Their files are as they were.")
-                               : tr("There are no unsaved workflows to recover.");
+    QString title = titleOf(m_model->entries());
     if (const QStringList aside = m_store->setAside(); !aside.isEmpty())
         title += u'\n' + tr("What couldn't be read was set aside: %1").arg(aside.join(QLatin1String(", ")));
     m_title->setText(title);
@@ -179,6 +200,8 @@ void RecoveryPanel::showCurrent()
     if (told < entry->changes.count)
         m_count->setText(tr("The first %1 of %2 changes:")
                              .arg(locale.toString(told), locale.toString(entry->changes.count)));
+    else if (!entry->hasDocument)
+        m_count->setText(tr("No unsaved changes"));
     else
         m_count->setText(told == 1 ? tr("1 change") : tr("%1 changes").arg(locale.toString(told)));
     m_remark->setText(remarkOn(*entry));

@@ -116,6 +116,7 @@ void RecoveryWriter::carryOut(const Orders &orders)
         start(*orders.beginning);
     if (orders.newBase) {
         m_base = *orders.newBase;
+        m_written = m_base;
         m_earlier = m_entry.changes;
     }
     if (orders.state)
@@ -127,6 +128,7 @@ void RecoveryWriter::carryOut(const Orders &orders)
 void RecoveryWriter::start(const Beginning &beginning)
 {
     m_base = beginning.base;
+    m_written = m_base;
     m_earlier = {};
     m_entry = {};
     m_entry.journal = m_path;
@@ -150,6 +152,9 @@ Error RecoveryWriter::keep(const State &state)
     entry.changes = m_earlier;
     entry.changes.append(changesBetween(m_base, document));
     entry.edited = state.time;
+    if (const std::optional<RecoveryPlace> place = placeOfLastChange(m_written, document))
+        entry.lastEdit = *place;
+    m_written = document;
     entry.lost = state.lost.mid(0, RecoveryChanges::kMostTold);
     entry.name = WflwMetaData::nameFromMetaDataObject(state.content.metadata());
     entry.hasDocument = entry.changes.count > 0;

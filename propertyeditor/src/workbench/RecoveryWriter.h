@@ -101,6 +101,7 @@ private:
     bool m_waitsForChecksum = false;
     RecoveryEntry m_entry; ///< as it is on the disk
     QJsonObject m_base;
+    QJsonObject m_written;     ///< the last state, or the base
     RecoveryChanges m_earlier; ///< those before the base
 };
 

@@ -1,17 +1,17 @@
 #include "SameSettingPanel.h"
 
+#include "ColumnShares.h"
 #include "ShortText.h"
+#include "WorkList.h"
 
 #include <QAccessible>
 #include <QCheckBox>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTreeView>
 #include <QVBoxLayout>
 
-#include <array>
 #include <utility>
 
 namespace orv {
@@ -26,7 +26,7 @@ SameSettingPanel::SameSettingPanel(QWidget *parent)
     : LeavablePanel(parent)
     , m_model(new SameSettingModel(this))
     , m_heading(new QLabel)
-    , m_list(new QTreeView)
+    , m_list(new WorkList)
     , m_all(new QCheckBox(tr("&All columns")))
     , m_apply(new QPushButton)
     , m_outcome(new QLabel)
@@ -65,10 +65,7 @@ void SameSettingPanel::buildList()
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setTabKeyNavigation(false);
     m_list->installEventFilter(this);
-    const int letter = m_list->fontMetrics().averageCharWidth();
-    constexpr std::array<int, SameSettingModel::ColumnCount> kLetters = {44, 24, 40};
-    for (int column = 0; column < SameSettingModel::ColumnCount; ++column)
-        m_list->setColumnWidth(column, letter * kLetters.at(size_t(column)));
+    new ColumnShares(m_list, {44, 24, 40});
     setFocusProxy(m_list);
 }
 

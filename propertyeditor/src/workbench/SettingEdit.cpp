@@ -41,6 +41,21 @@ std::optional<QVariant> SettingEdit::valueOf(const KPropertySet &set, const QByt
     return other.value();
 }
 
+bool SettingEdit::give(KProperty *property, const QVariant &value)
+{
+    if (!property->isModified() || property->composedProperty())
+        return property->setValue(value);
+    // Two references to one file are no equal values.
+    KProperty before(*property);
+    before.setValue(property->oldValue());
+    KProperty wanted(*property);
+    wanted.setValue(value);
+    if (SettingReader::stored(before) != SettingReader::stored(wanted))
+        return property->setValue(value);
+    property->resetValue();
+    return true;
+}
+
 SettingEdit::Outcome SettingEdit::setValue(KPropertySet *set, const QByteArray &name, const QVariant &value)
 {
     if (!refusal(set, name).isEmpty())
@@ -51,7 +66,7 @@ SettingEdit::Outcome SettingEdit::setValue(KPropertySet *set, const QByteArray &
     other.setValue(value);
     if (SettingReader::stored(other) == SettingReader::stored(property))
         return Outcome::HadIt;
-    return property.setValue(value) ? Outcome::Changed : Outcome::HadIt;
+    return give(&property, value) ? Outcome::Changed : Outcome::HadIt;
 }
 
 SettingEdit::Outcome SettingEdit::setStored(KPropertySet *set, const QByteArray &name,

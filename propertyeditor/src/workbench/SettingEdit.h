@@ -7,6 +7,7 @@
 
 #include <optional>
 
+class KProperty;
 class KPropertySet;
 
 namespace orv {
@@ -30,7 +31,9 @@ enum class Outcome
 [[nodiscard]] std::optional<QVariant> valueOf(const KPropertySet &set, const QByteArray &name,
                                               const QJsonValue &stored);
 
-/// \a value is as property sets hold it.
+/// \a value is as property sets hold it. With the one that it had before it was modified, the property isn't
+/// modified any more, which a property never says by itself. False for the value that it has.
+bool give(KProperty *property, const QVariant &value);
 Outcome setValue(KPropertySet *set, const QByteArray &name, const QVariant &value);
 Outcome setStored(KPropertySet *set, const QByteArray &name, const QJsonValue &stored);
 

@@ -1,5 +1,7 @@
 #include "SettingView.h"
 
+#include "ChangeText.h"
+
 #include <orv/propertyeditor/grid/EditableTabWidget.h>
 #include <orv/propertyeditor/grid/IGridItem.h>
 #include <orv/propertyeditor/grid/PropertyGridWidget.h>
@@ -12,7 +14,7 @@ namespace orv {
 
 QString SettingView::placeText() const
 {
-    return QStringLiteral("%1 › %2").arg(tabName, columnName);
+    return ChangeText::joined({tabName, columnName});
 }
 
 QList<SettingView> SettingView::all(const PropertyEditorWindow *window)

@@ -1,6 +1,7 @@
 #include "StateDisplay.h"
 
 #include "CellEntries.h"
+#include "SettingEdit.h"
 #include "SettingJump.h"
 #include "ShownState.h"
 
@@ -80,7 +81,7 @@ bool takeValues(GridPropertyEditorView &view, const QJsonObject &cell)
             continue;
         if (!shown->contains(name))
             return false;
-        shown->property(name).setValue((*property)->value());
+        SettingEdit::give(&shown->property(name), (*property)->value());
     }
     return self && shown;
 }

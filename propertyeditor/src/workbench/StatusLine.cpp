@@ -1,5 +1,6 @@
 #include "StatusLine.h"
 
+#include "FindingSigns.h"
 #include "orv/propertyeditor/workbench/DocumentHistory.h"
 #include "orv/propertyeditor/workbench/Findings.h"
 #include "orv/propertyeditor/workbench/Workbench.h"
@@ -26,7 +27,9 @@ StatusLine::StatusLine(Workbench *workbench)
     m_version->setObjectName(QStringLiteral("statusVersion"));
     m_findings->setObjectName(QStringLiteral("statusFindings"));
     m_changes->setObjectName(QStringLiteral("statusChanges"));
-    m_findings->setAutoRaise(true);
+    // It is pressed, which nothing but its frame tells.
+    m_findings->setAutoRaise(false);
+    m_findings->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     for (QWidget *part : {static_cast<QWidget *>(m_changes), static_cast<QWidget *>(m_findings),
                           static_cast<QWidget *>(m_version)})
         bar->addPermanentWidget(part);
@@ -65,6 +68,9 @@ void StatusLine::showFindings()
     else if (findings.state() == Findings::State::Checked)
         text = tr("No findings");
     m_findings->setText(text);
+    m_findings->setIcon(findings.errorCount() > 0     ? FindingSigns::icon(FindingSigns::Level::Error)
+                        : findings.warningCount() > 0 ? FindingSigns::icon(FindingSigns::Level::Warning)
+                                                      : findings.checkAction()->icon());
     m_findings->setAccessibleName(tr("Findings: %1").arg(text));
     m_findings->setToolTip(findings.checkAction()->toolTip());
 }

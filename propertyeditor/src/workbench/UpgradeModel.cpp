@@ -100,7 +100,7 @@ QString UpgradeModel::text(const QModelIndex &index) const
         m_upgrade.steps.at(qsizetype(index.internalId() - 1)).changes.at(index.row());
     switch (Column(index.column())) {
     case Place:
-        return ChangeText::ofPlace(change.path);
+        return ChangeText::ofPlace({change.tab, change.column, change.row, change.property, change.below});
     case Change:
         return tr(kUpgradeChanges.at(size_t(change.kind)));
     case Before:

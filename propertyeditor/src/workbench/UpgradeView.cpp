@@ -1,6 +1,8 @@
 #include "UpgradeView.h"
 
 #include "UpgradeModel.h"
+#include "WorkList.h"
+#include "WrappedTexts.h"
 
 #include <orv/widgets/Icons.h>
 
@@ -11,9 +13,6 @@
 #include <QLabel>
 #include <QTreeView>
 #include <QVBoxLayout>
-
-#include <algorithm>
-#include <array>
 
 namespace orv {
 
@@ -28,7 +27,7 @@ UpgradeView::UpgradeView(QWidget *parent)
     : LeavablePanel(parent)
     , m_model(new UpgradeModel(this))
     , m_title(new QLabel)
-    , m_steps(new QTreeView)
+    , m_steps(new WorkList)
 {
     m_title->setObjectName(QStringLiteral("upgradeTitle"));
     m_title->setTextFormat(Qt::PlainText);
@@ -36,16 +35,15 @@ UpgradeView::UpgradeView(QWidget *parent)
     m_title->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_steps->setObjectName(QStringLiteral("upgradeSteps"));
     m_steps->setAccessibleName(tr("Steps of the upgrade"));
+    m_steps->setWhatsThis(
+        tr("What each step of the upgrade changed: the place, and the value before and after"));
     m_steps->setModel(m_model);
-    m_steps->setUniformRowHeights(true);
     m_steps->setAlternatingRowColors(true);
-    m_steps->setTextElideMode(Qt::ElideMiddle);
+    new WrappedTexts(m_steps);
     m_steps->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_steps->header()->setStretchLastSection(true);
-    const int letter = m_steps->fontMetrics().averageCharWidth();
-    constexpr std::array<int, UpgradeModel::ColumnCount> kLetters = {50, 11, 28, 28};
-    for (int column = 0; column < UpgradeModel::ColumnCount; ++column)
-        m_steps->setColumnWidth(column, letter * kLetters.at(size_t(column)));
+    m_steps->header()->setStretchLastSection(false);
+    m_steps->header()->setSectionResizeMode(QHeaderView::Stretch);
+    m_steps->header()->setSectionResizeMode(UpgradeModel::Change, QHeaderView::ResizeToContents);
     auto *copying = new QAction(Icons::icon(IconName::Copy), tr("&Copy"), m_steps);
     copying->setObjectName(QStringLiteral("copyUpgrade"));
     copying->setShortcuts(QKeySequence::Copy);
@@ -74,6 +72,20 @@ void UpgradeView::setUpgrade(const DocumentUpgrade &upgrade)
 qsizetype UpgradeView::changeCount() const
 {
     return m_model->changeCount();
+}
+
+QSize UpgradeView::sizeHint() const
+{
+    constexpr int kLetters = 116;
+    constexpr int kLines = 18;
+    return {fontMetrics().averageCharWidth() * kLetters, fontMetrics().lineSpacing() * kLines};
+}
+
+QSize UpgradeView::minimumSizeHint() const
+{
+    constexpr int kLetters = 40;
+    constexpr int kLines = 6;
+    return {fontMetrics().averageCharWidth() * kLetters, fontMetrics().lineSpacing() * kLines};
 }
 
 void UpgradeView::setTitle(const QString &text)

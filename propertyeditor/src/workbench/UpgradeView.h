@@ -25,6 +25,10 @@ public:
     /// Of all steps.
     [[nodiscard]] qsizetype changeCount() const;
 
+    /// With room for some steps, which a question is as large as.
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
 private:
     void copy();
 

@@ -43,10 +43,6 @@ QWidget *viewInQuestion(const DocumentUpgrade &upgrade)
         return nullptr;
     view->setTitle(Upgrades::tr("What the upgrade from %1 to %2 changes; nothing is written before you save:")
                        .arg(upgrade.from.toString(), upgrade.to.toString()));
-    constexpr int kLetters = 116;
-    constexpr int kLines = 14;
-    const QFontMetrics font = view->fontMetrics();
-    view->setMinimumSize(font.averageCharWidth() * kLetters, font.height() * kLines);
     return view.release();
 }
 

@@ -61,9 +61,16 @@ QJsonValue withoutCredentials(const QJsonValue &value)
 
 WorkflowUpgradeChange changeOf(const WorkflowDifference &difference)
 {
-    WorkflowUpgradeChange change{
-        WorkflowUpgradeChange::Kind::Changed, ResourceReferenceUtils::withoutCredentials(difference.path),
-        difference.property, withoutCredentials(difference.left), withoutCredentials(difference.right)};
+    const auto clean = &ResourceReferenceUtils::withoutCredentials;
+    WorkflowUpgradeChange change{WorkflowUpgradeChange::Kind::Changed,
+                                 clean(difference.path),
+                                 difference.property,
+                                 withoutCredentials(difference.left),
+                                 withoutCredentials(difference.right),
+                                 difference.tab,
+                                 difference.column,
+                                 difference.row,
+                                 clean(difference.below)};
     if (difference.kind == WorkflowDifference::Kind::Added)
         change.kind = WorkflowUpgradeChange::Kind::Added;
     if (difference.kind == WorkflowDifference::Kind::Removed)
@@ -75,6 +82,7 @@ WorkflowUpgradeChange changeOf(const WorkflowDifference &difference)
             continue;
         change.kind = member.kind;
         change.path.chop(member.suffix.size());
+        change.below.chop(std::min(change.below.size(), member.suffix.size()));
     }
     return change;
 }
@@ -119,8 +127,15 @@ QHash<qsizetype, qsizetype> renamingsAmong(const QList<WorkflowDifference> &diff
 
 WorkflowUpgradeChange renaming(const WorkflowDifference &removed, const WorkflowDifference &added)
 {
-    return {WorkflowUpgradeChange::Kind::Renamed, added.path, added.property, removed.property,
-            added.property};
+    return {WorkflowUpgradeChange::Kind::Renamed,
+            added.path,
+            added.property,
+            removed.property,
+            added.property,
+            added.tab,
+            added.column,
+            added.row,
+            added.below};
 }
 
 QList<WorkflowUpgradeChange> changesOf(QList<WorkflowDifference> differences,

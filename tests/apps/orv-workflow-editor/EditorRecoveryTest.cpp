@@ -5,7 +5,9 @@
 #include "TestData.h"
 #include "WidgetTest.h"
 
+#include <KPropertyEditorView.h>
 #include <KPropertySet.h>
+#include <KPropertyUtils.h>
 #include <orv/propertyeditor/grid/EditableTabBar.h>
 #include <orv/propertyeditor/grid/EditableTabWidget.h>
 #include <orv/propertyeditor/grid/GridItemCreators.h>
@@ -210,6 +212,9 @@ void EditorRecoveryTest::recoveredWorkflowsTellWhatChangedSinceTheSave()
     window->offerRecovery();
     recover(window);
     QCOMPARE(settings(*window)->property("Samples").value().toString(), u"two"_s);
+    const auto *rows = qobject_cast<KPropertyEditorView *>(QApplication::focusWidget());
+    QVERIFY(rows);
+    QCOMPARE(KPropertyUtils::propertyForIndex(rows->currentIndex())->name(), "Samples"_ba);
     QTest::keyClick(window, Qt::Key_F, Qt::ControlModifier);
     QTest::mouseClick(window->findChild<QCheckBox *>(u"changedSinceSaving"_s), Qt::LeftButton);
     const QAbstractItemModel *hits = window->findChild<QTreeView *>(u"findHits"_s)->model();
@@ -305,6 +310,8 @@ void EditorRecoveryTest::windowsThatOnlyShowedAreOpenedAgain()
     journal.close();
     EditorWindow *window = openWindow();
     window->offerRecovery();
+    QVERIFY(panelText(*window).contains(u"They have no unsaved changes."_s));
+    QVERIFY(!panelText(*window).contains(u"not saved"_s));
     recover(window);
     QCOMPARE(window->workflowFilePath(), m_file);
     const ScriptedAnswerer answers;

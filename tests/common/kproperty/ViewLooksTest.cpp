@@ -129,7 +129,10 @@ private Q_SLOTS:
     void cutTextsEndInAnEllipsis_data();
     void cutTextsEndInAnEllipsis();
     void fiveLinesAreShownWhole();
+    void groupRowsShowTheFocus_data();
     void groupRowsShowTheFocus();
+    void selectionsWithoutFocusHaveInactiveColours_data();
+    void selectionsWithoutFocusHaveInactiveColours();
     void emptyBoxesAreSeenInTheDark_data();
     void emptyBoxesAreSeenInTheDark();
     void theWheelChangesNothingInAnEditorThatWasNotClicked();
@@ -264,8 +267,16 @@ void ViewLooksTest::fiveLinesAreShownWhole()
     QCOMPARE(lastLineIsInked("MM\nMM\nMM\nMM\n "), 0);
 }
 
+void ViewLooksTest::groupRowsShowTheFocus_data()
+{
+    emptyBoxesAreSeenInTheDark_data();
+}
+
 void ViewLooksTest::groupRowsShowTheFocus()
 {
+    QFETCH(bool, dark);
+    const QPalette before = QApplication::palette();
+    const PaletteForNow palette(dark ? darkPalette() : before, before);
     Fixture fixture;
     const QModelIndex group = fixture.view.model()->index(1, 0);
     const QImage without = cell(fixture, group);
@@ -277,6 +288,48 @@ void ViewLooksTest::groupRowsShowTheFocus()
     QVERIFY(contrast(with.pixelColor(1, with.height() / 2), with.pixelColor(4, 3)) >= 3.0);
     fixture.view.setCurrentIndex(fixture.index("text").siblingAtColumn(0));
     QCOMPARE(cell(fixture, group), without);
+}
+
+void ViewLooksTest::selectionsWithoutFocusHaveInactiveColours_data()
+{
+    QTest::addColumn<QColor>("background");
+    QTest::addColumn<QColor>("text");
+    QTest::newRow("light") << QColor(0xB0, 0xB4, 0xB8) << QColor(0xFF, 0xFF, 0xFF);
+    QTest::newRow("dark") << QColor(0x45, 0x4A, 0x50) << QColor(0x70, 0x70, 0x70);
+    QTest::newRow("legible already") << QColor(0x20, 0x20, 0x60) << QColor(0xFF, 0xF0, 0xD0);
+}
+
+void ViewLooksTest::selectionsWithoutFocusHaveInactiveColours()
+{
+    QFETCH(QColor, background);
+    QFETCH(QColor, text);
+    const QPalette before = QApplication::palette();
+    QPalette inactive = before;
+    inactive.setColor(QPalette::Inactive, QPalette::Highlight, background);
+    inactive.setColor(QPalette::Inactive, QPalette::HighlightedText, text);
+    const PaletteForNow palette(inactive, before);
+    Fixture fixture;
+    fixture.view.setFocus();
+    const QModelIndex value = fixture.index("text");
+    fixture.view.setCurrentIndex(value.siblingAtColumn(0));
+    const auto at = [&](const QModelIndex &index) { return cell(fixture, index).pixelColor(1, 2); };
+    // Styles shade selections a little.
+    const auto areAlike = [](const QColor &first, const QColor &second) {
+        return contrast(first, second) < 1.1;
+    };
+    QVERIFY(areAlike(at(value), inactive.color(QPalette::Active, QPalette::Highlight)));
+    fixture.view.clearFocus();
+    for (const QModelIndex &index : {value, value.siblingAtColumn(0)}) {
+        QVERIFY2(areAlike(at(index), background), qPrintable(at(index).name()));
+        const QImage image = cell(fixture, index);
+        double best = 0;
+        for (int y = 2; y < image.height() - 2; ++y) {
+            for (int x = 2; x < image.width() - 2; ++x) {
+                best = std::max(best, contrast(image.pixelColor(x, y), background));
+            }
+        }
+        QVERIFY2(best >= 4.5, qPrintable(QString::number(best)));
+    }
 }
 
 void ViewLooksTest::emptyBoxesAreSeenInTheDark_data()

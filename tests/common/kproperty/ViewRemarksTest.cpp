@@ -136,6 +136,7 @@ private Q_SLOTS:
     void withoutToolTipsItIsToldAllTheSame();
     void screenReadersReadIt();
     void aSignStandsInTheCell();
+    void aRemarkHasTheSignOfItsKind();
     void aFoldedGroupShowsTheSignOfItsRows();
     void groupsTellTheRemarksOfTheirRows();
     void aCutValueStandsInTheToolTip();
@@ -293,6 +294,42 @@ void ViewRemarksTest::aSignStandsInTheCell()
     QVERIFY(f.view.viewport()->grab(cell).toImage() != plain);
     f.view.setRemark(f.set["picky"], QString());
     QCOMPARE(f.view.viewport()->grab(cell).toImage(), plain);
+}
+
+void ViewRemarksTest::aRemarkHasTheSignOfItsKind()
+{
+    using Kind = KPropertyEditorView::RemarkKind;
+    PickyFixture f;
+    const auto square = [](Qt::GlobalColor color) {
+        QPixmap pixmap(32, 32);
+        pixmap.fill(color);
+        return QIcon(pixmap);
+    };
+    f.view.setRemarkIcon(Kind::Hint, square(Qt::blue));
+    f.view.setRemarkIcon(Kind::Error, square(Qt::red));
+    const auto shows = [&f](const QModelIndex &index, Qt::GlobalColor color) {
+        const QImage image = f.view.viewport()->grab(f.view.visualRect(index)).toImage();
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixelColor(x, y) == QColor(color))
+                    return true;
+            }
+        }
+        return false;
+    };
+    QCOMPARE(f.view.remarkKind(f.set["picky"]), Kind::Warning);
+    f.view.setRemark(f.set["picky"], text("said"));
+    QCOMPARE(f.view.remarkKind(f.set["picky"]), Kind::Warning);
+    QVERIFY(!shows(f.cell(), Qt::red));
+    f.view.setRemark(f.set["picky"], text("said"), Kind::Error);
+    f.view.setRemark(f.set["before"], text("said"), Kind::Hint);
+    QVERIFY(shows(f.cell(), Qt::red));
+    QVERIFY(!shows(f.cell(), Qt::blue));
+    f.view.changeSet(&f.set);
+    QCOMPARE(f.view.remarkKind(f.set["picky"]), Kind::Error);
+    f.view.collapse(f.view.model()->index(0, 0));
+    QVERIFY(shows(f.view.model()->index(0, 0), Qt::red));
+    QVERIFY(!shows(f.view.model()->index(0, 0), Qt::blue));
 }
 
 void ViewRemarksTest::aFoldedGroupShowsTheSignOfItsRows()

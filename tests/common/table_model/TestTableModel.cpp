@@ -131,10 +131,12 @@ void TestTableModel::remarksStayWithTheirRows()
         return p.model.headerData(row, Qt::Vertical, TableModel::RemarkRole).toString();
     };
     QSignalSpy changes(&p.model, &QAbstractItemModel::headerDataChanged);
-    p.model.setRowRemarks({{p.sheet.rowId(2), u"odd"_s}});
+    p.model.setRowRemarks({{p.sheet.rowId(2), {u"odd"_s, false}}});
     QCOMPARE(changes.size(), 1);
     QCOMPARE(remarkAt(2), u"odd"_s);
     QCOMPARE(remarkAt(1), QString());
+    QCOMPARE(p.model.headerData(2, Qt::Vertical, TableModel::IsErrorRole), QVariant(false));
+    QVERIFY(!p.model.headerData(1, Qt::Vertical, TableModel::IsErrorRole).isValid());
     QCOMPARE(p.model.headerData(2, Qt::Vertical, Qt::ToolTipRole).toString(), u"odd"_s);
     QCOMPARE(p.model.headerData(2, Qt::Vertical, Qt::DisplayRole).toInt(), 3);
     p.sheet.moveRows({2}, 0);

@@ -10,6 +10,8 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QPushButton>
+#include <QScreen>
+#include <QTreeWidget>
 #include <QVBoxLayout>
 #include <QWhatsThis>
 
@@ -51,6 +53,8 @@ private Q_SLOTS:
     void textsFromFilesAreNoMarkup();
     void whatTellsNothingLeavesTheKey();
     void dialogsAnswerTheKeyToo();
+    void whatIsExplainedIsNotCovered_data();
+    void whatIsExplainedIsNotCovered();
 };
 
 void ControlHelpTest::cellsTellWhatTheirColumnHolds()
@@ -120,6 +124,45 @@ void ControlHelpTest::whatTellsNothingLeavesTheKey()
     QTest::keyClick(&line, Qt::Key_F1);
     QVERIFY(!isHelpShown());
     QCOMPARE(ControlHelp::explanation(nullptr), QString());
+}
+
+void ControlHelpTest::whatIsExplainedIsNotCovered_data()
+{
+    QTest::addColumn<int>("fromTop");
+    QTest::newRow("at the top") << 2;
+    QTest::newRow("in the middle") << 50;
+    QTest::newRow("at the bottom") << 97;
+}
+
+void ControlHelpTest::whatIsExplainedIsNotCovered()
+{
+    QFETCH(int, fromTop);
+    ControlHelp::install();
+    QTreeWidget tree;
+    tree.setWhatsThis(QStringList(12, text("A line of the explanation.")).join(u'\n'));
+    for (int i = 0; i < 100; ++i)
+        new QTreeWidgetItem(&tree, {text("row")});
+    const QRect screen = tree.screen()->availableGeometry();
+    tree.setGeometry(screen);
+    tree.show();
+    QVERIFY(QTest::qWaitForWindowActive(&tree));
+    tree.setFocus();
+    const QModelIndex row = tree.indexAt({5, tree.viewport()->height() * fromTop / 100});
+    QVERIFY(row.isValid());
+    tree.setCurrentIndex(row);
+    QTest::keyClick(&tree, Qt::Key_F1);
+    const QRect place = tree.visualRect(row);
+    const QRect explained(tree.viewport()->mapToGlobal(place.topLeft()), place.size());
+    int count = 0;
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->inherits("QWhatsThat")) {
+            ++count;
+            QVERIFY(!window->geometry().intersects(explained));
+            QVERIFY(screen.contains(window->geometry()));
+        }
+    }
+    QWhatsThis::hideText();
+    QCOMPARE(count, 1);
 }
 
 void ControlHelpTest::dialogsAnswerTheKeyToo()

@@ -8,7 +8,12 @@
 #include <QDialog>
 #include <QDir>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
 #include <QScopeGuard>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTemporaryDir>
 
 using namespace orv;
@@ -24,6 +29,42 @@ ORVStyle::Button askForUpgrade()
                               kUpgradeButtons,
                               {{QMessageBox::Yes, u"Apply"_s}, {QMessageBox::No, u"Apply and save..."_s}},
                               QMessageBox::Cancel, u"5.40.0"_s);
+}
+
+/// Shows boxes, and looks at each before it presses their careful button.
+class LookingAnswerer : public DialogAnswerer
+{
+public:
+    explicit LookingAnswerer(std::function<void(QDialog &)> look)
+        : m_look(std::move(look))
+        , m_earlier(DialogService::install(this))
+    {}
+    ~LookingAnswerer() override { DialogService::install(m_earlier); }
+
+    std::optional<DialogAnswer> answer(const DialogRequest &request) override
+    {
+        request.dialog->show();
+        (void)QTest::qWaitForWindowExposed(request.dialog);
+        m_look(*request.dialog);
+        return DialogAnswer{request.defaultButton, {}};
+    }
+
+private:
+    std::function<void(QDialog &)> m_look;
+    DialogAnswerer *m_earlier;
+};
+
+bool isInside(const QWidget &part, const QWidget &whole)
+{
+    return whole.rect().contains(QRect(part.mapTo(&whole, QPoint()), part.size())) &&
+           part.width() >= part.minimumSizeHint().width() && part.height() >= part.minimumSizeHint().height();
+}
+
+bool showsAllButtons(const QDialog &box)
+{
+    const QList<QPushButton *> buttons = box.findChildren<QPushButton *>();
+    return !buttons.isEmpty() &&
+           std::ranges::all_of(buttons, [&](const QPushButton *button) { return isInside(*button, box); });
 }
 
 struct NameBox : QDialog
@@ -56,6 +97,8 @@ private Q_SLOTS:
     void nothingChosenRemembersNothing();
     void foldersThatAreNotThereAreNotOffered();
     void theLayoutIsSwitched();
+    void boxesWithAListCanBeResized();
+    void longTextsOfBoxesScroll();
 };
 
 void DialogsTest::aScriptSeesAndAnswersABox()
@@ -218,6 +261,40 @@ void DialogsTest::theLayoutIsSwitched()
     }
     ORVStyle::setEnabled(std::nullopt);
     QVERIFY(ORVStyle::isEnabled());
+}
+
+void DialogsTest::boxesWithAListCanBeResized()
+{
+    auto *list = new QListWidget;
+    list->addItems(QStringList(200, u"A row"_s));
+    const LookingAnswerer person([list](QDialog &box) {
+        const QSize before = list->size();
+        box.resize(box.size() + QSize(60, 60));
+        QCoreApplication::processEvents();
+        QCOMPARE(list->size(), before + QSize(60, 60));
+        box.resize(400, 320);
+        QCoreApplication::processEvents();
+        QCOMPARE(box.size(), QSize(400, 320));
+        QVERIFY(showsAllButtons(box));
+        QVERIFY(isInside(*list, box));
+    });
+    ORVStyle::question(nullptr, u"Workflow upgrade"_s, u"A short text."_s, kUpgradeButtons, {},
+                       QMessageBox::Cancel, {}, list);
+}
+
+void DialogsTest::longTextsOfBoxesScroll()
+{
+    const QString text = QStringList(300, u"One of many lines."_s).join(u'\n');
+    const LookingAnswerer person([](QDialog &box) {
+        QVERIFY(box.height() <= box.screen()->availableSize().height());
+        QVERIFY(showsAllButtons(box));
+        const auto *area = box.findChild<QScrollArea *>();
+        QVERIFY(area);
+        QVERIFY(area->widget()->height() >= area->widget()->heightForWidth(area->widget()->width()));
+        QVERIFY(area->verticalScrollBar()->maximum() > 0);
+        QVERIFY(area->viewport()->height() > 3 * area->fontMetrics().height());
+    });
+    ORVStyle::warning(nullptr, u"Notes"_s, text, QMessageBox::Ok);
 }
 
 WIDGET_REGISTER_TEST(DialogsTest)

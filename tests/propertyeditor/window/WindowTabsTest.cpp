@@ -2,6 +2,7 @@
 #include "WindowFixture.h"
 
 #include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/grid/KPropertyCustomEditorView.h>
 #include <orv/propertyeditor/window/PropertyEditorWindowJsonFile.h>
 #include <orv/widgets/SamplesAndTracesInputWidget.h>
 
@@ -59,6 +60,7 @@ private Q_SLOTS:
     void rowsComeByFeature();
     void presetsReplaceTheCurrentTab();
     void presetsThatCannotBeReadChangeNothing();
+    void theNextTabShowsTheFocusInItsColumn();
     void presetsAreSaved();
     void presetsWithoutATab();
     void otherTabsAreNotSaved();
@@ -403,6 +405,35 @@ void WindowTabsTest::presetsKeepThePlaceOfTheTab()
     auto *view = qobject_cast<GridPropertyEditorView *>(designed.window.grid(1)->items().first()->widget());
     QVERIFY(!view->isExpanded());
     QVERIFY(log.texts(QtDebugMsg).contains(u"Updating dependent widgets"_s));
+}
+
+void WindowTabsTest::theNextTabShowsTheFocusInItsColumn()
+{
+    Window window;
+    QCOMPARE(window.openWorkflow(Documents::document(
+                 {Documents::tab(u"A"_s, {u"One"_s}, {karvonCell()}),
+                  Documents::tab(u"B"_s, {u"Two"_s}, {karvonCell()}),
+                  Documents::tab(u"C"_s, {u"Samples"_s}, {QJsonObject{{u"type"_s, u"Samples"_s}}})},
+                 metadata())),
+             kOpened);
+    window.show();
+    const auto rowsOf = [&](int tab) {
+        return qobject_cast<GridPropertyEditorView *>(window.grid(tab)->items().constFirst()->widget())
+            ->editorView();
+    };
+    rowsOf(0)->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+    QCOMPARE(window.tabs().currentIndex(), 1);
+    QCOMPARE(QApplication::focusWidget(), rowsOf(1));
+    QVERIFY(rowsOf(1)->currentIndex().isValid());
+    const QImage with = rowsOf(1)->grab().toImage();
+    rowsOf(1)->clearFocus();
+    QVERIFY(rowsOf(1)->grab().toImage() != with);
+    rowsOf(1)->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+    QCOMPARE(window.tabs().currentIndex(), 2);
+    QVERIFY(qobject_cast<QAbstractItemView *>(QApplication::focusWidget()));
+    QVERIFY(window.grid(2)->items().constFirst()->widget()->isAncestorOf(QApplication::focusWidget()));
 }
 
 WIDGET_REGISTER_TEST(WindowTabsTest)

@@ -2,12 +2,18 @@
 #include "WidgetTest.h"
 #include "editors/LeavingWays.h"
 
+#include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/workbench/FindSettings.h>
+#include <orv/widgets/ControlHelp.h>
 
 #include <QAction>
 #include <QCheckBox>
 #include <QMenu>
 #include <QProgressBar>
+#include <QScrollBar>
+#include <QWhatsThis>
+
+#include <algorithm>
 
 using namespace orv;
 using namespace ComparisonFixture;
@@ -34,6 +40,8 @@ private Q_SLOTS:
     void whatIsBeingTypedIsntLost();
     void differingSettingsAreAFilter();
     void keyboardAloneIsEnough();
+    void theHelpKeyExplainsTheRow();
+    void namesStandInLine();
 };
 
 void ComparisonTest::whatDiffersStandsInATree()
@@ -78,6 +86,34 @@ void ComparisonTest::equalDocumentsHaveNoDifferences()
     QCOMPARE(c.lines().join(u'\n'), QString());
     QCOMPARE(c.summary(), u"No differences to OTHER.wflw."_s);
     QCOMPARE(c.child<QLabel>("comparisonEmpty")->text(), u"No differences"_s);
+}
+
+void ComparisonTest::theHelpKeyExplainsTheRow()
+{
+    Compared c;
+    QVERIFY(c.compareWith(otherDocument()));
+    c.tree().setFocus();
+    c.tree().setCurrentIndex(c.rowOf(u"Peaks kept per spectrum"_s));
+    const QString told = PropertiesNames::tooltipForType(PropertyId::KarvonCentroidTopk);
+    QVERIFY(!told.isEmpty());
+    QVERIFY(ControlHelp::explanation(&c.tree()).contains(told.toHtmlEscaped()));
+    QTest::keyClick(&c.tree(), Qt::Key_F1);
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    QVERIFY(std::ranges::any_of(
+        windows, [](const QWidget *each) { return each->isVisible() && each->inherits("QWhatsThat"); }));
+    QWhatsThis::hideText();
+    c.tree().setCurrentIndex(c.rowOf(u"Analysis"_s));
+    QVERIFY(ControlHelp::explanation(&c.tree()).contains(u"What differs, and where."_s));
+}
+
+void ComparisonTest::namesStandInLine()
+{
+    Compared c;
+    QVERIFY(c.compareWith(otherDocument()));
+    const QModelIndex first = c.rowOf(u"Search cleavage residues"_s);
+    const QModelIndex column = c.rowOf(u"Karvon"_s);
+    QCOMPARE(c.tree().visualRect(first).height(), c.tree().visualRect(column).height());
+    QVERIFY(!c.tree().horizontalScrollBar()->isVisible());
 }
 
 namespace {

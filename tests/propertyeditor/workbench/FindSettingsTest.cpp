@@ -86,6 +86,7 @@ private Q_SLOTS:
     void anotherDocumentIsSearchedAnew();
     void tablesKeepTheirOwnSearch();
     void filtersOfOthersSayWhyTheyCantBeUsed();
+    void rowsKeepOneHeightAndCaptionsStandInLine();
     void filtersOfOthersFilter();
     void nothingFoundSaysWhatToDo();
     void theNumberIsToldAfterTyping();
@@ -344,6 +345,24 @@ void FindSettingsTest::filtersOfOthersSayWhyTheyCantBeUsed()
     QVERIFY(s.filter("hasFinding").toolTip().startsWith(u"Check the workflow first"_s));
     QVERIFY(!s.filter("differs").isEnabled());
     QVERIFY(s.filter("differs").accessibleDescription().startsWith(u"Open a second document"_s));
+}
+
+void FindSettingsTest::rowsKeepOneHeightAndCaptionsStandInLine()
+{
+    Search s(documentOf({karvonCell({inGroup("Masses", "KarvonPrecursorMassError", ppm(10)),
+                                     inGroup("Masses", "KarvonFragmentMassError", ppm(25))})}));
+    const auto first = [&s] { return s.list().model()->index(0, kCaption); };
+    s.type("KarvonPrecursorMassError");
+    QCOMPARE(s.captions().size(), 1);
+    const QColor indent = first().data(Qt::DecorationRole).value<QColor>();
+    QCOMPARE(indent, QColor(Qt::transparent));
+    const int height = s.list().visualRect(first()).height();
+    QVERIFY(height > 0);
+    s.field().clear();
+    s.type("KarvonFragmentMassError");
+    QCOMPARE(s.captions().size(), 1);
+    QVERIFY(!first().data(Qt::DecorationRole).value<QIcon>().isNull());
+    QCOMPARE(s.list().visualRect(first()).height(), height);
 }
 
 void FindSettingsTest::filtersOfOthersFilter()

@@ -4,13 +4,16 @@
 #include <orv/propertyeditor/validators/AbstractValidator.h>
 #include <orv/propertyeditor/workbench/FindSettings.h>
 #include <orv/propertyeditor/workbench/Findings.h>
+#include <orv/widgets/Icons.h>
 #include <orv/widgets/TableView.h>
 
 #include <QCheckBox>
 #include <QClipboard>
 #include <QMenu>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QThread>
+#include <QToolButton>
 
 using namespace orv;
 using namespace FindFixture;
@@ -140,6 +143,9 @@ private Q_SLOTS:
     void aCheckOpensThePanelWithWhatWasFound();
     void aCheckWithoutFindingsOpensNothing();
     void placesAreMarked();
+    void aSeverityHasOneSign();
+    void allColumnsAreInSight_data();
+    void allColumnsAreInSight();
     void aClickGoesToTheSetting();
     void keysGoFromFindingToFinding();
     void keysGoToRowsOfTables();
@@ -210,18 +216,66 @@ void FindingsTest::aCheckWithoutFindingsOpensNothing()
     QVERIFY(!c.panel("findingsPanel")->isVisible());
     QCOMPARE(c.child<QLabel>("findingsSummary")->text(), u"The check found nothing."_s);
     QVERIFY(!c.findings().nextAction()->isEnabled());
+    const auto *filter = c.child<QCheckBox>("hasFinding");
+    QVERIFY(!filter->isEnabled());
+    QCOMPARE(filter->toolTip(), u"The last check found nothing."_s);
+    QCOMPARE(filter->accessibleDescription(), filter->toolTip());
 }
 
 void FindingsTest::placesAreMarked()
 {
     Checked c;
     QVERIFY(c.check());
-    QVERIFY(c.remark().startsWith(u"\"In-silico peptides file\" specifies a non-existent file"_s));
+    QVERIFY(c.remark().startsWith(u"Error: \"In-silico peptides file\" specifies a non-existent file"_s));
     const TableModel *model = c.table().tableModel();
     QVERIFY(model->headerData(1, Qt::Vertical, TableModel::RemarkRole).toString().contains(u"\"S2\""_s));
     QVERIFY(!c.window->tabs().tabIcon(0).isNull());
     QVERIFY(!c.window->tabs().tabIcon(1).isNull());
     QCOMPARE(c.window->tabs().tabToolTip(0), u"Errors: 2, warnings: 0"_s);
+}
+
+void FindingsTest::aSeverityHasOneSign()
+{
+    Checked c;
+    QVERIFY(c.check());
+    const auto picture = [](const QIcon &icon) { return icon.pixmap(32).toImage(); };
+    const QImage error = picture(Icons::icon(IconName::Error));
+    const QModelIndex severity = c.list().model()->index(0, kSeverity);
+    QCOMPARE(picture(severity.data(Qt::DecorationRole).value<QIcon>()), error);
+    QCOMPARE(picture(c.window->tabs().tabIcon(1)), error);
+    QCOMPARE(picture(c.child<QToolButton>("statusFindings")->icon()), error);
+    const GridPropertyEditorView *column = c.view(1, 1);
+    const KPropertyEditorView &rows = *column->editorView();
+    const KProperty &property = column->propertySet()->property("InSilicoPeptidesFile");
+    QCOMPARE(rows.remarkKind(property), KPropertyEditorView::RemarkKind::Error);
+    QCOMPARE(picture(rows.remarkIcon(KPropertyEditorView::RemarkKind::Error)), error);
+    QCOMPARE(picture(rows.remarkIcon(KPropertyEditorView::RemarkKind::Warning)),
+             picture(Icons::icon(IconName::Warning)));
+    const TableModel *model = c.table().tableModel();
+    QCOMPARE(model->headerData(1, Qt::Vertical, TableModel::IsErrorRole), QVariant(true));
+}
+
+void FindingsTest::allColumnsAreInSight_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::newRow("a screen") << 1280;
+    QTest::newRow("half of one") << 640;
+}
+
+void FindingsTest::allColumnsAreInSight()
+{
+    QFETCH(int, width);
+    Checked c;
+    QVERIFY(c.check());
+    c.window->resize(width, 760);
+    QTRY_COMPARE(c.window->width(), width);
+    QTRY_VERIFY(!c.list().horizontalScrollBar()->isVisible());
+    const auto widthOf = [&c](int column) {
+        return c.list().visualRect(c.list().model()->index(0, column)).width();
+    };
+    QVERIFY(widthOf(kRule) < widthOf(kPlace));
+    QVERIFY(widthOf(kSeverity) >= c.list().sizeHintForColumn(kSeverity));
+    QVERIFY(widthOf(kMessage) > widthOf(kPlace));
 }
 
 void FindingsTest::aClickGoesToTheSetting()

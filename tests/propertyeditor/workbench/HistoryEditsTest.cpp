@@ -36,6 +36,8 @@ private Q_SLOTS:
     void stepsOfTablesCountAndAreForgotten();
     void aTabIsDraggedInOneStep();
     void randomEditsGoBackAndForth();
+    void theLoadedValueIsNoModification_data();
+    void theLoadedValueIsNoModification();
 };
 
 void HistoryEditsTest::columnsThatFollowKeepTheRedoneStep()
@@ -260,6 +262,50 @@ void HistoryEditsTest::randomEditsGoBackAndForth()
     while (edited.history->canRedo())
         edited.history->redo();
     QCOMPARE(edited.shown(), states.at(edited.history->index()));
+}
+
+void HistoryEditsTest::theLoadedValueIsNoModification_data()
+{
+    QTest::addColumn<QByteArray>("setting");
+    QTest::addColumn<QByteArray>("typed");
+    QTest::newRow("a number") << "KarvonCentroidTopk"_ba
+                              << "345"_ba;
+    QTest::newRow("a number with a unit") << "KarvonFragmentMassError"_ba
+                                          << "20"_ba;
+    QTest::newRow("a text") << "KarvonDigestLetters"_ba
+                            << "K"_ba;
+}
+
+void HistoryEditsTest::theLoadedValueIsNoModification()
+{
+    QFETCH(QByteArray, setting);
+    QFETCH(QByteArray, typed);
+    Edited edited;
+    const KProperty &property = edited.tree().propertySet()->property(setting);
+    const QByteArray loaded = edited.shown();
+    edited.type(setting.constData(), typed.constData());
+    edited.type("Samples", "other");
+    const QByteArray last = edited.shown();
+    QVERIFY(property.isModified());
+    edited.history->undo();
+    QVERIFY(property.isModified());
+    edited.history->undo();
+    letOthersFollow();
+    QVERIFY(!property.isModified());
+    QVERIFY(!edited.tree().propertySet()->property("Samples").isModified());
+    QCOMPARE(edited.shown(), loaded);
+    QVERIFY(!edited.history->canUndo());
+    edited.history->redo();
+    QVERIFY(property.isModified());
+    edited.history->redo();
+    letOthersFollow();
+    QCOMPARE(edited.shown(), last);
+    QVERIFY(!edited.history->canRedo());
+    edited.history->undo();
+    edited.history->undo();
+    letOthersFollow();
+    QVERIFY(!property.isModified());
+    QCOMPARE(edited.shown(), loaded);
 }
 
 WIDGET_REGISTER_TEST(HistoryEditsTest)

@@ -2,6 +2,7 @@
 #include "WindowFixture.h"
 #include "grid/WholeWorkflow.h"
 
+#include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/workbench/RecoveryJournal.h>
 #include <orv/propertyeditor/workbench/RecoveryStore.h>
 
@@ -98,6 +99,9 @@ class RecoveryTest : public WidgetTest
 private Q_SLOTS:
     void unsavedChangesOutliveTheProgram();
     void changesAreTold();
+    void numbersAreToldWithTheirUnits_data();
+    void numbersAreToldWithTheirUnits();
+    void theLastEditIsKept();
     void theWorkflowsOwnPropertiesAreChanges();
     void aStateLikeTheFileLeavesNothing();
     void documentsThatWereNeverSavedAreKept();
@@ -141,10 +145,68 @@ void RecoveryTest::changesAreTold()
     const RecoveryEntry entry = journals.leave({}, documentWith(u"*"_s), stateWith(u"A*"_s));
     QCOMPARE(entry.changes.count, 1);
     QCOMPARE(entry.changes.told.size(), 1);
-    QVERIFY2(entry.changes.told.first().place.startsWith(u"Analysis / Karvon"_s),
-             qPrintable(entry.changes.told.first().place));
+    QCOMPARE(entry.changes.told.first().place,
+             u"Analysis › Karvon › "_s + PropertiesNames::displayNameForType(PropertyId::Samples));
+    QCOMPARE(entry.lastEdit, (RecoveryPlace{u"Analysis"_s, u"Karvon"_s, u"Samples"_s}));
     QCOMPARE(entry.changes.told.first().before, u"*"_s);
     QCOMPARE(entry.changes.told.first().after, u"A*"_s);
+}
+
+void RecoveryTest::numbersAreToldWithTheirUnits()
+{
+    QFETCH(QString, setting);
+    QFETCH(QJsonValue, before);
+    QFETCH(QJsonValue, after);
+    const auto documentOfValue = [&](const QJsonValue &value) {
+        return documentOf({karvonCell({WindowFixture::setting(setting.toUtf8().constData(), value)})});
+    };
+    const Window registersKindsOfValues;
+    const Journals journals;
+    const RecoveryEntry entry =
+        journals.leave({}, documentOfValue(before), PropertyEditorContent(documentOfValue(after)));
+    QCOMPARE(entry.changes.count, 1);
+    QCOMPARE(entry.changes.told.size(), 1);
+    QTEST(entry.changes.told.first().before, "told before");
+    QTEST(entry.changes.told.first().after, "told after");
+    QVERIFY(!entry.changes.told.first().place.contains(u'/'));
+}
+
+void RecoveryTest::numbersAreToldWithTheirUnits_data()
+{
+    QTest::addColumn<QString>("setting");
+    QTest::addColumn<QJsonValue>("before");
+    QTest::addColumn<QJsonValue>("after");
+    QTest::addColumn<QString>("told before");
+    QTest::addColumn<QString>("told after");
+    const auto tolerance = [](double value, const QString &unit) {
+        return QJsonValue(QJsonObject{{u"value"_s, value}, {u"unit"_s, unit}});
+    };
+    QTest::newRow("another number") << u"KarvonFragmentMassError"_s << tolerance(10, u"ppm"_s)
+                                    << tolerance(5, u"ppm"_s) << u"10.00 ppm"_s << u"5.00 ppm"_s;
+    QTest::newRow("another unit, too") << u"KarvonFragmentMassError"_s << tolerance(10, u"ppm"_s)
+                                       << tolerance(0.5, u"Da"_s) << u"10.00 ppm"_s << u"0.50 Da"_s;
+}
+
+void RecoveryTest::theLastEditIsKept()
+{
+    const Journals journals;
+    const auto documentWithValues = [](const QString &samples, int peaks) {
+        return documentOf(
+            {settingsCell("Karvon", {setting("Samples", samples), setting("KarvonCentroidTopk", peaks)})});
+    };
+    {
+        RecoveryStore store(journals.folder);
+        const std::unique_ptr<RecoveryJournal> journal = store.newJournal();
+        const QSignalSpy written(journal.get(), &RecoveryJournal::written);
+        journal->begin({}, documentWithValues(u"*"_s, 1));
+        journal->write(PropertyEditorContent(documentWithValues(u"*"_s, 2)));
+        QTRY_COMPARE(written.size(), 1);
+        journal->write(PropertyEditorContent(documentWithValues(u"A*"_s, 2)));
+        QTRY_COMPARE(written.size(), 2);
+    }
+    const RecoveryEntry entry = RecoveryStore(journals.folder).entries().value(0);
+    QCOMPARE(entry.changes.count, 2);
+    QCOMPARE(entry.lastEdit, (RecoveryPlace{u"Analysis"_s, u"Karvon"_s, u"Samples"_s}));
 }
 
 void RecoveryTest::theWorkflowsOwnPropertiesAreChanges()

@@ -1,11 +1,14 @@
 #include "HistoryFixture.h"
 
+#include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/workbench/Upgrades.h>
 
 #include <QAction>
 #include <QClipboard>
 #include <QDockWidget>
 #include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTreeView>
 
@@ -44,6 +47,63 @@ QString cellOf(const QModelIndex &row, int column)
     return row.siblingAtColumn(column).data().toString();
 }
 
+QString captionOf(const char *setting)
+{
+    return PropertiesNames::displayNameForType(PropertiesNames::findPropertyForName(text(setting)));
+}
+
+/// What a cell needs to show all of its text in its width.
+int neededHeight(const QTreeView &view, const QModelIndex &cell)
+{
+    const int margins = 2 * (view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view) + 1);
+    const QRect room(0, 0, view.visualRect(cell).width() - margins, QWIDGETSIZE_MAX);
+    return view.fontMetrics().boundingRect(room, Qt::TextWordWrap, cell.data().toString()).height();
+}
+
+QStringList cutCells(const QTreeView &view)
+{
+    QStringList cut;
+    int rows = 0;
+    for (QModelIndex row = view.indexAt({1, 1}); row.isValid(); row = view.indexBelow(row), ++rows) {
+        for (int column = 0; column < view.model()->columnCount(); ++column) {
+            const QModelIndex cell = row.siblingAtColumn(column);
+            const QString text = cell.data().toString();
+            if (!view.visualRect(cell).isEmpty() && view.visualRect(cell).height() < neededHeight(view, cell))
+                cut.append(text);
+        }
+    }
+    return rows > 20 ? cut : QStringList(u"only %1 rows"_s.arg(rows));
+}
+
+/// Looks at the question in a size, and cancels it.
+class UpgradeReader : public DialogAnswerer
+{
+public:
+    std::optional<DialogAnswer> answer(const DialogRequest &request) override
+    {
+        request.dialog->show();
+        request.dialog->resize(size);
+        (void)QTest::qWaitForWindowExposed(request.dialog);
+        wasAsked = true;
+        read(*request.dialog);
+        return DialogAnswer{u"Cancel"_s, {}};
+    }
+
+    QSize size;
+    bool wasAsked = false;
+
+private:
+    void read(const QDialog &box) const
+    {
+        QCOMPARE(box.size(), size);
+        const auto *view = box.findChild<QTreeView *>(u"upgradeSteps"_s);
+        QVERIFY(!view->horizontalScrollBar()->isVisible());
+        QTRY_COMPARE(cutCells(*view).join(u'\n'), QString());
+        for (const QPushButton *button : box.findChildren<QPushButton *>())
+            QVERIFY(box.rect().contains(QRect(button->mapTo(&box, QPoint()), button->size())));
+    }
+};
+
 } // namespace
 
 class UpgradesTest : public WidgetTest
@@ -62,6 +122,8 @@ private Q_SLOTS:
     void rowsAreCopied();
     void otherDocumentsHaveNoSteps();
     void escapeClosesThePanel();
+    void theQuestionCutsNothing_data();
+    void theQuestionCutsNothing();
 };
 
 void UpgradesTest::upgradesAreTakenBackAndAppliedAgain()
@@ -169,7 +231,7 @@ void UpgradesTest::thePanelTellsStepByStep()
     QCOMPARE(headlines, QStringList({u"5.6.0, changes: 25"_s, u"5.15.0, changes: 1"_s,
                                      u"5.21.0, changes: 1"_s, u"5.41.0, changes: 1"_s}));
     const QModelIndex renamed = steps.index(5, 0, steps.index(0, 0));
-    QCOMPARE(cellOf(renamed, 0), u"Search / MS/MS search / row 0 / KarvonFragmentMassError"_s);
+    QCOMPARE(cellOf(renamed, 0), u"Search › MS/MS search › "_s + captionOf("KarvonFragmentMassError"));
     QCOMPARE(cellOf(renamed, 1), u"renamed"_s);
     QCOMPARE(cellOf(renamed, 2), u"fragment_mass_error"_s);
     QCOMPARE(cellOf(renamed, 3), u"KarvonFragmentMassError"_s);
@@ -204,7 +266,7 @@ void UpgradesTest::rowsAreCopied()
     view->setCurrentIndex(view->model()->index(0, 0, view->model()->index(1, 0)));
     edited.key(Qt::Key_C);
     QCOMPARE(QGuiApplication::clipboard()->text(),
-             u"Search / MS/MS search / row 0 / ExportSearchReport\tadded\t\tfalse"_s);
+             u"Search › MS/MS search › %1\tadded\t\tfalse"_s.arg(captionOf("ExportSearchReport")));
 }
 
 void UpgradesTest::otherDocumentsHaveNoSteps()
@@ -225,6 +287,25 @@ void UpgradesTest::escapeClosesThePanel()
     view->setFocus();
     QTest::keyClick(view, Qt::Key_Escape);
     QVERIFY(!edited.isPanelOpen());
+}
+
+void UpgradesTest::theQuestionCutsNothing_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("a screen") << QSize(1200, 700);
+    QTest::newRow("half of one") << QSize(640, 700);
+}
+
+void UpgradesTest::theQuestionCutsNothing()
+{
+    QFETCH(QSize, size);
+    Edited edited;
+    UpgradeReader reader;
+    reader.size = size;
+    DialogAnswerer *before = DialogService::install(&reader);
+    (void)edited.window.openWorkflow(Upgraded::path());
+    DialogService::install(before);
+    QVERIFY(reader.wasAsked);
 }
 
 WIDGET_REGISTER_TEST(UpgradesTest)

@@ -39,6 +39,14 @@ public:
     };
     Q_DECLARE_FLAGS(SetOptions, SetOption)
 
+    /// How bad is what a remark tells, from least to worst.
+    enum class RemarkKind
+    {
+        Hint,
+        Warning,
+        Error,
+    };
+
     /// An invalid colour means no lines.
     QColor gridLineColor() const;
     static QColor defaultGridLineColor() { return Qt::gray; }
@@ -58,12 +66,17 @@ public:
     /// the text in the tool tip and for screen readers. It stays until the value changes, an editor of the
     /// row is left other than by Escape, or another set comes; an empty text takes it away. A folded group
     /// shows the sign of its rows.
-    void setRemark(const KProperty &property, const QString &text);
+    void setRemark(const KProperty &property, const QString &text, RemarkKind kind = RemarkKind::Warning);
     QString remark(const KProperty &property) const;
+    /// Warning without a remark.
+    RemarkKind remarkKind(const KProperty &property) const;
+    /// The sign of such remarks in this view, in place of that of the style.
+    void setRemarkIcon(RemarkKind kind, const QIcon &icon);
+    QIcon remarkIcon(RemarkKind kind) const;
 
     /// The same for what \a editor of this view edits or edited: why a text was put back, say. Nothing is
     /// said after Escape.
-    void setRemark(const QWidget *editor, const QString &text);
+    void setRemark(const QWidget *editor, const QString &text, RemarkKind kind = RemarkKind::Warning);
 
 public Q_SLOTS:
     /// Builds the tree anew, also for the same set. An open editor commits first.
@@ -105,6 +118,7 @@ protected:
     /// The value of a property for its tool tip, where that is more than its cell shows.
     virtual QString wholeValueText(const KProperty &property, const QString &shown) const;
 
+    void initViewItemOption(QStyleOptionViewItem *option) const override;
     bool viewportEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;

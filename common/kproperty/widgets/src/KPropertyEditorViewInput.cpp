@@ -212,6 +212,15 @@ void KPropertyEditorView::drawBranches(QPainter *painter, const QRect &rect, con
                                      isExpanded(index));
 }
 
+/// Where the keys don't go, the selection has the colours of views without focus.
+void KPropertyEditorView::initViewItemOption(QStyleOptionViewItem *option) const
+{
+    QTreeView::initViewItemOption(option);
+    option->state.setFlag(QStyle::State_Active, option->state.testFlag(QStyle::State_Active) &&
+                                                    (hasFocus() || d->delegate->editor()));
+    Internal::Painting::makeSelectionLegible(&option->palette);
+}
+
 void KPropertyEditorView::drawGroup(QPainter *painter, const QStyleOptionViewItem &option, const QRect &row,
                                     const QModelIndex &index) const
 {
@@ -229,23 +238,6 @@ void KPropertyEditorView::drawGroup(QPainter *painter, const QStyleOptionViewIte
     }
 }
 
-/// Behind the caption, where it is seen however wide the column is.
-void KPropertyEditorView::drawRemarkSign(QPainter *painter, const QStyleOptionViewItem &option,
-                                         const QRect &row, const QModelIndex &group) const
-{
-    QFont bold = option.font;
-    bold.setBold(true);
-    const int size = option.fontMetrics.height();
-    const int margin = Internal::Painting::textMargin();
-    const int icon = group.data(Qt::DecorationRole).isNull() ? 0 : size + margin;
-    const int caption = QFontMetrics(bold).horizontalAdvance(group.data().toString());
-    const int left = std::min(row.left() + 16 + icon + caption + 2 * margin, row.right() - margin - size);
-    const QRect sign(left, row.center().y() - size / 2, size, size);
-    style()
-        ->standardIcon(QStyle::SP_MessageBoxWarning, &option, this)
-        .paint(painter, QStyle::visualRect(layoutDirection(), row, sign));
-}
-
 void KPropertyEditorView::drawRow(QPainter *painter, const QStyleOptionViewItem &option,
                                   const QModelIndex &index) const
 {
@@ -257,8 +249,11 @@ void KPropertyEditorView::drawRow(QPainter *painter, const QStyleOptionViewItem 
         const QRect revert = revertButtonArea(index);
         if (revert.isValid()) {
             const bool isSelected = selectionModel()->isSelected(index);
+            QPalette colors = option.palette;
+            colors.setCurrentColorGroup(option.state.testFlag(QStyle::State_Active) ? QPalette::Active
+                                                                                    : QPalette::Inactive);
             Internal::Painting::drawRevertButton(
-                painter, revert, isSelected ? Internal::Painting::ofSelection(palette()) : palette());
+                painter, revert, isSelected ? Internal::Painting::ofSelection(colors) : palette());
         }
     }
     if (d->gridLineColor.isValid()) {

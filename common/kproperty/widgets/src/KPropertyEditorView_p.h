@@ -5,9 +5,11 @@
 #include "internal/EditorDataModel.h"
 #include "internal/ItemDelegate.h"
 
+#include <QIcon>
 #include <QPersistentModelIndex>
 #include <QPointer>
 
+#include <array>
 #include <optional>
 
 class KPropertyEditorView::Private
@@ -17,6 +19,7 @@ public:
     Internal::EditorDataModel *model = nullptr;
     Internal::ItemDelegate *delegate = nullptr;
     QColor gridLineColor = KPropertyEditorView::defaultGridLineColor();
+    std::array<QIcon, 3> remarkIcons; ///< by RemarkKind; a null one is that of the style
     QPersistentModelIndex pressed;
     bool childItemsExpanded = true;
     bool groupItemsExpanded = true;

@@ -145,8 +145,12 @@ QVariant TableModel::Private::rowHeader(int row, int role) const
         return q->sheetRow(row) + 1;
     const bool isRemark =
         role == RemarkRole || role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole;
-    const QString remark = isRemark ? remarks.value(shown.at(row)) : QString();
-    return remark.isEmpty() ? QVariant() : QVariant(remark);
+    if (!isRemark && role != IsErrorRole)
+        return {};
+    const auto remark = remarks.constFind(shown.at(row));
+    if (remark == remarks.cend() || remark->text.isEmpty())
+        return {};
+    return isRemark ? QVariant(remark->text) : QVariant(remark->isError);
 }
 
 QList<quint32> TableModel::Private::filtered(const QList<quint32> &ids) const

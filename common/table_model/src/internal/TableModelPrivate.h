@@ -45,7 +45,7 @@ public:
     TableFilter filter;
     QList<int> hiddenColumns;
     Notes notes;
-    QHash<quint32, QString> remarks;
+    QHash<quint32, TableRowRemark> remarks;
     bool isNarrowingAllowed = false; ///< what isn't shown can't match a longer text
 };
 

@@ -1,11 +1,12 @@
 #include "orv/widgets/ORVStyle.h"
 
+#include "MessageBox.h"
+
 #include <orv/core/Settings.h>
 #include <orv/widgets/DialogService.h>
 #include <orv/widgets/Icons.h>
 
 #include <QAbstractButton>
-#include <QGridLayout>
 #include <QPointer>
 #include <QPushButton>
 #include <QStyle>
@@ -63,7 +64,7 @@ ORVStyle::Button escapeButton(const BoxContent &content)
     return QMessageBox::NoButton;
 }
 
-void fillBox(QMessageBox &box, const BoxContent &content)
+void fillBox(MessageBox &box, const BoxContent &content)
 {
     box.setWindowTitle(content.title);
     box.setTextFormat(content.text.isHtml() ? Qt::RichText : Qt::PlainText);
@@ -79,17 +80,17 @@ void fillBox(QMessageBox &box, const BoxContent &content)
     box.setDefaultButton(content.defaultButton != QMessageBox::NoButton ? content.defaultButton : escape);
     if (!content.details.isEmpty())
         box.setDetailedText(content.details);
-    if (auto *layout = qobject_cast<QGridLayout *>(box.layout()); layout && content.below)
-        layout->addWidget(content.below, layout->rowCount(), 0, 1, layout->columnCount());
+    box.setBelow(content.below);
 }
 
-DialogRequest requestOf(const BoxKind &kind, const QMessageBox &box, const BoxContent &content)
+DialogRequest requestOf(const BoxKind &kind, QMessageBox &box, const BoxContent &content)
 {
     DialogRequest request;
     request.kind = kind.kind;
     request.title = content.title;
     request.text = content.text.toPlainText();
     request.details = content.details;
+    request.dialog = &box;
     for (const QAbstractButton *button : box.buttons()) {
         if (box.standardButton(const_cast<QAbstractButton *>(button)) != QMessageBox::NoButton)
             request.buttons.append(withoutMnemonic(button->text()));
@@ -111,7 +112,7 @@ ORVStyle::Button buttonOf(const QMessageBox &box, const QString &text, ORVStyle:
 ORVStyle::Button showBox(QWidget *parent, const BoxKind &kind, const BoxContent &content)
 {
     // The parent may go while the box waits, and takes it along.
-    const QPointer<QMessageBox> box = new QMessageBox(parent);
+    const QPointer<MessageBox> box = new MessageBox(parent);
     box->setObjectName(QStringLiteral("messageBox"));
     box->setIcon(kind.icon);
     const int side = box->style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, box);

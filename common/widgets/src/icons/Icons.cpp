@@ -59,7 +59,6 @@ constexpr std::array kIcons = {
     IconRow{IconName::User, "user", nullptr},
     IconRow{IconName::ExpandAll, "expand-all", nullptr},
     IconRow{IconName::CollapseAll, "collapse-all", nullptr},
-    IconRow{IconName::Problem, "problem", &MeaningColors::error},
     IconRow{IconName::Error, "error", &MeaningColors::error},
     IconRow{IconName::Warning, "warning", &MeaningColors::warning},
     IconRow{IconName::Question, "question", nullptr},

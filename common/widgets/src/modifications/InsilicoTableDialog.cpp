@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
+#include <QScreen>
 #include <QSet>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -202,7 +203,9 @@ void InsilicoTableDialog::build(const RowNode &proteins)
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     constexpr int kLetters = 190;
-    resize(fontMetrics().averageCharWidth() * kLetters, fontMetrics().height() * 36);
+    constexpr int kInTenths = 9;
+    const QSize wanted(fontMetrics().averageCharWidth() * kLetters, fontMetrics().height() * 36);
+    resize(wanted.boundedTo(screen()->availableSize() * kInTenths / 10));
 }
 
 RowNode InsilicoTableDialog::insilicoPeptides() const

@@ -1,5 +1,6 @@
 #include "DigestBar.h"
 
+#include "../scientific/ElidedLine.h"
 #include "../scientific/UnitField.h"
 
 #include <orv/widgets/MeaningColors.h>
@@ -44,7 +45,7 @@ DigestBar::DigestBar(QWidget *parent)
 {
     m_rule = new QComboBox;
     m_rule->setObjectName(QStringLiteral("digestRule"));
-    m_rule->setEditable(true);
+    m_rule->setLineEdit(new ElidedLine);
     m_rule->addItems(commonRules());
     m_rule->setAccessibleName(tr("Digest"));
     m_rule->setToolTip(tr("Enzyme as name @ residues | side of the cut."));
@@ -57,6 +58,7 @@ DigestBar::DigestBar(QWidget *parent)
                            tr("Residues of the longest peptide that can be seen."), 1, kLongestPeptide, 60);
     m_problem = new QLabel;
     m_problem->setObjectName(QStringLiteral("digestProblem"));
+    m_problem->setWordWrap(true);
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
     const auto add = [&](const QString &text, QWidget *field, int stretch) {

@@ -1,9 +1,10 @@
 #include "RowNumbers.h"
 
 #include <orv/table_model/TableModel.h>
-#include <orv/widgets/MeaningColors.h>
+#include <orv/widgets/Icons.h>
 
 #include <QEvent>
+#include <QIcon>
 #include <QPainter>
 #include <QStyle>
 
@@ -53,8 +54,9 @@ void RowNumbers::paintSection(QPainter *painter, const QRect &section, int logic
         return;
     const int size = fontMetrics().height();
     const QRect sign(section.left() + signMargin(), section.center().y() - size / 2, size, size);
-    MeaningColors::paintErrorSign(*painter, QStyle::visualRect(layoutDirection(), section, sign),
-                                  MeaningColors::error(palette()));
+    const bool isError = model()->headerData(logicalIndex, Qt::Vertical, TableModel::IsErrorRole).toBool();
+    Icons::icon(isError ? IconName::Error : IconName::Warning)
+        .paint(painter, QStyle::visualRect(layoutDirection(), section, sign));
 }
 
 void RowNumbers::changeEvent(QEvent *event)

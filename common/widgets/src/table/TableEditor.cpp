@@ -249,7 +249,7 @@ void TableEditor::showCounts()
     const int problems = d->sheet()->problemCount() + int(d->view->tableModel()->rowRemarks().size());
     d->onlyProblems->setText(problems == 0 ? tr("No problems")
                                            : tr("Problems: %1").arg(locale.toString(problems)));
-    d->onlyProblems->setIcon(problems == 0 ? QIcon() : Icons::icon(IconName::Problem));
+    d->onlyProblems->setIcon(problems == 0 ? QIcon() : Icons::icon(IconName::Error));
     d->onlyProblems->setEnabled(problems > 0 || d->onlyProblems->isChecked());
     QPalette colors = palette();
     if (problems > 0)

@@ -8,6 +8,7 @@
 
 #include <orv/widgets/ControlHelp.h>
 #include <orv/widgets/Icons.h>
+#include <orv/widgets/SelectionLook.h>
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -204,6 +205,12 @@ void TableView::goTo(const QModelIndex &index)
 {
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
     scrollTo(index);
+}
+
+void TableView::initViewItemOption(QStyleOptionViewItem *option) const
+{
+    QTableView::initViewItemOption(option);
+    SelectionLook::apply(*this, option);
 }
 
 void TableView::paintEvent(QPaintEvent *event)

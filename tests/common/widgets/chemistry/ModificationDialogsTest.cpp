@@ -11,10 +11,14 @@
 #include <orv/widgets/ModificationsDialog.h>
 
 #include <QComboBox>
+#include <QHelpEvent>
+#include <QLineEdit>
 #include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabWidget>
+#include <QToolTip>
 
 using namespace orv;
 using namespace ChemistryFixture;
@@ -64,6 +68,7 @@ private Q_SLOTS:
     void glycansFollowTheirText();
     void glycansAreAskedOfThePerson();
     void peptidesAreDigestedLive();
+    void aCutDigestShowsThatItGoesOn();
     void editedPeptidesStay();
     void setPeptidesComeBackAsTheyWere();
     void controlsOfDialogsAreNamed();
@@ -299,6 +304,32 @@ void ModificationDialogsTest::peptidesAreDigestedLive()
     QTest::keyClicks(rule, text("no rule"));
     QCOMPARE(peptidesOf(dialog), QList<QStringList>({first}));
     QVERIFY(!dialog.findChild<QLabel *>(text("digestProblem"))->text().isEmpty());
+}
+
+void ModificationDialogsTest::aCutDigestShowsThatItGoesOn()
+{
+    InsilicoTableDialog dialog{RowNode(), RowNode()};
+    QVERIFY(dialog.width() <= dialog.screen()->availableSize().width());
+    show(&dialog);
+    auto *const rule = dialog.findChild<QComboBox *>(text("digestRule"));
+    const QString cut = text("Chymotrypsin with a long name @ F,L,W,Y | C-term");
+    const auto tipAt = [rule] {
+        QToolTip::hideText();
+        QHelpEvent asked(QEvent::ToolTip, {5, 5}, rule->lineEdit()->mapToGlobal(QPoint(5, 5)));
+        QCoreApplication::sendEvent(rule->lineEdit(), &asked);
+        return QToolTip::text();
+    };
+    rule->setEditText(cut);
+    rule->lineEdit()->clearFocus();
+    dialog.resize(640, 600);
+    QTRY_COMPARE(dialog.width(), 640);
+    QVERIFY(rule->lineEdit()->width() < rule->fontMetrics().horizontalAdvance(cut));
+    QVERIFY(tipAt().contains(cut.toHtmlEscaped()));
+    const QImage elided = rule->lineEdit()->grab().toImage();
+    rule->setEditText(text("Chymotrypsin with a long name @ F,L,W,Y | N-term"));
+    QCOMPARE(rule->lineEdit()->grab().toImage(), elided);
+    rule->setEditText(text("K @ K | C"));
+    QVERIFY(!tipAt().contains(text("K @ K")));
 }
 
 void ModificationDialogsTest::editedPeptidesStay()

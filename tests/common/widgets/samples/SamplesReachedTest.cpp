@@ -280,7 +280,7 @@ void SamplesReachedTest::findingsOfRowsAreProblems()
     TableModel *const model = widget.table()->tableModel();
     QToolButton *const problems = widget.button("onlyProblems");
     QCOMPARE(problems->text(), u"No problems"_s);
-    model->setRowRemarks({{model->rowId(1), u"The file does not exist"_s}});
+    model->setRowRemarks({{model->rowId(1), {u"The file does not exist"_s}}});
     QCOMPARE(problems->text(), u"Problems: 1"_s);
     Hands::press(widget, "onlyProblems");
     QCOMPARE(model->rowCount(), 1);

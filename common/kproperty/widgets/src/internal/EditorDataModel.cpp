@@ -90,7 +90,7 @@ EditorDataModel::~EditorDataModel() = default;
 void EditorDataModel::setSet(KPropertySet *set, Options options)
 {
     beginResetModel();
-    const QHash<QByteArray, QString> kept = set == m_set ? remarks() : QHash<QByteArray, QString>();
+    const QHash<QByteArray, Remark> kept = set == m_set ? remarks() : QHash<QByteArray, Remark>();
     m_set = set;
     m_nodes.clear();
     m_root = std::make_unique<Node>();
@@ -99,31 +99,33 @@ void EditorDataModel::setSet(KPropertySet *set, Options options)
     }
     for (auto it = kept.cbegin(); it != kept.cend(); ++it) {
         if (Node *const node = m_nodes.value(&m_set->property(it.key()))) {
-            node->remark = it.value();
+            node->remark = it.value().text;
+            node->remarkKind = it.value().kind;
         }
     }
     endResetModel();
 }
 
-QHash<QByteArray, QString> EditorDataModel::remarks() const
+QHash<QByteArray, EditorDataModel::Remark> EditorDataModel::remarks() const
 {
-    QHash<QByteArray, QString> remarks;
+    QHash<QByteArray, Remark> remarks;
     for (auto it = m_nodes.cbegin(); it != m_nodes.cend(); ++it) {
         // Names of children aren't unique.
         if (!it.value()->remark.isEmpty() && !it.key()->parent()) {
-            remarks.insert(it.key()->name(), it.value()->remark);
+            remarks.insert(it.key()->name(), {it.value()->remark, it.value()->remarkKind});
         }
     }
     return remarks;
 }
 
-void EditorDataModel::setRemark(const KProperty *property, const QString &text)
+void EditorDataModel::setRemark(const KProperty *property, const QString &text, RemarkKind kind)
 {
     Node *const node = m_nodes.value(property);
-    if (!node || node->remark == text) {
+    if (!node || (node->remark == text && (text.isEmpty() || node->remarkKind == kind))) {
         return;
     }
     node->remark = text;
+    node->remarkKind = kind;
     const QModelIndex name = indexOf(node, NameColumn);
     const QList<int> roles = {Qt::ToolTipRole, Qt::AccessibleDescriptionRole};
     Q_EMIT dataChanged(name, name.siblingAtColumn(ValueColumn), roles);
@@ -136,6 +138,23 @@ QString EditorDataModel::remark(const KProperty *property) const
 {
     const Node *const node = m_nodes.value(property);
     return node ? node->remark : QString();
+}
+
+EditorDataModel::RemarkKind EditorDataModel::remarkKind(const KProperty *property) const
+{
+    const Node *const node = m_nodes.value(property);
+    return node && !node->remark.isEmpty() ? node->remarkKind : RemarkKind::Warning;
+}
+
+EditorDataModel::RemarkKind EditorDataModel::worstRemarkIn(const QModelIndex &group) const
+{
+    RemarkKind worst = RemarkKind::Hint;
+    for (const std::unique_ptr<Node> &child : nodeOf(group)->children) {
+        if (child && !child->remark.isEmpty()) {
+            worst = std::max(worst, child->remarkKind);
+        }
+    }
+    return worst;
 }
 
 QString EditorDataModel::remarksIn(const Node &group)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KPropertyEditorView.h"
 #include "RowOrder.h"
 
 #include <QAbstractItemModel>
@@ -33,6 +34,8 @@ public:
         bool groupsVisible = true;
     };
 
+    using RemarkKind = KPropertyEditorView::RemarkKind;
+
     explicit EditorDataModel(QObject *parent = nullptr);
     ~EditorDataModel() override;
 
@@ -41,10 +44,13 @@ public:
     void removeProperty(const KProperty *property);
     /// A sentence at the row of \a property; an empty one takes it away. Rows that are made anew for the same
     /// set keep theirs.
-    void setRemark(const KProperty *property, const QString &text);
+    void setRemark(const KProperty *property, const QString &text, RemarkKind kind = RemarkKind::Warning);
     [[nodiscard]] QString remark(const KProperty *property) const;
+    [[nodiscard]] RemarkKind remarkKind(const KProperty *property) const;
     /// Of the rows in a group, one below the other, the first few; empty for none and for other rows.
     [[nodiscard]] QString remarksIn(const QModelIndex &group) const;
+    /// A hint where it has none.
+    [[nodiscard]] RemarkKind worstRemarkIn(const QModelIndex &group) const;
     /// Tells views that the value of \a property or of its children changed.
     void refresh(const KProperty *property);
     void refreshAll();
@@ -71,13 +77,20 @@ private:
         KProperty *property = nullptr;
         QByteArray group;
         QString remark;
+        RemarkKind remarkKind = RemarkKind::Warning;
         /// The place among the children of the parent, which stays when others go.
         std::size_t slot = 0;
         std::vector<std::unique_ptr<Node>> children;
         RowOrder rows;
     };
 
-    [[nodiscard]] QHash<QByteArray, QString> remarks() const;
+    struct Remark
+    {
+        QString text;
+        RemarkKind kind;
+    };
+
+    [[nodiscard]] QHash<QByteArray, Remark> remarks() const;
     void build(Options options);
     Node *addNode(Node *parent, KProperty *property);
     void forget(const Node &node);

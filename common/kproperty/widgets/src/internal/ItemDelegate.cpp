@@ -175,7 +175,7 @@ void ItemDelegate::paintValue(QPainter *painter, const QStyleOptionViewItem &opt
     }
     valueOption.rect = Painting::besideRevertButton(option, property);
     if (!m_model->remark(&property).isEmpty()) {
-        paintRemarkSign(painter, &valueOption);
+        paintRemarkSign(painter, &valueOption, property);
     }
     painter->save();
     painter->setClipRect(valueOption.rect, Qt::IntersectClip);
@@ -185,13 +185,14 @@ void ItemDelegate::paintValue(QPainter *painter, const QStyleOptionViewItem &opt
     painter->restore();
 }
 
-void ItemDelegate::paintRemarkSign(QPainter *painter, QStyleOptionViewItem *option) const
+void ItemDelegate::paintRemarkSign(QPainter *painter, QStyleOptionViewItem *option,
+                                   const KProperty &property) const
 {
     const int size = option->fontMetrics.height();
     QRect sign(option->rect.left() + Painting::textMargin(), option->rect.top() + Painting::verticalPadding(),
                size, size);
     Painting::placeInFront(&sign, option);
-    m_view->style()->standardIcon(QStyle::SP_MessageBoxWarning, option, m_view).paint(painter, sign);
+    Painting::drawSign(painter, sign, *option, m_view->remarkIcon(m_model->remarkKind(&property)));
 }
 
 void ItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,

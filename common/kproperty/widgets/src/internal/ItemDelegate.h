@@ -111,7 +111,7 @@ private:
     void sendEditEvent(QWidget *asking);
     void paintName(QPainter *painter, const QStyleOptionViewItem &option, const KProperty &property,
                    const QModelIndex &index) const;
-    void paintRemarkSign(QPainter *painter, QStyleOptionViewItem *option) const;
+    void paintRemarkSign(QPainter *painter, QStyleOptionViewItem *option, const KProperty &property) const;
     void paintValue(QPainter *painter, const QStyleOptionViewItem &option, const KProperty &property,
                     const QModelIndex &index) const;
     void prepareEditor(QWidget *editor, const KProperty &property) const;

@@ -9,10 +9,41 @@
 #include <QStyle>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <utility>
 
 namespace Internal::Painting {
+
+namespace {
+
+double luminance(const QColor &color)
+{
+    const auto linear = [](double part) {
+        constexpr double kLinearUpTo = 0.04045;
+        return part <= kLinearUpTo ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+/// As WCAG defines it, from 1 to 21.
+double contrast(const QColor &first, const QColor &second)
+{
+    const auto [dark, light] = std::minmax({luminance(first), luminance(second)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+/// That of selections, unless that can't be told from headings or rows, as in the dark.
+QColor focusColor(const QPalette &palette)
+{
+    constexpr double kVisible = 3.0;
+    const QColor color = palette.color(QPalette::Highlight);
+    const bool isVisible = contrast(color, palette.color(QPalette::Button)) >= kVisible &&
+                           contrast(color, palette.color(QPalette::Base)) >= kVisible;
+    return isVisible ? color : palette.color(QPalette::ButtonText);
+}
+
+} // namespace
 
 namespace {
 
@@ -86,10 +117,16 @@ void placeInFront(QRect *sign, QStyleOptionViewItem *option)
     option->rect = QStyle::visualRect(option->direction, option->rect, text);
 }
 
+void drawSign(QPainter *painter, const QRect &sign, const QStyleOptionViewItem &option, const QIcon &icon)
+{
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    icon.paint(painter, sign, Qt::AlignCenter, isSelected ? QIcon::Selected : QIcon::Normal);
+}
+
 void drawFocus(QPainter *painter, const QRect &rect, const QPalette &palette)
 {
     painter->save();
-    painter->setPen(QPen(palette.color(QPalette::Highlight), 2));
+    painter->setPen(QPen(focusColor(palette), 2));
     painter->setBrush(Qt::NoBrush);
     painter->drawRect(rect.adjusted(1, 1, -1, -1));
     painter->restore();
@@ -138,6 +175,18 @@ void drawText(QPainter *painter, const QStyleOptionViewItem &option, const QStri
         top += option.fontMetrics.lineSpacing();
     }
     painter->restore();
+}
+
+void makeSelectionLegible(QPalette *palette)
+{
+    constexpr double kLegible = 4.5;
+    const QColor background = palette->color(QPalette::Inactive, QPalette::Highlight);
+    if (contrast(palette->color(QPalette::Inactive, QPalette::HighlightedText), background) >= kLegible) {
+        return;
+    }
+    const QColor best =
+        contrast(Qt::black, background) > contrast(Qt::white, background) ? Qt::black : Qt::white;
+    palette->setColor(QPalette::Inactive, QPalette::HighlightedText, best);
 }
 
 QPalette ofSelection(QPalette palette)

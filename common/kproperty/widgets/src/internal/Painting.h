@@ -4,6 +4,7 @@
 #include <QStyleOptionViewItem>
 
 class KProperty;
+class QIcon;
 class QPainter;
 
 namespace Internal::Painting {
@@ -23,11 +24,14 @@ namespace Internal::Painting {
 /// left, and the room in \a option that is left for the text.
 void placeInFront(QRect *sign, QStyleOptionViewItem *option);
 
+void drawSign(QPainter *painter, const QRect &sign, const QStyleOptionViewItem &option, const QIcon &icon);
 void drawFocus(QPainter *painter, const QRect &rect, const QPalette &palette);
 /// The frame of a check box, which styles draw too faint to be seen in dark colours.
 void drawBoxFrame(QPainter *painter, const QRect &box, const QPalette &palette);
 /// Text of one or several lines. What has no room, in a line where the option says or below, is an ellipsis.
 void drawText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text);
+/// Palettes of desktops have texts on inactive selections that can't be read.
+void makeSelectionLegible(QPalette *palette);
 /// With the colours that texts and links have on selected rows.
 [[nodiscard]] QPalette ofSelection(QPalette palette);
 void drawRevertButton(QPainter *painter, const QRect &rect, const QPalette &palette);

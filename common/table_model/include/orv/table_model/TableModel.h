@@ -13,6 +13,15 @@
 
 namespace orv {
 
+/// What somebody remarks on a row.
+struct TableRowRemark
+{
+    QString text;
+    bool isError = true; ///< else a warning
+
+    bool operator==(const TableRowRemark &other) const = default;
+};
+
 /// What a view sees of a TableSheet: its rows in an order of their own and through a filter, its texts as
 /// people of a locale read them. Sorting and filtering change nothing in the sheet. A row that was edited or
 /// added stays where it is until somebody sorts or filters again: nothing jumps while people type.
@@ -28,6 +37,7 @@ public:
         KeptRole,                   ///< the text as the sheet keeps it
         NoteRole,                   ///< what is known of the cell beyond its text, in a few words
         RemarkRole,                 ///< of vertical headers: what somebody remarks on the row
+        IsErrorRole,                ///< of vertical headers: whether the remark tells an error
     };
 
     /// Where \a sheet goes before the model, an empty one with its columns takes its place.
@@ -74,8 +84,8 @@ public:
 
     /// Sentences at rows, by the number that stays with a row, for a sign beside it; all before are taken
     /// away.
-    void setRowRemarks(const QHash<quint32, QString> &remarks);
-    [[nodiscard]] const QHash<quint32, QString> &rowRemarks() const;
+    void setRowRemarks(const QHash<quint32, TableRowRemark> &remarks);
+    [[nodiscard]] const QHash<quint32, TableRowRemark> &rowRemarks() const;
 
     /// Whether each row stands where it stands in the sheet, so that it can be moved.
     [[nodiscard]] bool isInSheetOrder() const;

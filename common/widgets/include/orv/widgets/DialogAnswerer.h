@@ -35,7 +35,7 @@ struct DialogRequest
     QString defaultButton; ///< what Enter presses; empty for none
     QString details;
     QString startPath;         ///< of file dialogs
-    QDialog *dialog = nullptr; ///< of Kind::Dialog; not shown yet
+    QDialog *dialog = nullptr; ///< of boxes and of Kind::Dialog; not shown yet
 };
 
 /// What a person would do.

@@ -49,7 +49,6 @@ enum class IconName
     User,
     ExpandAll,
     CollapseAll,
-    Problem, ///< of a cell or a field that isn't allowed
     Error,
     Warning,
     Question,

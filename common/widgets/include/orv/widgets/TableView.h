@@ -96,6 +96,7 @@ Q_SIGNALS:
     void exportWanted();
 
 protected:
+    void initViewItemOption(QStyleOptionViewItem *option) const override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     bool viewportEvent(QEvent *event) override;

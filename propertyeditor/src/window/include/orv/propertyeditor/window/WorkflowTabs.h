@@ -86,6 +86,7 @@ Q_SIGNALS:
     void edited();
 
 private:
+    void focusColumn();
     [[nodiscard]] PropertyEditorContent::Tab read(int index) const;
     void silence(QWidget &tab);
 

@@ -28,8 +28,9 @@ public:
     using Filter = std::function<bool(const SettingPlace &place)>;
 
     /// The filters that others know about; null takes one away. Asked for each hit, so quick; setting it
-    /// again searches anew.
-    void setHasFinding(const Filter &filter);
+    /// again searches anew. \a reason tells why there is none, where that is another one than that nobody
+    /// has checked the workflow.
+    void setHasFinding(const Filter &filter, const QString &reason = {});
     void setDiffersFromSecond(const Filter &filter);
 
     /// Until the next save or document, what changed is told by a workflow file, which is read in the

@@ -33,6 +33,16 @@ struct RecoveryChanges
     void append(const RecoveryChanges &more);
 };
 
+/// Where a workflow was edited, as differences name it; what isn't known is empty.
+struct RecoveryPlace
+{
+    QString tab;
+    QString column;
+    QString setting;
+
+    bool operator==(const RecoveryPlace &other) const = default;
+};
+
 /// What can be recovered of a window that ended. A plain value.
 struct RecoveryEntry
 {
@@ -43,6 +53,7 @@ struct RecoveryEntry
     QDateTime edited;         ///< when the last change was kept, in UTC
     bool hasDocument = false; ///< else the workflow was open without unsaved changes, and can be opened again
     RecoveryChanges changes;
+    RecoveryPlace lastEdit;
     QStringList lost; ///< what the document lacks of its file, as far as that is kept
 };
 

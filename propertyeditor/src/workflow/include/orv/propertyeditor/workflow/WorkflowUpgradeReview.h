@@ -8,6 +8,8 @@
 #include <QString>
 #include <QVersionNumber>
 
+#include <optional>
+
 namespace orv {
 
 /// One thing that a step of an upgrade did.
@@ -27,6 +29,11 @@ struct ORV_WORKFLOW_EXPORT WorkflowUpgradeChange
     QString property;
     QJsonValue from; ///< undefined for what was added
     QJsonValue to;   ///< undefined for what was removed
+    // The parts of the path, as in WorkflowDifference.
+    QString tab;
+    QString column;
+    std::optional<qsizetype> row;
+    QString below;
 };
 
 struct ORV_WORKFLOW_EXPORT WorkflowUpgradeStep
