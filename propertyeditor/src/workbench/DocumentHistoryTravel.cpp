@@ -1,0 +1,116 @@
+#include "DocumentHistory_p.h"
+#include "StateDisplay.h"
+
+#include <orv/propertyeditor/window/PropertyEditorWindow.h>
+#include <orv/table_model/TableHistory.h>
+
+#include <QStatusBar>
+
+#include <cstdlib>
+
+// How the window is brought to the other end of a step.
+
+namespace orv {
+
+bool DocumentHistory::Private::moveTables(const HistoryStep &step, StateChange::Direction direction) const
+{
+    const bool isBack = direction == StateChange::Direction::Back;
+    const QPointer<DocumentHistory> self(q);
+    for (const TableMove &move : step.tables) {
+        const int from = isBack ? move.after : move.before;
+        const int to = isBack ? move.before : move.after;
+        // A table that went on otherwise, or was made anew, is given its content instead.
+        const bool isThere = move.history && stepsDone(*move.history) == from &&
+                             to >= move.history->forgotten() &&
+                             to <= move.history->forgotten() + move.history->count();
+        for (int i = 0; isThere && i < std::abs(to - from) && self && move.history; ++i)
+            to < from ? move.history->undo() : move.history->redo();
+    }
+    return self;
+}
+
+/// Takes in what is being typed; whether the window is still there, and at rest.
+bool DocumentHistory::Private::settleTyping()
+{
+    const QPointer<DocumentHistory> self(q);
+    window->commitTyping();
+    if (self)
+        takeIn();
+    return self && !isTravelling;
+}
+
+void DocumentHistory::Private::travel(StateChange::Direction direction)
+{
+    if (!settleTyping() || !steps.next(direction))
+        return;
+    const HistoryStep step = *steps.next(direction);
+    const DocumentState to = step.change.applied(state, direction);
+    const bool isShown = show(to, step.change, [&] {
+        if (!moveTables(step, direction))
+            return false;
+        if (step.upgradedFile)
+            window->setWorkflowFilePath(direction == StateChange::Direction::Back ? QString()
+                                                                                  : *step.upgradedFile);
+        return true;
+    });
+    if (!isShown)
+        return;
+    steps.go(direction);
+    arrive(to);
+}
+
+bool DocumentHistory::Private::edit(const DocumentState &from, const DocumentState &to, const QString &text)
+{
+    if (!settleTyping() || !(state == from))
+        return false;
+    if (from == to)
+        return true;
+    const StateChange change = StateChange::between(from, to);
+    if (!show(to, change, [] { return true; }))
+        return true;
+    append({change, text});
+    arrive(to);
+    return true;
+}
+
+/// False if the window or its document went meanwhile, in \a prepare already or later.
+bool DocumentHistory::Private::show(const DocumentState &to, const StateChange &change,
+                                    const std::function<bool()> &prepare)
+{
+    const QPointer<DocumentHistory> self(q);
+    isTravelling = true;
+    const int document = generation;
+    const DocumentState from = state;
+    const auto goesOn = [self, this, document] { return self && document == generation; };
+    if (!prepare() || !goesOn())
+        return false;
+    StateDisplay display(window, goesOn);
+    const Error error = display.show(from, to);
+    if (!goesOn())
+        return false;
+    display.goTo(from, to);
+    if (!goesOn())
+        return false;
+    if (error.hasError())
+        window->statusBar()->showMessage(
+            tr("Not all of the step can be shown: %1").arg(error.errorMessage()));
+    shown.forget(change, to);
+    return true;
+}
+
+void DocumentHistory::Private::arrive(const DocumentState &to)
+{
+    state = to;
+    settle(shown.read());
+    static_cast<void>(shown.takeMoves());
+    field = nullptr;
+    isTravelling = false;
+    isSettling = true;
+    whenHandled([this] {
+        takeIn();
+        isSettling = false;
+    });
+    tellOtherState();
+}
+
+} // namespace orv
