@@ -94,7 +94,7 @@ QList<int> SameSettingModel::differingRows() const
 {
     QList<int> rows;
     for (int row = 0; row < rowCount(); ++row) {
-        if (canGet(m_rows.at(row)) && !m_rows.at(row).isSame)
+        if (canGet(m_rows.at(row)))
             rows.append(row);
     }
     return rows;

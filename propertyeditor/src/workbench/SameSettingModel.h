@@ -44,7 +44,7 @@ public:
     [[nodiscard]] QString placeText(int row) const { return m_rows.at(row).column.placeText(); }
     /// -1 without a setting.
     [[nodiscard]] int sourceRow() const;
-    /// Those that could get another value.
+    /// Those that could get another value, which alone can be checked.
     [[nodiscard]] QList<int> differingRows() const;
     /// Those of them that are checked.
     [[nodiscard]] QList<int> chosenRows() const;
@@ -71,7 +71,7 @@ private:
 
     [[nodiscard]] QList<Row> read(const QList<SettingView> &columns,
                                   const GridPropertyEditorView *source) const;
-    [[nodiscard]] bool canGet(const Row &row) const { return !row.isSource && row.refusal.isEmpty(); }
+    [[nodiscard]] static bool canGet(const Row &row) { return !row.isSame && row.refusal.isEmpty(); }
     [[nodiscard]] bool isChecked(const Row &row) const { return m_checked.contains(row.column.view); }
     [[nodiscard]] QString remark(const Row &row) const;
     [[nodiscard]] QString text(const Row &row, int column) const;

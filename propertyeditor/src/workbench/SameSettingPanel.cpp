@@ -89,9 +89,7 @@ void SameSettingPanel::update()
     m_apply->setText(chosen == 1  ? tr("Ap&ply to 1 Column")
                      : chosen > 1 ? tr("Ap&ply to %1 Columns").arg(locale().toString(chosen))
                                   : tr("Ap&ply"));
-    m_apply->setToolTip(chosen > 0                      ? QString()
-                        : !m_model->refusal().isEmpty() ? m_model->refusal()
-                                                        : tr("Check columns that have another value first."));
+    m_apply->setToolTip(chosen > 0 ? QString() : whyNothingIsApplied());
     int boxes = 0;
     int checked = 0;
     for (int row = 0; row < m_model->rowCount(); ++row) {
@@ -101,6 +99,16 @@ void SameSettingPanel::update()
     }
     m_all->setEnabled(boxes > 0);
     m_all->setChecked(boxes > 0 && checked == boxes);
+}
+
+QString SameSettingPanel::whyNothingIsApplied() const
+{
+    if (!m_model->refusal().isEmpty())
+        return m_model->refusal();
+    if (m_model->rowCount() == 1)
+        return tr("No other column has this setting.");
+    return m_model->commonValue() ? tr("All columns with this setting have this value.")
+                                  : tr("Check columns that have another value first.");
 }
 
 /// The value that all have, else a dash.
@@ -114,6 +122,8 @@ void SameSettingPanel::tellValue()
                               : common->isEmpty() ? tr("(empty)")
                                                   : ShortText::line(*common, kLongestInHeading);
         text = tr("%1: %2").arg(m_model->caption(), value);
+        if (m_model->rowCount() == 1)
+            text += u'\n' + tr("No other column has this setting.");
         spoken = common ? text : tr("%1: the columns differ").arg(m_model->caption());
     }
     m_heading->setText(text);

@@ -40,6 +40,7 @@ private:
     void layOut();
     void update();
     void tellValue();
+    [[nodiscard]] QString whyNothingIsApplied() const;
     void toggleSelected();
 
     SameSettingModel *m_model;

@@ -84,6 +84,8 @@ private Q_SLOTS:
     void allColumnsWithTheSettingAreListed();
     void valuesThatDifferAreADashAndAWord();
     void theListFollowsTheCurrentSetting();
+    void columnsWithTheValueHaveNoBox();
+    void aSettingOfOneColumnSaysSo();
     void chosenColumnsGetTheValueInOneStep();
     void oneColumnIsNamedInTheStep();
     void aStructuredValueArrivesAsFilesHoldIt();
@@ -133,6 +135,38 @@ void SameSettingTest::theListFollowsTheCurrentSetting()
     s.view(1, 1)->editorView()->setCurrentIndex(s.view(1, 1)->editorView()->model()->index(0, 0));
     QTRY_COMPARE(s.places().size(), 0);
     QVERIFY(s.heading().startsWith(u"Choose a setting"_s));
+}
+
+void SameSettingTest::columnsWithTheValueHaveNoBox()
+{
+    const Same s(spread(500, 500, 1000));
+    const auto box = [&s](int row) { return s.list().model()->index(row, kPlaceColumn); };
+    QCOMPARE(box(1).data(Qt::CheckStateRole), QVariant());
+    QVERIFY(!box(1).flags().testFlag(Qt::ItemIsUserCheckable));
+    QCOMPARE(box(2).data(Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
+    s.toggle(1);
+    QVERIFY(!s.apply().isEnabled());
+    QCOMPARE(s.apply().toolTip(), u"Check columns that have another value first."_s);
+    QTest::mouseClick(s.child<QCheckBox>("sameSettingAll"), Qt::LeftButton);
+    QCOMPARE(s.apply().text(), u"Ap&ply to 1 Column"_s);
+    QTest::mouseClick(&s.apply(), Qt::LeftButton);
+    QCOMPARE(s.label("sameSettingOutcome"), u"Applied to 1 column."_s);
+    QCOMPARE(box(2).data(Qt::CheckStateRole), QVariant());
+    QVERIFY(!s.child<QCheckBox>("sameSettingAll")->isEnabled());
+    QCOMPARE(s.apply().toolTip(), u"All columns with this setting have this value."_s);
+}
+
+void SameSettingTest::aSettingOfOneColumnSaysSo()
+{
+    const Same s(Documents::document(
+        {Documents::tab(u"First"_s, {u"One"_s, u"Plain"_s}, {peaksCell(7), karvonCell()})}, metadata()));
+    const QString caption = s.view(0, 0)->propertySet()->property(kTopk).caption();
+    QCOMPARE(s.heading(), caption + u": 7\nNo other column has this setting."_s);
+    QCOMPARE(s.child<QLabel>("sameSettingHeading")->accessibleName(), s.heading());
+    QCOMPARE(s.apply().toolTip(), u"No other column has this setting."_s);
+    s.standAt(0, 0, "Samples");
+    QTRY_COMPARE(s.places().size(), 2);
+    QVERIFY(!s.heading().contains(u"No other column"_s));
 }
 
 void SameSettingTest::chosenColumnsGetTheValueInOneStep()
