@@ -5,6 +5,7 @@
 #include "SettingCopy.h"
 #include "SettingEdit.h"
 #include "SettingView.h"
+#include "StatusLine.h"
 #include "YieldingShortcuts.h"
 #include "orv/propertyeditor/workbench/DocumentHistory.h"
 #include "orv/propertyeditor/workbench/Workbench.h"
@@ -18,7 +19,6 @@
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 #include <orv/widgets/Icons.h>
 
-#include <QAccessible>
 #include <QAction>
 #include <QClipboard>
 #include <QDockWidget>
@@ -27,7 +27,6 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
-#include <QStatusBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -161,10 +160,8 @@ void SettingClipboard::copy(Form form)
 QString SettingClipboard::commandLine(QStringList *leftOut) const
 {
     const GridPropertyEditorView *view = m_current->view();
-    const QList<SettingView> columns = SettingView::all(m_window);
-    const auto place =
-        std::ranges::find_if(columns, [view](const SettingView &each) { return each.view == view; });
-    if (place == columns.cend())
+    const auto place = SettingView::of(m_window, view);
+    if (!place)
         return {};
     const WorkflowTabs *tabs = m_window->workflowTabs();
     QStringList names;
@@ -205,36 +202,64 @@ void SettingClipboard::apply(GridPropertyEditorView *shown, const SettingPaste::
     const QPointer<SettingClipboard> self(this);
     const QPointer<GridPropertyEditorView> view(shown);
     const QPointer<PropertyEditorWindow> window(m_window);
-    QStringList refused = plan.refused;
-    qsizetype pasted = 0;
+    const QString place = placeOf(shown);
+    Outcome outcome{place, 0, 0, plan.refused};
     // What was told of edits until now is no part of the step, and whoever hears of it may close the window.
     if (m_history)
         m_history->takeIn();
     if (self && m_history) {
-        const qsizetype count = plan.values.size();
-        const DocumentHistory::Group step(m_history, count == 1 ? tr("Paste 1 setting")
-                                                                : tr("Paste %1 settings").arg(count));
+        const qsizetype count = std::ranges::count_if(plan.values, [view](const auto &each) {
+            return view && SettingEdit::changes(view->propertySet(), each.first, each.second);
+        });
+        const DocumentHistory::Group step(m_history,
+                                          count == 1 ? tr("Paste 1 setting into %1").arg(place)
+                                                     : tr("Paste %1 settings into %2").arg(count).arg(place));
         for (const auto &[name, value] : plan.values) {
             KPropertySet *set = SettingView::isIn(window, view) ? view->propertySet() : nullptr;
             const QString refusal = SettingEdit::refusal(set, name);
-            if (SettingEdit::setValue(set, name, value) != SettingEdit::Outcome::Refused)
-                ++pasted;
-            else
-                refused.append(tr("%1: %2").arg(QString::fromUtf8(name), refusal));
+            const SettingEdit::Outcome made = SettingEdit::setValue(set, name, value);
+            outcome.changed += int(made == SettingEdit::Outcome::Changed);
+            outcome.same += int(made == SettingEdit::Outcome::HadIt);
+            if (made == SettingEdit::Outcome::Refused)
+                outcome.refused.append(tr("%1: %2").arg(QString::fromUtf8(name), refusal));
         }
     }
     if (self)
-        report(pasted, refused);
+        report(outcome);
 }
 
-void SettingClipboard::report(qsizetype pasted, const QStringList &refused)
+QString SettingClipboard::placeOf(const GridPropertyEditorView *view) const
+{
+    const auto column = SettingView::of(m_window, view);
+    return column ? column->placeText() : QString();
+}
+
+QString SettingClipboard::textOf(const Outcome &outcome)
+{
+    QStringList told;
+    if (outcome.changed > 0) {
+        told.append(outcome.changed == 1
+                        ? tr("1 setting pasted into %1.").arg(outcome.place)
+                        : tr("%1 settings pasted into %2.").arg(outcome.changed).arg(outcome.place));
+    } else if (outcome.same == 0) {
+        told.append(tr("Nothing was pasted."));
+    }
+    if (outcome.same > 0) {
+        told.append(
+            outcome.same == 1
+                ? tr("1 setting of %1 had its value already.").arg(outcome.place)
+                : tr("%1 settings of %2 had their values already.").arg(outcome.same).arg(outcome.place));
+    }
+    return told.join(u' ');
+}
+
+void SettingClipboard::report(const Outcome &outcome)
 {
     if (!m_dock)
         return;
+    const QStringList &refused = outcome.refused;
     m_refused->setPlainText(refused.join(u'\n'));
-    const QString done = pasted == 0   ? tr("Nothing was pasted.")
-                         : pasted == 1 ? tr("1 setting pasted.")
-                                       : tr("%1 settings pasted.").arg(pasted);
+    const QString done = textOf(outcome);
     if (refused.isEmpty()) {
         m_dock->hide();
         return tell(done);
@@ -256,11 +281,7 @@ void SettingClipboard::leave()
 
 void SettingClipboard::tell(const QString &text)
 {
-    if (!m_window)
-        return;
-    m_window->statusBar()->showMessage(text);
-    QAccessibleEvent event(m_window->statusBar(), QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    StatusLine::tell(m_window, text);
 }
 
 } // namespace orv

@@ -40,13 +40,25 @@ private:
         Count,
     };
 
+    /// What became of the settings that were pasted into the column at \a place.
+    struct Outcome
+    {
+        QString place;
+        int changed = 0;
+        int same = 0;        ///< those that had their value already
+        QStringList refused; ///< a line for each: what and why
+    };
+
     void addCommands(QMenu *menu);
     void update();
     void copy(Form form);
     [[nodiscard]] QString commandLine(QStringList *leftOut) const;
     void paste();
     void apply(GridPropertyEditorView *view, const SettingPaste::Plan &plan);
-    void report(qsizetype pasted, const QStringList &refused);
+    /// "Analysis › Karvon"
+    [[nodiscard]] QString placeOf(const GridPropertyEditorView *view) const;
+    [[nodiscard]] static QString textOf(const Outcome &outcome);
+    void report(const Outcome &outcome);
     void tell(const QString &text);
     void leave();
 

@@ -56,17 +56,24 @@ bool SettingEdit::give(KProperty *property, const QVariant &value)
     return true;
 }
 
+bool SettingEdit::changes(const KPropertySet *set, const QByteArray &name, const QVariant &value)
+{
+    if (!refusal(set, name).isEmpty())
+        return false;
+    const KProperty &property = set->property(name);
+    // Two references to one file are no equal values.
+    KProperty other(property);
+    other.setValue(value);
+    return SettingReader::stored(other) != SettingReader::stored(property);
+}
+
 SettingEdit::Outcome SettingEdit::setValue(KPropertySet *set, const QByteArray &name, const QVariant &value)
 {
     if (!refusal(set, name).isEmpty())
         return Outcome::Refused;
-    KProperty &property = set->property(name);
-    // Two references to one file are no equal values.
-    KProperty other(property);
-    other.setValue(value);
-    if (SettingReader::stored(other) == SettingReader::stored(property))
+    if (!changes(set, name, value))
         return Outcome::HadIt;
-    return give(&property, value) ? Outcome::Changed : Outcome::HadIt;
+    return give(&set->property(name), value) ? Outcome::Changed : Outcome::HadIt;
 }
 
 SettingEdit::Outcome SettingEdit::setStored(KPropertySet *set, const QByteArray &name,

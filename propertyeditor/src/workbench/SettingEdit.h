@@ -34,6 +34,11 @@ enum class Outcome
 /// \a value is as property sets hold it. With the one that it had before it was modified, the property isn't
 /// modified any more, which a property never says by itself. False for the value that it has.
 bool give(KProperty *property, const QVariant &value);
+
+/// Whether setValue() gives the setting another value.
+[[nodiscard]] bool changes(const KPropertySet *set, const QByteArray &name, const QVariant &value);
+
+/// \a value is as property sets hold it.
 Outcome setValue(KPropertySet *set, const QByteArray &name, const QVariant &value);
 Outcome setStored(KPropertySet *set, const QByteArray &name, const QJsonValue &stored);
 

@@ -34,10 +34,18 @@ QList<SettingView> SettingView::all(const PropertyEditorWindow *window)
     return columns;
 }
 
-bool SettingView::isIn(const PropertyEditorWindow *window, const GridPropertyEditorView *view)
+std::optional<SettingView> SettingView::of(const PropertyEditorWindow *window,
+                                           const GridPropertyEditorView *view)
 {
     const QList<SettingView> columns = view ? all(window) : QList<SettingView>();
-    return std::ranges::any_of(columns, [view](const SettingView &each) { return each.view == view; });
+    const auto found =
+        std::ranges::find_if(columns, [view](const SettingView &each) { return each.view == view; });
+    return found == columns.cend() ? std::nullopt : std::optional(*found);
+}
+
+bool SettingView::isIn(const PropertyEditorWindow *window, const GridPropertyEditorView *view)
+{
+    return of(window, view).has_value();
 }
 
 } // namespace orv

@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QString>
 
+#include <optional>
+
 namespace orv {
 
 class PropertyEditorWindow;
@@ -26,6 +28,9 @@ struct SettingView
 
     /// Those of all tabs in their order; none without a window.
     [[nodiscard]] static QList<SettingView> all(const PropertyEditorWindow *window);
+    /// That which is \a view; nothing if it isn't one of them.
+    [[nodiscard]] static std::optional<SettingView> of(const PropertyEditorWindow *window,
+                                                       const GridPropertyEditorView *view);
     /// Whether \a view is one of them. Removed columns live on for a while.
     [[nodiscard]] static bool isIn(const PropertyEditorWindow *window, const GridPropertyEditorView *view);
 };

@@ -8,6 +8,7 @@
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 
+#include <QAccessible>
 #include <QAction>
 #include <QFileInfo>
 #include <QLabel>
@@ -83,6 +84,16 @@ void StatusLine::showChanges()
     const bool isModified = m_workbench->history()->isModified();
     m_changes->setText(isModified ? tr("Unsaved changes") : hasFile ? tr("Saved") : tr("Not in a file yet"));
     m_changes->setToolTip(hasFile ? window.workflowFilePath() : tr("Save the workflow to give it a file."));
+}
+
+void StatusLine::tell(const PropertyEditorWindow *window, const QString &text)
+{
+    if (!window)
+        return;
+    QStatusBar *bar = window->statusBar();
+    bar->showMessage(text);
+    QAccessibleEvent event(bar, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace orv

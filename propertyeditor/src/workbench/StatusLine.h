@@ -7,6 +7,7 @@ QT_FORWARD_DECLARE_CLASS(QToolButton)
 
 namespace orv {
 
+class PropertyEditorWindow;
 class Workbench;
 
 /// What stands below a document: the version of its format, what the last check found, and whether the disk
@@ -17,6 +18,9 @@ class StatusLine : public QObject
 
 public:
     explicit StatusLine(Workbench *workbench);
+
+    /// What a command did, below the document of \a window and to screen readers; nothing without a window.
+    static void tell(const PropertyEditorWindow *window, const QString &text);
 
 private:
     void showVersion();

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void nothingUsableChangesNothing();
     void hostileClipboardsAreBounded();
     void pastingTheSameIsNoStep();
+    void whatChangesIsToldApartFromWhatStays();
     void editorsTablesAndOtherPlacesKeepTheirKeys();
     void readOnlySettingsSaySo();
     void readOnlyWindowsTakeNothing();
@@ -135,11 +136,11 @@ void SettingClipboardTest::whatWasCopiedComesBackInEveryForm()
     const QString copied = d.copiedBy(command.toUtf8().constData());
     d.standAt(1, kPeaks);
     d.paste(copied);
-    QCOMPARE(d.message(), u"4 settings pasted."_s);
+    QCOMPARE(d.message(), u"4 settings pasted into Analysis › Karvon."_s);
     QCOMPARE(d.stored(1).value(u"properties"_s), d.stored(0).value(u"properties"_s));
     DocumentHistory *history = d.bench->history();
     QCOMPARE(history->count(), 1);
-    QCOMPARE(history->undoText(), u"Paste 4 settings"_s);
+    QCOMPARE(history->undoText(), u"Paste 4 settings into Analysis › Karvon"_s);
     history->undo();
     QCOMPARE(storedValue(d.stored(1), kPeaks), QJsonValue(1));
 }
@@ -171,7 +172,7 @@ void SettingClipboardTest::typedLinesAreUnderstood()
     QFETCH(QJsonValue, value);
     const Desk d;
     d.paste(line);
-    QVERIFY2(d.message().contains(u"pasted."_s) && !d.message().contains(u"Not pasted"_s),
+    QVERIFY2(d.message().contains(u"1 setting pasted into "_s) && !d.message().contains(u"Not pasted"_s),
              qPrintable(d.message()));
     QCOMPARE(storedValue(d.stored(0), setting.toUtf8().constData()), value);
 }
@@ -182,7 +183,7 @@ void SettingClipboardTest::whatDoesntFitIsToldAndTheRestApplied()
     d.paste(u"KarvonCentroidTopk\t7\nKarvonPrecursorMassError\tmany\tppm\nNo such\t5\n"
             "KarvonDigestLetters\nKarvonCentroidTopk\t8\nKarvonPrecursorMassError\t1,234\tDa\n"_s);
     QCOMPARE(d.property(0, kPeaks).value().toInt(), 7);
-    QCOMPARE(d.message(), u"1 setting pasted. Not pasted: 5 settings, see below."_s);
+    QCOMPARE(d.message(), u"1 setting pasted into First › One. Not pasted: 5 settings, see below."_s);
     QVERIFY(d.panel("settingsNotPasted")->isVisible());
     const QStringList lines = d.refused().split(u'\n');
     QCOMPARE(lines.size(), 5);
@@ -253,7 +254,7 @@ void SettingClipboardTest::hostileClipboardsAreBounded()
     QVERIFY(d.message().startsWith(u"Nothing was pasted."_s));
     d.window->statusBar()->clearMessage();
     d.paste(u"KarvonDigestLetters\t"_s + QString(1'000'000, u'\t'));
-    QCOMPARE(d.message(), u"1 setting pasted."_s);
+    QCOMPARE(d.message(), u"1 setting pasted into First › One."_s);
     d.paste(QString(u"a\tb\r"_s).repeated(500'000));
     QCOMPARE(d.message(), tooMuch);
     d.paste(u"orv-workflow set f "_s + QString(u"a=1 "_s).repeated(500'000));
@@ -273,9 +274,22 @@ void SettingClipboardTest::pastingTheSameIsNoStep()
     d.key(Qt::Key_A);
     d.key(Qt::Key_C);
     d.key(Qt::Key_V);
-    QCOMPARE(d.message(), u"4 settings pasted."_s);
+    QCOMPARE(d.message(), u"4 settings of First › One had their values already."_s);
     QCOMPARE(d.bench->history()->count(), 0);
     QVERIFY(!d.window->isWindowModified());
+}
+
+void SettingClipboardTest::whatChangesIsToldApartFromWhatStays()
+{
+    const Desk d;
+    d.paste(u"KarvonCentroidTopk\t7\nKarvonDigestLetters\tRK\nNo such\t1"_s);
+    QCOMPARE(d.message(),
+             u"1 setting pasted into First › One. 1 setting of First › One had its value already. "
+             "Not pasted: No such: The column doesn't have this setting."_s);
+    QCOMPARE(d.bench->history()->undoText(), u"Paste 1 setting into First › One"_s);
+    d.standAt(1, kPeaks);
+    d.paste(u"KarvonCentroidTopk\t7\nKarvonPrecursorMassError\t5"_s);
+    QCOMPARE(d.bench->history()->undoText(), u"Paste 2 settings into First › Two"_s);
 }
 
 void SettingClipboardTest::editorsTablesAndOtherPlacesKeepTheirKeys()
@@ -393,8 +407,8 @@ void SettingClipboardTest::aColumnMayGoInAPaste()
             d.window->grid(0)->removeColumn(0);
     });
     d.paste(u"KarvonCentroidTopk\t7\nKarvonDigestLetters\tA\n"_s);
-    QCOMPARE(d.message(), u"1 setting pasted. Not pasted: KarvonDigestLetters: The column doesn't have this "
-                          "setting."_s);
+    QCOMPARE(d.message(), u"1 setting pasted into First › One. Not pasted: KarvonDigestLetters: The column "
+                          "doesn't have this setting."_s);
     QTRY_COMPARE(d.window->grid(0)->items().size(), 1);
 }
 
