@@ -2,90 +2,27 @@
 
 #include "ComparedDocuments.h"
 #include "ComparisonPanel.h"
+#include "Comparison_p.h"
 #include "SecondDocument.h"
-#include "SettingJump.h"
-#include "SettingVisits.h"
-#include "orv/propertyeditor/workbench/BackgroundWork.h"
 #include "orv/propertyeditor/workbench/FindSettings.h"
 #include "orv/propertyeditor/workbench/Workbench.h"
 
-#include <orv/propertyeditor/grid/EditableTabWidget.h>
-#include <orv/propertyeditor/grid/GridPropertyEditorView.h>
-#include <orv/propertyeditor/grid/IGridItem.h>
-#include <orv/propertyeditor/grid/PropertyGridWidget.h>
 #include <orv/propertyeditor/window/PropertyEditorDirLocations.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
-#include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/propertyeditor/workbench/DocumentHistory.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
 #include <orv/widgets/Icons.h>
 #include <orv/widgets/ORVFileDialog.h>
 
 #include <QAction>
-#include <QApplication>
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QMenu>
 #include <QPointer>
 
-#include <functional>
 #include <utility>
 
 namespace orv {
-
-class Comparison::Private
-{
-public:
-    Private(Comparison *comparison, Workbench *workbench);
-
-    void ask();
-    void compareWith(const QString &path);
-    void end();
-
-    QAction *action;
-    QString path;
-    bool isReading = false;
-    bool isComparing = false;
-    bool isTaking = false;
-
-private:
-    struct TakenOver
-    {
-        DocumentState from;
-        DocumentState to;
-    };
-
-    void connectPanel();
-    void connectWindow();
-    void receive(const Result<SecondDocument> &second);
-    void fail(const QString &summary, const Error &error);
-    void follow();
-    void compare();
-    void show(const Result<ComparisonTree> &tree);
-    void takeOver();
-    void finishTakingOver(const Result<TakenOver> &taken, const QString &text);
-    void goTo(const QModelIndex &index);
-    void leave();
-    void tell();
-    /// Of this document; empty for one without a file.
-    [[nodiscard]] QString ownFile() const;
-    [[nodiscard]] QString stepText() const;
-
-    Comparison *const q;
-    const QPointer<PropertyEditorWindow> m_window;
-    DocumentHistory *const m_history;
-    QString m_ownFile; ///< when the second document was read
-    FindSettings *const m_find;
-    ComparisonPanel *m_panel;
-    QPointer<QDockWidget> m_dock;
-    std::shared_ptr<const SecondDocument> m_second;
-    SettingVisits m_visits;
-    QPointer<QWidget> m_visited; ///< the last
-    int m_number = 0;            ///< of second documents
-    BackgroundWork m_work;
-    bool m_isWantedAgain = false;
-    bool m_isFirst = false; ///< comparison with the second document
-};
 
 Comparison::Private::Private(Comparison *comparison, Workbench *workbench)
     : action(new QAction(Icons::icon(IconName::Open), tr("Compare &with..."), comparison))
@@ -250,93 +187,6 @@ void Comparison::Private::show(const Result<ComparisonTree> &tree)
 QString Comparison::Private::ownFile() const
 {
     return m_window ? m_window->workflowFilePath() : QString();
-}
-
-QString Comparison::Private::stepText() const
-{
-    const ComparisonModel *model = m_panel->model();
-    const int count = int(model->checkedKeys().size());
-    if (model->onlySettingsAreChecked())
-        return count == 1 ? tr("Take over 1 setting from %1").arg(m_second->name)
-                          : tr("Take over %1 settings from %2").arg(count).arg(m_second->name);
-    return count == 1 ? tr("Take over 1 difference from %1").arg(m_second->name)
-                      : tr("Take over %1 differences from %2").arg(count).arg(m_second->name);
-}
-
-void Comparison::Private::takeOver()
-{
-    const QPointer<Comparison> self(q);
-    if (m_window)
-        m_window->commitTyping();
-    if (!self || !m_window || !m_second || isTaking || m_panel->model()->checkedKeys().isEmpty())
-        return;
-    const DocumentState left = m_history->state();
-    if (!self || !m_second)
-        return;
-    isTaking = true;
-    const QSet<QString> keys = m_panel->model()->checkedKeys();
-    using Taken = Result<TakenOver>;
-    m_work.run<TakenOver>(
-        [left, second = m_second, keys](const auto &isCancelled) -> Taken {
-            return TakenOver{left, ComparedDocuments::takenOver(left, second->state, keys, isCancelled)};
-        },
-        [this, text = stepText()](const Taken &taken) { finishTakingOver(taken, text); });
-    tell();
-}
-
-void Comparison::Private::finishTakingOver(const Result<TakenOver> &taken, const QString &text)
-{
-    const QPointer<Comparison> self(q);
-    const int number = m_number;
-    isTaking = false;
-    if (taken.hasError()) {
-        fail(tr("Nothing could be taken over from %1.").arg(m_second->name), taken.error());
-        return;
-    }
-    const bool isDone = m_history->edit(taken->from, taken->to, text);
-    if (!self || number != m_number)
-        return;
-    // Somebody typed meanwhile; what is checked still stands.
-    if (!isDone)
-        takeOver();
-    else
-        m_panel->model()->uncheckAll();
-    if (self)
-        tell();
-}
-
-void Comparison::Private::goTo(const QModelIndex &index)
-{
-    const ComparisonNode node = m_panel->model()->node(index);
-    const QByteArray setting = m_panel->model()->settingAt(index);
-    if (!m_window || node.tab < 0)
-        return;
-    const QPointer<Comparison> self(q);
-    const QPointer<PropertyGridWidget> grid = m_window->workflowTabs()->grid(node.tab);
-    m_window->workflowTabs()->widget()->setCurrentIndex(node.tab);
-    IGridItem *item = self && grid && node.column >= 0 ? grid->items().value(node.column) : nullptr;
-    const QPointer<QWidget> column = item ? item->widget() : nullptr;
-    auto *view = qobject_cast<GridPropertyEditorView *>(column.data());
-    if (view)
-        m_visits.begin(view);
-    const bool isThere = view && !setting.isEmpty() && SettingJump::toSetting(m_window, view, setting);
-    if (self && m_window && column && !isThere) {
-        SettingJump::show(m_window, column);
-        if (column)
-            column->setFocus(Qt::OtherFocusReason);
-    }
-    if (self && m_window && m_window->centralWidget()->isAncestorOf(QApplication::focusWidget()))
-        m_visited = QApplication::focusWidget();
-}
-
-/// To where the list has led last.
-void Comparison::Private::leave()
-{
-    const QPointer<Comparison> self(q);
-    if (m_visited && m_visited->isVisible())
-        m_visited->setFocus(Qt::OtherFocusReason);
-    if (self && m_dock)
-        m_dock->hide();
 }
 
 void Comparison::Private::end()

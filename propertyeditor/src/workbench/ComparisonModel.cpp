@@ -79,6 +79,25 @@ bool ComparisonModel::onlySettingsAreChecked() const
     });
 }
 
+QList<QModelIndex> ComparisonModel::checkedRemovals() const
+{
+    QList<QModelIndex> rows;
+    for (int i = 1; i < m_tree.nodes.size() && !m_checked.isEmpty(); ++i) {
+        const ComparisonNode &node = m_tree.nodes.at(i);
+        if (node.change == Change::Removed && node.children.isEmpty() && m_checked.contains(node.key))
+            rows.append(createIndex(node.row, Name, quintptr(i)));
+    }
+    return rows;
+}
+
+QString ComparisonModel::placeText(const QModelIndex &index) const
+{
+    QStringList names;
+    for (QModelIndex row = index; row.isValid(); row = row.parent())
+        names.prepend(name(node(row)));
+    return names.join(QStringLiteral(" › "));
+}
+
 const ComparisonNode &ComparisonModel::node(const QModelIndex &index) const
 {
     return m_tree.nodes.at(index.isValid() ? qsizetype(index.internalId()) : 0);

@@ -36,6 +36,11 @@ public:
     /// Whether all of them are settings.
     [[nodiscard]] bool onlySettingsAreChecked() const;
 
+    /// Those of them that take something away from this document, in the order of the rows.
+    [[nodiscard]] QList<QModelIndex> checkedRemovals() const;
+
+    /// "Analysis › Karvon › Peaks kept per spectrum"
+    [[nodiscard]] QString placeText(const QModelIndex &index) const;
     [[nodiscard]] const ComparisonNode &node(const QModelIndex &index) const;
     /// Invalid for a key without a row.
     [[nodiscard]] QModelIndex indexOf(const QString &key) const;

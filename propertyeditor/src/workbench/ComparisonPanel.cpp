@@ -2,6 +2,7 @@
 
 #include "ColumnShares.h"
 #include "EvenRows.h"
+#include "TakeOverText.h"
 
 #include <orv/propertyeditor/editors/SlowQuestion.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
@@ -250,13 +251,11 @@ void ComparisonPanel::updateButton()
                            : count == 0         ? tr("Check what is to be taken over first.")
                                                 : QString();
     m_takeOver->setEnabled(reason.isEmpty());
+    const QString told = TakeOverText::ofChecked(*m_model);
     m_takeOver->setToolTip(
         reason.isEmpty() ? tr("Give this workflow what is checked, as one step that can be undone") : reason);
-    m_takeOver->setAccessibleDescription(m_takeOver->toolTip());
-    m_checked->setText(!m_refusal.isEmpty() && m_model->rowCount() > 0 ? m_refusal
-                       : count == 0                                    ? QString()
-                       : count == 1                                    ? tr("1 difference is checked.")
-                                    : tr("%1 differences are checked.").arg(locale().toString(count)));
+    m_takeOver->setAccessibleDescription(reason.isEmpty() ? told : reason);
+    m_checked->setText(!m_refusal.isEmpty() && m_model->rowCount() > 0 ? m_refusal : told);
 }
 
 void ComparisonPanel::announce()

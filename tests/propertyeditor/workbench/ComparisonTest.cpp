@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QProgressBar>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QWhatsThis>
 
 #include <algorithm>
@@ -30,6 +31,8 @@ private Q_SLOTS:
     void everyExampleEqualsItself_data();
     void everyExampleEqualsItself();
     void whatIsCheckedIsTakenOverAsOneStep();
+    void whatTakingOverRemovesIsNamed();
+    void manyRemovalsAreCounted();
     void allOfItIsTakenOver();
     void examplesAreTakenOverWhole_data();
     void examplesAreTakenOverWhole();
@@ -176,6 +179,48 @@ void ComparisonTest::whatIsCheckedIsTakenOverAsOneStep()
     QVERIFY(c.isQuiet());
     QCOMPARE(c.shownDocument(), before);
     QCOMPARE(c.summary(), u"4 differences to OTHER.wflw"_s);
+}
+
+void ComparisonTest::whatTakingOverRemovesIsNamed()
+{
+    Compared c(documentOf({searchColumn(1000, u"RK"_s), previewCell()}));
+    QVERIFY(c.compareWith(documentOf({karvonCell({setting("KarvonDigestLetters", u"R"_s, "Digestion")})})));
+    const auto checked = [&c] { return c.child<QLabel>("comparisonChecked")->text(); };
+    c.check(u"Search cleavage residues"_s);
+    QCOMPARE(checked(), u"1 difference is checked."_s);
+    c.check(kPeaks);
+    QCOMPARE(checked(), u"2 differences are checked. Taking over removes from this workflow: setting "
+                        "Analysis › Karvon › Peaks kept per spectrum"_s);
+    c.check(u"Preview"_s);
+    const QString removed =
+        u"setting Analysis › Karvon › Peaks kept per spectrum, column Analysis › Preview"_s;
+    QCOMPARE(checked(), u"3 differences are checked. Taking over removes from this workflow: "_s + removed);
+    QCOMPARE(c.takeOver().accessibleDescription(), checked());
+    QTest::mouseClick(&c.takeOver(), Qt::LeftButton);
+    QVERIFY(c.isQuiet());
+    QCOMPARE(c.window->statusBar()->currentMessage(),
+             u"3 differences taken over from OTHER.wflw. Removed: "_s + removed);
+    QCOMPARE(c.window->grid(0)->columnNames(), QStringList{u"Karvon"_s});
+    QVERIFY(!c.view(0, 0)->propertySet()->contains("KarvonCentroidTopk"));
+    QCOMPARE(checked(), QString());
+}
+
+void ComparisonTest::manyRemovalsAreCounted()
+{
+    QStringList names;
+    QJsonArray cells;
+    for (int i = 0; i < 8; ++i) {
+        names.append(u"C%1"_s.arg(i));
+        cells.append(previewCell());
+    }
+    Compared c(Documents::document({Documents::tab(u"T"_s, names, cells)}, metadata()));
+    QVERIFY(c.compareWith(
+        Documents::document({Documents::tab(u"T"_s, {names.constFirst()}, {cells.at(0)})}, metadata())));
+    c.check(u"T"_s);
+    QCOMPARE(
+        c.child<QLabel>("comparisonChecked")->text(),
+        u"7 differences are checked. Taking over removes from this workflow: column T › C1, column T › C2, "
+        "column T › C3, column T › C4, column T › C5, 2 more"_s);
 }
 
 void ComparisonTest::allOfItIsTakenOver()
