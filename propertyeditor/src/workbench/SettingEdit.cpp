@@ -17,6 +17,14 @@ struct SettingEditTr
     Q_DECLARE_TR_FUNCTIONS(SettingEdit)
 };
 
+/// What files have for a value: two references to one file are no equal values, but the same there.
+QJsonValue storedWith(const KProperty &property, const QVariant &value)
+{
+    KProperty other(property);
+    other.setValue(value);
+    return SettingReader::stored(other);
+}
+
 } // namespace
 
 QString SettingEdit::refusal(const KPropertySet *set, const QByteArray &name)
@@ -45,12 +53,7 @@ bool SettingEdit::give(KProperty *property, const QVariant &value)
 {
     if (!property->isModified() || property->composedProperty())
         return property->setValue(value);
-    // Two references to one file are no equal values.
-    KProperty before(*property);
-    before.setValue(property->oldValue());
-    KProperty wanted(*property);
-    wanted.setValue(value);
-    if (SettingReader::stored(before) != SettingReader::stored(wanted))
+    if (storedWith(*property, property->oldValue()) != storedWith(*property, value))
         return property->setValue(value);
     property->resetValue();
     return true;
@@ -61,10 +64,7 @@ bool SettingEdit::changes(const KPropertySet *set, const QByteArray &name, const
     if (!refusal(set, name).isEmpty())
         return false;
     const KProperty &property = set->property(name);
-    // Two references to one file are no equal values.
-    KProperty other(property);
-    other.setValue(value);
-    return SettingReader::stored(other) != SettingReader::stored(property);
+    return storedWith(property, value) != SettingReader::stored(property);
 }
 
 SettingEdit::Outcome SettingEdit::setValue(KPropertySet *set, const QByteArray &name, const QVariant &value)
