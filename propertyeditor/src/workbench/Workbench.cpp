@@ -1,6 +1,7 @@
 #include "orv/propertyeditor/workbench/Workbench.h"
 
 #include "CurrentSetting.h"
+#include "PlaceKeeper.h"
 #include "SameSetting.h"
 #include "SettingClipboard.h"
 #include "StatusLine.h"
@@ -38,6 +39,7 @@ Workbench::Workbench(PropertyEditorWindow *window)
     m_findings = new Findings(this);
     m_upgrades = new Upgrades(this);
     auto *current = new CurrentSetting(window, this);
+    new PlaceKeeper(window, current, this);
     new SameSetting(this, current);
     new SettingClipboard(this, current);
     m_comparison = new Comparison(this);
