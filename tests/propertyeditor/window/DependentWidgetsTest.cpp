@@ -101,6 +101,7 @@ private Q_SLOTS:
     void samplesAreForwarded();
     void removedColumnsAreForwarded();
     void theLastSamplesCount();
+    void samplesAddedByHandAreHeardAfterTheNextLoad();
     void tableOfProteinsIsToldOnce();
     void documentsDontHearEachOther();
     void tabsHaveTheTitleOfTheCurrentWindow();
@@ -222,6 +223,20 @@ void DependentWidgetsTest::theLastSamplesCount()
     Q_EMIT last->removeCustomColumn(u"B"_s);
     QCOMPARE(told.size(), 1);
     QCOMPARE(told.first().first().toString(), u"B"_s);
+}
+
+void DependentWidgetsTest::samplesAddedByHandAreHeardAfterTheNextLoad()
+{
+    const LogCapture log;
+    Window window;
+    QCOMPARE(window.openWorkflow(documentOf({karvonCell()})), kOpened);
+    const QSignalSpy told(&window.state(), &PropertyEditorWindowPrivate::removeCustomColumn);
+    window.state().appendColumnGrid(BaseItemType::Samples, u"Files"_s);
+    Q_EMIT shown<SamplesAndTracesInputWidget>(window)->removeCustomColumn(u"Batch"_s);
+    QCOMPARE(told.size(), 0);
+    QCOMPARE(window.openWorkflow(window.content().document()), kOpened);
+    Q_EMIT shown<SamplesAndTracesInputWidget>(window)->removeCustomColumn(u"Batch"_s);
+    QCOMPARE(told.size(), 1);
 }
 
 void DependentWidgetsTest::tableOfProteinsIsToldOnce()

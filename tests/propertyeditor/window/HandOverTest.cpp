@@ -91,6 +91,7 @@ private Q_SLOTS:
     void warningsMayBePassedOver();
     void ownValidatorsRunOnThisThread();
     void searchesNeedJava();
+    void searchEnginesAreKnown();
     void searchesOfSeveralSamplesGoToAFolder();
     void unsupportedReferencesStopIt();
     void withoutAPathNothingIsSent();
@@ -203,6 +204,17 @@ void HandOverTest::searchesNeedJava()
     QVERIFY(checked.answers.transcript().last().text.contains(u"Java"_s));
     QVERIFY(checked.answers.isDone());
     QVERIFY(checked.sent.isEmpty());
+}
+
+void HandOverTest::searchEnginesAreKnown()
+{
+    Window window;
+    for (const char *type : {"Karvon", "Ostrale", "Preview", "Samples"}) {
+        Content content;
+        QVERIFY(!content.assignFromJson(documentOf({Documents::cell(text(type))})).hasError());
+        QCOMPARE(window.state().hasKarvon(content), text(type) == u"Karvon"_s);
+        QCOMPARE(window.state().hasOstrale(content), text(type) == u"Ostrale"_s);
+    }
 }
 
 void HandOverTest::searchesOfSeveralSamplesGoToAFolder()

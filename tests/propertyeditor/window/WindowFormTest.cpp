@@ -256,11 +256,17 @@ void WindowFormTest::readOnlyWindowsOnlyClose()
     Window window;
     window.show();
     const QSignalSpy sent(&window, &PropertyEditorWindow::sendToProcessing);
+    QCOMPARE(window.openWorkflow(documentOf({karvonCell()})), kOpened);
+    const QSignalSpy pressed(&window.button("pushCreateProject"), &QPushButton::pressed);
+    int clicks = 0;
+    connect(&window.button("pushCreateProject"), &QPushButton::clicked, &window, [&clicks] { ++clicks; });
     window.setReadOnly();
-    QCOMPARE(window.windowTitle(), u"Project Creation (read only)"_s);
+    QCOMPARE(window.windowTitle(), u"Mixture - Project Creation (read only)"_s);
     QCOMPARE(window.button("pushCreateProject").text(), u"Close"_s);
     QTest::mouseClick(&window.button("pushCreateProject"), Qt::LeftButton);
     QVERIFY(!window.isVisible());
+    QCOMPARE(clicks, 0);
+    QVERIFY(pressed.isEmpty());
     QVERIFY(sent.isEmpty());
     QVERIFY(answers.isDone());
 }

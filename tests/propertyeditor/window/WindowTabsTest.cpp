@@ -1,9 +1,14 @@
 #include "WidgetTest.h"
 #include "WindowFixture.h"
 
+#include <KProperty.h>
+#include <KPropertySet.h>
 #include <orv/propertyeditor/content/BaseItem.h>
+#include <orv/propertyeditor/grid/EditableTabBar.h>
 #include <orv/propertyeditor/grid/KPropertyCustomEditorView.h>
+#include <orv/propertyeditor/window/PropertyEditorDirLocations.h>
 #include <orv/propertyeditor/window/PropertyEditorWindowJsonFile.h>
+#include <orv/widgets/FileSystemSettings.h>
 #include <orv/widgets/SamplesAndTracesInputWidget.h>
 
 #include <QComboBox>
@@ -75,6 +80,10 @@ private Q_SLOTS:
     void typesOfColumnsAreOffered();
     void removingNoTabDoesNothing();
     void presetsKeepThePlaceOfTheTab();
+    void columnsOfPresetsAreWhatTheirCellsAre();
+    void presetsRememberTheUsualFolder();
+    void onlyDesignersMoveTabs();
+    void columnsKnowTheFolderOfTheWorkflow();
 };
 
 void WindowTabsTest::tabsAreAddedByName()
@@ -434,6 +443,76 @@ void WindowTabsTest::theNextTabShowsTheFocusInItsColumn()
     QCOMPARE(window.tabs().currentIndex(), 2);
     QVERIFY(qobject_cast<QAbstractItemView *>(QApplication::focusWidget()));
     QVERIFY(window.grid(2)->items().constFirst()->widget()->isAncestorOf(QApplication::focusWidget()));
+}
+
+void WindowTabsTest::columnsOfPresetsAreWhatTheirCellsAre()
+{
+    const LogCapture log;
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.ptab"_s);
+    const PropertyEditorContent::Tabs tabs{
+        {u"Mine"_s,
+         {{u"Karvon"_s, u"By hand"_s},
+          {Documents::toBytes(previewCell()), Documents::toBytes(karvonCell())}}}};
+    QVERIFY(PropertyEditorWindowJsonFile(path).saveTabToJson(PropertyEditorContent(tabs)));
+    Designed designed;
+    designed.answers.expectPath(u"Open Tab"_s, path);
+    QVERIFY(designed.window.openTabPreset());
+    const PropertyGridWidget *grid = designed.window.grid(designed.window.tabs().currentIndex());
+    QCOMPARE(grid->columnNames(), (QStringList{u"Karvon"_s, u"By hand"_s}));
+    QCOMPARE(grid->items().at(0)->type(), BaseItemType::Preview);
+    QCOMPARE(grid->items().at(1)->type(), BaseItemType::Karvon);
+}
+
+void WindowTabsTest::presetsRememberTheUsualFolder()
+{
+    const QTemporaryDir saved;
+    const QTemporaryDir opened;
+    const QTemporaryDir launched;
+    FileSystemSettings::rememberChosen(PropertyEditorDirLocations::OpenWorkflowLocation,
+                                       launched.filePath(u"a.wflw"_s));
+    const QString path = opened.filePath(u"a.ptab"_s);
+    QVERIFY(
+        PropertyEditorWindowJsonFile(path).saveTabToJson(PropertyEditorContent(documentOf({previewCell()}))));
+    Designed designed;
+    designed.answers.expectPath(u"Open Tab"_s, path);
+    QVERIFY(designed.window.openTabPreset());
+    QCOMPARE(FileSystemSettings::folder(FileSystemSettings::DefaultLocation), opened.path());
+    designed.answers.expectPath(u"Save tab to file"_s, saved.filePath(u"b.ptab"_s));
+    QVERIFY(designed.window.saveTabPreset());
+    QCOMPARE(FileSystemSettings::folder(FileSystemSettings::DefaultLocation), saved.path());
+    QCOMPARE(FileSystemSettings::folder(PropertyEditorDirLocations::OpenWorkflowLocation), launched.path());
+}
+
+void WindowTabsTest::onlyDesignersMoveTabs()
+{
+    Designed designed;
+    QVERIFY(designed.window.tabs().editableTabBar()->isMovable());
+    const QWidget *button = designed.window.grid(0)->buttonsLayout()->itemAt(0)->widget();
+    QVERIFY(button->isVisibleTo(designed.window.grid(0)));
+    designed.window.state().setEditorMode(GridPropertyEditorView::EditorMode::User);
+    QVERIFY(!designed.window.tabs().editableTabBar()->isMovable());
+    QVERIFY(!button->isVisibleTo(designed.window.grid(0)));
+}
+
+void WindowTabsTest::columnsKnowTheFolderOfTheWorkflow()
+{
+    LogCapture log;
+    const QTemporaryDir folder;
+    Window window;
+    window.show();
+    const QJsonObject cell = karvonCell({setting("KarvonLayout", u"layout.ini"_s)});
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", documentOf({cell}))), kOpened);
+    const QUrl url = QUrl::fromLocalFile(folder.path() + u'/');
+    auto *first = qobject_cast<GridPropertyEditorView *>(window.grid(0)->items().first()->widget());
+    QCOMPARE(first->propertySet()->property("KarvonLayout").option("baseUrl").toUrl(), url);
+    log.clear();
+    window.state().appendColumnGrid(BaseItemType::Karvon, u"Added"_s);
+    QCOMPARE(window.grid(0)->items().size(), 2);
+    const QStringList told = log.texts(QtDebugMsg).filter(u"Setting base URL"_s).filter(url.toString());
+    QVERIFY2(told.size() >= 2, qPrintable(log.texts(QtDebugMsg).join(u'\n')));
+    auto *added = qobject_cast<GridPropertyEditorView *>(window.grid(0)->items().last()->widget());
+    QVERIFY(!added->isExpanded());
 }
 
 WIDGET_REGISTER_TEST(WindowTabsTest)
