@@ -72,6 +72,13 @@ struct Checked
     QSignalSpy sent{&window, &PropertyEditorWindow::sendToProcessing};
 };
 
+/// The window of an application beside a server.
+class ServerWindow : public Window
+{
+public:
+    [[nodiscard]] WorkflowAppType workflowAppType() const override { return WorkflowAppType::Talvane; }
+};
+
 QList<BaseItemType> types(std::initializer_list<BaseItemType> list)
 {
     return list;
@@ -94,6 +101,7 @@ private Q_SLOTS:
     void searchEnginesAreKnown();
     void searchesOfSeveralSamplesGoToAFolder();
     void unsupportedReferencesStopIt();
+    void referencesAreJudgedByTheApplication();
     void withoutAPathNothingIsSent();
     void theWindowIsDisabledMeanwhile();
     void widgetWarningsNameThePurpose();
@@ -247,6 +255,27 @@ void HandOverTest::unsupportedReferencesStopIt()
              qPrintable(answers.transcript().last().text));
     QVERIFY(answers.transcript().last().text.contains(
         u"In order to use this workflow you need to use Mirel for Talvane."_s));
+}
+
+void HandOverTest::referencesAreJudgedByTheApplication()
+{
+    const LogCapture log;
+    ServerWindow window;
+    ScriptedAnswerer answers;
+    const auto layout = [](const char *reference) {
+        return PropertyEditorContent(documentOf({karvonCell({setting("KarvonLayout", text(reference))})}));
+    };
+    QVERIFY(window.state().verifyWorkflowReferences(layout("talvane:/projects/1/layout.ini")));
+    QVERIFY(window.state().verifyWorkflowReferences(layout("managed:/17/layout.ini")));
+    QVERIFY(answers.transcript().isEmpty());
+    answers.expectBox(u"Unsupported reference type"_s, u"OK"_s);
+    QVERIFY(!window.state().verifyWorkflowReferences(
+        layout("unifi:/lab/{0b5a1c6e-1111-4222-8333-444455556666}/Results/layout.ini")));
+    // People read the folders, not the number.
+    QCOMPARE(transcriptOf(answers),
+             QStringList{u"warning | Unsupported reference type | A workflow cannot be launched. It contains "
+                         "unsupported references: \\nunifi:/lab/Results/layout.ini\\nIn order to use this "
+                         "workflow you need to use Mirel. | [OK]"_s});
 }
 
 void HandOverTest::withoutAPathNothingIsSent()
