@@ -31,7 +31,9 @@ Widget *named(const char *name, QWidget *parent)
 QIcon listIcon(const QIcon &icon, const QSize &size)
 {
     QIcon shown(icon.pixmap(size, QIcon::Normal));
-    shown.addPixmap(icon.pixmap(size, QIcon::Selected), QIcon::Selected);
+    // Where the list looks like a menu, the entry under the pointer is active, not selected.
+    for (const QIcon::Mode mode : {QIcon::Selected, QIcon::Active})
+        shown.addPixmap(icon.pixmap(size, QIcon::Selected), mode);
     return shown;
 }
 

@@ -4,6 +4,7 @@
 #include <orv/propertyeditor/window/WorkflowIcons.h>
 #include <orv/propertyeditor/window/WorkflowPropertiesDialog.h>
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QJsonObject>
@@ -11,6 +12,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QStyleFactory>
 
 using namespace orv;
 using namespace Qt::StringLiterals;
@@ -64,6 +66,7 @@ private Q_SLOTS:
     void iconsHaveSizesAndModes();
     void unknownIconsAreTheDefault();
     void listShowsIconsAtRestAndUnderThePointer();
+    void theListShowsTheIconUnderThePointer();
     void unknownIconsAreShownAsWhatCanBeChosen();
     void usersCannotChangeTheType();
 };
@@ -210,6 +213,36 @@ void WorkflowPropertiesDialogTest::listShowsIconsAtRestAndUnderThePointer()
     QVERIFY(peptide.availableSizes(QIcon::Selected).contains(icons->iconSize()));
     QCOMPARE(colorOf(peptide, side, QIcon::Normal), QColor(0, 0, 200));
     QCOMPARE(colorOf(peptide, side, QIcon::Selected), QColor(0, 200, 0));
+}
+
+void WorkflowPropertiesDialogTest::theListShowsTheIconUnderThePointer()
+{
+    for (const QString &style : {u"Fusion"_s, u"Windows"_s}) {
+        WorkflowPropertiesDialog dialog(peptideMetadata());
+        auto *icons = part<QComboBox>(dialog, u"comboIcons"_s);
+        const std::unique_ptr<QStyle> look(QStyleFactory::create(style));
+        icons->setStyle(look.get());
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        icons->showPopup();
+        QVERIFY(QTest::qWaitForWindowExposed(icons->view()->window()));
+        const auto shows = [icons](const QColor &color) {
+            const QImage list = icons->view()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+            for (int y = 0; y < list.height(); ++y) {
+                for (int x = 0; x < list.width(); ++x) {
+                    if (list.pixelColor(x, y) == color)
+                        return true;
+                }
+            }
+            return false;
+        };
+        const QColor atRest(0, 0, 200);
+        const QColor underThePointer(0, 200, 0);
+        QVERIFY2(shows(underThePointer) && !shows(atRest), qPrintable(style));
+        QTest::keyClick(icons->view(), Qt::Key_Up);
+        QVERIFY2(!shows(underThePointer) && shows(atRest), qPrintable(style));
+        icons->hidePopup();
+    }
 }
 
 void WorkflowPropertiesDialogTest::unknownIconsAreShownAsWhatCanBeChosen()
