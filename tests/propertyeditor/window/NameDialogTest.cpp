@@ -118,6 +118,10 @@ void NameDialogTest::choicesAreReplaced()
     const auto *combo = dialog.findChild<QComboBox *>();
     QCOMPARE(combo->count(), 1);
     QCOMPARE(dialog.comboText(), u"Dravik"_s);
+    const int narrow = dialog.width();
+    dialog.setComboStrings({u"A column with a name that needs more room than the title"_s});
+    QCOMPARE(dialog.size(), dialog.sizeHint());
+    QVERIFY(dialog.width() > narrow);
 }
 
 void NameDialogTest::noComboTakesNoChoices()

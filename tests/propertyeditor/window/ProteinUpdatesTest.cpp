@@ -1,6 +1,8 @@
 #include "WidgetTest.h"
 #include "WindowFixture.h"
 
+#include <orv/propertyeditor/grid/GridCommunicative.h>
+#include <orv/propertyeditor/grid/IGridItemCreator.h>
 #include <orv/propertyeditor/window/DependentWidgets.h>
 #include <orv/table_model/TableModel.h>
 #include <orv/widgets/ProteinAnnotationWidget.h>
@@ -40,6 +42,67 @@ ProteinOptionsWidget &proteinsOf(Window &window)
     return *widget;
 }
 
+/// A column of an application that writes down what it is told.
+class Witness : public GridCommunicative, public IGridItem
+{
+public:
+    Witness(GridCommunicationManager *bus, QStringList *told)
+        : GridCommunicative(bus)
+        , m_told(told)
+    {}
+
+    using IGridItem::content;
+    [[nodiscard]] QJsonObject content() const override { return storedContent(); }
+    [[nodiscard]] QWidget *widget() override { return m_widget; }
+    void beginPresetLoading() override { m_told->append(u"begin"_s); }
+    void endPresetLoading() override { m_told->append(u"end"_s); }
+    void messageReceived(const GridMessage &message) override
+    {
+        m_told->append(QString::number(int(message.type)));
+    }
+
+protected:
+    Error setContentInternal() override { return Error::NoError; }
+
+private:
+    QStringList *m_told;
+    QPointer<QLabel> m_widget{new QLabel};
+};
+
+class WitnessCreator : public TalkingItemCreator
+{
+public:
+    explicit WitnessCreator(QStringList *told)
+        : m_told(told)
+    {}
+
+    [[nodiscard]] IGridItem *createGridItemOn(GridCommunicationManager *bus) const override
+    {
+        return new Witness(bus, m_told);
+    }
+
+private:
+    QStringList *m_told;
+};
+
+/// Columns of documents for several products are witnesses while this lives.
+class Witnesses
+{
+public:
+    explicit Witnesses(QStringList *told)
+    {
+        registerCreators(); // of the other windows, which have none
+        m_manager.registerCreators();
+        m_manager.registerCreator(BaseItemType::MultiDocReport, new WitnessCreator(told));
+        GridItemManager::setCustomManager(&m_manager);
+    }
+    ~Witnesses() { GridItemManager::setCustomManager(nullptr); }
+    Q_DISABLE_COPY_MOVE(Witnesses)
+
+private:
+    GridItemManager m_manager;
+};
+
 bool isColumnShown(const ProteinTableWidget &table, const char *column)
 {
     return !table.view()->isColumnHidden(table.sheet()->columnOf(text(column)));
@@ -58,6 +121,7 @@ private Q_SLOTS:
     void masslessSequencesAreFaultsOfIntactAnalyses();
     void averageMassesGoWithTheTab();
     void samplesShowWhatTheirDocumentsNeed();
+    void proteinsAreToldBetweenBeginAndEnd();
 };
 
 void ProteinUpdatesTest::someColumnsAreDocuments()
@@ -157,6 +221,21 @@ void ProteinUpdatesTest::samplesShowWhatTheirDocumentsNeed()
     QVERIFY(isHidden());
     window.grid(0)->appendColumn(BaseItemType::Karvon, u"Search"_s, true);
     QVERIFY(!isHidden());
+}
+
+void ProteinUpdatesTest::proteinsAreToldBetweenBeginAndEnd()
+{
+    const LogCapture log;
+    QStringList told;
+    const Witnesses witnesses(&told);
+    Window window;
+    const QJsonObject first = Documents::tab(u"Proteins"_s, {u"P"_s, u"W"_s},
+                                             {proteinsCell("PEPTIDE"), settingsCell("MultiDocReport", {})});
+    const QJsonObject second = Documents::tab(u"Search"_s, {u"S"_s}, {karvonCell()});
+    QCOMPARE(window.openWorkflow(Documents::document({first, second}, metadata())), kOpened);
+    told.clear();
+    window.grid(1)->removeColumn(0);
+    QCOMPARE(told, (QStringList{u"begin"_s, u"253"_s, u"end"_s}));
 }
 
 WIDGET_REGISTER_TEST(ProteinUpdatesTest)
