@@ -418,12 +418,15 @@ void WindowTabsTest::presetsKeepThePlaceOfTheTab()
 
 void WindowTabsTest::theNextTabShowsTheFocusInItsColumn()
 {
+    const QJsonObject samples{
+        {u"type"_s, u"Samples"_s},
+        {u"properties"_s, QJsonArray{QJsonObject{{u"name"_s, u"SamplesTable"_s},
+                                                 {u"value"_s, QJsonObject{{u"Samples"_s, QJsonArray()}}}}}}};
     Window window;
-    QCOMPARE(window.openWorkflow(Documents::document(
-                 {Documents::tab(u"A"_s, {u"One"_s}, {karvonCell()}),
-                  Documents::tab(u"B"_s, {u"Two"_s}, {karvonCell()}),
-                  Documents::tab(u"C"_s, {u"Samples"_s}, {QJsonObject{{u"type"_s, u"Samples"_s}}})},
-                 metadata())),
+    QCOMPARE(window.openWorkflow(Documents::document({Documents::tab(u"A"_s, {u"One"_s}, {karvonCell()}),
+                                                      Documents::tab(u"B"_s, {u"Two"_s}, {karvonCell()}),
+                                                      Documents::tab(u"C"_s, {u"Samples"_s}, {samples})},
+                                                     metadata())),
              kOpened);
     window.show();
     const auto rowsOf = [&](int tab) {
