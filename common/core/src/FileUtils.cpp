@@ -124,11 +124,66 @@ bool flushToDisk(const QFile &file)
 #endif
 }
 
-/// A name beside \a path that no other thread or program takes.
+/// File systems have names of so many bytes.
+constexpr qsizetype kLongestName = 255;
+/// What QSaveFile puts behind a name: a point and six letters.
+constexpr qsizetype kSaveFileSuffix = 7;
+
+bool fitsQSaveFile(const QString &path)
+{
+    const QFileInfo named(path);
+    const QFileInfo target(named.isSymLink() ? named.symLinkTarget() : path);
+    return QFile::encodeName(target.fileName()).size() + kSaveFileSuffix <= kLongestName;
+}
+
+/// A name beside \a path that no other thread or program takes. Where nothing fits behind the name, its
+/// beginning has to do.
 QString nameBeside(const QString &path)
 {
     static std::atomic<quint32> count = 0;
-    return QStringLiteral("%1.%2-%3").arg(path).arg(QCoreApplication::applicationPid()).arg(count++);
+    const QFileInfo info(path);
+    const QString suffix = QStringLiteral(".%1-%2").arg(QCoreApplication::applicationPid()).arg(count++);
+    QString name = info.fileName();
+    while (!name.isEmpty() && QFile::encodeName(name + suffix).size() > kLongestName)
+        name.chop(1);
+    return info.path() + u'/' + name + suffix;
+}
+
+enum class Durability
+{
+    Flushed, ///< stands on the disk also after a power cut
+    Unflushed,
+};
+
+/// Writes beside \a path and renames.
+QFileDevice::FileError writeAside(const QString &path, const QByteArray &bytes, Durability durability,
+                                  QString *errorText)
+{
+    const QFileInfo named(path);
+    const QString target = named.isSymLink() ? named.symLinkTarget() : path;
+    const QFileInfo old(target);
+    const bool isReplaced = old.exists();
+    if (isReplaced && !old.isWritable())
+        return failed(QFileDevice::OpenError, qt_error_string(EACCES), errorText);
+
+    QFile file(nameBeside(target));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+        return failed(QFileDevice::OpenError, file.errorString(), errorText);
+    QString reason = writeAll(file, bytes);
+    if (reason.isEmpty() && durability == Durability::Flushed && !flushToDisk(file))
+        reason = qt_error_string(errno);
+    file.close();
+    if (reason.isEmpty() && isReplaced && !file.setPermissions(old.permissions()))
+        reason = file.errorString();
+    if (reason.isEmpty()) {
+        std::error_code renameError;
+        std::filesystem::rename(file.filesystemFileName(), old.filesystemFilePath(), renameError);
+        if (!renameError)
+            return QFileDevice::NoError;
+        reason = QString::fromStdString(renameError.message());
+    }
+    file.remove();
+    return failed(QFileDevice::WriteError, reason, errorText);
 }
 
 /// Whoever has linked copies of a folder, as backups are, wants them to stay; whoever has not shall hear why
@@ -294,6 +349,8 @@ QFileDevice::FileError writeToFile(const QString &path, const QByteArray &bytes,
     warnOfOtherNames(path);
     if (allowsOnlyTheFile(path))
         return writeInPlace(path, bytes, errorText);
+    if (!fitsQSaveFile(path))
+        return writeAside(path, bytes, Durability::Flushed, errorText);
     QSaveFile file(path);
     errno = 0;
     // Without the flush a disk that is full shows only inside commit(), which renames the cut file all the
@@ -315,29 +372,7 @@ QFileDevice::FileError writeReproducibleFile(const QString &path, const QByteArr
 {
     if (const QString refusal = refusalToWrite(path); !refusal.isEmpty())
         return failed(QFileDevice::OpenError, refusal, errorText);
-    const QFileInfo named(path);
-    const QString target = named.isSymLink() ? named.symLinkTarget() : path;
-    const QFileInfo old(target);
-    const bool isReplaced = old.exists();
-    if (isReplaced && !old.isWritable())
-        return failed(QFileDevice::OpenError, qt_error_string(EACCES), errorText);
-
-    QFile file(nameBeside(target));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
-        return failed(QFileDevice::OpenError, file.errorString(), errorText);
-    QString reason = writeAll(file, bytes);
-    file.close();
-    if (reason.isEmpty() && isReplaced && !file.setPermissions(old.permissions()))
-        reason = file.errorString();
-    if (reason.isEmpty()) {
-        std::error_code renameError;
-        std::filesystem::rename(file.filesystemFileName(), old.filesystemFilePath(), renameError);
-        if (!renameError)
-            return QFileDevice::NoError;
-        reason = QString::fromStdString(renameError.message());
-    }
-    file.remove();
-    return failed(QFileDevice::WriteError, reason, errorText);
+    return writeAside(path, bytes, Durability::Unflushed, errorText);
 }
 
 } // namespace orv::FileUtils

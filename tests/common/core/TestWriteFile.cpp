@@ -33,6 +33,8 @@ private Q_SLOTS:
     void aFileInAFolderWithoutPermissionIsWrittenInPlace_data();
     void aFileInAFolderWithoutPermissionIsWrittenInPlace();
     void aFolderWithoutPermissionIsRefused();
+    void theLongestNameIsWritten_data();
+    void theLongestNameIsWritten();
     void aFullDiskLeavesTheOldFile_data();
     void aFullDiskLeavesTheOldFile();
 
@@ -223,6 +225,29 @@ void TestWriteFile::aFolderWithoutPermissionIsRefused()
         QSKIP("Permissions don't bind this user, and no other user can be taken");
     QCOMPARE(outcome, int(Refused));
     QCOMPARE(bytesOf(path), "old"_ba);
+}
+
+void TestWriteFile::theLongestNameIsWritten_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("Latin") << QString(250, u'n') + u".wflw"_s;
+    QTest::newRow("Greek") << QString(125, u'\u03b1') + u".wflw"_s;
+    QTest::newRow("the longest with a name beside it") << QString(243, u'n') + u".wflw"_s;
+}
+
+void TestWriteFile::theLongestNameIsWritten()
+{
+    QFETCH(const QString, name);
+    const QString path = at(name);
+    for (const QByteArray &bytes : {"new"_ba, "newer"_ba}) {
+        QString errorText;
+        QCOMPARE(write(path, bytes, &errorText), QFileDevice::NoError);
+        QCOMPARE(errorText, QString());
+        QCOMPARE(bytesOf(path), bytes);
+        QCOMPARE(FileUtils::writeReproducibleFile(path, bytes + "!", &errorText), QFileDevice::NoError);
+        QCOMPARE(bytesOf(path), bytes + "!");
+    }
+    QCOMPARE(names(), QStringList(name));
 }
 
 void TestWriteFile::aFullDiskLeavesTheOldFile_data()
