@@ -3,6 +3,7 @@
 #include "internal/TableModelPrivate.h"
 #include "internal/TableSort.h"
 
+#include <orv/core/PlainTip.h>
 #include <orv/table_model/SequenceText.h>
 
 #include <QCoreApplication>
@@ -137,6 +138,7 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
     case Qt::WhatsThisRole:
         return column.help();
     case Qt::ToolTipRole:
+        return PlainTip::of(explanationOf(column));
     case Qt::AccessibleDescriptionRole:
         return explanationOf(column);
     case Qt::TextAlignmentRole:

@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QShortcut>
+#include <QStyleOptionTab>
 
 #include <utility>
 
@@ -19,6 +20,19 @@ void EditableTabBar::setEditorMode(GridPropertyEditorView::EditorMode mode)
 {
     m_isEditable = mode == GridPropertyEditorView::EditorMode::Designer;
     setMovable(m_isEditable);
+}
+
+void EditableTabBar::initStyleOption(QStyleOptionTab *option, int tabIndex) const
+{
+    QTabBar::initStyleOption(option, tabIndex);
+    option->text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+QSize EditableTabBar::tabSizeHint(int index) const
+{
+    const QString title = tabText(index);
+    const QSize counted = fontMetrics().size(Qt::TextShowMnemonic, title);
+    return QTabBar::tabSizeHint(index) + QSize(fontMetrics().size(0, title).width() - counted.width(), 0);
 }
 
 void EditableTabBar::mousePressEvent(QMouseEvent *event)

@@ -1,5 +1,6 @@
 #include "orv/propertyeditor/grid/PropertySplitterWidget.h"
 
+#include <orv/core/PlainTip.h>
 #include <orv/propertyeditor/grid/GridHeaderModel.h>
 
 #include <QHeaderView>
@@ -51,7 +52,7 @@ QString PropertySplitterWidget::headerText() const
 void PropertySplitterWidget::setHeaderText(const QString &text)
 {
     m_model->setStringList({text});
-    m_header->setToolTip(text);
+    m_header->setToolTip(PlainTip::of(text));
     m_header->setAccessibleName(text);
     setAccessibleName(text);
 }

@@ -1,6 +1,7 @@
 #include "orv/propertyeditor/workbench/JournalKeeper.h"
 
 #include <orv/core/Error.h>
+#include <orv/core/PlainTip.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/propertyeditor/workbench/RecoveryJournal.h>
@@ -121,7 +122,7 @@ void JournalKeeper::tell(const Error &error)
 {
     const QString text = error.errorMessage();
     m_window->statusBar()->showMessage(text);
-    m_window->statusBar()->setToolTip(error.details().join(u'\n'));
+    m_window->statusBar()->setToolTip(PlainTip::of(error.details().join(u'\n')));
     QAccessibleEvent event(m_window->statusBar(), QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
 }

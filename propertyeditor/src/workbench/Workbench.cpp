@@ -10,6 +10,7 @@
 #include "orv/propertyeditor/workbench/Findings.h"
 #include "orv/propertyeditor/workbench/Upgrades.h"
 
+#include <orv/core/PlainTip.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/workbench/DocumentHistory.h>
 #include <orv/widgets/ControlHelp.h>
@@ -72,7 +73,7 @@ void Workbench::updateHistory()
     const auto show = [](QAction *action, const QString &plain, const QString &named, bool isThere,
                          QString step, const QString &reason) {
         action->setEnabled(isThere);
-        action->setToolTip(isThere ? step : reason);
+        action->setToolTip(isThere ? PlainTip::of(step) : reason);
         action->setText(isThere ? named.arg(step.replace(u'&', QLatin1String("&&"))) : plain);
     };
     show(m_undo, tr("&Undo"), tr("&Undo: %1"), m_history->canUndo(), m_history->undoText(),

@@ -1,5 +1,6 @@
 #include "TableModelPrivate.h"
 
+#include <orv/core/PlainTip.h>
 #include <orv/table_model/SequenceText.h>
 
 #include <algorithm>
@@ -136,7 +137,7 @@ QString TableModel::Private::toolTip(const QModelIndex &index) const
     }
     const QString text = column.shown(kept.first(std::min(kept.size(), kToolTipUnits)), sign);
     const QString note = noteOf(index);
-    return !problem.isEmpty() ? problem : note.isEmpty() ? text : text + u'\n' + note;
+    return PlainTip::of(!problem.isEmpty() ? problem : note.isEmpty() ? text : text + u'\n' + note);
 }
 
 QVariant TableModel::Private::rowHeader(int row, int role) const
@@ -150,6 +151,8 @@ QVariant TableModel::Private::rowHeader(int row, int role) const
     const auto remark = remarks.constFind(shown.at(row));
     if (remark == remarks.cend() || remark->text.isEmpty())
         return {};
+    if (role == Qt::ToolTipRole)
+        return PlainTip::of(remark->text);
     return isRemark ? QVariant(remark->text) : QVariant(remark->isError);
 }
 

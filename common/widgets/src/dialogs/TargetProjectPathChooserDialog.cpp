@@ -41,6 +41,7 @@ void TargetProjectPathChooserDialog::build()
     row->addWidget(browseButton);
     m_problem = new QLabel;
     m_problem->setObjectName(QStringLiteral("problem"));
+    m_problem->setTextFormat(Qt::PlainText);
     QPalette colors = m_problem->palette();
     colors.setColor(QPalette::WindowText, MeaningColors::error(palette()));
     m_problem->setPalette(colors);

@@ -59,6 +59,7 @@ DigestBar::DigestBar(QWidget *parent)
     m_problem = new QLabel;
     m_problem->setObjectName(QStringLiteral("digestProblem"));
     m_problem->setWordWrap(true);
+    m_problem->setTextFormat(Qt::PlainText);
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
     const auto add = [&](const QString &text, QWidget *field, int stretch) {

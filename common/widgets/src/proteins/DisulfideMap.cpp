@@ -1,5 +1,6 @@
 #include "DisulfideMap.h"
 
+#include <orv/core/PlainTip.h>
 #include <orv/widgets/MeaningColors.h>
 
 #include <QAccessible>
@@ -188,7 +189,7 @@ bool DisulfideMap::event(QEvent *event)
     if (event->type() == QEvent::ToolTip) {
         auto *const help = static_cast<QHelpEvent *>(event);
         if (const auto cysteine = cysteineAt(help->pos())) {
-            QToolTip::showText(help->globalPos(), nameOf(*cysteine), this);
+            QToolTip::showText(help->globalPos(), PlainTip::of(nameOf(*cysteine)), this);
             return true;
         }
     }

@@ -122,6 +122,7 @@ void ProteinTableWidget::build()
     d->sequence = new SequenceView;
     d->figures = new QLabel;
     d->figures->setObjectName(QStringLiteral("figures"));
+    d->figures->setTextFormat(Qt::PlainText);
     d->figures->setTextInteractionFlags(Qt::TextSelectableByMouse);
     d->figures->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto *const sequencePage = new QWidget;

@@ -5,6 +5,7 @@
 
 #include <orv/chemistry/ChemistryConstants.h>
 #include <orv/chemistry/ProteinGenerator.h>
+#include <orv/core/PlainTip.h>
 #include <orv/table_model/TableSheet.h>
 #include <orv/widgets/ProteinTableWidget.h>
 
@@ -224,8 +225,9 @@ QVariant ProteinTreeTable::data(const QModelIndex &index, int role) const
         return {};
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
         return textOf(index);
+    case Qt::ToolTipRole:
+        return PlainTip::of(textOf(index));
     case Qt::TextAlignmentRole: {
         const bool isText = index.column() == SequenceColumn;
         return QVariant::fromValue((isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);

@@ -46,6 +46,7 @@ ColumnDialog::ColumnDialog(const SamplesInput::CustomColumns &present, QWidget *
         m_type->addItem(tr(row.title), QString::fromLatin1(row.type));
     m_problem->setObjectName(QStringLiteral("columnProblem"));
     m_problem->setWordWrap(true);
+    m_problem->setTextFormat(Qt::PlainText);
     QPalette colors = palette();
     colors.setColor(QPalette::WindowText, MeaningColors::error(colors));
     m_problem->setPalette(colors);

@@ -2,6 +2,7 @@
 
 #include "CodesDialog.h"
 
+#include <orv/core/PlainTip.h>
 #include <orv/widgets/DialogService.h>
 #include <orv/widgets/MeaningColors.h>
 #include <orv/widgets/ORVFileDialog.h>
@@ -101,7 +102,7 @@ void CellLineEdit::check()
     const bool isMirrored = isRightToLeft();
     setTextMargins(isMirrored ? m_chooserWidth : signWidth(), 0, isMirrored ? signWidth() : m_chooserWidth,
                    0);
-    setToolTip(problem);
+    setToolTip(PlainTip::of(problem));
     setAccessibleDescription(problem);
     if (isNew && isVisible())
         tell();
@@ -114,7 +115,7 @@ void CellLineEdit::tell()
         QToolTip::hideText();
         return;
     }
-    QToolTip::showText(mapToGlobal(rect().bottomLeft()), m_problem, this);
+    QToolTip::showText(mapToGlobal(rect().bottomLeft()), PlainTip::of(m_problem), this);
     QAccessibleEvent event(this, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&event);
 }

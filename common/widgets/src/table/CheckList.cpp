@@ -1,5 +1,7 @@
 #include "CheckList.h"
 
+#include <orv/core/PlainTip.h>
+
 #include <algorithm>
 #include <numeric>
 
@@ -50,7 +52,7 @@ QVariant CheckList::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return m_lines[index.row()].text;
     case Qt::ToolTipRole:
-        return m_lines[index.row()].tip;
+        return PlainTip::of(m_lines[index.row()].tip);
     default:
         return {};
     }

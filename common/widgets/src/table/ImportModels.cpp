@@ -1,5 +1,6 @@
 #include "ImportModels.h"
 
+#include <orv/core/PlainTip.h>
 #include <orv/table_model/TableModel.h>
 
 namespace orv {
@@ -35,8 +36,9 @@ QVariant ImportPreviewModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return m_import->record(record).fields.value(index.column());
-    case TableModel::ProblemRole:
     case Qt::ToolTipRole:
+        return PlainTip::of(m_import->problem(record, index.column()));
+    case TableModel::ProblemRole:
     case Qt::AccessibleDescriptionRole:
         return m_import->problem(record, index.column());
     case TableModel::KindRole:
@@ -82,7 +84,9 @@ int ImportProblemModel::columnCount(const QModelIndex &parent) const
 
 QVariant ImportProblemModel::data(const QModelIndex &index, int role) const
 {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
+    if (role == Qt::ToolTipRole)
+        return PlainTip::of(data(index, Qt::DisplayRole).toString());
+    if (!index.isValid() || role != Qt::DisplayRole)
         return {};
     const TableImportProblem &problem = m_import->problems()[index.row()];
     switch (index.column()) {

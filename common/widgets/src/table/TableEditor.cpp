@@ -4,6 +4,7 @@
 #include "FindBar.h"
 
 #include <orv/core/FileUtils.h>
+#include <orv/core/PlainTip.h>
 #include <orv/core/Settings.h>
 #include <orv/table_model/TableExport.h>
 #include <orv/widgets/DialogService.h>
@@ -222,7 +223,7 @@ void TableEditor::applyFilter()
 void TableEditor::say(const QString &text)
 {
     d->message->setText(beginningOf(text));
-    d->message->setToolTip(d->message->text());
+    d->message->setToolTip(PlainTip::of(d->message->text()));
     QAccessibleEvent event(d->message, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
 }

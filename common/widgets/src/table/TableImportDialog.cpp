@@ -170,6 +170,7 @@ void TableImportDialog::buildProblems(QBoxLayout *layout)
     d->problemText = new QLabel;
     d->problemText->setObjectName(QStringLiteral("problemText"));
     d->problemText->setWordWrap(true);
+    d->problemText->setTextFormat(Qt::PlainText);
     d->problemText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     layout->addWidget(d->problemText);
     d->problemModel = new ImportProblemModel(d->shared, this);

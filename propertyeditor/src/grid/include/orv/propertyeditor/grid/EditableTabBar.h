@@ -32,6 +32,9 @@ public Q_SLOTS:
     void onTabBarDoubleClicked(int index);
 
 protected:
+    /// An ampersand belongs to the title.
+    void initStyleOption(QStyleOptionTab *option, int tabIndex) const override;
+    [[nodiscard]] QSize tabSizeHint(int index) const override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 
