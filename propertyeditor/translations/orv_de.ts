@@ -1887,6 +1887,65 @@ Möchten Sie sie ersetzen?</translation>
     </message>
 </context>
 <context>
+    <name>TakeOverText</name>
+    <message>
+        <source>tab %1</source>
+        <translation>Tab %1</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>setting %1</source>
+        <translation>Einstellung %1</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
+    </message>
+    <message>
+        <source>1 difference is checked.</source>
+        <translation>1 Unterschied ist angekreuzt.</translation>
+    </message>
+    <message>
+        <source>%1 differences are checked.</source>
+        <translation>%1 Unterschiede sind angekreuzt.</translation>
+    </message>
+    <message>
+        <source>%1 Taking over removes from this workflow: %2</source>
+        <translation>%1 Das Übernehmen entfernt aus diesem Workflow: %2</translation>
+    </message>
+    <message>
+        <source>Take over 1 setting from %1</source>
+        <translation>1 Einstellung aus %1 übernehmen</translation>
+    </message>
+    <message>
+        <source>Take over %1 settings from %2</source>
+        <translation>%1 Einstellungen aus %2 übernehmen</translation>
+    </message>
+    <message>
+        <source>Take over 1 difference from %1</source>
+        <translation>1 Unterschied aus %1 übernehmen</translation>
+    </message>
+    <message>
+        <source>Take over %1 differences from %2</source>
+        <translation>%1 Unterschiede aus %2 übernehmen</translation>
+    </message>
+    <message>
+        <source>1 difference taken over from %1.</source>
+        <translation>1 Unterschied aus %1 übernommen.</translation>
+    </message>
+    <message>
+        <source>%1 differences taken over from %2.</source>
+        <translation>%1 Unterschiede aus %2 übernommen.</translation>
+    </message>
+    <message>
+        <source>%1 Removed: %2</source>
+        <translation>%1 Entfernt: %2</translation>
+    </message>
+</context>
+<context>
     <name>TheoreticalTableEditor</name>
     <message>
         <source>Row %1 contains invalid data</source>
@@ -2264,22 +2323,6 @@ Möchten Sie sie ersetzen?</translation>
         <translation>Dieses Fenster ist nur zum Lesen: Nichts kann übernommen werden.</translation>
     </message>
     <message>
-        <source>Take over 1 setting from %1</source>
-        <translation>1 Einstellung aus %1 übernehmen</translation>
-    </message>
-    <message>
-        <source>Take over %1 settings from %2</source>
-        <translation>%1 Einstellungen aus %2 übernehmen</translation>
-    </message>
-    <message>
-        <source>Take over 1 difference from %1</source>
-        <translation>1 Unterschied aus %1 übernehmen</translation>
-    </message>
-    <message>
-        <source>Take over %1 differences from %2</source>
-        <translation>%1 Unterschiede aus %2 übernehmen</translation>
-    </message>
-    <message>
         <source>Nothing could be taken over from %1.</source>
         <translation>Aus %1 konnte nichts übernommen werden.</translation>
     </message>
@@ -2404,14 +2447,6 @@ Möchten Sie sie ersetzen?</translation>
     <message>
         <source>Give this workflow what is checked, as one step that can be undone</source>
         <translation>Gibt diesem Workflow, was angekreuzt ist, als einen Schritt, der sich rückgängig machen lässt</translation>
-    </message>
-    <message>
-        <source>1 difference is checked.</source>
-        <translation>1 Unterschied ist angekreuzt.</translation>
-    </message>
-    <message>
-        <source>%1 differences are checked.</source>
-        <translation>%1 Unterschiede sind angekreuzt.</translation>
     </message>
 </context>
 <context>
@@ -4974,6 +5009,14 @@ Open it from its file: %2</source>
         <source>%1: the columns differ</source>
         <translation>%1: Die Spalten sind verschieden</translation>
     </message>
+    <message>
+        <source>No other column has this setting.</source>
+        <translation>Keine andere Spalte hat diese Einstellung.</translation>
+    </message>
+    <message>
+        <source>All columns with this setting have this value.</source>
+        <translation>Alle Spalten mit dieser Einstellung haben diesen Wert.</translation>
+    </message>
 </context>
 <context>
     <name>orv::SamplesAndTracesInputWidget</name>
@@ -5326,28 +5369,12 @@ Ziehen Sie FASTA-Dateien hierher, oder fügen Sie eine Zeile hinzu und wählen S
         <translation>Nichts wurde eingefügt: Die Spalte hat keine der Einstellungen, von denen die Zwischenablage spricht.</translation>
     </message>
     <message>
-        <source>Paste 1 setting</source>
-        <translation>1 Einstellung einfügen</translation>
-    </message>
-    <message>
-        <source>Paste %1 settings</source>
-        <translation>%1 Einstellungen einfügen</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
     <message>
         <source>Nothing was pasted.</source>
         <translation>Nichts wurde eingefügt.</translation>
-    </message>
-    <message>
-        <source>1 setting pasted.</source>
-        <translation>1 Einstellung eingefügt.</translation>
-    </message>
-    <message>
-        <source>%1 settings pasted.</source>
-        <translation>%1 Einstellungen eingefügt.</translation>
     </message>
     <message>
         <source>%1 Not pasted: %2</source>
@@ -5360,6 +5387,30 @@ Ziehen Sie FASTA-Dateien hierher, oder fügen Sie eine Zeile hinzu und wählen S
     <message>
         <source>This window is read only: nothing can be pasted.</source>
         <translation>Dieses Fenster ist nur zum Lesen: Nichts kann eingefügt werden.</translation>
+    </message>
+    <message>
+        <source>Paste 1 setting into %1</source>
+        <translation>1 Einstellung in %1 einfügen</translation>
+    </message>
+    <message>
+        <source>Paste %1 settings into %2</source>
+        <translation>%1 Einstellungen in %2 einfügen</translation>
+    </message>
+    <message>
+        <source>1 setting pasted into %1.</source>
+        <translation>1 Einstellung in %1 eingefügt.</translation>
+    </message>
+    <message>
+        <source>%1 settings pasted into %2.</source>
+        <translation>%1 Einstellungen in %2 eingefügt.</translation>
+    </message>
+    <message>
+        <source>1 setting of %1 had its value already.</source>
+        <translation>1 Einstellung von %1 hatte ihren Wert schon.</translation>
+    </message>
+    <message>
+        <source>%1 settings of %2 had their values already.</source>
+        <translation>%1 Einstellungen von %2 hatten ihre Werte schon.</translation>
     </message>
 </context>
 <context>
