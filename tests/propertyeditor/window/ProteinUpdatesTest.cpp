@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QJsonObject proteinsCell(const char *sequence)
+QJsonObject sequenceCell(const char *sequence)
 {
     const QJsonObject row{{u"data"_s, QJsonArray{u"P"_s, text(sequence)}}, {u"children"_s, QJsonArray()}};
     const QJsonObject table{{u"data"_s, QJsonArray{u"ProteinAccessionName"_s, u"ProteinSequence"_s}},
@@ -150,7 +150,7 @@ void ProteinUpdatesTest::oligonucleotidesHaveNoEnzymes()
         const bool isOligo = text(type) == u"DigestedOligo"_s;
         Window window;
         window.show();
-        QCOMPARE(window.openWorkflow(documentOf({proteinsCell("GCAU"), karvonCell()}, ofType(type))),
+        QCOMPARE(window.openWorkflow(documentOf({sequenceCell("GCAU"), karvonCell()}, ofType(type))),
                  kOpened);
         const ProteinOptionsWidget &proteins = proteinsOf(window);
         QCOMPARE(isColumnShown(*proteins.proteinTableWidget(), "sites"), !isOligo);
@@ -165,7 +165,7 @@ void ProteinUpdatesTest::oligonucleotidesHaveNoEnzymes()
 void ProteinUpdatesTest::masslessSequencesAreFaultsOfIntactAnalyses()
 {
     Window window;
-    QCOMPARE(window.openWorkflow(documentOf({proteinsCell("PEXTIDE"), settingsCell("Senthia", {})})),
+    QCOMPARE(window.openWorkflow(documentOf({sequenceCell("PEXTIDE"), settingsCell("Senthia", {})})),
              kOpened);
     const ProteinTableWidget &table = *proteinsOf(window).proteinTableWidget();
     const auto problem = [&table] {
@@ -190,7 +190,7 @@ void ProteinUpdatesTest::averageMassesGoWithTheTab()
     const LogCapture log;
     Window window;
     const QJsonObject first = Documents::tab(u"Proteins"_s, {u"P"_s, u"S"_s},
-                                             {proteinsCell("PEPTIDE"), settingsCell("Senthia", {})});
+                                             {sequenceCell("PEPTIDE"), settingsCell("Senthia", {})});
     const QJsonObject second = Documents::tab(u"Masses"_s, {u"I"_s}, {settingsCell("Intact", {})});
     QCOMPARE(window.openWorkflow(Documents::document({first, second}, metadata())), kOpened);
     const ProteinTableWidget &table = *proteinsOf(window).proteinTableWidget();
@@ -230,7 +230,7 @@ void ProteinUpdatesTest::proteinsAreToldBetweenBeginAndEnd()
     const Witnesses witnesses(&told);
     Window window;
     const QJsonObject first = Documents::tab(u"Proteins"_s, {u"P"_s, u"W"_s},
-                                             {proteinsCell("PEPTIDE"), settingsCell("MultiDocReport", {})});
+                                             {sequenceCell("PEPTIDE"), settingsCell("MultiDocReport", {})});
     const QJsonObject second = Documents::tab(u"Search"_s, {u"S"_s}, {karvonCell()});
     QCOMPARE(window.openWorkflow(Documents::document({first, second}, metadata())), kOpened);
     told.clear();
