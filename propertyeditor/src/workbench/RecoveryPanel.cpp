@@ -109,6 +109,8 @@ QWidget *RecoveryPanel::makeEntries()
     m_view->header()->setMinimumSectionSize(kNarrowestRecoveryColumn * fontMetrics().averageCharWidth());
     m_view->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_view->header()->setSectionResizeMode(RecoveryModel::Workflow, QHeaderView::Stretch);
+    // Name, time and number.
+    m_view->setMinimumWidth(4 * kNarrowestRecoveryColumn * fontMetrics().averageCharWidth());
     return m_view;
 }
 

@@ -7,8 +7,8 @@ namespace orv {
 
 namespace {
 
-/// More letters than that without a sign are broken anywhere.
-constexpr int kLongestPiece = 12;
+/// More letters than that without a sign or a hump are broken anywhere.
+constexpr int kLongestPiece = 20;
 
 /// With places to break long words at, which nobody sees.
 QString breakable(const QString &text)
@@ -17,6 +17,11 @@ QString breakable(const QString &text)
     QString broken;
     int piece = 0;
     for (const QChar letter : text) {
+        const bool isHump = letter.isUpper() && !broken.isEmpty() && broken.back().isLower();
+        if (isHump) {
+            broken += kBreak;
+            piece = 0;
+        }
         broken += letter;
         piece = letter.isSpace() ? 0 : piece + 1;
         const bool isSign = !letter.isLetterOrNumber() && !letter.isSpace() && !letter.isSurrogate();
@@ -62,6 +67,7 @@ void WrappedTexts::initStyleOption(QStyleOptionViewItem *option, const QModelInd
     QStyledItemDelegate::initStyleOption(option, index);
     option->features |= QStyleOptionViewItem::WrapText;
     option->text = breakable(option->text);
+    option->displayAlignment = Qt::AlignLeading | Qt::AlignTop;
 }
 
 QSize WrappedTexts::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const

@@ -87,6 +87,7 @@ private Q_SLOTS:
     void tablesKeepTheirOwnSearch();
     void filtersOfOthersSayWhyTheyCantBeUsed();
     void rowsKeepOneHeightAndCaptionsStandInLine();
+    void theSelectionTellsWhereTheKeysGo();
     void filtersOfOthersFilter();
     void nothingFoundSaysWhatToDo();
     void theNumberIsToldAfterTyping();
@@ -363,6 +364,25 @@ void FindSettingsTest::rowsKeepOneHeightAndCaptionsStandInLine()
     QCOMPARE(s.captions().size(), 1);
     QVERIFY(!first().data(Qt::DecorationRole).value<QIcon>().isNull());
     QCOMPARE(s.list().visualRect(first()).height(), height);
+}
+
+void FindSettingsTest::theSelectionTellsWhereTheKeysGo()
+{
+    Search s;
+    QPalette colors = s.list().palette();
+    const QColor withoutFocus(0x20, 0x60, 0x20);
+    colors.setColor(QPalette::Inactive, QPalette::Highlight, withoutFocus);
+    s.list().setPalette(colors);
+    s.type("tolerance");
+    const auto background = [&s] {
+        const QRect row = s.list().visualRect(s.list().model()->index(0, kReason));
+        return s.list().viewport()->grab(row).toImage().pixelColor(row.width() - 3, row.height() / 2);
+    };
+    QVERIFY(s.field().hasFocus());
+    QCOMPARE(s.list().currentIndex().row(), 0);
+    QCOMPARE(background().green() > background().blue(), true);
+    s.list().setFocus();
+    QCOMPARE(background().green() > background().blue(), false);
 }
 
 void FindSettingsTest::filtersOfOthersFilter()

@@ -18,6 +18,9 @@ void MessageBox::setBelow(QWidget *below)
     m_below = below;
     const int row = grid->rowCount();
     grid->addWidget(below, row, 0, 1, grid->columnCount());
+    // The room that is left is for what one looks through, not for the text.
+    for (int above = 0; above < row; ++above)
+        grid->setRowStretch(above, 0);
     grid->setRowStretch(row, 1);
     setSizeGripEnabled(true);
 }
