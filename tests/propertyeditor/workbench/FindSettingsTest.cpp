@@ -381,6 +381,23 @@ void FindSettingsTest::theSelectionTellsWhereTheKeysGo()
     QVERIFY(s.field().hasFocus());
     QCOMPARE(s.list().currentIndex().row(), 0);
     QCOMPARE(background().green() > background().blue(), true);
+    // White on this blue can't be read.
+    colors.setColor(QPalette::Inactive, QPalette::Highlight, QColor(48, 140, 198));
+    colors.setColor(QPalette::Inactive, QPalette::HighlightedText, Qt::white);
+    s.list().setPalette(colors);
+    const QImage row =
+        s.list().viewport()->grab(s.list().visualRect(s.list().model()->index(0, kReason))).toImage();
+    int dark = 0;
+    int light = 0;
+    for (int y = 1; y < row.height() - 1; ++y) {
+        for (int x = 1; x < row.width() - 1; ++x) {
+            dark += row.pixelColor(x, y).lightness() < 30 ? 1 : 0;
+            light += row.pixelColor(x, y).lightness() > 225 ? 1 : 0;
+        }
+    }
+    QVERIFY2(dark > light, qPrintable(u"%1 dark, %2 light"_s.arg(dark).arg(light)));
+    colors.setColor(QPalette::Inactive, QPalette::Highlight, withoutFocus);
+    s.list().setPalette(colors);
     s.list().setFocus();
     QCOMPARE(background().green() > background().blue(), false);
 }
