@@ -1,6 +1,7 @@
 #include "ColumnShares.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QTreeView>
@@ -28,8 +29,8 @@ ColumnShares::ColumnShares(QTreeView *view, const QList<int> &shares)
 
 bool ColumnShares::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Resize && !m_isChosen)
-        fit();
+    if (event->type() == QEvent::Resize)
+        fitUnlessChosen();
     return QObject::eventFilter(watched, event);
 }
 
@@ -38,8 +39,14 @@ void ColumnShares::follow(int column)
     if (m_isFitting || m_isChosen)
         return;
     if (m_shares.value(column) > 0)
-        m_isChosen = true;
-    else
+        m_isChosen = QGuiApplication::mouseButtons() != Qt::NoButton;
+    else // the header isn't ready yet
+        QMetaObject::invokeMethod(this, &ColumnShares::fitUnlessChosen, Qt::QueuedConnection);
+}
+
+void ColumnShares::fitUnlessChosen()
+{
+    if (!m_isChosen)
         fit();
 }
 

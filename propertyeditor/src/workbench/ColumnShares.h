@@ -21,6 +21,7 @@ public:
 
 private:
     void fit();
+    void fitUnlessChosen();
     void follow(int column);
 
     QTreeView *m_view;
