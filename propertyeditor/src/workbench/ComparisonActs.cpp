@@ -64,6 +64,7 @@ void Comparison::Private::finishTakingOver(const Result<TakenOver> &taken, const
         takeOver();
     } else {
         m_panel->model()->uncheckAll();
+        m_panel->tellOutcome(texts.outcome);
         StatusLine::tell(m_window, texts.outcome);
     }
     if (self)

@@ -22,6 +22,9 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <array>
+#include <utility>
+
 namespace orv {
 
 namespace {
@@ -160,14 +163,18 @@ void ComparisonPanel::showPage(const QString &summary, const QString &note, cons
     m_note->setText(note);
     m_note->setVisible(!note.isEmpty());
     m_empty->setText(emptyText);
-    m_pages->setCurrentIndex(emptyText.isEmpty() ? 1 : 0);
+    const bool hadFocus = m_tree->hasFocus();
     setFocusProxy(emptyText.isEmpty() ? static_cast<QWidget *>(m_tree) : m_compare);
+    if (hadFocus)
+        setFocus(Qt::OtherFocusReason);
+    m_pages->setCurrentIndex(emptyText.isEmpty() ? 1 : 0);
     updateButton();
 }
 
 void ComparisonPanel::showNothing()
 {
     m_unfolded.clear();
+    m_outcome.clear();
     m_model->show({}, {});
     showPage(tr("Nothing is compared."), {},
              tr("Choose another workflow to see in what it differs from this one, or drop its file here."));
@@ -176,6 +183,7 @@ void ComparisonPanel::showNothing()
 void ComparisonPanel::showReading(const QString &name)
 {
     m_unfolded.clear();
+    m_outcome.clear();
     m_model->show({}, {});
     showPage(tr("Reading %1...").arg(name), {}, tr("What differs will stand here."));
 }
@@ -193,6 +201,8 @@ void ComparisonPanel::showTree(const ComparisonTree &tree, const QString &otherN
     const QModelIndex top = m_tree->indexAt({0, 0});
     const QString topKey =
         top.isValid() && m_tree->verticalScrollBar()->value() > 0 ? m_model->node(top).key : QString();
+    if (!std::exchange(m_isOutcomeNew, false))
+        m_outcome.clear();
     m_isRestoring = true;
     m_model->show(tree, otherName);
     unfold({});
@@ -228,6 +238,13 @@ void ComparisonPanel::unfold(const QModelIndex &above)
     }
 }
 
+void ComparisonPanel::tellOutcome(const QString &text)
+{
+    m_outcome = text;
+    m_isOutcomeNew = true;
+    updateButton();
+}
+
 void ComparisonPanel::setRefusal(const QString &reason)
 {
     m_refusal = reason;
@@ -250,12 +267,19 @@ void ComparisonPanel::updateButton()
     const QString reason = !m_refusal.isEmpty() ? m_refusal
                            : count == 0         ? tr("Check what is to be taken over first.")
                                                 : QString();
+    if (count > 0)
+        m_outcome.clear();
+    // A button that goes off would hand the focus to anybody.
+    if (!reason.isEmpty() && m_takeOver->hasFocus())
+        setFocus(Qt::OtherFocusReason);
     m_takeOver->setEnabled(reason.isEmpty());
     const QString told = TakeOverText::ofChecked(*m_model);
     m_takeOver->setToolTip(
         reason.isEmpty() ? tr("Give this workflow what is checked, as one step that can be undone") : reason);
     m_takeOver->setAccessibleDescription(reason.isEmpty() ? told : reason);
-    m_checked->setText(!m_refusal.isEmpty() && m_model->rowCount() > 0 ? m_refusal : told);
+    m_checked->setText(!m_refusal.isEmpty() && m_model->rowCount() > 0 ? m_refusal
+                       : count == 0                                    ? m_outcome
+                                                                       : told);
 }
 
 void ComparisonPanel::announce()

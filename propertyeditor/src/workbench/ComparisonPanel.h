@@ -48,6 +48,8 @@ public:
     void showError(const QString &summary, const QString &text);
     /// Checks, folds, the current row and the scroll position stay with what they are about.
     void showTree(const ComparisonTree &tree, const QString &otherName, const QString &note);
+    /// What was taken over, until something else is checked, undone, edited or compared.
+    void tellOutcome(const QString &text);
     /// Why nothing can be taken over whatever is checked; empty if it can.
     void setRefusal(const QString &reason);
     /// A second document is read or compared, which is shown once it takes time.
@@ -82,6 +84,8 @@ private:
     QStackedLayout *m_pages = nullptr;
     QTimer m_patience;
     QString m_refusal;
+    QString m_outcome;
+    bool m_isOutcomeNew = false;     ///< the comparison that follows it is still to come
     QHash<QString, bool> m_unfolded; ///< by a person
     bool m_isRestoring = false;
 };

@@ -202,7 +202,14 @@ void ComparisonTest::whatTakingOverRemovesIsNamed()
              u"3 differences taken over from OTHER.wflw. Removed: "_s + removed);
     QCOMPARE(c.window->grid(0)->columnNames(), QStringList{u"Karvon"_s});
     QVERIFY(!c.view(0, 0)->propertySet()->contains("KarvonCentroidTopk"));
+    // The line below the window may be too short for all of it.
+    QCOMPARE(checked(), c.window->statusBar()->currentMessage());
+    QVERIFY(c.panel("comparisonPanel")->isAncestorOf(QApplication::focusWidget()));
+    c.bench->history()->undo();
+    QVERIFY(c.isQuiet());
     QCOMPARE(checked(), QString());
+    c.check(kPeaks);
+    QVERIFY(checked().startsWith(u"1 difference is checked."_s));
 }
 
 void ComparisonTest::manyRemovalsAreCounted()
