@@ -22,7 +22,6 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
-#include <array>
 #include <utility>
 
 namespace orv {

@@ -26,16 +26,18 @@ SameSettingPanel::SameSettingPanel(QWidget *parent)
     : LeavablePanel(parent)
     , m_model(new SameSettingModel(this))
     , m_heading(new QLabel)
+    , m_alone(new QLabel(tr("No other column has this setting.")))
     , m_list(new WorkList)
     , m_all(new QCheckBox(tr("&All columns")))
     , m_apply(new QPushButton)
     , m_outcome(new QLabel)
 {
-    for (QLabel *label : {m_heading, m_outcome}) {
+    for (QLabel *label : {m_heading, m_alone, m_outcome}) {
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
     }
     m_heading->setObjectName(QStringLiteral("sameSettingHeading"));
+    m_alone->setObjectName(QStringLiteral("sameSettingAlone"));
     m_outcome->setObjectName(QStringLiteral("sameSettingOutcome"));
     m_all->setObjectName(QStringLiteral("sameSettingAll"));
     m_all->setToolTip(tr("Check every column that can get the value"));
@@ -77,6 +79,7 @@ void SameSettingPanel::layOut()
     buttons->addWidget(m_apply);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_heading);
+    layout->addWidget(m_alone);
     layout->addWidget(m_list, 1);
     layout->addLayout(buttons);
 }
@@ -84,6 +87,7 @@ void SameSettingPanel::layOut()
 void SameSettingPanel::update()
 {
     tellValue();
+    m_alone->setVisible(m_model->rowCount() == 1);
     const qsizetype chosen = m_model->chosenRows().size();
     m_apply->setEnabled(chosen > 0);
     m_apply->setText(chosen == 1  ? tr("Ap&ply to 1 Column")
@@ -106,7 +110,7 @@ QString SameSettingPanel::whyNothingIsApplied() const
     if (!m_model->refusal().isEmpty())
         return m_model->refusal();
     if (m_model->rowCount() == 1)
-        return tr("No other column has this setting.");
+        return m_alone->text();
     return m_model->commonValue() ? tr("All columns with this setting have this value.")
                                   : tr("Check columns that have another value first.");
 }
@@ -122,8 +126,6 @@ void SameSettingPanel::tellValue()
                               : common->isEmpty() ? tr("(empty)")
                                                   : ShortText::line(*common, kLongestInHeading);
         text = tr("%1: %2").arg(m_model->caption(), value);
-        if (m_model->rowCount() == 1)
-            text += u'\n' + tr("No other column has this setting.");
         spoken = common ? text : tr("%1: the columns differ").arg(m_model->caption());
     }
     m_heading->setText(text);

@@ -45,6 +45,7 @@ private:
 
     SameSettingModel *m_model;
     QLabel *m_heading;
+    QLabel *m_alone; ///< where there is nothing to apply to
     QTreeView *m_list;
     QCheckBox *m_all;
     QPushButton *m_apply;
