@@ -3086,10 +3086,6 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
         <source>The workflow can&apos;t be checked: %1</source>
         <translation>Der Workflow kann nicht geprüft werden: %1</translation>
     </message>
-    <message>
-        <source>Close what isn&apos;t needed and try again.</source>
-        <translation>Schließen Sie, was nicht gebraucht wird, und versuchen Sie es noch einmal.</translation>
-    </message>
 </context>
 <context>
     <name>orv::FindingMarks</name>
