@@ -37,12 +37,16 @@ namespace {
 constexpr QLatin1String kGeometry("Editor/WindowGeometry");
 constexpr QLatin1String kPanels("Editor/WindowPanels");
 
+/// The document in a portable folder, else the path itself.
+QString fileIn(const QString &path)
+{
+    return WflwUtils::isMirelPortableWorkflow(path) ? WflwUtils::workflowInPortableWorkflow(path) : path;
+}
+
 /// Empty for a file that can be read, and wasn't opened for a reason that somebody was told.
 QStringList whyUnreadable(const QString &path)
 {
-    const QString file =
-        WflwUtils::isMirelPortableWorkflow(path) ? WflwUtils::workflowInPortableWorkflow(path) : path;
-    PropertyEditorWindowJsonFile workflow(file);
+    PropertyEditorWindowJsonFile workflow(fileIn(path));
     PropertyEditorContent content;
     if (workflow.loadTabsFromJson(&content))
         return {};
@@ -196,10 +200,7 @@ bool EditorWindow::isPristine() const
 
 EditorWindow *EditorWindow::windowOf(const QString &path) const
 {
-    const QString file =
-        QFileInfo(WflwUtils::isMirelPortableWorkflow(path) ? WflwUtils::workflowInPortableWorkflow(path)
-                                                           : path)
-            .canonicalFilePath();
+    const QString file = QFileInfo(fileIn(path)).canonicalFilePath();
     for (QWidget *widget : QApplication::topLevelWidgets()) {
         auto *window = qobject_cast<EditorWindow *>(widget);
         if (window && !file.isEmpty() && window->m_file == file && !window->isPristine())
@@ -290,9 +291,17 @@ PropertyEditorWindow::OpenStatus EditorWindow::openWorkflow(const QString &fileP
                                                             const ResourceReferenceSPtr &folderToPreselect)
 {
     const QPointer<EditorWindow> self(this);
+    // Before it is read: questions wait for their answers, and another program may write meanwhile.
+    std::optional<FileStamp> stamp = FileStamp::of(fileIn(filePath));
+    const auto saving = connect(this, &PropertyEditorWindow::documentUpgraded, this,
+                                [this, &stamp](const DocumentUpgrade &, bool isSaved) {
+                                    if (isSaved)
+                                        stamp = FileStamp::of(workflowFilePath());
+                                });
     const OpenStatus status = PropertyEditorDesktopWindow::openWorkflow(filePath, folderToPreselect);
+    disconnect(saving);
     if (self && status == OpenStatus::Opened) {
-        rememberFile();
+        rememberFile(stamp);
         RecentFiles::add(filePath);
     }
     // An empty window has no file that a save would write over.

@@ -56,7 +56,8 @@ protected:
 private:
     void buildFileMenu();
     void followFile();
-    void rememberFile();
+    /// \a stamp is that of the content which is shown.
+    void rememberFile(const std::optional<FileStamp> &stamp);
     void buildRecovery(Workbench *workbench);
     void buildHelpMenu();
     void fillRecentMenu(QMenu *menu);
@@ -83,8 +84,8 @@ private:
     QSet<QString> m_sought; ///< recent files, until their drive answers
     const std::shared_ptr<RecoveryStore> m_store;
     QString m_file;                         ///< the canonical path of what was opened or saved last
-    std::optional<FileStamp> m_fileStamp;   ///< as it was then
-    bool m_isUpgraded = false;              ///< since it was opened, and not saved yet
+    std::optional<FileStamp> m_fileStamp;   ///< as it was then; none where it may be another by now
+    bool m_isUpgraded = false;              ///< the file is of another version than what is shown
     JournalKeeper *m_keeper = nullptr;      ///< a child
     Workbench *m_workbench = nullptr;       ///< a child
     DocumentHistory *m_history = nullptr;   ///< a child

@@ -1,5 +1,6 @@
 #include "EditorWindow.h"
 
+#include <orv/propertyeditor/validators/WorkflowFile.h>
 #include <orv/propertyeditor/workbench/DocumentHistory.h>
 #include <orv/propertyeditor/workbench/FindSettings.h>
 #include <orv/propertyeditor/workbench/JournalKeeper.h>
@@ -8,6 +9,7 @@
 #include <orv/propertyeditor/workbench/RecoveryPanel.h>
 #include <orv/propertyeditor/workbench/RecoveryStore.h>
 #include <orv/propertyeditor/workbench/Workbench.h>
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
 
 #include <QDir>
 #include <QDockWidget>
@@ -32,6 +34,15 @@ QString pathOfRecovered(const RecoveryEntry &entry, RecoveryFileState state)
     if (entry.file.isEmpty())
         return entry.name;
     return state == RecoveryFileState::Unchanged ? entry.file : besideTheFile(entry.file);
+}
+
+/// Also where there is no file yet.
+bool isOfThisVersion(const QString &path)
+{
+    if (!QFileInfo(path).isAbsolute() || !QFileInfo::exists(path))
+        return true;
+    const Result<PropertyEditor::WorkflowFile> file = PropertyEditor::WorkflowFile::open(path);
+    return !file.hasError() && file->version() == WflwMetaData::currentWorkflowVersion();
 }
 
 } // namespace
@@ -106,13 +117,20 @@ void EditorWindow::recover(const RecoveryEntry &entry, RecoveryFileState state)
 bool EditorWindow::showRecovered(RecoveryStore::Taken &taken, const RecoveryEntry &entry, const QString &path)
 {
     const QPointer<EditorWindow> self(this);
+    std::optional<FileStamp> stamp = FileStamp::of(path);
+    // The panel has looked at the file earlier.
+    if (stamp && stamp->time > entry.edited)
+        stamp.reset();
     PropertyEditorContent content(taken.document);
     if (openWorkflow(&content, std::nullopt, path) != OpenStatus::Opened || !self)
         return false;
     dFunc()->countAsUnsaved(entry.lost);
     m_keeper->adopt(std::move(taken.journal));
     m_history->countAsUnsaved();
-    rememberFile();
+    rememberFile(stamp);
+    // An upgrade that was edited was kept as it was, and its file as that is.
+    if (!isOfThisVersion(path))
+        m_isUpgraded = true;
     // What changed since the last save is told by the file, if it is still the one that was opened.
     if (path == entry.file && QFileInfo(path).isAbsolute())
         m_workbench->find()->compareWithFile(path);

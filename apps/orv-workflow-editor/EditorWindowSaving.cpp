@@ -28,14 +28,14 @@ void EditorWindow::followFile()
             [this](const DocumentUpgrade &, bool isSaved) { m_isUpgraded = !isSaved; });
     connect(this, &PropertyEditorWindow::documentSaved, this, [this] {
         m_isUpgraded = false;
-        rememberFile();
+        rememberFile(FileStamp::of(workflowFilePath()));
     });
 }
 
-void EditorWindow::rememberFile()
+void EditorWindow::rememberFile(const std::optional<FileStamp> &stamp)
 {
     m_file = QFileInfo(workflowFilePath()).canonicalFilePath();
-    m_fileStamp = FileStamp::of(workflowFilePath());
+    m_fileStamp = stamp;
 }
 
 bool EditorWindow::mayReplaceFile()

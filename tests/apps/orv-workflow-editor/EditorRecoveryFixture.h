@@ -4,6 +4,7 @@
 #include "WidgetTest.h"
 
 #include <orv/propertyeditor/workbench/RecoveryPanel.h>
+#include <orv/widgets/DialogAnswerer.h>
 
 #include <QLabel>
 #include <QPushButton>
@@ -50,6 +51,22 @@ inline QPushButton *panelButton(const EditorWindow &window, const QString &text)
             return button;
     }
     qFatal("There is no button \"%s\"", qPrintable(text));
+}
+
+inline void closeUnsaved(EditorWindow *window)
+{
+    ScriptedAnswerer answers;
+    answers.expectBox(u"Unsaved changes"_s, u"No"_s);
+    window->close();
+    QVERIFY(answers.isDone());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// Once the panel knows what became of the file.
+inline void recover(EditorWindow *window)
+{
+    QTRY_VERIFY(!panelText(*window).contains(u"Looking whether"_s));
+    QTest::mouseClick(panelButton(*window, u"&Recover"_s), Qt::LeftButton);
 }
 
 } // namespace EditorRecoveryFixture

@@ -68,15 +68,15 @@ private Q_SLOTS:
     void undoneEditsAreNotOffered();
     void upgradesThatWereTakenBackAreNotOffered();
     void recoveredWorkflowsStayWhereTheirUpgradeIsTakenBack();
+    void recoveredUpgradesLeaveTheEarlierFile();
+    void filesChangedSinceTheOfferAreAskedAbout();
 
 private:
     void start();
     EditorWindow *openWindow();
-    void closeUnsaved(EditorWindow *window);
     [[nodiscard]] QStringList journalsBehind(EditorWindow *window);
     /// A window whose first tab was renamed and that closed without saving; then another one that offers it.
     EditorWindow *offered(const QString &name);
-    void recover(EditorWindow *window);
     [[nodiscard]] QString journals() const { return m_folder->filePath(u"journals"_s); }
     [[nodiscard]] QStringList journalFiles() const;
 
@@ -127,15 +127,6 @@ QStringList EditorRecoveryTest::journalFiles() const
     return QDir(journals()).entryList({u"*.journal"_s}, QDir::Files);
 }
 
-void EditorRecoveryTest::closeUnsaved(EditorWindow *window)
-{
-    ScriptedAnswerer answers;
-    answers.expectBox(u"Unsaved changes"_s, u"No"_s);
-    window->close();
-    QVERIFY(answers.isDone());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
 EditorWindow *EditorRecoveryTest::offered(const QString &name)
 {
     start();
@@ -156,13 +147,6 @@ QStringList EditorRecoveryTest::journalsBehind(EditorWindow *window)
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     m_store.reset();
     return journalFiles();
-}
-
-/// Once the panel knows what became of the file.
-void EditorRecoveryTest::recover(EditorWindow *window)
-{
-    QTRY_VERIFY(!panelText(*window).contains(u"Looking whether"_s));
-    QTest::mouseClick(panelButton(*window, u"&Recover"_s), Qt::LeftButton);
 }
 
 void EditorRecoveryTest::unsavedEditsAreOfferedAndRecovered()
@@ -564,6 +548,45 @@ void EditorRecoveryTest::recoveredWorkflowsStayWhereTheirUpgradeIsTakenBack()
         m_store = std::make_shared<RecoveryStore>(journals());
         window = openWindow();
     }
+}
+
+void EditorRecoveryTest::recoveredUpgradesLeaveTheEarlierFile()
+{
+    start();
+    m_bytes = TestData::read(TestData::examplePath(u"workflows/outdated/intact_mass_2022.wflw"_s));
+    QFile file(m_file);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(m_bytes) == m_bytes.size());
+    file.close();
+    EditorWindow *window = openWindow();
+    ScriptedAnswerer answers;
+    answers.expectBox(u"Workflow upgrade"_s, u"Apply"_s);
+    window->openFiles({m_file});
+    renameFirstTab(*window, u"Renamed"_s);
+    closeUnsaved(window);
+    m_store = std::make_shared<RecoveryStore>(journals());
+    window = openWindow();
+    window->offerRecovery();
+    recover(window);
+    QCOMPARE(window->workflowFilePath(), m_file);
+    answers.expectPath(u"Save Workflow"_s, QString());
+    window->save();
+    QVERIFY(answers.isDone());
+    QCOMPARE(TestData::read(m_file), m_bytes);
+}
+
+void EditorRecoveryTest::filesChangedSinceTheOfferAreAskedAbout()
+{
+    EditorWindow *window = offered(u"Renamed"_s);
+    QTRY_VERIFY(panelText(*window).contains(u"Its file wasn't changed"_s));
+    QFile file(m_file);
+    QVERIFY(file.open(QIODevice::Append) && file.write("\n") == 1);
+    file.close();
+    recover(window);
+    ScriptedAnswerer answers;
+    answers.expectBox(u"Save"_s, u"Cancel"_s);
+    window->save();
+    QVERIFY(answers.isDone());
+    QCOMPARE(TestData::read(m_file), m_bytes + '\n');
 }
 
 WIDGET_REGISTER_TEST(EditorRecoveryTest)

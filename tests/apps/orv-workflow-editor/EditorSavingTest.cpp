@@ -29,6 +29,7 @@ private Q_SLOTS:
     void portableFoldersAreSavedAsSuch();
     void filesOfOthersAreAskedAbout_data();
     void filesOfOthersAreAskedAbout();
+    void filesChangedWhileTheyAreOpenedAreAskedAbout();
     void filesThatAreGoneAreWrittenAnew();
 
 private:
@@ -155,6 +156,24 @@ void EditorSavingTest::filesOfOthersAreAskedAbout()
     QVERIFY(answers.transcript().constFirst().text.startsWith(path + u" was changed by another program"_s));
     QCOMPARE(TestData::read(path) != ofTheOther, isReplaced);
     QTRY_COMPARE(m_window->isWindowModified(), !isReplaced);
+}
+
+void EditorSavingTest::filesChangedWhileTheyAreOpenedAreAskedAbout()
+{
+    const QString path = m_folder->filePath(u"a.wflw"_s);
+    QVERIFY(QFile::copy(TestData::examplePath(u"workflows/de_novo_antibody.wflw"_s), path));
+    // As while a question waits for its answer.
+    connect(m_window, &PropertyEditorWindow::documentShown, m_window, [path] {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::Append) && file.write("\n") == 1);
+    });
+    QCOMPARE(m_window->openWorkflow(path), kOpened);
+    const QByteArray ofTheOther = TestData::read(path);
+    ScriptedAnswerer answers;
+    answers.expectBox(u"Save"_s, u"Cancel"_s);
+    saveByKey();
+    QVERIFY(answers.isDone());
+    QCOMPARE(TestData::read(path), ofTheOther);
 }
 
 void EditorSavingTest::filesThatAreGoneAreWrittenAnew()
