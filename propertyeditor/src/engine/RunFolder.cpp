@@ -197,18 +197,22 @@ bool isRun(const QFileInfo &place)
            QFileInfo::exists(ProjectCreationStatusFile::statusFilePath(folder.path()));
 }
 
-/// Brings \a run to \a place; what stood there goes into \a staging, and comes back where that fails.
-Error bringInPlace(const QString &run, const QFileInfo &place, const QTemporaryDir &staging)
+/// Brings \a run to \a place; what stood there goes into \a staging, and comes back where that fails. Where
+/// it can't, because somebody has taken the place meanwhile, it stays in \a staging.
+Error bringInPlace(const QString &run, const QFileInfo &place, QTemporaryDir *staging)
 {
-    const QString earlier = staging.filePath(kEarlierName);
+    const QString earlier = staging->filePath(kEarlierName);
     const bool isReplaced = place.exists();
     const bool hasRoom = !isReplaced || QDir().rename(place.filePath(), earlier);
     if (hasRoom && QDir().rename(run, place.filePath()))
         return Error::NoError;
-    if (isReplaced && hasRoom)
-        QDir().rename(earlier, place.filePath());
-    return Error(ErrorCode::CannotOpenFile,
-                 RunFolderTr::tr("The folder can't be made: %1").arg(place.filePath()));
+    Error error(ErrorCode::CannotOpenFile,
+                RunFolderTr::tr("The folder can't be made: %1").arg(place.filePath()));
+    if (isReplaced && hasRoom && !QDir().rename(earlier, place.filePath())) {
+        staging->setAutoRemove(false);
+        error.addDetail(RunFolderTr::tr("The run that was there is kept in %1").arg(earlier));
+    }
+    return error;
 }
 
 /// False when it was stopped.
@@ -257,7 +261,7 @@ Result<QString> RunFolder::write(const QJsonObject &document, const QString &fol
         return isComplete.ecatch();
     if (!*isComplete)
         return QString();
-    ORV_RETURN_IF_ERROR(bringInPlace(run, place, staging));
+    ORV_RETURN_IF_ERROR(bringInPlace(run, place, &staging));
     return place.filePath();
 }
 
