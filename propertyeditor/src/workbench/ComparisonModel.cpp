@@ -5,6 +5,7 @@
 #include "EvenRows.h"
 #include "ShortText.h"
 
+#include <orv/core/PlainTip.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/widgets/Icons.h>
@@ -347,7 +348,8 @@ QVariant ComparisonModel::help(int column) const
     case This:
         return tr("What this workflow has");
     case Other:
-        return tr("What %1 has, and what this workflow gets from it when it is taken over").arg(m_otherName);
+        return PlainTip::of(
+            tr("What %1 has, and what this workflow gets from it when it is taken over").arg(m_otherName));
     default:
         return {};
     }

@@ -4,6 +4,8 @@
 #include "ShortText.h"
 #include "WorkList.h"
 
+#include <orv/core/PlainTip.h>
+
 #include <QAccessible>
 #include <QCheckBox>
 #include <QKeyEvent>
@@ -130,7 +132,7 @@ void SameSettingPanel::tellValue()
     }
     m_heading->setText(text);
     m_heading->setAccessibleName(spoken);
-    m_heading->setToolTip(spoken == text ? QString() : spoken);
+    m_heading->setToolTip(spoken == text ? QString() : PlainTip::of(spoken));
 }
 
 void SameSettingPanel::tell(const QString &text)

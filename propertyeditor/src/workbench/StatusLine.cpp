@@ -5,6 +5,7 @@
 #include "orv/propertyeditor/workbench/Findings.h"
 #include "orv/propertyeditor/workbench/Workbench.h"
 
+#include <orv/core/PlainTip.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 
@@ -83,7 +84,8 @@ void StatusLine::showChanges()
     const bool hasFile = QFileInfo(window.workflowFilePath()).isAbsolute();
     const bool isModified = m_workbench->history()->isModified();
     m_changes->setText(isModified ? tr("Unsaved changes") : hasFile ? tr("Saved") : tr("Not in a file yet"));
-    m_changes->setToolTip(hasFile ? window.workflowFilePath() : tr("Save the workflow to give it a file."));
+    m_changes->setToolTip(hasFile ? PlainTip::of(window.workflowFilePath())
+                                  : tr("Save the workflow to give it a file."));
 }
 
 void StatusLine::tell(const PropertyEditorWindow *window, const QString &text)

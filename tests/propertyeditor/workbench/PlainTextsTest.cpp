@@ -125,6 +125,7 @@ void PlainTextsTest::namesAndValuesAreNoMarkup()
     b.window->show();
     QCoreApplication::processEvents();
     QCOMPARE(markupEverywhere(), QString());
+    QVERIFY(b.window->findChild<QLabel *>(u"statusChanges"_s)->toolTip().contains(u"&lt;b&gt;x"_s));
     b.view(0, 0)->propertySet()->property("KarvonDigestLetters").setValue(kName + u'R');
     b.bench->history()->takeIn();
     QVERIFY(b.bench->history()->undoText().contains(u"<b>x</b>"_s));
@@ -147,6 +148,13 @@ void PlainTextsTest::panelsShowNamesAsTheyAre()
     QTest::keyClicks(QApplication::focusWidget(), u"<b>x"_s);
     QTest::qWait(50);
     QTRY_VERIFY(b.child<QAbstractItemView>("sameSettingColumns")->model()->rowCount() == 2);
+    // Names of files hold no slash, so that no markup in them ends; its beginning is enough.
+    const auto *differences = b.child<QAbstractItemView>("differences")->model();
+    const auto help = [differences](int role) {
+        return differences->headerData(2, Qt::Horizontal, role).toString();
+    };
+    QVERIFY(help(Qt::ToolTipRole).contains(u"&lt;b&gt;x"_s));
+    QVERIFY(help(Qt::WhatsThisRole).contains(u"&lt;b&gt;x"_s));
     QCOMPARE(markupEverywhere(), QString());
 }
 
