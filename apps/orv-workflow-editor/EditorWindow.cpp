@@ -203,7 +203,9 @@ EditorWindow *EditorWindow::windowOf(const QString &path) const
     const QString file = QFileInfo(fileIn(path)).canonicalFilePath();
     for (QWidget *widget : QApplication::topLevelWidgets()) {
         auto *window = qobject_cast<EditorWindow *>(widget);
-        if (window && !file.isEmpty() && window->m_file == file && !window->isPristine())
+        // A window may show something else by now, which has no file.
+        const bool hasFile = window && QFileInfo(window->workflowFilePath()).isAbsolute();
+        if (hasFile && !file.isEmpty() && window->m_file == file && !window->isPristine())
             return window;
     }
     return nullptr;

@@ -16,6 +16,7 @@
 #include <QDir>
 #include <QDropEvent>
 #include <QFile>
+#include <QJsonDocument>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
@@ -81,6 +82,7 @@ private Q_SLOTS:
     void failedRunsAreTold();
     void aboutTellsVersions();
     void aFileIsOpenOnce();
+    void filesOfEarlierDocumentsAreOpenedAgain();
     void messagesStayUnderThePointer();
     void mnemonicsDiffer();
     void geometryIsRemembered();
@@ -219,6 +221,16 @@ void EditorWindowTest::aFileIsOpenOnce()
         QVERIFY(!m_window->isMinimized());
         QCOMPARE(m_window->statusBar()->currentMessage(), u"The workflow is open here already."_s);
     }
+}
+
+void EditorWindowTest::filesOfEarlierDocumentsAreOpenedAgain()
+{
+    open();
+    QCOMPARE(m_window->openWorkflow(intactExample()), kOpened);
+    const QByteArray other = TestData::read(TestData::examplePath(u"workflows/de_novo_antibody.wflw"_s));
+    QCOMPARE(m_window->openWorkflow(QJsonDocument::fromJson(other).object()), kOpened);
+    QCOMPARE(m_window->openBesides(intactExample()), kOpened);
+    QCOMPARE(openWindows().size(), 2);
 }
 
 void EditorWindowTest::messagesStayUnderThePointer()
