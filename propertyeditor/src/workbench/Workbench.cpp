@@ -18,6 +18,7 @@
 
 #include <QDockWidget>
 #include <QMenuBar>
+#include <QStatusBar>
 #include <QStatusTipEvent>
 
 namespace orv {
@@ -50,12 +51,20 @@ Workbench::Workbench(PropertyEditorWindow *window)
 
 Workbench::~Workbench() = default;
 
-/// A pointer that passes over entries of menus without explanation doesn't wipe out what was told.
+/// A pointer that passes over entries of menus doesn't wipe out what was told, and leaves no tip behind.
 bool Workbench::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_window && event->type() == QEvent::StatusTip)
-        return static_cast<const QStatusTipEvent *>(event)->tip().isEmpty();
-    return QObject::eventFilter(watched, event);
+    if (watched != m_window || event->type() != QEvent::StatusTip)
+        return QObject::eventFilter(watched, event);
+    QStatusBar *bar = m_window->statusBar();
+    const QString tip = static_cast<const QStatusTipEvent *>(event)->tip();
+    const bool isTipShown = !m_tip.isEmpty() && bar->currentMessage() == m_tip;
+    if (!tip.isEmpty() && !isTipShown)
+        m_behindTip = bar->currentMessage();
+    else if (tip.isEmpty() && isTipShown)
+        bar->showMessage(m_behindTip);
+    m_tip = tip;
+    return tip.isEmpty();
 }
 
 void Workbench::addHistory()

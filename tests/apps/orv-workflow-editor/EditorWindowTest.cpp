@@ -244,6 +244,14 @@ void EditorWindowTest::messagesStayUnderThePointer()
         entry->hover();
     menu->menu()->close();
     QVERIFY(m_window->statusBar()->currentMessage().startsWith(u"Open a workflow with Ctrl+O"_s));
+    // Commands of tables have tips, which go with the pointer.
+    const QString told = m_window->statusBar()->currentMessage();
+    QAction withTip;
+    withTip.setStatusTip(u"Tip"_s);
+    withTip.showStatusText(m_window);
+    QCOMPARE(m_window->statusBar()->currentMessage(), u"Tip"_s);
+    QAction().showStatusText(m_window);
+    QCOMPARE(m_window->statusBar()->currentMessage(), told);
     QCOMPARE(m_window->openBesides(intactExample()), kOpened);
     QCOMPARE(m_window->statusBar()->currentMessage(), QString());
 }
