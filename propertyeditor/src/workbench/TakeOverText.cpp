@@ -24,7 +24,7 @@ struct TakeOverTextTr
 QString removalText(const ComparisonModel &model, const QModelIndex &row)
 {
     using Kind = ComparisonNode::Kind;
-    const QString place = ShortText::line(model.placeText(row), kLongestRemoval);
+    QString place = ShortText::line(model.placeText(row), kLongestRemoval);
     switch (model.node(row).kind) {
     case Kind::Tab:
         return TakeOverTextTr::tr("tab %1").arg(place);

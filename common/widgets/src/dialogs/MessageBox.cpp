@@ -73,9 +73,9 @@ void MessageBox::openUp()
 
 bool MessageBox::event(QEvent *event)
 {
-    // The box would fix its size again.
+    // The box would fix its size again; its layout has been told already.
     if (m_text && event->type() == QEvent::LayoutRequest)
-        return QDialog::event(event);
+        return true;
     return QMessageBox::event(event);
 }
 

@@ -29,10 +29,11 @@ QFuture<SampleFileFinder::Found> findInBackground(const QStringList &paths)
 
 SampleSearch::SampleSearch(QObject *parent)
     : QObject(parent)
+    , m_search(new QFutureWatcher<SampleFileFinder::Found>(this))
 {
-    connect(&m_search, &QFutureWatcher<SampleFileFinder::Found>::finished, this, [this] {
+    connect(m_search, &QFutureWatcher<SampleFileFinder::Found>::finished, this, [this] {
         const QPointer<SampleSearch> self(this);
-        Q_EMIT found(m_search.result());
+        Q_EMIT found(m_search->result());
         if (self)
             next();
     });
@@ -40,7 +41,7 @@ SampleSearch::SampleSearch(QObject *parent)
 
 SampleSearch::~SampleSearch()
 {
-    m_search.disconnect(this);
+    m_search->disconnect(this);
 }
 
 void SampleSearch::add(const QStringList &paths)
@@ -51,9 +52,9 @@ void SampleSearch::add(const QStringList &paths)
 
 void SampleSearch::next()
 {
-    if (m_waiting.isEmpty() || m_search.isRunning())
+    if (m_waiting.isEmpty() || m_search->isRunning())
         return;
-    m_search.setFuture(findInBackground(std::exchange(m_waiting, {})));
+    m_search->setFuture(findInBackground(std::exchange(m_waiting, {})));
     Q_EMIT started();
 }
 

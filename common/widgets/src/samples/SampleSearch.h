@@ -27,7 +27,7 @@ Q_SIGNALS:
 private:
     void next();
 
-    QFutureWatcher<SampleFileFinder::Found> m_search;
+    QFutureWatcher<SampleFileFinder::Found> *const m_search;
     QStringList m_waiting;
 };
 

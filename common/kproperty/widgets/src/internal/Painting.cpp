@@ -23,7 +23,8 @@ double luminance(const QColor &color)
         constexpr double kLinearUpTo = 0.04045;
         return part <= kLinearUpTo ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
     };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+    return 0.2126 * linear(double(color.redF())) + 0.7152 * linear(double(color.greenF())) +
+           0.0722 * linear(double(color.blueF()));
 }
 
 /// As WCAG defines it, from 1 to 21.
