@@ -31,12 +31,7 @@ SampleSearch::SampleSearch(QObject *parent)
     : QObject(parent)
     , m_search(new QFutureWatcher<SampleFileFinder::Found>(this))
 {
-    connect(m_search, &QFutureWatcher<SampleFileFinder::Found>::finished, this, [this] {
-        const QPointer<SampleSearch> self(this);
-        Q_EMIT found(m_search->result());
-        if (self)
-            next();
-    });
+    connect(m_search, &QFutureWatcher<SampleFileFinder::Found>::finished, this, &SampleSearch::tell);
 }
 
 SampleSearch::~SampleSearch()
@@ -48,6 +43,15 @@ void SampleSearch::add(const QStringList &paths)
 {
     m_waiting += paths;
     next();
+}
+
+void SampleSearch::tell()
+{
+    const QPointer<SampleSearch> self(this);
+    const SampleFileFinder::Found result = m_search->result();
+    Q_EMIT found(result);
+    if (self)
+        next();
 }
 
 void SampleSearch::next()

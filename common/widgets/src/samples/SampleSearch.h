@@ -25,6 +25,7 @@ Q_SIGNALS:
     void found(const orv::SampleFileFinder::Found &found);
 
 private:
+    void tell();
     void next();
 
     QFutureWatcher<SampleFileFinder::Found> *const m_search;
