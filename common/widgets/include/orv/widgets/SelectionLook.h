@@ -2,6 +2,8 @@
 
 #include <orv/widgets/Export.h>
 
+#include <QtGlobal>
+
 QT_FORWARD_DECLARE_CLASS(QAbstractItemView)
 QT_FORWARD_DECLARE_CLASS(QStyleOptionViewItem)
 
