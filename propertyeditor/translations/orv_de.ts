@@ -6107,6 +6107,14 @@ Fügen Sie Zellen einer Tabellenkalkulation ein (Strg+V), ziehen oder importiere
         <source>Nothing was undone.</source>
         <translation>Es wurde nichts rückgängig gemacht.</translation>
     </message>
+    <message>
+        <source>Next Ta&amp;b</source>
+        <translation>Nächster &amp;Reiter</translation>
+    </message>
+    <message>
+        <source>Previous &amp;Tab</source>
+        <translation>Voriger R&amp;eiter</translation>
+    </message>
 </context>
 <context>
     <name>orv::WorkflowPropertiesDialog</name>

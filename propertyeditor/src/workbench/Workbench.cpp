@@ -11,7 +11,9 @@
 #include "orv/propertyeditor/workbench/Upgrades.h"
 
 #include <orv/core/PlainTip.h>
+#include <orv/propertyeditor/grid/EditableTabWidget.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
+#include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/propertyeditor/workbench/DocumentHistory.h>
 #include <orv/widgets/ControlHelp.h>
 #include <orv/widgets/Icons.h>
@@ -45,6 +47,7 @@ Workbench::Workbench(PropertyEditorWindow *window)
     new SameSetting(this, current);
     new SettingClipboard(this, current);
     m_comparison = new Comparison(this);
+    addTabCommands();
     new StatusLine(this);
     window->installEventFilter(this);
 }
@@ -75,6 +78,20 @@ void Workbench::addHistory()
     m_redo->setShortcuts(QKeySequence::Redo);
     connect(m_history, &DocumentHistory::changed, this, &Workbench::updateHistory);
     updateHistory();
+}
+
+/// Ctrl+Tab is the table's or that of tabs within a tab, wherever these have the focus.
+void Workbench::addTabCommands()
+{
+    const auto go = [this](int step) {
+        QTabWidget *tabs = m_window->workflowTabs()->widget();
+        if (const int count = tabs->count(); count > 0)
+            tabs->setCurrentIndex((tabs->currentIndex() + step + count) % count);
+    };
+    m_viewMenu->addSeparator();
+    m_viewMenu->addAction(tr("Next Ta&b"), QKeySequence(Qt::CTRL | Qt::Key_PageDown), this, [go] { go(1); });
+    m_viewMenu->addAction(tr("Previous &Tab"), QKeySequence(Qt::CTRL | Qt::Key_PageUp), this,
+                          [go] { go(-1); });
 }
 
 void Workbench::updateHistory()

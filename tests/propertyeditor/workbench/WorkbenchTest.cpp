@@ -3,11 +3,14 @@
 #include "editors/LeavingWays.h"
 
 #include <KPropertySet.h>
+#include <orv/propertyeditor/grid/EditableTabWidget.h>
 #include <orv/propertyeditor/grid/KPropertyCustomEditorView.h>
+#include <orv/propertyeditor/grid/PropertyGridWidget.h>
 #include <orv/propertyeditor/workbench/DocumentHistory.h>
 #include <orv/propertyeditor/workbench/Workbench.h>
 #include <orv/widgets/ControlHelp.h>
 
+#include <QAbstractItemView>
 #include <QDockWidget>
 #include <QLabel>
 #include <QMenuBar>
@@ -26,6 +29,7 @@ private Q_SLOTS:
     void menusStandBehindThoseThatAreThere();
     void panelsOpenFromTheViewMenu();
     void openedPanelsComeToTheFront();
+    void keysGoFromTabToTabOutOfTablesToo();
     void panelsLeaveTheWorkflowItsPlace();
     void documentsAreTold();
     void savedDocumentsAreTold();
@@ -59,12 +63,35 @@ void WorkbenchTest::panelsOpenFromTheViewMenu()
     QStringList entries;
     for (const QAction *entry : workbench->viewMenu()->actions())
         entries.append(entry->isSeparator() ? u"---"_s : entry->text());
-    QCOMPARE(entries, QStringList({u"Find Settings"_s, u"Findings"_s, u"Upgrade"_s,
-                                   u"Setting in Other Columns"_s, u"Settings Not Pasted"_s, u"Comparison"_s,
-                                   u"Findings"_s, u"---"_s, u"&Check Workflow"_s, u"&Next Finding"_s,
-                                   u"Pre&vious Finding"_s, u"Compare &with..."_s}));
+    QCOMPARE(entries,
+             QStringList({u"Find Settings"_s, u"Findings"_s, u"Upgrade"_s, u"Setting in Other Columns"_s,
+                          u"Settings Not Pasted"_s, u"Comparison"_s, u"Findings"_s, u"---"_s,
+                          u"&Check Workflow"_s, u"&Next Finding"_s, u"Pre&vious Finding"_s,
+                          u"Compare &with..."_s, u"---"_s, u"Next Ta&b"_s, u"Previous &Tab"_s}));
     QTest::keyClick(&window, Qt::Key_7, Qt::ControlModifier);
     QVERIFY(!panel->isVisible());
+}
+
+void WorkbenchTest::keysGoFromTabToTabOutOfTablesToo()
+{
+    Window window;
+    const Workbench workbench(&window);
+    const QJsonObject samples =
+        settingsCell("Samples", {setting("SamplesTable", QJsonObject{{u"Samples"_s, QJsonArray()}})});
+    QTest::keyClick(&window, Qt::Key_PageDown, Qt::ControlModifier);
+    QCOMPARE(window.openWorkflow(Documents::document({Documents::tab(u"A"_s, {u"Samples"_s}, {samples}),
+                                                      Documents::tab(u"B"_s, {u"One"_s}, {karvonCell()})},
+                                                     metadata())),
+             kOpened);
+    window.show();
+    window.grid(0)->findChild<QAbstractItemView *>()->setFocus();
+    for (const int tab : {1, 0, 1}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageDown, Qt::ControlModifier);
+        QCOMPARE(window.tabs().currentIndex(), tab);
+        QVERIFY(window.grid(tab)->isAncestorOf(QApplication::focusWidget()));
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageUp, Qt::ControlModifier);
+    QCOMPARE(window.tabs().currentIndex(), 0);
 }
 
 void WorkbenchTest::openedPanelsComeToTheFront()

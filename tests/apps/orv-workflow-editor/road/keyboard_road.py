@@ -77,7 +77,7 @@ def compare_with_old(road, person):
 
 
 def add_samples(road, person):
-    person.presses("ctrl+Tab")
+    person.presses("ctrl+Next")
     person.sees("table", "Samples")
     person.presses("alt+a")
     person.sees("dialog", "Add Files", ["active"])

@@ -62,6 +62,7 @@ protected:
 
 private:
     void addHistory();
+    void addTabCommands();
     void sizeOnce(QDockWidget *panel, Qt::DockWidgetArea area);
     void updateHistory();
     void updateTitle();
