@@ -65,13 +65,17 @@ def edit_value(road, person):
     person.sees("label", "Unsaved changes")
 
 
+def free_place_of_samples(person):
+    """Below the row: a drop on a file's cell gives that sample another file."""
+    table = person.sees("table", "Samples").extent
+    row = person.sees("cell", "Lot 0423", within=("table", "Samples")).extent
+    return table[0] + table[2] // 2, (row[1] + row[3] + table[1] + table[3]) // 2
+
+
 def drop_samples(road, person):
     person.clicks("page tab", "Samples")
-    table = person.sees("table", "Samples")
     files = road.offers_files([road.data / "mab_stressed.mzML"])
-    # Onto the free place below the row: a drop on a file's cell gives that sample another file.
-    free = (table.centre[0], table.centre[1] + 28)
-    person.drags(files.place, free, files.is_accepted)
+    person.drags(files.place, lambda: free_place_of_samples(person), files.is_accepted)
     person.sees("cell", "mab_stressed", within=("table", "Samples"))
     person.sees("label", "Rows: 2")
 

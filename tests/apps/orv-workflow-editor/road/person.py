@@ -1,4 +1,6 @@
 """Someone at the desktop: looks by accessibility, acts by pointer and keys, and has nothing else."""
+import itertools
+
 from waiting import NotSeen, until
 
 # A drag begins after a few pixels, and targets want to see the pointer come.
@@ -28,8 +30,19 @@ class Person:
     def sees_focus(self, role, name=None):
         return self.sees(role, name, states=["focused"])
 
+    def sees_still(self, role, name=None, within=None):
+        """The thing once it stays where it is: what has just opened may still arrange itself."""
+        places = []
+
+        def stays():
+            seen = self.sees(role, name, within=within)
+            places.append(seen.extent)
+            return seen if places[-2:-1] == [seen.extent] else None
+
+        return until(f"a {role} {name!r} that stays", stays)
+
     def clicks(self, role, name=None, within=None, button=1, times=1):
-        seen = self.sees(role, name, within=within)
+        seen = self.sees_still(role, name, within)
         self.clicks_at(*seen.centre, button=button, times=times)
         return seen
 
@@ -65,14 +78,23 @@ class Person:
                                   if "focused" in node.states and node.role != "page tab"])
 
     def drags(self, source, target, is_ready):
-        """From one point to another; lets go once is_ready."""
+        """From one point to where target() is by now; lets go once is_ready. The hand stays in motion until then, as
+        a program tells where the pointer is only when that moves, and a window may arrange itself late."""
         self._hand("mousemove", *source)
         self._hand("mousedown", 1)
+        first = target()
         for step in range(1, DRAG_STEPS + 1):
             part = step / DRAG_STEPS
-            self._hand("mousemove", *(round(a + (b - a) * part) for a, b in zip(source, target)))
+            self._hand("mousemove", *(round(a + (b - a) * part) for a, b in zip(source, first)))
+        shakes = itertools.cycle((0, 1, 2, 1))
+
+        def is_ready_there():
+            x, y = target()
+            self._hand("mousemove", x + next(shakes), y)
+            return is_ready()
+
         try:
-            until("a drop that is accepted", is_ready)
+            until("a drop that is accepted", is_ready_there)
         except NotSeen:
             self._hand("key", "Escape")
             raise

@@ -88,12 +88,14 @@ def ends(person, program):
 
 def main(arguments):
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("--editor", required=True)
-    parser.add_argument("--drag-source", required=True)
+    parser.add_argument("--editor", required=True, type=Path)
+    parser.add_argument("--drag-source", required=True, type=Path)
     parser.add_argument("--update", action="store_true")
     parser.add_argument("--pictures", type=Path)
     parser.add_argument("roads", nargs="*", metavar="ROAD", help=f"of {', '.join(ROADS)}; all without one")
     options = parser.parse_args(arguments)
+    # Programs start in the home folder of the desktop.
+    options.editor, options.drag_source = options.editor.resolve(), options.drag_source.resolve()
     unknown = sorted(set(options.roads) - set(ROADS))
     if unknown:
         parser.error(f"there is no road {', '.join(unknown)}; there are {', '.join(ROADS)}")
