@@ -1,7 +1,7 @@
 #include "PlaceKeeper.h"
 
-#include "CurrentSetting.h"
-#include "SettingView.h"
+#include "settings/CurrentSetting.h"
+#include "settings/SettingView.h"
 
 #include <orv/propertyeditor/grid/EditableTabWidget.h>
 #include <orv/propertyeditor/grid/PropertyGridWidget.h>

@@ -1,6 +1,6 @@
 #include "StatusLine.h"
 
-#include "FindingSigns.h"
+#include "findings/FindingSigns.h"
 #include "orv/propertyeditor/workbench/DocumentHistory.h"
 #include "orv/propertyeditor/workbench/Findings.h"
 #include "orv/propertyeditor/workbench/Workbench.h"

@@ -1,14 +1,14 @@
 #include "orv/propertyeditor/workbench/Workbench.h"
 
-#include "CurrentSetting.h"
 #include "PlaceKeeper.h"
-#include "SameSetting.h"
-#include "SettingClipboard.h"
 #include "StatusLine.h"
 #include "orv/propertyeditor/workbench/Comparison.h"
 #include "orv/propertyeditor/workbench/FindSettings.h"
 #include "orv/propertyeditor/workbench/Findings.h"
 #include "orv/propertyeditor/workbench/Upgrades.h"
+#include "settings/CurrentSetting.h"
+#include "transfer/SameSetting.h"
+#include "transfer/SettingClipboard.h"
 
 #include <orv/core/PlainTip.h>
 #include <orv/propertyeditor/grid/EditableTabWidget.h>
