@@ -88,6 +88,8 @@ struct PropertyEditorWindow::Upgrade
     bool isSaved = false;
 
     [[nodiscard]] bool isNeeded() const { return !isSameVersion(done.from, done.to); }
+    /// No step leads down from a newer version.
+    [[nodiscard]] bool isUpward() const { return done.from < done.to; }
 };
 
 OpenStatus PropertyEditorWindow::selectAndOpenWorkflow()
@@ -156,7 +158,7 @@ OpenStatus PropertyEditorWindow::openWorkflow(PropertyEditorContent *content,
         return *refusal;
     tellDocumentType(*content);
     const OpenStatus status = self ? display(*content, upgrade.lost) : OpenStatus::NotOpened;
-    if (self && status == OpenStatus::Opened && upgrade.isNeeded())
+    if (self && status == OpenStatus::Opened && upgrade.isUpward())
         Q_EMIT documentUpgraded(upgrade.done, upgrade.isSaved);
     return status;
 }

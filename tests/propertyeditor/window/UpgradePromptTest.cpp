@@ -134,6 +134,7 @@ private Q_SLOTS:
     void saveThatFailsStillOpens();
     void unsupportedVersionsAreUpgradedUnasked();
     void equalVersionsAreNotUpgraded();
+    void newerVersionsAreNotCalledUpgraded();
 };
 
 void UpgradePromptTest::changesAreListed()
@@ -233,6 +234,21 @@ void UpgradePromptTest::equalVersionsAreNotUpgraded()
     QCOMPARE(progress.count(), 1);
     QCOMPARE(upgrades, 1);
     QCOMPARE(log.texts(QtInfoMsg).count(u"Workflow was upgraded"_s), 2);
+}
+
+void UpgradePromptTest::newerVersionsAreNotCalledUpgraded()
+{
+    const LogCapture log;
+    ScriptedAnswerer answers;
+    Window window;
+    int upgrades = 0;
+    connect(&window, &PropertyEditorWindow::documentUpgraded, &window, [&upgrades] { ++upgrades; });
+    QCOMPARE(window.openWorkflow(documentOf({karvonCell()}, metadata("5.99.0"))), kOpened);
+    QVERIFY(answers.transcript().isEmpty());
+    answers.expectBox(u"Workflow is invalid"_s, u"Yes"_s);
+    QCOMPARE(window.openWorkflow(documentOf({karvonCell()}, metadata("6.0.0"))), kOpened);
+    QVERIFY(answers.isDone());
+    QCOMPARE(upgrades, 0);
 }
 
 WIDGET_REGISTER_TEST(UpgradePromptTest)
