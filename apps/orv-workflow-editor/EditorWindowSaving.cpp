@@ -1,5 +1,6 @@
 #include "EditorWindow.h"
 
+#include <orv/propertyeditor/workflow/WflwMetaData.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
 #include <orv/widgets/ORVStyle.h>
 
@@ -64,8 +65,13 @@ void EditorWindow::save()
         savePortableWorkflow();
         return;
     }
+    const bool isNewer =
+        WflwMetaData::isNewerThanCurrent(WflwMetaData::versionNumberFromMetaDataObject(workflowMetadata()));
+    if (isNewer)
+        tell(tr("The file comes from a newer version of the software and stays as it is. Save under another "
+                "name."));
     // The version that wrote an older file can't open what a save would make of it.
-    if (!QFileInfo(path).isAbsolute() || m_isUpgraded) {
+    if (isNewer || m_isUpgraded || !QFileInfo(path).isAbsolute()) {
         saveWorkflowAs();
         return;
     }

@@ -2803,6 +2803,10 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
         <source>Replace</source>
         <translation>Ersetzen</translation>
     </message>
+    <message>
+        <source>The file comes from a newer version of the software and stays as it is. Save under another name.</source>
+        <translation>Die Datei stammt von einer neueren Version der Software und bleibt, wie sie ist. Speichern Sie unter einem anderen Namen.</translation>
+    </message>
 </context>
 <context>
     <name>orv::FindBar</name>

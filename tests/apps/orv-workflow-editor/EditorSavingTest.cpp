@@ -1,6 +1,7 @@
 #include "EditorWindow.h"
 #include "EditorWindows.h"
 #include "TestData.h"
+#include "TestFiles.h"
 #include "WidgetTest.h"
 
 #include <orv/propertyeditor/grid/GridItemCreators.h>
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void aSaveWritesTheFileWithWhatIsBeingTyped();
     void workflowsWithoutAFileAreNamedFirst();
     void upgradedFilesStayUnlessNamed();
+    void newerFilesStay();
     void portableFoldersAreSavedAsSuch();
     void filesOfOthersAreAskedAbout_data();
     void filesOfOthersAreAskedAbout();
@@ -115,6 +117,25 @@ void EditorSavingTest::upgradedFilesStayUnlessNamed()
     typeNameOfFirstTab(*m_window, u"Typed"_s);
     saveByKey();
     QVERIFY(TestData::read(path).contains("\"Typed\""));
+}
+
+void EditorSavingTest::newerFilesStay()
+{
+    const QByteArray newer = TestData::read(TestData::examplePath(u"workflows/de_novo_antibody.wflw"_s))
+                                 .replace("5.47.0", "5.99.0");
+    const QString path = m_folder->filePath(u"newer.wflw"_s);
+    TestFiles::makeFile(path, newer);
+    ScriptedAnswerer answers;
+    QCOMPARE(m_window->openWorkflow(path), kOpened);
+    QVERIFY(!m_window->isWindowModified());
+    QVERIFY(answers.transcript().isEmpty());
+    typeNameOfFirstTab(*m_window, u"Typed"_s);
+    const QString other = m_folder->filePath(u"other.wflw"_s);
+    answers.expectPath(u"Save Workflow"_s, other);
+    saveByKey();
+    QVERIFY(answers.isDone());
+    QCOMPARE(TestData::read(path), newer);
+    QVERIFY(TestData::read(other).contains("\"Typed\""));
 }
 
 void EditorSavingTest::portableFoldersAreSavedAsSuch()

@@ -25,13 +25,6 @@ namespace {
 
 constexpr int kSeconds = 1000;
 
-void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("The test's file can't be written: %s", qPrintable(path));
-}
-
 QByteArray nested(int levels)
 {
     return "{\"metadata\": \"{}\", \"tabs\": " + QByteArray(levels, '[') + QByteArray(levels, ']') + "}";
@@ -87,21 +80,21 @@ QString WorstFilesTest::made(const QString &kind)
 {
     const QString path = m_folder->filePath(u"worst.wflw"_s);
     if (kind == u"large"_s)
-        writeFile(path, "{\"metadata\": \"" + QByteArray(100'000'000, 'x') + "\", \"tabs\": []}");
+        TestFiles::makeFile(path, "{\"metadata\": \"" + QByteArray(100'000'000, 'x') + "\", \"tabs\": []}");
     else if (kind == u"too large"_s)
-        writeFile(path, QByteArray(135'000'000, ' ') + "{}");
+        TestFiles::makeFile(path, QByteArray(135'000'000, ' ') + "{}");
     else if (kind == u"deep"_s)
-        writeFile(path, nested(100'000));
+        TestFiles::makeFile(path, nested(100'000));
     else if (kind == u"deep and open"_s)
-        writeFile(path, QByteArray(100'000, '['));
+        TestFiles::makeFile(path, QByteArray(100'000, '['));
     else if (kind == u"folder"_s)
         QDir().mkpath(path);
     else if (kind == u"link to itself"_s)
         QFile::link(path, path);
     else if (kind == u"empty"_s)
-        writeFile(path, {});
+        TestFiles::makeFile(path, {});
     else if (kind == u"zeros"_s)
-        writeFile(path, QByteArray(1'000'000, '\0'));
+        TestFiles::makeFile(path, QByteArray(1'000'000, '\0'));
 #ifdef Q_OS_UNIX
     else if (kind == u"pipe"_s && !TestFiles::makeFifo(path))
         qFatal("There is no pipe");
@@ -196,7 +189,7 @@ void WorstFilesTest::theLongestNameIsOpenedAndSaved()
 void WorstFilesTest::namesThatLookLikeMarkupAreToldAsTheyAre()
 {
     const QString path = m_folder->filePath(u"<b>x<img src=q>&amp;.wflw"_s);
-    writeFile(path, "{");
+    TestFiles::makeFile(path, "{");
     ScriptedAnswerer answers;
     answers.expectBox(u"Open"_s, u"OK"_s);
     open(path);
