@@ -4107,6 +4107,12 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
         <source>Saving the portable workflow...</source>
         <translation>Der portable Workflow wird gespeichert...</translation>
     </message>
+    <message>
+        <source>The workflow was saved, but some files that it names weren&apos;t copied, and aren&apos;t found from its folder. Copy them to where they are named:
+%1</source>
+        <translation>Der Workflow wurde gespeichert, aber einige Dateien, die er nennt, wurden nicht kopiert und werden von seinem Ordner aus nicht gefunden. Kopieren Sie sie dorthin, wo sie genannt sind:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>orv::PropertyEditorWindow</name>

@@ -51,8 +51,21 @@ Error Content::write(const QString &fileName) const
     return DocumentSaving::write(fileName, toJson(PropertyConversionFlag::KeepPaths)).ecatch();
 }
 
+Error Content::checkRectangles() const
+{
+    const ItemGroup *const uneven = firstUnevenGroup();
+    if (!uneven)
+        return Error::NoError;
+    return Error(
+        ErrorCode::MalformedStructure,
+        tr("The columns of the tab \"%1\" differ in height, and a tab is a rectangle. Add the missing "
+           "cells or remove the others.")
+            .arg(uneven->name()));
+}
+
 Error Content::checkWritable() const
 {
+    ORV_RETURN_IF_ERROR(checkRectangles());
     for (const ItemGroup *group : groups()) {
         for (const ItemSubGroup *subGroup : group->subGroups()) {
             if (UnwritableRow found = firstUnwritable(*subGroup); found.error.hasError()) {

@@ -5,7 +5,6 @@
 #include <orv/core/PathUtils.h>
 #include <orv/propertyeditor/content/DocumentSaving.h>
 #include <orv/propertyeditor/content/DocumentStructure.h>
-#include <orv/propertyeditor/content/ItemGroup.h>
 #include <orv/propertyeditor/content/PropertyEditorContent.h>
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
@@ -140,12 +139,6 @@ Result<LoadedContent> WorkflowFile::load(ValidationOptions options) const
 
 Error WorkflowFile::assign(const Content &content, const QList<Loss> &lost)
 {
-    if (const ItemGroup *const uneven = content.firstUnevenGroup()) {
-        return Error(ErrorCode::MalformedStructure,
-                     WorkflowFileTr::tr("The columns of the tab \"%1\" differ in height, and a tab is a "
-                                        "rectangle. Add the missing cells or remove the others.")
-                         .arg(uneven->name()));
-    }
     ORV_RETURN_IF_ERROR(content.checkWritable());
     m_source.document = content.toJsonObject(PropertyConversionFlag::KeepPaths);
     m_source.text = content.toJson(PropertyConversionFlag::KeepPaths);

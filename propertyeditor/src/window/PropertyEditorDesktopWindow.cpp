@@ -2,7 +2,6 @@
 
 #include "LossTexts.h"
 
-#include <orv/core/Logging.h>
 #include <orv/propertyeditor/window/PropertyEditorWindowJsonFile.h>
 #include <orv/propertyeditor/workflow/PortableTarget.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
@@ -12,10 +11,13 @@
 #include <orv/widgets/ORVStyle.h>
 #include <orv/widgets/ProgressOutputUtils.h>
 
+#include <QDir>
 #include <QFileInfo>
 #include <QPointer>
 #include <QToolBar>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace orv {
 
@@ -79,18 +81,21 @@ void PropertyEditorDesktopWindow::savePortableWorkflow()
 
 namespace {
 
-/// Tells the log of files that the folder doesn't carry.
+/// The details hold all of them.
+constexpr qsizetype kMostFilesTold = 5;
+
+/// Files that the workflow names and the folder doesn't carry.
 class DanglingFiles : public PortableSaveObserver
 {
 public:
-    void dangling(const QString &text) override
-    {
-        qCWarning(propertyEditorLog).noquote() << "The portable workflow doesn't carry the file" << text;
-    }
+    void dangling(const QString &text) override { texts.append(text); }
+
+    QStringList texts;
 };
 
-/// Runs on any thread.
-Error savePortable(const QJsonObject &document, const QString &folder, const QUrl &baseUrl)
+/// Runs on any thread. \a dangling gets the files that aren't found from the folder.
+Error savePortable(const QJsonObject &document, const QString &folder, const QUrl &baseUrl,
+                   QStringList *dangling)
 {
     Content content;
     ORV_RETURN_IF_ERROR(content.assignFromJson(document));
@@ -99,10 +104,15 @@ Error savePortable(const QJsonObject &document, const QString &folder, const QUr
     PortableTarget target(folder);
     ORV_RETURN_IF_ERROR(target.prepare());
     QString text;
-    DanglingFiles dangling;
-    if (!WflwUtils::saveAsPortableWorkflow(content, target.stagedFolder(), baseUrl, &text, &dangling))
+    DanglingFiles files;
+    if (!WflwUtils::saveAsPortableWorkflow(content, target.stagedFolder(), baseUrl, &text, &files))
         return Error(ErrorCode::CannotOpenFile, target.asInPlace(text));
-    return target.commit().ecatch();
+    ORV_RETURN_IF_ERROR(target.commit());
+    // Where the folder was made, files beside its place weren't found.
+    const QDir home(folder);
+    files.texts.removeIf([&home](const QString &file) { return QFileInfo::exists(home.filePath(file)); });
+    *dangling = files.texts;
+    return Error::NoError;
 }
 
 } // namespace
@@ -117,12 +127,14 @@ void PropertyEditorDesktopWindow::writePortableWorkflow(const QString &path)
     Content content;
     LossCollector losses;
     content.setLossObserver(&losses);
-    const Error unreadable = content.assignFromJson(this->content().toJsonObject());
+    Error unusable = content.assignFromJson(this->content().toJsonObject());
     content.setLossObserver(nullptr);
-    if (unreadable.hasError()) {
+    if (!unusable.hasError())
+        unusable = content.checkWritable();
+    if (unusable.hasError()) {
         dFunc()->setWorkflowMetadata(before);
         ORVStyle::critical(this, {},
-                           tr("Cannot handle the specified workflow: %1").arg(unreadable.errorMessage()));
+                           tr("Cannot handle the specified workflow: %1").arg(unusable.errorMessage()));
         return;
     }
     if (!acceptsLosses(textsOf(losses.losses()))) {
@@ -132,11 +144,12 @@ void PropertyEditorDesktopWindow::writePortableWorkflow(const QString &path)
     }
     const QJsonObject document = content.toJsonObject(PropertyConversionFlag::KeepPaths);
     Error error;
+    QStringList dangling;
     {
         const auto progress =
             ProgressOutputUtils::createAndShowProgress(tr("Saving the portable workflow..."), this, false);
         const QUrl baseUrl = dFunc()->workflowBaseUrl();
-        progress->run([&](ProgressReporter &) { error = savePortable(document, path, baseUrl); });
+        progress->run([&](ProgressReporter &) { error = savePortable(document, path, baseUrl, &dangling); });
     }
     if (!self)
         return;
@@ -159,6 +172,21 @@ void PropertyEditorDesktopWindow::writePortableWorkflow(const QString &path)
         endReload(!shown.hasError());
     if (self && shown.hasError())
         ORVStyle::critical(this, {}, shown.errorMessage());
+    if (self && !dangling.isEmpty())
+        tellNotCarried(dangling);
+}
+
+void PropertyEditorDesktopWindow::tellNotCarried(const QStringList &files)
+{
+    QStringList told = files.first(std::min(files.size(), kMostFilesTold));
+    if (told.size() < files.size())
+        told.append(QStringLiteral("..."));
+    ORVStyle::warning(
+        this, tr("Save As Portable Workflow"),
+        tr("The workflow was saved, but some files that it names weren't copied, and aren't found "
+           "from its folder. Copy them to where they are named:\n%1")
+            .arg(told.join(u'\n')),
+        QMessageBox::Ok, {}, QMessageBox::NoButton, files.join(u'\n'));
 }
 
 } // namespace orv

@@ -301,10 +301,11 @@ PropertyEditorContent PropertyEditorWindow::inDesktopForm(const PropertyEditorCo
         !d->m_mainWindow->appInfo().isApplication(kApplicationOfDesktopForms))
         return content;
     Content document;
-    if (Error error = document.assignFromJson(content.document())) {
-        error.ecatch();
+    Error error = document.assignFromJson(content.document());
+    if (!error.hasError())
+        error = document.checkWritable();
+    if (error.ecatch().hasError())
         return content;
-    }
     document.setDesktopContentMode();
     return PropertyEditorContent(document.toJsonObject(PropertyEditor::PropertyConversionFlag::KeepPaths));
 }

@@ -203,7 +203,7 @@ void PropertyEditorWindow::closeEvent(QCloseEvent *event)
     if (self && hasUnsavedChanges()) {
         const auto answer = ORVStyle::question(this, tr("Unsaved changes"),
                                                tr("There are some unsaved changes. Do you want to save ?"),
-                                               QMessageBox::Yes | QMessageBox::No);
+                                               QMessageBox::Yes | QMessageBox::No, {}, QMessageBox::Yes);
         if (self && answer == QMessageBox::Yes)
             saveWorkflowAs();
     }

@@ -1,20 +1,12 @@
 #include "orv/propertyeditor/workflow/WorkflowPaths.h"
 
-#include <orv/propertyeditor/content/ItemGroup.h>
 #include <orv/resources/ResourceReferenceUtils.h>
-
-#include <QCoreApplication>
 
 namespace orv::WorkflowPaths {
 
 using namespace PropertyEditor;
 
 namespace {
-
-struct WorkflowPathsTr
-{
-    Q_DECLARE_TR_FUNCTIONS(WorkflowPaths)
-};
 
 /// The tree keeps the base that it has.
 Result<Content> copyWithBase(const Content &content, const QUrl &baseUrl)
@@ -31,12 +23,7 @@ Result<Content> copyWithBase(const Content &content, const QUrl &baseUrl)
 
 Result<Content> absoluteCopy(const Content &content, const QUrl &baseUrl)
 {
-    if (const ItemGroup *const uneven = content.firstUnevenGroup()) {
-        return Error(ErrorCode::MalformedStructure,
-                     WorkflowPathsTr::tr("The columns of the tab \"%1\" differ in height, and a tab is a "
-                                         "rectangle. Add the missing cells or remove the others.")
-                         .arg(uneven->name()));
-    }
+    ORV_RETURN_IF_ERROR(content.checkRectangles());
     Result<Content> copy = copyWithBase(content, baseUrl);
     if (!copy.hasError())
         copy->setBaseUrl(baseUrl);

@@ -81,7 +81,7 @@ void ClosingTest::changesAreAskedFor()
     QVERIFY(opened.window.close());
     QCOMPARE(transcriptOf(opened.answers),
              QStringList{u"question | Unsaved changes | There are some unsaved changes. Do you want to "
-                         "save ? | Yes [No]"_s});
+                         "save ? | [Yes] No"_s});
 }
 
 void ClosingTest::savingWhileClosing()

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void everyWorkflowTypeHasItsDocumentType();
     void namesOfColumnsAreToldByPeptideMapsAlone();
     void serverFormsAreShownInDesktopForm();
+    void serverFormsThatCantBeConvertedWholeAreShownAsTheyAre();
     void brokenExtendedMetadataAreReplaced();
     void allGroupsAreFolded();
     void typeIsThatOfTheFile();
@@ -308,6 +309,20 @@ void OpeningTest::serverFormsAreShownInDesktopForm()
         QVERIFY(!window.setContent(PropertyEditorContent(documentOf({karvonCell()}, data))).hasError());
         QCOMPARE(int(WflwMetaData::contentMode(window.content().metadata())), application == 7 ? 0 : 1);
     }
+}
+
+void OpeningTest::serverFormsThatCantBeConvertedWholeAreShownAsTheyAre()
+{
+    QJsonObject data = metadata();
+    data[u"contentMode"_s] = 1;
+    registerCreators();
+    const LogCapture log;
+    CoreMainWindow main(ApplicationInfo{ApplicationType(7)});
+    PropertyEditorDesktopWindow window(&main);
+    const QJsonObject uneven = Documents::tab(u"Uneven"_s, {u"A"_s, u"B"_s}, {karvonCell()});
+    QVERIFY(!window.setContent(PropertyEditorContent(Documents::document({uneven}, data))).hasError());
+    QCOMPARE(int(WflwMetaData::contentMode(window.content().metadata())), 1);
+    QCOMPARE(window.content().tabsAndContent().first().first, u"Uneven"_s);
 }
 
 void OpeningTest::brokenExtendedMetadataAreReplaced()

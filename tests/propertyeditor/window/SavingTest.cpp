@@ -35,12 +35,14 @@ private Q_SLOTS:
     void relativePathsBecomeAbsolute();
     void nothingChosenSavesNothing();
     void failedWritesLeaveTheWindow();
+    void tabsThatWouldBeWrittenEmptyAreNot();
     void newerFilesAreNotReplaced();
     void unknownEntriesAreAskedFor();
     void foreignMembersAreAskedFor_data();
     void foreignMembersAreAskedFor();
     void namesWithDotsAskBeforeTheyReplace();
     void portableFoldersAreWritten();
+    void filesThatAPortableFolderLeavesBehindAreTold();
     void portableFailuresAreTold();
     void portableSavesOverTheirOwnFolder();
 };
@@ -121,6 +123,33 @@ void SavingTest::failedWritesLeaveTheWindow()
     QCOMPARE(window.windowTitle(), title);
     QCOMPARE(window.grid(0), before);
     QCOMPARE(WflwMetaData::nameFromMetaDataObject(window.state().workflowMetadata()), u"Mixture"_s);
+}
+
+void SavingTest::tabsThatWouldBeWrittenEmptyAreNot()
+{
+    const LogCapture log;
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    Window window;
+    const QJsonObject uneven =
+        Documents::tab(u"Uneven"_s, {u"A"_s, u"B"_s, u"C"_s}, {karvonCell(), karvonCell()});
+    const QString path = write(folder, "a.wflw", Documents::document({uneven}, metadata()));
+    const QByteArray before = TestData::read(path);
+    QCOMPARE(window.openWorkflow(path), kOpened);
+    answers.expectBox({}, u"OK"_s);
+    QVERIFY(!window.saveWorkflowToJSON(path));
+    QCOMPARE(answers.transcript().first().text, u"Failed to save the workflow"_s);
+    QCOMPARE(answers.transcript().first().details,
+             u"The columns of the tab \"Uneven\" differ in height, and a tab is a rectangle. Add the missing "
+             "cells or remove the others."_s);
+    QCOMPARE(TestData::read(path), before);
+    window.show();
+    answers.expectPath(u"Save As Portable Workflow"_s, folder.filePath(u"b.wflwp"_s));
+    answers.expectBox({}, u"OK"_s);
+    window.click("Save As Portable Workflow...");
+    QVERIFY(answers.transcript().last().text.startsWith(
+        u"Cannot handle the specified workflow: The columns of the tab \"Uneven\" differ in height"_s));
+    QVERIFY(!QFileInfo::exists(folder.filePath(u"b.wflwp"_s)));
 }
 
 void SavingTest::newerFilesAreNotReplaced()
@@ -225,6 +254,38 @@ void SavingTest::portableFoldersAreWritten()
     QCOMPARE(window.tabs().count(), 1);
     QCOMPARE(saved.size(), 1);
     QCOMPARE(shown.size(), 0);
+}
+
+void SavingTest::filesThatAPortableFolderLeavesBehindAreTold()
+{
+    const QTemporaryDir folder;
+    ScriptedAnswerer answers;
+    Window window;
+    window.show();
+    QJsonObject samples = Documents::cell(u"Samples"_s);
+    QStringList names;
+    QJsonArray rows;
+    for (int i = 1; i <= 6; ++i) {
+        names.append(u"data/%1.mzML"_s.arg(i));
+        rows.append(QJsonObject{{u"SampleName"_s, QString::number(i)}, {u"SamplePath"_s, names.last()}});
+    }
+    samples[u"properties"_s] = QJsonArray{
+        QJsonObject{{u"name"_s, u"SamplesTable"_s}, {u"value"_s, QJsonObject{{u"Samples"_s, rows}}}}};
+    QCOMPARE(window.openWorkflow(write(folder, "a.wflw", documentOf({samples}))), kOpened);
+    const QString target = folder.filePath(u"there/b.wflwp"_s);
+    QVERIFY(QDir(folder.path()).mkdir(u"there"_s));
+    answers.expectPath(u"Save As Portable Workflow"_s, target);
+    answers.expectBox(u"Save As Portable Workflow"_s, u"OK"_s);
+    window.click("Save As Portable Workflow...");
+    QVERIFY(answers.isDone());
+    const DialogRequest told = answers.transcript().last();
+    QCOMPARE(told.kind, DialogRequest::Kind::Warning);
+    QCOMPARE(
+        told.text,
+        u"The workflow was saved, but some files that it names weren't copied, and aren't found from its "
+        "folder. Copy them to where they are "
+        "named:\ndata/1.mzML\ndata/2.mzML\ndata/3.mzML\ndata/4.mzML\ndata/5.mzML\n..."_s);
+    QCOMPARE(told.details, names.join(u'\n'));
 }
 
 void SavingTest::portableFailuresAreTold()

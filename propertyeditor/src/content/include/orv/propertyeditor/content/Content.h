@@ -92,7 +92,8 @@ public:
     /// null.
     bool save(const QString &fileName, Error *error) const;
 
-    /// Why toJson would write the document without something that it holds; a success if it writes all.
+    /// Why toJson would write the document without something that it holds, such as a tab that is no
+    /// rectangle; a success if it writes all.
     [[nodiscard]] Error checkWritable() const;
 
     /// Deletes every tab and forgets the base URL; the metadata stay. Emits nothing.
@@ -108,6 +109,8 @@ public:
     [[nodiscard]] QStringList groupNames() const;
     /// The first that is no rectangle, and so can't be written; null if all are.
     [[nodiscard]] const ItemGroup *firstUnevenGroup() const;
+    /// MalformedStructure that names that tab; a success if all are rectangles.
+    [[nodiscard]] Error checkRectangles() const;
     Q_INVOKABLE [[nodiscard]] bool contains(const QString &name) const;
     /// False, with a warning, for an empty name or one that exists.
     Q_INVOKABLE bool addGroup(const QString &name);

@@ -84,9 +84,8 @@ public:
     /// The tree, cells of unknown types included unless \a options are strict, with the folder as base URL.
     [[nodiscard]] Result<LoadedContent>
     load(ValidationOptions options = ValidationOption::SkipTypeValidation) const;
-    /// Takes the document of a tree that load() gave, with what it told to be \a lost. MalformedStructure for
-    /// a tab that is no rectangle, and the errors of Content::checkWritable; then it stays what it is.
-    /// Nothing is stamped.
+    /// Takes the document of a tree that load() gave, with what it told to be \a lost. The errors are those
+    /// of Content::checkWritable; then it stays what it is. Nothing is stamped.
     [[nodiscard]] Error assign(const Content &content, const QList<Loss> &lost);
 
     /// Brings it into the present form, in memory. It stays what it is if the report tells an error or that

@@ -38,6 +38,7 @@ private:
     friend class PropertyEditorDesktopWindowPrivate;
 
     void writePortableWorkflow(const QString &path);
+    void tellNotCarried(const QStringList &files);
 
     PropertyEditorDesktopWindowPrivate *desktop() const;
 };
