@@ -293,10 +293,26 @@ void PropertyEditorWindow::appendRow()
 
 void PropertyEditorWindow::appendColumn()
 {
+    const QPointer<PropertyEditorWindow> self(this);
     ModalDialog dialog(new NameDialog(NameDialog::AddColumn, this));
     dialog->setComboStrings(BaseItem::typeNames());
-    if (dialog.exec())
-        d->appendColumnGrid(BaseItem::typeFromString(dialog->comboText()), dialog->name());
+    if (!dialog.exec())
+        return;
+    d->appendColumnGrid(BaseItem::typeFromString(dialog->comboText()), dialog->name());
+    if (!self || d->m_tabs->isCurrentEven())
+        return;
+    // Its name was taken, which a person can take back.
+    Q_EMIT d->m_tabs->edited();
+    if (self)
+        tellUneven(tr("Append column"));
+}
+
+void PropertyEditorWindow::tellUneven(const QString &title)
+{
+    ORVStyle::warning(
+        this, title,
+        tr("This application can't show every column of the tab. As it is, the workflow can't be "
+           "saved: undo this, or remove the tab."));
 }
 
 bool PropertyEditorWindow::openTabPreset()
@@ -314,6 +330,8 @@ bool PropertyEditorWindow::openTabPreset()
         return true;
     d->m_lost += lost;
     Q_EMIT d->m_tabs->edited();
+    if (self && !d->m_tabs->isCurrentEven())
+        tellUneven(tr("Open Tab"));
     return true;
 }
 

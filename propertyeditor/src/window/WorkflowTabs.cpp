@@ -143,6 +143,16 @@ PropertyEditorContent::Tab WorkflowTabs::read(int index) const
     return {m_tabs->tabText(index), {shown->columnNames(), cells}};
 }
 
+bool WorkflowTabs::isCurrentEven() const
+{
+    const PropertyGridWidget *shown = currentGrid();
+    if (!shown)
+        return true;
+    const qsizetype columns = shown->columnNames().size();
+    const qsizetype cells = shown->items().size();
+    return columns == 0 || cells == 0 ? columns == cells : cells % columns == 0;
+}
+
 PropertyEditorContent::Tabs WorkflowTabs::tabs() const
 {
     PropertyEditorContent::Tabs tabs;

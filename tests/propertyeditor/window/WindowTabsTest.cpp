@@ -8,6 +8,7 @@
 #include <orv/propertyeditor/grid/KPropertyCustomEditorView.h>
 #include <orv/propertyeditor/window/PropertyEditorDirLocations.h>
 #include <orv/propertyeditor/window/PropertyEditorWindowJsonFile.h>
+#include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/widgets/FileSystemSettings.h>
 #include <orv/widgets/SamplesAndTracesInputWidget.h>
 
@@ -78,6 +79,7 @@ private Q_SLOTS:
     void windowsMayGoInEveryBox();
     void removedTabsKeepQuiet();
     void typesOfColumnsAreOffered();
+    void columnsThatCantBeShownAreTold();
     void removingNoTabDoesNothing();
     void presetsKeepThePlaceOfTheTab();
     void columnsOfPresetsAreWhatTheirCellsAre();
@@ -375,6 +377,37 @@ void WindowTabsTest::typesOfColumnsAreOffered()
     QCOMPARE(offered, PropertyEditor::BaseItem::typeNames());
     QVERIFY(offered.contains(u"Karvon"_s) && offered.contains(u"CaldrinDIA"_s));
     QCOMPARE(designed.window.grid(1)->columnNames(), QStringList{u"First"_s});
+}
+
+void WindowTabsTest::columnsThatCantBeShownAreTold()
+{
+    const LogCapture log;
+    Designed designed;
+    const QSignalSpy edited(designed.window.workflowTabs(), &WorkflowTabs::edited);
+    designed.answers.expectDialog(u"Add column"_s, [](QDialog &dialog) {
+        dialog.findChild<QComboBox *>()->setCurrentText(u"Unknown"_s);
+        dialog.findChild<QLineEdit *>()->setText(u"Odd"_s);
+        return true;
+    });
+    designed.answers.expectBox(u"Append column"_s, u"OK"_s);
+    designed.window.appendColumn();
+    QVERIFY(designed.answers.isDone());
+    const QString told =
+        u"This application can't show every column of the tab. As it is, the workflow can't be "
+        "saved: undo this, or remove the tab."_s;
+    QCOMPARE(designed.answers.transcript().last().text, told);
+    QCOMPARE(edited.size(), 1);
+
+    const QTemporaryDir folder;
+    QJsonObject foreign = karvonCell();
+    foreign[u"type"_s] = u"Foreign"_s;
+    const QJsonObject tab = Documents::tab(u"Search"_s, {u"A"_s, u"B"_s}, {karvonCell(), foreign});
+    const QString preset = write(folder, "a.ptab", tab);
+    designed.answers.expectPath(u"Open Tab"_s, preset);
+    designed.answers.expectBox(u"Open Tab"_s, u"OK"_s);
+    QVERIFY(designed.window.openTabPreset());
+    QVERIFY(designed.answers.isDone());
+    QCOMPARE(designed.answers.transcript().last().text, told);
 }
 
 void WindowTabsTest::removingNoTabDoesNothing()

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void typedBackIsAStepOfItsOwn();
     void openEditorsAreTakenOverFirst();
     void columnsAreUndone();
+    void columnsThatCantBeShownAreUndone();
     void tabsAreUndone();
     void propertiesOfTheWorkflowAreUndone();
     void theSavedStateIsAState();
@@ -177,6 +178,24 @@ void HistoryTest::columnsAreUndone()
     while (edited.history->canRedo())
         edited.history->redo();
     QCOMPARE(edited.shown(), last);
+}
+
+void HistoryTest::columnsThatCantBeShownAreUndone()
+{
+    const LogCapture log;
+    Edited edited;
+    const QByteArray loaded = edited.shown();
+    edited.window.grid(0)->appendColumn(BaseItemType::Unknown, u"Odd"_s, true);
+    Q_EMIT edited.window.workflowTabs()->edited();
+    edited.history->takeIn();
+    const QByteArray odd = edited.shown();
+    QVERIFY(odd != loaded);
+    QCOMPARE(edited.history->undoText(), u"Column \"Odd\" added"_s);
+    edited.history->undo();
+    QCOMPARE(edited.shown(), loaded);
+    QCOMPARE(edited.window.grid(0)->columnNames().size(), edited.window.grid(0)->items().size());
+    edited.history->redo();
+    QCOMPARE(edited.shown(), odd);
 }
 
 void HistoryTest::tabsAreUndone()

@@ -86,6 +86,12 @@ bool takeValues(GridPropertyEditorView &view, const QJsonObject &cell)
     return self && shown;
 }
 
+/// A column that couldn't be shown left its name behind, which no step of the columns takes away.
+bool hasNamesWithoutCells(const DocumentState::Tab &tab)
+{
+    return tab.columns.size() > tab.cells.size();
+}
+
 void keepFirst(Error *first, Error error)
 {
     if (first->hasError())
@@ -160,9 +166,25 @@ Error StateDisplay::updateTab(int index, const DocumentState::Tab &from, const D
     const QPointer<PropertyGridWidget> grid = m_tabs->grid(index);
     if (!grid || from == to)
         return Error::NoError;
+    if (hasNamesWithoutCells(from) || hasNamesWithoutCells(to))
+        return replaceTab(index, to);
     Error error = exchangeColumns(*grid, from, to);
     if (grid)
         nameItems(*grid, to);
+    return error.ecatch();
+}
+
+Error StateDisplay::replaceTab(int index, const DocumentState::Tab &to)
+{
+    const bool isCurrent = m_tabs->widget()->currentIndex() == index;
+    m_tabs->remove(index);
+    if (!m_goesOn())
+        return Error::NoError;
+    Error error = m_tabs->insert(index, to.content());
+    if (const PropertyGridWidget *grid = m_goesOn() ? m_tabs->grid(index) : nullptr)
+        WorkflowTabs::collapseAll(*grid);
+    if (isCurrent && m_goesOn())
+        m_tabs->widget()->setCurrentIndex(index);
     return error.ecatch();
 }
 

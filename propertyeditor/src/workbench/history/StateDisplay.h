@@ -33,6 +33,7 @@ public:
 private:
     [[nodiscard]] Error exchangeTabs(const StateChange &change);
     [[nodiscard]] Error updateTab(int index, const DocumentState::Tab &from, const DocumentState::Tab &to);
+    [[nodiscard]] Error replaceTab(int index, const DocumentState::Tab &to);
     [[nodiscard]] Error exchangeColumns(PropertyGridWidget &grid, const DocumentState::Tab &from,
                                         const DocumentState::Tab &to);
     [[nodiscard]] Error updateColumn(PropertyGridWidget &grid, int column, const QString &name,

@@ -54,6 +54,8 @@ public:
     [[nodiscard]] PropertyEditorContent::Tabs tabs() const;
     /// One, or none.
     [[nodiscard]] PropertyEditorContent::Tabs currentTab() const;
+    /// Whether each column of the current tab has its cells; otherwise no file can hold the tab.
+    [[nodiscard]] bool isCurrentEven() const;
 
     [[nodiscard]] int count() const;
     /// Null for a tab without one.
