@@ -4021,6 +4021,10 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
         <source>&quot;%1&quot; was not taken: type %2.</source>
         <translation>„%1“ wurde nicht übernommen: Geben Sie ein: %2.</translation>
     </message>
+    <message>
+        <source>This is no value that can be taken: type %1.</source>
+        <translation>Dieser Wert kann nicht übernommen werden: Geben Sie ein: %1.</translation>
+    </message>
 </context>
 <context>
     <name>orv::PeakFilterDialog</name>
@@ -4453,6 +4457,10 @@ Open it from its file: %2</source>
     <message>
         <source>Updating workflows finished</source>
         <translation>Workflows sind aktualisiert</translation>
+    </message>
+    <message>
+        <source>This application can&apos;t show every column of the tab. As it is, the workflow can&apos;t be saved: undo this, or remove the tab.</source>
+        <translation>Diese Anwendung kann nicht jede Spalte des Tabs zeigen. So kann der Workflow nicht gespeichert werden: Nehmen Sie dies zurück, oder entfernen Sie den Tab.</translation>
     </message>
 </context>
 <context>

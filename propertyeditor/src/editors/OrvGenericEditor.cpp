@@ -7,13 +7,16 @@
 #include <KPropertyEditorItemEvent.h>
 #include <KPropertyEditorView.h>
 #include <KPropertyUtils.h>
+#include <orv/core/PlainTip.h>
 #include <orv/propertyeditor/PropertiesNames.h>
 #include <orv/propertyeditor/PropertyText.h>
 #include <orv/propertyeditor/editors/OrvGenericEditorObjectManager.h>
 #include <orv/propertyeditor/editors/ValueUnitInput.h>
 #include <orv/propertyeditor/editors/ValueUnitValidator.h>
+#include <orv/widgets/Icons.h>
 #include <orv/widgets/ORVStyle.h>
 
+#include <QAction>
 #include <QFocusEvent>
 #include <QSignalBlocker>
 
@@ -46,6 +49,13 @@ public:
     [[nodiscard]] State validate(QString &input, int &position) const override
     {
         return std::max(Intermediate, ValueUnitValidator::validate(input, position));
+    }
+
+    /// Whether no more typing behind it makes the text a value.
+    [[nodiscard]] bool isHopeless(QString text) const
+    {
+        int ignored = 0;
+        return ValueUnitValidator::validate(text, ignored) == Invalid;
     }
 
 private:
@@ -132,6 +142,7 @@ OrvGenericEditor::OrvGenericEditor(PropertySetCreator::Editor editorType, KPrope
     typed->setParent(this);
     setValidator(typed);
     connect(this, &QLineEdit::editingFinished, this, &OrvGenericEditor::commitText);
+    connect(this, &QLineEdit::textChanged, this, &OrvGenericEditor::markRefused);
     connect(d.get(), &OrvGenericEditorPrivate::aboutToEdit, this, &OrvGenericEditor::settleText);
 }
 
@@ -149,12 +160,25 @@ void OrvGenericEditor::setValue(const QVariant &value)
     setText(d->text());
 }
 
-QString OrvGenericEditor::refusal() const
+QString OrvGenericEditor::expectation() const
 {
-    const auto *expected = qobject_cast<const ValueUnitValidator *>(validator());
-    const QStringList units = PropertyText::knownUnits(d->propertyId());
-    return tr("\"%1\" was not taken: type %2.")
-        .arg(text(), expected ? expected->expectation(units) : QString());
+    const auto *typed = static_cast<const ValueUnitValidator *>(validator());
+    return typed->expectation(PropertyText::knownUnits(d->propertyId()));
+}
+
+void OrvGenericEditor::markRefused()
+{
+    const auto *typed = static_cast<const TypedValueValidator *>(validator());
+    const bool isRefused = typed->isHopeless(text()) && text() != d->text();
+    if (!m_refused && !isRefused)
+        return;
+    if (!m_refused)
+        m_refused = addAction(Icons::icon(IconName::Warning), QLineEdit::TrailingPosition);
+    const QString reason =
+        isRefused ? tr("This is no value that can be taken: type %1.").arg(expectation()) : QString();
+    m_refused->setVisible(isRefused);
+    m_refused->setToolTip(PlainTip::of(reason));
+    setAccessibleDescription(reason);
 }
 
 void OrvGenericEditor::focusOutEvent(QFocusEvent *event)
@@ -173,7 +197,7 @@ void OrvGenericEditor::putBackRefused()
     if (hasAcceptableInput() || text() == d->text())
         return;
     if (KPropertyEditorView *view = KPropertyUtils::viewForEditor(this))
-        view->setRemark(this, refusal());
+        view->setRemark(this, tr("\"%1\" was not taken: type %2.").arg(text(), expectation()));
     setText(d->text());
 }
 

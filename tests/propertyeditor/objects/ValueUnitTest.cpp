@@ -256,22 +256,25 @@ void ValueUnitTest::noTypedLetterIsSwallowed_data()
 {
     QTest::addColumn<QLocale>("locale");
     QTest::addColumn<QString>("typed");
+    QTest::addColumn<LeavingWays::Way>("way");
     const QLocale american(QLocale::English, QLocale::UnitedStates);
     const QLocale german(QLocale::German, QLocale::Germany);
-    QTest::newRow("three decimals") << american << text("9.501 Da");
-    QTest::newRow("three decimals in Germany") << german << text("9,501 Da");
-    QTest::newRow("no group begins with zero") << american << text("0,435 Da");
-    QTest::newRow("four digits in a group") << american << text("9,5000 Da");
-    QTest::newRow("a blank between groups") << american << text("1 000 Da");
-    QTest::newRow("another unit") << american << text("9.5 kDa");
-    QTest::newRow("a letter in the number") << american << text("1x0 Da");
-    QTest::newRow("below the limit") << american << text("-5 Da");
+    QTest::newRow("three decimals") << american << text("9.501 Da") << LeavingWays::Way::Tab;
+    QTest::newRow("three decimals in Germany") << german << text("9,501 Da") << LeavingWays::Way::Tab;
+    QTest::newRow("no group begins with zero") << american << text("0,435 Da") << LeavingWays::Way::Tab;
+    QTest::newRow("left by Enter") << american << text("12.345 Da") << LeavingWays::Way::Enter;
+    QTest::newRow("four digits in a group") << american << text("9,5000 Da") << LeavingWays::Way::Tab;
+    QTest::newRow("a blank between groups") << american << text("1 000 Da") << LeavingWays::Way::Tab;
+    QTest::newRow("another unit") << american << text("9.5 kDa") << LeavingWays::Way::Tab;
+    QTest::newRow("a letter in the number") << american << text("1x0 Da") << LeavingWays::Way::Tab;
+    QTest::newRow("below the limit") << american << text("-5 Da") << LeavingWays::Way::Tab;
 }
 
 void ValueUnitTest::noTypedLetterIsSwallowed()
 {
     QFETCH(QLocale, locale);
     QFETCH(QString, typed);
+    QFETCH(LeavingWays::Way, way);
     QLocale::setDefault(locale);
     Row row(kSetting, valueWithUnit(10.1234, "ppm"));
     const QByteArray before = row.bytes();
@@ -279,7 +282,17 @@ void ValueUnitTest::noTypedLetterIsSwallowed()
     QVERIFY(line);
     LeavingWays::type(typed);
     QCOMPARE(line->text(), typed);
-    QVERIFY(LeavingWays::leave(row.tree(), LeavingWays::Way::Tab));
+    const QAction *const sign = line->actions().value(0);
+    QVERIFY(sign && sign->isVisible());
+    QVERIFY2(
+        sign->toolTip().contains(text("This is no value that can be taken: type a number with at most two")),
+        qPrintable(sign->toolTip()));
+    QCOMPARE(line->accessibleDescription().isEmpty(), false);
+    LeavingWays::type(text("12"));
+    QVERIFY(!sign->isVisible());
+    QCOMPARE(line->accessibleDescription(), QString());
+    LeavingWays::type(typed);
+    QVERIFY(LeavingWays::leave(row.tree(), way));
     QCOMPARE(row.bytes(), before);
     const QString remark = row.tree().remark(row.property());
     QVERIFY2(

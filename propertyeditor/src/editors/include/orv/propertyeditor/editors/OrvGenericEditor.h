@@ -9,6 +9,8 @@
 
 #include <memory>
 
+QT_FORWARD_DECLARE_CLASS(QAction)
+
 namespace orv {
 
 class OrvGenericEditorPrivate;
@@ -39,9 +41,13 @@ private:
     /// Takes what was typed, as leaving the line does.
     void settleText();
     void putBackRefused();
-    [[nodiscard]] QString refusal() const;
+    /// While a text is typed that more typing can't make a value, a sign in the line says so.
+    void markRefused();
+    /// For lines whose text can be typed.
+    [[nodiscard]] QString expectation() const;
 
     const std::unique_ptr<OrvGenericEditorPrivate> d;
+    QAction *m_refused = nullptr; ///< the line's, from the first such text on
 };
 
 /// The same in several lines, by a dialog alone.
