@@ -660,6 +660,13 @@
     </message>
 </context>
 <context>
+    <name>KarvonPresetCreator</name>
+    <message>
+        <source>The workflow has no sample &quot;%1&quot;.</source>
+        <translation>Der Workflow hat keine Probe „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>LabelScriptsGenericObject</name>
     <message>
         <source>Label Script of Deconvolved Masses</source>
@@ -791,6 +798,13 @@
     <message>
         <source>The table of intact peaks has columns of these names itself: %1. Call them otherwise in the file, and import it again.</source>
         <translation>Die Tabelle der intakten Peaks hat selbst Spalten mit diesen Namen: %1. Benennen Sie sie in der Datei anders, und importieren Sie sie noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewPreset</name>
+    <message>
+        <source>Cannot open file: %1</source>
+        <translation>Die Datei lässt sich nicht öffnen: %1</translation>
     </message>
 </context>
 <context>
@@ -1078,6 +1092,45 @@ Möchten Sie sie ersetzen?</translation>
     <message>
         <source>Cells without a column are kept but not shown: %1.</source>
         <translation>Zellen ohne Spalte bleiben erhalten, werden aber nicht gezeigt: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>RunFolder</name>
+    <message>
+        <source>No run was written. Bring the file back or choose another one.</source>
+        <translation>Es wurde kein Lauf geschrieben. Stellen Sie die Datei wieder her, oder wählen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>The file of the sample &quot;%1&quot; can&apos;t be had any more.</source>
+        <translation>Die Datei der Probe „%1“ ist nicht mehr zu bekommen.</translation>
+    </message>
+    <message>
+        <source>Two samples or columns would share the parameter file &quot;%1&quot;. Give them names that differ.</source>
+        <translation>Zwei Proben oder Spalten hätten dieselbe Parameterdatei „%1“. Geben Sie ihnen verschiedene Namen.</translation>
+    </message>
+    <message>
+        <source>Could not write the file: %1</source>
+        <translation>Die Datei konnte nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>The folder can&apos;t be made: %1</source>
+        <translation>Der Ordner lässt sich nicht anlegen: %1</translation>
+    </message>
+    <message>
+        <source>The run that was there is kept in %1</source>
+        <translation>Der Lauf, der dort war, liegt nun in %1</translation>
+    </message>
+    <message>
+        <source>The folder exists already: %1</source>
+        <translation>Der Ordner existiert bereits: %1</translation>
+    </message>
+    <message>
+        <source>Choose another name, or remove it.</source>
+        <translation>Wählen Sie einen anderen Namen, oder entfernen Sie ihn.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written in the folder: %1</source>
+        <translation>In den Ordner lässt sich nichts schreiben: %1</translation>
     </message>
 </context>
 <context>

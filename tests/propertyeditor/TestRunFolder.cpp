@@ -7,8 +7,16 @@
 #include <orv/propertyeditor/engine/RunFolder.h>
 
 #include <QDir>
+#include <QJsonArray>
 #include <QSysInfo>
 #include <QTemporaryDir>
+
+#include <atomic>
+#include <thread>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 using namespace orv;
 using namespace Qt::StringLiterals;
@@ -30,6 +38,75 @@ QStringList allIn(const QString &folder)
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
 }
 
+/// The example with every sample at \a spectra.
+QJsonObject withSpectra(const QString &name, const QString &spectra)
+{
+    QJsonObject document = absolute(name);
+    QJsonArray tabs = document[u"tabs"_s].toArray();
+    QJsonObject tab = tabs.at(0).toObject();
+    QJsonArray cells = tab[u"cells"_s].toArray();
+    QJsonObject cell = cells.at(0).toObject();
+    QJsonArray samples;
+    for (int i = 1; i <= 2; ++i) {
+        samples.append(
+            QJsonObject{{u"SamplesId"_s, i}, {u"SampleName"_s, u"S%1"_s.arg(i)}, {u"SamplePath"_s, spectra}});
+    }
+    cell[u"properties"_s] = QJsonArray{
+        QJsonObject{{u"name"_s, u"SamplesTable"_s}, {u"value"_s, QJsonObject{{u"Samples"_s, samples}}}}};
+    cells[0] = cell;
+    tab[u"cells"_s] = cells;
+    tabs[0] = tab;
+    document[u"tabs"_s] = tabs;
+    return document;
+}
+
+void makeFileIn(const QString &folder)
+{
+    QFile file(folder + u"/foreign.txt"_s);
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("The test's file can't be written");
+}
+
+/// Where the files of a run are while they are written.
+QString stagingOf(const QString &place)
+{
+    const QFileInfo info(place);
+    const QStringList names =
+        QDir(info.path()).entryList({u".%1-??????"_s.arg(info.fileName())}, QDir::Dirs | QDir::Hidden);
+    return names.size() == 1 ? info.dir().filePath(names.first()) : QString();
+}
+
+#ifdef Q_OS_UNIX
+/// Takes a place as soon as nothing stands there, as another program may.
+class PlaceTaker
+{
+public:
+    explicit PlaceTaker(const QString &place)
+        : m_thread([this, path = QFile::encodeName(place)] {
+            while (!m_isOver && !hasTaken)
+                hasTaken = ::mkdir(path.constData(), 0755) == 0;
+        })
+    {}
+    ~PlaceTaker() { end(); }
+    Q_DISABLE_COPY_MOVE(PlaceTaker)
+
+    void end()
+    {
+        m_isOver = true;
+        if (m_thread.joinable())
+            m_thread.join();
+    }
+
+    std::atomic_bool hasTaken = false;
+
+private:
+    std::atomic_bool m_isOver = false;
+    std::thread m_thread;
+};
+#endif
+
+constexpr QLatin1String kSearched("workflows/antibody_peptide_map.wflw");
+
 } // namespace
 
 class TestRunFolder : public OrvTest
@@ -46,6 +123,12 @@ private Q_SLOTS:
     void namesThatClashAreRefused();
     void unwritablePlacesAreTold();
     void killedRunsAreSwept();
+    void samplesThatVanishAreTold_data();
+    void samplesThatVanishAreTold();
+    void whatTakesThePlaceMeanwhileStays_data();
+    void whatTakesThePlaceMeanwhileStays();
+    void earlierRunsComeBackWhereTheNewOneFails();
+    void earlierRunsAreKeptWhereTheirPlaceIsTaken();
 };
 
 void TestRunFolder::runsHaveTheirFiles()
@@ -180,6 +263,119 @@ void TestRunFolder::killedRunsAreSwept()
         RunFolder::write(absolute(u"workflows/antibody_peptide_map.wflw"_s), folder.filePath(u"a.run"_s)));
     QCOMPARE(allIn(folder.path()),
              (QStringList{u".a.run-Zz00zz"_s, u".a.run-notes"_s, u".b.run-Xy12ab"_s, u"a.run"_s}));
+}
+
+void TestRunFolder::samplesThatVanishAreTold_data()
+{
+    QTest::addColumn<QString>("example");
+    QTest::newRow("search") << QString(kSearched);
+    QTest::newRow("preview") << u"workflows/server_preview.wflw"_s;
+}
+
+void TestRunFolder::samplesThatVanishAreTold()
+{
+    QFETCH(const QString, example);
+    const QTemporaryDir folder;
+    const QTemporaryDir data;
+    const QString spectra = data.filePath(u"a.mzML"_s);
+    makeFileIn(data.path());
+    QVERIFY(QFile::rename(data.filePath(u"foreign.txt"_s), spectra));
+    const QJsonObject document = withSpectra(example, spectra);
+    const QString place = folder.filePath(u"a.run"_s);
+    const Result<QString> whole = RunFolder::write(document, place);
+    QVERIFY2(!whole.hasError(), qPrintable(whole.error().errorMessage()));
+    // Gone behind the first of the two samples.
+    const Result<QString> run = RunFolder::write(
+        document, place,
+        [&spectra](int, int, const QString &name) {
+            return !name.startsWith(u"S2."_s) || !QFile::exists(spectra) || QFile::remove(spectra);
+        },
+        RunFolder::Existing::Replaced);
+    QVERIFY(run.hasError());
+    QCOMPARE(run.error().code(), ErrorCode::CannotOpenFile);
+    QCOMPARE(run.error().errorMessage(), u"The file of the sample \"S2\" can't be had any more."_s);
+    QVERIFY2(run.error().details().join(u' ').contains(spectra),
+             qPrintable(run.error().details().join(u' ')));
+    QCOMPARE(allIn(folder.path()), QStringList{u"a.run"_s});
+    const QStringList files = QDir(place).entryList({u"S1.*"_s, u"S2.*"_s}, QDir::Files);
+    QVERIFY(files.size() >= 2);
+    for (const QString &name : files)
+        QVERIFY2(TestData::read(place + u'/' + name).contains(spectra.toUtf8()), qPrintable(name));
+}
+
+void TestRunFolder::whatTakesThePlaceMeanwhileStays_data()
+{
+    QTest::addColumn<RunFolder::Existing>("existing");
+    QTest::newRow("refused") << RunFolder::Existing::Refused;
+    QTest::newRow("replaced") << RunFolder::Existing::Replaced;
+}
+
+void TestRunFolder::whatTakesThePlaceMeanwhileStays()
+{
+    QFETCH(const RunFolder::Existing, existing);
+    const QTemporaryDir folder;
+    const QString place = folder.filePath(u"a.run"_s);
+    const auto take = [&place](int, int, const QString &) {
+        if (!QFile::exists(place) && QDir().mkdir(place))
+            makeFileIn(place);
+        return true;
+    };
+    const Result<QString> run = RunFolder::write(absolute(kSearched), place, take, existing);
+    QCOMPARE(run.error().code(), ErrorCode::CannotOpenFile);
+    QVERIFY(run.error().errorMessage().contains(place));
+    QCOMPARE(allIn(place), QStringList{u"foreign.txt"_s});
+    QCOMPARE(allIn(folder.path()), QStringList{u"a.run"_s});
+}
+
+void TestRunFolder::earlierRunsComeBackWhereTheNewOneFails()
+{
+    const QTemporaryDir folder;
+    const QString place = folder.filePath(u"a.run"_s);
+    const QJsonObject document = absolute(kSearched);
+    QVERIFY(RunFolder::write(document, place));
+    makeFileIn(place);
+    const auto spoil = [&place](int done, int count, const QString &) {
+        return done < count || QDir(stagingOf(place) + u"/run"_s).removeRecursively();
+    };
+    const Result<QString> run = RunFolder::write(document, place, spoil, RunFolder::Existing::Replaced);
+    QCOMPARE(run.error().code(), ErrorCode::CannotOpenFile);
+    QVERIFY(QFile::exists(place + u"/foreign.txt"_s));
+    QCOMPARE(allIn(folder.path()), QStringList{u"a.run"_s});
+}
+
+void TestRunFolder::earlierRunsAreKeptWhereTheirPlaceIsTaken()
+{
+#ifndef Q_OS_UNIX
+    QSKIP("The place can't be taken here while it is renamed");
+#else
+    const QJsonObject document = absolute(kSearched);
+    for (int attempt = 0; attempt < 500; ++attempt) {
+        const QTemporaryDir folder;
+        const QString place = folder.filePath(u"a.run"_s);
+        QVERIFY(RunFolder::write(document, place));
+        makeFileIn(place);
+        std::unique_ptr<PlaceTaker> taker;
+        const auto race = [&](int done, int count, const QString &) {
+            if (done == count)
+                taker = std::make_unique<PlaceTaker>(place);
+            return true;
+        };
+        const Result<QString> run = RunFolder::write(document, place, race, RunFolder::Existing::Replaced);
+        taker->end();
+        if (!taker->hasTaken)
+            continue; // too late: the new run was there
+        QCOMPARE(run.error().code(), ErrorCode::CannotOpenFile);
+        const QString kept = stagingOf(place) + u"/earlier"_s;
+        QVERIFY(QFile::exists(kept + u"/foreign.txt"_s));
+        QVERIFY2(run.error().details().join(u' ').contains(kept),
+                 qPrintable(run.error().details().join(u' ')));
+        // The next run to that place doesn't sweep it.
+        QVERIFY(RunFolder::write(document, place).hasError());
+        QVERIFY(QFile::exists(kept + u"/foreign.txt"_s));
+        return;
+    }
+    QFAIL("Nobody was fast enough");
+#endif
 }
 
 ORV_REGISTER_TEST(TestRunFolder)

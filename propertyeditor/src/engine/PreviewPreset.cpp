@@ -19,11 +19,6 @@ using PresetProperties = PreviewPreset::MirelProperties;
 
 namespace {
 
-struct PreviewPresetTr
-{
-    Q_DECLARE_TR_FUNCTIONS(PreviewPreset)
-};
-
 /// Which field of a record it is, and so of which type.
 template<typename Record>
 using Field = std::variant<QString Record::*, bool Record::*, qint32 Record::*>;
@@ -176,7 +171,8 @@ Result<PresetContent> PresetContent::fromPreviewPresetFile(const QString &path)
     const Result<QByteArray> bytes = FileUtils::readFile(path, kMaximumSize);
     if (!bytes.hasError())
         return fromFileContent(*bytes);
-    Error error(ErrorCode::CannotOpenFile, PreviewPresetTr::tr("Cannot open file: %1").arg(path));
+    Error error(ErrorCode::CannotOpenFile,
+                QCoreApplication::translate("PreviewPreset", "Cannot open file: %1").arg(path));
     if (bytes.error().code() != ErrorCode::CannotOpenFile)
         error.addDetail(bytes.error().errorMessage());
     for (const QString &detail : bytes.error().details())

@@ -40,9 +40,37 @@ constexpr QLatin1String kEarlierName("earlier");
 struct RunFile
 {
     QString name;
-    std::function<QByteArray()> make;
+    std::function<Result<QByteArray>()> make;
     bool isJob = false;
 };
+
+/// What a person does about a sample or database that isn't there.
+Error explained(Error &error, const QString &what)
+{
+    return Error(error.ecatch().code(), what)
+        .addDetail(error.errorMessage())
+        .addDetail(RunFolderTr::tr("No run was written. Bring the file back or choose another one."));
+}
+
+using Creator = std::shared_ptr<const KarvonPresetCreator>;
+
+/// The check has seen the file, but it may be gone since; engines would search nothing.
+Result<QString> spectraOf(const Creator &creator, const QString &sample)
+{
+    Result<QString> spectra = creator->spectraFileOf(sample);
+    if (!spectra.hasError())
+        return spectra;
+    return explained(spectra.ecatch(),
+                     RunFolderTr::tr("The file of the sample \"%1\" can't be had any more.").arg(sample));
+}
+
+Result<QByteArray> searchOf(const Creator &creator, const QString &sample, const QString &database)
+{
+    Result<QString> spectra = spectraOf(creator, sample);
+    if (spectra.hasError())
+        return spectra.ecatch();
+    return creator->presetForSpectra(*spectra, database);
+}
 
 class RunPlan
 {
@@ -108,16 +136,18 @@ private:
             const QString base = FileNameUtils::nameFromText(name + u'.' + column);
             const QString database = m_database;
             if (isSearch) {
-                m_files.append(
-                    {base + QLatin1String(".xenoset"),
-                     [creator, name, database] { return creator->presetForSample(name, database); }, true});
+                m_files.append({base + QLatin1String(".xenoset"),
+                                [creator, name, database] { return searchOf(creator, name, database); },
+                                true});
                 continue;
             }
             const QString results = QDir(m_folder).filePath(base);
             m_files.append({base + QLatin1String(".prv"),
-                            [creator, name, database, results, properties] {
-                                const QString spectra = creator->spectraFileOf(name).valueOr(QString());
-                                return PreviewPreset::createPresetContentFromWorkflow(spectra, database,
+                            [creator, name, database, results, properties]() -> Result<QByteArray> {
+                                Result<QString> spectra = spectraOf(creator, name);
+                                if (spectra.hasError())
+                                    return spectra.ecatch();
+                                return PreviewPreset::createPresetContentFromWorkflow(*spectra, database,
                                                                                       results, properties)
                                     .toUtf8();
                             },
@@ -158,15 +188,15 @@ Error writeStatus(const QString &folder, const QList<RunFile> &files)
 constexpr QLatin1String kUniquePart("XXXXXX");
 
 /// What the folders begin with in which runs to one place are made.
-QString stagingPrefix(const QFileInfo &place)
+QString stagingPrefix(const QString &place)
 {
-    return QStringLiteral(".%1-").arg(place.fileName());
+    return QStringLiteral(".%1-").arg(QFileInfo(place).fileName());
 }
 
 /// What was killed holds its lock no more. Where it was about to replace a run, that one comes back.
-void sweep(const QFileInfo &place)
+void sweep(const QString &place)
 {
-    const QDir parent = place.dir();
+    const QDir parent = QFileInfo(place).dir();
     const QString prefix = stagingPrefix(place);
     const QFileInfoList folders =
         parent.entryInfoList(QDir::Dirs | QDir::Hidden | QDir::NoSymLinks | QDir::NoDotAndDotDot);
@@ -180,8 +210,8 @@ void sweep(const QFileInfo &place)
         lock.setStaleLockTime(0);
         if (lock.tryLock(0)) {
             const QString earlier = folder.filePath() + u'/' + kEarlierName;
-            const bool isStranded = QFileInfo(earlier).isDir() && !QFileInfo::exists(place.filePath());
-            const bool isSafe = !isStranded || QDir().rename(earlier, place.filePath());
+            const bool isStranded = QFileInfo(earlier).isDir() && !QFileInfo::exists(place);
+            const bool isSafe = !isStranded || QDir().rename(earlier, place);
             lock.unlock();
             if (isSafe)
                 QDir(folder.filePath()).removeRecursively();
@@ -190,25 +220,26 @@ void sweep(const QFileInfo &place)
 }
 
 /// Whether what stands at \a place is a run, which another one may replace.
-bool isRun(const QFileInfo &place)
+bool isRun(const QString &place)
 {
-    const QDir folder(place.filePath());
-    return place.isDir() && !place.isSymLink() && folder.exists(RunFolder::kWorkflowName) &&
-           QFileInfo::exists(ProjectCreationStatusFile::statusFilePath(folder.path()));
+    const QFileInfo info(place);
+    return info.isDir() && !info.isSymLink() && QDir(place).exists(RunFolder::kWorkflowName) &&
+           QFileInfo::exists(ProjectCreationStatusFile::statusFilePath(place));
 }
 
-/// Brings \a run to \a place; what stood there goes into \a staging, and comes back where that fails. Where
-/// it can't, because somebody has taken the place meanwhile, it stays in \a staging.
-Error bringInPlace(const QString &run, const QFileInfo &place, QTemporaryDir *staging)
+/// Brings \a run to \a place; an earlier run there goes into \a staging, and comes back where that fails.
+/// Where it can't, because somebody has taken the place meanwhile, it stays in \a staging. Only a run makes
+/// room: what else took the place while this one was written isn't ours.
+Error bringInPlace(const QString &run, const QString &place, RunFolder::Existing existing,
+                   QTemporaryDir *staging)
 {
     const QString earlier = staging->filePath(kEarlierName);
-    const bool isReplaced = place.exists();
-    const bool hasRoom = !isReplaced || QDir().rename(place.filePath(), earlier);
-    if (hasRoom && QDir().rename(run, place.filePath()))
+    const bool isReplaced = existing == RunFolder::Existing::Replaced && isRun(place);
+    const bool hasRoom = !isReplaced || QDir().rename(place, earlier);
+    if (hasRoom && QDir().rename(run, place))
         return Error::NoError;
-    Error error(ErrorCode::CannotOpenFile,
-                RunFolderTr::tr("The folder can't be made: %1").arg(place.filePath()));
-    if (isReplaced && hasRoom && !QDir().rename(earlier, place.filePath())) {
+    Error error(ErrorCode::CannotOpenFile, RunFolderTr::tr("The folder can't be made: %1").arg(place));
+    if (isReplaced && hasRoom && !QDir().rename(earlier, place)) {
         staging->setAutoRemove(false);
         error.addDetail(RunFolderTr::tr("The run that was there is kept in %1").arg(earlier));
     }
@@ -222,7 +253,10 @@ Result<bool> writeFiles(const QList<RunFile> &files, const QString &folder,
     for (qsizetype i = 0; i < files.size(); ++i) {
         if (progress && !progress(int(i), int(files.size()), files.at(i).name))
             return false;
-        ORV_RETURN_IF_ERROR(writeFile(QDir(folder).filePath(files.at(i).name), files.at(i).make()));
+        Result<QByteArray> bytes = files.at(i).make();
+        if (bytes.hasError())
+            return bytes.ecatch();
+        ORV_RETURN_IF_ERROR(writeFile(QDir(folder).filePath(files.at(i).name), *bytes));
     }
     ORV_RETURN_IF_ERROR(writeStatus(folder, files));
     return !progress || progress(int(files.size()), int(files.size()), {});
@@ -233,27 +267,27 @@ Result<bool> writeFiles(const QList<RunFile> &files, const QString &folder,
 Result<QString> RunFolder::write(const QJsonObject &document, const QString &folder, const Progress &progress,
                                  Existing existing)
 {
-    const QFileInfo place(QDir::cleanPath(QFileInfo(folder).absoluteFilePath()));
+    const QString place = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
+    const QDir parent = QFileInfo(place).dir();
     sweep(place);
     const bool isReplaced = existing == Existing::Replaced && isRun(place);
-    if (!isReplaced && (place.exists() || place.isSymLink())) {
-        return Error(ErrorCode::InvalidContent,
-                     RunFolderTr::tr("The folder exists already: %1").arg(place.filePath()))
+    if (!isReplaced && (QFileInfo::exists(place) || QFileInfo(place).isSymLink())) {
+        return Error(ErrorCode::InvalidContent, RunFolderTr::tr("The folder exists already: %1").arg(place))
             .addDetail(RunFolderTr::tr("Choose another name, or remove it."));
     }
     Content content;
     ORV_RETURN_IF_ERROR(content.assignFromJson(document));
     RunPlan plan(content, document);
-    Result<QList<RunFile>> files = plan.files(place.filePath());
+    Result<QList<RunFile>> files = plan.files(place);
     if (files.hasError())
         return files.ecatch();
-    QDir().mkpath(place.path());
-    QTemporaryDir staging(place.dir().filePath(stagingPrefix(place) + kUniquePart));
+    QDir().mkpath(parent.path());
+    QTemporaryDir staging(parent.filePath(stagingPrefix(place) + kUniquePart));
     QLockFile lock(staging.filePath(kLockName));
     const QString run = staging.filePath(QStringLiteral("run"));
     if (!staging.isValid() || !lock.tryLock(0) || !QDir().mkdir(run)) {
         return Error(ErrorCode::CannotOpenFile,
-                     RunFolderTr::tr("Nothing can be written in the folder: %1").arg(place.path()))
+                     RunFolderTr::tr("Nothing can be written in the folder: %1").arg(parent.path()))
             .addDetail(staging.errorString());
     }
     Result<bool> isComplete = writeFiles(*files, run, progress);
@@ -261,8 +295,8 @@ Result<QString> RunFolder::write(const QJsonObject &document, const QString &fol
         return isComplete.ecatch();
     if (!*isComplete)
         return QString();
-    ORV_RETURN_IF_ERROR(bringInPlace(run, place, &staging));
-    return place.filePath();
+    ORV_RETURN_IF_ERROR(bringInPlace(run, place, existing, &staging));
+    return place;
 }
 
 } // namespace orv

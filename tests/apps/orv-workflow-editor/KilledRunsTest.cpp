@@ -19,7 +19,7 @@ namespace {
 constexpr int kSamples = 10'000;
 
 /// The example of a peptide map with more samples than a run is made of in an instant.
-QByteArray largeDocument()
+QByteArray largeDocument(const QString &spectra)
 {
     QJsonObject document =
         QJsonDocument::fromJson(
@@ -27,9 +27,8 @@ QByteArray largeDocument()
             .object();
     QJsonArray samples;
     for (int i = 0; i < kSamples; ++i) {
-        samples.append(QJsonObject{{u"SamplesId"_s, i + 1},
-                                   {u"SampleName"_s, u"S%1"_s.arg(i)},
-                                   {u"SamplePath"_s, u"/data/%1.mzML"_s.arg(i)}});
+        samples.append(QJsonObject{
+            {u"SamplesId"_s, i + 1}, {u"SampleName"_s, u"S%1"_s.arg(i)}, {u"SamplePath"_s, spectra}});
     }
     QJsonArray tabs = document.value(u"tabs"_s).toArray();
     QJsonObject tab = tabs.at(0).toObject();
@@ -78,7 +77,9 @@ void KilledRunsTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QFile file(m_folder->filePath(u"map.wflw"_s));
-    const QByteArray document = largeDocument();
+    const QString spectra = m_folder->filePath(u"all.mzML"_s);
+    QVERIFY(QFile(spectra).open(QIODevice::WriteOnly));
+    const QByteArray document = largeDocument(spectra);
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(document) == document.size());
 }
 

@@ -38,8 +38,9 @@ public:
     /// Writes the run of a document with absolute paths to \a folder, and gives its absolute path; an empty
     /// text when \a progress stopped it. InvalidContent for what stands there, unless it is a run that may be
     /// replaced, for two parameter files of one name, and as Content::assignFromJson; CannotOpenFile for what
-    /// can't be written. Sweeps what a run to the same place left when it was killed, and brings the run
-    /// back that it was about to replace. Any thread; blocks while sample files are fetched.
+    /// can't be written; as KarvonPresetCreator::spectraFileOf for a sample whose file can't be had. Sweeps
+    /// what a run to the same place left when it was killed, and brings the run back that it was about to
+    /// replace. Any thread; blocks while sample files are fetched.
     [[nodiscard]] static Result<QString> write(const QJsonObject &document, const QString &folder,
                                                const Progress &progress = {},
                                                Existing existing = Existing::Refused);
