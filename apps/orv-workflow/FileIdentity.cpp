@@ -2,6 +2,8 @@
 
 #include "Inputs.h"
 
+#include <orv/core/FileLinks.h>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -10,26 +12,13 @@
 
 namespace orv::cli {
 
-namespace {
-
-/// Where a write to \a path ends: what a chain of links that dangles points at.
-QString endOfLinks(QString path)
-{
-    constexpr int kMostLinks = 40;
-    for (int i = 0; i < kMostLinks && QFileInfo(path).isSymLink(); ++i)
-        path = QFileInfo(path).symLinkTarget();
-    return path;
-}
-
-} // namespace
-
 QString fileIdentity(const QString &path)
 {
     struct stat status = {};
     if (::stat(QFile::encodeName(path).constData(), &status) == 0) {
         return QStringLiteral("%1:%2").arg(quint64(status.st_dev)).arg(quint64(status.st_ino));
     }
-    const QFileInfo info(QDir::cleanPath(QFileInfo(endOfLinks(path)).absoluteFilePath()));
+    const QFileInfo info(QDir::cleanPath(QFileInfo(FileLinks::end(path)).absoluteFilePath()));
     const QString folder = info.path();
     return folder == info.filePath() ? folder : fileIdentity(folder) + QLatin1Char('/') + info.fileName();
 }

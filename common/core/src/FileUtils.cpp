@@ -1,5 +1,7 @@
 #include "orv/core/FileUtils.h"
 
+#include "orv/core/FileLinks.h"
+
 #include <orv/core/Logging.h>
 
 #include <QCoreApplication>
@@ -131,8 +133,7 @@ constexpr qsizetype kSaveFileSuffix = 7;
 
 bool fitsQSaveFile(const QString &path)
 {
-    const QFileInfo named(path);
-    const QFileInfo target(named.isSymLink() ? named.symLinkTarget() : path);
+    const QFileInfo target(FileLinks::end(path));
     return QFile::encodeName(target.fileName()).size() + kSaveFileSuffix <= kLongestName;
 }
 
@@ -159,9 +160,11 @@ enum class Durability
 QFileDevice::FileError writeAside(const QString &path, const QByteArray &bytes, Durability durability,
                                   QString *errorText)
 {
-    const QFileInfo named(path);
-    const QString target = named.isSymLink() ? named.symLinkTarget() : path;
+    const QString target = FileLinks::end(path);
     const QFileInfo old(target);
+    // Nobody can name the file behind a circle, and nobody wants a link of it to become one.
+    if (old.isSymLink())
+        return failed(QFileDevice::OpenError, qt_error_string(ELOOP), errorText);
     const bool isReplaced = old.exists();
     if (isReplaced && !old.isWritable())
         return failed(QFileDevice::OpenError, qt_error_string(EACCES), errorText);

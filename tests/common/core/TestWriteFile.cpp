@@ -25,6 +25,9 @@ private Q_SLOTS:
     void anOldFileIsReplacedWhole();
     void permissionsOfTheOldFileStay();
     void aLinkStaysALink();
+    void chainsOfLinksStay_data();
+    void chainsOfLinksStay();
+    void linksInACircleStay();
     void unwritableTargetsAreRefused_data();
     void unwritableTargetsAreRefused();
     void anEmptyNameIsRefused();
@@ -114,6 +117,39 @@ void TestWriteFile::aLinkStaysALink()
     QCOMPARE(write(at(u"link.wflw"_s), "new"), QFileDevice::NoError);
     QVERIFY(QFileInfo(at(u"link.wflw"_s)).isSymLink());
     QCOMPARE(bytesOf(at(u"folder/target.wflw"_s)), "new"_ba);
+}
+
+void TestWriteFile::chainsOfLinksStay_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<bool>("isThere");
+    QTest::newRow("usual name") << u"target.wflw"_s << true;
+    QTest::newRow("long name") << QString(250, u'n') << true;
+    QTest::newRow("dangling, long name") << QString(250, u'n') << false;
+}
+
+void TestWriteFile::chainsOfLinksStay()
+{
+    QFETCH(const QString, target);
+    QFETCH(const bool, isThere);
+    QVERIFY(QDir(m_dir->path()).mkdir(u"folder"_s));
+    if (isThere)
+        makeFile(at(u"folder/"_s + target), "old");
+    QVERIFY(QFile::link(at(u"folder/"_s + target), at(u"folder/middle"_s)));
+    QVERIFY(QFile::link(u"folder/middle"_s, at(u"first"_s)));
+    QCOMPARE(write(at(u"first"_s), "new"), QFileDevice::NoError);
+    QVERIFY(QFileInfo(at(u"first"_s)).isSymLink());
+    QVERIFY(QFileInfo(at(u"folder/middle"_s)).isSymLink());
+    QVERIFY(!QFileInfo(at(u"folder/"_s + target)).isSymLink());
+    QCOMPARE(bytesOf(at(u"folder/"_s + target)), "new"_ba);
+}
+
+void TestWriteFile::linksInACircleStay()
+{
+    const QString name(250, u'n');
+    QVERIFY(QFile::link(at(name), at(name)));
+    QVERIFY(write(at(name), "new") != QFileDevice::NoError);
+    QVERIFY(QFileInfo(at(name)).isSymLink());
 }
 
 void TestWriteFile::unwritableTargetsAreRefused_data()

@@ -1,37 +1,18 @@
 #include "SampleSearch.h"
 
-#include <QFuture>
-#include <QPointer>
-#include <QPromise>
+#include <orv/core/DetachedWork.h>
 
-#include <memory>
-#include <thread>
+#include <QPointer>
+
 #include <utility>
 
 namespace orv {
 
-namespace {
-
-/// Nobody waits for the thread, as a folder on a network drive may never be read.
-QFuture<SampleFileFinder::Found> findInBackground(const QStringList &paths)
-{
-    auto promise = std::make_shared<QPromise<SampleFileFinder::Found>>();
-    QFuture<SampleFileFinder::Found> future = promise->future();
-    promise->start();
-    std::thread([promise, paths] {
-        promise->addResult(SampleFileFinder::find(paths));
-        promise->finish();
-    }).detach();
-    return future;
-}
-
-} // namespace
-
 SampleSearch::SampleSearch(QObject *parent)
     : QObject(parent)
-    , m_search(new QFutureWatcher<SampleFileFinder::Found>(this))
+    , m_search(new QFutureWatcher<Result<SampleFileFinder::Found>>(this))
 {
-    connect(m_search, &QFutureWatcher<SampleFileFinder::Found>::finished, this, &SampleSearch::tell);
+    connect(m_search, &QFutureWatcher<Result<SampleFileFinder::Found>>::finished, this, &SampleSearch::tell);
 }
 
 SampleSearch::~SampleSearch()
@@ -48,8 +29,11 @@ void SampleSearch::add(const QStringList &paths)
 void SampleSearch::tell()
 {
     const QPointer<SampleSearch> self(this);
-    const SampleFileFinder::Found result = m_search->result();
-    Q_EMIT found(result);
+    Result<SampleFileFinder::Found> result = m_search->result();
+    if (result.hasError())
+        Q_EMIT failed(result.ecatch());
+    else
+        Q_EMIT found(*result);
     if (self)
         next();
 }
@@ -58,7 +42,9 @@ void SampleSearch::next()
 {
     if (m_waiting.isEmpty() || m_search->isRunning())
         return;
-    m_search->setFuture(findInBackground(std::exchange(m_waiting, {})));
+    // Nobody waits for the thread, as a folder on a network drive may never be read.
+    m_search->setFuture(DetachedWork::run<SampleFileFinder::Found>(
+        [paths = std::exchange(m_waiting, {})] { return SampleFileFinder::find(paths); }));
     Q_EMIT started();
 }
 

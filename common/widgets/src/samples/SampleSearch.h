@@ -1,5 +1,6 @@
 #pragma once
 
+#include <orv/core/Result.h>
 #include <orv/core_ms/SampleFileFinder.h>
 
 #include <QFutureWatcher>
@@ -23,12 +24,13 @@ public:
 Q_SIGNALS:
     void started();
     void found(const orv::SampleFileFinder::Found &found);
+    void failed(const orv::Error &error);
 
 private:
     void tell();
     void next();
 
-    QFutureWatcher<SampleFileFinder::Found> *const m_search;
+    QFutureWatcher<Result<SampleFileFinder::Found>> *const m_search;
     QStringList m_waiting;
 };
 

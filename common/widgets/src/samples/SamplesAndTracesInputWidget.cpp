@@ -97,6 +97,10 @@ SamplesAndTracesInputWidget::SamplesAndTracesInputWidget(SampleFileChecker *chec
     });
     connect(d->search, &SampleSearch::started, this, [this] { say(tr("Looking for samples...")); });
     connect(d->search, &SampleSearch::found, this, &SamplesAndTracesInputWidget::addFound);
+    connect(d->search, &SampleSearch::failed, this, [this](const Error &error) {
+        const QStringList texts = error.errorMessages() + error.details();
+        d->notice->setText(tr("No samples were added. %1").arg(texts.join(u' ')), NoticeBar::Kind::Error);
+    });
 }
 
 SamplesAndTracesInputWidget::~SamplesAndTracesInputWidget()

@@ -1,8 +1,9 @@
 #include "orv/propertyeditor/editors/SlowQuestion.h"
 
+#include <orv/core/DetachedWork.h>
+
 #include <condition_variable>
 #include <mutex>
-#include <thread>
 
 namespace orv {
 
@@ -62,7 +63,11 @@ std::optional<bool> SlowQuestion::ask(std::function<bool()> question, QObject *c
 {
     auto letter = std::make_shared<Letter>();
     // Detached: nobody can end a thread that a disk holds.
-    std::thread([letter, question = std::move(question)] { answer(letter, question()); }).detach();
+    const Error error =
+        DetachedWork::start([letter, question = std::move(question)] { answer(letter, question()); });
+    // Nothing is known then, as of a disk that never answers.
+    if (error.hasError())
+        return std::nullopt;
     std::unique_lock lock(letter->mutex);
     letter->arrived.wait_for(lock, patience, [&letter] { return letter->answer.has_value(); });
     if (!letter->answer)

@@ -1,5 +1,6 @@
 #include "WorkThreads.h"
 
+#include <orv/core/DetachedWork.h>
 #include <orv/core/Logging.h>
 
 #include <QCoreApplication>
@@ -11,12 +12,6 @@
 namespace orv {
 
 namespace {
-
-Error failureOfWork(const QString &reason)
-{
-    return Error(ErrorCode::MalformedStructure, WorkThreads::tr("Something went wrong: %1").arg(reason))
-        .addDetail(WorkThreads::tr("Close what isn't needed and try again."));
-}
 
 void leaveOrJoin(WorkJob &job, std::chrono::steady_clock::time_point deadline)
 {
@@ -59,25 +54,15 @@ void WorkThreads::start(const std::shared_ptr<WorkJob> &job)
 {
     m_jobs.append(job);
     job->home = this;
-    try {
-        job->thread = std::thread([job] { carryOut(job); });
-    } catch (const std::exception &exception) {
-        tellEnd(job, failureOfWork(QString::fromLocal8Bit(exception.what())));
-    }
+    const Error error =
+        DetachedWork::guarded([&job] { job->thread = std::thread([job] { carryOut(job); }); });
+    if (error.hasError())
+        tellEnd(job, error);
 }
 
 void WorkThreads::carryOut(const std::shared_ptr<WorkJob> &job)
 {
-    Error error;
-    try {
-        job->work(job->isCancelled);
-    } catch (const std::bad_alloc &) {
-        error = failureOfWork(tr("there isn't enough memory."));
-    } catch (const std::exception &exception) {
-        error = failureOfWork(QString::fromLocal8Bit(exception.what()));
-    } catch (...) {
-        error = failureOfWork(tr("the reason isn't known."));
-    }
+    const Error error = DetachedWork::guarded([&job] { job->work(job->isCancelled); });
     // What it holds may be large.
     job->work = nullptr;
     tellEnd(job, error);

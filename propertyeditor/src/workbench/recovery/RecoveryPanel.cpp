@@ -4,6 +4,7 @@
 #include "panels/WorkList.h"
 #include "panels/WrappedTexts.h"
 
+#include <orv/core/DetachedWork.h>
 #include <orv/core/Error.h>
 #include <orv/propertyeditor/workbench/RecoveryStore.h>
 #include <orv/widgets/ORVStyle.h>
@@ -13,14 +14,12 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPointer>
-#include <QPromise>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTreeView>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <thread>
 
 namespace orv {
 
@@ -245,23 +244,16 @@ void RecoveryPanel::askFiles()
 /// On a thread of its own, as the disk may never answer.
 void RecoveryPanel::askFile(const RecoveryEntry &entry)
 {
-    using Watcher = QFutureWatcher<RecoveryFileState>;
+    using Watcher = QFutureWatcher<Result<RecoveryFileState>>;
     auto *watcher = new Watcher(this);
     connect(watcher, &Watcher::finished, this, [this, watcher, journal = entry.journal] {
         watcher->deleteLater();
-        if (watcher->future().resultCount() == 0)
-            return;
-        m_states.insert(journal, watcher->result());
+        m_states.insert(journal, watcher->result().valueOr(RecoveryFileState::Unknown));
         if (const std::optional<RecoveryEntry> shown = current(); shown && shown->journal == journal)
             m_remark->setText(remarkOn(*shown));
     });
-    QPromise<RecoveryFileState> promise;
-    watcher->setFuture(promise.future());
-    std::thread([entry, promise = std::move(promise)]() mutable {
-        promise.start();
-        promise.addResult(RecoveryStore::fileState(entry));
-        promise.finish();
-    }).detach();
+    watcher->setFuture(
+        DetachedWork::run<RecoveryFileState>([entry] { return RecoveryStore::fileState(entry); }));
 }
 
 void RecoveryPanel::recoverSelected()

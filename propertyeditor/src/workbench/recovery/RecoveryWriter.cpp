@@ -3,6 +3,7 @@
 #include "RecoveryChanges.h"
 #include "RecoveryFile.h"
 
+#include <orv/core/DetachedWork.h>
 #include <orv/core/FileUtils.h>
 #include <orv/core/JsonUtils.h>
 #include <orv/core/Logging.h>
@@ -17,7 +18,6 @@
 #include <QThreadPool>
 
 #include <chrono>
-#include <thread>
 #include <utility>
 
 namespace orv {
@@ -234,12 +234,14 @@ void RecoveryWriter::askChecksum()
 {
     m_checksum = std::make_shared<Checksum>();
     m_waitsForChecksum = true;
-    std::thread([checksum = m_checksum, file = m_entry.file] {
+    const Error error = DetachedWork::start([checksum = m_checksum, file = m_entry.file] {
         const QByteArray value = RecoveryFile::checksumOfFile(file);
         const std::lock_guard guard(checksum->mutex);
         checksum->value = value;
         checksum->isThere.notify_all();
-    }).detach();
+    });
+    if (error.hasError())
+        qCWarning(propertyEditorLog).noquote() << error.errorMessage();
 }
 
 /// Waits once, as most disks answer soon.
