@@ -251,6 +251,12 @@ const QHash<quint32, TableRowRemark> &TableModel::rowRemarks() const
     return d->remarks;
 }
 
+int TableModel::remarkedRowCount() const
+{
+    return int(std::count_if(d->remarks.keyBegin(), d->remarks.keyEnd(),
+                             [this](quint32 row) { return d->sheet->rowOf(row) >= 0; }));
+}
+
 bool TableModel::isInSheetOrder() const
 {
     return d->sortColumn < 0 && d->shown.size() == d->sheet->rowCount();

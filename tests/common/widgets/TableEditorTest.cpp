@@ -56,6 +56,7 @@ private Q_SLOTS:
     void hiddenColumnsAloneAreALayout();
     void rowsAreFiltered();
     void problemsAreCountedAndVisited();
+    void remarksOfRemovedRowsAreNoProblems();
     void wordsAreFoundAndReplaced();
     void undoShowsWhatItDid();
     void rightToLeftTurnsTheTable();
@@ -418,6 +419,20 @@ void TableEditorTest::rowsAreFiltered()
     QCOMPARE(e.counts(), text("Rows: 0 of 3"));
     filter->clear();
     QCOMPARE(e.counts(), text("Rows: 3"));
+}
+
+void TableEditorTest::remarksOfRemovedRowsAreNoProblems()
+{
+    Editor e;
+    TableModel *model = e.view()->tableModel();
+    model->setRowRemarks({{model->rowId(1), {text("The file is gone."), true}}});
+    const auto *const only = e.editor.findChild<QToolButton *>(text("onlyProblems"));
+    QTRY_COMPARE(only->text(), text("Problems: 1"));
+    e.click(1, 0);
+    e.view()->action(TableView::Command::RemoveRows)->trigger();
+    QTRY_COMPARE(only->text(), text("No problems"));
+    e.view()->action(TableView::Command::Undo)->trigger();
+    QTRY_COMPARE(only->text(), text("Problems: 1"));
 }
 
 void TableEditorTest::problemsAreCountedAndVisited()

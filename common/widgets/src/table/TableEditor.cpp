@@ -247,7 +247,7 @@ void TableEditor::showCounts()
     d->counts->setText(shown == all ? tr("Rows: %1").arg(locale.toString(all))
                                     : tr("Rows: %1 of %2").arg(locale.toString(shown), locale.toString(all)));
     // A row has its sign for what a check found, too, which the button must not deny.
-    const int problems = d->sheet()->problemCount() + int(d->view->tableModel()->rowRemarks().size());
+    const int problems = d->sheet()->problemCount() + d->view->tableModel()->remarkedRowCount();
     d->onlyProblems->setText(problems == 0 ? tr("No problems")
                                            : tr("Problems: %1").arg(locale.toString(problems)));
     d->onlyProblems->setIcon(problems == 0 ? QIcon() : Icons::icon(IconName::Error));

@@ -86,6 +86,8 @@ public:
     /// away.
     void setRowRemarks(const QHash<quint32, TableRowRemark> &remarks);
     [[nodiscard]] const QHash<quint32, TableRowRemark> &rowRemarks() const;
+    /// Of the remarks those on rows that the table has: a row that was removed may come back with its own.
+    [[nodiscard]] int remarkedRowCount() const;
 
     /// Whether each row stands where it stands in the sheet, so that it can be moved.
     [[nodiscard]] bool isInSheetOrder() const;
