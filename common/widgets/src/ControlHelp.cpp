@@ -18,14 +18,21 @@ struct ControlHelpTr
     Q_DECLARE_TR_FUNCTIONS(ControlHelp)
 };
 
-QString asMarkup(const QString &text)
+QString escaped(const QString &text)
 {
-    return Qt::mightBeRichText(text) ? text : text.toHtmlEscaped().replace(u'\n', QStringLiteral("<br/>"));
+    return text.toHtmlEscaped().replace(u'\n', QStringLiteral("<br/>"));
 }
 
 QString paragraph(const QString &text)
 {
-    return text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(asMarkup(text));
+    const QString markup = Qt::mightBeRichText(text) ? text : escaped(text);
+    return text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(markup);
+}
+
+/// Descriptions for screen readers are no markup, whatever they look like: values of documents stand in them.
+QString plainParagraph(const QString &text)
+{
+    return text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(escaped(text));
 }
 
 QString heading(const QString &text)
@@ -40,9 +47,10 @@ QString firstTold(std::initializer_list<QString> texts)
     return told == texts.end() ? QString() : *told;
 }
 
-QString ownText(const QWidget &control)
+QString ownParagraph(const QWidget &control)
 {
-    return firstTold({control.whatsThis(), control.toolTip(), control.accessibleDescription()});
+    const QString told = firstTold({control.whatsThis(), control.toolTip()});
+    return told.isEmpty() ? plainParagraph(control.accessibleDescription()) : paragraph(told);
 }
 
 QString nameOf(const QWidget &control)
@@ -77,7 +85,7 @@ QString cellExplanation(const QModelIndex &cell)
         return {};
     const QString problem = cell.data(Qt::AccessibleDescriptionRole).toString();
     return heading(header(Qt::DisplayRole)) + paragraph(told) +
-           paragraph(problem.isEmpty() ? QString() : ControlHelpTr::tr("This cell: %1").arg(problem));
+           plainParagraph(problem.isEmpty() ? QString() : ControlHelpTr::tr("This cell: %1").arg(problem));
 }
 
 /// On the screen: the row of a view, else the control.
@@ -156,8 +164,8 @@ QString explanation(const QWidget *control)
             return ofCell;
     }
     for (const QWidget *at = control; at; at = at->parentWidget()) {
-        if (const QString text = ownText(*at); !text.isEmpty())
-            return heading(nameOf(*control)) + paragraph(text);
+        if (const QString text = ownParagraph(*at); !text.isEmpty())
+            return heading(nameOf(*control)) + text;
         // The list of a combo box is a window, but part of it.
         if (at->isWindow() && at->windowType() != Qt::Popup)
             break;

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void fieldsTellTheirTipUnderTheirName();
     void partsTellWhatTheWholeTells();
     void textsFromFilesAreNoMarkup();
+    void descriptionsForScreenReadersAreNoMarkup();
     void whatTellsNothingLeavesTheKey();
     void dialogsAnswerTheKeyToo();
     void whatIsExplainedIsNotCovered_data();
@@ -112,6 +113,21 @@ void ControlHelpTest::textsFromFilesAreNoMarkup()
     field.setAccessibleName(text("a < b"));
     field.setToolTip(text("c < d\nand more"));
     QCOMPARE(ControlHelp::explanation(&field), text("<p><b>a &lt; b</b></p><p>c &lt; d<br/>and more</p>"));
+}
+
+void ControlHelpTest::descriptionsForScreenReadersAreNoMarkup()
+{
+    const QString shown = text("&lt;b&gt;S1&lt;/b&gt;<br/>is gone");
+    QTreeWidget list;
+    list.headerItem()->setToolTip(0, text("What was found"));
+    auto *item = new QTreeWidgetItem(&list);
+    item->setData(0, Qt::AccessibleDescriptionRole, text("<b>S1</b>\nis gone"));
+    list.setCurrentItem(item);
+    QCOMPARE(ControlHelp::explanation(&list),
+             text("<p><b>1</b></p><p>What was found</p><p>This cell: %1</p>").arg(shown));
+    QWidget field;
+    field.setAccessibleDescription(text("<b>S1</b>\nis gone"));
+    QCOMPARE(ControlHelp::explanation(&field), text("<p>%1</p>").arg(shown));
 }
 
 void ControlHelpTest::whatTellsNothingLeavesTheKey()
