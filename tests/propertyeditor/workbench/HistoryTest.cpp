@@ -1,7 +1,9 @@
 #include "HistoryFixture.h"
+#include "grid/WholeWorkflow.h"
 
 #include <orv/propertyeditor/grid/EditableTabBar.h>
 
+#include <QJsonArray>
 #include <QSignalSpy>
 
 using namespace orv;
@@ -12,6 +14,7 @@ class HistoryTest : public WidgetTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void columnsThatStayKeepTheirFolds();
     void nothingIsToBeUndoneAtFirst();
     void aStepTellsOldAndNewValue();
     void keysAndMenuUndoAndRedo();
@@ -38,6 +41,44 @@ private Q_SLOTS:
     void oldStepsGoFirst();
     void theWindowMayGoWhileItIsTold();
 };
+
+void HistoryTest::columnsThatStayKeepTheirFolds()
+{
+    Edited edited(
+        WindowFixture::documentOf({searchCell(), WholeWorkflow::defaultCell(BaseItemType::Masses)}));
+    const QPointer<QWidget> column = edited.window.grid(0)->items().constFirst()->widget();
+    edited.tree().expandAll();
+    const QModelIndex folded = edited.tree().model()->index(0, 0);
+    edited.tree().collapse(folded);
+    const QByteArray before = edited.shown();
+    const DocumentState from = edited.history->state();
+    DocumentState to = from;
+    to.tabs[0].columns.removeLast();
+    to.tabs[0].cells.removeLast();
+    QJsonObject cell = to.tabs.at(0).cells.at(0).object();
+    QJsonArray entries = cell[u"properties"_s].toArray();
+    for (qsizetype i = 0; i < entries.size(); ++i) {
+        QJsonObject entry = entries.at(i).toObject();
+        if (entry[u"name"_s] == u"KarvonCentroidTopk"_s)
+            entry[u"value"_s] = 345;
+        entries[i] = entry;
+    }
+    cell[u"properties"_s] = entries;
+    to.tabs[0].cells[0] = StateCell(cell);
+    const auto isKept = [&] {
+        return column && column == edited.window.grid(0)->items().constFirst()->widget() &&
+               !edited.tree().isExpanded(edited.tree().model()->index(0, 0)) &&
+               edited.tree().isExpanded(edited.tree().model()->index(1, 0));
+    };
+    QVERIFY(isKept());
+    QVERIFY(edited.history->edit(from, to, u"both"_s));
+    QCOMPARE(edited.window.grid(0)->items().size(), 1);
+    QCOMPARE(edited.value("KarvonCentroidTopk"), u"345"_s);
+    QVERIFY(isKept());
+    edited.history->undo();
+    QCOMPARE(edited.shown(), before);
+    QVERIFY(isKept());
+}
 
 void HistoryTest::nothingIsToBeUndoneAtFirst()
 {

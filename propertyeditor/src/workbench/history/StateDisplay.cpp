@@ -63,6 +63,33 @@ std::optional<std::pair<int, int>> moveBetween(const QList<Entry> &from, const Q
     return std::nullopt;
 }
 
+/// How many columns at both ends are the same.
+struct SameEnds
+{
+    qsizetype head = 0;
+    qsizetype tail = 0;
+};
+
+/// Where the columns of \a to between the ends were in \a from, by name and kind and in their order; -1 for
+/// those that are new. A column that only changed keeps its widget, with folds and scroll position.
+QList<qsizetype> formerPlaces(const DocumentState::Tab &from, const DocumentState::Tab &to, SameEnds same)
+{
+    QList<qsizetype> places;
+    const qsizetype end = from.cells.size() - same.tail;
+    qsizetype next = same.head;
+    for (qsizetype i = same.head; i < to.cells.size() - same.tail; ++i) {
+        const QString type = memberOf(to.cells.at(i), TYPE_KEY);
+        qsizetype place = next;
+        while (place < end && (from.columns.value(place) != to.columns.value(i) ||
+                               memberOf(from.cells.at(place), TYPE_KEY) != type))
+            ++place;
+        places.append(place < end ? place : -1);
+        if (place < end)
+            next = place + 1;
+    }
+    return places;
+}
+
 /// Gives the properties of a view the values of \a cell; whether they are the same properties.
 bool takeValues(GridPropertyEditorView &view, const QJsonObject &cell)
 {
@@ -216,11 +243,19 @@ Error StateDisplay::exchangeColumns(PropertyGridWidget &grid, const DocumentStat
     while (tail < shorter - head &&
            from.cells.at(from.cells.size() - 1 - tail) == to.cells.at(to.cells.size() - 1 - tail))
         ++tail;
-    for (qsizetype i = head; i < from.cells.size() - tail && shown && m_goesOn(); ++i)
-        grid.removeColumn(int(head));
+    const QList<qsizetype> former = formerPlaces(from, to, {head, tail});
+    for (qsizetype i = from.cells.size() - tail - 1; i >= head && shown && m_goesOn(); --i) {
+        if (!former.contains(i))
+            grid.removeColumn(int(i));
+    }
     Error error;
-    for (qsizetype i = head; i < to.cells.size() - tail && shown && m_goesOn(); ++i)
-        keepFirst(&error, grid.insertColumn(int(i), to.columns.value(i), to.cells.at(i).toVariant()));
+    for (qsizetype i = head; i < to.cells.size() - tail && shown && m_goesOn(); ++i) {
+        const qsizetype place = former.at(i - head);
+        keepFirst(&error, place < 0
+                              ? grid.insertColumn(int(i), to.columns.value(i), to.cells.at(i).toVariant())
+                              : updateColumn(grid, int(i), to.columns.value(i), from.cells.at(place),
+                                             to.cells.at(i)));
+    }
     return error.ecatch();
 }
 

@@ -10,6 +10,8 @@
 #include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/propertyeditor/workflow/WorkflowDifferences.h>
 
+#include <QPointer>
+
 namespace orv {
 
 void showRecoveredPlace(PropertyEditorWindow *window, const RecoveryPlace &place)
@@ -24,13 +26,18 @@ void showRecoveredPlace(PropertyEditorWindow *window, const RecoveryPlace &place
         return;
     const qsizetype column = WorkflowDifferences::labels(grid->columnNames()).indexOf(place.column);
     const QList<IGridItem *> items = grid->items();
-    QWidget *widget = column < 0 || column >= items.size() ? nullptr : items.at(column)->widget();
-    auto *settings = qobject_cast<GridPropertyEditorView *>(widget);
+    const QPointer widget = column < 0 || column >= items.size() ? nullptr : items.at(column)->widget();
+    auto *settings = qobject_cast<GridPropertyEditorView *>(widget.data());
+    // A jump unfolds and focuses, and whoever hears of that may take the column away.
+    const QPointer<PropertyEditorWindow> shown(window);
     if (settings && SettingJump::toSetting(window, settings, place.setting.toUtf8()))
+        return;
+    if (!shown)
         return;
     if (widget) {
         SettingJump::show(window, widget);
-        widget->setFocus(Qt::OtherFocusReason);
+        if (widget)
+            widget->setFocus(Qt::OtherFocusReason);
     } else {
         tabs->widget()->setCurrentIndex(tab);
     }
