@@ -34,6 +34,7 @@ private Q_SLOTS:
     void everythingIsUndone();
     void tablesTakeTheirOwnStepsBack();
     void stepsOfTablesCountAndAreForgotten();
+    void stepsOfTablesWithoutAStepOfTheDocumentAreForgotten();
     void aTabIsDraggedInOneStep();
     void randomEditsGoBackAndForth();
     void theLoadedValueIsNoModification_data();
@@ -167,6 +168,34 @@ void HistoryEditsTest::stepsOfTablesCountAndAreForgotten()
         edited.history->redo();
     QCOMPARE(edited.shown(), last);
     QCOMPARE(steps->index(), left);
+}
+
+void HistoryEditsTest::stepsOfTablesWithoutAStepOfTheDocumentAreForgotten()
+{
+    Edited edited(WindowFixture::documentOf({WholeWorkflow::defaultCell(BaseItemType::Samples)}));
+    auto *table = edited.window.grid(0)->items().constFirst()->widget()->findChild<TableView *>();
+    const TableHistory *steps = table->sheet()->history();
+    table->action(TableView::Command::AddRow)->trigger();
+    letOthersFollow();
+    // There and back within one event: the document is what it was.
+    for (int i = 0; i < 50; ++i) {
+        QVERIFY(!table->sheet()->setText(0, 0, QString(1000, u'x')).hasError());
+        QVERIFY(!table->sheet()->setText(0, 0, QString()).hasError());
+        letOthersFollow();
+    }
+    const int count = edited.history->count();
+    QVERIFY2(count <= 2, qPrintable(QString::number(count)));
+    QVERIFY(steps->count() > 50);
+    const qsizetype held = edited.history->heldBytes();
+    edited.history->setLimit(held / 4);
+    QVERIFY2(edited.history->heldBytes() <= held / 4,
+             qPrintable(u"%1 of %2"_s.arg(edited.history->heldBytes()).arg(held)));
+    const QByteArray last = edited.shown();
+    while (edited.history->canUndo())
+        edited.history->undo();
+    while (edited.history->canRedo())
+        edited.history->redo();
+    QCOMPARE(edited.shown(), last);
 }
 
 void HistoryEditsTest::aTabIsDraggedInOneStep()

@@ -185,6 +185,10 @@ qsizetype DocumentHistory::Private::heldBytes() const
 /// Forgets what lies longest back, in the tables too, until the rest holds no more than the limit.
 void DocumentHistory::Private::trim()
 {
+    // What no step of the document leads to goes first.
+    if (heldBytes() > limit)
+        shown.forgetStepsOfTables(
+            [this](const TableHistory *table, int done) { return steps.firstOf(table, done); });
     qsizetype held = heldBytes();
     while (held > limit) {
         const std::optional<HistoryStep> first = steps.takeFirst();

@@ -45,6 +45,22 @@ std::optional<HistoryStep> HistorySteps::takeFirst()
     return m_steps.takeFirst();
 }
 
+std::optional<int> HistorySteps::firstOf(const TableHistory *table, int done) const
+{
+    std::optional<int> first;
+    for (int i = m_index - 1; i >= 0; --i) {
+        for (const TableMove &move : m_steps.at(i).tables) {
+            if (move.history != table)
+                continue;
+            // The table went on by itself behind that step, which is undone by its content.
+            if (move.after != first.value_or(done))
+                return first;
+            first = move.before;
+        }
+    }
+    return first;
+}
+
 void HistorySteps::forgetUpgrade()
 {
     if (m_steps.isEmpty() || !m_steps.constFirst().upgradedFile)

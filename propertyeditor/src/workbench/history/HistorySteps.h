@@ -42,6 +42,9 @@ public:
     /// Forgets the step that lies longest back, which must be done and not the last; nothing if there is
     /// none.
     [[nodiscard]] std::optional<HistoryStep> takeFirst();
+    /// How far a table, which has done \a done of its steps, goes back with these steps; nothing if none
+    /// takes it along.
+    [[nodiscard]] std::optional<int> firstOf(const TableHistory *table, int done) const;
     /// The upgrade can't be taken back any more, once it lies on the disk.
     void forgetUpgrade();
 

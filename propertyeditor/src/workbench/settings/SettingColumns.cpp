@@ -8,8 +8,6 @@
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
 
-#include <QJsonDocument>
-
 #include <algorithm>
 #include <memory>
 #include <utility>
@@ -50,7 +48,7 @@ void SettingColumns::keepAsSaved()
     m_saved.clear();
     for (const Column &column : SettingView::all(m_window)) {
         if (const KPropertySet *set = column.view->propertySet())
-            m_saved.append({column, SettingReader::stored(*set)});
+            m_saved.append({column, SettingReader::stored(*set), {}});
         hear(column.view);
     }
 }
@@ -60,30 +58,41 @@ void SettingColumns::takeSaved(const DocumentState &document)
     m_saved.clear();
     for (const DocumentState::Tab &tab : document.tabs) {
         for (qsizetype i = 0; i < tab.cells.size(); ++i) {
-            const Result<KPropertySet *> made = PropertySetCreator::objectToPropertySet(
-                QJsonDocument::fromJson(tab.cells.at(i)).object(), std::nullopt);
-            if (made.hasError())
-                continue; // no column of settings
-            const std::unique_ptr<KPropertySet> set(*made);
             const Column column{{}, 0, 0, tab.title, tab.columns.value(i)};
-            m_saved.append({column, SettingReader::stored(*set)});
+            m_saved.append({column, std::nullopt, tab.cells.at(i)});
         }
     }
     m_isStale = true;
     tellSoon();
 }
 
-/// The very column, else the one of its name: a step back may have made it anew.
-const StoredSettings *SettingColumns::savedOf(const Column &column) const
+/// Null for a column that has no settings.
+const StoredSettings *SettingColumns::valuesOf(Saved *saved)
 {
-    auto saved = std::ranges::find_if(
-        m_saved, [&column](const Saved &each) { return each.column.view == column.view; });
-    if (saved == m_saved.cend()) {
-        saved = std::ranges::find_if(m_saved, [&column](const Saved &each) {
-            return each.column.tabName == column.tabName && each.column.columnName == column.columnName;
-        });
+    const StateCell cell = std::exchange(saved->unread, {});
+    if (cell.isNull())
+        return saved->values ? &*saved->values : nullptr;
+    const Result<KPropertySet *> made = PropertySetCreator::objectToPropertySet(cell.object(), std::nullopt);
+    if (made.hasError())
+        return nullptr;
+    const std::unique_ptr<KPropertySet> set(*made);
+    saved->values = SettingReader::stored(*set);
+    return &*saved->values;
+}
+
+/// The very column, else the one of its name: a step back may have made it anew.
+const StoredSettings *SettingColumns::savedOf(const Column &column)
+{
+    const auto isSame = [&column](const Saved &each) { return each.column.view == column.view; };
+    if (const auto same = std::ranges::find_if(m_saved, isSame); same != m_saved.end())
+        return valuesOf(&*same);
+    for (Saved &each : m_saved) {
+        if (each.column.tabName != column.tabName || each.column.columnName != column.columnName)
+            continue;
+        if (const StoredSettings *values = valuesOf(&each))
+            return values;
     }
-    return saved == m_saved.cend() ? nullptr : &saved->values;
+    return nullptr;
 }
 
 bool SettingColumns::isReadOnly() const

@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QPointer>
 
+#include <optional>
+
 namespace orv {
 
 class PropertyEditorWindow;
@@ -56,12 +58,14 @@ private:
     struct Saved
     {
         Column column;
-        StoredSettings values;
+        std::optional<StoredSettings> values;
+        StateCell unread; ///< of a file; values are made of it when somebody asks
     };
 
     [[nodiscard]] bool isReadOnly() const;
     [[nodiscard]] SettingIndex::Column read(const Column &column);
-    [[nodiscard]] const StoredSettings *savedOf(const Column &column) const;
+    [[nodiscard]] const StoredSettings *savedOf(const Column &column);
+    [[nodiscard]] static const StoredSettings *valuesOf(Saved *saved);
     void hear(GridPropertyEditorView *view);
     void touch(GridPropertyEditorView *view);
     void tellSoon();

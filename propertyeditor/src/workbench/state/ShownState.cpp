@@ -132,6 +132,19 @@ qsizetype ShownState::heldByTables() const
     return bytes;
 }
 
+void ShownState::forgetStepsOfTables(
+    const std::function<std::optional<int>(const TableHistory *, int done)> &firstWanted)
+{
+    for (const Column &column : std::as_const(m_columns)) {
+        for (const auto &[history, known] : column.histories) {
+            if (!history)
+                continue;
+            const int done = stepsDone(*history);
+            history->forget(firstWanted(history, done).value_or(done) - history->forgotten());
+        }
+    }
+}
+
 QList<TableMove> ShownState::takeMoves()
 {
     return std::exchange(m_moves, {});

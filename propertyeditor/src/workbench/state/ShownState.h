@@ -7,6 +7,9 @@
 #include <QObject>
 #include <QPointer>
 
+#include <functional>
+#include <optional>
+
 namespace orv {
 
 class GridItemEdits;
@@ -42,6 +45,9 @@ public:
     [[nodiscard]] QList<TableMove> takeMoves();
     /// What the steps of all tables hold.
     [[nodiscard]] qsizetype heldByTables() const;
+    /// Lets tables forget their steps before the one that \a firstWanted gives, all that are done for none.
+    void
+    forgetStepsOfTables(const std::function<std::optional<int>(const TableHistory *, int done)> &firstWanted);
     /// The next call of read() reads everything.
     void forget();
     /// The same for the columns that \a change, which led to \a shown, is about: what a program does isn't
