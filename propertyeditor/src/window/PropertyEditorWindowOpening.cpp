@@ -205,6 +205,7 @@ void PropertyEditorWindow::runUpgrade(PropertyEditorContent *content, Upgrade *u
             WflwUpgrader::upgradeWorkflow(upgrade->done.from, content, &upgrade->done.notes, options);
     });
     upgrade->done.steps = review.steps();
+    upgrade->done.hasFailed = upgrade->error.hasError();
 }
 
 /// Asks about an upgrade that was made, or that failed; what keeps the document from being shown.

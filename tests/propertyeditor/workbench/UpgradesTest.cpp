@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QStatusBar>
+#include <QTemporaryDir>
 #include <QTreeView>
 
 using namespace orv;
@@ -104,6 +106,24 @@ private:
     }
 };
 
+/// Reads what the question says of the upgrade, and applies it.
+class TitleReader : public DialogAnswerer
+{
+public:
+    std::optional<DialogAnswer> answer(const DialogRequest &request) override
+    {
+        request.dialog->show();
+        if (const auto *label = request.dialog->findChild<QLabel *>(u"upgradeTitle"_s))
+            title = label->text();
+        const auto *view = request.dialog->findChild<QTreeView *>(u"upgradeSteps"_s);
+        hasList = view && view->isVisible();
+        return DialogAnswer{u"Apply"_s, {}};
+    }
+
+    QString title;
+    bool hasList = true;
+};
+
 } // namespace
 
 class UpgradesTest : public WidgetTest
@@ -119,6 +139,7 @@ private Q_SLOTS:
     void upgradesThatAreSavedAtOnceAreNoStep();
     void thePanelTellsStepByStep();
     void notesStandBehindTheSteps();
+    void upgradesThatChangeNothingSaySo();
     void rowsAreCopied();
     void otherDocumentsHaveNoSteps();
     void escapeClosesThePanel();
@@ -238,7 +259,7 @@ void UpgradesTest::thePanelTellsStepByStep()
     const QModelIndex added = steps.index(0, 0, steps.index(3, 0));
     QCOMPARE(cellOf(added, 1), u"added"_s);
     QCOMPARE(cellOf(added, 2), QString());
-    QCOMPARE(cellOf(added, 3), u"[\"S\",\"T\"]"_s);
+    QCOMPARE(cellOf(added, 3), u"S, T"_s);
     QCOMPARE(edited.title(),
              u"Upgraded from 5.5.0 to 5.47.0. The file stays as it was until you save over it."_s);
 }
@@ -255,6 +276,34 @@ void UpgradesTest::notesStandBehindTheSteps()
     QCOMPARE(steps.rowCount(), 1);
     QCOMPARE(steps.index(0, 0).data().toString(), u"The sample file \"a.raw\" can't be read."_s);
     QCOMPARE(steps.rowCount(steps.index(0, 0)), 0);
+}
+
+void UpgradesTest::upgradesThatChangeNothingSaySo()
+{
+    const QTemporaryDir folder;
+    // The example's own cells need nothing of the steps before.
+    QByteArray bytes = TestData::read(TestData::examplePath(u"workflows/de_novo_antibody.wflw"_s));
+    const QString path = folder.filePath(u"a.wflw"_s);
+    QFile file(path);
+    bytes.replace(R"(\"version\":\"5.47.0\")", R"(\"version\":\"5.46.0\")");
+    QVERIFY(bytes.contains("5.46.0"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    file.close();
+    Edited edited;
+    TitleReader reader;
+    DialogAnswerer *before = DialogService::install(&reader);
+    const auto status = edited.window.openWorkflow(path);
+    DialogService::install(before);
+    QCOMPARE(status, WindowFixture::kOpened);
+    QCOMPARE(reader.title, u"The upgrade from 5.46.0 to 5.47.0 changes nothing but the version; nothing is "
+                           "written before you save."_s);
+    QVERIFY(!reader.hasList);
+    const auto *title = edited.window.findChild<QLabel *>(u"upgradeTitle"_s);
+    QCOMPARE(title->text(),
+             u"Upgraded from 5.46.0 to 5.47.0. The file stays as it was until you save over it. "
+             "Nothing but the version changed."_s);
+    QCOMPARE(edited.window.statusBar()->currentMessage(),
+             u"Upgraded from 5.46.0 to 5.47.0; nothing but the version changed."_s);
 }
 
 void UpgradesTest::rowsAreCopied()

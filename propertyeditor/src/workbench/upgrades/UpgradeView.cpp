@@ -66,7 +66,8 @@ void UpgradeView::setUpgrade(const DocumentUpgrade &upgrade)
         m_steps->setFirstColumnSpanned(row, {}, true);
     if (changeCount() <= kMostUnfolded)
         m_steps->expandAll();
-    m_steps->setVisible(m_model->rowCount() > 0);
+    m_steps->setVisible(hasList());
+    updateGeometry();
 }
 
 qsizetype UpgradeView::changeCount() const
@@ -74,8 +75,16 @@ qsizetype UpgradeView::changeCount() const
     return m_model->changeCount();
 }
 
+/// The words alone need no room for a list.
+bool UpgradeView::hasList() const
+{
+    return m_model->rowCount() > 0;
+}
+
 QSize UpgradeView::sizeHint() const
 {
+    if (!hasList())
+        return LeavablePanel::sizeHint();
     constexpr int kLetters = 116;
     constexpr int kLines = 18;
     return {fontMetrics().averageCharWidth() * kLetters, fontMetrics().lineSpacing() * kLines};
@@ -83,6 +92,8 @@ QSize UpgradeView::sizeHint() const
 
 QSize UpgradeView::minimumSizeHint() const
 {
+    if (!hasList())
+        return LeavablePanel::minimumSizeHint();
     constexpr int kLetters = 40;
     constexpr int kLines = 6;
     return {fontMetrics().averageCharWidth() * kLetters, fontMetrics().lineSpacing() * kLines};

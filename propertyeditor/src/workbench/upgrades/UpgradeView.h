@@ -31,6 +31,7 @@ public:
 
 private:
     void copy();
+    [[nodiscard]] bool hasList() const;
 
     UpgradeModel *m_model;
     QLabel *m_title;

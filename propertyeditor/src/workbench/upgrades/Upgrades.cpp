@@ -23,6 +23,7 @@ public:
     void forget();
     void update();
     [[nodiscard]] QString title() const;
+    [[nodiscard]] bool changedNothing() const { return view->changeCount() == 0 && !upgrade->hasFailed; }
 
     const QPointer<PropertyEditorWindow> window;
     DocumentHistory *const history;
@@ -39,10 +40,14 @@ QWidget *viewInQuestion(const DocumentUpgrade &upgrade)
 {
     auto view = std::make_unique<UpgradeView>();
     view->setUpgrade(upgrade);
-    if (view->changeCount() == 0)
+    if (view->changeCount() == 0 && upgrade.hasFailed)
         return nullptr;
-    view->setTitle(Upgrades::tr("What the upgrade from %1 to %2 changes; nothing is written before you save:")
-                       .arg(upgrade.from.toString(), upgrade.to.toString()));
+    const QString title =
+        view->changeCount() == 0
+            ? Upgrades::tr("The upgrade from %1 to %2 changes nothing but the version; nothing is written "
+                           "before you save.")
+            : Upgrades::tr("What the upgrade from %1 to %2 changes; nothing is written before you save:");
+    view->setTitle(title.arg(upgrade.from.toString(), upgrade.to.toString()));
     return view.release();
 }
 
@@ -65,9 +70,12 @@ void Upgrades::Private::take(const DocumentUpgrade &done, bool isSavedAlready)
     update();
     if (!dock)
         return;
-    window->statusBar()->showMessage(
-        tr("Upgraded from %1 to %2. What that changed stands in %3.")
-            .arg(done.from.toString(), done.to.toString(), dock->toggleViewAction()->text().remove(u'&')));
+    const QString place = dock->toggleViewAction()->text().remove(u'&');
+    window->statusBar()->showMessage(changedNothing()
+                                         ? tr("Upgraded from %1 to %2; nothing but the version changed.")
+                                               .arg(done.from.toString(), done.to.toString())
+                                         : tr("Upgraded from %1 to %2. What that changed stands in %3.")
+                                               .arg(done.from.toString(), done.to.toString(), place));
 }
 
 void Upgrades::Private::forget()
@@ -99,9 +107,11 @@ QString Upgrades::Private::title() const
                   "upgrade again.")
             .arg(from, to, QKeySequence(QKeySequence::Redo).toString(QKeySequence::NativeText));
     }
-    return isSaved
-               ? tr("Upgraded from %1 to %2, and saved.").arg(from, to)
-               : tr("Upgraded from %1 to %2. The file stays as it was until you save over it.").arg(from, to);
+    const QString done =
+        isSaved
+            ? tr("Upgraded from %1 to %2, and saved.").arg(from, to)
+            : tr("Upgraded from %1 to %2. The file stays as it was until you save over it.").arg(from, to);
+    return changedNothing() ? tr("%1 Nothing but the version changed.").arg(done) : done;
 }
 
 Upgrades::Upgrades(Workbench *workbench)

@@ -19,6 +19,7 @@ struct DocumentUpgrade
     QVersionNumber to;
     QStringList notes; ///< what people should know of
     QList<WorkflowUpgradeStep> steps;
+    bool hasFailed = false; ///< the steps are those before the one that failed
 };
 
 } // namespace orv
