@@ -59,8 +59,16 @@
 <context>
     <name>ChangeText</name>
     <message>
-        <source>row %1</source>
-        <translation>Zeile %1</translation>
+        <source>Entries: %1</source>
+        <translation>Einträge: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Rows: %1</source>
+        <translation>Zeilen: %1</translation>
     </message>
 </context>
 <context>
@@ -79,6 +87,25 @@
     <message>
         <source>It is empty, taken, or the name of another member of a sample. Choose another.</source>
         <translation>Er ist leer, vergeben oder der Name eines anderen Teils einer Probe. Wählen Sie einen anderen.</translation>
+    </message>
+</context>
+<context>
+    <name>DetachedWork</name>
+    <message>
+        <source>Something went wrong: %1</source>
+        <translation>Etwas ging schief: %1</translation>
+    </message>
+    <message>
+        <source>Close what isn&apos;t needed and try again.</source>
+        <translation>Schließen Sie, was nicht gebraucht wird, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>there isn&apos;t enough memory.</source>
+        <translation>der Speicher reicht nicht.</translation>
+    </message>
+    <message>
+        <source>the reason isn&apos;t known.</source>
+        <translation>der Grund ist nicht bekannt.</translation>
     </message>
 </context>
 <context>
@@ -1580,6 +1607,129 @@ Möchten Sie sie ersetzen?</translation>
     <message>
         <source>%1 columns edited</source>
         <translation>%1 Spalten bearbeitet</translation>
+    </message>
+</context>
+<context>
+    <name>TableCaptions</name>
+    <message>
+        <source>Building blocks</source>
+        <translation>Bausteine</translation>
+    </message>
+    <message>
+        <source>Id</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>On molecules</source>
+        <translation>An Molekülen</translation>
+    </message>
+    <message>
+        <source>Disulfide bonds</source>
+        <translation>Disulfidbrücken</translation>
+    </message>
+    <message>
+        <source>Lowest m/z</source>
+        <translation>Kleinstes m/z</translation>
+    </message>
+    <message>
+        <source>Highest m/z</source>
+        <translation>Größtes m/z</translation>
+    </message>
+    <message>
+        <source>Lowest mass</source>
+        <translation>Kleinste Masse</translation>
+    </message>
+    <message>
+        <source>Highest mass</source>
+        <translation>Größte Masse</translation>
+    </message>
+    <message>
+        <source>Lowest charge</source>
+        <translation>Kleinste Ladung</translation>
+    </message>
+    <message>
+        <source>Highest charge</source>
+        <translation>Größte Ladung</translation>
+    </message>
+    <message>
+        <source>Accession</source>
+        <translation>Zugangsnummer</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Sequence</source>
+        <translation>Sequenz</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Sample ids</source>
+        <translation>Proben-IDs</translation>
+    </message>
+    <message>
+        <source>Trace files</source>
+        <translation>Spurdateien</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>FASTA file</source>
+        <translation>FASTA-Datei</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Benutzen</translation>
+    </message>
+    <message>
+        <source>Species</source>
+        <translation>Spezies</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>row %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>entry %1</source>
+        <translation>Eintrag %1</translation>
+    </message>
+    <message>
+        <source>table %1</source>
+        <translation>Tabelle %1</translation>
+    </message>
+    <message>
+        <source>value %1 behind the last column</source>
+        <translation>Wert %1 hinter der letzten Spalte</translation>
+    </message>
+    <message>
+        <source>columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>order</source>
+        <translation>Reihenfolge</translation>
+    </message>
+    <message>
+        <source>order of columns</source>
+        <translation>Reihenfolge der Spalten</translation>
+    </message>
+    <message>
+        <source>order of settings</source>
+        <translation>Reihenfolge der Einstellungen</translation>
+    </message>
+    <message>
+        <source>order of tabs</source>
+        <translation>Reihenfolge der Reiter</translation>
     </message>
 </context>
 <context>
@@ -5236,6 +5386,10 @@ Ziehen Sie Dateien oder Ordner hierher, fügen Sie sie mit „Dateien hinzufüge
         <source>All samples with a file have names already.</source>
         <translation>Alle Proben mit einer Datei haben schon Namen.</translation>
     </message>
+    <message>
+        <source>No samples were added. %1</source>
+        <translation>Es wurden keine Proben hinzugefügt. %1</translation>
+    </message>
 </context>
 <context>
     <name>orv::SamplesAndTracesTables</name>
@@ -6090,6 +6244,18 @@ Fügen Sie Zellen einer Tabellenkalkulation ein (Strg+V), ziehen oder importiere
         <source>Upgraded from %1 to %2. The file stays as it was until you save over it.</source>
         <translation>Von %1 auf %2 aktualisiert. Die Datei bleibt, wie sie war, bis Sie sie überschreiben.</translation>
     </message>
+    <message>
+        <source>The upgrade from %1 to %2 changes nothing but the version; nothing is written before you save.</source>
+        <translation>Die Aktualisierung von %1 auf %2 ändert nichts als die Version; vor dem Speichern wird nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>Upgraded from %1 to %2; nothing but the version changed.</source>
+        <translation>Von %1 auf %2 aktualisiert; nichts als die Version hat sich geändert.</translation>
+    </message>
+    <message>
+        <source>%1 Nothing but the version changed.</source>
+        <translation>%1 Nichts als die Version hat sich geändert.</translation>
+    </message>
 </context>
 <context>
     <name>orv::ValueUnitDialog</name>
@@ -6123,25 +6289,6 @@ Fügen Sie Zellen einer Tabellenkalkulation ein (Strg+V), ziehen oder importiere
     <message>
         <source>%1; the number is from %2 to %3</source>
         <translation>%1; die Zahl liegt zwischen %2 und %3</translation>
-    </message>
-</context>
-<context>
-    <name>orv::WorkThreads</name>
-    <message>
-        <source>Something went wrong: %1</source>
-        <translation>Etwas ging schief: %1</translation>
-    </message>
-    <message>
-        <source>Close what isn&apos;t needed and try again.</source>
-        <translation>Schließen Sie, was nicht gebraucht wird, und versuchen Sie es noch einmal.</translation>
-    </message>
-    <message>
-        <source>there isn&apos;t enough memory.</source>
-        <translation>der Speicher reicht nicht.</translation>
-    </message>
-    <message>
-        <source>the reason isn&apos;t known.</source>
-        <translation>der Grund ist nicht bekannt.</translation>
     </message>
 </context>
 <context>
@@ -6185,6 +6332,10 @@ Fügen Sie Zellen einer Tabellenkalkulation ein (Strg+V), ziehen oder importiere
     <message>
         <source>Previous &amp;Tab</source>
         <translation>Voriger R&amp;eiter</translation>
+    </message>
+    <message>
+        <source>recovered edits</source>
+        <translation>wiederhergestellte Änderungen</translation>
     </message>
 </context>
 <context>

@@ -17,9 +17,17 @@ using Place = DifferenceList::Place;
 Place Place::below(const QString &name) const
 {
     Place place = *this;
+    place.columns.clear();
     if (!path.isEmpty())
         place.path += kSeparator;
     place.path += name.size() <= kLongestName ? name : name.left(kLongestName) + QLatin1String("...");
+    return place;
+}
+
+Place Place::tableRow(const QString &name, const QStringList &tableColumns) const
+{
+    Place place = below(name);
+    place.columns = tableColumns;
     return place;
 }
 
@@ -60,7 +68,7 @@ bool DifferenceList::add(const Place &place, const QJsonValue &left, const QJson
     const Kind kind = left.isUndefined() ? Kind::Added : right.isUndefined() ? Kind::Removed : Kind::Changed;
     const qsizetype separator = place.known > 0 && place.known < place.path.size() ? kSeparator.size() : 0;
     m_differences.append({kind, place.path, place.tab, place.column, place.row, place.property, left, right,
-                          place.path.mid(place.known + separator), m_group});
+                          place.path.mid(place.known + separator), m_group, place.columns});
     return m_group == kNoGroup && isChosen(size() - 1);
 }
 

@@ -27,8 +27,11 @@ public:
         std::optional<qsizetype> row;
         QString property;
         qsizetype known = 0; ///< what the path begins with is told by the members above
+        QStringList columns; ///< of the table whose row is there
 
         [[nodiscard]] Place below(const QString &name) const;
+        /// A row of a table with these columns.
+        [[nodiscard]] Place tableRow(const QString &name, const QStringList &tableColumns) const;
         // The same, and what is there has that name.
         [[nodiscard]] Place inTab(const QString &name) const;
         [[nodiscard]] Place inColumn(const QString &name) const;

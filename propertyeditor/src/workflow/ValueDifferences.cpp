@@ -208,10 +208,12 @@ private:
         const QJsonArray leftRows = left.value(CHILDREN).toArray();
         const QJsonArray rightRows = right.value(CHILDREN).toArray();
         const bool holdsTables = hasTables(leftRows) || hasTables(rightRows);
+        const QStringList columns = headerOf(leftHeader == rightHeader ? leftHeader : QJsonArray());
         const auto placeOf = [&](qsizetype i) {
             const QString name = holdsTables ? leftHeader.at(i).toString() : QString();
-            const char *const what = holdsTables ? "table" : "row";
-            return place.below(name.isEmpty() ? numbered(what, i) : name);
+            if (!holdsTables)
+                return place.tableRow(numbered("row", i), columns);
+            return place.below(name.isEmpty() ? numbered("table", i) : name);
         };
         const auto compareBoth = [&](const QJsonValue &leftRow, const QJsonValue &rightRow, qsizetype i) {
             return holdsTables ? compare(leftRow, rightRow, placeOf(i), depth)

@@ -39,15 +39,6 @@ QStringList settingNames(const QJsonArray &entries, const QString &cellType)
     return names;
 }
 
-/// A number with its unit, and the like: half of it is another value.
-bool isQuantity(const QJsonValue &value)
-{
-    const QJsonObject members = value.toObject();
-    return value.isObject() && std::none_of(members.begin(), members.end(), [](const QJsonValue &member) {
-               return member.isObject() || member.isArray();
-           });
-}
-
 QStringList namesOfTabs(const QJsonArray &tabs)
 {
     QStringList names;
@@ -296,7 +287,8 @@ private:
     QJsonValue compareValueOfSetting(const QJsonValue &left, const QJsonValue &right, const Place &place)
     {
         const auto find = [&] { return compareValues(left, right, place, &m_differences); };
-        if (!isQuantity(left) || !isQuantity(right))
+        using WorkflowDifferences::isOneThing;
+        if (!isOneThing(left) || !isOneThing(right))
             return find();
         return m_differences.together(find) ? right : left;
     }
@@ -358,6 +350,14 @@ QJsonObject WorkflowDifferences::takenOver(const QJsonObject &left, const QJsonO
     const QSet<qsizetype> wanted = closed(chosen, between(left, right, strict, isCancelled));
     DocumentComparison comparison(&wanted, isCancelled);
     return comparison.compare(withoutUncompared(left, strict), withoutUncompared(right, strict), left);
+}
+
+bool WorkflowDifferences::isOneThing(const QJsonValue &value)
+{
+    const QJsonObject members = value.toObject();
+    return value.isObject() && std::none_of(members.begin(), members.end(), [](const QJsonValue &member) {
+               return member.isObject() || member.isArray();
+           });
 }
 
 QStringList WorkflowDifferences::labels(const QStringList &names)

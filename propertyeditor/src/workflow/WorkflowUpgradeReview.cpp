@@ -70,7 +70,8 @@ WorkflowUpgradeChange changeOf(const WorkflowDifference &difference)
                                  difference.tab,
                                  difference.column,
                                  difference.row,
-                                 clean(difference.below)};
+                                 clean(difference.below),
+                                 difference.columns};
     if (difference.kind == WorkflowDifference::Kind::Added)
         change.kind = WorkflowUpgradeChange::Kind::Added;
     if (difference.kind == WorkflowDifference::Kind::Removed)

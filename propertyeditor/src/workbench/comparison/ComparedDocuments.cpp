@@ -10,7 +10,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <algorithm>
 #include <utility>
 
 namespace orv {
@@ -219,22 +218,14 @@ private:
         const QJsonValue left = m_left.settingValue(first);
         const QJsonValue right = m_right.settingValue(first);
         const bool isMember = left.toObject().contains(first.below) || right.toObject().contains(first.below);
-        if (!isMember || (left[first.below] != first.left && !first.left.isUndefined()) || !isFlat(left) ||
-            !isFlat(right))
+        if (!isMember || (left[first.below] != first.left && !first.left.isUndefined()) ||
+            !WorkflowDifferences::isOneThing(left) || !WorkflowDifferences::isOneThing(right))
             return;
         first.below.clear();
         first.left = left;
         first.right = right;
         first.kind = WorkflowDifference::Kind::Changed;
         unit->more = 0;
-    }
-
-    static bool isFlat(const QJsonValue &value)
-    {
-        const QJsonObject members = value.toObject();
-        return value.isObject() && std::none_of(members.begin(), members.end(), [](const QJsonValue &member) {
-                   return member.isObject() || member.isArray();
-               });
     }
 
     void noteSetting(const WorkflowDifference &difference)
@@ -255,6 +246,7 @@ private:
         node.change = difference.kind;
         node.left = difference.left;
         node.right = difference.right;
+        node.columns = difference.columns;
         int above = 0;
         Kind kind = Kind::Part;
         QString key = difference.tab;

@@ -159,8 +159,8 @@ QString ComparisonModel::name(const ComparisonNode &node) const
         name = QCoreApplication::translate("RecoveryChanges", node.label.toUtf8().constData());
     else if (node.kind == ComparisonNode::Kind::Setting)
         name = EntryTexts::caption({{TYPE_KEY, node.cellType}}, {{NAME_KEY, node.label}});
-    else if (node.kind == ComparisonNode::Kind::Part && name.isEmpty())
-        name = tr("Value");
+    else if (node.kind == ComparisonNode::Kind::Part)
+        name = name.isEmpty() ? tr("Value") : ChangeText::ofPartOfSetting(name);
     return node.more > 0 ? tr("%1 and what belongs to it (%2 more)").arg(name).arg(node.more) : name;
 }
 
@@ -182,7 +182,7 @@ QString ComparisonModel::value(const ComparisonNode &node, const QJsonValue &val
             .join(QStringLiteral(", "));
     if (node.kind == ComparisonNode::Kind::Column)
         return value.isArray() ? value.toArray().first()[TYPE_KEY].toString() : ChangeText::ofValue(value);
-    const QString plain = ChangeText::ofValue(value);
+    const QString plain = ChangeText::ofValue(value, node.columns);
     return plain.isEmpty() ? tr("(empty)") : plain;
 }
 

@@ -33,7 +33,8 @@ struct ComparisonNode
     WorkflowDifference::Kind change = WorkflowDifference::Kind::Changed;
     QJsonValue left;
     QJsonValue right;
-    int tab = -1; ///< in the left document; -1 for what isn't there
+    QStringList columns; ///< of the table in which these are rows
+    int tab = -1;        ///< in the left document; -1 for what isn't there
     int column = -1;
     int parent = -1;
     int row = 0;

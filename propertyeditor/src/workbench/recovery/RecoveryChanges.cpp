@@ -38,12 +38,6 @@ QJsonValue settingOf(const QJsonObject &document, const WorkflowDifference &diff
     return QJsonValue::Undefined;
 }
 
-/// A number and its unit, which people read as one.
-bool isQuantity(const QJsonValue &value)
-{
-    return value[VALUE_KEY].isDouble() && value[QLatin1String("unit")].isString();
-}
-
 RecoveryChange toldOf(const WorkflowDifference &difference, const QJsonObject &before,
                       const QJsonObject &after)
 {
@@ -53,7 +47,7 @@ RecoveryChange toldOf(const WorkflowDifference &difference, const QJsonObject &b
     if (!difference.property.isEmpty() && !below.isEmpty()) {
         const QJsonValue was = settingOf(before, difference);
         const QJsonValue is = settingOf(after, difference);
-        if (isQuantity(was) && isQuantity(is)) {
+        if (ChangeText::isQuantity(was) && ChangeText::isQuantity(is)) {
             below.clear();
             left = was;
             right = is;
@@ -64,7 +58,8 @@ RecoveryChange toldOf(const WorkflowDifference &difference, const QJsonObject &b
     const bool asRow = isSetting && ChangeText::ofSetting(difference.property, left) !=
                                         ChangeText::ofSetting(difference.property, right);
     const auto text = [&](const QJsonValue &value) {
-        return asRow ? ChangeText::ofSetting(difference.property, value) : ChangeText::ofValue(value);
+        return asRow ? ChangeText::ofSetting(difference.property, value)
+                     : ChangeText::ofValue(value, difference.columns);
     };
     return {
         ChangeText::ofPlace({difference.tab, difference.column, difference.row, difference.property, below}),

@@ -27,8 +27,13 @@ struct Place
 [[nodiscard]] QString ofPlace(const Place &place);
 
 [[nodiscard]] QString ofText(const QString &text);
-/// Of objects their names, if they have one; empty for no value.
-[[nodiscard]] QString ofValue(const QJsonValue &value);
+/// What stands below a setting, in the words of tables: "row 3 › Mass". \a below as in Place.
+[[nodiscard]] QString ofPartOfSetting(const QString &below);
+/// Of objects their names, if they have one, else their members by captions; of a row its values, by
+/// \a columns where they are known; empty for no value.
+[[nodiscard]] QString ofValue(const QJsonValue &value, const QStringList &columns = {});
+/// A number and its unit, which people read as one.
+[[nodiscard]] bool isQuantity(const QJsonValue &value);
 /// Of a setting as its row shows it, with its unit, where a line can show it.
 [[nodiscard]] QString ofSetting(const QString &property, const QJsonValue &value);
 

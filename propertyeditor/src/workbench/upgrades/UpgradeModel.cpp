@@ -87,7 +87,8 @@ const UpgradeModel::Values &UpgradeModel::values(const QModelIndex &index,
     auto known = m_values.find({index.internalId(), index.row()});
     if (known == m_values.end()) {
         known = m_values.insert({index.internalId(), index.row()},
-                                {ChangeText::ofValue(change.from), ChangeText::ofValue(change.to)});
+                                {ChangeText::ofValue(change.from, change.columns),
+                                 ChangeText::ofValue(change.to, change.columns)});
     }
     return *known;
 }

@@ -36,6 +36,7 @@ struct ORV_WORKFLOW_EXPORT WorkflowDifference
     /// Differences of one number here make sense only together, such as the rows that a table has beyond
     /// those of the other; kAlone for what makes sense alone.
     qsizetype together = kAlone;
+    QStringList columns = {}; ///< of the table in which left or right are rows; empty for anything else
 };
 
 /// Tells in words of the format what PropertyEditorJsonUtils::compareWorkflows decides. Work that somebody
@@ -59,6 +60,10 @@ between(const QJsonObject &left, const QJsonObject &right, bool strict,
 [[nodiscard]] ORV_WORKFLOW_EXPORT QJsonObject takenOver(const QJsonObject &left, const QJsonObject &right,
                                                         const QSet<qsizetype> &chosen, bool strict,
                                                         const std::atomic_bool *isCancelled = nullptr);
+
+/// Whether a value is one thing of several members, such as a number with its unit: half of it is another
+/// value, so it is taken over and told as a whole.
+[[nodiscard]] ORV_WORKFLOW_EXPORT bool isOneThing(const QJsonValue &value);
 
 /// The names that differences tell tabs and columns by: those that have none or the same are made different.
 [[nodiscard]] ORV_WORKFLOW_EXPORT QStringList labels(const QStringList &names);

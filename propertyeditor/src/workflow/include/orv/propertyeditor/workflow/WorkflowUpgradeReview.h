@@ -34,6 +34,7 @@ struct ORV_WORKFLOW_EXPORT WorkflowUpgradeChange
     QString column;
     std::optional<qsizetype> row;
     QString below;
+    QStringList columns = {};
 };
 
 struct ORV_WORKFLOW_EXPORT WorkflowUpgradeStep
