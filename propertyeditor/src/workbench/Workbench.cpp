@@ -40,6 +40,10 @@ Workbench::Workbench(PropertyEditorWindow *window)
     connect(window, &QWidget::windowTitleChanged, this, &Workbench::updateTitle);
     updateTitle();
     m_find = new FindSettings(this);
+    connect(m_find, &FindSettings::fileRead, m_history, [this](const DocumentState &saved) {
+        // Of these edits nobody knows the steps, but what they did together can be taken back.
+        m_history->beginAt(saved, tr("recovered edits"));
+    });
     m_findings = new Findings(this);
     m_upgrades = new Upgrades(this);
     auto *current = new CurrentSetting(window, this);
@@ -128,8 +132,8 @@ QDockWidget *Workbench::addPanel(QWidget *widget, const QString &name, const QSt
     panel->setAccessibleName(title);
     panel->setWidget(widget);
     m_window->addDockWidget(area, panel);
-    if (m_panels.contains(area))
-        m_window->tabifyDockWidget(m_panels.value(area), panel);
+    if (QDockWidget *before = m_panels.value(area))
+        m_window->tabifyDockWidget(before, panel);
     m_panels.insert(area, panel);
     panel->hide();
     QAction *toggle = panel->toggleViewAction();
@@ -140,10 +144,11 @@ QDockWidget *Workbench::addPanel(QWidget *widget, const QString &name, const QSt
             panel->raise();
     });
     m_viewMenu->insertAction(m_behindPanels, toggle);
-    connect(panel, &QDockWidget::visibilityChanged, this, [this, panel, area](bool isShown) {
-        if (isShown)
-            sizeOnce(panel, area);
-    });
+    connect(panel, &QDockWidget::visibilityChanged, this,
+            [this, shown = QPointer(panel), area](bool isShown) {
+                if (isShown && shown)
+                    sizeOnce(shown, area);
+            });
     return panel;
 }
 

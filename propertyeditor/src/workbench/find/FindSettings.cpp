@@ -117,11 +117,13 @@ void FindSettings::Private::readSaved(const QString &file)
         [file](const auto &isCancelled) -> Read { return SecondDocument::read(file, file, isCancelled); },
         [this, file](const Read &saved) {
             const Error error = saved.hasError() ? saved.error() : saved->error;
-            if (!error.hasError())
-                columns->takeSaved(saved->state);
-            else if (window)
+            if (error.hasError() && window) {
                 window->statusBar()->showMessage(
                     tr("What changed since the last save isn't known: %1").arg(error.errorMessage()));
+            } else if (!error.hasError()) {
+                columns->takeSaved(saved->state);
+                Q_EMIT q->fileRead(saved->state);
+            }
         });
 }
 

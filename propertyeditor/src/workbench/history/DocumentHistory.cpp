@@ -160,6 +160,11 @@ bool DocumentHistory::edit(const DocumentState &from, const DocumentState &to, c
     return d->edit(from, to, text);
 }
 
+bool DocumentHistory::beginAt(const DocumentState &file, const QString &text)
+{
+    return d->beginAt(file, text);
+}
+
 void DocumentHistory::redo()
 {
     d->travel(StateChange::Direction::Forth);

@@ -1,7 +1,11 @@
 #include "DocumentHistory_p.h"
+#include "SettingView.h"
 #include "StateDisplay.h"
 
+#include <KPropertySet.h>
+#include <orv/propertyeditor/grid/EditableTabWidget.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
+#include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/table_model/TableHistory.h>
 
 #include <QStatusBar>
@@ -96,6 +100,54 @@ bool DocumentHistory::Private::show(const DocumentState &to, const StateChange &
             tr("Not all of the step can be shown: %1").arg(error.errorMessage()));
     shown.forget(change, to);
     return true;
+}
+
+/// Shows \a to where nobody is led to; what the window shows of it is the state then. Whether the window and
+/// its document are still there, and all of it is shown.
+bool DocumentHistory::Private::bring(const DocumentState &to)
+{
+    const QPointer<DocumentHistory> self(q);
+    const int document = generation;
+    const auto goesOn = [self, this, document] { return self && document == generation; };
+    StateDisplay display(window, goesOn);
+    Error error = display.show(state, to);
+    if (!goesOn())
+        return false;
+    shown.forget(StateChange::between(state, to), to);
+    state = shown.read();
+    static_cast<void>(shown.takeMoves());
+    return !error.ecatch().hasError();
+}
+
+/// The values of the file are set first, so that the properties know them as what they were.
+bool DocumentHistory::Private::beginAt(const DocumentState &file, const QString &text)
+{
+    if (!settleTyping() || steps.count() > 0 || file.tabs.isEmpty())
+        return false;
+    const QPointer<DocumentHistory> self(q);
+    const int document = generation;
+    const DocumentState given = state;
+    const int tab = window->workflowTabs()->widget()->currentIndex();
+    isTravelling = true;
+    const bool isFileShown = bring(file);
+    if (!self || document != generation)
+        return false;
+    const DocumentState before = state;
+    if (isFileShown) {
+        for (const SettingView &column : SettingView::all(window)) {
+            if (KPropertySet *set = column.view ? column.view->propertySet() : nullptr)
+                set->clearModifiedFlags();
+        }
+    }
+    static_cast<void>(bring(given));
+    if (!self || document != generation)
+        return false;
+    window->workflowTabs()->widget()->setCurrentIndex(tab);
+    const bool isStep = isFileShown && !(before == state);
+    if (isStep)
+        append({StateChange::between(before, state), text});
+    arrive(state);
+    return isStep;
 }
 
 void DocumentHistory::Private::arrive(const DocumentState &to)

@@ -37,6 +37,8 @@ public:
     [[nodiscard]] bool edit(const DocumentState &from, const DocumentState &to, const QString &text);
     [[nodiscard]] bool show(const DocumentState &to, const StateChange &change,
                             const std::function<bool()> &prepare);
+    [[nodiscard]] bool beginAt(const DocumentState &file, const QString &text);
+    [[nodiscard]] bool bring(const DocumentState &to);
     void arrive(const DocumentState &to);
     [[nodiscard]] bool moveTables(const HistoryStep &step, StateChange::Direction direction) const;
     void takeUpgraded(const DocumentUpgrade &upgrade);

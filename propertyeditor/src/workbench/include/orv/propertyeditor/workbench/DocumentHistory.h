@@ -36,6 +36,11 @@ public:
     /// No state counts as saved until the next save: of a document that comes from elsewhere than its file.
     void countAsUnsaved();
 
+    /// Of a document that was just shown and comes from elsewhere than its file: what \a file has is what its
+    /// settings were before, and all that differs becomes one step called \a text. False, and nothing is
+    /// done, if somebody has made a step meanwhile, or if the window can't show the file's state.
+    bool beginAt(const DocumentState &file, const QString &text);
+
     [[nodiscard]] int count() const;
     /// How many of the steps are done.
     [[nodiscard]] int index() const;

@@ -13,6 +13,7 @@ QT_FORWARD_DECLARE_CLASS(QAction)
 namespace orv {
 
 class Workbench;
+struct DocumentState;
 
 /// Searches the settings of all tabs by what stands in their captions, names, explanations and values: an
 /// entry of the menu Edit, and a panel with the hits. What a jump unfolds is folded again when the search is
@@ -38,6 +39,10 @@ public:
     void compareWithFile(const QString &file);
 
     [[nodiscard]] QAction *action() const;
+
+Q_SIGNALS:
+    /// What the file has that was asked for.
+    void fileRead(const orv::DocumentState &saved);
 
 private:
     class Private;

@@ -5,6 +5,7 @@
 #include <QKeySequence>
 #include <QMap>
 #include <QObject>
+#include <QPointer>
 #include <QSet>
 
 QT_FORWARD_DECLARE_CLASS(QAction)
@@ -74,10 +75,10 @@ private:
     DocumentHistory *m_history;
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
-    QMap<Qt::DockWidgetArea, QDockWidget *> m_panels; ///< the last of each area; the window's
-    QSet<Qt::DockWidgetArea> m_sized;                 ///< areas whose panels have their size
-    QString m_tip;                                    ///< of the entry of a menu under the pointer
-    QString m_behindTip;                              ///< what the status line told before
+    QMap<Qt::DockWidgetArea, QPointer<QDockWidget>> m_panels; ///< the last of each area; the window's
+    QSet<Qt::DockWidgetArea> m_sized;                         ///< areas whose panels have their size
+    QString m_tip;                                            ///< of the entry of a menu under the pointer
+    QString m_behindTip;                                      ///< what the status line told before
     FindSettings *m_find = nullptr;
     Findings *m_findings = nullptr;
     Upgrades *m_upgrades = nullptr;
