@@ -11,6 +11,7 @@
 #include <orv/widgets/DialogAnswerer.h>
 
 #include <QDir>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QPointer>
 #include <QStatusBar>
@@ -71,9 +72,18 @@ private Q_SLOTS:
     void cleanup();
     void aSaveLeavesFileAndEdits();
     void unsavedChangesThatCantBeKeptAreTold();
+    void unsavedChangesAreKeptAgainOnceThereIsRoom();
     void aRunLeavesNothing();
 
 private:
+    void rename(const QString &name) { QTest::keyClick(typeNameOfFirstTab(*m_window, name), Qt::Key_Return); }
+    /// What is kept for recovery; nothing without a journal.
+    [[nodiscard]] QByteArray journal() const
+    {
+        const QDir folder(m_folder->filePath(u"journals"_s));
+        const QStringList names = folder.entryList({u"*.journal"_s}, QDir::Files);
+        return names.size() == 1 ? TestData::read(folder.filePath(names.first())) : QByteArray();
+    }
     void saveByKey() { QTest::keyClick(m_window->focusWidget(), Qt::Key_S, Qt::ControlModifier); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -135,6 +145,31 @@ void FullDiskTest::unsavedChangesThatCantBeKeptAreTold()
     QTRY_VERIFY(m_window->statusBar()->currentMessage().startsWith(
         u"Unsaved changes can't be kept for recovery: "_s));
     QTRY_VERIFY(m_window->isWindowModified());
+}
+
+void FullDiskTest::unsavedChangesAreKeptAgainOnceThereIsRoom()
+{
+    rename(u"First"_s);
+    QTRY_VERIFY(journal().contains("\"First\""));
+    const QByteArray kept = journal();
+    {
+        const FullDisk full;
+        rename(u"Second"_s);
+        QTRY_VERIFY(m_window->statusBar()->currentMessage().startsWith(
+            u"Unsaved changes can't be kept for recovery: "_s));
+        QCOMPARE(journal(), kept);
+    }
+    rename(u"Third"_s);
+    QTRY_VERIFY(journal().contains("\"Third\""));
+    // What was lost while there was no room is nothing but the name in between.
+    delete m_window;
+    RecoveryStore store(m_folder->filePath(u"journals"_s));
+    const QList<RecoveryEntry> entries = store.entries();
+    QCOMPARE(entries.size(), 1);
+    QCOMPARE(entries.first().file, m_file);
+    const auto taken = store.take(entries.first());
+    QVERIFY2(!taken.hasError(), qPrintable(taken.error().errorMessage()));
+    QCOMPARE(taken->document[u"tabs"_s].toArray().first()[u"name"_s].toString(), u"Third"_s);
 }
 
 void FullDiskTest::aRunLeavesNothing()
