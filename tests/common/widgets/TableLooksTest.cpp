@@ -58,6 +58,7 @@ private Q_SLOTS:
     void colorsOfMeaningStandOut_data();
     void colorsOfMeaningStandOut();
     void aWrongCellHasASignAndABackground();
+    void cutRelativePathsDontReadAsWholeOnes();
     void anEmptyTableSaysWhatToDo();
     void anEmptyTableOfOneLineClipsNothing();
     void aFilterThatNothingMatchesIsTold();
@@ -157,6 +158,21 @@ void TableLooksTest::everythingHasRoomInHalfASmallWindow()
         QVERIFY2(e.editor.rect().contains(place), qPrintable(child->objectName()));
         QVERIFY2(child->width() >= child->minimumSizeHint().width(), qPrintable(child->objectName()));
     }
+}
+
+void TableLooksTest::cutRelativePathsDontReadAsWholeOnes()
+{
+    QList<QStringList> rows = EditorFixture::rows();
+    rows[0][5] = text("data/mab_reference_of_the_first_lot.mzML");
+    rows[1][5] = text("/mab_reference_of_the_first_lot.mzML");
+    rows[2][5] = text("data/mab_reference_of_the_first_lot.mzML");
+    Editor e(rows);
+    e.view()->setColumnWidth(5, e.view()->fontMetrics().averageCharWidth() * 14);
+    const auto picture = [&e](int row) {
+        return e.view()->viewport()->grab(e.view()->visualRect(e.at(row, 5))).toImage();
+    };
+    QVERIFY(picture(0) != picture(1));
+    QCOMPARE(picture(0), picture(2));
 }
 
 WIDGET_REGISTER_TEST(TableLooksTest)

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void savingBetweenStepsOfPropertiesStaysSaved();
     void upgradedDocumentsCountAsUnsaved();
     void stepsOutliveASave();
+    void stepsLeaveAloneWhatOnlyASaveWroteOtherwise();
     void anotherDocumentBeginsAnew();
     void thePlaceIsShown();
     void foldsAndScrollStay();
@@ -340,6 +341,41 @@ void HistoryTest::stepsOutliveASave()
     QVERIFY(edited.shown().contains("10.1234"));
     edited.history->redo();
     QCOMPARE(edited.shown(), saved);
+}
+
+void HistoryTest::stepsLeaveAloneWhatOnlyASaveWroteOtherwise()
+{
+    const LogCapture log;
+    const QTemporaryDir folder;
+    QJsonObject samples = Documents::cell(u"Samples"_s);
+    const QJsonArray rows{QJsonObject{{u"SampleName"_s, u"A"_s}, {u"SamplePath"_s, u"data/a.mzML"_s}}};
+    samples[u"properties"_s] = QJsonArray{
+        QJsonObject{{u"name"_s, u"SamplesTable"_s}, {u"value"_s, QJsonObject{{u"Samples"_s, rows}}}}};
+    const QJsonObject document =
+        Documents::document({Documents::tab(u"Search"_s, {u"Search"_s}, {searchCell()}),
+                             Documents::tab(u"Samples"_s, {u"Samples"_s}, {samples})},
+                            WindowFixture::metadata());
+    const QString path = WindowFixture::write(folder, "a.wflw", document);
+    Edited edited;
+    QCOMPARE(edited.window.openWorkflow(path), WindowFixture::kOpened);
+    edited.type("KarvonCentroidTopk", "500");
+    edited.type("KarvonDigestLetters", "K");
+    edited.history->undo();
+    QVERIFY(edited.window.saveWorkflowToJSON(path));
+    const QByteArray whole = QByteArray("\"") + folder.path().toUtf8() + "/data/a.mzML\"";
+    QVERIFY2(edited.shown().contains(whole), edited.shown().constData());
+    edited.window.tabs().setCurrentIndex(1);
+    edited.history->undo();
+    QCOMPARE(edited.value("KarvonCentroidTopk"), u"1000"_s);
+    QCOMPARE(edited.window.tabs().currentIndex(), 0);
+    QVERIFY(edited.shown().contains(whole));
+    edited.history->redo();
+    edited.history->redo();
+    QCOMPARE(edited.value("KarvonCentroidTopk"), u"500"_s);
+    QCOMPARE(edited.value("KarvonDigestLetters"), u"K"_s);
+    QVERIFY(edited.shown().contains(whole));
+    edited.history->undo();
+    QVERIFY(!edited.history->isModified());
 }
 
 void HistoryTest::anotherDocumentBeginsAnew()

@@ -71,9 +71,11 @@ QString elidedPath(const QString &path, const QFontMetrics &metrics, int width)
         return path;
     const QString name = path.mid(path.lastIndexOf(u'/'));
     const int left = width - metrics.horizontalAdvance(name);
-    const QString folder = metrics.elidedText(path.chopped(name.size()), Qt::ElideMiddle, std::max(left, 0));
-    return left > metrics.averageCharWidth() * 2 ? folder + name
-                                                 : metrics.elidedText(name, Qt::ElideMiddle, width);
+    if (left > metrics.averageCharWidth() * 2)
+        return metrics.elidedText(path.chopped(name.size()), Qt::ElideMiddle, left) + name;
+    // A name with its slash alone would read as a whole path.
+    const QString cut = name.size() < path.size() ? QStringLiteral("\u2026") : QString();
+    return cut + metrics.elidedText(name, Qt::ElideMiddle, width - metrics.horizontalAdvance(cut));
 }
 
 /// What of a cell's text has to be read: of a path its file.

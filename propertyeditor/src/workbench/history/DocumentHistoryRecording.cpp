@@ -40,7 +40,8 @@ void DocumentHistory::Private::takeSaved()
     // The stamps of a save are part of no step.
     steps.followMetadata(state.metadata, written.metadata);
     state.metadata = written.metadata;
-    settle(written);
+    steps.followSaved(state, written);
+    state = written;
     static_cast<void>(shown.takeMoves());
     saved = state;
     field = nullptr;

@@ -1,8 +1,50 @@
 #include "HistorySteps.h"
 
+#include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace orv {
+
+namespace {
+
+struct CellPlace
+{
+    int tab;
+    int column;
+};
+
+bool areShapedAlike(const DocumentState &a, const DocumentState &b)
+{
+    return std::ranges::equal(
+        a.tabs, b.tabs,
+        [](const DocumentState::Tab &one, const DocumentState::Tab &two) { return one.isShapedLike(two); });
+}
+
+/// Of documents of one shape.
+QList<CellPlace> otherCells(const DocumentState &a, const DocumentState &b)
+{
+    QList<CellPlace> places;
+    for (int tab = 0; tab < a.tabs.size(); ++tab) {
+        for (int column = 0; column < a.tabs.at(tab).cells.size(); ++column) {
+            if (!(a.tabs.at(tab).cells.at(column) == b.tabs.at(tab).cells.at(column)))
+                places.append({tab, column});
+        }
+    }
+    return places;
+}
+
+/// Tabs in front of those that a change exchanges have one number at both of its ends.
+bool touches(const StateChange &change, const CellPlace &place)
+{
+    if (change.hasOtherTabs() && place.tab >= change.firstTab())
+        return true;
+    return std::ranges::any_of(change.cells(), [&place](const StateChange::CellChange &cell) {
+        return cell.tab == place.tab && cell.column == place.column;
+    });
+}
+
+} // namespace
 
 qsizetype HistorySteps::heldBytes() const
 {
@@ -85,6 +127,38 @@ void HistorySteps::settle(const DocumentState &state, const DocumentState &actua
     if (m_index < m_steps.size()) {
         StateChange &next = m_steps[m_index].change;
         next = StateChange::between(actual, next.applied(state, Direction::Forth));
+    }
+}
+
+void HistorySteps::followSaved(const DocumentState &state, const DocumentState &written)
+{
+    if (!areShapedAlike(state, written)) {
+        settle(state, written);
+        return;
+    }
+    followSaved(state, written, Direction::Back);
+    followSaved(state, written, Direction::Forth);
+}
+
+void HistorySteps::followSaved(const DocumentState &state, const DocumentState &written, Direction direction)
+{
+    const bool isBack = direction == Direction::Back;
+    DocumentState before = state; // at this end of the step, as it was until the save
+    DocumentState now = written;
+    QList<CellPlace> open = otherCells(state, written);
+    for (int i = isBack ? m_index - 1 : m_index; i >= 0 && i < m_steps.size() && !open.isEmpty();
+         i += isBack ? -1 : 1) {
+        StateChange &change = m_steps[i].change;
+        const DocumentState beyond = change.applied(before, direction);
+        const bool isTouched =
+            open.removeIf([&change](const CellPlace &cell) { return touches(change, cell); }) > 0;
+        DocumentState beyondNow = beyond;
+        for (const auto &[tab, column] : std::as_const(open))
+            beyondNow.tabs[tab].cells[column] = written.tabs.at(tab).cells.at(column);
+        if (isTouched)
+            change = isBack ? StateChange::between(beyondNow, now) : StateChange::between(now, beyondNow);
+        before = beyond;
+        now = beyondNow;
     }
 }
 

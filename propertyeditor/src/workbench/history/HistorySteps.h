@@ -50,10 +50,15 @@ public:
 
     /// The present state is \a actual in place of \a state: the steps around lead there from now on.
     void settle(const DocumentState &state, const DocumentState &actual);
+    /// A save made \a written of \a state. A step that didn't touch what the save wrote otherwise leaves it
+    /// so.
+    void followSaved(const DocumentState &state, const DocumentState &written);
     /// See StateChange::followMetadata().
     void followMetadata(const QJsonObject &before, const QJsonObject &after);
 
 private:
+    void followSaved(const DocumentState &state, const DocumentState &written, Direction direction);
+
     QList<HistoryStep> m_steps;
     int m_index = 0;
 };
