@@ -4,13 +4,6 @@
 <context>
     <name>AddedSamples</name>
     <message numerus="yes">
-        <source>%n sample(s) added.</source>
-        <translation>
-            <numerusform>%n Probe hinzugefügt.</numerusform>
-            <numerusform>%n Proben hinzugefügt.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%1 and %n more</source>
         <translation>
             <numerusform>%1 und %n weitere</numerusform>
@@ -21,12 +14,13 @@
         <source>Not added, because there is no sample in it: %1. Samples are files of mass spectra, folders of vendors and projects.</source>
         <translation>Nicht hinzugefügt, weil keine Probe darin ist: %1. Proben sind Dateien mit Massenspektren, Ordner von Herstellern und Projekte.</translation>
     </message>
-    <message numerus="yes">
-        <source>%n sample(s) not added, because the table has them already.</source>
-        <translation>
-            <numerusform>%n Probe nicht hinzugefügt, weil die Tabelle sie schon hat.</numerusform>
-            <numerusform>%n Proben nicht hinzugefügt, weil die Tabelle sie schon hat.</numerusform>
-        </translation>
+    <message>
+        <source>Samples added: %1.</source>
+        <translation>Hinzugefügte Proben: %1.</translation>
+    </message>
+    <message>
+        <source>Not added, because the table has them already: %1.</source>
+        <translation>Nicht hinzugefügt, da die Tabelle sie schon hat: %1.</translation>
     </message>
 </context>
 <context>
@@ -2506,10 +2500,6 @@ Möchten Sie sie ersetzen?</translation>
         <translation>Vergleichen &amp;mit...</translation>
     </message>
     <message>
-        <source>Comparison</source>
-        <translation>Vergleich</translation>
-    </message>
-    <message>
         <source>Show in what another workflow differs from this one, and take over what you choose</source>
         <translation>Zeigt, worin ein anderer Workflow von diesem abweicht, und übernimmt, was Sie wählen</translation>
     </message>
@@ -2528,6 +2518,10 @@ Möchten Sie sie ersetzen?</translation>
     <message>
         <source>Nothing could be taken over from %1.</source>
         <translation>Aus %1 konnte nichts übernommen werden.</translation>
+    </message>
+    <message>
+        <source>Co&amp;mparison</source>
+        <translation>Ver&amp;gleich</translation>
     </message>
 </context>
 <context>
@@ -2967,10 +2961,6 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
         <translation>%1 (wiederhergestellt)</translation>
     </message>
     <message>
-        <source>Unsaved Workflows</source>
-        <translation>Ungespeicherte Workflows</translation>
-    </message>
-    <message>
         <source>The workflow was recovered. Save it to keep it.</source>
         <translation>Der Workflow wurde wiederhergestellt. Speichern Sie ihn, um ihn zu behalten.</translation>
     </message>
@@ -3009,6 +2999,10 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
     <message>
         <source>The file comes from a newer version of the software and stays as it is. Save under another name.</source>
         <translation>Die Datei stammt von einer neueren Version der Software und bleibt, wie sie ist. Speichern Sie unter einem anderen Namen.</translation>
+    </message>
+    <message>
+        <source>Unsave&amp;d Workflows</source>
+        <translation>&amp;Ungespeicherte Workflows</translation>
     </message>
 </context>
 <context>
@@ -3259,10 +3253,6 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
 <context>
     <name>orv::FindSettings</name>
     <message>
-        <source>Find Settings</source>
-        <translation>Einstellungen suchen</translation>
-    </message>
-    <message>
         <source>&amp;Find Settings...</source>
         <translation>Einstellungen &amp;suchen...</translation>
     </message>
@@ -3286,6 +3276,10 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
         <source>What changed since the last save isn&apos;t known: %1</source>
         <translation>Was sich seit dem letzten Speichern geändert hat, ist nicht bekannt: %1</translation>
     </message>
+    <message>
+        <source>Find &amp;Settings</source>
+        <translation>Einstellungen &amp;suchen</translation>
+    </message>
 </context>
 <context>
     <name>orv::FindingCheck</name>
@@ -3303,10 +3297,6 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
 </context>
 <context>
     <name>orv::Findings</name>
-    <message>
-        <source>Findings</source>
-        <translation>Befunde</translation>
-    </message>
     <message>
         <source>&amp;Check Workflow</source>
         <translation>Workflow &amp;prüfen</translation>
@@ -3346,6 +3336,10 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
     <message>
         <source>The last check found nothing.</source>
         <translation>Die letzte Prüfung hat nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>&amp;Findings</source>
+        <translation>&amp;Befunde</translation>
     </message>
 </context>
 <context>
@@ -4251,12 +4245,9 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
         <source>add oxonium ions</source>
         <translation>Oxonium-Ionen hinzufügen</translation>
     </message>
-    <message numerus="yes">
-        <source>%n peak(s) added.</source>
-        <translation>
-            <numerusform>%n Peak hinzugefügt.</numerusform>
-            <numerusform>%n Peaks hinzugefügt.</numerusform>
-        </translation>
+    <message>
+        <source>Peaks added: %1.</source>
+        <translation>Hinzugefügte Peaks: %1.</translation>
     </message>
 </context>
 <context>
@@ -5097,10 +5088,6 @@ Open it from its file: %2</source>
 <context>
     <name>orv::SameSetting</name>
     <message>
-        <source>Setting in Other Columns</source>
-        <translation>Einstellung in anderen Spalten</translation>
-    </message>
-    <message>
         <source>%1 to %2</source>
         <translation>%1 zu %2</translation>
     </message>
@@ -5139,6 +5126,10 @@ Open it from its file: %2</source>
     <message>
         <source>This window is read only: nothing can be applied.</source>
         <translation>Dieses Fenster ist nur zum Lesen: Nichts kann angewendet werden.</translation>
+    </message>
+    <message>
+        <source>Setting in &amp;Other Columns</source>
+        <translation>Einstellung in anderen Spa&amp;lten</translation>
     </message>
 </context>
 <context>
@@ -5236,6 +5227,21 @@ Open it from its file: %2</source>
     </message>
 </context>
 <context>
+    <name>orv::SampleFileChecker</name>
+    <message>
+        <source>not checked: the folder of the document is not known</source>
+        <translation>nicht geprüft: der Ordner des Dokuments ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>not checked: on a server</source>
+        <translation>nicht geprüft: auf einem Server</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>nicht gefunden</translation>
+    </message>
+</context>
+<context>
     <name>orv::SamplesAndTracesInputWidget</name>
     <message>
         <source>There were too many files or folders to look into all.</source>
@@ -5276,13 +5282,6 @@ Open it from its file: %2</source>
     <message>
         <source>Give samples without a name that of their file</source>
         <translation>Gibt Proben ohne Namen den ihrer Datei</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n sample(s) named.</source>
-        <translation>
-            <numerusform>%n Probe benannt.</numerusform>
-            <numerusform>%n Proben benannt.</numerusform>
-        </translation>
     </message>
     <message>
         <source>&amp;Check Files</source>
@@ -5390,6 +5389,10 @@ Ziehen Sie Dateien oder Ordner hierher, fügen Sie sie mit „Dateien hinzufüge
         <source>No samples were added. %1</source>
         <translation>Es wurden keine Proben hinzugefügt. %1</translation>
     </message>
+    <message>
+        <source>Samples named: %1.</source>
+        <translation>Benannte Proben: %1.</translation>
+    </message>
 </context>
 <context>
     <name>orv::SamplesAndTracesTables</name>
@@ -5433,13 +5436,6 @@ Ziehen Sie Dateien oder Ordner hierher, fügen Sie sie mit „Dateien hinzufüge
         <source>Peak options</source>
         <translation>Peak-Einstellungen</translation>
     </message>
-    <message numerus="yes">
-        <source>%n cell(s) of the samples hold what isn&apos;t allowed there.</source>
-        <translation>
-            <numerusform>%n Zelle der Proben enthält, was dort nicht erlaubt ist.</numerusform>
-            <numerusform>%n Zellen der Proben enthalten, was dort nicht erlaubt ist.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>no sample %1</source>
         <translation>keine Probe %1</translation>
@@ -5450,6 +5446,10 @@ Ziehen Sie Dateien oder Ordner hierher, fügen Sie sie mit „Dateien hinzufüge
             <numerusform>%n weitere</numerusform>
             <numerusform>%n weitere</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Cells of the samples that hold what isn&apos;t allowed there: %1.</source>
+        <translation>Zellen der Proben mit unzulässigem Inhalt: %1.</translation>
     </message>
 </context>
 <context>
@@ -5524,10 +5524,6 @@ Ziehen Sie FASTA-Dateien hierher, oder fügen Sie eine Zeile hinzu und wählen S
     <message>
         <source>A command that gives the column in the file the selected settings</source>
         <translation>Ein Befehl, der der Spalte in der Datei die gewählten Einstellungen gibt</translation>
-    </message>
-    <message>
-        <source>Settings Not Pasted</source>
-        <translation>Nicht eingefügte Einstellungen</translation>
     </message>
     <message>
         <source>Settings that were not pasted</source>
@@ -5632,6 +5628,10 @@ Ziehen Sie FASTA-Dateien hierher, oder fügen Sie eine Zeile hinzu und wählen S
     <message>
         <source>%1 settings of %2 had their values already.</source>
         <translation>%1 Einstellungen von %2 hatten ihre Werte schon.</translation>
+    </message>
+    <message>
+        <source>Settings Not &amp;Pasted</source>
+        <translation>N&amp;icht eingefügte Einstellungen</translation>
     </message>
 </context>
 <context>
@@ -6221,10 +6221,6 @@ Fügen Sie Zellen einer Tabellenkalkulation ein (Strg+V), ziehen oder importiere
         <translation>Was die Aktualisierung von %1 auf %2 ändert; vor dem Speichern wird nichts geschrieben:</translation>
     </message>
     <message>
-        <source>Upgrade</source>
-        <translation>Aktualisierung</translation>
-    </message>
-    <message>
         <source>Upgraded from %1 to %2. What that changed stands in %3.</source>
         <translation>Von %1 auf %2 aktualisiert. Was das geändert hat, steht in %3.</translation>
     </message>
@@ -6255,6 +6251,10 @@ Fügen Sie Zellen einer Tabellenkalkulation ein (Strg+V), ziehen oder importiere
     <message>
         <source>%1 Nothing but the version changed.</source>
         <translation>%1 Nichts als die Version hat sich geändert.</translation>
+    </message>
+    <message>
+        <source>&amp;Upgrade</source>
+        <translation>&amp;Aktualisierung</translation>
     </message>
 </context>
 <context>

@@ -70,10 +70,10 @@ void TestCellPlace::whatIsNotThereIsToldWithWhatIs_data()
     QTest::newRow("column") << u"First"_s << u"B"_s << 0
                             << u"There is no column \"B\" in the tab \"First\"."_s << u"There is: A."_s;
     QTest::newRow("row") << u"Second"_s << u"B"_s << 2 << u"There is no row 2 in the column \"B\"."_s
-                         << u"It has 2 row(s), counted from 0."_s;
+                         << u"Its rows: 2, counted from 0."_s;
     QTest::newRow("negative row") << u"Second"_s << u"B"_s << -1
                                   << u"There is no row -1 in the column \"B\"."_s
-                                  << u"It has 2 row(s), counted from 0."_s;
+                                  << u"Its rows: 2, counted from 0."_s;
 }
 
 void TestCellPlace::whatIsNotThereIsToldWithWhatIs()

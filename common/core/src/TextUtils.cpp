@@ -36,12 +36,12 @@ QString stringListToHtmlList(const QStringList &texts)
 
 QString errorsListToHtmlList(const QStringList &errors)
 {
-    return headed(TextUtilsTr::tr("%n error(s)", nullptr, int(errors.size())), errors);
+    return headed(TextUtilsTr::tr("Errors: %1").arg(errors.size()), errors);
 }
 
 QString warningsListToHtmlList(const QStringList &warnings)
 {
-    return headed(TextUtilsTr::tr("%n warning(s)", nullptr, int(warnings.size())), warnings);
+    return headed(TextUtilsTr::tr("Warnings: %1").arg(warnings.size()), warnings);
 }
 
 QString errorsListToHtmlList(const QStringList &errors, const QString &heading)

@@ -480,8 +480,7 @@ bool SamplesAndTracesTables::validate(QStringList *warnings, QStringList *errors
     findProblems(*d->traces->sheet(), tr("Traces"), AcrossRows::Yes, &places);
     findProblems(*d->presets->sheet(), tr("Peak options"), AcrossRows::Yes, &places);
     if (!places.isEmpty() && errors)
-        errors->append(
-            tr("%n cell(s) of the samples hold what isn't allowed there.", nullptr, int(places.size())));
+        errors->append(tr("Cells of the samples that hold what isn't allowed there: %1.").arg(places.size()));
     if (isUnreadable() && errors)
         errors->append(tr("The samples can't be read."));
     if (details)

@@ -69,7 +69,7 @@ Result<CellPlace> CellPlace::find(const QJsonObject &document, const QString &ta
     if (row < 0 || row >= rows) {
         return Error(ErrorCode::InvalidContent,
                      tr("There is no row %1 in the column \"%2\".").arg(row).arg(place.columnName))
-            .addDetail(tr("It has %1 row(s), counted from 0.").arg(rows));
+            .addDetail(tr("Its rows: %1, counted from 0.").arg(rows));
     }
     place.row = row;
     place.cell = row * columns.size() + place.column;

@@ -6,9 +6,11 @@
 #include "TestData.h"
 #include "WidgetTest.h"
 
+#include <orv/core_ms/SampleFileChecker.h>
 #include <orv/propertyeditor/window/WorkflowIcons.h>
 #include <orv/propertyeditor/workbench/RecoveryStore.h>
 #include <orv/propertyeditor/workflow/WorkflowType.h>
+#include <orv/resources/ResourceReferenceUtils.h>
 #include <orv/widgets/CoreMainWindow.h>
 
 #include <QDir>
@@ -189,6 +191,8 @@ void EditorApplicationTest::windowsSpeakGerman()
         menus.append(menu->text());
     QCOMPARE(menus, QStringList({u"&Datei"_s, u"&Bearbeiten"_s, u"&Ansicht"_s, u"&Hilfe"_s}));
     QVERIFY(window.windowTitle().startsWith(u"Projekt anlegen"_s));
+    QCOMPARE(SampleFileChecker::askDisk(ResourceReferenceUtils::fromString(u"/no/such.mzML"_s)).text,
+             u"nicht gefunden"_s);
     QVERIFY(readEditorArguments({u"editor"_s, u"--help"_s}).answer->text.contains(u"Workflows, die"_s));
 }
 

@@ -159,7 +159,7 @@ void PeakFilterDialog::addCommonIons()
     TableSheet *const sheet = d->table->sheet();
     const Error error = sheet->insertRows(sheet->rowCount(), rows, tr("add oxonium ions"));
     Q_EMIT d->editor->view()->said(error.hasError() ? error.errorMessage()
-                                                    : tr("%n peak(s) added.", nullptr, int(rows.size())));
+                                                    : tr("Peaks added: %1.").arg(rows.size()));
 }
 
 QString PeakFilterDialog::getPeakFilterFromUser(const QString &text, QWidget *parent, bool *ok)

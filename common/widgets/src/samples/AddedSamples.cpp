@@ -38,10 +38,9 @@ QString wordsOnAdded(int added, qsizetype given)
 {
     QStringList words;
     if (added > 0 || given == 0)
-        words.append(AddedSamplesTr::tr("%n sample(s) added.", nullptr, added));
+        words.append(AddedSamplesTr::tr("Samples added: %1.").arg(added));
     if (const int known = int(given) - added; known > 0)
-        words.append(AddedSamplesTr::tr("%n sample(s) not added, because the table has them already.",
-                                        nullptr, known));
+        words.append(AddedSamplesTr::tr("Not added, because the table has them already: %1.").arg(known));
     return words.join(u' ');
 }
 

@@ -179,7 +179,7 @@ void SamplesAndTracesInputWidget::addCommands()
             const Result<int> named = d->tables->nameByFiles();
             say(named.hasError() ? named.error().errorMessage()
                 : *named == 0    ? tr("All samples with a file have names already.")
-                                 : tr("%n sample(s) named.", nullptr, *named));
+                                 : tr("Samples named: %1.").arg(*named));
         });
     add("checkFiles", IconName::Find, tr("&Check Files"), tr("Look again whether the files are there"),
         [this] {

@@ -170,7 +170,7 @@ void SamplesReachedTest::addedSamplesAreSelectedSeenAndTold()
     area.verticalScrollBar()->setValue(0);
     Hands::press(*widget, "addFiles");
     QTRY_COMPARE(widget->samplesInput().size(), 4);
-    QCOMPARE(widget->message(), u"2 sample(s) added."_s);
+    QCOMPARE(widget->message(), u"Samples added: 2."_s);
     const QList<QModelIndex> rows = widget->table()->selectionModel()->selectedRows();
     QCOMPARE(rows.size(), 2);
     QCOMPARE(rows[0].row() + rows[1].row(), 2 + 3);
@@ -212,8 +212,7 @@ void SamplesReachedTest::samplesThatAreThereAreTold()
 {
     Samples widget;
     widget.addNewSampleFiles({{u"a/lot1.raw"_s, u"lot 1"_s}, {u"/d/new.raw"_s, u"new"_s}});
-    QCOMPARE(widget.message(),
-             u"1 sample(s) added. 1 sample(s) not added, because the table has them already."_s);
+    QCOMPARE(widget.message(), u"Samples added: 1. Not added, because the table has them already: 1."_s);
 }
 
 void SamplesReachedTest::theDialogOffersSamplesFirst()

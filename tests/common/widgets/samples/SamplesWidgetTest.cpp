@@ -227,7 +227,7 @@ void SamplesWidgetTest::filesAndFoldersAreDropped()
     for (const SamplesInput::Entry &entry : widget.samplesInput())
         names.append(entry.name);
     QCOMPARE(names.sliced(2), (QStringList{u"x"_s, u"vendor"_s, u"y2"_s, u"y10"_s}));
-    QCOMPARE(widget.message(), u"4 sample(s) added."_s);
+    QCOMPARE(widget.message(), u"Samples added: 4."_s);
     QVERIFY(Hands::notice(widget).contains(u": z.doc."_s));
     widget.samples()->action(TableView::Command::Undo)->trigger();
     QCOMPARE(widget.jsonContent(), sampleContent());
