@@ -60,6 +60,7 @@ private Q_SLOTS:
     void theSearchHasRoom();
     void theImportHasRoom();
     void dialogsHaveRoom();
+    void dialogsFitHalfASmallScreen();
     void progressCountsInPlurals();
 };
 
@@ -109,6 +110,22 @@ void LongTextsTest::dialogsHaveRoom()
     QVERIFY(dialog.minimumSizeHint().width() <= 1280);
     QTRY_COMPARE(clipped(dialog).join(u'\n'), QString());
     QCOMPARE(untranslated(dialog), QStringList());
+}
+
+void LongTextsTest::dialogsFitHalfASmallScreen()
+{
+    constexpr int kHalf = 640;
+    TableImportDialog import(text("a.csv"), "Name,Mass\na,1\nb,x\n", EditorFixture::columns());
+    TargetProjectPathChooserDialog target;
+    for (QDialog *dialog : {static_cast<QDialog *>(&import), static_cast<QDialog *>(&target)}) {
+        dialog->show();
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        QVERIFY2(dialog->minimumSizeHint().width() <= kHalf,
+                 qPrintable(QString::number(dialog->minimumSizeHint().width())));
+        dialog->resize(kHalf, dialog->height());
+        QCOMPARE(dialog->width(), kHalf);
+        QTRY_COMPARE(clipped(*dialog).join(u'\n'), QString());
+    }
 }
 
 void LongTextsTest::progressCountsInPlurals()

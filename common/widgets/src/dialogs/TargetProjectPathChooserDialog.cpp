@@ -31,7 +31,6 @@ void TargetProjectPathChooserDialog::build()
     m_folder = new QLineEdit(
         QDir::toNativeSeparators(FileSystemSettings::folder(FileSystemSettings::NewProjectLocation)));
     m_folder->setObjectName(QStringLiteral("folder"));
-    m_folder->setMinimumWidth(fontMetrics().averageCharWidth() * 50);
     label->setBuddy(m_folder);
     auto *const browseButton = new QPushButton(tr("&Browse..."));
     browseButton->setObjectName(QStringLiteral("browse"));
@@ -42,6 +41,7 @@ void TargetProjectPathChooserDialog::build()
     m_problem = new QLabel;
     m_problem->setObjectName(QStringLiteral("problem"));
     m_problem->setTextFormat(Qt::PlainText);
+    m_problem->setWordWrap(true);
     QPalette colors = m_problem->palette();
     colors.setColor(QPalette::WindowText, MeaningColors::error(palette()));
     m_problem->setPalette(colors);
@@ -66,6 +66,9 @@ void TargetProjectPathChooserDialog::build()
     connect(browseButton, &QPushButton::clicked, this, &TargetProjectPathChooserDialog::browse);
     connect(m_buttons, &QDialogButtonBox::accepted, this, &TargetProjectPathChooserDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    constexpr int kLettersOfPath = 60;
+    resize(std::max(sizeHint().width(), fontMetrics().averageCharWidth() * kLettersOfPath),
+           sizeHint().height());
 }
 
 void TargetProjectPathChooserDialog::browse()

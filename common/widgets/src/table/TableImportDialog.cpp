@@ -24,6 +24,10 @@ ChoiceBox *importChoice(const QString &name)
 {
     auto *box = new ChoiceBox;
     box->setAccessibleName(name);
+    // The longest choice is seen when the list opens; four boxes side by side don't make the dialog as wide.
+    constexpr int kLetters = 9;
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(kLetters);
     return box;
 }
 
