@@ -84,6 +84,7 @@ class DialogsTest : public WidgetTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void lettersPressTheButtonsOfABox();
     void aScriptSeesAndAnswersABox();
     void closingABoxIsTheCarefulChoice_data();
     void closingABoxIsTheCarefulChoice();
@@ -295,6 +296,24 @@ void DialogsTest::longTextsOfBoxesScroll()
         QVERIFY(area->viewport()->height() > 3 * area->fontMetrics().height());
     });
     ORVStyle::warning(nullptr, u"Notes"_s, text, QMessageBox::Ok);
+}
+
+void DialogsTest::lettersPressTheButtonsOfABox()
+{
+    QStringList texts;
+    const QList<std::pair<Qt::Key, ORVStyle::Button>> keys{
+        {Qt::Key_A, QMessageBox::Yes}, {Qt::Key_S, QMessageBox::No}, {Qt::Key_C, QMessageBox::Cancel}};
+    for (const auto &[key, wanted] : keys) {
+        std::optional<QMessageBox::StandardButton> pressed;
+        const LookingAnswerer looking([&, key = key](QDialog &dialog) {
+            auto &box = static_cast<QMessageBox &>(dialog);
+            connect(&box, &QMessageBox::buttonClicked, &box,
+                    [&](QAbstractButton *button) { pressed = box.standardButton(button); });
+            QTest::keyClick(&box, key, Qt::AltModifier);
+        });
+        askForUpgrade();
+        QCOMPARE(pressed, wanted);
+    }
 }
 
 WIDGET_REGISTER_TEST(DialogsTest)

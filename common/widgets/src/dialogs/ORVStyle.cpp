@@ -1,5 +1,6 @@
 #include "orv/widgets/ORVStyle.h"
 
+#include "ButtonLetters.h"
 #include "MessageBox.h"
 
 #include <orv/core/Settings.h>
@@ -75,6 +76,10 @@ void fillBox(MessageBox &box, const BoxContent &content)
         if (QAbstractButton *const button = box.button(text.key()))
             button->setText(text.value());
     }
+    QList<QAbstractButton *> answers = box.buttons();
+    answers.removeIf(
+        [&box](QAbstractButton *button) { return box.standardButton(button) == QMessageBox::NoButton; });
+    ButtonLetters::give(answers);
     const ORVStyle::Button escape = escapeButton(content);
     box.setEscapeButton(escape);
     box.setDefaultButton(content.defaultButton != QMessageBox::NoButton ? content.defaultButton : escape);
