@@ -64,6 +64,7 @@ constexpr std::array kIcons = {
     IconRow{IconName::Question, "question", nullptr},
     IconRow{IconName::Information, "information", nullptr},
     IconRow{IconName::Changed, "changed", &MeaningColors::changed},
+    IconRow{IconName::Passed, "passed", nullptr},
 };
 
 const IconRow &rowOf(IconName name)

@@ -54,6 +54,7 @@ enum class IconName
     Question,
     Information,
     Changed,
+    Passed,
 };
 
 /// Icons that follow the palette of the application: drawn in the colour of its text, of its disabled text or
