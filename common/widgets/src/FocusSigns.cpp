@@ -1,8 +1,13 @@
 #include "FocusSigns.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QEvent>
+#include <QHeaderView>
+#include <QLabel>
 #include <QPainter>
+#include <QPointer>
+#include <QScrollArea>
 #include <QTabBar>
 #include <QToolButton>
 
@@ -17,11 +22,69 @@ QRect frameOf(const QWidget &control)
     return qobject_cast<const QToolButton *>(&control) ? control.rect() : QRect();
 }
 
+void drawFrame(QWidget *control, const QRect &frame)
+{
+    constexpr int kPen = 2;
+    QPainter painter(control);
+    painter.setPen(QPen(control->palette().color(QPalette::Highlight), kPen, Qt::SolidLine, Qt::SquareCap,
+                        Qt::MiterJoin));
+    painter.drawRect(frame.adjusted(1, 1, -1, -1));
+}
+
+/// What lies above all parts of a control, for those whose own painting is covered by their parts.
+class FrameAbove : public QWidget
+{
+public:
+    explicit FrameAbove(QWidget *control)
+        : QWidget(control)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setFocusPolicy(Qt::NoFocus);
+        control->installEventFilter(this);
+        setGeometry(control->rect());
+        raise();
+        show();
+    }
+
+    static bool isFor(const QWidget *control)
+    {
+        if (const auto *const list = qobject_cast<const QAbstractItemView *>(control))
+            return qobject_cast<const QHeaderView *>(list) || !list->currentIndex().isValid();
+        return qobject_cast<const QScrollArea *>(control) || qobject_cast<const QLabel *>(control);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == parent() && event->type() == QEvent::Resize)
+            setGeometry(parentWidget()->rect());
+        return false;
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        if (isFor(parentWidget()))
+            drawFrame(this, rect());
+    }
+};
+
+void moveFrame(QPointer<FrameAbove> *frame, QWidget *now)
+{
+    delete *frame;
+    if (FrameAbove::isFor(now))
+        *frame = new FrameAbove(now);
+}
+
 /// Paints over what the control has painted itself.
 class FramePainter : public QObject
 {
 public:
-    using QObject::QObject;
+    explicit FramePainter(QApplication *application)
+        : QObject(application)
+    {
+        connect(application, &QApplication::focusChanged, this,
+                [this](QWidget *, QWidget *now) { moveFrame(&m_above, now); });
+    }
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
@@ -34,15 +97,12 @@ public:
         m_isPainting = true;
         watched->event(event);
         m_isPainting = false;
-        constexpr int kPen = 2;
-        QPainter painter(control);
-        painter.setPen(QPen(control->palette().color(QPalette::Highlight), kPen, Qt::SolidLine, Qt::SquareCap,
-                            Qt::MiterJoin));
-        painter.drawRect(frame.adjusted(1, 1, -1, -1));
+        drawFrame(control, frame);
         return true;
     }
 
 private:
+    QPointer<FrameAbove> m_above;
     bool m_isPainting = false;
 };
 
