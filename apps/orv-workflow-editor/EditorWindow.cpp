@@ -16,7 +16,6 @@
 #include <orv/widgets/ORVFileDialog.h>
 #include <orv/widgets/ORVStyle.h>
 
-#include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDesktopServices>
@@ -76,10 +75,10 @@ EditorWindow::EditorWindow(CoreMainWindow *mainWindow, std::shared_ptr<RecoveryS
     setAcceptDrops(true);
     buildFileMenu();
     followFile();
-    auto *workbench = new Workbench(this);
-    buildRecovery(workbench);
+    m_workbench = new Workbench(this);
+    buildRecovery();
     buildHelpMenu();
-    restoreLayout(workbench);
+    restoreLayout();
     statusBar()->showMessage(tr("Open a workflow with %1, or drop its file here.")
                                  .arg(QKeySequence(QKeySequence::Open).toString(QKeySequence::NativeText)));
     connect(this, &PropertyEditorWindow::documentSaved, this,
@@ -95,11 +94,11 @@ EditorWindow::~EditorWindow()
         m_keeper->flush();
 }
 
-void EditorWindow::restoreLayout(Workbench *workbench)
+void EditorWindow::restoreLayout()
 {
     restoreGeometry(as::value(kGeometry).toByteArray());
     if (restoreState(as::value(kPanels).toByteArray()))
-        workbench->keepPanelSizes();
+        m_workbench->keepPanelSizes();
     if (m_recoveryPanel)
         m_recoveryPanel->hide();
 }
@@ -286,7 +285,7 @@ void EditorWindow::openRecent(const QString &path)
     if (isThere)
         open(*isThere);
     else
-        statusBar()->showMessage(tr("Waiting for %1...").arg(QDir::toNativeSeparators(path)));
+        tell(tr("Waiting for %1...").arg(QDir::toNativeSeparators(path)));
 }
 
 PropertyEditorWindow::OpenStatus EditorWindow::openWorkflow(const QString &filePath,
@@ -345,9 +344,7 @@ void EditorWindow::run(const PropertyEditor::Content &content, const Path &outpu
 
 void EditorWindow::tell(const QString &message)
 {
-    statusBar()->showMessage(message);
-    QAccessibleEvent event(statusBar(), QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    m_workbench->tell(message);
 }
 
 void EditorWindow::dragEnterEvent(QDragEnterEvent *event)

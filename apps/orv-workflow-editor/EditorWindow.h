@@ -58,7 +58,7 @@ private:
     void followFile();
     /// \a stamp is that of the content which is shown.
     void rememberFile(const std::optional<FileStamp> &stamp);
-    void buildRecovery(Workbench *workbench);
+    void buildRecovery();
     void buildHelpMenu();
     void fillRecentMenu(QMenu *menu);
     void markIfMissing(QMenu *menu, const QString &path);
@@ -76,7 +76,7 @@ private:
     [[nodiscard]] bool showRecovered(RecoveryStore::Taken &taken, const RecoveryEntry &entry,
                                      const QString &path);
     [[nodiscard]] std::optional<PropertyEditorContent> stateToKeep() const;
-    void restoreLayout(Workbench *workbench);
+    void restoreLayout();
     [[nodiscard]] bool isPristine() const;
     [[nodiscard]] EditorWindow *anotherWindow() const;
 

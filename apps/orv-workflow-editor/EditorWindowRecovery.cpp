@@ -47,12 +47,11 @@ bool isOfThisVersion(const QString &path)
 
 } // namespace
 
-void EditorWindow::buildRecovery(Workbench *workbench)
+void EditorWindow::buildRecovery()
 {
     if (!m_store)
         return;
-    m_workbench = workbench;
-    m_history = workbench->history();
+    m_history = m_workbench->history();
     m_keeper = new JournalKeeper(this, m_store,
                                  {[this] { return stateToKeep(); },
                                   [this] { return dFunc()->getLastSavedWorkflow(); },
@@ -60,8 +59,8 @@ void EditorWindow::buildRecovery(Workbench *workbench)
     connect(m_history, &DocumentHistory::stateChanged, m_keeper, &JournalKeeper::noteEdit);
     connect(m_history, &DocumentHistory::upgradeDropped, m_keeper, &JournalKeeper::beginWithoutFile);
     m_recovery = new RecoveryPanel(m_store);
-    m_recoveryPanel = workbench->addPanel(m_recovery, QStringLiteral("recovery"), tr("Unsaved Workflows"),
-                                          Qt::BottomDockWidgetArea);
+    m_recoveryPanel = m_workbench->addPanel(m_recovery, QStringLiteral("recovery"), tr("Unsave&d Workflows"),
+                                            Qt::BottomDockWidgetArea);
     connect(m_recoveryPanel->toggleViewAction(), &QAction::triggered, m_recovery, [this](bool isShown) {
         if (isShown)
             m_recovery->refresh();

@@ -8,6 +8,7 @@
 #include <orv/core/PlainTip.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
+#include <orv/widgets/Icons.h>
 
 #include <QAccessible>
 #include <QAction>
@@ -62,17 +63,22 @@ void StatusLine::showFindings()
 {
     const Findings &findings = *m_workbench->findings();
     QString text = tr("Not checked");
+    QIcon icon = findings.checkAction()->icon();
     if (findings.state() == Findings::State::Checking)
         text = tr("Checking...");
     else if (findings.state() == Findings::State::Checked &&
              findings.errorCount() + findings.warningCount() > 0)
         text = tr("Errors: %1, warnings: %2").arg(findings.errorCount()).arg(findings.warningCount());
-    else if (findings.state() == Findings::State::Checked)
+    else if (findings.state() == Findings::State::Checked) {
         text = tr("No findings");
+        icon = Icons::icon(IconName::Passed);
+    }
+    if (findings.errorCount() > 0)
+        icon = FindingSigns::icon(FindingSigns::Level::Error);
+    else if (findings.warningCount() > 0)
+        icon = FindingSigns::icon(FindingSigns::Level::Warning);
     m_findings->setText(text);
-    m_findings->setIcon(findings.errorCount() > 0     ? FindingSigns::icon(FindingSigns::Level::Error)
-                        : findings.warningCount() > 0 ? FindingSigns::icon(FindingSigns::Level::Warning)
-                                                      : findings.checkAction()->icon());
+    m_findings->setIcon(icon);
     m_findings->setAccessibleName(tr("Findings: %1").arg(text));
     m_findings->setToolTip(findings.checkAction()->toolTip());
 }
@@ -93,6 +99,8 @@ void StatusLine::tell(const PropertyEditorWindow *window, const QString &text)
     if (!window)
         return;
     QStatusBar *bar = window->statusBar();
+    // What is told again is news.
+    bar->clearMessage();
     bar->showMessage(text);
     QAccessibleEvent event(bar, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);

@@ -2,10 +2,13 @@
 
 #include "PlaceKeeper.h"
 #include "StatusLine.h"
+#include "StatusMessage.h"
 #include "orv/propertyeditor/workbench/Comparison.h"
 #include "orv/propertyeditor/workbench/FindSettings.h"
 #include "orv/propertyeditor/workbench/Findings.h"
 #include "orv/propertyeditor/workbench/Upgrades.h"
+#include "panels/LeavablePanel.h"
+#include "panels/PanelFocus.h"
 #include "settings/CurrentSetting.h"
 #include "transfer/SameSetting.h"
 #include "transfer/SettingClipboard.h"
@@ -20,8 +23,7 @@
 
 #include <QDockWidget>
 #include <QMenuBar>
-#include <QStatusBar>
-#include <QStatusTipEvent>
+#include <QPointer>
 
 namespace orv {
 
@@ -31,6 +33,7 @@ Workbench::Workbench(PropertyEditorWindow *window)
     , m_editMenu(window->menuBar()->addMenu(tr("&Edit")))
     , m_viewMenu(window->menuBar()->addMenu(tr("&View")))
     , m_history(new DocumentHistory(window))
+    , m_focus(new PanelFocus(window, this))
 {
     ControlHelp::install();
     m_editMenu->setToolTipsVisible(true);
@@ -53,26 +56,10 @@ Workbench::Workbench(PropertyEditorWindow *window)
     m_comparison = new Comparison(this);
     addTabCommands();
     new StatusLine(this);
-    window->installEventFilter(this);
+    followMessages();
 }
 
 Workbench::~Workbench() = default;
-
-/// A pointer that passes over entries of menus doesn't wipe out what was told, and leaves no tip behind.
-bool Workbench::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched != m_window || event->type() != QEvent::StatusTip)
-        return QObject::eventFilter(watched, event);
-    QStatusBar *bar = m_window->statusBar();
-    const QString tip = static_cast<const QStatusTipEvent *>(event)->tip();
-    const bool isTipShown = !m_tip.isEmpty() && bar->currentMessage() == m_tip;
-    if (!tip.isEmpty() && !isTipShown)
-        m_behindTip = bar->currentMessage();
-    else if (tip.isEmpty() && isTipShown)
-        bar->showMessage(m_behindTip);
-    m_tip = tip;
-    return tip.isEmpty();
-}
 
 void Workbench::addHistory()
 {
@@ -96,6 +83,21 @@ void Workbench::addTabCommands()
     m_viewMenu->addAction(tr("Next Ta&b"), QKeySequence(Qt::CTRL | Qt::Key_PageDown), this, [go] { go(1); });
     m_viewMenu->addAction(tr("Previous &Tab"), QKeySequence(Qt::CTRL | Qt::Key_PageUp), this,
                           [go] { go(-1); });
+}
+
+void Workbench::followMessages()
+{
+    auto *message = new StatusMessage(m_window, this);
+    connect(m_history, &DocumentHistory::changed, message, &StatusMessage::outlive);
+    connect(m_window, &PropertyEditorWindow::documentShown, message, &StatusMessage::outlive);
+    connect(m_window, &PropertyEditorWindow::documentSaved, message, &StatusMessage::outlive);
+    for (const QAction *command : {m_findings->checkAction(), m_comparison->action(), m_upgrades->action()})
+        connect(command, &QAction::triggered, message, &StatusMessage::outlive);
+}
+
+void Workbench::tell(const QString &text)
+{
+    StatusLine::tell(m_window, text);
 }
 
 void Workbench::updateHistory()
@@ -127,22 +129,27 @@ void Workbench::updateTitle()
 QDockWidget *Workbench::addPanel(QWidget *widget, const QString &name, const QString &title,
                                  Qt::DockWidgetArea area, const QKeySequence &shortcut)
 {
-    auto *panel = new QDockWidget(title, m_window);
+    const QString shownTitle = QString(title).remove(u'&');
+    auto *panel = new QDockWidget(shownTitle, m_window);
     panel->setObjectName(name);
-    panel->setAccessibleName(title);
+    panel->setAccessibleName(shownTitle);
     panel->setWidget(widget);
     m_window->addDockWidget(area, panel);
     if (QDockWidget *before = m_panels.value(area))
         m_window->tabifyDockWidget(before, panel);
     m_panels.insert(area, panel);
     panel->hide();
+    m_focus->watch(panel);
     QAction *toggle = panel->toggleViewAction();
+    toggle->setText(title);
     toggle->setShortcut(shortcut);
     // Of panels that share a side one is in front: the one that was asked for.
-    connect(toggle, &QAction::triggered, panel, [panel](bool isShown) {
+    connect(toggle, &QAction::triggered, this, [this, panel](bool isShown) {
         if (isShown)
-            panel->raise();
+            enterPanel(panel);
     });
+    if (auto *leavable = qobject_cast<LeavablePanel *>(widget))
+        connect(leavable, &LeavablePanel::left, this, [this, panel] { leavePanel(panel); });
     m_viewMenu->insertAction(m_behindPanels, toggle);
     connect(panel, &QDockWidget::visibilityChanged, this,
             [this, shown = QPointer(panel), area](bool isShown) {
@@ -150,6 +157,22 @@ QDockWidget *Workbench::addPanel(QWidget *widget, const QString &name, const QSt
                     sizeOnce(shown, area);
             });
     return panel;
+}
+
+void Workbench::enterPanel(QDockWidget *panel)
+{
+    panel->show();
+    panel->raise();
+    panel->widget()->show();
+    PanelFocus::enter(panel);
+}
+
+void Workbench::leavePanel(QDockWidget *panel)
+{
+    const QPointer<QDockWidget> closing(panel);
+    m_focus->leave(panel);
+    if (closing)
+        closing->hide();
 }
 
 void Workbench::sizeOnce(QDockWidget *panel, Qt::DockWidgetArea area)

@@ -144,6 +144,8 @@ private Q_SLOTS:
     void aCheckWithoutFindingsOpensNothing();
     void placesAreMarked();
     void aSeverityHasOneSign();
+    void passedChecksHaveASignOfTheirOwn();
+    void aFewFindingsAreReadWhole();
     void allColumnsAreInSight_data();
     void allColumnsAreInSight();
     void aClickGoesToTheSetting();
@@ -253,6 +255,35 @@ void FindingsTest::aSeverityHasOneSign()
              picture(Icons::icon(IconName::Warning)));
     const TableModel *model = c.table().tableModel();
     QCOMPARE(model->headerData(1, Qt::Vertical, TableModel::IsErrorRole), QVariant(true));
+}
+
+void FindingsTest::passedChecksHaveASignOfTheirOwn()
+{
+    const QTemporaryDir folder;
+    Checked c(faultless(folder));
+    const auto *told = c.child<QToolButton>("statusFindings");
+    const auto picture = [](const QIcon &icon) { return icon.pixmap(32).toImage(); };
+    QCOMPARE(picture(told->icon()), picture(Icons::icon(IconName::Question)));
+    QVERIFY(c.check());
+    QCOMPARE(told->text(), u"No findings"_s);
+    QCOMPARE(picture(told->icon()), picture(Icons::icon(IconName::Passed)));
+}
+
+void FindingsTest::aFewFindingsAreReadWhole()
+{
+    Checked c;
+    QVERIFY(c.check());
+    for (const int width : {1280, 640}) {
+        c.window->resize(width, 760);
+        QTRY_COMPARE(c.window->width(), width);
+        for (int row = 0; row < c.list().model()->rowCount(); ++row) {
+            const QModelIndex message = c.list().model()->index(row, kMessage);
+            const QRect cell = c.list().visualRect(message);
+            const QRect needed = c.list().fontMetrics().boundingRect(
+                QRect(0, 0, cell.width(), QWIDGETSIZE_MAX), Qt::TextWordWrap, message.data().toString());
+            QVERIFY2(cell.height() >= needed.height(), qPrintable(message.data().toString()));
+        }
+    }
 }
 
 void FindingsTest::allColumnsAreInSight_data()

@@ -92,6 +92,7 @@ private Q_SLOTS:
     void theBoxOfAllChecksThoseThatCanBeEdited();
     void whatCantBeEditedSaysWhy();
     void editsUndoAndColumnsShowInTheList();
+    void theKeyOpensTheListForKeysAndEscapeGivesThemBack();
     void enterGoesToTheColumnAndEscapeBack();
     void everythingIsNamedForScreenReaders();
     void manyColumnsAreReadOnceForAnEdit();
@@ -276,6 +277,24 @@ void SameSettingTest::editsUndoAndColumnsShowInTheList()
     QTRY_COMPARE(s.places().size(), 3);
     s.window->clear();
     QTRY_COMPARE(s.places().size(), 0);
+}
+
+void SameSettingTest::theKeyOpensTheListForKeysAndEscapeGivesThemBack()
+{
+    const Same s;
+    const QWidget *column = s.view(0, 0)->editorView();
+    QVERIFY(s.list().hasFocus());
+    QCOMPARE(s.list().currentIndex().row(), 0);
+    QTest::keyClick(&s.list(), Qt::Key_Escape);
+    QVERIFY(!s.panel("sameSettingPanel")->isVisible());
+    QVERIFY(column->hasFocus());
+    // The list's own key closes it, too.
+    for (const bool isOpen : {true, false}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F7);
+        QTRY_COMPARE(s.list().hasFocus(), isOpen);
+        QTRY_COMPARE(column->hasFocus(), !isOpen);
+    }
+    QCOMPARE(s.currentSetting(0, 0), QByteArray(kTopk));
 }
 
 void SameSettingTest::enterGoesToTheColumnAndEscapeBack()

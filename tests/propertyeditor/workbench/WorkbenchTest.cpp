@@ -12,9 +12,12 @@
 
 #include <QAbstractItemView>
 #include <QDockWidget>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QSignalSpy>
+#include <QStatusBar>
+#include <QToolTip>
 #include <QWhatsThis>
 
 using namespace orv;
@@ -34,6 +37,10 @@ private Q_SLOTS:
     void documentsAreTold();
     void savedDocumentsAreTold();
     void titleAndStatusLineTellOfChanges();
+    void whatWasToldGoesWithTheNextDeed_data();
+    void whatWasToldGoesWithTheNextDeed();
+    void whatIsToldOfADeedStays();
+    void longMessagesEndInAnEllipsis();
     void theHelpKeyExplainsTheSetting();
 };
 
@@ -64,8 +71,8 @@ void WorkbenchTest::panelsOpenFromTheViewMenu()
     for (const QAction *entry : workbench->viewMenu()->actions())
         entries.append(entry->isSeparator() ? u"---"_s : entry->text());
     QCOMPARE(entries,
-             QStringList({u"Find Settings"_s, u"Findings"_s, u"Upgrade"_s, u"Setting in Other Columns"_s,
-                          u"Settings Not Pasted"_s, u"Comparison"_s, u"Findings"_s, u"---"_s,
+             QStringList({u"Find &Settings"_s, u"&Findings"_s, u"&Upgrade"_s, u"Setting in &Other Columns"_s,
+                          u"Settings Not &Pasted"_s, u"Co&mparison"_s, u"Findings"_s, u"---"_s,
                           u"&Check Workflow"_s, u"&Next Finding"_s, u"Pre&vious Finding"_s,
                           u"Compare &with..."_s, u"---"_s, u"Next Ta&b"_s, u"Previous &Tab"_s}));
     QTest::keyClick(&window, Qt::Key_7, Qt::ControlModifier);
@@ -186,6 +193,101 @@ void WorkbenchTest::titleAndStatusLineTellOfChanges()
     workbench->history()->takeIn();
     QCOMPARE(part(u"statusChanges"_s), u"Unsaved changes"_s);
     QVERIFY(window.isWindowModified());
+}
+
+namespace {
+
+/// Gives a setting another value by keys, from the window as it is.
+void typeLetters(Window &window)
+{
+    auto &view = *static_cast<GridPropertyEditorView *>(window.grid(0)->items().constFirst()->widget());
+    view.editorView()->expandAll();
+    if (!LeavingWays::openByKey(*view.editorView(), "KarvonDigestLetters"))
+        qFatal("The setting can't be edited");
+    LeavingWays::type(u"K"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+}
+
+} // namespace
+
+void WorkbenchTest::whatWasToldGoesWithTheNextDeed_data()
+{
+    QTest::addColumn<WindowAct>("deed");
+    QTest::addColumn<bool>("isDeed");
+    QTest::addRow("an edit") << WindowAct(&typeLetters) << true;
+    QTest::addRow("a check") << WindowAct([](Window &window) { QTest::keyClick(&window, Qt::Key_F9); })
+                             << true;
+    QTest::addRow("a look around") << WindowAct([](Window &window) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+        QTest::keyClick(&window, Qt::Key_PageDown, Qt::ControlModifier);
+        QTest::mouseClick(window.grid(0), Qt::LeftButton);
+    }) << false;
+}
+
+void WorkbenchTest::whatWasToldGoesWithTheNextDeed()
+{
+    QFETCH(WindowAct, deed);
+    QFETCH(bool, isDeed);
+    Window window;
+    auto *workbench = new Workbench(&window);
+    QCOMPARE(window.openWorkflow(documentOf({karvonCell({setting("KarvonDigestLetters", u"RK"_s)})})),
+             kOpened);
+    window.show();
+    workbench->tell(u"It was done."_s);
+    QCOMPARE(window.statusBar()->currentMessage(), u"It was done."_s);
+    deed(window);
+    workbench->history()->takeIn();
+    QCOMPARE(window.statusBar()->currentMessage(), isDeed ? QString() : u"It was done."_s);
+}
+
+void WorkbenchTest::whatIsToldOfADeedStays()
+{
+    const QTemporaryDir folder;
+    Window window;
+    auto *workbench = new Workbench(&window);
+    QCOMPARE(window.openWorkflow(documentOf({karvonCell({setting("KarvonDigestLetters", u"RK"_s)})})),
+             kOpened);
+    window.show();
+    workbench->tell(u"It was done."_s);
+    typeLetters(window);
+    // The same again is news, and the step that is noticed later is no other deed.
+    workbench->tell(u"It was done."_s);
+    workbench->history()->takeIn();
+    QVERIFY(workbench->history()->canUndo());
+    QCOMPARE(window.statusBar()->currentMessage(), u"It was done."_s);
+    QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(window.statusBar()->currentMessage(), QString());
+    workbench->tell(u"It was done."_s);
+    QTest::keyClick(&window, Qt::Key_Down);
+    QVERIFY(window.saveWorkflowToJSON(folder.filePath(u"saved.wflw"_s)));
+    QCOMPARE(window.statusBar()->currentMessage(), QString());
+}
+
+void WorkbenchTest::longMessagesEndInAnEllipsis()
+{
+    Window window;
+    auto *workbench = new Workbench(&window);
+    window.resize(640, 400);
+    window.show();
+    QStatusBar &bar = *window.statusBar();
+    const auto pictureOf = [&](const QString &text) {
+        workbench->tell(text);
+        return bar.grab().toImage();
+    };
+    const QString beginning = u"Upgraded from 5.10.0 to 5.47.0. What that changed stands in the panel "_s;
+    QVERIFY(bar.fontMetrics().horizontalAdvance(beginning) > bar.findChild<QLabel *>()->x());
+    const QImage cut = pictureOf(beginning);
+    // Of both so much is seen that they look alike; told in full by the tip.
+    QCOMPARE(pictureOf(beginning + u"Upgrade."_s), cut);
+    const auto *first = window.findChild<QLabel *>(u"statusChanges"_s);
+    QVERIFY(!first->geometry().isEmpty());
+    QHelpEvent help(QEvent::ToolTip, {5, 5}, bar.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&bar, &help);
+    QCOMPARE(QToolTip::text(), beginning + u"Upgrade."_s);
+    QToolTip::hideText();
+    // The dots stand where the text would have been cut in two.
+    const QRect before(first->x() - 5, 0, 3, bar.height());
+    QCOMPARE(cut.copy(before), pictureOf(QString()).copy(before));
 }
 
 void WorkbenchTest::theHelpKeyExplainsTheSetting()

@@ -27,11 +27,12 @@ namespace orv {
 Comparison::Private::Private(Comparison *comparison, Workbench *workbench)
     : action(new QAction(Icons::icon(IconName::Open), tr("Compare &with..."), comparison))
     , q(comparison)
+    , m_workbench(workbench)
     , m_window(workbench->window())
     , m_history(workbench->history())
     , m_find(workbench->find())
     , m_panel(new ComparisonPanel(action))
-    , m_dock(workbench->addPanel(m_panel, QStringLiteral("comparisonPanel"), tr("Comparison"),
+    , m_dock(workbench->addPanel(m_panel, QStringLiteral("comparisonPanel"), tr("Co&mparison"),
                                  Qt::BottomDockWidgetArea))
 {
     action->setObjectName(QStringLiteral("compareWith"));
@@ -49,7 +50,6 @@ void Comparison::Private::connectPanel()
     connect(m_panel, &ComparisonPanel::fileDropped, q, [this](const QString &file) { compareWith(file); });
     connect(m_panel, &ComparisonPanel::chosen, q, [this](const QModelIndex &index) { goTo(index); });
     connect(m_panel, &ComparisonPanel::takeOverWanted, q, [this] { takeOver(); });
-    connect(m_panel, &ComparisonPanel::left, q, [this] { leave(); });
     connect(m_dock, &QDockWidget::visibilityChanged, q, [this] {
         if (m_dock && m_dock->isHidden())
             end();
@@ -78,8 +78,11 @@ void Comparison::Private::ask()
     const QString chosen = ORVFileDialog::getOpenFileName(m_window, tr("Compare With Workflow"), {},
                                                           WflwUtils::workflowFiltersInDialog(),
                                                           PropertyEditorDirLocations::OpenWorkflowLocation);
-    if (self && !chosen.isEmpty())
-        compareWith(chosen);
+    if (!self || chosen.isEmpty())
+        return;
+    compareWith(chosen);
+    if (m_dock)
+        m_workbench->enterPanel(m_dock);
 }
 
 void Comparison::Private::compareWith(const QString &file)

@@ -14,9 +14,6 @@
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
 
-#include <QApplication>
-#include <QDockWidget>
-
 #include <utility>
 
 // What a person does with the differences.
@@ -91,18 +88,6 @@ void Comparison::Private::goTo(const QModelIndex &index)
         if (column)
             column->setFocus(Qt::OtherFocusReason);
     }
-    if (self && m_window && m_window->centralWidget()->isAncestorOf(QApplication::focusWidget()))
-        m_visited = QApplication::focusWidget();
-}
-
-/// To where the list has led last.
-void Comparison::Private::leave()
-{
-    const QPointer<Comparison> self(q);
-    if (m_visited && m_visited->isVisible())
-        m_visited->setFocus(Qt::OtherFocusReason);
-    if (self && m_dock)
-        m_dock->hide();
 }
 
 } // namespace orv

@@ -135,9 +135,6 @@ void ComparisonPanel::buildTree()
 void ComparisonPanel::layOut(QAction *compare)
 {
     connect(m_compare, &QAbstractButton::clicked, compare, &QAction::trigger);
-    auto *top = new QHBoxLayout;
-    top->addWidget(m_summary, 1);
-    top->addWidget(m_compare);
     auto *pages = new QWidget;
     m_pages = new QStackedLayout(pages);
     m_pages->addWidget(m_empty);
@@ -145,14 +142,15 @@ void ComparisonPanel::layOut(QAction *compare)
     auto *bottom = new QHBoxLayout;
     bottom->addWidget(m_checked, 1);
     bottom->addWidget(m_takeOver);
+    bottom->addWidget(m_compare);
     auto *layout = new QVBoxLayout(this);
-    layout->addLayout(top);
+    layout->addWidget(m_summary);
     layout->addWidget(m_note);
     layout->addWidget(m_progress);
     layout->addWidget(pages, 1);
     layout->addLayout(bottom);
-    setTabOrder(m_compare, m_tree);
     setTabOrder(m_tree, m_takeOver);
+    setTabOrder(m_takeOver, m_compare);
     setFocusProxy(m_tree);
 }
 
@@ -162,7 +160,8 @@ void ComparisonPanel::showPage(const QString &summary, const QString &note, cons
     m_note->setText(note);
     m_note->setVisible(!note.isEmpty());
     m_empty->setText(emptyText);
-    const bool hadFocus = m_tree->hasFocus();
+    // The window may not be active yet behind the dialog in which the other workflow was chosen.
+    const bool hadFocus = window()->focusWidget() == focusProxy();
     setFocusProxy(emptyText.isEmpty() ? static_cast<QWidget *>(m_tree) : m_compare);
     if (hadFocus)
         setFocus(Qt::OtherFocusReason);

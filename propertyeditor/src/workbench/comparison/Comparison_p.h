@@ -22,6 +22,7 @@ class ComparisonPanel;
 class DocumentHistory;
 class FindSettings;
 class PropertyEditorWindow;
+class Workbench;
 struct SecondDocument;
 
 class Comparison::Private
@@ -62,12 +63,12 @@ private:
     void takeOver();
     void finishTakingOver(const Result<TakenOver> &taken, const TakeOverTexts &texts);
     void goTo(const QModelIndex &index);
-    void leave();
     void tell();
     /// Of this document; empty for one without a file.
     [[nodiscard]] QString ownFile() const;
 
     Comparison *const q;
+    Workbench *const m_workbench;
     const QPointer<PropertyEditorWindow> m_window;
     DocumentHistory *const m_history;
     QString m_ownFile; ///< when the second document was read
@@ -76,8 +77,7 @@ private:
     QPointer<QDockWidget> m_dock;
     std::shared_ptr<const SecondDocument> m_second;
     SettingVisits m_visits;
-    QPointer<QWidget> m_visited; ///< the last
-    int m_number = 0;            ///< of second documents
+    int m_number = 0; ///< of second documents
     BackgroundWork m_work;
     bool m_isWantedAgain = false;
     bool m_isFirst = false; ///< comparison with the second document

@@ -1,6 +1,7 @@
 #include "orv/propertyeditor/workbench/FindSettings.h"
 
 #include "FindPanel.h"
+#include "StatusLine.h"
 #include "comparison/SecondDocument.h"
 #include "orv/propertyeditor/workbench/BackgroundWork.h"
 #include "orv/propertyeditor/workbench/Workbench.h"
@@ -13,10 +14,8 @@
 #include <orv/widgets/Icons.h>
 
 #include <QAction>
-#include <QApplication>
 #include <QDockWidget>
 #include <QMenu>
-#include <QStatusBar>
 
 namespace orv {
 
@@ -27,7 +26,6 @@ public:
 
     void begin();
     void jump(const SettingPlace &place);
-    void leave();
     void readSaved(const QString &file);
 
     FindSettings *const q;
@@ -38,9 +36,9 @@ public:
     QAction *action;
 
 private:
+    Workbench *const m_workbench;
     SettingVisits m_visits;
     BackgroundWork m_reading;
-    QPointer<QWidget> m_focusBefore;
 };
 
 FindSettings::Private::Private(FindSettings *find, Workbench *workbench)
@@ -48,9 +46,10 @@ FindSettings::Private::Private(FindSettings *find, Workbench *workbench)
     , window(workbench->window())
     , columns(new SettingColumns(workbench->window()))
     , panel(new FindPanel(columns))
-    , dock(workbench->addPanel(panel, QStringLiteral("findSettings"), tr("Find Settings"),
+    , dock(workbench->addPanel(panel, QStringLiteral("findSettings"), tr("Find &Settings"),
                                Qt::BottomDockWidgetArea))
     , action(new QAction(Icons::icon(IconName::Find), tr("&Find Settings..."), find))
+    , m_workbench(workbench)
 {
     action->setObjectName(QStringLiteral("find"));
     action->setToolTip(tr("Search the settings of all tabs"));
@@ -59,7 +58,6 @@ FindSettings::Private::Private(FindSettings *find, Workbench *workbench)
     workbench->editMenu()->addAction(action);
     connect(action, &QAction::triggered, find, [this] { begin(); });
     connect(panel, &FindPanel::chosen, find, [this](const SettingPlace &place) { jump(place); });
-    connect(panel, &FindPanel::left, find, [this] { leave(); });
     connect(panel, &FindPanel::setBackWanted, columns, &SettingColumns::setBack);
     // A window that becomes read only says so in its title. One that goes changes it, too.
     connect(
@@ -81,11 +79,7 @@ FindSettings::Private::Private(FindSettings *find, Workbench *workbench)
 
 void FindSettings::Private::begin()
 {
-    QWidget *focus = QApplication::focusWidget();
-    if (focus && !panel->isAncestorOf(focus))
-        m_focusBefore = focus;
-    dock->show();
-    dock->raise();
+    m_workbench->enterPanel(dock);
     panel->begin();
 }
 
@@ -95,18 +89,7 @@ void FindSettings::Private::jump(const SettingPlace &place)
     if (!view || !window)
         return;
     m_visits.begin(view);
-    m_focusBefore = view->editorView();
     (void)SettingJump::toSetting(window, view, place.name);
-}
-
-void FindSettings::Private::leave()
-{
-    const QPointer<FindSettings> self(q);
-    const QPointer<QWidget> before = m_focusBefore;
-    if (before && before->isVisible())
-        before->setFocus(Qt::OtherFocusReason);
-    if (self && dock)
-        dock->hide();
 }
 
 void FindSettings::Private::readSaved(const QString &file)
@@ -117,10 +100,10 @@ void FindSettings::Private::readSaved(const QString &file)
         [file](const auto &isCancelled) -> Read { return SecondDocument::read(file, file, isCancelled); },
         [this, file](const Read &saved) {
             const Error error = saved.hasError() ? saved.error() : saved->error;
-            if (error.hasError() && window) {
-                window->statusBar()->showMessage(
-                    tr("What changed since the last save isn't known: %1").arg(error.errorMessage()));
-            } else if (!error.hasError()) {
+            if (error.hasError()) {
+                StatusLine::tell(
+                    window, tr("What changed since the last save isn't known: %1").arg(error.errorMessage()));
+            } else {
                 columns->takeSaved(saved->state);
                 Q_EMIT q->fileRead(saved->state);
             }

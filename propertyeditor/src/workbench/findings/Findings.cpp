@@ -76,12 +76,9 @@ private:
     void connectCommands();
     void connectWindow();
 
-    void leave();
-
     DocumentHistory *const m_history;
     SettingVisits m_visits;
-    QPointer<QWidget> m_visited; ///< the last
-    bool m_isAsked = false;      ///< by a person, who waits for the panel
+    bool m_isAsked = false; ///< by a person, who waits for the panel
     QTimer m_pause;
 };
 
@@ -92,7 +89,7 @@ Findings::Private::Private(Findings *owner, Workbench *workbench)
     , checking(workbench->window())
     , marks(workbench->window())
     , panel(new FindingsPanel)
-    , dock(workbench->addPanel(panel, QStringLiteral("findingsPanel"), tr("Findings"),
+    , dock(workbench->addPanel(panel, QStringLiteral("findingsPanel"), tr("&Findings"),
                                Qt::BottomDockWidgetArea))
     , m_history(workbench->history())
 {
@@ -117,7 +114,6 @@ void Findings::Private::connectCommands()
     connect(nextAction, &QAction::triggered, q, [this] { goTo(panel->step(1)); });
     connect(previousAction, &QAction::triggered, q, [this] { goTo(panel->step(-1)); });
     connect(panel, &FindingsPanel::chosen, q, [this](int row) { goTo(row); });
-    connect(panel, &FindingsPanel::left, q, [this] { leave(); });
     connect(dock, &QDockWidget::visibilityChanged, q, [this] {
         if (dock && dock->isHidden())
             m_visits.end(window);
@@ -253,16 +249,6 @@ FindSettings::Filter Findings::Private::filter() const
     };
 }
 
-/// To where the list has led last.
-void Findings::Private::leave()
-{
-    const QPointer<Findings> self(q);
-    if (m_visited && m_visited->isVisible())
-        m_visited->setFocus(Qt::OtherFocusReason);
-    if (self && dock)
-        dock->hide();
-}
-
 void Findings::Private::goTo(int row)
 {
     if (row < 0 || row >= targets.size() || !window)
@@ -275,8 +261,6 @@ void Findings::Private::goTo(int row)
                          SettingJump::toSetting(window, target.settings(), target.setting);
     if (self && !isThere)
         goToColumn(target);
-    if (self && window && window->centralWidget()->isAncestorOf(QApplication::focusWidget()))
-        m_visited = QApplication::focusWidget();
 }
 
 void Findings::Private::goToColumn(const FindingTarget &target) const

@@ -1,6 +1,7 @@
 #include "FindingsPanel.h"
 
 #include "panels/ColumnShares.h"
+#include "panels/WrappedTexts.h"
 
 #include <orv/widgets/Icons.h>
 
@@ -18,6 +19,8 @@ namespace orv {
 using PropertyEditor::LocatedFinding;
 
 namespace {
+
+constexpr qsizetype kMostWrapped = 200;
 
 bool areAlike(const LocatedFinding &first, const LocatedFinding &second)
 {
@@ -42,6 +45,8 @@ FindingsPanel::FindingsPanel(QWidget *parent)
         "What keeps an analysis from running as it should, where it is, and what to do. Enter goes there."));
     m_list->setModel(m_model);
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_even = m_list->itemDelegate();
+    m_wrapped = new WrappedTexts(m_list);
     new ColumnShares(m_list, {0, 64, 40, 40, 18});
     auto *copying = new QAction(Icons::icon(IconName::Copy), tr("&Copy"), m_list);
     copying->setObjectName(QStringLiteral("copyFindings"));
@@ -66,6 +71,7 @@ void FindingsPanel::show(const QList<LocatedFinding> &findings)
     const int current = m_list->currentIndex().row();
     const std::optional<LocatedFinding> before =
         current >= 0 ? std::optional(m_model->findings().at(current)) : std::nullopt;
+    setWrapped(findings.size() <= kMostWrapped);
     m_model->show(findings);
     const auto again = std::ranges::find_if(
         findings, [&before](const LocatedFinding &each) { return before && areAlike(each, *before); });
@@ -77,6 +83,15 @@ void FindingsPanel::show(const QList<LocatedFinding> &findings)
         m_visited = m_visited < 0 ? -1 : row;
         m_list->setCurrentIndex(m_model->index(row, 0));
     }
+}
+
+/// A few findings are read whole; of many, each has a line, as all would have to be measured.
+void FindingsPanel::setWrapped(bool isWrapped)
+{
+    m_list->setItemDelegate(isWrapped ? m_wrapped : m_even);
+    m_list->setUniformRowHeights(!isWrapped);
+    m_list->setWordWrap(isWrapped);
+    m_list->setTextElideMode(isWrapped ? Qt::ElideNone : Qt::ElideRight);
 }
 
 void FindingsPanel::setSummary(const QString &text)

@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+QT_FORWARD_DECLARE_CLASS(QAbstractItemDelegate)
 QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QVBoxLayout)
 
@@ -33,10 +34,13 @@ Q_SIGNALS:
     void chosen(int row);
 
 private:
+    void setWrapped(bool isWrapped);
     void copy();
 
     FindingsModel *m_model;
     FindList *m_list;
+    QAbstractItemDelegate *m_even;    ///< the list's
+    QAbstractItemDelegate *m_wrapped; ///< the list's
     QLabel *m_summary;
     int m_visited = -1;
 };

@@ -1,14 +1,13 @@
 #include "DocumentHistory_p.h"
-#include "SettingView.h"
 #include "StateDisplay.h"
+#include "StatusLine.h"
+#include "settings/SettingView.h"
 
 #include <KPropertySet.h>
 #include <orv/propertyeditor/grid/EditableTabWidget.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
 #include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/table_model/TableHistory.h>
-
-#include <QStatusBar>
 
 #include <cstdlib>
 
@@ -96,8 +95,7 @@ bool DocumentHistory::Private::show(const DocumentState &to, const StateChange &
     if (!goesOn())
         return false;
     if (error.hasError())
-        window->statusBar()->showMessage(
-            tr("Not all of the step can be shown: %1").arg(error.errorMessage()));
+        StatusLine::tell(window, tr("Not all of the step can be shown: %1").arg(error.errorMessage()));
     shown.forget(change, to);
     return true;
 }

@@ -68,6 +68,7 @@ void WrappedTexts::initStyleOption(QStyleOptionViewItem *option, const QModelInd
     option->features |= QStyleOptionViewItem::WrapText;
     option->text = breakable(option->text);
     option->displayAlignment = Qt::AlignLeading | Qt::AlignTop;
+    option->decorationAlignment = option->displayAlignment;
 }
 
 QSize WrappedTexts::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const

@@ -1,5 +1,7 @@
 #include "orv/propertyeditor/workbench/JournalKeeper.h"
 
+#include "StatusLine.h"
+
 #include <orv/core/Error.h>
 #include <orv/core/PlainTip.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
@@ -7,7 +9,6 @@
 #include <orv/propertyeditor/workbench/RecoveryJournal.h>
 #include <orv/propertyeditor/workbench/RecoveryStore.h>
 
-#include <QAccessible>
 #include <QDir>
 #include <QEvent>
 #include <QPointer>
@@ -121,10 +122,8 @@ bool JournalKeeper::eventFilter(QObject *watched, QEvent *event)
 void JournalKeeper::tell(const Error &error)
 {
     const QString text = error.errorMessage();
-    m_window->statusBar()->showMessage(text);
-    m_window->statusBar()->setToolTip(PlainTip::of(error.details().join(u'\n')));
-    QAccessibleEvent event(m_window->statusBar(), QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    StatusLine::tell(m_window, text);
+    m_window->statusBar()->setToolTip(PlainTip::of((QStringList(text) + error.details()).join(u'\n')));
 }
 
 } // namespace orv

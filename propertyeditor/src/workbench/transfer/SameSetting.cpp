@@ -33,14 +33,13 @@ SameSetting::SameSetting(Workbench *workbench, CurrentSetting *current)
     , m_history(workbench->history())
     , m_current(current)
     , m_panel(new SameSettingPanel)
-    , m_dock(workbench->addPanel(m_panel, QStringLiteral("sameSettingPanel"), tr("Setting in Other Columns"),
+    , m_dock(workbench->addPanel(m_panel, QStringLiteral("sameSettingPanel"), tr("Setting in &Other Columns"),
                                  Qt::BottomDockWidgetArea, QKeySequence(Qt::Key_F7)))
 {
     connectDocument();
     connect(m_panel, &SameSettingPanel::shown, this, &SameSetting::refresh);
     connect(m_panel, &SameSettingPanel::applied, this, &SameSetting::apply);
     connect(m_panel, &SameSettingPanel::chosen, this, &SameSetting::jump);
-    connect(m_panel, &SameSettingPanel::left, this, &SameSetting::leave);
 }
 
 SameSetting::~SameSetting() = default;
@@ -155,14 +154,4 @@ void SameSetting::jump(int row)
     if (GridPropertyEditorView *view = model.view(row); view && m_window)
         SettingJump::toSetting(m_window, view, QByteArray(model.name()));
 }
-
-void SameSetting::leave()
-{
-    const QPointer<SameSetting> self(this);
-    if (GridPropertyEditorView *view = m_current->view(); view && view->isVisible())
-        view->editorView()->setFocus(Qt::OtherFocusReason);
-    if (self && m_dock)
-        m_dock->hide();
-}
-
 } // namespace orv

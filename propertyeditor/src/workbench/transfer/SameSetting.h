@@ -41,7 +41,6 @@ private:
                                       const QJsonValue &stored, const QString &step);
     [[nodiscard]] QString stepText(const QList<int> &rows) const;
     void jump(int row);
-    void leave();
 
     const QPointer<PropertyEditorWindow> m_window;
     const QPointer<DocumentHistory> m_history;

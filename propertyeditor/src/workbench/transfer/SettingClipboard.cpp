@@ -66,7 +66,7 @@ SettingClipboard::SettingClipboard(Workbench *workbench, CurrentSetting *current
     layout->setContentsMargins({});
     layout->addWidget(m_refused);
     page->setFocusProxy(m_refused);
-    m_dock = workbench->addPanel(page, QStringLiteral("settingsNotPasted"), tr("Settings Not Pasted"),
+    m_dock = workbench->addPanel(page, QStringLiteral("settingsNotPasted"), tr("Settings Not &Pasted"),
                                  Qt::BottomDockWidgetArea);
     m_refused->setObjectName(QStringLiteral("settingsNotPastedList"));
     m_refused->setAccessibleName(tr("Settings that were not pasted"));
@@ -74,7 +74,6 @@ SettingClipboard::SettingClipboard(Workbench *workbench, CurrentSetting *current
     m_refused->setTabChangesFocus(true);
     m_refused->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_refused->setPlaceholderText(tr("Everything that was pasted last fitted."));
-    connect(page, &LeavablePanel::left, this, &SettingClipboard::leave);
     addCommands(workbench->editMenu());
     connect(m_current, &CurrentSetting::changed, this, &SettingClipboard::update);
     // A window that becomes read only says so in its title. One that goes changes it, too.
@@ -268,15 +267,6 @@ void SettingClipboard::report(const Outcome &outcome)
     m_dock->raise();
     tell(refused.size() == 1 ? tr("%1 Not pasted: %2").arg(done, refused.constFirst())
                              : tr("%1 Not pasted: %2 settings, see below.").arg(done).arg(refused.size()));
-}
-
-void SettingClipboard::leave()
-{
-    const QPointer<SettingClipboard> self(this);
-    if (GridPropertyEditorView *view = m_current->view(); view && view->isVisible())
-        view->editorView()->setFocus(Qt::OtherFocusReason);
-    if (self && m_dock)
-        m_dock->hide();
 }
 
 void SettingClipboard::tell(const QString &text)

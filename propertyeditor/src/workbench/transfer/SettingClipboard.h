@@ -60,7 +60,6 @@ private:
     [[nodiscard]] static QString textOf(const Outcome &outcome);
     void report(const Outcome &outcome);
     void tell(const QString &text);
-    void leave();
 
     const QPointer<PropertyEditorWindow> m_window;
     const QPointer<DocumentHistory> m_history;

@@ -67,6 +67,7 @@ void UpgradeView::setUpgrade(const DocumentUpgrade &upgrade)
     if (changeCount() <= kMostUnfolded)
         m_steps->expandAll();
     m_steps->setVisible(hasList());
+    setFocusProxy(hasList() ? static_cast<QWidget *>(m_steps) : m_title);
     updateGeometry();
 }
 

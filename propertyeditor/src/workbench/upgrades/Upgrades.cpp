@@ -1,5 +1,6 @@
 #include "orv/propertyeditor/workbench/Upgrades.h"
 
+#include "StatusLine.h"
 #include "UpgradeView.h"
 #include "orv/propertyeditor/workbench/DocumentHistory.h"
 #include "orv/propertyeditor/workbench/Workbench.h"
@@ -8,7 +9,6 @@
 
 #include <QDockWidget>
 #include <QPointer>
-#include <QStatusBar>
 
 #include <optional>
 
@@ -57,7 +57,8 @@ Upgrades::Private::Private(Workbench *workbench)
     : window(workbench->window())
     , history(workbench->history())
     , view(new UpgradeView)
-    , dock(workbench->addPanel(view, QStringLiteral("upgradePanel"), tr("Upgrade"), Qt::BottomDockWidgetArea))
+    , dock(
+          workbench->addPanel(view, QStringLiteral("upgradePanel"), tr("&Upgrade"), Qt::BottomDockWidgetArea))
 {
     window->setUpgradeView(&viewInQuestion);
 }
@@ -70,12 +71,13 @@ void Upgrades::Private::take(const DocumentUpgrade &done, bool isSavedAlready)
     update();
     if (!dock)
         return;
-    const QString place = dock->toggleViewAction()->text().remove(u'&');
-    window->statusBar()->showMessage(changedNothing()
-                                         ? tr("Upgraded from %1 to %2; nothing but the version changed.")
-                                               .arg(done.from.toString(), done.to.toString())
-                                         : tr("Upgraded from %1 to %2. What that changed stands in %3.")
-                                               .arg(done.from.toString(), done.to.toString(), place));
+    const QString from = done.from.toString();
+    const QString to = done.to.toString();
+    StatusLine::tell(window,
+                     changedNothing()
+                         ? tr("Upgraded from %1 to %2; nothing but the version changed.").arg(from, to)
+                         : tr("Upgraded from %1 to %2. What that changed stands in %3.")
+                               .arg(from, to, dock->windowTitle()));
 }
 
 void Upgrades::Private::forget()
@@ -127,10 +129,6 @@ Upgrades::Upgrades(Workbench *workbench)
     });
     connect(d->history, &DocumentHistory::changed, this, [this] { d->update(); });
     connect(d->history, &DocumentHistory::upgradeDropped, this, [this] { d->forget(); });
-    connect(d->view, &UpgradeView::left, this, [this] {
-        if (d->dock)
-            d->dock->hide();
-    });
     d->update();
 }
 

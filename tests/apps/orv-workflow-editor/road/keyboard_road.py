@@ -59,7 +59,7 @@ def copy_setting(road, person):
 def see_other_columns(road, person):
     person.presses("F7")
     person.sees("label", "Lowest charge: 8")
-    person.steps_to("tree item", re.compile("^Intact mass › Intact mass, 8"))
+    person.sees_focus("tree item", re.compile("^Intact mass › Intact mass, 8"))
     person.presses("Escape")
     person.sees_focus("tree item", "Lowest charge: 8")
 
@@ -72,6 +72,7 @@ def compare_with_old(road, person):
     person.sees("text", path)
     person.presses("Return")
     person.sees("tree item", "Lowest charge", within=("tree", "Differences"))
+    person.sees_focus("tree item", "Workflow")
     person.presses("Escape")
     person.sees_focus("tree item", "Lowest charge: 8")
 

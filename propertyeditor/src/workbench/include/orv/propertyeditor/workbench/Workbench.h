@@ -18,6 +18,7 @@ class Comparison;
 class DocumentHistory;
 class FindSettings;
 class Findings;
+class PanelFocus;
 class PropertyEditorWindow;
 class Upgrades;
 
@@ -45,12 +46,18 @@ public:
 
     /// A panel that is closed at first, opened from the View menu by \a shortcut or by the code that has
     /// something to show. Those of one area are tabs of each other. Takes \a widget over; \a name is its
-    /// object name, under which its place is kept.
+    /// object name, under which its place is kept; a letter that \a title marks is that of the menu.
     QDockWidget *addPanel(QWidget *widget, const QString &name, const QString &title, Qt::DockWidgetArea area,
                           const QKeySequence &shortcut = {});
+    /// Shows \a panel in front of those that share its side, and gives it the keys. Escape in it, and closing
+    /// it, give them back to where they were.
+    void enterPanel(QDockWidget *panel);
     /// For who restored places and sizes that a person gave the panels; else the first of each area leaves
     /// two thirds of the window to the workflow.
     void keepPanelSizes();
+
+    /// What a command did, at the lower left and to screen readers, until the person did something else.
+    void tell(const QString &text);
 
     // Live as long as the workbench.
     [[nodiscard]] FindSettings *find() const { return m_find; }
@@ -58,12 +65,11 @@ public:
     [[nodiscard]] Upgrades *upgrades() const { return m_upgrades; }
     [[nodiscard]] Comparison *comparison() const { return m_comparison; }
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     void addHistory();
     void addTabCommands();
+    void followMessages();
+    void leavePanel(QDockWidget *panel);
     void sizeOnce(QDockWidget *panel, Qt::DockWidgetArea area);
     void updateHistory();
     void updateTitle();
@@ -73,12 +79,11 @@ private:
     QMenu *m_viewMenu;
     QAction *m_behindPanels = nullptr;
     DocumentHistory *m_history;
+    PanelFocus *m_focus;
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
     QMap<Qt::DockWidgetArea, QPointer<QDockWidget>> m_panels; ///< the last of each area; the window's
     QSet<Qt::DockWidgetArea> m_sized;                         ///< areas whose panels have their size
-    QString m_tip;                                            ///< of the entry of a menu under the pointer
-    QString m_behindTip;                                      ///< what the status line told before
     FindSettings *m_find = nullptr;
     Findings *m_findings = nullptr;
     Upgrades *m_upgrades = nullptr;
