@@ -1,5 +1,6 @@
 #include "EditorWindow.h"
 
+#include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 #include <orv/propertyeditor/workflow/WflwUtils.h>
 #include <orv/widgets/ORVStyle.h>
@@ -60,6 +61,10 @@ void EditorWindow::save()
     commitTyping();
     if (!self)
         return;
+    if (workflowTabs()->count() == 0) {
+        tell(tr("There is no workflow to save yet."));
+        return;
+    }
     const QString path = workflowFilePath();
     if (WflwUtils::isMirelPortableWorkflow(QFileInfo(path).path())) {
         savePortableWorkflow();
@@ -67,9 +72,10 @@ void EditorWindow::save()
     }
     const bool isNewer =
         WflwMetaData::isNewerThanCurrent(WflwMetaData::versionNumberFromMetaDataObject(workflowMetadata()));
-    if (isNewer)
+    if (isNewer) {
         tell(tr("The file comes from a newer version of the software and stays as it is. Save under another "
                 "name."));
+    }
     // The version that wrote an older file can't open what a save would make of it.
     if (isNewer || m_isUpgraded || !QFileInfo(path).isAbsolute()) {
         saveWorkflowAs();

@@ -4988,8 +4988,8 @@ Open it from its file: %2</source>
         <translation>Löscht, was von den gewählten Workflows aufbewahrt wurde.</translation>
     </message>
     <message>
-        <source>These workflows were not saved when their windows closed or the program ended. Their files are as they were.</source>
-        <translation>Diese Workflows waren nicht gespeichert, als ihre Fenster geschlossen wurden oder das Programm endete. Ihre Dateien sind, wie sie waren.</translation>
+        <source>These workflows were not saved when their windows closed or the program ended. Nothing was written to their files.</source>
+        <translation>Diese Workflows waren nicht gespeichert, als ihre Fenster geschlossen wurden oder das Programm endete. In ihre Dateien wurde nichts geschrieben.</translation>
     </message>
     <message>
         <source>There are no unsaved workflows to recover.</source>
@@ -5058,8 +5058,8 @@ Open it from its file: %2</source>
         <translation>Diese Workflows waren offen, als das Programm endete. Sie haben keine ungespeicherten Änderungen.</translation>
     </message>
     <message>
-        <source>These workflows were not saved, or were open, when the program ended. Their files are as they were.</source>
-        <translation>Diese Workflows waren nicht gespeichert oder noch offen, als das Programm endete. Ihre Dateien sind, wie sie waren.</translation>
+        <source>These workflows were not saved, or were open, when the program ended. Nothing was written to their files.</source>
+        <translation>Diese Workflows waren nicht gespeichert oder noch offen, als das Programm endete. In ihre Dateien wurde nichts geschrieben.</translation>
     </message>
     <message>
         <source>Workflows that can be opened as they were. Enter recovers those that are chosen.</source>

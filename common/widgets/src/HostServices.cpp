@@ -47,7 +47,8 @@ bool WorkflowNodeUtils::nodesEnabled()
 void SquishUiUtils::setTabWidgetWindowTitle(QTabWidget *tabWidget, const QString &title)
 {
     tabWidget->setWindowTitle(title);
-    tabWidget->setAccessibleName(title);
+    // The place of the mark of changes is nothing to read.
+    tabWidget->setAccessibleName(QString(title).remove(QLatin1String("[*]")));
 }
 
 } // namespace orv

@@ -322,6 +322,17 @@ void PropertyEditorWindow::parseExtendedMetadata(const PropertyEditorContent &co
     d->setExtendedMetadataInfo(info.valueOr(ExtendedMetadataInfo()));
 }
 
+/// Who designs workflows may open tabs without columns, which show none of their cells.
+QStringList PropertyEditorWindow::cellsWithoutColumns(const PropertyEditorContent::Tabs &tabs)
+{
+    QStringList texts;
+    for (const auto &[name, columnsAndCells] : tabs) {
+        if (columnsAndCells.first.isEmpty() && !columnsAndCells.second.isEmpty())
+            texts.append(tr("The tab \"%1\" has cells, but no columns that show them.").arg(name));
+    }
+    return texts;
+}
+
 Error PropertyEditorWindow::setContent(const PropertyEditorContent &content)
 {
     const QPointer<PropertyEditorWindow> self(this);
@@ -332,7 +343,7 @@ Error PropertyEditorWindow::setContent(const PropertyEditorContent &content)
     parseExtendedMetadata(copy);
     LossCollector losses;
     const Result<bool> showsNewProteins = ProteinTabs::areBuiltFromChains(copy, &losses);
-    const QStringList lost = d->m_lost + textsOf(losses.losses());
+    const QStringList lost = d->m_lost + textsOf(losses.losses()) + cellsWithoutColumns(tabs);
     if (showsNewProteins.hasError()) {
         clear();
         if (self)

@@ -7,6 +7,7 @@
 
 #include <orv/core/PlainTip.h>
 #include <orv/propertyeditor/window/PropertyEditorWindow.h>
+#include <orv/propertyeditor/window/WorkflowTabs.h>
 #include <orv/propertyeditor/workflow/WflwMetaData.h>
 #include <orv/widgets/Icons.h>
 
@@ -14,6 +15,7 @@
 #include <QAction>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLocale>
 #include <QStatusBar>
 #include <QToolButton>
 
@@ -47,6 +49,11 @@ StatusLine::StatusLine(Workbench *workbench)
 
 void StatusLine::showVersion()
 {
+    if (m_workbench->window()->workflowTabs()->count() == 0) {
+        m_version->clear();
+        m_version->setToolTip({});
+        return;
+    }
     const QVersionNumber version =
         WflwMetaData::versionNumberFromMetaDataObject(m_workbench->window()->workflowMetadata());
     const QVersionNumber current = WflwMetaData::currentWorkflowVersion();
@@ -62,13 +69,15 @@ void StatusLine::showVersion()
 void StatusLine::showFindings()
 {
     const Findings &findings = *m_workbench->findings();
+    const QLocale locale = m_findings->locale();
     QString text = tr("Not checked");
     QIcon icon = findings.checkAction()->icon();
     if (findings.state() == Findings::State::Checking)
         text = tr("Checking...");
     else if (findings.state() == Findings::State::Checked &&
              findings.errorCount() + findings.warningCount() > 0)
-        text = tr("Errors: %1, warnings: %2").arg(findings.errorCount()).arg(findings.warningCount());
+        text = tr("Errors: %1, warnings: %2")
+                   .arg(locale.toString(findings.errorCount()), locale.toString(findings.warningCount()));
     else if (findings.state() == Findings::State::Checked) {
         text = tr("No findings");
         icon = Icons::icon(IconName::Passed);

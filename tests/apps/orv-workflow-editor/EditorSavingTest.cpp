@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QJsonDocument>
 #include <QPointer>
+#include <QStatusBar>
 #include <QTemporaryDir>
 
 using namespace orv;
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void aSaveWritesTheFileWithWhatIsBeingTyped();
     void workflowsWithoutAFileAreNamedFirst();
     void upgradedFilesStayUnlessNamed();
+    void nothingIsSavedOfAnEmptyWindow();
     void newerFilesStay();
     void portableFoldersAreSavedAsSuch();
     void filesOfOthersAreAskedAbout_data();
@@ -117,6 +119,13 @@ void EditorSavingTest::upgradedFilesStayUnlessNamed()
     typeNameOfFirstTab(*m_window, u"Typed"_s);
     saveByKey();
     QVERIFY(TestData::read(path).contains("\"Typed\""));
+}
+
+void EditorSavingTest::nothingIsSavedOfAnEmptyWindow()
+{
+    const ScriptedAnswerer nobodyIsAsked;
+    saveByKey();
+    QCOMPARE(m_window->statusBar()->currentMessage(), u"There is no workflow to save yet."_s);
 }
 
 void EditorSavingTest::newerFilesStay()

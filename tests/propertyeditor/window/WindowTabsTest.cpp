@@ -80,6 +80,7 @@ private Q_SLOTS:
     void removedTabsKeepQuiet();
     void typesOfColumnsAreOffered();
     void columnsThatCantBeShownAreTold();
+    void cellsWithoutColumnsAreNotSavedAwayUnasked();
     void removingNoTabDoesNothing();
     void presetsKeepThePlaceOfTheTab();
     void columnsOfPresetsAreWhatTheirCellsAre();
@@ -408,6 +409,25 @@ void WindowTabsTest::columnsThatCantBeShownAreTold()
     QVERIFY(designed.window.openTabPreset());
     QVERIFY(designed.answers.isDone());
     QCOMPARE(designed.answers.transcript().last().text, told);
+}
+
+void WindowTabsTest::cellsWithoutColumnsAreNotSavedAwayUnasked()
+{
+    const LogCapture log;
+    const QTemporaryDir folder;
+    Designed designed;
+    const QJsonObject document = Documents::document({Documents::tab(u"Search"_s, {u"A"_s}, {karvonCell()}),
+                                                      Documents::tab(u"Bare"_s, {}, {karvonCell()})},
+                                                     WindowFixture::metadata());
+    const QString path = write(folder, "a.wflw", document);
+    const QByteArray before = TestData::read(path);
+    QCOMPARE(designed.window.openWorkflow(path), kOpened);
+    designed.answers.expectBox(u"Save Workflow"_s, u"Cancel"_s);
+    QVERIFY(!designed.window.saveWorkflowToJSON(path));
+    QVERIFY(designed.answers.isDone());
+    QCOMPARE(designed.answers.transcript().last().details,
+             u"The tab \"Bare\" has cells, but no columns that show them."_s);
+    QCOMPARE(TestData::read(path), before);
 }
 
 void WindowTabsTest::removingNoTabDoesNothing()

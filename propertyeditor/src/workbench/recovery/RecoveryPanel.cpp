@@ -60,10 +60,10 @@ QString titleOf(const QList<RecoveryEntry> &entries)
             "These workflows were open when the program ended. They have no unsaved changes.");
     if (unsaved == entries.size())
         return RecoveryPanel::tr("These workflows were not saved when their windows closed or the program "
-                                 "ended. Their files are as they were.");
+                                 "ended. Nothing was written to their files.");
     return RecoveryPanel::tr(
-        "These workflows were not saved, or were open, when the program ended. Their files "
-        "are as they were.");
+        "These workflows were not saved, or were open, when the program ended. Nothing was written to their "
+        "files.");
 }
 
 } // namespace

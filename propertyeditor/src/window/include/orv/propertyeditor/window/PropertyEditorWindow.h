@@ -206,6 +206,7 @@ private:
     [[nodiscard]] Result<PropertyEditor::Content> contentForHandOver(const QString &title);
     [[nodiscard]] bool isJavaUsable();
     void reload(const PropertyEditorContent &written, const QString &path);
+    [[nodiscard]] static QStringList cellsWithoutColumns(const PropertyEditorContent::Tabs &tabs);
     void tellUneven(const QString &title);
     void tellNotShownAgain(const Error &error, const QString &path);
     [[nodiscard]] bool hasUnsavedChanges() const;
