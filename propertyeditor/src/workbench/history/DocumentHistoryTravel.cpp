@@ -15,6 +15,30 @@
 
 namespace orv {
 
+namespace {
+
+/// What a window shows on the way is nothing to look at.
+class HeldUpdates
+{
+public:
+    explicit HeldUpdates(QWidget *window)
+        : m_window(window)
+    {
+        window->setUpdatesEnabled(false);
+    }
+    ~HeldUpdates()
+    {
+        if (m_window)
+            m_window->setUpdatesEnabled(true);
+    }
+    Q_DISABLE_COPY_MOVE(HeldUpdates)
+
+private:
+    const QPointer<QWidget> m_window;
+};
+
+} // namespace
+
 bool DocumentHistory::Private::moveTables(const HistoryStep &step, StateChange::Direction direction) const
 {
     const bool isBack = direction == StateChange::Direction::Back;
@@ -126,6 +150,7 @@ bool DocumentHistory::Private::beginAt(const DocumentState &file, const QString 
     const int document = generation;
     const DocumentState given = state;
     const int tab = window->workflowTabs()->widget()->currentIndex();
+    const HeldUpdates held(window);
     isTravelling = true;
     const bool isFileShown = bring(file);
     if (!self || document != generation)
