@@ -29,7 +29,7 @@ template<typename T>
 [[nodiscard]] QFuture<Result<T>> run(std::function<T()> work)
 {
     auto promise = std::make_shared<QPromise<Result<T>>>();
-    const QFuture<Result<T>> future = promise->future();
+    QFuture<Result<T>> future = promise->future();
     promise->start();
     Error unstarted = start([promise, work = std::move(work)] {
         std::optional<T> value;
