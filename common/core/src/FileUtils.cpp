@@ -38,6 +38,11 @@ QString notRegular()
     return FileUtilsTr::tr("It is a pipe or a device; name a regular file.");
 }
 
+QString notPutBack(const QString &reason, const QString &lost)
+{
+    return FileUtilsTr::tr("%1 The old content couldn't be put back: %2").arg(reason, lost);
+}
+
 QString emptyName()
 {
     return FileUtilsTr::tr("The name is empty; name a file.");
@@ -234,11 +239,7 @@ QFileDevice::FileError writeInPlace(const QString &path, const QByteArray &bytes
         return flushToDisk(file) ? QFileDevice::NoError
                                  : failed(QFileDevice::WriteError, qt_error_string(errno), errorText);
     const QString lost = write(*old);
-    return failed(QFileDevice::WriteError,
-                  lost.isEmpty()
-                      ? reason
-                      : FileUtilsTr::tr("%1 The old content couldn't be put back: %2").arg(reason, lost),
-                  errorText);
+    return failed(QFileDevice::WriteError, lost.isEmpty() ? reason : notPutBack(reason, lost), errorText);
 }
 
 std::optional<CopyFailure> copyBytes(QFile &from, QFile &to, const CopyProgress &progress)

@@ -27,10 +27,10 @@ namespace {
 
 using Read = std::optional<QVariant>;
 
-QString tr(const char *text)
+struct PropertyTextTr
 {
-    return QCoreApplication::translate("PropertyText", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(PropertyText)
+};
 
 Read toSwitch(const QString &text)
 {
@@ -153,13 +153,13 @@ QString rangeOf(PropertyId id)
     const QString range = catalogue.verificationParameters(id).trimmed();
     const QStringList limits = range.mid(1).chopped(1).split(u';');
     if (limits.size() != 2)
-        return tr(" in %1").arg(range);
+        return PropertyTextTr::tr(" in %1").arg(range);
     const bool hasLeast = range.startsWith(u'[');
     const bool hasMost = range.endsWith(u']');
-    const QString form = hasLeast && hasMost ? tr(" from %1 to %2")
-                         : hasMost           ? tr(" above %1 and at most %2")
-                         : hasLeast          ? tr(" of at least %1 and below %2")
-                                             : tr(" above %1 and below %2");
+    const QString form = hasLeast && hasMost ? PropertyTextTr::tr(" from %1 to %2")
+                         : hasMost           ? PropertyTextTr::tr(" above %1 and at most %2")
+                         : hasLeast          ? PropertyTextTr::tr(" of at least %1 and below %2")
+                                             : PropertyTextTr::tr(" above %1 and below %2");
     return form.arg(limits[0].trimmed(), limits[1].trimmed());
 }
 
@@ -170,12 +170,13 @@ QString legalListValues(PropertyId id)
     UserVisibleListConverter::keysAndValuesForList(id, &keys, &texts);
     QStringList entries;
     for (qsizetype i = 0; i < keys.size(); ++i) {
-        entries.append(keys.at(i) == texts.at(i) ? QStringLiteral("\"%1\"").arg(texts.at(i))
-                                                 : tr("%1 for \"%2\"").arg(keys.at(i), texts.at(i)));
+        entries.append(keys.at(i) == texts.at(i)
+                           ? QStringLiteral("\"%1\"").arg(texts.at(i))
+                           : PropertyTextTr::tr("%1 for \"%2\"").arg(keys.at(i), texts.at(i)));
     }
     const QString list = entries.join(QLatin1String(", "));
-    return UserVisibleListConverter::isEditableList(id) ? tr("any text, such as %1").arg(list)
-                                                        : tr("one of: %1").arg(list);
+    return UserVisibleListConverter::isEditableList(id) ? PropertyTextTr::tr("any text, such as %1").arg(list)
+                                                        : PropertyTextTr::tr("one of: %1").arg(list);
 }
 
 bool asksTheDisk(PropertyId id)
@@ -199,11 +200,11 @@ std::optional<QStringList> objectionsTo(PropertyId id, const QVariant &value,
 
 Error refusal(PropertyId id, const QString &text, const KProperty &property, const QStringList &objections)
 {
-    Error error(ErrorCode::InvalidContent,
-                tr("The value \"%1\" is not allowed for %2.").arg(text, QString::fromUtf8(property.name())));
+    Error error(ErrorCode::InvalidContent, PropertyTextTr::tr("The value \"%1\" is not allowed for %2.")
+                                               .arg(text, QString::fromUtf8(property.name())));
     for (const QString &objection : objections)
         error.addDetail(objection);
-    error.addDetail(tr("Allowed: %1.").arg(legalValues(id, property)));
+    error.addDetail(PropertyTextTr::tr("Allowed: %1.").arg(legalValues(id, property)));
     return error;
 }
 
@@ -261,22 +262,22 @@ QString legalValues(PropertyId id, const KProperty &property)
         return legalValuesWithUnit(id);
     switch (property.type()) {
     case KProperty::Bool:
-        return tr("true or false");
+        return PropertyTextTr::tr("true or false");
     case KProperty::Int:
-        return tr("a whole number") + rangeOf(id);
+        return PropertyTextTr::tr("a whole number") + rangeOf(id);
     case KProperty::Double:
-        return tr("a number") + rangeOf(id);
+        return PropertyTextTr::tr("a number") + rangeOf(id);
     case KProperty::ValueFromList:
         return legalListValues(id);
     case PropertiesTraits::ResourceReferenceType:
-        return tr("a path or the text of a reference");
+        return PropertyTextTr::tr("a path or the text of a reference");
     case PropertiesTraits::ObjectType:
-        return tr("a JSON object");
+        return PropertyTextTr::tr("a JSON object");
     case PropertiesTraits::CheckableListType:
-        return tr("any of these, separated by commas: %1")
+        return PropertyTextTr::tr("any of these, separated by commas: %1")
             .arg(UserVisibleListConverter::valuesForCheckableList(id).join(QLatin1String(", ")));
     default:
-        return meansNumber(id) ? tr("a number") : tr("a text");
+        return meansNumber(id) ? PropertyTextTr::tr("a number") : PropertyTextTr::tr("a text");
     }
 }
 

@@ -202,31 +202,31 @@ VerificationFunction PropertyVerification::constructVerificationFunction(const Q
     if (const auto *row = findKeyword(kBuiltins, name); row != kBuiltins.end())
         return row->what;
     if (const auto *row = findKeyword(kCompareRules, name); row != kCompareRules.end())
-        return constructCompareVerificationFunction(parameter, row->what.predicate, tr(row->what.message));
+        return constructCompareVerificationFunction(parameter, row->what.predicate, row->what.message);
     if (const auto *row = findKeyword(kStringRules, name); row != kStringRules.end())
-        return constructStringVerificationFunction(parameter, row->what.predicate, tr(row->what.message));
+        return constructStringVerificationFunction(parameter, row->what.predicate, row->what.message);
     qCWarning(propertyEditorLog) << "Unhandled verification function" << keyword;
     return {};
 }
 
 VerificationFunction PropertyVerification::constructCompareVerificationFunction(const QString &parameter,
                                                                                 ValuePredicate predicate,
-                                                                                const QString &message)
+                                                                                const char *message)
 {
     return [=](PropertyId id, const QVariant &value, PropertyEditorContent::ContentMode,
                QList<QString> *errors, QList<QString> *warnings) {
-        return verifyValue(id, value, valueInStringToVariant(id, parameter), predicate, message, errors,
+        return verifyValue(id, value, valueInStringToVariant(id, parameter), predicate, tr(message), errors,
                            warnings);
     };
 }
 
 VerificationFunction PropertyVerification::constructStringVerificationFunction(const QString &parameter,
                                                                                StringPredicate predicate,
-                                                                               const QString &message)
+                                                                               const char *message)
 {
     return [=](PropertyId id, const QVariant &value, PropertyEditorContent::ContentMode,
                QList<QString> *errors, QList<QString> *warnings) {
-        return verifyStringValues(id, value, parameter, predicate, message, errors, warnings);
+        return verifyStringValues(id, value, parameter, predicate, tr(message), errors, warnings);
     };
 }
 
@@ -249,9 +249,10 @@ VerificationFunction PropertyVerification::constructRangeVerificationFunction(co
         qCWarning(propertyEditorLog) << "Invalid range" << parameter;
         return {};
     }
-    const QString message = tr("The value of \"%2\" must be in range %1").arg(parameter.trimmed());
-    return [range = *range, message](PropertyId id, const QVariant &value, PropertyEditorContent::ContentMode,
-                                     QList<QString> *errors, QList<QString> *warnings) {
+    return [range = *range, text = parameter.trimmed()](PropertyId id, const QVariant &value,
+                                                        PropertyEditorContent::ContentMode,
+                                                        QList<QString> *errors, QList<QString> *warnings) {
+        const QString message = tr("The value of \"%2\" must be in range %1").arg(text);
         return verifyValueInRange(id, value, valueInStringToVariant(id, range.low),
                                   valueInStringToVariant(id, range.high), range.lowInclusive,
                                   range.highInclusive, message, errors, warnings);

@@ -26,10 +26,10 @@ namespace {
 
 constexpr QLatin1String kCustomModificationsMarker("% Custom modification text below");
 
-QString translated(const char *text)
+struct BuiltinRulesTr
 {
-    return QCoreApplication::translate("PropertyVerificationBuiltin", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(PropertyVerificationBuiltin)
+};
 
 QString captionOf(PropertyId id)
 {
@@ -40,7 +40,7 @@ bool isReference(PropertyId id, QList<QString> *errors)
 {
     if (int(PropertiesNames::valueTypeOfPropertyType(id)) == PropertiesTraits::ResourceReferenceType)
         return true;
-    errors->append(translated("\"%1\" is not a URL").arg(captionOf(id)));
+    errors->append(BuiltinRulesTr::tr("\"%1\" is not a URL").arg(captionOf(id)));
     return false;
 }
 
@@ -67,8 +67,9 @@ bool verifyGlycanFile(PropertyId id, const QString &file, ContentMode mode, QLis
     const QString bundle = QDir(QCoreApplication::applicationDirPath()).absolutePath();
     if (QDir::fromNativeSeparators(file).startsWith(bundle))
         return true;
-    errors->append(translated("\"%1\" specifies a file that does not come from the application bundle \"%3\"")
-                       .arg(captionOf(id), QDir::toNativeSeparators(file)));
+    errors->append(
+        BuiltinRulesTr::tr("\"%1\" specifies a file that does not come from the application bundle \"%3\"")
+            .arg(captionOf(id), QDir::toNativeSeparators(file)));
     return false;
 }
 
@@ -81,18 +82,19 @@ bool verifyLocalUrlPrivate(PropertyId id, const ResourceReferenceSPtr &reference
         return true;
     const QString text = reference->text();
     if (!LocalResourceReference::isLocalReference(text)) {
-        errors->append(translated("\"%1\" specifies a non-local file \"%3\"").arg(captionOf(id), text));
+        errors->append(
+            BuiltinRulesTr::tr("\"%1\" specifies a non-local file \"%3\"").arg(captionOf(id), text));
         return false;
     }
     if (driveType(text) == DriveType::Network) {
         warnings->append(
-            translated("\"%1\" specifies a file on a network drive: \"%3\". The project creation "
-                       "process may work unstable")
+            BuiltinRulesTr::tr("\"%1\" specifies a file on a network drive: \"%3\". The project creation "
+                               "process may work unstable")
                 .arg(captionOf(id), text));
     }
     if (QFile::exists(text))
         return true;
-    errors->append(translated("\"%1\" specifies a non-existent file \"%3\"")
+    errors->append(BuiltinRulesTr::tr("\"%1\" specifies a non-existent file \"%3\"")
                        .arg(captionOf(id), QDir::toNativeSeparators(text)));
     return false;
 }
@@ -103,7 +105,7 @@ bool verifyTalvaneUrl(PropertyId id, const ResourceReferenceSPtr &reference, QLi
     Q_UNUSED(warnings)
     if (isEmpty(id, reference) || ResourceHandlerUtils::validateReference(reference))
         return true;
-    errors->append(translated("\"%1\" specifies an invalid reference to a file on the Talvane server")
+    errors->append(BuiltinRulesTr::tr("\"%1\" specifies an invalid reference to a file on the Talvane server")
                        .arg(captionOf(id)));
     return false;
 }
@@ -134,7 +136,7 @@ bool verifyModifications(PropertyId id, const QVariant &value, ContentMode mode,
     const QString text = PropertyEditorJsonUtils::variantToObject(value).value(MODS_KEY).toString();
     if (text.count(kCustomModificationsMarker, Qt::CaseInsensitive) < 2)
         return true;
-    errors->append(translated("\"%1\" must not contain more than one \"%2\" substring")
+    errors->append(BuiltinRulesTr::tr("\"%1\" must not contain more than one \"%2\" substring")
                        .arg(captionOf(id), kCustomModificationsMarker));
     return false;
 }
@@ -161,7 +163,7 @@ bool verifyIsotope(PropertyId id, const QVariant &value, ContentMode mode, QList
     const QJsonObject object = PropertyEditorJsonUtils::variantToObject(value);
     if (!object.isEmpty() && PropertyEditorJsonUtils::objectToRowNode(object).getChildListSize() > 0)
         return true;
-    errors->append(translated("\"%1\" must specify at least one isotope").arg(captionOf(id)));
+    errors->append(BuiltinRulesTr::tr("\"%1\" must specify at least one isotope").arg(captionOf(id)));
     return false;
 }
 

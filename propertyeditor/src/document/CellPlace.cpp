@@ -12,10 +12,10 @@ using namespace PropertyEditorStringConstants;
 
 namespace {
 
-QString tr(const char *text)
+struct CellPlaceTr
 {
-    return QCoreApplication::translate("CellPlace", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(CellPlace)
+};
 
 /// The position of the thing called \a wanted, or that number; -1 if there is neither.
 qsizetype positionOf(const QString &wanted, const QStringList &names)
@@ -38,7 +38,7 @@ QStringList tabNames(const QJsonArray &tabs)
 Error unknown(const QString &message, const QStringList &names)
 {
     return Error(ErrorCode::InvalidContent, message)
-        .addDetail(tr("There is: %1.").arg(names.join(QLatin1String(", "))));
+        .addDetail(CellPlaceTr::tr("There is: %1.").arg(names.join(QLatin1String(", "))));
 }
 
 } // namespace
@@ -49,10 +49,10 @@ Result<CellPlace> CellPlace::find(const QJsonObject &document, const QString &ta
     CellPlace place;
     const QJsonArray tabs = document.value(TABS_KEY).toArray();
     if (tabs.isEmpty())
-        return Error(ErrorCode::MalformedStructure, tr("The document has no tabs."));
+        return Error(ErrorCode::MalformedStructure, CellPlaceTr::tr("The document has no tabs."));
     place.tab = positionOf(tab, tabNames(tabs));
     if (place.tab < 0)
-        return unknown(tr("There is no tab \"%1\".").arg(tab), tabNames(tabs));
+        return unknown(CellPlaceTr::tr("There is no tab \"%1\".").arg(tab), tabNames(tabs));
     place.tabName = tabNames(tabs).at(place.tab);
 
     const QJsonObject tabObject = tabs.at(place.tab).toObject();
@@ -60,16 +60,18 @@ Result<CellPlace> CellPlace::find(const QJsonObject &document, const QString &ta
         PropertyEditorJsonUtils::jsonArrayToStringList(tabObject.value(COLUMNS_KEY).toArray());
     place.column = positionOf(column, columns);
     if (place.column < 0)
-        return unknown(tr("There is no column \"%1\" in the tab \"%2\".").arg(column, place.tabName),
-                       columns);
+        return unknown(
+            CellPlaceTr::tr("There is no column \"%1\" in the tab \"%2\".").arg(column, place.tabName),
+            columns);
     place.columnName = columns.at(place.column);
 
     const qsizetype cells = tabObject.value(CELLS_KEY).toArray().size();
     const qsizetype rows = (cells - place.column + columns.size() - 1) / columns.size();
     if (row < 0 || row >= rows) {
-        return Error(ErrorCode::InvalidContent,
-                     tr("There is no row %1 in the column \"%2\".").arg(row).arg(place.columnName))
-            .addDetail(tr("Its rows: %1, counted from 0.").arg(rows));
+        return Error(
+                   ErrorCode::InvalidContent,
+                   CellPlaceTr::tr("There is no row %1 in the column \"%2\".").arg(row).arg(place.columnName))
+            .addDetail(CellPlaceTr::tr("Its rows: %1, counted from 0.").arg(rows));
     }
     place.row = row;
     place.cell = row * columns.size() + place.column;

@@ -4,6 +4,8 @@
 #include <orv/propertyeditor/content/PropertyEditorStringConstants.h>
 #include <orv/propertyeditor/content/RawCell.h>
 
+#include <QCoreApplication>
+
 #include <cmath>
 #include <limits>
 
@@ -15,6 +17,11 @@ namespace {
 
 constexpr QLatin1String kBackslash("\\");
 constexpr QLatin1String kTwoBackslashes("\\\\");
+
+struct PropertyEditorJsonUtilsTr
+{
+    Q_DECLARE_TR_FUNCTIONS(PropertyEditorJsonUtils)
+};
 
 /// QVariant::isNull of Qt 6 takes no note of null texts.
 bool isNullText(const QVariant &value)
@@ -45,7 +52,7 @@ Error notOfType(const QString &message, const QString &key, const QJsonValue &va
 {
     const QString found = JsonUtils::typeDescription(value.type());
     return Error(ErrorCode::InvalidContent, message.arg(key))
-        .addDetail(QStringLiteral("The value is %1.").arg(found));
+        .addDetail(PropertyEditorJsonUtilsTr::tr("The value is %1.").arg(found));
 }
 
 /// The members of one type: how to tell and how to read it.

@@ -137,6 +137,11 @@ void readField(const QString &key, const QString &value, PresetContent *content)
     readFrom(kSettings);
 }
 
+Error cannotOpenPreset(const QString &path)
+{
+    return {ErrorCode::CannotOpenFile, PreviewPresetTr::tr("Cannot open file: %1").arg(path)};
+}
+
 } // namespace
 
 QString PreviewPreset::createPresetContentFromWorkflow(const QString &spectraFiles,
@@ -171,8 +176,7 @@ Result<PresetContent> PresetContent::fromPreviewPresetFile(const QString &path)
     const Result<QByteArray> bytes = FileUtils::readFile(path, kMaximumSize);
     if (!bytes.hasError())
         return fromFileContent(*bytes);
-    Error error(ErrorCode::CannotOpenFile,
-                QCoreApplication::translate("PreviewPreset", "Cannot open file: %1").arg(path));
+    Error error = cannotOpenPreset(path);
     if (bytes.error().code() != ErrorCode::CannotOpenFile)
         error.addDetail(bytes.error().errorMessage());
     for (const QString &detail : bytes.error().details())

@@ -17,7 +17,7 @@ namespace {
 
 QString hintFor(PropertyId id, const KeyValueItem &item, const QString &key)
 {
-    return validatorText("Enter %1.")
+    return ValidatorText::tr("Enter %1.")
         .arg(PropertyText::legalValues(id, item.propertySet()->property(key.toUtf8())));
 }
 

@@ -18,7 +18,7 @@ void DeltaMassesValidator::check(CheckRun &run) const
         return;
     const SamplesTableItem *table = content.samplesTable();
     if (!table || table->content().samples.samples.isEmpty()) {
-        run.error(validatorText("The workflow doesn't have any samples"),
+        run.error(ValidatorText::tr("The workflow doesn't have any samples"),
                   {table, PropertyId::SamplesTable, {}}, addSamplesHint());
         return;
     }
@@ -29,7 +29,7 @@ void DeltaMassesValidator::check(CheckRun &run) const
     QStringList warnings;
     masses->isValid(table->samplesInput(), &errors, &warnings);
     const FindingPlace place{masses, PropertyId::MassTable, {}};
-    const QString hint = validatorText("Correct the row in the table of masses, or remove it.");
+    const QString hint = ValidatorText::tr("Correct the row in the table of masses, or remove it.");
     for (const QString &error : std::as_const(errors))
         run.error(error, place, hint);
     for (const QString &warning : std::as_const(warnings))

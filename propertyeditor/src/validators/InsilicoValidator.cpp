@@ -20,7 +20,7 @@ namespace {
 
 QString digestionHint()
 {
-    return validatorText("Enter an enzyme, its residues and the side of the cut, such as \"%1\".")
+    return ValidatorText::tr("Enter an enzyme, its residues and the side of the cut, such as \"%1\".")
         .arg(QStringLiteral("Trypsin @ R,K | C-term"));
 }
 
@@ -64,9 +64,9 @@ private:
         const bool isNone = fixed.toInt(&isNumber) == 0 && isNumber;
         if ((!fixed.isValid() || isNone) && isEmptyObject(PropertyId::InSilicoModifications) &&
             isEmptyObject(PropertyId::InSilicoGlycans)) {
-            m_run.warning(validatorText("No modifications found, including fixed modifications."),
+            m_run.warning(ValidatorText::tr("No modifications found, including fixed modifications."),
                           {&m_item, PropertyId::InSilicoModifications, {}},
-                          validatorText("Enter the modifications that the peptides may carry."));
+                          ValidatorText::tr("Enter the modifications that the peptides may carry."));
         }
     }
 
@@ -75,11 +75,11 @@ private:
         const FindingPlace place{&m_item, PropertyId::Digestion, {}};
         const QString digestion = m_item.value(PropertyId::Digestion).toString();
         if (digestion.isEmpty())
-            m_run.error(validatorText("Invalid digestion syntax."), place, digestionHint());
+            m_run.error(ValidatorText::tr("Invalid digestion syntax."), place, digestionHint());
         const Result<ProteinDigestionItem> item = ProteinDigestionItem::parse(digestion);
         if (item)
             return;
-        m_run.error(validatorText("Invalid digestion format: %1.").arg(digestion), place,
+        m_run.error(ValidatorText::tr("Invalid digestion format: %1.").arg(digestion), place,
                     item.error().details().join(QLatin1Char(' ')));
     }
 
@@ -114,10 +114,10 @@ private:
         if (error) {
             qCWarning(propertyEditorLog).noquote()
                 << "Cannot read the in-silico peptides:" << error.ecatch().errorMessage();
-            m_run.error(errorText, place, validatorText("Correct the file, or choose another one."));
+            m_run.error(errorText, place, ValidatorText::tr("Correct the file, or choose another one."));
         }
         if (!warningText.isEmpty())
-            m_run.warning(warningText, place, validatorText("Look through the file."));
+            m_run.warning(warningText, place, ValidatorText::tr("Look through the file."));
     }
 
     void checkMasses() const
@@ -130,11 +130,12 @@ private:
         const double upperDa = PropertyEditorJsonUtils::getValueFromValueUnit(upper).toDouble();
         if (lowerDa < upperDa)
             return;
-        m_run.error(validatorText("Peptide mass range out of order (%1 to %2), please change the values.\n")
-                        .arg(lowerDa)
-                        .arg(upperDa),
-                    {&m_item, PropertyId::PeptideMassMin, {}},
-                    validatorText("The smallest mass must lie below the largest."));
+        m_run.error(
+            ValidatorText::tr("Peptide mass range out of order (%1 to %2), please change the values.\n")
+                .arg(lowerDa)
+                .arg(upperDa),
+            {&m_item, PropertyId::PeptideMassMin, {}},
+            ValidatorText::tr("The smallest mass must lie below the largest."));
     }
 
     CheckRun &m_run;

@@ -35,8 +35,8 @@ void MsTracesValidator::check(CheckRun &run) const
     const SamplesTableItem *table = content.samplesTable();
     if (!table || table->content().samples.samples.isEmpty()) {
         const bool isReport = !content.findAllItems(BaseItemType::MultiDocReport).isEmpty();
-        run.error(validatorText("The workflow doesn't have any %1")
-                      .arg(isReport ? validatorText("documents") : validatorText("samples")),
+        run.error(ValidatorText::tr("The workflow doesn't have any %1")
+                      .arg(isReport ? ValidatorText::tr("documents") : ValidatorText::tr("samples")),
                   {table, PropertyId::SamplesTable, {}}, addSamplesHint());
         return;
     }
@@ -50,11 +50,11 @@ void MsTracesValidator::check(CheckRun &run) const
             !MsDataFileUtils::hasMsExtension(ResourceReferenceUtils::localName(sample.msFile)))
             continue;
         run.error(
-            validatorText(
+            ValidatorText::tr(
                 "The sample with id \"%1\" has no MS traces selected. Please select at least one MS trace")
                 .arg(sample.id),
             {table, PropertyId::SamplesTable, sample.name, row},
-            validatorText("Import a trace of this sample, or remove the sample."));
+            ValidatorText::tr("Import a trace of this sample, or remove the sample."));
     }
 }
 

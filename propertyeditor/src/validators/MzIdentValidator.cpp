@@ -38,8 +38,8 @@ void MzIdentValidator::check(CheckRun &run) const
     const SamplesTableItem *table = tableOfSamplesTab(content);
     if (!table) {
         run.error(
-            validatorText("The workflow doesn't have samples table."), {},
-            validatorText("Name the tab \"Samples\" and put the table of samples into its first cell."));
+            ValidatorText::tr("The workflow doesn't have samples table."), {},
+            ValidatorText::tr("Name the tab \"Samples\" and put the table of samples into its first cell."));
         return;
     }
     for (const ColumnSettings &found : settingsInColumns(content, {BaseItemType::Karvon})) {
@@ -49,7 +49,7 @@ void MzIdentValidator::check(CheckRun &run) const
         run.error(QStringLiteral(
                       "There is a Karvon project with \"Export mzIdentML\" property unchecked or missing.\n"
                       "Please set the property checked and rerun the project creation process."),
-                  {found.item, PropertyId::KarvonExportMzIdentML, {}}, validatorText("Enter true."));
+                  {found.item, PropertyId::KarvonExportMzIdentML, {}}, ValidatorText::tr("Enter true."));
         return;
     }
 }

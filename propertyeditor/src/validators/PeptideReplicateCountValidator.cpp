@@ -46,15 +46,16 @@ bool checkItem(CheckRun &run, const KeyValueItem &item, qsizetype limit)
     const FindingPlace place{&item, PropertyId::PeptideReplicateCount, {}};
     const std::optional<int> count = countOf(item);
     if (!count) {
-        run.error(validatorText("The value of \"%1\" is not valid.").arg(caption), place,
-                  validatorText("Enter a whole number from 1 to %1.").arg(limit));
+        run.error(ValidatorText::tr("The value of \"%1\" is not valid.").arg(caption), place,
+                  ValidatorText::tr("Enter a whole number from 1 to %1.").arg(limit));
         return false;
     }
     if (*count > limit) {
         run.error(
-            validatorText("The value of \"%1\" cannot be greater than %2.").arg(caption).arg(limit), place,
-            validatorText("Enter a smaller number, or tell the conditions of more samples in the column "
-                          "\"Condition\"."));
+            ValidatorText::tr("The value of \"%1\" cannot be greater than %2.").arg(caption).arg(limit),
+            place,
+            ValidatorText::tr("Enter a smaller number, or tell the conditions of more samples in the column "
+                              "\"Condition\"."));
         return false;
     }
     return true;

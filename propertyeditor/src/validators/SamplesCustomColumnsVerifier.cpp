@@ -60,19 +60,19 @@ QStringList repeated(const QStringList &names)
 Error SamplesCustomColumnsVerifier::verifyCustomColumns(Content *content)
 {
     if (!content)
-        return {ErrorCode::InvalidContent, validatorText("Content is empty")};
+        return {ErrorCode::InvalidContent, ValidatorText::tr("Content is empty")};
     const QStringList names =
         repeated(content->extendedMetadataInfo().columnNames() + columnsOfTables(*content));
     if (names.isEmpty())
         return Error::NoError;
-    return Error(
-               ErrorCode::MalformedStructure,
-               validatorText("Metadata mappings and Samples-Proteins table contain %1: %2. This may lead to "
-                             "project creation failure.")
-                   .arg(names.size() == 1 ? validatorText("a duplicate column name")
-                                          : validatorText("duplicate column names"),
-                        names.join(QLatin1Char(','))))
-        .addDetail(validatorText("Give each mapped attribute and each column a name of its own."));
+    return Error(ErrorCode::MalformedStructure,
+                 ValidatorText::tr(
+                     "Metadata mappings and Samples-Proteins table contain %1: %2. This may lead to "
+                     "project creation failure.")
+                     .arg(names.size() == 1 ? ValidatorText::tr("a duplicate column name")
+                                            : ValidatorText::tr("duplicate column names"),
+                          names.join(QLatin1Char(','))))
+        .addDetail(ValidatorText::tr("Give each mapped attribute and each column a name of its own."));
 }
 
 } // namespace orv::PropertyEditor

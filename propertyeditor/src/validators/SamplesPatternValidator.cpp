@@ -91,8 +91,8 @@ void reportAll(CheckRun &run, Finding::Level level, const QString &text,
         return;
     }
     const QString hint =
-        validatorText("Enter names of samples, or patterns such as \"lot*\"; separate them by "
-                      "\";\". Empty uses all samples.");
+        ValidatorText::tr("Enter names of samples, or patterns such as \"lot*\"; separate them by "
+                          "\";\". Empty uses all samples.");
     QList<FindingPlace> places;
     for (const BaseItem *document : documents)
         places.append({document, PropertyId::Samples, {}});
@@ -104,13 +104,13 @@ void checkSamples(CheckRun &run, const DocumentsOfType &documents)
     const QString type = BaseItem::typeToString(documents.type);
     if (documents.withSamples.isEmpty()) {
         reportAll(run, Finding::Level::Error,
-                  validatorText("%1 documents don't use any valid samples. At least one %1 document "
-                                "should use valid samples")
+                  ValidatorText::tr("%1 documents don't use any valid samples. At least one %1 document "
+                                    "should use valid samples")
                       .arg(type),
                   documents.withoutSamples);
     } else if (!documents.withoutSamples.isEmpty()) {
         reportAll(run, Finding::Level::Warning,
-                  validatorText("Not all %1 documents use valid samples").arg(type),
+                  ValidatorText::tr("Not all %1 documents use valid samples").arg(type),
                   documents.withoutSamples);
     }
 }
@@ -125,7 +125,7 @@ void SamplesPatternValidator::check(CheckRun &run) const
     const SamplesTableItem *table = content.samplesTable();
     const Samples samples = table ? table->content().samples.samples : Samples();
     if (samples.isEmpty()) {
-        run.error(validatorText("The workflow doesn't have any samples"),
+        run.error(ValidatorText::tr("The workflow doesn't have any samples"),
                   {table, PropertyId::SamplesTable, {}}, addSamplesHint());
         return;
     }
@@ -133,9 +133,9 @@ void SamplesPatternValidator::check(CheckRun &run) const
     if (documents.isEmpty())
         return;
     if (samples.size() == 1 && isProjectToCompareWith(samples.constFirst())) {
-        run.error(validatorText("Reference sample requires at least one non-reference sample."),
+        run.error(ValidatorText::tr("Reference sample requires at least one non-reference sample."),
                   {table, PropertyId::SamplesTable, samples.constFirst().name, 0},
-                  validatorText("Add the MS file of a sample that is compared with the project."));
+                  ValidatorText::tr("Add the MS file of a sample that is compared with the project."));
         return;
     }
     QList<DocumentsOfType> groups;
@@ -147,8 +147,8 @@ void SamplesPatternValidator::check(CheckRun &run) const
             (chosen.areThere(*settings) ? group.withSamples : group.withoutSamples).append(document);
             continue;
         }
-        run.error(validatorText("Cannot handle a %1 document type").arg(document->typeString()),
-                  {document, PropertyId::NoProperty, {}}, validatorText("Remove the document."));
+        run.error(ValidatorText::tr("Cannot handle a %1 document type").arg(document->typeString()),
+                  {document, PropertyId::NoProperty, {}}, ValidatorText::tr("Remove the document."));
     }
     for (const DocumentsOfType &group : groups)
         checkSamples(run, group);

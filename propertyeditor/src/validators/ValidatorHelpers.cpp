@@ -27,7 +27,7 @@ QList<ColumnSettings> settingsInColumns(const Content &content, const QSet<BaseI
 
 QString addSamplesHint()
 {
-    return validatorText("Add files to the table of samples.");
+    return ValidatorText::tr("Add files to the table of samples.");
 }
 
 } // namespace orv::PropertyEditor

@@ -1,14 +1,13 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QString>
 
 namespace orv::PropertyEditor {
 
-/// A text in the context that all validators share.
-inline QString validatorText(const char *text)
+/// The context that the texts of all validators share.
+struct ValidatorText
 {
-    return QCoreApplication::translate("AbstractValidator", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(AbstractValidator)
+};
 
 } // namespace orv::PropertyEditor

@@ -11,8 +11,8 @@ void WorkflowValidator::check(CheckRun &run) const
 {
     const Content &content = run.content();
     if (content.findAllDocuments().isEmpty()) {
-        run.error(validatorText("The workflow doesn't have any documents"), {},
-                  validatorText("Add a column with a search, an analysis or a report."));
+        run.error(ValidatorText::tr("The workflow doesn't have any documents"), {},
+                  ValidatorText::tr("Add a column with a search, an analysis or a report."));
     }
 }
 

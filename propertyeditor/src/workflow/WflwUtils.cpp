@@ -32,10 +32,10 @@ namespace {
 constexpr int kResourceReferenceType = 4001;
 
 // Translations were made when the class had this name.
-QString tr(const char *text)
+struct WflwUtilsTr
 {
-    return QCoreApplication::translate("PtsonUtils", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(PtsonUtils)
+};
 
 const FileExtensionsNameFilter &portableFilter()
 {
@@ -64,11 +64,11 @@ bool prepareFolder(const QString &folder, QString *error)
 {
     const QString native = QDir::toNativeSeparators(folder);
     if (!removeWhatIsThere(QDir::cleanPath(folder))) {
-        *error = tr("Cannot clean %1").arg(native);
+        *error = WflwUtilsTr::tr("Cannot clean %1").arg(native);
         return false;
     }
     if (!QDir().mkpath(folder)) {
-        *error = tr("Failed to create %1").arg(native);
+        *error = WflwUtilsTr::tr("Failed to create %1").arg(native);
         return false;
     }
     return true;
@@ -322,7 +322,7 @@ bool WflwUtils::copyGlycanDatabases(KeyValueItem *item, const QString &key, cons
 
 void WflwUtils::reportNotValid(const QString &text, const PortableFolder &target, QString *error)
 {
-    *error = tr("URL \"%1\" is not valid").arg(text);
+    *error = WflwUtilsTr::tr("URL \"%1\" is not valid").arg(text);
     target.observer->failed(Side::Source);
 }
 
@@ -342,7 +342,7 @@ bool WflwUtils::copyFile(const QUrl &source, const PortableFolder &target, QStri
         target.observer->copying(path, done, total);
     });
     if (failure) {
-        *error = tr("Cannot copy %1 into %2")
+        *error = WflwUtilsTr::tr("Cannot copy %1 into %2")
                      .arg(QDir::toNativeSeparators(path), QDir::toNativeSeparators(*destination));
         qCWarning(propertyEditorLog).noquote()
             << "Cannot copy" << QDir::toNativeSeparators(path) << ":" << failure->reason;

@@ -2,6 +2,8 @@
 
 #include <orv/core/PathUtils.h>
 
+#include <QCoreApplication>
+
 namespace orv::msreader::internal {
 
 FormatDetectorSimple::FormatDetectorSimple(VendorDataFormat format, Kind kind, const QString &extension,
@@ -44,7 +46,7 @@ bool FormatDetectorSimple::isFolder(VendorDataFormat /*format*/) const
 
 QString FormatDetectorSimple::formatDescription(VendorDataFormat /*format*/) const
 {
-    return m_description;
+    return QCoreApplication::translate("FormatDetectors", m_description.toLatin1().constData());
 }
 
 bool FormatDetectorSimple::hasName(const QString &path) const

@@ -8,6 +8,8 @@
 #include "FormatDetectorTolq.h"
 #include "FormatDetectorWaters.h"
 
+#include <QCoreApplication>
+
 namespace orv::msreader::internal {
 
 namespace {
@@ -46,12 +48,12 @@ constexpr DetectorRow kDetectorRows[] = {
     {simple<FormatDetectorSimple>, Format::Csv2d, Kind::File, ".csv2d", "Csv2D"},
     {simple<FormatDetectorDataCut>, Format::DataCut, Kind::File, ".data.cut", "Data Cut"},
     {simple<FormatDetectorDataCutEmbedded>, Format::DataCutEmbedded, Kind::File, "", "Data Cut Embedded"},
-    {simple<FormatDetectorSimple>, Format::MsFaux, Kind::File, ".msfaux", "Simulated msfaux"},
-    {simple<FormatDetectorSimple>, Format::MsFaux2, Kind::File, ".msfaux2", "Simulated msfaux2"},
-    {simple<FormatDetectorSimple>, Format::Mgf, Kind::File, ".mgf", "Mascot generic format (mgf)"},
-    {simple<FormatDetectorSimple>, Format::Mzml, Kind::File, ".mzml", "Open data format mzml"},
-    {simple<FormatDetectorSimple>, Format::Mzxml, Kind::File, ".mzxml", "Open data format mzxml"},
-    {simple<FormatDetectorTolq>, Format::Tolq, Kind::File, ".tolq", "Orv Acquisition file"},
+    {simple<FormatDetectorSimple>, Format::MsFaux, Kind::File, ".msfaux", QT_TRANSLATE_NOOP("FormatDetectors", "Simulated msfaux")},
+    {simple<FormatDetectorSimple>, Format::MsFaux2, Kind::File, ".msfaux2", QT_TRANSLATE_NOOP("FormatDetectors", "Simulated msfaux2")},
+    {simple<FormatDetectorSimple>, Format::Mgf, Kind::File, ".mgf", QT_TRANSLATE_NOOP("FormatDetectors", "Mascot generic format (mgf)")},
+    {simple<FormatDetectorSimple>, Format::Mzml, Kind::File, ".mzml", QT_TRANSLATE_NOOP("FormatDetectors", "Open data format mzml")},
+    {simple<FormatDetectorSimple>, Format::Mzxml, Kind::File, ".mzxml", QT_TRANSLATE_NOOP("FormatDetectors", "Open data format mzxml")},
+    {simple<FormatDetectorTolq>, Format::Tolq, Kind::File, ".tolq", QT_TRANSLATE_NOOP("FormatDetectors", "Orv Acquisition file")},
     {simple<FormatDetectorSimple>, Format::Mobilion, Kind::File, ".mbi", "MOBILion"},
     {simple<FormatDetectorSciexWiff>, Format::SciexWiff, Kind::File, ".wiff", "Sciex wiff"},
     {simple<FormatDetectorSciexWiff2>, Format::SciexWiff2, Kind::File, ".wiff2", "Sciex wiff2"},

@@ -33,11 +33,11 @@ Result<QString> LocalResourceHandler::grab()
 {
     if (std::optional<QString> found = path())
         return *std::move(found);
-    const auto tr = [](const char *text) { return QCoreApplication::translate("ResourceHandler", text); };
     return Error(ErrorCode::CannotOpenFile,
-                 tr(QT_TRANSLATE_NOOP("ResourceHandler", "The file \"%1\" does not exist."))
+                 QCoreApplication::translate("ResourceHandler", "The file \"%1\" does not exist.")
                      .arg(reference()->readableText()))
-        .addDetail(tr(QT_TRANSLATE_NOOP("ResourceHandler", "Restore the file, or refer to another one.")));
+        .addDetail(
+            QCoreApplication::translate("ResourceHandler", "Restore the file, or refer to another one."));
 }
 
 Result<QJsonObject> LocalResourceHandler::metadata()

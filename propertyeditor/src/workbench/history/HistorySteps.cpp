@@ -1,5 +1,7 @@
 #include "HistorySteps.h"
 
+#include <orv/table_model/TableHistory.h>
+
 #include <algorithm>
 #include <numeric>
 #include <utility>

@@ -41,12 +41,13 @@ private:
     struct CompareRule;
     struct StringRule;
 
+    // The catalogue keeps its rules: they translate their texts when they speak.
     static VerificationFunction constructCompareVerificationFunction(const QString &parameter,
                                                                      ValuePredicate predicate,
-                                                                     const QString &message);
+                                                                     const char *message);
     static VerificationFunction constructStringVerificationFunction(const QString &parameter,
                                                                     StringPredicate predicate,
-                                                                    const QString &message);
+                                                                    const char *message);
     static VerificationFunction constructRangeVerificationFunction(const QString &parameter);
 
     /// \a text as a value of the property's type: bool, int and double; else the text.
