@@ -2,6 +2,167 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>AbstractValidator</name>
+    <message>
+        <source>Enter %1.</source>
+        <translation>Geben Sie ein: %1.</translation>
+    </message>
+    <message>
+        <source>The workflow doesn&apos;t have any samples</source>
+        <translation>Der Workflow hat keine Proben</translation>
+    </message>
+    <message>
+        <source>Correct the row in the table of masses, or remove it.</source>
+        <translation>Berichtigen Sie die Zeile in der Tabelle der Massen, oder entfernen Sie sie.</translation>
+    </message>
+    <message>
+        <source>Enter an enzyme, its residues and the side of the cut, such as &quot;%1&quot;.</source>
+        <translation>Geben Sie ein Enzym, seine Reste und die Seite des Schnitts ein, etwa „%1“.</translation>
+    </message>
+    <message>
+        <source>No modifications found, including fixed modifications.</source>
+        <translation>Keine Modifikationen gefunden, auch keine festen Modifikationen.</translation>
+    </message>
+    <message>
+        <source>Enter the modifications that the peptides may carry.</source>
+        <translation>Geben Sie die Modifikationen ein, die die Peptide tragen können.</translation>
+    </message>
+    <message>
+        <source>Invalid digestion syntax.</source>
+        <translation>Ungültige Schreibweise der Verdauung.</translation>
+    </message>
+    <message>
+        <source>Invalid digestion format: %1.</source>
+        <translation>Ungültiges Format der Verdauung: %1.</translation>
+    </message>
+    <message>
+        <source>Correct the file, or choose another one.</source>
+        <translation>Berichtigen Sie die Datei, oder wählen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>Look through the file.</source>
+        <translation>Sehen Sie die Datei durch.</translation>
+    </message>
+    <message>
+        <source>Peptide mass range out of order (%1 to %2), please change the values.
+</source>
+        <translation>Der Bereich der Peptidmassen ist verkehrt herum (%1 bis %2), bitte ändern Sie die Werte.
+</translation>
+    </message>
+    <message>
+        <source>The smallest mass must lie below the largest.</source>
+        <translation>Die kleinste Masse muss unter der größten liegen.</translation>
+    </message>
+    <message>
+        <source>The workflow doesn&apos;t have any %1</source>
+        <translation>Der Workflow hat keine %1</translation>
+    </message>
+    <message>
+        <source>documents</source>
+        <translation>Dokumente</translation>
+    </message>
+    <message>
+        <source>samples</source>
+        <translation>Proben</translation>
+    </message>
+    <message>
+        <source>The sample with id &quot;%1&quot; has no MS traces selected. Please select at least one MS trace</source>
+        <translation>Für die Probe mit der ID „%1“ sind keine MS-Spuren gewählt. Bitte wählen Sie mindestens eine MS-Spur</translation>
+    </message>
+    <message>
+        <source>Import a trace of this sample, or remove the sample.</source>
+        <translation>Importieren Sie eine Spur dieser Probe, oder entfernen Sie die Probe.</translation>
+    </message>
+    <message>
+        <source>The workflow doesn&apos;t have samples table.</source>
+        <translation>Der Workflow hat keine Tabelle der Proben.</translation>
+    </message>
+    <message>
+        <source>Name the tab &quot;Samples&quot; and put the table of samples into its first cell.</source>
+        <translation>Nennen Sie den Reiter „Samples“, und setzen Sie die Tabelle der Proben in seine erste Zelle.</translation>
+    </message>
+    <message>
+        <source>Enter true.</source>
+        <translation>Geben Sie true ein.</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; is not valid.</source>
+        <translation>Der Wert von „%1“ ist nicht gültig.</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from 1 to %1.</source>
+        <translation>Geben Sie eine ganze Zahl von 1 bis %1 ein.</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; cannot be greater than %2.</source>
+        <translation>Der Wert von „%1“ darf nicht größer als %2 sein.</translation>
+    </message>
+    <message>
+        <source>Enter a smaller number, or tell the conditions of more samples in the column &quot;Condition&quot;.</source>
+        <translation>Geben Sie eine kleinere Zahl ein, oder nennen Sie in der Spalte „Condition“ die Bedingungen weiterer Proben.</translation>
+    </message>
+    <message>
+        <source>Content is empty</source>
+        <translation>Der Inhalt ist leer</translation>
+    </message>
+    <message>
+        <source>Metadata mappings and Samples-Proteins table contain %1: %2. This may lead to project creation failure.</source>
+        <translation>Die Zuordnungen der Metadaten und die Tabelle von Proben und Proteinen enthalten %1: %2. Daran kann das Anlegen des Projekts scheitern.</translation>
+    </message>
+    <message>
+        <source>a duplicate column name</source>
+        <translation>einen doppelten Spaltennamen</translation>
+    </message>
+    <message>
+        <source>duplicate column names</source>
+        <translation>doppelte Spaltennamen</translation>
+    </message>
+    <message>
+        <source>Give each mapped attribute and each column a name of its own.</source>
+        <translation>Geben Sie jedem zugeordneten Attribut und jeder Spalte einen eigenen Namen.</translation>
+    </message>
+    <message>
+        <source>Enter names of samples, or patterns such as &quot;lot*&quot;; separate them by &quot;;&quot;. Empty uses all samples.</source>
+        <translation>Geben Sie Namen von Proben oder Muster wie „lot*“ ein, mit „;“ dazwischen. Ohne Eingabe werden alle Proben benutzt.</translation>
+    </message>
+    <message>
+        <source>%1 documents don&apos;t use any valid samples. At least one %1 document should use valid samples</source>
+        <translation>%1-Dokumente benutzen keine gültigen Proben. Mindestens ein %1-Dokument muss gültige Proben benutzen</translation>
+    </message>
+    <message>
+        <source>Not all %1 documents use valid samples</source>
+        <translation>Nicht alle %1-Dokumente benutzen gültige Proben</translation>
+    </message>
+    <message>
+        <source>Reference sample requires at least one non-reference sample.</source>
+        <translation>Eine Referenzprobe braucht mindestens eine Probe, die keine Referenz ist.</translation>
+    </message>
+    <message>
+        <source>Add the MS file of a sample that is compared with the project.</source>
+        <translation>Fügen Sie die MS-Datei einer Probe hinzu, die mit dem Projekt verglichen wird.</translation>
+    </message>
+    <message>
+        <source>Cannot handle a %1 document type</source>
+        <translation>Mit Dokumenten der Art %1 lässt sich nichts anfangen</translation>
+    </message>
+    <message>
+        <source>Remove the document.</source>
+        <translation>Entfernen Sie das Dokument.</translation>
+    </message>
+    <message>
+        <source>Add files to the table of samples.</source>
+        <translation>Fügen Sie der Tabelle der Proben Dateien hinzu.</translation>
+    </message>
+    <message>
+        <source>The workflow doesn&apos;t have any documents</source>
+        <translation>Der Workflow hat keine Dokumente</translation>
+    </message>
+    <message>
+        <source>Add a column with a search, an analysis or a report.</source>
+        <translation>Fügen Sie eine Spalte mit einer Suche, einer Analyse oder einem Bericht hinzu.</translation>
+    </message>
+</context>
+<context>
     <name>AddedSamples</name>
     <message numerus="yes">
         <source>%1 and %n more</source>
@@ -51,6 +212,59 @@
     </message>
 </context>
 <context>
+    <name>CellPlace</name>
+    <message>
+        <source>There is: %1.</source>
+        <translation>Es gibt: %1.</translation>
+    </message>
+    <message>
+        <source>The document has no tabs.</source>
+        <translation>Das Dokument hat keine Reiter.</translation>
+    </message>
+    <message>
+        <source>There is no tab &quot;%1&quot;.</source>
+        <translation>Es gibt keinen Reiter „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;%1&quot; in the tab &quot;%2&quot;.</source>
+        <translation>Es gibt keine Spalte „%1“ im Reiter „%2“.</translation>
+    </message>
+    <message>
+        <source>There is no row %1 in the column &quot;%2&quot;.</source>
+        <translation>Es gibt keine Zeile %1 in der Spalte „%2“.</translation>
+    </message>
+    <message>
+        <source>Its rows: %1, counted from 0.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CellStamps</name>
+    <message>
+        <source>the metadata of the cell</source>
+        <translation>die Metadaten der Zelle</translation>
+    </message>
+    <message>
+        <source>member &quot;%1&quot;</source>
+        <translation>Eintrag „%1“</translation>
+    </message>
+    <message>
+        <source>a new stamp takes the place of the cell&apos;s metadata</source>
+        <translation>ein neuer Stempel tritt an die Stelle der Metadaten der Zelle</translation>
+    </message>
+    <message>
+        <source>they are not the JSON text of an object</source>
+        <translation>kein JSON-Text eines Objekts</translation>
+    </message>
+</context>
+<context>
+    <name>Chain</name>
+    <message>
+        <source>It is the sequence of the chain &quot;%1&quot;.</source>
+        <translation>Es ist die Sequenz der Kette „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>ChangeText</name>
     <message>
         <source>Entries: %1</source>
@@ -66,10 +280,242 @@
     </message>
 </context>
 <context>
+    <name>ChemicalFactory</name>
+    <message>
+        <source>A building block of oligonucleotides can&apos;t be used.</source>
+        <translation>Ein Baustein für Oligonukleotide kann nicht benutzt werden.</translation>
+    </message>
+    <message>
+        <source>It is &quot;%1&quot; of the type &quot;%2&quot;. %3</source>
+        <translation>Es ist „%1“ von der Art „%2“. %3</translation>
+    </message>
+    <message>
+        <source>There is no such type.</source>
+        <translation>Diese Art gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>It has no symbol.</source>
+        <translation>Er hat kein Symbol.</translation>
+    </message>
+    <message>
+        <source>It belongs to the building block &quot;%1&quot;.</source>
+        <translation>Sie gehört zum Baustein „%1“.</translation>
+    </message>
+    <message>
+        <source>A sequence has no formula.</source>
+        <translation>Eine Sequenz hat keine Formel.</translation>
+    </message>
+    <message>
+        <source>It is empty.</source>
+        <translation>Sie ist leer.</translation>
+    </message>
+    <message>
+        <source>It is too long.</source>
+        <translation>Sie ist zu lang.</translation>
+    </message>
+    <message>
+        <source>There is no nucleotide</source>
+        <translation>Es gibt kein Nukleotid</translation>
+    </message>
+    <message>
+        <source>The sequence is too long</source>
+        <translation>Die Sequenz ist zu lang</translation>
+    </message>
+    <message>
+        <source>There is no building block &quot;%1&quot; of the type %2</source>
+        <translation>Es gibt keinen Baustein „%1“ der Art %2</translation>
+    </message>
+    <message>
+        <source>A &quot;[&quot; has no &quot;]&quot;</source>
+        <translation>Einer „[“ fehlt die „]“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a base nor a base and a sugar</source>
+        <translation>„%1“ ist weder eine Base noch eine Base mit einem Zucker</translation>
+    </message>
+    <message>
+        <source>There is no nucleotide behind a &quot;%1&quot;</source>
+        <translation>Hinter einem „%1“ steht kein Nukleotid</translation>
+    </message>
+    <message>
+        <source>%1, at character %2.</source>
+        <translation>%1, beim Zeichen %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no amino acid</source>
+        <translation>„%1“ ist keine Aminosäure</translation>
+    </message>
+</context>
+<context>
+    <name>ChemicalFormula</name>
+    <message>
+        <source>The chemical formula is malformed.</source>
+        <translation>Die chemische Formel ist falsch gebildet.</translation>
+    </message>
+    <message>
+        <source>The formula is &quot;%1&quot;. %2</source>
+        <translation>Die Formel ist „%1“. %2</translation>
+    </message>
+    <message>
+        <source>It has %1 characters; %2 are allowed.</source>
+        <translation>Sie hat %1 Zeichen; erlaubt sind %2.</translation>
+    </message>
+    <message>
+        <source>At character %1 there is no element.</source>
+        <translation>Beim Zeichen %1 steht kein Element.</translation>
+    </message>
+    <message>
+        <source>The count &quot;%1&quot; of %2 is too large.</source>
+        <translation>Die Anzahl „%1“ von %2 ist zu groß.</translation>
+    </message>
+</context>
+<context>
+    <name>ChemistryJson</name>
+    <message>
+        <source>The member &quot;%1&quot; must be %2.</source>
+        <translation>Der Eintrag „%1“ muss %2 sein.</translation>
+    </message>
+    <message>
+        <source>There is %1.</source>
+        <translation>Es gibt %1.</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true oder false</translation>
+    </message>
+    <message>
+        <source>a whole number</source>
+        <translation>eine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>The member &quot;%1&quot; must be a whole number from %2 to %3.</source>
+        <translation>Der Eintrag „%1“ muss eine ganze Zahl von %2 bis %3 sein.</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>The member &quot;%1&quot; must not be negative.</source>
+        <translation>Der Eintrag „%1“ darf nicht negativ sein.</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>eine Zeichenkette</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+</context>
+<context>
+    <name>ClosedReader</name>
+    <message>
+        <source>Could not open the file: %1</source>
+        <translation>Die Datei konnte nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>It isn&apos;t there, or its folder can&apos;t be read.</source>
+        <translation>Sie ist nicht da, oder ihr Ordner ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>No format of MS data is recognised: %1</source>
+        <translation>Kein Format von MS-Daten wird erkannt: %1</translation>
+    </message>
+    <message>
+        <source>Check that the data are complete, or convert them to mzML.</source>
+        <translation>Prüfen Sie, ob die Daten vollständig sind, oder wandeln Sie sie in mzML um.</translation>
+    </message>
+    <message>
+        <source>Spectra of the format &quot;%1&quot; aren&apos;t read.</source>
+        <translation>Spektren des Formats „%1“ werden nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>Convert the data to mzML.</source>
+        <translation>Wandeln Sie die Daten in mzML um.</translation>
+    </message>
+    <message>
+        <source>Reading the format &quot;%1&quot; needs a library of its vendor, which is not there.</source>
+        <translation>Um das Format „%1“ zu lesen, wird eine Bibliothek seines Herstellers gebraucht, die nicht da ist.</translation>
+    </message>
+</context>
+<context>
+    <name>CommonModifications</name>
+    <message>
+        <source>Unimod, as ProteoWizard has it</source>
+        <translation>Unimod, wie ProteoWizard es hat</translation>
+    </message>
+</context>
+<context>
+    <name>Content</name>
+    <message>
+        <source>What was loaded was removed in the middle of the load.</source>
+        <translation>Was geladen wurde, wurde während des Ladens entfernt.</translation>
+    </message>
+</context>
+<context>
+    <name>ContentValidator</name>
+    <message>
+        <source>Unknown error</source>
+        <translation>Unbekannter Fehler</translation>
+    </message>
+</context>
+<context>
     <name>ControlHelp</name>
     <message>
         <source>This cell: %1</source>
         <translation>Diese Zelle: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CsvReader</name>
+    <message>
+        <source>The table cannot be read.</source>
+        <translation>Die Tabelle kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>A quote stands where it may not.</source>
+        <translation>Ein Anführungszeichen steht, wo es nicht stehen darf.</translation>
+    </message>
+    <message>
+        <source>Quote the whole field, and write each quote inside it twice.</source>
+        <translation>Setzen Sie das ganze Feld in Anführungszeichen, und schreiben Sie jedes Anführungszeichen darin doppelt.</translation>
+    </message>
+    <message>
+        <source>A quoted field has no end.</source>
+        <translation>Ein Feld in Anführungszeichen hat kein Ende.</translation>
+    </message>
+    <message>
+        <source>Write the quote that ends it, or complete the file.</source>
+        <translation>Schreiben Sie das Anführungszeichen, mit dem es endet, oder vervollständigen Sie die Datei.</translation>
+    </message>
+    <message>
+        <source>A row has more than %1 fields.</source>
+        <translation>Eine Zeile hat mehr als %1 Felder.</translation>
+    </message>
+    <message>
+        <source>The table is not UTF-8.</source>
+        <translation>Die Tabelle ist nicht in UTF-8.</translation>
+    </message>
+    <message>
+        <source>Save it with the encoding UTF-8.</source>
+        <translation>Speichern Sie sie mit der Kodierung UTF-8.</translation>
+    </message>
+    <message>
+        <source>A field is larger than %1 bytes.</source>
+        <translation>Ein Feld ist größer als %1 Bytes.</translation>
+    </message>
+    <message>
+        <source>A row is larger than %1 bytes.</source>
+        <translation>Eine Zeile ist größer als %1 Bytes.</translation>
+    </message>
+    <message>
+        <source>See whether a quote is missing, or leave out what is too large.</source>
+        <translation>Sehen Sie nach, ob ein Anführungszeichen fehlt, oder lassen Sie weg, was zu groß ist.</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
     </message>
 </context>
 <context>
@@ -81,6 +527,25 @@
     <message>
         <source>It is empty, taken, or the name of another member of a sample. Choose another.</source>
         <translation>Er ist leer, vergeben oder der Name eines anderen Teils einer Probe. Wählen Sie einen anderen.</translation>
+    </message>
+</context>
+<context>
+    <name>DataSourceLocation</name>
+    <message>
+        <source>Vendor file name is empty</source>
+        <translation>Der Dateiname des Herstellers ist leer</translation>
+    </message>
+    <message>
+        <source>The path exceeds %1</source>
+        <translation>Der Pfad ist länger als %1</translation>
+    </message>
+    <message>
+        <source>It has %1 characters.</source>
+        <translation>Er hat %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>Move the data into a shorter folder, or write &quot;\\?\&quot; in front of the path.</source>
+        <translation>Verschieben Sie die Daten in einen Ordner mit kürzerem Pfad, oder schreiben Sie „\\?\“ vor den Pfad.</translation>
     </message>
 </context>
 <context>
@@ -100,6 +565,150 @@
     <message>
         <source>the reason isn&apos;t known.</source>
         <translation>der Grund ist nicht bekannt.</translation>
+    </message>
+</context>
+<context>
+    <name>DisulfideUtils</name>
+    <message>
+        <source>The table of disulfide bonds can&apos;t be read.</source>
+        <translation>Die Tabelle der Disulfidbrücken kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Row %1: &quot;%2&quot; is no position of a residue.</source>
+        <translation>Zeile %1: „%2“ ist keine Position eines Rests.</translation>
+    </message>
+    <message>
+        <source>there is no chain &quot;%1&quot;.</source>
+        <translation>es gibt keine Kette „%1“.</translation>
+    </message>
+    <message>
+        <source>the chain &quot;%1&quot; has no residue %2.</source>
+        <translation>die Kette „%1“ hat keinen Rest %2.</translation>
+    </message>
+    <message>
+        <source>residue %1 of the chain &quot;%2&quot; is %3 and no cysteine.</source>
+        <translation>Rest %1 der Kette „%2“ ist %3 und kein Cystein.</translation>
+    </message>
+    <message>
+        <source>cysteine %1 of the chain &quot;%2&quot; stands in two bonds.</source>
+        <translation>Cystein %1 der Kette „%2“ kommt in zwei Brücken vor.</translation>
+    </message>
+    <message>
+        <source>Disulfide bond %1: %2</source>
+        <translation>Disulfidbrücke %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentFindings</name>
+    <message>
+        <source>The path &quot;%1&quot; holds a control character.</source>
+        <translation>Der Pfad „%1“ enthält ein Steuerzeichen.</translation>
+    </message>
+    <message>
+        <source>A backslash that was written once makes one of the letter behind it: write \\ in the file, or / instead.</source>
+        <translation>Ein einfacher umgekehrter Schrägstrich macht aus dem Buchstaben dahinter ein Steuerzeichen: Schreiben Sie \\ in die Datei, oder stattdessen /.</translation>
+    </message>
+    <message>
+        <source>The number %1 of the setting &quot;%2&quot; stands without quotes, and engines read 0 from it.</source>
+        <translation>Die Zahl %1 der Einstellung „%2“ steht ohne Anführungszeichen, und Programme lesen daraus 0.</translation>
+    </message>
+    <message>
+        <source>Write &quot;%1&quot; in quotes; saving the document does so, too.</source>
+        <translation>Schreiben Sie „%1“ in Anführungszeichen; auch das Speichern des Dokuments tut das.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentSaving</name>
+    <message>
+        <source>Could not write the file: %1</source>
+        <translation>Die Datei konnte nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was changed. Save to another folder, or see that this one has room and can be written.</source>
+        <translation>Nichts wurde geändert. Speichern Sie in einen anderen Ordner, oder sorgen Sie dafür, dass dieser Platz hat und beschrieben werden kann.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentStructure</name>
+    <message>
+        <source>Tab %1.</source>
+        <translation>Reiter %1.</translation>
+    </message>
+    <message>
+        <source>Mend the text at that place, or restore the file from a copy.</source>
+        <translation>Berichtigen Sie den Text an dieser Stelle, oder stellen Sie die Datei aus einer Kopie wieder her.</translation>
+    </message>
+    <message>
+        <source>%1 must be %2, but there is %3.</source>
+        <translation>%1 muss %2 sein, aber es gibt %3.</translation>
+    </message>
+    <message>
+        <source>A tab</source>
+        <translation>Ein Reiter</translation>
+    </message>
+    <message>
+        <source>There are cells, but no columns.</source>
+        <translation>Es gibt Zellen, aber keine Spalten.</translation>
+    </message>
+    <message>
+        <source>Cell %1</source>
+        <translation>Zelle %1</translation>
+    </message>
+    <message>
+        <source>Cell %1 is empty.</source>
+        <translation>Zelle %1 ist leer.</translation>
+    </message>
+    <message>
+        <source>member &quot;%1&quot;</source>
+        <translation>Eintrag „%1“</translation>
+    </message>
+    <message>
+        <source>the format has no such member</source>
+        <translation>das Format kennt keinen solchen Eintrag</translation>
+    </message>
+    <message>
+        <source>element of &quot;%1&quot;</source>
+        <translation>Element von „%1“</translation>
+    </message>
+    <message>
+        <source>it is %1</source>
+        <translation>ist %1</translation>
+    </message>
+    <message>
+        <source>a tab</source>
+        <translation>ein Reiter</translation>
+    </message>
+    <message>
+        <source>it is no object</source>
+        <translation>kein Objekt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a tab</source>
+        <translation>„%1“ eines Reiters</translation>
+    </message>
+    <message>
+        <source>the metadata of the document</source>
+        <translation>die Metadaten des Dokuments</translation>
+    </message>
+    <message>
+        <source>they are not the JSON text of an object</source>
+        <translation>kein JSON-Text eines Objekts</translation>
+    </message>
+    <message>
+        <source>the mode of the document</source>
+        <translation>der Modus des Dokuments</translation>
+    </message>
+    <message>
+        <source>it is no whole number</source>
+        <translation>keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>the extended metadata of the document</source>
+        <translation>die erweiterten Metadaten des Dokuments</translation>
+    </message>
+    <message>
+        <source>they are not an object</source>
+        <translation>kein Objekt</translation>
     </message>
 </context>
 <context>
@@ -123,6 +732,25 @@
     <message>
         <source>Show the version.</source>
         <translation>Zeigt die Version.</translation>
+    </message>
+</context>
+<context>
+    <name>ElutionPeaksBackwardsCompatibility</name>
+    <message>
+        <source>The peak settings of a kind of trace are out of range.</source>
+        <translation>Die Peak-Einstellungen einer Art von Spuren liegen außerhalb des Bereichs.</translation>
+    </message>
+    <message>
+        <source>Kind of trace: %1; smoothing width %2, interval time %3, smoothing width of the baseline %4 minutes.</source>
+        <translation>Art der Spuren: %1; Breite der Glättung %2, Zeit des Intervalls %3, Breite der Glättung der Grundlinie %4 Minuten.</translation>
+    </message>
+    <message>
+        <source>Set them to 0 or more with the version that wrote the document.</source>
+        <translation>Setzen Sie sie mit der Version, die das Dokument geschrieben hat, auf 0 oder mehr.</translation>
+    </message>
+    <message>
+        <source>The advanced setting &quot;%1&quot; has the value &quot;%2&quot;, which can&apos;t be read. It stays in the advanced configuration without effect; enter its value in the table of samples.</source>
+        <translation>Die erweiterte Einstellung „%1“ hat den Wert „%2“, der nicht gelesen werden kann. Sie bleibt ohne Wirkung in der erweiterten Konfiguration stehen; geben Sie ihren Wert in der Tabelle der Proben ein.</translation>
     </message>
 </context>
 <context>
@@ -188,6 +816,91 @@
     </message>
 </context>
 <context>
+    <name>ExternalDataSources</name>
+    <message>
+        <source>&quot;%1&quot; has no place on this machine.</source>
+        <translation>„%1“ hat auf diesem Rechner keinen Ort.</translation>
+    </message>
+    <message>
+        <source>It does not refer to an external data source.</source>
+        <translation>Es verweist auf keine externe Datenquelle.</translation>
+    </message>
+    <message>
+        <source>Its path leads out of the source; name the file by a path without &quot;..&quot; and backslashes.</source>
+        <translation>Sein Pfad führt aus der Quelle hinaus; nennen Sie die Datei mit einem Pfad ohne „..“ und umgekehrte Schrägstriche.</translation>
+    </message>
+    <message>
+        <source>Set &quot;%1&quot; to the absolute path of the folder at which the source &quot;%2&quot; is mounted.</source>
+        <translation>Setzen Sie „%1“ auf den absoluten Pfad des Ordners, in dem die Quelle „%2“ eingehängt ist.</translation>
+    </message>
+</context>
+<context>
+    <name>Fasta</name>
+    <message>
+        <source>The file is %1.</source>
+        <translation>Die Datei ist %1.</translation>
+    </message>
+    <message>
+        <source>The FASTA file has no sequence.</source>
+        <translation>Die FASTA-Datei hat keine Sequenz.</translation>
+    </message>
+    <message>
+        <source>Could not write the file: %1</source>
+        <translation>Die Datei konnte nicht geschrieben werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>FastaReader</name>
+    <message>
+        <source>Line %1: &quot;%2&quot; has no sequence and is passed over.</source>
+        <translation>Zeile %1: „%2“ hat keine Sequenz und wird übergangen.</translation>
+    </message>
+    <message>
+        <source>The FASTA text can&apos;t be read.</source>
+        <translation>Der FASTA-Text kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Check that the file is FASTA: a line with &quot;&gt;&quot; and a name, then lines of letters.</source>
+        <translation>Prüfen Sie, ob die Datei FASTA ist: eine Zeile mit „&gt;“ und einem Namen, dann Zeilen aus Buchstaben.</translation>
+    </message>
+    <message>
+        <source>There are %1 more warnings.</source>
+        <translation>Es gibt %1 weitere Warnungen.</translation>
+    </message>
+    <message>
+        <source>Line %1: the name &quot;%2&quot; stands twice.</source>
+        <translation>Zeile %1: Der Name „%2“ kommt zweimal vor.</translation>
+    </message>
+    <message>
+        <source>Line %1: the sequence of &quot;%2&quot; has a stop inside.</source>
+        <translation>Zeile %1: Die Sequenz von „%2“ enthält einen Stopp.</translation>
+    </message>
+    <message>
+        <source>There is text before the first &quot;&gt;&quot;.</source>
+        <translation>Vor dem ersten „&gt;“ steht Text.</translation>
+    </message>
+    <message>
+        <source>A header is too long.</source>
+        <translation>Eine Kopfzeile ist zu lang.</translation>
+    </message>
+    <message>
+        <source>A sequence has the character &quot;%1&quot;.</source>
+        <translation>Eine Sequenz enthält das Zeichen „%1“.</translation>
+    </message>
+    <message>
+        <source>A &quot;[&quot; has no &quot;]&quot; in its line.</source>
+        <translation>Einer „[“ fehlt die „]“ in ihrer Zeile.</translation>
+    </message>
+    <message>
+        <source>A sequence has more than %1 letters.</source>
+        <translation>Eine Sequenz hat mehr als %1 Buchstaben.</translation>
+    </message>
+</context>
+<context>
     <name>FileAccessor</name>
     <message>
         <source>The file can&apos;t be saved there.</source>
@@ -203,6 +916,244 @@
     <message>
         <source>Choose a File</source>
         <translation>Datei wählen</translation>
+    </message>
+</context>
+<context>
+    <name>FileExtensionsNameFilter</name>
+    <message>
+        <source>All supported files</source>
+        <translation>Alle unterstützten Dateien</translation>
+    </message>
+</context>
+<context>
+    <name>FileTypes</name>
+    <message>
+        <source>Workflow</source>
+        <translation>Workflow</translation>
+    </message>
+    <message>
+        <source>Portable workflow</source>
+        <translation>Portabler Workflow</translation>
+    </message>
+    <message>
+        <source>Property table</source>
+        <translation>Tabelle von Einstellungen</translation>
+    </message>
+    <message>
+        <source>Tab preset</source>
+        <translation>Reiter-Vorlage</translation>
+    </message>
+    <message>
+        <source>Cell preset</source>
+        <translation>Zellen-Vorlage</translation>
+    </message>
+    <message>
+        <source>Search engine parameters</source>
+        <translation>Parameter der Suchmaschine</translation>
+    </message>
+    <message>
+        <source>Preview preset</source>
+        <translation>Vorlage der Vorschau</translation>
+    </message>
+    <message>
+        <source>Sequence database</source>
+        <translation>Sequenzdatenbank</translation>
+    </message>
+    <message>
+        <source>Acquired sample</source>
+        <translation>Aufgenommene Probe</translation>
+    </message>
+    <message>
+        <source>Processed MS data</source>
+        <translation>Verarbeitete MS-Daten</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>Archiv</translation>
+    </message>
+    <message>
+        <source>Comma-separated values</source>
+        <translation>Durch Kommas getrennte Werte</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Electropherogram</source>
+        <translation>Elektropherogramm</translation>
+    </message>
+    <message>
+        <source>icIEF traces</source>
+        <translation>icIEF-Spuren</translation>
+    </message>
+    <message>
+        <source>Senthia project</source>
+        <translation>Senthia-Projekt</translation>
+    </message>
+    <message>
+        <source>Dravik project</source>
+        <translation>Dravik-Projekt</translation>
+    </message>
+    <message>
+        <source>Karvon project</source>
+        <translation>Karvon-Projekt</translation>
+    </message>
+    <message>
+        <source>Karvon search result</source>
+        <translation>Karvon-Suchergebnis</translation>
+    </message>
+    <message>
+        <source>Intact project</source>
+        <translation>Intact-Projekt</translation>
+    </message>
+    <message>
+        <source>Oligo project</source>
+        <translation>Oligo-Projekt</translation>
+    </message>
+    <message>
+        <source>Ostrale project</source>
+        <translation>Ostrale-Projekt</translation>
+    </message>
+    <message>
+        <source>Trenq project</source>
+        <translation>Trenq-Projekt</translation>
+    </message>
+    <message>
+        <source>Caldrin search result</source>
+        <translation>Caldrin-Suchergebnis</translation>
+    </message>
+    <message>
+        <source>Multi-document report</source>
+        <translation>Bericht über mehrere Dokumente</translation>
+    </message>
+</context>
+<context>
+    <name>FileUtils</name>
+    <message>
+        <source>It is a pipe or a device; name a regular file.</source>
+        <translation>Es ist eine Pipe oder ein Gerät; nennen Sie eine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>%1 The old content couldn&apos;t be put back: %2</source>
+        <translation>%1 Der alte Inhalt konnte nicht zurückgeschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>The name is empty; name a file.</source>
+        <translation>Der Name ist leer; nennen Sie eine Datei.</translation>
+    </message>
+    <message>
+        <source>Could not open the file: %1</source>
+        <translation>Die Datei konnte nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>The file is too large: %1 (%2, at most %3 are read)</source>
+        <translation>Die Datei ist zu groß: %1 (%2, gelesen werden höchstens %3)</translation>
+    </message>
+    <message>
+        <source>It is a folder; name a file.</source>
+        <translation>Es ist ein Ordner; nennen Sie eine Datei.</translation>
+    </message>
+    <message>
+        <source>What is to be written is too large to be read again (%1, at most %2 are read)</source>
+        <translation>Was geschrieben werden soll, ist zu groß, um wieder gelesen zu werden (%1, gelesen werden höchstens %2)</translation>
+    </message>
+    <message>
+        <source>Nothing was written. Remove what isn&apos;t needed, or divide it.</source>
+        <translation>Nichts wurde geschrieben. Entfernen Sie, was nicht gebraucht wird, oder teilen Sie es auf.</translation>
+    </message>
+</context>
+<context>
+    <name>FormatDetectors</name>
+    <message>
+        <source>Simulated msfaux</source>
+        <translation>Simuliertes msfaux</translation>
+    </message>
+    <message>
+        <source>Simulated msfaux2</source>
+        <translation>Simuliertes msfaux2</translation>
+    </message>
+    <message>
+        <source>Mascot generic format (mgf)</source>
+        <translation>Mascot Generic Format (mgf)</translation>
+    </message>
+    <message>
+        <source>Open data format mzml</source>
+        <translation>Offenes Datenformat mzml</translation>
+    </message>
+    <message>
+        <source>Open data format mzxml</source>
+        <translation>Offenes Datenformat mzxml</translation>
+    </message>
+    <message>
+        <source>Orv Acquisition file</source>
+        <translation>Orv-Aufnahmedatei</translation>
+    </message>
+</context>
+<context>
+    <name>GlycanComposition</name>
+    <message>
+        <source>The composition of a glycan is malformed.</source>
+        <translation>Die Zusammensetzung eines Glykans ist falsch gebildet.</translation>
+    </message>
+    <message>
+        <source>It is &quot;%1&quot;. %2</source>
+        <translation>Sie ist „%1“. %2</translation>
+    </message>
+    <message>
+        <source>Write it as &quot;HexNAc(4)Hex(3)Fuc(1)&quot;.</source>
+        <translation>Schreiben Sie sie als „HexNAc(4)Hex(3)Fuc(1)“.</translation>
+    </message>
+    <message>
+        <source>It has more than %1 characters.</source>
+        <translation>Sie hat mehr als %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>It is empty.</source>
+        <translation>Sie ist leer.</translation>
+    </message>
+    <message>
+        <source>There is no name with a count at character %1.</source>
+        <translation>Beim Zeichen %1 steht kein Name mit einer Anzahl.</translation>
+    </message>
+    <message>
+        <source>A count is larger than %1.</source>
+        <translation>Eine Anzahl ist größer als %1.</translation>
+    </message>
+    <message>
+        <source>%1 stands twice.</source>
+        <translation>%1 kommt zweimal vor.</translation>
+    </message>
+</context>
+<context>
+    <name>GlycanOptions</name>
+    <message>
+        <source>The table of glycan options can&apos;t be read.</source>
+        <translation>Die Tabelle der Glykan-Einstellungen kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Row %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>A glycan has no formula.</source>
+        <translation>Ein Glykan hat keine Formel.</translation>
+    </message>
+    <message>
+        <source>There is no %1 &quot;%2&quot; among the glycan options.</source>
+        <translation>In den Glykan-Einstellungen steht dies nicht: %1 „%2“.</translation>
+    </message>
+    <message>
+        <source>There is no kind &quot;%1&quot;.</source>
+        <translation>Es gibt keine Art „%1“.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is empty or stands twice.</source>
+        <translation>Der Name „%1“ ist leer oder kommt zweimal vor.</translation>
+    </message>
+    <message>
+        <source>It stands in row %1 of the glycan options.</source>
+        <translation>Es steht in Zeile %1 der Glykan-Einstellungen.</translation>
     </message>
 </context>
 <context>
@@ -301,6 +1252,139 @@
     </message>
 </context>
 <context>
+    <name>InclusionList</name>
+    <message>
+        <source>The inclusion list can&apos;t be read.</source>
+        <translation>Die Einschlussliste kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The m/z must be a number above 0.</source>
+        <translation>Das m/z muss eine Zahl über 0 sein.</translation>
+    </message>
+    <message>
+        <source>The charge %1 is too high.</source>
+        <translation>Die Ladung %1 ist zu hoch.</translation>
+    </message>
+    <message>
+        <source>The retention times are negative or out of order.</source>
+        <translation>Die Retentionszeiten sind negativ oder verkehrt herum.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no time.</source>
+        <translation>„%1“ ist keine Zeit.</translation>
+    </message>
+    <message>
+        <source>There are more than %1 fields.</source>
+        <translation>Es gibt mehr als %1 Felder.</translation>
+    </message>
+    <message>
+        <source>The m/z or the charge is no number.</source>
+        <translation>Das m/z oder die Ladung ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>It has %1 entries; %2 are allowed.</source>
+        <translation>Sie hat %1 Einträge; erlaubt sind %2.</translation>
+    </message>
+    <message>
+        <source>It is entry %1 of the inclusion list.</source>
+        <translation>Es ist Eintrag %1 der Einschlussliste.</translation>
+    </message>
+    <message>
+        <source>It reads &quot;%1&quot;.</source>
+        <translation>Er lautet „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>InsilicoPeptidesCsvReader</name>
+    <message>
+        <source>The file of in-silico peptides can&apos;t be read.</source>
+        <translation>Die Datei der In-silico-Peptide kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>There are too many rows.</source>
+        <translation>Es gibt zu viele Zeilen.</translation>
+    </message>
+    <message>
+        <source>The file of in-silico peptides has no peptides.</source>
+        <translation>Die Datei der In-silico-Peptide hat keine Peptide.</translation>
+    </message>
+    <message>
+        <source>%1 rows have more fields than the header; the rest isn&apos;t used.</source>
+        <translation>%1 Zeilen haben mehr Felder als die Kopfzeile; der Rest wird nicht benutzt.</translation>
+    </message>
+    <message>
+        <source>%1 peptides stand twice.</source>
+        <translation>%1 Peptide kommen zweimal vor.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;Sequence&quot;.</source>
+        <translation>Es gibt keine Spalte „Sequence“.</translation>
+    </message>
+    <message>
+        <source>There is no sequence.</source>
+        <translation>Es gibt keine Sequenz.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no sequence of letters.</source>
+        <translation>„%1“ ist keine Sequenz aus Buchstaben.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no charge.</source>
+        <translation>„%1“ ist keine Ladung.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number from 0.</source>
+        <translation>„%1“ ist keine Zahl ab 0.</translation>
+    </message>
+    <message>
+        <source>The file is %1.</source>
+        <translation>Die Datei ist %1.</translation>
+    </message>
+</context>
+<context>
+    <name>IntactOptionsUtils</name>
+    <message>
+        <source>The table of deconvolution options can&apos;t be read.</source>
+        <translation>Die Tabelle der Dekonvolutions-Einstellungen kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Row %1: &quot;%2&quot; in the column &quot;%3&quot; is no number of its kind.</source>
+        <translation>Zeile %1: „%2“ in der Spalte „%3“ ist keine Zahl dieser Art.</translation>
+    </message>
+    <message>
+        <source>m/z</source>
+        <translation>m/z</translation>
+    </message>
+    <message>
+        <source>mass</source>
+        <translation>Masse</translation>
+    </message>
+    <message>
+        <source>charge</source>
+        <translation>Ladung</translation>
+    </message>
+    <message>
+        <source>The adduct &quot;%1&quot; is no chemical formula.</source>
+        <translation>Das Addukt „%1“ ist keine chemische Formel.</translation>
+    </message>
+    <message>
+        <source>The range of %1 (%2 to %3) is out of order.</source>
+        <translation>Dieser Bereich ist verkehrt herum: %1 (%2 bis %3).</translation>
+    </message>
+    <message>
+        <source>Deconvolution options &quot;%1&quot; (row %2): %3</source>
+        <translation>Dekonvolutions-Einstellungen „%1“ (Zeile %2): %3</translation>
+    </message>
+    <message>
+        <source>The deconvolution options &quot;%1&quot; stand twice.</source>
+        <translation>Die Dekonvolutions-Einstellungen „%1“ kommen zweimal vor.</translation>
+    </message>
+</context>
+<context>
     <name>Internal::EditorDataModel</name>
     <message numerus="yes">
         <source>and %n more</source>
@@ -354,6 +1438,53 @@
     </message>
 </context>
 <context>
+    <name>IsotopeUtils</name>
+    <message>
+        <source>The table of isotopes can&apos;t be read.</source>
+        <translation>Die Tabelle der Isotope kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Row %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>A formula has no isotope envelope.</source>
+        <translation>Eine Formel hat keine Isotopenhülle.</translation>
+    </message>
+    <message>
+        <source>The formula is &quot;%1&quot;. %2</source>
+        <translation>Die Formel ist „%1“. %2</translation>
+    </message>
+    <message>
+        <source>There is no natural isotope &quot;%1&quot; of &quot;%2&quot;.</source>
+        <translation>Es gibt kein natürliches Isotop „%1“ von „%2“.</translation>
+    </message>
+    <message>
+        <source>The enrichment &quot;%1&quot; is no percentage.</source>
+        <translation>Die Anreicherung „%1“ ist kein Prozentwert.</translation>
+    </message>
+    <message>
+        <source>The cutoff %1 isn&apos;t between 0 and 1.</source>
+        <translation>Die Grenze %1 liegt nicht zwischen 0 und 1.</translation>
+    </message>
+    <message>
+        <source>It is empty.</source>
+        <translation>Sie ist leer.</translation>
+    </message>
+    <message>
+        <source>There can&apos;t be %1 atoms of %2.</source>
+        <translation>%1 Atome %2 kann es nicht geben.</translation>
+    </message>
+    <message>
+        <source>Nature has no isotopes of %1.</source>
+        <translation>In der Natur gibt es keine Isotope von %1.</translation>
+    </message>
+    <message>
+        <source>The cutoff %1 would leave out %2 % of its molecules; choose a smaller one.</source>
+        <translation>Die Grenze %1 würde %2 % seiner Moleküle weglassen; wählen Sie eine kleinere.</translation>
+    </message>
+</context>
+<context>
     <name>JavaChecker</name>
     <message>
         <source>The Java runtime is missing. Install version %1 or later, or set JAVA_HOME to its folder.</source>
@@ -366,6 +1497,120 @@
     <message>
         <source>The Java runtime &quot;%1&quot; has version %2. Install version %3 or later.</source>
         <translation>Die Java-Laufzeit „%1“ hat Version %2. Installieren Sie Version %3 oder eine spätere.</translation>
+    </message>
+</context>
+<context>
+    <name>JsonNumbers</name>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>it has more digits than are kept</source>
+        <translation>sie hat mehr Stellen, als aufbewahrt werden</translation>
+    </message>
+</context>
+<context>
+    <name>JsonUtils</name>
+    <message>
+        <source>Line %1, column %2.</source>
+        <translation>Zeile %1, Spalte %2.</translation>
+    </message>
+    <message>
+        <source>The text is empty.</source>
+        <translation>Der Text ist leer.</translation>
+    </message>
+    <message>
+        <source>The text looks like UTF-16; save it as UTF-8.</source>
+        <translation>Der Text sieht nach UTF-16 aus; speichern Sie ihn als UTF-8.</translation>
+    </message>
+    <message>
+        <source>The file is binary, no text; name another file.</source>
+        <translation>Die Datei ist binär und kein Text; nennen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>The text is not valid UTF-8 from there on; save it as UTF-8.</source>
+        <translation>Der Text ist von dort an kein gültiges UTF-8; speichern Sie ihn als UTF-8.</translation>
+    </message>
+    <message>
+        <source>Arrays and objects are nested too deeply; at most 1024 levels are read.</source>
+        <translation>Listen und Objekte sind zu tief verschachtelt; gelesen werden höchstens 1024 Ebenen.</translation>
+    </message>
+    <message>
+        <source>There is no number that a double can store.</source>
+        <translation>Dort steht keine Zahl, die als double gespeichert werden kann.</translation>
+    </message>
+    <message>
+        <source>Text follows behind the document; remove it.</source>
+        <translation>Hinter dem Dokument folgt Text; entfernen Sie ihn.</translation>
+    </message>
+    <message>
+        <source>The document is too large for one JSON document.</source>
+        <translation>Das Dokument ist zu groß für ein JSON-Dokument.</translation>
+    </message>
+    <message>
+        <source>Mend the text at that place, or restore the file from a copy.</source>
+        <translation>Berichtigen Sie den Text an dieser Stelle, oder stellen Sie die Datei aus einer Kopie wieder her.</translation>
+    </message>
+    <message>
+        <source>the key &quot;%1&quot; stands twice in one object</source>
+        <translation>der Schlüssel „%1“ steht zweimal in einem Objekt</translation>
+    </message>
+    <message>
+        <source>Only one of the two values could be kept; remove the wrong one.</source>
+        <translation>Nur einer der beiden Werte könnte bleiben; entfernen Sie den falschen.</translation>
+    </message>
+    <message>
+        <source>the escape %1 is none that JSON knows</source>
+        <translation>die Maskierung %1 kennt JSON nicht</translation>
+    </message>
+    <message>
+        <source>The backslash would be lost; to mean one, write \\. Look at the other backslashes too: \t, \n and the like are read as control characters.</source>
+        <translation>Der umgekehrte Schrägstrich ginge verloren; ist einer gemeint, schreiben Sie \\. Sehen Sie auch die anderen umgekehrten Schrägstriche an: \t, \n und dergleichen werden als Steuerzeichen gelesen.</translation>
+    </message>
+    <message>
+        <source>the number %1 is none that JSON knows</source>
+        <translation>die Zahl %1 kennt JSON nicht</translation>
+    </message>
+    <message>
+        <source>A point has digits on both sides: write 0.5 and 1.0.</source>
+        <translation>Ein Punkt hat auf beiden Seiten Ziffern: Schreiben Sie 0.5 und 1.0.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be %2, but there is %3.</source>
+        <translation>„%1“ muss %2 sein, aber es gibt %3.</translation>
+    </message>
+    <message>
+        <source>The JSON document is not an object.</source>
+        <translation>Das JSON-Dokument ist kein Objekt.</translation>
+    </message>
+    <message>
+        <source>null</source>
+        <translation>null</translation>
+    </message>
+    <message>
+        <source>a bool</source>
+        <translation>eine Ja/Nein-Angabe</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>eine Zeichenkette</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
     </message>
 </context>
 <context>
@@ -688,6 +1933,17 @@
     </message>
 </context>
 <context>
+    <name>KarvonResultFile</name>
+    <message>
+        <source>The list of MS files is too large: %1</source>
+        <translation>Die Liste der MS-Dateien ist zu groß: %1</translation>
+    </message>
+    <message>
+        <source>At most %1 references are read. Restore the file from a copy, or search anew.</source>
+        <translation>Höchstens %1 Verweise werden gelesen. Stellen Sie die Datei aus einer Kopie wieder her, oder suchen Sie neu.</translation>
+    </message>
+</context>
+<context>
     <name>LabelScriptsGenericObject</name>
     <message>
         <source>Label Script of Deconvolved Masses</source>
@@ -715,10 +1971,82 @@
     </message>
 </context>
 <context>
+    <name>LoadContext</name>
+    <message>
+        <source>it reads as %1 instead of %2</source>
+        <translation>wird als %1 statt %2 gelesen</translation>
+    </message>
+</context>
+<context>
     <name>MassTableItem</name>
     <message>
         <source>Failed to load data into the mass table widget.</source>
         <translation>Die Massentabelle kann die Daten nicht laden.</translation>
+    </message>
+</context>
+<context>
+    <name>MassTolerance</name>
+    <message>
+        <source>A mass tolerance has an unknown unit.</source>
+        <translation>Eine Massentoleranz hat eine unbekannte Einheit.</translation>
+    </message>
+    <message>
+        <source>The unit is &quot;%1&quot;; there are %2.</source>
+        <translation>Die Einheit ist „%1“; es gibt %2.</translation>
+    </message>
+</context>
+<context>
+    <name>MassTolerances</name>
+    <message>
+        <source>It is the member &quot;%1&quot; of the mass tolerances.</source>
+        <translation>Es ist der Eintrag „%1“ der Massentoleranzen.</translation>
+    </message>
+</context>
+<context>
+    <name>MassUtils</name>
+    <message>
+        <source>Row %1 of the masses</source>
+        <translation>Zeile %1 der Massen</translation>
+    </message>
+    <message>
+        <source>Row %1 (&quot;%2&quot;) of the masses</source>
+        <translation>Zeile %1 („%2“) der Massen</translation>
+    </message>
+    <message>
+        <source>%1 has the mass &quot;%2&quot;, which is no number. Please enter the mass in Da.</source>
+        <translation>%1 hat die Masse „%2“; das ist keine Zahl. Bitte geben Sie die Masse in Da ein.</translation>
+    </message>
+    <message>
+        <source>%1 has no mass. Please enter the mass in Da or remove the row.</source>
+        <translation>%1 hat keine Masse. Bitte geben Sie die Masse in Da ein, oder entfernen Sie die Zeile.</translation>
+    </message>
+    <message>
+        <source>%1 is for the samples %2, which don&apos;t exist. Please choose samples or remove the row.</source>
+        <translation>%1 ist für die Proben %2, die es nicht gibt. Bitte wählen Sie Proben, oder entfernen Sie die Zeile.</translation>
+    </message>
+    <message>
+        <source>%1 is also for the samples %2, which don&apos;t exist.</source>
+        <translation>%1 ist auch für die Proben %2, die es nicht gibt.</translation>
+    </message>
+    <message>
+        <source>%1 has no name, so its matches can&apos;t be told apart.</source>
+        <translation>%1 hat keinen Namen, sodass sich ihre Treffer nicht unterscheiden lassen.</translation>
+    </message>
+    <message>
+        <source>%1 repeats row %2.</source>
+        <translation>%1 wiederholt Zeile %2.</translation>
+    </message>
+    <message>
+        <source>The match tolerance of the masses can&apos;t be read.</source>
+        <translation>Die Treffertoleranz der Massen kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The value is &quot;%1&quot; and must be a number that is not negative.</source>
+        <translation>Der Wert ist „%1“ und muss eine Zahl sein, die nicht negativ ist.</translation>
+    </message>
+    <message>
+        <source>The unit is &quot;%1&quot;; there are %2.</source>
+        <translation>Die Einheit ist „%1“; es gibt %2.</translation>
     </message>
 </context>
 <context>
@@ -742,6 +2070,147 @@
     <message>
         <source>It is element %1 of &quot;%2&quot;.</source>
         <translation>Es ist Element %1 von „%2“.</translation>
+    </message>
+</context>
+<context>
+    <name>MgfFileReader</name>
+    <message>
+        <source>The MGF text has no query.</source>
+        <translation>Der MGF-Text hat keine Abfrage.</translation>
+    </message>
+    <message>
+        <source>Check that the file is MGF: queries stand between BEGIN IONS and END IONS.</source>
+        <translation>Prüfen Sie, ob die Datei MGF ist: Abfragen stehen zwischen BEGIN IONS und END IONS.</translation>
+    </message>
+</context>
+<context>
+    <name>MgfReader</name>
+    <message>
+        <source>A query begins before the one of line %1 has ended.</source>
+        <translation>Eine Abfrage beginnt, bevor die in Zeile %1 geendet hat.</translation>
+    </message>
+    <message>
+        <source>A query ends that has not begun.</source>
+        <translation>Eine Abfrage endet, die nicht begonnen hat.</translation>
+    </message>
+    <message>
+        <source>The text ends inside the query that begins in line %1.</source>
+        <translation>Der Text endet innerhalb der Abfrage, die in Zeile %1 beginnt.</translation>
+    </message>
+    <message>
+        <source>A line is longer than %1 bytes.</source>
+        <translation>Eine Zeile ist länger als %1 Bytes.</translation>
+    </message>
+    <message>
+        <source>The MGF text can&apos;t be read.</source>
+        <translation>Der MGF-Text kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Copy or export the file again; it may have been cut short on the way.</source>
+        <translation>Kopieren oder exportieren Sie die Datei noch einmal; vielleicht wurde sie unterwegs abgeschnitten.</translation>
+    </message>
+</context>
+<context>
+    <name>MirelElutionPeaksBackwardsCompatibility</name>
+    <message>
+        <source>The time range of interest from %1 to %2 minutes can&apos;t be held and is left out; enter it in the peak presets of the table of samples.</source>
+        <translation>Der Zeitbereich von %1 bis %2 Minuten kann nicht übernommen werden und wird weggelassen; geben Sie ihn in den Peak-Einstellungen der Tabelle der Proben ein.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>File does not exist</source>
+        <translation>Datei nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>The file: &quot;%1&quot; was not found. Would you like to load this file from another directory? If you choose to continue, the traces for this file will not be loaded.</source>
+        <translation>Die Datei „%1“ wurde nicht gefunden. Möchten Sie diese Datei aus einem anderen Ordner laden? Wenn Sie fortfahren, werden die Spuren dieser Datei nicht geladen.</translation>
+    </message>
+    <message>
+        <source>Find file</source>
+        <translation>Datei suchen</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortfahren</translation>
+    </message>
+    <message>
+        <source>Do not ask again (for this workflow)</source>
+        <translation>Nicht noch einmal fragen (für diesen Workflow)</translation>
+    </message>
+    <message>
+        <source>Ms file</source>
+        <translation>MS-Datei</translation>
+    </message>
+</context>
+<context>
+    <name>ModificationText</name>
+    <message>
+        <source>A modification can&apos;t be read.</source>
+        <translation>Eine Modifikation kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Behind &quot;|&quot; stands &quot;%1&quot;; write fixed, common1 or rare1, with the largest number on a peptide.</source>
+        <translation>Hinter „|“ steht „%1“; schreiben Sie fixed, common1 oder rare1, mit der größten Anzahl in einem Peptid.</translation>
+    </message>
+    <message>
+        <source>Write it as name / mass @ residues | fixed, common1 or rare1, not as &quot;%1&quot;.</source>
+        <translation>Schreiben Sie sie als Name / Masse @ Reste | fixed, common1 oder rare1, nicht als „%1“.</translation>
+    </message>
+    <message>
+        <source>It has no name.</source>
+        <translation>Sie hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>A name that begins with &quot;%&quot; makes it a comment.</source>
+        <translation>Ein Name, der mit „%“ beginnt, macht sie zum Kommentar.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a mass in Da nor a formula.</source>
+        <translation>„%1“ ist weder eine Masse in Da noch eine Formel.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no residue; write letters, NTerm or CTerm with commas between.</source>
+        <translation>„%1“ ist kein Rest; schreiben Sie Buchstaben, NTerm oder CTerm mit Kommas dazwischen.</translation>
+    </message>
+</context>
+<context>
+    <name>MsDataFormat</name>
+    <message>
+        <source>Could not find match for converting vendor data format to string: %1</source>
+        <translation>Für das Datenformat eines Herstellers gibt es keinen passenden Text: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MsReaderAccessor</name>
+    <message>
+        <source>The MS data can&apos;t be read.</source>
+        <translation>Die MS-Daten können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>File: %1</source>
+        <translation>Datei: %1</translation>
+    </message>
+    <message>
+        <source>The MS data aren&apos;t open: %1</source>
+        <translation>Die MS-Daten sind nicht geöffnet: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MsXmlReading</name>
+    <message>
+        <source>The document is &quot;%1&quot;, not &quot;mzML&quot;.</source>
+        <translation>Das Dokument ist „%1“, nicht „mzML“.</translation>
+    </message>
+    <message>
+        <source>The document is &quot;%1&quot;, not &quot;mzXML&quot;.</source>
+        <translation>Das Dokument ist „%1“, nicht „mzXML“.</translation>
     </message>
 </context>
 <context>
@@ -784,6 +2253,63 @@
     </message>
 </context>
 <context>
+    <name>ObsoleteCustomSettingsChecker</name>
+    <message>
+        <source>The advanced configuration has settings that are out of use: %1.</source>
+        <translation>Die erweiterte Konfiguration enthält Einstellungen, die nicht mehr benutzt werden: %1.</translation>
+    </message>
+    <message>
+        <source>Remove them from the advanced configuration, and enter their values in %1.</source>
+        <translation>Entfernen Sie sie aus der erweiterten Konfiguration, und geben Sie ihre Werte hier ein: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>OldSampleLosses</name>
+    <message>
+        <source>member &quot;%1&quot; of a sample</source>
+        <translation>Eintrag „%1“ einer Probe</translation>
+    </message>
+    <message>
+        <source>samples in rows have no such member</source>
+        <translation>Proben in Zeilen haben keinen solchen Eintrag</translation>
+    </message>
+    <message>
+        <source>a value of a sample</source>
+        <translation>ein Wert einer Probe</translation>
+    </message>
+    <message>
+        <source>it stands behind the last column</source>
+        <translation>er steht hinter der letzten Spalte</translation>
+    </message>
+</context>
+<context>
+    <name>PackedFile</name>
+    <message>
+        <source>The gzip file was cut short.</source>
+        <translation>Die gzip-Datei wurde abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>The gzip file is damaged: %1</source>
+        <translation>Die gzip-Datei ist beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>Could not open the file: %1</source>
+        <translation>Die Datei konnte nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>It isn&apos;t there, or its folder can&apos;t be read.</source>
+        <translation>Sie ist nicht da, oder ihr Ordner ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>It is no regular file.</source>
+        <translation>Es ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>The gzip file can&apos;t be read.</source>
+        <translation>Die gzip-Datei kann nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
     <name>PeakFilterDialog</name>
     <message>
         <source>m/z</source>
@@ -822,10 +2348,249 @@
     </message>
 </context>
 <context>
-    <name>PreviewPreset</name>
+    <name>PortableSamples</name>
+    <message>
+        <source>The folder &quot;%1&quot; can&apos;t be made.</source>
+        <translation>Der Ordner „%1“ kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>Cannot copy %1 into %2: %3</source>
+        <translation>%1 kann nicht nach %2 kopiert werden: %3</translation>
+    </message>
+    <message>
+        <source>Can&apos;t write to %1: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>PortableTarget</name>
+    <message>
+        <source>The folder %1 isn&apos;t replaced.</source>
+        <translation>Der Ordner %1 wird nicht ersetzt.</translation>
+    </message>
+    <message>
+        <source>Name another folder, or move away what is in this one.</source>
+        <translation>Nennen Sie einen anderen Ordner, oder räumen Sie weg, was in diesem liegt.</translation>
+    </message>
+    <message>
+        <source>Failed to create %1</source>
+        <translation>%1 konnte nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>It holds what is no part of a portable workflow: %1.</source>
+        <translation>Er enthält, was nicht zu einem portablen Workflow gehört: %1.</translation>
+    </message>
+    <message>
+        <source>It holds what is no part of a portable workflow: %1 and %2 more files.</source>
+        <translation>Er enthält, was nicht zu einem portablen Workflow gehört: %1 und %2 weitere Dateien.</translation>
+    </message>
+    <message>
+        <source>Its document has the newer version %1.</source>
+        <translation>Sein Dokument hat die neuere Version %1.</translation>
+    </message>
+    <message>
+        <source>It is a file, no folder.</source>
+        <translation>Es ist eine Datei und kein Ordner.</translation>
+    </message>
+    <message>
+        <source>Its document can&apos;t be read: %1</source>
+        <translation>Sein Dokument kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>The folder that is to hold it can&apos;t be made.</source>
+        <translation>Der Ordner, der ihn enthalten soll, kann nicht angelegt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewPresetTr</name>
     <message>
         <source>Cannot open file: %1</source>
-        <translation>Die Datei lässt sich nicht öffnen: %1</translation>
+        <translation>Die Datei kann nicht geöffnet werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectCreationOptionsDao</name>
+    <message>
+        <source>The creation options of the project can&apos;t be read: %1</source>
+        <translation>Die Einstellungen, mit denen das Projekt angelegt wurde, können nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>The project has the form %1, and its table %2 lacks the column %3 or %4.</source>
+        <translation>Das Projekt hat die Form %1, und seiner Tabelle %2 fehlt die Spalte %3 oder %4.</translation>
+    </message>
+    <message>
+        <source>Open it with a newer version of this software.</source>
+        <translation>Öffnen Sie es mit einer neueren Version dieser Software.</translation>
+    </message>
+    <message>
+        <source>Restore the file from a copy, or create the project anew.</source>
+        <translation>Stellen Sie die Datei aus einer Kopie wieder her, oder legen Sie das Projekt neu an.</translation>
+    </message>
+    <message>
+        <source>The creation options of the project are too large: %1</source>
+        <translation>Die Einstellungen, mit denen das Projekt angelegt wurde, sind zu groß: %1</translation>
+    </message>
+    <message>
+        <source>The option %1 holds %2, at most %3 are read.</source>
+        <translation>Die Einstellung %1 umfasst %2, gelesen werden höchstens %3.</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectCreationStatusFile</name>
+    <message>
+        <source>The file is no status of a project&apos;s creation.</source>
+        <translation>Die Datei ist kein Status eines Projekts, das angelegt wird.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be %2. Create the project anew.</source>
+        <translation>„%1“ muss %2 sein. Legen Sie das Projekt neu an.</translation>
+    </message>
+    <message>
+        <source>queued, running, done or failed</source>
+        <translation>queued, running, done oder failed</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>eine Zeichenkette</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>a moment such as 2024-01-31T10:20:30Z</source>
+        <translation>ein Zeitpunkt wie 2024-01-31T10:20:30Z</translation>
+    </message>
+    <message>
+        <source>a whole number from 0 to 100</source>
+        <translation>eine ganze Zahl von 0 bis 100</translation>
+    </message>
+    <message>
+        <source>The file is %1.</source>
+        <translation>Die Datei ist %1.</translation>
+    </message>
+    <message>
+        <source>Could not write the file: %1</source>
+        <translation>Die Datei konnte nicht geschrieben werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectCreationUtils</name>
+    <message>
+        <source>Could not create a temporary folder in: %1</source>
+        <translation>Ein temporärer Ordner konnte nicht angelegt werden in: %1</translation>
+    </message>
+    <message>
+        <source>The project is %1. Check that the folder exists, and the rights on it.</source>
+        <translation>Das Projekt ist %1. Prüfen Sie, ob der Ordner da ist, und die Rechte darauf.</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectFile</name>
+    <message>
+        <source>Two creation options of a project have one key: %1</source>
+        <translation>Zwei Einstellungen eines Projekts haben denselben Schlüssel: %1</translation>
+    </message>
+    <message>
+        <source>Give each key once.</source>
+        <translation>Geben Sie jeden Schlüssel nur einmal an.</translation>
+    </message>
+    <message>
+        <source>Unknown form of a project: %1</source>
+        <translation>Unbekannte Form eines Projekts: %1</translation>
+    </message>
+    <message>
+        <source>Known are 1 to %1.</source>
+        <translation>Bekannt sind 1 bis %1.</translation>
+    </message>
+</context>
+<context>
+    <name>PropertiesCsvReader</name>
+    <message>
+        <source>The type option &quot;%1&quot; is not of the form name=value.</source>
+        <translation>Die Angabe „%1“ zur Art hat nicht die Form Name=Wert.</translation>
+    </message>
+    <message>
+        <source>The table ends too early.</source>
+        <translation>Die Tabelle endet zu früh.</translation>
+    </message>
+    <message>
+        <source>A row has %1 fields and not %2.</source>
+        <translation>Eine Zeile hat %1 Felder und nicht %2.</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>The columns are not %1.</source>
+        <translation>Die Spalten sind nicht %1.</translation>
+    </message>
+    <message>
+        <source>There are more than %1 properties.</source>
+        <translation>Es gibt mehr als %1 Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The id &quot;%1&quot; stands where %2 belongs.</source>
+        <translation>Die ID „%1“ steht, wo %2 hingehört.</translation>
+    </message>
+    <message>
+        <source>The property %1 has no name.</source>
+        <translation>Die Einstellung %1 hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>Both %1 and %2 are named &quot;%3&quot;.</source>
+        <translation>%1 und %2 heißen beide „%3“.</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyEditorJsonUtils</name>
+    <message>
+        <source>The value is %1.</source>
+        <translation>Der Wert ist %1.</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyEditorUtils</name>
+    <message>
+        <source>Workflow has to contain at least one processing node</source>
+        <translation>Der Workflow muss mindestens einen Verarbeitungsschritt enthalten</translation>
+    </message>
+    <message>
+        <source>Add a column of a search, an analysis or a report.</source>
+        <translation>Fügen Sie eine Spalte mit einer Suche, einer Analyse oder einem Bericht hinzu.</translation>
+    </message>
+    <message>
+        <source>Current workflow processing nodes configuration is not supported</source>
+        <translation>Die Verarbeitungsschritte des Workflows werden in dieser Zusammenstellung nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>Searches and previews of different kinds can&apos;t make one project. Keep those of one kind, or add an analysis.</source>
+        <translation>Suchen und Vorschauen verschiedener Art ergeben kein gemeinsames Projekt. Behalten Sie die einer Art, oder fügen Sie eine Analyse hinzu.</translation>
+    </message>
+    <message>
+        <source>The project is %1.</source>
+        <translation>Das Projekt ist %1.</translation>
+    </message>
+    <message>
+        <source>Name a project that was created from a workflow, or create it anew.</source>
+        <translation>Nennen Sie ein Projekt, das aus einem Workflow angelegt wurde, oder legen Sie es neu an.</translation>
+    </message>
+    <message>
+        <source>Workflow is not saved in the project database.</source>
+        <translation>Der Workflow ist nicht in der Projektdatenbank gespeichert.</translation>
+    </message>
+    <message>
+        <source>Unable to load the workflow, multiple MirelProjectCreationOptions keys found.</source>
+        <translation>Der Workflow kann nicht geladen werden; es gibt mehrere Schlüssel MirelProjectCreationOptions.</translation>
+    </message>
+    <message>
+        <source>Found are %1. Restore the project from a copy, or create it anew.</source>
+        <translation>Gefunden wurden %1. Stellen Sie das Projekt aus einer Kopie wieder her, oder legen Sie es neu an.</translation>
+    </message>
+    <message>
+        <source>Incompatible workflow version: %1</source>
+        <translation>Nicht passende Version des Workflows: %1</translation>
     </message>
 </context>
 <context>
@@ -852,6 +2617,444 @@
     <message>
         <source>There is no content</source>
         <translation>Es gibt keinen Inhalt</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyLists</name>
+    <message>
+        <source>&quot;%1&quot; must be an integer.</source>
+        <translation>„%1“ muss eine ganze Zahl sein.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has the value %2 at the position %3.</source>
+        <translation>„%1“ hat den Wert %2 an der Position %3.</translation>
+    </message>
+    <message>
+        <source>The value %1 is given twice.</source>
+        <translation>Der Wert %1 ist zweimal angegeben.</translation>
+    </message>
+    <message>
+        <source>The key &quot;%1&quot; is given twice.</source>
+        <translation>Der Schlüssel „%1“ ist zweimal angegeben.</translation>
+    </message>
+    <message>
+        <source>An id is not the number of a property.</source>
+        <translation>Eine ID ist nicht die Nummer einer Einstellung.</translation>
+    </message>
+    <message>
+        <source>The property %1 has two lists.</source>
+        <translation>Die Einstellung %1 hat zwei Listen.</translation>
+    </message>
+    <message>
+        <source>The list is empty.</source>
+        <translation>Die Liste ist leer.</translation>
+    </message>
+    <message>
+        <source>The text &quot;%1&quot; is given twice.</source>
+        <translation>Der Text „%1“ ist zweimal angegeben.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be true or false.</source>
+        <translation>„%1“ muss true oder false sein.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no kind of list.</source>
+        <translation>„%1“ ist keine Art von Liste.</translation>
+    </message>
+    <message>
+        <source>list %1 of the file</source>
+        <translation>Liste %1 der Datei</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyLosses</name>
+    <message>
+        <source>value of the property &quot;%1&quot;</source>
+        <translation>Wert der Einstellung „%1“</translation>
+    </message>
+    <message>
+        <source>it is %1 that this property can&apos;t hold</source>
+        <translation>ist %1, was diese Einstellung nicht aufnimmt</translation>
+    </message>
+    <message>
+        <source>group of the property &quot;%1&quot;</source>
+        <translation>Gruppe der Einstellung „%1“</translation>
+    </message>
+    <message>
+        <source>priority of the property &quot;%1&quot;</source>
+        <translation>Priorität der Einstellung „%1“</translation>
+    </message>
+    <message>
+        <source>member &quot;%1&quot; of the property &quot;%2&quot;</source>
+        <translation>Eintrag „%1“ der Einstellung „%2“</translation>
+    </message>
+    <message>
+        <source>the format has no such member here</source>
+        <translation>das Format kennt hier keinen solchen Eintrag</translation>
+    </message>
+</context>
+<context>
+    <name>PropertySetCreator</name>
+    <message>
+        <source>Cannot find an internal name of the property #%1</source>
+        <translation>Der interne Name der Einstellung #%1 ist nicht zu finden</translation>
+    </message>
+    <message>
+        <source>Cannot apply the type of %1</source>
+        <translation>Die Art von %1 lässt sich nicht anwenden</translation>
+    </message>
+    <message>
+        <source>Cannot convert the value of %1</source>
+        <translation>Der Wert von %1 lässt sich nicht umwandeln</translation>
+    </message>
+    <message>
+        <source>member &quot;%1&quot; of a cell</source>
+        <translation>Eintrag „%1“ einer Zelle</translation>
+    </message>
+    <message>
+        <source>a cell of settings holds texts, numbers and switches only</source>
+        <translation>eine Zelle von Einstellungen enthält nur Texte, Zahlen und Schalter</translation>
+    </message>
+    <message>
+        <source>names that differ in case alone are one name</source>
+        <translation>Namen, die sich nur in Groß- und Kleinschreibung unterscheiden, gelten als ein Name</translation>
+    </message>
+    <message>
+        <source>Property &quot;%1&quot; is not supported.</source>
+        <translation>Die Einstellung „%1“ wird nicht unterstützt.</translation>
+    </message>
+    <message>
+        <source>a setting of this name stands before it</source>
+        <translation>eine Einstellung dieses Namens steht davor</translation>
+    </message>
+    <message>
+        <source>property &quot;%1&quot;</source>
+        <translation>Einstellung „%1“</translation>
+    </message>
+    <message>
+        <source>Invalid JSON object.</source>
+        <translation>Ungültiges JSON-Objekt.</translation>
+    </message>
+    <message>
+        <source>Failed to parse json.</source>
+        <translation>JSON konnte nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyText</name>
+    <message>
+        <source> in %1</source>
+        <translation> in %1</translation>
+    </message>
+    <message>
+        <source> from %1 to %2</source>
+        <translation> von %1 bis %2</translation>
+    </message>
+    <message>
+        <source> above %1 and at most %2</source>
+        <translation> über %1 und höchstens %2</translation>
+    </message>
+    <message>
+        <source> of at least %1 and below %2</source>
+        <translation> von mindestens %1 und unter %2</translation>
+    </message>
+    <message>
+        <source> above %1 and below %2</source>
+        <translation> über %1 und unter %2</translation>
+    </message>
+    <message>
+        <source>%1 for &quot;%2&quot;</source>
+        <translation>%1 für „%2“</translation>
+    </message>
+    <message>
+        <source>any text, such as %1</source>
+        <translation>beliebige Texte, etwa %1</translation>
+    </message>
+    <message>
+        <source>one of: %1</source>
+        <translation>eines von: %1</translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; is not allowed for %2.</source>
+        <translation>Der Wert „%1“ ist für %2 nicht erlaubt.</translation>
+    </message>
+    <message>
+        <source>Allowed: %1.</source>
+        <translation>Erlaubt: %1.</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true oder false</translation>
+    </message>
+    <message>
+        <source>a whole number</source>
+        <translation>eine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a path or the text of a reference</source>
+        <translation>Pfad oder Text eines Verweises</translation>
+    </message>
+    <message>
+        <source>a JSON object</source>
+        <translation>ein JSON-Objekt</translation>
+    </message>
+    <message>
+        <source>any of these, separated by commas: %1</source>
+        <translation>beliebige davon, mit Kommas dazwischen: %1</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2 with the unit %3, such as &quot;5 %4&quot;</source>
+        <translation>eine Zahl von %1 bis %2 mit der Einheit %3, etwa „5 %4“</translation>
+    </message>
+    <message>
+        <source> or </source>
+        <translation> oder </translation>
+    </message>
+</context>
+<context>
+    <name>PropertyVerification</name>
+    <message>
+        <source>The value of &quot;%1&quot; must be greater than %2</source>
+        <translation>Der Wert von „%1“ muss größer als %2 sein</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; must be greater or equal to %2</source>
+        <translation>Der Wert von „%1“ muss größer oder gleich %2 sein</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; must be less than %2</source>
+        <translation>Der Wert von „%1“ muss kleiner als %2 sein</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; must be less or equal to %2</source>
+        <translation>Der Wert von „%1“ muss kleiner oder gleich %2 sein</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; must be equal to %2</source>
+        <translation>Der Wert von „%1“ muss gleich %2 sein</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; must not be equal to %2</source>
+        <translation>Der Wert von „%1“ darf nicht gleich %2 sein</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; must not be empty</source>
+        <translation>Der Wert von „%1“ darf nicht leer sein</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; must contain &quot;%2&quot;</source>
+        <translation>Der Wert von „%1“ muss „%2“ enthalten</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; must not contain &quot;%2&quot;</source>
+        <translation>Der Wert von „%1“ darf „%2“ nicht enthalten</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; must start with &quot;%2&quot;</source>
+        <translation>Der Wert von „%1“ muss mit „%2“ beginnen</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; must end with &quot;%2&quot;</source>
+        <translation>Der Wert von „%1“ muss mit „%2“ enden</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; must be empty</source>
+        <translation>Der Wert von „%1“ muss leer sein</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%2&quot; must be in range %1</source>
+        <translation>Der Wert von „%2“ muss im Bereich %1 liegen</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyVerificationBuiltin</name>
+    <message>
+        <source>&quot;%1&quot; is not a URL</source>
+        <translation>„%1“ ist keine URL</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; specifies a file that does not come from the application bundle &quot;%3&quot;</source>
+        <translation>„%1“ nennt eine Datei, die nicht zu dieser Anwendung gehört: „%3“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; specifies a non-local file &quot;%3&quot;</source>
+        <translation>„%1“ nennt eine Datei, die nicht auf diesem Rechner liegt: „%3“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; specifies a file on a network drive: &quot;%3&quot;. The project creation process may work unstable</source>
+        <translation>„%1“ nennt eine Datei auf einem Netzlaufwerk: „%3“. Das Anlegen des Projekts läuft dann vielleicht nicht stabil</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; specifies a non-existent file &quot;%3&quot;</source>
+        <translation>„%1“ nennt eine Datei, die es nicht gibt: „%3“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; specifies an invalid reference to a file on the Talvane server</source>
+        <translation>„%1“ enthält einen ungültigen Verweis auf eine Datei des Talvane-Servers</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must not contain more than one &quot;%2&quot; substring</source>
+        <translation>„%1“ darf „%2“ nicht mehr als einmal enthalten</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must specify at least one isotope</source>
+        <translation>„%1“ muss mindestens ein Isotop nennen</translation>
+    </message>
+</context>
+<context>
+    <name>ProteinAnnotationEntry</name>
+    <message>
+        <source>A protein annotation must be an object.</source>
+        <translation>Eine Annotation eines Proteins muss ein Objekt sein.</translation>
+    </message>
+    <message>
+        <source>There is %1.</source>
+        <translation>Es gibt %1.</translation>
+    </message>
+    <message>
+        <source>It is the protein annotation %1.</source>
+        <translation>Es ist die Protein-Annotation %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ProteinAutoPopulateOptions</name>
+    <message>
+        <source>The name of combined proteins is malformed.</source>
+        <translation>Der Name kombinierter Proteine ist falsch gebildet.</translation>
+    </message>
+    <message>
+        <source>Write it as &quot;Auto(HC:0-2,LC:0-2)&quot;.</source>
+        <translation>Schreiben Sie ihn als „Auto(HC:0-2,LC:0-2)“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no chain with a count.</source>
+        <translation>„%1“ ist keine Kette mit einer Anzahl.</translation>
+    </message>
+    <message>
+        <source>The counts of &quot;%1&quot; are out of order or too large.</source>
+        <translation>Die Anzahlen von „%1“ sind verkehrt herum oder zu groß.</translation>
+    </message>
+    <message>
+        <source>It has more than %1 characters.</source>
+        <translation>Er hat mehr als %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>It must begin with &quot;Auto(&quot; and end with &quot;)&quot;.</source>
+        <translation>Er muss mit „Auto(“ beginnen und mit „)“ enden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands twice.</source>
+        <translation>„%1“ kommt zweimal vor.</translation>
+    </message>
+    <message>
+        <source>There is no chain &quot;%1&quot;.</source>
+        <translation>Es gibt keine Kette „%1“.</translation>
+    </message>
+    <message>
+        <source>It stands for more than %1 proteins.</source>
+        <translation>Er steht für mehr als %1 Proteine.</translation>
+    </message>
+</context>
+<context>
+    <name>ProteinDigestionItem</name>
+    <message>
+        <source>The digestion text is malformed.</source>
+        <translation>Der Text der Verdauung ist falsch gebildet.</translation>
+    </message>
+    <message>
+        <source>Write it as &quot;Trypsin @ R,K | C-term&quot;.</source>
+        <translation>Schreiben Sie ihn als „Trypsin @ R,K | C-term“.</translation>
+    </message>
+    <message>
+        <source>A sequence can&apos;t be digested.</source>
+        <translation>Eine Sequenz kann nicht verdaut werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a residue: residues are single capital letters.</source>
+        <translation>„%1“ ist kein Rest: Reste sind einzelne Großbuchstaben.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a side: there are %2 and %3.</source>
+        <translation>„%1“ ist keine Seite: Es gibt %2 und %3.</translation>
+    </message>
+    <message>
+        <source>It has %1 residues; 1 to %2 can be digested.</source>
+        <translation>Sie hat %1 Reste; verdaut werden können 1 bis %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; at residue %2 is not a capital letter.</source>
+        <translation>„%1“ beim Rest %2 ist kein Großbuchstabe.</translation>
+    </message>
+    <message>
+        <source>The limits of a digestion are out of order.</source>
+        <translation>Die Grenzen einer Verdauung sind verkehrt herum.</translation>
+    </message>
+    <message>
+        <source>Missed cleavages: %1; lengths: %2 to %3.</source>
+        <translation>Nicht geschnittene Stellen: %1; Längen: %2 bis %3.</translation>
+    </message>
+    <message>
+        <source>There are too many peptides. Allow fewer missed cleavages or shorter peptides.</source>
+        <translation>Es gibt zu viele Peptide. Erlauben Sie weniger nicht geschnittene Stellen oder kürzere Peptide.</translation>
+    </message>
+    <message>
+        <source>It has %1 characters; %2 are allowed.</source>
+        <translation>Er hat %1 Zeichen; erlaubt sind %2.</translation>
+    </message>
+    <message>
+        <source>It must have one &quot;@&quot;, behind the name.</source>
+        <translation>Er muss ein einziges „@“ haben, hinter dem Namen.</translation>
+    </message>
+    <message>
+        <source>It must have one &quot;|&quot;, behind the residues.</source>
+        <translation>Er muss ein einziges „|“ haben, hinter den Resten.</translation>
+    </message>
+    <message>
+        <source>The name before &quot;@&quot; must not be empty and must not hold &quot;|&quot;.</source>
+        <translation>Der Name vor „@“ darf nicht leer sein und kein „|“ enthalten.</translation>
+    </message>
+</context>
+<context>
+    <name>ProteinGenerator</name>
+    <message>
+        <source>A protein is too large.</source>
+        <translation>Ein Protein ist zu groß.</translation>
+    </message>
+    <message>
+        <source>The sequences of &quot;%1&quot; have more than %2 letters together.</source>
+        <translation>Die Sequenzen von „%1“ haben zusammen mehr als %2 Buchstaben.</translation>
+    </message>
+    <message>
+        <source>The tables of proteins can&apos;t be read.</source>
+        <translation>Die Tabellen der Proteine können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Row %1 of the table &quot;%2&quot;: %3</source>
+        <translation>Zeile %1 der Tabelle „%2“: %3</translation>
+    </message>
+    <message>
+        <source>There is no type &quot;%1&quot; of chains.</source>
+        <translation>Es gibt keine Art „%1“ von Ketten.</translation>
+    </message>
+    <message>
+        <source>The number %1 is below 1 or another chain&apos;s.</source>
+        <translation>Die Nummer %1 ist kleiner als 1 oder die einer anderen Kette.</translation>
+    </message>
+    <message>
+        <source>There is no chain %1.</source>
+        <translation>Es gibt keine Kette %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no count of disulfide bonds.</source>
+        <translation>„%1“ ist keine Anzahl von Disulfidbrücken.</translation>
     </message>
 </context>
 <context>
@@ -982,6 +3185,64 @@
     </message>
 </context>
 <context>
+    <name>ProteinUtils</name>
+    <message>
+        <source>No protein uses the chain &quot;%1&quot;.</source>
+        <translation>Kein Protein benutzt die Kette „%1“.</translation>
+    </message>
+    <message>
+        <source>Two chains have the id &quot;%1&quot;.</source>
+        <translation>Zwei Ketten haben die ID „%1“.</translation>
+    </message>
+    <message>
+        <source>Two chains have the name &quot;%1&quot;.</source>
+        <translation>Zwei Ketten haben den Namen „%1“.</translation>
+    </message>
+    <message>
+        <source>The chain &quot;%1&quot; has no sequence.</source>
+        <translation>Die Kette „%1“ hat keine Sequenz.</translation>
+    </message>
+    <message>
+        <source>The chain &quot;%1&quot; has no mass. %2</source>
+        <translation>Die Kette „%1“ hat keine Masse. %2</translation>
+    </message>
+    <message>
+        <source>A protein has no name, so its masses can&apos;t be told apart.</source>
+        <translation>Ein Protein hat keinen Namen, sodass sich seine Massen nicht unterscheiden lassen.</translation>
+    </message>
+    <message>
+        <source>The protein &quot;%1&quot; has no chains.</source>
+        <translation>Das Protein „%1“ hat keine Ketten.</translation>
+    </message>
+    <message>
+        <source>The protein &quot;%1&quot; has %2 disulfide bonds but %3 cysteines.</source>
+        <translation>Das Protein „%1“ hat %2 Disulfidbrücken, aber %3 Cysteine.</translation>
+    </message>
+    <message>
+        <source>The protein &quot;%1&quot; is for the samples %2, which don&apos;t exist.</source>
+        <translation>Das Protein „%1“ ist für die Proben %2, die es nicht gibt.</translation>
+    </message>
+</context>
+<context>
+    <name>PtsonUtils</name>
+    <message>
+        <source>Cannot clean %1</source>
+        <translation>%1 kann nicht geleert werden</translation>
+    </message>
+    <message>
+        <source>Failed to create %1</source>
+        <translation>%1 konnte nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>URL &quot;%1&quot; is not valid</source>
+        <translation>Die URL „%1“ ist nicht gültig</translation>
+    </message>
+    <message>
+        <source>Cannot copy %1 into %2</source>
+        <translation>%1 kann nicht nach %2 kopiert werden</translation>
+    </message>
+</context>
+<context>
     <name>QFileDialog</name>
     <message>
         <source>Samples</source>
@@ -1000,6 +3261,267 @@
 Do you want to replace it?</source>
         <translation>%1 gibt es schon.
 Möchten Sie sie ersetzen?</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>The sample name at row #%1 is empty</source>
+        <translation>Der Name der Probe in Zeile #%1 ist leer</translation>
+    </message>
+    <message>
+        <source>Give the sample a name.</source>
+        <translation>Geben Sie der Probe einen Namen.</translation>
+    </message>
+    <message>
+        <source>The sample at row #%1 contains illegal character: &quot;</source>
+        <translation>Die Probe in Zeile #%1 enthält ein unerlaubtes Zeichen: &quot;</translation>
+    </message>
+    <message>
+        <source>Take the quotation mark out of the sample&apos;s name.</source>
+        <translation>Nehmen Sie das Anführungszeichen aus dem Namen der Probe.</translation>
+    </message>
+    <message>
+        <source>Duplicated sample names found: %1</source>
+        <translation>Namen von Proben kommen mehrmals vor: %1</translation>
+    </message>
+    <message>
+        <source>Give each sample a name of its own.</source>
+        <translation>Geben Sie jeder Probe einen eigenen Namen.</translation>
+    </message>
+    <message>
+        <source>Mend it among the options of traces of the table of samples.</source>
+        <translation>Berichtigen Sie es bei den Einstellungen der Spuren in der Tabelle der Proben.</translation>
+    </message>
+    <message>
+        <source>Cannot create a project using an MGF sample with no MS1 data.</source>
+        <translation>Mit einer MGF-Probe ohne MS1-Daten kann kein Projekt angelegt werden.</translation>
+    </message>
+    <message>
+        <source>Convert the raw data of &quot;%1&quot; anew, with its MS1 spectra.</source>
+        <translation>Wandeln Sie die Rohdaten von „%1“ neu um, mit ihren MS1-Spektren.</translation>
+    </message>
+    <message>
+        <source>Choose where it is now, or put it there: &quot;%1&quot;.</source>
+        <translation>Wählen Sie, wo sie jetzt liegt, oder legen Sie sie dorthin: „%1“.</translation>
+    </message>
+    <message>
+        <source>The traces path of the sample &quot;%1&quot; does not exist</source>
+        <translation>Den Pfad der Spuren der Probe „%1“ gibt es nicht</translation>
+    </message>
+    <message>
+        <source>The sample path of the sample &quot;%1&quot; does not exist</source>
+        <translation>Den Pfad der Probe „%1“ gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1 does not exist</source>
+        <translation>%1 gibt es nicht</translation>
+    </message>
+    <message>
+        <source>The sample path and traces path of the sample &quot;%1&quot; are empty</source>
+        <translation>Der Pfad der Probe „%1“ und der Pfad ihrer Spuren sind leer</translation>
+    </message>
+    <message>
+        <source>Choose the file of this sample, or remove the sample.</source>
+        <translation>Wählen Sie die Datei dieser Probe, oder entfernen Sie die Probe.</translation>
+    </message>
+    <message>
+        <source>The sample path of the sample &quot;%1&quot; should be MS file or project file</source>
+        <translation>Der Pfad der Probe „%1“ muss eine MS-Datei oder eine Projektdatei nennen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither. Choose mass-spectrometry data, or a project to compare with.</source>
+        <translation>„%1“ ist keines von beiden. Wählen Sie massenspektrometrische Daten, oder ein Projekt zum Vergleichen.</translation>
+    </message>
+    <message>
+        <source>Choose another file in place of &quot;%1&quot;, or remove it.</source>
+        <translation>Wählen Sie anstelle von „%1“ eine andere Datei, oder entfernen Sie sie.</translation>
+    </message>
+    <message>
+        <source>The traces path for electropherogram file (.pI) is only supported for Dravik</source>
+        <translation>Ein Pfad von Spuren mit Elektropherogramm (.pI) wird nur für Dravik unterstützt</translation>
+    </message>
+    <message>
+        <source>The traces path for icIEF file (.itb) is only supported for Intact</source>
+        <translation>Ein Pfad von Spuren mit icIEF-Datei (.itb) wird nur für Intact unterstützt</translation>
+    </message>
+    <message>
+        <source>The traces path of the sample &quot;%1&quot; should be %2 file / text file / pI file / icIEF file</source>
+        <translation>Der Pfad der Spuren der Probe „%1“ muss eine von diesen nennen: %2-Datei / Textdatei / pI-Datei / icIEF-Datei</translation>
+    </message>
+    <message>
+        <source>The document path with id &quot;%1&quot; is empty</source>
+        <translation>Der Pfad des Dokuments mit der ID „%1“ ist leer</translation>
+    </message>
+    <message>
+        <source>Choose a document, or remove the row.</source>
+        <translation>Wählen Sie ein Dokument, oder entfernen Sie die Zeile.</translation>
+    </message>
+    <message>
+        <source>The file path with id &quot;%1&quot; is not a correct document type. Allowed files are: %2</source>
+        <translation>Der Pfad der Datei mit der ID „%1“ nennt kein Dokument der richtigen Art. Erlaubte Dateien sind: %2</translation>
+    </message>
+    <message>
+        <source>Choose the project of an analysis.</source>
+        <translation>Wählen Sie das Projekt einer Analyse.</translation>
+    </message>
+    <message>
+        <source>All documents should have the same type</source>
+        <translation>Alle Dokumente müssen von derselben Art sein</translation>
+    </message>
+    <message>
+        <source>Make a report of its own for each type of documents.</source>
+        <translation>Machen Sie für jede Art von Dokumenten einen eigenen Bericht.</translation>
+    </message>
+    <message>
+        <source>Put the file there, or choose another one.</source>
+        <translation>Legen Sie die Datei dorthin, oder wählen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>Multi-vendor projects are not yet supported. Please ensure all samples belong to the same vendor.</source>
+        <translation>Projekte mit mehreren Herstellern werden noch nicht unterstützt. Bitte sorgen Sie dafür, dass alle Proben vom selben Hersteller stammen.</translation>
+    </message>
+    <message>
+        <source>Move this sample and others of its vendor to a workflow of their own.</source>
+        <translation>Verschieben Sie diese Probe und andere ihres Herstellers in einen eigenen Workflow.</translation>
+    </message>
+    <message>
+        <source>Not valid source</source>
+        <translation>Ungültige Quelle</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not reached by the server. Choose a file that it has.</source>
+        <translation>„%1“ ist für den Server nicht erreichbar. Wählen Sie eine Datei, die er hat.</translation>
+    </message>
+    <message>
+        <source>The sample path of the sample &quot;%1&quot; is invalid</source>
+        <translation>Der Pfad der Probe „%1“ ist ungültig</translation>
+    </message>
+    <message>
+        <source>The sample path of the sample &quot;%1&quot; should be an existing resource.</source>
+        <translation>Der Pfad der Probe „%1“ muss eine vorhandene Ressource nennen.</translation>
+    </message>
+    <message>
+        <source>The sample path of the sample &quot;%1&quot; should be tolq or reference project file</source>
+        <translation>Der Pfad der Probe „%1“ muss tolq oder eine Referenz-Projektdatei nennen</translation>
+    </message>
+    <message>
+        <source>Choose an acquired sample (.tolq), or a project to compare with.</source>
+        <translation>Wählen Sie eine aufgenommene Probe (.tolq), oder ein Projekt zum Vergleichen.</translation>
+    </message>
+    <message>
+        <source>The source path of the sample &quot;%1&quot; is unknown</source>
+        <translation>Die Quelle des Pfads der Probe „%1“ ist unbekannt</translation>
+    </message>
+    <message>
+        <source>The traces path of the sample &quot;%1&quot; is invalid</source>
+        <translation>Der Pfad der Spuren der Probe „%1“ ist ungültig</translation>
+    </message>
+    <message>
+        <source>The source of the traces path of the sample &quot;%1&quot; is unknown</source>
+        <translation>Die Quelle des Pfads der Spuren der Probe „%1“ ist unbekannt</translation>
+    </message>
+    <message>
+        <source>%1 is not valid talvane reference</source>
+        <translation>%1 ist kein gültiger Talvane-Verweis</translation>
+    </message>
+    <message>
+        <source>The source path of the document with id &quot;%1&quot; is unknown</source>
+        <translation>Die Quelle des Pfads des Dokuments mit der ID „%1“ ist unbekannt</translation>
+    </message>
+    <message>
+        <source>Cannot perform quantitative analysis using merged Ulvar2 files</source>
+        <translation>Mit zusammengeführten Ulvar2-Dateien ist keine quantitative Analyse möglich</translation>
+    </message>
+    <message>
+        <source>Use the files that &quot;%1&quot; was merged from.</source>
+        <translation>Benutzen Sie die Dateien, aus denen „%1“ zusammengeführt wurde.</translation>
+    </message>
+    <message>
+        <source>%1 is not an enum value</source>
+        <translation>%1 ist kein Wert der Aufzählung</translation>
+    </message>
+    <message>
+        <source>The setting &quot;%1&quot; is &quot;%2&quot; or &quot;%3&quot;.</source>
+        <translation>Die Einstellung „%1“ ist „%2“ oder „%3“.</translation>
+    </message>
+    <message>
+        <source>For more efficient processing, the workflow was updated to use the fast XIC method.</source>
+        <translation>Damit die Verarbeitung schneller ist, benutzt der Workflow jetzt das schnelle XIC-Verfahren.</translation>
+    </message>
+    <message>
+        <source>Workflow does not contain the expected trace peak option presets.</source>
+        <translation>Der Workflow enthält nicht die erwarteten Vorlagen von Peak-Einstellungen der Spuren.</translation>
+    </message>
+    <message>
+        <source>There are %1 presets, and the fifth is the model of a new one. Add presets with the version that made the workflow.</source>
+        <translation>Es gibt %1 Vorlagen, und die fünfte ist das Muster für eine neue. Fügen Sie mit der Version, die den Workflow gemacht hat, Vorlagen hinzu.</translation>
+    </message>
+    <message>
+        <source>Cannot find properties for &quot;%1&quot; group</source>
+        <translation>Die Einstellungen der Gruppe „%1“ sind nicht zu finden</translation>
+    </message>
+    <message>
+        <source>The cell &quot;%1&quot; lacks them.</source>
+        <translation>Sie fehlen der Zelle „%1“.</translation>
+    </message>
+    <message>
+        <source>The building block &quot;%1&quot; has the unknown type &quot;%2&quot;.</source>
+        <translation>Der Baustein „%1“ hat die unbekannte Art „%2“.</translation>
+    </message>
+    <message>
+        <source>It belongs to the building block &quot;%1&quot;.</source>
+        <translation>Sie gehört zum Baustein „%1“.</translation>
+    </message>
+    <message>
+        <source>The workflow has no tab &quot;Sequences&quot; with a column. Add it with the version that made the workflow.</source>
+        <translation>Der Workflow hat keinen Reiter „Sequences“ mit einer Spalte. Fügen Sie ihn mit der Version hinzu, die den Workflow gemacht hat.</translation>
+    </message>
+    <message>
+        <source>Unable to get samples from the workflow.</source>
+        <translation>Die Proben des Workflows lassen sich nicht lesen.</translation>
+    </message>
+    <message>
+        <source>Upgrade not possible.</source>
+        <translation>Die Aktualisierung ist nicht möglich.</translation>
+    </message>
+    <message>
+        <source>There are no samples in the workflow.</source>
+        <translation>Der Workflow enthält keine Proben.</translation>
+    </message>
+    <message>
+        <source>Upgrade not possible. A valid compatibility metadata not provided in the Tolq file: %1</source>
+        <translation>Die Aktualisierung ist nicht möglich. Der Tolq-Datei fehlen gültige Metadaten zur Kompatibilität: %1</translation>
+    </message>
+    <message>
+        <source>Upgrade with sources different than Talvane server is not supported.</source>
+        <translation>Die Aktualisierung mit anderen Quellen als dem Talvane-Server wird nicht unterstützt.</translation>
+    </message>
+    <message>
+        <source>Upgrade not possible. An error occured while trying to access the file: %1.</source>
+        <translation>Die Aktualisierung ist nicht möglich. Beim Zugriff auf diese Datei trat ein Fehler auf: %1.</translation>
+    </message>
+    <message>
+        <source>Cannot update UNIFI sample metadata without UNIFI server being enabled.</source>
+        <translation>Die Metadaten einer UNIFI-Probe lassen sich nicht aktualisieren, solange der UNIFI-Server nicht eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>Cannot update metadata of the sample %1 due to the following error:
+%2</source>
+        <translation>Die Metadaten der Probe %1 lassen sich wegen dieses Fehlers nicht aktualisieren:
+%2</translation>
+    </message>
+    <message>
+        <source>Cannot get the metadata of the sample.</source>
+        <translation>Die Metadaten der Probe sind nicht zu bekommen.</translation>
+    </message>
+    <message>
+        <source>Cannot update a workflow with UNIFI sample without UNIFI server being enabled.</source>
+        <translation>Ein Workflow mit einer UNIFI-Probe lässt sich nicht aktualisieren, solange der UNIFI-Server nicht eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>Cannot update UNIFI reference without metadata.</source>
+        <translation>Ein UNIFI-Verweis lässt sich ohne Metadaten nicht aktualisieren.</translation>
     </message>
 </context>
 <context>
@@ -1098,6 +3620,111 @@ Möchten Sie sie ersetzen?</translation>
     <message>
         <source>&quot;%1&quot; is no reference to a file. Enter a path, or choose a file.</source>
         <translation>„%1“ ist kein Verweis auf eine Datei. Geben Sie einen Pfad ein, oder wählen Sie eine Datei.</translation>
+    </message>
+</context>
+<context>
+    <name>ResourceHandler</name>
+    <message>
+        <source>The file &quot;%1&quot; does not exist.</source>
+        <translation>Die Datei „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Restore the file, or refer to another one.</source>
+        <translation>Stellen Sie die Datei wieder her, oder verweisen Sie auf eine andere.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no metadata.</source>
+        <translation>„%1“ hat keine Metadaten.</translation>
+    </message>
+</context>
+<context>
+    <name>ResourceManager</name>
+    <message>
+        <source>The reference is empty.</source>
+        <translation>Der Verweis ist leer.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be reached from here.</source>
+        <translation>„%1“ ist von hier aus nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The application is not connected to the server that holds it. Connect it, or refer to a local file.</source>
+        <translation>Die Anwendung ist nicht mit dem Server verbunden, der sie hat. Verbinden Sie sie, oder verweisen Sie auf eine Datei dieses Rechners.</translation>
+    </message>
+</context>
+<context>
+    <name>ResourceReference</name>
+    <message>
+        <source>folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>identifier</source>
+        <translation>Kennung</translation>
+    </message>
+    <message>
+        <source>The identifier has no end.</source>
+        <translation>Die Kennung hat kein Ende.</translation>
+    </message>
+    <message>
+        <source>Write it in braces, &quot;unifi:/SERVER/{ID}/FOLDER/NAME&quot;.</source>
+        <translation>Schreiben Sie sie in geschweiften Klammern, „unifi:/SERVER/{ID}/ORDNER/NAME“.</translation>
+    </message>
+    <message>
+        <source>server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a reference to a file.</source>
+        <translation>„%1“ ist kein Verweis auf eine Datei.</translation>
+    </message>
+    <message>
+        <source>It holds a zero character; take that out.</source>
+        <translation>Er enthält ein Nullzeichen; nehmen Sie es heraus.</translation>
+    </message>
+    <message>
+        <source>Put a slash behind the colon, or &quot;./&quot; in front of a file name.</source>
+        <translation>Setzen Sie einen Schrägstrich hinter den Doppelpunkt, oder „./“ vor einen Dateinamen.</translation>
+    </message>
+    <message>
+        <source>It has no %1.</source>
+        <translation>Es fehlt: %1.</translation>
+    </message>
+    <message>
+        <source>Its percent codes are no UTF-8; name the file by its path.</source>
+        <translation>Seine Prozent-Kodierungen sind kein UTF-8; nennen Sie die Datei mit ihrem Pfad.</translation>
+    </message>
+    <message>
+        <source>It is the address of a service that isn&apos;t known here.</source>
+        <translation>Es ist die Adresse eines Dienstes, der hier nicht bekannt ist.</translation>
+    </message>
+    <message>
+        <source>A reference of scheme %1 has no parts.</source>
+        <translation>Ein Verweis mit dem Schema %1 hat keine Teile.</translation>
+    </message>
+    <message>
+        <source>A reference needs its %1.</source>
+        <translation>Einem Verweis fehlt: %1.</translation>
+    </message>
+    <message>
+        <source>It is to be of the form &quot;%1&quot;.</source>
+        <translation>Er muss die Form „%1“ haben.</translation>
+    </message>
+    <message>
+        <source>A part holds what separates parts.</source>
+        <translation>Ein Teil enthält, was Teile voneinander trennt.</translation>
+    </message>
+    <message>
+        <source>A UNIFI item needs its identifier.</source>
+        <translation>Ein UNIFI-Objekt braucht seine Kennung.</translation>
     </message>
 </context>
 <context>
@@ -1434,6 +4061,43 @@ Möchten Sie sie ersetzen?</translation>
     </message>
 </context>
 <context>
+    <name>SequenceDatabaseItems</name>
+    <message>
+        <source>A row of the sequence databases is no object.</source>
+        <translation>Eine Zeile der Sequenzdatenbanken ist kein Objekt.</translation>
+    </message>
+    <message>
+        <source>Element %1 of &quot;%2&quot; is %3; remove it, or restore the file from a copy.</source>
+        <translation>Element %1 von „%2“ ist %3; entfernen Sie es, oder stellen Sie die Datei aus einer Kopie wieder her.</translation>
+    </message>
+    <message>
+        <source>Sequence databases table cannot contain empty entries.</source>
+        <translation>Die Tabelle der Sequenzdatenbanken darf keine leeren Zeilen enthalten.</translation>
+    </message>
+    <message>
+        <source>Sequence databases table contains a fasta file that does not exist</source>
+        <translation>Die Tabelle der Sequenzdatenbanken enthält eine FASTA-Datei, die es nicht gibt</translation>
+    </message>
+    <message>
+        <source>Sequence databases table contains fasta files that do not exist</source>
+        <translation>Die Tabelle der Sequenzdatenbanken enthält FASTA-Dateien, die es nicht gibt</translation>
+    </message>
+    <message>
+        <source>Sequence databases table contains a non-fasta file.</source>
+        <translation>Die Tabelle der Sequenzdatenbanken enthält eine Datei, die nicht FASTA ist.</translation>
+    </message>
+    <message>
+        <source>Sequence databases table contains non-fasta files</source>
+        <translation>Die Tabelle der Sequenzdatenbanken enthält Dateien, die nicht FASTA sind</translation>
+    </message>
+    <message>
+        <source>Sequence databases table contains duplicate fasta files:
+%1.</source>
+        <translation>Die Tabelle der Sequenzdatenbanken enthält FASTA-Dateien mehrmals:
+%1.</translation>
+    </message>
+</context>
+<context>
     <name>SequenceDatabasesWidget</name>
     <message>
         <source>FASTA file</source>
@@ -1458,6 +4122,232 @@ Möchten Sie sie ersetzen?</translation>
     <message>
         <source>The species that is taken from the file; empty for all sequences.</source>
         <translation>Die Spezies, die aus der Datei genommen wird; leer für alle Sequenzen.</translation>
+    </message>
+</context>
+<context>
+    <name>ServerSettings</name>
+    <message>
+        <source>Write it as https://HOST:PORT.</source>
+        <translation>Schreiben Sie sie als https://HOST:PORT.</translation>
+    </message>
+    <message>
+        <source>Take the user and the password out of it; who asks is shown by a token.</source>
+        <translation>Nehmen Sie den Benutzer und das Passwort heraus; wer fragt, zeigt ein Token.</translation>
+    </message>
+    <message>
+        <source>Take out what stands behind &quot;?&quot; or &quot;#&quot;.</source>
+        <translation>Nehmen Sie heraus, was hinter „?“ oder „#“ steht.</translation>
+    </message>
+    <message>
+        <source>Servers other than this machine are asked over https:// only.</source>
+        <translation>Andere Server als dieser Rechner werden nur über https:// gefragt.</translation>
+    </message>
+    <message>
+        <source>The address of the server isn&apos;t set.</source>
+        <translation>Die Adresse des Servers ist nicht gesetzt.</translation>
+    </message>
+    <message>
+        <source>Set &quot;%1&quot; to the address of the server.</source>
+        <translation>Setzen Sie „%1“ auf die Adresse des Servers.</translation>
+    </message>
+    <message>
+        <source>The address in the setting &quot;%1&quot; can&apos;t be used.</source>
+        <translation>Die Adresse in der Einstellung „%1“ kann nicht benutzt werden.</translation>
+    </message>
+    <message>
+        <source>The token in the variable %1 can&apos;t be used.</source>
+        <translation>Das Token in der Variablen %1 kann nicht benutzt werden.</translation>
+    </message>
+    <message>
+        <source>It holds blanks or characters that are no ASCII; copy it again.</source>
+        <translation>Es enthält Leerzeichen oder Zeichen, die nicht ASCII sind; kopieren Sie es noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>Servers</name>
+    <message>
+        <source>The folder &quot;%1&quot; for files from servers can&apos;t be used.</source>
+        <translation>Der Ordner „%1“ für Dateien von Servern kann nicht benutzt werden.</translation>
+    </message>
+    <message>
+        <source>Set &quot;Servers/CacheFolder&quot; to an absolute path.</source>
+        <translation>Setzen Sie „Servers/CacheFolder“ auf einen absoluten Pfad.</translation>
+    </message>
+    <message>
+        <source>Set &quot;Servers/CacheFolder&quot; to a folder that can be written.</source>
+        <translation>Setzen Sie „Servers/CacheFolder“ auf einen Ordner, der beschrieben werden kann.</translation>
+    </message>
+    <message>
+        <source>%1 bytes are needed, and %2 are left of those that it may hold. Raise &quot;Servers/CacheSizeMiB&quot;, or empty the folder.</source>
+        <translation>%1 Bytes werden gebraucht, und von denen, die er enthalten darf, sind %2 übrig. Erhöhen Sie „Servers/CacheSizeMiB“, oder leeren Sie den Ordner.</translation>
+    </message>
+    <message>
+        <source>It can&apos;t be written; set &quot;Servers/CacheFolder&quot; to another one.</source>
+        <translation>Er kann nicht beschrieben werden; setzen Sie „Servers/CacheFolder“ auf einen anderen.</translation>
+    </message>
+    <message>
+        <source>A server can&apos;t be asked in a program without a QCoreApplication.</source>
+        <translation>In einem Programm ohne QCoreApplication kann kein Server gefragt werden.</translation>
+    </message>
+    <message>
+        <source>The server &quot;%1&quot; can&apos;t be reached.</source>
+        <translation>Der Server „%1“ ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>Look at the network, and at the address in the setting &quot;%1&quot;.</source>
+        <translation>Sehen Sie nach dem Netzwerk, und nach der Adresse in der Einstellung „%1“.</translation>
+    </message>
+    <message>
+        <source>The server &quot;%1&quot; sends to another place, which isn&apos;t followed.</source>
+        <translation>Der Server „%1“ schickt an einen anderen Ort; dem wird nicht gefolgt.</translation>
+    </message>
+    <message>
+        <source>Set &quot;%1&quot; to the address at which the server itself answers.</source>
+        <translation>Setzen Sie „%1“ auf die Adresse, unter der der Server selbst antwortet.</translation>
+    </message>
+    <message>
+        <source>The server &quot;%1&quot; can&apos;t be trusted.</source>
+        <translation>Dem Server „%1“ kann nicht vertraut werden.</translation>
+    </message>
+    <message>
+        <source>Have this machine trust the server&apos;s certificate, or mend the address in the setting &quot;%1&quot;.</source>
+        <translation>Sorgen Sie dafür, dass dieser Rechner dem Zertifikat des Servers vertraut, oder berichtigen Sie die Adresse in der Einstellung „%1“.</translation>
+    </message>
+    <message>
+        <source>The server &quot;%1&quot; refuses access.</source>
+        <translation>Der Server „%1“ verweigert den Zugang.</translation>
+    </message>
+    <message>
+        <source>The server &quot;%1&quot; has no such thing.</source>
+        <translation>Der Server „%1“ hat das nicht.</translation>
+    </message>
+    <message>
+        <source>The server &quot;%1&quot; is busy.</source>
+        <translation>Der Server „%1“ ist ausgelastet.</translation>
+    </message>
+    <message>
+        <source>Try again later.</source>
+        <translation>Versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
+        <source>Put a valid token into the environment variable %2.</source>
+        <translation>Setzen Sie ein gültiges Token in die Umgebungsvariable %2.</translation>
+    </message>
+    <message>
+        <source>Ask for the right to read it, or put the token of somebody who has it into the environment variable %2.</source>
+        <translation>Bitten Sie um das Recht, es zu lesen, oder setzen Sie das Token von jemandem, der es hat, in die Umgebungsvariable %2.</translation>
+    </message>
+    <message>
+        <source>It was moved or deleted, or the address in the setting &quot;%1&quot; is that of another server.</source>
+        <translation>Es wurde verschoben oder gelöscht, oder die Adresse in der Einstellung „%1“ ist die eines anderen Servers.</translation>
+    </message>
+    <message>
+        <source>It was deleted.</source>
+        <translation>Es wurde gelöscht.</translation>
+    </message>
+    <message>
+        <source>The server &quot;%1&quot; failed.</source>
+        <translation>Beim Server „%1“ ist etwas gescheitert.</translation>
+    </message>
+    <message>
+        <source>Try again later, or tell those who run the server.</source>
+        <translation>Versuchen Sie es später noch einmal, oder sagen Sie es denen, die den Server betreiben.</translation>
+    </message>
+    <message>
+        <source>The server &quot;%1&quot; did not understand the request.</source>
+        <translation>Der Server „%1“ hat die Anfrage nicht verstanden.</translation>
+    </message>
+    <message>
+        <source>See whether the address in the setting &quot;%1&quot; is that of a server of the right kind and version.</source>
+        <translation>Sehen Sie nach, ob die Adresse in der Einstellung „%1“ die eines Servers der richtigen Art und Version ist.</translation>
+    </message>
+    <message>
+        <source>The server &quot;%1&quot; did not answer in time.</source>
+        <translation>Der Server „%1“ hat nicht rechtzeitig geantwortet.</translation>
+    </message>
+    <message>
+        <source>The answer of the server &quot;%1&quot; was cut short.</source>
+        <translation>Die Antwort des Servers „%1“ wurde abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>The answer of the server &quot;%1&quot; is too large.</source>
+        <translation>Die Antwort des Servers „%1“ ist zu groß.</translation>
+    </message>
+    <message>
+        <source>See whether the address in the setting &quot;%1&quot; is the right one.</source>
+        <translation>Sehen Sie nach, ob die Adresse in der Einstellung „%1“ die richtige ist.</translation>
+    </message>
+    <message>
+        <source>At most %1 bytes are taken.</source>
+        <translation>Höchstens %1 Bytes werden angenommen.</translation>
+    </message>
+    <message>
+        <source>What the server &quot;%1&quot; sends can&apos;t be stored.</source>
+        <translation>Was der Server „%1“ schickt, kann nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Make room on the disk, or set another folder.</source>
+        <translation>Schaffen Sie Platz auf der Platte, oder setzen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>It says: %1</source>
+        <translation>Er sagt: %1</translation>
+    </message>
+    <message>
+        <source>Its answer has the status %1.</source>
+        <translation>Seine Antwort hat den Status %1.</translation>
+    </message>
+    <message>
+        <source>The server &quot;%1&quot; answers something else than was asked for.</source>
+        <translation>Der Server „%1“ antwortet etwas anderes, als gefragt war.</translation>
+    </message>
+    <message>
+        <source>Something in between may have answered, such as the sign-in page of a network. See also whether the address in the setting &quot;%1&quot; is the right one.</source>
+        <translation>Vielleicht hat etwas dazwischen geantwortet, etwa die Anmeldeseite eines Netzwerks. Sehen Sie auch nach, ob die Adresse in der Einstellung „%1“ die richtige ist.</translation>
+    </message>
+    <message>
+        <source>It sends &quot;%1&quot; in place of &quot;%2&quot;.</source>
+        <translation>Er schickt „%1“ anstelle von „%2“.</translation>
+    </message>
+    <message>
+        <source>The answer of the server &quot;%1&quot; can&apos;t be read.</source>
+        <translation>Die Antwort des Servers „%1“ kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Tell those who run the server.</source>
+        <translation>Sagen Sie es denen, die den Server betreiben.</translation>
+    </message>
+    <message>
+        <source>&quot;size&quot; must be a count of bytes.</source>
+        <translation>„size“ muss eine Anzahl von Bytes sein.</translation>
+    </message>
+    <message>
+        <source>There is no &quot;%1&quot; on its server.</source>
+        <translation>Auf seinem Server gibt es kein „%1“.</translation>
+    </message>
+    <message>
+        <source>It was moved or deleted; refer to another one.</source>
+        <translation>Es wurde verschoben oder gelöscht; verweisen Sie auf ein anderes.</translation>
+    </message>
+    <message>
+        <source>UNIFI is not switched on.</source>
+        <translation>UNIFI ist nicht eingeschaltet.</translation>
+    </message>
+    <message>
+        <source>Set &quot;%1&quot; to the address of the server, and don&apos;t set &quot;UNIFI/Enabled&quot; to false.</source>
+        <translation>Setzen Sie „%1“ auf die Adresse des Servers, und setzen Sie „UNIFI/Enabled“ nicht auf false.</translation>
+    </message>
+    <message>
+        <source>A UNIFI item without an identifier can&apos;t be asked for.</source>
+        <translation>Nach einem UNIFI-Objekt ohne Kennung kann nicht gefragt werden.</translation>
+    </message>
+    <message>
+        <source>Choose the sample&apos;s file again.</source>
+        <translation>Wählen Sie die Datei der Probe noch einmal.</translation>
+    </message>
+    <message>
+        <source>It kept silent before in this run, and wasn&apos;t asked again.</source>
+        <translation>Er hat in diesem Lauf schon einmal nicht geantwortet und wurde nicht wieder gefragt.</translation>
     </message>
 </context>
 <context>
@@ -1530,6 +4420,80 @@ Möchten Sie sie ersetzen?</translation>
     <message>
         <source>The setting has no unit, and &quot;%1&quot; stands behind its value.</source>
         <translation>Die Einstellung hat keine Einheit, und hinter ihrem Wert steht „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>SimpleFilesInfoManager</name>
+    <message>
+        <source>The file &quot;%1&quot; does not exist.</source>
+        <translation>Die Datei „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Restore the file, or refer to another one.</source>
+        <translation>Stellen Sie die Datei wieder her, oder verweisen Sie auf eine andere.</translation>
+    </message>
+    <message>
+        <source>The file is none of those that are asked for.</source>
+        <translation>Die Datei ist keine von denen, nach denen gefragt ist.</translation>
+    </message>
+</context>
+<context>
+    <name>SqliteConnection</name>
+    <message>
+        <source>Another program is using it. Close it there, or try again later.</source>
+        <translation>Ein anderes Programm benutzt sie. Schließen Sie sie dort, oder versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
+        <source>The file is damaged or cut short. Restore it from a copy.</source>
+        <translation>Die Datei ist beschädigt oder abgeschnitten. Stellen Sie sie aus einer Kopie wieder her.</translation>
+    </message>
+    <message>
+        <source>A program was interrupted while it wrote the file. Open it once with that program, which mends it.</source>
+        <translation>Ein Programm wurde unterbrochen, während es die Datei schrieb. Öffnen Sie sie einmal mit diesem Programm; das setzt sie instand.</translation>
+    </message>
+    <message>
+        <source>Check the rights on the file and its folder, and the disk.</source>
+        <translation>Prüfen Sie die Rechte auf die Datei und ihren Ordner, und die Platte.</translation>
+    </message>
+    <message>
+        <source>The file doesn&apos;t have the form that is expected. Name another one, or create it anew.</source>
+        <translation>Die Datei hat nicht die erwartete Form. Nennen Sie eine andere, oder legen Sie sie neu an.</translation>
+    </message>
+    <message>
+        <source>Could not read the database: %1</source>
+        <translation>Die Datenbank konnte nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Name a file that one of the applications has written.</source>
+        <translation>Nennen Sie eine Datei, die eine der Anwendungen geschrieben hat.</translation>
+    </message>
+    <message>
+        <source>Could not write the file: %1</source>
+        <translation>Die Datei konnte nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>The file is no SQLite database.</source>
+        <translation>Die Datei ist keine SQLite-Datenbank.</translation>
+    </message>
+    <message>
+        <source>The file is cut short after %1 bytes.</source>
+        <translation>Die Datei ist nach %1 Bytes abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>Qt&apos;s driver for SQLite isn&apos;t installed, or the program has no application object. On Debian install libqt6sql6-sqlite.</source>
+        <translation>Der SQLite-Treiber von Qt ist nicht installiert, oder das Programm hat kein Anwendungsobjekt. Unter Debian installieren Sie libqt6sql6-sqlite.</translation>
+    </message>
+    <message>
+        <source>The file exists already: %1</source>
+        <translation>Die Datei gibt es schon: %1</translation>
+    </message>
+    <message>
+        <source>Choose another name, or remove the file first.</source>
+        <translation>Wählen Sie einen anderen Namen, oder entfernen Sie zuerst die Datei.</translation>
     </message>
 </context>
 <context>
@@ -2039,6 +5003,53 @@ Möchten Sie sie ersetzen?</translation>
     </message>
 </context>
 <context>
+    <name>TableLosses</name>
+    <message>
+        <source>member &quot;%1&quot; of a table cell</source>
+        <translation>Eintrag „%1“ einer Tabellenzelle</translation>
+    </message>
+    <message>
+        <source>the format has no such member here</source>
+        <translation>das Format kennt hier keinen solchen Eintrag</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>kein Text</translation>
+    </message>
+    <message>
+        <source>it is no array</source>
+        <translation>keine Liste</translation>
+    </message>
+    <message>
+        <source>value of the table</source>
+        <translation>Wert der Tabelle</translation>
+    </message>
+    <message>
+        <source>it is no table</source>
+        <translation>keine Tabelle</translation>
+    </message>
+    <message>
+        <source>value of the property</source>
+        <translation>Wert der Einstellung</translation>
+    </message>
+    <message>
+        <source>it is no object</source>
+        <translation>kein Objekt</translation>
+    </message>
+    <message>
+        <source>property &quot;%1&quot;</source>
+        <translation>Einstellung „%1“</translation>
+    </message>
+    <message>
+        <source>this kind of cell doesn&apos;t have it</source>
+        <translation>diese Art von Zelle hat sie nicht</translation>
+    </message>
+    <message>
+        <source>only the first of its name is read</source>
+        <translation>nur die erste ihres Namens wird gelesen</translation>
+    </message>
+</context>
+<context>
     <name>TableRules</name>
     <message>
         <source>Must lie below &quot;%1&quot;.</source>
@@ -2143,6 +5154,17 @@ Möchten Sie sie ersetzen?</translation>
     </message>
 </context>
 <context>
+    <name>TextUtils</name>
+    <message>
+        <source>Errors: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warnings: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TheoreticalTableEditor</name>
     <message>
         <source>Row %1 contains invalid data</source>
@@ -2155,6 +5177,142 @@ Möchten Sie sie ersetzen?</translation>
     <message>
         <source>Warning</source>
         <translation>Warnung</translation>
+    </message>
+</context>
+<context>
+    <name>TolqArchive</name>
+    <message>
+        <source>Could not open the file: %1</source>
+        <translation>Die Datei konnte nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>It isn&apos;t there, no regular file, or may not be read.</source>
+        <translation>Sie ist nicht da, keine gewöhnliche Datei, oder darf nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>It is no zip archive, or was cut short.</source>
+        <translation>Sie ist kein zip-Archiv, oder wurde abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>It has more than %1 entries.</source>
+        <translation>Sie hat mehr als %1 Einträge.</translation>
+    </message>
+    <message>
+        <source>The entry is missing.</source>
+        <translation>Der Eintrag fehlt.</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>Er ist zu groß.</translation>
+    </message>
+    <message>
+        <source>Its checksum is wrong.</source>
+        <translation>Seine Prüfsumme ist falsch.</translation>
+    </message>
+    <message>
+        <source>It is there twice.</source>
+        <translation>Er ist zweimal da.</translation>
+    </message>
+    <message>
+        <source>Its list of entries is damaged.</source>
+        <translation>Die Liste der Einträge ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>Its description is damaged.</source>
+        <translation>Seine Beschreibung ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>Its name leads out of the archive, or too deep.</source>
+        <translation>Sein Name führt aus dem Archiv hinaus, oder zu tief.</translation>
+    </message>
+    <message>
+        <source>It is a link.</source>
+        <translation>Er ist ein Link.</translation>
+    </message>
+    <message>
+        <source>It is encrypted.</source>
+        <translation>Er ist verschlüsselt.</translation>
+    </message>
+    <message>
+        <source>Its folder can&apos;t be made.</source>
+        <translation>Sein Ordner kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>It can&apos;t be unpacked.</source>
+        <translation>Er kann nicht entpackt werden.</translation>
+    </message>
+    <message>
+        <source>It unpacks to far more than samples do.</source>
+        <translation>Entpackt ist es weit mehr, als Proben sind.</translation>
+    </message>
+    <message>
+        <source>The acquired sample can&apos;t be read: %1</source>
+        <translation>Die aufgenommene Probe kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Entry &quot;%1&quot;: %2</source>
+        <translation>Eintrag „%1“: %2</translation>
+    </message>
+    <message>
+        <source>Copy or download it again.</source>
+        <translation>Kopieren Sie sie noch einmal, oder laden Sie sie noch einmal herunter.</translation>
+    </message>
+    <message>
+        <source>Could not write the file: %1</source>
+        <translation>Die Datei konnte nicht geschrieben werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TolqMetadata</name>
+    <message>
+        <source>It is &quot;%1&quot;.</source>
+        <translation>Es ist „%1“.</translation>
+    </message>
+    <message>
+        <source>The version of the metadata is none.</source>
+        <translation>Die Version der Metadaten ist keine.</translation>
+    </message>
+    <message>
+        <source>The name of the sample is no plain name.</source>
+        <translation>Der Name der Probe ist kein einfacher Name.</translation>
+    </message>
+    <message>
+        <source>A trace is mapped twice.</source>
+        <translation>Eine Spur ist zweimal zugeordnet.</translation>
+    </message>
+    <message>
+        <source>Place: /%1/%2</source>
+        <translation>Stelle: /%1/%2</translation>
+    </message>
+</context>
+<context>
+    <name>TolqReader</name>
+    <message>
+        <source>There is no place to unpack the sample.</source>
+        <translation>Um die Probe zu entpacken, ist kein Platz.</translation>
+    </message>
+    <message>
+        <source>An acquired sample lies inside another.</source>
+        <translation>Eine aufgenommene Probe liegt in einer anderen.</translation>
+    </message>
+</context>
+<context>
+    <name>TolqUtils</name>
+    <message>
+        <source>File: %1, %2</source>
+        <translation>Datei: %1, %2</translation>
+    </message>
+    <message>
+        <source>The acquired sample can&apos;t be read: %1</source>
+        <translation>Die aufgenommene Probe kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; isn&apos;t there.</source>
+        <translation>„%1“ ist nicht da.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a link that leads out of the folder.</source>
+        <translation>„%1“ ist ein Link, der aus dem Ordner hinausführt.</translation>
     </message>
 </context>
 <context>
@@ -2391,6 +5549,57 @@ Möchten Sie sie ersetzen?</translation>
     </message>
 </context>
 <context>
+    <name>Ulvar2Dao</name>
+    <message>
+        <source>Could not open the file: %1</source>
+        <translation>Die Datei konnte nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>The Ulvar2 file can&apos;t be read: %1</source>
+        <translation>Die Ulvar2-Datei kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Process or copy the sample again.</source>
+        <translation>Verarbeiten oder kopieren Sie die Probe noch einmal.</translation>
+    </message>
+    <message>
+        <source>It isn&apos;t there, or its folder can&apos;t be read.</source>
+        <translation>Sie ist nicht da, oder ihr Ordner ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>It is no regular file.</source>
+        <translation>Es ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>It is no SQLite database.</source>
+        <translation>Es ist keine SQLite-Datenbank.</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is missing; on Debian: apt-get install libqt6sql6-sqlite</source>
+        <translation>Der SQLite-Treiber von Qt fehlt; unter Debian: apt-get install libqt6sql6-sqlite</translation>
+    </message>
+    <message>
+        <source>It has no table &quot;Info&quot;.</source>
+        <translation>Sie hat keine Tabelle „Info“.</translation>
+    </message>
+    <message>
+        <source>Its table &quot;Info&quot; has computed columns.</source>
+        <translation>Ihre Tabelle „Info“ hat berechnete Spalten.</translation>
+    </message>
+    <message>
+        <source>No Ulvar2 file is open.</source>
+        <translation>Keine Ulvar2-Datei ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>Record %1 is too long.</source>
+        <translation>Datensatz %1 ist zu lang.</translation>
+    </message>
+    <message>
+        <source>It has more than %1 records.</source>
+        <translation>Sie hat mehr als %1 Datensätze.</translation>
+    </message>
+</context>
+<context>
     <name>ValueText</name>
     <message>
         <source>yes</source>
@@ -2414,6 +5623,247 @@ Möchten Sie sie ersetzen?</translation>
     <message>
         <source>The value is no number.</source>
         <translation>Der Wert ist keine Zahl.</translation>
+    </message>
+</context>
+<context>
+    <name>WflwMetaData</name>
+    <message>
+        <source>The version of the specified workflow (%1) is deprecated and not supported</source>
+        <translation>Die Version des Workflows (%1) ist veraltet und wird nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>The workflow&apos;s version is %1, but the current software supports only workflow versions up to %2.x.x</source>
+        <translation>Die Version des Workflows ist %1, aber diese Software unterstützt nur Workflow-Versionen bis %2.x.x</translation>
+    </message>
+    <message>
+        <source>It stands within the text &quot;%1&quot;.</source>
+        <translation>Es steht im Text „%1“.</translation>
+    </message>
+    <message>
+        <source>The document&apos;s version &quot;%1&quot; is no version.</source>
+        <translation>Die Version „%1“ des Dokuments ist keine Version.</translation>
+    </message>
+    <message>
+        <source>It stands as &quot;%1&quot; in the text &quot;%2&quot;.</source>
+        <translation>Sie steht als „%1“ im Text „%2“.</translation>
+    </message>
+    <message>
+        <source>A version is numbers with dots between them, such as %1; write there which one the document has.</source>
+        <translation>Eine Version besteht aus Zahlen mit Punkten dazwischen, wie %1; schreiben Sie dorthin, welche das Dokument hat.</translation>
+    </message>
+</context>
+<context>
+    <name>WflwUpgrader</name>
+    <message>
+        <source>Add the column of samples with the version that made the workflow.</source>
+        <translation>Fügen Sie die Spalte der Proben mit der Version hinzu, die den Workflow gemacht hat.</translation>
+    </message>
+    <message>
+        <source>The setting &quot;%1&quot; of the cell &quot;%2&quot; can&apos;t be changed as the format needs it. Make the cell anew with the version that made the workflow.</source>
+        <translation>Die Einstellung „%1“ der Zelle „%2“ lässt sich nicht so ändern, wie das Format es braucht. Machen Sie die Zelle mit der Version neu, die den Workflow gemacht hat.</translation>
+    </message>
+    <message>
+        <source>Have the server process the sample again.</source>
+        <translation>Lassen Sie den Server die Probe noch einmal verarbeiten.</translation>
+    </message>
+    <message>
+        <source>Put the file on the server: %1</source>
+        <translation>Legen Sie die Datei auf den Server: %1</translation>
+    </message>
+    <message>
+        <source>The columns of the tab &quot;%1&quot; differ in height, and a tab is written as a rectangle. Complete its last row.</source>
+        <translation>Die Spalten des Reiters „%1“ sind verschieden hoch, und ein Reiter wird als Rechteck geschrieben. Vervollständigen Sie seine letzte Zeile.</translation>
+    </message>
+    <message>
+        <source>Sample &quot;%1&quot;: %2.</source>
+        <translation>Probe „%1“: %2.</translation>
+    </message>
+    <message>
+        <source>Set &quot;UNIFI/Address&quot; to the address of the server, and put a token into %1.</source>
+        <translation>Setzen Sie „UNIFI/Address“ auf die Adresse des Servers, und ein Token in %1.</translation>
+    </message>
+    <message>
+        <source>Choose the sample&apos;s file again with the version that made the workflow.</source>
+        <translation>Wählen Sie die Datei der Probe mit der Version, die den Workflow gemacht hat, noch einmal.</translation>
+    </message>
+    <message>
+        <source>Sample &quot;%1&quot;, of the server &quot;%2&quot;.</source>
+        <translation>Probe „%1“, des Servers „%2“.</translation>
+    </message>
+    <message>
+        <source>The upgrade from version %1 stopped at the step to %2.</source>
+        <translation>Die Aktualisierung von Version %1 blieb beim Schritt auf %2 stehen.</translation>
+    </message>
+</context>
+<context>
+    <name>WorkflowCheck</name>
+    <message>
+        <source>There is no validator &quot;%1&quot;.</source>
+        <translation>Es gibt keine Prüfung „%1“.</translation>
+    </message>
+    <message>
+        <source>There are: %1.</source>
+        <translation>Es gibt: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>WorkflowFile</name>
+    <message>
+        <source>The file is no workflow: %1</source>
+        <translation>Die Datei ist kein Workflow: %1</translation>
+    </message>
+    <message>
+        <source>The text is no workflow.</source>
+        <translation>Der Text ist kein Workflow.</translation>
+    </message>
+    <message>
+        <source>The workflow has the newer version %1 and is not written over: %2</source>
+        <translation>Der Workflow hat die neuere Version %1 und wird nicht überschrieben: %2</translation>
+    </message>
+    <message>
+        <source>Save to another file, or use the software that wrote it.</source>
+        <translation>Speichern Sie in eine andere Datei, oder benutzen Sie die Software, die ihn geschrieben hat.</translation>
+    </message>
+    <message>
+        <source>Save to another file, or accept the losses.</source>
+        <translation>Speichern Sie in eine andere Datei, oder nehmen Sie die Verluste hin.</translation>
+    </message>
+    <message>
+        <source>Something of the workflow would be lost: %1</source>
+        <translation>Etwas vom Workflow ginge verloren: %1</translation>
+    </message>
+</context>
+<context>
+    <name>WorkflowNodeUpgradeUtils</name>
+    <message>
+        <source>The advanced setting &quot;%1&quot; has the value &quot;%2&quot;, which can&apos;t be read. It stays in the advanced configuration without effect; enter its value in the form.</source>
+        <translation>Die erweiterte Einstellung „%1“ hat den Wert „%2“, der nicht gelesen werden kann. Sie bleibt ohne Wirkung in der erweiterten Konfiguration stehen; geben Sie ihren Wert im Formular ein.</translation>
+    </message>
+</context>
+<context>
+    <name>WorkflowRelink</name>
+    <message>
+        <source>Moving references from &quot;%1&quot; to &quot;%2&quot; needs two texts.</source>
+        <translation>Um Verweise von „%1“ nach „%2“ umzustellen, braucht es zwei Texte.</translation>
+    </message>
+    <message>
+        <source>Name what the references begin with, and what they are to begin with; &quot;.&quot; is the workflow&apos;s own folder.</source>
+        <translation>Nennen Sie, womit die Verweise beginnen und womit sie beginnen sollen; „.“ ist der Ordner des Workflows selbst.</translation>
+    </message>
+</context>
+<context>
+    <name>WorkflowUpgrade</name>
+    <message>
+        <source>The document has no tabs, so it is no workflow.</source>
+        <translation>Das Dokument hat keine Reiter und ist damit kein Workflow.</translation>
+    </message>
+    <message>
+        <source>The upgraded document couldn&apos;t be opened.</source>
+        <translation>Das aktualisierte Dokument konnte nicht geöffnet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>XenosetPreset</name>
+    <message>
+        <source>The text is no parameter file of the search engine.</source>
+        <translation>Der Text ist keine Parameterdatei der Suchmaschine.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>it holds a zero byte.</source>
+        <translation>er enthält ein Nullbyte.</translation>
+    </message>
+    <message>
+        <source>The file is binary or in UTF-16; save it as UTF-8 text.</source>
+        <translation>Die Datei ist binär oder in UTF-16; speichern Sie sie als Text in UTF-8.</translation>
+    </message>
+    <message>
+        <source>it is no UTF-8 text.</source>
+        <translation>er ist kein Text in UTF-8.</translation>
+    </message>
+    <message>
+        <source>Save the file as UTF-8 text.</source>
+        <translation>Speichern Sie die Datei als Text in UTF-8.</translation>
+    </message>
+    <message>
+        <source>there are more than %1 keys.</source>
+        <translation>es gibt mehr als %1 Schlüssel.</translation>
+    </message>
+    <message>
+        <source>Name a parameter file of the search engine.</source>
+        <translation>Nennen Sie eine Parameterdatei der Suchmaschine.</translation>
+    </message>
+</context>
+<context>
+    <name>XmlReaders</name>
+    <message>
+        <source>The MS data are damaged.</source>
+        <translation>Die MS-Daten sind beschädigt.</translation>
+    </message>
+    <message>
+        <source>After %1 unpacked bytes: %2</source>
+        <translation>Nach %1 entpackten Bytes: %2</translation>
+    </message>
+    <message>
+        <source>Copy or convert the file again.</source>
+        <translation>Kopieren Sie die Datei noch einmal, oder wandeln Sie sie noch einmal um.</translation>
+    </message>
+    <message>
+        <source>The MS data are cut short.</source>
+        <translation>Die MS-Daten sind abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>The text ends after %1 bytes, before &quot;%2&quot;.</source>
+        <translation>Der Text endet nach %1 Bytes, vor „%2“.</translation>
+    </message>
+</context>
+<context>
+    <name>XmlScanner</name>
+    <message>
+        <source>Elements are nested too deeply.</source>
+        <translation>Elemente sind zu tief verschachtelt.</translation>
+    </message>
+    <message>
+        <source>The text ends inside the document.</source>
+        <translation>Der Text endet innerhalb des Dokuments.</translation>
+    </message>
+    <message>
+        <source>A text is too long.</source>
+        <translation>Ein Text ist zu lang.</translation>
+    </message>
+    <message>
+        <source>The XML text can&apos;t be read.</source>
+        <translation>Der XML-Text kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2: %3</source>
+        <translation>Zeile %1, Spalte %2: %3</translation>
+    </message>
+    <message>
+        <source>Copy or convert the file again; it may have been cut short on the way.</source>
+        <translation>Kopieren Sie die Datei noch einmal, oder wandeln Sie sie noch einmal um; vielleicht wurde sie unterwegs abgeschnitten.</translation>
+    </message>
+</context>
+<context>
+    <name>orv::BaseTask</name>
+    <message>
+        <source>A task runs once.</source>
+        <translation>Eine Aufgabe läuft nur einmal.</translation>
+    </message>
+    <message>
+        <source>Make another task for another request.</source>
+        <translation>Machen Sie für eine weitere Anfrage eine neue Aufgabe.</translation>
+    </message>
+    <message>
+        <source>A server can&apos;t be asked in a program without a QCoreApplication.</source>
+        <translation>In einem Programm ohne QCoreApplication kann kein Server gefragt werden.</translation>
+    </message>
+    <message>
+        <source>The request was cancelled.</source>
+        <translation>Die Anfrage wurde abgebrochen.</translation>
     </message>
 </context>
 <context>
@@ -3003,6 +6453,10 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
     <message>
         <source>Unsave&amp;d Workflows</source>
         <translation>&amp;Ungespeicherte Workflows</translation>
+    </message>
+    <message>
+        <source>There is no workflow to save yet.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4284,6 +7738,167 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
     </message>
 </context>
 <context>
+    <name>orv::PropertyEditor::BaseTableItem</name>
+    <message>
+        <source>Row %1, column &quot;%2&quot;: a file can&apos;t hold a value of the type %3. Store a text or a number instead.</source>
+        <translation>Zeile %1, Spalte „%2“: Eine Datei kann keinen Wert der Art %3 enthalten. Speichern Sie stattdessen einen Text oder eine Zahl.</translation>
+    </message>
+    <message>
+        <source>The names of its columns, or the rows within its rows, hold what a file can&apos;t.</source>
+        <translation>Die Namen ihrer Spalten, oder die Zeilen innerhalb ihrer Zeilen, enthalten, was eine Datei nicht kann.</translation>
+    </message>
+    <message>
+        <source>Could not parse JSON. Subobject &quot;%1&quot; is empty.</source>
+        <translation>JSON konnte nicht gelesen werden. Das Teilobjekt „%1“ ist leer.</translation>
+    </message>
+    <message>
+        <source>The cell &quot;%1&quot; needs an entry of that name in its &quot;properties&quot;.</source>
+        <translation>Die Zelle „%1“ braucht einen Eintrag dieses Namens in ihren „properties“.</translation>
+    </message>
+    <message>
+        <source>Could not parse JSON. &quot;%1&quot; has unsupported format in &quot;%2&quot;.</source>
+        <translation>JSON konnte nicht gelesen werden. „%1“ hat ein nicht unterstütztes Format in „%2“.</translation>
+    </message>
+    <message>
+        <source>It has to be an array, and is %1.</source>
+        <translation>Es muss eine Liste sein, und ist %1.</translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; can&apos;t be written.</source>
+        <translation>Die Tabelle „%1“ kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>orv::PropertyEditor::Content</name>
+    <message>
+        <source>File content is not valid: %1</source>
+        <translation>Der Inhalt der Datei ist nicht gültig: %1</translation>
+    </message>
+    <message>
+        <source>the content mode of an old document</source>
+        <translation>der Inhaltsmodus eines alten Dokuments</translation>
+    </message>
+    <message>
+        <source>only the metadata&apos;s &quot;contentMode&quot; is read</source>
+        <translation>nur „contentMode“ der Metadaten wird gelesen</translation>
+    </message>
+    <message>
+        <source>member &quot;%1&quot; of the document</source>
+        <translation>Eintrag „%1“ des Dokuments</translation>
+    </message>
+    <message>
+        <source>the format has no such member</source>
+        <translation>das Format kennt keinen solchen Eintrag</translation>
+    </message>
+    <message>
+        <source>the metadata of the document</source>
+        <translation>die Metadaten des Dokuments</translation>
+    </message>
+    <message>
+        <source>they are not the JSON text of an object</source>
+        <translation>kein JSON-Text eines Objekts</translation>
+    </message>
+    <message>
+        <source>Tab &quot;%1&quot;.</source>
+        <translation>Reiter „%1“.</translation>
+    </message>
+    <message>
+        <source>Workflow content is not valid</source>
+        <translation>Der Inhalt des Workflows ist nicht gültig</translation>
+    </message>
+    <message>
+        <source>A workflow has an array &quot;tabs&quot;, but there is %1.</source>
+        <translation>Ein Workflow hat eine Liste „tabs“, aber es gibt %1.</translation>
+    </message>
+    <message>
+        <source>the extended metadata of the document</source>
+        <translation>die erweiterten Metadaten des Dokuments</translation>
+    </message>
+    <message>
+        <source>they are not an object</source>
+        <translation>kein Objekt</translation>
+    </message>
+    <message>
+        <source>Tab %1 (&quot;%2&quot;).</source>
+        <translation>Reiter %1 („%2“).</translation>
+    </message>
+    <message>
+        <source>The columns of the tab &quot;%1&quot; differ in height, and a tab is a rectangle. Add the missing cells or remove the others.</source>
+        <translation>Die Spalten des Reiters „%1“ sind verschieden hoch, und ein Reiter ist ein Rechteck. Fügen Sie die fehlenden Zellen hinzu, oder entfernen Sie die anderen.</translation>
+    </message>
+    <message>
+        <source>Tab &quot;%1&quot;, column &quot;%2&quot;, row %3.</source>
+        <translation>Reiter „%1“, Spalte „%2“, Zeile %3.</translation>
+    </message>
+</context>
+<context>
+    <name>orv::PropertyEditor::ItemGroup</name>
+    <message>
+        <source>member &quot;%1&quot; of a tab</source>
+        <translation>Eintrag „%1“ eines Reiters</translation>
+    </message>
+    <message>
+        <source>the format has no such member</source>
+        <translation>das Format kennt keinen solchen Eintrag</translation>
+    </message>
+    <message>
+        <source>column name that is no text</source>
+        <translation>Spaltenname, der kein Text ist</translation>
+    </message>
+    <message>
+        <source>it reads as an empty name</source>
+        <translation>wird als leerer Name gelesen</translation>
+    </message>
+    <message>
+        <source>Column %1 (&quot;%2&quot;), row %3.</source>
+        <translation>Spalte %1 („%2“), Zeile %3.</translation>
+    </message>
+</context>
+<context>
+    <name>orv::PropertyEditor::ItemSubGroup</name>
+    <message>
+        <source>Type &quot;%1&quot; is not supported.</source>
+        <translation>Die Art „%1“ wird nicht unterstützt.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t create item for &quot;%1&quot; type.</source>
+        <translation>Für die Art „%1“ kann keine Zelle angelegt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>orv::PropertyEditor::KeyValueItem</name>
+    <message>
+        <source>Could not parse JSON. &quot;%1&quot; has unsupported format.</source>
+        <translation>JSON konnte nicht gelesen werden. „%1“ hat ein nicht unterstütztes Format.</translation>
+    </message>
+    <message>
+        <source>The property &quot;%1&quot; can&apos;t be written.</source>
+        <translation>Die Einstellung „%1“ kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>A file can&apos;t hold its value, which is of the type %1.</source>
+        <translation>Eine Datei kann ihren Wert nicht enthalten, der von der Art %1 ist.</translation>
+    </message>
+</context>
+<context>
+    <name>orv::PropertyEditor::MassesTableItem</name>
+    <message>
+        <source>the match tolerance</source>
+        <translation>die Treffertoleranz</translation>
+    </message>
+    <message>
+        <source>it lacks a value or unit, and becomes the default</source>
+        <translation>ihr fehlt ein Wert oder eine Einheit, und sie wird zur Vorgabe</translation>
+    </message>
+</context>
+<context>
+    <name>orv::PropertyEditor::SamplesTableItem</name>
+    <message>
+        <source>Could not parse JSON. Subobject &quot;%1&quot;is empty.</source>
+        <translation>JSON konnte nicht gelesen werden. Das Teilobjekt „%1“ ist leer.</translation>
+    </message>
+</context>
+<context>
     <name>orv::PropertyEditorDesktopWindow</name>
     <message>
         <source>Save As Portable Workflow...</source>
@@ -4655,6 +8270,10 @@ Open it from its file: %2</source>
     <message>
         <source>This application can&apos;t show every column of the tab. As it is, the workflow can&apos;t be saved: undo this, or remove the tab.</source>
         <translation>Diese Anwendung kann nicht jede Spalte des Tabs zeigen. So kann der Workflow nicht gespeichert werden: Nehmen Sie dies zurück, oder entfernen Sie den Tab.</translation>
+    </message>
+    <message>
+        <source>The tab &quot;%1&quot; has cells, but no columns that show them.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
