@@ -2,6 +2,7 @@
 
 #include "FocusSigns.h"
 
+#include <orv/widgets/CheckBoxLook.h>
 #include <orv/widgets/ControlHelp.h>
 
 namespace orv {
@@ -23,6 +24,7 @@ CoreMainWindow::CoreMainWindow(const ApplicationInfo &info, QWidget *parent)
     mainWindows().append(this);
     ControlHelp::install();
     FocusSigns::install();
+    CheckBoxLook::install();
 }
 
 CoreMainWindow::~CoreMainWindow()

@@ -8,6 +8,7 @@
 #include <orv/widgets/DialogAnswerer.h>
 #include <orv/widgets/DialogService.h>
 
+#include <QCheckBox>
 #include <QDir>
 #include <QDockWidget>
 #include <QMenuBar>
@@ -122,6 +123,7 @@ class FocusWalkTest : public WidgetTest
 private Q_SLOTS:
     void everyStopShowsThatItHasTheKeys_data();
     void everyStopShowsThatItHasTheKeys();
+    void emptyBoxesAreSeenInTheDark();
 };
 
 void FocusWalkTest::everyStopShowsThatItHasTheKeys_data()
@@ -177,6 +179,23 @@ void FocusWalkTest::everyStopShowsThatItHasTheKeys()
     }
     alike.removeDuplicates();
     QVERIFY2(alike.isEmpty(), qPrintable(alike.join(u'\n')));
+}
+
+void FocusWalkTest::emptyBoxesAreSeenInTheDark()
+{
+    const Look look(darkFusion());
+    const CoreMainWindow main;
+    QCheckBox box(u"Box"_s);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    const QImage image = box.grab().toImage();
+    const int y = image.height() / 2;
+    const int ground = image.pixelColor(0, 0).lightness();
+    int x = 0;
+    while (x < image.width() && image.pixelColor(x, y) == image.pixelColor(0, 0))
+        ++x;
+    // The first ink from the left is the frame. Black on the dark ground has a difference of 45.
+    QVERIFY2(image.pixelColor(x, y).lightness() - ground >= 80, qPrintable(image.pixelColor(x, y).name()));
 }
 
 WIDGET_REGISTER_TEST(FocusWalkTest)

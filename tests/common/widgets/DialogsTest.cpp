@@ -310,6 +310,7 @@ void DialogsTest::lettersPressTheButtonsOfABox()
             connect(&box, &QMessageBox::buttonClicked, &box,
                     [&](QAbstractButton *button) { pressed = box.standardButton(button); });
             QTest::keyClick(&box, key, Qt::AltModifier);
+            (void)QTest::qWaitFor([&pressed] { return pressed.has_value(); }); // the button goes down first
         });
         askForUpgrade();
         QCOMPARE(pressed, wanted);

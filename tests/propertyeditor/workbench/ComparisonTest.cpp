@@ -10,6 +10,7 @@
 #include <QCheckBox>
 #include <QMenu>
 #include <QProgressBar>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QWhatsThis>
@@ -46,6 +47,7 @@ private Q_SLOTS:
     void keyboardAloneIsEnough();
     void theHelpKeyExplainsTheRow();
     void namesStandInLine();
+    void emptyBoxesAreSeenInTheDark();
 };
 
 void ComparisonTest::whatDiffersStandsInATree()
@@ -118,6 +120,26 @@ void ComparisonTest::namesStandInLine()
     const QModelIndex column = c.rowOf(u"Karvon"_s);
     QCOMPARE(c.tree().visualRect(first).height(), c.tree().visualRect(column).height());
     QVERIFY(!c.tree().horizontalScrollBar()->isVisible());
+}
+
+void ComparisonTest::emptyBoxesAreSeenInTheDark()
+{
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(0x2D, 0x2D, 0x2D)));
+    const auto restore = qScopeGuard([&before] { QApplication::setPalette(before); });
+    Compared c;
+    QVERIFY(c.compareWith(otherDocument()));
+    c.tree().setCurrentIndex({});
+    const QRect row = c.tree().visualRect(c.rowOf(kPeaks));
+    const QImage image = c.tree().viewport()->grab(row).toImage();
+    const int y = image.height() / 2;
+    const QColor ground = image.pixelColor(0, 0);
+    int x = 0;
+    while (x < image.width() && image.pixelColor(x, y) == ground)
+        ++x;
+    // The first ink from the left is the frame of the box.
+    QVERIFY2(image.pixelColor(x, y).lightness() - ground.lightness() >= 80,
+             qPrintable(image.pixelColor(x, y).name()));
 }
 
 namespace {

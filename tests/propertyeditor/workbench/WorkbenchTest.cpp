@@ -33,6 +33,7 @@ private Q_SLOTS:
     void panelsOpenFromTheViewMenu();
     void openedPanelsComeToTheFront();
     void keysGoFromTabToTabOutOfTablesToo();
+    void aSecondFindKeyLeadsFromATableToAllSettings();
     void panelsLeaveTheWorkflowItsPlace();
     void documentsAreTold();
     void savedDocumentsAreTold();
@@ -99,6 +100,24 @@ void WorkbenchTest::keysGoFromTabToTabOutOfTablesToo()
     }
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageUp, Qt::ControlModifier);
     QCOMPARE(window.tabs().currentIndex(), 0);
+}
+
+void WorkbenchTest::aSecondFindKeyLeadsFromATableToAllSettings()
+{
+    Window window;
+    const Workbench workbench(&window);
+    const QJsonObject samples =
+        settingsCell("Samples", {setting("SamplesTable", QJsonObject{{u"Samples"_s, QJsonArray()}})});
+    QCOMPARE(window.openWorkflow(
+                 Documents::document({Documents::tab(u"A"_s, {u"Samples"_s}, {samples})}, metadata())),
+             kOpened);
+    window.show();
+    QWidget *table = window.grid(0)->findChild<QAbstractItemView *>();
+    table->setFocus();
+    for (const char *field : {"findText", "findField"}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QLatin1String(field));
+    }
 }
 
 void WorkbenchTest::openedPanelsComeToTheFront()

@@ -3,6 +3,7 @@
 #include "../FocusSigns.h"
 
 #include <orv/core/Logging.h>
+#include <orv/widgets/CheckBoxLook.h>
 #include <orv/widgets/ControlHelp.h>
 
 #include <QAbstractButton>
@@ -51,6 +52,7 @@ void prepare(QDialog &dialog)
 {
     ControlHelp::install();
     FocusSigns::install();
+    CheckBoxLook::install();
     const QList<QDialogButtonBox *> boxes = dialog.findChildren<QDialogButtonBox *>();
     for (const QDialogButtonBox *box : boxes) {
         for (QAbstractButton *button : box->buttons())

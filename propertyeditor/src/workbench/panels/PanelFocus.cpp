@@ -72,6 +72,11 @@ void PanelFocus::leave(const QDockWidget *panel) const
     for (const Place &place : m_places) {
         if (place.panel == panel)
             continue;
+        // It may lie behind the one that is left.
+        if (place.panel && !place.panel->isHidden()) {
+            place.panel->raise();
+            place.panel->widget()->show();
+        }
         for (const QPointer<QWidget> &widget : place.widgets) {
             // Whoever hears of it may close the window.
             if (takesKeys(widget))

@@ -1,5 +1,6 @@
 #include "WorkList.h"
 
+#include <orv/widgets/CheckBoxLook.h>
 #include <orv/widgets/SelectionLook.h>
 
 namespace orv {
@@ -8,6 +9,7 @@ void WorkList::initViewItemOption(QStyleOptionViewItem *option) const
 {
     QTreeView::initViewItemOption(option);
     SelectionLook::apply(*this, option);
+    CheckBoxLook::apply(option);
 }
 
 } // namespace orv
