@@ -45,8 +45,8 @@ void TestTextUtils::headingsTellErrorsFromWarnings()
     const QString list = TextUtils::stringListToHtmlList(texts);
     QVERIFY(errors.endsWith(list));
     QVERIFY(warnings.endsWith(list));
-    QVERIFY(errors.startsWith(u"<b>2 error"_s));
-    QVERIFY(warnings.startsWith(u"<b>2 warning"_s));
+    QVERIFY(errors.startsWith(u"<b>Errors: 2"_s));
+    QVERIFY(warnings.startsWith(u"<b>Warnings: 2"_s));
 }
 
 void TestTextUtils::emptyListsHaveNoHeading()
