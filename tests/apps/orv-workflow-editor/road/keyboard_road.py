@@ -72,7 +72,7 @@ def compare_with_old(road, person):
     person.sees("text", path)
     person.presses("Return")
     person.sees("tree item", "Lowest charge", within=("tree", "Differences"))
-    person.sees_focus("tree item", "Workflow")
+    person.sees_focus("tree item", "Intact mass")
     person.presses("Escape")
     person.sees_focus("tree item", "Lowest charge: 8")
 
