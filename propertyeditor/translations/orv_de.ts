@@ -235,7 +235,7 @@
     </message>
     <message>
         <source>Its rows: %1, counted from 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Zeilen: %1, gezählt ab 0.</translation>
     </message>
 </context>
 <context>
@@ -5157,11 +5157,11 @@ Möchten Sie sie ersetzen?</translation>
     <name>TextUtils</name>
     <message>
         <source>Errors: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler: %1</translation>
     </message>
     <message>
         <source>Warnings: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnungen: %1</translation>
     </message>
 </context>
 <context>
@@ -6456,7 +6456,7 @@ Für einen weiteren behalten Sie beide oder wählen einen anderen Namen.</transl
     </message>
     <message>
         <source>There is no workflow to save yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt noch keinen Workflow zu speichern.</translation>
     </message>
 </context>
 <context>
@@ -8273,7 +8273,7 @@ Open it from its file: %2</source>
     </message>
     <message>
         <source>The tab &quot;%1&quot; has cells, but no columns that show them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Tab „%1“ hat Zellen, aber keine Spalten, die sie zeigen.</translation>
     </message>
 </context>
 <context>
