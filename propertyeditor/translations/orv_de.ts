@@ -1188,6 +1188,81 @@
     </message>
 </context>
 <context>
+    <name>GridPropertyEditorView</name>
+    <message>
+        <source>Open a preset file</source>
+        <translation>Voreinstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>Loading file</source>
+        <translation>Datei laden</translation>
+    </message>
+    <message>
+        <source>Could not open preset file &quot;%1&quot;.</source>
+        <translation>Die Voreinstellungen „%1“ konnten nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Could not read preset file &quot;%1&quot;.</source>
+        <translation>Die Voreinstellungen „%1“ konnten nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty.</source>
+        <translation>Die Datei „%1“ ist leer.</translation>
+    </message>
+    <message>
+        <source>Save preset to file</source>
+        <translation>Voreinstellungen speichern</translation>
+    </message>
+    <message>
+        <source>Saving file</source>
+        <translation>Datei speichern</translation>
+    </message>
+    <message>
+        <source>Can&apos;t convert content to json.</source>
+        <translation>Der Inhalt lässt sich nicht in JSON umwandeln.</translation>
+    </message>
+    <message>
+        <source>Cannot save to file &quot;%1&quot;: %2</source>
+        <translation>In die Datei „%1“ kann nicht gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>Failed to add a new property.</source>
+        <translation>Die Eigenschaft konnte nicht hinzugefügt werden.</translation>
+    </message>
+    <message>
+        <source>Failed to modify the property:&lt;br&gt;%1</source>
+        <translation>Die Eigenschaft konnte nicht geändert werden:&lt;br&gt;%1</translation>
+    </message>
+    <message>
+        <source>Loading xenoset</source>
+        <translation>xenoset laden</translation>
+    </message>
+    <message>
+        <source>View does not contain property set</source>
+        <translation>Die Ansicht enthält keine Einstellungen</translation>
+    </message>
+    <message>
+        <source>Open xenoset</source>
+        <translation>xenoset öffnen</translation>
+    </message>
+    <message>
+        <source>Can&apos;t create KPropertySet from xenoset: %1</source>
+        <translation>Aus xenoset lassen sich keine Einstellungen machen: %1</translation>
+    </message>
+    <message>
+        <source>Open preview</source>
+        <translation>Vorschau öffnen</translation>
+    </message>
+    <message>
+        <source>Loading preview preset</source>
+        <translation>Vorlage der Vorschau laden</translation>
+    </message>
+    <message>
+        <source>Unable to load file</source>
+        <translation>Die Datei kann nicht geladen werden</translation>
+    </message>
+</context>
+<context>
     <name>GridPropertyEditorView::Private</name>
     <message>
         <source>Open a preset file</source>
@@ -2283,6 +2358,19 @@
     </message>
 </context>
 <context>
+    <name>OrvGenericEditor</name>
+    <message>
+        <source>...
+[%1 more line(s)]</source>
+        <translation>...
+[Weitere Zeilen: %1]</translation>
+    </message>
+    <message>
+        <source>Unknown editor</source>
+        <translation>Unbekannter Editor</translation>
+    </message>
+</context>
+<context>
     <name>PackedFile</name>
     <message>
         <source>The gzip file was cut short.</source>
@@ -2617,6 +2705,77 @@
     <message>
         <source>There is no content</source>
         <translation>Es gibt keinen Inhalt</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyGridWidget</name>
+    <message>
+        <source>Expand all</source>
+        <translation>Alle aufklappen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Create copy</source>
+        <translation>Kopie anlegen</translation>
+    </message>
+    <message>
+        <source>Move left</source>
+        <translation>Nach links</translation>
+    </message>
+    <message>
+        <source>Move right</source>
+        <translation>Nach rechts</translation>
+    </message>
+    <message>
+        <source>Load xenoset ...</source>
+        <translation>xenoset laden ...</translation>
+    </message>
+    <message>
+        <source>Load prv...</source>
+        <translation>prv laden...</translation>
+    </message>
+    <message>
+        <source>Collapse all</source>
+        <translation>Alle zuklappen</translation>
+    </message>
+    <message>
+        <source>The column was removed while it was added.</source>
+        <translation>Die Spalte wurde entfernt, während sie hinzugefügt wurde.</translation>
+    </message>
+    <message>
+        <source>No items to load.</source>
+        <translation>Es gibt keine Zellen zu laden.</translation>
+    </message>
+    <message>
+        <source>No columns added.</source>
+        <translation>Es wurden keine Spalten hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>Json parsing error: %1</source>
+        <translation>JSON konnte nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Type &quot;%1&quot; is not supported.</source>
+        <translation>Die Art „%1“ wird nicht unterstützt.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t create item for &quot;%1&quot; type.</source>
+        <translation>Für die Art „%1“ kann keine Zelle angelegt werden.</translation>
+    </message>
+    <message>
+        <source>Rename column</source>
+        <translation>Spalte umbenennen</translation>
+    </message>
+    <message>
+        <source>New column name:</source>
+        <translation>Neuer Name der Spalte:</translation>
     </message>
 </context>
 <context>

@@ -13,10 +13,10 @@ namespace {
 
 constexpr int kLinesOfCell = 4;
 
-QString editorTr(const char *text)
+struct GenericEditorTr
 {
-    return QCoreApplication::translate("OrvGenericEditor", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(OrvGenericEditor)
+};
 
 /// The first lines of \a text. The number of those that are left out is one less than there are: files of
 /// screen pictures and reports have it so.
@@ -28,7 +28,7 @@ QString shortened(const QString &text)
     qsizetype end = -1;
     for (int line = 0; line < kLinesOfCell; ++line)
         end = text.indexOf(u'\n', end + 1);
-    return text.left(end) + editorTr("...\n[%1 more line(s)]").arg(breaks - kLinesOfCell);
+    return text.left(end) + GenericEditorTr::tr("...\n[%1 more line(s)]").arg(breaks - kLinesOfCell);
 }
 
 } // namespace
@@ -39,7 +39,8 @@ QString textOf(const KProperty &property, Place place)
         property.option(PropertyEditorStringConstants::OPTION_EDITOR.data()).toInt());
     const auto object = OrvGenericEditorObjectManager::instance()->getGenericEditorObject(editor);
     const QString text =
-        (object ? object->toString(objectOf(property.value())) : editorTr("Unknown editor")).trimmed();
+        (object ? object->toString(objectOf(property.value())) : GenericEditorTr::tr("Unknown editor"))
+            .trimmed();
     return place == Place::Cell ? shortened(text) : text;
 }
 

@@ -3,36 +3,40 @@
 #include <KPropertySet.h>
 #include <orv/widgets/Icons.h>
 
+#include <QCoreApplication>
+
 namespace orv {
 
 namespace {
 
 constexpr char kLogicalIndex[] = "logicalIndex";
 
-QString menuTr(const char *text)
+struct ColumnMenuTr
 {
-    return QCoreApplication::translate("PropertyGridWidget", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(PropertyGridWidget)
+};
 
 } // namespace
 
 ColumnMenu::ColumnMenu(QWidget *parent)
     : QMenu(parent)
 {
-    m_fold = addCommand(menuTr("Expand all"), {}, &ColumnMenu::foldRequested);
+    m_fold = addCommand(ColumnMenuTr::tr("Expand all"), {}, &ColumnMenu::foldRequested);
     m_fold->setVisible(false);
     addSeparator();
-    addCommand(menuTr("Remove"), Icons::hostIcon(IconName::Remove, ":/icons/delete", "edit-delete"),
+    addCommand(ColumnMenuTr::tr("Remove"), Icons::hostIcon(IconName::Remove, ":/icons/delete", "edit-delete"),
                &ColumnMenu::removeRequested);
-    addCommand(menuTr("Rename"), Icons::hostIcon(IconName::Edit, ":/icons/modify", "edit-rename"),
+    addCommand(ColumnMenuTr::tr("Rename"), Icons::hostIcon(IconName::Edit, ":/icons/modify", "edit-rename"),
                &ColumnMenu::renameRequested);
-    addCommand(menuTr("Create copy"), {}, &ColumnMenu::copyRequested);
-    m_moveLeft = addAction(menuTr("Move left"), this, [this] { Q_EMIT moveRequested(index(), -1); });
-    m_moveRight = addAction(menuTr("Move right"), this, [this] { Q_EMIT moveRequested(index(), 1); });
+    addCommand(ColumnMenuTr::tr("Create copy"), {}, &ColumnMenu::copyRequested);
+    m_moveLeft =
+        addAction(ColumnMenuTr::tr("Move left"), this, [this] { Q_EMIT moveRequested(index(), -1); });
+    m_moveRight =
+        addAction(ColumnMenuTr::tr("Move right"), this, [this] { Q_EMIT moveRequested(index(), 1); });
     addSeparator();
     const QIcon open = Icons::hostIcon(IconName::Open, nullptr, "document-open");
-    m_karvon = addCommand(menuTr("Load xenoset ..."), open, &ColumnMenu::karvonRequested);
-    m_preview = addCommand(menuTr("Load prv..."), open, &ColumnMenu::previewRequested);
+    m_karvon = addCommand(ColumnMenuTr::tr("Load xenoset ..."), open, &ColumnMenu::karvonRequested);
+    m_preview = addCommand(ColumnMenuTr::tr("Load prv..."), open, &ColumnMenu::previewRequested);
 }
 
 ColumnMenu::~ColumnMenu() = default;
@@ -62,7 +66,7 @@ void ColumnMenu::prepare(int count, GridPropertyEditorView *column)
     if (set && !set->isEmpty()) {
         m_fold->setVisible(set->groupNames().size() >= 2);
         const bool isExpanded = column->isExpanded();
-        m_fold->setText(isExpanded ? menuTr("Collapse all") : menuTr("Expand all"));
+        m_fold->setText(isExpanded ? ColumnMenuTr::tr("Collapse all") : ColumnMenuTr::tr("Expand all"));
         m_fold->setIcon(
             isExpanded ? Icons::hostIcon(IconName::CollapseAll, ":/icons/collapse.png", "view-list-details")
                        : Icons::hostIcon(IconName::ExpandAll, ":/icons/expand.png", "view-list-tree"));

@@ -22,6 +22,7 @@
 #include <orv/widgets/ORVFileDialog.h>
 #include <orv/widgets/ORVStyle.h>
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QMetaEnum>
 #include <QPushButton>
@@ -40,10 +41,10 @@ constexpr FileSystemSettings::DirectoryLocation kPresetLocation = {QLatin1String
 constexpr FileSystemSettings::DirectoryLocation kParametersLocation = {
     QLatin1String("ParametersLocation"), QLatin1String("FSS_ParametersLocation")};
 
-QString viewTr(const char *text)
+struct GridViewTr
 {
-    return QCoreApplication::translate("GridPropertyEditorView", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(GridPropertyEditorView)
+};
 
 void warn(QWidget *parent, const QString &title, const QString &text)
 {
@@ -195,22 +196,22 @@ void GridPropertyEditorView::Private::prepare(KProperty *property) const
 void GridPropertyEditorView::Private::openClicked()
 {
     const QPointer<GridPropertyEditorView> self(q);
-    const QString path = ORVFileDialog::getOpenFileName(q, viewTr("Open a preset file"), {},
+    const QString path = ORVFileDialog::getOpenFileName(q, GridViewTr::tr("Open a preset file"), {},
                                                         {MirelFileTypes::PTCELL}, kPresetLocation);
     if (path.isEmpty() || !self)
         return;
-    const QString title = viewTr("Loading file");
+    const QString title = GridViewTr::tr("Loading file");
     const Result<QByteArray> bytes = FileUtils::readFile(path);
     if (bytes.hasError()) {
         warn(q, title,
              (bytes.error().code() == ErrorCode::CannotOpenFile
-                  ? viewTr("Could not open preset file \"%1\".")
-                  : viewTr("Could not read preset file \"%1\"."))
+                  ? GridViewTr::tr("Could not open preset file \"%1\".")
+                  : GridViewTr::tr("Could not read preset file \"%1\"."))
                  .arg(path));
         return;
     }
     if (bytes->isEmpty()) {
-        warn(q, title, viewTr("The file \"%1\" is empty.").arg(path));
+        warn(q, title, GridViewTr::tr("The file \"%1\" is empty.").arg(path));
         return;
     }
     const Error error = q->setPropertiesFromSerializedJson(*bytes);
@@ -227,11 +228,11 @@ void GridPropertyEditorView::Private::openClicked()
 void GridPropertyEditorView::Private::saveClicked()
 {
     const QPointer<GridPropertyEditorView> self(q);
-    const QString path = ORVFileDialog::getSaveFileName(q, viewTr("Save preset to file"), {},
+    const QString path = ORVFileDialog::getSaveFileName(q, GridViewTr::tr("Save preset to file"), {},
                                                         {MirelFileTypes::PTCELL}, kPresetLocation);
     if (path.isEmpty() || !self)
         return;
-    const QString title = viewTr("Saving file");
+    const QString title = GridViewTr::tr("Saving file");
     QByteArray bytes;
     if (set)
         WflwMetaData::setPresetMetaData(set);
@@ -239,14 +240,14 @@ void GridPropertyEditorView::Private::saveClicked()
     if (!self)
         return;
     if (!set || !PropertySetCreator::propertySetToJson(*set, &bytes, PropertyConversionFlag::KeepPaths)) {
-        warn(q, title, viewTr("Can't convert content to json."));
+        warn(q, title, GridViewTr::tr("Can't convert content to json."));
         return;
     }
     QString errorText;
     if (FileUtils::writeToFile(path, bytes, &errorText) != QFileDevice::NoError) {
         qCWarning(propertyEditorLog).noquote()
             << "Can't write property set to file" << path << ":" << errorText;
-        warn(q, title, viewTr("Cannot save to file \"%1\": %2").arg(path, errorText));
+        warn(q, title, GridViewTr::tr("Cannot save to file \"%1\": %2").arg(path, errorText));
     }
 }
 
@@ -265,7 +266,7 @@ void GridPropertyEditorView::Private::addNewProperty()
     KProperty *property = newProperty(dialog->propertyId(), dialog->priority());
     if (!property || set->contains(property->name())) {
         delete property;
-        ORVStyle::critical(q, {}, viewTr("Failed to add a new property."), QMessageBox::Ok);
+        ORVStyle::critical(q, {}, GridViewTr::tr("Failed to add a new property."), QMessageBox::Ok);
         return;
     }
     prepare(property);
@@ -301,7 +302,8 @@ void GridPropertyEditorView::Private::modifyProperty()
                                              PropertySetCreator::Priority(dialog->priority()), property.get(),
                                              &errors)) {
         ORVStyle::critical(
-            q, {}, DisplayString::html(viewTr("Failed to modify the property:<br>%1").arg(htmlList(errors))),
+            q, {},
+            DisplayString::html(GridViewTr::tr("Failed to modify the property:<br>%1").arg(htmlList(errors))),
             QMessageBox::Ok);
         return;
     }
@@ -348,20 +350,21 @@ bool GridPropertyEditorView::Private::hasSetFor(QWidget *parent) const
 {
     if (set)
         return true;
-    warn(parent, viewTr("Loading xenoset"), viewTr("View does not contain property set"));
+    warn(parent, GridViewTr::tr("Loading xenoset"), GridViewTr::tr("View does not contain property set"));
     return false;
 }
 
 void GridPropertyEditorView::Private::loadKarvonParameters(QWidget *parent)
 {
     const QPointer<GridPropertyEditorView> self(q);
-    const QString path = q->getParametersFile(viewTr("Open xenoset"), MirelFileTypes::XENOSET, parent);
+    const QString path =
+        q->getParametersFile(GridViewTr::tr("Open xenoset"), MirelFileTypes::XENOSET, parent);
     if (path.isEmpty() || !self)
         return;
     const std::unique_ptr<KPropertySet> loaded(KarvonPresetCreator::propertySetFromXenoset(path));
     if (!loaded) {
-        warn(parent, viewTr("Loading xenoset"),
-             viewTr("Can't create KPropertySet from xenoset: %1").arg(path));
+        warn(parent, GridViewTr::tr("Loading xenoset"),
+             GridViewTr::tr("Can't create KPropertySet from xenoset: %1").arg(path));
         return;
     }
     if (!hasSetFor(parent))
@@ -373,13 +376,13 @@ void GridPropertyEditorView::Private::loadKarvonParameters(QWidget *parent)
 void GridPropertyEditorView::Private::loadPreviewParameters(QWidget *parent)
 {
     const QPointer<GridPropertyEditorView> self(q);
-    const QString path = q->getParametersFile(viewTr("Open preview"), FileTypes::PRV, parent);
+    const QString path = q->getParametersFile(GridViewTr::tr("Open preview"), FileTypes::PRV, parent);
     if (path.isEmpty() || !self)
         return;
     Result<PreviewPreset::Content> content = PreviewPreset::Content::fromPreviewPresetFile(path);
     if (content.hasError()) {
         static_cast<void>(content.ecatch());
-        warn(parent, viewTr("Loading preview preset"), viewTr("Unable to load file"));
+        warn(parent, GridViewTr::tr("Loading preview preset"), GridViewTr::tr("Unable to load file"));
         return;
     }
     if (!hasSetFor(parent))

@@ -16,6 +16,7 @@
 #include <orv/widgets/SequenceDatabasesWidget.h>
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QInputDialog>
@@ -37,14 +38,15 @@ namespace {
 constexpr int kMinimumColumnWidth = 400;
 constexpr qint64 kMostCopies = 1'000'000'000'000;
 
-QString gridTr(const char *text)
+struct PropertyGridColumnsTr
 {
-    return QCoreApplication::translate("PropertyGridWidget", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(PropertyGridWidget)
+};
 
 Error wasRemoved()
 {
-    return Error(ErrorCode::InvalidContent, gridTr("The column was removed while it was added."));
+    return Error(ErrorCode::InvalidContent,
+                 PropertyGridColumnsTr::tr("The column was removed while it was added."));
 }
 
 /// A column of settings begins empty, and a table with its default rows.
@@ -122,10 +124,14 @@ Error PropertyGridWidget::Private::appendData(const VariantItems &cells)
 {
     const bool isDesigner = editorMode == GridPropertyEditorView::EditorMode::Designer;
     if (cells.isEmpty()) {
-        return isDesigner ? Error() : Error(ErrorCode::MalformedStructure, gridTr("No items to load."));
+        return isDesigner
+                   ? Error()
+                   : Error(ErrorCode::MalformedStructure, PropertyGridColumnsTr::tr("No items to load."));
     }
     if (columnNames.isEmpty()) {
-        return isDesigner ? Error() : Error(ErrorCode::MalformedStructure, gridTr("No columns added."));
+        return isDesigner
+                   ? Error()
+                   : Error(ErrorCode::MalformedStructure, PropertyGridColumnsTr::tr("No columns added."));
     }
     const QPointer<PropertyGridWidget> self(q);
     for (qsizetype i = 0; i < cells.size() && self; ++i)
@@ -141,7 +147,7 @@ Result<QJsonObject> PropertyGridWidget::Private::parsedCell(const QVariant &cell
     const QString reason = object.hasError() ? object.error().errorMessage()
                                              : QJsonParseError{0, QJsonParseError::NoError}.errorString();
     qCWarning(propertyEditorLog).noquote() << "Json parsing error:" << reason << cell.toByteArray();
-    return Error(ErrorCode::InvalidContent, gridTr("Json parsing error: %1").arg(reason));
+    return Error(ErrorCode::InvalidContent, PropertyGridColumnsTr::tr("Json parsing error: %1").arg(reason));
 }
 
 Result<IGridItem *> PropertyGridWidget::Private::createGridItem(const QVariant &cell)
@@ -152,11 +158,13 @@ Result<IGridItem *> PropertyGridWidget::Private::createGridItem(const QVariant &
     const QString typeText = object->value(TYPE_KEY).toString();
     const BaseItemType type = BaseItem::typeFromString(typeText);
     if (type == BaseItemType::Unknown && WflwAdvancedSettings::isWorkflowVerificationEnabled())
-        return Error(ErrorCode::InvalidContent, gridTr("Type \"%1\" is not supported.").arg(typeText));
+        return Error(ErrorCode::InvalidContent,
+                     PropertyGridColumnsTr::tr("Type \"%1\" is not supported.").arg(typeText));
     const QPointer<PropertyGridWidget> self(q);
     std::unique_ptr<IGridItem> item(GridItemManager::instance()->createItem(type, bus));
     if (!item)
-        return Error(ErrorCode::InvalidContent, gridTr("Can't create item for \"%1\" type.").arg(typeText));
+        return Error(ErrorCode::InvalidContent,
+                     PropertyGridColumnsTr::tr("Can't create item for \"%1\" type.").arg(typeText));
     if (auto *view = qobject_cast<GridPropertyEditorView *>(item->widget()))
         view->setDocumentType(type);
     // Other columns hear of the new one, and may close the grid.
@@ -277,7 +285,8 @@ void PropertyGridWidget::Private::renameColumn(int index, const QString &name)
 
 QString PropertyGridWidget::Private::nameOfCopy(const QString &name) const
 {
-    QString copy = name + gridTr(" - copy");
+    // A part of the document, so the same in every language.
+    QString copy = name + QLatin1String(" - copy");
     if (!columnNames.contains(copy))
         return copy;
     const QRegularExpression numbered(QRegularExpression::escape(copy) + QStringLiteral(" (\\d+)$"));
@@ -356,8 +365,8 @@ void PropertyGridWidget::Private::askForName(int index)
     const QPointer<PropertyGridWidget> self(q);
     ModalDialog dialog(new QInputDialog(q));
     dialog->setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-    dialog->setWindowTitle(gridTr("Rename column"));
-    dialog->setLabelText(gridTr("New column name:"));
+    dialog->setWindowTitle(PropertyGridColumnsTr::tr("Rename column"));
+    dialog->setLabelText(PropertyGridColumnsTr::tr("New column name:"));
     dialog->setTextValue(column->headerText());
     if (!dialog.exec() || !self)
         return;
