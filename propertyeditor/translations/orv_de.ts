@@ -2490,7 +2490,7 @@
     </message>
 </context>
 <context>
-    <name>PreviewPresetTr</name>
+    <name>PreviewPreset</name>
     <message>
         <source>Cannot open file: %1</source>
         <translation>Die Datei kann nicht geöffnet werden: %1</translation>

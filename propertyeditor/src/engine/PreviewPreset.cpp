@@ -19,6 +19,11 @@ using PresetProperties = PreviewPreset::MirelProperties;
 
 namespace {
 
+struct PreviewPresetTr
+{
+    Q_DECLARE_TR_FUNCTIONS(PreviewPreset)
+};
+
 /// Which field of a record it is, and so of which type.
 template<typename Record>
 using Field = std::variant<QString Record::*, bool Record::*, qint32 Record::*>;
