@@ -284,6 +284,7 @@ def intact_oligonucleotide():
                        tab("Molecules", w.table("OligoMolecules", "Molecules", 226, molecules([("A", "ASO", "GCATTGGTATTC")], [["ASO", [1], 0, []]])),
                            w.cell("OligoMasses", "Impurities", [
                                {"name": w.name(207), "value": masses(("PO for PS", -15.977))},
+                               {"name": w.name(210), "value": rows(["Value", "Unit"], [20.0, "ppm"])},
                                {"name": w.name(286), "value": {"fullLengthProduct": {"unit": "ppm", "value": 10},
                                                                "impurities": {"unit": "ppm", "value": 20}}},
                                {"name": w.name(224), "value": {"additions": 1, "baseLosses": 1, "sulfurLoss": True,

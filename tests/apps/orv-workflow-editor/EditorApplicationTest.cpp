@@ -3,6 +3,7 @@
 #include "EditorArguments.h"
 #include "EditorWindow.h"
 #include "Mnemonics.h"
+#include "LogCapture.h"
 #include "TestData.h"
 #include "WidgetTest.h"
 
@@ -278,6 +279,7 @@ void EditorApplicationTest::errorsOfLoadsSpeakGerman()
     QFETCH(QByteArray, text);
     QFETCH(QString, message);
     QFETCH(QString, detail);
+    const LogCapture log;
     const German german;
     const Error error = loadError(text);
     QVERIFY2(error.errorMessage().startsWith(message), qPrintable(error.errorMessage()));

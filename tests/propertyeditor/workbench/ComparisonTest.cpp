@@ -382,7 +382,7 @@ void ComparisonTest::theDialogLeadsIntoTheListAndEscapeBack()
     QVERIFY(column->hasFocus());
     // Where nothing differs there is no list; the keys go to what can be pressed there.
     QVERIFY(c.compareWith(thisDocument()));
-    QVERIFY(c.child<QPushButton>("otherWorkflow")->hasFocus());
+    QTRY_VERIFY(c.child<QPushButton>("otherWorkflow")->hasFocus());
     // From one panel to the other, and the same way back.
     QTest::keyClick(c.child<QPushButton>("otherWorkflow"), Qt::Key_F, Qt::ControlModifier);
     QVERIFY(c.child<QLineEdit>("findField")->hasFocus());

@@ -3,6 +3,7 @@
 
 #include <orv/propertyeditor/workbench/DocumentHistory.h>
 #include <orv/propertyeditor/workbench/FindSettings.h>
+#include <orv/widgets/TableView.h>
 
 #include <QCheckBox>
 #include <QSignalSpy>
@@ -329,7 +330,7 @@ void FindSettingsTest::tablesKeepTheirOwnSearch()
 {
     Bench b;
     QVERIFY(b.open(documentOf({Documents::cell(u"Samples"_s), karvonCell()})));
-    auto *table = b.window->grid(0)->items().constFirst()->widget()->findChild<QAbstractItemView *>();
+    auto *table = b.window->grid(0)->items().constFirst()->widget()->findChild<TableView *>();
     QVERIFY(table);
     table->setFocus();
     QTest::keyClick(table, Qt::Key_F, Qt::ControlModifier);

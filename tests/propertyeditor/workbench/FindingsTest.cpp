@@ -1,138 +1,17 @@
-#include "FindFixture.h"
+#include "FindingsFixture.h"
 #include "WidgetTest.h"
 
-#include <orv/propertyeditor/validators/AbstractValidator.h>
 #include <orv/propertyeditor/workbench/FindSettings.h>
-#include <orv/propertyeditor/workbench/Findings.h>
-#include <orv/widgets/Icons.h>
-#include <orv/widgets/TableView.h>
 
 #include <QCheckBox>
 #include <QClipboard>
 #include <QMenu>
-#include <QScrollBar>
 #include <QSignalSpy>
-#include <QThread>
 #include <QToolButton>
 
 using namespace orv;
-using namespace FindFixture;
+using namespace FindingsFixture;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-enum FindingColumn
-{
-    kSeverity,
-    kMessage,
-    kPlace,
-    kHint,
-    kRule,
-};
-
-QJsonObject sample(const QString &name, const QString &folder)
-{
-    return {{u"SampleName"_s, name}, {u"SamplePath"_s, u"%1/%2.mzML"_s.arg(folder, name)}};
-}
-
-QJsonObject samplesCell(int count, const QString &folder = u"/no/such"_s)
-{
-    QJsonArray samples;
-    for (int i = 1; i <= count; ++i)
-        samples.append(sample(u"S%1"_s.arg(i), folder));
-    return {{u"type"_s, u"Samples"_s},
-            {u"properties"_s, QJsonArray{QJsonObject{{u"name"_s, u"SamplesTable"_s},
-                                                     {u"value"_s, QJsonObject{{u"Samples"_s, samples}}}}}}};
-}
-
-/// A workflow with nothing wrong, whose one sample lies in \a folder.
-QJsonObject faultless(const QTemporaryDir &folder)
-{
-    write(folder, "S1.mzML", QByteArrayLiteral("<mzML/>"));
-    return documentOf({samplesCell(1, folder.path()), settingsCell("Preview", {setting("Samples", u"*"_s)})});
-}
-
-QJsonObject withoutSamples()
-{
-    return documentOf({settingsCell("Preview", {})});
-}
-
-/// A file that isn't there, in a folded group of the second tab, and samples without their files.
-QJsonObject faulty(int samples = 2, int priority = 1)
-{
-    QJsonObject file = setting("InSilicoPeptidesFile", u"/no/such/peptides.csv"_s, "Extras");
-    file.insert(u"priority"_s, priority);
-    const QJsonObject map = settingsCell("Senthia", {setting("Samples", u"*"_s), file});
-    return Documents::document(
-        {Documents::tab(u"Input"_s, {u"Samples"_s}, {samplesCell(samples)}),
-         Documents::tab(u"Search"_s, {u"One"_s, u"Two"_s}, {settingsCell("Preview", {}), map})},
-        metadata());
-}
-
-/// Finds something in every document.
-class Suspicious : public PropertyEditor::AbstractValidator
-{
-public:
-    explicit Suspicious(QThread **thread = nullptr)
-        : m_thread(thread)
-    {}
-
-    bool validate(const PropertyEditor::Content &, const QUrl &, QList<QString> *warnings,
-                  QList<QString> *errors) const override
-    {
-        if (m_thread)
-            *m_thread = QThread::currentThread();
-        errors->append(u"Preview isn't licensed"_s);
-        warnings->append(u"The queue is long"_s);
-        return false;
-    }
-
-private:
-    QThread **m_thread;
-};
-
-struct Checked : Bench
-{
-    explicit Checked(const QJsonObject &document = faulty())
-    {
-        if (!open(document))
-            qFatal("The test's document can't be opened");
-    }
-
-    [[nodiscard]] Findings &findings() const { return *bench->findings(); }
-    [[nodiscard]] QAbstractItemView &list() const { return *child<QAbstractItemView>("findings"); }
-    [[nodiscard]] bool waitFor(Findings::State state) const
-    {
-        constexpr int kLimit = 30'000; // ten thousand samples on a busy machine
-        return QTest::qWaitFor([this, state] { return findings().state() == state; }, kLimit);
-    }
-    [[nodiscard]] bool check() const
-    {
-        QTest::keyClick(window, Qt::Key_F9);
-        return waitFor(Findings::State::Checked);
-    }
-    [[nodiscard]] int rowOf(const QString &part) const
-    {
-        for (int column = 0; column < list().model()->columnCount(); ++column) {
-            const QStringList texts = shown(list(), column);
-            for (int row = 0; row < texts.size(); ++row) {
-                if (texts.at(row).contains(part))
-                    return row;
-            }
-        }
-        return -1;
-    }
-    [[nodiscard]] TableView &table() const { return *window->grid(0)->findChild<TableView *>(); }
-    [[nodiscard]] QString remark() const
-    {
-        const GridPropertyEditorView *column = view(1, 1);
-        return column->editorView()->remark(column->propertySet()->property("InSilicoPeptidesFile"));
-    }
-
-    LogCapture log;
-};
-
-} // namespace
 
 class FindingsTest : public WidgetTest
 {
@@ -143,11 +22,6 @@ private Q_SLOTS:
     void aCheckOpensThePanelWithWhatWasFound();
     void aCheckWithoutFindingsOpensNothing();
     void placesAreMarked();
-    void aSeverityHasOneSign();
-    void passedChecksHaveASignOfTheirOwn();
-    void aFewFindingsAreReadWhole();
-    void allColumnsAreInSight_data();
-    void allColumnsAreInSight();
     void aClickGoesToTheSetting();
     void keysGoFromFindingToFinding();
     void keysGoToRowsOfTables();
@@ -234,79 +108,6 @@ void FindingsTest::placesAreMarked()
     QVERIFY(!c.window->tabs().tabIcon(0).isNull());
     QVERIFY(!c.window->tabs().tabIcon(1).isNull());
     QCOMPARE(c.window->tabs().tabToolTip(0), u"Errors: 2, warnings: 0"_s);
-}
-
-void FindingsTest::aSeverityHasOneSign()
-{
-    Checked c;
-    QVERIFY(c.check());
-    const auto picture = [](const QIcon &icon) { return icon.pixmap(32).toImage(); };
-    const QImage error = picture(Icons::icon(IconName::Error));
-    const QModelIndex severity = c.list().model()->index(0, kSeverity);
-    QCOMPARE(picture(severity.data(Qt::DecorationRole).value<QIcon>()), error);
-    QCOMPARE(picture(c.window->tabs().tabIcon(1)), error);
-    QCOMPARE(picture(c.child<QToolButton>("statusFindings")->icon()), error);
-    const GridPropertyEditorView *column = c.view(1, 1);
-    const KPropertyEditorView &rows = *column->editorView();
-    const KProperty &property = column->propertySet()->property("InSilicoPeptidesFile");
-    QCOMPARE(rows.remarkKind(property), KPropertyEditorView::RemarkKind::Error);
-    QCOMPARE(picture(rows.remarkIcon(KPropertyEditorView::RemarkKind::Error)), error);
-    QCOMPARE(picture(rows.remarkIcon(KPropertyEditorView::RemarkKind::Warning)),
-             picture(Icons::icon(IconName::Warning)));
-    const TableModel *model = c.table().tableModel();
-    QCOMPARE(model->headerData(1, Qt::Vertical, TableModel::IsErrorRole), QVariant(true));
-}
-
-void FindingsTest::passedChecksHaveASignOfTheirOwn()
-{
-    const QTemporaryDir folder;
-    Checked c(faultless(folder));
-    const auto *told = c.child<QToolButton>("statusFindings");
-    const auto picture = [](const QIcon &icon) { return icon.pixmap(32).toImage(); };
-    QCOMPARE(picture(told->icon()), picture(Icons::icon(IconName::Question)));
-    QVERIFY(c.check());
-    QCOMPARE(told->text(), u"No findings"_s);
-    QCOMPARE(picture(told->icon()), picture(Icons::icon(IconName::Passed)));
-}
-
-void FindingsTest::aFewFindingsAreReadWhole()
-{
-    Checked c;
-    QVERIFY(c.check());
-    for (const int width : {1280, 640}) {
-        c.window->resize(width, 760);
-        QTRY_COMPARE(c.window->width(), width);
-        for (int row = 0; row < c.list().model()->rowCount(); ++row) {
-            const QModelIndex message = c.list().model()->index(row, kMessage);
-            const QRect cell = c.list().visualRect(message);
-            const QRect needed = c.list().fontMetrics().boundingRect(
-                QRect(0, 0, cell.width(), QWIDGETSIZE_MAX), Qt::TextWordWrap, message.data().toString());
-            QVERIFY2(cell.height() >= needed.height(), qPrintable(message.data().toString()));
-        }
-    }
-}
-
-void FindingsTest::allColumnsAreInSight_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::newRow("a screen") << 1280;
-    QTest::newRow("half of one") << 640;
-}
-
-void FindingsTest::allColumnsAreInSight()
-{
-    QFETCH(int, width);
-    Checked c;
-    QVERIFY(c.check());
-    c.window->resize(width, 760);
-    QTRY_COMPARE(c.window->width(), width);
-    QTRY_VERIFY(!c.list().horizontalScrollBar()->isVisible());
-    const auto widthOf = [&c](int column) {
-        return c.list().visualRect(c.list().model()->index(0, column)).width();
-    };
-    QVERIFY(widthOf(kRule) < widthOf(kPlace));
-    QVERIFY(widthOf(kSeverity) >= c.list().sizeHintForColumn(kSeverity));
-    QVERIFY(widthOf(kMessage) > widthOf(kPlace));
 }
 
 void FindingsTest::aClickGoesToTheSetting()

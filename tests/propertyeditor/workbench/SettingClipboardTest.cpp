@@ -1,6 +1,7 @@
 #include "ClipboardFixture.h"
 
 #include <orv/propertyeditor/PropertySetCreator.h>
+#include <orv/widgets/TableView.h>
 
 #include <QElapsedTimer>
 #include <QMimeData>
@@ -303,7 +304,7 @@ void SettingClipboardTest::editorsTablesAndOtherPlacesKeepTheirKeys()
     QCOMPARE(d.property(0, kPeaks).value().toInt(), 500);
     QVERIFY(!d.child<QAction>("pasteSettings")->isEnabled());
     QVERIFY(d.child<QAction>("copySettingsAsText")->isEnabled());
-    auto *table = d.window->grid(0)->items().at(1)->widget()->findChild<QAbstractItemView *>();
+    auto *table = d.window->grid(0)->items().at(1)->widget()->findChild<TableView *>();
     table->setFocus();
     QVERIFY(!d.child<QAction>("pasteSettings")->isEnabled());
     QVERIFY(!d.child<QAction>("copySettingsAsText")->isEnabled());

@@ -51,7 +51,8 @@ QString cellOf(const QModelIndex &row, int column)
 
 QString captionOf(const char *setting)
 {
-    return PropertiesNames::displayNameForType(PropertiesNames::findPropertyForName(text(setting)));
+    return PropertiesNames::displayNameForType(
+        PropertiesNames::findPropertyForName(QString::fromUtf8(setting)));
 }
 
 /// What a cell needs to show all of its text in its width.

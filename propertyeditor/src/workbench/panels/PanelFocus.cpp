@@ -100,6 +100,10 @@ void PanelFocus::follow(QWidget *before, QWidget *now)
     if (isPassing || !m_window || !m_window->isAncestorOf(now))
         return;
     const QPointer<QDockWidget> closed = panelOf(before);
+    // What falls behind another panel hands the keys on to whatever comes next, too.
+    const bool fellBehind = closed && closed->isVisible() && !before->isVisible() && panelOf(now) != closed;
+    if (fellBehind)
+        return;
     if (!closed || closed->isVisible())
         return remember(now);
     // It hands the keys on to whatever comes next.
