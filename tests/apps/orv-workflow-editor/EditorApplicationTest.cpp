@@ -2,8 +2,8 @@
 
 #include "EditorArguments.h"
 #include "EditorWindow.h"
-#include "Mnemonics.h"
 #include "LogCapture.h"
+#include "Mnemonics.h"
 #include "TestData.h"
 #include "WidgetTest.h"
 
