@@ -2,6 +2,8 @@
 
 #include <orv/widgets/Export.h>
 
+#include <QtGlobal>
+
 QT_FORWARD_DECLARE_CLASS(QStyleOptionViewItem)
 
 /// Empty boxes that can be seen on dark palettes, where styles take their frame from the window's colour,
